@@ -1,0 +1,155 @@
+// CDataTable: a named heading of columns and an array of rows, with unique keys, searching by
+// expressions, sorting, and edit states that let a file be rewritten in place.
+//
+// Every row's m_nIndex is its stable index; positions change when rows are sorted or removed,
+// indices do not. A row with a negative m_nModifyType is deleted: it stays in the array until the
+// next save and is skipped by searches. A table is used from one thread at a time.
+//
+// Members return 1 for success, 0 for failure, -1 for a position not found. A position outside the
+// rows or cells raises CInvalidArgException where the member's comment does not say otherwise.
+#pragma once
+
+#include <memory>
+
+#include "framework/array.h"
+#include "framework/cstring.h"
+#include "framework/export.h"
+#include "tables/data_item.h"
+#include "tables/data_item_array.h"
+#include "tables/data_type.h"
+
+namespace orv3 {
+class CRowIndex;
+}
+
+class ORV3CAL_API CDataTable {
+ public:
+  using KVBT_Value_Type = CDataTypeStruct::KVBT_Value_Type;
+  static constexpr int kMaxTableName = 64;
+
+  CDataTable();
+  // Copies everything but m_strFileInfo; assigning a table to itself raises CInvalidArgException.
+  CDataTable(const CDataTable& other);
+  CDataTable& operator=(const CDataTable& other);
+  virtual ~CDataTable();
+
+  // --- Counts and look-up -----------------------------------------------------------------------
+  int GetTableColNum() const noexcept { return m_Title.GetTableTitleNum(); }
+  int GetTableRowNum() const noexcept { return m_arrItem.GetSize(); }  // deleted rows included
+  int GetRealTableRowNum() const noexcept;                             // without deleted rows
+  // The same of the table at the root of the parents.
+  int GetFullTableColNum() const noexcept { return Root().GetTableColNum(); }
+  int GetFullTableRowNum() const noexcept { return Root().GetTableRowNum(); }
+  // Position of the first row whose stable index is `index`; -1 when negative or not there.
+  int GetTableIndex(int index) const;
+  CDataItem& operator[](int position) { return m_arrItem[position]; }
+  const CDataItem& operator[](int position) const { return m_arrItem[position]; }
+  int GetTableColIndex(std::wstring_view sign) const noexcept { return m_Title.GetColIndex(sign); }
+
+  // --- Name, parent, file -----------------------------------------------------------------------
+  CString GetTableName() const { return m_strTableName; }
+  void SetTableName(const CString& name);  // cut to 64 characters; every row carries it too
+  // 0 for a parent with fewer columns or rows than this table; null always succeeds. The parent is
+  // not owned and must outlive its use.
+  int SetParentTable(CDataTable* parent);
+  void SetTableFileInfo(const CString& info);  // here and in every row
+  CString GetSaveTablePath() const { return m_strSavePath; }
+  void SetSaveTablePath(const CString& path) { m_strSavePath = path; }
+  // The sketch of the first row's section style (of the table's own name when there is no row); the
+  // caller deletes it.
+  void GetItemBitmap(CBitmap*& out) const;
+  // Empties name, parent, rows and columns; path and file information stay.
+  void ClearTable();
+
+  // --- Columns: they change the heading only, never the rows ------------------------------------
+  int InsertTableCol(int position, const CDataTypeStruct& column);
+  int InsertTableCol(int position, const CString& name, const CString& sign, KVBT_Value_Type type,
+                     int bKey);
+  void AddTableCol(const CDataTypeStruct& column);
+  void AddTableCol(const CString& name, const CString& sign, KVBT_Value_Type type, int bKey);
+  int SetTableCol(int position, const CDataTypeStruct& column);
+  // Name and sign are cut to 64 and 20 characters.
+  int SetTableColTitle(int position, const CString& name, const CString& sign, KVBT_Value_Type type,
+                       int bKey);
+  int SetTableColSign(int position, const CString& sign);
+  int SetTableColKey(int position, int bKey);
+  int SetTableColType(int position, KVBT_Value_Type type);
+  CString GetTableColName(int position) const;  // empty out of range
+  CString GetTableColSign(int position) const;  // empty out of range
+  int GetTableColKey(int position) const;       // 0 out of range
+  KVBT_Value_Type GetDataTableColType(int position) const;  // the stored type; 0 out of range
+  // The column at a position below the number of rows; an empty one from there on, so that a table
+  // without rows gives empty ones only. Callers of an empty table use the heading.
+  CDataTypeStruct GetTableColTitle(int position) const;
+  // One column per cell of `row`; 0 when the row has no cells or the table has rows.
+  int setTableTitle(const CDataItem& row);
+
+  // --- Rows -------------------------------------------------------------------------------------
+  // Adds a copy of `row`, in the place of the first deleted row if there is one. `row` itself gets
+  // the index and the edit state (1 when `bNew`, else 3). 0, with the duplicate-key message, when a
+  // row with its key is there. With `bNoCheck` the row is appended as it is.
+  int AddTableItem(CDataItem& row, int bNew, int bNoCheck = 0);
+  int AddTableItem(const CStringArray& values, int bNew);  // one value per column
+  int AddTableItem(const CString& text, int bNew);         // the same split at each ","
+  int AddTableItem(const wchar_t* text, int bNew) { return AddTableItem(CString(text), bNew); }
+  // Replaces the row whose stable index is `index`; `row` gets that index and edit state 2, or 3
+  // when its own was above 2. 0 when there is none or, with the message, another has its key.
+  int ModifyTableItem(int index, CDataItem& row);
+  int ModifyTableItem(int index, const CStringArray& values);
+  int ModifyTableItem(int index, const CString& text);
+  int ModifyTableItem(int index, const wchar_t* text) {
+    return ModifyTableItem(index, CString(text));
+  }
+  // Removes a row that was never saved, marks any other as deleted.
+  int DeleteTableItem(int index);
+  // Brings in a row from elsewhere; a row with its key is replaced only with `bOverwrite`. `row`
+  // gets its index here and edit state 1 for 0, 3 for 4. A deleted row is passed over (1).
+  int ImportTableItem(CDataItem& row, int bOverwrite);
+  // Every row of a table with the same name; an empty heading is taken over from it.
+  int ImporDatatTable(const CDataTable& other, int bOverwrite);
+  // Position of the first live row with the key of `row` (with `value` in column `col`), the row of
+  // stable index `skipIndex` left aside; -1 when there is none or the table has no key.
+  int IsHaveValue(const CDataItem& row, int skipIndex) const;
+  int IsHaveValue(int col, const CString& value, int skipIndex) const;
+
+  // --- Searching and ordering -------------------------------------------------------------------
+  // Whether a cell equals `pattern`; with `bWildcard` a "*" at an end of the pattern stands for any
+  // text there. Floating columns are equal within 1e-6.
+  int IsSelected(int position, int col, const CString& pattern, int bWildcard) const;
+  // Whether a cell is ">>", "<<", ">=" or "<=" `value`; 0 for any other operator.
+  int IsComPile(int position, int col, const CString& value, const CString& op) const;
+  // Filters the positions in `result` (`bAnd`) or adds the matching live rows to them.
+  int SearchTableIndex(CArray<int, int>& result, const wchar_t* sign, const wchar_t* value,
+                       const CString& op, int bAnd, int bWildcard) const;
+  // The rows that match conditions "sign op value" joined by "&&" or by "||", optionally followed
+  // by "VIEW" and the columns to keep, as a new table with this one as its parent.
+  CDataTable SearchTable(const wchar_t* expression, int bWildcard);
+  // All rows with the columns whose signs are in a list joined by "<<>>".
+  CDataTable ViewTable(const wchar_t* columns);
+  // Sorts by a column, ascending and stable with `bAscending` 1; descending, equal rows reversed,
+  // with 0. 0 when there is no such column.
+  int OrderTable(int col, int bAscending);
+  int OrderTable(const wchar_t* sign, int bAscending);
+
+  // --- Texts ------------------------------------------------------------------------------------
+  static void TransStrToArray(const CString& text, const CString& separator, CStringArray& out);
+  // 1 and the number when the whole text is one within the bounds (upper bound first).
+  static int CheckDouble(const CString& text, double& out, double max, double min);
+  static int CheckInt(const CString& text, long& out, long max, long min);
+
+  CString m_strFileInfo;   // information line of the table file last read or written
+  CString m_strSavePath;   // directory of the table stores, ending with a separator
+  CString m_strTableName;  // at most 64 characters
+  CDataTableTitle m_Title;
+  CDataItemArray m_arrItem;  // in display order
+  CDataTable* m_pParentTable = nullptr;
+
+ private:
+  const CDataTable& Root() const noexcept;
+  orv3::CRowIndex& Index() const;
+  bool RefuseDuplicate(const CDataItem& row, int ownPosition) const;
+  CDataItem RowOf(const CStringArray& values) const;
+  CDataTable Derived() const;
+
+  mutable std::unique_ptr<orv3::CRowIndex> m_pIndex;
+};

@@ -1,0 +1,21 @@
+// Section sketches: the small picture of a section style, chosen by its table name.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "framework/bitmap.h"
+#include "framework/export.h"
+
+namespace orv3 {
+
+// The resource number of the sketch of a table's sections, 8008 to 8078; 8076 for any name without
+// a sketch of its own. Names are compared whole and case-sensitively.
+ORV3CAL_API int SketchResource(std::wstring_view tableName) noexcept;
+
+// The sketch behind a resource number (8076 for a number that has none), drawn from the one vector
+// description of that number.
+ORV3CAL_API CBitmap SketchBitmap(int resource);
+ORV3CAL_API std::string SketchSvg(int resource);
+
+}  // namespace orv3
