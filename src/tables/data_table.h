@@ -10,6 +10,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "framework/array.h"
 #include "framework/cstring.h"
@@ -20,6 +21,7 @@
 
 namespace orv3 {
 class CRowIndex;
+struct CSearchExpression;
 }
 
 class ORV3CAL_API CDataTable {
@@ -105,8 +107,9 @@ class ORV3CAL_API CDataTable {
   // Brings in a row from elsewhere; a row with its key is replaced only with `bOverwrite`. `row`
   // gets its index here and edit state 1 for 0, 3 for 4. A deleted row is passed over (1).
   int ImportTableItem(CDataItem& row, int bOverwrite);
-  // Every row of a table with the same name; an empty heading is taken over from it.
-  int ImporDatatTable(const CDataTable& other, int bOverwrite);
+  // Every row of a table with the same name, as by ImportTableItem; an empty heading is taken over
+  // from it.
+  int ImporDatatTable(CDataTable& other, int bOverwrite);
   // Position of the first live row with the key of `row` (with `value` in column `col`), the row of
   // stable index `skipIndex` left aside; -1 when there is none or the table has no key.
   int IsHaveValue(const CDataItem& row, int skipIndex) const;
@@ -147,9 +150,14 @@ class ORV3CAL_API CDataTable {
  private:
   const CDataTable& Root() const noexcept;
   orv3::CRowIndex& Index() const;
+  // Positions of the live rows with the key of `row`, ascending.
+  std::vector<int> FindByKey(const CDataItem& row) const;
+  // Whether a row other than the one at `ownPosition` has the key of `row`; says so to the user.
   bool RefuseDuplicate(const CDataItem& row, int ownPosition) const;
+  void ReplaceRow(int position, const CDataItem& row);
   CDataItem RowOf(const CStringArray& values) const;
-  CDataTable Derived() const;
+  CString DerivedName() const;
+  std::vector<int> FindPositions(const orv3::CSearchExpression& search, bool wildcard) const;
 
   mutable std::unique_ptr<orv3::CRowIndex> m_pIndex;
 };
