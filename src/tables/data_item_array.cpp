@@ -62,7 +62,8 @@ void CDataItemArray::SetSize(int size) {
 
 void CDataItemArray::Rearrange(const std::vector<int>& positions) {
   std::vector<std::unique_ptr<CNode>> nodes(m_arrNode.size());
-  for (std::size_t i = 0; i < nodes.size(); ++i) nodes[i] = std::move(m_arrNode[Checked(positions[i])]);
+  for (std::size_t i = 0; i < nodes.size(); ++i)
+    nodes[i] = std::move(m_arrNode[Checked(positions[i])]);
   m_arrNode = std::move(nodes);
   Rearranged();
 }

@@ -65,8 +65,8 @@ class ORV3CAL_API CDataItemArray {
   CDataItem& operator[](int index);
   void SetAt(int index, const CDataItem& row) { (*this)[index] = row; }
 
-  int Add(const CDataItem& row);                // the new row's position
-  int Append(const CDataItemArray& other);      // the first new row's position
+  int Add(const CDataItem& row);            // the new row's position
+  int Append(const CDataItemArray& other);  // the first new row's position
   void Copy(const CDataItemArray& other) { *this = other; }
   void InsertAt(int index, const CDataItem& row, int count = 1);
   void RemoveAt(int index, int count = 1);

@@ -29,9 +29,8 @@ CDataTable& CDataTable::operator=(const CDataTable& other) {
 // --- Counts and look-up -------------------------------------------------------------------------
 
 int CDataTable::GetRealTableRowNum() const noexcept {
-  return static_cast<int>(std::count_if(m_arrItem.begin(), m_arrItem.end(), [](const auto& row) {
-    return row.m_nModifyType >= 0;
-  }));
+  return static_cast<int>(std::count_if(m_arrItem.begin(), m_arrItem.end(),
+                                        [](const auto& row) { return row.m_nModifyType >= 0; }));
 }
 
 const CDataTable& CDataTable::Root() const noexcept {
