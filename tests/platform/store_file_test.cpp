@@ -37,6 +37,7 @@ class StoreFile : public testing::Test {
   }
 
   CTempFolder m_folder;
+  CFaultyFiles m_quick;
   const CString m_path = m_folder.Path(L"库.KDB");
 };
 
