@@ -40,6 +40,7 @@ void AddMatching(const CDataTable& table, const CCondition& condition,
     }
   }
   for (int i = 0; i < table.GetTableRowNum(); ++i) {
+    table.m_arrItem.Prefetch(i, condition.Column());
     const CDataItem& row = table[i];
     if (row.m_nModifyType < 0 || present[static_cast<std::size_t>(i)]) continue;
     if (condition.Matches(row)) positions.push_back(i);
