@@ -81,7 +81,7 @@ void RolledChannel(CSketchPen& pen) {
   pen.Axes({82, 78}, box, L"x", L"y");
   pen.Width({64, 122}, {82, 131}, 131, L"zo");
   pen.ThicknessX(64, 73, 60, L"tw");
-  pen.ThicknessY(109, 122, 100, L"t");
+  pen.ThicknessY(110, 122, 110, L"t");
   pen.Leader({95, 96}, {75.5, 106}, L"r");
   pen.Leader({133, 54}, {119, 42}, L"r1");
 }
@@ -89,10 +89,10 @@ void RolledChannel(CSketchPen& pen) {
 void RolledT(CSketchPen& pen) {
   const CBox box = BoxAt(52, 32, 78, 78);
   Put(pen, TShape(78, 78, 9, 12, kParallel), box);
-  pen.Axes({91, 92}, {52, 32, 142, 110}, L"x", L"y");
+  pen.Axes({91, 87}, {52, 32, 142, 110}, L"x", L"y");
   pen.Width(box.left, box.right, box.top, box.top + 20, L"B");
   pen.Height(box.bottom, box.top, box.left, box.left - 18, L"h");
-  pen.Height({130, 110}, {142, 92}, 142, L"Cx");
+  pen.Height({130, 110}, {142, 87}, 142, L"Cx");
   pen.ThicknessX(86.5, 95.5, 48, L"t1");
   pen.ThicknessY(98, 110, 62, L"t2");
   pen.Leader({110, 72}, {98, 95.5}, L"r");
@@ -130,7 +130,7 @@ void ColdAngle(CSketchPen& pen) {
   OverallSizes(pen, box, L"b", L"b");
   const CPoint c{74, 56};
   pen.SlantAxis(c, 45, 48, L"x");
-  pen.SlantAxis(c, -45, 34, L"y");
+  pen.SlantAxis(c, -45, 44, L"y");
   pen.ThicknessX(54, 60, 102, L"t");
   pen.Height({132, 36}, c, 148, L"yo");
 }
@@ -142,7 +142,7 @@ void ColdLippedAngle(CSketchPen& pen) {
   OverallSizes(pen, box, L"b", L"b");
   const CPoint c{78, 60};
   pen.SlantAxis(c, 45, 42, L"x");
-  pen.SlantAxis(c, -45, 40, L"y");
+  pen.SlantAxis(c, -45, 52, L"y");
   pen.Width(54, 75, 114, 126, L"a");
   pen.Height(36, 57, 132, 146, L"a");
   pen.ThicknessX(54, 60, 84, L"t");
