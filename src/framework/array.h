@@ -34,7 +34,8 @@ class CArray {
   int Append(const CArray& other) {
     const int first = GetSize();
     m_items.reserve(m_items.size() + other.m_items.size());
-    for (int i = 0, count = other.GetSize(); i < count; ++i) m_items.push_back(other.m_items[At(i)]);
+    for (int i = 0, count = other.GetSize(); i < count; ++i)
+      m_items.push_back(other.m_items[At(i)]);
     return first;
   }
   void Copy(const CArray& other) { m_items = other.m_items; }

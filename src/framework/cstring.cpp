@@ -41,8 +41,8 @@ void CString::Free(Data* data) noexcept {
 CString::CString(const wchar_t* text) : CString(text ? std::wstring_view(text) : L"") {}
 
 CString::CString(const wchar_t* text, int length)
-    : CString(text && length > 0 ? std::wstring_view(text, static_cast<std::size_t>(length)) : L"") {
-}
+    : CString(text && length > 0 ? std::wstring_view(text, static_cast<std::size_t>(length))
+                                 : L"") {}
 
 CString::CString(std::wstring_view text) {
   if (text.empty()) return;

@@ -10,8 +10,7 @@ namespace {
 
 // What a program without a handler gets: the text on standard error, every question declined.
 CMessageAnswer PrintMessage(const CMessage& message) {
-  const std::string title =
-      message.m_strTitle.IsEmpty() ? "" : ToUtf8(message.m_strTitle) + ": ";
+  const std::string title = message.m_strTitle.IsEmpty() ? "" : ToUtf8(message.m_strTitle) + ": ";
   std::fprintf(stderr, "%s%s\n", title.c_str(), ToUtf8(message.m_strText).c_str());
   switch (message.m_nButtons) {
     case CMessageButtons::Ok:

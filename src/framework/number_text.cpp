@@ -24,7 +24,8 @@ std::size_t SkipDigits(std::wstring_view text, std::size_t at) noexcept {
   return at;
 }
 
-// Where the decimal number that starts at `begin` (after its sign) ends; `begin` when there is none.
+// Where the decimal number that starts at `begin` (after its sign) ends; `begin` when there is
+// none.
 std::size_t NumberEnd(std::wstring_view text, std::size_t begin) noexcept {
   std::size_t end = SkipDigits(text, begin);
   std::size_t digits = end - begin;
@@ -53,8 +54,8 @@ double ParseUnsigned(const char* begin, const char* end) noexcept {
   if (exponentAt != end) {
     const char* digits = exponentAt + 1 + (exponentAt[1] == '+' ? 1 : 0);
     if (std::from_chars(digits, end, exponent).ec == std::errc::result_out_of_range) {
-      exponent = exponentAt[1] == '-' ? std::numeric_limits<int>::min()
-                                      : std::numeric_limits<int>::max();
+      exponent =
+          exponentAt[1] == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
     }
   }
   const char* point = std::find(begin, exponentAt, '.');
@@ -133,8 +134,8 @@ CString FormatInt(long long value) {
 CString FormatG(double value) {
   if (std::isnan(value)) return L"NAN";
   std::array<char, 32> text;
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
-                                 std::chars_format::general, 6);
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 6);
   return FromAscii(text.data(), end.ptr);
 }
 

@@ -62,9 +62,29 @@ void CDataItemArray::SetSize(int size) {
 
 void CDataItemArray::Rearrange(const std::vector<int>& positions) {
   std::vector<std::unique_ptr<CNode>> nodes(m_arrNode.size());
-  for (std::size_t i = 0; i < nodes.size(); ++i) nodes[i] = std::move(m_arrNode[Checked(positions[i])]);
+  for (std::size_t i = 0; i < nodes.size(); ++i)
+    nodes[i] = std::move(m_arrNode[Checked(positions[i])]);
   m_arrNode = std::move(nodes);
   Rearranged();
+}
+
+void CDataItemArray::Prefetch(int index, int col) const noexcept {
+  constexpr int kStep = 8;  // rows between one place and the place that it points to
+  const auto node = [&](int ahead) -> const CNode* {
+    return index + ahead < GetSize() ? m_arrNode[static_cast<std::size_t>(index + ahead)].get()
+                                     : nullptr;
+  };
+  if (const CNode* far = node(3 * kStep)) __builtin_prefetch(far);
+  if (const CNode* middle = node(2 * kStep)) {
+    if (const CDataCell* cells = middle->item.m_arrCell.begin()) {
+      __builtin_prefetch(cells);
+      __builtin_prefetch(cells + col);
+    }
+  }
+  if (const CNode* near = node(kStep)) {
+    const CDataCellArray& cells = near->item.m_arrCell;
+    if (col < cells.GetSize()) __builtin_prefetch(cells.begin()[col].m_strValue.GetString());
+  }
 }
 
 void CDataItemArray::Rearranged() {

@@ -29,9 +29,8 @@ CDataTable& CDataTable::operator=(const CDataTable& other) {
 // --- Counts and look-up -------------------------------------------------------------------------
 
 int CDataTable::GetRealTableRowNum() const noexcept {
-  return static_cast<int>(std::count_if(m_arrItem.begin(), m_arrItem.end(), [](const auto& row) {
-    return row.m_nModifyType >= 0;
-  }));
+  return static_cast<int>(std::count_if(m_arrItem.begin(), m_arrItem.end(),
+                                        [](const auto& row) { return row.m_nModifyType >= 0; }));
 }
 
 const CDataTable& CDataTable::Root() const noexcept {
@@ -160,8 +159,8 @@ int CDataTable::setTableTitle(const CDataItem& row) {
 CDataItem CDataTable::RowOf(const CStringArray& values) const {
   CDataItem row;
   row.m_strTableName = m_strTableName;
-  row.SetItemTitle(m_Title);
-  row.SetDataItemValue(values);
+  row.m_arrCell.Reserve(values.GetSize());
+  for (int i = 0; i < values.GetSize(); ++i) row.m_arrCell.Add(CDataCell(m_Title[i], values[i]));
   return row;
 }
 

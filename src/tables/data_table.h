@@ -22,7 +22,7 @@
 namespace orv3 {
 class CRowIndex;
 struct CSearchExpression;
-}
+}  // namespace orv3
 
 class ORV3CAL_API CDataTable {
  public:
@@ -76,9 +76,9 @@ class ORV3CAL_API CDataTable {
   int SetTableColSign(int position, const CString& sign);
   int SetTableColKey(int position, int bKey);
   int SetTableColType(int position, KVBT_Value_Type type);
-  CString GetTableColName(int position) const;  // empty out of range
-  CString GetTableColSign(int position) const;  // empty out of range
-  int GetTableColKey(int position) const;       // 0 out of range
+  CString GetTableColName(int position) const;              // empty out of range
+  CString GetTableColSign(int position) const;              // empty out of range
+  int GetTableColKey(int position) const;                   // 0 out of range
   KVBT_Value_Type GetDataTableColType(int position) const;  // the stored type; 0 out of range
   // The column at a position below the number of rows; an empty one from there on, so that a table
   // without rows gives empty ones only. Callers of an empty table use the heading.

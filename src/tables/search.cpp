@@ -111,8 +111,8 @@ bool COrderTest::Matches(std::wstring_view cell) const noexcept {
   return Ordered(m_nOperator, ToDouble(cell), m_dValue);
 }
 
-CCondition::CCondition(const CDataTableTitle& title, int column, COperator op,
-                       const CString& value, bool wildcard)
+CCondition::CCondition(const CDataTableTitle& title, int column, COperator op, const CString& value,
+                       bool wildcard)
     : m_nColumn(column),
       m_nOperator(op),
       m_equal(ValueClassOf(title[column].m_nType), value, wildcard),

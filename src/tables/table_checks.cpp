@@ -25,15 +25,15 @@ bool IsScientific(const CString& text) {
   if (at < 0) return false;
   const CString mantissa = text.Left(at);
   CString exponent = text.Mid(at + 1);
-  if (!exponent.IsEmpty() && (exponent[0] == L'+' || exponent[0] == L'-')) exponent = exponent.Mid(1);
+  if (!exponent.IsEmpty() && (exponent[0] == L'+' || exponent[0] == L'-'))
+    exponent = exponent.Mid(1);
   exponent = WithoutLeadingZeros(exponent);
   return IsWrittenAs(mantissa, ToDouble(mantissa)) && exponent == FormatInt(ToInt(exponent));
 }
 
 }  // namespace
 
-void CDataTable::TransStrToArray(const CString& text, const CString& separator,
-                                 CStringArray& out) {
+void CDataTable::TransStrToArray(const CString& text, const CString& separator, CStringArray& out) {
   const CString rest(text);  // `out` may hold `text`
   out.RemoveAll();
   int begin = 0;

@@ -40,6 +40,7 @@ void AddMatching(const CDataTable& table, const CCondition& condition,
     }
   }
   for (int i = 0; i < table.GetTableRowNum(); ++i) {
+    table.m_arrItem.Prefetch(i, condition.Column());
     const CDataItem& row = table[i];
     if (row.m_nModifyType < 0 || present[static_cast<std::size_t>(i)]) continue;
     if (condition.Matches(row)) positions.push_back(i);
@@ -63,9 +64,8 @@ std::vector<int> OrderByColumn(const CDataTable& table, int col, int count, bool
   if (ValueClassOf(table.GetDataTableColType(col)) == CValueClass::Text) {
     std::vector<CString> texts;
     for (int i = 0; i < count; ++i) texts.push_back(table[i][col].m_strValue);
-    return SortedPositions(texts, ascending, [](const CString& a, const CString& b) {
-      return a.Compare(b) < 0;
-    });
+    return SortedPositions(texts, ascending,
+                           [](const CString& a, const CString& b) { return a.Compare(b) < 0; });
   }
   std::vector<double> numbers;
   for (int i = 0; i < count; ++i) numbers.push_back(orv3::ToDouble(table[i][col].m_strValue));
@@ -189,9 +189,8 @@ int CDataTable::OrderTable(int col, int bAscending) {
   if (col < 0 || col >= GetTableColNum()) return 0;
   const CDataItemArray& rows = m_arrItem;
   // The rows before the first one that lacks the column can be compared.
-  const auto lacking = std::find_if(rows.begin(), rows.end(), [&](const CDataItem& row) {
-    return col >= row.GetItemLength();
-  });
+  const auto lacking = std::find_if(
+      rows.begin(), rows.end(), [&](const CDataItem& row) { return col >= row.GetItemLength(); });
   const auto count = static_cast<int>(std::distance(rows.begin(), lacking));
   if (bAscending == 0 || bAscending == 1) {
     std::vector<int> positions = OrderByColumn(*this, col, count, bAscending == 1);

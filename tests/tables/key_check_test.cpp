@@ -1,0 +1,188 @@
+// The key check must answer as a walk over all rows does, whatever a caller has done to the rows in
+// between.
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "framework/number_text.h"
+#include "print.h"
+#include "tables/data_table.h"
+
+namespace {
+
+using T = CDataTypeStruct;
+
+// The key check by its definition: one search per key column.
+bool WalkFinds(const CDataTable& table, const CDataItem& row) {
+  CArray<int, int> keys;
+  table.m_Title.GetDataTableKeyIndex(keys);
+  CArray<int, int> found;
+  for (int i = 0; i < keys.GetSize(); ++i) {
+    const CString sign = table.GetTableColSign(keys[i]);
+    const CString value = row[keys[i]].m_strValue;
+    table.SearchTableIndex(found, sign.GetString(), value.GetString(), L"==", i > 0, 0);
+  }
+  return !found.IsEmpty();
+}
+
+// The answer of the walk, or -1 when it raises the invalid-argument exception.
+template <class ANSWER>
+int Outcome(ANSWER answer) {
+  try {
+    return answer();
+  } catch (const CInvalidArgException&) {
+    return -1;
+  }
+}
+
+class KeyCheck : public ::testing::Test {
+ protected:
+  static CDataTable Table(T::KVBT_Value_Type first, T::KVBT_Value_Type second) {
+    CDataTable table;
+    table.AddTableCol(L"a", L"a", first, 1);
+    table.AddTableCol(L"v", L"v", T::KVBT_STRING, 0);
+    table.AddTableCol(L"b", L"b", second, 1);
+    return table;
+  }
+  static CDataItem Row(const CDataTable& table, const CString& a, const CString& b) {
+    CDataItem row;
+    row.SetItemTitle(table.m_Title);
+    row[0].m_strValue = a;
+    row[2].m_strValue = b;
+    return row;
+  }
+  // Whether the first deleted row's index, whose position a new row takes, is a position at all.
+  static bool HasSlot(const CDataTable& table) {
+    for (const CDataItem& row : table.m_arrItem) {
+      if (row.m_nModifyType < 0) return row.m_nIndex >= 0 && row.m_nIndex < table.GetTableRowNum();
+    }
+    return true;
+  }
+  // Adds and compares the answer with the walk's.
+  static void Add(CDataTable& table, CDataItem row) {
+    int expected = Outcome([&] { return WalkFinds(table, row) ? 0 : 1; });
+    if (expected == 1 && !HasSlot(table)) expected = -1;
+    ASSERT_EQ(Outcome([&] { return table.AddTableItem(row, 1); }), expected)
+        << row[0].m_strValue.View().size();
+  }
+  CMessageCatcher m_messages;
+};
+
+TEST_F(KeyCheck, SeesChangesThroughHeldReferences) {
+  CDataTable table = Table(T::KVBT_STRING, T::KVBT_STRING);
+  Add(table, Row(table, L"x", L"1"));
+  CDataItem& held = table[0];
+  CString& text = held[0].m_strValue;
+  Add(table, Row(table, L"y", L"1"));
+  text = L"z";
+  EXPECT_EQ(table.AddTableItem(L"z,,1", 1), 0);
+  EXPECT_EQ(table.AddTableItem(L"x,,1", 1), 1);
+  held.m_nModifyType = -1;
+  EXPECT_EQ(table.AddTableItem(L"z,,1", 1), 1) << "a row deleted through a reference";
+  EXPECT_EQ(&held, &table[0]);
+  table.m_Title[2].m_bKey = 0;
+  EXPECT_EQ(table.AddTableItem(L"y,,9", 1), 0) << "a key column was taken away";
+  held.Clear();
+  EXPECT_THROW(table.AddTableItem(L"q,,1", 1), CInvalidArgException) << "a row without key cells";
+  table.m_arrItem.RemoveAt(0);
+  EXPECT_EQ(table.AddTableItem(L"q,,1", 1), 1);
+}
+
+TEST_F(KeyCheck, ComparesNumbersAsNumbers) {
+  CDataTable table = Table(T::KVBT_DOUBLE, T::KVBT_LONG);
+  Add(table, Row(table, L"100", L"7"));
+  for (const wchar_t* a : {L"1e2", L"100.0000009", L"99.9999991", L"100.0000011", L"99.9999989"}) {
+    Add(table, Row(table, a, L" 7mm"));
+  }
+  EXPECT_EQ(table.GetTableRowNum(), 3);
+  for (const wchar_t* a : {L"0", L"-0", L"1e-7", L"1e999", L"1e999", L"-1e999", L"1e300"}) {
+    Add(table, Row(table, a, L"7"));
+  }
+}
+
+TEST_F(KeyCheck, FollowsTheSignsOfTheKeyColumns) {
+  CDataTable table = Table(T::KVBT_STRING, T::KVBT_STRING);
+  table.SetTableColSign(2, L"a");  // compared with the first column of that sign
+  Add(table, Row(table, L"x", L"x"));
+  Add(table, Row(table, L"x", L"y"));
+  Add(table, Row(table, L"x", L"x"));
+  EXPECT_EQ(table.GetTableRowNum(), 2);
+  table.SetTableColSign(0, L" s");  // trimmed before it is looked up, so it is never found
+  Add(table, Row(table, L"x", L"x"));
+  EXPECT_EQ(table.GetTableRowNum(), 3);
+}
+
+// Random work on a table through every door that a caller has.
+TEST_F(KeyCheck, AgreesWithTheWalkUnderRandomWork) {
+  const T::KVBT_Value_Type types[] = {T::KVBT_STRING, T::KVBT_INT, T::KVBT_DOUBLE, T::KVBT_FLOAT};
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    std::mt19937 random(seed);
+    const auto below = [&](int bound) {
+      return static_cast<int>(random() % static_cast<unsigned>(bound));
+    };
+    CDataTable table = Table(types[seed % 4], types[seed / 4 % 4]);
+    const auto value = [&] {
+      const wchar_t* tails[] = {L"", L".0000004", L".0", L"x"};
+      return orv3::FormatInt(below(9)) + tails[below(4)];
+    };
+    std::vector<CDataItem*> held;
+    for (int step = 0; step < 600; ++step) {
+      const int rows = table.GetTableRowNum();
+      const int at = rows > 0 ? below(rows) : 0;
+      switch (rows == 0 ? 0 : below(14)) {
+        default:
+          Add(table, Row(table, value(), value()));
+          break;
+        case 1:
+          table[at][below(2) * 2].SetItemValue(value());
+          break;
+        case 2:
+          table.DeleteTableItem(below(rows + 2));
+          break;
+        case 3:
+          table.ModifyTableItem(at, value() + L",," + value());
+          break;
+        case 4:
+          table.OrderTable(below(3), below(2));
+          break;
+        case 5:
+          std::swap(table.m_arrItem[at], table.m_arrItem[at == 0 ? rows - 1 : at - 1]);
+          break;
+        case 6:
+          if (rows > 20) table.m_arrItem.RemoveAt(at);
+          break;
+        case 7:
+          table.m_arrItem.InsertAt(at, Row(table, value(), value()));
+          break;
+        case 8:
+          table.m_arrItem[at].m_nModifyType = below(4) - 2;
+          break;
+        case 9: {
+          CDataItem row = Row(table, value(), value());
+          row.m_nIndex = below(rows + 1);
+          row.m_nModifyType = below(3) - 1;
+          table.AddTableItem(row, 0, 1);
+          break;
+        }
+        case 10: {
+          CDataItem row = Row(table, value(), value());
+          const bool present = WalkFinds(table, row);
+          ASSERT_EQ(table.IsHaveValue(row, -1) >= 0, present);
+          ASSERT_EQ(table.ImportTableItem(row, 0), present ? 0 : 1);
+          break;
+        }
+      }
+      if (HasFatalFailure()) FAIL() << "seed " << seed << ", step " << step;
+      const int index = below(30);
+      int first = -1;
+      const CDataTable& view = table;
+      for (int i = view.GetTableRowNum() - 1; i >= 0; --i) {
+        if (view[i].m_nIndex == index) first = i;
+      }
+      ASSERT_EQ(table.GetTableIndex(index), first) << "seed " << seed << ", step " << step;
+    }
+  }
+}
+
+}  // namespace
