@@ -231,7 +231,12 @@ void BytesPerCell(benchmark::State& state) {
   state.counters["bytes_per_cell"] = bytes / kRows / kColumns;
 }
 
-BENCHMARK(AddOurs)->Arg(kRows / 10)->Arg(kRows)->Arg(10 * kRows)->MinWarmUpTime(0.5)->Unit(benchmark::kMillisecond);
+BENCHMARK(AddOurs)
+    ->Arg(kRows / 10)
+    ->Arg(kRows)
+    ->Arg(10 * kRows)
+    ->MinWarmUpTime(0.5)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(AddSqlite)->Arg(kRows)->Unit(benchmark::kMillisecond);
 BENCHMARK(SearchOurs)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 BENCHMARK(SearchSqlite)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
