@@ -6,16 +6,14 @@ if(CCACHE_PROGRAM AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
-set(ORV3CAL_WARNINGS -Wall -Wextra -Wpedantic -Wconversion -Werror)
-# GCC 12 sees an overlap in "c" + std::string that cannot be (GCC bug 105651).
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  list(APPEND ORV3CAL_WARNINGS -Wno-restrict)
-endif()
-
 # orv3cal_warnings(TARGET...): the warnings of our own code, each an error.
 function(orv3cal_warnings)
   foreach(target ${ARGN})
-    target_compile_options(${target} PRIVATE ${ORV3CAL_WARNINGS})
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+    # GCC 12 sees an overlap in "c" + std::to_string(i) that is none (GCC bug 105651).
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+      target_compile_options(${target} PRIVATE -Wno-restrict)
+    endif()
   endforeach()
 endfunction()
 
