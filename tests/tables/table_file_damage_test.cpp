@@ -45,27 +45,27 @@ TEST_F(DamagedTableFile, RecordsThatCannotBe) {
   ASSERT_EQ(Read(WithRecord("A,,,91,,,2,,,20100")), 1);
   for (const char* record : {
            "A",
-           "A,,,91,,,2",                    // no block
-           "A,,,90,,,2,,,20100",            // no slot length
-           "A,,,-8,,,2,,,20100",            // the same below 0
-           "A,,,24,,,2,,,20100",            //
-           "A,,,2147483647,,,2,,,20100",    // beyond the file
-           "A,,,3325,,,2,,,20100",          // 100 columns: the block would not fit
-           "A,,,91,,,-1,,,20100",           // rows below 0
-           "A,,,91,,,97,,,20100",           // more rows than the block holds
-           "A,,,91,,,2147483647,,,20100",   //
-           "A,,,91,,,97,,,20100,,,20100",   // the same block twice
-           "A,,,91,,,97,,,20100,,,24000",   // overlapping blocks
-           "A,,,91,,,2,,,20099",            // in the head
-           "A,,,91,,,2,,,20101",            // reaching into the directory
-           "A,,,91,,,2,,,29200",            // in the directory
-           "A,,,91,,,2,,,-20100",           //
-           "A,,,91,,,2,,,2147483647",       //
-           "A,,,91,,,2,,,99999999999999",   //
-           "A,,,58,,,2,,,20100",            // fewer columns than the heading
-           "A,,,124,,,2,,,20100",           // more
-           "A,,,91,,,3,,,20100",            // a row that was never written
-           "B,,,91,,,2,,,20100",            // another table
+           "A,,,91,,,2",                   // no block
+           "A,,,90,,,2,,,20100",           // no slot length
+           "A,,,-8,,,2,,,20100",           // the same below 0
+           "A,,,24,,,2,,,20100",           //
+           "A,,,2147483647,,,2,,,20100",   // beyond the file
+           "A,,,3325,,,2,,,20100",         // 100 columns: the block would not fit
+           "A,,,91,,,-1,,,20100",          // rows below 0
+           "A,,,91,,,97,,,20100",          // more rows than the block holds
+           "A,,,91,,,2147483647,,,20100",  //
+           "A,,,91,,,97,,,20100,,,20100",  // the same block twice
+           "A,,,91,,,97,,,20100,,,24000",  // overlapping blocks
+           "A,,,91,,,2,,,20099",           // in the head
+           "A,,,91,,,2,,,20101",           // reaching into the directory
+           "A,,,91,,,2,,,29200",           // in the directory
+           "A,,,91,,,2,,,-20100",          //
+           "A,,,91,,,2,,,2147483647",      //
+           "A,,,91,,,2,,,99999999999999",  //
+           "A,,,58,,,2,,,20100",           // fewer columns than the heading
+           "A,,,124,,,2,,,20100",          // more
+           "A,,,91,,,3,,,20100",           // a row that was never written
+           "B,,,91,,,2,,,20100",           // another table
        }) {
     SCOPED_TRACE(record);
     EXPECT_EQ(Read(WithRecord(record)), 0);

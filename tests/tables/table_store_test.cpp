@@ -91,8 +91,9 @@ TEST_F(TableStore, TheUserFolderListsWhatMayBeAUserStore) {
   EXPECT_EQ(CDataTable::GetDirectoryFileName(User(L"").GetString(), found, L"TXT"), 6);
   EXPECT_EQ(found[5], L"note.txt");
   EXPECT_EQ(CDataTable::GetDirectoryFileName(User(L"none").GetString(), found, L"*"), 6);
-  EXPECT_EQ(CDataTable::GetDirectoryFileName(m_folder.Path().Left(m_folder.Path().GetLength() - 1)
-                                                 .GetString(), found, L"KDB"), 7);
+  EXPECT_EQ(CDataTable::GetDirectoryFileName(
+                m_folder.Path().Left(m_folder.Path().GetLength() - 1).GetString(), found, L"KDB"),
+            7);
 }
 
 }  // namespace
