@@ -107,12 +107,13 @@ bool MakeRoom(CStoreFile& file, int group, std::int64_t end) {
 }
 
 // Whether a group's header can be true of the file: its slots lie behind the headers, before those
-// of the groups after it, and are not more than the file holds, give or take one group's room that
-// was promised but never filled.
+// of the groups after it, and not further behind the end of the file than groups that are still
+// empty can be.
 bool IsPlausible(const CStoreFile& file, int group, const FileInfo& info) {
   const int headersEnd = group == kSingleGroup ? kGroupHeaderStep + 12 : kGroupHeadersEnd;
-  const auto size = std::max<std::int64_t>(static_cast<std::int64_t>(file.Size()), info.m_nOffset);
-  if (info.m_nOffset < headersEnd || EndOf(info) > size + kGroupStep) return false;
+  const auto size = static_cast<std::int64_t>(file.Size());
+  if (info.m_nOffset < headersEnd) return false;
+  if (EndOf(info) > size + kFirstSlot + (kSystemGroups + 1) * kGroupStep) return false;
   for (int g = group + 1; group != kSingleGroup && g < kSystemGroups; ++g) {
     FileInfo other;
     if (ReadGroup(file, g, other) && other.m_nOffset < EndOf(info)) return false;
