@@ -124,7 +124,8 @@ int CDataCellArray::Add(CDataCell cell) {
 
 int CDataCellArray::Append(const CDataCellArray& other) {
   const int first = GetSize();
-  const CDataCellArray added(other);  // `other` may be this array
+  // `other` may be this array. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  const CDataCellArray added(other);
   MakeOwn(first + added.GetSize());
   for (const CDataCell& cell : added) Add(cell);
   return first;
@@ -133,7 +134,8 @@ int CDataCellArray::Append(const CDataCellArray& other) {
 void CDataCellArray::InsertAt(int index, const CDataCell& cell, int count) {
   orv3::CheckIndex("cells", index, static_cast<long long>(GetSize()) + 1);
   if (count <= 0) return;
-  const CDataCell copy(cell);  // `cell` may stand in this array
+  // `cell` may stand in this array. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  const CDataCell copy(cell);
   MakeOwn(GetSize() + count);
   for (int i = 0; i < count; ++i) Add(copy);
   CDataCell* cells = Cells(m_pBlock);

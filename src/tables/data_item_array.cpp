@@ -34,6 +34,7 @@ void CDataItemArray::InsertAt(int index, const CDataItem& row, int count) {
   orv3::CheckIndex("rows", index, static_cast<long long>(GetSize()) + 1);
   if (count <= 0) return;
   std::vector<std::unique_ptr<CNode>> nodes;
+  nodes.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) nodes.push_back(std::make_unique<CNode>(row));
   m_arrNode.insert(m_arrNode.begin() + index, std::make_move_iterator(nodes.begin()),
                    std::make_move_iterator(nodes.end()));
@@ -69,10 +70,10 @@ void CDataItemArray::Rearrange(const std::vector<int>& positions) {
 }
 
 void CDataItemArray::Prefetch(int index, int col) const noexcept {
-  constexpr int kStep = 8;  // rows between one place and the place that it points to
-  const auto node = [&](int ahead) -> const CNode* {
-    return index + ahead < GetSize() ? m_arrNode[static_cast<std::size_t>(index + ahead)].get()
-                                     : nullptr;
+  constexpr std::size_t kStep = 8;  // rows between one place and the place that it points to
+  const auto node = [&](std::size_t ahead) -> const CNode* {
+    const std::size_t at = static_cast<std::size_t>(index) + ahead;
+    return at < m_arrNode.size() ? m_arrNode[at].get() : nullptr;
   };
   if (const CNode* far = node(3 * kStep)) __builtin_prefetch(far);
   if (const CNode* middle = node(2 * kStep)) {
