@@ -4,6 +4,7 @@
 #include "framework/array.h"
 #include "framework/bitmap.h"
 #include "framework/cstring.h"
+#include "framework/drawing.h"
 #include "framework/exception.h"
 #include "framework/kvb_math.h"
 #include "framework/message.h"
