@@ -1,7 +1,7 @@
 // High-strength bolts and bolt areas.
+#include "catalogue/code_tables/cell_number.h"
 #include "catalogue/code_tables/interpolation.h"
 #include "catalogue/code_tables/table_search.h"
-#include "framework/number_text.h"
 
 // Slip factor: GB 50017-2003, Table 7.2.2-1.
 constexpr double CTableSearch::g_sub8[4][3] = {
@@ -55,6 +55,7 @@ bool CTableSearch::SearchSub9(int grade, int diameter, int& preload) {
 
 bool CTableSearch::SearchSub23(int row, int column, double& area) {
   if (!orv3::InRange(row, 9) || !orv3::InRange(column, 2)) return false;
-  area = orv3::ToDouble(g_sub23[row][column]);
+  static constexpr auto kArea = orv3::CellNumbers(g_sub23);
+  area = kArea[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
   return true;
 }

@@ -47,7 +47,7 @@ double AtEta(const Continued& table, std::size_t eta1, std::size_t eta2, const o
   const auto cell = [&](std::size_t i, std::size_t j) {
     return table[6 * (i / 2) + eta2][22 * eta1 + 11 * (i % 2) + j];
   };
-  return orv3::ValueAt(kDoubleK1, kDoubleK2, cell, k1, k2);
+  return orv3::ValueAt(cell, k1, k2);
 }
 
 double AtEta(const Continued& table, int eta1, int eta2, double k1, double k2) {
@@ -65,8 +65,7 @@ bool Interpolated(const Continued& table, double eta1, double eta2, double k1, d
   const orv3::CGridPlace atK1 = orv3::PlaceOn(kDoubleK1, k1);
   const orv3::CGridPlace atK2 = orv3::PlaceOn(kDoubleK2, k2);
   const auto cell = [&](std::size_t i, std::size_t j) { return AtEta(table, i, j, atK1, atK2); };
-  mu3 = orv3::ValueAt(kDoubleEta1, kDoubleEta2, cell, orv3::PlaceOn(kDoubleEta1, eta1),
-                      orv3::PlaceOn(kDoubleEta2, eta2));
+  mu3 = orv3::ValueAt(cell, orv3::PlaceOn(kDoubleEta1, eta1), orv3::PlaceOn(kDoubleEta2, eta2));
   return true;
 }
 

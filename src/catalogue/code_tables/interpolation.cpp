@@ -1,6 +1,6 @@
-#include "catalogue/code_tables/interpolation.h"
+#include "catalogue/code_tables/table_search.h"
 
-// Both start from the upper point, so the value there is exact.
+// Both start from the upper point, so that the value there is exact.
 
 double CTableSearch::DispersionForOne(double x1, double y1, double x2, double y2, double x) {
   return y2 - (y2 - y1) / (x2 - x1) * (x2 - x);

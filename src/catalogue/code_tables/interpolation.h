@@ -2,9 +2,9 @@
 #pragma once
 
 #include <cmath>
+#include <cstddef>
 #include <span>
 
-#include "catalogue/code_tables/table_search.h"
 #include "framework/kvb_math.h"
 
 namespace orv3 {
@@ -16,41 +16,36 @@ inline bool Spans(std::span<const double> grid, double value) noexcept {
   return CKvbMath::EqualMore(value, grid.front()) && CKvbMath::EqualLess(value, grid.back());
 }
 
-// An argument on a grid: the first position whose value is not below it, and whether they are
-// equal.
+// An argument on an ascending grid: the positions around it and how far it lies below the upper
+// one, as a part of their distance. On a grid value, within the tolerance, that part is 0; an
+// argument beyond the grid is taken at the grid's border.
 struct CGridPlace {
-  std::size_t m_index = 0;
-  double m_value = 0;  // the argument, at most the grid's last value
-  bool m_onGrid = false;
+  std::size_t m_lower = 0;
+  std::size_t m_upper = 0;
+  double m_part = 0;
 };
 
 inline CGridPlace PlaceOn(std::span<const double> grid, double value) noexcept {
-  CGridPlace place{0, CKvbMath::EqualMore(value, grid.back()) ? grid.back() : value, false};
-  while (!CKvbMath::EqualMore(grid[place.m_index], place.m_value)) ++place.m_index;
-  place.m_onGrid = CKvbMath::EqualTo(grid[place.m_index], place.m_value);
-  return place;
+  const double below = value - CKvbMath::kTolerance;
+  std::size_t upper = 0;
+  while (upper + 1 < grid.size() && grid[upper] <= below) ++upper;
+  const double distance = grid[upper] - value;
+  if (upper == 0 || distance < CKvbMath::kTolerance) return {upper, upper, 0};
+  return {upper - 1, upper, distance / (grid[upper] - grid[upper - 1])};
 }
 
-// The value at the places `x` on `rows` and `z` on `columns`, where cell(i, j) is the value at the
-// grid positions i and j: the cell itself on the grid, along the border when an argument is at or
-// below the first grid value, bilinear elsewhere.
+// The straight line from the upper value downwards, so that the upper value is exact.
+inline double Between(const CGridPlace& place, double lower, double upper) noexcept {
+  return upper - (upper - lower) * place.m_part;
+}
+
+// Bilinear between the four cells around the row place `x` and the column place `z`, where cell(i,
+// j) is the value at the grid positions i and j: along x on both columns, then along z.
 template <class CELL>
-double ValueAt(std::span<const double> rows, std::span<const double> columns, const CELL& cell,
-               const CGridPlace& x, const CGridPlace& z) {
-  const std::size_t i = x.m_index;
-  const std::size_t j = z.m_index;
-  if ((x.m_onGrid && z.m_onGrid) || (i == 0 && j == 0)) return cell(i, j);
-  if (i == 0) {
-    return CTableSearch::DispersionForOne(columns[j - 1], cell(0, j - 1), columns[j], cell(0, j),
-                                          z.m_value);
-  }
-  if (j == 0) {
-    return CTableSearch::DispersionForOne(rows[i - 1], cell(i - 1, 0), rows[i], cell(i, 0),
-                                          x.m_value);
-  }
-  return CTableSearch::DispersionForTwo(rows[i - 1], cell(i - 1, j - 1), cell(i - 1, j), rows[i],
-                                        cell(i, j - 1), cell(i, j), columns[j - 1], columns[j],
-                                        x.m_value, z.m_value);
+double ValueAt(const CELL& cell, const CGridPlace& x, const CGridPlace& z) {
+  const double onLower = Between(x, cell(x.m_lower, z.m_lower), cell(x.m_upper, z.m_lower));
+  const double onUpper = Between(x, cell(x.m_lower, z.m_upper), cell(x.m_upper, z.m_upper));
+  return Between(z, onLower, onUpper);
 }
 
 // The look-up of a whole table by two numbers; false for a NaN.
@@ -59,7 +54,7 @@ bool SearchGrid(const double (&rows)[ROWS], const double (&columns)[COLUMNS],
                 const double (&table)[ROWS][COLUMNS], double row, double column, double& value) {
   if (std::isnan(row) || std::isnan(column)) return false;
   const auto cell = [&table](std::size_t i, std::size_t j) { return table[i][j]; };
-  value = ValueAt(rows, columns, cell, PlaceOn(rows, row), PlaceOn(columns, column));
+  value = ValueAt(cell, PlaceOn(rows, row), PlaceOn(columns, column));
   return true;
 }
 

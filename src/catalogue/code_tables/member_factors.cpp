@@ -2,9 +2,9 @@
 #include <cmath>
 #include <numbers>
 
+#include "catalogue/code_tables/cell_number.h"
 #include "catalogue/code_tables/interpolation.h"
 #include "catalogue/code_tables/table_search.h"
-#include "framework/number_text.h"
 
 // Largest l1/b1: Table 4.2.1.
 constexpr double CTableSearch::g_sub4[4][3] = {
@@ -164,15 +164,18 @@ bool CTableSearch::SearchSub5S2(int row, int axis, CString& bucklingClass) {
 bool CTableSearch::SearchSub6(int kind, int axis, double& gamma) {
   static constexpr int kLastKind[8] = {4, 10, 12, 14, 17, 18, 20, 22};  // of each group
   if (!orv3::InRange(kind, 23) || !orv3::InRange(axis, 2)) return false;
-  int group = 0;
+  static constexpr auto kGammaX = orv3::CellNumbers(g_sub6_1);
+  static constexpr auto kGammaY = orv3::CellNumbers(g_sub6);
+  std::size_t group = 0;
   while (kind > kLastKind[group]) ++group;
-  gamma = orv3::ToDouble(axis == 0 ? g_sub6_1[group] : g_sub6[group]);
+  gamma = axis == 0 ? kGammaX[group] : kGammaY[group];
   return true;
 }
 
 bool CTableSearch::SearchSub7(int row, int column, double& parameter) {
   if (!orv3::InRange(row, 2) || !orv3::InRange(column, 8)) return false;
-  parameter = orv3::ToDouble(g_sub7[row][column]);
+  static constexpr auto kParameter = orv3::CellNumbers(g_sub7);
+  parameter = kParameter[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
   return true;
 }
 
