@@ -15,7 +15,7 @@ constexpr std::wstring_view kBlanks = L" \t\n\v\f\r";
 // Orders characters as their UTF-16 forms are ordered. A character beyond 0xFFFF is written with
 // surrogates (0xD800..0xDFFF) there, so that it stands before 0xE000..0xFFFF.
 constexpr std::uint32_t Utf16Order(wchar_t ch) noexcept {
-  const auto code = static_cast<std::uint32_t>(ch);
+  const auto code = static_cast<std::uint32_t>(static_cast<char32_t>(ch));
   if (code > 0xFFFF) return 0xE000 + (code - 0x10000);
   return code < 0xE000 ? code : code + 0x100000;
 }

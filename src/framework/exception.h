@@ -13,12 +13,12 @@ class ORV3CAL_API CInvalidArgException : public std::invalid_argument {
 
 namespace orv3 {
 
-// Throws CInvalidArgException naming `what`, the index and the bound unless 0 <= index < bound.
+// Throws CInvalidArgException with a message that names `what`, the index and the bound.
+[[noreturn]] ORV3CAL_API void ThrowIndex(const char* what, long long index, long long bound);
+
+// Throws unless 0 <= index < bound.
 inline void CheckIndex(const char* what, long long index, long long bound) {
-  if (index >= 0 && index < bound) return;
-  throw CInvalidArgException(std::string(what) + ": index " + std::to_string(index) +
-                             " is outside 0.." + std::to_string(bound - 1) + " (" +
-                             std::to_string(bound) + " elements)");
+  if (index < 0 || index >= bound) ThrowIndex(what, index, bound);
 }
 
 }  // namespace orv3

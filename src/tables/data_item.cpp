@@ -1,54 +1,8 @@
 #include "tables/data_item.h"
 
-#include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "tables/data_table.h"
 #include "tables/sketch.h"
-
-using orv3::ToDouble;
-using orv3::ToInt;
-
-void CDataCell::SetValue(const CString& value, const CString& name, const CString& sign) {
-  m_strValue = value;
-  m_strName = name;
-  m_strSign = sign;
-}
-
-int CDataCell::GetItemValue(CString& value) const {
-  if (m_nType != CDataTypeStruct::KVBT_STRING) return 0;
-  value = m_strValue;
-  return 1;
-}
-
-int CDataCell::GetItemValue(int& value) const {
-  if (m_nType != CDataTypeStruct::KVBT_INT) return 0;
-  value = ToInt(m_strValue);
-  return 1;
-}
-
-int CDataCell::GetItemValue(long& value) const {
-  if (m_nType != CDataTypeStruct::KVBT_LONG && m_nType != CDataTypeStruct::KVBT_LONG_ALT) return 0;
-  value = ToInt(m_strValue);
-  return 1;
-}
-
-int CDataCell::GetItemValue(float& value) const {
-  if (m_nType != CDataTypeStruct::KVBT_FLOAT) return 0;
-  value = static_cast<float>(ToDouble(m_strValue));
-  return 1;
-}
-
-int CDataCell::GetItemValue(double& value) const {
-  if (m_nType != CDataTypeStruct::KVBT_DOUBLE) return 0;
-  value = ToDouble(m_strValue);
-  return 1;
-}
-
-int CDataCell::GetItemValue(wchar_t& value) const {
-  if (m_nType != CDataTypeStruct::KVBT_CHAR) return 0;
-  value = m_strValue.GetString()[0];
-  return 1;
-}
 
 CDataItem& CDataItem::operator=(const CDataItem& other) {
   if (this == &other) throw CInvalidArgException("CDataItem: a row was assigned to itself");
@@ -74,7 +28,7 @@ CDataCell& CDataItem::operator[](const wchar_t* sign) {
 
 int CDataItem::GetSignIndex(std::wstring_view sign) const noexcept {
   for (int i = 0; i < GetItemLength(); ++i) {
-    if (m_arrCell.GetData()[i].m_strSign == sign) return i;
+    if (m_arrCell.begin()[i].m_strSign == sign) return i;
   }
   return -1;
 }
@@ -89,20 +43,12 @@ CString CDataItem::GetCellSign(int index) const {
 
 void CDataItem::SetItemTitle(const CDataTableTitle& title) {
   m_arrCell.Reserve(GetItemLength() + title.GetTableTitleNum());
-  for (int i = 0; i < title.GetTableTitleNum(); ++i) {
-    const CDataTypeStruct& column = title[i];
-    CDataCell cell;
-    cell.m_strName = column.m_strName;
-    cell.m_strSign = column.m_strSign;
-    cell.m_nType = column.m_nType;
-    cell.m_bKey = column.m_bKey;
-    m_arrCell.Add(cell);
-  }
+  for (int i = 0; i < title.GetTableTitleNum(); ++i) m_arrCell.Add(CDataCell(title[i], CString()));
 }
 
 int CDataItem::SetDataItemValue(const CStringArray& values) {
   if (IsEmpty() || values.GetSize() != GetItemLength()) return 0;
-  for (int i = 0; i < GetItemLength(); ++i) m_arrCell[i].m_strValue = values[i];
+  for (int i = 0; i < GetItemLength(); ++i) m_arrCell.Own(i).m_strValue = values[i];
   return 1;
 }
 

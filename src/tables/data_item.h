@@ -1,50 +1,12 @@
-// Cells and rows.
+// Rows.
 #pragma once
 
 #include "framework/array.h"
 #include "framework/bitmap.h"
 #include "framework/cstring.h"
 #include "framework/export.h"
+#include "tables/data_cell.h"
 #include "tables/data_type.h"
-
-// One cell of a row: the value as text, and its column's name, sign, type and key flag.
-class ORV3CAL_API CDataCell {
- public:
-  using KVBT_Value_Type = CDataTypeStruct::KVBT_Value_Type;
-
-  CDataCell() = default;
-  CDataCell(const CDataCell&) = default;
-  CDataCell(CDataCell&&) noexcept = default;
-  CDataCell& operator=(const CDataCell&) = default;
-  CDataCell& operator=(CDataCell&&) noexcept = default;
-  virtual ~CDataCell() = default;
-
-  void SetValue(const CString& value, const CString& name, const CString& sign);
-  void SetItemValue(const CString& value) { m_strValue = value; }
-  void SetItemName(const CString& name) { m_strName = name; }
-  void SetItemSign(const CString& sign) { m_strSign = sign; }
-  void SetItemValueType(KVBT_Value_Type type) { m_nType = type; }
-  void SetItemKey(int bKey) { m_bKey = bKey; }
-  CString GetItemName() const { return m_strName; }
-  CString GetItemSign() const { return m_strSign; }
-  KVBT_Value_Type GetItemValueType() const { return m_nType; }
-  int IsKeyItem() const { return m_bKey; }
-
-  // The value as the one C++ type that serves the cell's type: 1 and the value, or 0 and `value`
-  // untouched when the cell has another type.
-  int GetItemValue(CString& value) const;  // KVBT_STRING
-  int GetItemValue(int& value) const;      // KVBT_INT
-  int GetItemValue(long& value) const;     // KVBT_LONG, KVBT_LONG_ALT
-  int GetItemValue(float& value) const;    // KVBT_FLOAT
-  int GetItemValue(double& value) const;   // KVBT_DOUBLE
-  int GetItemValue(wchar_t& value) const;  // KVBT_CHAR; 0 for an empty text
-
-  CString m_strValue;
-  CString m_strName;
-  CString m_strSign;
-  KVBT_Value_Type m_nType = CDataTypeStruct::KVBT_STRING;
-  int m_bKey = 0;
-};
 
 // One row of a table.
 class ORV3CAL_API CDataItem {
@@ -102,7 +64,7 @@ class ORV3CAL_API CDataItem {
   // Edit state: 0 unchanged, 1 and 3 added, 2 changed, 4 added and saved, -1 deleted, -2 deleted
   // and saved.
   int m_nModifyType = 0;
-  CArray<CDataCell> m_arrCell;
+  CDataCellArray m_arrCell;
 
  private:
   bool Has(int index) const noexcept { return index >= 0 && index < GetItemLength(); }

@@ -34,6 +34,7 @@ void CDataItemArray::InsertAt(int index, const CDataItem& row, int count) {
   orv3::CheckIndex("rows", index, static_cast<long long>(GetSize()) + 1);
   if (count <= 0) return;
   std::vector<std::unique_ptr<CNode>> nodes;
+  nodes.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) nodes.push_back(std::make_unique<CNode>(row));
   m_arrNode.insert(m_arrNode.begin() + index, std::make_move_iterator(nodes.begin()),
                    std::make_move_iterator(nodes.end()));
@@ -66,6 +67,25 @@ void CDataItemArray::Rearrange(const std::vector<int>& positions) {
     nodes[i] = std::move(m_arrNode[Checked(positions[i])]);
   m_arrNode = std::move(nodes);
   Rearranged();
+}
+
+void CDataItemArray::Prefetch(int index, int col) const noexcept {
+  constexpr std::size_t kStep = 8;  // rows between one place and the place that it points to
+  const auto node = [&](std::size_t ahead) -> const CNode* {
+    const std::size_t at = static_cast<std::size_t>(index) + ahead;
+    return at < m_arrNode.size() ? m_arrNode[at].get() : nullptr;
+  };
+  if (const CNode* far = node(3 * kStep)) __builtin_prefetch(far);
+  if (const CNode* middle = node(2 * kStep)) {
+    if (const CDataCell* cells = middle->item.m_arrCell.begin()) {
+      __builtin_prefetch(cells);
+      __builtin_prefetch(cells + col);
+    }
+  }
+  if (const CNode* near = node(kStep)) {
+    const CDataCellArray& cells = near->item.m_arrCell;
+    if (col < cells.GetSize()) __builtin_prefetch(cells.begin()[col].m_strValue.GetString());
+  }
 }
 
 void CDataItemArray::Rearranged() {

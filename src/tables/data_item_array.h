@@ -82,6 +82,9 @@ class ORV3CAL_API CDataItemArray {
 
   // The row, not handed out: the table says itself what it changes there.
   CDataItem& Own(int index) { return m_arrNode[Checked(index)]->item; }
+  // Brings what the cell in column `col` needs nearer to the processor, for a walk that comes to
+  // row `index` next; each row is a few places in memory, and a walk would wait for every one.
+  void Prefetch(int index, int col) const noexcept;
   bool IsHandedOut(int index) const { return m_arrNode[Checked(index)]->handedOut; }
   // Positions of the rows handed out so far, each once, in no order.
   const std::vector<int>& HandedOut() const noexcept { return m_arrHandedOut; }

@@ -159,8 +159,8 @@ int CDataTable::setTableTitle(const CDataItem& row) {
 CDataItem CDataTable::RowOf(const CStringArray& values) const {
   CDataItem row;
   row.m_strTableName = m_strTableName;
-  row.SetItemTitle(m_Title);
-  row.SetDataItemValue(values);
+  row.m_arrCell.Reserve(values.GetSize());
+  for (int i = 0; i < values.GetSize(); ++i) row.m_arrCell.Add(CDataCell(m_Title[i], values[i]));
   return row;
 }
 

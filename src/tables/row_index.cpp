@@ -15,6 +15,8 @@ namespace {
 constexpr double kReach = 1.01e-6;
 constexpr double kBucket = 4e-6;
 
+constexpr int kAbsent = -2;
+
 std::uint64_t Mix(std::uint64_t seed, std::uint64_t value) noexcept {
   seed ^= value + 0x9E3779B97F4A7C15ULL + (seed << 6) + (seed >> 2);
   seed *= 0xBF58476D1CE4E5B9ULL;
@@ -54,33 +56,56 @@ std::vector<CKeyColumn> KeyColumns(const CDataTableTitle& title) {
   return key;
 }
 
+std::size_t CPositionChains::Bucket(std::uint64_t hash) const noexcept {
+  return static_cast<std::size_t>(Mix(0, hash)) & (m_arrHead.size() - 1);
+}
+
+void CPositionChains::Link(int position) {
+  const auto at = static_cast<std::size_t>(position);
+  int& head = m_arrHead[Bucket(m_arrHash[at])];
+  m_arrNext[at] = head;
+  head = position;
+}
+
+// Keeps at most one position a bucket on average; the number of buckets is a power of two.
+void CPositionChains::Grow() {
+  m_arrHead.assign(std::max<std::size_t>(16, m_arrHead.size() * 2), -1);
+  for (std::size_t i = 0; i < m_arrNext.size(); ++i) {
+    if (m_arrNext[i] != kAbsent) Link(static_cast<int>(i));
+  }
+}
+
 void CPositionChains::Clear() {
-  m_mapHead.clear();
+  m_arrHead.clear();
   m_arrNext.clear();
+  m_arrHash.clear();
 }
 
 void CPositionChains::Add(std::uint64_t hash, int position) {
   const auto at = static_cast<std::size_t>(position);
-  if (m_arrNext.size() <= at) m_arrNext.resize(at + 1, -1);
-  const auto [entry, added] = m_mapHead.try_emplace(hash, position);
-  m_arrNext[at] = added ? -1 : entry->second;
-  entry->second = position;
+  if (m_arrNext.size() <= at) {
+    m_arrNext.resize(at + 1, kAbsent);
+    m_arrHash.resize(at + 1);
+  }
+  if (m_arrNext.size() > m_arrHead.size()) Grow();
+  m_arrHash[at] = hash;
+  Link(position);
 }
 
 void CPositionChains::Remove(std::uint64_t hash, int position) {
-  const auto entry = m_mapHead.find(hash);
-  if (entry == m_mapHead.end()) return;
-  int* link = &entry->second;
+  if (m_arrHead.empty()) return;
+  int* link = &m_arrHead[Bucket(hash)];
   while (*link >= 0 && *link != position) link = &m_arrNext[static_cast<std::size_t>(*link)];
-  if (*link == position) *link = m_arrNext[static_cast<std::size_t>(position)];
-  if (entry->second < 0) m_mapHead.erase(entry);
+  if (*link < 0) return;
+  *link = m_arrNext[static_cast<std::size_t>(position)];
+  m_arrNext[static_cast<std::size_t>(position)] = kAbsent;
 }
 
 void CPositionChains::Collect(std::uint64_t hash, std::vector<int>& out) const {
-  const auto entry = m_mapHead.find(hash);
-  int position = entry == m_mapHead.end() ? -1 : entry->second;
-  for (; position >= 0; position = m_arrNext[static_cast<std::size_t>(position)]) {
-    out.push_back(position);
+  if (m_arrHead.empty()) return;
+  for (int position = m_arrHead[Bucket(hash)]; position >= 0;
+       position = m_arrNext[static_cast<std::size_t>(position)]) {
+    if (m_arrHash[static_cast<std::size_t>(position)] == hash) out.push_back(position);
   }
 }
 

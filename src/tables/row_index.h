@@ -6,9 +6,9 @@
 // looks at each one's cells, and so decides exactly as a walk over all rows would.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <set>
-#include <unordered_map>
 #include <vector>
 
 #include "tables/data_item_array.h"
@@ -29,7 +29,7 @@ struct CKeyColumn {
 // one's sign cannot be found).
 std::vector<CKeyColumn> KeyColumns(const CDataTableTitle& title);
 
-// Positions by hash value.
+// Positions by hash value: a chain of positions for each bucket.
 class CPositionChains {
  public:
   void Clear();
@@ -38,8 +38,13 @@ class CPositionChains {
   void Collect(std::uint64_t hash, std::vector<int>& out) const;
 
  private:
-  std::unordered_map<std::uint64_t, int> m_mapHead;
-  std::vector<int> m_arrNext;
+  std::size_t Bucket(std::uint64_t hash) const noexcept;
+  void Link(int position);
+  void Grow();
+
+  std::vector<int> m_arrHead;            // by bucket; -1 ends a chain
+  std::vector<int> m_arrNext;            // by position; kAbsent for one that is not held
+  std::vector<std::uint64_t> m_arrHash;  // by position
 };
 
 class CRowIndex {

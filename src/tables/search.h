@@ -55,6 +55,7 @@ class CCondition {
              bool wildcard);
   // CInvalidArgException when the row lacks the column.
   bool Matches(const CDataItem& row) const;
+  int Column() const noexcept { return m_nColumn; }
 
  private:
   int m_nColumn;

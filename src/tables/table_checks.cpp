@@ -34,7 +34,8 @@ bool IsScientific(const CString& text) {
 }  // namespace
 
 void CDataTable::TransStrToArray(const CString& text, const CString& separator, CStringArray& out) {
-  const CString rest(text);  // `out` may hold `text`
+  // `out` may hold `text`. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  const CString rest(text);
   out.RemoveAll();
   int begin = 0;
   for (int at = 0; !separator.IsEmpty() && (at = rest.Find(separator, begin)) >= 0;) {

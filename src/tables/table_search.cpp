@@ -11,7 +11,6 @@
 
 using orv3::CCondition;
 using orv3::CEqualTest;
-using orv3::COperator;
 using orv3::CSearchExpression;
 
 namespace {
@@ -40,6 +39,7 @@ void AddMatching(const CDataTable& table, const CCondition& condition,
     }
   }
   for (int i = 0; i < table.GetTableRowNum(); ++i) {
+    table.m_arrItem.Prefetch(i, condition.Column());
     const CDataItem& row = table[i];
     if (row.m_nModifyType < 0 || present[static_cast<std::size_t>(i)]) continue;
     if (condition.Matches(row)) positions.push_back(i);
@@ -62,11 +62,13 @@ std::vector<int> SortedPositions(const std::vector<KEY>& keys, bool ascending, L
 std::vector<int> OrderByColumn(const CDataTable& table, int col, int count, bool ascending) {
   if (ValueClassOf(table.GetDataTableColType(col)) == CValueClass::Text) {
     std::vector<CString> texts;
+    texts.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) texts.push_back(table[i][col].m_strValue);
     return SortedPositions(texts, ascending,
                            [](const CString& a, const CString& b) { return a.Compare(b) < 0; });
   }
   std::vector<double> numbers;
+  numbers.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) numbers.push_back(orv3::ToDouble(table[i][col].m_strValue));
   return SortedPositions(numbers, ascending, std::less<>());
 }

@@ -1,0 +1,35 @@
+# Compiler settings that every part shares.
+
+find_program(CCACHE_PROGRAM ccache)
+mark_as_advanced(CCACHE_PROGRAM)
+if(CCACHE_PROGRAM AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# orv3cal_warnings(TARGET...): the warnings of our own code, each an error.
+function(orv3cal_warnings)
+  foreach(target ${ARGN})
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+  endforeach()
+endfunction()
+
+if(ORV3CAL_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+  # The checks put into the code make the compiler see paths that do not exist.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-Wno-error=maybe-uninitialized)
+  endif()
+endif()
+if(ORV3CAL_BUILD_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+# A Windows program needs nothing beside it, unless it sets the property ORV3CAL_SHARED_RUNTIME: on
+# i686 an exception crosses from a DLL into a program only when both share one runtime.
+if(MINGW)
+  set(program $<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>)
+  set(own_runtime $<NOT:$<BOOL:$<TARGET_PROPERTY:ORV3CAL_SHARED_RUNTIME>>>)
+  add_link_options($<$<AND:${program},${own_runtime}>:-static>)
+endif()

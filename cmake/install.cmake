@@ -1,0 +1,25 @@
+# cmake --install: headers, library, find_package(orv3cal) and pkg-config.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+install(TARGETS orv3cal EXPORT orv3calTargets)
+install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orv3cal
+        FILES_MATCHING PATTERN "*.h"
+        PATTERN "posix" EXCLUDE PATTERN "win32" EXCLUDE PATTERN "module" EXCLUDE)
+if(TARGET orv3cal_dll)
+  install(TARGETS orv3cal_dll)
+  install(FILES ${ORV3CAL_RUNTIME_DLLS} DESTINATION ${CMAKE_INSTALL_BINDIR})
+endif()
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/orv3cal)
+install(EXPORT orv3calTargets NAMESPACE orv3cal:: FILE orv3calConfig.cmake
+        DESTINATION ${package_dir})
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/orv3calConfigVersion.cmake
+                                 COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/orv3calConfigVersion.cmake DESTINATION ${package_dir})
+
+# The prefix is found from the file's own place, so an installed tree may be moved.
+file(RELATIVE_PATH pkgconfig_to_prefix /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+configure_file(cmake/orv3cal.pc.in orv3cal.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/orv3cal.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,41 @@
+# Shell helpers of the scripts in this folder; sourced, never run.
+
+SOURCE=$(cd "$(dirname "$0")/.." && pwd)
+: "${HOME:=$(getent passwd "$(id -u)" | cut -d: -f6)}"
+CACHE=${XDG_CACHE_HOME:-$HOME/.cache}/orv3cal
+
+say() { echo "== $*"; }
+fail() { echo "$(basename "$0"): $*" >&2; exit 1; }
+
+# Those of the named Debian packages that are not installed.
+missing_packages() {
+  for package; do
+    dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed ||
+      echo "$package"
+  done
+}
+
+# Installs what is missing of the named Debian packages; takes no time when nothing is.
+need_packages() {
+  missing=$(missing_packages "$@" | tr '\n' ' ')
+  [ -n "$missing" ] || return 0
+  as_root=
+  if [ "$(id -u)" != 0 ]; then
+    sudo -n true 2>/dev/null || fail "not installed: $missing- install them as root: apt-get install $missing"
+    as_root="sudo -n"
+  fi
+  say "installing $missing"
+  log=$(mktemp)
+  # A broken list of some other source must not stop us; a package that is not found will.
+  $as_root apt-get -q update >"$log" 2>&1 </dev/null || echo "apt-get update complained; going on"
+  if ! $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 \
+      install --no-install-recommends $missing >>"$log" 2>&1 </dev/null; then
+    cat "$log"
+    fail "apt-get could not install $missing"
+  fi
+  rm -f "$log"
+}
+
+# The packages of a native build and its tests.
+NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libcli11-dev nlohmann-json3-dev
+                 libbenchmark-dev libsqlite3-dev clang-format"

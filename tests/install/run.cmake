@@ -1,0 +1,20 @@
+# Installs the build tree BUILD into a folder of its own, then builds the project CONSUMER with the
+# compiler CXX against what was installed, and runs its programs.
+set(prefix ${BUILD}/install-test/prefix)
+set(tree ${BUILD}/install-test/consumer)
+file(REMOVE_RECURSE ${BUILD}/install-test)
+
+function(run)
+  execute_process(COMMAND ${ARGV} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
+file(GLOB_RECURSE pc ${prefix}/*/orv3cal.pc)
+cmake_path(GET pc PARENT_PATH pc_dir)
+set(ENV{PKG_CONFIG_PATH} ${pc_dir})
+run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${tree} -G Ninja -DCMAKE_CXX_COMPILER=${CXX}
+    -DCMAKE_PREFIX_PATH=${prefix})
+run(${CMAKE_COMMAND} --build ${tree})
+set(ENV{LD_LIBRARY_PATH} ${pc_dir}/..)  # where the library was built shared
+run(${tree}/by_package)
+run(${tree}/by_pkg_config)
