@@ -9,7 +9,6 @@
 namespace {
 
 using orv3::BoltGroup;
-using orv3::CBoltInput;
 
 constexpr int kOrdinary = 0;
 constexpr int kFriction = 1;
@@ -100,15 +99,14 @@ TEST(BoltSteps, StrengthsThatAreNotLookedUpAreScaledAtEveryRun) {
 
 TEST(BoltSteps, SlipFactor) {
   struct {
-    int type, surface, steel;
+    int type, surface, steel, surfaceAfter;
     double mu;
-    int surfaceAfter;
   } cases[] = {
-      {kFriction, 0, 0, 0.45, 0}, {kFriction, 0, 2, 0.50, 0},   {kFriction, 1, 3, 0.40, 1},
-      {kFriction, 2, 1, 0.50, 2}, {kFriction, 3, 0, 0.30, 3},   {kFriction, 3, 2, 0.35, 3},
-      {kFriction, 4, 0, 0.30, 3}, {kFriction, 4, 3, 0.40, 3},  // 4 is changed to 3
-      {kFriction, 5, 0, 0.99, 5}, {kFriction, -1, 0, 0.99, -1}, {kFriction, 0, 4, 0.99, 0},
-      {kOrdinary, 4, 0, 0.99, 4}, {kBearing, 0, 0, 0.99, 0},
+      {kFriction, 0, 0, 0, 0.45}, {kFriction, 0, 2, 0, 0.50},   {kFriction, 1, 3, 1, 0.40},
+      {kFriction, 2, 1, 2, 0.50}, {kFriction, 3, 0, 3, 0.30},   {kFriction, 3, 2, 3, 0.35},
+      {kFriction, 4, 0, 3, 0.30}, {kFriction, 4, 3, 3, 0.40},  // 4 is changed to 3
+      {kFriction, 5, 0, 5, 0.99}, {kFriction, -1, 0, -1, 0.99}, {kFriction, 0, 4, 0, 0.99},
+      {kOrdinary, 4, 0, 4, 0.99}, {kBearing, 0, 0, 0, 0.99},
   };
   for (const auto& c : cases) {
     NormalBoltData group = BoltGroup({.type = c.type, .steel = c.steel, .surface = c.surface});
