@@ -15,6 +15,7 @@ constexpr double kTolerance = 0.1;      // pixels that an arc's chords may stray
 constexpr int kSubRows = 8;             // sample rows of a filled area in a pixel
 constexpr double kLetterWidth = 0.105;  // line width of letters, in font sizes
 constexpr double kThinnestLine = 1.0;   // pixels
+constexpr double kOnGrid = 1e-6;        // rounding of coordinates, pixels
 
 using CPolyline = std::vector<CPoint>;
 
@@ -51,6 +52,8 @@ class CRaster {
     Blend(color);
   }
 
+  // Whether upright and level lines are moved to the middle of a pixel, where they are sharp.
+  void SetSharp(bool sharp) { m_bSharp = sharp; }
   CBitmap Take() { return std::move(m_bitmap); }
 
  private:
@@ -149,8 +152,14 @@ class CRaster {
     }
   }
 
+  static double PixelMiddle(double at) { return std::floor(at + kOnGrid) + 0.5; }
+
   // A pixel is covered by how far its middle lies inside the line's edge.
   void StrokeSegment(CPoint a, CPoint b, double half) {
+    if (m_bSharp) {
+      if (std::fabs(a.x - b.x) < kOnGrid) a.x = b.x = PixelMiddle(a.x);
+      if (std::fabs(a.y - b.y) < kOnGrid) a.y = b.y = PixelMiddle(a.y);
+    }
     const double reach = half + 1;
     const int left = Clip(std::floor(std::min(a.x, b.x) - reach), m_bitmap.GetWidth());
     const int right = Clip(std::ceil(std::max(a.x, b.x) + reach), m_bitmap.GetWidth());
@@ -193,6 +202,7 @@ class CRaster {
   double m_dHeight;
   CBitmap m_bitmap;
   std::vector<float> m_arrCover;
+  bool m_bSharp = true;
   int m_left = 0;
   int m_right = 0;
   int m_top = 0;
@@ -201,6 +211,7 @@ class CRaster {
 
 void DrawLayer(CRaster& raster, const CDrawing& drawing, CLayer layer) {
   const CPen& pen = LayerPen(layer);
+  raster.SetSharp(true);
   for (const CFigure& figure : drawing.Figures()) {
     if (figure.m_nLayer != layer) continue;
     if (figure.m_bFilled) {
@@ -209,6 +220,7 @@ void DrawLayer(CRaster& raster, const CDrawing& drawing, CLayer layer) {
       raster.Stroke(figure.m_arrPath, pen.m_dWidth, pen.m_arrDash, pen.m_nLineColor);
     }
   }
+  raster.SetSharp(false);
   for (const CLabel& label : drawing.Labels()) {
     if (label.m_nLayer != layer) continue;
     raster.Stroke(LabelStrokes(label), label.m_dSize * kLetterWidth, {}, pen.m_nLineColor);
