@@ -290,6 +290,25 @@ TEST(BoltSteps, StraightCutAlongXCountsRows) {
   EXPECT_DOUBLE_EQ(group.m_dAreaY[2], 3585);
 }
 
+// 5.1.1 with staggered holes: the zigzag cut governs when its legs are little longer than the
+// straight way. M20, d0 = 21.5, legs sqrt(100^2 + 40^2) = 107.7033; 3 columns, 3 rows.
+TEST(BoltSteps, ZigzagCut) {
+  // x: (2 107.7033 + 100 - 5 21.5) 10 = 2079.066 < (100 + 200 - 3 21.5) 10 = 2355
+  NormalBoltData alongX =
+      BoltGroup({.layout = 1, .cols = 3, .rows = 3, .colSpace = 40, .rowSpace = 100, .Vx = 100});
+  alongX.BoltYanSuan();
+  EXPECT_NEAR(alongX.m_dAreaX[3], 2079.066, 1e-3);
+  EXPECT_NEAR(alongX.m_dSigmaX[0], 48.09852, 1e-5);
+  EXPECT_NEAR(alongX.m_dSigmaX[1], 100e3 / 2355, 1e-9);
+  // y: (2 107.7033 + 100 - 3 21.5) 10 = 2509.066 < (100 + 200 - 2 21.5) 10 = 2570
+  NormalBoltData alongY =
+      BoltGroup({.layout = 1, .cols = 3, .rows = 3, .colSpace = 100, .rowSpace = 40, .Vy = 100});
+  alongY.BoltYanSuan();
+  EXPECT_NEAR(alongY.m_dAreaY[3], 2509.066, 1e-3);
+  EXPECT_NEAR(alongY.m_dSigmaY[0], 39.85547, 1e-5);
+  EXPECT_NEAR(alongY.m_dSigmaY[1], 100e3 / 2570, 1e-9);
+}
+
 // A bolt type outside 0 to 2 is judged as the bearing type, and its old stresses are scaled.
 TEST(BoltSteps, UnknownBoltType) {
   NormalBoltData group = BoltGroup({.type = 3, .Vx = 60, .M = 100});
