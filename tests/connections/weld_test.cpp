@@ -1,4 +1,4 @@
-// Fillet and butt welds worked by hand from GB 50017-2003, 7.1.1 to 7.1.5, and the behaviours that
+// Fillet and butt welds worked by hand from GB 50017-2003, 7.1.2 to 7.1.5, and the behaviours that
 // hosts know. Forces in kN, lengths in mm, stresses in kN/mm2.
 #include <gtest/gtest.h>
 
