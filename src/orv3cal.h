@@ -11,6 +11,7 @@
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "sections/outline.h"
+#include "sections/section_check.h"
 #include "sections/section_picture.h"
 #include "sections/section_property.h"
 #include "sections/section_style.h"

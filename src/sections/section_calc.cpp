@@ -1,8 +1,9 @@
 // The properties of the shapes that have formulas of their own. The workers' numbers differ from
 // the style numbers; the dispatch tells which belongs to which.
-#include <algorithm>
+#include <iterator>
 #include <span>
 
+#include "sections/plate_h.h"
 #include "sections/section_property.h"
 #include "sections/steel_jm_data.h"
 
@@ -66,23 +67,6 @@ void SetCentroid(CSteelJMData& jm, double xo, double yo) {
   jm.m_dXo = xo;
   jm.m_dYo = yo;
 }
-
-// The three plates of a general H: top flange, web, bottom flange. The section's left edge is that
-// of the wider overhang; negative overhangs (the arms of a cross) start inside the web.
-struct CPlatesOfH {
-  explicit CPlatesOfH(const double* s) {
-    const double tw = s[0], H = s[1], tb = s[2], tt = s[3];
-    double xt = std::max(s[6] - s[4], 0.0);
-    double xb = std::max(s[4] - s[6], 0.0);
-    if (s[4] < 0) xt = xb = -s[4];
-    plates[0] = {xt, H - tt, s[4] + tw + s[5], tt};
-    plates[1] = {xt + s[4], tb, tw, H - tb - tt};
-    plates[2] = {xb, 0, s[6] + tw + s[7], tb};
-    width = std::max({0.0, s[4], s[6]}) + tw + std::max({0.0, s[5], s[7]});
-  }
-  CRect plates[3] = {};
-  double width = 0;
-};
 
 double CenterX(const CRect& r) { return r.x + r.width / 2; }
 double CenterY(const CRect& r) { return r.y + r.height / 2; }
@@ -154,8 +138,13 @@ void CSteelJMData::CalSectCharacterStyle6(CSteelJMData& jm) {
 
 void CSteelJMData::CalSectCharacterStyle8(CSteelJMData& jm) {
   if (jm.m_nStyle != 9) return;
-  const CPlatesOfH h(jm.m_dSize);
-  const CRect &top = h.plates[0], &web = h.plates[1], &bottom = h.plates[2];
+  const orv3::CPlateH h = orv3::PlateHOf(9, jm.m_dSize);
+  const CRect plates[] = {
+      {h.TopEdge(), h.m_dHeight - h.m_dTop, h.TopWidth(), h.m_dTop},
+      {h.WebEdge(), h.m_dBottom, h.m_dWeb, h.WebHeight()},
+      {h.BottomEdge(), 0, h.BottomWidth(), h.m_dBottom},
+  };
+  const auto& [top, web, bottom] = plates;
   double x = 0, y = 0;
   CalRectBarycenterAdd(Area(top), CenterX(top), CenterY(top), Area(web), CenterX(web), CenterY(web),
                        x, y);
@@ -163,12 +152,12 @@ void CSteelJMData::CalSectCharacterStyle8(CSteelJMData& jm) {
                        jm.m_dXo, jm.m_dYo);
   jm.m_dA = Area(top) + Area(web) + Area(bottom);
   jm.m_dIxo = jm.m_dIyo = 0;
-  for (const CRect& r : h.plates) {
+  for (const CRect& r : plates) {
     jm.m_dIxo += CalRectGxj(r.width, r.height, CenterY(r) - jm.m_dYo);
     jm.m_dIyo += CalRectGxj(r.height, r.width, CenterX(r) - jm.m_dXo);
   }
-  CalSectMomByI0(jm, h.width, jm.m_dSize[1]);
-  SetFirstMoments(jm, h.plates, h.width, jm.m_dSize[1]);
+  CalSectMomByI0(jm, h.Width(), h.m_dHeight);
+  SetFirstMoments(jm, plates, h.Width(), h.m_dHeight);
 }
 
 void CSteelJMData::CalSectCharacterStyle2(CSteelJMData& jm) {

@@ -33,8 +33,8 @@ TEST(Sketch, EveryNumberIsAPictureOfItsOwnWithinItsFrame) {
     }
     EXPECT_GT(dark, 300) << number;
     EXPECT_EQ(onEdge, 0) << number << " is cut";
-    const std::vector<std::uint8_t> bmp = bitmap.ToBmp();
-    EXPECT_TRUE(pictures.emplace(std::string(bmp.begin(), bmp.end()), number).second) << number;
+    const auto bytes = bitmap.ToBmp();
+    EXPECT_TRUE(pictures.emplace(std::string(bytes.begin(), bytes.end()), number).second) << number;
     const std::string svg = orv3::SketchSvg(number);
     CheckSvg(svg);
     EXPECT_TRUE(drawings.emplace(svg, number).second) << number;
