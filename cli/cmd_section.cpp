@@ -3,6 +3,7 @@
 #include <iostream>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "command.h"
 #include "framework/number_text.h"
@@ -17,7 +18,7 @@ namespace {
 struct COptions {
   std::string style;
   std::vector<std::string> sizes;
-  std::vector<std::string> base;
+  std::pair<std::string, std::string> base{"0", "0"};
   std::string name;
   bool json = false;
   std::string svg;
@@ -59,10 +60,8 @@ CSteelJMData SectionOf(const COptions& options) {
   CSteelJMData section;
   section.SetSectSize(style.m_nStyle, sizes);
   section.SetName(name);
-  if (!options.base.empty()) {
-    section.m_dX = ParseNumber(options.base[0], "--base X");
-    section.m_dY = ParseNumber(options.base[1], "--base Y");
-  }
+  section.m_dX = ParseNumber(options.base.first, "--base X");
+  section.m_dY = ParseNumber(options.base.second, "--base Y");
   CSteelJMData::CalSectCharacterStyle(section);
   return section;
 }
@@ -78,7 +77,6 @@ void AddSectionCommand(CLI::App& app, CExit&) {
   command
       ->add_option("--base", options->base,
                    "Base point of the axes X, Y, mm from the lower left corner [0 0]")
-      ->expected(2)
       ->type_name("X Y");
   command->add_option("--name", options->name, "Name of the section")->type_name("NO");
   command->add_flag("--json", options->json, "Print JSON");

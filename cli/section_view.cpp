@@ -58,7 +58,6 @@ std::string SizeSymbol(const CSizeColumn& size) {
 CSteelJMData SampleSection(const CSectionStyle& style) {
   CSteelJMData section;
   section.m_nStyle = style.m_nStyle;
-  section.SetName(style.m_sample.m_szName);
   std::copy(std::begin(style.m_sample.m_arrSize), std::end(style.m_sample.m_arrSize),
             section.m_dSize);
   section.m_dX = section.m_dY = style.m_sample.m_dBase;

@@ -11,7 +11,7 @@ namespace orv3 {
 
 std::string SizeSymbol(const CSizeColumn& size);  // "tf" of "tf(mm)"
 
-CSteelJMData SampleSection(const CSectionStyle& style);  // computed
+CSteelJMData SampleSection(const CSectionStyle& style);  // computed, without a name
 
 // Of computed records of a style from 0 to 14.
 void PrintSection(const CSteelJMData& section);
