@@ -15,6 +15,7 @@ constexpr double kTolerance = 0.1;      // pixels that an arc's chords may stray
 constexpr int kSubRows = 8;             // sample rows of a filled area in a pixel
 constexpr double kLetterWidth = 0.105;  // line width of letters, in font sizes
 constexpr double kThinnestLine = 1.0;   // pixels
+constexpr double kMostDashes = 1e4;     // of one line; more lie beyond any bitmap
 constexpr double kOnGrid = 1e-6;        // rounding of coordinates, pixels
 
 using CPolyline = std::vector<CPoint>;
@@ -34,8 +35,7 @@ class CRaster {
                    static_cast<std::size_t>(m_bitmap.GetHeight())) {}
 
   void Fill(const std::vector<CPath>& loops, std::uint32_t color) {
-    std::vector<CPolyline> polygons;
-    for (const CPath& loop : loops) polygons.push_back(ToPixels(loop));
+    const std::vector<CPolyline> polygons = ToPixels(loops);
     Begin(polygons, 1);
     for (int y = m_top; y < m_bottom; ++y)
       for (int i = 0; i < kSubRows; ++i) FillRow(polygons, y, y + (i + 0.5) / kSubRows);
@@ -44,8 +44,7 @@ class CRaster {
 
   void Stroke(const std::vector<CPath>& paths, double width, const double (&dash)[4],
               std::uint32_t color) {
-    std::vector<CPolyline> lines;
-    for (const CPath& path : paths) lines.push_back(ToPixels(path));
+    const std::vector<CPolyline> lines = ToPixels(paths);
     const double half = std::max(width * m_dScale, kThinnestLine) / 2;
     Begin(lines, half + 1);
     for (const CPolyline& line : lines) StrokeLine(line, half, dash);
@@ -62,10 +61,14 @@ class CRaster {
     return side > 0 ? static_cast<int>(std::lround(std::min(side, 1e6))) : 0;
   }
 
-  CPolyline ToPixels(const CPath& path) const {
-    CPolyline points = Flattened(path, kTolerance / m_dScale);
-    for (CPoint& p : points) p = {p.x * m_dScale, (m_dHeight - p.y) * m_dScale};
-    return points;
+  std::vector<CPolyline> ToPixels(const std::vector<CPath>& paths) const {
+    std::vector<CPolyline> lines;
+    lines.reserve(paths.size());
+    for (const CPath& path : paths) {
+      lines.push_back(Flattened(path, kTolerance / m_dScale));
+      for (CPoint& p : lines.back()) p = {p.x * m_dScale, (m_dHeight - p.y) * m_dScale};
+    }
+    return lines;
   }
 
   // Clears the pixels that the lines may touch.
@@ -143,7 +146,9 @@ class CRaster {
       const double part = std::clamp(s / length, 0.0, 1.0);
       return CPoint{a.x + (b.x - a.x) * part, a.y + (b.y - a.y) * part};
     };
-    for (double start = -std::fmod(done, period); start < length; start += period) {
+    const int count = static_cast<int>(std::min(length / period + 2, kMostDashes));
+    for (int i = 0; i < count; ++i) {
+      const double start = i * period - std::fmod(done, period);
       const double second = start + (dash[0] + dash[1]) * m_dScale;
       for (const auto& [from, size] : {std::pair{start, dash[0]}, std::pair{second, dash[2]}}) {
         const double to = from + size * m_dScale;

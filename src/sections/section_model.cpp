@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "sections/plate_h.h"
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 
@@ -28,54 +29,26 @@ void CalculateAs(int model, std::initializer_list<double> modelSizes, CSteelJMDa
   std::copy_n(sizes, orv3::FindSectionStyle(own)->m_nSizes, jm.m_dSize);
 }
 
+void CalculateAsH(int style, CSteelJMData& jm) {
+  if (jm.m_nStyle != style) return;
+  const orv3::CPlateH h = orv3::PlateHOf(style, jm.m_dSize);
+  CalculateAs(kGeneralH,
+              {h.m_dWeb, h.m_dHeight, h.m_dBottom, h.m_dTop, h.m_dTopLeft, h.m_dTopRight,
+               h.m_dBottomLeft, h.m_dBottomRight},
+              jm);
+}
+
 }  // namespace
 
-// T: no bottom flange.
-void CSteelJMData::CalSectCharacterStyle7(CSteelJMData& jm) {
-  if (jm.m_nStyle != 8) return;
-  const double *s = jm.m_dSize, b = s[0], h = s[1], bh = s[2], bf1 = s[3], bf2 = s[4];
-  CalculateAs(kGeneralH, {b, h, 0, bh, bf1, bf2, 0, 0}, jm);
-}
+void CSteelJMData::CalSectCharacterStyle7(CSteelJMData& jm) { CalculateAsH(8, jm); }
+void CSteelJMData::CalSectCharacterStyle9(CSteelJMData& jm) { CalculateAsH(10, jm); }
+void CSteelJMData::CalSectCharacterStyle10(CSteelJMData& jm) { CalculateAsH(11, jm); }
+void CSteelJMData::CalSectCharacterStyle11(CSteelJMData& jm) { CalculateAsH(12, jm); }
+void CSteelJMData::CalSectCharacterStyle12(CSteelJMData& jm) { CalculateAsH(13, jm); }
+void CSteelJMData::CalSectCharacterStyle14(CSteelJMData& jm) { CalculateAsH(0, jm); }
 
-// L: the leg is the bottom flange, to the right.
-void CSteelJMData::CalSectCharacterStyle9(CSteelJMData& jm) {
-  if (jm.m_nStyle != 10) return;
-  const double *s = jm.m_dSize, b = s[0], h = s[1], bh = s[2], bf = s[3];
-  CalculateAs(kGeneralH, {b, h, bh, 0, 0, 0, 0, bf}, jm);
-}
-
-// Z: the top flange to the left, the bottom flange to the right.
-void CSteelJMData::CalSectCharacterStyle10(CSteelJMData& jm) {
-  if (jm.m_nStyle != 11) return;
-  const double *s = jm.m_dSize, b = s[0], h = s[1], bh1 = s[2], bh2 = s[3], bf1 = s[4], bf2 = s[5];
-  CalculateAs(kGeneralH, {b, h, bh1, bh2, bf1, 0, 0, bf2}, jm);
-}
-
-// Channel: both flanges to the right.
-void CSteelJMData::CalSectCharacterStyle11(CSteelJMData& jm) {
-  if (jm.m_nStyle != 12) return;
-  const double *s = jm.m_dSize, b = s[0], h = s[1], bh1 = s[2], bh2 = s[3], bf1 = s[4], bf2 = s[5];
-  CalculateAs(kGeneralH, {b, h, bh1, bh2, 0, bf2, 0, bf1}, jm);
-}
-
-// Cross: the horizontal bar is the model's web, the vertical arms its flanges, drawn in from it.
-void CSteelJMData::CalSectCharacterStyle12(CSteelJMData& jm) {
-  if (jm.m_nStyle != 13) return;
-  const double *s = jm.m_dSize, b = s[0], h = s[1], bh1 = s[2], bh2 = s[3], bf1 = s[4], bf2 = s[5];
-  CalculateAs(kGeneralH, {b + bf1 + bf2, h, bh1, bh2, -bf1, -bf2, -bf1, -bf2}, jm);
-}
-
-// Symmetric H.
-void CSteelJMData::CalSectCharacterStyle14(CSteelJMData& jm) {
-  if (jm.m_nStyle != 0) return;
-  const double *s = jm.m_dSize, b = s[0], h = s[1], tf = s[2], tw = s[3];
-  const double overhang = (b - tw) / 2;
-  CalculateAs(kGeneralH, {tw, h, tf, tf, overhang, overhang, overhang, overhang}, jm);
-}
-
-// Symmetric box.
 void CSteelJMData::CalSectCharacterStyle15(CSteelJMData& jm) {
   if (jm.m_nStyle != 1) return;
-  const double *s = jm.m_dSize, b = s[0], h = s[1], t = s[2];
+  const double b = jm.m_dSize[0], h = jm.m_dSize[1], t = jm.m_dSize[2];
   CalculateAs(kGeneralBox, {b, h, t, t, t, t}, jm);
 }

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "framework/array.h"
 #include "framework/export.h"
@@ -27,6 +28,8 @@ class ORV3CAL_API CSteelJMData {
   CSteelJMData(const CSteelJMData& other);
   CSteelJMData& operator=(const CSteelJMData& other);
   virtual ~CSteelJMData() = default;
+
+  void SetName(std::wstring_view name);  // cut to 49 characters
 
   // --- Sizes: each clears the array first -------------------------------------------------------
   // The sizes that give the outer extents: s0 and s1, or s0 alone (styles 4, 6 and 7).

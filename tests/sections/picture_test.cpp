@@ -223,7 +223,11 @@ TEST(SectionPicture, ShowsEverySizeWithItsSignAndValue) {
     std::size_t i = 0;
     std::istringstream words(signs[c.style]);
     for (std::string sign; words >> sign; ++i) {
-      const std::string text = ">" + sign + " = " + ToUtf8(FormatG(c.sizes[i])) + "<";
+      std::string text = ">";
+      text += sign;
+      text += " = ";
+      text += ToUtf8(FormatG(c.sizes[i]));
+      text += "<";
       EXPECT_NE(svg.find(text), std::string::npos) << c.style << " " << text;
     }
     for (const char* letter : {">X<", ">Y<", ">X0<", ">Y0<"})
@@ -245,7 +249,8 @@ TEST(SectionPicture, NeverLetsTextsCollide) {
       std::string what = std::to_string(c.style);
       for (double& size : sizes) {
         size *= std::exp(std::uniform_real_distribution(-3.4, 3.4)(random));
-        what += " " + std::to_string(size);
+        what += ' ';
+        what += std::to_string(size);
       }
       drawn += !SectionOutline(c.style, sizes).m_arrLoop.empty();
       CheckLegible(SectionPictureDrawing(Picture(c.style, sizes, {0, 0})), what);

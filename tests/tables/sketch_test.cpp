@@ -16,7 +16,7 @@ std::vector<int> Resources() {
 }
 
 TEST(Sketch, EveryNumberIsAPictureOfItsOwnWithinItsFrame) {
-  std::map<std::vector<std::uint8_t>, int> pictures;
+  std::map<std::string, int> pictures;
   std::map<std::string, int> drawings;
   for (const int number : Resources()) {
     const CBitmap bitmap = orv3::SketchBitmap(number);
@@ -33,7 +33,8 @@ TEST(Sketch, EveryNumberIsAPictureOfItsOwnWithinItsFrame) {
     }
     EXPECT_GT(dark, 300) << number;
     EXPECT_EQ(onEdge, 0) << number << " is cut";
-    EXPECT_TRUE(pictures.emplace(bitmap.ToBmp(), number).second) << number;
+    const auto bytes = bitmap.ToBmp();
+    EXPECT_TRUE(pictures.emplace(std::string(bytes.begin(), bytes.end()), number).second) << number;
     const std::string svg = orv3::SketchSvg(number);
     CheckSvg(svg);
     EXPECT_TRUE(drawings.emplace(svg, number).second) << number;
