@@ -114,6 +114,12 @@ const std::string& Sqlite() {
   return path;
 }
 
+// A value that no save before has written, in whatever run.
+int NewValue() {
+  static int value = 0;
+  return ++value;
+}
+
 void SaveOneRowOrv3(benchmark::State& state) {
   CDataTable table;
   table.SetTableName(orv3::FromUtf8(TableName(kTables - 1)));
@@ -123,7 +129,8 @@ void SaveOneRowOrv3(benchmark::State& state) {
   for (auto _ : state) {
     const int position = (i * 37) % kLongRows;
     CDataItem row = std::as_const(table.m_arrItem)[position];
-    row[5].m_strValue = orv3::FormatInt(++i);
+    row[5].m_strValue = orv3::FormatInt(NewValue());
+    ++i;
     Check(table.ModifyTableItem(row.m_nIndex, row) == 1, "changing");
     Check(table.WriteTable(Store(), 0, 0) == 1, "saving");
   }
@@ -138,8 +145,8 @@ void SaveOneRowSqlite(benchmark::State& state) {
   Check(sqlite3_prepare_v2(base, sql.c_str(), -1, &update, nullptr) == SQLITE_OK, "prepare");
   int i = 0;
   for (auto _ : state) {
-    const std::string key = Value((i * 37) % kLongRows, 0);
-    sqlite3_bind_double(update, 1, ++i);
+    const std::string key = Value((i++ * 37) % kLongRows, 0);
+    sqlite3_bind_double(update, 1, NewValue());
     sqlite3_bind_text(update, 2, key.c_str(), -1, SQLITE_TRANSIENT);
     Check(sqlite3_step(update) == SQLITE_DONE, "update");
     sqlite3_reset(update);

@@ -65,7 +65,7 @@ int Reserve(CStoreFile& file, int blocks, CTableDirectory& directory, CDataFileI
 bool OwnsItsBlocks(const CTableDirectory& directory, int record, const CDataFileInfo& info) {
   std::vector<orv3::CFileRange> ranges = orv3::BlocksOf(info, directory.Offset());
   if (ranges.empty()) return false;
-  for (int i = 0; i < directory.Count(); ++i) {
+  for (int i = 0, count = directory.Count(); i < count; ++i) {
     if (i == record) continue;
     for (const orv3::CFileRange& range : orv3::BlocksOf(directory.Record(i), directory.Offset())) {
       const bool apart = std::all_of(ranges.begin(), ranges.end(), [&range](const auto& own) {
