@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <type_traits>
 
 #include "framework/utf8.h"
 
@@ -131,7 +132,7 @@ std::string ToAnsi(std::wstring_view text, bool* missing) {
   std::string bytes;
   bytes.reserve(text.size());
   for (const wchar_t ch : text) {
-    const auto code = static_cast<std::uint32_t>(ch);
+    const auto code = std::uint32_t{static_cast<std::make_unsigned_t<wchar_t>>(ch)};
     const std::uint16_t encoded = code < 0x10000 ? page.m_arrEncode[code] : std::uint16_t{0};
     if (encoded > 0xFF) bytes += static_cast<char>(encoded >> 8);
     if (encoded == 0 && missing) *missing = true;

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <iterator>
 #include <string>
+#include <type_traits>
 
 #include "sections/record_store.h"
 
@@ -19,7 +20,7 @@ constexpr std::size_t kStyleAt = 112;
 constexpr std::size_t kDoublesAt = 120;
 constexpr std::size_t kSizesAt = 336;
 constexpr std::size_t kNameKept = 47;  // characters before the marks
-static_assert(kSizesAt + CSteelJMData::kSizeCount * 8 == kRecordImage);
+static_assert(kSizesAt + std::size_t{CSteelJMData::kSizeCount} * 8 == kRecordImage);
 
 // The base point and the properties as they follow each other in an image.
 using JM = CSteelJMData;
@@ -47,7 +48,7 @@ std::uint64_t Take(const CRecordImage& image, std::size_t at) {
 std::u16string NameUnits(const wchar_t (&name)[kNameUnits]) {
   std::u16string units;
   for (const wchar_t ch : name) {
-    const auto code = static_cast<std::uint32_t>(ch);
+    const auto code = std::uint32_t{static_cast<std::make_unsigned_t<wchar_t>>(ch)};
     if (code == 0) break;
     if (code >= 0x10000) {
       units += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10 & 0x3FF));

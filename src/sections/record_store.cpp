@@ -113,7 +113,7 @@ bool IsPlausible(const CStoreFile& file, int group, const FileInfo& info) {
   const int headersEnd = group == kSingleGroup ? kGroupHeaderStep + 12 : kGroupHeadersEnd;
   const auto size = static_cast<std::int64_t>(file.Size());
   if (info.m_nOffset < headersEnd) return false;
-  if (EndOf(info) > size + kFirstSlot + (kSystemGroups + 1) * kGroupStep) return false;
+  if (EndOf(info) > size + kFirstSlot + std::int64_t{kSystemGroups + 1} * kGroupStep) return false;
   for (int g = group + 1; group != kSingleGroup && g < kSystemGroups; ++g) {
     FileInfo other;
     if (ReadGroup(file, g, other) && other.m_nOffset < EndOf(info)) return false;
@@ -200,6 +200,7 @@ int CSteelJMData::WriteJMFileInfo(CStoreFile* file, int group, int count, FileIn
   return group == kSingleGroup || MakeRoom(*file, group, EndOf(now));
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): callers pass the record by value
 int CSteelJMData::WriteTableItem(CStoreFile* file, long position, CSteelJMData record,
                                  int bUserStore) {
   if (!file || position < 0) return 0;

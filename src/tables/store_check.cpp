@@ -59,7 +59,7 @@ class CVerify {
   }
 
   std::int64_t RecordAt(int i) const {
-    return m_directory.Offset() + kInfoLineSize + kRecordSize * i;
+    return m_directory.Offset() + kInfoLineSize + std::int64_t{kRecordSize} * i;
   }
 
   void Record(int i) {

@@ -38,7 +38,7 @@ CString CTableDirectory::InfoLine() const {
 }
 
 std::string_view CTableDirectory::RecordBytes(int i) const {
-  const auto at = static_cast<std::size_t>(kInfoLineSize + kRecordSize * i);
+  const auto at = kInfoLineSize + kRecordSize * static_cast<std::size_t>(i);
   return std::string_view(m_strBytes).substr(at, kRecordSize);
 }
 
@@ -60,7 +60,7 @@ int CTableDirectory::Find(const CString& table) const {
 }
 
 void CTableDirectory::SetRecord(int i, const CDataFileInfo& info) {
-  const auto at = static_cast<std::size_t>(kInfoLineSize + kRecordSize * i);
+  const auto at = kInfoLineSize + kRecordSize * static_cast<std::size_t>(i);
   m_strBytes.replace(at, kRecordSize, EncodeField(RecordForm(info), kRecordSize));
 }
 

@@ -17,7 +17,9 @@ class CConverter {
     if (IsOpen()) ::iconv_close(m_handle);
   }
 
-  bool IsOpen() const { return m_handle != reinterpret_cast<iconv_t>(-1); }
+  bool IsOpen() const {
+    return m_handle != reinterpret_cast<iconv_t>(-1);  // NOLINT(performance-no-int-to-ptr)
+  }
 
   // The character of the basic plane that the bytes stand for; 0 for none. `incomplete` tells
   // whether they are the beginning of a longer character.
