@@ -58,9 +58,9 @@ void NoSectionLeft(const NormalBoltData& record, std::vector<CCaseFault>& faults
 const char* const kBoltGrades[5] = {"4.6", "4.8", "5.6", "8.8", "10.9"};
 
 const CTextLiteral kBoltTypeNames[3] = {
-    {"普通螺栓", "ordinary bolts"},
-    {"高强度螺栓摩擦型连接", "high-strength bolts, friction type"},
-    {"高强度螺栓承压型连接", "high-strength bolts, bearing type"},
+    {"普通螺栓", "ordinary"},
+    {"高强度摩擦型", "friction type"},
+    {"高强度承压型", "bearing type"},
 };
 
 const CTextLiteral kSurfaceNames[5] = {

@@ -9,15 +9,6 @@ namespace orv3 {
 
 const char* const kSteels[4] = {"Q235", "Q345", "Q390", "Q420"};
 
-const CTextLiteral kLoadCaseNames[6] = {
-    {"轴力 N", "axial force N"},
-    {"轴力 N 和弯矩 M", "axial force N and moment M"},
-    {"轴力 N 和弯矩 M", "axial force N and moment M"},
-    {"弯矩 M 和剪力 V", "moment M and shear V"},
-    {"轴力 N、弯矩 M 和剪力 V", "axial force N, moment M and shear V"},
-    {"轴力 N、弯矩 M 和剪力 V", "axial force N, moment M and shear V"},
-};
-
 std::string PlainNumber(double value) {
   const double size = std::fabs(value);
   if (!std::isfinite(value) || size >= 1e9 || (size != 0 && size < 1e-4))

@@ -39,7 +39,6 @@ constexpr bool TakesV(int loadCase) noexcept { return loadCase >= 3; }
 void WarnOfWeldLoads(int loadCase, double N, double M, double V,
                      std::vector<CCaseWarning>& warnings);
 
-extern const CTextLiteral kLoadCaseNames[6];
 extern const char* const kSteels[4];
 
 }  // namespace orv3

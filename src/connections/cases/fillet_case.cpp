@@ -81,11 +81,7 @@ void DetailingWarnings(const CFilletCase& input, std::vector<CCaseWarning>& warn
 }  // namespace
 
 const CTextLiteral kGrooveNames[5] = {
-    {"V 形坡口", "V groove"},
-    {"单边 V 形坡口", "single-bevel groove"},
-    {"K 形坡口", "double-bevel (K) groove"},
-    {"U 形坡口", "U groove"},
-    {"J 形坡口", "J groove"},
+    {"V 形", "V"}, {"单边 V 形", "bevel"}, {"K 形", "K"}, {"U 形", "U"}, {"J 形", "J"},
 };
 
 std::span<const CInputKey<CFilletCase>> CFilletCheck::InputKeys() {

@@ -12,7 +12,7 @@ namespace orv3 {
 namespace {
 
 constexpr double kPageWidth = 640;
-constexpr double kMostHeight = 340;  // of the plate on the page
+constexpr double kMostHeight = 240;  // of the plate on the page
 constexpr double kMargin = 66;       // around the plate: dimensions and loads
 
 // The interaction ratio of one bolt; sense +1 for a clockwise torque.

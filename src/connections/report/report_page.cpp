@@ -12,21 +12,30 @@ namespace {
 constexpr const char* kStyle = R"(
 @page { size: A4; margin: 16mm 15mm 18mm 18mm; }
 * { box-sizing: border-box; }
-body { font: 10.5pt/1.5 "Noto Sans CJK SC", "Source Han Sans SC", "Microsoft YaHei",
+body { font: 9.5pt/1.4 "Noto Sans CJK SC", "Source Han Sans SC", "Microsoft YaHei",
        "WenQuanYi Micro Hei", Arial, sans-serif; color: #16202b; margin: 0 auto; max-width: 178mm; }
 article + article { break-before: page; }
 header.doc { display: flex; justify-content: space-between; border-bottom: 1.5pt solid #2f5d94;
        font-size: 9pt; color: #44535f; padding: 4mm 0 1mm; }
-h1 { font-size: 16pt; margin: 5mm 0 2mm; }
-h2 { font-size: 12pt; margin: 5mm 0 1.5mm; color: #234a78; break-after: avoid; }
+h1 { font-size: 15pt; margin: 3mm 0 2mm; }
+h2 { font-size: 11pt; margin: 3.5mm 0 1mm; color: #234a78; break-after: avoid; }
 table { width: 100%; border-collapse: collapse; }
-th, td { padding: 1.1mm 2mm; border: 0.5pt solid #c3ccd4; text-align: left; vertical-align: top; }
+th, td { padding: 0.6mm 1.6mm; border: 0.5pt solid #c3ccd4; text-align: left; vertical-align: top; }
 th { background: #eef2f6; font-weight: 600; }
 tr, figure, .box { break-inside: avoid; }
 thead { display: table-header-group; }
 td.num, th.num { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
 td.clause { white-space: nowrap; font-size: 9pt; color: #44535f; }
-.inputs td { width: 16%; } .inputs td.name { width: 22%; } .inputs td.unit { width: 12%; }
+.inputs { table-layout: fixed; } .inputs td { width: 13%; overflow-wrap: anywhere; }
+.inputs td.name { width: 26%; } .inputs td.unit { width: 11%; }
+.inputs td.num { white-space: normal; }
+td.res { text-align: right; font-weight: 600; font-variant-numeric: tabular-nums;
+      white-space: nowrap; border-right: none; vertical-align: bottom; }
+td.unit { white-space: nowrap; } td.res + td.unit { border-left: none; padding-left: 0;
+      vertical-align: bottom; }
+table.steps { table-layout: fixed; }
+table.verdicts { break-inside: avoid; }
+td.tick { white-space: nowrap; }
 .eq { display: grid; grid-template-columns: 4.2em 1fr; column-gap: 0.4em; }
 .eq > .sym { text-align: right; } .eq > .rhs { overflow-wrap: anywhere; }
 .m { font-family: "Cambria Math", "STIX Two Text", "Liberation Serif", "Times New Roman", serif; }
@@ -39,7 +48,7 @@ sub, sup { font-size: 0.7em; line-height: 0; }
 .box.pass { background: #eef8f1; } .box.fail { background: #fdf0ef; }
 .warn { border-color: #b26a00; background: #fff7e8; }
 .warn ul { margin: 0; padding-left: 5mm; }
-.bar { position: relative; height: 3.2mm; min-width: 24mm; background: #e7ecf0; }
+.bar { position: relative; height: 3.2mm; width: 22mm; margin-top: 1mm; background: #e7ecf0; }
 .bar > i { position: absolute; inset: 0 auto 0 0; background: #3c8d5a; }
 .bar.over > i { background: #c0392b; }
 figure { margin: 2mm 0; text-align: center; }
@@ -103,21 +112,17 @@ std::string Bar(double utilisation) {
          "\"><i style=\"width:" + width + "%\"></i></div>";
 }
 
+// The symbol, the formula and the numbers, one line each with their equals signs aligned.
 std::string Equation(const CReportStep& step) {
   std::string html =
       "<div class=\"eq m\"><span class=\"sym\">" + Formula(step.m_strSymbol) + "</span>";
-  const auto line = [&](const std::string& rhs, bool bFirst) {
-    if (!bFirst) html += "<span></span>";
-    html += "<span class=\"rhs\">= " + rhs + "</span>";
-  };
   bool bFirst = true;
   for (const std::string* text : {&step.m_strFormula, &step.m_strNumbers}) {
     if (text->empty()) continue;
-    line(Formula(*text), bFirst);
+    if (!bFirst) html += "<span></span>";
+    html += "<span class=\"rhs\">= " + Formula(*text) + "</span>";
     bFirst = false;
   }
-  const std::string unit = *step.m_szUnit != 0 ? std::string(" ") + step.m_szUnit : "";
-  line("<b>" + Escaped(step.m_strResult) + "</b>" + unit, bFirst);
   return html + "</div>";
 }
 
@@ -247,14 +252,19 @@ void CReportBody::Figure(const CDrawing& drawing, const std::string& caption) {
 
 void CReportBody::Steps(std::span<const CReportStep> steps) {
   static constexpr CTextLiteral kStep = {"计算内容", "Step"};
-  static constexpr CTextLiteral kFormula = {"公式、代入与结果", "Formula, numbers, result"};
+  static constexpr CTextLiteral kFormula = {"公式与代入", "Formula and numbers"};
+  static constexpr CTextLiteral kResult = {"结果", "Result"};
   static constexpr CTextLiteral kClause = {"条文", "Clause"};
-  m_strHtml += std::string("<table><thead><tr><th style=\"width:27%\">") + Text(kStep) +
-               "</th><th>" + Text(kFormula) + "</th><th style=\"width:15%\">" + Text(kClause) +
+  m_strHtml += std::string("<table class=\"steps\"><thead><tr><th style=\"width:24%\">") +
+               Text(kStep) + "</th><th>" + Text(kFormula) +
+               "</th><th class=\"num\" style=\"width:11%\">" + Text(kResult) +
+               "</th><th style=\"width:9%\"></th><th style=\"width:13%\">" + Text(kClause) +
                "</th></tr></thead>\n";
   for (const CReportStep& step : steps) {
     m_strHtml += std::string("<tr><td>") + Text(step.m_name) + "</td><td>" + Equation(step) +
-                 "</td><td class=\"clause\">" + Clause(step.m_strClause) + "</td></tr>\n";
+                 "</td><td class=\"res\">" + Escaped(step.m_strResult) +
+                 "</td><td class=\"unit\">" + step.m_szUnit + "</td><td class=\"clause\">" +
+                 Clause(step.m_strClause) + "</td></tr>\n";
   }
   m_strHtml += "</table>\n";
 }
@@ -265,7 +275,7 @@ void CReportBody::Verdicts(std::span<const CReportVerdict> verdicts) {
                                            {"条文", "Clause"},
                                            {"利用率", "Utilisation"},
                                            {"结论", "Verdict"}};
-  m_strHtml += "<table><thead><tr>";
+  m_strHtml += "<table class=\"verdicts\"><thead><tr>";
   for (std::size_t i = 0; i < std::size(kHead); ++i) {
     m_strHtml +=
         std::string("<th") + (i == 3 ? " colspan=\"2\"" : "") + ">" + Text(kHead[i]) + "</th>";
@@ -277,7 +287,8 @@ void CReportBody::Verdicts(std::span<const CReportVerdict> verdicts) {
                  Formula(verdict.m_strNumbers) + "</div></td><td class=\"clause\">" +
                  Clause(verdict.m_strClause) + "</td><td class=\"num\">" +
                  Percent(verdict.m_dUtilisation) + "</td><td>" + Bar(verdict.m_dUtilisation) +
-                 "</td><td>" + Verdict(verdict.m_bPass, m_nLanguage) + "</td></tr>\n";
+                 "</td><td class=\"tick\">" + Verdict(verdict.m_bPass, m_nLanguage) +
+                 "</td></tr>\n";
   }
   m_strHtml += "</table>\n";
 }

@@ -1,6 +1,7 @@
 // The reports of fillet and butt welds: GB 50017-2003, 7.1.1 to 7.1.5.
 #include <algorithm>
 #include <cmath>
+#include <type_traits>
 
 #include "connections/cases/case_rules.h"
 #include "connections/report/connection_report.h"
@@ -41,7 +42,9 @@ CStressTerms NormalStress(int loadCase, double N, double M, const std::string& a
   return terms;
 }
 
-// The input table, the load case in words, without what the case does not give.
+constexpr const char* kLoadsOfCase[] = {"N", "N, M", "N, M", "M, V", "N, M, V", "N, M, V"};
+
+// The input table, the loads beside the load case, without what the case does not give.
 template <class CASE, class SKIP>
 void WeldInputs(CReportBody& body, const CASE& input, std::span<const CInputKey<CASE>> keys,
                 SKIP skip) {
@@ -50,9 +53,9 @@ void WeldInputs(CReportBody& body, const CASE& input, std::span<const CInputKey<
   for (std::size_t i = 0; i < keys.size(); ++i) {
     const std::string key = keys[i].m_szKey;
     if (key == "id" || skip(key)) continue;
-    if (key == "case") {
-      lines[i].m_strValue =
-          lines[i].m_strValue + ": " + body.Text(kLoadCaseNames[input.m_nLoadCase]);
+    if (key == "case") lines[i].m_strUnit = kLoadsOfCase[input.m_nLoadCase];
+    if constexpr (std::is_same_v<CASE, CFilletCase>) {
+      if (key == "groove") lines[i].m_strUnit = body.Text(kGrooveNames[input.m_nGroove]);
     }
     used.push_back(lines[i]);
   }
