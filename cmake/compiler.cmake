@@ -21,10 +21,6 @@ if(ORV3CAL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS)
   add_link_options(-fsanitize=address,undefined)
-  # The checks put into the code make the compiler see paths that do not exist.
-  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    add_compile_options(-Wno-error=maybe-uninitialized)
-  endif()
 endif()
 if(ORV3CAL_BUILD_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)

@@ -15,6 +15,8 @@ constexpr double kTolerance = 0.1;      // pixels that an arc's chords may stray
 constexpr int kSubRows = 8;             // sample rows of a filled area in a pixel
 constexpr double kLetterWidth = 0.105;  // line width of letters, in font sizes
 constexpr double kThinnestLine = 1.0;   // pixels
+constexpr double kMostDashes = 1e4;     // of one line; more lie beyond any bitmap
+constexpr double kOnGrid = 1e-6;        // rounding of coordinates, pixels
 
 using CPolyline = std::vector<CPoint>;
 
@@ -33,8 +35,7 @@ class CRaster {
                    static_cast<std::size_t>(m_bitmap.GetHeight())) {}
 
   void Fill(const std::vector<CPath>& loops, std::uint32_t color) {
-    std::vector<CPolyline> polygons;
-    for (const CPath& loop : loops) polygons.push_back(ToPixels(loop));
+    const std::vector<CPolyline> polygons = ToPixels(loops);
     Begin(polygons, 1);
     for (int y = m_top; y < m_bottom; ++y)
       for (int i = 0; i < kSubRows; ++i) FillRow(polygons, y, y + (i + 0.5) / kSubRows);
@@ -43,14 +44,15 @@ class CRaster {
 
   void Stroke(const std::vector<CPath>& paths, double width, const double (&dash)[4],
               std::uint32_t color) {
-    std::vector<CPolyline> lines;
-    for (const CPath& path : paths) lines.push_back(ToPixels(path));
+    const std::vector<CPolyline> lines = ToPixels(paths);
     const double half = std::max(width * m_dScale, kThinnestLine) / 2;
     Begin(lines, half + 1);
     for (const CPolyline& line : lines) StrokeLine(line, half, dash);
     Blend(color);
   }
 
+  // Whether upright and level lines are moved to the middle of a pixel, where they are sharp.
+  void SetSharp(bool sharp) { m_bSharp = sharp; }
   CBitmap Take() { return std::move(m_bitmap); }
 
  private:
@@ -59,10 +61,14 @@ class CRaster {
     return side > 0 ? static_cast<int>(std::lround(std::min(side, 1e6))) : 0;
   }
 
-  CPolyline ToPixels(const CPath& path) const {
-    CPolyline points = Flattened(path, kTolerance / m_dScale);
-    for (CPoint& p : points) p = {p.x * m_dScale, (m_dHeight - p.y) * m_dScale};
-    return points;
+  std::vector<CPolyline> ToPixels(const std::vector<CPath>& paths) const {
+    std::vector<CPolyline> lines;
+    lines.reserve(paths.size());
+    for (const CPath& path : paths) {
+      lines.push_back(Flattened(path, kTolerance / m_dScale));
+      for (CPoint& p : lines.back()) p = {p.x * m_dScale, (m_dHeight - p.y) * m_dScale};
+    }
+    return lines;
   }
 
   // Clears the pixels that the lines may touch.
@@ -140,7 +146,9 @@ class CRaster {
       const double part = std::clamp(s / length, 0.0, 1.0);
       return CPoint{a.x + (b.x - a.x) * part, a.y + (b.y - a.y) * part};
     };
-    for (double start = -std::fmod(done, period); start < length; start += period) {
+    const int count = static_cast<int>(std::min(length / period + 2, kMostDashes));
+    for (int i = 0; i < count; ++i) {
+      const double start = i * period - std::fmod(done, period);
       const double second = start + (dash[0] + dash[1]) * m_dScale;
       for (const auto& [from, size] : {std::pair{start, dash[0]}, std::pair{second, dash[2]}}) {
         const double to = from + size * m_dScale;
@@ -149,8 +157,14 @@ class CRaster {
     }
   }
 
+  static double PixelMiddle(double at) { return std::floor(at + kOnGrid) + 0.5; }
+
   // A pixel is covered by how far its middle lies inside the line's edge.
   void StrokeSegment(CPoint a, CPoint b, double half) {
+    if (m_bSharp) {
+      if (std::fabs(a.x - b.x) < kOnGrid) a.x = b.x = PixelMiddle(a.x);
+      if (std::fabs(a.y - b.y) < kOnGrid) a.y = b.y = PixelMiddle(a.y);
+    }
     const double reach = half + 1;
     const int left = Clip(std::floor(std::min(a.x, b.x) - reach), m_bitmap.GetWidth());
     const int right = Clip(std::ceil(std::max(a.x, b.x) + reach), m_bitmap.GetWidth());
@@ -193,6 +207,7 @@ class CRaster {
   double m_dHeight;
   CBitmap m_bitmap;
   std::vector<float> m_arrCover;
+  bool m_bSharp = true;
   int m_left = 0;
   int m_right = 0;
   int m_top = 0;
@@ -201,6 +216,7 @@ class CRaster {
 
 void DrawLayer(CRaster& raster, const CDrawing& drawing, CLayer layer) {
   const CPen& pen = LayerPen(layer);
+  raster.SetSharp(true);
   for (const CFigure& figure : drawing.Figures()) {
     if (figure.m_nLayer != layer) continue;
     if (figure.m_bFilled) {
@@ -209,6 +225,7 @@ void DrawLayer(CRaster& raster, const CDrawing& drawing, CLayer layer) {
       raster.Stroke(figure.m_arrPath, pen.m_dWidth, pen.m_arrDash, pen.m_nLineColor);
     }
   }
+  raster.SetSharp(false);
   for (const CLabel& label : drawing.Labels()) {
     if (label.m_nLayer != layer) continue;
     raster.Stroke(LabelStrokes(label), label.m_dSize * kLetterWidth, {}, pen.m_nLineColor);

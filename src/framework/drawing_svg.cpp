@@ -1,6 +1,7 @@
 // CDrawing as SVG: one group per layer, page coordinates turned to y downwards.
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "framework/drawing.h"
 #include "framework/number_text.h"
@@ -61,18 +62,23 @@ class CSvgWriter {
   std::string Write(std::wstring_view title) {
     const std::string width = Number(m_drawing.Width());
     const std::string height = Number(m_drawing.Height());
-    m_out =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
-        width + "\" height=\"" + height + "\" viewBox=\"0 0 " + width + " " + height +
-        "\" font-family=\"" + kFonts + "\">\n";
-    if (!title.empty()) m_out += "<title>" + Escaped(title) + "</title>\n";
-    m_out += "<rect width=\"" + width + "\" height=\"" + height + "\" fill=\"#FFFFFF\"/>\n";
+    Put("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" "
+        "width=\"",
+        width, "\" height=\"", height, "\" viewBox=\"0 0 ", width, " ", height, "\" font-family=\"",
+        kFonts, "\">\n");
+    if (!title.empty()) Put("<title>", Escaped(title), "</title>\n");
+    Put("<rect width=\"", width, "\" height=\"", height, "\" fill=\"#FFFFFF\"/>\n");
     for (int i = 0; i < kLayerCount; ++i) WriteLayer(static_cast<CLayer>(i));
-    return m_out + "</svg>\n";
+    Put("</svg>\n");
+    return std::move(m_out);
   }
 
  private:
+  template <class... Parts>
+  void Put(const Parts&... parts) {
+    ((m_out += parts), ...);
+  }
+
   void WriteLayer(CLayer layer) {
     const std::size_t start = m_out.size();
     OpenGroup(LayerPen(layer));
@@ -84,51 +90,50 @@ class CSvgWriter {
     if (m_out.size() == opened) {
       m_out.resize(start);
     } else {
-      m_out += "</g>\n";
+      Put("</g>\n");
     }
   }
 
   void OpenGroup(const CPen& pen) {
-    m_out += "<g id=\"" + std::string(pen.m_szName) + "\" fill=\"none\" stroke=\"" +
-             Color(pen.m_nLineColor) + "\" stroke-width=\"" + Number(pen.m_dWidth) +
-             "\" stroke-linejoin=\"round\">\n";
+    Put("<g id=\"", pen.m_szName, "\" fill=\"none\" stroke=\"", Color(pen.m_nLineColor),
+        "\" stroke-width=\"", Number(pen.m_dWidth), "\" stroke-linejoin=\"round\">\n");
   }
 
   void WriteFigure(const CFigure& figure) {
-    m_out += "<path d=\"";
+    Put("<path d=\"");
     for (const CPath& path : figure.m_arrPath) WritePath(path);
     const CPen& pen = LayerPen(figure.m_nLayer);
     if (figure.m_bFilled) {
-      m_out += "\" fill=\"" + Color(pen.m_nFillColor) + "\" stroke=\"none";
+      Put("\" fill=\"", Color(pen.m_nFillColor), "\" stroke=\"none");
     } else if (pen.m_arrDash[0] > 0) {
-      m_out += "\" stroke-dasharray=\"";
+      Put("\" stroke-dasharray=\"");
       for (int i = 0; i < 4 && pen.m_arrDash[i] > 0; ++i)
-        m_out += (i ? " " : "") + Number(pen.m_arrDash[i]);
+        Put(i > 0 ? " " : "", Number(pen.m_arrDash[i]));
     }
-    m_out += "\"/>\n";
+    Put("\"/>\n");
   }
 
   void WritePath(const CPath& path) {
     const auto& vertices = path.m_arrVertex;
     if (vertices.empty()) return;
-    m_out += "M" + At(vertices[0].x, vertices[0].y);
+    Put("M", At(vertices[0].x, vertices[0].y));
     for (std::size_t i = 1; i < vertices.size(); ++i) WriteEdge(vertices[i - 1], vertices[i]);
     if (!path.m_bClosed) return;
     if (vertices.back().bulge != 0) WriteEdge(vertices.back(), vertices[0]);
-    m_out += "Z";
+    Put("Z");
   }
 
   void WriteEdge(const CVertex& from, const CVertex& to) {
     if (from.bulge == 0) {
-      m_out += "L" + At(to.x, to.y);
+      Put("L", At(to.x, to.y));
       return;
     }
     const double b = std::fabs(from.bulge);
     const std::string radius =
         Number(std::hypot(to.x - from.x, to.y - from.y) * (1 + b * b) / (4 * b));
     // Counter-clockwise on the page is the negative sense of SVG, whose y runs downwards.
-    m_out += "A" + radius + " " + radius + " 0 " + (b > 1 ? "1 " : "0 ") +
-             (from.bulge > 0 ? "0 " : "1 ") + At(to.x, to.y);
+    Put("A", radius, " ", radius, " 0 ", b > 1 ? "1 " : "0 ", from.bulge > 0 ? "0 " : "1 ",
+        At(to.x, to.y));
   }
 
   void WriteLabel(const CLabel& label) {
@@ -137,16 +142,19 @@ class CSvgWriter {
                                         : CPoint{label.m_at.x, label.m_at.y - shift};
     const std::string x = Number(base.x);
     const std::string y = Number(m_drawing.Height() - base.y);
-    m_out += "<text x=\"" + x + "\" y=\"" + y + "\" font-size=\"" + Number(label.m_dSize) + "\"";
-    if (label.m_nAnchor == CAnchor::Middle) m_out += " text-anchor=\"middle\"";
-    if (label.m_nAnchor == CAnchor::Right) m_out += " text-anchor=\"end\"";
-    if (label.m_bUpward) m_out += " transform=\"rotate(-90 " + x + " " + y + ")\"";
-    m_out += " stroke=\"none\" fill=\"" + Color(LayerPen(label.m_nLayer).m_nLineColor) + "\">" +
-             Escaped(label.m_strText) + "</text>\n";
+    Put("<text x=\"", x, "\" y=\"", y, "\" font-size=\"", Number(label.m_dSize), "\"");
+    if (label.m_nAnchor == CAnchor::Middle) Put(" text-anchor=\"middle\"");
+    if (label.m_nAnchor == CAnchor::Right) Put(" text-anchor=\"end\"");
+    if (label.m_bUpward) Put(" transform=\"rotate(-90 ", x, " ", y, ")\"");
+    Put(" stroke=\"none\" fill=\"", Color(LayerPen(label.m_nLayer).m_nLineColor), "\">",
+        Escaped(label.m_strText), "</text>\n");
   }
 
   std::string At(double x, double y) const {
-    return Number(x) + " " + Number(m_drawing.Height() - y);
+    std::string text = Number(x);
+    text += ' ';
+    text += Number(m_drawing.Height() - y);
+    return text;
   }
 
   const CDrawing& m_drawing;

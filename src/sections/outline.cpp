@@ -115,10 +115,11 @@ COutline FlangedCrossOutline(double b, double h, double bf1, double bf2, double 
   const auto add = [&](double x, double y) {
     path.m_arrVertex.push_back({b / 2 + x, h / 2 + y, 0});
   };
+  const std::vector<CPoint> back(quarter.rbegin(), quarter.rend());
   for (const CPoint& p : quarter) add(p.x, p.y);
-  for (auto p = quarter.rbegin(); p != quarter.rend(); ++p) add(-p->x, p->y);
+  for (const CPoint& p : back) add(-p.x, p.y);
   for (const CPoint& p : quarter) add(-p.x, -p.y);
-  for (auto p = quarter.rbegin(); p != quarter.rend(); ++p) add(p->x, -p->y);
+  for (const CPoint& p : back) add(p.x, -p.y);
   out.m_arrLoop.push_back(std::move(path));
   return out;
 }

@@ -18,9 +18,13 @@
 #include "tables/data_item.h"
 #include "tables/data_item_array.h"
 #include "tables/data_type.h"
+#include "tables/table_file_info.h"
 
 namespace orv3 {
 class CRowIndex;
+class CStoreFile;
+class CTableMerge;
+struct CTableImage;
 struct CSearchExpression;
 }  // namespace orv3
 
@@ -140,6 +144,59 @@ class ORV3CAL_API CDataTable {
   static int CheckDouble(const CString& text, double& out, double max, double min);
   static int CheckInt(const CString& text, long& out, long max, long min);
 
+  // --- Table files: see tables/table_file_layout.h
+  // ------------------------------------------------ Text as it goes to a file ("fake" form), one
+  // byte a character, and back; see table_text.h. A character that the ANSI code page lacks becomes
+  // "?"; saves refuse it.
+  static CString TransStringToFake(const CString& text);
+  static CString TransFakeToString(const char* stored);
+  CString TransItemToFake(int position) const;
+  // Appends the row of stored bytes; 0 when it has fewer values than the table columns,
+  // CInvalidArgException when it has more.
+  int TransItemToNormal(const char* stored);
+  int GetTableItemLen() const;   // bytes of a row slot
+  int GetTableTitleLen() const;  // bytes of the heading
+  int GetTableTextLen() const;   // bytes of the heading and all rows
+  // Finds or makes the table's record in the file, with room for its rows. Like every change to a
+  // CStoreFile it lasts once that is committed. Store kinds: 0 system, 1 user, 2 current.
+  int WriteTableFileInfo(orv3::CStoreFile* file, int storeKind, CDataFileInfo& info);
+  // Saves the table: rows that changed, or every row with `bAll`. All of it or nothing; after 0
+  // orv3::LastStoreError() says why. What others have saved into the table since it was read is
+  // brought in first and its own rows placed after them; a row that both changed stays as it is
+  // here. A table that was never read from this file is taken as having only rows of its own; with
+  // `bAll` it replaces the one on file.
+  int WriteTable(const CString& path, int storeKind, int bAll);
+  // Stable indices of the rows that the last WriteTable brought in.
+  const CArray<int, int>& GetTakenInIndex() const noexcept { return m_arrTakenIn; }
+  int ReadTableFileInfo(orv3::CStoreFile* file, CString& infoLine, CDataFileInfo& info) const;
+  // The file's information line. A table without a name is given the name "test".
+  int ReadTableFileInfo(const CString& path, CString& infoLine);
+  // Reads the table of this name: takes over its heading and appends its rows. After 0 nothing has
+  // changed. CInvalidArgException for a row with more values than the heading has columns.
+  int GetTable(const CString& path, CString& infoLine);
+  // Appends the names of a file's tables; their number.
+  static int GetTableNameFromFile(const CString& path, CStringArray& names);
+
+  // --- Section stores, under the save path: see tables/table_store.h ----------------------------
+  // An empty save path first becomes the program path.
+  int GetSystemJmTable();
+  int GetCurrentJmTable();
+  // The user table whose file has this information line.
+  int GetUserJmTable(const CString& key);
+  int WriteSystemJmTable();
+  int WriteCurrentJmTable();
+  int WriteUserJmTable(const wchar_t* fileName);
+  // Append the names of a store's tables; their number.
+  int GetSystemJmTableName(CStringArray& names);
+  int GetCurrentJmTableName(CStringArray& names);
+  // Always 0: the user store is a folder. GetUserTableFileName lists its files.
+  int GetUserJmTableName(CStringArray& names);
+  // Appends the user store's files and drops from the list those of another kind; its length.
+  int GetUserTableFileName(CStringArray& files);
+  // Appends the names in a folder that end with "." and `ext`, in which "*" stands for any text;
+  // the length of the list.
+  static int GetDirectoryFileName(const wchar_t* dir, CStringArray& files, const CString& ext);
+
   CString m_strFileInfo;   // information line of the table file last read or written
   CString m_strSavePath;   // directory of the table stores, ending with a separator
   CString m_strTableName;  // at most 64 characters
@@ -159,5 +216,16 @@ class ORV3CAL_API CDataTable {
   CString DerivedName() const;
   std::vector<int> FindPositions(const orv3::CSearchExpression& search, bool wildcard) const;
 
+  CString StorePath(const wchar_t* name);
+  struct CRowWrite;
+  int CatchUp(const orv3::CStoreFile& file, bool replaceUnknown);
+  void TakeIn(const orv3::CTableMerge& merge);
+  void SeparateIndices(const orv3::CTableImage& image);
+  int CollectRows(const orv3::CStoreFile& file, bool all, std::vector<CRowWrite>& writes) const;
+  int WriteHeading(orv3::CStoreFile& file, const CDataFileInfo& info) const;
+  void MarkSaved(const orv3::CStoreFile& file, const std::vector<CRowWrite>& writes);
+
   mutable std::unique_ptr<orv3::CRowIndex> m_pIndex;
+  std::shared_ptr<orv3::CTableImage> m_pImage;  // what is on file; null before reading and saving
+  CArray<int, int> m_arrTakenIn;
 };

@@ -25,6 +25,11 @@ struct ORV3CAL_API CDataTypeStruct {
   CDataTypeStruct(CString name, CString sign, KVBT_Value_Type type, int bKey)
       : m_strName(std::move(name)), m_strSign(std::move(sign)), m_nType(type), m_bKey(bKey) {}
 
+  // The text form as it goes to a table file, and what stored bytes say; missing fields get their
+  // defaults.
+  CString TranToFake() const;
+  void TransToNormal(const char* stored);
+
   CString m_strName;  // title shown to users, at most 64 characters
   CString m_strSign;  // short identifier by which code finds the column, at most 20 characters
   KVBT_Value_Type m_nType = KVBT_STRING;
@@ -71,6 +76,10 @@ class ORV3CAL_API CDataTableTitle {
   void Clear() noexcept { m_arrColumn.RemoveAll(); }
   // 1 when names, signs, types and key flags agree column by column.
   int IsEqualOf(const CDataTableTitle& other) const;
+
+  // The same of all columns.
+  CString TranToFake() const;
+  void TransToNormal(const char* stored);
 
   // Column changes; `index` may be the count for an insertion. 0 when out of range, else 1.
   int InsertColumn(int index, const CDataTypeStruct& column);

@@ -34,7 +34,7 @@ void Lacing(CSketchPen& pen, CPoint a, CPoint b) { pen.Line(a, b, CLayer::BaseAx
 
 void EqualAnglePair(CSketchPen& pen) { AnglePair(pen, 58, 68, 22, L"b", L"b"); }
 void LongLegPair(CSketchPen& pen) { AnglePair(pen, 42, 84, 32, L"b", L"B"); }
-void ShortLegPair(CSketchPen& pen) { AnglePair(pen, 60, 52, 14, L"B", L"b"); }
+void ShortLegPair(CSketchPen& pen) { AnglePair(pen, 55, 46, 13, L"B", L"b"); }
 
 void CrossAnglePair(CSketchPen& pen) {
   const CPoint c{86, 76};

@@ -103,9 +103,9 @@ void FlangedCross(CSketchPen& pen) {
     }
   }
   pen.Steel(Polygon(corners));
-  pen.Width(47, 137, 55, 14, L"b");
+  pen.Width(47, 137, 55, 17, L"b");
   pen.Height(34, 124, 68, 24, L"h");
-  pen.Width(68, 116, 124, 136, L"bf1");
+  pen.Width(68, 116, 124, 134, L"bf1");
   pen.Height(55, 103, 137, 147, L"bf2");
   pen.ThicknessX(88, 96, 60, L"tw", CTail::Left);
   pen.ThicknessY(115, 124, 108, L"tf", CTail::Below);

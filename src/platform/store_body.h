@@ -1,0 +1,60 @@
+// One opened store file with the changes made to it so far: what CStoreFile objects share.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "platform/store_journal.h"
+
+namespace orv3 {
+
+class CStoreBody {
+ public:
+  CStoreBody(std::unique_ptr<CFile> file, const CString& path, bool writable);
+  CStoreBody(const CStoreBody&) = delete;
+  CStoreBody& operator=(const CStoreBody&) = delete;
+  ~CStoreBody();
+
+  // Takes up what an interrupted save left: rolls it back in the file or, for a reader, in memory
+  // only. False when that fails. Called once, before anything else.
+  bool Recover();
+  // Whether Recover found a save to roll back that only a writer can roll back in the file.
+  bool RecoveredInMemory() const { return m_bShadow; }
+
+  std::uint64_t Size() const { return m_nSize; }
+  bool Read(std::uint64_t offset, void* data, std::size_t size) const;
+  bool Write(std::uint64_t offset, const void* data, std::size_t size);
+  bool Commit();
+  void DropChanges();
+  const CFileStamp& Stamp() const { return m_stamp; }
+  const CString& Path() const { return m_strPath; }
+  bool IsWritable() const { return m_bWritable; }
+
+ private:
+  static constexpr std::size_t kPage = 4096;
+
+  bool ReadFromFile(std::uint64_t offset, char* data, std::size_t size) const;
+  std::string* PageToChange(std::uint64_t page, bool whole);
+  bool CollectOld(CStoreJournal& journal);
+  bool WriteJournal(const CStoreJournal& journal);
+  bool ReadJournal(CStoreJournal& journal, bool& found);
+  bool ApplyChanges();
+  bool RollBack(const CStoreJournal& journal);
+  bool TakeStamp();
+
+  std::unique_ptr<CFile> m_pFile;
+  CString m_strPath;
+  bool m_bWritable;
+  bool m_bShadow = false;   // the pages are an interrupted save's old bytes
+  bool m_bBroken = false;   // half a save is in the file; only the next opener can undo it
+  bool m_bEmptied = false;  // an interrupted first save was rolled back
+  CFileStamp m_stamp;
+  std::uint64_t m_nFileSize = 0;
+  std::uint64_t m_nSize = 0;
+  std::map<std::uint64_t, std::string> m_pages;  // changed pages by their number
+};
+
+}  // namespace orv3

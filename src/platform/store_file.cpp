@@ -1,0 +1,157 @@
+#include "platform/store_file.h"
+
+#include <algorithm>
+#include <atomic>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "framework/number_text.h"
+#include "platform/store_body.h"
+#include "platform/store_error.h"
+
+namespace orv3 {
+namespace {
+
+using std::chrono::milliseconds;
+using CClock = std::chrono::steady_clock;
+
+std::atomic<long long> g_nBusyWait{1000};
+
+// The stores that this thread keeps to itself.
+std::vector<std::shared_ptr<CStoreBody>>& HeldBodies() {
+  thread_local std::vector<std::shared_ptr<CStoreBody>> held;
+  return held;
+}
+
+std::unique_ptr<CFile> OpenWaiting(const CString& path, CFileMode mode, CFileError& error) {
+  const auto end = CClock::now() + BusyWait();
+  milliseconds pause{1};
+  for (;;) {
+    auto file = Files().Open(path, mode, error);
+    const auto left = std::chrono::duration_cast<milliseconds>(end - CClock::now());
+    if (file || error != CFileError::Busy || left <= milliseconds{0}) return file;
+    std::this_thread::sleep_for(std::min(pause, left));
+    pause = std::min(pause * 2, milliseconds{10});
+  }
+}
+
+std::unique_ptr<CFile> OpenFor(const CString& path, bool toWrite, CFileError& error) {
+  const CFileMode mode = toWrite ? CFileMode::ReadWrite : CFileMode::Read;
+  auto file = OpenWaiting(path, mode, error);
+  if (file || !toWrite || error != CFileError::Denied) return file;
+  return Files().ClearReadOnly(path) ? OpenWaiting(path, mode, error) : nullptr;
+}
+
+void Explain(CFileError error, const CString& path) {
+  const CString wait = FormatInt(BusyWait().count());
+  switch (error) {
+    case CFileError::NotFound:
+      SetStoreError(CStoreTrouble::NotFound, path, path + L": not found");
+      break;
+    case CFileError::Busy:
+      SetStoreError(CStoreTrouble::Busy, path,
+                    path + L": in use elsewhere for more than " + wait + L" ms; try again later");
+      break;
+    case CFileError::Denied:
+      SetStoreError(CStoreTrouble::Denied, path,
+                    path + L": access denied; the file and its folder must be open to this user");
+      break;
+    case CFileError::Failed:
+    case CFileError::None:
+      SetStoreError(CStoreTrouble::Failed, path, path + L": cannot be opened or read");
+      break;
+  }
+}
+
+std::shared_ptr<CStoreBody> OpenBody(const CString& path, bool toWrite) {
+  const CString resolved = Files().Resolve(path);
+  CFileError error{};
+  auto file = OpenFor(resolved, toWrite, error);
+  if (file) {
+    auto body = std::make_shared<CStoreBody>(std::move(file), resolved, toWrite);
+    if (body->Recover()) return body;
+  }
+  Explain(error, path);
+  return nullptr;
+}
+
+// A reader that meets an interrupted save lets a writer undo it, if one can be had.
+std::shared_ptr<CStoreBody> OpenBodyToRead(const CString& path) {
+  auto body = OpenBody(path, false);
+  if (!body || !body->RecoveredInMemory()) return body;
+  body.reset();
+  if (auto writer = OpenBody(path, true)) return writer;
+  ClearStoreError();
+  return OpenBody(path, false);
+}
+
+}  // namespace
+
+milliseconds BusyWait() { return milliseconds{g_nBusyWait.load()}; }
+
+void SetBusyWait(milliseconds wait) { g_nBusyWait = std::max<long long>(0, wait.count()); }
+
+CStoreFile::CStoreFile(std::shared_ptr<CStoreBody> body) : m_pBody(std::move(body)) {}
+
+CStoreFile::~CStoreFile() { m_pBody->DropChanges(); }
+
+std::unique_ptr<CStoreFile> CStoreFile::Held(const CString& path) {
+  if (HeldBodies().empty()) return nullptr;
+  const CString resolved = Files().Resolve(path);
+  for (const auto& body : HeldBodies()) {
+    if (body->Path() == resolved) return std::unique_ptr<CStoreFile>(new CStoreFile(body));
+  }
+  return nullptr;
+}
+
+std::unique_ptr<CStoreFile> CStoreFile::OpenToRead(const CString& path) {
+  if (auto held = Held(path)) return held;
+  auto body = OpenBodyToRead(path);
+  return body ? std::unique_ptr<CStoreFile>(new CStoreFile(std::move(body))) : nullptr;
+}
+
+std::unique_ptr<CStoreFile> CStoreFile::OpenToWrite(const CString& path) {
+  if (auto held = Held(path)) return held;
+  auto body = OpenBody(path, true);
+  return body ? std::unique_ptr<CStoreFile>(new CStoreFile(std::move(body))) : nullptr;
+}
+
+std::uint64_t CStoreFile::Size() const { return m_pBody->Size(); }
+
+bool CStoreFile::Read(std::uint64_t offset, void* data, std::size_t size) const {
+  return m_pBody->Read(offset, data, size);
+}
+
+bool CStoreFile::Write(std::uint64_t offset, const void* data, std::size_t size) {
+  return m_pBody->IsWritable() && m_pBody->Write(offset, data, size);
+}
+
+bool CStoreFile::Commit() {
+  if (m_pBody->Commit()) return true;
+  SetStoreError(CStoreTrouble::Failed, Path(),
+                Path() +
+                    L": writing failed and the store is as it was before; see whether its disk "
+                    L"is full or its folder read-only");
+  return false;
+}
+
+const CFileStamp& CStoreFile::Stamp() const { return m_pBody->Stamp(); }
+
+const CString& CStoreFile::Path() const { return m_pBody->Path(); }
+
+CStoreLock::CStoreLock(const CString& path) {
+  ClearStoreError();
+  const auto file = CStoreFile::OpenToWrite(path);
+  if (!file) return;
+  m_pBody = file->m_pBody;
+  HeldBodies().push_back(m_pBody);
+}
+
+CStoreLock::~CStoreLock() {
+  auto& held = HeldBodies();
+  const auto it = std::find(held.rbegin(), held.rend(), m_pBody);
+  if (m_pBody && it != held.rend()) held.erase(std::next(it).base());
+}
+
+}  // namespace orv3

@@ -1,0 +1,72 @@
+// A store file: opened without sharing, changed in memory, and saved as a whole or not at all.
+//
+// Opening waits a bounded time for another opener to finish, and puts a store whose save was
+// interrupted back to what it was before that save. Where the folder is read-only, a reader sees
+// the store so without changing anything.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "framework/cstring.h"
+#include "framework/export.h"
+#include "platform/file_system.h"
+
+namespace orv3 {
+
+// How long an opener waits for a busy file; one second unless set. For the whole process.
+ORV3CAL_API std::chrono::milliseconds BusyWait();
+ORV3CAL_API void SetBusyWait(std::chrono::milliseconds wait);
+
+class CStoreBody;
+
+class ORV3CAL_API CStoreFile {
+ public:
+  // Null, with LastStoreError set, when the file cannot be had. A writer makes the file when it is
+  // not there and clears its read-only mark; a file made and never saved to is removed again.
+  static std::unique_ptr<CStoreFile> OpenToRead(const CString& path);
+  static std::unique_ptr<CStoreFile> OpenToWrite(const CString& path);
+  CStoreFile(const CStoreFile&) = delete;
+  CStoreFile& operator=(const CStoreFile&) = delete;
+  // Forgets what was not committed.
+  ~CStoreFile();
+
+  std::uint64_t Size() const;
+  // All of the bytes or false.
+  bool Read(std::uint64_t offset, void* data, std::size_t size) const;
+  // Changes the store in memory; writing beyond its end lengthens it, with zeros between.
+  bool Write(std::uint64_t offset, const void* data, std::size_t size);
+  // Brings the changes into the file. After false the file is as it was, now or, when even that
+  // fails, for whoever opens it next.
+  bool Commit();
+  // Of the file as it was opened or last committed.
+  const CFileStamp& Stamp() const;
+  const CString& Path() const;  // absolute
+
+ private:
+  friend class CStoreLock;
+  explicit CStoreFile(std::shared_ptr<CStoreBody> body);
+  static std::unique_ptr<CStoreFile> Held(const CString& path);
+
+  std::shared_ptr<CStoreBody> m_pBody;
+};
+
+// Keeps a store to this thread: from its making to its end every other opener finds the file busy,
+// while this thread's own openings of it go through. Held over reading, changing and saving, it
+// makes them one step.
+class ORV3CAL_API CStoreLock {
+ public:
+  explicit CStoreLock(const CString& path);
+  CStoreLock(const CStoreLock&) = delete;
+  CStoreLock& operator=(const CStoreLock&) = delete;
+  ~CStoreLock();
+
+  bool IsHeld() const noexcept { return m_pBody != nullptr; }  // else LastStoreError says why
+
+ private:
+  std::shared_ptr<CStoreBody> m_pBody;
+};
+
+}  // namespace orv3

@@ -1,0 +1,61 @@
+// What every section style shares: rectangles about an axis, and the properties that follow from
+// centroid, area and centroidal inertia.
+#include <cmath>
+
+#include "sections/steel_jm_data.h"
+
+namespace {
+
+// A modulus whose fibre lies on the axis.
+constexpr double kNoFibre = 1e100;
+
+double Modulus(double inertia, double fibre) {
+  return fibre == 0 ? kNoFibre : inertia / std::fabs(fibre);
+}
+
+}  // namespace
+
+double CSteelJMData::CalRectMomS(double b, double h, double y0, double yc, int upper) {
+  const double height = std::fabs(h);
+  const double top = height + y0;
+  if (upper) {
+    if (!(top > yc)) return 0;
+    if (yc - y0 >= 0) return std::fabs(b * (top - yc) * (top - yc) / 2);
+    return std::fabs((std::fabs(h / 2) + y0 - yc) * b * h);
+  }
+  if (!(yc > y0)) return 0;
+  if (top >= yc) return std::fabs(b * (yc - y0) * (yc - y0) / 2);
+  return std::fabs((yc - std::fabs(h / 2) - y0) * b * h);
+}
+
+double CSteelJMData::CalRectGxj(double b, double h, double d) {
+  return b * h * d * d + b * h * h * h / 12;
+}
+
+void CSteelJMData::CalRectBarycenterAdd(double A1, double x1, double y1, double A2, double x2,
+                                        double y2, double& x, double& y) {
+  const double A = A1 + A2;
+  x = A == 0 ? x1 : (A1 * x1 + A2 * x2) / A;
+  y = A == 0 ? y1 : (A1 * y1 + A2 * y2) / A;
+}
+
+void CSteelJMData::CalSectMomByI0(CSteelJMData& jm, double W, double H) {
+  const double dx = jm.m_dXo - jm.m_dX;
+  const double dy = jm.m_dYo - jm.m_dY;
+  jm.m_dIx = jm.m_dA * dy * dy + jm.m_dIxo;
+  jm.m_dIy = jm.m_dA * dx * dx + jm.m_dIyo;
+  const bool empty = jm.m_dA == 0;
+  jm.m_dixo = empty ? 0 : std::sqrt(jm.m_dIxo / jm.m_dA);
+  jm.m_diyo = empty ? 0 : std::sqrt(jm.m_dIyo / jm.m_dA);
+  jm.m_dix = empty ? std::fabs(dy) : std::sqrt(jm.m_dIx / jm.m_dA);
+  jm.m_diy = empty ? std::fabs(dx) : std::sqrt(jm.m_dIy / jm.m_dA);
+
+  jm.m_dWxo1 = Modulus(jm.m_dIxo, H - jm.m_dYo);
+  jm.m_dWxo2 = Modulus(jm.m_dIxo, jm.m_dYo);
+  jm.m_dWyoL = Modulus(jm.m_dIyo, jm.m_dXo);
+  jm.m_dWyoR = Modulus(jm.m_dIyo, W - jm.m_dXo);
+  jm.m_dWx1 = Modulus(jm.m_dIx, H - jm.m_dY);
+  jm.m_dWx2 = Modulus(jm.m_dIx, jm.m_dY);
+  jm.m_dWyL = Modulus(jm.m_dIy, jm.m_dX);
+  jm.m_dWyR = Modulus(jm.m_dIy, W - jm.m_dX);
+}

@@ -1,0 +1,210 @@
+#include "sections/section_style.h"
+
+#include <iterator>
+
+namespace orv3 {
+namespace {
+
+// In the order of the style numbers. Titles repeat where two plates are named alike; the signs tell
+// the columns apart.
+constexpr CSectionStyle kStyles[] = {
+    {0,
+     L"自定义对称H型钢",
+     "h",
+     "doubly symmetric welded H",
+     4,
+     2,
+     true,
+     {{L"b(mm)", L"截面宽度", "section width"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"tf(mm)", L"翼缘厚度", "flange thickness"},
+      {L"tw(mm)", L"腹板厚度", "web thickness"}}},
+    {1,
+     L"自定义对称箱形截面",
+     "box",
+     "symmetric box",
+     3,
+     2,
+     true,
+     {{L"b(mm)", L"截面宽度", "section width"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"t(mm)", L"边厚度", "wall thickness"}}},
+    {2,
+     L"自定义翼缘十字形截面",
+     "flanged-cross",
+     "cross with flanges at all four arm ends",
+     6,
+     2,
+     false,
+     {{L"b(mm)", L"截面宽度", "section width"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"bf1(mm)", L"翼缘宽度", "width of the top and bottom flange"},
+      {L"bf2(mm)", L"翼缘宽度", "height of the left and right flange"},
+      {L"tw(mm)", L"腹板厚度", "web thickness"},
+      {L"tf(mm)", L"翼缘厚度", "flange thickness"}}},
+    {3,
+     L"矩形截面",
+     "rect",
+     "solid rectangle",
+     2,
+     2,
+     true,
+     {{L"b(mm)", L"截面宽度", "section width"}, {L"h(mm)", L"截面高度", "section height"}}},
+    {4,
+     L"六边形截面",
+     "hexagon",
+     "regular hexagon",
+     1,
+     1,
+     false,
+     {{L"a(mm)", L"截面边长", "side length"}}},
+    {5,
+     L"三角形截面",
+     "triangle",
+     "isosceles triangle, base at the bottom",
+     2,
+     2,
+     false,
+     {{L"b(mm)", L"截面宽度", "base width"}, {L"h(mm)", L"截面高度", "section height"}}},
+    {6,
+     L"自定义圆形截面",
+     "circle",
+     "solid circle",
+     1,
+     1,
+     true,
+     {{L"R(mm)", L"截面半径", "radius"}}},
+    {7,
+     L"自定义圆管",
+     "tube",
+     "circular tube",
+     2,
+     1,
+     true,
+     {{L"R(mm)", L"截面半径", "outer radius"}, {L"r(mm)", L"内圆半径", "inner radius"}}},
+    {8,
+     L"自定义T形截面",
+     "t",
+     "T, flange at the top",
+     5,
+     2,
+     true,
+     {{L"b(mm)", L"腹板宽度", "web thickness"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"bh(mm)", L"翼缘厚度", "flange thickness"},
+      {L"bf1(mm)", L"翼缘宽度", "flange overhang left of the web"},
+      {L"bf2(mm)", L"翼缘宽度", "flange overhang right of the web"}}},
+    {9,
+     L"自定义非对称H型钢",
+     "general-h",
+     "general (unsymmetric) H",
+     8,
+     2,
+     true,
+     {{L"b(mm)", L"腹板宽度", "web thickness"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"bh1(mm)", L"下翼缘厚度", "bottom flange thickness"},
+      {L"bh2(mm)", L"上翼缘厚度", "top flange thickness"},
+      {L"bf1(mm)", L"上翼缘宽度", "top flange overhang left of the web"},
+      {L"bf2(mm)", L"上翼缘宽度", "top flange overhang right of the web"},
+      {L"bf3(mm)", L"下翼缘宽度", "bottom flange overhang left of the web"},
+      {L"bf4(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"}}},
+    {10,
+     L"自定义L形截面",
+     "l",
+     "L (angle), leg at the bottom pointing right",
+     4,
+     2,
+     true,
+     {{L"b(mm)", L"腹板宽度", "web thickness"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"bh(mm)", L"翼缘厚度", "leg thickness"},
+      {L"bf(mm)", L"翼缘宽度", "leg overhang right of the web"}}},
+    {11,
+     L"自定义Z形截面",
+     "z",
+     "Z, top flange to the left, bottom flange to the right",
+     6,
+     2,
+     true,
+     {{L"b(mm)", L"腹板宽度", "web thickness"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"bh1(mm)", L"下翼缘厚度", "bottom flange thickness"},
+      {L"bh2(mm)", L"上翼缘厚度", "top flange thickness"},
+      {L"bf1(mm)", L"上翼缘宽度", "top flange overhang left of the web"},
+      {L"bf2(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"}}},
+    {12,
+     L"自定义槽钢",
+     "channel",
+     "channel, open to the right",
+     6,
+     2,
+     true,
+     {{L"b(mm)", L"腹板宽度", "web thickness"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"bh1(mm)", L"下翼缘厚度", "bottom flange thickness"},
+      {L"bh2(mm)", L"上翼缘厚度", "top flange thickness"},
+      {L"bf1(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"},
+      {L"bf2(mm)", L"上翼缘宽度", "top flange overhang right of the web"}}},
+    {13,
+     L"自定义十字形截面",
+     "cross",
+     "plain cross",
+     6,
+     2,
+     true,
+     {{L"b(mm)", L"腹板宽度", "width of the vertical arms"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"bh1(mm)", L"下腹板高度", "height of the lower arm"},
+      {L"bh2(mm)", L"上腹板高度", "height of the upper arm"},
+      {L"bf1(mm)", L"左翼缘宽度", "length of the left arm"},
+      {L"bf2(mm)", L"右翼缘宽度", "length of the right arm"}}},
+    {14,
+     L"自定义非对称箱形截面",
+     "general-box",
+     "unsymmetric box",
+     6,
+     2,
+     true,
+     {{L"b(mm)", L"截面宽度", "section width"},
+      {L"h(mm)", L"截面高度", "section height"},
+      {L"t1(mm)", L"上腹板宽度", "top plate thickness"},
+      {L"t2(mm)", L"下腹板宽度", "bottom plate thickness"},
+      {L"t3(mm)", L"左腹板宽度", "left plate thickness"},
+      {L"t4(mm)", L"右腹板宽度", "right plate thickness"}}},
+};
+
+constexpr bool InOrderWithAllSizes() {
+  for (int i = 0; i < std::ssize(kStyles); ++i) {
+    if (kStyles[i].m_nStyle != i) return false;
+    for (int s = 0; s < CSectionStyle::kMaxSizes; ++s) {
+      if ((kStyles[i].m_arrSize[s].m_szSign != nullptr) != (s < kStyles[i].m_nSizes)) return false;
+    }
+  }
+  return true;
+}
+static_assert(InOrderWithAllSizes());
+
+}  // namespace
+
+std::span<const CSectionStyle> SectionStyles() noexcept { return kStyles; }
+
+const CSectionStyle* FindSectionStyle(int style) noexcept {
+  return style >= 0 && style < std::ssize(kStyles) ? &kStyles[style] : nullptr;
+}
+
+const CSectionStyle* FindSectionStyle(std::wstring_view tableName) noexcept {
+  for (const CSectionStyle& style : kStyles) {
+    if (tableName == style.m_szTable) return &style;
+  }
+  return nullptr;
+}
+
+const CSectionStyle* FindSectionAlias(std::string_view alias) noexcept {
+  for (const CSectionStyle& style : kStyles) {
+    if (alias == style.m_szAlias) return &style;
+  }
+  return nullptr;
+}
+
+}  // namespace orv3

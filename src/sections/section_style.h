@@ -1,0 +1,48 @@
+// The styles of user-defined sections: one table that the record, the headings, the command line
+// and the documentation read.
+//
+// The frame of every style: x to the right, y upwards, origin at the lower-left corner of the
+// section's bounding box; all sizes in mm.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "framework/export.h"
+
+namespace orv3 {
+
+// One size of a style, which is one column of its section table.
+struct CSizeColumn {
+  const wchar_t* m_szSign;   // "tf(mm)"
+  const wchar_t* m_szTitle;  // Chinese title of the column; may repeat inside a style
+  const char* m_szMeaning;   // English; never repeats inside a style
+};
+
+struct CSectionStyle {
+  static constexpr int kMaxSizes = 8;
+
+  int m_nStyle;
+  const wchar_t* m_szTable;  // name of the section table whose rows hold the style
+  const char* m_szAlias;     // short English name, as typed on a command line
+  const char* m_szShape;     // English title
+  int m_nSizes;              // number of sizes, 1 to 8
+  int m_nBaseSizes;          // how many of them give the outer extents
+  bool m_bFirstMoments;      // whether first moments of area are computed and tabulated
+  CSizeColumn m_arrSize[kMaxSizes];
+
+  std::span<const CSizeColumn> Sizes() const {
+    return {m_arrSize, static_cast<std::size_t>(m_nSizes)};
+  }
+};
+
+// All styles; the one at position i has the style number i.
+ORV3CAL_API std::span<const CSectionStyle> SectionStyles() noexcept;
+
+// The style of a number, of a table name or of an alias (both whole and case-sensitive); null when
+// there is none.
+ORV3CAL_API const CSectionStyle* FindSectionStyle(int style) noexcept;
+ORV3CAL_API const CSectionStyle* FindSectionStyle(std::wstring_view tableName) noexcept;
+ORV3CAL_API const CSectionStyle* FindSectionAlias(std::string_view alias) noexcept;
+
+}  // namespace orv3

@@ -1,0 +1,26 @@
+// What a table has on file, as it was last read or saved: by it a save tells the rows that another
+// process has changed since, and the rows that stand in their slots already.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "framework/cstring.h"
+#include "platform/file_system.h"
+#include "tables/data_item_array.h"
+
+namespace orv3 {
+
+struct CTableImage {
+  CString m_strPath;
+  CString m_strTable;
+  CFileStamp m_stamp;                  // of the file at that time
+  std::vector<std::string> m_arrSlot;  // the rows' stored bytes
+  std::vector<int> m_arrIndex;         // the rows' stable indices
+};
+
+// For each row the slot that holds it, -1 for a row that has none: the slot at its position if that
+// carries its stable index, else another one that does. No slot is given twice.
+std::vector<int> SlotsOfRows(const CDataItemArray& rows, const CTableImage& image);
+
+}  // namespace orv3

@@ -1,0 +1,471 @@
+// Properties of every style, against an integration of outlines traced corner by corner here.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "sections/outline_integral.h"
+#include "sections/section_property.h"
+#include "sections/section_style.h"
+#include "sections/steel_jm_data.h"
+
+namespace {
+
+using Sizes = std::vector<double>;
+constexpr double kNoFibre = 1e100;
+
+CSteelJMData Record(int style, const Sizes& sizes, double x = 0, double y = 0) {
+  CArray<double, double> array;
+  for (const double size : sizes) array.Add(size);
+  CSteelJMData jm;
+  jm.SetSectSize(style, array);
+  jm.m_dX = x;
+  jm.m_dY = y;
+  return jm;
+}
+
+CSteelJMData Calculated(int style, const Sizes& sizes, double x = 0, double y = 0) {
+  CSteelJMData jm = Record(style, sizes, x, y);
+  CSteelJMData::CalSectCharacterStyle(jm);
+  return jm;
+}
+
+void ExpectNear(double expected, double actual, double tolerance, const char* what) {
+  EXPECT_LE(std::fabs(expected - actual), tolerance * std::max(1.0, std::fabs(expected)))
+      << what << ": expected " << expected << ", got " << actual;
+}
+
+struct CShape {
+  const char* label;
+  int style;
+  Sizes sizes;
+  COutline outline;
+  double W, H;  // bounding box
+  double tolerance = 1e-10;
+};
+
+// Sizes in the order of the columns; outlines drawn by hand from the sizes' meanings.
+std::vector<CShape> Shapes() {
+  const double r3 = std::sqrt(3.0);
+  std::vector<CShape> shapes = {
+      {"H 300x400x10x20",
+       0,
+       {300, 400, 20, 10},
+       CPolygon{{0, 0},
+                {300, 0},
+                {300, 20},
+                {155, 20},
+                {155, 380},
+                {300, 380},
+                {300, 400},
+                {0, 400},
+                {0, 380},
+                {145, 380},
+                {145, 20},
+                {0, 20}},
+       300,
+       400},
+      {"box 300x400x16",
+       1,
+       {300, 400, 16},
+       COutline(Box(0, 0, 300, 400)).Hole(Box(16, 16, 284, 384)),
+       300,
+       400},
+      {"flanged cross 400x500",
+       2,
+       {400, 500, 150, 180, 12, 16},
+       COutline(Box(194, 16, 206, 484))
+           .Plate(Box(16, 244, 194, 256))
+           .Plate(Box(206, 244, 384, 256))
+           .Plate(Box(125, 0, 275, 16))
+           .Plate(Box(125, 484, 275, 500))
+           .Plate(Box(0, 160, 16, 340))
+           .Plate(Box(384, 160, 400, 340)),
+       400,
+       500},
+      {"rectangle 200x400", 3, {200, 400}, Box(0, 0, 200, 400), 200, 400},
+      {"triangle 240x300", 5, {240, 300}, CPolygon{{0, 0}, {240, 0}, {120, 300}}, 240, 300},
+      {"circle 100", 6, {100}, Circle(100, 100, 100), 200, 200, 5e-8},
+      {"tube 100/90",
+       7,
+       {100, 90},
+       COutline(Circle(100, 100, 100)).Hole(Circle(100, 100, 90)),
+       200,
+       200,
+       2e-7},
+      {"T, unequal overhangs",
+       8,
+       {12, 300, 18, 60, 110},
+       CPolygon{{60, 0}, {72, 0}, {72, 282}, {182, 282}, {182, 300}, {0, 300}, {0, 282}, {60, 282}},
+       182,
+       300},
+      {"T without overhangs", 8, {12, 300, 18, 0, 0}, Box(0, 0, 12, 300), 12, 300},
+      {"general H, bottom flange further left",
+       9,
+       {14, 600, 25, 20, 80, 140, 120, 90},
+       CPolygon{{0, 0},
+                {224, 0},
+                {224, 25},
+                {134, 25},
+                {134, 580},
+                {274, 580},
+                {274, 600},
+                {40, 600},
+                {40, 580},
+                {120, 580},
+                {120, 25},
+                {0, 25}},
+       274,
+       600},
+      {"general H, top flange further left",
+       9,
+       {14, 600, 25, 20, 120, 90, 80, 140},
+       CPolygon{{40, 0},
+                {274, 0},
+                {274, 25},
+                {134, 25},
+                {134, 580},
+                {224, 580},
+                {224, 600},
+                {0, 600},
+                {0, 580},
+                {120, 580},
+                {120, 25},
+                {40, 25}},
+       274,
+       600},
+      {"L 200x160",
+       10,
+       {16, 200, 20, 144},
+       CPolygon{{0, 0}, {160, 0}, {160, 20}, {16, 20}, {16, 200}, {0, 200}},
+       160,
+       200},
+      {"Z",
+       11,
+       {10, 250, 14, 18, 70, 90},
+       CPolygon{{70, 0}, {170, 0}, {170, 14}, {80, 14}, {80, 250}, {0, 250}, {0, 232}, {70, 232}},
+       170,
+       250},
+      {"channel, wider at the bottom",
+       12,
+       {9, 320, 16, 12, 110, 80},
+       CPolygon{{0, 0}, {119, 0}, {119, 16}, {9, 16}, {9, 308}, {89, 308}, {89, 320}, {0, 320}},
+       119,
+       320},
+      {"cross, four different arms",
+       13,
+       {30, 400, 150, 210, 90, 120},
+       CPolygon{{90, 0},
+                {120, 0},
+                {120, 150},
+                {240, 150},
+                {240, 190},
+                {120, 190},
+                {120, 400},
+                {90, 400},
+                {90, 190},
+                {0, 190},
+                {0, 150},
+                {90, 150}},
+       240,
+       400},
+      {"general box, four different plates",
+       14,
+       {300, 400, 30, 20, 12, 16},
+       COutline(Box(0, 0, 300, 400)).Hole(Box(12, 20, 284, 370)),
+       300,
+       400},
+  };
+  // Two corners on the vertical axis.
+  const double a = 120;
+  shapes.push_back({"hexagon 120",
+                    4,
+                    {a},
+                    CPolygon{{r3 * a / 2, 0},
+                             {r3 * a, a / 2},
+                             {r3 * a, 1.5 * a},
+                             {r3 * a / 2, 2 * a},
+                             {0, 1.5 * a},
+                             {0, a / 2}},
+                    r3 * a,
+                    2 * a});
+  return shapes;
+}
+
+// Centroid, inertia, radii and moduli. `factor` scales the centroidal inertia that is expected.
+void CheckInertia(const CShape& s, const CSteelJMData& jm, double factor) {
+  const CIntegrals i = Integrate(s.outline);
+  const double xo = i.x / i.A, yo = i.y / i.A;
+  const double Ixo = factor * (i.yy - i.A * yo * yo), Iyo = factor * (i.xx - i.A * xo * xo);
+  const double Ix = Ixo + i.A * (yo - jm.m_dY) * (yo - jm.m_dY);
+  const double Iy = Iyo + i.A * (xo - jm.m_dX) * (xo - jm.m_dX);
+  const auto modulus = [](double I, double fibre) {
+    return fibre == 0 ? kNoFibre : I / std::fabs(fibre);
+  };
+  const struct {
+    const char* what;
+    double expected, actual;
+  } checks[] = {
+      {"xo", xo, jm.m_dXo},
+      {"yo", yo, jm.m_dYo},
+      {"A", i.A, jm.m_dA},
+      {"Ixo", Ixo, jm.m_dIxo},
+      {"Iyo", Iyo, jm.m_dIyo},
+      {"Ix", Ix, jm.m_dIx},
+      {"Iy", Iy, jm.m_dIy},
+      {"ixo", std::sqrt(Ixo / i.A), jm.m_dixo},
+      {"iyo", std::sqrt(Iyo / i.A), jm.m_diyo},
+      {"ix", std::sqrt(Ix / i.A), jm.m_dix},
+      {"iy", std::sqrt(Iy / i.A), jm.m_diy},
+      {"Wxo1", modulus(Ixo, s.H - yo), jm.m_dWxo1},
+      {"Wxo2", modulus(Ixo, yo), jm.m_dWxo2},
+      {"WyoL", modulus(Iyo, xo), jm.m_dWyoL},
+      {"WyoR", modulus(Iyo, s.W - xo), jm.m_dWyoR},
+      {"Wx1", modulus(Ix, s.H - jm.m_dY), jm.m_dWx1},
+      {"Wx2", modulus(Ix, jm.m_dY), jm.m_dWx2},
+      {"WyL", modulus(Iy, jm.m_dX), jm.m_dWyL},
+      {"WyR", modulus(Iy, s.W - jm.m_dX), jm.m_dWyR},
+  };
+  for (const auto& c : checks) ExpectNear(c.expected, c.actual, s.tolerance, c.what);
+}
+
+void CheckFirstMoments(const CShape& s, const CSteelJMData& jm) {
+  const bool any = s.style != 2 && s.style != 4 && s.style != 5;
+  const bool base = any && s.style != 6 && s.style != 7;
+  const bool inY = base && jm.m_dY >= 0 && jm.m_dY <= s.H;
+  const bool inX = base && jm.m_dX >= 0 && jm.m_dX <= s.W;
+  const CIntegrals i = Integrate(s.outline);
+  const struct {
+    const char* what;
+    double expected, actual;
+  } checks[] = {
+      {"Sxo", any ? MomentX(s.outline, i.y / i.A, 1) : 0, jm.m_dSxo},
+      {"Syo", any ? MomentY(s.outline, i.x / i.A, 1) : 0, jm.m_dSyo},
+      {"Sx1", inY ? MomentX(s.outline, jm.m_dY, 1) : 0, jm.m_dSx1},
+      {"Sx2", inY ? MomentX(s.outline, jm.m_dY, -1) : 0, jm.m_dSx2},
+      {"SyL, the part to the right", inX ? MomentY(s.outline, jm.m_dX, 1) : 0, jm.m_dSyL},
+      {"SyR, the part to the left", inX ? MomentY(s.outline, jm.m_dX, -1) : 0, jm.m_dSyR},
+  };
+  for (const auto& c : checks) ExpectNear(c.expected, c.actual, s.tolerance, c.what);
+}
+
+TEST(SectionCalc, AgreesWithTheIntegratedOutline) {
+  for (const CShape& s : Shapes()) {
+    const CPoint bases[] = {{0, 0},           {0.3 * s.W, 0.65 * s.H}, {0.85 * s.W, 0.1 * s.H},
+                            {s.W, s.H},       {0, 0.5 * s.H},          {-0.25 * s.W, 1.5 * s.H},
+                            {0.5 * s.W, -40}, {2 * s.W, 0.5 * s.H}};
+    for (const CPoint& base : bases) {
+      SCOPED_TRACE(std::string(s.label) + ", base " + std::to_string(base.x) + ", " +
+                   std::to_string(base.y));
+      const CSteelJMData jm = Calculated(s.style, s.sizes, base.x, base.y);
+      // The hexagon's inertia is the handbooks' 0.541 a^4 instead of 5 sqrt(3) a^4 / 16.
+      CheckInertia(s, jm, s.style == 4 ? 0.541 / (5 * std::sqrt(3.0) / 16) : 1);
+      CheckFirstMoments(s, jm);
+    }
+  }
+}
+
+TEST(SectionCalc, EveryStyleIsAmongTheShapes) {
+  std::vector<bool> seen(orv3::SectionStyles().size());
+  for (const CShape& s : Shapes()) {
+    seen[static_cast<std::size_t>(s.style)] = true;
+    EXPECT_EQ(static_cast<int>(s.sizes.size()), orv3::FindSectionStyle(s.style)->m_nSizes)
+        << s.label;
+  }
+  EXPECT_EQ(std::vector<bool>(15, true), seen);
+}
+
+// Hand calculation: plate 200 x 400, base point in its lower-left corner.
+TEST(SectionCalc, PlateByHand) {
+  const CSteelJMData jm = Calculated(3, {200, 400});
+  const struct {
+    double expected, actual, halfDigit;
+  } checks[] = {
+      {80000, jm.m_dA, 0},
+      {100, jm.m_dXo, 0},
+      {200, jm.m_dYo, 0},
+      {1066666666.67, jm.m_dIxo, 0.005},
+      {266666666.67, jm.m_dIyo, 0.005},
+      {4266666666.67, jm.m_dIx, 0.005},
+      {1066666666.67, jm.m_dIy, 0.005},
+      {115.470, jm.m_dixo, 0.0005},
+      {57.735, jm.m_diyo, 0.0005},
+      {230.940, jm.m_dix, 0.0005},
+      {115.470, jm.m_diy, 0.0005},
+      {5333333.33, jm.m_dWxo1, 0.005},
+      {5333333.33, jm.m_dWxo2, 0.005},
+      {2666666.67, jm.m_dWyoL, 0.005},
+      {2666666.67, jm.m_dWyoR, 0.005},
+      {10666666.67, jm.m_dWx1, 0.005},
+      {kNoFibre, jm.m_dWx2, 0},
+      {kNoFibre, jm.m_dWyL, 0},
+      {5333333.33, jm.m_dWyR, 0.005},
+      {4000000, jm.m_dSxo, 0},
+      {2000000, jm.m_dSyo, 0},
+      {16000000, jm.m_dSx1, 0},
+      {0, jm.m_dSx2, 0},
+      {8000000, jm.m_dSyL, 0},
+      {0, jm.m_dSyR, 0},
+  };
+  for (const auto& c : checks) EXPECT_NEAR(c.expected, c.actual, c.halfDigit);
+}
+
+TEST(SectionCalc, HexagonUsesTheHandbookCoefficient) {
+  const CSteelJMData jm = Calculated(4, {100});
+  EXPECT_DOUBLE_EQ(0.541e8, jm.m_dIxo);
+  EXPECT_DOUBLE_EQ(0.541e8, jm.m_dIyo);
+  EXPECT_GT(std::fabs(jm.m_dIxo / 1e8 - 5 * std::sqrt(3.0) / 16), 2e-4);
+}
+
+TEST(SectionCalc, SlotsBehindTheOwnSizesKeepTheModelsSizes) {
+  const double z = -777;  // marks slots that nobody may touch
+  const struct {
+    int style;
+    Sizes before, after;
+  } cases[] = {
+      {0, {300, 400, 20, 10, z, z, z, z}, {300, 400, 20, 10, 145, 145, 145, 145}},
+      {1, {300, 400, 16, z, z, z, z, z}, {300, 400, 16, 16, 16, 16, z, z}},
+      {2, {400, 500, 150, 180, 12, 16, z, z}, {400, 500, 150, 180, 12, 16, z, z}},
+      {3, {200, 400, z, z, z, z, z, z}, {200, 400, z, z, z, z, z, z}},
+      {8, {12, 300, 18, 60, 110, z, z, z}, {12, 300, 18, 60, 110, 110, 0, 0}},
+      {9, {14, 600, 25, 20, 80, 140, 120, 90}, {14, 600, 25, 20, 80, 140, 120, 90}},
+      {10, {16, 200, 20, 144, z, z, z, z}, {16, 200, 20, 144, 0, 0, 0, 144}},
+      {11, {10, 250, 14, 18, 70, 90, z, z}, {10, 250, 14, 18, 70, 90, 0, 90}},
+      {12, {9, 320, 16, 12, 110, 80, z, z}, {9, 320, 16, 12, 110, 80, 0, 110}},
+      {13, {30, 400, 150, 210, 90, 120, z, z}, {30, 400, 150, 210, 90, 120, -90, -120}},
+      {14, {300, 400, 30, 20, 12, 16, z, z}, {300, 400, 30, 20, 12, 16, z, z}},
+  };
+  for (const auto& c : cases) {
+    const CSteelJMData jm = Calculated(c.style, c.before);
+    EXPECT_EQ(c.style, jm.m_nStyle);
+    EXPECT_EQ(c.after, Sizes(std::begin(jm.m_dSize), std::end(jm.m_dSize))) << "style " << c.style;
+  }
+}
+
+using CWorker = void (*)(CSteelJMData&);
+struct CNumbering {
+  CWorker worker;
+  int style;
+};
+constexpr CNumbering kNumbering[] = {
+    {CSteelJMData::CalSectCharacterStyle1, 3},   {CSteelJMData::CalSectCharacterStyle2, 14},
+    {CSteelJMData::CalSectCharacterStyle3, 4},   {CSteelJMData::CalSectCharacterStyle4, 5},
+    {CSteelJMData::CalSectCharacterStyle5, 6},   {CSteelJMData::CalSectCharacterStyle6, 7},
+    {CSteelJMData::CalSectCharacterStyle7, 8},   {CSteelJMData::CalSectCharacterStyle8, 9},
+    {CSteelJMData::CalSectCharacterStyle9, 10},  {CSteelJMData::CalSectCharacterStyle10, 11},
+    {CSteelJMData::CalSectCharacterStyle11, 12}, {CSteelJMData::CalSectCharacterStyle12, 13},
+    {CSteelJMData::CalSectCharacterStyle13, 2},  {CSteelJMData::CalSectCharacterStyle14, 0},
+    {CSteelJMData::CalSectCharacterStyle15, 1},
+};
+
+TEST(SectionCalc, WorkersServeTheirOwnStyleOnly) {
+  const Sizes sizes = {60, 80, 6, 7, 8, 9, 10, 11};
+  for (const CNumbering& n : kNumbering) {
+    for (int style = -1; style <= 15; ++style) {
+      CSteelJMData jm = Record(style, sizes);
+      jm.m_dA = -1;
+      n.worker(jm);
+      if (style == n.style) {
+        EXPECT_EQ(Calculated(style, sizes).m_dA, jm.m_dA) << "style " << style;
+        continue;
+      }
+      EXPECT_EQ(-1, jm.m_dA) << "worker of " << n.style << " took style " << style;
+      EXPECT_EQ(sizes, Sizes(std::begin(jm.m_dSize), std::end(jm.m_dSize)));
+    }
+  }
+}
+
+TEST(SectionCalc, AnEntryStartsFromZeroAWorkerDoesNot) {
+  for (const int style : {-1, 15, 99}) {
+    CSteelJMData jm = Record(style, {100, 200}, 3, 4);
+    jm.m_dA = jm.m_dSx1 = jm.m_diy = 5;
+    CSteelJMData::CalSectCharacterStyle(jm);
+    for (const auto& p : orv3::SectionProperties().subspan(2)) EXPECT_EQ(0, jm.*p.m_pField);
+    EXPECT_EQ(3, jm.m_dX);
+    EXPECT_EQ(100, jm.m_dSize[0]);
+  }
+  CSteelJMData outside = Record(3, {100, 200}, -1, -1);
+  outside.m_dSx1 = outside.m_dSyR = 5;
+  CSteelJMData::CalSectCharacterStyle1(outside);
+  EXPECT_EQ(5, outside.m_dSx1);
+  EXPECT_EQ(5, outside.m_dSyR);
+  CSteelJMData::CalSectCharacterStyle(outside);
+  EXPECT_EQ(0, outside.m_dSx1);
+  EXPECT_EQ(0, outside.m_dSyR);
+}
+
+TEST(SectionCalc, NoAreaAndImpossibleSizes) {
+  CSteelJMData none = Calculated(3, {0, 0}, 3, -4);
+  EXPECT_EQ(0, none.m_dixo);
+  EXPECT_EQ(4, none.m_dix);
+  EXPECT_EQ(3, none.m_diy);
+  EXPECT_EQ(kNoFibre, none.m_dWxo1);
+
+  const CSteelJMData solid = Calculated(14, {0, 0, 0, 0, 0, 0});
+  EXPECT_EQ(0, solid.m_dXo);
+
+  // The inner radius is beyond the outer one: area and inertia are negative; their ratio is not.
+  const CSteelJMData inside = Calculated(7, {90, 100});
+  EXPECT_LT(inside.m_dA, 0);
+  EXPECT_GT(inside.m_dixo, 0);
+  // A negative radicand is not hidden.
+  CSteelJMData odd = Record(3, {1, 1});
+  odd.m_dA = -1;
+  odd.m_dIxo = 1;
+  CSteelJMData::CalSectMomByI0(odd, 1, 1);
+  EXPECT_TRUE(std::isnan(odd.m_dixo));
+}
+
+TEST(SectionCalc, RectangleHelpers) {
+  const struct {
+    const char* label;
+    double b, h, y0, yc;
+    double above, below;
+  } cases[] = {
+      {"axis through the middle", 10, 20, 5, 15, 500, 500},
+      {"axis below", 10, 20, 5, 0, 3000, 0},
+      {"axis above", 10, 20, 5, 30, 0, 3000},
+      {"axis on the lower edge", 10, 20, 5, 5, 2000, 0},
+      {"axis on the upper edge", 10, 20, 5, 25, 0, 2000},
+      {"negative height counts upwards", 10, -20, 5, 15, 500, 500},
+      {"negative width", -10, 20, 5, 0, 3000, 0},
+  };
+  for (const auto& c : cases) {
+    EXPECT_DOUBLE_EQ(c.above, CSteelJMData::CalRectMomS(c.b, c.h, c.y0, c.yc, 1)) << c.label;
+    EXPECT_DOUBLE_EQ(c.below, CSteelJMData::CalRectMomS(c.b, c.h, c.y0, c.yc, 0)) << c.label;
+  }
+  EXPECT_DOUBLE_EQ(10 * 20 * 9 + 10 * 8000 / 12.0, CSteelJMData::CalRectGxj(10, 20, 3));
+
+  double x = 0, y = 0;
+  CSteelJMData::CalRectBarycenterAdd(1, 0, 10, 3, 8, 2, x, y);
+  EXPECT_DOUBLE_EQ(6, x);
+  EXPECT_DOUBLE_EQ(4, y);
+  CSteelJMData::CalRectBarycenterAdd(2, 7, 9, -2, 8, 2, x, y);
+  EXPECT_EQ(7, x);
+  EXPECT_EQ(9, y);
+}
+
+// A steel joist is the same section however it is described.
+TEST(SectionCalc, OneSectionInSeveralStyles) {
+  const struct {
+    int a;
+    Sizes sizesA;
+    int b;
+    Sizes sizesB;
+  } cases[] = {
+      {0, {300, 400, 20, 10}, 9, {10, 400, 20, 20, 145, 145, 145, 145}},
+      {1, {300, 400, 16}, 14, {300, 400, 16, 16, 16, 16}},
+      {8, {12, 300, 18, 0, 0}, 3, {12, 300}},
+      {13, {300, 400, 190, 190, 0, 0}, 3, {300, 400}},
+      {12, {10, 400, 20, 20, 90, 90}, 9, {10, 400, 20, 20, 0, 90, 0, 90}},
+  };
+  for (const auto& c : cases) {
+    const CSteelJMData a = Calculated(c.a, c.sizesA, 5, 60), b = Calculated(c.b, c.sizesB, 5, 60);
+    for (const auto& p : orv3::SectionProperties()) {
+      ExpectNear(a.*p.m_pField, b.*p.m_pField, 1e-13, p.m_szKey);
+    }
+  }
+}
+
+}  // namespace

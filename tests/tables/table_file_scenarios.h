@@ -1,0 +1,59 @@
+// Saves that faults are tried on: a store before each, and the table that is about to be saved.
+#pragma once
+
+#include "tables/table_file_tools.h"
+
+namespace scenarios {
+
+enum CScenario : int { kChange, kDelete, kGrow, kNewTable, kNewFile, kSorted, kCount };
+
+inline const char* const kNames[] = {"change a row", "delete and add", "grow",
+                                     "new table",    "new file",       "sorted"};
+
+// Makes the store: 95 rows of one table and 2 of another.
+inline void Prepare(const CString& path) {
+  CDataTable table = SectionTable();
+  for (int i = 0; i < 95; ++i) AddRow(table, Name(i));
+  EXPECT_EQ(table.WriteTable(path, 0, 0), 1);
+  CDataTable second = SectionTable(L"B");
+  AddRow(second, L"B1");
+  AddRow(second, L"B2");
+  EXPECT_EQ(second.WriteTable(path, 0, 0), 1);
+}
+
+// The table with unsaved changes.
+inline CDataTable Start(const CString& path, int scenario) {
+  if (scenario == kNewTable || scenario == kNewFile) {
+    CDataTable table = SectionTable(L"C");
+    for (int i = 0; i < 150; ++i) AddRow(table, Name(i));
+    return table;
+  }
+  CDataTable table = Loaded(path);
+  if (scenario == kChange || scenario == kSorted) {
+    if (scenario == kSorted) table.OrderTable(0, 0);
+    EXPECT_EQ(table.ModifyTableItem(50, L"I50,777"), 1);
+  }
+  if (scenario == kDelete) {
+    EXPECT_EQ(table.DeleteTableItem(3), 1);
+    EXPECT_EQ(table.DeleteTableItem(90), 1);
+    AddRow(table, L"new");
+  }
+  if (scenario == kGrow) {
+    for (int i = 95; i < 200; ++i) AddRow(table, Name(i));
+  }
+  return table;
+}
+
+// Every table of the store with its rows, as a reader sees it.
+inline std::string Seen(const CString& path) {
+  std::string seen;
+  CStringArray names;
+  CDataTable::GetTableNameFromFile(path, names);
+  for (const CString& name : names) {
+    seen += orv3::ToUtf8(name) + ":";
+    for (const std::string& row : Rows(Loaded(path, name.GetString()))) seen += row + " ";
+  }
+  return seen;
+}
+
+}  // namespace scenarios

@@ -1,0 +1,346 @@
+// Table files to the byte.
+#include "tables/table_file_info.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/code_page.h"
+#include "platform/store_file.h"
+#include "tables/table_file_tools.h"
+
+namespace {
+
+using golden::CTable;
+using golden::kBlock;
+using golden::kFirst;
+using golden::kOneBlock;
+
+const std::string kName = "\xB9\xA4\xD7\xD6\xB8\xD6";  // 工字钢
+
+class TableFile : public testing::Test {
+ protected:
+  TableFile() { m_files.SetLocalTime(golden::kTime); }
+
+  int Save(CDataTable& table, int all = 0) { return table.WriteTable(m_path, 0, all); }
+
+  CTempFolder m_folder;
+  CFaultyFiles m_files;
+  const CString m_path = m_folder.Path(L"a.KDB");
+};
+
+CTable Golden(int rows) {
+  CTable table{kName, 2, golden::kHeading, {}, {kFirst}};
+  for (int i = 0; i < rows; ++i) {
+    const std::string n = std::to_string(i);
+    table.rows.push_back(n + ",,,0,,,I" + n + ",,,200");
+  }
+  return table;
+}
+
+TEST_F(TableFile, ANewFileHasHeadingBlockAndDirectory) {
+  CDataTable table = SectionTable();
+  AddRow(table, L"I0");
+  AddRow(table, L"I1");
+  ASSERT_EQ(Save(table), 1);
+  EXPECT_EQ(Bytes(m_path), golden::File({Golden(2)}, kOneBlock));
+  EXPECT_EQ(table.m_strFileInfo, L"KvbTable_1.0_2005_3,0,2024-5-7:9:3:12:250");
+  EXPECT_EQ(table[1].m_strFileInfo, table.m_strFileInfo);
+  EXPECT_EQ(table[1].m_nModifyType, 0);
+}
+
+TEST_F(TableFile, AGoldenFileIsRead) {
+  CTable golden = Golden(2);
+  golden.rows.push_back("7,,,4,,,I20a,,,0.5");
+  golden.rows.push_back("3,,,-1,,,\xD0\xCD,,,");
+  golden.name = "B";
+  golden.blocks = {kFirst + kBlock};
+  PutBytes(m_path, golden::File({Golden(1), golden}, kOneBlock + kBlock));
+
+  const CDataTable table = Loaded(m_path, L"B");
+  EXPECT_EQ(Rows(table), (std::vector<std::string>{"I0=200", "I1=200", "I20a=0.5", "-型="}));
+  EXPECT_EQ(table[2].m_nIndex, 7);
+  EXPECT_EQ(table[2].m_nModifyType, 4);
+  EXPECT_EQ(table[2].m_strTableName, L"B");
+  EXPECT_EQ(table[2][1].m_strSign, L"h(mm)");
+  EXPECT_EQ(table.GetDataTableColType(1), CDataTypeStruct::KVBT_DOUBLE);
+  EXPECT_EQ(table.m_strFileInfo, L"KvbTable_1.0_2005_3,0,2024-5-7:9:3:12:250");
+  CStringArray names;
+  EXPECT_EQ(CDataTable::GetTableNameFromFile(m_path, names), 2);
+  EXPECT_EQ(names[0], L"工字钢");
+  EXPECT_EQ(names[1], L"B");
+}
+
+TEST_F(TableFile, GrowthBeyond95RowsMovesTheDirectory) {
+  CDataTable table = SectionTable();
+  for (int i = 0; i < 95; ++i) AddRow(table, Name(i));
+  ASSERT_EQ(Save(table), 1);
+  EXPECT_EQ(Bytes(m_path), golden::File({Golden(95)}, kOneBlock));
+
+  AddRow(table, Name(95));
+  ASSERT_EQ(Save(table), 1);
+  CTable grown = Golden(96);
+  grown.blocks.push_back(kFirst + kBlock);
+  EXPECT_EQ(Bytes(m_path), golden::File({grown}, kOneBlock + kBlock));
+
+  for (int i = 96; i < 197; ++i) AddRow(table, Name(i));
+  ASSERT_EQ(Save(table), 1);
+  grown = Golden(197);
+  grown.blocks = {kFirst, kFirst + kBlock, kFirst + 2 * kBlock};
+  EXPECT_EQ(Bytes(m_path), golden::File({grown}, kOneBlock + 2 * kBlock));
+  EXPECT_EQ(Rows(Loaded(m_path)), Rows(table));
+}
+
+TEST_F(TableFile, ASecondTableIsAppendedAndTheFirstStays) {
+  CDataTable table = SectionTable();
+  for (int i = 0; i < 3; ++i) AddRow(table, Name(i));
+  ASSERT_EQ(Save(table), 1);
+  CDataTable second;
+  second.SetTableName(L"B");
+  second.AddTableCol(L"x", L"X", CDataTypeStruct::KVBT_INT, 0);
+  ASSERT_EQ(second.AddTableItem(L"5", 0), 1);
+  m_files.SetLocalTime({2030, 1, 1, 0, 0, 0, 0});  // the line is that of the first save
+  ASSERT_EQ(Save(second), 1);
+  const CTable b{"B", 1, "x,,,X,,,0,,,1", {"0,,,4,,,5"}, {kFirst + kBlock}};
+  EXPECT_EQ(Bytes(m_path), golden::File({Golden(3), b}, kOneBlock + 100 * 58));
+  EXPECT_EQ(second[0].m_nModifyType, 4);
+
+  // The first table grows behind the second one.
+  for (int i = 3; i < 96; ++i) AddRow(table, Name(i));
+  ASSERT_EQ(Save(table), 1);
+  CTable grown = Golden(96);
+  grown.blocks.push_back(kFirst + kBlock + 5800);
+  EXPECT_EQ(Bytes(m_path), golden::File({grown, b}, kOneBlock + 5800 + kBlock));
+}
+
+TEST_F(TableFile, StatesOnFileAreThoseAfterTheSave) {
+  const struct {
+    int before;
+    int inMemory;
+    const char* onFile;  // of a save that writes the row
+    bool writtenAlways;
+  } kCases[] = {{1, 0, "0", true},  {2, 0, "0", true},    {3, 4, "4", true},    {0, 0, "0", false},
+                {4, 4, "4", false}, {-1, -2, "-1", true}, {-2, -2, "-1", false}};
+  for (const auto& c : kCases) {
+    for (const int all : {0, 1}) {
+      SCOPED_TRACE(std::to_string(c.before) + (all ? " forced" : ""));
+      orv3::SystemFiles().Remove(m_path);
+      CDataTable table = SectionTable();
+      AddRow(table, L"I0");
+      ASSERT_EQ(Save(table), 1);
+      table[0][1].m_strValue = L"300";
+      table[0].m_nModifyType = c.before;
+      ASSERT_EQ(Save(table, all), 1);
+      EXPECT_EQ(table[0].m_nModifyType, c.inMemory);
+      CTable golden = Golden(1);
+      if (all || c.writtenAlways) golden.rows[0] = std::string("0,,,") + c.onFile + ",,,I0,,,300";
+      EXPECT_EQ(Bytes(m_path), golden::File({golden}, kOneBlock));
+    }
+  }
+}
+
+TEST_F(TableFile, ADeletedRowStaysOnFileUntilItIsReused) {
+  CDataTable table = SectionTable();
+  for (int i = 0; i < 3; ++i) AddRow(table, Name(i));
+  ASSERT_EQ(Save(table), 1);
+  ASSERT_EQ(table.DeleteTableItem(1), 1);
+  ASSERT_EQ(Save(table), 1);
+  CTable golden = Golden(3);
+  golden.rows[1] = "1,,,-1,,,I1,,,200";
+  EXPECT_EQ(Bytes(m_path), golden::File({golden}, kOneBlock));
+
+  CDataTable again = Loaded(m_path);
+  EXPECT_EQ(again[1].m_nModifyType, -1);
+  AddRow(again, L"I9");
+  ASSERT_EQ(Save(again), 1);
+  golden.rows[1] = "1,,,0,,,I9,,,200";
+  EXPECT_EQ(Bytes(m_path), golden::File({golden}, kOneBlock));
+}
+
+// A writer that rewrites the table without its deleted rows, one that sorted it, and one that saves
+// unchanged rows into another file: the file then holds the table as it is.
+TEST_F(TableFile, RowsThatMovedAreWrittenWhereTheyAre) {
+  CDataTable table = SectionTable();
+  for (int i = 0; i < 4; ++i) AddRow(table, Name(i), Name(9 - i).Mid(1));
+  ASSERT_EQ(Save(table), 1);
+  ASSERT_EQ(table.OrderTable(1, 1), 1);
+  ASSERT_EQ(table.DeleteTableItem(2), 1);
+  ASSERT_EQ(Save(table), 1);
+  EXPECT_EQ(Rows(Loaded(m_path)), (std::vector<std::string>{"I3=6", "-I2=7", "I1=8", "I0=9"}));
+  table.m_arrItem.RemoveAt(1);
+  ASSERT_EQ(Save(table), 1);
+  EXPECT_EQ(Rows(Loaded(m_path)), (std::vector<std::string>{"I3=6", "I1=8", "I0=9"}));
+  const CString other = m_folder.Path(L"b.KDB");
+  ASSERT_EQ(table.WriteTable(other, 2, 0), 1);
+  EXPECT_EQ(Rows(Loaded(other)), Rows(table));
+}
+
+TEST_F(TableFile, TextFormsAndTransform) {
+  CDataTypeStruct column(L"型", L"No.", CDataTypeStruct::KVBT_LONG, 1);
+  const CString fake = column.TranToFake();
+  const std::string stored = golden::Fake("\xD0\xCD,,,No.,,,1,,,2");
+  ASSERT_EQ(fake.GetLength(), static_cast<int>(stored.size()));
+  for (int i = 0; i < fake.GetLength(); ++i) {  // sign-extended to 16 bits
+    const auto byte = static_cast<signed char>(stored[static_cast<std::size_t>(i)]);
+    EXPECT_EQ(static_cast<std::uint16_t>(fake[i]), static_cast<std::uint16_t>(byte));
+  }
+  CDataTypeStruct back;
+  back.TransToNormal(stored.c_str());
+  EXPECT_EQ(back.m_strName, L"型");
+  EXPECT_EQ(back.m_strSign, L"No.");
+  EXPECT_EQ(back.m_bKey, 1);
+  EXPECT_EQ(back.m_nType, CDataTypeStruct::KVBT_LONG);
+  back.TransToNormal(golden::Fake("only").c_str());
+  EXPECT_EQ(back.m_strName, L"only");
+  EXPECT_EQ(back.m_nType, CDataTypeStruct::KVBT_STRING);
+
+  CDataTable table = SectionTable();
+  AddRow(table, L"I20a", L"7.5");
+  EXPECT_EQ(CDataTable::TransStringToFake(L"0,,,1,,,I20a,,,7.5"), table.TransItemToFake(0));
+  EXPECT_EQ(table.TransItemToNormal(golden::Fake("8,,,4,,,I22,,,9").c_str()), 1);
+  EXPECT_EQ(table[1].m_nIndex, 8);
+  EXPECT_EQ(table.TransItemToNormal(golden::Fake("8,,,4,,,I22").c_str()), 0);
+  EXPECT_THROW(table.TransItemToNormal(golden::Fake("8,,,4,,,a,,,b,,,c").c_str()),
+               CInvalidArgException);
+  EXPECT_EQ(table.GetTableRowNum(), 2);
+  CDataTableTitle title;
+  title.TransToNormal(golden::Fake(golden::kHeading).c_str());
+  EXPECT_TRUE(title.IsEqualOf(table.m_Title));
+  EXPECT_EQ(title.TranToFake(),
+            CDataTable::TransStringToFake(L"型号,,,No.,,,1,,,0,,,高,,,h(mm),,,0,,,4"));
+  EXPECT_EQ(CDataTableTitle().TranToFake(), L"");
+  CDataFileInfo info;
+  info.TransToNormal(golden::Fake("A,,,91,,,3,,,20100,,,-5").c_str());
+  EXPECT_EQ(info.m_nItemLen, 91);
+  EXPECT_EQ(info.m_nRowNum, 3);
+  EXPECT_EQ(info.m_arrBlockPos.GetSize(), 2);
+  EXPECT_EQ(info.TranToFake(), CDataTable::TransStringToFake(L"A,,,91,,,3,,,20100,,,-5"));
+}
+
+TEST_F(TableFile, LongTextsAndLineFeedsAreCut) {
+  CDataTable table = SectionTable();
+  AddRow(table, L"1234567890123456789012345678901", L"7\n8");
+  AddRow(table, CString(L'型', 30), L"8");
+  ASSERT_EQ(Save(table), 1);
+  const CDataTable read = Loaded(m_path);
+  EXPECT_EQ(Rows(read)[0], "123456789012345678901234567890=7");
+  EXPECT_EQ(read[1][0].m_strValue, CString(L'型', 30));
+}
+
+// A row of 2 columns has 91 bytes: "0,,,0,,," takes 8, ",,," three of the others.
+TEST_F(TableFile, ACutNeverShowsHalfACharacter) {
+  for (int ascii = 0; ascii <= 30; ++ascii) {
+    orv3::SystemFiles().Remove(m_path);
+    CDataTable table = SectionTable();
+    const CString second = CString(L'a', ascii) + CString(L'型', 30 - ascii);
+    AddRow(table, CString(L'号', 30), second);
+    AddRow(table, L"next", L"1");
+    ASSERT_EQ(Save(table), 1);
+    const int room = 91 - 8 - 60 - 3;
+    const int whole = std::min(30 - ascii, std::max(0, (room - ascii) / 2));
+    const CDataTable read = Loaded(m_path);
+    EXPECT_EQ(read[0][0].m_strValue, CString(L'号', 30));
+    EXPECT_EQ(read[0][1].m_strValue, CString(L'a', std::min(ascii, room)) + CString(L'型', whole));
+    EXPECT_EQ(read[1][0].m_strValue, L"next");
+  }
+  // Another writer's file, cut at every place of the slot.
+  for (std::size_t size = 0; size <= 60; ++size) {
+    CTable golden = Golden(2);
+    std::string value;
+    for (int i = 0; i < 30; ++i) value += "\xBA\xC5";
+    golden.rows[0] = "0,,,0,,," + value + ",,," + value.substr(0, size);
+    PutBytes(m_path, golden::File({golden}, kOneBlock));
+    const CDataTable read = Loaded(m_path);
+    EXPECT_EQ(read[0][1].m_strValue,
+              CString(L'号', static_cast<int>(std::min<std::size_t>(size, 20)) / 2));
+    EXPECT_EQ(read[1][0].m_strValue, L"I1");
+  }
+}
+
+TEST_F(TableFile, ValuesLostToACutSlotAreEmpty) {
+  CDataTable table;
+  table.SetTableName(L"T");
+  for (int i = 0; i < 5; ++i) table.AddTableCol(L"c", Name(i), CDataTypeStruct::KVBT_STRING, 0);
+  CStringArray values;
+  for (int i = 0; i < 5; ++i) values.Add(CString(L'号', 30));
+  ASSERT_EQ(table.AddTableItem(values, 1), 1);
+  ASSERT_EQ(Save(table), 1);
+  const CDataTable read = Loaded(m_path, L"T");
+  EXPECT_EQ(read[0][2].m_strValue, CString(L'号', 28));  // (190 - 8 - 2 * 63) / 2
+  EXPECT_EQ(read[0][3].m_strValue, L"");
+  EXPECT_EQ(read[0].GetItemLength(), 5);
+}
+
+TEST_F(TableFile, WhatCannotBeStoredIsRefusedBeforeAnythingIsWritten) {
+  CDataTable table = SectionTable();
+  AddRow(table, L"I0");
+  ASSERT_EQ(Save(table), 1);
+  const std::string before = Bytes(m_path);
+  AddRow(table, L"\xFFFD");
+  EXPECT_EQ(Save(table), 0);
+  EXPECT_EQ(orv3::LastStoreError().m_nTrouble, orv3::CStoreTrouble::Refused);
+  EXPECT_EQ(table[1].m_nModifyType, 1);
+  for (const wchar_t* name : {L"", L"a,,,b", L"a\nb", L"\xFFFD"}) {
+    CDataTable other = SectionTable(name);
+    EXPECT_EQ(Save(other), 0);
+  }
+  CDataTable wider = SectionTable();
+  wider.AddTableCol(L"x", L"x", CDataTypeStruct::KVBT_INT, 0);
+  EXPECT_EQ(wider.WriteTable(m_path, 0, 1), 0);
+  EXPECT_EQ(Bytes(m_path), before);
+  EXPECT_EQ(table.WriteTable(L"", 0, 0), 0);
+}
+
+TEST_F(TableFile, NinetyNineTablesFit) {
+  for (int i = 0; i < 100; ++i) {
+    CDataTable table;
+    table.SetTableName(Name(i));
+    table.AddTableCol(L"c", L"c", CDataTypeStruct::KVBT_STRING, 0);
+    ASSERT_EQ(table.AddTableItem(Name(i), 1), 1);
+    EXPECT_EQ(Save(table), i < 99 ? 1 : 0);
+  }
+  CStringArray names;
+  EXPECT_EQ(CDataTable::GetTableNameFromFile(m_path, names), 99);
+  EXPECT_EQ(Loaded(m_path, L"I98")[0][0].m_strValue, L"I98");
+  EXPECT_EQ(Bytes(m_path).back(), '#');
+}
+
+TEST_F(TableFile, ARecordOver200BytesIsCut) {
+  const CString name(L'型', 64);
+  CDataTable table;
+  table.SetTableName(name);
+  table.AddTableCol(L"c", L"c", CDataTypeStruct::KVBT_STRING, 0);
+  for (int i = 0; i < 700; ++i) ASSERT_EQ(table.AddTableItem(L"v", 1), 1);
+  ASSERT_EQ(Save(table), 1);  // 128 bytes of name, 11 of sizes, 8 blocks of 8
+  std::string record;
+  for (int i = 0; i < 64; ++i) record += "\xD0\xCD";
+  record += ",,,58,,,700";
+  for (int i = 0; i < 8; ++i) record += ",,," + std::to_string(20100 + 5800 * i);
+  const std::string file = Bytes(m_path);
+  EXPECT_EQ(file.substr(file.size() - 20000, 200), golden::Field(record, 200));
+  CDataTable read;
+  read.SetTableName(name);
+  CString line;
+  EXPECT_EQ(read.GetTable(m_path, line), 0);  // its last block's place is lost
+}
+
+TEST_F(TableFile, InformationOfAFile) {
+  CDataTable table = SectionTable();
+  AddRow(table, L"I0");
+  ASSERT_EQ(table.WriteTable(m_path, 1, 0), 1);
+  CString line;
+  CDataTable nameless;
+  EXPECT_EQ(nameless.ReadTableFileInfo(m_path, line), 1);  // though it holds no table "test"
+  EXPECT_EQ(nameless.GetTableName(), L"test");
+  EXPECT_EQ(line, L"KvbTable_1.0_2005_3,1,2024-5-7:9:3:12:250");
+  EXPECT_EQ(nameless.ReadTableFileInfo(m_folder.Path(L"none.KDB"), line), 0);
+  EXPECT_EQ(nameless.GetTable(m_path, line), 0);
+  EXPECT_EQ(orv3::LastStoreError().m_nTrouble, orv3::CStoreTrouble::NoTable);
+  CDataFileInfo info;
+  EXPECT_EQ(table.ReadTableFileInfo(nullptr, line, info), 0);
+  EXPECT_EQ(table.WriteTableFileInfo(nullptr, 0, info), 0);
+  const auto file = orv3::CStoreFile::OpenToRead(m_path);
+  EXPECT_EQ(table.ReadTableFileInfo(file.get(), line, info), 1);
+  EXPECT_EQ(info.m_nItemLen, 91);
+  EXPECT_EQ(table.GetTableTextLen(), 91 + 200);
+}
+
+}  // namespace
