@@ -1,4 +1,4 @@
-// WQWeldingData: the check of a full-penetration butt weld by GB 50017-2003, 7.1.1.
+// WQWeldingData: the check of a full-penetration butt weld by GB 50017-2003, 7.1.2.
 #pragma once
 
 #include "framework/export.h"

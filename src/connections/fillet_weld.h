@@ -1,5 +1,5 @@
 // AngleHanFData: the check of a fillet weld, or of a partial-penetration groove weld by its
-// effective throat, by GB 50017-2003, 7.1.2 to 7.1.5.
+// effective throat, by GB 50017-2003, 7.1.3 to 7.1.5.
 #pragma once
 
 #include "framework/export.h"

@@ -20,10 +20,10 @@ using CEquation = std::function<double(double)>;
 double FirstRoot(const CEquation& f, double from, double to) {
   constexpr double kStep = 0.01;
   const bool bPositive = f(from) > 0;
-  for (double x = from; x < to; x += kStep) {
-    if ((f(x + kStep) > 0) == bPositive) continue;
-    double low = x;
-    double high = x + kStep;
+  for (int step = 0; from + kStep * step < to; ++step) {
+    double low = from + kStep * step;
+    double high = low + kStep;
+    if ((f(high) > 0) == bPositive) continue;
     for (int i = 0; i < 50; ++i) {
       const double middle = (low + high) / 2;
       ((f(middle) > 0) == bPositive ? low : high) = middle;

@@ -73,14 +73,13 @@ TEST(CodeTableLookups, SteelStrengthByGroup) {
 
 TEST(CodeTableLookups, SteelStrengthByThickness) {
   struct {
-    int grade;
     double t;
-    int strength;
+    int grade, strength;
   } cases[] = {
-      {0, 16, 215},        {0, 16.01, 205}, {0, 40, 205},       {0, 40.01, 200},   {0, 60, 200},
-      {0, 60.5, 190},      {0, 100, 190},   {0, 100.5, kFalse}, {0, kNaN, kFalse}, {1, 16, 310},
-      {1, 35, 295},        {1, 35.01, 265}, {1, 50, 265},       {2, 50.01, 295},   {3, 100, 325},
-      {3, 100.01, kFalse}, {4, 10, kFalse},
+      {16, 0, 215},        {16.01, 0, 205}, {40, 0, 205},       {40.01, 0, 200},   {60, 0, 200},
+      {60.5, 0, 190},      {100, 0, 190},   {100.5, 0, kFalse}, {kNaN, 0, kFalse}, {16, 1, 310},
+      {35, 1, 295},        {35.01, 1, 265}, {50, 1, 265},       {50.01, 2, 295},   {100, 3, 325},
+      {100.01, 3, kFalse}, {10, 4, kFalse},
   };
   for (const auto& c : cases) EXPECT_EQ(Steel(c.grade, c.t, SUB1_F), c.strength) << c.t;
 }

@@ -11,7 +11,6 @@ namespace {
 
 using orv3::BoltGroup;
 using orv3::CBoltInput;
-using orv3::kNoMoment;
 
 struct CExpected {
   int n;

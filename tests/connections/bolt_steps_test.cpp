@@ -9,7 +9,6 @@
 namespace {
 
 using orv3::BoltGroup;
-using orv3::CBoltInput;
 
 constexpr int kOrdinary = 0;
 constexpr int kFriction = 1;
@@ -100,15 +99,14 @@ TEST(BoltSteps, StrengthsThatAreNotLookedUpAreScaledAtEveryRun) {
 
 TEST(BoltSteps, SlipFactor) {
   struct {
-    int type, surface, steel;
+    int type, surface, steel, surfaceAfter;
     double mu;
-    int surfaceAfter;
   } cases[] = {
-      {kFriction, 0, 0, 0.45, 0}, {kFriction, 0, 2, 0.50, 0},   {kFriction, 1, 3, 0.40, 1},
-      {kFriction, 2, 1, 0.50, 2}, {kFriction, 3, 0, 0.30, 3},   {kFriction, 3, 2, 0.35, 3},
-      {kFriction, 4, 0, 0.30, 3}, {kFriction, 4, 3, 0.40, 3},  // 4 is changed to 3
-      {kFriction, 5, 0, 0.99, 5}, {kFriction, -1, 0, 0.99, -1}, {kFriction, 0, 4, 0.99, 0},
-      {kOrdinary, 4, 0, 0.99, 4}, {kBearing, 0, 0, 0.99, 0},
+      {kFriction, 0, 0, 0, 0.45}, {kFriction, 0, 2, 0, 0.50},   {kFriction, 1, 3, 1, 0.40},
+      {kFriction, 2, 1, 2, 0.50}, {kFriction, 3, 0, 3, 0.30},   {kFriction, 3, 2, 3, 0.35},
+      {kFriction, 4, 0, 3, 0.30}, {kFriction, 4, 3, 3, 0.40},  // 4 is changed to 3
+      {kFriction, 5, 0, 5, 0.99}, {kFriction, -1, 0, -1, 0.99}, {kFriction, 0, 4, 0, 0.99},
+      {kOrdinary, 4, 0, 4, 0.99}, {kBearing, 0, 0, 0, 0.99},
   };
   for (const auto& c : cases) {
     NormalBoltData group = BoltGroup({.type = c.type, .steel = c.steel, .surface = c.surface});
@@ -290,6 +288,25 @@ TEST(BoltSteps, StraightCutAlongXCountsRows) {
   NormalBoltData group = BoltGroup({.layout = 1, .cols = 5, .rows = 2, .Vy = 100});
   group.BoltYanSuan();
   EXPECT_DOUBLE_EQ(group.m_dAreaY[2], 3585);
+}
+
+// 5.1.1 with staggered holes: the zigzag cut governs when its legs are little longer than the
+// straight way. M20, d0 = 21.5, legs sqrt(100^2 + 40^2) = 107.7033; 3 columns, 3 rows.
+TEST(BoltSteps, ZigzagCut) {
+  // x: (2 107.7033 + 100 - 5 21.5) 10 = 2079.066 < (100 + 200 - 3 21.5) 10 = 2355
+  NormalBoltData alongX =
+      BoltGroup({.layout = 1, .cols = 3, .rows = 3, .colSpace = 40, .rowSpace = 100, .Vx = 100});
+  alongX.BoltYanSuan();
+  EXPECT_NEAR(alongX.m_dAreaX[3], 2079.066, 1e-3);
+  EXPECT_NEAR(alongX.m_dSigmaX[0], 48.09852, 1e-5);
+  EXPECT_NEAR(alongX.m_dSigmaX[1], 100e3 / 2355, 1e-9);
+  // y: (2 107.7033 + 100 - 3 21.5) 10 = 2509.066 < (100 + 200 - 2 21.5) 10 = 2570
+  NormalBoltData alongY =
+      BoltGroup({.layout = 1, .cols = 3, .rows = 3, .colSpace = 100, .rowSpace = 40, .Vy = 100});
+  alongY.BoltYanSuan();
+  EXPECT_NEAR(alongY.m_dAreaY[3], 2509.066, 1e-3);
+  EXPECT_NEAR(alongY.m_dSigmaY[0], 39.85547, 1e-5);
+  EXPECT_NEAR(alongY.m_dSigmaY[1], 100e3 / 2570, 1e-9);
 }
 
 // A bolt type outside 0 to 2 is judged as the bearing type, and its old stresses are scaled.

@@ -1,4 +1,4 @@
-// Fillet and butt welds worked by hand from GB 50017-2003, 7.1.1 to 7.1.5, and the behaviours that
+// Fillet and butt welds worked by hand from GB 50017-2003, 7.1.2 to 7.1.5, and the behaviours that
 // hosts know. Forces in kN, lengths in mm, stresses in kN/mm2.
 #include <gtest/gtest.h>
 
@@ -109,7 +109,7 @@ TEST(FilletWeld, NoLengthNeverPasses) {
   EXPECT_EQ(weld.JugeStress(okSigma, okTau, okCombined), 0);
 }
 
-struct CButtExample {
+struct CButtExample {                        // NOLINT(clang-analyzer-optin.performance.Padding)
   int loadCase = 0, steel = 0, quality = 0;  // quality as m_nQuality
   double t = 0, lw = 0, N = 0, M = 0, V = 0;
   double ftw = 0, fcw = 0, fvw = 0, sigma = 0, tau = 0, reduced = 0;
