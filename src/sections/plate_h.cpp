@@ -1,21 +1,6 @@
 #include "sections/plate_h.h"
 
-#include <algorithm>
-
 namespace orv3 {
-
-double CPlateH::TopEdge() const noexcept {
-  return m_dTopLeft < 0 ? -m_dTopLeft : std::max(m_dBottomLeft - m_dTopLeft, 0.0);
-}
-
-double CPlateH::BottomEdge() const noexcept {
-  return m_dTopLeft < 0 ? -m_dTopLeft : std::max(m_dTopLeft - m_dBottomLeft, 0.0);
-}
-
-double CPlateH::Width() const noexcept {
-  return std::max({0.0, m_dTopLeft, m_dBottomLeft}) + m_dWeb +
-         std::max({0.0, m_dTopRight, m_dBottomRight});
-}
 
 CPlateH PlateHOf(int style, std::span<const double, 8> s) noexcept {
   const double overhang = (s[0] - s[3]) / 2;

@@ -1,6 +1,7 @@
 // Three plates in the shape of an H: the model behind seven styles of user-defined sections.
 #pragma once
 
+#include <algorithm>
 #include <span>
 
 namespace orv3 {
@@ -19,13 +20,21 @@ struct CPlateH {
 
   // Left edges of the flanges and the web. The plates are aligned at the web; a negative overhang
   // at the top left moves both flanges by it.
-  double TopEdge() const noexcept;
-  double BottomEdge() const noexcept;
+  double TopEdge() const noexcept {
+    return m_dTopLeft < 0 ? -m_dTopLeft : std::max(m_dBottomLeft - m_dTopLeft, 0.0);
+  }
+  double BottomEdge() const noexcept {
+    return m_dTopLeft < 0 ? -m_dTopLeft : std::max(m_dTopLeft - m_dBottomLeft, 0.0);
+  }
   double WebEdge() const noexcept { return TopEdge() + m_dTopLeft; }
   double TopWidth() const noexcept { return m_dTopLeft + m_dWeb + m_dTopRight; }
   double BottomWidth() const noexcept { return m_dBottomLeft + m_dWeb + m_dBottomRight; }
   double WebHeight() const noexcept { return m_dHeight - m_dBottom - m_dTop; }
-  double Width() const noexcept;  // of the enclosing rectangle
+  // Of the enclosing rectangle.
+  double Width() const noexcept {
+    return std::max({0.0, m_dTopLeft, m_dBottomLeft}) + m_dWeb +
+           std::max({0.0, m_dTopRight, m_dBottomRight});
+  }
 };
 
 // The H of styles 0, 8, 9, 10, 11, 12 and 13 (the bar of a cross is the web, its arms are flanges

@@ -1,7 +1,8 @@
-// What every section style shares: rectangles about an axis, and the properties that follow from
-// centroid, area and centroidal inertia.
+// What every section style shares: the properties that follow from centroid, area and centroidal
+// inertia, and rectangles about an axis.
 #include <cmath>
 
+#include "sections/rect_moments.h"
 #include "sections/steel_jm_data.h"
 
 namespace {
@@ -16,27 +17,14 @@ double Modulus(double inertia, double fibre) {
 }  // namespace
 
 double CSteelJMData::CalRectMomS(double b, double h, double y0, double yc, int upper) {
-  const double height = std::fabs(h);
-  const double top = height + y0;
-  if (upper) {
-    if (!(top > yc)) return 0;
-    if (yc - y0 >= 0) return std::fabs(b * (top - yc) * (top - yc) / 2);
-    return std::fabs((std::fabs(h / 2) + y0 - yc) * b * h);
-  }
-  if (!(yc > y0)) return 0;
-  if (top >= yc) return std::fabs(b * (yc - y0) * (yc - y0) / 2);
-  return std::fabs((yc - std::fabs(h / 2) - y0) * b * h);
+  return orv3::RectFirstMoment(b, h, y0, yc, upper);
 }
 
-double CSteelJMData::CalRectGxj(double b, double h, double d) {
-  return b * h * d * d + b * h * h * h / 12;
-}
+double CSteelJMData::CalRectGxj(double b, double h, double d) { return orv3::RectInertia(b, h, d); }
 
 void CSteelJMData::CalRectBarycenterAdd(double A1, double x1, double y1, double A2, double x2,
                                         double y2, double& x, double& y) {
-  const double A = A1 + A2;
-  x = A == 0 ? x1 : (A1 * x1 + A2 * x2) / A;
-  y = A == 0 ? y1 : (A1 * y1 + A2 * y2) / A;
+  orv3::AddCentroids(A1, x1, y1, A2, x2, y2, x, y);
 }
 
 void CSteelJMData::CalSectMomByI0(CSteelJMData& jm, double W, double H) {

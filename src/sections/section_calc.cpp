@@ -4,8 +4,12 @@
 #include <span>
 
 #include "sections/plate_h.h"
-#include "sections/section_property.h"
+#include "sections/rect_moments.h"
 #include "sections/steel_jm_data.h"
+
+using orv3::AddCentroids;
+using orv3::RectFirstMoment;
+using orv3::RectInertia;
 
 namespace {
 
@@ -35,7 +39,7 @@ constexpr CWorker kWorkers[] = {
 double MomentAboutX(std::span<const CRect> rects, double yc, int upper) {
   double sum = 0;
   for (const CRect& r : rects) {
-    sum += r.sign * CSteelJMData::CalRectMomS(r.width, r.height, r.y, yc, upper);
+    sum += r.sign * RectFirstMoment(r.width, r.height, r.y, yc, upper);
   }
   return sum;
 }
@@ -43,7 +47,7 @@ double MomentAboutX(std::span<const CRect> rects, double yc, int upper) {
 double MomentAboutY(std::span<const CRect> rects, double xc, int right) {
   double sum = 0;
   for (const CRect& r : rects) {
-    sum += r.sign * CSteelJMData::CalRectMomS(r.height, r.width, r.x, xc, right);
+    sum += r.sign * RectFirstMoment(r.height, r.width, r.x, xc, right);
   }
   return sum;
 }
@@ -75,7 +79,11 @@ double Area(const CRect& r) { return r.width * r.height; }
 }  // namespace
 
 void CSteelJMData::InitJMData(CSteelJMData& jm) {
-  for (const orv3::CSectionProperty& p : orv3::SectionProperties().subspan(2)) jm.*p.m_pField = 0;
+  jm.m_dXo = jm.m_dYo = jm.m_dA = 0;
+  jm.m_dIx = jm.m_dIy = jm.m_dWx1 = jm.m_dWx2 = jm.m_dWyL = jm.m_dWyR = 0;
+  jm.m_dSx1 = jm.m_dSx2 = jm.m_dSyL = jm.m_dSyR = jm.m_dix = jm.m_diy = 0;
+  jm.m_dIxo = jm.m_dIyo = jm.m_dWxo1 = jm.m_dWxo2 = jm.m_dWyoL = jm.m_dWyoR = 0;
+  jm.m_dSxo = jm.m_dSyo = jm.m_dixo = jm.m_diyo = 0;
 }
 
 void CSteelJMData::CalSectCharacterStyle(CSteelJMData& jm) {
@@ -146,15 +154,14 @@ void CSteelJMData::CalSectCharacterStyle8(CSteelJMData& jm) {
   };
   const auto& [top, web, bottom] = plates;
   double x = 0, y = 0;
-  CalRectBarycenterAdd(Area(top), CenterX(top), CenterY(top), Area(web), CenterX(web), CenterY(web),
-                       x, y);
-  CalRectBarycenterAdd(Area(top) + Area(web), x, y, Area(bottom), CenterX(bottom), CenterY(bottom),
-                       jm.m_dXo, jm.m_dYo);
+  AddCentroids(Area(top), CenterX(top), CenterY(top), Area(web), CenterX(web), CenterY(web), x, y);
+  AddCentroids(Area(top) + Area(web), x, y, Area(bottom), CenterX(bottom), CenterY(bottom),
+               jm.m_dXo, jm.m_dYo);
   jm.m_dA = Area(top) + Area(web) + Area(bottom);
   jm.m_dIxo = jm.m_dIyo = 0;
   for (const CRect& r : plates) {
-    jm.m_dIxo += CalRectGxj(r.width, r.height, CenterY(r) - jm.m_dYo);
-    jm.m_dIyo += CalRectGxj(r.height, r.width, CenterX(r) - jm.m_dXo);
+    jm.m_dIxo += RectInertia(r.width, r.height, CenterY(r) - jm.m_dYo);
+    jm.m_dIyo += RectInertia(r.height, r.width, CenterX(r) - jm.m_dXo);
   }
   CalSectMomByI0(jm, h.Width(), h.m_dHeight);
   SetFirstMoments(jm, plates, h.Width(), h.m_dHeight);
@@ -167,12 +174,12 @@ void CSteelJMData::CalSectCharacterStyle2(CSteelJMData& jm) {
   const CRect& hole = rects[1];
   // Centre of the hole from the outer edges, not from its extents: a hole of no area keeps it.
   const double xi = (t3 + b - t4) / 2, yi = (t2 + h - t1) / 2;
-  CalRectBarycenterAdd(b * h, b / 2, h / 2, -Area(hole), xi, yi, jm.m_dXo, jm.m_dYo);
+  AddCentroids(b * h, b / 2, h / 2, -Area(hole), xi, yi, jm.m_dXo, jm.m_dYo);
   jm.m_dA = b * h - Area(hole);
   jm.m_dIxo =
-      CalRectGxj(b, h, h / 2 - jm.m_dYo) - CalRectGxj(hole.width, hole.height, yi - jm.m_dYo);
+      RectInertia(b, h, h / 2 - jm.m_dYo) - RectInertia(hole.width, hole.height, yi - jm.m_dYo);
   jm.m_dIyo =
-      CalRectGxj(h, b, b / 2 - jm.m_dXo) - CalRectGxj(hole.height, hole.width, xi - jm.m_dXo);
+      RectInertia(h, b, b / 2 - jm.m_dXo) - RectInertia(hole.height, hole.width, xi - jm.m_dXo);
   CalSectMomByI0(jm, b, h);
   SetFirstMoments(jm, rects, b, h);
 }
@@ -185,9 +192,9 @@ void CSteelJMData::CalSectCharacterStyle13(CSteelJMData& jm) {
   const double half = (b - 2 * tf - tw) / 2;  // half of the horizontal web
   SetCentroid(jm, b / 2, h / 2);
   jm.m_dA = 2 * half * tw + 2 * tf * bf2 + 2 * tf * bf1 + hw * tw;
-  jm.m_dIxo = 2 * CalRectGxj(bf1, tf, (h - tf) / 2) + 2 * CalRectGxj(tf, bf2, 0) +
-              CalRectGxj(tw, hw, 0) + 2 * CalRectGxj(half, tw, 0);
-  jm.m_dIyo = 2 * CalRectGxj(bf2, tf, (b - tf) / 2) + 2 * CalRectGxj(tf, bf1, 0) +
-              2 * CalRectGxj(tw, half, (b - 2 * tf + tw) / 4) + CalRectGxj(hw, tw, 0);
+  jm.m_dIxo = 2 * RectInertia(bf1, tf, (h - tf) / 2) + 2 * RectInertia(tf, bf2, 0) +
+              RectInertia(tw, hw, 0) + 2 * RectInertia(half, tw, 0);
+  jm.m_dIyo = 2 * RectInertia(bf2, tf, (b - tf) / 2) + 2 * RectInertia(tf, bf1, 0) +
+              2 * RectInertia(tw, half, (b - 2 * tf + tw) / 4) + RectInertia(hw, tw, 0);
   CalSectMomByI0(jm, b, h);
 }

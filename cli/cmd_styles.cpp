@@ -1,0 +1,72 @@
+// orv3cal styles: the user-defined section styles and their sizes.
+
+#include <string>
+
+#include "commands.h"
+#include "framework/utf8.h"
+#include "output.h"
+#include "sections/section_style.h"
+#include "tables/sketch.h"
+#include "text_table.h"
+
+namespace orv3::cli {
+namespace {
+
+CJson StyleJson(const CSectionStyle& style) {
+  CJson sizes = CJson::array();
+  for (const CSizeColumn& size : style.Sizes()) {
+    sizes.push_back({{"sign", ToUtf8(size.m_szSign)},
+                     {"title", ToUtf8(size.m_szTitle)},
+                     {"meaning", size.m_szMeaning}});
+  }
+  return {{"style", style.m_nStyle},
+          {"alias", style.m_szAlias},
+          {"table", ToUtf8(style.m_szTable)},
+          {"shape", style.m_szShape},
+          {"sizes", sizes}};
+}
+
+void PrintStyles() {
+  CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left});
+  table.AddRow({"style", "alias", "table", "sizes (mm)"});
+  for (const CSectionStyle& style : SectionStyles()) {
+    std::string sizes;
+    for (const CSizeColumn& size : style.Sizes()) {
+      const std::string sign = ToUtf8(size.m_szSign);
+      sizes += (sizes.empty() ? "" : " ") + sign.substr(0, sign.find('('));
+    }
+    table.AddRow({std::to_string(style.m_nStyle), style.m_szAlias, ToUtf8(style.m_szTable), sizes});
+  }
+  Print(table.Text());
+}
+
+// One sketch a style, named by its alias.
+void WriteSketches(const std::string& folder) {
+  for (const CSectionStyle& style : SectionStyles()) {
+    WriteFile(folder + "/" + style.m_szAlias + ".svg", SketchSvg(SketchResource(style.m_szTable)));
+  }
+}
+
+}  // namespace
+
+void AddStylesCommand(CLI::App& program) {
+  struct COptions {
+    bool json = false;
+    std::string folder;
+  };
+  auto options = std::make_shared<COptions>();
+  CLI::App* command =
+      program.add_subcommand("styles", "List the user-defined section styles and their sizes");
+  command->add_flag("--json", options->json, "As JSON, with the titles and meanings of the sizes");
+  command->add_option("--svg", options->folder, "Write a sketch of each style into a folder")
+      ->type_name("FOLDER");
+  command->callback([options] {
+    if (!options->folder.empty()) WriteSketches(options->folder);
+    if (!options->json) return PrintStyles();
+    CJson all = CJson::array();
+    for (const CSectionStyle& style : SectionStyles()) all.push_back(StyleJson(style));
+    PrintJson(all);
+  });
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,77 @@
+// orv3cal: sections, tables and checks of structural steel on the command line.
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "commands.h"
+#include "error.h"
+#include "platform/command_line.h"
+
+namespace {
+
+using orv3::cli::CExit;
+
+int Fail(CExit exit, std::string text) {
+  std::replace(text.begin(), text.end(), '\n', ' ');
+  std::fprintf(stderr, "orv3cal: %s\n", text.c_str());
+  return static_cast<int>(exit);
+}
+
+// CLI11 takes the arguments in reverse, without the program's name.
+std::vector<std::string> ForParsing(int argc, char** argv) {
+  std::vector<std::string> arguments = orv3::CommandLineUtf8(argc, argv);
+  std::reverse(arguments.begin(), arguments.end());
+  if (!arguments.empty()) arguments.pop_back();
+  return arguments;
+}
+
+// What is wrong when the first argument is no command; empty when it is one, or an option.
+std::string UnknownCommand(const CLI::App& program, const std::vector<std::string>& arguments) {
+  if (arguments.empty() || arguments.back().starts_with('-')) return {};
+  std::string names;
+  for (const CLI::App* command : program.get_subcommands({})) {
+    if (command->get_name() == arguments.back()) return {};
+    names += (names.empty() ? "" : ", ") + command->get_name();
+  }
+  return "\"" + arguments.back() + "\" is no command; right would be one of " + names;
+}
+
+int Run(int argc, char** argv) {
+  CLI::App program(
+      "Sections and connection checks of structural steel, by GB 50017-2003 (the 2003 edition)",
+      "orv3cal");
+  program.set_version_flag("--version", "orv3cal " ORV3CAL_VERSION);
+  program.require_subcommand(1);
+  program.footer("orv3cal COMMAND --help tells what a command takes.");
+  for (const auto add : orv3::cli::kCommands) add(program);
+  std::vector<std::string> arguments = ForParsing(argc, argv);
+  if (const std::string fault = UnknownCommand(program, arguments); !fault.empty()) {
+    return Fail(CExit::BadInput, fault);
+  }
+  try {
+    program.parse(arguments);
+  } catch (const CLI::Success& help) {
+    return program.exit(help);
+  } catch (const CLI::ParseError& error) {
+    const auto used = program.get_subcommands();
+    const std::string name = used.empty() ? "" : used.front()->get_name() + " ";
+    return Fail(CExit::BadInput, error.what() + (" (see orv3cal " + name + "--help)"));
+  }
+  return static_cast<int>(CExit::Done);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  orv3::UseUtf8Console();
+  try {
+    return Run(argc, argv);
+  } catch (const orv3::cli::CCommandError& error) {
+    return Fail(error.m_nExit, error.what());
+  } catch (const std::exception& error) {
+    return Fail(CExit::FileTrouble, error.what());
+  }
+}

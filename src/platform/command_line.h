@@ -1,0 +1,17 @@
+// What a program needs of the system at its start to speak UTF-8.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "framework/export.h"
+
+namespace orv3 {
+
+// The program's arguments, its own name first, as UTF-8 whatever the system hands to main.
+ORV3CAL_API std::vector<std::string> CommandLineUtf8(int argc, const char* const* argv);
+
+// Makes a console show the UTF-8 that the program prints.
+ORV3CAL_API void UseUtf8Console();
+
+}  // namespace orv3
