@@ -216,13 +216,14 @@ void SectionWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& wa
   signs("Vx", record.m_dVx);
   signs("Vy", record.m_dVy);
   if (record.m_nLayout == 1 && record.m_nBoltType != kFrictionBolt && !IsZero(record.m_dVy)) {
-    warnings.push_back({"Vy",
-                        {"错列布置抵抗 Vy 的净截面：直线截面按行数之半扣孔，折线截面每段取整个行距，"
-                         "可能偏于不安全；请另行核对这两个截面。",
-                         "The net sections of a staggered group that resist Vy: the straight one "
-                         "deducts half as many holes as there are rows, and each leg of the zigzag "
-                         "one spans a whole row spacing, which can be on the unsafe side; check "
-                         "both by themselves."}});
+    warnings.push_back(
+        {"Vy",
+         {"错列布置抵抗 Vy 的净截面：直线截面按行数之半扣孔，折线截面每段取整个行距，"
+          "可能偏于不安全；请另行核对这两个截面。",
+          "The net sections of a staggered group that resist Vy: the straight one "
+          "deducts half as many holes as there are rows, and each leg of the zigzag "
+          "one spans a whole row spacing, which can be on the unsafe side; check "
+          "both by themselves."}});
   }
 }
 
