@@ -7,9 +7,8 @@ namespace scenarios {
 
 enum CScenario : int { kChange, kDelete, kGrow, kNewTable, kNewFile, kSorted, kStale, kCount };
 
-inline const char* const kNames[] = {"change a row", "delete and add", "grow",
-                                     "new table",    "new file",       "sorted",
-                                     "stale"};
+inline const char* const kNames[] = {"change a row", "delete and add", "grow", "new table",
+                                     "new file",     "sorted",         "stale"};
 
 // Makes the store: 95 rows of one table and 2 of another.
 inline void Prepare(const CString& path) {
