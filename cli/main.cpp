@@ -69,6 +69,8 @@ int main(int argc, char** argv) {
   orv3::UseUtf8Console();
   try {
     return Run(argc, argv);
+  } catch (const CExit exit) {
+    return static_cast<int>(exit);
   } catch (const orv3::cli::CCommandError& error) {
     return Fail(error.m_nExit, error.what());
   } catch (const std::exception& error) {
