@@ -1,92 +1,185 @@
-// orv3cal section: a section from plate sizes, with its properties and its picture.
-#include <CLI/App.hpp>
-#include <iostream>
-#include <memory>
-#include <nlohmann/json.hpp>
-#include <utility>
+// orv3cal section: the properties and the picture of a section from its sizes.
 
-#include "command.h"
+#include <cmath>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "commands.h"
+#include "error.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "section_view.h"
+#include "output.h"
 #include "sections/section_check.h"
+#include "sections/section_picture.h"
+#include "sections/section_property.h"
 #include "sections/section_style.h"
+#include "sections/steel_jm_data.h"
+#include "text_table.h"
 
-namespace orv3 {
+namespace orv3::cli {
 namespace {
 
 struct COptions {
   std::string style;
   std::vector<std::string> sizes;
-  std::pair<std::string, std::string> base{"0", "0"};
+  std::vector<std::string> base;
   std::string name;
   bool json = false;
   std::string svg;
 };
 
-// By alias, table name or style number.
+[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
+
 const CSectionStyle& StyleOf(const std::string& text) {
-  if (const CSectionStyle* style = FindSectionAlias(text)) return *style;
-  if (const CSectionStyle* style = FindSectionStyle(FromUtf8(text).View())) return *style;
-  for (const CSectionStyle& style : SectionStyles()) {
-    if (text == std::to_string(style.m_nStyle)) return style;
+  const CString wide = FromUtf8(text);
+  const CSectionStyle* style = FindSectionAlias(text);
+  if (style == nullptr) style = FindSectionStyle(wide.View());
+  if (style == nullptr && FormatInt(ToInt(wide)) == wide) style = FindSectionStyle(ToInt(wide));
+  if (style == nullptr) {
+    Refuse("STYLE: \"" + text +
+           "\" is no section style; right would be a number 0 to 14, a table name or an alias that "
+           "orv3cal styles lists");
   }
-  std::string aliases;
-  for (const CSectionStyle& style : SectionStyles()) {
-    aliases += std::string(" ") + style.m_szAlias;
-  }
-  BadInput("STYLE = \"" + text + "\" is unknown: must be a table name, a number from 0 to " +
-           std::to_string(SectionStyles().size() - 1) + " or one of" + aliases);
+  return *style;
 }
 
-std::vector<double> SizesOf(const CSectionStyle& style, const std::vector<std::string>& texts) {
+// No section is a kilometre wide; beyond that the fourth powers would overflow some day.
+constexpr double kMaxLength = 1e6;
+
+double LengthOf(const std::string& what, const std::string& text) {
+  const CString wide = FromUtf8(text);
+  if (!IsNumber(wide)) Refuse(what + ": \"" + text + "\" is no number; right would be millimetres");
+  const double value = ToDouble(wide);
+  if (std::fabs(value) > kMaxLength) Refuse(what + " = " + text + ": must be at most 1000000 mm");
+  return value;
+}
+
+// The signs of a style's sizes as a command line holds them.
+std::string SizeList(const CSectionStyle& style) {
+  std::string list;
+  for (const CSizeColumn& size : style.Sizes()) list += " " + ToUtf8(size.m_szSign);
+  return list;
+}
+
+CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   std::vector<double> sizes;
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    const bool known = i < style.Sizes().size();
-    sizes.push_back(ParseNumber(texts[i], known ? ToUtf8(style.m_arrSize[i].m_szSign) : "SIZE"));
+  for (std::size_t i = 0; i < options.sizes.size(); ++i) {
+    const std::string sign = i < style.Sizes().size() ? ToUtf8(style.Sizes()[i].m_szSign)
+                                                      : "size " + std::to_string(i + 1);
+    sizes.push_back(LengthOf(sign, options.sizes[i]));
   }
-  if (const auto fault = CheckSectionSizes(style, sizes)) BadInput(fault->m_strText);
-  return sizes;
+  if (sizes.size() != style.Sizes().size()) {
+    Refuse(ToUtf8(style.m_szTable) + " takes " + std::to_string(style.m_nSizes) + " sizes, " +
+           std::to_string(sizes.size()) + " were given; right would be:" + SizeList(style));
+  }
+  if (const auto fault = CheckSectionSizes(style, sizes)) Refuse(fault->m_strText);
+  if (const std::string fault = CheckSectionName(FromUtf8(options.name)); !fault.empty()) {
+    Refuse("--name: " + fault);
+  }
+  CSteelJMData record;
+  CArray<double, double> values;
+  for (const double size : sizes) values.Add(size);
+  record.SetSectSize(style.m_nStyle, values);
+  if (!options.base.empty()) {
+    record.m_dX = LengthOf("--base X", options.base[0]);
+    record.m_dY = LengthOf("--base Y", options.base[1]);
+  }
+  CSteelJMData::CalSectCharacterStyle(record);
+  return record;
 }
 
-CSteelJMData SectionOf(const COptions& options) {
-  const CSectionStyle& style = StyleOf(options.style);
-  CArray<double, double> sizes;
-  for (const double size : SizesOf(style, options.sizes)) sizes.Add(size);
-  const CString name = FromUtf8(options.name);
-  const std::string nameFault = CheckSectionName(name);
-  if (!nameFault.empty()) BadInput("--name \"" + options.name + "\" " + nameFault);
+bool Has(const CSectionStyle& style, const CSectionProperty& property) {
+  return style.m_bFirstMoments || !property.m_bFirstMoment;
+}
 
-  CSteelJMData section;
-  section.SetSectSize(style.m_nStyle, sizes);
-  section.SetName(name);
-  section.m_dX = ParseNumber(options.base.first, "--base X");
-  section.m_dY = ParseNumber(options.base.second, "--base Y");
-  CSteelJMData::CalSectCharacterStyle(section);
-  return section;
+CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
+  CJson sizes = CJson::array();
+  for (int i = 0; i < style.m_nSizes; ++i) sizes.push_back(JsonNumber(record.m_dSize[i]));
+  CJson properties = CJson::object();
+  for (const CSectionProperty& property : SectionProperties().subspan(2)) {
+    properties[property.m_szKey] =
+        Has(style, property) ? JsonNumber(record.*property.m_pField) : CJson(nullptr);
+  }
+  return {{"style", style.m_nStyle},
+          {"table", ToUtf8(style.m_szTable)},
+          {"name", name},
+          {"sizes", sizes},
+          {"base", {JsonNumber(record.m_dX), JsonNumber(record.m_dY)}},
+          {"properties", properties}};
+}
+
+std::string Unit(int power) {
+  static constexpr const char* kUnits[] = {"", "mm", "mm²", "mm³", "mm⁴"};
+  return kUnits[power];
+}
+
+void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
+  Print(ToUtf8(style.m_szTable) + " (" + style.m_szShape + ")" + (name.empty() ? "" : "  " + name) +
+        "\n\n");
+  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left});
+  for (int i = 0; i < style.m_nSizes; ++i) {
+    const std::string sign = ToUtf8(style.Sizes()[static_cast<std::size_t>(i)].m_szSign);
+    table.AddRow({ToUtf8(style.Sizes()[static_cast<std::size_t>(i)].m_szTitle),
+                  sign.substr(0, sign.find('(')), NumberText(record.m_dSize[i]), "mm"});
+  }
+  table.AddRule();
+  bool infinite = false;
+  for (const CSectionProperty& property : SectionProperties()) {
+    if (!Has(style, property)) continue;
+    const double value = record.*property.m_pField;
+    infinite = infinite || value >= 1e100;
+    table.AddRow(
+        {ToUtf8(property.m_szTitle), property.m_szKey, NumberText(value), Unit(property.m_nPower)});
+  }
+  Print(table.Text());
+  if (infinite) Print("\n∞: the base point lies on that edge of the section\n");
+}
+
+std::string Picture(const CSectionStyle& style, const CSteelJMData& record,
+                    const std::string& name) {
+  CSectionPicture picture;
+  picture.m_nStyle = style.m_nStyle;
+  for (int i = 0; i < style.m_nSizes; ++i) {
+    picture.m_arrSize[static_cast<std::size_t>(i)] = record.m_dSize[i];
+  }
+  picture.m_base = {record.m_dX, record.m_dY};
+  picture.m_centroid = {record.m_dXo, record.m_dYo};
+  picture.m_strTitle = style.m_szTable;
+  picture.m_strName = FromUtf8(name);
+  return SectionPictureSvg(picture);
+}
+
+void RunSection(const COptions& options) {
+  const CSectionStyle& style = StyleOf(options.style);
+  const CSteelJMData record = RecordOf(style, options);
+  if (!options.svg.empty()) WriteFile(options.svg, Picture(style, record, options.name));
+  if (options.json) {
+    PrintJson(SectionJson(style, record, options.name));
+  } else {
+    PrintSection(style, record, options.name);
+  }
 }
 
 }  // namespace
 
-void AddSectionCommand(CLI::App& app, CExit&) {
-  const auto options = std::make_shared<COptions>();
+void AddSectionCommand(CLI::App& program) {
+  auto options = std::make_shared<COptions>();
   CLI::App* command =
-      app.add_subcommand("section", "Show the properties of a section from its plate sizes");
-  command->add_option("STYLE", options->style, "Table name, style number or alias")->required();
-  command->add_option("SIZE", options->sizes, "Plate sizes, mm, as \"orv3cal styles\" lists them");
+      program.add_subcommand("section", "Compute a section's properties from its sizes in mm");
+  command->add_option("STYLE", options->style, "Style number 0 to 14, table name or alias")
+      ->required();
+  command->add_option("SIZE", options->sizes, "The style's sizes in mm, in the order of styles")
+      ->type_name("NUMBER...");
   command
       ->add_option("--base", options->base,
-                   "Base point of the axes X, Y, mm from the lower left corner [0 0]")
+                   "Base point in mm from the lower-left corner, 0 0 if not given")
+      ->expected(2)
       ->type_name("X Y");
-  command->add_option("--name", options->name, "Name of the section")->type_name("NO");
-  command->add_flag("--json", options->json, "Print JSON");
-  CLI::Option* svg = command->add_option("--svg", options->svg, "Also write a picture there");
-  svg->type_name("FILE");
-  command->callback([options, svg] {
-    const CSteelJMData section = SectionOf(*options);
-    if (svg->count() != 0) WriteTextFile(options->svg, SectionSvg(section));
-    options->json ? PrintJson(SectionJson(section)) : PrintSection(section);
-  });
+  command->add_option("--name", options->name, "The section's name, at most 30 characters");
+  command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
+  command->add_option("--svg", options->svg, "Write a picture drawn to scale")->type_name("FILE");
+  command->callback([options] { RunSection(*options); });
 }
 
-}  // namespace orv3
+}  // namespace orv3::cli

@@ -1,36 +1,19 @@
-// orv3cal styles: the styles of user-defined sections, their names and sizes.
-#include <CLI/App.hpp>
-#include <filesystem>
-#include <iostream>
-#include <memory>
-#include <nlohmann/json.hpp>
+// orv3cal styles: the user-defined section styles and their sizes.
 
-#include "command.h"
+#include <string>
+
+#include "commands.h"
 #include "framework/utf8.h"
-#include "section_view.h"
+#include "output.h"
 #include "sections/section_style.h"
+#include "tables/sketch.h"
 #include "text_table.h"
 
-namespace orv3 {
+namespace orv3::cli {
 namespace {
 
-void PrintTable() {
-  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Left, CAlign::Left, CAlign::Left});
-  table.SetHeading({"Style", "Alias", "Table", "Sizes, mm", "Shape"});
-  for (const CSectionStyle& style : SectionStyles()) {
-    std::string sizes;
-    for (const CSizeColumn& size : style.Sizes()) {
-      if (!sizes.empty()) sizes += ' ';
-      sizes += SizeSymbol(size);
-    }
-    table.AddRow({std::to_string(style.m_nStyle), style.m_szAlias, ToUtf8(style.m_szTable), sizes,
-                  style.m_szShape});
-  }
-  table.Print(std::cout);
-}
-
-nlohmann::ordered_json ToJson(const CSectionStyle& style) {
-  nlohmann::ordered_json sizes = nlohmann::ordered_json::array();
+CJson StyleJson(const CSectionStyle& style) {
+  CJson sizes = CJson::array();
   for (const CSizeColumn& size : style.Sizes()) {
     sizes.push_back({{"sign", ToUtf8(size.m_szSign)},
                      {"title", ToUtf8(size.m_szTitle)},
@@ -43,39 +26,47 @@ nlohmann::ordered_json ToJson(const CSectionStyle& style) {
           {"sizes", sizes}};
 }
 
-void PrintStylesJson() {
-  nlohmann::ordered_json styles = nlohmann::ordered_json::array();
-  for (const CSectionStyle& style : SectionStyles()) styles.push_back(ToJson(style));
-  PrintJson({{"styles", styles}});
+void PrintStyles() {
+  CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left});
+  table.AddRow({"style", "alias", "table", "sizes (mm)"});
+  for (const CSectionStyle& style : SectionStyles()) {
+    std::string sizes;
+    for (const CSizeColumn& size : style.Sizes()) {
+      const std::string sign = ToUtf8(size.m_szSign);
+      sizes += (sizes.empty() ? "" : " ") + sign.substr(0, sign.find('('));
+    }
+    table.AddRow({std::to_string(style.m_nStyle), style.m_szAlias, ToUtf8(style.m_szTable), sizes});
+  }
+  Print(table.Text());
 }
 
-void WritePictures(const std::string& folder) {
-  const std::filesystem::path path(std::u8string(folder.begin(), folder.end()));
-  std::error_code error;
-  std::filesystem::create_directories(path, error);
+// One sketch a style, named by its alias.
+void WriteSketches(const std::string& folder) {
   for (const CSectionStyle& style : SectionStyles()) {
-    const std::string file = folder + "/" + style.m_szAlias + ".svg";
-    WriteTextFile(file, SectionSvg(SampleSection(style)));
+    WriteFile(folder + "/" + style.m_szAlias + ".svg", SketchSvg(SketchResource(style.m_szTable)));
   }
 }
 
 }  // namespace
 
-void AddStylesCommand(CLI::App& app, CExit&) {
+void AddStylesCommand(CLI::App& program) {
   struct COptions {
     bool json = false;
     std::string folder;
   };
-  const auto options = std::make_shared<COptions>();
-  CLI::App* command = app.add_subcommand("styles", "List the section styles and their sizes");
-  command->add_flag("--json", options->json, "Print JSON");
-  CLI::Option* svg =
-      command->add_option("--svg", options->folder, "Also write a picture of each style there");
-  svg->type_name("FOLDER");
-  command->callback([options, svg] {
-    if (svg->count() != 0) WritePictures(options->folder);
-    options->json ? PrintStylesJson() : PrintTable();
+  auto options = std::make_shared<COptions>();
+  CLI::App* command =
+      program.add_subcommand("styles", "List the user-defined section styles and their sizes");
+  command->add_flag("--json", options->json, "As JSON, with the titles and meanings of the sizes");
+  command->add_option("--svg", options->folder, "Write a sketch of each style into a folder")
+      ->type_name("FOLDER");
+  command->callback([options] {
+    if (!options->folder.empty()) WriteSketches(options->folder);
+    if (!options->json) return PrintStyles();
+    CJson all = CJson::array();
+    for (const CSectionStyle& style : SectionStyles()) all.push_back(StyleJson(style));
+    PrintJson(all);
   });
 }
 
-}  // namespace orv3
+}  // namespace orv3::cli

@@ -1,6 +1,11 @@
 // The public interface of Orv3Cal in one header.
 #pragma once
 
+#include "catalogue/code_tables/grids.h"
+#include "catalogue/code_tables/table_search.h"
+#include "connections/bolt_group.h"
+#include "connections/butt_weld.h"
+#include "connections/fillet_weld.h"
 #include "framework/array.h"
 #include "framework/bitmap.h"
 #include "framework/cstring.h"

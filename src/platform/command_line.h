@@ -1,4 +1,4 @@
-// What a program is started with and where it prints.
+// What a program needs of the system at its start to speak UTF-8.
 #pragma once
 
 #include <string>
@@ -8,11 +8,10 @@
 
 namespace orv3 {
 
-// The program's arguments, its own name left out, as UTF-8 whatever the system's code page is.
-// (Elsewhere than on Windows they are taken as they are.)
-ORV3CAL_API std::vector<std::string> ProgramArguments(int argc, const char* const* argv);
+// The program's arguments, its own name first, as UTF-8 whatever the system hands to main.
+ORV3CAL_API std::vector<std::string> CommandLineUtf8(int argc, const char* const* argv);
 
-// Makes a console show what is printed as UTF-8.
-ORV3CAL_API void PrintUtf8();
+// Makes a console show the UTF-8 that the program prints.
+ORV3CAL_API void UseUtf8Console();
 
 }  // namespace orv3

@@ -2,11 +2,10 @@
 
 namespace orv3 {
 
-std::vector<std::string> ProgramArguments(int argc, const char* const* argv) {
-  if (argc < 1) return {};
-  return {argv + 1, argv + argc};
+std::vector<std::string> CommandLineUtf8(int argc, const char* const* argv) {
+  return {argv, argv + argc};
 }
 
-void PrintUtf8() {}
+void UseUtf8Console() {}
 
 }  // namespace orv3

@@ -8,16 +8,16 @@
 
 namespace orv3 {
 
-// The narrow arguments have gone through the ANSI code page and may have lost characters.
-std::vector<std::string> ProgramArguments(int, const char* const*) {
+std::vector<std::string> CommandLineUtf8(int argc, const char* const* argv) {
   int count = 0;
   wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &count);
+  if (wide == nullptr) return {argv, argv + argc};
   std::vector<std::string> arguments;
-  for (int i = 1; wide != nullptr && i < count; ++i) arguments.push_back(ToUtf8(wide[i]));
+  for (int i = 0; i < count; ++i) arguments.push_back(ToUtf8(wide[i]));
   LocalFree(wide);
   return arguments;
 }
 
-void PrintUtf8() { SetConsoleOutputCP(CP_UTF8); }
+void UseUtf8Console() { SetConsoleOutputCP(CP_UTF8); }
 
 }  // namespace orv3

@@ -1,0 +1,224 @@
+#include "case_schema.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+#include "connections/cases/case_rules.h"
+
+namespace orv3::cli {
+namespace {
+
+[[noreturn]] void Outside(const std::string& what) {
+  throw std::invalid_argument("schema: " + what + " is not understood");
+}
+
+void ReadRange(const CJson& json, CCaseSchema::CRange& range) {
+  const auto read = [&](const char* name, std::optional<double>& bound) {
+    if (json.contains(name)) bound = json.at(name).get<double>();
+  };
+  read("minimum", range.m_minimum);
+  read("exclusiveMinimum", range.m_above);
+  read("maximum", range.m_maximum);
+  read("exclusiveMaximum", range.m_below);
+}
+
+void ReadType(const std::string& type, CCaseSchema::CRule& rule) {
+  if (type == "number" || type == "integer") {
+    rule.m_bNumber = true;
+    rule.m_bInteger = type == "integer";
+  } else if (type == "string") {
+    rule.m_bText = true;
+  } else if (type == "array") {
+    rule.m_bArray = true;
+  } else {
+    Outside("type " + type);
+  }
+}
+
+CCaseSchema::CRule ReadRule(const std::string& key, const CJson& json) {
+  static constexpr const char* kWords[] = {
+      "description",     "type", "enum", "items", "minimum", "exclusiveMinimum", "maximum",
+      "exclusiveMaximum"};
+  for (const auto& entry : json.items()) {
+    if (std::find(std::begin(kWords), std::end(kWords), entry.key()) == std::end(kWords))
+      Outside(key + ": " + entry.key());
+  }
+  CCaseSchema::CRule rule;
+  rule.m_strKey = key;
+  if (json.contains("type")) {
+    const CJson& type = json["type"];
+    for (const CJson& each : type.is_array() ? type : CJson::array({type}))
+      ReadType(each.get<std::string>(), rule);
+  }
+  for (const CJson& value : json.value("enum", CJson::array())) {
+    rule.m_bText = rule.m_bText || value.is_string();
+    rule.m_bNumber = rule.m_bNumber || value.is_number();
+    if (value.is_string()) rule.m_arrText.push_back(value.get<std::string>());
+    if (value.is_number()) rule.m_arrNumber.push_back(value.get<double>());
+  }
+  ReadRange(json, rule.m_range);
+  if (json.contains("items")) ReadRange(json["items"], rule.m_items);
+  return rule;
+}
+
+bool Within(double value, const CCaseSchema::CRange& range) noexcept {
+  return std::isfinite(value) && !(range.m_minimum && value < *range.m_minimum) &&
+         !(range.m_above && value <= *range.m_above) &&
+         !(range.m_maximum && value > *range.m_maximum) &&
+         !(range.m_below && value >= *range.m_below);
+}
+
+std::string RangeWords(const CCaseSchema::CRange& range) {
+  std::string words;
+  const auto add = [&](const char* word, const std::optional<double>& bound) {
+    if (bound) words += (words.empty() ? " " : ", ") + (word + PlainNumber(*bound));
+  };
+  add("of at least ", range.m_minimum);
+  add("above ", range.m_above);
+  add("at most ", range.m_maximum);
+  add("below ", range.m_below);
+  return words;
+}
+
+template <class VALUE>
+bool Among(const std::vector<VALUE>& allowed, const auto& value) noexcept {
+  return allowed.empty() || std::find(allowed.begin(), allowed.end(), value) != allowed.end();
+}
+
+// What is wrong with a value by itself; empty when nothing is.
+std::string Wrong(const CCaseSchema::CRule& rule, const CKeyValue& value) {
+  if (const auto* text = std::get_if<std::string_view>(&value)) {
+    if (rule.m_bText && Among(rule.m_arrText, *text)) return "";
+    return "\"" + std::string(*text) + "\" is not possible";
+  }
+  if (const auto* number = std::get_if<double>(&value)) {
+    const bool bKind = rule.m_bNumber && !(rule.m_bInteger && *number != std::floor(*number));
+    if (bKind && Within(*number, rule.m_range) && Among(rule.m_arrNumber, *number)) return "";
+    return PlainNumber(*number) + " is not possible";
+  }
+  if (!rule.m_bArray) return "a list is not possible";
+  for (const double each : std::get<std::span<const double>>(value)) {
+    if (!Within(each, rule.m_items)) return PlainNumber(each) + " in the list is not possible";
+  }
+  return "";
+}
+
+}  // namespace
+
+std::string CCaseSchema::CRule::Right() const {
+  std::string right;
+  for (const std::string& text : m_arrText) right += (right.empty() ? "\"" : ", \"") + text + "\"";
+  for (const double number : m_arrNumber) {
+    right += (right.empty() ? "" : ", ") + PlainNumber(number);
+  }
+  if (!right.empty()) return "give one of " + right;
+  if (m_bText) return "give a text";
+  right = std::string("give ") + (m_bInteger ? "a whole number" : "a number") + RangeWords(m_range);
+  return m_bArray ? right + ", or a list of such" : right;
+}
+
+CCaseSchema::CCaseSchema(std::string_view text) {
+  const CJson json = CJson::parse(text);
+  for (const auto& entry : json.items()) {
+    static constexpr const char* kWords[] = {
+        "$schema", "title", "description", "type", "properties", "required", "additionalProperties",
+        "oneOf",   "allOf"};
+    if (std::find(std::begin(kWords), std::end(kWords), entry.key()) == std::end(kWords))
+      Outside(entry.key());
+  }
+  if (json.at("type") != "object" || json.at("additionalProperties") != false)
+    Outside("a schema of anything but one closed object");
+  for (const auto& entry : json.at("properties").items())
+    m_arrRule.push_back(ReadRule(entry.key(), entry.value()));
+  CNeed always;
+  always.m_arrKey = Positions(json.at("required"));
+  m_arrNeed.push_back(always);
+  for (const CJson& each : json.value("allOf", CJson::array()))
+    m_arrNeed.push_back(Condition(each));
+  for (const CJson& each : json.value("oneOf", CJson::array()))
+    m_arrAlternative.push_back(Positions(each.at("required")));
+}
+
+std::vector<int> CCaseSchema::Positions(const CJson& keys) const {
+  std::vector<int> positions;
+  for (const CJson& key : keys) {
+    positions.push_back(Find(key.get<std::string>()));
+    if (positions.back() < 0) Outside("the required key " + key.get<std::string>());
+  }
+  return positions;
+}
+
+CCaseSchema::CNeed CCaseSchema::Condition(const CJson& json) const {
+  const CJson& condition = json.at("if").at("properties");
+  if (condition.size() != 1) Outside("a condition on several keys");
+  CNeed need;
+  need.m_nIf = Find(condition.begin().key());
+  const CJson& rule = condition.begin().value();
+  if (rule.contains("const")) {
+    need.m_strConst = rule["const"].get<std::string>();
+  } else {
+    need.m_minimum = rule.at("minimum").get<double>();
+  }
+  need.m_arrKey = Positions(json.at("then").at("required"));
+  return need;
+}
+
+int CCaseSchema::Find(std::string_view key) const noexcept {
+  for (std::size_t i = 0; i < m_arrRule.size(); ++i) {
+    if (m_arrRule[i].m_strKey == key) return static_cast<int>(i);
+  }
+  return -1;
+}
+
+CCaseFault CCaseSchema::Unknown(std::string_view key) const {
+  std::string known;
+  for (const CRule& rule : m_arrRule) known += (known.empty() ? "" : ", ") + rule.m_strKey;
+  return {std::string(key), "is no key of this check", "the keys are " + known};
+}
+
+bool CCaseSchema::Holds(const CNeed& need, const CCaseValues& values) const {
+  if (need.m_nIf < 0) return true;
+  const auto& value = values[static_cast<std::size_t>(need.m_nIf)];
+  if (!value) return false;
+  if (const auto* text = std::get_if<std::string_view>(&*value)) return *text == need.m_strConst;
+  const auto* number = std::get_if<double>(&*value);
+  return number != nullptr && need.m_minimum && *number >= *need.m_minimum;
+}
+
+std::optional<CCaseFault> CCaseSchema::CheckAlternatives(const CCaseValues& values) const {
+  if (m_arrAlternative.empty()) return std::nullopt;
+  const auto given = [&](int key) { return values[static_cast<std::size_t>(key)].has_value(); };
+  int whole = 0;
+  std::string right;
+  for (const auto& keys : m_arrAlternative) {
+    whole += std::all_of(keys.begin(), keys.end(), given) ? 1 : 0;
+    std::string names;
+    for (const int key : keys) {
+      names += (names.empty() ? "" : " with ") + m_arrRule[static_cast<std::size_t>(key)].m_strKey;
+    }
+    right += (right.empty() ? "give " : ", or ") + names;
+  }
+  if (whole == 1) return std::nullopt;
+  const std::string& first = m_arrRule[static_cast<std::size_t>(m_arrAlternative[0][0])].m_strKey;
+  return CCaseFault{first, whole == 0 ? "is missing" : "is given in more than one way", right};
+}
+
+std::optional<CCaseFault> CCaseSchema::Check(const CCaseValues& values) const {
+  for (std::size_t i = 0; i < m_arrRule.size(); ++i) {
+    if (!values[i]) continue;
+    const std::string wrong = Wrong(m_arrRule[i], *values[i]);
+    if (!wrong.empty()) return CCaseFault{m_arrRule[i].m_strKey, wrong, m_arrRule[i].Right()};
+  }
+  for (const CNeed& need : m_arrNeed) {
+    if (!Holds(need, values)) continue;
+    for (const int key : need.m_arrKey) {
+      const CRule& rule = m_arrRule[static_cast<std::size_t>(key)];
+      if (!values[static_cast<std::size_t>(key)])
+        return CCaseFault{rule.m_strKey, "is missing", rule.Right()};
+    }
+  }
+  return CheckAlternatives(values);
+}
+
+}  // namespace orv3::cli

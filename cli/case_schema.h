@@ -1,0 +1,69 @@
+// What a check's JSON Schema (docs/schema) asks of a case, compiled once and asked case by case.
+//
+// Of JSON Schema it understands what those files use: type, enum, minimum, exclusiveMinimum,
+// maximum, exclusiveMaximum, items, required, additionalProperties, oneOf lists of required keys,
+// and allOf with if (const or minimum of one key) and then (required). Anything else is refused at
+// the start, so that a schema never promises what is not checked.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "connections/cases/case_keys.h"
+#include "output.h"
+
+namespace orv3::cli {
+
+// The values of one case, by the position of their keys in the schema; none where a key is left
+// out.
+using CCaseValues = std::vector<std::optional<CKeyValue>>;
+
+class CCaseSchema {
+ public:
+  // std::invalid_argument for a schema outside the subset.
+  explicit CCaseSchema(std::string_view json);
+
+  struct CRange {
+    std::optional<double> m_minimum, m_above, m_maximum, m_below;
+  };
+  struct CRule {
+    std::string m_strKey;
+    bool m_bNumber = false;
+    bool m_bInteger = false;
+    bool m_bText = false;
+    bool m_bArray = false;
+    std::vector<std::string> m_arrText;  // allowed texts
+    std::vector<double> m_arrNumber;     // allowed numbers
+    CRange m_range;
+    CRange m_items;             // of the numbers of an array
+    std::string Right() const;  // what would be right, in words
+  };
+
+  const std::vector<CRule>& Rules() const noexcept { return m_arrRule; }
+  // The position of a key, -1 for an unknown one.
+  int Find(std::string_view key) const noexcept;
+  // The fault of an unknown key, which names the known ones.
+  CCaseFault Unknown(std::string_view key) const;
+  // The first thing wrong with a case.
+  std::optional<CCaseFault> Check(const CCaseValues& values) const;
+
+ private:
+  struct CNeed {
+    int m_nIf = -1;  // position of the key that the condition looks at, -1 for none
+    std::string m_strConst;
+    std::optional<double> m_minimum;
+    std::vector<int> m_arrKey;
+  };
+  bool Holds(const CNeed& need, const CCaseValues& values) const;
+  std::optional<CCaseFault> CheckAlternatives(const CCaseValues& values) const;
+  CNeed Condition(const CJson& json) const;
+  std::vector<int> Positions(const CJson& keys) const;
+
+  std::vector<CRule> m_arrRule;
+  std::vector<CNeed> m_arrNeed;
+  std::vector<std::vector<int>> m_arrAlternative;
+};
+
+}  // namespace orv3::cli

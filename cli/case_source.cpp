@@ -1,0 +1,240 @@
+#include "case_source.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "error.h"
+#include "framework/utf8.h"
+#include "platform/whole_file.h"
+
+namespace orv3::cli {
+namespace {
+
+[[noreturn]] void Bad(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
+
+std::string ReadFile(const std::string& path) {
+  std::string bytes;
+  const CFileError error = ReadWholeFile(FromUtf8(path), bytes);
+  if (error == CFileError::NotFound) {
+    throw CCommandError(CExit::FileTrouble, path + ": is not there; give a file of cases");
+  }
+  if (error != CFileError::None) {
+    throw CCommandError(CExit::FileTrouble, path + ": cannot be read; give a file of cases");
+  }
+  return bytes;
+}
+
+// --- JSON --------------------------------------------------------------------------------------
+
+class CJsonSource : public CCaseSource {
+ public:
+  CJsonSource(CJson json, const CCaseSchema& schema)
+      : m_json(std::move(json)), m_schema(schema), m_bSingle(m_json.is_object()) {}
+
+  bool IsSingle() const noexcept override { return m_bSingle; }
+  double Done() const noexcept override {
+    return m_bSingle ? 1 : static_cast<double>(m_nNext) / static_cast<double>(m_json.size());
+  }
+
+  bool Next(CCaseValues& values, std::optional<CCaseFault>& fault) override {
+    if (m_nNext >= (m_bSingle ? 1 : m_json.size())) return false;
+    Read(m_bSingle ? m_json : m_json[m_nNext], values, fault);
+    ++m_nNext;
+    return true;
+  }
+
+ private:
+  void Read(const CJson& object, CCaseValues& values, std::optional<CCaseFault>& fault) {
+    if (!object.is_object()) {
+      fault = CCaseFault{"case", "is no object", "give the keys of one case in braces"};
+      return;
+    }
+    m_arrNumber.clear();
+    m_arrNumber.reserve(CountNumbers(object));
+    for (const auto& entry : object.items()) {
+      const int key = m_schema.Find(entry.key());
+      if (key < 0) {
+        fault = m_schema.Unknown(entry.key());
+        return;
+      }
+      if (!ReadValue(entry.value(), values[static_cast<std::size_t>(key)])) {
+        fault = CCaseFault{entry.key(), entry.value().dump() + " is not possible",
+                           m_schema.Rules()[static_cast<std::size_t>(key)].Right()};
+        return;
+      }
+    }
+  }
+
+  static std::size_t CountNumbers(const CJson& object) {
+    std::size_t count = 0;
+    for (const CJson& value : object) count += value.is_array() ? value.size() : 0;
+    return count;
+  }
+
+  bool ReadValue(const CJson& json, std::optional<CKeyValue>& value) {
+    if (json.is_number()) {
+      value = json.get<double>();
+    } else if (json.is_string()) {
+      value = std::string_view(json.get_ref<const std::string&>());
+    } else if (json.is_array()) {
+      const std::size_t first = m_arrNumber.size();
+      for (const CJson& each : json) {
+        if (!each.is_number()) return false;
+        m_arrNumber.push_back(each.get<double>());
+      }
+      value = std::span<const double>(m_arrNumber).subspan(first);
+    } else {
+      return false;
+    }
+    return true;
+  }
+
+  CJson m_json;
+  const CCaseSchema& m_schema;
+  bool m_bSingle;
+  std::size_t m_nNext = 0;
+  std::vector<double> m_arrNumber;  // of the lists of the case at hand
+};
+
+// --- CSV ---------------------------------------------------------------------------------------
+
+class CCsvSource : public CCaseSource {
+ public:
+  CCsvSource(std::string bytes, const std::string& path, const CCaseSchema& schema)
+      : m_strBytes(std::move(bytes)), m_schema(schema) {
+    if (m_strBytes.starts_with("\xEF\xBB\xBF")) m_nAt = 3;
+    if (!ReadLine()) Bad(path + ": is empty; the first line holds the keys");
+    for (const std::string_view name : m_arrCell) {
+      m_arrColumn.push_back(schema.Find(name));
+      if (m_arrColumn.back() < 0) Bad(path + ": " + schema.Unknown(name).Line());
+      if (std::count(m_arrColumn.begin(), m_arrColumn.end(), m_arrColumn.back()) > 1)
+        Bad(path + ": " + std::string(name) + ": stands twice in the first line; give it once");
+    }
+  }
+
+  double Done() const noexcept override {
+    return static_cast<double>(m_nAt) / static_cast<double>(m_strBytes.size());
+  }
+
+  bool Next(CCaseValues& values, std::optional<CCaseFault>& fault) override {
+    do {
+      if (!ReadLine()) return false;
+    } while (m_arrCell.size() == 1 && m_arrCell[0].empty());
+    if (m_arrCell.size() > m_arrColumn.size()) {
+      fault = CCaseFault{"case", "has more cells than the first line has keys", "give one a key"};
+      return true;
+    }
+    m_arrNumber.clear();
+    m_arrNumber.reserve(m_arrCell.size() + static_cast<std::size_t>(m_nSeparators));
+    for (std::size_t i = 0; i < m_arrCell.size(); ++i) {
+      const auto key = static_cast<std::size_t>(m_arrColumn[i]);
+      if (!m_arrCell[i].empty()) values[key] = Value(m_arrCell[i], m_schema.Rules()[key]);
+    }
+    return true;
+  }
+
+ private:
+  // Splits the next line into m_arrCell; a quoted cell may hold commas, quotes and line ends.
+  bool ReadLine() {
+    if (m_nAt >= m_strBytes.size()) return false;
+    m_arrCell.clear();
+    m_nSeparators = 0;
+    const std::size_t size = m_strBytes.size();
+    while (true) {
+      m_arrCell.push_back(m_nAt < size && m_strBytes[m_nAt] == '"' ? QuotedCell() : PlainCell());
+      if (m_nAt >= size) return true;
+      const char end = m_strBytes[m_nAt++];
+      if (end == '\r' && m_nAt < size && m_strBytes[m_nAt] == '\n') ++m_nAt;
+      if (end != ',') return true;
+    }
+  }
+
+  std::string_view PlainCell() {
+    const std::size_t first = m_nAt;
+    while (m_nAt < m_strBytes.size()) {
+      const char ch = m_strBytes[m_nAt];
+      if (ch == ',' || ch == '\n' || ch == '\r') break;
+      m_nSeparators += ch == ';' ? 1 : 0;
+      ++m_nAt;
+    }
+    std::string_view cell(m_strBytes.data() + first, m_nAt - first);
+    while (cell.starts_with(' ')) cell.remove_prefix(1);
+    while (cell.ends_with(' ')) cell.remove_suffix(1);
+    return cell;
+  }
+
+  // Doubled quotes are made single in place, which only shortens the text.
+  std::string_view QuotedCell() {
+    const std::size_t first = ++m_nAt;
+    std::size_t out = first;
+    while (m_nAt < m_strBytes.size()) {
+      const char ch = m_strBytes[m_nAt++];
+      if (ch == '"') {
+        if (m_nAt >= m_strBytes.size() || m_strBytes[m_nAt] != '"') break;
+        ++m_nAt;
+      }
+      m_nSeparators += ch == ';' ? 1 : 0;
+      m_strBytes[out++] = ch;
+    }
+    const std::string_view cell(m_strBytes.data() + first, out - first);
+    PlainCell();  // what stands between the closing quote and the comma is dropped
+    return cell;
+  }
+
+  static bool ReadNumber(std::string_view text, double& number) noexcept {
+    while (text.starts_with(' ')) text.remove_prefix(1);
+    while (text.ends_with(' ')) text.remove_suffix(1);
+    if (text.starts_with('+')) text.remove_prefix(1);
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size();
+  }
+
+  // A text where the key takes one, a list where semicolons stand, else a number; what is none of
+  // them stays a text, which the schema then refuses.
+  CKeyValue Value(std::string_view cell, const CCaseSchema::CRule& rule) {
+    double number = 0;
+    if (rule.m_bText) return cell;
+    if (!rule.m_bArray || cell.find(';') == std::string_view::npos) {
+      if (ReadNumber(cell, number)) return number;
+      return cell;
+    }
+    const std::size_t first = m_arrNumber.size();
+    for (std::size_t at = 0; at <= cell.size();) {
+      const std::size_t end = std::min(cell.find(';', at), cell.size());
+      if (!ReadNumber(cell.substr(at, end - at), number)) return cell;
+      m_arrNumber.push_back(number);
+      at = end + 1;
+    }
+    return std::span<const double>(m_arrNumber).subspan(first);
+  }
+
+  std::string m_strBytes;
+  const CCaseSchema& m_schema;
+  std::size_t m_nAt = 0;
+  int m_nSeparators = 0;
+  std::vector<std::string_view> m_arrCell;
+  std::vector<int> m_arrColumn;     // position of each column's key
+  std::vector<double> m_arrNumber;  // of the lists of the case at hand
+};
+
+}  // namespace
+
+std::unique_ptr<CCaseSource> OpenCases(const std::string& path, const CCaseSchema& schema) {
+  std::string bytes = ReadFile(path);
+  if (!IsUtf8(bytes)) Bad(path + ": is no UTF-8; save it as UTF-8");
+  if (path.ends_with(".csv") || path.ends_with(".CSV"))
+    return std::make_unique<CCsvSource>(std::move(bytes), path, schema);
+  CJson json;
+  try {
+    json = CJson::parse(bytes);
+  } catch (const CJson::exception& error) {
+    const std::string what = error.what();
+    const std::size_t text = what.find("] ");
+    Bad(path + ": is no JSON, " + (text == std::string::npos ? what : what.substr(text + 2)));
+  }
+  if (!json.is_object() && !json.is_array())
+    Bad(path + ": holds no case; give an object, or an array of them");
+  return std::make_unique<CJsonSource>(std::move(json), schema);
+}
+
+}  // namespace orv3::cli

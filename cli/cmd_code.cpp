@@ -1,0 +1,328 @@
+// orv3cal code: one figure of the design code's tables, with its unit and its source.
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "catalogue/code_tables/table_search.h"
+#include "commands.h"
+#include "connections/cases/case_rules.h"
+#include "error.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "output.h"
+
+namespace orv3::cli {
+namespace {
+
+using CArguments = std::vector<std::string>;
+
+struct CFigure {
+  std::variant<double, std::string> m_value;  // an infinity where the code prints one
+  const char* m_szUnit;
+  const char* m_szSource;
+};
+
+[[noreturn]] void Refuse(const std::string& name, const std::string& text,
+                         const std::string& right) {
+  throw CCommandError(CExit::BadInput, name + ": \"" + text + "\" is not possible; give " + right);
+}
+
+double Number(const CArguments& arguments, std::size_t at, const char* name, const char* right) {
+  const CString text = FromUtf8(arguments[at]);
+  if (!IsNumber(text) || ToDouble(text) < 0) Refuse(name, arguments[at], right);
+  return ToDouble(text);
+}
+
+// The position of an argument among the words that it may be.
+template <std::size_t COUNT>
+int Choice(const CArguments& arguments, std::size_t at, const char* name,
+           const char* const (&words)[COUNT]) {
+  std::string right = "one of";
+  for (std::size_t i = 0; i < COUNT; ++i) {
+    if (arguments[at] == words[i]) return static_cast<int>(i);
+    right += std::string(i == 0 ? " " : ", ") + words[i];
+  }
+  Refuse(name, arguments[at], right);
+}
+
+// The same for whole numbers.
+template <std::size_t COUNT>
+int Choice(const CArguments& arguments, std::size_t at, const char* name,
+           const int (&numbers)[COUNT]) {
+  const double number = Number(arguments, at, name, "a number");
+  std::string right = "one of";
+  for (std::size_t i = 0; i < COUNT; ++i) {
+    if (number == numbers[i]) return static_cast<int>(i);
+    right += (i == 0 ? " " : ", ") + std::to_string(numbers[i]);
+  }
+  Refuse(name, arguments[at], right);
+}
+
+int Whole(const CArguments& arguments, std::size_t at, const char* name, int first, int last) {
+  const std::string right =
+      "a whole number from " + std::to_string(first) + " to " + std::to_string(last);
+  const double number = Number(arguments, at, name, right.c_str());
+  if (number != std::floor(number) || number < first || number > last)
+    Refuse(name, arguments[at], right);
+  return static_cast<int>(number);
+}
+
+// What a look-up found, or a refusal that names the argument it does not have.
+void Found(bool bFound, const CArguments& arguments, std::size_t at, const char* name,
+           const char* right) {
+  if (!bFound) Refuse(name, arguments[at], right);
+}
+
+constexpr const char* kStress = "N/mm²";
+constexpr const char* kThickness = "a thickness above 0 and up to 100 mm";
+constexpr const char* kRatio = "a number not below 0";
+constexpr const char* kAxes[] = {"x", "y"};
+
+CFigure Steel(const CArguments& a) {
+  static constexpr const char* kKinds[] = {"f", "fv", "fce"};
+  const int kind = a.size() > 2 ? Choice(a, 2, "STRENGTH", kKinds) : 0;
+  const double t = Number(a, 1, "T", kThickness);
+  int strength = 0;
+  Found(t > 0 && CTableSearch::SearchSub1(Choice(a, 0, "GRADE", kSteels), t, kind, strength), a, 1,
+        "T", kThickness);
+  return {strength + 0.0, kStress, "GB 50017-2003, Table 3.4.1-1"};
+}
+
+CFigure Weld(const CArguments& a) {
+  static constexpr const char* kKinds[] = {"fcw", "ftw12", "ftw3", "fvw", "ffw"};
+  const int grade = Choice(a, 0, "GRADE", kSteels);
+  const double t = Number(a, 1, "T", kThickness);
+  const double limits[3] = {16, grade == 0 ? 40.0 : 35.0, grade == 0 ? 60.0 : 50.0};
+  const auto row =
+      std::count_if(std::begin(limits), std::end(limits), [t](double limit) { return t > limit; });
+  Found(t > 0 && t <= 100, a, 1, "T", kThickness);
+  const int group = row == 0 || grade == 0 ? static_cast<int>(row) : static_cast<int>(row) + 3;
+  int strength = 0;
+  CTableSearch::SearchSub2(grade, group, Choice(a, 2, "STRENGTH", kKinds), strength);
+  return {strength + 0.0, kStress, "GB 50017-2003, Table 3.4.1-3"};
+}
+
+CFigure Bolt(const CArguments& a) {
+  static constexpr const char* kKinds[] = {"C", "AB", "anchor", "bearing"};
+  static constexpr const char* kGrades[] = {"4.6",  "5.6",  "8.8",  "10.9", "Q235",
+                                            "Q345", "Q390", "Q420", "4.8"};
+  static constexpr const char* kStrengths[] = {"ft", "fv", "fc"};
+  static constexpr int kFirstColumn[] = {0, 3, 6, 7};
+  static constexpr int kFamily[] = {SUB3_ORDINARY, SUB3_ORDINARY, SUB3_ANCHOR, SUB3_BEARING};
+  const int kind = Choice(a, 0, "KIND", kKinds);
+  const int grade = Choice(a, 1, "GRADE", kGrades) % 8;
+  const int part = Choice(a, 2, "STRENGTH", kStrengths);
+  const int column = kFirstColumn[kind] + part;
+  const bool bAnchor = kind == 2;
+  int strength = 0;
+  const bool bFound =
+      !(bAnchor && part > 0) &&
+      CTableSearch::SearchSub3(part == 2 ? static_cast<int>(SUB3_MEMBER) : kFamily[kind], grade,
+                               column, strength) &&
+      strength > 0;
+  Found(bFound, a, 1, "GRADE",
+        "4.6, 4.8 with C; 5.6, 8.8 with AB; 8.8, 10.9 with bearing; Q235, Q345 with anchor ft; a "
+        "steel with fc");
+  return {strength + 0.0, kStress, "GB 50017-2003, Table 3.4.1-4"};
+}
+
+CFigure Preload(const CArguments& a) {
+  static constexpr const char* kGrades[] = {"8.8", "10.9"};
+  static constexpr int kDiameters[] = {16, 20, 22, 24, 27, 30};
+  double preload = 0;
+  CTableSearch::SearchSub9(Choice(a, 0, "GRADE", kGrades), Choice(a, 1, "D", kDiameters), preload);
+  return {preload, "kN", "GB 50017-2003, Table 7.2.2-2"};
+}
+
+CFigure Slip(const CArguments& a) {
+  static constexpr int kColumn[] = {0, 1, 1, 2};                  // Q235; Q345 and Q390; Q420
+  const int surface = std::min(Whole(a, 0, "SURFACE", 0, 4), 3);  // 3 and 4 share a row
+  double factor = 0;
+  CTableSearch::SearchSub8(surface, kColumn[Choice(a, 1, "GRADE", kSteels)], factor);
+  return {factor, "", "GB 50017-2003, Table 7.2.2-1"};
+}
+
+CFigure Area(const CArguments& a) {
+  static constexpr const char* kKinds[] = {"gross", "effective"};
+  double area = 0;
+  CTableSearch::SearchSub23(Choice(a, 0, "D", CTableSearch::g_sub23_1),
+                            a.size() > 1 ? Choice(a, 1, "KIND", kKinds) : 1, area);
+  return {area, "cm²", "stress areas of coarse metric threads"};
+}
+
+CFigure Slender(const CArguments& a) {
+  static constexpr const char* kCases[] = {"upper", "lower", "braced"};
+  double ratio = 0;
+  CTableSearch::SearchSub4(Choice(a, 0, "GRADE", kSteels), Choice(a, 1, "CASE", kCases), ratio);
+  return {ratio, "", "GB 50017-2003, Table 4.2.1"};
+}
+
+CFigure Phi(const CArguments& a) {
+  static constexpr const char* kClasses[] = {"a", "b", "c", "d"};
+  const double lambda = Number(a, 0, "LAMBDA", kRatio);
+  const double fy = Number(a, 1, "FY", "a yield strength above 0 N/mm²");
+  double phi = 0;
+  const bool bFound = CTableSearch::SearchSub12(lambda, fy, Choice(a, 2, "CLASS", kClasses), phi);
+  Found(bFound && fy > 0, a, 1, "FY", "a yield strength above 0 N/mm²");
+  return {phi, "", "GB 50017-2003, Appendix C"};
+}
+
+CFigure PhiB(const CArguments& a) {
+  static constexpr const char* kCases[] = {"concentrated-upper", "concentrated-lower",
+                                           "uniform-upper", "uniform-lower", "braced"};
+  const double number = Number(a, 1, "I-NUMBER", "an I number, 10 to 63");
+  const double length = Number(a, 2, "LENGTH", "a free length of 2 to 10 m");
+  double phi = 0;
+  Found(length >= 2 && length <= 10, a, 2, "LENGTH", "a free length of 2 to 10 m");
+  Found(CTableSearch::SearchSub11_1(Choice(a, 0, "CASE", kCases) + 1, number, length, phi), a, 1,
+        "I-NUMBER", "an I number of the table, 10 to 63");
+  return {phi, "", "GB 50017-2003, Table B.2"};
+}
+
+CFigure Mu(const CArguments& a) {
+  static constexpr const char* kFrames[] = {"nosway", "sway"};
+  const double k1 = Number(a, 1, "K1", kRatio);
+  const double k2 = Number(a, 2, "K2", kRatio);
+  double mu = 0;
+  if (Choice(a, 0, "FRAME", kFrames) == 0) {
+    CTableSearch::SearchSub16(k1, k2, mu);
+    return {mu, "", "GB 50017-2003, Table D-1"};
+  }
+  CTableSearch::SearchSub17(k1, k2, mu);
+  // The table's first cell is infinite, and so is every value between it and its neighbours.
+  if (k1 < 0.05 && k2 < 0.05) mu = HUGE_VAL;
+  return {mu, "", "GB 50017-2003, Table D-2"};
+}
+
+constexpr const char* kTops[] = {"free", "sliding"};
+
+CFigure MuStep(const CArguments& a) {
+  const bool bFree = Choice(a, 0, "TOP", kTops) == 0;
+  const double eta1 = Number(a, 1, "ETA1", kRatio);
+  const double k1 = Number(a, 2, "K1", kRatio);
+  double mu = 0;
+  if (bFree) {
+    CTableSearch::SearchSub18(eta1, k1, mu);
+  } else {
+    CTableSearch::SearchSub19(eta1, k1, mu);
+  }
+  return {mu, "", bFree ? "GB 50017-2003, Table D-3" : "GB 50017-2003, Table D-4"};
+}
+
+CFigure MuStep2(const CArguments& a) {
+  const bool bFree = Choice(a, 0, "TOP", kTops) == 0;
+  double v[4] = {};
+  static constexpr const char* kNames[] = {"ETA1", "ETA2", "K1", "K2"};
+  for (std::size_t i = 0; i < 4; ++i) v[i] = Number(a, i + 1, kNames[i], kRatio);
+  double mu = 0;
+  const bool bFound = bFree ? CTableSearch::SearchSub20(v[0], v[1], v[2], v[3], mu)
+                            : CTableSearch::SearchSub21(v[0], v[1], v[2], v[3], mu);
+  Found(bFound, a, 1, "ETA1 ETA2 K1 K2",
+        "ETA1 0.2 to 1.8, ETA2 0.2 to 1.2, K1 0.05 to 0.3 and K2 0.2 to 1.2");
+  return {mu, "", bFree ? "GB 50017-2003, Table D-5" : "GB 50017-2003, Table D-6"};
+}
+
+CFigure BucklingClass(const CArguments& a) {
+  CString name;
+  CTableSearch::SearchSub5(Whole(a, 0, "KIND", 1, 30), Choice(a, 1, "AXIS", kAxes), name);
+  return {ToUtf8(name), "", "GB 50017-2003, Table 5.1.2-1"};
+}
+
+CFigure ThickClass(const CArguments& a) {
+  CString name;
+  CTableSearch::SearchSub5S2(Whole(a, 0, "ROW", 1, 6), Choice(a, 1, "AXIS", kAxes), name);
+  return {ToUtf8(name.Left(1)), "", "GB 50017-2003, Table 5.1.2-2"};
+}
+
+CFigure Gamma(const CArguments& a) {
+  double gamma = 0;
+  CTableSearch::SearchSub6(Whole(a, 0, "KIND", 0, 22), Choice(a, 1, "AXIS", kAxes), gamma);
+  return {gamma, "", "GB 50017-2003, Table 5.2.1"};
+}
+
+CFigure Fatigue(const CArguments& a) {
+  static constexpr const char* kParameters[] = {"C", "beta"};
+  const int row = Choice(a, 1, "PARAMETER", kParameters);
+  double value = 0;
+  CTableSearch::SearchSub7(row, Whole(a, 0, "CATEGORY", 1, 8) - 1, value);
+  return {value, row == 0 ? "×10¹²" : "", "GB 50017-2003, Table 6.2.1-1"};
+}
+
+// One question: its arguments, how many of them may be left out, and who answers it.
+struct CQuestion {
+  const char* m_szName;
+  const char* m_szArguments;
+  int m_nArguments;
+  int m_nOptional;
+  const char* m_szHelp;
+  CFigure (*m_pAnswer)(const CArguments&);
+};
+
+constexpr CQuestion kQuestions[] = {
+    {"steel", "GRADE T [f|fv|fce]", 3, 1, "Strength of steel by grade and thickness in mm", Steel},
+    {"weld", "GRADE T fcw|ftw12|ftw3|fvw|ffw", 3, 0, "Strength of welds", Weld},
+    {"bolt", "C|AB|anchor|bearing GRADE ft|fv|fc", 3, 0,
+     "Strength of bolts; fc takes the steel of the plate for GRADE", Bolt},
+    {"preload", "8.8|10.9 D", 2, 0, "Preload of one high-strength bolt of D mm", Preload},
+    {"slip", "SURFACE GRADE", 2, 0, "Slip factor by surface treatment 0 to 4 and steel", Slip},
+    {"area", "D [gross|effective]", 2, 1, "Area of a bolt of D mm", Area},
+    {"slender", "GRADE upper|lower|braced", 2, 0,
+     "Largest l1/b1 of an I beam that needs no check of overall stability", Slender},
+    {"phi", "LAMBDA FY a|b|c|d", 3, 0, "Stability factor of an axially compressed member", Phi},
+    {"phib", "CASE I-NUMBER LENGTH", 3, 0,
+     "Stability factor of a rolled I beam; CASE concentrated-upper, concentrated-lower, "
+     "uniform-upper, uniform-lower or braced, free LENGTH in m",
+     PhiB},
+    {"mu", "nosway|sway K1 K2", 3, 0, "Effective length factor of a frame column", Mu},
+    {"mu-step", "free|sliding ETA1 K1", 3, 0, "The same, lower part of a single-stepped column",
+     MuStep},
+    {"mu-step2", "free|sliding ETA1 ETA2 K1 K2", 5, 0,
+     "The same, lowest part of a double-stepped column", MuStep2},
+    {"class", "KIND x|y", 2, 0, "Buckling class of a section kind 1 to 30", BucklingClass},
+    {"class-thick", "ROW x|y", 2, 0, "Buckling class with plates of 40 mm and more, row 1 to 6",
+     ThickClass},
+    {"gamma", "KIND x|y", 2, 0, "Plastic development factor of a section kind 0 to 22", Gamma},
+    {"fatigue", "CATEGORY C|beta", 2, 0, "Fatigue parameters of a detail category 1 to 8", Fatigue},
+};
+
+void PrintFigure(const CFigure& figure, bool bJson) {
+  const double* number = std::get_if<double>(&figure.m_value);
+  if (bJson) {
+    const CJson value =
+        number != nullptr ? JsonNumber(*number) : CJson(std::get<std::string>(figure.m_value));
+    return PrintJson({{"value", value}, {"unit", figure.m_szUnit}, {"source", figure.m_szSource}});
+  }
+  std::string text =
+      number != nullptr ? NumberText(*number) : std::get<std::string>(figure.m_value);
+  if (*figure.m_szUnit != 0) text += std::string(" ") + figure.m_szUnit;
+  Print(text + "  (" + figure.m_szSource + ")\n");
+}
+
+}  // namespace
+
+void AddCodeCommand(CLI::App& program) {
+  struct COptions {
+    CArguments arguments;
+    bool json = false;
+  };
+  CLI::App* code = program.add_subcommand("code", "Look up a figure of the design code's tables");
+  code->require_subcommand(1);
+  for (const CQuestion& question : kQuestions) {
+    auto options = std::make_shared<COptions>();
+    CLI::App* command = code->add_subcommand(question.m_szName, question.m_szHelp);
+    command->add_option("ARGUMENTS", options->arguments, question.m_szArguments)
+        ->required()
+        ->expected(question.m_nArguments - question.m_nOptional, question.m_nArguments);
+    command->add_flag("--json", options->json, "As JSON, the number with all its digits");
+    command->callback([options, &question] {
+      PrintFigure(question.m_pAnswer(options->arguments), options->json);
+    });
+  }
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,19 @@
+// The commands of orv3cal, one source file each. A command adds itself to the program with its
+// options and what it does; it reports failure by throwing CCommandError (error.h), and ends with
+// another status than 0 without a word by throwing that CExit.
+#pragma once
+
+#include <CLI/App.hpp>
+
+namespace orv3::cli {
+
+void AddStylesCommand(CLI::App& program);
+void AddSectionCommand(CLI::App& program);
+void AddCodeCommand(CLI::App& program);
+void AddCheckCommand(CLI::App& program);
+
+// The commands in the order of the help; a new one is entered here.
+inline constexpr void (*kCommands[])(CLI::App&) = {AddStylesCommand, AddSectionCommand,
+                                                   AddCodeCommand, AddCheckCommand};
+
+}  // namespace orv3::cli

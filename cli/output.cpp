@@ -1,0 +1,55 @@
+#include "output.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+
+#include "error.h"
+#include "framework/utf8.h"
+#include "platform/whole_file.h"
+
+namespace orv3::cli {
+namespace {
+
+const char* Reason(CFileError error) {
+  switch (error) {
+    case CFileError::NotFound:
+      return "its folder is not there";
+    case CFileError::Busy:
+      return "another program has it open";
+    case CFileError::Denied:
+      return "it may not be written there";
+    case CFileError::None:
+    case CFileError::Failed:
+      break;
+  }
+  return "the system refused";
+}
+
+}  // namespace
+
+CJson JsonNumber(double value) { return std::isfinite(value) ? CJson(value) : CJson(nullptr); }
+
+std::string NumberText(double value) {
+  if (std::isnan(value)) return "-";
+  if (std::fabs(value) >= 1e100) return value > 0 ? "∞" : "-∞";
+  char text[64];
+  const auto format =
+      std::fabs(value) >= 1e15 ? std::chars_format::scientific : std::chars_format::general;
+  const int digits = std::fabs(value) >= 1e6 && std::fabs(value) < 1e15 ? 16 : 7;
+  const double shown =
+      digits == 16 ? std::round(value) : value;  // large numbers to the last whole unit
+  return {text, std::to_chars(text, text + sizeof text, shown, format, digits).ptr};
+}
+
+void Print(const std::string& text) { std::fwrite(text.data(), 1, text.size(), stdout); }
+
+void PrintJson(const CJson& json) { Print(json.dump(2) + '\n'); }
+
+void WriteFile(const std::string& path, const std::string& bytes) {
+  const CFileError error = WriteWholeFile(FromUtf8(path), bytes);
+  if (error == CFileError::None) return;
+  throw CCommandError(CExit::FileTrouble, path + ": not written, " + Reason(error));
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,12 @@
+// The schemas of docs/schema as they stood when the program was built.
+#pragma once
+
+#include <string_view>
+
+namespace orv3::cli {
+
+extern const std::string_view kBoltSchema;
+extern const std::string_view kFilletSchema;
+extern const std::string_view kButtSchema;
+
+}  // namespace orv3::cli

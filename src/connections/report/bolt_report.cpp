@@ -1,0 +1,461 @@
+// The report of a bolt group: GB 50017-2003, 7.2.1 to 7.2.4 and 5.1.1.
+#include <cmath>
+
+#include "connections/cases/case_rules.h"
+#include "connections/check_math.h"
+#include "connections/report/bolt_drawing.h"
+#include "connections/report/connection_report.h"
+#include "connections/report/report_page.h"
+
+namespace orv3 {
+namespace {
+
+class CBoltReport {
+ public:
+  CBoltReport(const CBoltCase& input, const CBoltCheck& check, CLanguage language)
+      : m_input(input),
+        m_check(check),
+        m_group(check.Record()),
+        m_r(check.Results()),
+        m_bFriction(input.m_nType == kFrictionBolt),
+        m_body(language) {}
+
+  std::string Write();
+
+ private:
+  using CSteps = std::vector<CReportStep>;
+  void Inputs();
+  void Figure();
+  CSteps Geometry() const;
+  CSteps Strengths() const;
+  CSteps Resistances() const;
+  CSteps Forces() const;
+  CSteps LongJoint() const;
+  CSteps Sections() const;
+  void SectionX(CSteps& steps) const;
+  void SectionY(CSteps& steps) const;
+  std::vector<CReportVerdict> Verdicts() const;
+  CReportVerdict SectionVerdict(bool bX) const;
+
+  const CBoltCase& m_input;
+  const CBoltCheck& m_check;
+  const NormalBoltData& m_group;
+  const CBoltResults& m_r;
+  bool m_bFriction;
+  CReportBody m_body;
+};
+
+void CBoltReport::Inputs() {
+  const auto keys = CBoltCheck::InputKeys();
+  auto lines = InputLines(m_input, keys, m_body.Language());
+  std::vector<CReportBody::CInputLine> used;
+  const auto unused = [&](const std::string& key) {
+    if (key == "id") return true;
+    if (m_bFriction) return key == "sumT" || key == "nv" || key == "class";
+    return key == "nf" || key == "surface" || (key == "class" && m_input.m_nType != kOrdinaryBolt);
+  };
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    const std::string key = keys[i].m_szKey;
+    if (unused(key)) continue;
+    static constexpr CTextLiteral kLayoutNames[] = {{"并列", "grid"}, {"错列", "staggered"}};
+    if (key == "layout") lines[i].m_strValue = m_body.Text(kLayoutNames[m_input.m_nLayout]);
+    if (key == "type") lines[i].m_strValue = m_body.Text(kBoltTypeNames[m_input.m_nType]);
+    if (key == "surface") lines[i].m_strValue = m_body.Text(kSurfaceNames[m_input.m_nSurface]);
+    used.push_back(lines[i]);
+  }
+  m_body.Inputs(used);
+}
+
+void CBoltReport::Figure() {
+  static constexpr CTextLiteral kCaption = {
+      "螺栓群布置（按比例，mm）。红色：受力最大的螺栓；点划线：形心轴；虚线 1、2：抵抗 Vx "
+      "的直线、折线截面；3、4：抵抗 Vy 的直线、折线截面。N、M 垂直于图面。",
+      "The bolt group to scale, mm. Red: the most stressed bolts; chain lines: centroidal axes; "
+      "dashed 1 and 2: straight and zigzag section that resists Vx; 3 and 4: the same for Vy. N "
+      "and M act out of the plane."};
+  static constexpr CTextLiteral kTooMany = {"螺栓数过多，未绘图。",
+                                            "Not drawn: the group has too many bolts."};
+  if (m_r.m_nBolts <= kMostDrawnBolts) {
+    m_body.Figure(BoltGroupDrawing(m_group), m_body.Text(kCaption));
+  } else {
+    m_body.Note(kTooMany);
+  }
+}
+
+CBoltReport::CSteps CBoltReport::Geometry() const {
+  CSteps steps;
+  const std::string c = std::to_string(m_input.m_nCols);
+  const std::string r = std::to_string(m_input.m_nRows);
+  const bool bGrid = m_input.m_nLayout == 0;
+  steps.push_back({{"螺栓数", "Number of bolts"},
+                   "",
+                   "n",
+                   bGrid ? "n_c · n_r" : "⌊(n_c + 1) n_r / 2⌋ + ⌊(n_c − 1)(n_r − 1) / 2⌋",
+                   bGrid
+                       ? c + " × " + r
+                       : "⌊(" + c + " + 1) × " + r + " / 2⌋ + ⌊(" + c + " − 1)(" + r + " − 1) / 2⌋",
+                   std::to_string(m_r.m_nBolts)});
+  const std::string clearance = PlainNumber(m_r.m_dD0 - m_input.m_nD);
+  steps.push_back({{"孔径", "Hole diameter"},
+                   "8.3.2",
+                   "d_0",
+                   "d + " + clearance,
+                   std::to_string(m_input.m_nD) + " + " + clearance,
+                   PlainNumber(m_r.m_dD0),
+                   "mm"});
+  if (!m_bFriction) {
+    steps.push_back({{"螺纹处有效直径（粗牙，查表）", "Effective diameter (coarse thread, table)"},
+                     "",
+                     "d_e",
+                     "",
+                     "",
+                     PlainNumber(m_r.m_dDe),
+                     "mm"});
+  }
+  if (m_group.m_dSumR2 > 0) {
+    steps.push_back({{"至形心距离的平方和", "Sum of squared distances from the centroid"},
+                     "",
+                     "Σr^2",
+                     "Σ(x^2 + y^2)",
+                     "",
+                     PlainNumber(m_group.m_dSumR2),
+                     "mm²"});
+  }
+  if (!IsZero(m_group.m_dM)) {
+    static constexpr CTextLiteral kAbout[] = {
+        {"弯矩力臂平方和（绕第一行螺栓）", "Sum of squared lever arms, about the first row"},
+        {"弯矩力臂平方和（绕形心）", "Sum of squared lever arms, about the centroid"}};
+    steps.push_back({kAbout[m_bFriction ? 1 : 0], "", "Σl^2", "Σl_i^2", "",
+                     PlainNumber(m_group.m_dSumLy2), "mm²"});
+  }
+  return steps;
+}
+
+CBoltReport::CSteps CBoltReport::Strengths() const {
+  CSteps steps;
+  const auto value = [&](CTextLiteral name, const char* clause, const char* symbol, double number,
+                         const char* unit) {
+    steps.push_back({name, clause, symbol, "", "", PlainNumber(number), unit});
+  };
+  value({"板件钢材强度", "Plate steel"}, "T 3.4.1-1", "f", m_r.m_dF, "N/mm²");
+  if (m_bFriction) {
+    value({"抗滑移系数", "Slip factor"}, "T 7.2.2-1", "μ", m_r.m_dMu, "");
+  } else {
+    value({"螺栓抗拉", "Bolt in tension"}, "T 3.4.1-4", "f_t^b", m_r.m_dFt, "N/mm²");
+    value({"螺栓抗剪", "Bolt in shear"}, "T 3.4.1-4", "f_v^b", m_r.m_dFv, "N/mm²");
+    value({"孔壁承压", "Bearing"}, "T 3.4.1-4", "f_c^b", m_r.m_dFc, "N/mm²");
+  }
+  if (m_input.m_nType != kOrdinaryBolt) {
+    value({"每个螺栓的预拉力", "Preload of one bolt"}, "T 7.2.2-2", "P", m_r.m_nP, "kN");
+  }
+  return steps;
+}
+
+CBoltReport::CSteps CBoltReport::Resistances() const {
+  static constexpr CTextLiteral kShear = {"抗剪承载力", "Shear resistance"};
+  static constexpr CTextLiteral kTension = {"抗拉承载力", "Tensile resistance"};
+  if (m_bFriction) {
+    return {
+        {kShear, "7.2.2", "N_v^b", "0.9 n_f μ P",
+         "0.9 × " + std::to_string(m_input.m_nNf) + " × " + Put(m_r.m_dMu) + " × " + Put(m_r.m_nP),
+         PlainNumber(m_r.m_dNvb), "kN"},
+        {kTension, "7.2.2", "N_t^b", "0.8 P", "0.8 × " + Put(m_r.m_nP), PlainNumber(m_r.m_dNtb),
+         "kN"}};
+  }
+  const std::string clause = m_input.m_nType == kOrdinaryBolt ? "7.2.1" : "7.2.3";
+  const std::string d = std::to_string(m_input.m_nD);
+  return {{kShear, clause, "N_v^b", "n_v (π d^2 / 4) f_v^b",
+           std::to_string(m_input.m_nNv) + " × π × " + d + "^2 / 4 × " + Put(m_r.m_dFv) + " / 1000",
+           PlainNumber(m_r.m_dNvb), "kN"},
+          {{"承压承载力", "Bearing resistance"},
+           clause,
+           "N_c^b",
+           "d Σt f_c^b",
+           d + " × " + Put(m_input.m_dSumT) + " × " + Put(m_r.m_dFc) + " / 1000",
+           PlainNumber(m_r.m_dNcb),
+           "kN"},
+          {kTension, clause, "N_t^b", "(π d_e^2 / 4) f_t^b",
+           "π × " + Put(m_r.m_dDe) + "^2 / 4 × " + Put(m_r.m_dFt) + " / 1000",
+           PlainNumber(m_r.m_dNtb), "kN"}};
+}
+
+CBoltReport::CSteps CBoltReport::Forces() const {
+  CSteps steps;
+  const std::string n = std::to_string(m_r.m_nBolts);
+  const auto share = [&](CTextLiteral name, const char* symbol, const char* load, double value,
+                         double result) {
+    steps.push_back({name, "", symbol, std::string(load) + " / n", Put(value) + " / " + n,
+                     PlainNumber(result), "kN"});
+  };
+  const auto lever = [&](CTextLiteral name, const char* symbol, const char* formula, double load,
+                         double arm, double sum, double result) {
+    steps.push_back({name, "", symbol, formula,
+                     Put(load) + " × " + Put(arm) + " / " + PlainNumber(sum), PlainNumber(result),
+                     "kN"});
+  };
+  share({"Vx 分配的剪力", "Share of Vx"}, "N_{vx}", "V_x", m_input.m_dVx, m_group.m_dNvx);
+  share({"Vy 分配的剪力", "Share of Vy"}, "N_{vy}", "V_y", m_input.m_dVy, m_group.m_dNvy);
+  const bool bTorque = m_group.m_dSumR2 > 0;
+  if (bTorque) {
+    lever({"扭矩在最远螺栓的 x 向分力", "Torque, farthest bolt, along x"}, "N_{Tx}",
+          "T y_{max} / Σr^2", m_input.m_dT, m_group.m_dYMax, m_group.m_dSumR2, m_group.m_dNTx);
+    lever({"扭矩在最远螺栓的 y 向分力", "Torque, farthest bolt, along y"}, "N_{Ty}",
+          "T x_{max} / Σr^2", m_input.m_dT, m_group.m_dXMax, m_group.m_dSumR2, m_group.m_dNTy);
+  }
+  const std::string x =
+      bTorque ? "(" + Put(m_group.m_dNvx) + " + " + Put(m_group.m_dNTx) + ")" : Put(m_group.m_dNvx);
+  const std::string y =
+      bTorque ? "(" + Put(m_group.m_dNvy) + " + " + Put(m_group.m_dNTy) + ")" : Put(m_group.m_dNvy);
+  steps.push_back(
+      {{"受力最大螺栓的剪力", "Shear on the most stressed bolt"},
+       "",
+       "N_v",
+       bTorque ? "√((N_{vx} + N_{Tx})^2 + (N_{vy} + N_{Ty})^2)" : "√(N_{vx}^2 + N_{vy}^2)",
+       "√(" + x + "^2 + " + y + "^2)",
+       PlainNumber(m_r.m_dNv),
+       "kN"});
+  share({"N 分配的拉力", "Share of N"}, "N_{tN}", "N", m_input.m_dN, m_group.m_dNtN);
+  if (!IsZero(m_group.m_dM) && m_group.m_dSumLy2 > 0) {
+    lever({"弯矩在最远螺栓的拉力", "Moment, farthest bolt"}, "N_{tM}", "M l_{max} / Σl^2",
+          m_input.m_dM, m_group.m_dLyMax, m_group.m_dSumLy2, m_group.m_dNtM);
+  }
+  steps.push_back({{"受力最大螺栓的拉力", "Tension on the most stressed bolt"},
+                   "",
+                   "N_t",
+                   "\\max(N_{tN} + N_{tM}, 0)",
+                   "\\max(" + Put(m_group.m_dNtN) + " + " + Put(m_group.m_dNtM) + ", 0)",
+                   PlainNumber(m_r.m_dNt),
+                   "kN"});
+  return steps;
+}
+
+CBoltReport::CSteps CBoltReport::LongJoint() const {
+  const double d0 = m_r.m_dD0;
+  const bool bShort = AtMost(m_r.m_dL1, 15 * d0);
+  const bool bLong = !AtMost(m_r.m_dL1, 60 * d0);
+  const std::string l1 = PlainNumber(m_r.m_dL1);
+  CSteps steps = {
+      {{"沿受力方向的连接长度", "Joint length along the force"}, "7.2.4", "l_1", "", "", l1, "mm"}};
+  const std::string limit = PlainNumber(15 * d0);
+  const std::string far = PlainNumber(60 * d0);
+  steps.push_back({{"承载力折减系数", "Reduction factor"},
+                   "7.2.4",
+                   "β",
+                   bShort  ? "1.0  (l_1 ≤ 15 d_0 = " + limit + ")"
+                   : bLong ? "0.7  (l_1 > 60 d_0 = " + far + ")"
+                           : "1.1 − l_1 / (150 d_0)",
+                   bShort || bLong ? "" : "1.1 − " + l1 + " / (150 × " + PlainNumber(d0) + ")",
+                   PlainNumber(m_r.m_dBeta)});
+  return steps;
+}
+
+void CBoltReport::SectionX(CSteps& steps) const {
+  if (IsZero(m_input.m_dVx)) return;
+  const std::string t = Put(m_input.m_dThick);
+  const std::string d0 = PlainNumber(m_r.m_dD0);
+  const std::string width = "2 × " + Put(m_input.m_dEy) + " + " + PlainNumber(m_group.m_dHeight);
+  const std::string rows = std::to_string(m_input.m_nRows);
+  const double(&area)[4] = m_group.m_dAreaX;
+  static constexpr CTextLiteral kStraight = {"抵抗 Vx 的直线净截面（1）",
+                                             "Straight net section for Vx (1)"};
+  const auto stress = [&](const char* symbol, const char* formula, double factor, double part,
+                          double sigma) {
+    const std::string share = factor == 1 ? "" : PlainNumber(factor) + " × ";
+    steps.push_back({{"其应力", "Its stress"},
+                     "5.1.1",
+                     symbol,
+                     formula,
+                     share + Put(m_input.m_dVx) + " × 1000 / " + PlainNumber(part),
+                     PlainNumber(sigma),
+                     "N/mm²"});
+  };
+  const std::string net = "(" + width + " − " + rows + " × " + d0 + ") × " + t;
+  if (m_bFriction) {
+    steps.push_back({{"抵抗 Vx 的毛截面", "Gross section for Vx"},
+                     "5.1.1",
+                     "A_x",
+                     "(2 e_y + Σs_r) t",
+                     "(" + width + ") × " + t,
+                     PlainNumber(area[0]),
+                     "mm²"});
+    stress("σ_{x1}", "V_x / A_x", 1, area[0], m_group.m_dSigmaX[1]);
+    steps.push_back(
+        {kStraight, "5.1.1", "A_{nx}", "A_x − n_r d_0 t", net, PlainNumber(area[1]), "mm²"});
+    stress("σ_{x2}", "(1 − 0.5 ⌊n_r / n⌋) V_x / A_{nx}", 1 - 0.5 * (m_input.m_nRows / m_r.m_nBolts),
+           area[1], m_group.m_dSigmaX[2]);
+    return;
+  }
+  const bool bGrid = m_input.m_nLayout == 0;
+  steps.push_back({kStraight, "5.1.1", "A_{nx}", "(2 e_y + Σs_r − n_r d_0) t", net,
+                   PlainNumber(area[bGrid ? 1 : 2]), "mm²"});
+  stress(bGrid ? "σ_x" : "σ_{x1}", "V_x / A_{nx}", 1, area[bGrid ? 1 : 2],
+         m_group.m_dSigmaX[bGrid ? 0 : 1]);
+  if (bGrid) return;
+  const double leg = std::hypot(m_group.m_dWidth / (m_input.m_nCols - 1),
+                                m_group.m_dHeight / (m_input.m_nRows - 1));
+  steps.push_back({{"抵抗 Vx 的折线净截面（2）", "Zigzag net section for Vx (2)"},
+                   "5.1.1",
+                   "A_{zx}",
+                   "(s (n_r − 1) + 2 e_y − (2 n_r − 1) d_0) t",
+                   "(" + PlainNumber(leg) + " × " + std::to_string(m_input.m_nRows - 1) +
+                       " + 2 × " + Put(m_input.m_dEy) + " − " +
+                       std::to_string(2 * m_input.m_nRows - 1) + " × " + d0 + ") × " + t,
+                   PlainNumber(area[3]),
+                   "mm²"});
+  stress("σ_{x2}", "V_x / A_{zx}", 1, area[3], m_group.m_dSigmaX[2]);
+}
+
+void CBoltReport::SectionY(CSteps& steps) const {
+  if (IsZero(m_input.m_dVy)) return;
+  const std::string t = Put(m_input.m_dThick);
+  const std::string d0 = PlainNumber(m_r.m_dD0);
+  const std::string width = "2 × " + Put(m_input.m_dEx) + " + " + PlainNumber(m_group.m_dWidth);
+  const bool bGrid = m_input.m_nLayout == 0;
+  const int holes = bGrid         ? m_input.m_nCols
+                    : m_bFriction ? (m_input.m_nCols + 1) / 2
+                                  : (m_input.m_nRows + 1) / 2;
+  const char* count = bGrid ? "n_c" : m_bFriction ? "⌈n_c / 2⌉" : "⌈n_r / 2⌉";
+  const double(&area)[4] = m_group.m_dAreaY;
+  static constexpr CTextLiteral kStraight = {"抵抗 Vy 的直线净截面（3）",
+                                             "Straight net section for Vy (3)"};
+  const auto stress = [&](const char* symbol, const std::string& formula, double factor,
+                          double part, double sigma) {
+    const std::string share = factor == 1 ? "" : PlainNumber(factor) + " × ";
+    steps.push_back({{"其应力", "Its stress"},
+                     "5.1.1",
+                     symbol,
+                     formula,
+                     share + Put(m_input.m_dVy) + " × 1000 / " + PlainNumber(part),
+                     PlainNumber(sigma),
+                     "N/mm²"});
+  };
+  const std::string net = "(" + width + " − " + std::to_string(holes) + " × " + d0 + ") × " + t;
+  if (m_bFriction) {
+    steps.push_back({{"抵抗 Vy 的毛截面", "Gross section for Vy"},
+                     "5.1.1",
+                     "A_y",
+                     "(2 e_x + Σs_c) t",
+                     "(" + width + ") × " + t,
+                     PlainNumber(area[0]),
+                     "mm²"});
+    stress("σ_{y1}", "V_y / A_y", 1, area[0], m_group.m_dSigmaY[1]);
+    steps.push_back({kStraight, "5.1.1", "A_{ny}", std::string("A_y − ") + count + " d_0 t", net,
+                     PlainNumber(area[1]), "mm²"});
+    stress("σ_{y2}", std::string("(1 − 0.5 ") + count + " / n) V_y / A_{ny}",
+           1 - 0.5 * holes / m_r.m_nBolts, area[1], m_group.m_dSigmaY[2]);
+    return;
+  }
+  steps.push_back({kStraight, "5.1.1", "A_{ny}",
+                   std::string("(2 e_x + Σs_c − ") + count + " d_0) t", net,
+                   PlainNumber(area[bGrid ? 1 : 2]), "mm²"});
+  stress(bGrid ? "σ_y" : "σ_{y1}", "V_y / A_{ny}", 1, area[bGrid ? 1 : 2],
+         m_group.m_dSigmaY[bGrid ? 0 : 1]);
+  if (bGrid) return;
+  const double leg = std::hypot(m_group.m_dWidth / (m_input.m_nCols - 1),
+                                m_group.m_dHeight / (m_input.m_nRows - 1));
+  steps.push_back({{"抵抗 Vy 的折线净截面（4）", "Zigzag net section for Vy (4)"},
+                   "5.1.1",
+                   "A_{zy}",
+                   "(s (n_c − 1) + 2 e_x − n_c d_0) t",
+                   "(" + PlainNumber(leg) + " × " + std::to_string(m_input.m_nCols - 1) +
+                       " + 2 × " + Put(m_input.m_dEx) + " − " + std::to_string(m_input.m_nCols) +
+                       " × " + d0 + ") × " + t,
+                   PlainNumber(area[3]),
+                   "mm²"});
+  stress("σ_{y2}", "V_y / A_{zy}", 1, area[3], m_group.m_dSigmaY[2]);
+}
+
+CReportVerdict CBoltReport::SectionVerdict(bool bX) const {
+  const double sigma = bX ? m_r.m_dSigmaX : m_r.m_dSigmaY;
+  const double load = bX ? m_input.m_dVx : m_input.m_dVy;
+  static constexpr CTextLiteral kNames[] = {{"y 向截面", "Section for Vy"},
+                                            {"x 向截面", "Section for Vx"}};
+  const std::string symbol = bX ? "σ_x" : "σ_y";
+  const bool bTwo = m_bFriction || m_input.m_nLayout == 1;
+  const std::string both = bX ? " = \\max(σ_{x1}, σ_{x2})" : " = \\max(σ_{y1}, σ_{y2})";
+  CReportVerdict verdict;
+  verdict.m_name = kNames[bX ? 1 : 0];
+  verdict.m_strClause = "5.1.1";
+  verdict.m_strCondition =
+      "|" + symbol + "| ≤ f" + (bTwo && !IsZero(load) ? ",  " + symbol + both : "");
+  verdict.m_strNumbers = PlainNumber(std::fabs(sigma)) +
+                         (std::fabs(sigma) <= m_r.m_dF ? " ≤ " : " > ") + PlainNumber(m_r.m_dF) +
+                         " N/mm²";
+  verdict.m_dUtilisation = std::fabs(sigma) / m_r.m_dF;
+  verdict.m_bPass = bX ? m_r.m_bX : m_r.m_bY;
+  return verdict;
+}
+
+std::vector<CReportVerdict> CBoltReport::Verdicts() const {
+  std::vector<CReportVerdict> verdicts;
+  const std::span<const CCasePart> parts = m_check.Parts();
+  const auto relation = [](bool bPass) { return bPass ? " ≤ " : " > "; };
+  const std::string shear =
+      Put(m_r.m_dNv) + " / (" + Put(m_r.m_dBeta) + " × " + Put(m_r.m_dNvb) + ")";
+  const std::string tension = Put(m_r.m_dNt) + " / " + Put(m_r.m_dNtb);
+  const char* clauses[] = {"7.2.1, 7.2.4", "7.2.2, 7.2.4", "7.2.3, 7.2.4"};
+  const char* clause = clauses[m_input.m_nType];
+  verdicts.push_back(
+      {parts[0].m_name, clause,
+       m_bFriction ? "N_v / (β N_v^b) + N_t / N_t^b ≤ 1"
+                   : "√((N_v / β N_v^b)^2 + (N_t / N_t^b)^2) ≤ 1",
+       (m_bFriction ? shear + " + " + tension : "√((" + shear + ")^2 + (" + tension + ")^2)") +
+           " = " + PlainNumber(m_r.m_dRatio) + relation(parts[0].m_bPass) + "1",
+       parts[0].m_dUtilisation, parts[0].m_bPass});
+  if (!m_bFriction) {
+    const bool bOrdinary = m_input.m_nType == kOrdinaryBolt;
+    const double limit = m_r.m_dBeta * m_r.m_dNcb / (bOrdinary ? 1 : 1.2);
+    verdicts.push_back(
+        {parts[1].m_name, clause, bOrdinary ? "N_v ≤ β N_c^b" : "N_v ≤ β N_c^b / 1.2",
+         PlainNumber(m_r.m_dNv) + relation(parts[1].m_bPass) + PlainNumber(limit) + " kN",
+         parts[1].m_dUtilisation, parts[1].m_bPass});
+  }
+  verdicts.push_back(SectionVerdict(true));
+  verdicts.push_back(SectionVerdict(false));
+  return verdicts;
+}
+
+CBoltReport::CSteps CBoltReport::Sections() const {
+  CSteps steps;
+  SectionX(steps);
+  SectionY(steps);
+  return steps;
+}
+
+std::string CBoltReport::Write() {
+  static constexpr CTextLiteral kTitle = {"螺栓连接验算", "Bolted connection"};
+  const std::string id = m_input.m_strId.empty() ? "" : "　" + m_input.m_strId;
+  m_body.Title(m_body.Text(kTitle) + id, m_check.Pass(), m_check.Worst().m_dUtilisation);
+  m_body.Warnings(m_check.Warnings());
+  m_body.Heading({"一、输入", "1  Input"});
+  Inputs();
+  Figure();
+  m_body.Heading({"二、几何", "2  Geometry"});
+  m_body.Steps(Geometry());
+  m_body.Heading({"三、强度设计值", "3  Design strengths"});
+  m_body.Steps(Strengths());
+  m_body.Heading({"四、单个螺栓承载力", "4  Resistance of one bolt"});
+  m_body.Steps(Resistances());
+  m_body.Heading({"五、受力最大螺栓的内力", "5  Forces on the most stressed bolt"});
+  m_body.Steps(Forces());
+  m_body.Heading({"六、长连接折减", "6  Long joint"});
+  m_body.Steps(LongJoint());
+  const CSteps sections = Sections();
+  if (!sections.empty()) {
+    m_body.Heading({"七、板件截面", "7  Sections of the plate"});
+    m_body.Steps(sections);
+  }
+  m_body.Heading({"八、验算结论", "8  Verdicts"});
+  m_body.Verdicts(Verdicts());
+  m_body.Note({"单位：长度 mm，力 kN，力矩 kN·mm，应力 N/mm²。",
+               "Units: lengths mm, forces kN, moments kN·mm, stresses N/mm²."});
+  return m_body.Take();
+}
+
+}  // namespace
+
+std::string CaseReport(const CBoltCase& input, const CBoltCheck& check, CLanguage language) {
+  return CBoltReport(input, check, language).Write();
+}
+
+}  // namespace orv3

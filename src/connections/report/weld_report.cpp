@@ -1,0 +1,263 @@
+// The reports of fillet and butt welds: GB 50017-2003, 7.1.1 to 7.1.5.
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+
+#include "connections/cases/case_rules.h"
+#include "connections/report/connection_report.h"
+#include "connections/report/report_page.h"
+#include "connections/report/weld_drawing.h"
+
+namespace orv3 {
+namespace {
+
+using CSteps = std::vector<CReportStep>;
+using CVerdicts = std::vector<CReportVerdict>;
+
+std::string Relation(double effect, double limit, bool bPass) {
+  return PlainNumber(effect) +
+         (bPass            ? " ≤ "
+          : effect > limit ? " > "
+                           : " ≮ ") +
+         PlainNumber(limit) + " N/mm²";
+}
+
+// The normal stress of a weld area by load case.
+struct CStressTerms {
+  std::string m_strFormula;
+  std::string m_strNumbers;
+};
+CStressTerms NormalStress(int loadCase, double N, double M, const std::string& area,
+                          const std::string& areaNumbers, double W) {
+  CStressTerms terms;
+  if (TakesN(loadCase)) {
+    terms.m_strFormula = "N / (" + area + ")";
+    terms.m_strNumbers = Put(N) + " × 1000 / (" + areaNumbers + ")";
+  }
+  if (TakesM(loadCase)) {
+    const char* plus = TakesN(loadCase) ? " + " : "";
+    terms.m_strFormula += std::string(plus) + "M / W";
+    terms.m_strNumbers += plus + Put(M) + " × 1000 / " + PlainNumber(W);
+  }
+  return terms;
+}
+
+constexpr const char* kLoadsOfCase[] = {"N", "N, M", "N, M", "M, V", "N, M, V", "N, M, V"};
+
+// The input table, the loads beside the load case, without what the case does not give.
+template <class CASE, class SKIP>
+void WeldInputs(CReportBody& body, const CASE& input, std::span<const CInputKey<CASE>> keys,
+                SKIP skip) {
+  auto lines = InputLines(input, keys, body.Language());
+  std::vector<CReportBody::CInputLine> used;
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    const std::string key = keys[i].m_szKey;
+    if (key == "id" || skip(key)) continue;
+    if (key == "case") lines[i].m_strUnit = kLoadsOfCase[input.m_nLoadCase];
+    if constexpr (std::is_same_v<CASE, CFilletCase>) {
+      if (key == "groove") lines[i].m_strUnit = body.Text(kGrooveNames[input.m_nGroove]);
+    }
+    used.push_back(lines[i]);
+  }
+  body.Inputs(used);
+}
+
+CReportStep Throat(const CFilletCase& input, const CFilletResults& r) {
+  const std::string he = PlainNumber(r.m_dHe);
+  static constexpr CTextLiteral kName = {"焊缝计算厚度", "Effective throat"};
+  if (input.m_dHe != 0) return {kName, "", "h_e", "", "", he, "mm"};
+  if (input.m_dHf != 0) {
+    const std::string hf = Put(input.m_dHf);
+    if (std::fabs(input.m_dAngle - 90) < 1e-4)
+      return {kName, "7.1.3", "h_e", "0.7 h_f", "0.7 × " + hf, he, "mm"};
+    return {kName,
+            "7.1.4",
+            "h_e",
+            "h_f \\cos(α / 2)",
+            hf + " × \\cos(" + PlainNumber(input.m_dAngle) + "° / 2)",
+            he,
+            "mm"};
+  }
+  const std::string s = Put(input.m_dS);
+  if (input.m_nGroove == 1 || input.m_nGroove == 2)
+    return {kName, "7.1.5", "h_e", "s − 3", s + " − 3", he, "mm"};
+  if (r.m_dHe != input.m_dS)
+    return {kName, "7.1.5", "h_e", "0.75 s  (α < 60°)", "0.75 × " + s, he, "mm"};
+  return {kName, "7.1.5", "h_e", "s", "", he, "mm"};
+}
+
+CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r) {
+  const std::string he = Put(r.m_dHe);
+  const std::string lw = Put(input.m_dLw);
+  const CStressTerms sigma =
+      NormalStress(input.m_nLoadCase, input.m_dN, input.m_dM, "h_e l_w", he + " × " + lw, r.m_dW);
+  CSteps steps = {Throat(input, r)};
+  steps.push_back({{"角焊缝强度设计值", "Design strength of the fillet weld"},
+                   "T 3.4.1-3",
+                   "f_f^w",
+                   "",
+                   "",
+                   PlainNumber(r.m_dFfw),
+                   "N/mm²"});
+  steps.push_back({{"焊缝截面模量", "Section modulus of the weld"},
+                   "",
+                   "W",
+                   "h_e l_w^2 / 6",
+                   he + " × " + lw + "^2 / 6",
+                   PlainNumber(r.m_dW),
+                   "mm³"});
+  steps.push_back({{"垂直于焊缝的应力", "Stress across the weld"},
+                   "7.1.3",
+                   "σ_f",
+                   sigma.m_strFormula,
+                   sigma.m_strNumbers,
+                   PlainNumber(r.m_dSigma),
+                   "N/mm²"});
+  if (!TakesV(input.m_nLoadCase)) return steps;
+  steps.push_back({{"沿焊缝的剪应力", "Shear stress along the weld"},
+                   "7.1.3",
+                   "τ_f",
+                   "V / (h_e l_w)",
+                   Put(input.m_dV) + " × 1000 / (" + he + " × " + lw + ")",
+                   PlainNumber(r.m_dTau),
+                   "N/mm²"});
+  steps.push_back({{"综合应力", "Combined stress"},
+                   "7.1.3",
+                   "σ_{fs}",
+                   "√((σ_f / β_f)^2 + τ_f^2)",
+                   "√((" + PlainNumber(r.m_dSigma) + " / " + PlainNumber(input.m_dBetaF) +
+                       ")^2 + " + Put(r.m_dTau) + "^2)",
+                   PlainNumber(r.m_dCombined),
+                   "N/mm²"});
+  return steps;
+}
+
+CVerdicts FilletVerdicts(const CFilletCase& input, const CFilletCheck& check) {
+  const CFilletResults& r = check.Results();
+  const auto parts = check.Parts();
+  const double across = input.m_dBetaF * r.m_dFfw;
+  CVerdicts verdicts;
+  const auto add = [&](std::size_t part, const char* condition, double effect, double limit) {
+    verdicts.push_back({parts[part].m_name, "7.1.3", condition,
+                        Relation(effect, limit, parts[part].m_bPass), parts[part].m_dUtilisation,
+                        parts[part].m_bPass});
+  };
+  add(0, "|σ_f| ≤ β_f f_f^w", std::fabs(r.m_dSigma), across);
+  if (!TakesV(input.m_nLoadCase)) return verdicts;
+  add(1, "|τ_f| ≤ f_f^w", std::fabs(r.m_dTau), r.m_dFfw);
+  add(2, "√((σ_f / β_f)^2 + τ_f^2) ≤ f_f^w", r.m_dCombined, r.m_dFfw);
+  return verdicts;
+}
+
+CSteps ButtSteps(const CButtCase& input, const CButtResults& r) {
+  const std::string t = Put(input.m_dThick);
+  const std::string lw = Put(input.m_dLw);
+  const std::string area = t + " × " + lw;
+  CSteps steps;
+  const auto strength = [&](CTextLiteral name, const char* symbol, double value) {
+    steps.push_back({name, "T 3.4.1-3", symbol, "", "", PlainNumber(value), "N/mm²"});
+  };
+  strength({"焊缝抗拉强度", "Tensile strength of the weld"}, "f_t^w", r.m_dFtw);
+  strength({"焊缝抗压强度", "Compressive strength of the weld"}, "f_c^w", r.m_dFcw);
+  strength({"焊缝抗剪强度", "Shear strength of the weld"}, "f_v^w", r.m_dFvw);
+  if (TakesM(input.m_nLoadCase)) {
+    steps.push_back({{"焊缝截面模量", "Section modulus of the weld"},
+                     "",
+                     "W",
+                     "t l_w^2 / 6",
+                     area + "^2 / 6",
+                     PlainNumber(r.m_dW),
+                     "mm³"});
+  }
+  const CStressTerms sigma =
+      NormalStress(input.m_nLoadCase, input.m_dN, input.m_dM, "t l_w", area, r.m_dW);
+  steps.push_back({{"正应力", "Normal stress"},
+                   "7.1.2",
+                   "σ",
+                   sigma.m_strFormula,
+                   sigma.m_strNumbers,
+                   PlainNumber(r.m_dSigma),
+                   "N/mm²"});
+  if (!TakesV(input.m_nLoadCase)) return steps;
+  steps.push_back({{"剪应力", "Shear stress"},
+                   "7.1.2",
+                   "τ",
+                   "1.5 V / (t l_w)",
+                   "1.5 × " + Put(input.m_dV) + " × 1000 / (" + area + ")",
+                   PlainNumber(r.m_dTau),
+                   "N/mm²"});
+  steps.push_back({{"折算应力", "Reduced stress"},
+                   "7.1.2",
+                   "σ_{zs}",
+                   "√(σ^2 + 3 τ^2)",
+                   "√(" + Put(r.m_dSigma) + "^2 + 3 × " + Put(r.m_dTau) + "^2)",
+                   PlainNumber(r.m_dReduced),
+                   "N/mm²"});
+  return steps;
+}
+
+CVerdicts ButtVerdicts(const CButtCase& input, const CButtCheck& check) {
+  const CButtResults& r = check.Results();
+  const auto parts = check.Parts();
+  CVerdicts verdicts;
+  const auto add = [&](std::size_t part, const char* condition, double effect, double limit) {
+    verdicts.push_back({parts[part].m_name, "7.1.2", condition,
+                        Relation(effect, limit, parts[part].m_bPass), parts[part].m_dUtilisation,
+                        parts[part].m_bPass});
+  };
+  add(0, "|σ| ≤ \\max(f_t^w, f_c^w)", std::fabs(r.m_dSigma), std::max(r.m_dFtw, r.m_dFcw));
+  if (!TakesV(input.m_nLoadCase)) return verdicts;
+  add(1, "|τ| ≤ f_v^w", std::fabs(r.m_dTau), r.m_dFvw);
+  add(2, "√(σ^2 + 3 τ^2) < 1.1 f_t^w", r.m_dReduced, 1.1 * r.m_dFtw);
+  return verdicts;
+}
+
+template <class CHECK>
+void Head(CReportBody& body, const CTextLiteral& title, const std::string& id, const CHECK& check) {
+  const std::string name = id.empty() ? "" : "　" + id;
+  body.Title(body.Text(title) + name, check.Pass(), check.Worst().m_dUtilisation);
+  body.Warnings(check.Warnings());
+  body.Heading({"一、输入", "1  Input"});
+}
+
+std::string Tail(CReportBody& body, const CSteps& steps, const CVerdicts& verdicts) {
+  body.Heading({"二、计算", "2  Calculation"});
+  body.Steps(steps);
+  body.Heading({"三、验算结论", "3  Verdicts"});
+  body.Verdicts(verdicts);
+  body.Note({"单位：长度 mm，力 kN，力矩 kN·mm，应力 N/mm²。焊缝横截面图不按比例。",
+             "Units: lengths mm, forces kN, moments kN·mm, stresses N/mm². The section across the "
+             "weld is not to scale."});
+  return body.Take();
+}
+
+constexpr CTextLiteral kCaption = {
+    "左：焊缝横截面；右：焊缝计算截面及所计荷载（N 垂直于焊缝，V 平行于焊缝）。",
+    "Left: section across the weld. Right: the weld's area with the loads that count (N across "
+    "the weld, V along it)."};
+
+}  // namespace
+
+std::string CaseReport(const CFilletCase& input, const CFilletCheck& check, CLanguage language) {
+  CReportBody body(language);
+  Head(body, {"角焊缝验算", "Fillet weld"}, input.m_strId, check);
+  const auto skip = [&](const std::string& key) {
+    if (key == "he") return input.m_dHe == 0;
+    if (key == "hf") return input.m_dHf == 0;
+    if (key == "s" || key == "groove") return input.m_dS == 0;
+    return key == "angle" && input.m_dHe != 0;
+  };
+  WeldInputs(body, input, CFilletCheck::InputKeys(), skip);
+  body.Figure(FilletDrawing(input, check.Results().m_dHe), body.Text(kCaption));
+  return Tail(body, FilletSteps(input, check.Results()), FilletVerdicts(input, check));
+}
+
+std::string CaseReport(const CButtCase& input, const CButtCheck& check, CLanguage language) {
+  CReportBody body(language);
+  Head(body, {"对接焊缝验算", "Butt weld"}, input.m_strId, check);
+  WeldInputs(body, input, CButtCheck::InputKeys(), [](const std::string&) { return false; });
+  body.Figure(ButtDrawing(input), body.Text(kCaption));
+  return Tail(body, ButtSteps(input, check.Results()), ButtVerdicts(input, check));
+}
+
+}  // namespace orv3

@@ -1,0 +1,196 @@
+// The compiled figures of the code tables against their CSV files and against each other.
+#include <gtest/gtest.h>
+
+#include <charconv>
+#include <cmath>
+#include <fstream>
+#include <numbers>
+#include <string>
+#include <vector>
+
+#include "orv3cal.h"
+
+namespace {
+
+using CRows = std::vector<std::vector<std::string>>;
+
+CRows ReadCsv(const std::string& name) {
+  std::ifstream file(std::string(ORV3CAL_CODE_TABLES) + "/" + name + ".csv", std::ios::binary);
+  EXPECT_TRUE(file) << name;
+  CRows rows;
+  for (std::string line; std::getline(file, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    rows.emplace_back();
+    for (std::size_t at = 0; at <= line.size();) {
+      const std::size_t end = std::min(line.find(',', at), line.size());
+      rows.back().push_back(line.substr(at, end - at));
+      at = end + 1;
+    }
+  }
+  return rows;
+}
+
+std::string Text(const wchar_t* cell) { return orv3::ToUtf8(cell); }
+
+template <class NUMBER>
+std::string Text(NUMBER cell) {
+  char buffer[32];
+  return {buffer, std::to_chars(buffer, std::end(buffer), cell).ptr};
+}
+
+// Numbers are compared as numbers: the files write 2 where the table has 2.0.
+template <class CELL>
+void ExpectCell(const CELL& cell, const std::string& csv, const std::string& where) {
+  if constexpr (std::is_arithmetic_v<CELL>) {
+    double value = -1;
+    const auto end = std::from_chars(csv.data(), csv.data() + csv.size(), value).ptr;
+    EXPECT_TRUE(!csv.empty() && end == csv.data() + csv.size()) << where << ": " << csv;
+    EXPECT_EQ(static_cast<double>(cell), value) << where;
+  } else {
+    EXPECT_EQ(Text(cell), csv) << where;
+  }
+}
+
+template <class CELL, std::size_t COLUMNS>
+void ExpectRow(const CELL (&row)[COLUMNS], const std::vector<std::string>& csv,
+               const std::string& where, std::size_t first = 0) {
+  ASSERT_LE(first + COLUMNS, csv.size()) << where;
+  for (std::size_t j = 0; j < COLUMNS; ++j) {
+    ExpectCell(row[j], csv[first + j], where + " column " + std::to_string(j));
+  }
+}
+
+template <class CELL, std::size_t ROWS, std::size_t COLUMNS>
+void ExpectTable(const CELL (&table)[ROWS][COLUMNS], const std::string& name) {
+  const CRows csv = ReadCsv(name);
+  ASSERT_EQ(csv.size(), ROWS) << name;
+  for (std::size_t i = 0; i < ROWS; ++i) {
+    EXPECT_EQ(csv[i].size(), COLUMNS) << name;
+    ExpectRow(table[i], csv[i], name + " row " + std::to_string(i));
+  }
+}
+
+template <class CELL, std::size_t COLUMNS>
+void ExpectTable(const CELL (&row)[COLUMNS], const std::string& name) {
+  const CRows csv = ReadCsv(name);
+  ASSERT_EQ(csv.size(), 1u) << name;
+  EXPECT_EQ(csv[0].size(), COLUMNS) << name;
+  ExpectRow(row, csv[0], name);
+}
+
+// The CSV cells of a table's halves stand in the whole table's file.
+void ExpectHalves(const double (&left)[19][9], const double (&right)[19][9],
+                  const std::string& name) {
+  const CRows csv = ReadCsv(name);
+  ASSERT_EQ(csv.size(), 19u);
+  for (std::size_t i = 0; i < 19; ++i) {
+    ExpectRow(left[i], csv[i], name + " left half, row " + std::to_string(i));
+    ExpectRow(right[i], csv[i], name + " right half, row " + std::to_string(i), 9);
+  }
+}
+
+using T = CTableSearch;
+
+TEST(CodeTableFigures, EveryCsvFigureIsTheCompiledOne) {
+  ExpectTable(T::g_sub1, "g_sub1");
+  ExpectTable(T::g_sub2, "g_sub2");
+  ExpectTable(T::g_sub3, "g_sub3");
+  ExpectTable(T::g_sub4, "g_sub4");
+  ExpectTable(T::g_sub5S2, "g_sub5S2");
+  ExpectTable(T::g_sub6, "g_sub6");
+  ExpectTable(T::g_sub6_1, "g_sub6_1");
+  ExpectTable(T::g_sub7, "g_sub7");
+  ExpectTable(T::g_sub8, "g_sub8");
+  ExpectTable(T::g_sub9, "g_sub9");
+  ExpectTable(T::g_sub10, "g_sub10");
+  ExpectTable(T::g_sub11, "g_sub11");
+  ExpectTable(T::g_sub16, "g_sub16");
+  ExpectTable(T::g_sub17, "g_sub17");
+  ExpectTable(T::g_sub18, "g_sub18");
+  ExpectTable(T::g_sub19, "g_sub19");
+  ExpectTable(T::g_sub20, "g_sub20");
+  ExpectTable(T::g_sub21, "g_sub21");
+  ExpectTable(T::g_sub201, "g_sub201");
+  ExpectTable(T::g_sub211, "g_sub211");
+  ExpectTable(T::g_sub22, "g_sub22");
+  ExpectTable(T::g_sub23, "g_sub23");
+  ExpectHalves(T::g_sub181, T::g_sub182, "g_sub18");
+  ExpectHalves(T::g_sub191, T::g_sub192, "g_sub19");
+}
+
+// A label names the number that the look-up uses, "≥10" the number 10.
+template <std::size_t N>
+void ExpectLabels(const wchar_t* const (&labels)[N], const double (&grid)[N]) {
+  for (std::size_t i = 0; i < N; ++i) {
+    const std::wstring_view label = labels[i];
+    EXPECT_EQ(orv3::ToDouble(label.substr(label[0] == L'≥' ? 1 : 0)), grid[i]) << "label " << i;
+  }
+}
+
+TEST(CodeTableFigures, LabelsNameTheGrid) {
+  ExpectLabels(T::g_sub16_1, orv3::kFrameK);
+  ExpectLabels(T::g_sub18_1, orv3::kSingleEta1);
+  ExpectLabels(T::g_sub18_2, orv3::kSingleK1);
+}
+
+// Both forms of the double-stepped tables hold the same figure at the same four grid positions.
+TEST(CodeTableFigures, TwoFormsOfDoubleSteppedTablesAgree) {
+  for (int n = 0; n < 7 * 6 * 4 * 11; ++n) {
+    const int eta1 = n / (6 * 4 * 11);
+    const int eta2 = n / (4 * 11) % 6;
+    const int k1 = n / 11 % 4;
+    const int k2 = n % 11;
+    const int row = 6 * (k1 / 2) + eta2;
+    const int column = 22 * eta1 + 11 * (k1 % 2) + k2;
+    EXPECT_EQ(T::g_sub20[row][column], T::g_sub201[6 * eta1 + eta2][11 * k1 + k2]) << n;
+    EXPECT_EQ(T::g_sub21[row][column], T::g_sub211[6 * eta1 + eta2][11 * k1 + k2]) << n;
+  }
+}
+
+// What no equation gives must at least run one way: phi-b falls with the free length; mu of a
+// tapered column falls with the stiffness of the beam and rises with that of the column's foot.
+TEST(CodeTableFigures, RunOneWay) {
+  for (int i = 0; i < 15; ++i) {
+    for (int j = 1; j < 9; ++j) EXPECT_LT(T::g_sub11[i][j], T::g_sub11[i][j - 1]) << i << "," << j;
+  }
+  for (int i = 0; i < 8; ++i) {
+    for (int j = 1; j < 8; ++j) {
+      EXPECT_LT(T::g_sub22[i][j], T::g_sub22[i][j - 1]) << i << "," << j;
+      EXPECT_GT(T::g_sub22[j][i], T::g_sub22[j - 1][i]) << j << "," << i;
+    }
+  }
+}
+
+TEST(CodeTableFigures, PhysicalRelations) {
+  constexpr double kPi = std::numbers::pi;
+  for (int i = 0; i < 16; ++i) {
+    // fv and the third grade's ftw follow from f: 0.58 f and 0.85 f, rounded to 5.
+    EXPECT_NEAR(T::g_sub1[i][1], 0.58 * T::g_sub1[i][0], 5);
+    EXPECT_NEAR(T::g_sub2[i][2], 0.85 * T::g_sub1[i][0], 5);
+    EXPECT_EQ(T::g_sub2[i][0], T::g_sub1[i][0]);
+    EXPECT_EQ(T::g_sub2[i][1], T::g_sub1[i][0]);
+    EXPECT_EQ(T::g_sub2[i][3], T::g_sub1[i][1]);
+    EXPECT_TRUE(i % 4 == 0 || T::g_sub1[i][0] < T::g_sub1[i - 1][0]) << i;
+  }
+  for (int i = 0; i < 9; ++i) {
+    const double d = T::g_sub23_1[i];
+    EXPECT_NEAR(orv3::ToDouble(T::g_sub23[i][0]), kPi * d * d / 400, 0.0006) << d;
+  }
+}
+
+// The effective diameter is d - 0.9382 p (13 sqrt(3) / 24 of the coarse pitch p).
+TEST(CodeTableFigures, EffectiveDiameterFollowsFromThePitch) {
+  constexpr double kPitch[28] = {1.5, 1.75, 2, 2,   2.5, 2.5, 2.5, 3, 3, 3.5, 3.5, 4, 4, 4.5,
+                                 4.5, 5,    5, 5.5, 5.5, 6,   6,   6, 6, 6,   6,   6, 6, 6};
+  for (int i = 0; i < 28; ++i) {
+    const double d = orv3::ToDouble(NormalBoltData::m_strBolt[i][0]);
+    const double de = orv3::ToDouble(NormalBoltData::m_strBolt[i][1]);
+    EXPECT_NEAR(de, d - 13 * std::sqrt(3) / 24 * kPitch[i], 0.006) << d;
+    for (int k = 0; k < 9; ++k) {
+      if (T::g_sub23_1[k] != d) continue;
+      EXPECT_NEAR(orv3::ToDouble(T::g_sub23[k][1]), std::numbers::pi * de * de / 400, 0.011) << d;
+    }
+  }
+}
+
+}  // namespace

@@ -1,0 +1,55 @@
+#include "cli/run_program.h"
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+#include "framework/utf8.h"
+
+namespace {
+
+constexpr const char* kErrorFile = "cli_test_stderr.txt";
+
+#ifdef _WIN32
+std::FILE* Open(const std::string& arguments) {
+  std::string program = "Z:" ORV3CAL_PROGRAM;
+  for (char& ch : program) ch = ch == '/' ? '\\' : ch;
+  const std::string line = "\"\"" + program + "\" " + arguments + " 2>" + kErrorFile + "\"";
+  return _wpopen(orv3::FromUtf8(line).GetString(), L"rb");
+}
+int Close(std::FILE* pipe) { return _pclose(pipe); }
+#else
+std::FILE* Open(const std::string& arguments) {
+  return popen((ORV3CAL_PROGRAM " " + arguments + " 2>" + kErrorFile).c_str(), "r");
+}
+int Close(std::FILE* pipe) { return pclose(pipe) / 256; }  // the exit status is the second byte
+#endif
+
+// Windows programs end their lines with a carriage return too.
+std::string WithoutReturns(std::string text) {
+  std::erase(text, '\r');
+  return text;
+}
+
+}  // namespace
+
+std::string FileBytes(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+CRunResult RunProgram(const std::string& arguments) {
+  CRunResult result;
+  std::FILE* pipe = Open(arguments);
+  if (pipe == nullptr) return result;
+  std::array<char, 4096> buffer;
+  for (std::size_t got = 1; (got = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) {
+    result.m_strOut.append(buffer.data(), got);
+  }
+  result.m_nExit = Close(pipe);
+  result.m_strOut = WithoutReturns(result.m_strOut);
+  result.m_strError = WithoutReturns(FileBytes(kErrorFile));
+  std::remove(kErrorFile);
+  return result;
+}
