@@ -103,8 +103,8 @@ void CSteelJMData::CalSectCharacterStyle1(CSteelJMData& jm) {
   SetFirstMoments(jm, rects, b, h);
 }
 
-// Two corners on the vertical axis. 0.541 a^4 is the rounded value that the designers' handbooks
-// print for 5 sqrt(3) a^4 / 16; results stay comparable with theirs.
+// Two corners on the vertical axis. 0.541 a^4 is the customary rounding of 5 sqrt(3) a^4 / 16, kept
+// so that results agree with stored ones.
 void CSteelJMData::CalSectCharacterStyle3(CSteelJMData& jm) {
   if (jm.m_nStyle != 4) return;
   const double a = jm.m_dSize[0];

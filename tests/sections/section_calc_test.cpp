@@ -259,7 +259,7 @@ TEST(SectionCalc, AgreesWithTheIntegratedOutline) {
       SCOPED_TRACE(std::string(s.label) + ", base " + std::to_string(base.x) + ", " +
                    std::to_string(base.y));
       const CSteelJMData jm = Calculated(s.style, s.sizes, base.x, base.y);
-      // The hexagon's inertia is the handbooks' 0.541 a^4 instead of 5 sqrt(3) a^4 / 16.
+      // The hexagon's inertia is the customary 0.541 a^4 instead of 5 sqrt(3) a^4 / 16.
       CheckInertia(s, jm, s.style == 4 ? 0.541 / (5 * std::sqrt(3.0) / 16) : 1);
       CheckFirstMoments(s, jm);
     }
@@ -311,7 +311,7 @@ TEST(SectionCalc, PlateByHand) {
   for (const auto& c : checks) EXPECT_NEAR(c.expected, c.actual, c.halfDigit);
 }
 
-TEST(SectionCalc, HexagonUsesTheHandbookCoefficient) {
+TEST(SectionCalc, HexagonUsesTheRoundedCoefficient) {
   const CSteelJMData jm = Calculated(4, {100});
   EXPECT_DOUBLE_EQ(0.541e8, jm.m_dIxo);
   EXPECT_DOUBLE_EQ(0.541e8, jm.m_dIyo);
