@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <random>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -16,6 +17,7 @@ class CTempFolder {
     const auto* test = testing::UnitTest::GetInstance()->current_test_info();
     std::string name = std::string("orv3cal-") + test->test_suite_name() + "-" + test->name();
     for (char& c : name) c = c == '/' ? '-' : c;
+    name += "-" + std::to_string(std::random_device()());  // other runs of the tests have theirs
     m_path = std::filesystem::temp_directory_path() / name;
     std::filesystem::remove_all(m_path);
     std::filesystem::create_directories(m_path);
