@@ -33,7 +33,9 @@ bool CStoreBody::ReadFromFile(std::uint64_t offset, char* data, std::size_t size
   const std::uint64_t left = offset < m_nFileSize ? m_nFileSize - offset : 0;
   const std::size_t there = Part(size, left);
   std::fill(data + there, data + size, '\0');
-  return there == 0 || m_pFile->Read(offset, data, there) == there;
+  if (there == 0 || m_pFile->Read(offset, data, there) == there) return true;
+  m_bReadFailed = true;
+  return false;
 }
 
 bool CStoreBody::Read(std::uint64_t offset, void* data, std::size_t size) const {
@@ -83,6 +85,7 @@ void CStoreBody::DropChanges() {
   if (m_bShadow) return;
   m_pages.clear();
   m_nSize = m_nFileSize;
+  m_bReadFailed = false;
 }
 
 bool CStoreBody::TakeStamp() {
@@ -154,7 +157,7 @@ bool CStoreBody::RollBack(const CStoreJournal& journal) {
 }
 
 bool CStoreBody::Commit() {
-  if (!m_bWritable || m_bBroken) return false;
+  if (!m_bWritable || m_bBroken || m_bReadFailed) return false;
   CStoreJournal journal;
   if (!CollectOld(journal)) return false;
   if (m_pages.empty() && m_nSize == m_nFileSize) return true;

@@ -51,6 +51,9 @@ class CStoreBody {
   bool m_bShadow = false;   // the pages are an interrupted save's old bytes
   bool m_bBroken = false;   // half a save is in the file; only the next opener can undo it
   bool m_bEmptied = false;  // an interrupted first save was rolled back
+  // Reading has failed since the last commit, so that what was to be saved may rest on a wrong view
+  // of the file: it is not committed.
+  mutable bool m_bReadFailed = false;
   CFileStamp m_stamp;
   std::uint64_t m_nFileSize = 0;
   std::uint64_t m_nSize = 0;

@@ -38,8 +38,8 @@ class ORV3CAL_API CStoreFile {
   bool Read(std::uint64_t offset, void* data, std::size_t size) const;
   // Changes the store in memory; writing beyond its end lengthens it, with zeros between.
   bool Write(std::uint64_t offset, const void* data, std::size_t size);
-  // Brings the changes into the file. After false the file is as it was, now or, when even that
-  // fails, for whoever opens it next.
+  // Brings the changes into the file, unless a Read within it has failed before. After false the
+  // file is as it was, now or, when even that fails, for whoever opens it next.
   bool Commit();
   // Of the file as it was opened or last committed.
   const CFileStamp& Stamp() const;

@@ -19,6 +19,13 @@ struct CSizeColumn {
   const char* m_szMeaning;   // English; never repeats inside a style
 };
 
+// A section to start from: what a dialog offers for a new one, and what pictures show.
+struct CSampleSection {
+  const wchar_t* m_szName;
+  double m_dBase;  // x and y of the base point
+  double m_arrSize[8];
+};
+
 struct CSectionStyle {
   static constexpr int kMaxSizes = 8;
 
@@ -30,6 +37,7 @@ struct CSectionStyle {
   int m_nBaseSizes;          // how many of them give the outer extents
   bool m_bFirstMoments;      // whether first moments of area are computed and tabulated
   CSizeColumn m_arrSize[kMaxSizes];
+  CSampleSection m_sample;
 
   std::span<const CSizeColumn> Sizes() const {
     return {m_arrSize, static_cast<std::size_t>(m_nSizes)};

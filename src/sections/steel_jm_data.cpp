@@ -25,11 +25,6 @@ std::wstring_view NameOf(const wchar_t (&name)[CSteelJMData::kNameLength]) {
   return {name, static_cast<std::size_t>(std::find(name, std::end(name), L'\0') - name)};
 }
 
-void CopyName(std::wstring_view text, wchar_t (&name)[CSteelJMData::kNameLength]) {
-  text = text.substr(0, CSteelJMData::kNameLength - 1);
-  *std::copy(text.begin(), text.end(), name) = L'\0';
-}
-
 bool InTable(const CSectionProperty& property, const CSectionStyle* style) {
   return !property.m_bFirstMoment || style == nullptr || style->m_bFirstMoments;
 }
@@ -40,12 +35,17 @@ CSteelJMData::CSteelJMData(const CSteelJMData& other) { *this = other; }
 
 CSteelJMData& CSteelJMData::operator=(const CSteelJMData& other) {
   if (this == &other) return *this;
-  CopyName(NameOf(other.m_szName), m_szName);
+  SetName(NameOf(other.m_szName));
   m_nState = other.m_nState;
   m_nStyle = other.m_nStyle;
   for (const CSectionProperty& p : SectionProperties()) this->*p.m_pField = other.*p.m_pField;
   std::copy(std::begin(other.m_dSize), std::end(other.m_dSize), m_dSize);
   return *this;
+}
+
+void CSteelJMData::SetName(std::wstring_view name) {
+  name = name.substr(0, kNameLength - 1);
+  *std::copy(name.begin(), name.end(), m_szName) = L'\0';
 }
 
 void CSteelJMData::GetSectBaseSize(CArray<double, double>& sizes) const {
@@ -82,7 +82,7 @@ void CSteelJMData::SetSectSize(int style, const CArray<double, double>& sizes) {
 int CSteelJMData::TransItemToJMData(const CDataItem& row) {
   if (row.GetItemLength() < kMinRowCells) return 0;
   m_nState = row.m_nModifyType;
-  CopyName(row[0].m_strValue, m_szName);
+  SetName(row[0].m_strValue);
   const CSectionStyle* style = FindSectionStyle(row.m_strTableName.View());
   if (!style) return 0;
   m_nStyle = style->m_nStyle;

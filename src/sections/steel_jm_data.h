@@ -7,12 +7,16 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "framework/array.h"
 #include "framework/export.h"
 #include "tables/data_item.h"
 
 class CDataTable;
+namespace orv3 {
+class CStoreFile;
+}
 
 class ORV3CAL_API CSteelJMData {
  public:
@@ -24,6 +28,8 @@ class ORV3CAL_API CSteelJMData {
   CSteelJMData(const CSteelJMData& other);
   CSteelJMData& operator=(const CSteelJMData& other);
   virtual ~CSteelJMData() = default;
+
+  void SetName(std::wstring_view name);  // cut to 49 characters
 
   // --- Sizes: each clears the array first -------------------------------------------------------
   // The sizes that give the outer extents: s0 and s1, or s0 alone (styles 4, 6 and 7).
@@ -87,6 +93,46 @@ class ORV3CAL_API CSteelJMData {
   // Centroid of two areas; the first one's when the areas add up to exactly 0.
   static void CalRectBarycenterAdd(double A1, double x1, double y1, double A2, double x2, double y2,
                                    double& x, double& y);
+
+  // --- Record stores: see record_store.h -------------------------------------------------------
+  // Members that take a CStoreFile change it in memory; its Commit makes that last. Groups are 0 to
+  // 15, or -1 for a store of one group.
+  struct FileInfo {
+    std::int32_t m_nGroup = 0;   // -1 in the file header
+    std::int32_t m_nOffset = 0;  // of the first slot; the number of groups in the file header
+    std::int32_t m_nCount = 0;   // slots in use
+  };
+  // Saves an array, all of it or nothing. A record in state 1 goes into the first slot that a
+  // deleted record before it has freed, else to the end of the group; one in state -1 (deleted) or
+  // any other state but 0 into the slot at its own place in the array; one in state 0 stays.
+  static int WriteTable(const CArray<CSteelJMData>& records, int group, const CString& path);
+  static int WriteTableToSystem(const CArray<CSteelJMData>& records, int group);
+  static int WriteTableToUser(const CArray<CSteelJMData>& records);
+  static int WriteTableToCurrent(const CArray<CSteelJMData>& records);
+  // Appends a group's records, in state -1 those that are deleted and 0 all others.
+  static int GetTable(CArray<CSteelJMData>& records, int group, const CString& path);
+  static int GetTableToSystem(CArray<CSteelJMData>& records, int group);
+  static int GetTableToUser(CArray<CSteelJMData>& records);
+  static int GetTableToCurrent(CArray<CSteelJMData>& records);
+  // Slots in use; 0 when the store cannot be read.
+  static int GetTableLength(int group, const CString& path);
+  static int GetTableLengthToSysTem(int group);
+  static int GetTableLengthToUser();
+  static int GetTableLengthToCurrent();
+  static int WriteTableItem(orv3::CStoreFile* file, long position, CSteelJMData record,
+                            int bUserStore);
+  // 0 as well for a slot without a record: one whose first size is not above 0.
+  static int GetTableItem(const orv3::CStoreFile* file, long position, CSteelJMData& record);
+  // Makes the headers up to the group's, gives back the group's as it was and sets its count; the
+  // groups after it move on when it has grown up to them.
+  static int WriteJMFileInfo(orv3::CStoreFile* file, int group, int count, FileInfo& info);
+  static int ReadJMFileInfo(const orv3::CStoreFile* file, int group, FileInfo& info);
+
+  // Fill a section table with the live records of the style that its name tells: from the system
+  // store, where the group is the style number, or with `store` 1 or 2 from the user or the current
+  // store. 0, the table unchanged, for a name of no style or a store that cannot be read.
+  static int GetJMTableData(const CString& tableName, CDataTable& table);
+  static int TransJMTableData(const CString& tableName, CDataTable& table, int store);
 
   // --- Data -------------------------------------------------------------------------------------
   wchar_t m_szName[kNameLength] = {};

@@ -37,6 +37,13 @@ int Damaged(const CStoreFile& file, const CString& table) {
                        file.Path() + L": table \"" + table + L"\" on file is damaged");
 }
 
+// The file's directory; `directory` as it is for a file too short to have one.
+int ReadOrStart(const CStoreFile& file, CTableDirectory& directory) {
+  if (file.Size() <= orv3::kUnusedHead || directory.Read(file)) return 1;
+  return SetStoreError(CStoreTrouble::NotAStore, file.Path(),
+                       file.Path() + L": not a table file; nothing was written");
+}
+
 // Appends blocks where the directory begins, which moves on behind them.
 int Reserve(CStoreFile& file, int blocks, CTableDirectory& directory, CDataFileInfo& info) {
   const std::int64_t length = orv3::BlockLength(orv3::ColumnsOf(info.m_nItemLen));
@@ -110,10 +117,7 @@ int CDataTable::GetTableTextLen() const {
 int CDataTable::WriteTableFileInfo(CStoreFile* file, int storeKind, CDataFileInfo& info) {
   if (!file) return 0;
   CTableDirectory directory(orv3::NewInfoLine(storeKind));
-  if (file->Size() > orv3::kUnusedHead && !directory.Read(*file)) {
-    return SetStoreError(CStoreTrouble::NotAStore, file->Path(),
-                         file->Path() + L": not a table file; nothing was written");
-  }
+  if (!ReadOrStart(*file, directory)) return 0;
   SetTableFileInfo(directory.InfoLine());
 
   int record = directory.Find(m_strTableName);
@@ -198,7 +202,8 @@ int CDataTable::CatchUp(const CStoreFile& file, bool replaceUnknown) {
       m_pImage && m_pImage->m_strPath == file.Path() && m_pImage->m_strTable == m_strTableName;
   if (known && m_pImage->m_stamp == file.Stamp()) return 1;
   CTableDirectory directory;
-  const int record = directory.Read(file) ? directory.Find(m_strTableName) : -1;
+  if (!ReadOrStart(file, directory)) return 0;
+  const int record = directory.Find(m_strTableName);
   if (record < 0 || (!known && replaceUnknown)) {
     m_pImage.reset();
     return 1;

@@ -23,12 +23,17 @@ void AddField(std::wstring& form, std::wstring_view field) {
   form += field;
 }
 
+// A value up to its first line feed or zero, which would end the whole text and lose all after it.
+std::wstring_view OneLine(std::wstring_view value) {
+  return value.substr(0, value.find_first_of(std::wstring_view(L"\n\0", 2)));
+}
+
 std::wstring ColumnForm(const CDataTypeStruct& column) {
-  std::wstring form(column.m_strName.View());
+  std::wstring form(OneLine(column.m_strName));
   for (const CString& field :
        {column.m_strSign, FormatInt(column.m_bKey), FormatInt(column.m_nType)}) {
     form += kFieldSeparator;
-    form += field.View();
+    form += OneLine(field);
   }
   return form;
 }
@@ -114,7 +119,7 @@ std::wstring RowForm(const CDataItem& row, int state) {
   std::wstring form(FormatInt(row.m_nIndex).View());
   AddField(form, FormatInt(state));
   for (int i = 0; i < row.GetItemLength(); ++i) {
-    AddField(form, row[i].m_strValue.View().substr(0, kMaxStoredValue));
+    AddField(form, OneLine(row[i].m_strValue.View().substr(0, kMaxStoredValue)));
   }
   return form;
 }

@@ -2,7 +2,8 @@
 // through on its way there.
 //
 // A text form joins its fields by ",,,". In the file it is ANSI text with 10 subtracted from every
-// byte. A line feed (byte 10) becomes the zero byte that ends the text, so the text ends there.
+// byte. A line feed (byte 10) would become the zero byte that ends the text: titles, signs and
+// values are cut there before they are joined, so that those after them are not lost too.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,7 @@
 #include "cli/run_program.h"
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <cstdio>
 #include <fstream>
@@ -9,19 +11,22 @@
 
 namespace {
 
-constexpr const char* kErrorFile = "cli_test_stderr.txt";
+// One for each test, since tests run side by side.
+std::string ErrorFile() {
+  return std::string(testing::UnitTest::GetInstance()->current_test_info()->name()) + ".stderr";
+}
 
 #ifdef _WIN32
 std::FILE* Open(const std::string& arguments) {
   std::string program = "Z:" ORV3CAL_PROGRAM;
   for (char& ch : program) ch = ch == '/' ? '\\' : ch;
-  const std::string line = "\"\"" + program + "\" " + arguments + " 2>" + kErrorFile + "\"";
+  const std::string line = "\"\"" + program + "\" " + arguments + " 2>" + ErrorFile() + "\"";
   return _wpopen(orv3::FromUtf8(line).GetString(), L"rb");
 }
 int Close(std::FILE* pipe) { return _pclose(pipe); }
 #else
 std::FILE* Open(const std::string& arguments) {
-  return popen((ORV3CAL_PROGRAM " " + arguments + " 2>" + kErrorFile).c_str(), "r");
+  return popen((ORV3CAL_PROGRAM " " + arguments + " 2>" + ErrorFile()).c_str(), "r");
 }
 int Close(std::FILE* pipe) { return pclose(pipe) / 256; }  // the exit status is the second byte
 #endif
@@ -49,7 +54,7 @@ CRunResult RunProgram(const std::string& arguments) {
   }
   result.m_nExit = Close(pipe);
   result.m_strOut = WithoutReturns(result.m_strOut);
-  result.m_strError = WithoutReturns(FileBytes(kErrorFile));
-  std::remove(kErrorFile);
+  result.m_strError = WithoutReturns(FileBytes(ErrorFile()));
+  std::remove(ErrorFile().c_str());
   return result;
 }

@@ -19,8 +19,8 @@ class TableFault : public testing::TestWithParam<int> {
   TableFault() {
     if (GetParam() != kNewFile) scenarios::Prepare(m_path);
     m_before = Read();
-    m_seenBefore = Seen(m_path);
     CDataTable table = scenarios::Start(m_path, GetParam());
+    m_seenBefore = Seen(m_path);
     EXPECT_EQ(table.WriteTable(m_path, 0, 0), 1);
     m_seenAfter = Seen(m_path);
     EXPECT_NE(m_seenBefore, m_seenAfter);

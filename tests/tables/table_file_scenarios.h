@@ -5,10 +5,10 @@
 
 namespace scenarios {
 
-enum CScenario : int { kChange, kDelete, kGrow, kNewTable, kNewFile, kSorted, kCount };
+enum CScenario : int { kChange, kDelete, kGrow, kNewTable, kNewFile, kSorted, kStale, kCount };
 
-inline const char* const kNames[] = {"change a row", "delete and add", "grow",
-                                     "new table",    "new file",       "sorted"};
+inline const char* const kNames[] = {"change a row", "delete and add", "grow", "new table",
+                                     "new file",     "sorted",         "stale"};
 
 // Makes the store: 95 rows of one table and 2 of another.
 inline void Prepare(const CString& path) {
@@ -29,6 +29,14 @@ inline CDataTable Start(const CString& path, int scenario) {
     return table;
   }
   CDataTable table = Loaded(path);
+  if (scenario == kStale) {  // another process saves meanwhile
+    CDataTable other = table;
+    EXPECT_EQ(other.ModifyTableItem(20, L"I20,888"), 1);
+    AddRow(other, L"their new");
+    EXPECT_EQ(other.WriteTable(path, 0, 0), 1);
+    EXPECT_EQ(table.ModifyTableItem(60, L"I60,999"), 1);
+    AddRow(table, L"my new");
+  }
   if (scenario == kChange || scenario == kSorted) {
     if (scenario == kSorted) table.OrderTable(0, 0);
     EXPECT_EQ(table.ModifyTableItem(50, L"I50,777"), 1);

@@ -219,8 +219,10 @@ TEST_F(TableFile, LongTextsAndLineFeedsAreCut) {
   CDataTable table = SectionTable();
   AddRow(table, L"1234567890123456789012345678901", L"7\n8");
   AddRow(table, CString(L'型', 30), L"8");
+  AddRow(table, L"one\ntwo", L"9");
   ASSERT_EQ(Save(table), 1);
   const CDataTable read = Loaded(m_path);
+  EXPECT_EQ(Rows(read)[2], "one=9");
   EXPECT_EQ(Rows(read)[0], "123456789012345678901234567890=7");
   EXPECT_EQ(read[1][0].m_strValue, CString(L'型', 30));
 }

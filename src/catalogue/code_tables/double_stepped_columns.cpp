@@ -1,29 +1,10 @@
 // Effective length of double-stepped columns: GB 50017-2003, Tables D-5 and D-6.
-//
-// The figures are compiled from data/code-tables/g_sub20.csv, g_sub201.csv, g_sub21.csv and
-// g_sub211.csv.
 #include <limits>
 
 #include "catalogue/code_tables/grids.h"
 #include "catalogue/code_tables/interpolation.h"
 #include "catalogue/code_tables/table_search.h"
 #include "framework/exception.h"
-
-// mu3, top free: Table D-5.
-constexpr double CTableSearch::g_sub20[12][198] = {
-#include "g_sub20.inc"
-};
-constexpr double CTableSearch::g_sub201[42][44] = {
-#include "g_sub201.inc"
-};
-
-// mu3, top sliding without rotation: Table D-6.
-constexpr double CTableSearch::g_sub21[12][198] = {
-#include "g_sub21.inc"
-};
-constexpr double CTableSearch::g_sub211[42][44] = {
-#include "g_sub211.inc"
-};
 
 namespace {
 

@@ -1,31 +1,7 @@
 // Effective length of single-stepped columns: GB 50017-2003, Tables D-3 and D-4.
-//
-// The figures are compiled from data/code-tables/g_sub18.csv and g_sub19.csv.
 #include "catalogue/code_tables/grids.h"
 #include "catalogue/code_tables/interpolation.h"
 #include "catalogue/code_tables/table_search.h"
-
-// mu2, top free: Table D-3.
-constexpr double CTableSearch::g_sub18[19][18] = {
-#include "g_sub18.inc"
-};
-constexpr double CTableSearch::g_sub181[19][9] = {
-#include "g_sub181.inc"
-};
-constexpr double CTableSearch::g_sub182[19][9] = {
-#include "g_sub182.inc"
-};
-
-// mu2, top sliding without rotation: Table D-4.
-constexpr double CTableSearch::g_sub19[19][18] = {
-#include "g_sub19.inc"
-};
-constexpr double CTableSearch::g_sub191[19][9] = {
-#include "g_sub191.inc"
-};
-constexpr double CTableSearch::g_sub192[19][9] = {
-#include "g_sub192.inc"
-};
 
 // eta1 = H1/H2 * sqrt(N1/N2 * I2/I1) and K1 = I1/I2 * H2/H1.
 constexpr const wchar_t* CTableSearch::g_sub18_1[19] = {

@@ -199,6 +199,8 @@ class ORV3CAL_API CTableSearch {
 
   // --- Effective length of single-stepped columns: single_stepped_columns.cpp ------------------
 
+  // The figures of stepped columns are in stepped_column_figures.cpp, which the build makes.
+
   // mu2 of the lower part, top free (Table D-3) and top sliding without rotation (Table D-4): rows
   // eta1 (labels g_sub18_1), columns K1 (labels g_sub18_2). The halves hold columns 0 to 8 and 9
   // to 17.
