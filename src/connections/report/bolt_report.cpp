@@ -407,7 +407,7 @@ std::vector<CReportVerdict> CBoltReport::Verdicts() const {
     const double limit = m_r.m_dBeta * m_r.m_dNcb / (bOrdinary ? 1 : 1.2);
     verdicts.push_back(
         {parts[1].m_name, clause, bOrdinary ? "N_v ≤ β N_c^b" : "N_v ≤ β N_c^b / 1.2",
-         PlainNumber(m_r.m_dNv) + relation(parts[1].m_bPass) + PlainNumber(limit) + " kN",
+         PlainNumber(m_r.m_dNv) + relation(parts[1].m_bPass) + PlainNumber(limit) + " \\kN",
          parts[1].m_dUtilisation, parts[1].m_bPass});
   }
   verdicts.push_back(SectionVerdict(true));
@@ -445,7 +445,8 @@ std::string CBoltReport::Write() {
     m_body.Heading({"七、板件截面", "7  Sections of the plate"});
     m_body.Steps(sections);
   }
-  m_body.Heading({"八、验算结论", "8  Verdicts"});
+  m_body.Heading(sections.empty() ? CTextLiteral{"七、验算结论", "7  Verdicts"}
+                                  : CTextLiteral{"八、验算结论", "8  Verdicts"});
   m_body.Verdicts(Verdicts());
   m_body.Note({"单位：长度 mm，力 kN，力矩 kN·mm，应力 N/mm²。",
                "Units: lengths mm, forces kN, moments kN·mm, stresses N/mm²."});
