@@ -380,7 +380,7 @@ CReportVerdict CBoltReport::SectionVerdict(bool bX) const {
       "|" + symbol + "| ≤ f" + (bTwo && !IsZero(load) ? ",  " + symbol + both : "");
   verdict.m_strNumbers = PlainNumber(std::fabs(sigma)) +
                          (std::fabs(sigma) <= m_r.m_dF ? " ≤ " : " > ") + PlainNumber(m_r.m_dF) +
-                         " N/mm²";
+                         " \\N/\\mm²";
   verdict.m_dUtilisation = std::fabs(sigma) / m_r.m_dF;
   verdict.m_bPass = bX ? m_r.m_bX : m_r.m_bY;
   return verdict;
