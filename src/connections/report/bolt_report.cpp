@@ -281,8 +281,9 @@ void CBoltReport::SectionX(CSteps& steps) const {
     stress("σ_{x1}", "V_x / A_x", 1, area[0], m_group.m_dSigmaX[1]);
     steps.push_back(
         {kStraight, "5.1.1", "A_{nx}", "A_x − n_r d_0 t", net, PlainNumber(area[1]), "mm²"});
-    stress("σ_{x2}", "(1 − 0.5 ⌊n_r / n⌋) V_x / A_{nx}", 1 - 0.5 * (m_input.m_nRows / m_r.m_nBolts),
-           area[1], m_group.m_dSigmaX[2]);
+    const int boltShare = m_input.m_nRows / m_r.m_nBolts;  // whole, as in the record
+    stress("σ_{x2}", "(1 − 0.5 ⌊n_r / n⌋) V_x / A_{nx}", 1 - 0.5 * boltShare, area[1],
+           m_group.m_dSigmaX[2]);
     return;
   }
   const bool bGrid = m_input.m_nLayout == 0;
