@@ -93,7 +93,8 @@ class CBoltPainter {
     add(end);
     m_drawing.AddPath(CLayer::BaseAxis, path);
     CPoint label = bVertical ? CPoint{end.x, end.y + 9} : CPoint{end.x + 4, end.y};
-    if (bNear) label = bVertical ? CPoint{first.x + 8, kMargin - 10} : CPoint{m_dLeft - 12, first.y + 9};
+    if (bNear)
+      label = bVertical ? CPoint{first.x + 8, kMargin - 10} : CPoint{m_dLeft - 12, first.y + 9};
     m_drawing.AddLabel({.m_nLayer = CLayer::BaseAxis,
                         .m_at = label,
                         .m_strText = szName,
