@@ -93,7 +93,7 @@ std::string CaseText(const typename CHECK::CCase& input, const CHECK& check) {
       continue;
     const double value = std::visit(
         [&](auto field) { return static_cast<double>(check.Results().*field); }, key.m_field);
-    results.AddRow({key.m_name.m_szEnglish, key.m_szKey, NumberText(value), key.m_szUnit});
+    results.AddRow({key.m_name.m_szEnglish, key.m_szKey, PlainNumber(value), key.m_szUnit});
   }
   CTextTable parts({CAlign::Left, CAlign::Right, CAlign::Left});
   for (const CCasePart& part : check.Parts()) {

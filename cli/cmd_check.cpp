@@ -49,6 +49,7 @@ class CCaseReader {
 
   std::optional<CCaseFault> Read(const CCaseValues& values, typename CHECK::CCase& input) const {
     input = {};
+    SetName(values, input);  // known also of a case that is refused
     if (auto fault = m_schema.Check(values)) return fault;
     for (std::size_t i = 0; i < values.size(); ++i) {
       if (values[i] && !SetInput(input, *m_arrKey[i], *values[i])) {
@@ -60,6 +61,13 @@ class CCaseReader {
   }
 
  private:
+  void SetName(const CCaseValues& values, typename CHECK::CCase& input) const {
+    const int key = m_schema.Find("id");
+    if (key < 0 || !values[static_cast<std::size_t>(key)]) return;
+    SetInput(input, *m_arrKey[static_cast<std::size_t>(key)],
+             *values[static_cast<std::size_t>(key)]);
+  }
+
   const CCaseSchema& m_schema;
   std::vector<const CInputKey<typename CHECK::CCase>*> m_arrKey;
 };

@@ -15,9 +15,9 @@ enum CBoltType : int { kOrdinaryBolt = 0, kFrictionBolt = 1, kBearingBolt = 2 };
 
 // Lengths in mm, forces in kN, moments in kN mm.
 struct CBoltCase {
-  std::string m_strId;  // the caller's own name of the case
-  int m_nLayout = 0;    // 0 grid, 1 staggered
-  int m_nType = 0;      // CBoltType
+  std::string m_strId = {};  // the caller's own name of the case
+  int m_nLayout = 0;         // 0 grid, 1 staggered
+  int m_nType = 0;           // CBoltType
   int m_nCols = 0;
   int m_nRows = 0;
   CSpacing m_colSpace;

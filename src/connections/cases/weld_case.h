@@ -15,7 +15,7 @@ namespace orv3 {
 // Lengths in mm, forces in kN, moments in kN mm. Exactly one of he, hf and s is above 0: the throat
 // itself, the leg of a fillet weld, or the depth of a partial-penetration groove weld.
 struct CFilletCase {
-  std::string m_strId;
+  std::string m_strId = {};
   int m_nLoadCase = 0;  // 0 to 5, as in AngleHanFData
   int m_nSteel = 0;     // 0 Q235, 1 Q345, 2 Q390, 3 Q420
   double m_dLw = 0;
@@ -44,7 +44,7 @@ struct CFilletResults {
 };
 
 struct CButtCase {
-  std::string m_strId;
+  std::string m_strId = {};
   int m_nLoadCase = 0;  // 0 to 5, as in WQWeldingData
   int m_nSteel = 0;
   int m_nQuality = 0;  // quality grade 1, 2 or 3

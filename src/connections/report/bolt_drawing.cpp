@@ -78,8 +78,9 @@ class CBoltPainter {
     }
   }
 
-  // A cut from edge to edge through the given bolts, named at its end.
-  void Cut(const std::vector<CPoint>& bolts, bool bVertical, const wchar_t* szName) {
+  // A cut from edge to edge through the given bolts, named at its far end, or at its near one.
+  void Cut(const std::vector<CPoint>& bolts, bool bVertical, const wchar_t* szName,
+           bool bNear = false) {
     if (bolts.empty()) return;
     CPath path;
     path.m_bClosed = false;
@@ -91,7 +92,9 @@ class CBoltPainter {
     const CPoint end = bVertical ? CPoint{last.x, Top() + 4} : CPoint{Right() + 4, last.y};
     add(end);
     m_drawing.AddPath(CLayer::BaseAxis, path);
-    const CPoint label = bVertical ? CPoint{end.x, end.y + 9} : CPoint{end.x + 4, end.y};
+    CPoint label = bVertical ? CPoint{end.x, end.y + 9} : CPoint{end.x + 4, end.y};
+    if (bNear)
+      label = bVertical ? CPoint{first.x + 8, kMargin - 10} : CPoint{m_dLeft - 12, first.y + 9};
     m_drawing.AddLabel({.m_nLayer = CLayer::BaseAxis,
                         .m_at = label,
                         .m_strText = szName,
@@ -126,12 +129,12 @@ class CBoltPainter {
     if (!IsZero(m_group.m_dVx)) {
       Cut(Line([&](const BoltPoint& b) { return near(b.x, x); }, byY), true, L"1");
       const auto inEither = [&](const BoltPoint& b) { return near(b.x, x) || near(b.x, before); };
-      if (bZigzag) Cut(Line(inEither, byY), true, L"2");
+      if (bZigzag) Cut(Line(inEither, byY), true, L"2", true);
     }
     if (!IsZero(m_group.m_dVy)) {
       Cut(Line([&](const BoltPoint& b) { return near(b.y, 0); }, byX), false, L"3");
       const auto inEither = [&](const BoltPoint& b) { return near(b.y, 0) || near(b.y, half); };
-      if (bZigzag) Cut(Line(inEither, byX), false, L"4");
+      if (bZigzag) Cut(Line(inEither, byX), false, L"4", true);
     }
   }
 

@@ -281,8 +281,9 @@ void CBoltReport::SectionX(CSteps& steps) const {
     stress("σ_{x1}", "V_x / A_x", 1, area[0], m_group.m_dSigmaX[1]);
     steps.push_back(
         {kStraight, "5.1.1", "A_{nx}", "A_x − n_r d_0 t", net, PlainNumber(area[1]), "mm²"});
-    stress("σ_{x2}", "(1 − 0.5 ⌊n_r / n⌋) V_x / A_{nx}", 1 - 0.5 * (m_input.m_nRows / m_r.m_nBolts),
-           area[1], m_group.m_dSigmaX[2]);
+    const int boltShare = m_input.m_nRows / m_r.m_nBolts;  // whole, as in the record
+    stress("σ_{x2}", "(1 − 0.5 ⌊n_r / n⌋) V_x / A_{nx}", 1 - 0.5 * boltShare, area[1],
+           m_group.m_dSigmaX[2]);
     return;
   }
   const bool bGrid = m_input.m_nLayout == 0;
@@ -380,7 +381,7 @@ CReportVerdict CBoltReport::SectionVerdict(bool bX) const {
       "|" + symbol + "| ≤ f" + (bTwo && !IsZero(load) ? ",  " + symbol + both : "");
   verdict.m_strNumbers = PlainNumber(std::fabs(sigma)) +
                          (std::fabs(sigma) <= m_r.m_dF ? " ≤ " : " > ") + PlainNumber(m_r.m_dF) +
-                         " N/mm²";
+                         " \\N/\\mm²";
   verdict.m_dUtilisation = std::fabs(sigma) / m_r.m_dF;
   verdict.m_bPass = bX ? m_r.m_bX : m_r.m_bY;
   return verdict;
@@ -407,7 +408,7 @@ std::vector<CReportVerdict> CBoltReport::Verdicts() const {
     const double limit = m_r.m_dBeta * m_r.m_dNcb / (bOrdinary ? 1 : 1.2);
     verdicts.push_back(
         {parts[1].m_name, clause, bOrdinary ? "N_v ≤ β N_c^b" : "N_v ≤ β N_c^b / 1.2",
-         PlainNumber(m_r.m_dNv) + relation(parts[1].m_bPass) + PlainNumber(limit) + " kN",
+         PlainNumber(m_r.m_dNv) + relation(parts[1].m_bPass) + PlainNumber(limit) + " \\kN",
          parts[1].m_dUtilisation, parts[1].m_bPass});
   }
   verdicts.push_back(SectionVerdict(true));
@@ -445,7 +446,8 @@ std::string CBoltReport::Write() {
     m_body.Heading({"七、板件截面", "7  Sections of the plate"});
     m_body.Steps(sections);
   }
-  m_body.Heading({"八、验算结论", "8  Verdicts"});
+  m_body.Heading(sections.empty() ? CTextLiteral{"七、验算结论", "7  Verdicts"}
+                                  : CTextLiteral{"八、验算结论", "8  Verdicts"});
   m_body.Verdicts(Verdicts());
   m_body.Note({"单位：长度 mm，力 kN，力矩 kN·mm，应力 N/mm²。",
                "Units: lengths mm, forces kN, moments kN·mm, stresses N/mm²."});

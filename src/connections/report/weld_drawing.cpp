@@ -11,11 +11,11 @@ namespace orv3 {
 namespace {
 
 constexpr double kWidth = 640;
-constexpr double kHeight = 250;
-constexpr CPoint kDetail = {150, 110};  // centre of the section across the weld
-constexpr double kArea = 340;           // left end of the weld's area on the page
+constexpr double kHeight = 196;
+constexpr CPoint kDetail = {150, 94};  // centre of the section across the weld
+constexpr double kArea = 340;          // left end of the weld's area on the page
 constexpr double kAreaLength = 210;
-constexpr double kAxis = 130;
+constexpr double kAxis = 104;
 
 CPath Polygon(std::vector<CPoint> corners) {
   CPath path;

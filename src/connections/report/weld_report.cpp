@@ -19,7 +19,7 @@ std::string Relation(double effect, double limit, bool bPass) {
          (bPass            ? " ≤ "
           : effect > limit ? " > "
                            : " ≮ ") +
-         PlainNumber(limit) + " N/mm²";
+         PlainNumber(limit) + " \\N/\\mm²";
 }
 
 // The normal stress of a weld area by load case.

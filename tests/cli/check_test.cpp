@@ -1,0 +1,235 @@
+// orv3cal check and orv3cal code, run as a user runs them.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <sstream>
+
+#include "cli/run_program.h"
+#include "connections/cases/bolt_case.h"
+#include "connections/cases/weld_case.h"
+
+namespace {
+
+using Json = nlohmann::json;
+
+const std::string kSource = ORV3CAL_SOURCE;
+
+Json Example(const std::string& kind) {
+  return Json::parse(FileBytes(kSource + "/examples/" + kind + ".json"));
+}
+
+// Runs a check on the text of a file.
+CRunResult Check(const std::string& kind, const std::string& text, const std::string& options = "",
+                 const char* szFile = "check_case.json") {
+  std::ofstream(szFile, std::ios::binary) << text;
+  CRunResult run = RunProgram("check " + kind + " " + szFile + " " + options);
+  std::remove(szFile);
+  return run;
+}
+
+template <class CHECK>
+void ExpectKeysOf(const std::string& kind) {
+  std::set<std::string> keys;
+  for (const auto& key : CHECK::InputKeys()) keys.insert(key.m_szKey);
+  std::set<std::string> listed;
+  const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/" + kind + ".schema.json"));
+  for (const auto& [key, rule] : schema["properties"].items()) {
+    listed.insert(key);
+    for (const auto& each : CHECK::InputKeys()) {
+      if (key != each.m_szKey || each.m_choices.empty()) continue;
+      EXPECT_EQ(rule["enum"],
+                Json(std::vector<std::string>(each.m_choices.begin(), each.m_choices.end())))
+          << key;
+    }
+  }
+  EXPECT_EQ(listed, keys) << kind;
+}
+
+TEST(CheckCommand, TheSchemasListTheKeysOfTheChecks) {
+  ExpectKeysOf<orv3::CBoltCheck>("bolt");
+  ExpectKeysOf<orv3::CFilletCheck>("fillet");
+  ExpectKeysOf<orv3::CButtCheck>("butt");
+}
+
+TEST(CheckCommand, AnswersTheExamples) {
+  const struct {
+    const char* kind;
+    std::set<std::string> results;
+  } cases[] = {
+      {"bolt",
+       {"n", "d0", "f", "mu", "P", "Nvb", "Ntb", "Nv", "Nt", "l1", "beta", "ratio", "sigmaX",
+        "sigmaY", "passForces", "passX", "passY"}},
+      {"fillet", {"he", "W", "ffw", "sigma", "tau", "combined", "okSigma", "okTau", "okCombined"}},
+      {"butt",
+       {"ftw", "fcw", "fvw", "W", "sigma", "tau", "reduced", "okSigma", "okTau", "okReduced"}}};
+  for (const auto& each : cases) {
+    const CRunResult run = Check(each.kind, Example(each.kind).dump(), "--json");
+    ASSERT_EQ(run.m_nExit, 0) << run.m_strError;
+    const Json answer = Json::parse(run.m_strOut);
+    EXPECT_TRUE(answer["pass"]);
+    std::set<std::string> results;
+    for (const auto& [key, value] : answer["results"].items()) results.insert(key);
+    EXPECT_EQ(results, each.results) << each.kind;
+  }
+  // The butt example: 600 kN on 300 x 20 is 100; 20 kN m on 20 x 300^2 / 6 is 66.67; tau 37.5.
+  const Json butt = Json::parse(Check("butt", Example("butt").dump(), "--json").m_strOut);
+  EXPECT_NEAR(butt["results"]["sigma"].get<double>(), 500.0 / 3, 1e-9);
+  EXPECT_NEAR(butt["results"]["tau"].get<double>(), 37.5, 1e-9);
+}
+
+TEST(CheckCommand, RefusesByKeyInOneLine) {
+  const struct {
+    const char* kind;
+    const char* patch;  // JSON merge patch of the example
+    std::vector<std::string> names;
+  } cases[] = {
+      {"bolt", R"({"dd": 1})", {"dd", "keys are", "sumT"}},
+      {"bolt", R"({"N": null})", {"N", "missing"}},
+      {"bolt", R"({"nf": null})", {"nf", "missing", "at least 1"}},
+      {"bolt", R"({"rowSpace": null})", {"rowSpace", "missing"}},
+      {"bolt", R"({"d": 26})", {"d:", "26", "24, 27"}},
+      {"bolt", R"({"d": "20"})", {"d:", "20"}},
+      {"bolt", R"({"cols": 2.5})", {"cols", "2.5", "whole number"}},
+      {"bolt", R"({"rowSpace": [70, "x", 70]})", {"rowSpace", "list"}},
+      {"bolt", R"({"rowSpace": [70, 70]})", {"rowSpace", "2 spacings for 4 rows", "give 3"}},
+      {"bolt", R"({"grade": "5.6"})", {"grade", "5.6", "8.8 or 10.9"}},
+      {"bolt", R"({"grade": 8.8})", {"grade", "\"8.8\""}},
+      {"bolt", R"({"t": 0})", {"t:", "above 0"}},
+      {"bolt", R"({"type": "ordinary"})", {"sumT", "missing"}},
+      {"fillet", R"({"he": 5})", {"he", "more than one way"}},
+      {"fillet", R"({"hf": null})", {"he", "missing", "hf with angle"}},
+      {"fillet", R"({"case": 6})", {"case", "at most 5"}},
+      {"butt", R"({"quality": 0})", {"quality", "at least 1"}},
+  };
+  for (const auto& each : cases) {
+    Json input = Example(each.kind);
+    input.update(Json::parse(each.patch));
+    for (auto entry = input.begin(); entry != input.end();)
+      entry = entry->is_null() ? input.erase(entry) : std::next(entry);
+    const CRunResult run = Check(each.kind, input.dump());
+    EXPECT_EQ(run.m_nExit, 2) << each.patch;
+    EXPECT_TRUE(run.m_strOut.empty());
+    EXPECT_EQ(std::count(run.m_strError.begin(), run.m_strError.end(), '\n'), 1);
+    for (const std::string& name : each.names)
+      EXPECT_NE(run.m_strError.find(name), std::string::npos) << each.patch << run.m_strError;
+  }
+  EXPECT_EQ(Check("bolt", R"({"N": 1e999})").m_nExit, 2);
+  EXPECT_EQ(Check("bolt", "{").m_nExit, 2);
+  EXPECT_EQ(Check("bolt", "7").m_nExit, 2);
+  EXPECT_EQ(Check("bolt", "").m_nExit, 2);
+  EXPECT_EQ(RunProgram("check bolt no-such-file.json").m_nExit, 3);
+  EXPECT_EQ(RunProgram("check rivet no-such-file.json").m_nExit, 2);
+}
+
+TEST(CheckCommand, TellsAFailureByItsStatus) {
+  Json input = Example("bolt");
+  input["Vy"] = 2500;
+  const CRunResult run = Check("bolt", input.dump(), "--json");
+  EXPECT_EQ(run.m_nExit, 1);
+  EXPECT_TRUE(run.m_strError.empty());
+  EXPECT_FALSE(Json::parse(run.m_strOut)["pass"]);
+}
+
+TEST(CheckCommand, AnswersManyCasesOfACsv) {
+  const std::string csv =
+      "id,case,steel,quality,lw,t,N,M,V\n"
+      "low,0,Q235,1,100,10,50,0,0\n"
+      "\"high, \"\"x\"\"\",0,Q235,1,100,10,210,0,0\r\n"
+      "\n"
+      "bad,0,Q999,1,100,10,50,0,0\n"
+      "over,0,Q235,1,100,10,300,0,0";
+  const CRunResult run = Check("butt", csv, "--csv --sort", "check_cases.csv");
+  EXPECT_EQ(run.m_nExit, 2) << "one case is refused";
+  EXPECT_NE(run.m_strError.find("1 of 4 cases refused, the first: case 3, steel"),
+            std::string::npos)
+      << run.m_strError;
+  std::vector<std::string> starts;
+  std::istringstream lines(run.m_strOut);
+  for (std::string line; std::getline(lines, line);) starts.push_back(line.substr(0, 21));
+  // 215 N/mm2: 300 kN on 1000 mm2 is 1.395, 210 kN 0.977, 50 kN 0.233; what is refused comes first.
+  ASSERT_EQ(starts.size(), 5U);
+  EXPECT_EQ(starts[0].substr(0, 13), "case,id,pass,");
+  EXPECT_EQ(starts[1].substr(0, 6), "3,bad,");
+  EXPECT_EQ(starts[2].substr(0, 18), "4,over,false,1.395");
+  EXPECT_EQ(starts[3].substr(0, 21), "2,\"high, \"\"x\"\"\",true,");
+  EXPECT_EQ(starts[4].substr(0, 16), "1,low,true,0.232");
+
+  const std::string file = kSource + "/examples/bolts.csv";
+  const CRunResult many = RunProgram("check bolt \"" + file + "\" --json");
+  ASSERT_EQ(many.m_nExit, 0) << many.m_strError;
+  const Json answers = Json::parse(many.m_strOut);
+  ASSERT_EQ(answers.size(), 4U);
+  const Json bracket = Json::parse(Check("bolt", Example("bolt").dump(), "--json").m_strOut);
+  EXPECT_EQ(answers[1]["results"], bracket["results"]) << "the same group as examples/bolt.json";
+}
+
+TEST(CheckCommand, AnArrayOfCasesGivesAReportOfAll) {
+  Json second = Example("fillet");
+  second["id"] = "the other";
+  const CRunResult run = Check("fillet", Json::array({Example("fillet"), second}).dump(),
+                               "--report check_report.html --lang en");
+  EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
+  EXPECT_NE(run.m_strOut.find("utilisation"), std::string::npos);
+  const std::string html = FileBytes("check_report.html");
+  std::remove("check_report.html");
+  EXPECT_NE(html.find("the other"), std::string::npos);
+  EXPECT_EQ(html.find("验算"), std::string::npos) << "English was asked for";
+}
+
+TEST(CodeCommand, LooksFiguresUp) {
+  const struct {
+    const char* arguments;
+    Json value;
+  } cases[] = {
+      {"steel Q345 35", 295},
+      {"steel Q235 100 fce", 325},
+      {"weld Q345 40 fcw", 265},
+      {"weld Q235 40 ftw3", 175},
+      {"weld Q420 16 ffw", 220},
+      {"bolt C 4.8 fv", 140},
+      {"bolt bearing 10.9 ft", 500},
+      {"bolt bearing Q345 fc", 590},
+      {"bolt AB 5.6 ft", 210},
+      {"bolt anchor Q345 ft", 180},
+      {"preload 10.9 20", 155},
+      {"slip 4 Q420", 0.4},
+      {"area 20", 2.45},
+      {"area 30 gross", 7.069},
+      {"slender Q390 lower", 15.5},
+      {"mu nosway 10 10", 0.549},
+      {"mu sway 0 0", nullptr},
+      {"mu sway 0.04 0.02", nullptr},
+      {"mu sway 12 40", 1.03},
+      {"mu-step free 0.2 0.06", 2.0},
+      {"gamma 2 y", 1.2},
+      {"class 1 x", "a"},
+      {"class-thick 2 y", "d"},
+      {"fatigue 3 C", 3.26},
+      {"phib concentrated-upper 20 2", 2.0},
+  };
+  for (const auto& each : cases) {
+    const CRunResult run = RunProgram(std::string("code ") + each.arguments + " --json");
+    ASSERT_EQ(run.m_nExit, 0) << each.arguments << run.m_strError;
+    const Json answer = Json::parse(run.m_strOut);
+    EXPECT_EQ(answer["value"], each.value) << each.arguments;
+    EXPECT_TRUE(answer.contains("unit") && !answer["source"].get<std::string>().empty());
+  }
+  EXPECT_NE(RunProgram("code mu sway 0 0").m_strOut.find("∞"), std::string::npos);
+  // Appendix C, class b, lambda 50 sqrt(235/fy): the printed table C-2 has 0.856.
+  const Json phi = Json::parse(RunProgram("code phi 50 235 b --json").m_strOut);
+  EXPECT_NEAR(phi["value"].get<double>(), 0.856, 0.0005);
+  for (const char* bad :
+       {"steel Q235 101", "steel Q236 10", "bolt C 8.8 ft", "preload 8.8 18", "weld Q235 10",
+        "phi 50 0 b", "mu-step2 free 0.1 0.2 0.1 0.2", "steel Q235 1x"}) {
+    const CRunResult run = RunProgram(std::string("code ") + bad);
+    EXPECT_EQ(run.m_nExit, 2) << bad;
+    EXPECT_TRUE(run.m_strOut.empty()) << bad;
+  }
+}
+
+}  // namespace

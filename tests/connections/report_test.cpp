@@ -1,0 +1,149 @@
+// Reports: everything that was computed stands in them, in both languages, and nothing is fetched.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "connections/cases/case_rules.h"
+#include "connections/report/bolt_drawing.h"
+#include "connections/report/connection_report.h"
+#include "connections/report/report_page.h"
+
+namespace orv3 {
+namespace {
+
+CBoltCase Group(int type, int layout) {
+  CBoltCase input;
+  input.m_strId = "<J-1> & \"co\"";
+  input.m_nType = type;
+  input.m_nLayout = layout;
+  input.m_nCols = 5;
+  input.m_nRows = 3;
+  input.m_colSpace.m_dUniform = 90;
+  input.m_rowSpace.m_arrEach = {80, 85};
+  input.m_nD = 20;
+  input.m_dSumT = input.m_dThick = 14;
+  input.m_nNv = input.m_nNf = 2;
+  input.m_dN = 31;
+  input.m_dVx = 203;
+  input.m_dVy = 57;
+  input.m_dM = 1700;
+  input.m_dT = 4100;
+  input.m_dEx = input.m_dEy = 50;
+  input.m_nSteel = 1;
+  input.m_nGrade = type == kOrdinaryBolt ? 1 : 4;
+  input.m_nClass = 2;
+  return input;
+}
+
+bool Has(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+int Count(const std::string& text, const std::string& part) {
+  int count = 0;
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+    ++count;
+  return count;
+}
+
+// Every tag that is opened is closed, in order.
+bool IsBalanced(const std::string& html) {
+  std::vector<std::string> open;
+  for (std::size_t at = html.find('<'); at != std::string::npos; at = html.find('<', at + 1)) {
+    const std::size_t end = html.find('>', at);
+    if (end == std::string::npos) return false;
+    const std::string tag = html.substr(at + 1, end - at - 1);
+    const std::string name = tag.substr(0, tag.find(' '));
+    if (tag[0] == '!' || tag.back() == '/' || name == "meta") continue;
+    if (tag[0] != '/') {
+      open.push_back(name);
+    } else if (open.empty() || open.back() != tag.substr(1)) {
+      return false;
+    } else {
+      open.pop_back();
+    }
+  }
+  return open.empty();
+}
+
+template <class CHECK>
+void ExpectWholeReport(const typename CHECK::CCase& input) {
+  CHECK check;
+  ASSERT_TRUE(check.Run(input)) << check.Faults().front().Line();
+  for (const CLanguage language : {CLanguage::Chinese, CLanguage::English}) {
+    const std::string bodies[] = {CaseReport(input, check, language)};
+    const std::string html = ReportDocument("report", bodies, language);
+    EXPECT_TRUE(IsBalanced(html));
+    EXPECT_EQ(Count(html, "http"), Count(html, "http://www.w3.org/2000/svg")) << "fetches nothing";
+    EXPECT_FALSE(Has(html, "<script") || Has(html, "<link") || Has(html, "url("));
+    EXPECT_FALSE(Has(html, "<J-1>")) << "texts of the input are escaped";
+    EXPECT_TRUE(Has(html, language == CLanguage::Chinese ? "满足" : "passes"));
+    EXPECT_EQ(Has(html, "验算"), language == CLanguage::Chinese);
+    for (const auto& key : CHECK::ResultKeys()) {
+      if ((key.m_nKinds >> CHECK::Kind(input) & 1U) == 0) continue;
+      const auto* number = std::get_if<double CHECK::CResults::*>(&key.m_field);
+      if (number == nullptr) continue;
+      const double value = check.Results().**number;
+      EXPECT_TRUE(Has(html, PlainNumber(value))) << key.m_szKey << " " << value;
+    }
+    for (const auto& key : CHECK::InputKeys()) {
+      const auto* number = std::get_if<double CHECK::CCase::*>(&key.m_field);
+      if (number == nullptr || input.**number == 0) continue;
+      EXPECT_TRUE(Has(html, PlainNumber(input.**number))) << key.m_szKey;
+    }
+    for (const CCaseWarning& warning : check.Warnings())
+      EXPECT_TRUE(Has(html, Escaped(warning.m_text.In(language)))) << warning.m_strKey;
+  }
+}
+
+TEST(Report, HoldsEveryInputAndResultInBothLanguages) {
+  for (const int type : {0, 1, 2}) {
+    ExpectWholeReport<CBoltCheck>(Group(type, 0));
+    ExpectWholeReport<CBoltCheck>(Group(type, 1));
+  }
+  for (int loadCase = 0; loadCase < 6; ++loadCase) {
+    ExpectWholeReport<CFilletCheck>({.m_nLoadCase = loadCase,
+                                     .m_nSteel = 1,
+                                     .m_dLw = 217,
+                                     .m_dN = 31,
+                                     .m_dM = 1300,
+                                     .m_dV = 47,
+                                     .m_dBetaF = 1.22,
+                                     .m_dHf = 8,
+                                     .m_dAngle = 100});
+    ExpectWholeReport<CButtCheck>({.m_nLoadCase = loadCase,
+                                   .m_nSteel = 2,
+                                   .m_nQuality = 3,
+                                   .m_dLw = 217,
+                                   .m_dThick = 18,
+                                   .m_dN = 131,
+                                   .m_dM = 1300,
+                                   .m_dV = 47});
+  }
+}
+
+// With a torque the most stressed bolt is a single corner, whose force by statics is the record's.
+TEST(Report, MarksTheBoltThatTheRecordJudges) {
+  CBoltCheck check;
+  for (const int type : {0, 1, 2}) {
+    CBoltCase input = Group(type, 0);
+    ASSERT_TRUE(check.Run(input));
+    const NormalBoltData& group = check.Record();
+    const CStressedBolts stressed = MostStressedBolts(group);
+    ASSERT_EQ(stressed.m_arrBolt.size(), 1U);
+    const BoltPoint& bolt = group.m_PointArr[stressed.m_arrBolt[0]];
+    const double turn = (stressed.m_bClockwise ? 1 : -1) * group.m_dT / group.m_dSumR2;
+    EXPECT_NEAR(std::hypot(group.m_dNvx + turn * bolt.dy, group.m_dNvy - turn * bolt.dx),
+                group.m_dNv, 1e-9);
+    EXPECT_EQ(bolt.dy, group.m_dYMax) << "the moment pulls hardest at the far row";
+  }
+  CBoltCase shear = Group(0, 0);
+  shear.m_dT = shear.m_dM = 0;
+  ASSERT_TRUE(check.Run(shear));
+  EXPECT_EQ(MostStressedBolts(check.Record()).m_arrBolt.size(), 15U) << "all are equal";
+}
+
+}  // namespace
+}  // namespace orv3
