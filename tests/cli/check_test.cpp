@@ -25,10 +25,11 @@ Json Example(const std::string& kind) {
 
 // Runs a check on the text of a file.
 CRunResult Check(const std::string& kind, const std::string& text, const std::string& options = "",
-                 const char* szFile = "check_case.json") {
-  std::ofstream(szFile, std::ios::binary) << text;
-  CRunResult run = RunProgram("check " + kind + " " + szFile + " " + options);
-  std::remove(szFile);
+                 const std::string& name = "case.json") {
+  const std::string file = OwnFile(name);
+  std::ofstream(file, std::ios::binary) << text;
+  CRunResult run = RunProgram("check " + kind + " " + file + " " + options);
+  std::remove(file.c_str());
   return run;
 }
 
@@ -143,7 +144,7 @@ TEST(CheckCommand, AnswersManyCasesOfACsv) {
       "\n"
       "bad,0,Q999,1,100,10,50,0,0\n"
       "over,0,Q235,1,100,10,300,0,0";
-  const CRunResult run = Check("butt", csv, "--csv --sort", "check_cases.csv");
+  const CRunResult run = Check("butt", csv, "--csv --sort", "cases.csv");
   EXPECT_EQ(run.m_nExit, 2) << "one case is refused";
   EXPECT_NE(run.m_strError.find("1 of 4 cases refused, the first: case 3, steel"),
             std::string::npos)
@@ -171,12 +172,13 @@ TEST(CheckCommand, AnswersManyCasesOfACsv) {
 TEST(CheckCommand, AnArrayOfCasesGivesAReportOfAll) {
   Json second = Example("fillet");
   second["id"] = "the other";
+  const std::string report = OwnFile("report.html");
   const CRunResult run = Check("fillet", Json::array({Example("fillet"), second}).dump(),
-                               "--report check_report.html --lang en");
+                               "--report " + report + " --lang en");
   EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
   EXPECT_NE(run.m_strOut.find("utilisation"), std::string::npos);
-  const std::string html = FileBytes("check_report.html");
-  std::remove("check_report.html");
+  const std::string html = FileBytes(report);
+  std::remove(report.c_str());
   EXPECT_NE(html.find("the other"), std::string::npos);
   EXPECT_EQ(html.find("验算"), std::string::npos) << "English was asked for";
 }

@@ -11,10 +11,7 @@
 
 namespace {
 
-// One for each test, since tests run side by side.
-std::string ErrorFile() {
-  return std::string(testing::UnitTest::GetInstance()->current_test_info()->name()) + ".stderr";
-}
+std::string ErrorFile() { return OwnFile("stderr.txt"); }
 
 #ifdef _WIN32
 std::FILE* Open(const std::string& arguments) {
@@ -38,6 +35,11 @@ std::string WithoutReturns(std::string text) {
 }
 
 }  // namespace
+
+std::string OwnFile(const std::string& name) {
+  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+  return std::string(test->test_suite_name()) + "." + test->name() + "." + name;
+}
 
 std::string FileBytes(const std::string& path) {
   std::ifstream file(path, std::ios::binary);

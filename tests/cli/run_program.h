@@ -12,5 +12,8 @@ struct CRunResult {
 // `arguments` as typed, in UTF-8; quote with double quotes.
 CRunResult RunProgram(const std::string& arguments);
 
+// The name of a file that no other test uses: tests run side by side in one folder.
+std::string OwnFile(const std::string& name);
+
 // A file's bytes; empty when it is not there.
 std::string FileBytes(const std::string& path);
