@@ -10,8 +10,8 @@
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
+#include "section_view.h"
 #include "sections/section_check.h"
-#include "sections/section_picture.h"
 #include "sections/section_property.h"
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
@@ -136,24 +136,10 @@ void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const 
   if (infinite) Print("\n∞: the base point lies on that edge of the section\n");
 }
 
-std::string Picture(const CSectionStyle& style, const CSteelJMData& record,
-                    const std::string& name) {
-  CSectionPicture picture;
-  picture.m_nStyle = style.m_nStyle;
-  for (int i = 0; i < style.m_nSizes; ++i) {
-    picture.m_arrSize[static_cast<std::size_t>(i)] = record.m_dSize[i];
-  }
-  picture.m_base = {record.m_dX, record.m_dY};
-  picture.m_centroid = {record.m_dXo, record.m_dYo};
-  picture.m_strTitle = style.m_szTable;
-  picture.m_strName = FromUtf8(name);
-  return SectionPictureSvg(picture);
-}
-
 void RunSection(const COptions& options) {
   const CSectionStyle& style = StyleOf(options.style);
   const CSteelJMData record = RecordOf(style, options);
-  if (!options.svg.empty()) WriteFile(options.svg, Picture(style, record, options.name));
+  if (!options.svg.empty()) WriteFile(options.svg, SectionSvg(style, record, options.name));
   if (options.json) {
     PrintJson(SectionJson(style, record, options.name));
   } else {

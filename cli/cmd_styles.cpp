@@ -5,8 +5,8 @@
 #include "commands.h"
 #include "framework/utf8.h"
 #include "output.h"
+#include "section_view.h"
 #include "sections/section_style.h"
-#include "tables/sketch.h"
 #include "text_table.h"
 
 namespace orv3::cli {
@@ -40,10 +40,11 @@ void PrintStyles() {
   Print(table.Text());
 }
 
-// One sketch a style, named by its alias.
-void WriteSketches(const std::string& folder) {
+// The sample section of each style, in a file named by its alias. The samples' names are those that
+// users know and tell other sizes, so the pictures go without.
+void WritePictures(const std::string& folder) {
   for (const CSectionStyle& style : SectionStyles()) {
-    WriteFile(folder + "/" + style.m_szAlias + ".svg", SketchSvg(SketchResource(style.m_szTable)));
+    WriteFile(folder + "/" + style.m_szAlias + ".svg", SectionSvg(style, SampleSection(style), ""));
   }
 }
 
@@ -58,10 +59,12 @@ void AddStylesCommand(CLI::App& program) {
   CLI::App* command =
       program.add_subcommand("styles", "List the user-defined section styles and their sizes");
   command->add_flag("--json", options->json, "As JSON, with the titles and meanings of the sizes");
-  command->add_option("--svg", options->folder, "Write a sketch of each style into a folder")
+  command
+      ->add_option("--svg", options->folder,
+                   "Write a picture of a sample of each style into a folder")
       ->type_name("FOLDER");
   command->callback([options] {
-    if (!options->folder.empty()) WriteSketches(options->folder);
+    if (!options->folder.empty()) WritePictures(options->folder);
     if (!options->json) return PrintStyles();
     CJson all = CJson::array();
     for (const CSectionStyle& style : SectionStyles()) all.push_back(StyleJson(style));

@@ -1,0 +1,32 @@
+#include "section_view.h"
+
+#include "framework/utf8.h"
+#include "sections/section_picture.h"
+
+namespace orv3::cli {
+
+CSteelJMData SampleSection(const CSectionStyle& style) {
+  CSteelJMData record;
+  CArray<double, double> sizes;
+  for (int i = 0; i < style.m_nSizes; ++i) sizes.Add(style.m_sample.m_arrSize[i]);
+  record.SetSectSize(style.m_nStyle, sizes);
+  record.m_dX = record.m_dY = style.m_sample.m_dBase;
+  CSteelJMData::CalSectCharacterStyle(record);
+  return record;
+}
+
+std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
+                       const std::string& name) {
+  CSectionPicture picture;
+  picture.m_nStyle = style.m_nStyle;
+  for (int i = 0; i < style.m_nSizes; ++i) {
+    picture.m_arrSize[static_cast<std::size_t>(i)] = record.m_dSize[i];
+  }
+  picture.m_base = {record.m_dX, record.m_dY};
+  picture.m_centroid = {record.m_dXo, record.m_dYo};
+  picture.m_strTitle = style.m_szTable;
+  picture.m_strName = FromUtf8(name);
+  return SectionPictureSvg(picture);
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,18 @@
+// A user-defined section as a picture, for the commands that show one.
+#pragma once
+
+#include <string>
+
+#include "sections/section_style.h"
+#include "sections/steel_jm_data.h"
+
+namespace orv3::cli {
+
+// The sample section of a style, computed.
+CSteelJMData SampleSection(const CSectionStyle& style);
+
+// The picture of a computed record, drawn to scale; `name` is UTF-8.
+std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
+                       const std::string& name);
+
+}  // namespace orv3::cli
