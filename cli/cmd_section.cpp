@@ -3,6 +3,7 @@
 #include <cmath>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "commands.h"
@@ -23,7 +24,7 @@ namespace {
 struct COptions {
   std::string style;
   std::vector<std::string> sizes;
-  std::vector<std::string> base;
+  std::pair<std::string, std::string> base{"0", "0"};
   std::string name;
   bool json = false;
   std::string svg;
@@ -81,10 +82,8 @@ CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   CArray<double, double> values;
   for (const double size : sizes) values.Add(size);
   record.SetSectSize(style.m_nStyle, values);
-  if (!options.base.empty()) {
-    record.m_dX = LengthOf("--base X", options.base[0]);
-    record.m_dY = LengthOf("--base Y", options.base[1]);
-  }
+  record.m_dX = LengthOf("--base X", options.base.first);
+  record.m_dY = LengthOf("--base Y", options.base.second);
   CSteelJMData::CalSectCharacterStyle(record);
   return record;
 }
@@ -160,7 +159,6 @@ void AddSectionCommand(CLI::App& program) {
   command
       ->add_option("--base", options->base,
                    "Base point in mm from the lower-left corner, 0 0 if not given")
-      ->expected(2)
       ->type_name("X Y");
   command->add_option("--name", options->name, "The section's name, at most 30 characters");
   command->add_flag("--json", options->json, "As JSON, numbers with all their digits");

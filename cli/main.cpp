@@ -3,11 +3,14 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
+#include <iostream>
 #include <string>
 #include <vector>
 
 #include "commands.h"
 #include "error.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
 #include "platform/command_line.h"
 
 namespace {
@@ -20,9 +23,17 @@ int Fail(CExit exit, std::string text) {
   return static_cast<int>(exit);
 }
 
+// CLI11 takes "-.5" for an option; "-0.5" it knows for a number.
+void SpellOut(std::string& argument) {
+  if (argument.starts_with("-.") && orv3::IsNumber(orv3::FromUtf8(argument))) {
+    argument.insert(1, "0");
+  }
+}
+
 // CLI11 takes the arguments in reverse, without the program's name.
 std::vector<std::string> ForParsing(int argc, char** argv) {
   std::vector<std::string> arguments = orv3::CommandLineUtf8(argc, argv);
+  std::for_each(arguments.begin(), arguments.end(), SpellOut);
   std::reverse(arguments.begin(), arguments.end());
   if (!arguments.empty()) arguments.pop_back();
   return arguments;
@@ -48,6 +59,9 @@ int Run(int argc, char** argv) {
   program.footer("orv3cal COMMAND --help tells what a command takes.");
   for (const auto add : orv3::cli::kCommands) add(program);
   std::vector<std::string> arguments = ForParsing(argc, argv);
+  if (!std::all_of(arguments.begin(), arguments.end(), orv3::IsUtf8)) {
+    return Fail(CExit::BadInput, "an argument is not UTF-8 text");
+  }
   if (const std::string fault = UnknownCommand(program, arguments); !fault.empty()) {
     return Fail(CExit::BadInput, fault);
   }
@@ -63,10 +77,8 @@ int Run(int argc, char** argv) {
   return static_cast<int>(CExit::Done);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  orv3::UseUtf8Console();
+// Run, with every error told.
+int RunGuarded(int argc, char** argv) {
   try {
     return Run(argc, argv);
   } catch (const CExit exit) {
@@ -76,4 +88,13 @@ int main(int argc, char** argv) {
   } catch (const std::exception& error) {
     return Fail(CExit::FileTrouble, error.what());
   }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  orv3::UseUtf8Console();
+  const int status = RunGuarded(argc, argv);
+  if (std::cout.flush() && std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
+  return Fail(CExit::FileTrouble, "standard output cannot be written, is the disk full?");
 }

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <filesystem>
 
 #include "error.h"
 #include "framework/utf8.h"
@@ -26,6 +27,18 @@ const char* Reason(CFileError error) {
   return "the system refused";
 }
 
+// A folder, a device or a pipe, whose place no file must take.
+bool IsNoFile(const std::string& path) {
+  const std::filesystem::path native(std::u8string(path.begin(), path.end()));
+  std::error_code error;
+  const auto status = std::filesystem::status(native, error);
+  return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+}
+
+[[noreturn]] void NotWritten(const std::string& path, const char* reason) {
+  throw CCommandError(CExit::FileTrouble, path + ": not written, " + reason);
+}
+
 }  // namespace
 
 CJson JsonNumber(double value) { return std::isfinite(value) ? CJson(value) : CJson(nullptr); }
@@ -47,9 +60,9 @@ void Print(const std::string& text) { std::fwrite(text.data(), 1, text.size(), s
 void PrintJson(const CJson& json) { Print(json.dump(2) + '\n'); }
 
 void WriteFile(const std::string& path, const std::string& bytes) {
+  if (IsNoFile(path)) NotWritten(path, "it is not a file");
   const CFileError error = WriteWholeFile(FromUtf8(path), bytes);
-  if (error == CFileError::None) return;
-  throw CCommandError(CExit::FileTrouble, path + ": not written, " + Reason(error));
+  if (error != CFileError::None) NotWritten(path, Reason(error));
 }
 
 }  // namespace orv3::cli

@@ -38,6 +38,25 @@ TEST(SectionCommand, TakesAStyleByNumberNameAndAlias) {
   EXPECT_EQ(Json::parse(byNumber)["base"], Json({-10.0, 20.0}));
 }
 
+TEST(SectionCommand, TakesTheBasePointAnywhere) {
+  const struct {
+    const char* arguments;
+    Json base;
+  } cases[] = {
+      {"rect 200 400", {0.0, 0.0}},
+      {"rect 200 400 --base 1e1 2", {10.0, 2.0}},
+      {"rect --base -5 -6 200 400", {-5.0, -6.0}},
+      {"--base -.5 .25 rect 200 400", {-0.5, 0.25}},
+  };
+  for (const auto& c : cases) {
+    const CRunResult run = RunProgram(std::string("section ") + c.arguments + " --json");
+    ASSERT_EQ(run.m_nExit, 0) << run.m_strError;
+    const Json json = Json::parse(run.m_strOut);
+    EXPECT_EQ(json["base"], c.base) << c.arguments;
+    EXPECT_EQ(json["sizes"], Json({200.0, 400.0})) << c.arguments;
+  }
+}
+
 // A hexagon's first moments are not computed; a 0 would be taken for a result.
 TEST(SectionCommand, GivesNoNumberWhereNoneIsComputed) {
   const Json hexagon = Json::parse(RunProgram("section hexagon 100 --json").m_strOut);
@@ -67,7 +86,14 @@ TEST(SectionCommand, RefusesInOneLineThatNamesTheFault) {
       {"section 15 5", {"STYLE", "15"}},
       {"section rect 1 2 --colour red", {"--colour", "section --help"}},
       {"sections", {"sections", "styles, section"}},
+      {"section rect -.5 2", {"b(mm)", "-0.5", "above 0"}},
+      {"section rect 1 2 --base 1", {"--base"}},
       {"section rect 1 2 --svg no_such_folder/x.svg", {"no_such_folder/x.svg"}, 3},
+      {"section rect 1 2 --svg .", {".: not written", "not a file"}, 3},
+#ifndef _WIN32
+      {"section rect 1 2 --svg /dev/full", {"/dev/full", "not a file"}, 3},
+      {"section rect 1 2 >/dev/full", {"standard output"}, 3},
+#endif
   };
   for (const auto& c : cases) {
     const CRunResult run = RunProgram(c.arguments);

@@ -178,12 +178,13 @@ TEST(SectionHeading, ColumnsByStyle) {
     int result = 0;
     const std::string signs = Signs(Heading(c.style, &result));
     EXPECT_EQ(1, result);
-    EXPECT_EQ(std::string("No. ") + c.sizes + front +
-                  (c.firstMoments ? " Sxo(mm^3) Syo(mm^3)" : "") + middle +
-                  (c.firstMoments ? " Sx1(mm^3) Sx2(mm^3) SyL(mm^3) SyR(mm^3)" : "") +
-                  " ixo(mm) iyo(mm)",
-              signs)
-        << c.style;
+    std::string expected = "No. ";
+    expected.append(c.sizes).append(front);
+    if (c.firstMoments) expected += " Sxo(mm^3) Syo(mm^3)";
+    expected += middle;
+    if (c.firstMoments) expected += " Sx1(mm^3) Sx2(mm^3) SyL(mm^3) SyR(mm^3)";
+    expected += " ixo(mm) iyo(mm)";
+    EXPECT_EQ(expected, signs) << c.style;
   }
   EXPECT_EQ(23, Heading(4).GetTableColNum());
   EXPECT_EQ(36, Heading(9).GetTableColNum());
