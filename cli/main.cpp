@@ -55,6 +55,7 @@ int Run(int argc, char** argv) {
       "Sections and connection checks of structural steel, by GB 50017-2003 (the 2003 edition)",
       "orv3cal");
   program.set_version_flag("--version", "orv3cal " ORV3CAL_VERSION);
+  program.allow_windows_style_options(false);  // "/folder/file" is a path on Windows too
   program.require_subcommand(1);
   program.footer("orv3cal COMMAND --help tells what a command takes.");
   for (const auto add : orv3::cli::kCommands) add(program);
