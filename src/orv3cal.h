@@ -9,6 +9,7 @@
 #include "framework/array.h"
 #include "framework/bitmap.h"
 #include "framework/cstring.h"
+#include "framework/csv.h"
 #include "framework/drawing.h"
 #include "framework/exception.h"
 #include "framework/kvb_math.h"
