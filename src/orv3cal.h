@@ -3,6 +3,7 @@
 
 #include "catalogue/code_tables/grids.h"
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/lattice/steel_ge_gou.h"
 #include "connections/bolt_group.h"
 #include "connections/butt_weld.h"
 #include "connections/fillet_weld.h"
