@@ -1,6 +1,7 @@
 // The headings of the lattice tables.
 #include <string>
 
+#include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 
 namespace {
@@ -13,7 +14,6 @@ struct CColumn {
   const wchar_t* m_szTitle;
 };
 
-constexpr const wchar_t* kTables[] = {L"双肢格构柱", L"三肢格构柱", L"四肢格构柱"};
 constexpr const wchar_t* kOrdinals[] = {L"一", L"二", L"三", L"四"};
 
 constexpr CColumn kResults[] = {
@@ -35,19 +35,19 @@ void AddSpacings(CDataTable& table, int limbs) {
 }
 
 void AddLimb(CDataTable& table, int limb) {
-  const std::wstring sign = L"P" + std::to_wstring(limb);
+  const orv3::CLimbColumns& columns = orv3::kLimbColumns[limb - 1];
   const std::wstring title = std::wstring(L"第") + kOrdinals[limb - 1] + L"肢";
-  table.AddTableCol(title + L"类型", sign + L"Type", kText, 0);
-  table.AddTableCol(title + L"型号", sign + L"No.", kText, 0);
-  table.AddTableCol(title + L"角度", sign + L"θ°", kNumber, 0);
+  table.AddTableCol(title + L"类型", columns.m_szType, kText, 0);
+  table.AddTableCol(title + L"型号", columns.m_szNo, kText, 0);
+  table.AddTableCol(title + L"角度", columns.m_szAngle, kNumber, 0);
 }
 
 }  // namespace
 
 CSteelJMGeGou::CSteelJMGeGou(int limbs) {
   AddTableCol(L"型号", L"No.", kText, 1);
-  if (limbs >= 2 && limbs <= 4) {
-    SetTableName(kTables[limbs - 2]);
+  if (limbs >= 2 && limbs <= orv3::kMaxLimbs) {
+    SetTableName(orv3::LatticeTableName(limbs));
     AddSpacings(*this, limbs);
     for (int limb = 1; limb <= limbs; ++limb) AddLimb(*this, limb);
   }
