@@ -4,6 +4,8 @@
 #include "catalogue/code_tables/grids.h"
 #include "catalogue/code_tables/table_search.h"
 #include "catalogue/lattice/steel_ge_gou.h"
+#include "catalogue/spacing/section_spacing.h"
+#include "catalogue/spacing/steel_dis.h"
 #include "connections/bolt_group.h"
 #include "connections/butt_weld.h"
 #include "connections/fillet_weld.h"
