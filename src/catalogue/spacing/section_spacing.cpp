@@ -80,7 +80,7 @@ const CSeries* SeriesOf(std::wstring_view tableName) {
 // The row with a key; the number of rows when there is none.
 std::size_t RowOf(const CSpacingTable& table, std::wstring_view key) {
   std::size_t row = 0;
-  while (row < table.Rows() && table[row][0] != key) ++row;
+  while (row < table.Rows() && key.compare(table[row][0]) != 0) ++row;
   return row;
 }
 
@@ -88,17 +88,19 @@ CSectionSpacing RowAt(int table, std::size_t row, const CKind& kind) {
   return {table + 1, kind.m_szTitle, 0, kind.m_arrColumn, SpacingTable(table)[row].subspan(1)};
 }
 
+void AddLeg(int leg, std::vector<CSectionSpacing>& found) {
+  for (int table = 0; table < kAngleTables; ++table) {
+    const std::size_t row = RowOf(SpacingTable(table), FormatInt(leg));
+    if (row == SpacingTable(table).Rows()) continue;
+    found.push_back(RowAt(table, row, kAngleKinds[table]));
+    found.back().m_nLeg = leg;
+  }
+}
+
 std::vector<CSectionSpacing> AngleSpacings(const CLegs& legs) {
   std::vector<CSectionSpacing> found;
-  for (const int leg : {legs.m_nLong, legs.m_nShort}) {
-    if (leg == legs.m_nLong && !found.empty()) break;  // equal legs
-    for (int table = 0; table < kAngleTables; ++table) {
-      const std::size_t row = RowOf(SpacingTable(table), FormatInt(leg));
-      if (row == SpacingTable(table).Rows()) continue;
-      found.push_back(RowAt(table, row, kAngleKinds[table]));
-      found.back().m_nLeg = leg;
-    }
-  }
+  AddLeg(legs.m_nLong, found);
+  if (legs.m_nShort != legs.m_nLong) AddLeg(legs.m_nShort, found);
   return found;
 }
 
