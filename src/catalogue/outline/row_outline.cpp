@@ -48,8 +48,8 @@ COutline CustomOutline(const CSectionStyle& style, const CDataItem& row) {
 }
 
 COutline UnturnedOutline(const CDataItem& row) {
-  if (IsPairTable(row.GetTableName())) return PairOutline(row);
-  if (IsLatticeTable(row.GetTableName())) return LatticeOutline(row);
+  if (IsPairTable(row.GetTableName())) return PairOf(row).m_outline;
+  if (IsLatticeTable(row.GetTableName())) return PlaceLimbs(row).m_outline;
   const CSectionStyle* style = FindSectionStyle(row.GetTableName().View());
   return style != nullptr ? CustomOutline(*style, row) : RolledOutline(row);
 }
@@ -66,12 +66,15 @@ COutline QuarterTurned(COutline outline, int quarters) {
   return outline;
 }
 
-COutline RowOutline(const CDataItem& row, double angle) {
-  int quarters = 0;
-  for (const int turn : {1, 2, 3}) {
-    if (std::fabs(angle - 90 * turn) < 0.0001) quarters = turn;
+int QuarterTurns(double angle) {
+  for (const int turns : {1, 2, 3}) {
+    if (std::fabs(angle - 90 * turns) < 0.0001) return turns;
   }
-  return QuarterTurned(UnturnedOutline(row), quarters);
+  return 0;
+}
+
+COutline RowOutline(const CDataItem& row, double angle) {
+  return QuarterTurned(UnturnedOutline(row), QuarterTurns(angle));
 }
 
 }  // namespace orv3
