@@ -9,8 +9,8 @@
 namespace orv3 {
 
 struct COutlineMoments {
-  double m_dArea = 0;                      // mm^2
-  CPoint m_centroid;                       // mm
+  double m_dArea = 0;                       // mm^2
+  CPoint m_centroid;                        // mm
   double m_dIx = 0, m_dIy = 0, m_dIxy = 0;  // mm^4, about the centroid: of y^2, of x^2, of x y
 };
 

@@ -16,8 +16,8 @@ namespace orv3 {
 // is as wide and high as the answer says. The angle turns the section counter-clockwise, in
 // degrees; only quarter turns (within 0.0001) count.
 //
-// The parts of pairs and lattice columns are rows of the system store. A pair's parts stand apart by
-// the integer cell "a(mm)" ("δ(mm)" of the cross) right after "No.", by 0 without it.
+// The parts of pairs and lattice columns are rows of the system store. A pair's parts stand apart
+// by the integer cell "a(mm)" ("δ(mm)" of the cross) right after "No.", by 0 without it.
 //
 // Without loops when the table is none of the section tables, a size is missing, the sizes bound no
 // section, or a part is not in the system store.
