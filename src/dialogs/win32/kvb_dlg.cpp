@@ -26,12 +26,14 @@ LOGFONTW FontOf(HWND window) {
   return font;
 }
 
-SIZE FrameSize(HWND window, SIZE client, int dpi) {
-  RECT rect{0, 0, client.cx, client.cy};
-  const auto style = static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE));
-  const auto exStyle = static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE));
-  AdjustWindowRectExForDpi(&rect, style, FALSE, exStyle, static_cast<UINT>(dpi));
-  return {rect.right - rect.left, rect.bottom - rect.top};
+// The window's size around a client area of the given one.
+SIZE FrameSize(HWND window, SIZE client) {
+  RECT outer{};
+  RECT inner{};
+  GetWindowRect(window, &outer);
+  GetClientRect(window, &inner);
+  return {client.cx + (outer.right - outer.left) - inner.right,
+          client.cy + (outer.bottom - outer.top) - inner.bottom};
 }
 
 }  // namespace
@@ -59,8 +61,6 @@ void CKvbDlg::OnHelp() {
   GetWindowTextW(m_hWnd, caption.data(), length + 1);
   ShowHostHelp(CString(caption.data()));
 }
-
-LRESULT CKvbDlg::OnMessage(UINT, WPARAM, LPARAM) { return 0; }
 
 void CKvbDlg::Focus(int id) {
   SendMessageW(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(id)), TRUE);
@@ -110,11 +110,14 @@ INT_PTR CKvbDlg::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_NOTIFY:
       return HandleNotify(*reinterpret_cast<NMHDR*>(lParam));
     case WM_SIZE:
-      if (m_bReady && wParam != SIZE_MINIMIZED) m_layout.Arrange();
+      if (m_bReady && wParam != SIZE_MINIMIZED) {
+        m_layout.Arrange();
+        OnSize();
+      }
       return FALSE;
     case WM_GETMINMAXINFO:
       if (m_bReady) {
-        const SIZE size = FrameSize(m_hWnd, m_layout.TemplateSize(), m_nDpi);
+        const SIZE size = FrameSize(m_hWnd, m_layout.TemplateSize());
         reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {size.cx, size.cy};
       }
       return FALSE;
@@ -129,7 +132,7 @@ INT_PTR CKvbDlg::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       m_bReady = false;
       return FALSE;
     default:
-      return static_cast<INT_PTR>(OnMessage(message, wParam, lParam));
+      return FALSE;
   }
 }
 
@@ -176,7 +179,7 @@ void CKvbDlg::SetUpDpi() {
   if (made <= 0 || made == wanted) return;
   ScaleFont(wanted, made);
   m_layout.Scale(wanted, made);
-  const SIZE size = FrameSize(m_hWnd, m_layout.TemplateSize(), m_nDpi);
+  const SIZE size = FrameSize(m_hWnd, m_layout.TemplateSize());
   SetWindowPos(m_hWnd, nullptr, 0, 0, size.cx, size.cy,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   m_layout.Arrange();
@@ -199,7 +202,7 @@ void CKvbDlg::SetIcons() {
 void CKvbDlg::RestorePlacement() {
   CPlacement kept;
   if (m_szPlacement == nullptr || !LoadPlacement(m_szPlacement, kept)) return;
-  const SIZE least = FrameSize(m_hWnd, m_layout.TemplateSize(), m_nDpi);
+  const SIZE least = FrameSize(m_hWnd, m_layout.TemplateSize());
   const LONG width = std::max<LONG>(Scaled(kept.m_nWidth), least.cx);
   const LONG height = std::max<LONG>(Scaled(kept.m_nHeight), least.cy);
   const RECT frame = WithinScreen(

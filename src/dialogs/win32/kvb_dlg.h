@@ -41,8 +41,8 @@ class CKvbDlg {
   virtual void OnOK() { EndDialog(IDOK); }
   virtual void OnCancel() { EndDialog(IDCANCEL); }
   virtual void OnHelp();
+  virtual void OnSize() {}        // controls have been placed for another size
   virtual void OnDpiChanged() {}  // controls have been scaled: images and columns follow here
-  virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);  // whatever is left
 
   // --- For OnInitDialog -------------------------------------------------------------------------
   void Hold(int id, unsigned sides) { m_layout.Hold(id, sides); }
