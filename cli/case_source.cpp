@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "error.h"
+#include "framework/csv.h"
 #include "framework/utf8.h"
 #include "platform/whole_file.h"
 
@@ -101,9 +102,8 @@ class CJsonSource : public CCaseSource {
 class CCsvSource : public CCaseSource {
  public:
   CCsvSource(std::string bytes, const std::string& path, const CCaseSchema& schema)
-      : m_strBytes(std::move(bytes)), m_schema(schema) {
-    if (m_strBytes.starts_with("\xEF\xBB\xBF")) m_nAt = 3;
-    if (!ReadLine()) Bad(path + ": is empty; the first line holds the keys");
+      : m_csv(std::move(bytes)), m_schema(schema) {
+    if (!m_csv.Next(m_arrCell)) Bad(path + ": is empty; the first line holds the keys");
     for (const std::string_view name : m_arrCell) {
       m_arrColumn.push_back(schema.Find(name));
       if (m_arrColumn.back() < 0) Bad(path + ": " + schema.Unknown(name).Line());
@@ -112,20 +112,18 @@ class CCsvSource : public CCaseSource {
     }
   }
 
-  double Done() const noexcept override {
-    return static_cast<double>(m_nAt) / static_cast<double>(m_strBytes.size());
-  }
+  double Done() const noexcept override { return m_csv.Done(); }
 
   bool Next(CCaseValues& values, std::optional<CCaseFault>& fault) override {
     do {
-      if (!ReadLine()) return false;
+      if (!m_csv.Next(m_arrCell)) return false;
     } while (m_arrCell.size() == 1 && m_arrCell[0].empty());
     if (m_arrCell.size() > m_arrColumn.size()) {
       fault = CCaseFault{"case", "has more cells than the first line has keys", "give one a key"};
       return true;
     }
     m_arrNumber.clear();
-    m_arrNumber.reserve(m_arrCell.size() + static_cast<std::size_t>(m_nSeparators));
+    m_arrNumber.reserve(CountNumbers());
     for (std::size_t i = 0; i < m_arrCell.size(); ++i) {
       const auto key = static_cast<std::size_t>(m_arrColumn[i]);
       if (!m_arrCell[i].empty()) values[key] = Value(m_arrCell[i], m_schema.Rules()[key]);
@@ -134,51 +132,11 @@ class CCsvSource : public CCaseSource {
   }
 
  private:
-  // Splits the next line into m_arrCell; a quoted cell may hold commas, quotes and line ends.
-  bool ReadLine() {
-    if (m_nAt >= m_strBytes.size()) return false;
-    m_arrCell.clear();
-    m_nSeparators = 0;
-    const std::size_t size = m_strBytes.size();
-    while (true) {
-      m_arrCell.push_back(m_nAt < size && m_strBytes[m_nAt] == '"' ? QuotedCell() : PlainCell());
-      if (m_nAt >= size) return true;
-      const char end = m_strBytes[m_nAt++];
-      if (end == '\r' && m_nAt < size && m_strBytes[m_nAt] == '\n') ++m_nAt;
-      if (end != ',') return true;
-    }
-  }
-
-  std::string_view PlainCell() {
-    const std::size_t first = m_nAt;
-    while (m_nAt < m_strBytes.size()) {
-      const char ch = m_strBytes[m_nAt];
-      if (ch == ',' || ch == '\n' || ch == '\r') break;
-      m_nSeparators += ch == ';' ? 1 : 0;
-      ++m_nAt;
-    }
-    std::string_view cell(m_strBytes.data() + first, m_nAt - first);
-    while (cell.starts_with(' ')) cell.remove_prefix(1);
-    while (cell.ends_with(' ')) cell.remove_suffix(1);
-    return cell;
-  }
-
-  // Doubled quotes are made single in place, which only shortens the text.
-  std::string_view QuotedCell() {
-    const std::size_t first = ++m_nAt;
-    std::size_t out = first;
-    while (m_nAt < m_strBytes.size()) {
-      const char ch = m_strBytes[m_nAt++];
-      if (ch == '"') {
-        if (m_nAt >= m_strBytes.size() || m_strBytes[m_nAt] != '"') break;
-        ++m_nAt;
-      }
-      m_nSeparators += ch == ';' ? 1 : 0;
-      m_strBytes[out++] = ch;
-    }
-    const std::string_view cell(m_strBytes.data() + first, out - first);
-    PlainCell();  // what stands between the closing quote and the comma is dropped
-    return cell;
+  std::size_t CountNumbers() const {
+    std::size_t count = m_arrCell.size();
+    for (const std::string_view cell : m_arrCell)
+      count += static_cast<std::size_t>(std::count(cell.begin(), cell.end(), ';'));
+    return count;
   }
 
   static bool ReadNumber(std::string_view text, double& number) noexcept {
@@ -208,10 +166,8 @@ class CCsvSource : public CCaseSource {
     return std::span<const double>(m_arrNumber).subspan(first);
   }
 
-  std::string m_strBytes;
+  CCsvReader m_csv;
   const CCaseSchema& m_schema;
-  std::size_t m_nAt = 0;
-  int m_nSeparators = 0;
   std::vector<std::string_view> m_arrCell;
   std::vector<int> m_arrColumn;     // position of each column's key
   std::vector<double> m_arrNumber;  // of the lists of the case at hand

@@ -10,24 +10,6 @@ namespace {
 
 constexpr int kMaxChords = 256;
 
-struct CArc {
-  CPoint center;
-  double radius;
-  double start;  // angle of the first point, radians
-  double sweep;  // signed, radians
-};
-
-CArc ArcOf(const CVertex& from, const CVertex& to) {
-  const double sweep = 4 * std::atan(from.bulge);
-  const double dx = to.x - from.x;
-  const double dy = to.y - from.y;
-  // From the chord's middle to the center, as a share of the chord, to the left of its direction.
-  const double shift = (1 - from.bulge * from.bulge) / (4 * from.bulge);
-  const CPoint center{(from.x + to.x) / 2 - shift * dy, (from.y + to.y) / 2 + shift * dx};
-  return {center, std::hypot(from.x - center.x, from.y - center.y),
-          std::atan2(from.y - center.y, from.x - center.x), sweep};
-}
-
 CPoint PointAt(const CArc& arc, double part) {
   const double angle = arc.start + arc.sweep * part;
   return {arc.center.x + arc.radius * std::cos(angle), arc.center.y + arc.radius * std::sin(angle)};
@@ -61,21 +43,34 @@ void AddArcExtremes(CBox& box, bool& first, const CArc& arc) {
   }
 }
 
-void AddRoundedCorner(CPath& path, const CCorner& before, const CCorner& at, const CCorner& after) {
+// A corner with the unit vectors along its edges.
+struct CBend {
+  CPoint u;          // towards the corner before
+  CPoint v;          // towards the corner after
+  double angle = 0;  // between them
+  double cut = 0;    // from the corner to the ends of its arc; 0 for a sharp one
+};
+
+CBend BendOf(const CCorner& before, const CCorner& at, const CCorner& after) {
   const double toBefore = std::hypot(before.x - at.x, before.y - at.y);
   const double toAfter = std::hypot(after.x - at.x, after.y - at.y);
-  if (!(at.radius > 0) || toBefore == 0 || toAfter == 0) {
+  if (!(at.radius > 0) || toBefore == 0 || toAfter == 0) return {};
+  CBend bend{{(before.x - at.x) / toBefore, (before.y - at.y) / toBefore},
+             {(after.x - at.x) / toAfter, (after.y - at.y) / toAfter}};
+  bend.angle = std::acos(std::clamp(bend.u.x * bend.v.x + bend.u.y * bend.v.y, -1.0, 1.0));
+  bend.cut = at.radius / std::tan(bend.angle / 2);
+  return bend;
+}
+
+void AddBend(CPath& path, const CCorner& at, const CBend& bend, double cut) {
+  if (!(cut > 0)) {
     path.m_arrVertex.push_back({at.x, at.y, 0});
     return;
   }
-  const CPoint u{(before.x - at.x) / toBefore, (before.y - at.y) / toBefore};
-  const CPoint v{(after.x - at.x) / toAfter, (after.y - at.y) / toAfter};
-  const double turn = u.y * v.x - u.x * v.y;  // positive where the path turns left
-  const double angle = std::acos(std::clamp(u.x * v.x + u.y * v.y, -1.0, 1.0));
-  const double cut = std::min({at.radius / std::tan(angle / 2), 0.5 * toBefore, 0.5 * toAfter});
-  const double bulge = std::copysign(std::tan((std::numbers::pi - angle) / 4), turn);
-  path.m_arrVertex.push_back({at.x + u.x * cut, at.y + u.y * cut, bulge});
-  path.m_arrVertex.push_back({at.x + v.x * cut, at.y + v.y * cut, 0});
+  const double turn = bend.u.y * bend.v.x - bend.u.x * bend.v.y;  // positive for a left turn
+  const double bulge = std::copysign(std::tan((std::numbers::pi - bend.angle) / 4), turn);
+  path.m_arrVertex.push_back({at.x + bend.u.x * cut, at.y + bend.u.y * cut, bulge});
+  path.m_arrVertex.push_back({at.x + bend.v.x * cut, at.y + bend.v.y * cut, 0});
 }
 
 }  // namespace
@@ -97,10 +92,31 @@ CPath LinePath(CPoint from, CPoint to) { return {{{from.x, from.y, 0}, {to.x, to
 CPath RoundedPath(std::span<const CCorner> corners) {
   CPath path;
   const std::size_t n = corners.size();
+  std::vector<CBend> bends(n);
+  for (std::size_t i = 0; i < n; ++i)
+    bends[i] = BendOf(corners[(i + n - 1) % n], corners[i], corners[(i + 1) % n]);
+  // What a bend may take of the edge that it shares with another.
+  const auto room = [&](std::size_t i, std::size_t other) {
+    const double edge =
+        std::hypot(corners[i].x - corners[other].x, corners[i].y - corners[other].y);
+    return std::max(edge / 2, edge - bends[other].cut);
+  };
   for (std::size_t i = 0; i < n; ++i) {
-    AddRoundedCorner(path, corners[(i + n - 1) % n], corners[i], corners[(i + 1) % n]);
+    const double fits = std::min(room(i, (i + n - 1) % n), room(i, (i + 1) % n));
+    AddBend(path, corners[i], bends[i], std::min(bends[i].cut, fits));
   }
   return path;
+}
+
+CArc EdgeArc(const CVertex& from, const CVertex& to) {
+  const double sweep = 4 * std::atan(from.bulge);
+  const double dx = to.x - from.x;
+  const double dy = to.y - from.y;
+  // From the chord's middle to the center, as a share of the chord, to the left of its direction.
+  const double shift = (1 - from.bulge * from.bulge) / (4 * from.bulge);
+  const CPoint center{(from.x + to.x) / 2 - shift * dy, (from.y + to.y) / 2 + shift * dx};
+  return {center, std::hypot(from.x - center.x, from.y - center.y),
+          std::atan2(from.y - center.y, from.x - center.x), sweep};
 }
 
 CPath Moved(CPath path, double dx, double dy) {
@@ -148,7 +164,7 @@ CBox PathBounds(std::span<const CPath> paths) {
   for (const CPath& path : paths) {
     for (const CVertex& v : path.m_arrVertex) AddPoint(box, first, {v.x, v.y});
     ForEachEdge(path, [&](const CVertex& from, const CVertex& to) {
-      if (from.bulge != 0) AddArcExtremes(box, first, ArcOf(from, to));
+      if (from.bulge != 0) AddArcExtremes(box, first, EdgeArc(from, to));
     });
   }
   return box;
@@ -160,7 +176,7 @@ std::vector<CPoint> Flattened(const CPath& path, double tolerance) {
   points.push_back({path.m_arrVertex[0].x, path.m_arrVertex[0].y});
   ForEachEdge(path, [&](const CVertex& from, const CVertex& to) {
     if (from.bulge != 0) {
-      const CArc arc = ArcOf(from, to);
+      const CArc arc = EdgeArc(from, to);
       const double step = 2 * std::acos(std::clamp(1 - tolerance / arc.radius, 0.0, 0.999));
       const int chords = static_cast<int>(
           std::clamp(std::ceil(std::fabs(arc.sweep) / step), 1.0, 1.0 * kMaxChords));

@@ -37,6 +37,15 @@ struct CCorner {
   double radius = 0;
 };
 
+// The circle and the angles (radians) that an arc covers; the sweep is negative when it runs
+// clockwise.
+struct CArc {
+  CPoint center;
+  double radius = 0;
+  double start = 0;  // angle of the first point
+  double sweep = 0;
+};
+
 struct CBox {
   double left = 0;
   double bottom = 0;
@@ -49,9 +58,12 @@ struct CBox {
 ORV3CAL_API CPath RectPath(double left, double bottom, double width, double height);
 ORV3CAL_API CPath CirclePath(CPoint center, double radius);
 ORV3CAL_API CPath LinePath(CPoint from, CPoint to);
-// The closed polygon through the corners with each rounded by its radius; a radius that does not
-// fit is lessened so that no arc takes more than half of an edge.
+// The closed polygon through the corners with each rounded by its radius. Arcs that do not fit on
+// an edge together are lessened to half of it, or to what the smaller one leaves.
 ORV3CAL_API CPath RoundedPath(std::span<const CCorner> corners);
+
+// The arc of an edge with a bulge (not 0).
+ORV3CAL_API CArc EdgeArc(const CVertex& from, const CVertex& to);
 
 ORV3CAL_API CPath Moved(CPath path, double dx, double dy);
 // Turned counter-clockwise about the origin.

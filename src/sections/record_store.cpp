@@ -62,6 +62,15 @@ std::int64_t EndOf(const FileInfo& info) {
 
 bool IsGroup(int group) { return group >= kSingleGroup && group < kSystemGroups; }
 
+// Where a group begins that is used for the first time: at its own place, or behind the group
+// before it where that has moved on to there.
+std::int64_t FirstOffset(const CStoreFile& file, int group) {
+  const std::int64_t offset = kFirstSlot + std::int64_t{kGroupStep} * group;
+  FileInfo before;
+  if (group == 0 || !ReadGroup(file, group - 1, before) || EndOf(before) < offset) return offset;
+  return offset + ((EndOf(before) - offset) / kGroupStep + 1) * kGroupStep;
+}
+
 // Group headers that a new store, or a group used for the first time, does not have yet.
 bool WriteMissingHeaders(CStoreFile& file, int group) {
   FileInfo info;
@@ -72,7 +81,9 @@ bool WriteMissingHeaders(CStoreFile& file, int group) {
   if (ReadGroup(file, group, info)) return true;
   for (int g = 0; g <= std::max(group, 0); ++g) {
     if (ReadGroup(file, g, info)) continue;
-    if (!WriteInfo(file, GroupHeaderAt(g), {g, kFirstSlot + kGroupStep * g, 0})) return false;
+    const std::int64_t offset = FirstOffset(file, g);
+    if (offset > kMaxStore) return false;
+    if (!WriteInfo(file, GroupHeaderAt(g), {g, static_cast<int>(offset), 0})) return false;
   }
   return true;
 }
@@ -106,19 +117,38 @@ bool MakeRoom(CStoreFile& file, int group, std::int64_t end) {
   return true;
 }
 
-// Whether a group's header can be true of the file: its slots lie behind the headers, before those
-// of the groups after it, and not further behind the end of the file than groups that are still
-// empty can be.
-bool IsPlausible(const CStoreFile& file, int group, const FileInfo& info) {
-  const int headersEnd = group == kSingleGroup ? kGroupHeaderStep + 12 : kGroupHeadersEnd;
-  const auto size = static_cast<std::int64_t>(file.Size());
-  if (info.m_nOffset < headersEnd) return false;
-  if (EndOf(info) > size + kFirstSlot + std::int64_t{kSystemGroups + 1} * kGroupStep) return false;
-  for (int g = group + 1; group != kSingleGroup && g < kSystemGroups; ++g) {
-    FileInfo other;
-    if (ReadGroup(file, g, other) && other.m_nOffset < EndOf(info)) return false;
+// Whether the groups before one lie between the headers and it, and those after it behind it in
+// their order without a gap among their headers: only then does its growth meet none that does not
+// move on.
+bool IsInOrder(const CStoreFile& file, int group, const FileInfo& info) {
+  FileInfo other;
+  for (int g = 0; g < group; ++g) {
+    if (!ReadGroup(file, g, other)) continue;
+    if (other.m_nOffset < kGroupHeadersEnd || EndOf(other) > info.m_nOffset) return false;
+  }
+  std::int64_t behind = EndOf(info);
+  bool last = false;
+  for (int g = group + 1; g < kSystemGroups; ++g) {
+    if (!ReadGroup(file, g, other)) {
+      last = true;
+    } else if (last || other.m_nOffset < behind) {
+      return false;
+    } else {
+      behind = other.m_nOffset;
+    }
   }
   return true;
+}
+
+// Whether a group's header can be true of the file: its slots lie behind the headers, apart from
+// those of the other groups, and not further behind the end of the file than groups that are still
+// empty can be.
+bool IsPlausible(const CStoreFile& file, int group, const FileInfo& info) {
+  const bool single = group == kSingleGroup;
+  const auto size = static_cast<std::int64_t>(file.Size());
+  if (info.m_nOffset < (single ? kGroupHeaderStep + 12 : kGroupHeadersEnd)) return false;
+  if (EndOf(info) > size + kFirstSlot + std::int64_t{kSystemGroups + 1} * kGroupStep) return false;
+  return single || IsInOrder(file, group, info);
 }
 
 int Damaged(const CStoreFile& file) {

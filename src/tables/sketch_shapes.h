@@ -1,5 +1,5 @@
-// Outlines of section shapes from a few sizes, for sketches: proportions are chosen to be seen, not
-// to scale. Each shape has its bounding box's lower-left corner at the origin.
+// Outlines of section shapes from their sizes. Sketches give them proportions chosen to be seen,
+// outlines of rows true ones. Each shape has its bounding box's lower-left corner at the origin.
 #pragma once
 
 #include <span>

@@ -166,6 +166,20 @@ TEST_F(RecordStore, AGroupThatGrowsMovesThoseBehindIt) {
   }
 }
 
+// Group 1, moved on by group 0, is where group 2 has its own place in a new store.
+TEST_F(RecordStore, AGroupUsedLateStartsBehindThoseThatMovedOn) {
+  ASSERT_EQ(Save(Records(99), 0, m_path), 1);
+  ASSERT_EQ(Save(Records(3, L"S"), 1, m_path), 1);
+  ASSERT_EQ(Save(Records(1, L"N"), 0, m_path), 1);
+  const std::string earlier = Names(m_path, 0) + Names(m_path, 1);
+  ASSERT_EQ(Save(Records(2, L"T"), 2, m_path), 1);
+  EXPECT_EQ(Names(m_path, 0) + Names(m_path, 1), earlier);
+  EXPECT_EQ(Names(m_path, 2), "T0 T1 ");
+  std::string header(12, '\0');
+  PutInts(header, 0, {2, 140000, 2});
+  EXPECT_EQ(Bytes(m_path).substr(150, 12), header);
+}
+
 TEST_F(RecordStore, TheThreeStoresAreInTheCurrentFolder) {
   const auto before = std::filesystem::current_path();
   std::filesystem::current_path(std::filesystem::path(std::wstring(m_folder.Path().View())));
@@ -222,6 +236,10 @@ TEST_F(RecordStore, DamagedStores) {
       {"offset beyond the file", store({-1, 16, 0}, {0, kBig, 1}, {}), 1, 1, 0},
       {"the next group inside", store({-1, 16, 0}, {0, 5000, 10}, {1, 6000, 1}), 1, 10, 0},
       {"the next group in the headers", store({-1, 16, 0}, {0, 5000, 0}, {1, 60, 1}), 1, 0, 0},
+      {"a group missing before another",
+       store({-1, 16, 0}, {0, 5000, 0}, {})
+           .replace(150, 12, std::string("\2\0\0\0\0\x40\0\0\0\0\0\0", 12)),
+       1, 0, 0},
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.name);

@@ -1,0 +1,95 @@
+#include "catalogue/lattice/lattice_limbs.h"
+
+#include <array>
+
+#include "sections/load_data_table.h"
+
+namespace orv3 {
+namespace {
+
+constexpr std::wstring_view kTables[] = {L"双肢格构柱", L"三肢格构柱", L"四肢格构柱"};
+
+bool Read(const CDataItem& row, std::wstring_view sign, double& value) {
+  return row.GetCellValue(row.GetSignIndex(sign), value) != 0;
+}
+
+}  // namespace
+
+std::wstring_view LatticeTableName(int limbs) noexcept {
+  return limbs >= 2 && limbs <= kMaxLimbs ? kTables[limbs - 2] : std::wstring_view();
+}
+
+int LatticeLimbCount(std::wstring_view tableName) noexcept {
+  for (int limbs = 2; limbs <= kMaxLimbs; ++limbs) {
+    if (tableName == LatticeTableName(limbs)) return limbs;
+  }
+  return 0;
+}
+
+bool CLatticeLimbs::Fetch(const CSteelItemGeGou& column) {
+  const int limbs = LatticeLimbCount(column.m_strTableName);
+  m_arrLimb.resize(static_cast<std::size_t>(limbs));
+  for (int i = 0; i < limbs; ++i) {
+    CLatticeLimb& limb = m_arrLimb[static_cast<std::size_t>(i)];
+    limb.m_row = column.GetPartItem(i + 1);
+    if (limb.m_row.IsEmpty()) return false;
+    limb.m_dArea = CLoadDataTable::GetDataItemArea(limb.m_row);
+  }
+  return limbs > 0;
+}
+
+bool CLatticeLimbs::Place(const CSteelItemGeGou& column) {
+  for (std::size_t i = 0; i < m_arrLimb.size(); ++i) {
+    if (!Read(column, kLimbColumns[i].m_szAngle, m_arrLimb[i].m_dAngle)) return false;
+  }
+  const bool two = m_arrLimb.size() == 2;
+  if (!two && !Read(column, L"kx(mm)", m_dKx)) return false;
+  if (!Read(column, two ? L"k(mm)" : L"ky(mm)", m_dKy)) return false;
+  const auto places = LatticePlacement(static_cast<int>(m_arrLimb.size()), m_dKx, m_dKy);
+  for (std::size_t i = 0; i < m_arrLimb.size(); ++i) {
+    CLatticeLimb& limb = m_arrLimb[i];
+    CLimbBox& box = limb.m_box;
+    CLoadDataTable::GetDataItemRect(limb.m_row, box.m_width, box.m_height, limb.m_dAngle);
+    CLoadDataTable::GetDataItemCenter(limb.m_row, box.m_cx, box.m_cy, limb.m_dAngle);
+    CLoadDataTable::GetDataItemIo(limb.m_row, limb.m_dIx, limb.m_dIy, limb.m_dAngle);
+    limb.m_at = places[i];
+  }
+  return true;
+}
+
+double CLatticeLimbs::Area() const noexcept {
+  double area = 0;
+  for (const CLatticeLimb& limb : m_arrLimb) area += limb.m_dArea;
+  return area;
+}
+
+CLatticeReach CLatticeLimbs::Reach() const {
+  std::array<CLimbBox, kMaxLimbs> boxes;
+  for (std::size_t i = 0; i < m_arrLimb.size(); ++i) boxes[i] = m_arrLimb[i].m_box;
+  return LatticeReach(std::span(boxes).first(m_arrLimb.size()), m_dKx, m_dKy);
+}
+
+CLatticeProperties CLatticeLimbs::Properties() const {
+  CLatticeProperties p;
+  p.m_dA = Area();
+  for (const CLatticeLimb& limb : m_arrLimb) {
+    p.m_dXo += p.m_dA == 0 ? 0 : limb.m_dArea * limb.m_at.m_x / p.m_dA;
+    p.m_dYo += p.m_dA == 0 ? 0 : limb.m_dArea * limb.m_at.m_y / p.m_dA;
+  }
+  for (const CLatticeLimb& limb : m_arrLimb) {
+    const double dx = limb.m_at.m_x - p.m_dXo;
+    const double dy = limb.m_at.m_y - p.m_dYo;
+    p.m_dIx += limb.m_dIx + limb.m_dArea * dy * dy;
+    p.m_dIy += limb.m_dIy + limb.m_dArea * dx * dx;
+  }
+  const CLatticeReach reach = Reach();
+  p.m_dWx1 = CLoadDataTable::CalDataItemWo(p.m_dIx, reach.m_above - p.m_dYo);
+  p.m_dWx2 = CLoadDataTable::CalDataItemWo(p.m_dIx, reach.m_below + p.m_dYo);
+  p.m_dWyL = CLoadDataTable::CalDataItemWo(p.m_dIy, reach.m_left + p.m_dXo);
+  p.m_dWyR = CLoadDataTable::CalDataItemWo(p.m_dIy, reach.m_right - p.m_dXo);
+  p.m_dixo = CLoadDataTable::CalDataItemRio(p.m_dIx, p.m_dA);
+  p.m_diyo = CLoadDataTable::CalDataItemRio(p.m_dIy, p.m_dA);
+  return p;
+}
+
+}  // namespace orv3

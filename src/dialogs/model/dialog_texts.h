@@ -1,0 +1,114 @@
+// The texts that the dialogs show, all of them: captions, questions, refusals.
+#pragma once
+
+namespace orv3::texts {
+
+// --- Browser
+// --------------------------------------------------------------------------------------
+inline constexpr wchar_t kBrowserCaption[] = L"钢结构截面特性数据库";
+inline constexpr wchar_t kCatalogueRoot[] = L"标准型钢库";
+inline constexpr wchar_t kCustomRoot[] = L"自定义型钢库";
+inline constexpr wchar_t kImportTitle[] = L"导入截面数据";
+inline constexpr wchar_t kExportTitle[] = L"导出截面数据";
+inline constexpr wchar_t kDataFileFilter[] = L"型钢数据文件 (*.Kvb)";
+inline constexpr wchar_t kTableFileFilter[] = L"截面库文件 (*.KDB)";
+
+// --- Titles of message boxes
+// ------------------------------------------------------------------------
+inline constexpr wchar_t kReminder[] = L"Orvo提醒您";
+inline constexpr wchar_t kProtectedReminder[] = L"orvo提醒您";
+
+// --- Refusals and questions of the browser
+// ----------------------------------------------------------
+inline constexpr wchar_t kProtectedRow[] = L"本数据记录不能删除和编辑!";
+inline constexpr wchar_t kNoCopyOfCombined[] = L"型钢组合不能进行复制";
+inline constexpr wchar_t kOverwriteQuestion[] =
+    L"选择确定将覆盖所有相同型号数据!\n是否覆盖已有型号数据？";
+inline constexpr wchar_t kDeleteQuestion[] = L"是否删除所选数据记录？";
+inline constexpr wchar_t kRowGone[] = L"该条数据记录已被其他程序修改或删除，请重新选择!";
+inline constexpr wchar_t kNoDefaultRow[] = L"请先选择一条数据记录作为新记录的样本!";
+inline constexpr wchar_t kNothingToExport[] = L"没有可以导出的截面表!";
+inline constexpr wchar_t kExportIntoItself[] = L"不能导出到正在使用的截面库文件，请另选文件名!";
+inline constexpr wchar_t kExportDone[] = L"导出完成，截面表个数：";
+inline constexpr wchar_t kImportDone[] = L"导入完成，文件个数：";
+inline constexpr wchar_t kImportFailed[] = L"以下文件未能导入：";
+inline constexpr wchar_t kImporting[] = L"正在导入截面数据";
+inline constexpr wchar_t kExporting[] = L"正在导出截面数据";
+
+// --- Failures of stores
+// -----------------------------------------------------------------------------
+inline constexpr wchar_t kSaveFailed[] = L"数据保存失败：";
+inline constexpr wchar_t kReadFailed[] = L"数据读取失败：";
+
+// --- Property dialog
+// --------------------------------------------------------------------------------
+inline constexpr wchar_t kPropertyEdit[] = L"截面特性参数设置";
+inline constexpr wchar_t kPropertyShow[] = L"截面特性参数查询";
+inline constexpr wchar_t kCancel[] = L"取消";
+inline constexpr wchar_t kLeave[] = L"退出";
+inline constexpr wchar_t kParameterName[] = L"参数名称";
+inline constexpr wchar_t kParameterValue[] = L"参数值";
+inline constexpr wchar_t kNotANumber[] = L"请输入数字：";
+inline constexpr wchar_t kNotAWholeNumber[] = L"请输入整数：";
+inline constexpr wchar_t kNotOneCharacter[] = L"请输入一个字符：";
+inline constexpr wchar_t kNumberMissing[] = L"请输入型钢型号!";
+inline constexpr wchar_t kTooLong[] = L"内容不能超过30个字符：";
+inline constexpr wchar_t kBadCharacter[] = L"内容不能含有逗号或换行：";
+inline constexpr wchar_t kLimbMissing[] =
+    L"不能计算格构柱截面特性，请检查各肢的类型、型号、角度和肢距!";
+
+// --- Spacing and number
+// -----------------------------------------------------------------------------
+inline constexpr wchar_t kSpacingCaption[] = L"型钢组合肢距输入";
+inline constexpr wchar_t kSpacingA[] = L"肢距a(mm)";
+inline constexpr wchar_t kSpacingDelta[] = L"肢距δ(mm)";
+inline constexpr wchar_t kSpacingName[] = L"肢距";
+inline constexpr wchar_t kSpacingSignA[] = L"a(mm)";
+inline constexpr wchar_t kSpacingSignDelta[] = L"δ(mm)";
+inline constexpr wchar_t kSignCaption[] = L"型钢型号输入";
+
+// --- Columns and table names
+// ------------------------------------------------------------------------
+inline constexpr wchar_t kColumnCaption[] = L"选择显示项";
+inline constexpr wchar_t kNoColumn[] = L"请至少选择一个显示项!";
+inline constexpr wchar_t kTableNameCaption[] = L"选择截面表";
+inline constexpr wchar_t kNoTableChosen[] = L"请至少选择一个截面表!";
+
+// --- User tables
+// ------------------------------------------------------------------------------------
+inline constexpr wchar_t kUserTableCaption[] = L"用户截面库";
+inline constexpr wchar_t kEmptyTable[] = L"空白表";
+inline constexpr wchar_t kNewTable[] = L"新建截面表";
+inline constexpr wchar_t kRenameTable[] = L"截面表改名";
+inline constexpr wchar_t kDeleteTable[] = L"删除截面表";
+inline constexpr wchar_t kAddRow[] = L"增加记录";
+inline constexpr wchar_t kEditRow[] = L"修改记录";
+inline constexpr wchar_t kDeleteRow[] = L"删除记录";
+inline constexpr wchar_t kAddColumn[] = L"增加列";
+inline constexpr wchar_t kEditColumn[] = L"修改列";
+inline constexpr wchar_t kDeleteColumn[] = L"删除列";
+inline constexpr wchar_t kTableNameLabel[] = L"截面表名称：";
+inline constexpr wchar_t kTableNameMissing[] = L"请输入截面表名称!";
+inline constexpr wchar_t kTableNameTooLong[] = L"截面表名称不能超过64个字符!";
+inline constexpr wchar_t kTableNameTaken[] = L"该截面表名称已经存在!";
+inline constexpr wchar_t kTableNameComma[] = L"截面表名称不能含有逗号或换行!";
+inline constexpr wchar_t kColumnName[] = L"列名称";
+inline constexpr wchar_t kColumnSign[] = L"列标识";
+inline constexpr wchar_t kColumnType[] = L"数据类型";
+inline constexpr wchar_t kColumnKey[] = L"关键字";
+inline constexpr wchar_t kYes[] = L"是";
+inline constexpr wchar_t kNo[] = L"否";
+inline constexpr wchar_t kSignMissing[] = L"请输入列标识!";
+inline constexpr wchar_t kSignTooLong[] = L"列标识不能超过20个字符!";
+inline constexpr wchar_t kSignTaken[] = L"该列标识已经存在!";
+inline constexpr wchar_t kNameTooLong[] = L"列名称不能超过64个字符!";
+inline constexpr wchar_t kColumnComma[] = L"列名称和列标识不能含有逗号或换行!";
+inline constexpr wchar_t kFixedColumns[] = L"本截面表的列由截面类型确定，不能修改!";
+inline constexpr wchar_t kValuesDoNotFit[] = L"已有数据不符合新的数据类型：";
+inline constexpr wchar_t kDuplicateKeys[] = L"已有数据在新的关键字下重复!";
+inline constexpr wchar_t kDeleteTableQuestion[] = L"是否删除所选截面表？";
+inline constexpr wchar_t kSaveQuestion[] = L"截面表已经修改，是否保存？";
+inline constexpr wchar_t kChangedByOthers[] =
+    L"下列截面表已被其他程序修改，原文件予以保留，本次修改另存为新文件：";
+
+}  // namespace orv3::texts

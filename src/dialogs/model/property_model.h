@@ -1,0 +1,66 @@
+// CPropertyModel: the parameters of one section row, shown or edited (CPropertyDlg).
+//
+// One grid line per cell of the row. In edit mode a change recomputes what follows from it at once:
+// the properties of a user-defined section from its sizes, those of a lattice column from its
+// limbs.
+#pragma once
+
+#include <functional>
+
+#include "dialogs/model/dialog_user.h"
+#include "dialogs/model/edit_grid_model.h"
+#include "framework/bitmap.h"
+#include "framework/cstring.h"
+#include "tables/data_item.h"
+
+namespace orv3 {
+
+class CPropertyModel {
+ public:
+  // What is to become of the edited row when OK is pressed; false, after a message of its own,
+  // keeps the dialog open. It may change the row.
+  using CAccept = std::function<bool(CDataItem& row, CDialogUser& user)>;
+
+  // `editMode` 0 shows the row, any other value lets it be edited.
+  CPropertyModel(const CDataItem& row, const CString& tableName, int editMode);
+  void SetAccept(CAccept accept) { m_fnAccept = std::move(accept); }
+
+  CString Caption() const;
+  CString CancelText() const;
+  bool HasOk() const noexcept { return m_nEditMode != 0; }
+  const CEditGridModel& Grid() const noexcept { return m_grid; }
+  CBitmap Picture() const;  // the sketch of the table's sections
+  int PictureResource() const;
+
+  // The user's text for the value of a line; every line may have changed afterwards. A text that
+  // the line cannot hold stays there until OK refuses it.
+  void SetValue(int line, const CString& text);
+
+  // True when the dialog ends. After false, and a message, the line to go to is FaultLine.
+  bool Ok(CDialogUser& user);
+  int FaultLine() const noexcept { return m_nFaultLine; }  // -1 when no line is at fault
+  const CDataItem& Row() const noexcept { return m_row; }
+
+ private:
+  enum class CSource { Rolled, Custom, Lattice };
+
+  void FillGrid();
+  void ShowValues();
+  void SetModifyTypes();
+  void SetLimbChoices(int limb);
+  void ChooseFirstNumber(int limb);
+  bool IsComputed(int line) const;
+  int Compute();
+  int FindFault(CString& text) const;
+  bool Refuse(CDialogUser& user, int line, const CString& text);
+
+  CDataItem m_row;
+  CString m_strTable;
+  int m_nEditMode;
+  CSource m_nSource;
+  CEditGridModel m_grid;
+  CAccept m_fnAccept;
+  int m_nFaultLine = -1;
+};
+
+}  // namespace orv3
