@@ -1,6 +1,6 @@
 // Two equal rolled sections as one. A pair stands like its components: angles with their
-// outstanding legs at the top. The columns for a spacing belong to the axis that lies between the
-// components, which is y in a pair and X1 in a cross.
+// outstanding legs at the bottom. The columns for a spacing belong to the axis that lies between
+// the components, which is y in a pair and X1 in a cross.
 #include "sections/geometry/families.h"
 #include "sections/geometry/formulas.h"
 
@@ -20,8 +20,8 @@ constexpr CFamily AnglePair(std::wstring_view table, std::wstring_view component
       .m_Iy = PairIy,
       .m_ix = L"ix(cm)",
       .m_iy = PairRadiusY,
-      .m_Wx1 = L"Wxmax(cm^3)",
-      .m_Wx2 = L"Wxmin(cm^3)",
+      .m_Wx1 = L"Wxmin(cm^3)",
+      .m_Wx2 = L"Wxmax(cm^3)",
       .m_WyL = PairModulusY,
       .m_WyR = PairModulusY,
       .m_Sx = PairMoment,

@@ -1,7 +1,7 @@
 // Rolled and cold-formed sections.
 //
-// An angle stands with its heel at the upper left: one leg down the left side, the other along the
-// top; a T with its flange at the top, a channel with its back on the left.
+// An angle stands with its heel at the lower left, a T with its flange at the top, a channel with
+// its back on the left.
 #include "sections/geometry/families.h"
 #include "sections/geometry/formulas.h"
 
@@ -152,16 +152,16 @@ constexpr CFamily kEqualAngle{
     .m_width = L"b(mm)",
     .m_height = L"b(mm)",
     .m_x = L"zo(cm)",
-    .m_y = {BelowTop, L"zo(cm)"},
+    .m_y = L"zo(cm)",
     .m_Ix = L"Ix(cm^4)",
     .m_Iy = L"Ix(cm^4)",
     .m_ix = L"ixo(cm)",
     .m_iy = L"iyo(cm)",
-    .m_Wx1 = L"Wxmax(cm^3)",
-    .m_Wx2 = L"Wxmin(cm^3)",
+    .m_Wx1 = L"Wxmin(cm^3)",
+    .m_Wx2 = L"Wxmax(cm^3)",
     .m_WyL = L"Wxmax(cm^3)",
     .m_WyR = L"Wxmin(cm^3)",
-    .m_Sx = {HotAngleMoment, L"zo(cm)"},
+    .m_Sx = HotAngleMoment,
     .m_arrPlate = {L"t(mm)"},
     .m_e0 = AngleShearCentre,
 };
@@ -172,16 +172,16 @@ constexpr CFamily kUnequalAngle{
     .m_width = L"b(mm)",
     .m_height = L"B(mm)",
     .m_x = L"xo(cm)",
-    .m_y = {BelowTop, L"yo(cm)"},
+    .m_y = L"yo(cm)",
     .m_Ix = L"Ix(cm^4)",
     .m_Iy = L"Iy(cm^4)",
     .m_ix = L"ix(cm)",
     .m_iy = L"iy(cm)",
-    .m_Wx1 = L"Wxmax(cm^3)",
-    .m_Wx2 = L"Wxmin(cm^3)",
+    .m_Wx1 = L"Wxmin(cm^3)",
+    .m_Wx2 = L"Wxmax(cm^3)",
     .m_WyL = L"Wymax(cm^3)",
     .m_WyR = L"Wymin(cm^3)",
-    .m_Sx = {HotAngleMoment, L"yo(cm)"},
+    .m_Sx = HotAngleMoment,
     .m_arrPlate = {L"t(mm)"},
     .m_e0 = AngleShearCentre,
 };
@@ -193,13 +193,13 @@ constexpr CFamily ColdAngle(std::wstring_view table, CFormula moment, CSource wa
       .m_width = L"b(mm)",
       .m_height = L"b(mm)",
       .m_x = L"yo(cm)",
-      .m_y = {BelowTop, L"yo(cm)"},
+      .m_y = L"yo(cm)",
       .m_Ix = L"Ixo(cm^4)",
       .m_Iy = L"Ixo(cm^4)",
       .m_ix = L"ixo(cm)",
       .m_iy = L"ixo(cm)",
-      .m_Wx1 = L"Wxomax(cm^3)",
-      .m_Wx2 = L"Wxomin(cm^3)",
+      .m_Wx1 = L"Wxomin(cm^3)",
+      .m_Wx2 = L"Wxomax(cm^3)",
       .m_WyL = L"Wxomax(cm^3)",
       .m_WyR = L"Wxomin(cm^3)",
       .m_Sx = moment,

@@ -1,6 +1,5 @@
-// First moments of the part on one side of the horizontal centroidal axis, for rows that have no
-// column for it: of the part above in sections with a horizontal axis of symmetry, of the part
-// below in the others, which is the same.
+// First moments about the horizontal centroidal axis, for rows that have no column for it: of the
+// part above it, or, which is the same, of the part below.
 #include <array>
 #include <cmath>
 #include <numbers>
@@ -55,11 +54,10 @@ std::optional<double> RoundTubeMoment(const CDataItem& row, const CFamily& famil
   return read.Give((R * R * R - r * r * r) * 2 / 3);
 }
 
-std::optional<double> HotAngleMoment(const CDataItem& row, const CFamily& family,
-                                     const CCell& cell) {
+std::optional<double> HotAngleMoment(const CDataItem& row, const CFamily& family, const CCell&) {
   CReader read(row, family);
   const double width = read(&CFamily::m_width), height = read(&CFamily::m_height);
-  return read.Give(AngleMoment(width, height, read(L"t(mm)"), read(L"r(mm)"), read(cell)));
+  return read.Give(AngleMoment(width, height, read(L"t(mm)"), read(L"r(mm)"), read(&CFamily::m_y)));
 }
 
 std::optional<double> ColdAngleMoment(const CDataItem& row, const CFamily& family, const CCell&) {

@@ -9,7 +9,6 @@ namespace orv3 {
 // --------------------------------------------------
 CFormulaFunction HalfWidth;
 CFormulaFunction HalfHeight;
-CFormulaFunction BelowTop;        // height less the cell
 CFormulaFunction Twice;           // of the cell
 CFormulaFunction TextNumber;      // the cell as a number, KVBT_STRING too
 CFormulaFunction ZWidth;          // two flanges that share the web
@@ -30,7 +29,7 @@ CFormulaFunction WideHMoment;
 CFormulaFunction TMoment;
 CFormulaFunction SquareTubeMoment;
 CFormulaFunction RoundTubeMoment;
-CFormulaFunction HotAngleMoment;  // the cell: centroid below the top
+CFormulaFunction HotAngleMoment;
 CFormulaFunction ColdAngleMoment;
 CFormulaFunction LippedAngleMoment;
 CFormulaFunction ColdChannelMoment;

@@ -33,15 +33,15 @@ class CPart {
   double Gap() const { return m_gap; }
   double Width() { return Turned() ? OwnHeight() : OwnWidth(); }
   double Height() { return Turned() ? OwnWidth() : OwnHeight(); }
-  // Centroid from the back, and below the top.
-  double Back() { return Turned() ? OwnDepth() : m_read(&CFamily::m_x); }
-  double Depth() { return Turned() ? m_read(&CFamily::m_x) : OwnDepth(); }
+  // Centroid from the back, and from the bottom.
+  double Back() { return m_read(Turned() ? &CFamily::m_y : &CFamily::m_x); }
+  double Rise() { return m_read(Turned() ? &CFamily::m_x : &CFamily::m_y); }
   double Iy() { return m_read(Turned() ? &CFamily::m_Ix : &CFamily::m_Iy); }
   double Area() const { return AreaOf(m_row); }
   double operator()(const CCell& cell) { return m_read(cell); }
   double Moment() {
     if (m_pairing.m_nMarker == 3) return m_read(&CFamily::m_Sx);  // a channel
-    return AngleMoment(Width(), Height(), m_read(L"t(mm)"), m_read(L"r(mm)"), Depth());
+    return AngleMoment(Width(), Height(), m_read(L"t(mm)"), m_read(L"r(mm)"), Rise());
   }
   double Thickest() const { return ThickestPlate(m_row); }
   double Thinnest() const { return ThinnestPlate(m_row); }
@@ -57,7 +57,6 @@ class CPart {
   bool Turned() const { return m_pairing.m_bTurned; }
   double OwnWidth() { return m_read(&CFamily::m_width); }
   double OwnHeight() { return m_read(&CFamily::m_height); }
-  double OwnDepth() { return OwnHeight() - m_read(&CFamily::m_y); }
 
   const CPairing& m_pairing;
   CDataItem m_row;
@@ -89,9 +88,8 @@ std::optional<double> PairHeight(const CDataItem& row, const CFamily& family, co
 
 std::optional<double> PairY(const CDataItem& row, const CFamily& family, const CCell&) {
   CPart part(row, family);
-  const double height = part.Height();
-  if (family.m_pair.m_join == CJoin::Cross) return part.Give(height + part.Gap() / 2);
-  return part.Give(height - part.Depth());
+  const bool cross = family.m_pair.m_join == CJoin::Cross;
+  return part.Give(cross ? part.Height() + part.Gap() / 2 : part.Rise());
 }
 
 std::optional<double> PairIy(const CDataItem& row, const CFamily& family, const CCell&) {
@@ -135,7 +133,7 @@ std::optional<double> PairThinnest(const CDataItem& row, const CFamily& family, 
 std::optional<double> AnglePairShearCentre(const CDataItem& row, const CFamily& family,
                                            const CCell&) {
   CPart part(row, family);
-  return part.Give(std::fabs(part.Depth() - part(L"t(mm)") / 2));
+  return part.Give(std::fabs(part.Rise() - part(L"t(mm)") / 2));
 }
 
 // As an I whose flanges are 2b wide, apart by the spacing: Iy of the flanges h^2 / 4.

@@ -66,7 +66,7 @@ std::optional<double> TShearCentre(const CDataItem& row, const CFamily& family, 
 std::optional<double> AngleShearCentre(const CDataItem& row, const CFamily& family, const CCell&) {
   CReader read(row, family);
   const double t = read.Plate(0);
-  return DistanceToCentroid(read, t / 2, read(&CFamily::m_height) - t / 2);
+  return DistanceToCentroid(read, t / 2, t / 2);
 }
 
 std::optional<double> PlateShearCentre(const CDataItem& row, const CFamily& family, const CCell&) {
