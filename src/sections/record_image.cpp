@@ -4,8 +4,8 @@
 #include <cstring>
 #include <iterator>
 #include <string>
-#include <type_traits>
 
+#include "framework/utf16.h"
 #include "sections/record_store.h"
 
 namespace orv3 {
@@ -44,25 +44,9 @@ std::uint64_t Take(const CRecordImage& image, std::size_t at) {
   return value;
 }
 
-// The name as UTF-16, whatever the width of wchar_t.
-std::u16string NameUnits(const wchar_t (&name)[kNameUnits]) {
-  std::u16string units;
-  for (const wchar_t ch : name) {
-    const auto code = std::uint32_t{static_cast<std::make_unsigned_t<wchar_t>>(ch)};
-    if (code == 0) break;
-    if (code >= 0x10000) {
-      units += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10 & 0x3FF));
-      units += static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF));
-    } else {
-      units += static_cast<char16_t>(code);
-    }
-  }
-  units.resize(std::min(units.size(), kNameUnits - 1));
-  return units;
-}
-
 std::u16string MarkedName(const CSteelJMData& record, bool singleGroup) {
-  std::u16string name = NameUnits(record.m_szName);
+  const auto* const end = std::find(record.m_szName, std::end(record.m_szName), L'\0');
+  std::u16string name = ToUtf16({record.m_szName, end});
   name.resize(kNameUnits - 1, u' ');
   name[kDeletedMark] = record.m_nState == -1 ? u'(' : u'\x01';
   if (singleGroup) name[kStyleMark] = static_cast<char16_t>(record.m_nStyle + 20);
@@ -72,19 +56,13 @@ std::u16string MarkedName(const CSteelJMData& record, bool singleGroup) {
 
 // The name of an image without marks and padding.
 std::wstring PlainName(const CRecordImage& image) {
-  std::wstring name;
+  std::u16string units;
   for (std::size_t i = 0; i < kNameKept; ++i) {
     const auto unit = static_cast<char16_t>(Take<2>(image, kNameAt + 2 * i));
     if (unit == 0) break;
-    const bool follows = !name.empty() && unit >= 0xDC00 && unit < 0xE000 &&
-                         name.back() >= 0xD800 && name.back() < 0xDC00;
-    if (sizeof(wchar_t) > 2 && follows) {
-      const auto high = static_cast<std::uint32_t>(name.back()) - 0xD800;
-      name.back() = static_cast<wchar_t>(0x10000 + (high << 10) + (unit - 0xDC00U));
-    } else {
-      name += static_cast<wchar_t>(unit);
-    }
+    units += unit;
   }
+  const std::wstring name = FromUtf16(units);
   const std::size_t first = name.find_first_not_of(L' ');
   return first == std::wstring::npos ? std::wstring()
                                      : name.substr(first, name.find_last_not_of(L' ') + 1 - first);

@@ -99,10 +99,13 @@ bool MayBeZero(int style, int size) {
 
 std::string Number(double value) { return ToUtf8(FormatShortest(value)); }
 
-CSectionFault Fault(const CSectionStyle& style, int size, double value, const std::string& wanted) {
+CSectionFault Fault(const CSectionStyle& style, int size, double value, const std::string& wanted,
+                    CSizeRule rule, double bound = 0) {
   const CSizeColumn& column = style.m_arrSize[size];
-  return {size, ToUtf8(column.m_szSign) + " (" + column.m_szMeaning + ") = " + Number(value) +
-                    ": must be " + wanted};
+  return {size,
+          ToUtf8(column.m_szSign) + " (" + column.m_szMeaning + ") = " + Number(value) +
+              ": must be " + wanted,
+          rule, bound};
 }
 
 std::optional<CSectionFault> CheckCount(const CSectionStyle& style, std::size_t count) {
@@ -114,16 +117,17 @@ std::optional<CSectionFault> CheckCount(const CSectionStyle& style, std::size_t 
     if (&size != style.m_arrSize) text += ", ";
     text += ToUtf8(size.m_szSign) + " " + size.m_szMeaning;
   }
-  return CSectionFault{-1, text + "), not " + std::to_string(count)};
+  return CSectionFault{.m_strText = text + "), not " + std::to_string(count)};
 }
 
 std::optional<CSectionFault> CheckSign(const CSectionStyle& style, std::span<const double> sizes) {
   for (int i = 0; i < style.m_nSizes; ++i) {
     const double value = sizes[static_cast<std::size_t>(i)];
-    if (!std::isfinite(value)) return Fault(style, i, value, "a finite number");
+    if (!std::isfinite(value)) return Fault(style, i, value, "a finite number", CSizeRule::Finite);
     const bool zero = MayBeZero(style.m_nStyle, i);
     if (value > 0 || (zero && value == 0)) continue;
-    return Fault(style, i, value, zero ? "0 or above" : "above 0");
+    return Fault(style, i, value, zero ? "0 or above" : "above 0",
+                 zero ? CSizeRule::NotNegative : CSizeRule::Positive);
   }
   return {};
 }
@@ -142,7 +146,8 @@ std::optional<CSectionFault> CheckSectionSizes(const CSectionStyle& style,
     if (strict ? value < bound : value <= bound) continue;
     return Fault(style, rule.m_nSize, value,
                  (strict ? "below " : "at most ") + Number(bound) + " (" + rule.m_szBound +
-                     "): " + rule.m_szWhy);
+                     "): " + rule.m_szWhy,
+                 strict ? CSizeRule::Below : CSizeRule::AtMost, bound);
   }
   return {};
 }

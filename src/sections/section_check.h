@@ -20,9 +20,14 @@ namespace orv3 {
 // A name's characters that a row of a section table holds; more are cut there.
 inline constexpr int kMaxSectionName = 30;
 
+// What a size at fault ought to be.
+enum class CSizeRule { Finite, Positive, NotNegative, Below, AtMost };
+
 struct CSectionFault {
   int m_nSize = -1;       // position of the size at fault; -1 when their number is wrong
   std::string m_strText;  // UTF-8, one line: the size's sign, its value and what would be right
+  CSizeRule m_nRule = CSizeRule::Finite;
+  double m_dBound = 0;  // of Below and AtMost
 };
 
 // The first fault of the sizes in column order; nothing when they make a section.

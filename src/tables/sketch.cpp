@@ -1,6 +1,9 @@
 #include "tables/sketch.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
 
 #include "tables/sketch_drawings.h"
 
@@ -127,7 +130,33 @@ int SketchResource(std::wstring_view tableName) noexcept {
   return found == std::end(kNames) ? kNoSketch : found->m_nResource;
 }
 
-CBitmap SketchBitmap(int resource) { return DrawingBitmap(DrawSketch(resource).Drawing()); }
+CBitmap SketchBitmap(int resource, double scale) {
+  return DrawingBitmap(DrawSketch(resource).Drawing(), scale);
+}
+
+CBitmap SketchIcon(int resource, int size) {
+  const CSketchPen sketch = DrawSketch(resource);
+  std::vector<CPath> steel;
+  for (const CFigure& figure : sketch.Drawing().Figures()) {
+    if (figure.m_nLayer != CLayer::Section) continue;
+    steel.insert(steel.end(), figure.m_arrPath.begin(), figure.m_arrPath.end());
+  }
+  return SteelIcon(std::move(steel), size);
+}
+
+CBitmap SteelIcon(std::vector<CPath> steel, int size) {
+  const CBox box = PathBounds(steel);
+  const double unit = std::max(box.Width(), box.Height()) / (size - 2);  // a pixel, in page units
+  const double side = unit * size;
+  CDrawing icon(side, side);
+  // Left and lower edges come to the edges of pixels, where they are sharp.
+  const double dx = unit * std::floor((side - box.Width()) / 2 / unit) - box.left;
+  const double dy = unit * std::floor((side - box.Height()) / 2 / unit) - box.bottom;
+  for (CPath& path : steel) path = Moved(std::move(path), dx, dy);
+  // Without outlines, which would fill the gaps of so small a picture.
+  icon.AddArea(CLayer::Outline, std::move(steel));
+  return DrawingBitmap(icon, 1 / unit);
+}
 
 std::string SketchSvg(int resource) { return DrawingSvg(DrawSketch(resource).Drawing()); }
 

@@ -33,6 +33,7 @@ class CSpacingModel {
   // `kind` not 0: a cross.
   CSpacingModel(int kind, const CString& spacing);
 
+  int Kind() const noexcept { return m_nKind; }
   CString Label() const;
   const CStringArray& Choices() const noexcept { return m_arrChoice; }
   int Selected() const noexcept { return m_nSelected; }  // the choice to start with

@@ -1,0 +1,194 @@
+#include "sections/row_check.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "framework/message.h"
+#include "framework/number_text.h"
+#include "sections/load_data_table.h"
+#include "sections/section_check.h"
+#include "sections/section_style.h"
+#include "tables/data_item.h"
+#include "tables/table_text.h"
+
+namespace orv3 {
+namespace {
+
+using CFault = std::optional<CRowFault>;
+
+// A cell as people know it: its title and sign.
+CString Caption(const CDataItem& item, int cell) {
+  return item.GetCellName(cell) + L" " + item.GetCellSign(cell);
+}
+
+const CString& Value(const CDataItem& item, int cell) {
+  return item.m_arrCell.GetAt(cell).m_strValue;
+}
+
+CRowFault Fault(const CDataItem& item, int cell, const CString& what) {
+  return {cell, Caption(item, cell) + L"：" + what};
+}
+
+bool IsControl(wchar_t ch) { return ch < L' ' || ch == L'\x7f'; }
+
+// --- What a table file holds -------------------------------------------------------------------
+
+CFault CheckStored(const CDataItem& item, int cell) {
+  const CString& value = Value(item, cell);
+  if (value.GetLength() > kMaxStoredValue) {
+    return Fault(item, cell,
+                 L"共" + FormatInt(value.GetLength()) + L"个字符，最多" +
+                     FormatInt(kMaxStoredValue) + L"个，请缩短。");
+  }
+  const std::wstring_view text = value.View();
+  if (std::any_of(text.begin(), text.end(), IsControl)) {
+    return Fault(item, cell, L"含有换行或控制字符，请删去。");
+  }
+  if (text.find(L',') != std::wstring_view::npos) {
+    return Fault(item, cell, L"“" + value + L"”含有逗号，逗号用于分隔数据，请改用其他字符。");
+  }
+  bool missing = false;
+  EncodeText(text, &missing);
+  if (missing) return Fault(item, cell, L"“" + value + L"”含有系统字符集以外的字符，请改写。");
+  return {};
+}
+
+CFault CheckNo(const CDataItem& item) {
+  const CString& no = Value(item, 0);
+  if (CString(no).Trim().IsEmpty()) {
+    return Fault(item, 0, L"不能为空，请输入型号，例如“H400X300”。");
+  }
+  if (CString(no).Trim() != no) return Fault(item, 0, L"首尾不能有空格，请删去。");
+  return CheckStored(item, 0);
+}
+
+// --- Numbers ------------------------------------------------------------------------------------
+
+CFault CheckNumber(const CDataItem& item, int cell) {
+  const CString& value = Value(item, cell);
+  if (CString(value).Trim().IsEmpty()) return Fault(item, cell, L"不能为空，请输入数值。");
+  if (!IsNumber(value)) {
+    return Fault(item, cell, L"“" + value + L"”不是数值，请输入数字，例如“300”或“12.5”。");
+  }
+  return CheckStored(item, cell);
+}
+
+CFault CheckPositive(const CDataItem& item, int cell) {
+  if (auto fault = CheckNumber(item, cell)) return fault;
+  if (ToDouble(Value(item, cell)) > 0) return {};
+  return Fault(item, cell, Value(item, cell) + L"不可用，应大于0。");
+}
+
+// --- Sections of plates -------------------------------------------------------------------------
+
+CString Wanted(const CSectionFault& fault) {
+  switch (fault.m_nRule) {
+    case CSizeRule::Positive:
+      return L"应大于0。";
+    case CSizeRule::NotNegative:
+      return L"不应小于0。";
+    case CSizeRule::Below:
+      return L"与其他尺寸不符，应小于" + FormatShortest(fault.m_dBound) + L"。";
+    case CSizeRule::AtMost:
+      return L"与其他尺寸不符，不应大于" + FormatShortest(fault.m_dBound) + L"。";
+    case CSizeRule::Finite:
+      break;
+  }
+  return L"应为有限的数值。";
+}
+
+CFault CheckSection(const CDataItem& item, const CSectionStyle& style) {
+  std::vector<double> sizes;
+  for (int cell = 1; cell <= style.m_nSizes; ++cell) {
+    if (auto fault = CheckNumber(item, cell)) return fault;
+    sizes.push_back(ToDouble(Value(item, cell)));
+  }
+  if (const auto fault = CheckSectionSizes(style, sizes)) {
+    const int cell = fault->m_nSize + 1;
+    return Fault(item, cell, Value(item, cell) + Wanted(*fault));
+  }
+  for (int cell = style.m_nSizes + 1; cell <= style.m_nSizes + 2; ++cell) {  // the base point
+    if (auto fault = CheckNumber(item, cell)) return fault;
+  }
+  return {};
+}
+
+// --- Lattice columns ----------------------------------------------------------------------------
+
+CString LimbSign(int limb, const wchar_t* what) { return L"P" + FormatInt(limb) + what; }
+
+CFault CheckAngle(const CDataItem& item, int cell) {
+  if (auto fault = CheckNumber(item, cell)) return fault;
+  const double quarters = ToDouble(Value(item, cell)) / 90;
+  if (quarters >= 0 && quarters < 4 && quarters == std::floor(quarters)) return {};
+  return Fault(item, cell, Value(item, cell) + L"不可用，应为0、90、180或270。");
+}
+
+CFault CheckLimb(const CDataItem& item, int limb) {
+  const int type = item.GetSignIndex(LimbSign(limb, L"Type"));
+  const int number = item.GetSignIndex(LimbSign(limb, L"No."));
+  const int angle = item.GetSignIndex(LimbSign(limb, L"θ°"));
+  if (number < 0 || angle < 0)
+    return CRowFault{-1, L"本行缺少第" + FormatInt(limb) + L"肢的数据。"};
+  for (const int cell : {type, number}) {
+    if (auto fault = CheckStored(item, cell)) return fault;
+  }
+  if (!CLoadDataTable::IsTableNameType(Value(item, type), kCatalogueTables)) {
+    return Fault(item, type,
+                 L"“" + Value(item, type) + L"”不是标准型钢表名，应为例如“热轧普通槽钢”。");
+  }
+  if (CLoadDataTable::GetSysTemJMItem(Value(item, type), Value(item, number)).IsEmpty()) {
+    return Fault(item, number,
+                 L"系统库的“" + Value(item, type) + L"”中没有“" + Value(item, number) +
+                     L"”，请选择库中已有的型号。");
+  }
+  return CheckAngle(item, angle);
+}
+
+CFault CheckLattice(const CDataItem& item) {
+  for (const wchar_t* sign : {L"k(mm)", L"kx(mm)", L"ky(mm)"}) {
+    const int cell = item.GetSignIndex(sign);
+    if (cell < 0) continue;
+    if (auto fault = CheckPositive(item, cell)) return fault;
+  }
+  for (int limb = 1; item.GetSignIndex(LimbSign(limb, L"Type")) >= 0; ++limb) {
+    if (auto fault = CheckLimb(item, limb)) return fault;
+  }
+  return {};
+}
+
+// --- Rows of any other table --------------------------------------------------------------------
+
+CFault CheckCells(const CDataItem& item) {
+  for (int cell = 1; cell < item.GetItemLength(); ++cell) {
+    const bool number = ValueClassOf(item.m_arrCell.GetAt(cell).m_nType) != CValueClass::Text;
+    const bool empty = CString(Value(item, cell)).Trim().IsEmpty();
+    if (auto fault = number && !empty ? CheckNumber(item, cell) : CheckStored(item, cell)) {
+      return fault;
+    }
+  }
+  return {};
+}
+
+}  // namespace
+
+std::optional<CRowFault> CheckRow(const CDataItem& item) {
+  const CSectionStyle* style = FindSectionStyle(item.m_strTableName.View());
+  if (item.GetItemLength() < (style ? style->m_nSizes + 3 : 2)) {
+    return CRowFault{-1, L"本行数据不完整，应先按“" + item.m_strTableName + L"”的列填写。"};
+  }
+  if (auto fault = CheckNo(item)) return fault;
+  if (style) return CheckSection(item, *style);
+  const bool lattice = CLoadDataTable::IsTableNameType(item.m_strTableName,
+                                                       TABLE_CUSTOM | TABLE_FAMILY_LATTICE) != 0;
+  return lattice ? CheckLattice(item) : CheckCells(item);
+}
+
+}  // namespace orv3
+
+int CLoadDataTable::CheckCustomDataItem(const CDataItem& item) {
+  const auto fault = orv3::CheckRow(item);
+  if (fault) orv3::ShowMessage(L"Orvo提醒您", fault->m_strText);
+  return fault ? 0 : 1;
+}

@@ -1,0 +1,31 @@
+// The tables of the system store as they were last read, kept while the store is unchanged.
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <unordered_map>
+
+#include "tables/data_table.h"
+
+namespace orv3 {
+
+// One table and the places of its sections. It never changes once it is loaded, so that several
+// threads may look into it.
+class CSystemTable {
+ public:
+  bool Load(const CString& name);  // from the system store under the program path
+
+  const CDataTable& Table() const noexcept { return m_table; }
+  // Position of the first live row whose column 0 holds `no`; -1 when there is none.
+  int Find(const CString& no) const;
+
+ private:
+  CDataTable m_table;
+  std::unordered_map<std::wstring_view, int> m_mapNo;  // of a text column; views into the cells
+};
+
+// The table as it is on file now; null, with LastStoreError set, when the store has none. The file
+// is read only when its stamp differs from that of the last reading.
+std::shared_ptr<const CSystemTable> SystemTable(const CString& name);
+
+}  // namespace orv3
