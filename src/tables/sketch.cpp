@@ -130,7 +130,9 @@ int SketchResource(std::wstring_view tableName) noexcept {
   return found == std::end(kNames) ? kNoSketch : found->m_nResource;
 }
 
-CBitmap SketchBitmap(int resource) { return DrawingBitmap(DrawSketch(resource).Drawing()); }
+CBitmap SketchBitmap(int resource, double scale) {
+  return DrawingBitmap(DrawSketch(resource).Drawing(), scale);
+}
 
 CBitmap SketchIcon(int resource, int size) {
   const CSketchPen sketch = DrawSketch(resource);

@@ -16,8 +16,8 @@ namespace orv3 {
 ORV3CAL_API int SketchResource(std::wstring_view tableName) noexcept;
 
 // The sketch behind a resource number (8076 for a number that has none), drawn from the one vector
-// description of that number.
-ORV3CAL_API CBitmap SketchBitmap(int resource);
+// description of that number; `scale`: pixels a page unit, above 1 for a finer screen.
+ORV3CAL_API CBitmap SketchBitmap(int resource, double scale = 1);
 ORV3CAL_API std::string SketchSvg(int resource);
 
 // The steel of the sketch alone, as large as a square of `size` pixels holds it with a white edge:

@@ -1,0 +1,11 @@
+// The pictures of the browser's tree as an image list.
+#pragma once
+
+#include "dialogs/win32/gdi.h"
+
+namespace orv3 {
+
+// Empty when there are none.
+CImages TreeImages(int dpi);
+
+}  // namespace orv3

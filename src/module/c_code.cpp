@@ -1,0 +1,71 @@
+// The C interface: figures of the design code.
+#include <algorithm>
+#include <cmath>
+
+#include "catalogue/code_tables/table_search.h"
+#include "connections/cases/case_rules.h"
+#include "module/c_support.h"
+
+namespace orv3::c_interface {
+namespace {
+
+void CheckThickness(double thickness) {
+  if (!(thickness > 0 && thickness <= 100))
+    throw CFailure("thickness: " + PlainNumber(thickness) +
+                   " mm is in no group of the table; give a thickness above 0 and up to 100");
+}
+
+// Table 3.4.1-3 groups the thicknesses of Q235 at 16, 40 and 60 mm and those of the other steels at
+// 16, 35 and 50 mm, under numbers of their own.
+int WeldGroup(int steel, double thickness) {
+  const bool bMild = steel == SUB1_Q235;
+  const double limits[] = {16, bMild ? 40.0 : 35.0, bMild ? 60.0 : 50.0};
+  const auto above = std::count_if(std::begin(limits), std::end(limits),
+                                   [thickness](double limit) { return thickness > limit; });
+  return static_cast<int>(above) + (above == 0 || bMild ? 0 : 3);
+}
+
+}  // namespace
+}  // namespace orv3::c_interface
+
+using namespace orv3;
+using namespace orv3::c_interface;
+
+int ORV3_CALL orv3_steel_strength(const orv3_char* steel, double thickness, const orv3_char* kind,
+                                  double* value) {
+  return Guarded([&] {
+    static constexpr const char* kKinds[] = {"f", "fv", "fce"};
+    CheckThickness(thickness);
+    int strength = 0;
+    if (!CTableSearch::SearchSub1(WordAmong(steel, "steel", kSteels), thickness,
+                                  WordAmong(kind, "kind", kKinds), strength))
+      throw CFailure("the table has no such strength");
+    return GiveValue(strength, value);
+  });
+}
+
+int ORV3_CALL orv3_weld_strength(const orv3_char* steel, double thickness, const orv3_char* kind,
+                                 double* value) {
+  return Guarded([&] {
+    static constexpr const char* kKinds[] = {"fcw", "ftw12", "ftw3", "fvw", "ffw"};
+    CheckThickness(thickness);
+    const int grade = WordAmong(steel, "steel", kSteels);
+    int strength = 0;
+    if (!CTableSearch::SearchSub2(grade, WeldGroup(grade, thickness),
+                                  WordAmong(kind, "kind", kKinds), strength))
+      throw CFailure("the table has no such strength");
+    return GiveValue(strength, value);
+  });
+}
+
+int ORV3_CALL orv3_phi(double slenderness, double yield, const orv3_char* buckling_class,
+                       double* value) {
+  return Guarded([&] {
+    static constexpr const char* kClasses[] = {"a", "b", "c", "d"};
+    const int bucklingClass = WordAmong(buckling_class, "buckling_class", kClasses);
+    double phi = 0;
+    if (!CTableSearch::SearchSub12(slenderness, yield, bucklingClass, phi))
+      throw CFailure("slenderness, yield: must be numbers that are not below 0");
+    return GiveValue(phi, value);
+  });
+}

@@ -1,0 +1,195 @@
+/*
+ * The flat C interface of Orv3Cal, for spreadsheets, scripts and programs of other compilers.
+ *
+ * Functions: undecorated names; __stdcall in the 32-bit Windows library, the system's C convention
+ * elsewhere. All of them belong to one thread, and nothing is thrown.
+ *
+ * Results: a negative result is a failure, and orv3_last_error tells the reason. Otherwise the
+ * result is what the function's comment says.
+ *
+ * Texts: UTF-16, ended by a zero. A function that gives a text takes `text` and `size`, the room
+ * there in characters with the ending zero; it writes what fits and returns the length of the whole
+ * text without the zero, so that a result of `size` or more says that the text was cut. With a null
+ * `text` or a `size` of 0 only the length is told.
+ *
+ * Lists: one entry a line, lines separated by a line feed (10). Lists of values: lines "key=value".
+ * Numbers in them have a decimal point and all their digits, whatever the locale.
+ *
+ * Units: mm, mm^2, mm^3, mm^4, mm^6; kN and kN mm; strengths and stresses in N/mm^2; degrees.
+ */
+#ifndef ORV3CAL_C_H
+#define ORV3CAL_C_H
+
+/* Raised whenever a function is added; functions never change or go. */
+#define ORV3_INTERFACE_VERSION 1
+
+#if defined(_WIN32)
+#define ORV3_CALL __stdcall
+#else
+#define ORV3_CALL
+#endif
+
+#if defined(_WIN32) && defined(ORV3CAL_BUILD_DLL)
+#define ORV3_API __declspec(dllexport)
+#elif defined(_WIN32) && defined(ORV3CAL_USE_DLL)
+#define ORV3_API __declspec(dllimport)
+#elif defined(__GNUC__) && !defined(_WIN32)
+#define ORV3_API __attribute__((visibility("default")))
+#else
+#define ORV3_API
+#endif
+
+#ifdef __cplusplus
+typedef char16_t orv3_char;
+extern "C" {
+#else
+typedef unsigned short orv3_char;
+#endif
+
+/* The interface version of the library that was loaded. */
+ORV3_API int ORV3_CALL orv3_version(void);
+
+/* Why the last failing call failed: one line that says what was wrong and what would be right. */
+ORV3_API int ORV3_CALL orv3_last_error(orv3_char* text, int size);
+
+/* --- Sections from their sizes ------------------------------------------------------------------
+ */
+
+/* Positions in the result of orv3_section. The frame: x to the right, y upwards, origin at the
+ * lower-left corner of the section's bounding box. Properties without an "o" are about the axes
+ * through the base point, those with it about the centroidal axes; Wx1 top, Wx2 bottom, WyL left,
+ * WyR right. First moments of flanged crosses, hexagons and triangles are 0; a section modulus
+ * whose fibre distance is 0 is 1e100. */
+enum {
+  ORV3_XO, /* centroid from the lower-left corner */
+  ORV3_YO,
+  ORV3_A,
+  ORV3_IXO,
+  ORV3_IYO,
+  ORV3_WXO1,
+  ORV3_WXO2,
+  ORV3_WYOL,
+  ORV3_WYOR,
+  ORV3_SXO,
+  ORV3_SYO,
+  ORV3_RXO, /* radii of gyration ixo, iyo */
+  ORV3_RYO,
+  ORV3_IX,
+  ORV3_IY,
+  ORV3_WX1,
+  ORV3_WX2,
+  ORV3_WYL,
+  ORV3_WYR,
+  ORV3_SX1,
+  ORV3_SX2,
+  ORV3_SYL,
+  ORV3_SYR,
+  ORV3_RX, /* radii of gyration ix, iy */
+  ORV3_RY,
+  ORV3_PROPERTIES /* how many there are */
+};
+
+/* The table names of the section styles 0 to 14, a list. */
+ORV3_API int ORV3_CALL orv3_list_styles(orv3_char* text, int size);
+
+/* The signs of a style's sizes in their order, a list. `style` is a table name, a style number as
+ * text, or a short English name such as "h". */
+ORV3_API int ORV3_CALL orv3_list_sizes(const orv3_char* style, orv3_char* text, int size);
+
+/* Computes a section of `count` sizes with its base point at (x, y), and writes the first `room`
+ * properties; returns how many were written. Sizes that make no section are refused. */
+ORV3_API int ORV3_CALL orv3_section(const orv3_char* style, const double* sizes, int count,
+                                    double x, double y, double* properties, int room);
+
+/* --- Catalogue ----------------------------------------------------------------------------------
+ */
+
+/* Names the folder that holds the section stores; 0. Refused without a readable system store. */
+ORV3_API int ORV3_CALL orv3_open_data(const orv3_char* folder);
+
+/* The system store's tables that a mask selects, in the mask's order, a list: 0x01000000 rolled and
+ * 0x02000000 user-defined, with the family bits 0x001 I and H, 0x002 box, 0x004 T, 0x008 channel,
+ * 0x010 Z, 0x020 round, 0x040 angle, 0x080 pairs of angles, 0x100 pairs of channels, 0x200 cross,
+ * 0x400 solid, 0x800 lattice. 0x03000FFF is every table; any other name in the store is of no mask.
+ */
+ORV3_API int ORV3_CALL orv3_list_tables(int mask, orv3_char* text, int size);
+
+/* A table's column signs, and the numbers ("No.") of its sections, as lists. */
+ORV3_API int ORV3_CALL orv3_list_columns(const orv3_char* table, orv3_char* text, int size);
+ORV3_API int ORV3_CALL orv3_list_numbers(const orv3_char* table, orv3_char* text, int size);
+
+/* The cell of a section by its column sign, as text and as a number (then 0 is returned). */
+ORV3_API int ORV3_CALL orv3_cell(const orv3_char* table, const orv3_char* number,
+                                 const orv3_char* sign, orv3_char* text, int size);
+ORV3_API int ORV3_CALL orv3_cell_value(const orv3_char* table, const orv3_char* number,
+                                       const orv3_char* sign, double* value);
+
+/* Positions in the result of orv3_geometry. What a row does not tell is 0. */
+enum {
+  ORV3_GEO_AREA,
+  ORV3_GEO_WIDTH, /* of the enclosing rectangle */
+  ORV3_GEO_HEIGHT,
+  ORV3_GEO_XC, /* centroid from the rectangle's left and bottom edges */
+  ORV3_GEO_YC,
+  ORV3_GEO_IX,
+  ORV3_GEO_IY,
+  ORV3_GEO_SXO,
+  ORV3_GEO_RX, /* radii of gyration */
+  ORV3_GEO_RY,
+  ORV3_GEO_WXO1, /* section moduli: top, bottom, left, right */
+  ORV3_GEO_WXO2,
+  ORV3_GEO_WYOL,
+  ORV3_GEO_WYOR,
+  ORV3_GEO_TMAX, /* plate thickness, greatest and least */
+  ORV3_GEO_TMIN,
+  ORV3_GEO_E0,   /* distance of the shear centre */
+  ORV3_GEO_IW,   /* warping constant */
+  ORV3_GEO_SYMX, /* 1 when symmetric about the horizontal axis */
+  ORV3_GEO_SYMY, /* about the vertical axis */
+  ORV3_GEOMETRY  /* how many there are */
+};
+
+/* The geometry of a catalogue section; writes the first `room` values and returns how many were
+ * written. A quarter turn (90, 180, 270, counter-clockwise) turns width, height, xc, yc, Ix and Iy;
+ * everything else is of the section as it stands in the catalogue. */
+ORV3_API int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, double turn,
+                                     double* values, int room);
+
+/* --- Checks by GB 50017-2003 --------------------------------------------------------------------
+ */
+
+/* `input` is a list of values with the keys of the command line's case files (docs/connections.md);
+ * a spacing may be several numbers separated by semicolons. The result is a list of values: "pass"
+ * (1 or 0), the results, and one line "warning" for each warning (English). */
+ORV3_API int ORV3_CALL orv3_check_bolt(const orv3_char* input, orv3_char* text, int size);
+ORV3_API int ORV3_CALL orv3_check_fillet(const orv3_char* input, orv3_char* text, int size);
+ORV3_API int ORV3_CALL orv3_check_butt(const orv3_char* input, orv3_char* text, int size);
+
+/* --- Figures of GB 50017-2003, each of which returns 0 ------------------------------------------
+ */
+
+/* Strength of a steel ("Q235", "Q345", "Q390", "Q420") by plate thickness in mm; `kind` is "f",
+ * "fv" or "fce". Table 3.4.1-1. */
+ORV3_API int ORV3_CALL orv3_steel_strength(const orv3_char* steel, double thickness,
+                                           const orv3_char* kind, double* value);
+/* Strength of a weld; `kind` is "fcw", "ftw12", "ftw3", "fvw" or "ffw". Table 3.4.1-3. */
+ORV3_API int ORV3_CALL orv3_weld_strength(const orv3_char* steel, double thickness,
+                                          const orv3_char* kind, double* value);
+/* Stability factor of an axially compressed member: slenderness, yield strength in N/mm^2, buckling
+ * class "a", "b", "c" or "d". Appendix C. */
+ORV3_API int ORV3_CALL orv3_phi(double slenderness, double yield, const orv3_char* buckling_class,
+                                double* value);
+
+/* --- Windows ------------------------------------------------------------------------------------
+ */
+
+/* Opens the section browser on the opened data with the tables of a mask. The chosen row as a list
+ * of values: "table", then each column by its sign; an empty text when nothing was chosen. A `size`
+ * of 4096 holds any row: a longer text is cut. A failure elsewhere than on Windows. */
+ORV3_API int ORV3_CALL orv3_browse(int mask, orv3_char* text, int size);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
