@@ -23,16 +23,21 @@ bool ReadSizes(const CDataItem& row, const CSectionStyle& style, CSteelJMData& r
   return true;
 }
 
-// A web with a flange at each end; flanges without thickness fall away.
+// A web with a flange at each end. A flange that does not reach beyond the web on a side ends at
+// the web's mid-line there.
 CSectorial HSectorial(const CPlateH& h) {
   const double x = h.WebEdge() + h.m_dWeb / 2;
+  const auto left = [&](double overhang) { return overhang > 0 ? h.WebEdge() - overhang : x; };
+  const auto right = [&](double overhang) {
+    return overhang > 0 ? h.WebEdge() + h.m_dWeb + overhang : x;
+  };
   const double bottom = h.m_dBottom / 2, top = h.m_dHeight - h.m_dTop / 2;
   const CWall walls[] = {
-      {x, bottom, h.BottomEdge(), bottom, h.m_dBottom},
-      {x, bottom, h.BottomEdge() + h.BottomWidth(), bottom, h.m_dBottom},
+      {x, bottom, left(h.m_dBottomLeft), bottom, h.m_dBottom},
+      {x, bottom, right(h.m_dBottomRight), bottom, h.m_dBottom},
       {x, bottom, x, top, h.m_dWeb},
-      {x, top, h.TopEdge(), top, h.m_dTop, 2},
-      {x, top, h.TopEdge() + h.TopWidth(), top, h.m_dTop, 2},
+      {x, top, left(h.m_dTopLeft), top, h.m_dTop, 2},
+      {x, top, right(h.m_dTopRight), top, h.m_dTop, 2},
   };
   return SectorialProperties(walls, CWallForm::Tree);
 }
