@@ -36,34 +36,42 @@ struct COptions {
 
 // A search passes over what it does not understand; here it is refused.
 void CheckPart(const CDataTable& table, const CSearchExpression::CPart& part, bool wildcard) {
-  if (part.m_strOperator.IsEmpty()) {
-    Refuse("--where: \"" + ToUtf8(part.m_strValue.IsEmpty() ? part.m_strSign : part.m_strValue) +
-           "\" has no operator; right would be one of ==, !=, >>, <<, >=, <=");
-  }
   const CString sign = CString(part.m_strSign).Trim();
   const CDataTypeStruct& column = table.m_Title[ColumnOf(table, "--where", ToUtf8(sign))];
   const CString value = CString(part.m_strValue).Trim();
-  const bool pattern = wildcard && value.Find(L'*') >= 0 &&
-                       (part.m_strOperator == L"==" || part.m_strOperator == L"!=");
+  const bool star = value.Find(L'*') >= 0;
+  const bool pattern =
+      wildcard && star && (part.m_strOperator == L"==" || part.m_strOperator == L"!=");
   if (ValueClassOf(column.m_nType) == CValueClass::Text || pattern || IsNumber(value)) return;
   Refuse("--where: " + ToUtf8(sign) + " holds numbers, \"" + ToUtf8(value) +
          "\" is none; right would be a number" +
-         (value.Find(L'*') >= 0 ? ", or --wildcard for the \"*\"" : ""));
+         (star && !wildcard ? ", or --wildcard for the \"*\"" : ""));
 }
 
 // The expression with the blanks around its signs and values taken away, which a search would take
 // for parts of the values.
 CString Checked(const CDataTable& table, const std::string& where, bool wildcard) {
-  const CSearchExpression search(FromUtf8(where));
+  const CString given = FromUtf8(where);
+  if (given.Find(L"VIEW") >= 0)
+    Refuse("--where: VIEW has no place here; right would be --columns for the columns to show");
+  const CSearchExpression search(given);
+  const CString joiner = search.m_bAnd ? L"&&" : L"||";
+  CStringArray parts;
+  CDataTable::TransStrToArray(given, joiner, parts);
+  if (search.m_bAnd && given.Find(L"||") >= 0)
+    Refuse("--where: && and || cannot be mixed; right would be one of them");
   CString text;
-  for (const CSearchExpression::CPart& part : search.m_arrPart) {
+  for (std::size_t i = 0; i < search.m_arrPart.size(); ++i) {
+    const CSearchExpression::CPart& part = search.m_arrPart[i];
+    if (part.m_strOperator.IsEmpty()) {
+      Refuse("--where: \"" + ToUtf8(parts[static_cast<int>(i)].Trim()) +
+             "\" is no condition; right would be SIGN OPERATOR VALUE with one of ==, !=, >>, <<, "
+             ">=, <=");
+    }
     CheckPart(table, part, wildcard);
-    if (search.m_bAnd && part.m_strValue.Find(L"||") >= 0)
-      Refuse("--where: && and || cannot be mixed; right would be one of them");
-    text += text.IsEmpty() ? L"" : search.m_bAnd ? L"&&" : L"||";
+    if (i > 0) text += joiner;
     text += CString(part.m_strSign).Trim() + part.m_strOperator + CString(part.m_strValue).Trim();
   }
-  if (search.m_bView) Refuse("--where: the columns to keep stand after --columns, not after VIEW");
   return text;
 }
 
