@@ -243,7 +243,7 @@ TEST(CCode, GivesThePrintedStrengths) {
     const char16_t* kind;
     double strength;
   } steels[] = {{u"Q235", 16, u"f", 215},  {u"Q235", 16.5, u"f", 205}, {u"Q235", 60, u"fv", 115},
-                {u"Q345", 35, u"f", 295},  {u"Q345", 40, u"f", 265},   {u"Q390", 10, u"fce", 400},
+                {u"Q345", 35, u"f", 295},  {u"Q345", 40, u"f", 265},   {u"Q390", 10, u"fce", 415},
                 {u"Q420", 100, u"fv", 185}},
     welds[] = {{u"Q235", 20, u"ftw3", 175},
                {u"Q345", 16, u"fcw", 310},
