@@ -9,11 +9,12 @@ namespace orv3::cli {
 
 void AddStylesCommand(CLI::App& program);
 void AddSectionCommand(CLI::App& program);
+void AddGaugeCommand(CLI::App& program);
 void AddCodeCommand(CLI::App& program);
 void AddCheckCommand(CLI::App& program);
 
 // The commands in the order of the help; a new one is entered here.
-inline constexpr void (*kCommands[])(CLI::App&) = {AddStylesCommand, AddSectionCommand,
-                                                   AddCodeCommand, AddCheckCommand};
+inline constexpr void (*kCommands[])(CLI::App&) = {
+    AddStylesCommand, AddSectionCommand, AddGaugeCommand, AddCodeCommand, AddCheckCommand};
 
 }  // namespace orv3::cli

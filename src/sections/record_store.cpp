@@ -117,12 +117,14 @@ bool MakeRoom(CStoreFile& file, int group, std::int64_t end) {
   return true;
 }
 
-// Whether the groups before one lie before it, and those after it behind it in their order without
-// a gap among their headers: only then does its growth meet none that does not move on.
+// Whether the groups before one lie between the headers and it, and those after it behind it in
+// their order without a gap among their headers: only then does its growth meet none that does not
+// move on.
 bool IsInOrder(const CStoreFile& file, int group, const FileInfo& info) {
   FileInfo other;
   for (int g = 0; g < group; ++g) {
-    if (ReadGroup(file, g, other) && EndOf(other) > info.m_nOffset) return false;
+    if (!ReadGroup(file, g, other)) continue;
+    if (other.m_nOffset < kGroupHeadersEnd || EndOf(other) > info.m_nOffset) return false;
   }
   std::int64_t behind = EndOf(info);
   bool last = false;

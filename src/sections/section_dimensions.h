@@ -1,4 +1,4 @@
-// Where each size of a user-defined section is measured.
+// Where the sizes of a section are measured.
 #pragma once
 
 #include <span>
@@ -9,18 +9,23 @@
 
 namespace orv3 {
 
-// Widths stand in rows above or below the section, heights in columns on its left.
-enum class CDimensionSide { Top, Bottom, Left, Radius };
+// Widths stand in rows above or below the section, heights in columns on its left. Alone stand: a
+// radius, a height just right of the section, a thickness across the flange itself, and an arrow
+// with the text at its tail.
+enum class CDimensionSide { Top, Bottom, Left, Radius, Right, Inside, Leader };
 
 struct CSizeDimension {
   const wchar_t* m_szSign;
   double m_dValue;
   CDimensionSide m_nSide;
-  CPoint m_from;  // the measured points, mm; of a radius the circle's center and a point on it
+  // The measured points, mm; of a radius the circle's center and a point on it, of a leader a point
+  // on the tail's side and the tip.
+  CPoint m_from;
   CPoint m_to;
 };
 
-// One dimension per size, in the order of the style's columns; empty for unknown styles.
+// Of a user-defined style one dimension per size, in the order of its columns; empty for unknown
+// styles.
 std::vector<CSizeDimension> SizeDimensions(int style, std::span<const double, kSectionSizes> sizes);
 
 }  // namespace orv3

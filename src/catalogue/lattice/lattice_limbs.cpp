@@ -63,21 +63,33 @@ double CLatticeLimbs::Area() const noexcept {
   return area;
 }
 
-CLimbPlace CLatticeLimbs::Centroid() const noexcept {
-  const double area = Area();
-  CLimbPlace moment;
-  if (area == 0) return moment;
-  for (const CLatticeLimb& limb : m_arrLimb) {
-    moment.m_x += limb.m_dArea * limb.m_at.m_x;
-    moment.m_y += limb.m_dArea * limb.m_at.m_y;
-  }
-  return {moment.m_x / area, moment.m_y / area};
-}
-
 CLatticeReach CLatticeLimbs::Reach() const {
   std::array<CLimbBox, kMaxLimbs> boxes;
   for (std::size_t i = 0; i < m_arrLimb.size(); ++i) boxes[i] = m_arrLimb[i].m_box;
   return LatticeReach(std::span(boxes).first(m_arrLimb.size()), m_dKx, m_dKy);
+}
+
+CLatticeProperties CLatticeLimbs::Properties() const {
+  CLatticeProperties p;
+  p.m_dA = Area();
+  for (const CLatticeLimb& limb : m_arrLimb) {
+    p.m_dXo += p.m_dA == 0 ? 0 : limb.m_dArea * limb.m_at.m_x / p.m_dA;
+    p.m_dYo += p.m_dA == 0 ? 0 : limb.m_dArea * limb.m_at.m_y / p.m_dA;
+  }
+  for (const CLatticeLimb& limb : m_arrLimb) {
+    const double dx = limb.m_at.m_x - p.m_dXo;
+    const double dy = limb.m_at.m_y - p.m_dYo;
+    p.m_dIx += limb.m_dIx + limb.m_dArea * dy * dy;
+    p.m_dIy += limb.m_dIy + limb.m_dArea * dx * dx;
+  }
+  const CLatticeReach reach = Reach();
+  p.m_dWx1 = CLoadDataTable::CalDataItemWo(p.m_dIx, reach.m_above - p.m_dYo);
+  p.m_dWx2 = CLoadDataTable::CalDataItemWo(p.m_dIx, reach.m_below + p.m_dYo);
+  p.m_dWyL = CLoadDataTable::CalDataItemWo(p.m_dIy, reach.m_left + p.m_dXo);
+  p.m_dWyR = CLoadDataTable::CalDataItemWo(p.m_dIy, reach.m_right - p.m_dXo);
+  p.m_dixo = CLoadDataTable::CalDataItemRio(p.m_dIx, p.m_dA);
+  p.m_diyo = CLoadDataTable::CalDataItemRio(p.m_dIy, p.m_dA);
+  return p;
 }
 
 }  // namespace orv3

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "catalogue/lattice/lattice_properties.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "framework/export.h"
 #include "sections/geometry/lattice_placement.h"
@@ -48,8 +49,10 @@ struct ORV3CAL_API CLatticeLimbs {
   // Everything else, after Fetch; false without an angle or spacing.
   bool Place(const CSteelItemGeGou& column);
   double Area() const noexcept;
-  CLimbPlace Centroid() const noexcept;  // (0, 0) without area
-  CLatticeReach Reach() const;           // from the frame's origin
+  CLatticeReach Reach() const;  // from the frame's origin
+  // Of placed limbs, by the parallel-axis theorem. Without area the centroid is (0, 0); a modulus
+  // is 1e100 where its edge lies on the axis.
+  CLatticeProperties Properties() const;
 };
 
 }  // namespace orv3

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "catalogue/lattice/lattice_limbs.h"
+#include "catalogue/lattice/lattice_properties.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 
 namespace {
@@ -9,20 +10,22 @@ namespace {
 constexpr auto kText = CDataTypeStruct::KVBT_STRING;
 constexpr auto kNumber = CDataTypeStruct::KVBT_DOUBLE;
 
-struct CColumn {
-  const wchar_t* m_szSign;
-  const wchar_t* m_szTitle;
-};
-
 constexpr const wchar_t* kOrdinals[] = {L"一", L"二", L"三", L"四"};
 
-constexpr CColumn kResults[] = {
-    {L"A(mm^2)", L"截面面积"},        {L"xo(mm)", L"重心X坐标"},
-    {L"yo(mm)", L"重心Y坐标"},        {L"Ix(mm^4)", L"X轴惯性矩"},
-    {L"Iy(mm^4)", L"Y轴惯性矩"},      {L"Wx1(mm^3)", L"X轴抵抗矩(上)"},
-    {L"Wx2(mm^3)", L"X轴抵抗矩(下)"}, {L"WyL(mm^3)", L"Y轴抵抗矩(左)"},
-    {L"WyR(mm^3)", L"Y轴抵抗矩(右)"}, {L"ixo(mm)", L"X轴回转半径"},
-    {L"iyo(mm)", L"Y轴回转半径"},
+using orv3::CLatticeProperties;
+
+constexpr orv3::CLatticeProperty kResults[] = {
+    {L"A(mm^2)", L"截面面积", "A", 2, &CLatticeProperties::m_dA},
+    {L"xo(mm)", L"重心X坐标", "xo", 1, &CLatticeProperties::m_dXo},
+    {L"yo(mm)", L"重心Y坐标", "yo", 1, &CLatticeProperties::m_dYo},
+    {L"Ix(mm^4)", L"X轴惯性矩", "Ix", 4, &CLatticeProperties::m_dIx},
+    {L"Iy(mm^4)", L"Y轴惯性矩", "Iy", 4, &CLatticeProperties::m_dIy},
+    {L"Wx1(mm^3)", L"X轴抵抗矩(上)", "Wx1", 3, &CLatticeProperties::m_dWx1},
+    {L"Wx2(mm^3)", L"X轴抵抗矩(下)", "Wx2", 3, &CLatticeProperties::m_dWx2},
+    {L"WyL(mm^3)", L"Y轴抵抗矩(左)", "WyL", 3, &CLatticeProperties::m_dWyL},
+    {L"WyR(mm^3)", L"Y轴抵抗矩(右)", "WyR", 3, &CLatticeProperties::m_dWyR},
+    {L"ixo(mm)", L"X轴回转半径", "ixo", 1, &CLatticeProperties::m_dixo},
+    {L"iyo(mm)", L"Y轴回转半径", "iyo", 1, &CLatticeProperties::m_diyo},
 };
 
 void AddSpacings(CDataTable& table, int limbs) {
@@ -44,6 +47,8 @@ void AddLimb(CDataTable& table, int limb) {
 
 }  // namespace
 
+std::span<const orv3::CLatticeProperty> orv3::LatticePropertyColumns() noexcept { return kResults; }
+
 CSteelJMGeGou::CSteelJMGeGou(int limbs) {
   AddTableCol(L"型号", L"No.", kText, 1);
   if (limbs >= 2 && limbs <= orv3::kMaxLimbs) {
@@ -51,7 +56,7 @@ CSteelJMGeGou::CSteelJMGeGou(int limbs) {
     AddSpacings(*this, limbs);
     for (int limb = 1; limb <= limbs; ++limb) AddLimb(*this, limb);
   }
-  for (const CColumn& column : kResults) {
+  for (const orv3::CLatticeProperty& column : kResults) {
     AddTableCol(column.m_szTitle, column.m_szSign, kNumber, 0);
   }
 }

@@ -1,6 +1,8 @@
 // The row of a lattice column: its limbs and its properties.
 #include "catalogue/lattice/steel_ge_gou.h"
 
+#include <algorithm>
+
 #include "catalogue/lattice/lattice_limbs.h"
 #include "framework/number_text.h"
 #include "sections/load_data_table.h"
@@ -14,28 +16,11 @@ bool Write(CDataItem& row, std::wstring_view sign, double value) {
   return true;
 }
 
-// The properties about the centroid, by the parallel-axis theorem.
-bool WriteProperties(CDataItem& row, const orv3::CLatticeLimbs& limbs) {
-  const double area = limbs.Area();
-  const orv3::CLimbPlace centroid = limbs.Centroid();
-  double ix = 0;
-  double iy = 0;
-  for (const orv3::CLatticeLimb& limb : limbs.m_arrLimb) {
-    const double dx = limb.m_at.m_x - centroid.m_x;
-    const double dy = limb.m_at.m_y - centroid.m_y;
-    ix += limb.m_dIx + limb.m_dArea * dy * dy;
-    iy += limb.m_dIy + limb.m_dArea * dx * dx;
-  }
-  const orv3::CLatticeReach reach = limbs.Reach();
-  const auto modulus = CLoadDataTable::CalDataItemWo;
-  return Write(row, L"xo(mm)", centroid.m_x) && Write(row, L"yo(mm)", centroid.m_y) &&
-         Write(row, L"Ix(mm^4)", ix) && Write(row, L"Iy(mm^4)", iy) &&
-         Write(row, L"Wx1(mm^3)", modulus(ix, reach.m_above - centroid.m_y)) &&
-         Write(row, L"Wx2(mm^3)", modulus(ix, reach.m_below + centroid.m_y)) &&
-         Write(row, L"WyL(mm^3)", modulus(iy, reach.m_left + centroid.m_x)) &&
-         Write(row, L"WyR(mm^3)", modulus(iy, reach.m_right - centroid.m_x)) &&
-         Write(row, L"ixo(mm)", CLoadDataTable::CalDataItemRio(ix, area)) &&
-         Write(row, L"iyo(mm)", CLoadDataTable::CalDataItemRio(iy, area));
+bool WriteProperties(CDataItem& row, const orv3::CLatticeProperties& properties) {
+  const auto columns = orv3::LatticePropertyColumns();
+  return std::all_of(columns.begin(), columns.end(), [&](const auto& column) {
+    return Write(row, column.m_szSign, properties.*column.m_pField);
+  });
 }
 
 int Calculate(CSteelItemGeGou& row, int limbCount) {
@@ -43,7 +28,7 @@ int Calculate(CSteelItemGeGou& row, int limbCount) {
   orv3::CLatticeLimbs limbs;
   if (!limbs.Fetch(row)) return 0;
   if (!Write(row, L"A(mm^2)", limbs.Area())) return 0;
-  return limbs.Place(row) && WriteProperties(row, limbs) ? 1 : 0;
+  return limbs.Place(row) && WriteProperties(row, limbs.Properties()) ? 1 : 0;
 }
 
 }  // namespace

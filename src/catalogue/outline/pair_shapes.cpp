@@ -24,18 +24,19 @@ struct CPairTable {
   const wchar_t* m_szPart;  // table of the parts
   int m_nMarker;            // leading characters of "No." that mark the pair
   CPairForm m_nForm;
-  const wchar_t* m_szSpacing;
+  const wchar_t* m_szWidth;   // the part's size along x, as it stands in the pair
+  const wchar_t* m_szHeight;  // and along y
 };
 
 constexpr CPairTable kPairs[] = {
-    {L"热轧等边角钢组合", L"热轧等边角钢", 1, CPairForm::BackToBack, L"a(mm)"},
-    {L"热轧不等边角钢长边组合", L"热轧不等边角钢", 1, CPairForm::BackToBack, L"a(mm)"},
-    {L"热轧不等边角钢短边组合", L"热轧不等边角钢", 1, CPairForm::LegsUp, L"a(mm)"},
-    {L"热轧等边角钢十字组合", L"热轧等边角钢", 1, CPairForm::Cross, L"δ(mm)"},
-    {L"热轧普通槽钢][组合", L"热轧普通槽钢", 3, CPairForm::BackToBack, L"a(mm)"},
-    {L"热轧普通槽钢[]组合", L"热轧普通槽钢", 3, CPairForm::ToeToToe, L"a(mm)"},
-    {L"热轧轻型槽钢][组合", L"热轧轻型槽钢", 3, CPairForm::BackToBack, L"a(mm)"},
-    {L"热轧轻型槽钢[]组合", L"热轧轻型槽钢", 3, CPairForm::ToeToToe, L"a(mm)"},
+    {L"热轧等边角钢组合", L"热轧等边角钢", 1, CPairForm::BackToBack, L"b", L"b"},
+    {L"热轧不等边角钢长边组合", L"热轧不等边角钢", 1, CPairForm::BackToBack, L"b", L"B"},
+    {L"热轧不等边角钢短边组合", L"热轧不等边角钢", 1, CPairForm::LegsUp, L"B", L"b"},
+    {L"热轧等边角钢十字组合", L"热轧等边角钢", 1, CPairForm::Cross, L"b", L"b"},
+    {L"热轧普通槽钢][组合", L"热轧普通槽钢", 3, CPairForm::BackToBack, L"b", L"h"},
+    {L"热轧普通槽钢[]组合", L"热轧普通槽钢", 3, CPairForm::ToeToToe, L"b", L"h"},
+    {L"热轧轻型槽钢][组合", L"热轧轻型槽钢", 3, CPairForm::BackToBack, L"b", L"h"},
+    {L"热轧轻型槽钢[]组合", L"热轧轻型槽钢", 3, CPairForm::ToeToToe, L"b", L"h"},
 };
 
 const CPairTable* FindPair(const CString& tableName) {
@@ -68,32 +69,33 @@ COutline CrossOf(const COutline& part, double gap) {
   return both;
 }
 
+// The part as it stands on the right.
+COutline StandingPart(const CPairTable& pair, const CString& no) {
+  COutline part = RowOutline(CLoadDataTable::GetSysTemJMItem(pair.m_szPart, no));
+  if (pair.m_nForm == CPairForm::ToeToToe) return Mirrored(std::move(part));
+  // The mirror image turned back lies on its long leg, heel again at the lower left.
+  if (pair.m_nForm == CPairForm::LegsUp) return QuarterTurned(Mirrored(std::move(part)), 3);
+  return part;
+}
+
 }  // namespace
 
 bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullptr; }
 
-COutline PairOutline(const CDataItem& row) {
+CPair PairOf(const CDataItem& row) {
   const CPairTable* pair = FindPair(row.GetTableName());
   if (pair == nullptr || row.IsEmpty()) return {};
-  const double gap = ChosenSpacing(row, pair->m_szSpacing);
+  const bool cross = pair->m_nForm == CPairForm::Cross;
+  const double gap = ChosenSpacing(row, cross ? L"δ(mm)" : L"a(mm)");
   if (gap < 0) return {};
-  const CString no = row[0].m_strValue.Mid(pair->m_nMarker);
-  const COutline part = RowOutline(CLoadDataTable::GetSysTemJMItem(pair->m_szPart, no));
+  const COutline part = StandingPart(*pair, row[0].m_strValue.Mid(pair->m_nMarker));
   if (part.m_arrLoop.empty()) return {};
-  switch (pair->m_nForm) {
-    case CPairForm::BackToBack:
-      return SideBySide(Mirrored(part), part, gap);
-    case CPairForm::LegsUp: {
-      // The mirror image turned back lies on its long leg, heel again at the lower left.
-      const COutline lying = QuarterTurned(Mirrored(part), 3);
-      return SideBySide(Mirrored(lying), lying, gap);
-    }
-    case CPairForm::ToeToToe:
-      return SideBySide(part, Mirrored(part), gap);
-    case CPairForm::Cross:
-      return CrossOf(part, gap);
-  }
-  return {};
+  return {cross ? CrossOf(part, gap) : SideBySide(Mirrored(part), part, gap),
+          part,
+          gap,
+          pair->m_szWidth,
+          pair->m_szHeight,
+          cross ? L"δ" : L"a"};
 }
 
 }  // namespace orv3

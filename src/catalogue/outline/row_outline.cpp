@@ -16,24 +16,15 @@ struct CTableShape {
 };
 
 constexpr CTableShape kShapes[] = {
-    {L"热轧普通工字钢", OrdinaryI},
-    {L"热轧轻型工字钢", LightI},
-    {L"热轧普通焊接H型钢", WeldedH},
-    {L"热轧轻型焊接H型钢", WeldedH},
-    {L"热轧宽翼缘H型钢", RolledH},
-    {L"热轧窄翼缘H型钢", RolledH},
-    {L"冷弯薄壁方钢管", SquareTube},
-    {L"剖分T型钢", SplitT},
-    {L"热轧普通槽钢", RolledChannel},
-    {L"热轧轻型槽钢", RolledChannel},
-    {L"冷弯薄壁槽钢", ColdChannel},
-    {L"冷弯薄壁卷边槽钢", LippedChannel},
-    {L"冷弯薄壁卷边Z型钢", LippedZ},
-    {L"冷弯薄壁斜卷边Z型钢", SlopingLipZ},
-    {L"冷弯焊接薄壁圆钢管", RoundTube},
-    {L"热轧等边角钢", EqualAngle},
-    {L"热轧不等边角钢", UnequalAngle},
-    {L"冷弯薄壁等边角钢", ColdAngle},
+    {L"热轧普通工字钢", OrdinaryI},     {L"热轧轻型工字钢", LightI},
+    {L"热轧普通焊接H型钢", WeldedH},    {L"热轧轻型焊接H型钢", WeldedH},
+    {L"热轧宽翼缘H型钢", RolledH},      {L"热轧窄翼缘H型钢", RolledH},
+    {L"冷弯薄壁方钢管", SquareTube},    {L"剖分T型钢", SplitT},
+    {L"热轧普通槽钢", RolledChannel},   {L"热轧轻型槽钢", RolledChannel},
+    {L"冷弯薄壁槽钢", ColdChannel},     {L"冷弯薄壁卷边槽钢", LippedChannel},
+    {L"冷弯薄壁卷边Z型钢", LippedZ},    {L"冷弯薄壁斜卷边Z型钢", SlopingLipZ},
+    {L"冷弯焊接薄壁圆钢管", RoundTube}, {L"热轧等边角钢", EqualAngle},
+    {L"热轧不等边角钢", UnequalAngle},  {L"冷弯薄壁等边角钢", ColdAngle},
     {L"冷弯卷边等边角钢", LippedAngle},
 };
 
@@ -57,8 +48,8 @@ COutline CustomOutline(const CSectionStyle& style, const CDataItem& row) {
 }
 
 COutline UnturnedOutline(const CDataItem& row) {
-  if (IsPairTable(row.GetTableName())) return PairOutline(row);
-  if (IsLatticeTable(row.GetTableName())) return LatticeOutline(row);
+  if (IsPairTable(row.GetTableName())) return PairOf(row).m_outline;
+  if (IsLatticeTable(row.GetTableName())) return PlaceLimbs(row).m_outline;
   const CSectionStyle* style = FindSectionStyle(row.GetTableName().View());
   return style != nullptr ? CustomOutline(*style, row) : RolledOutline(row);
 }
@@ -75,12 +66,15 @@ COutline QuarterTurned(COutline outline, int quarters) {
   return outline;
 }
 
-COutline RowOutline(const CDataItem& row, double angle) {
-  int quarters = 0;
-  for (const int turn : {1, 2, 3}) {
-    if (std::fabs(angle - 90 * turn) < 0.0001) quarters = turn;
+int QuarterTurns(double angle) {
+  for (const int turns : {1, 2, 3}) {
+    if (std::fabs(angle - 90 * turns) < 0.0001) return turns;
   }
-  return QuarterTurned(UnturnedOutline(row), quarters);
+  return 0;
+}
+
+COutline RowOutline(const CDataItem& row, double angle) {
+  return QuarterTurned(UnturnedOutline(row), QuarterTurns(angle));
 }
 
 }  // namespace orv3

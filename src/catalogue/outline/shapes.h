@@ -1,6 +1,8 @@
 // The shapes of the section tables, one file per family group.
 #pragma once
 
+#include <vector>
+
 #include "catalogue/outline/row_sizes.h"
 #include "sections/outline.h"
 
@@ -29,15 +31,30 @@ COutline SlopingLipZ(CRowSizes& sizes);
 COutline SquareTube(CRowSizes& sizes);
 COutline RoundTube(CRowSizes& sizes);
 
+// The quarter turns of an angle in degrees; 0 for any other angle than 90, 180 and 270.
+int QuarterTurns(double angle);
 // A turned outline: `quarters` quarter turns counter-clockwise, origin as before.
 COutline QuarterTurned(COutline outline, int quarters);
 
-// Built of rows of the system store; no loops when one is not there or has no outline.
-// Pairs of angles and channels, and the cross of angles (pair_shapes.cpp).
+// Pairs of angles and channels, and the cross of angles (pair_shapes.cpp): two equal rows of the
+// system store.
+struct CPair {
+  COutline m_outline;  // without loops when the part is not in the store or has no outline
+  COutline m_part;     // as it stands on the right, the upper one of a cross
+  double m_dGap = 0;   // mm
+  const wchar_t* m_szWidth = L"";  // signs of the part's width and height and of the gap
+  const wchar_t* m_szHeight = L"";
+  const wchar_t* m_szGap = L"";
+};
 bool IsPairTable(const CString& tableName);
-COutline PairOutline(const CDataItem& row);
+CPair PairOf(const CDataItem& row);
+
 // Lattice columns (lattice_shape.cpp).
+struct CPlacedLimbs {
+  COutline m_outline;  // without loops when a limb is not in the store or has no outline
+  std::vector<CPoint> m_arrCentroid;  // of the limbs
+};
 bool IsLatticeTable(const CString& tableName);
-COutline LatticeOutline(const CDataItem& row);
+CPlacedLimbs PlaceLimbs(const CDataItem& row);
 
 }  // namespace orv3

@@ -1,0 +1,24 @@
+// The picture of a lattice column: its limbs to scale where they stand, their numbers, the
+// centroidal axes, and the spacings dimensioned.
+#pragma once
+
+#include <string>
+
+#include "catalogue/lattice/lattice_limbs.h"
+#include "framework/cstring.h"
+#include "framework/drawing.h"
+#include "framework/export.h"
+
+namespace orv3 {
+
+struct CLatticePicture {
+  CString m_strTable;
+  CString m_strName;
+  CLatticeLimbs m_limbs;  // fetched and placed
+};
+
+// A limb whose outline cannot be drawn stands as its enclosing rectangle.
+ORV3CAL_API CDrawing LatticePictureDrawing(const CLatticePicture& picture);
+ORV3CAL_API std::string LatticePictureSvg(const CLatticePicture& picture);
+
+}  // namespace orv3

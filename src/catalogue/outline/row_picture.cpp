@@ -1,0 +1,72 @@
+#include "catalogue/outline/row_picture.h"
+
+#include <cmath>
+
+#include "catalogue/outline/outline_moments.h"
+#include "catalogue/outline/row_dimensions.h"
+#include "catalogue/outline/row_outline.h"
+#include "catalogue/outline/shapes.h"
+#include "framework/number_text.h"
+#include "sections/outline_picture.h"
+#include "sections/section_style.h"
+#include "sections/steel_jm_data.h"
+
+namespace orv3 {
+namespace {
+
+CString Title(const CDataItem& row, int quarters) {
+  CString title = row.GetTableName();
+  if (!row.IsEmpty()) title += L"  " + row[0].m_strValue;
+  if (quarters > 0) title += L"  转" + FormatInt(90 * quarters) + L"°";
+  return title;
+}
+
+// As precise as anyone draws.
+double Hundredths(double mm) { return std::round(mm * 100) / 100; }
+
+CPoint QuarterTurned(CPoint p, int quarters, double width, double height) {
+  switch (quarters) {
+    case 1:
+      return {height - p.y, p.x};
+    case 2:
+      return {width - p.x, height - p.y};
+    case 3:
+      return {p.y, width - p.x};
+    default:
+      return p;
+  }
+}
+
+// The base point of a user-defined row, unturned.
+std::optional<CPoint> BasePoint(const CDataItem& row) {
+  if (FindSectionStyle(row.GetTableName().View()) == nullptr) return std::nullopt;
+  CSteelJMData record;
+  if (record.TransItemToJMData(row) == 0) return std::nullopt;
+  return CPoint{record.m_dX, record.m_dY};
+}
+
+}  // namespace
+
+CDrawing RowPictureDrawing(const CDataItem& row, double angle) {
+  const int quarters = QuarterTurns(angle);
+  const COutline upright = RowOutline(row);
+  const CString title = Title(row, quarters);
+  if (upright.m_arrLoop.empty()) return TextPictureDrawing({title, L"没有可画的截面"});
+  const double width = upright.m_dWidth;
+  const double height = upright.m_dHeight;
+  COutlinePicture picture;
+  picture.m_outline = QuarterTurned(upright, quarters);
+  picture.m_arrSize = QuarterTurned(RowDimensions(row, upright), quarters, width, height);
+  const CPoint centroid = RowOutlineMoments(picture.m_outline.m_arrLoop).m_centroid;
+  picture.m_centroid = {Hundredths(centroid.x), Hundredths(centroid.y)};
+  if (const auto base = BasePoint(row))
+    picture.m_base = QuarterTurned(*base, quarters, width, height);
+  picture.m_strTitle = title;
+  return OutlinePictureDrawing(picture);
+}
+
+std::string RowPictureSvg(const CDataItem& row, double angle) {
+  return DrawingSvg(RowPictureDrawing(row, angle), Title(row, QuarterTurns(angle)));
+}
+
+}  // namespace orv3

@@ -1,0 +1,33 @@
+// The picture of an outline, drawn to scale with its axes and sizes.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "framework/cstring.h"
+#include "framework/drawing.h"
+#include "framework/export.h"
+#include "sections/outline.h"
+#include "sections/section_dimensions.h"
+
+namespace orv3 {
+
+// Lengths in mm from the lower-left corner of the section's enclosing rectangle.
+struct COutlinePicture {
+  COutline m_outline;  // with at least one loop
+  std::vector<CSizeDimension> m_arrSize;
+  CPoint m_centroid;             // axes X0, Y0; X, Y when there is no base point
+  std::optional<CPoint> m_base;  // axes X, Y
+  CString m_strTitle;
+};
+
+// A base point farther from the section than half its greater side is given in writing only.
+ORV3CAL_API CDrawing OutlinePictureDrawing(const COutlinePicture& picture);
+
+// Lines of text in place of a picture, the first as its title.
+ORV3CAL_API CDrawing TextPictureDrawing(const std::vector<CString>& lines);
+
+// "tf = 20"
+CString SizeText(const CSizeDimension& size);
+
+}  // namespace orv3
