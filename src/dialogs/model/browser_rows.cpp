@@ -85,9 +85,8 @@ CListChange CBrowserModel::Edit() {
   const CDataItem before = SelectedRow();
   if (before.IsEmpty() || IsProtected(before)) return CListChange::None;
   CPropertyModel model(before, Full().GetTableName(), 1);
-  model.SetAccept([&](CDataItem& row, CDialogUser& user) {
-    return m_session.Modify(before, row, user);
-  });
+  model.SetAccept(
+      [&](CDataItem& row, CDialogUser& user) { return m_session.Modify(before, row, user); });
   const bool changed = m_user.Run(model);
   Refresh(CListChange::Rows);
   SelectByIndex(changed ? model.Row().m_nIndex : before.m_nIndex);

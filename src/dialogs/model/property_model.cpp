@@ -56,7 +56,7 @@ CStringArray QuarterTurns() {
 CPropertyModel::CPropertyModel(const CDataItem& row, const CString& tableName, int editMode)
     : m_row(row), m_strTable(tableName), m_nEditMode(editMode) {
   if (m_row.m_strTableName.IsEmpty()) m_row.m_strTableName = tableName;
-  m_nSource = tableName.Find(kLattice) >= 0       ? CSource::Lattice
+  m_nSource = tableName.Find(kLattice) >= 0        ? CSource::Lattice
               : FindSectionStyle(tableName.View()) ? CSource::Custom
                                                    : CSource::Plain;
   FillGrid();

@@ -238,9 +238,7 @@ void CSteelDataBaseDlg::FillOperators() {
   }
 }
 
-void CSteelDataBaseDlg::ShowSearch() {
-  Enable(IDC_WHOLE_MATCH, m_pModel->IsWholeMatchEnabled());
-}
+void CSteelDataBaseDlg::ShowSearch() { Enable(IDC_WHOLE_MATCH, m_pModel->IsWholeMatchEnabled()); }
 
 void CSteelDataBaseDlg::SearchNow() {
   m_pModel->SetSearchValue(TextOf(IDC_SEARCH_VALUE));
