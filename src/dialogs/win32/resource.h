@@ -2,6 +2,10 @@
 #ifndef ORV3CAL_DIALOGS_RESOURCE_H
 #define ORV3CAL_DIALOGS_RESOURCE_H
 
+#ifndef IDC_STATIC
+#define IDC_STATIC (-1)
+#endif
+
 /* Shared with other dialogs of the library. */
 #define IDI_ORV3CAL 8003
 #define IDC_HELP_BUTTON 8036
