@@ -33,8 +33,8 @@ bool IsNumeric(CDataTypeStruct::KVBT_Value_Type type) {
 }
 
 CString WithStars(const CString& value) {
-  const bool starred = !value.IsEmpty() &&
-                       (value[0] == L'*' || value[value.GetLength() - 1] == L'*');
+  const bool starred =
+      !value.IsEmpty() && (value[0] == L'*' || value[value.GetLength() - 1] == L'*');
   return starred ? value : L"*" + value + L"*";
 }
 
@@ -208,13 +208,12 @@ CString CBrowserModel::CountText() const {
   return L"检索到 " + FormatInt(ItemCount()) + L" 条记录，" + total;
 }
 
-void CBrowserModel::SelectItem(int item) {
-  m_nItem = item >= 0 && item < ItemCount() ? item : -1;
-}
+void CBrowserModel::SelectItem(int item) { m_nItem = item >= 0 && item < ItemCount() ? item : -1; }
 
 int CBrowserModel::SelectedIndex() const {
-  return HasItem() ? std::as_const(m_shown)[m_arrItemRow[static_cast<std::size_t>(m_nItem)]].m_nIndex
-                   : -1;
+  return HasItem()
+             ? std::as_const(m_shown)[m_arrItemRow[static_cast<std::size_t>(m_nItem)]].m_nIndex
+             : -1;
 }
 
 void CBrowserModel::SelectByIndex(int index) {

@@ -70,7 +70,7 @@ CListChange CBrowserModel::AddRow(const CDataItem& row, bool copy) {
 
 // A copy whose number is taken asks for another one until it is free or the user gives up.
 bool CBrowserModel::AcceptNew(CDataItem& row, bool copy, CDialogUser& user) {
-  while (copy && Full().IsHaveValue(row, -1) >= 0) {
+  while (copy && Full().GetTableColKey(0) && Full().IsHaveValue(row, -1) >= 0) {
     CSignModel number(std::as_const(row)[0].m_strValue);
     if (!user.Run(number)) return false;
     if (!number.Number().IsEmpty()) row.m_arrCell.Own(0).m_strValue = number.Number();
@@ -85,9 +85,8 @@ CListChange CBrowserModel::Edit() {
   const CDataItem before = SelectedRow();
   if (before.IsEmpty() || IsProtected(before)) return CListChange::None;
   CPropertyModel model(before, Full().GetTableName(), 1);
-  model.SetAccept([&](CDataItem& row, CDialogUser& user) {
-    return m_session.Modify(before, row, user);
-  });
+  model.SetAccept(
+      [&](CDataItem& row, CDialogUser& user) { return m_session.Modify(before, row, user); });
   const bool changed = m_user.Run(model);
   Refresh(CListChange::Rows);
   SelectByIndex(changed ? model.Row().m_nIndex : before.m_nIndex);
@@ -131,11 +130,12 @@ CListChange CBrowserModel::Import() {
   return Refresh(CListChange::Columns);
 }
 
-void CBrowserModel::Export() {
-  if (!m_session.WriteBack(m_user)) return;
+CListChange CBrowserModel::Export() {
+  if (!m_session.WriteBack(m_user)) return CListChange::None;
   CStringArray shown;
   if (HasTable()) shown.Add(Full().GetTableName());
   ExportTables(m_session.Path(), shown, m_user);
+  return CListChange::None;
 }
 
 // --- End ----------------------------------------------------------------------------------------

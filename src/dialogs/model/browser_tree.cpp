@@ -14,10 +14,14 @@ struct CFamily {
 };
 
 constexpr CFamily kCatalogueFamilies[] = {
-    {L"工字钢、H型钢", TABLE_FAMILY_I, 0}, {L"方钢管", TABLE_FAMILY_BOX, 2},
-    {L"T型钢", TABLE_FAMILY_T, 3},         {L"槽钢", TABLE_FAMILY_CHANNEL, 4},
-    {L"Z型钢", TABLE_FAMILY_Z, 6},         {L"圆钢管", TABLE_FAMILY_ROUND, 8},
-    {L"角钢", TABLE_FAMILY_ANGLE, 9},      {L"角钢组合", TABLE_FAMILY_ANGLE_PAIR, 12},
+    {L"工字钢、H型钢", TABLE_FAMILY_I, 0},
+    {L"方钢管", TABLE_FAMILY_BOX, 2},
+    {L"T型钢", TABLE_FAMILY_T, 3},
+    {L"槽钢", TABLE_FAMILY_CHANNEL, 4},
+    {L"Z型钢", TABLE_FAMILY_Z, 6},
+    {L"圆钢管", TABLE_FAMILY_ROUND, 8},
+    {L"角钢", TABLE_FAMILY_ANGLE, 9},
+    {L"角钢组合", TABLE_FAMILY_ANGLE_PAIR, 12},
     {L"槽钢组合", TABLE_FAMILY_CHANNEL_PAIR, 16},
 };
 

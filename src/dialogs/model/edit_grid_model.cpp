@@ -76,7 +76,9 @@ const CStringArray& CEditGridModel::Choices(int line, int column) const {
   return Cell(line, column).m_arrChoice;
 }
 
-CString CEditGridModel::CellText(int line, int column) const { return Cell(line, column).m_strText; }
+CString CEditGridModel::CellText(int line, int column) const {
+  return Cell(line, column).m_strText;
+}
 
 void CEditGridModel::SetCellText(int line, int column, const CString& text) {
   Cell(line, column).m_strText = text;
