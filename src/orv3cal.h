@@ -6,6 +6,8 @@
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/lattice_picture.h"
 #include "catalogue/lattice/lattice_properties.h"
+#include "catalogue/import/csv_table.h"
+#include "catalogue/import/section_rows.h"
 #include "catalogue/import/table_import.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/rolled/read_file.h"
