@@ -1,0 +1,235 @@
+// Rolled and cold-formed sections.
+//
+// An angle stands with its heel at the lower left, a T with its flange at the top, a channel with
+// its back on the left.
+#include "sections/geometry/families.h"
+#include "sections/geometry/formulas.h"
+
+namespace orv3 {
+namespace {
+
+using CTables = std::array<std::wstring_view, 3>;
+
+constexpr CFamily ISection(CTables tables, CSource width, CSource height, CSource moment,
+                           CSource flange) {
+  return {
+      .m_arrTable = tables,
+      .m_width = width,
+      .m_height = height,
+      .m_x = HalfWidth,
+      .m_y = HalfHeight,
+      .m_Ix = L"Ix(cm^4)",
+      .m_Iy = L"Iy(cm^4)",
+      .m_ix = L"ix(cm)",
+      .m_iy = L"iy(cm)",
+      .m_Wx1 = L"Wx(cm^3)",
+      .m_Wx2 = L"Wx(cm^3)",
+      .m_WyL = L"Wy(cm^3)",
+      .m_WyR = L"Wy(cm^3)",
+      .m_Sx = moment,
+      .m_arrPlate = {flange, L"tw(mm)"},
+      .m_Iw = IWarping,
+      .m_bSymmetricX = true,
+      .m_bSymmetricY = true,
+  };
+}
+
+constexpr CFamily Tube(std::wstring_view table, CSource width, CSource inertia, CSource radius,
+                       CSource modulus, CFormula moment) {
+  return {
+      .m_arrTable = {table},
+      .m_width = width,
+      .m_height = width,
+      .m_x = HalfWidth,
+      .m_y = HalfHeight,
+      .m_Ix = inertia,
+      .m_Iy = inertia,
+      .m_ix = radius,
+      .m_iy = radius,
+      .m_Wx1 = modulus,
+      .m_Wx2 = modulus,
+      .m_WyL = modulus,
+      .m_WyR = modulus,
+      .m_Sx = moment,
+      .m_arrPlate = {L"t(mm)"},
+      .m_bSymmetricX = true,
+      .m_bSymmetricY = true,
+  };
+}
+
+// The height is a text column. The vertical centroid is taken at mid-height, as for all sections of
+// one web; what depends on the true one, Cx below the top, uses that.
+constexpr CFamily kRolledT{
+    .m_arrTable = {L"剖分T型钢"},
+    .m_width = L"B(mm)",
+    .m_height = {TextNumber, L"h(mm)"},
+    .m_x = HalfWidth,
+    .m_y = HalfHeight,
+    .m_Ix = L"Ix(cm^4)",
+    .m_Iy = L"Iy(cm^4)",
+    .m_ix = L"ix(cm)",
+    .m_iy = L"iy(cm)",
+    .m_Wx1 = {ModulusAtDepth, L"Cx(cm)"},
+    .m_Wx2 = L"Wx(cm^3)",
+    .m_WyL = L"Wy(cm^3)",
+    .m_WyR = L"Wy(cm^3)",
+    .m_Sx = TMoment,
+    .m_arrPlate = {L"t2(mm)", L"t1(mm)"},
+    .m_e0 = {TShearCentre, L"Cx(cm)"},
+    .m_bSymmetricY = true,
+};
+
+constexpr CFamily kRolledChannel{
+    .m_arrTable = {L"热轧普通槽钢", L"热轧轻型槽钢"},
+    .m_width = L"b(mm)",
+    .m_height = L"h(mm)",
+    .m_x = L"zo(cm)",
+    .m_y = HalfHeight,
+    .m_Ix = L"Ix(cm^4)",
+    .m_Iy = L"Iy(cm^4)",
+    .m_ix = L"ix(cm)",
+    .m_iy = L"iy(cm)",
+    .m_Wx1 = L"Wx(cm^3)",
+    .m_Wx2 = L"Wx(cm^3)",
+    .m_WyL = L"Wymax(cm^3)",
+    .m_WyR = L"Wymin(cm^3)",
+    .m_Sx = L"Sx(cm^3)",
+    .m_arrPlate = {L"t(mm)", L"tw(mm)"},
+    .m_e0 = {ChannelShearCentre, L"zo(cm)"},
+    .m_Iw = ChannelWarping,
+    .m_bSymmetricX = true,
+};
+
+constexpr CFamily ColdChannel(std::wstring_view table, CFormula moment) {
+  return {
+      .m_arrTable = {table},
+      .m_width = L"b(mm)",
+      .m_height = L"h(mm)",
+      .m_x = L"xo(cm)",
+      .m_y = HalfHeight,
+      .m_Ix = L"Ix(cm^4)",
+      .m_Iy = L"Iy(cm^4)",
+      .m_ix = L"ix(cm)",
+      .m_iy = L"iy(cm)",
+      .m_Wx1 = L"Wx(cm^3)",
+      .m_Wx2 = L"Wx(cm^3)",
+      .m_WyL = L"Wymax(cm^3)",
+      .m_WyR = L"Wymin(cm^3)",
+      .m_Sx = moment,
+      .m_arrPlate = {L"t(mm)"},
+      .m_e0 = L"eo(cm)",
+      .m_Iw = L"Iw(cm^6)",
+      .m_bSymmetricX = true,
+  };
+}
+
+// About the axes x1 along the flanges and y1 along the web.
+constexpr CFamily ColdZ(std::wstring_view table, CFormula width, CFormula moment) {
+  return {
+      .m_arrTable = {table},
+      .m_width = width,
+      .m_height = L"h(mm)",
+      .m_x = HalfWidth,
+      .m_y = HalfHeight,
+      .m_Ix = L"Ix1(cm^4)",
+      .m_Iy = L"Iy1(cm^4)",
+      .m_ix = L"ix1(cm)",
+      .m_iy = L"iy1(cm)",
+      .m_Wx1 = L"Wx1(cm^3)",
+      .m_Wx2 = L"Wx1(cm^3)",
+      .m_WyL = L"Wy1(cm^3)",
+      .m_WyR = L"Wy1(cm^3)",
+      .m_Sx = moment,
+      .m_arrPlate = {L"t(mm)"},
+      .m_Iw = L"Iw(cm^6)",
+  };
+}
+
+// Io and the moduli are about axes along the legs, the radii about Xo, the axis of symmetry, and
+// Yo: those a single angle buckles about.
+constexpr CFamily kEqualAngle{
+    .m_arrTable = {L"热轧等边角钢"},
+    .m_width = L"b(mm)",
+    .m_height = L"b(mm)",
+    .m_x = L"zo(cm)",
+    .m_y = L"zo(cm)",
+    .m_Ix = L"Ix(cm^4)",
+    .m_Iy = L"Ix(cm^4)",
+    .m_ix = L"ixo(cm)",
+    .m_iy = L"iyo(cm)",
+    .m_Wx1 = L"Wxmin(cm^3)",
+    .m_Wx2 = L"Wxmax(cm^3)",
+    .m_WyL = L"Wxmax(cm^3)",
+    .m_WyR = L"Wxmin(cm^3)",
+    .m_Sx = HotAngleMoment,
+    .m_arrPlate = {L"t(mm)"},
+    .m_e0 = AngleShearCentre,
+};
+
+// The long leg stands upright.
+constexpr CFamily kUnequalAngle{
+    .m_arrTable = {L"热轧不等边角钢"},
+    .m_width = L"b(mm)",
+    .m_height = L"B(mm)",
+    .m_x = L"xo(cm)",
+    .m_y = L"yo(cm)",
+    .m_Ix = L"Ix(cm^4)",
+    .m_Iy = L"Iy(cm^4)",
+    .m_ix = L"ix(cm)",
+    .m_iy = L"iy(cm)",
+    .m_Wx1 = L"Wxmin(cm^3)",
+    .m_Wx2 = L"Wxmax(cm^3)",
+    .m_WyL = L"Wymax(cm^3)",
+    .m_WyR = L"Wymin(cm^3)",
+    .m_Sx = HotAngleMoment,
+    .m_arrPlate = {L"t(mm)"},
+    .m_e0 = AngleShearCentre,
+};
+
+// All about Xo and Yo, which are along the legs in these tables.
+constexpr CFamily ColdAngle(std::wstring_view table, CFormula moment, CSource warping) {
+  return {
+      .m_arrTable = {table},
+      .m_width = L"b(mm)",
+      .m_height = L"b(mm)",
+      .m_x = L"yo(cm)",
+      .m_y = L"yo(cm)",
+      .m_Ix = L"Ixo(cm^4)",
+      .m_Iy = L"Ixo(cm^4)",
+      .m_ix = L"ixo(cm)",
+      .m_iy = L"ixo(cm)",
+      .m_Wx1 = L"Wxomin(cm^3)",
+      .m_Wx2 = L"Wxomax(cm^3)",
+      .m_WyL = L"Wxomax(cm^3)",
+      .m_WyR = L"Wxomin(cm^3)",
+      .m_Sx = moment,
+      .m_arrPlate = {L"t(mm)"},
+      .m_e0 = L"eo(cm)",
+      .m_Iw = warping,
+  };
+}
+
+constexpr CFamily kFamilies[] = {
+    ISection({L"热轧普通工字钢", L"热轧轻型工字钢"}, L"b(mm)", L"h(mm)", L"Sx(cm^3)", L"t(mm)"),
+    ISection({L"热轧普通焊接H型钢", L"热轧轻型焊接H型钢"}, L"B(mm)", L"H(mm)", L"Sx(cm^3)",
+             L"tf(mm)"),
+    ISection({L"热轧宽翼缘H型钢", L"热轧窄翼缘H型钢"}, L"B(mm)", L"H(mm)", WideHMoment, L"tf(mm)"),
+    Tube(L"冷弯薄壁方钢管", L"h(mm)", L"Ix(cm^4)", L"ix(cm)", L"Wx(cm^3)", SquareTubeMoment),
+    Tube(L"冷弯焊接薄壁圆钢管", L"d(mm)", L"I(cm^4)", L"i(cm)", L"W(cm^3)", RoundTubeMoment),
+    kRolledT,
+    kRolledChannel,
+    ColdChannel(L"冷弯薄壁槽钢", ColdChannelMoment),
+    ColdChannel(L"冷弯薄壁卷边槽钢", LippedMoment),
+    ColdZ(L"冷弯薄壁卷边Z型钢", ZWidth, LippedMoment),
+    ColdZ(L"冷弯薄壁斜卷边Z型钢", SlantLipZWidth, SlantLipMoment),
+    kEqualAngle,
+    kUnequalAngle,
+    ColdAngle(L"冷弯薄壁等边角钢", ColdAngleMoment, {}),
+    ColdAngle(L"冷弯卷边等边角钢", LippedAngleMoment, L"Iw(cm^6)"),
+};
+
+}  // namespace
+
+std::span<const CFamily> RolledFamilies() noexcept { return kFamilies; }
+
+}  // namespace orv3

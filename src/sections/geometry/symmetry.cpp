@@ -1,0 +1,97 @@
+// Whether a row's section is symmetric. Rolled sections are by family; of user-defined ones some
+// are by style, the others when their sizes say so. A missing cell counts as 0.
+#include <span>
+
+#include "framework/kvb_math.h"
+#include "sections/geometry/families.h"
+#include "sections/load_data_table.h"
+
+namespace orv3 {
+
+namespace {
+
+// Sizes of a row, as the rules compare them.
+class CSizes {
+ public:
+  explicit CSizes(const CDataItem& row) : m_row(row) {}
+
+  bool Zero(CCell cell) const { return CKvbMath::EqualTo(Size(cell), 0); }
+  bool Equal(CCell a, CCell b) const { return CKvbMath::EqualTo(Size(a), Size(b)); }
+
+ private:
+  double Size(const CCell& cell) const { return Read(m_row, cell).value_or(0); }
+
+  const CDataItem& m_row;
+};
+
+using CRule = bool (*)(const CSizes& s);
+
+struct CStyleRules {
+  std::wstring_view m_table;
+  CRule m_x, m_y;  // about the horizontal and the vertical axis
+};
+
+constexpr CRule kAlways = [](const CSizes&) { return true; };
+constexpr CRule kNever = [](const CSizes&) { return false; };
+
+// Without its outstanding plates a section is a bare rectangle.
+constexpr CRule kBareL = [](const CSizes& s) { return s.Zero(L"bh(mm)") || s.Zero(L"bf(mm)"); };
+constexpr CRule kBareWeb = [](const CSizes& s) {
+  return (s.Zero(L"bh1(mm)") && s.Zero(L"bh2(mm)")) || s.Zero(L"bf1(mm)");
+};
+
+constexpr CStyleRules kRules[] = {
+    {L"自定义对称H型钢", kAlways, kAlways},
+    {L"自定义对称箱形截面", kAlways, kAlways},
+    {L"自定义翼缘十字形截面", kAlways, kAlways},
+    {L"自定义圆形截面", kAlways, kAlways},
+    {L"自定义圆管", kAlways, kAlways},
+    {L"矩形截面", kAlways, kAlways},
+    {L"六边形截面", kAlways, kAlways},
+    {L"三角形截面", kNever, kAlways},
+    {L"自定义非对称H型钢",
+     [](const CSizes& s) {
+       return s.Equal(L"bh1(mm)", L"bh2(mm)") && s.Equal(L"bf1(mm)", L"bf3(mm)") &&
+              s.Equal(L"bf2(mm)", L"bf4(mm)");
+     },
+     [](const CSizes& s) {
+       return s.Equal(L"bf1(mm)", L"bf2(mm)") && s.Equal(L"bf3(mm)", L"bf4(mm)");
+     }},
+    {L"自定义非对称箱形截面", [](const CSizes& s) { return s.Equal(L"t1(mm)", L"t2(mm)"); },
+     [](const CSizes& s) { return s.Equal(L"t3(mm)", L"t4(mm)"); }},
+    {L"自定义十字形截面", [](const CSizes& s) { return s.Equal(L"bh1(mm)", L"bh2(mm)"); },
+     [](const CSizes& s) { return s.Equal(L"bf1(mm)", L"bf2(mm)"); }},
+    {L"自定义T形截面",
+     [](const CSizes& s) {
+       return s.Zero(L"bh(mm)") || (s.Zero(L"bf1(mm)") && s.Zero(L"bf2(mm)"));
+     },
+     [](const CSizes& s) { return s.Zero(L"bh(mm)") || s.Equal(L"bf1(mm)", L"bf2(mm)"); }},
+    {L"自定义槽钢",
+     [](const CSizes& s) {
+       return s.Equal(L"bh1(mm)", L"bh2(mm)") && s.Equal(L"bf1(mm)", L"bf2(mm)");
+     },
+     kBareWeb},
+    {L"自定义L形截面", kBareL, kBareL},
+    {L"自定义Z形截面", kBareWeb, kBareWeb},
+};
+
+int Symmetric(const CDataItem& row, bool CFamily::*byFamily, CRule CStyleRules::*byStyle) {
+  const std::wstring_view table = row.m_strTableName;
+  for (const CStyleRules& rules : kRules) {
+    if (rules.m_table == table) return (rules.*byStyle)(CSizes(row)) ? 1 : 0;
+  }
+  const CFamily* family = FindFamily(table);
+  return family && family->*byFamily ? 1 : 0;
+}
+
+}  // namespace
+
+}  // namespace orv3
+
+int CLoadDataTable::IsDaTaItemSymmetryX(const CDataItem& item) {
+  return orv3::Symmetric(item, &orv3::CFamily::m_bSymmetricX, &orv3::CStyleRules::m_x);
+}
+
+int CLoadDataTable::IsDaTaItemSymmetryY(const CDataItem& item) {
+  return orv3::Symmetric(item, &orv3::CFamily::m_bSymmetricY, &orv3::CStyleRules::m_y);
+}
