@@ -160,7 +160,15 @@ CCaseSchema::CNeed CCaseSchema::Condition(const CJson& json) const {
   } else {
     need.m_minimum = rule.at("minimum").get<double>();
   }
-  need.m_arrKey = Positions(json.at("then").at("required"));
+  const CJson& then = json.at("then");
+  need.m_arrKey = Positions(then.at("required"));
+  CJson never = CJson::array();
+  const CJson barred = then.value("properties", CJson::object());
+  for (const auto& entry : barred.items()) {
+    if (entry.value() != false) Outside("a condition's rule for " + entry.key());
+    never.push_back(entry.key());
+  }
+  need.m_arrNever = Positions(never);
   return need;
 }
 
@@ -174,7 +182,7 @@ int CCaseSchema::Find(std::string_view key) const noexcept {
 CCaseFault CCaseSchema::Unknown(std::string_view key) const {
   std::string known;
   for (const CRule& rule : m_arrRule) known += (known.empty() ? "" : ", ") + rule.m_strKey;
-  return {std::string(key), "is no key of this check", "the keys are " + known};
+  return {std::string(key), "is no key here", "the keys are " + known};
 }
 
 bool CCaseSchema::Holds(const CNeed& need, const CCaseValues& values) const {
@@ -204,6 +212,12 @@ std::optional<CCaseFault> CCaseSchema::CheckAlternatives(const CCaseValues& valu
   return CCaseFault{first, whole == 0 ? "is missing" : "is given in more than one way", right};
 }
 
+CCaseFault CCaseSchema::Never(const CNeed& need, int key) const {
+  const std::string& condition = m_arrRule[static_cast<std::size_t>(need.m_nIf)].m_strKey;
+  return {m_arrRule[static_cast<std::size_t>(key)].m_strKey,
+          "has no place where " + condition + " is \"" + need.m_strConst + "\"", "leave it out"};
+}
+
 std::optional<CCaseFault> CCaseSchema::Check(const CCaseValues& values) const {
   for (std::size_t i = 0; i < m_arrRule.size(); ++i) {
     if (!values[i]) continue;
@@ -216,6 +230,9 @@ std::optional<CCaseFault> CCaseSchema::Check(const CCaseValues& values) const {
       const CRule& rule = m_arrRule[static_cast<std::size_t>(key)];
       if (!values[static_cast<std::size_t>(key)])
         return CCaseFault{rule.m_strKey, "is missing", rule.Right()};
+    }
+    for (const int key : need.m_arrNever) {
+      if (values[static_cast<std::size_t>(key)]) return Never(need, key);
     }
   }
   return CheckAlternatives(values);

@@ -1,9 +1,10 @@
-// What a check's JSON Schema (docs/schema) asks of a case, compiled once and asked case by case.
+// What a JSON Schema (docs/schema) asks of a case, compiled once and asked case by case.
 //
 // Of JSON Schema it understands what those files use: type, enum, minimum, exclusiveMinimum,
 // maximum, exclusiveMaximum, items, required, additionalProperties, oneOf lists of required keys,
-// and allOf with if (const or minimum of one key) and then (required). Anything else is refused at
-// the start, so that a schema never promises what is not checked.
+// and allOf with if (const or minimum of one key) and then (required, and properties that are
+// false: keys that must not be there). Anything else is refused at the start, so that a schema
+// never promises what is not checked.
 #pragma once
 
 #include <optional>
@@ -55,7 +56,9 @@ class CCaseSchema {
     std::string m_strConst;
     std::optional<double> m_minimum;
     std::vector<int> m_arrKey;
+    std::vector<int> m_arrNever;  // keys that must not be there
   };
+  CCaseFault Never(const CNeed& need, int key) const;
   bool Holds(const CNeed& need, const CCaseValues& values) const;
   std::optional<CCaseFault> CheckAlternatives(const CCaseValues& values) const;
   CNeed Condition(const CJson& json) const;

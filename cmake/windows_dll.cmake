@@ -1,12 +1,31 @@
-# Orv3CalDll.dll: the library's sources once more, with their exports.
+# Orv3CalDll.dll: the library's sources once more, with their exports, and the module's own.
+set(ORV3CAL_HOST_API_VERSION 1 CACHE STRING "What acrxGetApiVersion answers")
+
 get_target_property(sources orv3cal SOURCES)
-add_library(orv3cal_dll SHARED ${sources})
+set(module ${PROJECT_SOURCE_DIR}/src/module)
+configure_file(${module}/version.rc.in ${CMAKE_BINARY_DIR}/version.rc @ONLY)
+add_library(orv3cal_dll SHARED ${sources} ${module}/dll_main.cpp ${CMAKE_BINARY_DIR}/version.rc)
 set_target_properties(orv3cal_dll PROPERTIES OUTPUT_NAME Orv3CalDll PREFIX "")
+set_property(SOURCE ${CMAKE_BINARY_DIR}/version.rc
+             PROPERTY OBJECT_DEPENDS ${module}/common_controls.manifest)
 add_dependencies(orv3cal_dll orv3cal)  # whatever generates sources has run
 orv3cal_warnings(orv3cal_dll)
 target_compile_features(orv3cal_dll PUBLIC cxx_std_20)
-target_compile_definitions(orv3cal_dll PRIVATE ORV3CAL_BUILD_DLL INTERFACE ORV3CAL_USE_DLL)
+target_compile_definitions(orv3cal_dll
+                           PRIVATE ORV3CAL_BUILD_DLL
+                                   ORV3CAL_HOST_API_VERSION=${ORV3CAL_HOST_API_VERSION}
+                           INTERFACE ORV3CAL_USE_DLL)
 target_include_directories(orv3cal_dll PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
+get_target_property(libraries orv3cal LINK_LIBRARIES)
+if(libraries)
+  target_link_libraries(orv3cal_dll PRIVATE ${libraries})
+endif()
+target_link_libraries(orv3cal_dll PRIVATE orv3cal_resources)
+# The C interface is exported under its plain names too, which spreadsheets and scripts ask for; the
+# import library keeps the decorated ones for C and C++ programs.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_link_options(orv3cal_dll PRIVATE -Wl,--add-stdcall-alias)
+endif()
 
 # On i686 a program catches what the DLL throws only when both use one runtime, so its files go
 # beside the DLL. On x86_64 a static runtime is enough.

@@ -308,12 +308,20 @@ class CPictureLayout {
          u.x > 0 ? CAnchor::Left : CAnchor::Right);
   }
 
-  // Where a leader's text begins, in page units from the section's origin.
+  // Where a leader's text begins, in page units from the section's origin; clear of the axes.
   CPoint LeaderEnd(const CSizeDimension& size) const {
     const CPoint away{size.m_from.x - size.m_to.x, size.m_from.y - size.m_to.y};
     const double length = std::hypot(away.x, away.y);
     const double reach = length > 0 ? kLeader / length : 0;
-    return {size.m_to.x * m_dScale + away.x * reach, size.m_to.y * m_dScale + away.y * reach};
+    const double sense = away.x > 0 ? 1 : -1;
+    const double text = TextWidth(SizeText(size), kTextSize) + 4;
+    CPoint end{size.m_to.x * m_dScale + away.x * reach, size.m_to.y * m_dScale + away.y * reach};
+    const CPoint axis{m_picture.m_centroid.x * m_dScale, m_picture.m_centroid.y * m_dScale};
+    const double before = sense * (axis.x - end.x);  // to the Y axis, in the text's direction
+    if (before > 0 && before < text + 4) end.x = axis.x;
+    if (std::fabs(end.y - axis.y) < kTextSize)
+      end.y = axis.y + std::copysign(kTextSize, end.y - axis.y);
+    return end;
   }
 
   void DrawLeader(const CSizeDimension& size) {
@@ -332,10 +340,11 @@ class CPictureLayout {
     m_pDrawing->AddDimension(d);
   }
 
-  // Across a flange, the text on the side of the section's middle.
+  // Across a flange, the text towards the section's middle and beside the flange's outer half.
   void DrawInside(const CSizeDimension& size) {
     CDimension d = Vertical(size);
     d.m_dLine = d.m_from.x;
+    d.m_bTextBelow = size.m_from.x > m_outline.m_dWidth / 2;
     const bool upper = size.m_from.y > m_outline.m_dHeight / 2;
     d.m_dTextAt = upper ? std::min(d.m_from.y, d.m_to.y) - kInsideText
                         : std::max(d.m_from.y, d.m_to.y) + kInsideText;

@@ -1,5 +1,7 @@
 #include "catalogue/outline/row_picture.h"
 
+#include <cmath>
+
 #include "catalogue/outline/outline_moments.h"
 #include "catalogue/outline/row_dimensions.h"
 #include "catalogue/outline/row_outline.h"
@@ -18,6 +20,9 @@ CString Title(const CDataItem& row, int quarters) {
   if (quarters > 0) title += L"  转" + FormatInt(90 * quarters) + L"°";
   return title;
 }
+
+// As precise as anyone draws.
+double Hundredths(double mm) { return std::round(mm * 100) / 100; }
 
 CPoint QuarterTurned(CPoint p, int quarters, double width, double height) {
   switch (quarters) {
@@ -52,7 +57,8 @@ CDrawing RowPictureDrawing(const CDataItem& row, double angle) {
   COutlinePicture picture;
   picture.m_outline = QuarterTurned(upright, quarters);
   picture.m_arrSize = QuarterTurned(RowDimensions(row, upright), quarters, width, height);
-  picture.m_centroid = RowOutlineMoments(picture.m_outline.m_arrLoop).m_centroid;
+  const CPoint centroid = RowOutlineMoments(picture.m_outline.m_arrLoop).m_centroid;
+  picture.m_centroid = {Hundredths(centroid.x), Hundredths(centroid.y)};
   if (const auto base = BasePoint(row))
     picture.m_base = QuarterTurned(*base, quarters, width, height);
   picture.m_strTitle = title;

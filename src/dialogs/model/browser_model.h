@@ -10,6 +10,7 @@
 
 #include "dialogs/model/browser_tree.h"
 #include "dialogs/model/dialog_user.h"
+#include "dialogs/model/store_failure.h"
 #include "dialogs/model/table_session.h"
 #include "framework/array.h"
 #include "framework/bitmap.h"
@@ -44,7 +45,7 @@ class CBrowserModel {
                 CDialogUser& user);
   CBrowserModel(const CBrowserModel&) = delete;
   CBrowserModel& operator=(const CBrowserModel&) = delete;
-  ~CBrowserModel();
+  ~CBrowserModel() = default;
 
   // Loads the table to start with: once, when the dialog is there to show messages.
   CListChange Open();
@@ -108,7 +109,7 @@ class CBrowserModel {
 
   // --- Stores -----------------------------------------------------------------------------------
   CListChange Import();
-  CListChange Export();
+  CListChange Export();  // leaves the list alone
 
   // --- End --------------------------------------------------------------------------------------
   // False when the dialog stays open (the spacing was not given).
@@ -121,21 +122,21 @@ class CBrowserModel {
   const CDataTable& Full() const noexcept { return m_session.Table(); }
   int DeepestNode(int node) const;
   int InitialNode() const;
-  CListChange LoadNode(int node);
+  void LoadNode(int node);
+  void FillSearchColumns();
+  CListChange Refresh(CListChange change);
   void ApplySearch();
   void FillList();
   void SelectByIndex(int index);
-  int FullPosition(int item) const;
-  bool RefuseProtected(const CDataItem& row);
+  int SelectedIndex() const;
+  CDataItem SelectedRow() const;
+  bool IsProtected(const CDataItem& row);
   CListChange AddRow(const CDataItem& row, bool copy);
   bool AcceptNew(CDataItem& row, bool copy, CDialogUser& user);
-  CListChange Refresh(int index);
-  CString Spacing() const;
 
   CDialogUser& m_user;
   CMessageRoute m_route;
-  CString m_strPath;
-  CString m_strProgramPath;  // to be put back at the end
+  CProgramPathScope m_path;
   CDataItem m_initial;
   std::vector<CTreeNode> m_arrNode;
   int m_nNode = -1;

@@ -24,13 +24,14 @@ inline constexpr wchar_t kProtectedRow[] = L"本数据记录不能删除和编�
 inline constexpr wchar_t kNoCopyOfCombined[] = L"型钢组合不能进行复制";
 inline constexpr wchar_t kOverwriteQuestion[] =
     L"选择确定将覆盖所有相同型号数据!\n是否覆盖已有型号数据？";
-inline constexpr wchar_t kDeleteQuestion[] = L"是否删除所选数据记录？";
 inline constexpr wchar_t kRowGone[] = L"该条数据记录已被其他程序修改或删除，请重新选择!";
-inline constexpr wchar_t kNoDefaultRow[] = L"请先选择一条数据记录作为新记录的样本!";
+inline constexpr wchar_t kNoDefaultRow[] = L"该截面类型没有默认数据，不能增加记录!";
+inline constexpr wchar_t kNoSample[] = L"请先选择一条数据记录作为新记录的样本!";
+inline constexpr wchar_t kOtherColumns[] = L"截面表的列与该截面类型不符，不能增加记录!";
 inline constexpr wchar_t kNothingToExport[] = L"没有可以导出的截面表!";
 inline constexpr wchar_t kExportIntoItself[] = L"不能导出到正在使用的截面库文件，请另选文件名!";
-inline constexpr wchar_t kExportDone[] = L"导出完成，截面表个数：";
-inline constexpr wchar_t kImportDone[] = L"导入完成，文件个数：";
+inline constexpr wchar_t kExportNotPlaced[] =
+    L"不能写入文件，请检查文件是否正被使用、文件夹是否可写：";
 inline constexpr wchar_t kImportFailed[] = L"以下文件未能导入：";
 inline constexpr wchar_t kImporting[] = L"正在导入截面数据";
 inline constexpr wchar_t kExporting[] = L"正在导出截面数据";
@@ -48,14 +49,8 @@ inline constexpr wchar_t kCancel[] = L"取消";
 inline constexpr wchar_t kLeave[] = L"退出";
 inline constexpr wchar_t kParameterName[] = L"参数名称";
 inline constexpr wchar_t kParameterValue[] = L"参数值";
-inline constexpr wchar_t kNotANumber[] = L"请输入数字：";
-inline constexpr wchar_t kNotAWholeNumber[] = L"请输入整数：";
-inline constexpr wchar_t kNotOneCharacter[] = L"请输入一个字符：";
-inline constexpr wchar_t kNumberMissing[] = L"请输入型钢型号!";
-inline constexpr wchar_t kTooLong[] = L"内容不能超过30个字符：";
-inline constexpr wchar_t kBadCharacter[] = L"内容不能含有逗号或换行：";
-inline constexpr wchar_t kLimbMissing[] =
-    L"不能计算格构柱截面特性，请检查各肢的类型、型号、角度和肢距!";
+inline constexpr wchar_t kNoResult[] =
+    L"不能计算截面特性，请检查截面尺寸或各肢的类型、型号、角度和肢距!";
 
 // --- Spacing and number
 // -----------------------------------------------------------------------------
@@ -92,6 +87,9 @@ inline constexpr wchar_t kTableNameMissing[] = L"请输入截面表名称!";
 inline constexpr wchar_t kTableNameTooLong[] = L"截面表名称不能超过64个字符!";
 inline constexpr wchar_t kTableNameTaken[] = L"该截面表名称已经存在!";
 inline constexpr wchar_t kTableNameComma[] = L"截面表名称不能含有逗号或换行!";
+inline constexpr wchar_t kTableNameNotHere[] = L"该名称的截面类型不在本命令的选择范围内!";
+inline constexpr wchar_t kNameOfOtherColumns[] = L"该名称的截面类型要求其他的列，请另选名称!";
+inline constexpr wchar_t kNoHeading[] = L"系统截面库中没有该截面表，不能新建!";
 inline constexpr wchar_t kColumnName[] = L"列名称";
 inline constexpr wchar_t kColumnSign[] = L"列标识";
 inline constexpr wchar_t kColumnType[] = L"数据类型";
@@ -103,6 +101,9 @@ inline constexpr wchar_t kSignTooLong[] = L"列标识不能超过20个字符!";
 inline constexpr wchar_t kSignTaken[] = L"该列标识已经存在!";
 inline constexpr wchar_t kNameTooLong[] = L"列名称不能超过64个字符!";
 inline constexpr wchar_t kColumnComma[] = L"列名称和列标识不能含有逗号或换行!";
+inline constexpr wchar_t kLastColumn[] = L"截面表至少应有两列!";
+inline constexpr wchar_t kNewColumnName[] = L"新列";
+inline constexpr wchar_t kCopyRow[] = L"复制记录";
 inline constexpr wchar_t kFixedColumns[] = L"本截面表的列由截面类型确定，不能修改!";
 inline constexpr wchar_t kValuesDoNotFit[] = L"已有数据不符合新的数据类型：";
 inline constexpr wchar_t kDuplicateKeys[] = L"已有数据在新的关键字下重复!";

@@ -66,4 +66,22 @@ class CMessageRoute {
   CMessageHandler m_previous;
 };
 
+// While it lives, what the library says through ShowMessage is kept; ShowTo ends that and shows it.
+// Questions are declined.
+class CHeldMessages {
+ public:
+  CHeldMessages();
+  CHeldMessages(const CHeldMessages&) = delete;
+  CHeldMessages& operator=(const CHeldMessages&) = delete;
+  ~CHeldMessages();
+  void ShowTo(CDialogUser& user);
+
+ private:
+  void GiveBack();
+
+  std::vector<CMessage> m_arrMessage;
+  CMessageHandler m_previous;
+  bool m_bHolding = true;
+};
+
 }  // namespace orv3

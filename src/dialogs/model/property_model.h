@@ -42,17 +42,21 @@ class CPropertyModel {
   const CDataItem& Row() const noexcept { return m_row; }
 
  private:
-  enum class CSource { Rolled, Custom, Lattice };
+  enum class CSource { Plain, Custom, Lattice };
 
+  int LineCount() const noexcept { return m_row.GetItemLength(); }
   void FillGrid();
   void ShowValues();
   void SetModifyTypes();
-  void SetLimbChoices(int limb);
-  void ChooseFirstNumber(int limb);
+  void OfferSpacings();
+  void OfferLimbs();
+  void OfferNumbers(int limb);
+  void ChooseNumber(int limb);
+  void SetCell(int line, const CString& text);
   bool IsComputed(int line) const;
-  int Compute();
-  int FindFault(CString& text) const;
-  bool Refuse(CDialogUser& user, int line, const CString& text);
+  void Recompute();
+  bool Compute();
+  bool Refuse(CDialogUser& user);
 
   CDataItem m_row;
   CString m_strTable;

@@ -1,7 +1,8 @@
-// CSpacingModel: asks for the spacing of the two (four) components of a combined section
-// (CSteelZHZJDlg), and what the families of combined sections have to do with a spacing.
+// CSpacingModel: asks for the spacing of the components of a combined section (CSteelZHZJDlg), and
+// what the families of combined sections have to do with a spacing.
 #pragma once
 
+#include "dialogs/model/dialog_user.h"
 #include "framework/array.h"
 #include "framework/cstring.h"
 #include "tables/data_item.h"
@@ -13,7 +14,7 @@ namespace orv3 {
 enum class CSpacingKind {
   None,   // not combined, or without spacing
   A,      // two angles, or two channels back to back: a(mm)
-  Delta,  // four angles as a cross: δ(mm)
+  Delta,  // two angles as a cross: δ(mm)
 };
 
 CSpacingKind SpacingKindOf(const CString& tableName);
@@ -21,12 +22,16 @@ CSpacingKind SpacingKindOf(const CString& tableName);
 bool IsCombinedTable(const CString& tableName);
 // What the rolled tables have figures for, mm: up to 20, up to 10 for the cross.
 CStringArray SpacingChoices(CSpacingKind kind);
+// The sign of the spacing's cell; empty for None.
 CString SpacingSign(CSpacingKind kind);
 // The row with its spacing as an integer cell behind the first one; a spacing that is there is
-// replaced.
-CDataItem WithSpacing(const CDataItem& row, CSpacingKind kind, const CString& spacing);
+// replaced. A row of None is left as it is.
+CDataItem WithSpacing(const CDataItem& row, const CString& spacing);
 // The spacing that a row carries; empty without one.
 CString SpacingOf(const CDataItem& row);
+// Asks for the spacing of a row that needs one, `spacing` offered, and puts it into both. False
+// when cancelled.
+bool AskSpacing(CDialogUser& user, CDataItem& row, CString& spacing);
 
 class CSpacingModel {
  public:

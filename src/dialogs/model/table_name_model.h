@@ -35,6 +35,10 @@ class CTableNameModel {
     CString m_strName;
     bool m_bChecked;
   };
+
+  CItem& Shown(int item);
+  const CItem& Shown(int item) const;
+
   std::vector<CItem> m_arrItem;
   std::vector<int> m_arrShown;
   CString m_strFilter;

@@ -1,0 +1,125 @@
+// orv3cal gauge: bolt lines, largest holes, stiffeners and copes of a rolled section.
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "catalogue/spacing/section_spacing.h"
+#include "commands.h"
+#include "error.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "nearest.h"
+#include "output.h"
+#include "text_table.h"
+
+namespace orv3::cli {
+namespace {
+
+struct COptions {
+  std::string table;
+  std::string no;
+  bool json = false;
+};
+
+[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
+
+std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
+
+void CheckTable(const std::string& table) {
+  std::string right;
+  for (const wchar_t* name : SpacedSections()) {
+    if (ToUtf8(name) == table) return;
+    right += (right.empty() ? "" : ", ") + ToUtf8(name);
+  }
+  Refuse("TABLE: no spacings are known for " + Quoted(table) + "; right would be one of " + right);
+}
+
+std::vector<CSectionSpacing> SpacingsOf(const COptions& options) {
+  CheckTable(options.table);
+  const CString table = FromUtf8(options.table);
+  const CString no = FromUtf8(options.no);
+  const std::vector<CString> numbers = SpacedNumbers(table);
+  const auto spacings = SectionSpacings(table, no);
+  if (numbers.empty() && LegsOf(no).m_nLong == 0) {
+    Refuse("NO: " + Quoted(options.no) + " is no angle's number; right would be such as L50X5");
+  }
+  if (!numbers.empty() && spacings.empty()) {
+    Refuse("NO: " + options.table + " has no " + Quoted(options.no) +
+           "; the nearest are: " + Nearest(options.no, numbers));
+  }
+  return spacings;
+}
+
+// A cell such as "1O.1": what it was printed with is kept, but it is no number.
+bool IsMisprint(const CString& cell) { return !IsNumber(cell) && !(cell == L"-"); }
+
+// The angles' figures are the handbook's; the others follow from the sections' dimensions.
+bool IsDerived(const CSectionSpacing& spacing) { return spacing.m_nTable > 3; }
+
+std::string Title(const CSectionSpacing& spacing) {
+  std::string title = spacing.m_szTitle;
+  if (spacing.m_nLeg > 0) title += ", leg of " + std::to_string(spacing.m_nLeg) + " mm";
+  return title;
+}
+
+CJson SpacingJson(const CSectionSpacing& spacing) {
+  CJson values = CJson::array();
+  for (std::size_t i = 0; i < spacing.m_arrColumn.size(); ++i) {
+    const CString cell = spacing.m_arrCell[i];
+    values.push_back({{"key", spacing.m_arrColumn[i].m_szKey},
+                      {"value", IsNumber(cell) ? JsonNumber(ToDouble(cell)) : CJson(nullptr)},
+                      {"text", ToUtf8(cell)},
+                      {"meaning", spacing.m_arrColumn[i].m_szMeaning}});
+  }
+  CJson json = {{"source", "strSub" + std::to_string(spacing.m_nTable)},
+                {"derived", IsDerived(spacing)},
+                {"title", spacing.m_szTitle}};
+  if (spacing.m_nLeg > 0) json["leg"] = spacing.m_nLeg;
+  json["values"] = std::move(values);
+  return json;
+}
+
+void PrintSpacings(const COptions& options, const std::vector<CSectionSpacing>& spacings) {
+  Print(options.table + "  " + options.no + "\n");
+  if (spacings.empty()) Print("\nno bolt line is set out on legs of this width\n");
+  bool misprint = false;
+  for (const CSectionSpacing& spacing : spacings) {
+    CTextTable table({CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
+    for (std::size_t i = 0; i < spacing.m_arrColumn.size(); ++i) {
+      const CString cell = spacing.m_arrCell[i];
+      misprint = misprint || IsMisprint(cell);
+      table.AddRow({"  " + std::string(spacing.m_arrColumn[i].m_szKey),
+                    ToUtf8(cell) + (IsMisprint(cell) ? "(!)" : ""), cell == L"-" ? "" : "mm",
+                    spacing.m_arrColumn[i].m_szMeaning});
+    }
+    Print("\n" + Title(spacing) + " (strSub" + std::to_string(spacing.m_nTable) + ")\n" +
+          table.Text());
+  }
+  if (misprint) Print("\n(!) printed with a letter in the place of a digit: look it up\n");
+  if (!spacings.empty() && IsDerived(spacings.front())) {
+    Print("\nderived from the section's dimensions; handbooks differ by some millimetres\n");
+  }
+}
+
+void RunGauge(const COptions& options) {
+  const auto spacings = SpacingsOf(options);
+  if (!options.json) return PrintSpacings(options, spacings);
+  CJson list = CJson::array();
+  for (const CSectionSpacing& spacing : spacings) list.push_back(SpacingJson(spacing));
+  PrintJson({{"table", options.table}, {"no", options.no}, {"unit", "mm"}, {"spacings", list}});
+}
+
+}  // namespace
+
+void AddGaugeCommand(CLI::App& program) {
+  auto options = std::make_shared<COptions>();
+  CLI::App* command = program.add_subcommand(
+      "gauge", "Bolt lines, largest holes, stiffeners and copes of a rolled I, channel or angle");
+  command->add_option("TABLE", options->table, "The section's table")->required();
+  command->add_option("NO", options->no, "The section's number")->required();
+  command->add_flag("--json", options->json, "As JSON, each figure with its meaning");
+  command->callback([options] { RunGauge(*options); });
+}
+
+}  // namespace orv3::cli

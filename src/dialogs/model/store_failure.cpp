@@ -1,0 +1,65 @@
+#include "dialogs/model/store_failure.h"
+
+#include "dialogs/model/dialog_texts.h"
+#include "platform/store_error.h"
+#include "tables/table_store.h"
+
+namespace orv3 {
+namespace {
+
+const wchar_t* ReasonOf(CStoreTrouble trouble) {
+  switch (trouble) {
+    case CStoreTrouble::NotFound:
+      return L"文件或文件夹不存在。";
+    case CStoreTrouble::Busy:
+      return L"文件正被其他程序使用，请稍后再试。";
+    case CStoreTrouble::Denied:
+      return L"文件只读，或没有访问权限。";
+    case CStoreTrouble::NotAStore:
+      return L"文件不是截面库文件。";
+    case CStoreTrouble::NoTable:
+      return L"截面库中没有该截面表。";
+    case CStoreTrouble::Damaged:
+      return L"文件已损坏。";
+    case CStoreTrouble::Refused:
+      return L"数据不符合截面库文件的格式。";
+    case CStoreTrouble::Failed:
+      return L"读写失败，原文件没有改变。请检查磁盘空间和文件夹权限。";
+    case CStoreTrouble::None:
+      break;
+  }
+  return L"原因不明。";
+}
+
+CString WithSeparator(const CString& path) {
+  const wchar_t last = path.IsEmpty() ? L'\\' : path[path.GetLength() - 1];
+  return last == L'\\' || last == L'/' ? path : path + L"\\";
+}
+
+}  // namespace
+
+CString StoreFailureText(const wchar_t* what) {
+  const CStoreError& error = LastStoreError();
+  CString text = CString(what) + ReasonOf(error.m_nTrouble);
+  if (!error.m_strText.IsEmpty()) text += L"\n" + error.m_strText;
+  return text;
+}
+
+void TellSaveFailed(CDialogUser& user) { user.Tell(StoreFailureText(texts::kSaveFailed)); }
+void TellReadFailed(CDialogUser& user) { user.Tell(StoreFailureText(texts::kReadFailed)); }
+
+bool IsReadFailure() {
+  const CStoreTrouble trouble = LastStoreError().m_nTrouble;
+  return trouble != CStoreTrouble::None && trouble != CStoreTrouble::NotFound &&
+         trouble != CStoreTrouble::NoTable;
+}
+
+CProgramPathScope::CProgramPathScope(const CString& path)
+    : m_strPath(WithSeparator(path.IsEmpty() ? ProgramPath() : path)),
+      m_strPrevious(ProgramPath()) {
+  SetProgramPath(m_strPath);
+}
+
+CProgramPathScope::~CProgramPathScope() { SetProgramPath(m_strPrevious); }
+
+}  // namespace orv3

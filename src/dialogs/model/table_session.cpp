@@ -1,0 +1,164 @@
+#include "dialogs/model/table_session.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "catalogue/lattice/steel_ge_gou.h"
+#include "dialogs/model/dialog_texts.h"
+#include "dialogs/model/store_failure.h"
+#include "platform/store_file.h"
+#include "tables/table_store.h"
+
+namespace orv3 {
+namespace {
+
+struct CLattice {
+  const wchar_t* m_szTable;
+  int m_nLimbs;
+};
+
+constexpr CLattice kLattices[] = {{L"双肢格构柱", 2}, {L"三肢格构柱", 3}, {L"四肢格构柱", 4}};
+
+bool IsUnsavedState(int state) { return state == 1 || state == 2 || state == 3 || state == -1; }
+
+bool SameValues(const CDataItem& a, const CDataItem& b) {
+  return std::equal(a.m_arrCell.begin(), a.m_arrCell.end(), b.m_arrCell.begin(), b.m_arrCell.end(),
+                    [](const auto& x, const auto& y) { return x.m_strValue == y.m_strValue; });
+}
+
+// Gives every row its position as its stable index. A new row takes over a deleted row's index and
+// with it the position of that number, which must not be another row's.
+void AlignIndices(CDataTable& table) {
+  for (int i = 0; i < table.GetTableRowNum(); ++i) {
+    if (std::as_const(table)[i].m_nIndex == i) continue;
+    CDataItem& row = table[i];
+    row.m_nIndex = i;
+    row.m_nModifyType = row.m_nModifyType == 0   ? 2
+                        : row.m_nModifyType == 4 ? 3
+                        : row.m_nModifyType < 0  ? -1
+                                                 : row.m_nModifyType;
+  }
+}
+
+bool SayFailed(const wchar_t* what) {
+  ShowMessage(texts::kReminder, StoreFailureText(what));
+  return false;
+}
+
+}  // namespace
+
+CString CTableSession::StorePath() const { return m_strPath + kSystemStore; }
+
+CDataTable CTableSession::Named(const CString& name) const {
+  CDataTable table;
+  table.SetTableName(name);
+  table.SetSaveTablePath(m_strPath);
+  return table;
+}
+
+void CTableSession::Clear() { m_table = CDataTable(); }
+
+void CTableSession::Load(const CString& name, CDialogUser& user) {
+  CDataTable table = Named(name);
+  if (!table.GetSystemJmTable() && IsReadFailure()) TellReadFailed(user);
+  m_table = table;
+}
+
+void CTableSession::MakeLatticeTable(CDialogUser& user) {
+  const CString name = m_table.GetTableName();
+  const auto* lattice = std::find_if(std::begin(kLattices), std::end(kLattices),
+                                     [&](const CLattice& l) { return name == l.m_szTable; });
+  if (lattice == std::end(kLattices)) return;
+  CDataTable made = CSteelJMGeGou(lattice->m_nLimbs);
+  made.SetSaveTablePath(m_strPath);
+  CHeldMessages messages;
+  {
+    const CStoreLock lock(StorePath());
+    CDataTable fresh = Named(name);
+    if (lock.IsHeld() && fresh.GetSystemJmTable() && fresh.GetTableColNum() >= 2) {
+      made = fresh;  // another program was quicker
+    } else if (!lock.IsHeld() || !made.WriteSystemJmTable()) {
+      SayFailed(texts::kSaveFailed);
+    }
+  }
+  messages.ShowTo(user);
+  m_table = made;
+}
+
+bool CTableSession::WriteBack(CDialogUser& user) {
+  const CDataItemArray& rows = m_table.m_arrItem;
+  const bool unsaved = std::any_of(rows.begin(), rows.end(), [](const CDataItem& row) {
+    return IsUnsavedState(row.m_nModifyType);
+  });
+  if (m_table.GetTableColNum() <= 1 || !unsaved || m_table.WriteSystemJmTable()) return true;
+  TellSaveFailed(user);
+  return false;
+}
+
+// What is said while the store is locked is shown afterwards: nobody is to wait for a box.
+bool CTableSession::Change(const CChange& change, CDialogUser& user) {
+  CHeldMessages messages;
+  const bool changed = ChangeLocked(change);
+  messages.ShowTo(user);
+  return changed;
+}
+
+bool CTableSession::ChangeLocked(const CChange& change) {
+  const CStoreLock lock(StorePath());
+  if (!lock.IsHeld()) return SayFailed(texts::kSaveFailed);
+  CDataTable fresh = Named(m_table.GetTableName());
+  if (!fresh.GetSystemJmTable()) {
+    if (IsReadFailure()) return SayFailed(texts::kReadFailed);
+    fresh.m_Title = m_table.m_Title;
+  }
+  AlignIndices(fresh);
+  if (!change(fresh)) return false;
+  if (!fresh.WriteSystemJmTable()) return SayFailed(texts::kSaveFailed);
+  m_table = fresh;
+  return true;
+}
+
+bool CTableSession::Add(CDataItem& row, CDialogUser& user) {
+  const auto add = [&](CDataTable& table) {
+    if (table.GetTableColNum() == 0) table.setTableTitle(row);
+    if (row.GetItemLength() == table.GetTableColNum()) return table.AddTableItem(row, 1) != 0;
+    ShowMessage(texts::kReminder, texts::kOtherColumns);
+    return false;
+  };
+  return Change(add, user);
+}
+
+// The position of the row; -1, the user told and the table in hand as it is on file, when it is not
+// there as it was.
+int CTableSession::Locate(CDataTable& fresh, const CDataItem& before) {
+  const CDataItemArray& rows = fresh.m_arrItem;
+  const auto same = [&](const CDataItem& row) {
+    return row.m_nModifyType >= 0 && SameValues(row, before);
+  };
+  const int position = fresh.GetTableIndex(before.m_nIndex);
+  if (position >= 0 && same(rows[position])) return position;
+  const auto found = std::find_if(rows.begin(), rows.end(), same);
+  if (found != rows.end()) return static_cast<int>(std::distance(rows.begin(), found));
+  m_table = fresh;
+  ShowMessage(texts::kReminder, texts::kRowGone);
+  return -1;
+}
+
+bool CTableSession::Modify(const CDataItem& before, CDataItem& row, CDialogUser& user) {
+  const auto modify = [&](CDataTable& table) {
+    const int position = Locate(table, before);
+    return position >= 0 &&
+           table.ModifyTableItem(std::as_const(table)[position].m_nIndex, row) != 0;
+  };
+  return Change(modify, user);
+}
+
+bool CTableSession::Delete(const CDataItem& before, CDialogUser& user) {
+  const auto remove = [&](CDataTable& table) {
+    const int position = Locate(table, before);
+    return position >= 0 && table.DeleteTableItem(std::as_const(table)[position].m_nIndex) != 0;
+  };
+  return Change(remove, user);
+}
+
+}  // namespace orv3

@@ -1,0 +1,20 @@
+// The library's entries: the system's, and the one by which a drawing host asks for its version.
+#include "module/host_services.h"
+#include "module/message_box.h"
+#include "module/orv3cal_c.h"
+
+#ifndef ORV3CAL_HOST_API_VERSION
+#define ORV3CAL_HOST_API_VERSION ORV3_INTERFACE_VERSION
+#endif
+
+// A host asks once, before anything else, and refuses a module whose number it does not know.
+extern "C" __declspec(dllexport) int acrxGetApiVersion() { return ORV3CAL_HOST_API_VERSION; }
+
+// Runs under the loader's lock, so it only notes where the library is and who shows its messages.
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* /*reserved*/) {
+  if (reason == DLL_PROCESS_ATTACH) {
+    orv3::SetModuleInstance(instance);
+    orv3::UseMessageBoxes();
+  }
+  return TRUE;
+}
