@@ -124,7 +124,7 @@ class CLatticeLayout {
     const CBox& box = m_arrBox[i];
     const bool upper = m_arrLimb[i].m_at.m_y > (m_box.bottom + m_box.top) / 2;
     CPoint at = Page(m_arrLimb[i].m_at.m_x, upper ? box.top : box.bottom);
-    at.x += m_arrLimb[i].m_at.m_x < m_properties.m_dXo ? -kReach / 2 : kReach / 2;
+    at.x += m_arrLimb[i].m_at.m_x < m_properties.m_dXo ? -kReach : kReach;
     at.y += upper ? kReach : -kReach;
     m_pDrawing->AddLabel(
         {CLayer::Text, at, FormatInt(static_cast<int>(i + 1)), kTextSize, CAnchor::Middle, false});
