@@ -82,7 +82,8 @@ class CLatticeLayout {
     const double lines = static_cast<double>(m_arrLimb.size() + 2);
     const double left = kMargin + kDimension + kLetterRoom;
     const double right = kMargin + kReach + kLetterRoom;
-    const double bottom = kMargin + lines * kLineHeight + kDimension + kLetterRoom;
+    const double bottom =
+        kMargin + lines * kLineHeight + kLetterRoom + (m_arrLimb.size() > 2 ? kDimension : kReach);
     const double top = kMargin + 2 * kLineHeight + kReach + kLetterRoom;
     double text = TextWidth(Title(), kTitleSize);
     for (std::size_t i = 0; i < m_arrLimb.size(); ++i)
