@@ -9,14 +9,15 @@ namespace orv3::cli {
 
 void AddStylesCommand(CLI::App& program);
 void AddSectionCommand(CLI::App& program);
+void AddShowCommand(CLI::App& program);
 void AddGaugeCommand(CLI::App& program);
 void AddCodeCommand(CLI::App& program);
 void AddCheckCommand(CLI::App& program);
 void AddStoreCommand(CLI::App& program);
 
 // The commands in the order of the help; a new one is entered here.
-inline constexpr void (*kCommands[])(CLI::App&) = {AddStylesCommand, AddSectionCommand,
-                                                   AddGaugeCommand,  AddCodeCommand,
-                                                   AddCheckCommand,  AddStoreCommand};
+inline constexpr void (*kCommands[])(CLI::App&) = {
+    AddStylesCommand, AddSectionCommand, AddShowCommand, AddGaugeCommand,
+    AddCodeCommand,   AddCheckCommand,   AddStoreCommand};
 
 }  // namespace orv3::cli
