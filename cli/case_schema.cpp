@@ -163,7 +163,8 @@ CCaseSchema::CNeed CCaseSchema::Condition(const CJson& json) const {
   const CJson& then = json.at("then");
   need.m_arrKey = Positions(then.at("required"));
   CJson never = CJson::array();
-  for (const auto& entry : then.value("properties", CJson::object()).items()) {
+  const CJson barred = then.value("properties", CJson::object());
+  for (const auto& entry : barred.items()) {
     if (entry.value() != false) Outside("a condition's rule for " + entry.key());
     never.push_back(entry.key());
   }

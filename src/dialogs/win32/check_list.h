@@ -20,9 +20,9 @@ class CCheckList {
   };
 
   void Attach(HWND list, CSource source);
-  void Fill();         // names and marks anew
-  void ShowMarks();    // the marks anew
-  void FitColumn();    // to the list's width
+  void Fill();                        // names and marks anew
+  void ShowMarks();                   // the marks anew
+  void FitColumn();                   // to the list's width
   void OnItemChanged(NMHDR& header);  // for the dialog's LVN_ITEMCHANGED
 
  private:

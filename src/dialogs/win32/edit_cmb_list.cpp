@@ -59,8 +59,7 @@ void CEditCmbList::SetDpi(int dpi) {
 
 bool CEditCmbList::CanEdit(int line, int column) const {
   return line >= 0 && line < m_pGrid->LineCount() && column >= 0 &&
-         column < m_pGrid->ColumnCount() &&
-         m_pGrid->ModifyType(line, column) != CModifyType::Fixed;
+         column < m_pGrid->ColumnCount() && m_pGrid->ModifyType(line, column) != CModifyType::Fixed;
 }
 
 int CEditCmbList::FirstEditable(int line) const {
@@ -95,8 +94,8 @@ bool CEditCmbList::MakeEditor(const RECT& cell, wchar_t typed) {
                               width, m_bList ? height * (kChoicesShown + 2) : height, m_hList,
                               nullptr, nullptr, nullptr);
   if (m_hEditor == nullptr) return false;
-  SendMessageW(m_hEditor, WM_SETFONT,
-               static_cast<WPARAM>(SendMessageW(m_hList, WM_GETFONT, 0, 0)), FALSE);
+  SendMessageW(m_hEditor, WM_SETFONT, static_cast<WPARAM>(SendMessageW(m_hList, WM_GETFONT, 0, 0)),
+               FALSE);
   if (m_bList) {
     FillChoices();
   } else {
@@ -116,10 +115,11 @@ void CEditCmbList::FillChoices() const {
   for (const CString& choice : m_pGrid->Choices(m_nLine, m_nColumn)) {
     SendMessageW(m_hEditor, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.GetString()));
   }
-  SendMessageW(m_hEditor, CB_SETCURSEL,
-               static_cast<WPARAM>(SendMessageW(m_hEditor, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                                reinterpret_cast<LPARAM>(text.GetString()))),
-               0);
+  SendMessageW(
+      m_hEditor, CB_SETCURSEL,
+      static_cast<WPARAM>(SendMessageW(m_hEditor, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                       reinterpret_cast<LPARAM>(text.GetString()))),
+      0);
   const RECT cell = CellRect(m_nLine, m_nColumn);
   RECT field{};
   GetWindowRect(m_hEditor, &field);
@@ -173,10 +173,10 @@ LRESULT CEditCmbList::OnCustomDraw(NMHDR& header) const {
     case CDDS_ITEMPREPAINT:
       return CDRF_NOTIFYSUBITEMDRAW;
     case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
-      draw.clrText = GetSysColor(draw.iSubItem == 0 || CanEdit(static_cast<int>(draw.nmcd.dwItemSpec),
-                                                               draw.iSubItem)
-                                     ? COLOR_WINDOWTEXT
-                                     : COLOR_GRAYTEXT);
+      draw.clrText = GetSysColor(
+          draw.iSubItem == 0 || CanEdit(static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem)
+              ? COLOR_WINDOWTEXT
+              : COLOR_GRAYTEXT);
       return CDRF_DODEFAULT;
     default:
       return CDRF_DODEFAULT;
@@ -233,7 +233,8 @@ LRESULT CALLBACK CEditCmbList::ListProc(HWND window, UINT message, WPARAM wParam
     case WM_CHAR:
       if (wParam > L' ' && self->m_hEditor == nullptr) {
         const int line = SelectedListItem(window);
-        if (line >= 0 && self->EditCell(line, self->FirstEditable(line), static_cast<wchar_t>(wParam)))
+        if (line >= 0 &&
+            self->EditCell(line, self->FirstEditable(line), static_cast<wchar_t>(wParam)))
           return 0;
       }
       break;

@@ -180,8 +180,7 @@ void CKvbDlg::SetUpDpi() {
   ScaleFont(wanted, made);
   m_layout.Scale(wanted, made);
   const SIZE size = FrameSize(m_hWnd, m_layout.TemplateSize());
-  SetWindowPos(m_hWnd, nullptr, 0, 0, size.cx, size.cy,
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(m_hWnd, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   m_layout.Arrange();
 }
 
@@ -192,9 +191,9 @@ void CKvbDlg::SetIcons() {
   };
   for (const CIcon& icon :
        {CIcon{ICON_SMALL, SM_CXSMICON, SM_CYSMICON}, CIcon{ICON_BIG, SM_CXICON, SM_CYICON}}) {
-    const HANDLE loaded = LoadImageW(CResourceScope::Current(), MAKEINTRESOURCEW(IDI_ORV3CAL),
-                                     IMAGE_ICON, GetSystemMetrics(icon.m_nWidth),
-                                     GetSystemMetrics(icon.m_nHeight), LR_SHARED);
+    const HANDLE loaded =
+        LoadImageW(CResourceScope::Current(), MAKEINTRESOURCEW(IDI_ORV3CAL), IMAGE_ICON,
+                   GetSystemMetrics(icon.m_nWidth), GetSystemMetrics(icon.m_nHeight), LR_SHARED);
     SendMessageW(m_hWnd, WM_SETICON, icon.m_nKind, reinterpret_cast<LPARAM>(loaded));
   }
 }
@@ -205,8 +204,8 @@ void CKvbDlg::RestorePlacement() {
   const SIZE least = FrameSize(m_hWnd, m_layout.TemplateSize());
   const LONG width = std::max<LONG>(Scaled(kept.m_nWidth), least.cx);
   const LONG height = std::max<LONG>(Scaled(kept.m_nHeight), least.cy);
-  const RECT frame = WithinScreen(
-      {kept.m_nLeft, kept.m_nTop, kept.m_nLeft + width, kept.m_nTop + height});
+  const RECT frame =
+      WithinScreen({kept.m_nLeft, kept.m_nTop, kept.m_nLeft + width, kept.m_nTop + height});
   SetWindowPos(m_hWnd, nullptr, frame.left, frame.top, frame.right - frame.left,
                frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }

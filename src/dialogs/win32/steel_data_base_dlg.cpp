@@ -73,7 +73,7 @@ void CSteelDataBaseDlg::MapSearch() {
 void CSteelDataBaseDlg::MapButtons() {
   OnClick(IDC_VIEW_COLUMNS, [this] { Do(&CBrowserModel::ChooseColumns); });
   OnClick(IDC_IMPORT, [this] { Do(&CBrowserModel::Import); });
-  OnClick(IDC_EXPORT, [this] { Do(&CBrowserModel::Export); });
+  OnClick(IDC_EXPORT, [this] { m_pModel->Export(); });
   OnClick(IDC_ADD, [this] { Do(&CBrowserModel::Add); });
   OnClick(IDC_DELETE, [this] { Do(&CBrowserModel::Delete); });
   OnClick(IDC_EDIT, [this] { Do(&CBrowserModel::Edit); });
@@ -238,9 +238,7 @@ void CSteelDataBaseDlg::FillOperators() {
   }
 }
 
-void CSteelDataBaseDlg::ShowSearch() {
-  Enable(IDC_WHOLE_MATCH, m_pModel->IsWholeMatchEnabled());
-}
+void CSteelDataBaseDlg::ShowSearch() { Enable(IDC_WHOLE_MATCH, m_pModel->IsWholeMatchEnabled()); }
 
 void CSteelDataBaseDlg::SearchNow() {
   m_pModel->SetSearchValue(TextOf(IDC_SEARCH_VALUE));
@@ -253,6 +251,10 @@ void CSteelDataBaseDlg::SearchNow() {
 
 bool CSteelDataBaseDlg::OnListKey(int key) {
   const bool control = GetKeyState(VK_CONTROL) < 0;
+  if (control && (key == 'C' || key == VK_INSERT)) {
+    CopyRow();
+    return true;
+  }
   switch (key) {
     case VK_DELETE:
       if (m_pModel->HasItem()) Do(&CBrowserModel::Delete);
@@ -261,18 +263,11 @@ bool CSteelDataBaseDlg::OnListKey(int key) {
       if (m_pModel->HasItem()) Do(&CBrowserModel::Edit);
       return true;
     case VK_INSERT:
-      if (control) break;
       if (m_pModel->HasTable()) Do(&CBrowserModel::Add);
-      return true;
-    case 'C':
-      if (!control) return false;
-      CopyRow();
       return true;
     default:
       return false;
   }
-  CopyRow();  // Ctrl+Insert
-  return true;
 }
 
 void CSteelDataBaseDlg::CopyRow() {

@@ -24,9 +24,9 @@ class ORV3CAL_API CSteelDataBaseDlg : public CKvbDlg {
   CSteelDataBaseDlg();
   ~CSteelDataBaseDlg() override;
 
-  CString m_strPath;             // the data directory
-  CStringArray m_arrTableName;   // the tables offered
-  CDataItem m_item;              // the initial choice; the chosen row after OK
+  CString m_strPath;            // the data directory
+  CStringArray m_arrTableName;  // the tables offered
+  CDataItem m_item;             // the initial choice; the chosen row after OK
 
  private:
   using CChange = orv3::CListChange (orv3::CBrowserModel::*)();

@@ -51,8 +51,7 @@ CMessageAnswer CWindowsUser::Message(const CMessage& message) {
   const HWND owner = OwnerWindow();
   wchar_t caption[128] = L"Orv3Cal";
   if (owner != nullptr) GetWindowTextW(owner, caption, 128);
-  const wchar_t* title =
-      message.m_strTitle.IsEmpty() ? caption : message.m_strTitle.GetString();
+  const wchar_t* title = message.m_strTitle.IsEmpty() ? caption : message.m_strTitle.GetString();
   return AnswerOf(
       MessageBoxW(owner, message.m_strText.GetString(), title, BoxStyle(message.m_nButtons)));
 }
@@ -93,9 +92,7 @@ bool CWindowsUser::Run(CSpacingModel& model) {
 
 bool CWindowsUser::Run(CColumnModel& model) { return CViewColDlg(model).DoModal() == IDOK; }
 
-bool CWindowsUser::Run(CTableNameModel& model) {
-  return CSelTableNameDlg(model).DoModal() == IDOK;
-}
+bool CWindowsUser::Run(CTableNameModel& model) { return CSelTableNameDlg(model).DoModal() == IDOK; }
 
 void CWindowsUser::Progress(const CString& what, int done, int total) {
   if (done >= total) {

@@ -1,0 +1,177 @@
+// The section database browser on the shipped store: looking, searching, choosing.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "dialogs/win32/resource.h"
+#include "framework/utf8.h"
+#include "platform/file_system.h"
+#include "sections/load_data_table.h"
+#include "win32/dialog_driver.h"
+
+namespace {
+
+constexpr wchar_t kCaption[] = L"钢结构截面特性数据库";
+constexpr wchar_t kBeams[] = L"热轧普通工字钢";
+constexpr long kEverything = 0x03000FFF;
+
+CString Catalogue() { return orv3::FromUtf8(ORV3CAL_CATALOGUE "/"); }
+
+std::vector<double> Numbers(const std::vector<std::wstring>& texts) {
+  std::vector<double> numbers;
+  for (const std::wstring& text : texts) numbers.push_back(std::wcstod(text.c_str(), nullptr));
+  return numbers;
+}
+
+int TitleIndex(const CDialogProbe& probe, const std::wstring& title) {
+  const auto titles = probe.Titles(IDC_LIST);
+  const auto found = std::find(titles.begin(), titles.end(), title);
+  if (found == titles.end()) throw std::runtime_error("no such column");
+  return static_cast<int>(found - titles.begin());
+}
+
+void Search(const CDialogProbe& probe, const wchar_t* column, const wchar_t* op,
+            const wchar_t* value) {
+  probe.Choose(IDC_SEARCH_COLUMN, column);
+  probe.Choose(IDC_SEARCH_OPERATOR, op);
+  probe.SetText(IDC_SEARCH_VALUE, value);
+  SendMessageW(probe.Control(IDC_SEARCH), BM_CLICK, 0, 0);
+}
+
+// GB/T 706: I20a has 35.5 cm2, I20b 39.5 cm2 (35.578 and 39.578 with the later edition's digits).
+TEST(Browser, SearchSortShowAndChoose) {
+  CDataItem row;
+  int result = -1;
+  Drive([&] { result = CLoadDataTable::VisitDataBase(Catalogue(), row, kEverything); },
+        [] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          probe.SelectNode(IDC_TREE, kBeams);
+          const int all = probe.Count(IDC_LIST);
+          Search(probe, L"No.", L"＝", L"I20");
+          const auto found = probe.Column(IDC_LIST, 0);
+          Expect(static_cast<int>(found.size()), 2, "rows found");
+          Expect(found[0], L"I20a");
+          Expect(found[1], L"I20b");
+          Expect(probe.Text(IDC_STATUS).find(std::to_wstring(all)) != std::wstring::npos, 1,
+                 "number of rows told");
+
+          const int area = TitleIndex(probe, L"A(cm^2)");
+          probe.ClickHeader(IDC_LIST, area);
+          const auto up = Numbers(probe.Column(IDC_LIST, area));
+          Expect(up[0] < up[1], 1, "ascending");
+          probe.ClickHeader(IDC_LIST, area);
+          const auto down = Numbers(probe.Column(IDC_LIST, area));
+          Expect(down[0] > down[1], 1, "descending");
+
+          probe.SelectItem(IDC_LIST, L"I20a");
+          probe.DoubleClick(IDC_LIST, probe.SelectedItem(IDC_LIST));
+          const auto properties = CDialogProbe::WaitFor(L"截面特性参数查询");
+          Expect(properties.Cell(IDC_PROPERTY_GRID, 0, 1), L"I20a");
+          properties.Close();
+          properties.WaitUntilClosed();
+
+          probe.SelectItem(IDC_LIST, L"I20a");
+          probe.Click(IDOK);
+        });
+  EXPECT_EQ(result, 1);
+  EXPECT_TRUE(row.m_strTableName == kBeams);
+  ASSERT_GE(row.GetItemLength(), 3);
+  EXPECT_TRUE(row[L"No."].m_strValue == L"I20a");
+  EXPECT_NEAR(CLoadDataTable::GetDataItemArea(row), 3550, 10);
+}
+
+TEST(Browser, WithoutTables) {
+  CDataItem row;
+  row.m_strTableName = kBeams;
+  int result = -1;
+  Drive([&] { result = CLoadDataTable::VisitDataBase(Catalogue(), row, 0); },
+        [] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          Expect(probe.Count(IDC_LIST), 0, "rows");
+          Expect(probe.IsEnabled(IDC_ADD), FALSE, "adding");
+          const auto nodes = probe.Nodes(IDC_TREE);
+          Expect(static_cast<int>(nodes.size()), 2 + 9 + 10, "roots and families");
+          probe.Click(IDOK);
+        });
+  EXPECT_EQ(result, 0);
+  EXPECT_TRUE(row.IsEmpty());
+}
+
+TEST(Browser, CancelLeavesTheRow) {
+  CDataItem row = CLoadDataTable::GetSysTemJMItem(kBeams, L"I20a");
+  CLoadDataTable::SetOrvoPrgPath(Catalogue());
+  row = CLoadDataTable::GetSysTemJMItem(kBeams, L"I20a");
+  int result = -1;
+  Drive([&] { result = CLoadDataTable::VisitDataBase(Catalogue(), row, kEverything); },
+        [] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          Expect(probe.Cell(IDC_LIST, probe.SelectedItem(IDC_LIST), 0), L"I20a");
+          probe.SelectItem(IDC_LIST, L"I22a");
+          probe.Press(IDC_LIST, VK_ESCAPE);
+        });
+  EXPECT_EQ(result, 0);
+  EXPECT_TRUE(row[L"No."].m_strValue == L"I20a");
+}
+
+TEST(Browser, EveryTableOpens) {
+  CDataItem row;
+  Drive([&] { CLoadDataTable::VisitDataBase(Catalogue(), row, 0x01000FFF); },
+        [] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          CStringArray names;
+          CLoadDataTable::GetTableNameArray(0x01000FFF, names);
+          for (const CString& name : names) {
+            const std::wstring text(name.View());
+            probe.SelectNode(IDC_TREE, text);
+            if (probe.Count(IDC_LIST) == 0 || probe.Cell(IDC_LIST, 0, 0).empty()) {
+              throw std::runtime_error("no rows in " + orv3::ToUtf8(text));
+            }
+          }
+          probe.Close();
+        });
+}
+
+TEST(Browser, EnterInTheSearchFieldSearches) {
+  CDataItem row;
+  Drive([&] { CLoadDataTable::VisitDataBase(Catalogue(), row, kEverything); },
+        [] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          probe.SelectNode(IDC_TREE, kBeams);
+          probe.Choose(IDC_SEARCH_COLUMN, L"No.");
+          probe.Choose(IDC_SEARCH_OPERATOR, L"＝");
+          SendMessageW(probe.Window(), WM_NEXTDLGCTL,
+                       reinterpret_cast<WPARAM>(probe.Control(IDC_SEARCH_VALUE)), TRUE);
+          probe.SetText(IDC_SEARCH_VALUE, L"I20a");
+          probe.Press(IDC_SEARCH_VALUE, VK_RETURN);
+          Eventually([&] { return probe.Count(IDC_LIST) == 1; }, "one row");
+          probe.Close();
+        });
+  EXPECT_TRUE(row.IsEmpty());
+}
+
+TEST(Browser, ChosenColumnsAlone) {
+  CDataItem row;
+  int result = 0;
+  Drive([&] { result = CLoadDataTable::VisitDataBase(Catalogue(), row, kEverything); },
+        [] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          probe.SelectNode(IDC_TREE, kBeams);
+          const auto before = probe.Titles(IDC_LIST);
+          probe.Click(IDC_VIEW_COLUMNS);
+          const auto columns = CDialogProbe::WaitFor(L"选择显示项");
+          Expect(columns.Count(IDC_COLUMN_LIST), static_cast<int>(before.size()), "columns offered");
+          columns.SetMark(IDC_COLUMN_LIST, 1, false);
+          columns.Click(IDOK);
+          columns.WaitUntilClosed();
+          Eventually([&] { return probe.Titles(IDC_LIST).size() == before.size() - 1; },
+                     "one column less");
+          Expect(probe.Titles(IDC_LIST)[1], before[2]);
+          probe.SelectItem(IDC_LIST, L"I20b");
+          probe.Click(IDOK);
+        });
+  EXPECT_EQ(result, 1);
+  EXPECT_GT(row.GetItemLength(), 3);  // the whole row comes back
+  EXPECT_TRUE(row[L"No."].m_strValue == L"I20b");
+}
+
+}  // namespace
