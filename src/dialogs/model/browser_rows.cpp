@@ -70,7 +70,7 @@ CListChange CBrowserModel::AddRow(const CDataItem& row, bool copy) {
 
 // A copy whose number is taken asks for another one until it is free or the user gives up.
 bool CBrowserModel::AcceptNew(CDataItem& row, bool copy, CDialogUser& user) {
-  while (copy && Full().IsHaveValue(row, -1) >= 0) {
+  while (copy && Full().GetTableColKey(0) && Full().IsHaveValue(row, -1) >= 0) {
     CSignModel number(std::as_const(row)[0].m_strValue);
     if (!user.Run(number)) return false;
     if (!number.Number().IsEmpty()) row.m_arrCell.Own(0).m_strValue = number.Number();
@@ -130,11 +130,12 @@ CListChange CBrowserModel::Import() {
   return Refresh(CListChange::Columns);
 }
 
-void CBrowserModel::Export() {
-  if (!m_session.WriteBack(m_user)) return;
+CListChange CBrowserModel::Export() {
+  if (!m_session.WriteBack(m_user)) return CListChange::None;
   CStringArray shown;
   if (HasTable()) shown.Add(Full().GetTableName());
   ExportTables(m_session.Path(), shown, m_user);
+  return CListChange::None;
 }
 
 // --- End ----------------------------------------------------------------------------------------

@@ -1,6 +1,7 @@
 #include "dialogs/model/property_model.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "dialogs/model/dialog_texts.h"
@@ -59,6 +60,9 @@ CPropertyModel::CPropertyModel(const CDataItem& row, const CString& tableName, i
   m_nSource = tableName.Find(kLattice) >= 0        ? CSource::Lattice
               : FindSectionStyle(tableName.View()) ? CSource::Custom
                                                    : CSource::Plain;
+  // A new lattice column comes without its results.
+  const int area = CellOf(m_row, L"A(mm^2)");
+  if (m_nEditMode != 0 && area >= 0 && std::as_const(m_row)[area].m_strValue.IsEmpty()) Recompute();
   FillGrid();
 }
 

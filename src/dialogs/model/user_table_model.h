@@ -6,24 +6,20 @@
 // unless another program has changed it meanwhile.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <vector>
 
 #include "dialogs/model/dialog_user.h"
 #include "dialogs/model/edit_grid_model.h"
+#include "dialogs/model/store_failure.h"
+#include "dialogs/model/user_store.h"
 #include "framework/array.h"
 #include "framework/bitmap.h"
 #include "framework/cstring.h"
 #include "tables/data_table.h"
 
 namespace orv3 {
-
-// One table of the editor. `m_table` is shared between the states that can be undone.
-struct CUserTable {
-  CString m_strFile;  // in the user store; empty for a table that was never saved
-  std::shared_ptr<const CDataTable> m_table;
-  std::shared_ptr<const CDataTable> m_saved;  // as it is on file; null when it is not
-};
 
 class CUserTableModel {
  public:
@@ -33,7 +29,7 @@ class CUserTableModel {
                   CDialogUser& user);
   CUserTableModel(const CUserTableModel&) = delete;
   CUserTableModel& operator=(const CUserTableModel&) = delete;
-  ~CUserTableModel();
+  ~CUserTableModel() = default;
 
   // Reads the store: once, when the dialog is there to show messages.
   void Open();
@@ -66,7 +62,7 @@ class CUserTableModel {
   int ColumnCount() const;
   CString ColumnSign(int column) const;
   bool IsRightAligned(int column) const;
-  int RowCount() const noexcept { return static_cast<int>(m_arrItemRow.size()); }
+  int RowCount() const noexcept;
   const wchar_t* RowText(int item, int column) const;   // valid until the next change
   int SelectedRow() const noexcept { return m_nItem; }  // -1 when there is none
   void SelectRow(int item);
@@ -95,39 +91,62 @@ class CUserTableModel {
   const CDataItem& ChosenRow() const noexcept { return m_chosen; }
 
  private:
+  using CTablePtr = std::shared_ptr<const CDataTable>;
+
+  // A table as the user has it: live rows only, each with an index of its own.
+  struct CTable {
+    int m_nId = 0;
+    CTablePtr m_table;
+  };
   struct CState {
     CString m_strStep;  // what led to it
-    std::vector<CUserTable> m_arrTable;
+    std::vector<CTable> m_arrTable;
     int m_nTable = -1;
+  };
+  struct CSaved {
+    CUserFile m_file;
+    CTablePtr m_table;  // what the user has when nothing is changed
   };
 
   const CState& State() const { return m_arrState[static_cast<std::size_t>(m_nState)]; }
   CState& State() { return m_arrState[static_cast<std::size_t>(m_nState)]; }
   const CDataTable* Selected() const;
-  CDataTable Draft() const;  // a copy of the selected table, to change
-  void ReadStore();
-  void SelectInitial();
   bool Offers(const CString& tableName) const;
+  bool IsSaved(const CTable& table) const;
+  bool IsNameTaken(const CString& name) const;
+  void FillTemplates();
+  void SelectInitial();
   void Push(const wchar_t* step, CState state);
-  bool Replace(const wchar_t* step, const CDataTable& table);
+  bool Replace(const wchar_t* step, CDataTable table);
   bool AskName(const wchar_t* title, CString& name);
-  bool ChangeColumns(const wchar_t* step, const CDataTable& changed);
-  bool PutRow(const wchar_t* step, const CDataItem& row, int index);
+  bool MakeTable(int templateIndex, CDataTable& table);
+
+  void ShowColumns();
   void ShowTable();
+  bool ChangeColumns(const wchar_t* step, const CDataTable& changed);
+
+  CDataItem Row(int item) const;
+  bool PutRow(const wchar_t* step, const CDataItem& row, bool added, bool copy);
+  bool AcceptRow(CDataItem& row, bool added, bool copy, CDataTable& draft, CDialogUser& user);
+
+  bool SaveTable(CTable& table, bool& others, CString& kept);
+  bool RemoveMissing(CString& kept);
+  bool RemoveFile(const CUserFile& file, CString& kept);
 
   CDialogUser& m_user;
   CMessageRoute m_route;
-  CString m_strPath;
-  CString m_strProgramPath;  // to be put back at the end
+  CProgramPathScope m_path;
+  CUserStore m_store;
   CStringArray m_arrName;
   CStringArray m_arrTemplate;
   CDataItem m_initial;
   std::vector<CState> m_arrState;
   int m_nState = 0;
-  std::vector<CUserTable> m_arrOnFile;  // what the store holds
+  std::map<int, CSaved> m_mapSaved;  // by table id
+  int m_nNextId = 0;
   CEditGridModel m_columns;
-  std::vector<int> m_arrItemRow;
   int m_nItem = -1;
+  CString m_strSpacing;
   CDataItem m_chosen;
 };
 

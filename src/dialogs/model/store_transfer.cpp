@@ -1,0 +1,158 @@
+#include "dialogs/model/store_transfer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "dialogs/model/dialog_texts.h"
+#include "dialogs/model/store_failure.h"
+#include "dialogs/model/table_name_model.h"
+#include "framework/number_text.h"
+#include "platform/file_system.h"
+#include "platform/store_file.h"
+#include "sections/load_data_table.h"
+#include "tables/data_table.h"
+#include "tables/table_store.h"
+
+namespace orv3 {
+namespace {
+
+CString FileNameOf(const CString& path) {
+  return path.Mid(std::max(path.ReverseFind(L'\\'), path.ReverseFind(L'/')) + 1);
+}
+
+CString FolderOf(const CString& path) {
+  return path.Left(path.GetLength() - FileNameOf(path).GetLength());
+}
+
+CDataTable Named(const CString& name, const CString& path) {
+  CDataTable table;
+  table.SetTableName(name);
+  table.SetSaveTablePath(path);
+  return table;
+}
+
+// The live rows, their positions as their indices.
+void AppendLive(const CDataTable& from, CDataTable& to) {
+  for (const CDataItem& row : from.m_arrItem) {
+    if (row.m_nModifyType < 0) continue;
+    CDataItem copy = row;
+    copy.m_nIndex = to.GetTableRowNum();
+    to.AddTableItem(copy, 1, 1);
+  }
+}
+
+// --- Export -------------------------------------------------------------------------------------
+
+bool WriteTo(const CString& file, const CString& path, const CString& name, CDialogUser& user) {
+  CDataTable stored = Named(name, path);
+  if (!stored.GetSystemJmTable()) {
+    TellReadFailed(user);
+    return false;
+  }
+  CDataTable table = Named(name, path);
+  table.m_Title = stored.m_Title;
+  AppendLive(stored, table);
+  if (table.WriteTable(file, kSystemKind, 1)) return true;
+  TellSaveFailed(user);
+  return false;
+}
+
+bool WriteAll(const CString& file, const CString& path, const CStringArray& names,
+              CDialogUser& user) {
+  for (int i = 0; i < names.GetSize(); ++i) {
+    user.Progress(texts::kExporting, i, names.GetSize());
+    if (!WriteTo(file, path, names[i], user)) return false;
+  }
+  return true;
+}
+
+bool ChooseTables(const CString& path, const CStringArray& marked, CStringArray& names,
+                  CDialogUser& user) {
+  CStringArray all;
+  if (!Named(L"", path).GetSystemJmTableName(all)) {
+    user.Tell(texts::kNothingToExport);
+    return false;
+  }
+  CTableNameModel model(all, marked);
+  if (!user.Run(model)) return false;
+  names = model.Chosen();
+  return !names.IsEmpty();
+}
+
+}  // namespace
+
+std::vector<CFileFilter> ImportFilters() {
+  return {{texts::kDataFileFilter, L"*.Kvb"}, {texts::kTableFileFilter, L"*.KDB"}};
+}
+
+void ImportFiles(const std::vector<CString>& files, const CString& store, bool overwrite,
+                 CDialogUser& user) {
+  const auto count = static_cast<int>(files.size());
+  CString failed;
+  for (int i = 0; i < count; ++i) {
+    const CString& file = files[static_cast<std::size_t>(i)];
+    user.Progress(texts::kImporting, i, count);
+    if (!CLoadDataTable::ImportDataTable(file, store, overwrite ? 1 : 0)) {
+      failed += L"\n" + StoreFailureText((FileNameOf(file) + L"：").GetString());
+    }
+  }
+  user.Progress(texts::kImporting, count, count);
+  if (!failed.IsEmpty()) user.Tell(texts::kImportFailed + failed);
+}
+
+void GroupByNumber(const CString& path, const CString& tableName, CDialogUser& user) {
+  const CString store = path + kSystemStore;
+  bool saved = true;
+  {
+    const CStoreLock lock(store);
+    CDataTable table = Named(tableName, path);
+    if (!lock.IsHeld() || !table.GetSystemJmTable()) return;
+    CDataTable grouped = Named(tableName, path);
+    grouped.m_Title = table.m_Title;
+    AppendLive(table.SearchTable(L"No.!=*X*", 1), grouped);
+    const int split = grouped.GetTableRowNum();
+    AppendLive(table.SearchTable(L"No.==*X*", 1), grouped);
+    const CDataItemArray& rows = table.m_arrItem;
+    const int count = grouped.GetTableRowNum();
+    const bool apart = std::equal(
+        rows.begin(), rows.end(), std::as_const(grouped.m_arrItem).begin(),
+        std::as_const(grouped.m_arrItem).end(),
+        [](const CDataItem& a, const CDataItem& b) { return a[0].m_strValue == b[0].m_strValue; });
+    if (apart || split == 0 || split == count) return;
+    saved = grouped.WriteTable(store, kSystemKind, 1) != 0;
+  }
+  if (!saved) TellSaveFailed(user);
+}
+
+CString NewTableFileName(const CString& folder) {
+  const CLocalTime now = Files().LocalTime();
+  const int date = now.m_nYear * 10000 + now.m_nMonth * 100 + now.m_nDay;
+  const int time = now.m_nHour * 10000 + now.m_nMinute * 100 + now.m_nSecond;
+  for (int number = now.m_nMillisecond;; ++number) {
+    const CString name = L"KVBDB" + FormatInt(date) + FormatInt(time) + FormatInt(number) + L".KDB";
+    CFileStamp stamp;
+    if (Files().Stamp(folder + name, stamp) != CFileError::None) return name;
+  }
+}
+
+void ExportTables(const CString& path, const CStringArray& marked, CDialogUser& user) {
+  CStringArray names;
+  CString target;
+  if (!ChooseTables(path, marked, names, user)) return;
+  if (!user.SaveFile(texts::kExportTitle, {{texts::kTableFileFilter, L"*.KDB"}}, target)) return;
+  if (Files().Resolve(target) == Files().Resolve(path + kSystemStore)) {
+    user.Tell(texts::kExportIntoItself);
+    return;
+  }
+  const CString folder = FolderOf(target);
+  const CString draft = folder + NewTableFileName(folder);
+  bool written = WriteAll(draft, path, names, user);
+  if (written && !Files().Rename(draft, target)) {
+    user.Tell(texts::kExportNotPlaced + target);
+    written = false;
+  }
+  if (!written) Files().Remove(draft);
+  user.Progress(texts::kExporting, names.GetSize(), names.GetSize());
+}
+
+}  // namespace orv3

@@ -1,0 +1,185 @@
+#include <gtest/gtest.h>
+
+#include "catalogue/lattice/steel_ge_gou.h"
+#include "dialog_store.h"
+#include "dialogs/model/dialog_texts.h"
+#include "dialogs/model/property_model.h"
+#include "scripted_user.h"
+
+namespace {
+
+using namespace orv3;
+
+CDataItem DefaultRow(const wchar_t* table) {
+  CDataItem row;
+  row.m_strTableName = table;
+  EXPECT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
+  return row;
+}
+
+int LineOf(const CPropertyModel& model, const wchar_t* sign) {
+  return model.Row().GetSignIndex(CString(sign));
+}
+
+double Number(const CPropertyModel& model, const wchar_t* sign) {
+  return ToDouble(model.Row()[sign].m_strValue);
+}
+
+TEST(Property, CaptionsAndButtons) {
+  const CDataItem row = DefaultRow(L"矩形截面");
+  const CPropertyModel edit(row, L"矩形截面", 1);
+  EXPECT_EQ(edit.Caption(), L"截面特性参数设置");
+  EXPECT_EQ(edit.CancelText(), L"取消");
+  EXPECT_TRUE(edit.HasOk());
+  EXPECT_EQ(edit.PictureResource(), 8049);
+  EXPECT_GT(edit.Picture().GetWidth(), 0);
+  const CPropertyModel show(row, L"矩形截面", 0);
+  EXPECT_EQ(show.Caption(), L"截面特性参数查询");
+  EXPECT_EQ(show.CancelText(), L"退出");
+  EXPECT_FALSE(show.HasOk());
+  const CEditGridModel& grid = edit.Grid();
+  ASSERT_EQ(grid.ColumnCount(), 2);
+  EXPECT_EQ(grid.LineCount(), row.GetItemLength());
+  EXPECT_EQ(grid.ColumnTitle(0), L"参数名称");
+  EXPECT_EQ(grid.ColumnWidth(1), 150);
+  EXPECT_EQ(grid.CellText(0, 0), L"型号");
+  EXPECT_EQ(grid.CellText(1, 1), L"300");
+}
+
+// Number, sizes and base point are typed, results computed; nothing is typed where rows are shown.
+TEST(Property, WhatCanBeEdited) {
+  struct CCase {
+    const wchar_t* table;
+    int mode;
+    int editable;
+  };
+  for (const CCase& c : {CCase{L"矩形截面", 1, 5},
+                         {L"自定义非对称H型钢", 1, 11},
+                         {L"六边形截面", 1, 4},
+                         {L"矩形截面", 0, 0}}) {
+    const CPropertyModel model(DefaultRow(c.table), c.table, c.mode);
+    for (int i = 0; i < model.Grid().LineCount(); ++i) {
+      EXPECT_EQ(model.Grid().ModifyType(i, 1),
+                i < c.editable ? CModifyType::Edit : CModifyType::Fixed)
+          << ToUtf8(c.table) << " line " << i;
+    }
+  }
+}
+
+// A rectangle of 300 x 400 becomes one of 300 x 500: A = bh, Ixo = bh^3/12.
+TEST(Property, ResultsFollowSizes) {
+  CScriptedUser user;
+  CPropertyModel model(DefaultRow(L"矩形截面"), L"矩形截面", 1);
+  model.SetValue(LineOf(model, L"h(mm)"), L" 500 ");
+  EXPECT_EQ(Number(model, L"A(mm^2)"), 150000);
+  EXPECT_EQ(Number(model, L"Ixo(mm^4)"), 3.125e9);
+  EXPECT_EQ(model.Grid().CellText(LineOf(model, L"A(mm^2)"), 1), L"150000");
+  model.SetValue(LineOf(model, L"A(mm^2)"), L"1");
+  EXPECT_EQ(Number(model, L"A(mm^2)"), 150000);
+  EXPECT_TRUE(model.Ok(user));
+  EXPECT_EQ(model.Row()[0].m_strValue, L"400X300");
+}
+
+TEST(Property, FaultsKeepItOpenAndNameTheLine) {
+  struct CCase {
+    const wchar_t* sign;
+    const wchar_t* text;
+  };
+  for (const CCase& c : {CCase{L"h(mm)", L""},
+                         {L"h(mm)", L"4OO"},
+                         {L"h(mm)", L"-5"},
+                         {L"b(mm)", L"0"},
+                         {L"x(mm)", L"left"},
+                         {L"No.", L""},
+                         {L"No.", L"a,b"},
+                         {L"No.", L"1234567890123456789012345678901"}}) {
+    CScriptedUser user;
+    CPropertyModel model(DefaultRow(L"矩形截面"), L"矩形截面", 1);
+    model.SetValue(LineOf(model, c.sign), c.text);
+    EXPECT_EQ(model.Row()[L"A(mm^2)"].m_strValue, L"") << ToUtf8(c.text);
+    EXPECT_FALSE(model.Ok(user)) << ToUtf8(c.text);
+    EXPECT_EQ(user.TakeMessages().size(), 1U) << ToUtf8(c.text);
+    EXPECT_EQ(model.FaultLine(), LineOf(model, c.sign)) << ToUtf8(c.text);
+    // Once it is mended the dialog ends.
+    model.SetValue(LineOf(model, c.sign), CString(c.sign) == L"No." ? L"A1" : L"100");
+    EXPECT_TRUE(model.Ok(user)) << ToUtf8(c.text);
+    EXPECT_EQ(model.FaultLine(), -1);
+  }
+}
+
+TEST(Property, RefusedByTheCallerItStaysAsItWas) {
+  CScriptedUser user;
+  CPropertyModel model(DefaultRow(L"矩形截面"), L"矩形截面", 1);
+  int asked = 0;
+  model.SetAccept([&](CDataItem& row, CDialogUser&) {
+    row.m_arrCell.Own(0).m_strValue = L"changed";
+    return ++asked == 2;
+  });
+  EXPECT_FALSE(model.Ok(user));
+  EXPECT_EQ(model.Row()[0].m_strValue, L"400X300");
+  EXPECT_TRUE(model.Ok(user));
+  EXPECT_EQ(model.Row()[0].m_strValue, L"changed");
+}
+
+TEST(Property, SpacingIsAListInBothModes) {
+  const CDialogStore store;
+  store.Fill();
+  struct CCase {
+    const wchar_t* table;
+    const wchar_t* number;
+    int choices;  // 0: no spacing
+  };
+  for (const CCase& c : {CCase{L"热轧等边角钢组合", L"2L30X3", 10},
+                         {L"热轧等边角钢十字组合", L"+L30X3", 5},
+                         {L"热轧普通槽钢][组合", L"2][10", 10},
+                         {L"热轧普通槽钢[]组合", L"2[]10", 0}}) {
+    for (const int mode : {0, 1}) {
+      const CDataItem row = WithSpacing(CLoadDataTable::GetSysTemJMItem(c.table, c.number), L"4");
+      ASSERT_FALSE(row.IsEmpty());
+      CPropertyModel model(row, c.table, mode);
+      const bool list = model.Grid().ModifyType(1, 1) == CModifyType::List;
+      ASSERT_EQ(list, c.choices > 0) << ToUtf8(c.table);
+      if (!list) continue;
+      EXPECT_EQ(model.Grid().Choices(1, 1).GetSize(), c.choices) << ToUtf8(c.table);
+      model.SetValue(1, L"8");
+      EXPECT_EQ(SpacingOf(model.Row()), L"8");
+    }
+  }
+}
+
+// Two channels [10 with their backs down and up, 600 apart and then 800. A = 2 x 1274 mm^2;
+// Ix = 2 x 25.6e4 + 2 x 1274 x (k/2)^2, since at 90 degrees Iy of the channel becomes Ix.
+TEST(Property, LatticeColumn) {
+  const CDialogStore store;
+  store.Add(L"热轧普通槽钢", {L"h(mm)", L"b(mm)", L"A(cm^2)", L"Ix(cm^4)", L"Iy(cm^4)", L"zo(cm)"},
+            {L"[10,100,48,12.74,198,25.6,1.52", L"[12,120,53,15.36,346,37.4,1.62"}, 0);
+  store.Add(L"热轧等边角钢", {L"b(mm)", L"t(mm)", L"A(cm^2)", L"Ix(cm^4)", L"zo(cm)"},
+            {L"L30X3,30,3,1.75,1.46,0.85"}, 0);
+  CScriptedUser user;
+  CPropertyModel model(DefaultRow(L"双肢格构柱"), L"双肢格构柱", 1);
+  EXPECT_EQ(Number(model, L"A(mm^2)"), 2548) << "a new column is computed at once";
+  const int type = LineOf(model, L"P1Type"), number = LineOf(model, L"P1No.");
+  EXPECT_EQ(model.Grid().ModifyType(LineOf(model, L"k(mm)"), 1), CModifyType::Edit);
+  EXPECT_EQ(model.Grid().ModifyType(LineOf(model, L"A(mm^2)"), 1), CModifyType::Fixed);
+  ASSERT_EQ(model.Grid().ModifyType(number, 1), CModifyType::List);
+  EXPECT_EQ(model.Grid().Choices(number, 1).GetSize(), 2);
+  EXPECT_EQ(model.Grid().Choices(type, 1).GetSize(), 2) << "tables that have sections";
+  EXPECT_EQ(model.Grid().Choices(LineOf(model, L"P1θ°"), 1).GetSize(), 4);
+
+  model.SetValue(LineOf(model, L"k(mm)"), L"600");
+  const double Ix = 2 * 25.6e4 + 2 * 1274 * 300.0 * 300.0;
+  EXPECT_NEAR(Number(model, L"Ix(mm^4)"), Ix, Ix * 1e-5);
+
+  model.SetValue(type, L"热轧等边角钢");
+  EXPECT_EQ(model.Row()[number].m_strValue, L"L30X3") << "a number of the new type";
+  EXPECT_EQ(Number(model, L"A(mm^2)"), 1274 + 175);
+  EXPECT_TRUE(model.Ok(user));
+
+  model.SetValue(LineOf(model, L"k(mm)"), L"-1");
+  EXPECT_EQ(model.Row()[L"A(mm^2)"].m_strValue, L"");
+  EXPECT_FALSE(model.Ok(user));
+  EXPECT_EQ(model.FaultLine(), LineOf(model, L"k(mm)"));
+  EXPECT_EQ(user.TakeMessages().size(), 1U);
+}
+
+}  // namespace
