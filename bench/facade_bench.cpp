@@ -45,7 +45,8 @@ std::string Value(int row, int column) {
   return column == 0 ? "H" + std::to_string(row) : std::to_string(row * 100 + column) + ".25";
 }
 
-void MakeStore() {
+bool MakeStore() {
+  CLoadDataTable::SetOrvoPrgPath(CString((Folder() / "").wstring()));
   for (int number = 0; number < kTables; ++number) {
     CDataTable table;
     table.SetTableName(orv3::FromUtf8(TableName(number)));
@@ -62,11 +63,12 @@ void MakeStore() {
     }
     Check(table.WriteSystemJmTable() == 1, "saving");
   }
+  return true;
 }
 
 void LookUpOrv3(benchmark::State& state) {
-  CLoadDataTable::SetOrvoPrgPath(CString((Folder() / "").wstring()));
-  MakeStore();
+  static const bool made = MakeStore();
+  Check(made, "making the store");
   std::vector<CString> numbers;
   for (int i = 0; i < kRows; ++i) numbers.push_back(orv3::FromUtf8(Value(i, 0)));
   std::size_t i = 0;
@@ -105,7 +107,7 @@ sqlite3* MakeSqlite() {
 // The statement is prepared once; each look-up takes the row's 39 values, as a caller of the other
 // side has them.
 void LookUpSqlite(benchmark::State& state) {
-  sqlite3* base = MakeSqlite();
+  static sqlite3* const base = MakeSqlite();
   sqlite3_stmt* select = nullptr;
   Check(
       sqlite3_prepare_v2(base, "SELECT * FROM t20 WHERE c0 = ?", -1, &select, nullptr) == SQLITE_OK,
@@ -123,7 +125,6 @@ void LookUpSqlite(benchmark::State& state) {
     sqlite3_reset(select);
   }
   sqlite3_finalize(select);
-  sqlite3_close(base);
 }
 BENCHMARK(LookUpSqlite);
 

@@ -2,9 +2,9 @@
 //
 // Of JSON Schema it understands what those files use: type, enum, minimum, exclusiveMinimum,
 // maximum, exclusiveMaximum, items, required, additionalProperties, oneOf lists of required keys,
-// and allOf with if (const or minimum of one key) and then (required, and properties that must not
-// be there: false). Anything else is refused at the start, so that a schema never promises what is
-// not checked.
+// and allOf with if (const or minimum of one key) and then (required, and properties that are
+// false: keys that must not be there). Anything else is refused at the start, so that a schema
+// never promises what is not checked.
 #pragma once
 
 #include <optional>

@@ -9,12 +9,17 @@ namespace orv3::cli {
 
 void AddStylesCommand(CLI::App& program);
 void AddSectionCommand(CLI::App& program);
-void AddGaugeCommand(CLI::App& program);
+void AddTablesCommand(CLI::App& program);
+void AddRowsCommand(CLI::App& program);
+void AddLatticeCommand(CLI::App& program);
 void AddCodeCommand(CLI::App& program);
 void AddCheckCommand(CLI::App& program);
+void AddGaugeCommand(CLI::App& program);
+void AddStoreCommand(CLI::App& program);
 
 // The commands in the order of the help; a new one is entered here.
 inline constexpr void (*kCommands[])(CLI::App&) = {
-    AddStylesCommand, AddSectionCommand, AddGaugeCommand, AddCodeCommand, AddCheckCommand};
+    AddStylesCommand, AddSectionCommand, AddTablesCommand, AddRowsCommand, AddLatticeCommand,
+    AddCodeCommand,   AddCheckCommand,   AddGaugeCommand,  AddStoreCommand};
 
 }  // namespace orv3::cli

@@ -7,6 +7,16 @@
 #include "tables/data_table.h"
 #include "tables/table_store.h"
 
+namespace {
+
+CDataItem RowOf(const CString& store, const CString& table, const CString& no) {
+  const auto read = orv3::SystemTable(store, table);
+  const int position = read ? read->Find(no) : -1;
+  return position < 0 ? CDataItem() : read->Table()[position];
+}
+
+}  // namespace
+
 void CLoadDataTable::SetOrvoPrgPath(const CString& path) { orv3::SetProgramPath(path); }
 
 CString CLoadDataTable::GetOrvoPrgPath() { return orv3::ProgramPath(); }
@@ -14,7 +24,7 @@ CString CLoadDataTable::GetOrvoPrgPath() { return orv3::ProgramPath(); }
 int CLoadDataTable::GetSysTemItemNo(const CString& tableName, CStringArray& numbers) {
   const CString name = tableName;  // which may be one of `numbers`
   numbers.RemoveAll();
-  const auto read = orv3::SystemTable(name);
+  const auto read = orv3::SystemTable(orv3::SystemStorePath(), name);
   if (!read || read->Table().GetTableColNum() < 2) return 0;
   for (const CDataItem& row : read->Table().m_arrItem) {
     const int cell = row.GetSignIndex(L"No.");
@@ -24,9 +34,12 @@ int CLoadDataTable::GetSysTemItemNo(const CString& tableName, CStringArray& numb
 }
 
 CDataItem CLoadDataTable::GetSysTemJMItem(const CString& tableName, const CString& no) {
-  const auto read = orv3::SystemTable(tableName);
-  const int position = read ? read->Find(no) : -1;
-  return position < 0 ? CDataItem() : read->Table()[position];
+  const CString front = orv3::StoreInFront();
+  if (!front.IsEmpty()) {
+    const CDataItem row = RowOf(front, tableName, no);
+    if (!row.IsEmpty()) return row;
+  }
+  return RowOf(orv3::SystemStorePath(), tableName, no);
 }
 
 CDataItem CLoadDataTable::GetUserJMItem(const CString& tableName, const CString& no,
@@ -40,7 +53,7 @@ CDataItem CLoadDataTable::GetUserJMItem(const CString& tableName, const CString&
 }
 
 int CLoadDataTable::IsHaveSystemJMItem(const CString& tableName, const wchar_t* expression) {
-  const auto read = orv3::SystemTable(tableName);
+  const auto read = orv3::SystemTable(orv3::SystemStorePath(), tableName);
   if (!read) return 0;
   CDataTable table = read->Table();
   return table.SearchTable(expression, 0).GetTableRowNum() > 0 ? 1 : 0;

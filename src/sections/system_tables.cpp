@@ -13,35 +13,45 @@ namespace {
 
 using CTablePtr = std::shared_ptr<const CSystemTable>;
 
-// The tables read from one state of one store.
+// The tables of one state of a store.
+struct CKeptStore {
+  CFileStamp m_stamp;
+  std::map<CString, CTablePtr> m_mapTable;
+};
+
 class CCache {
  public:
-  CTablePtr Find(const CString& path, const CFileStamp& stamp, const CString& table) {
+  CTablePtr Find(const CString& store, const CFileStamp& stamp, const CString& table) {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!IsOf(path, stamp)) return nullptr;
-    const auto found = m_mapTable.find(table);
-    return found == m_mapTable.end() ? nullptr : found->second;
+    const auto kept = m_mapStore.find(store);
+    if (kept == m_mapStore.end() || kept->second.m_stamp != stamp) return nullptr;
+    const auto found = kept->second.m_mapTable.find(table);
+    return found == kept->second.m_mapTable.end() ? nullptr : found->second;
   }
 
-  void Put(const CString& path, const CFileStamp& stamp, const CString& table, CTablePtr read) {
+  void Put(const CString& store, const CFileStamp& stamp, const CString& table, CTablePtr read) {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!IsOf(path, stamp)) {
-      m_mapTable.clear();
-      m_strPath = path;
-      m_stamp = stamp;
-    }
-    m_mapTable[table] = std::move(read);
+    if (m_mapStore.size() >= kMostStores && !m_mapStore.contains(store)) m_mapStore.clear();
+    CKeptStore& kept = m_mapStore[store];
+    if (kept.m_stamp != stamp) kept = {stamp, {}};
+    kept.m_mapTable[table] = std::move(read);
+  }
+
+  void SetInFront(const CString& file) {
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_strInFront = file;
+  }
+  CString InFront() {
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_strInFront;
   }
 
  private:
-  bool IsOf(const CString& path, const CFileStamp& stamp) const {
-    return m_stamp == stamp && m_strPath == path;
-  }
+  static constexpr std::size_t kMostStores = 4;
 
   std::mutex m_mutex;
-  CString m_strPath;
-  CFileStamp m_stamp;
-  std::map<CString, CTablePtr> m_mapTable;
+  std::map<CString, CKeptStore> m_mapStore;
+  CString m_strInFront;
 };
 
 CCache& Cache() {
@@ -51,10 +61,10 @@ CCache& Cache() {
 
 }  // namespace
 
-bool CSystemTable::Load(const CString& name) {
+bool CSystemTable::Load(const CString& store, const CString& name) {
   m_table.SetTableName(name);
-  m_table.SetSaveTablePath(ProgramPath());
-  if (!m_table.GetSystemJmTable()) return false;
+  CString line;
+  if (!m_table.GetTable(store, line)) return false;
   const bool text = m_table.GetTableColNum() > 0 &&
                     ValueClassOf(m_table.GetDataTableColType(0)) == CValueClass::Text;
   const CDataItemArray& rows = std::as_const(m_table).m_arrItem;
@@ -75,22 +85,27 @@ int CSystemTable::Find(const CString& no) const {
   return found == m_mapNo.end() ? -1 : found->second;
 }
 
-CTablePtr SystemTable(const CString& name) {
+CTablePtr SystemTable(const CString& store, const CString& name) {
   ClearStoreError();
-  const CString path = ProgramPath() + kSystemStore;
   CFileStamp stamp;
-  const bool stamped = Files().Stamp(path, stamp) == CFileError::None;
+  const bool stamped = Files().Stamp(store, stamp) == CFileError::None;
   if (stamped) {
-    if (CTablePtr kept = Cache().Find(path, stamp, name)) return kept;
+    if (CTablePtr kept = Cache().Find(store, stamp, name)) return kept;
   }
   auto read = std::make_shared<CSystemTable>();
-  if (!read->Load(name)) return nullptr;
+  if (!read->Load(store, name)) return nullptr;
   // Kept only when no save came between: what was read is then what the stamp stands for.
   CFileStamp after;
-  if (stamped && Files().Stamp(path, after) == CFileError::None && after == stamp) {
-    Cache().Put(path, stamp, name, read);
+  if (stamped && Files().Stamp(store, after) == CFileError::None && after == stamp) {
+    Cache().Put(store, stamp, name, read);
   }
   return read;
 }
+
+CString SystemStorePath() { return ProgramPath() + kSystemStore; }
+
+void SetStoreInFront(const CString& file) { Cache().SetInFront(file); }
+
+CString StoreInFront() { return Cache().InFront(); }
 
 }  // namespace orv3

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "framework/export.h"
 #include "tables/data_table.h"
 
 namespace orv3 {
@@ -13,7 +14,7 @@ namespace orv3 {
 // threads may look into it.
 class CSystemTable {
  public:
-  bool Load(const CString& name);  // from the system store under the program path
+  bool Load(const CString& store, const CString& name);
 
   const CDataTable& Table() const noexcept { return m_table; }
   // Position of the first live row whose column 0 holds `no`; -1 when there is none.
@@ -26,6 +27,15 @@ class CSystemTable {
 
 // The table as it is on file now; null, with LastStoreError set, when the store has none. The file
 // is read only when its stamp differs from that of the last reading.
-std::shared_ptr<const CSystemTable> SystemTable(const CString& name);
+std::shared_ptr<const CSystemTable> SystemTable(const CString& store, const CString& name);
+
+// The system store under the program path.
+CString SystemStorePath();
+
+// A table file in which GetSysTemJMItem looks before it looks in the system store; empty for none.
+// For a program that works on a file of its own, whose rows are made of those of the catalogue. For
+// the whole process.
+ORV3CAL_API void SetStoreInFront(const CString& file);
+CString StoreInFront();
 
 }  // namespace orv3

@@ -14,8 +14,7 @@ struct CPlateForm {
   CSource m_Iw = PlateWarping;
 };
 constexpr CPlateForm kPlates;
-constexpr CPlateForm kStar{CrossShearCentre, {}};  // all plates meet in one line
-constexpr CPlateForm kCompact{{}, {}};             // solids and the round tube
+constexpr CPlateForm kCompact{{}, {}};  // solids and the round tube
 
 constexpr CFamily UserDefined(std::wstring_view table, CSource width, CSource height,
                               CPlates plates, CPlateForm form,
@@ -77,7 +76,7 @@ constexpr CFamily kFamilies[] = {
                 kCompact),
     UserDefined(L"自定义圆管", {Twice, L"R(mm)"}, {Twice, L"R(mm)"}, {TubeThickness}, kCompact),
     UserDefined(L"自定义L形截面", LWidth, L"h(mm)", {L"b(mm)", L"bh(mm)"}, kPlates),
-    UserDefined(L"自定义十字形截面", CrossWidth, L"h(mm)", {L"b(mm)", CrossBarThickness}, kStar),
+    UserDefined(L"自定义十字形截面", CrossWidth, L"h(mm)", {L"b(mm)", CrossBarThickness}, kPlates),
     UserDefined(L"自定义翼缘十字形截面", L"b(mm)", L"h(mm)", {L"tw(mm)", L"tf(mm)"}, kPlates,
                 FlangedCrossMoment),
     UserDefined(L"矩形截面", L"b(mm)", L"h(mm)", {RectangleThickness}, kCompact),

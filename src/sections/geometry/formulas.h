@@ -55,7 +55,6 @@ CFormulaFunction TShearCentre;  // the cell: centroid below the top
 CFormulaFunction AngleShearCentre;
 CFormulaFunction PlateShearCentre;  // user-defined sections of plates
 CFormulaFunction PlateWarping;
-CFormulaFunction CrossShearCentre;
 
 // --- pair_formulas.cpp ------------------------------------------------------------------------
 CFormulaFunction PairWidth;

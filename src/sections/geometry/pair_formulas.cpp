@@ -170,11 +170,12 @@ std::optional<double> CrossPairRadiusX(const CDataItem& row, const CFamily& fami
   return RadiusFrom(Value(row, family, family.m_Ix), row);
 }
 
-// The outer corner of a toe is farthest from X1.
+// The toes are farthest from X1; their radius, t/3 (GB/T 9787), touches that fibre.
 std::optional<double> CrossPairModulusX(const CDataItem& row, const CFamily& family, const CCell&) {
   CPart part(row, family);
   CReader read(row, family);
-  const double fibre = (part.Width() + part(L"t(mm)") + part.Gap()) / sqrt2;
+  const double toe = part(L"t(mm)") / 3;
+  const double fibre = (part.Width() + toe + part.Gap()) / sqrt2 + toe;
   const double Ix = read(&CFamily::m_Ix);
   const auto value = part.Give(CLoadDataTable::CalDataItemWo(Ix, fibre));
   return read.Complete() ? value : std::nullopt;

@@ -28,13 +28,6 @@ struct CChannel {
   }
 };
 
-// From a centroid in the row's frame; coordinates that agree within rounding give 0.
-std::optional<double> DistanceToCentroid(CReader& read, double x, double y) {
-  constexpr double kRounding = 1e-6;
-  const double e0 = std::hypot(x - read(&CFamily::m_x), y - read(&CFamily::m_y));
-  return read.Give(e0 < kRounding ? 0 : e0);
-}
-
 }  // namespace
 
 // Iy h^2 / 4 with the distance of the flanges' mid-lines.
@@ -65,29 +58,18 @@ std::optional<double> TShearCentre(const CDataItem& row, const CFamily& family, 
 // Where the mid-lines of the legs meet.
 std::optional<double> AngleShearCentre(const CDataItem& row, const CFamily& family, const CCell&) {
   CReader read(row, family);
-  const double t = read.Plate(0);
-  return DistanceToCentroid(read, t / 2, t / 2);
+  const double heel = read.Plate(0) / 2;
+  return read.Give(std::hypot(read(&CFamily::m_x) - heel, read(&CFamily::m_y) - heel));
 }
 
-std::optional<double> PlateShearCentre(const CDataItem& row, const CFamily& family, const CCell&) {
-  const auto sectorial = PlateSectorial(row);
-  if (!sectorial) return std::nullopt;
-  CReader read(row, family);
-  return DistanceToCentroid(read, sectorial->m_x, sectorial->m_y);
+std::optional<double> PlateShearCentre(const CDataItem& row, const CFamily&, const CCell&) {
+  const auto warping = PlateWarpingOf(row);
+  return warping ? std::optional(warping->m_e0) : std::nullopt;
 }
 
 std::optional<double> PlateWarping(const CDataItem& row, const CFamily&, const CCell&) {
-  const auto sectorial = PlateSectorial(row);
-  return sectorial ? std::optional(sectorial->m_Iw) : std::nullopt;
-}
-
-// Where the mid-lines of arm and bar meet.
-std::optional<double> CrossShearCentre(const CDataItem& row, const CFamily& family, const CCell&) {
-  CReader read(row, family);
-  const double x = read(L"bf1(mm)") + read(L"b(mm)") / 2;
-  const double lower = read(L"bh1(mm)"), upper = read(L"bh2(mm)");
-  const double y = (lower + read(L"h(mm)") - upper) / 2;
-  return DistanceToCentroid(read, x, y);
+  const auto warping = PlateWarpingOf(row);
+  return warping ? std::optional(warping->m_Iw) : std::nullopt;
 }
 
 }  // namespace orv3

@@ -1,0 +1,165 @@
+// orv3cal lattice: the properties and the picture of a lattice column.
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "case_schema.h"
+#include "case_source.h"
+#include "catalogue/lattice/lattice_limbs.h"
+#include "catalogue/lattice/lattice_picture.h"
+#include "commands.h"
+#include "error.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "nearest.h"
+#include "output.h"
+#include "schemas.h"
+#include "sections/load_data_table.h"
+#include "store_place.h"
+#include "text_table.h"
+
+namespace orv3::cli {
+namespace {
+
+struct COptions {
+  std::string file;
+  bool json = false;
+  std::string svg;
+  CStoreOptions store;
+};
+
+[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
+
+std::string Cell(const CDataItem& row, const wchar_t* sign) { return ToUtf8(row[sign].m_strValue); }
+
+CString CellText(const CKeyValue& value) {
+  const auto* number = std::get_if<double>(&value);
+  return number ? FormatShortest(*number) : FromUtf8(std::get<std::string_view>(value));
+}
+
+// The column of the file, each value in the cell of its key.
+CSteelItemGeGou ReadColumn(const std::string& path) {
+  const CCaseSchema schema(kLatticeSchema);
+  const auto source = OpenCases(path, schema);
+  if (!source->IsSingle()) Refuse(path + ": holds no single column; give one JSON object");
+  CCaseValues values(schema.Rules().size());
+  std::optional<CCaseFault> fault;
+  source->Next(values, fault);
+  if (!fault) fault = schema.Check(values);
+  if (fault) Refuse(path + ": " + fault->Line());
+  const auto table = static_cast<std::size_t>(schema.Find("table"));
+  CSteelItemGeGou column(LatticeLimbCount(CellText(*values[table])));
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    if (i == table || !values[i]) continue;
+    const CString sign = FromUtf8(schema.Rules()[i].m_strKey);
+    column[sign.GetString()].m_strValue = CellText(*values[i]);
+  }
+  return column;
+}
+
+// Names the limb that is not in the store, and what would be there.
+[[noreturn]] void RefuseLimb(const CSteelItemGeGou& column, const CLimbColumns& signs) {
+  const std::string type = Cell(column, signs.m_szType);
+  const std::string no = Cell(column, signs.m_szNo);
+  CStringArray names;
+  CLoadDataTable::GetTableNameArray(kCatalogueTables, names);
+  CStringArray numbers;
+  if (CLoadDataTable::GetSysTemItemNo(FromUtf8(type), numbers) && !numbers.IsEmpty()) {
+    Refuse(ToUtf8(signs.m_szNo) + ": " + type + " has no \"" + no +
+           "\"; the nearest are: " + Nearest(no, numbers));
+  }
+  Refuse(ToUtf8(signs.m_szType) + ": the store has no table \"" + type +
+         "\"; the nearest are: " + Nearest(type, names));
+}
+
+CLatticeLimbs LimbsOf(const CSteelItemGeGou& column) {
+  const int count = LatticeLimbCount(column.m_strTableName);
+  for (int i = 0; i < count; ++i) {
+    if (column.GetPartItem(i + 1).IsEmpty()) RefuseLimb(column, kLimbColumns[i]);
+  }
+  CLatticeLimbs limbs;
+  if (!limbs.Fetch(column) || !limbs.Place(column)) Refuse("the column cannot be computed");
+  for (int i = 0; i < count; ++i) {
+    const CLatticeLimb& limb = limbs.m_arrLimb[static_cast<std::size_t>(i)];
+    if (limb.m_dArea > 0) continue;
+    Refuse(ToUtf8(kLimbColumns[i].m_szNo) + ": the row of " + Cell(column, kLimbColumns[i].m_szNo) +
+           " in the store tells no area; right would be a section of the catalogue");
+  }
+  return limbs;
+}
+
+std::string Number(const CLatticeLimb& limb) { return ToUtf8(limb.m_row[0].m_strValue); }
+
+CJson LatticeJson(const CSteelItemGeGou& column, const CLatticeLimbs& limbs) {
+  const CLatticeProperties values = limbs.Properties();
+  CJson properties = CJson::object();
+  for (const CLatticeProperty& property : LatticePropertyColumns())
+    properties[property.m_szKey] = JsonNumber(values.*property.m_pField);
+  CJson list = CJson::array();
+  for (const CLatticeLimb& limb : limbs.m_arrLimb) {
+    list.push_back({{"type", ToUtf8(limb.m_row.m_strTableName)},
+                    {"no", Number(limb)},
+                    {"angle", JsonNumber(limb.m_dAngle)},
+                    {"area", JsonNumber(limb.m_dArea)},
+                    {"x", JsonNumber(limb.m_at.m_x)},
+                    {"y", JsonNumber(limb.m_at.m_y)}});
+  }
+  return {{"table", ToUtf8(column.m_strTableName)},
+          {"no", Cell(column, L"No.")},
+          {"properties", properties},
+          {"limbs", list}};
+}
+
+void PrintLattice(const CSteelItemGeGou& column, const CLatticeLimbs& limbs) {
+  CTextTable parts({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Right,
+                    CAlign::Right, CAlign::Right});
+  parts.AddRow({"limb", "table", "no", "turned (°)", "A (mm²)", "x (mm)", "y (mm)"});
+  for (std::size_t i = 0; i < limbs.m_arrLimb.size(); ++i) {
+    const CLatticeLimb& limb = limbs.m_arrLimb[i];
+    parts.AddRow({std::to_string(i + 1), ToUtf8(limb.m_row.m_strTableName), Number(limb),
+                  NumberText(limb.m_dAngle), NumberText(limb.m_dArea), NumberText(limb.m_at.m_x),
+                  NumberText(limb.m_at.m_y)});
+  }
+  static constexpr const char* kUnits[] = {"", "mm", "mm²", "mm³", "mm⁴"};
+  const CLatticeProperties values = limbs.Properties();
+  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left});
+  for (const CLatticeProperty& property : LatticePropertyColumns()) {
+    table.AddRow({ToUtf8(property.m_szTitle), property.m_szKey,
+                  NumberText(values.*property.m_pField), kUnits[property.m_nPower]});
+  }
+  Print(ToUtf8(column.m_strTableName) + "  " + Cell(column, L"No.") + "\n\n" + parts.Text() + "\n" +
+        table.Text());
+}
+
+void RunLattice(const COptions& options) {
+  const CSteelItemGeGou column = ReadColumn(options.file);
+  StoreToRead(options.store);
+  const CLatticeLimbs limbs = LimbsOf(column);
+  if (!options.svg.empty()) {
+    WriteFile(options.svg,
+              LatticePictureSvg({column.m_strTableName, column[L"No."].m_strValue, limbs}));
+  }
+  if (options.json) {
+    PrintJson(LatticeJson(column, limbs));
+  } else {
+    PrintLattice(column, limbs);
+  }
+}
+
+}  // namespace
+
+void AddLatticeCommand(CLI::App& program) {
+  auto options = std::make_shared<COptions>();
+  CLI::App* command = program.add_subcommand(
+      "lattice", "Compute a lattice column of two, three or four rolled limbs");
+  command->add_option("FILE", options->file, "The column, as docs/lattice.md tells (JSON)")
+      ->required();
+  command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
+  command->add_option("--svg", options->svg, "Write a picture drawn to scale")->type_name("FILE");
+  AddStoreOptions(*command, options->store);
+  command->callback([options] { RunLattice(*options); });
+}
+
+}  // namespace orv3::cli

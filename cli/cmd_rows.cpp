@@ -1,0 +1,205 @@
+// orv3cal rows: the rows of one table, searched and sorted.
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "commands.h"
+#include "csv_output.h"
+#include "error.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "output.h"
+#include "store_place.h"
+#include "store_table.h"
+#include "tables/search.h"
+#include "text_table.h"
+
+namespace orv3::cli {
+namespace {
+
+struct COptions {
+  std::string table;
+  std::string where;
+  bool wildcard = false;
+  std::vector<std::string> columns;
+  std::string sort;
+  bool json = false;
+  bool csv = false;
+  CStoreOptions store;
+};
+
+[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
+
+// --- Conditions ----------------------------------------------------------------------------------
+
+// A search passes over what it does not understand; here it is refused.
+void CheckPart(const CDataTable& table, const CSearchExpression::CPart& part, bool wildcard) {
+  const CString sign = CString(part.m_strSign).Trim();
+  const CDataTypeStruct& column = table.m_Title[ColumnOf(table, "--where", ToUtf8(sign))];
+  const CString value = CString(part.m_strValue).Trim();
+  const bool star = value.Find(L'*') >= 0;
+  const bool pattern =
+      wildcard && star && (part.m_strOperator == L"==" || part.m_strOperator == L"!=");
+  if (ValueClassOf(column.m_nType) == CValueClass::Text || pattern || IsNumber(value)) return;
+  Refuse("--where: " + ToUtf8(sign) + " holds numbers, \"" + ToUtf8(value) +
+         "\" is none; right would be a number" +
+         (star && !wildcard ? ", or --wildcard for the \"*\"" : ""));
+}
+
+// The expression with the blanks around its signs and values taken away, which a search would take
+// for parts of the values.
+CString Checked(const CDataTable& table, const std::string& where, bool wildcard) {
+  const CString given = FromUtf8(where);
+  if (given.Find(L"VIEW") >= 0)
+    Refuse("--where: VIEW has no place here; right would be --columns for the columns to show");
+  const CSearchExpression search(given);
+  const CString joiner = search.m_bAnd ? L"&&" : L"||";
+  CStringArray parts;
+  CDataTable::TransStrToArray(given, joiner, parts);
+  if (search.m_bAnd && given.Find(L"||") >= 0)
+    Refuse("--where: && and || cannot be mixed; right would be one of them");
+  CString text;
+  for (std::size_t i = 0; i < search.m_arrPart.size(); ++i) {
+    const CSearchExpression::CPart& part = search.m_arrPart[i];
+    if (part.m_strOperator.IsEmpty()) {
+      Refuse("--where: \"" + ToUtf8(parts[static_cast<int>(i)].Trim()) +
+             "\" is no condition; right would be SIGN OPERATOR VALUE with one of ==, !=, >>, <<, "
+             ">=, <=");
+    }
+    CheckPart(table, part, wildcard);
+    if (i > 0) text += joiner;
+    text += CString(part.m_strSign).Trim() + part.m_strOperator + CString(part.m_strValue).Trim();
+  }
+  return text;
+}
+
+// --- The rows ------------------------------------------------------------------------------------
+
+void Sort(CDataTable& table, const std::string& sort) {
+  const std::size_t colon = sort.rfind(':');
+  const std::string order = colon == std::string::npos ? "asc" : sort.substr(colon + 1);
+  if (order != "asc" && order != "desc") {
+    Refuse("--sort: \"" + order + "\" is no order; right would be desc, or asc");
+  }
+  table.OrderTable(ColumnOf(table, "--sort", sort.substr(0, colon)), order == "asc" ? 1 : 0);
+}
+
+CDataTable Selected(const CDataTable& all, const COptions& options) {
+  CDataTable table(all);
+  if (!options.where.empty()) {
+    const CString expression = Checked(all, options.where, options.wildcard);
+    table = table.SearchTable(expression.GetString(), options.wildcard ? 1 : 0);
+  }
+  if (!options.sort.empty()) Sort(table, options.sort);
+  if (options.columns.empty()) return table;
+  CString signs;
+  for (const std::string& sign : options.columns) {
+    ColumnOf(all, "--columns", sign);
+    signs += (signs.IsEmpty() ? L"" : L"<<>>") + FromUtf8(sign);
+  }
+  return table.ViewTable(signs.GetString());
+}
+
+std::vector<std::string> Cells(const CDataItem& row) {
+  std::vector<std::string> cells;
+  for (const CDataCell& cell : row.m_arrCell) cells.push_back(ToUtf8(cell.m_strValue));
+  return cells;
+}
+
+std::vector<std::string> Signs(const CDataTable& table) {
+  std::vector<std::string> signs;
+  for (int i = 0; i < table.GetTableColNum(); ++i)
+    signs.push_back(ToUtf8(table.m_Title[i].m_strSign));
+  return signs;
+}
+
+template <class USE>
+void ForEachLive(const CDataTable& table, const USE& use) {
+  for (const CDataItem& row : table.m_arrItem) {
+    if (row.m_nModifyType >= 0) use(row);
+  }
+}
+
+// --- Output --------------------------------------------------------------------------------------
+
+const char* TypeName(CDataTypeStruct::KVBT_Value_Type type) {
+  static constexpr const char* kNames[] = {"text",   "int",  "long", "float",
+                                           "double", "long", "char"};
+  const auto at = static_cast<std::size_t>(type);
+  return at < std::size(kNames) ? kNames[at] : "text";
+}
+
+void PrintRowsJson(const std::string& name, const CDataTable& table) {
+  CJson columns = CJson::array();
+  for (int i = 0; i < table.GetTableColNum(); ++i) {
+    const CDataTypeStruct& column = table.m_Title[i];
+    columns.push_back({{"sign", ToUtf8(column.m_strSign)},
+                       {"name", ToUtf8(column.m_strName)},
+                       {"type", TypeName(column.m_nType)},
+                       {"key", column.m_bKey != 0}});
+  }
+  CJson rows = CJson::array();
+  ForEachLive(table, [&](const CDataItem& row) {
+    rows.push_back({{"index", row.m_nIndex}, {"state", row.m_nModifyType}, {"cells", Cells(row)}});
+  });
+  PrintJson({{"table", name}, {"columns", columns}, {"rows", rows}});
+}
+
+void PrintRowsCsv(const CDataTable& table) {
+  std::string text = kCsvMark + CsvLine(Signs(table));
+  ForEachLive(table, [&](const CDataItem& row) { text += CsvLine(Cells(row)); });
+  Print(text);
+}
+
+void PrintRows(const std::string& name, const CDataTable& table) {
+  std::vector<CAlign> columns;
+  for (int i = 0; i < table.GetTableColNum(); ++i) {
+    const bool text = ValueClassOf(table.m_Title[i].m_nType) == CValueClass::Text;
+    columns.push_back(text ? CAlign::Left : CAlign::Right);
+  }
+  CTextTable lines(columns);
+  lines.AddRow(Signs(table));
+  int count = 0;
+  ForEachLive(table, [&](const CDataItem& row) {
+    lines.AddRow(Cells(row));
+    ++count;
+  });
+  Print(lines.Text() + "\n" + name + ": " + std::to_string(count) +
+        (count == 1 ? " row" : " rows") + "\n");
+}
+
+void RunRows(const COptions& options) {
+  const CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
+  const CDataTable table = Selected(all, options);
+  if (options.json) return PrintRowsJson(options.table, table);
+  if (options.csv) return PrintRowsCsv(table);
+  PrintRows(options.table, table);
+}
+
+}  // namespace
+
+void AddRowsCommand(CLI::App& program) {
+  auto options = std::make_shared<COptions>();
+  CLI::App* command = program.add_subcommand("rows", "List a table's rows, searched and sorted");
+  command->add_option("TABLE", options->table, "The table's name, as tables lists it")->required();
+  command
+      ->add_option("--where", options->where,
+                   "Conditions SIGN OPERATOR VALUE joined by && or by ||; operators ==, !=, >>, "
+                   "<<, >=, <=")
+      ->type_name("EXPR");
+  command->add_flag("--wildcard", options->wildcard,
+                    "Let * at an end of a value stand for any text");
+  command->add_option("--columns", options->columns, "The columns to show, in the table's order")
+      ->type_name("SIGN,SIGN...")
+      ->delimiter(',');
+  command->add_option("--sort", options->sort, "The column to sort by, ascending unless :desc")
+      ->type_name("SIGN[:desc]");
+  CLI::Option* json = command->add_flag("--json", options->json, "As JSON, cells as text");
+  command->add_flag("--csv", options->csv, "As CSV that a spreadsheet opens")->excludes(json);
+  AddStoreOptions(*command, options->store);
+  command->callback([options] { RunRows(*options); });
+}
+
+}  // namespace orv3::cli

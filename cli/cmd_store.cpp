@@ -1,0 +1,15 @@
+// orv3cal store: what stores hold, and changes to them. One source file for each group of
+// subcommands.
+
+#include "commands.h"
+#include "store_commands.h"
+
+namespace orv3::cli {
+
+void AddStoreCommand(CLI::App& program) {
+  CLI::App* store = program.add_subcommand("store", "Look into table files and change them");
+  store->require_subcommand(1);
+  for (const auto add : kStoreCommands) add(*store);
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,132 @@
+// orv3cal store info, verify: what a table file holds and whether it is whole.
+
+#include <memory>
+#include <string>
+
+#include "error.h"
+#include "framework/utf8.h"
+#include "output.h"
+#include "platform/store_error.h"
+#include "store_commands.h"
+#include "tables/store_check.h"
+#include "text_table.h"
+
+namespace orv3::cli {
+namespace {
+
+struct COptions {
+  std::string file;
+  bool json = false;
+};
+
+[[noreturn]] void FailAsTold() {
+  throw CCommandError(CExit::FileTrouble, ToUtf8(LastStoreError().m_strText));
+}
+
+const char* KindName(int kind) {
+  static constexpr const char* kNames[] = {"system", "user", "current"};
+  return kind >= 0 && kind < 3 ? kNames[kind] : "unknown";
+}
+
+CJson InfoJson(const CStoreInfo& info) {
+  CJson tables = CJson::array();
+  for (const CStoreTable& table : info.m_arrTable) {
+    tables.push_back({{"name", ToUtf8(table.m_strName)},
+                      {"columns", table.m_nColumns},
+                      {"rows", table.m_nRows},
+                      {"deleted", table.m_nDeleted},
+                      {"slot", table.m_nSlot},
+                      {"blocks", table.m_arrBlock}});
+  }
+  return {{"kind", KindName(info.m_nKind)}, {"line", ToUtf8(info.m_strLine)}, {"tables", tables}};
+}
+
+// What the edit states that rows have on file mean.
+const char* StateName(int state) {
+  switch (state) {
+    case 0:
+      return "own";
+    case 4:
+      return "catalogue";
+    case -1:
+      return "deleted";
+    default:
+      return "other";
+  }
+}
+
+std::string States(const CStoreTable& table) {
+  std::string text;
+  for (const auto& [state, rows] : table.m_mapState) {
+    text += (text.empty() ? "" : ", ") + std::to_string(rows) + " " + StateName(state);
+    if (StateName(state) == std::string("other")) text += " (" + std::to_string(state) + ")";
+  }
+  return text;
+}
+
+void PrintInfo(const CStoreInfo& info) {
+  Print("kind        " + std::string(KindName(info.m_nKind)) + "\ninformation " +
+        ToUtf8(info.m_strLine) + "\nroom for    " + std::to_string(info.m_nFreeTables) +
+        " more tables\n\n");
+  CTextTable table(
+      {CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left, CAlign::Right, CAlign::Right});
+  table.AddRow({"table", "columns", "rows", "of which", "slot", "blocks"});
+  table.AddRule();
+  for (const CStoreTable& stored : info.m_arrTable) {
+    table.AddRow({ToUtf8(stored.m_strName), std::to_string(stored.m_nColumns),
+                  std::to_string(stored.m_nRows), States(stored), std::to_string(stored.m_nSlot),
+                  std::to_string(stored.m_arrBlock.size())});
+  }
+  Print(table.Text());
+}
+
+void RunInfo(const COptions& options) {
+  CStoreInfo info;
+  if (!ReadStoreInfo(FromUtf8(options.file), info)) FailAsTold();
+  if (options.json) {
+    PrintJson(InfoJson(info));
+  } else {
+    PrintInfo(info);
+  }
+}
+
+void RunVerify(const COptions& options) {
+  std::vector<CStoreFault> faults;
+  if (!VerifyStore(FromUtf8(options.file), faults)) FailAsTold();
+  if (options.json) {
+    CJson list = CJson::array();
+    for (const CStoreFault& fault : faults) {
+      list.push_back({{"table", ToUtf8(fault.m_strTable)},
+                      {"offset", fault.m_nOffset},
+                      {"what", ToUtf8(fault.m_strWhat)}});
+    }
+    PrintJson({{"ok", faults.empty()}, {"faults", list}});
+  } else if (faults.empty()) {
+    Print("whole: no fault found\n");
+  } else {
+    for (const CStoreFault& fault : faults) {
+      const std::string table =
+          fault.m_strTable.IsEmpty() ? "file" : "table " + ToUtf8(fault.m_strTable);
+      Print(table + ", at " + std::to_string(fault.m_nOffset) + ": " + ToUtf8(fault.m_strWhat) +
+            "\n");
+    }
+  }
+  if (!faults.empty()) throw CExit::FileTrouble;
+}
+
+void Add(CLI::App& store, const char* name, const char* what, void (*run)(const COptions&)) {
+  auto options = std::make_shared<COptions>();
+  CLI::App* command = store.add_subcommand(name, what);
+  command->add_option("FILE", options->file, "A table file (.KDB)")->required();
+  command->add_flag("--json", options->json, "As JSON");
+  command->callback([options, run] { run(*options); });
+}
+
+}  // namespace
+
+void AddStoreInfoCommands(CLI::App& store) {
+  Add(store, "info", "Tell what a table file holds", RunInfo);
+  Add(store, "verify", "Look for structural faults; exit status 3 when there is one", RunVerify);
+}
+
+}  // namespace orv3::cli

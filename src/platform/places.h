@@ -1,0 +1,19 @@
+// Where a program is, and where it keeps what belongs to its user.
+#pragma once
+
+#include "framework/cstring.h"
+#include "framework/export.h"
+
+namespace orv3 {
+
+// The running program's own file; empty when the system does not tell.
+ORV3CAL_API CString ProgramFile();
+
+// The folder for the user's own stores: "orv3cal" in $XDG_DATA_HOME or ~/.local/share, on Windows
+// "Orv3Cal" in %APPDATA%. It need not be there; empty when the user has no such place.
+ORV3CAL_API CString UserDataFolder();
+
+// Makes a folder and those above it; true as well when it is there.
+ORV3CAL_API bool MakeFolders(const CString& folder);
+
+}  // namespace orv3

@@ -1,0 +1,24 @@
+#include "platform/places.h"
+
+#include <windows.h>
+
+#include <cwchar>
+#include <string>
+
+namespace orv3 {
+
+CString ProgramFile() {
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    if (length < path.size()) return CString(path.data(), static_cast<int>(length));
+    path.resize(path.size() * 2);
+  }
+}
+
+CString UserDataFolder() {
+  const wchar_t* data = _wgetenv(L"APPDATA");
+  return data && *data ? CString(data) + L"\\Orv3Cal" : CString();
+}
+
+}  // namespace orv3

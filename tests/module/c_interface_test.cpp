@@ -1,0 +1,379 @@
+// The C interface as a program of another language uses it. Expectations are hand calculations and
+// printed values of GB 50017-2003.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "framework/utf8.h"
+#include "module/orv3cal_c.h"
+#include "platform/temp_folder.h"
+#include "sections/steel_jm_data.h"
+#include "tables/data_table.h"
+#include "tables/table_store.h"
+
+namespace {
+
+using CText16 = std::u16string;
+
+std::string Utf8(const CText16& text) {
+  std::wstring wide;
+  for (const char16_t unit : text) wide += static_cast<wchar_t>(unit);
+  return orv3::ToUtf8(wide);
+}
+
+CText16 Utf16(const CString& text) {
+  CText16 out;
+  for (const wchar_t unit : text.View()) out += static_cast<char16_t>(unit);
+  return out;
+}
+
+// The whole text of a function that gives one, asked in the two steps that callers take.
+template <class FUNCTION, class... ARGUMENTS>
+CText16 TextFrom(FUNCTION function, ARGUMENTS... arguments) {
+  const int length = function(arguments..., nullptr, 0);
+  if (length < 0) return u"failed";
+  CText16 text(static_cast<std::size_t>(length) + 1, u'x');
+  EXPECT_EQ(function(arguments..., text.data(), length + 1), length);
+  EXPECT_EQ(text.back(), u'\0');
+  text.pop_back();
+  return text;
+}
+
+std::string LastError() { return Utf8(TextFrom(orv3_last_error)); }
+
+std::vector<std::string> Lines(const CText16& text) {
+  std::vector<std::string> lines(1);
+  for (const char ch : Utf8(text)) {
+    if (ch == '\n') {
+      lines.emplace_back();
+    } else {
+      lines.back() += ch;
+    }
+  }
+  return lines;
+}
+
+std::map<std::string, std::string> Values(const CText16& text) {
+  std::map<std::string, std::string> values;
+  for (const std::string& line : Lines(text)) {
+    const std::size_t at = line.find('=');
+    values[line.substr(0, at)] = line.substr(at + 1);
+  }
+  return values;
+}
+
+// --- Texts ---------------------------------------------------------------------------------------
+
+TEST(CTexts, AreCutToTheRoomThereIsAndNeverInsideACharacter) {
+  ASSERT_EQ(orv3_list_sizes(u"型钢\U0001F600", nullptr, 0), -1);
+  const CText16 whole = TextFrom(orv3_last_error);
+  ASSERT_NE(whole.find(u"型钢\U0001F600"), CText16::npos);
+  for (int size = 1; size <= static_cast<int>(whole.size()); ++size) {
+    CText16 text(whole.size() + 1, u'x');
+    EXPECT_EQ(orv3_last_error(text.data(), size), static_cast<int>(whole.size()));
+    const CText16 cut(text.c_str());
+    EXPECT_EQ(cut, whole.substr(0, cut.size()));
+    EXPECT_GE(static_cast<int>(cut.size()) + 2, size);
+    EXPECT_LT(static_cast<int>(cut.size()), size);
+    EXPECT_TRUE(cut.empty() || (cut.back() & 0xFC00) != 0xD800) << size;
+    EXPECT_EQ(text[static_cast<std::size_t>(size)], u'x') << "written beyond the room";
+  }
+}
+
+TEST(CTexts, AnswerTheInterfaceVersion) { EXPECT_EQ(orv3_version(), ORV3_INTERFACE_VERSION); }
+
+// --- Sections ------------------------------------------------------------------------------------
+
+TEST(CSection, ComputesAnHSectionUnderEachNameOfItsStyle) {
+  const double sizes[] = {300, 400, 10, 10};  // b, h, tf, tw
+  for (const char16_t* style : {u"自定义对称H型钢", u"0", u"h"}) {
+    double p[ORV3_PROPERTIES + 1];
+    p[ORV3_PROPERTIES] = -7;
+    ASSERT_EQ(orv3_section(style, sizes, 4, 150, 0, p, ORV3_PROPERTIES + 1), ORV3_PROPERTIES);
+    const double A = 2 * 300 * 10 + 380 * 10;
+    const double Ixo = (300 * std::pow(400, 3) - 290 * std::pow(380, 3)) / 12;
+    const double Iyo = (2 * 10 * std::pow(300, 3) + 380 * std::pow(10, 3)) / 12;
+    EXPECT_DOUBLE_EQ(p[ORV3_XO], 150);
+    EXPECT_DOUBLE_EQ(p[ORV3_YO], 200);
+    EXPECT_NEAR(p[ORV3_A], A, 1e-9 * A);
+    EXPECT_NEAR(p[ORV3_IXO], Ixo, 1e-9 * Ixo);
+    EXPECT_NEAR(p[ORV3_IYO], Iyo, 1e-9 * Iyo);
+    EXPECT_NEAR(p[ORV3_WXO1], Ixo / 200, 1e-9 * Ixo);
+    EXPECT_NEAR(p[ORV3_WYOR], Iyo / 150, 1e-9 * Iyo);
+    EXPECT_NEAR(p[ORV3_RXO], std::sqrt(Ixo / A), 1e-9);
+    EXPECT_NEAR(p[ORV3_RYO], std::sqrt(Iyo / A), 1e-9);
+    EXPECT_NEAR(p[ORV3_IX], Ixo + A * 200 * 200, 1e-9 * Ixo);  // base point at the lower edge
+    EXPECT_NEAR(p[ORV3_IY], Iyo, 1e-9 * Iyo);
+    EXPECT_EQ(p[ORV3_WX2], 1e100);
+    EXPECT_NEAR(p[ORV3_RX], std::sqrt(p[ORV3_IX] / A), 1e-9);
+    EXPECT_EQ(p[ORV3_PROPERTIES], -7);
+  }
+  double two[3] = {0, 0, -7};
+  EXPECT_EQ(orv3_section(u"h", sizes, 4, 0, 0, two, 2), 2);
+  EXPECT_EQ(two[2], -7);
+}
+
+TEST(CSection, ListsStylesAndTheirSizes) {
+  const auto styles = Lines(TextFrom(orv3_list_styles));
+  ASSERT_EQ(styles.size(), 15U);
+  EXPECT_EQ(styles[3], "矩形截面");
+  EXPECT_EQ(Utf8(TextFrom(orv3_list_sizes, u"自定义圆管")), "R(mm)\nr(mm)");
+}
+
+TEST(CSection, RefusesByNameWhatMakesNoSection) {
+  const double sizes[] = {300, 400, 10, 10};
+  const double thick[] = {300, 400, 210, 10};
+  const double endless[] = {300, HUGE_VAL, 10, 10};
+  double p[ORV3_PROPERTIES];
+  struct {
+    const char16_t* style;
+    const double* sizes;
+    int count;
+    double x;
+    double* out;
+    const char* named;
+  } const cases[] = {
+      {u"自定义", sizes, 4, 0, p, "style"},  {u"15", sizes, 4, 0, p, "style"},
+      {nullptr, sizes, 4, 0, p, "style"},    {u"h", nullptr, 4, 0, p, "sizes"},
+      {u"h", sizes, 3, 0, p, "count"},       {u"h", thick, 4, 0, p, "tf(mm)"},
+      {u"h", endless, 4, 0, p, "sizes"},     {u"h", sizes, 4, NAN, p, "x"},
+      {u"h", sizes, 4, 0, nullptr, "place"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(orv3_section(c.style, c.sizes, c.count, c.x, 0, c.out, ORV3_PROPERTIES), -1)
+        << c.named;
+    EXPECT_NE(LastError().find(c.named), std::string::npos) << c.named << ": " << LastError();
+  }
+}
+
+// --- Checks --------------------------------------------------------------------------------------
+
+const std::vector<CText16> kBolts = {
+    u"layout=grid", u"type=friction", u"cols=3",    u"rows=4",     u"colSpace=80;90",
+    u"rowSpace=70", u"d=20",          u"nf=2",      u"N=60",       u"Vx=40",
+    u"Vy=250",      u"M=3000",        u"T=15000",   u"ex=50",      u"ey=50",
+    u"t=16",        u"steel=Q345",    u"surface=0", u"grade=10.9",
+};
+const std::vector<CText16> kFillet = {u"case=4", u"steel=Q235", u"lw=240",   u"N=60", u"M=3000",
+                                      u"V=120",  u"betaF=1.22", u"angle=90", u"hf=8"};
+const std::vector<CText16> kButt = {u"case=0", u"steel=Q235", u"quality=1", u"lw=200",
+                                    u"t=10",   u"N=100",      u"M=0",       u"V=0"};
+
+CText16 Joined(const std::vector<CText16>& lines, std::size_t without = 999) {
+  CText16 text;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (i != without) text += lines[i] + u"\r\n";
+  }
+  return text;
+}
+
+TEST(CChecks, GiveTheResultsByKey) {
+  auto bolts = Values(TextFrom(orv3_check_bolt, Joined(kBolts).c_str()));
+  EXPECT_EQ(bolts["pass"], "1");
+  EXPECT_EQ(bolts["n"], "12");
+  EXPECT_EQ(bolts["P"], "155");                                     // Table 7.2.2-2
+  EXPECT_NEAR(std::stod(bolts["Nvb"]), 0.9 * 2 * 0.5 * 155, 1e-9);  // (7.2.2-1)
+  EXPECT_EQ(bolts.count("de"), 0U);                                 // not of the friction type
+
+  const auto fillet = Values(TextFrom(orv3_check_fillet, Joined(kFillet).c_str()));
+  EXPECT_NEAR(std::stod(fillet.at("he")), 0.7 * 8, 1e-9);
+  EXPECT_EQ(fillet.at("ffw"), "160");
+
+  auto heavy = kButt;
+  const auto butt = Values(TextFrom(orv3_check_butt, Joined(kButt).c_str()));
+  EXPECT_NEAR(std::stod(butt.at("sigma")), 100e3 / (200 * 10), 1e-9);
+  EXPECT_EQ(butt.at("ftw"), "215");
+  EXPECT_EQ(butt.at("pass"), "1");
+  heavy[5] = u"N=1000";  // 500 N/mm2
+  EXPECT_EQ(Values(TextFrom(orv3_check_butt, Joined(heavy).c_str())).at("pass"), "0");
+}
+
+TEST(CChecks, RefuseAnInputWithoutOneOfItsKeys) {
+  const struct {
+    int(ORV3_CALL* check)(const orv3_char*, orv3_char*, int);
+    const std::vector<CText16>& lines;
+  } checks[] = {{orv3_check_bolt, kBolts}, {orv3_check_fillet, kFillet}, {orv3_check_butt, kButt}};
+  for (const auto& [check, lines] : checks) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      EXPECT_EQ(check(Joined(lines, i).c_str(), nullptr, 0), -1) << Utf8(lines[i]);
+      const std::string key = Utf8(lines[i].substr(0, lines[i].find(u'=')));
+      // Without its leg a fillet weld lacks a throat of any kind.
+      EXPECT_EQ(LastError().substr(0, LastError().find(':')), key == "hf" ? "he" : key);
+    }
+  }
+}
+
+TEST(CChecks, RefuseByKeyWhatIsNoValue) {
+  const struct {
+    const char16_t* line;
+    const char* named;
+  } cases[] = {{u"steel=Q235B", "steel: "},
+               {u"t=ten", "t: "},
+               {u"cols=2.5", "cols: "},
+               {u"rowSpace=70;x", "rowSpace: "},
+               {u"N=1,5", "N: "},
+               {u"colspace=80", "colspace: "},
+               {u"pitch", "\"pitch\" has no \"=\""},
+               {u"grade=", "grade: is missing"}};
+  for (const auto& c : cases) {
+    const CText16 line = c.line;
+    const CText16 key = line.substr(0, line.find(u'=') + 1);
+    auto lines = kBolts;
+    std::erase_if(lines,
+                  [&](const CText16& each) { return !key.empty() && each.starts_with(key); });
+    lines.push_back(line);
+    EXPECT_EQ(orv3_check_bolt(Joined(lines).c_str(), nullptr, 0), -1) << c.named;
+    EXPECT_NE(LastError().find(c.named), std::string::npos) << c.named << " / " << LastError();
+  }
+  auto twice = kBolts;
+  twice.push_back(u"d=24");
+  EXPECT_EQ(orv3_check_bolt(Joined(twice).c_str(), nullptr, 0), -1);
+  EXPECT_NE(LastError().find("d: stands twice"), std::string::npos);
+}
+
+// --- Figures of the code -------------------------------------------------------------------------
+
+TEST(CCode, GivesThePrintedStrengths) {
+  const struct {
+    const char16_t* steel;
+    double t;
+    const char16_t* kind;
+    double strength;
+  } steels[] = {{u"Q235", 16, u"f", 215},  {u"Q235", 16.5, u"f", 205}, {u"Q235", 60, u"fv", 115},
+                {u"Q345", 35, u"f", 295},  {u"Q345", 40, u"f", 265},   {u"Q390", 10, u"fce", 415},
+                {u"Q420", 100, u"fv", 185}},
+    welds[] = {{u"Q235", 20, u"ftw3", 175},
+               {u"Q345", 16, u"fcw", 310},
+               {u"Q345", 40, u"fcw", 265},
+               {u"Q390", 60, u"fvw", 170},
+               {u"Q345", 10, u"ffw", 200}};
+  double value = 0;
+  for (const auto& c : steels) {
+    ASSERT_EQ(orv3_steel_strength(c.steel, c.t, c.kind, &value), 0) << LastError();
+    EXPECT_EQ(value, c.strength) << Utf8(c.steel) << " " << c.t;
+  }
+  for (const auto& c : welds) {
+    ASSERT_EQ(orv3_weld_strength(c.steel, c.t, c.kind, &value), 0) << LastError();
+    EXPECT_EQ(value, c.strength) << Utf8(c.steel) << " " << c.t;
+  }
+  EXPECT_EQ(orv3_steel_strength(u"Q235", 101, u"f", &value), -1);
+  EXPECT_EQ(orv3_steel_strength(u"Q235", NAN, u"f", &value), -1);
+  EXPECT_EQ(orv3_steel_strength(u"Q460", 10, u"f", &value), -1);
+  EXPECT_EQ(orv3_steel_strength(u"Q235", 10, u"f", nullptr), -1);
+}
+
+TEST(CCode, GivesThePrintedStabilityFactors) {
+  const struct {
+    double lambda;
+    const char16_t* bucklingClass;
+    double phi;
+  } cases[] = {{100, u"a", 0.638}, {100, u"b", 0.555}, {100, u"c", 0.463}, {50, u"b", 0.856}};
+  double value = 0;
+  for (const auto& c : cases) {  // Tables C-1 to C-3, for 235 N/mm2
+    ASSERT_EQ(orv3_phi(c.lambda, 235, c.bucklingClass, &value), 0) << LastError();
+    EXPECT_NEAR(value, c.phi, 0.0005) << c.lambda;
+  }
+  EXPECT_EQ(orv3_phi(-1, 235, u"a", &value), -1);
+  EXPECT_EQ(orv3_phi(100, 235, u"e", &value), -1);
+}
+
+// --- Catalogue -----------------------------------------------------------------------------------
+
+// A store with one rolled and one user-defined table, a deleted row among the rolled ones.
+class CCatalogue : public testing::Test {
+ protected:
+  void SetUp() override {
+    CDataTable rolled;
+    rolled.SetTableName(L"热轧普通工字钢");
+    rolled.SetSaveTablePath(m_folder.Path());
+    rolled.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
+    rolled.AddTableCol(L"高度", L"h(mm)", CDataTypeStruct::KVBT_DOUBLE, 0);
+    rolled.AddTableCol(L"面积", L"A(cm^2)", CDataTypeStruct::KVBT_DOUBLE, 0);
+    for (const wchar_t* row : {L"I10,100,14.3", L"I12.6,126,18.1", L"I20a,200,35.5"})
+      ASSERT_EQ(rolled.AddTableItem(row, 1), 1);
+    ASSERT_EQ(rolled.WriteSystemJmTable(), 1);
+    ASSERT_EQ(rolled.DeleteTableItem(rolled[1].GetItemIndex()), 1);
+    ASSERT_EQ(rolled.WriteSystemJmTable(), 1);
+
+    CDataTable own;
+    own.SetTableName(L"自定义对称H型钢");
+    own.SetSaveTablePath(m_folder.Path());
+    CSteelJMData::GetJMTableTitle(own, 0);
+    CSteelJMData record;
+    CArray<double, double> sizes;
+    for (const double size : {300.0, 400.0, 10.0, 10.0}) sizes.Add(size);
+    record.SetSectSize(0, sizes);
+    record.m_dX = record.m_dY = 0;
+    record.SetName(L"H400");
+    CSteelJMData::CalSectCharacterStyle(record);
+    CDataItem row;
+    row.m_strTableName = own.GetTableName();
+    ASSERT_EQ(record.TransJMDataToItem(row), 1);
+    ASSERT_EQ(own.AddTableItem(row, 1), 1);
+    ASSERT_EQ(own.WriteSystemJmTable(), 1);
+    ASSERT_EQ(orv3_open_data(Utf16(m_folder.Path()).c_str()), 0) << LastError();
+  }
+
+  CTempFolder m_folder;
+};
+
+TEST_F(CCatalogue, ListsWhatTheStoreHolds) {
+  EXPECT_EQ(Utf8(TextFrom(orv3_list_tables, 0x03000FFF)), "热轧普通工字钢\n自定义对称H型钢");
+  EXPECT_EQ(Utf8(TextFrom(orv3_list_tables, 0x02000FFF)), "自定义对称H型钢");
+  EXPECT_EQ(orv3_list_tables(0, nullptr, 0), 0);
+  EXPECT_EQ(Utf8(TextFrom(orv3_list_columns, u"热轧普通工字钢")), "No.\nh(mm)\nA(cm^2)");
+  EXPECT_EQ(Utf8(TextFrom(orv3_list_numbers, u"热轧普通工字钢")), "I10\nI20a");
+}
+
+TEST_F(CCatalogue, GivesCellsAndGeometry) {
+  const char16_t* const table = u"热轧普通工字钢";
+  EXPECT_EQ(Utf8(TextFrom(orv3_cell, table, u"I20a", u"A(cm^2)")), "35.5");
+  double value = 0;
+  EXPECT_EQ(orv3_cell_value(table, u"I20a", u"h(mm)", &value), 0);
+  EXPECT_EQ(value, 200);
+  EXPECT_EQ(orv3_cell_value(table, u"I20a", u"No.", &value), -1);
+
+  double g[ORV3_GEOMETRY];
+  ASSERT_EQ(orv3_geometry(table, u"I20a", 0, g, ORV3_GEOMETRY), ORV3_GEOMETRY) << LastError();
+  EXPECT_NEAR(g[ORV3_GEO_AREA], 3550, 1e-9);
+  const char16_t* const own = u"自定义对称H型钢";
+  ASSERT_EQ(orv3_geometry(own, u"H400", 0, g, ORV3_GEOMETRY), ORV3_GEOMETRY) << LastError();
+  EXPECT_EQ(g[ORV3_GEO_WIDTH], 300);
+  EXPECT_EQ(g[ORV3_GEO_HEIGHT], 400);
+  EXPECT_EQ(g[ORV3_GEO_TMAX], 10);
+  EXPECT_EQ(g[ORV3_GEO_SYMX], 1);
+  EXPECT_NEAR(g[ORV3_GEO_IX], 273.927e6, 500);  // six digits in the row
+  const double Ix = g[ORV3_GEO_IX];
+  ASSERT_EQ(orv3_geometry(own, u"H400", 90, g, ORV3_GEOMETRY), ORV3_GEOMETRY);
+  EXPECT_EQ(g[ORV3_GEO_WIDTH], 400);
+  EXPECT_EQ(g[ORV3_GEO_IY], Ix);
+}
+
+TEST_F(CCatalogue, TellsWhatIsNotThere) {
+  double value = 0;
+  const struct {
+    const char16_t *table, *number, *sign;
+    const char* named;
+  } cases[] = {{u"热轧轻型工字钢", u"I10", u"h(mm)", "table: \"热轧轻型工字钢\""},
+               {u"热轧普通工字钢", u"I11", u"h(mm)", "number: \"I11\""},
+               {u"热轧普通工字钢", u"I10", u"b(mm)", "sign: \"b(mm)\""}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(orv3_cell_value(c.table, c.number, c.sign, &value), -1) << c.named;
+    EXPECT_NE(LastError().find(c.named), std::string::npos) << c.named << " / " << LastError();
+  }
+  EXPECT_EQ(orv3_open_data(Utf16(m_folder.Path(L"missing")).c_str()), -1);
+  EXPECT_NE(LastError().find("missing"), std::string::npos);
+  EXPECT_EQ(orv3_cell_value(u"热轧普通工字钢", u"I10", u"h(mm)", &value), 0) << "still open";
+}
+
+#ifndef _WIN32
+TEST_F(CCatalogue, HasNoBrowserOutsideWindows) {
+  EXPECT_EQ(orv3_browse(0x03000FFF, nullptr, 0), -1);
+  EXPECT_NE(LastError().find("Windows"), std::string::npos);
+}
+#endif
+
+}  // namespace

@@ -1,0 +1,46 @@
+// A C++ program of the same compiler links to the library's classes. What the library throws is
+// caught here, with its text.
+#include <gtest/gtest.h>
+
+#include "orv3cal.h"
+
+namespace {
+
+TEST(CModuleClasses, ThrowAcrossTheBorder) {
+  CDataTable table;
+  table.SetTableName(L"表");
+  table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
+  ASSERT_EQ(table.AddTableItem(L"a", 1), 1);
+  EXPECT_THROW(table[1], CInvalidArgException);
+  EXPECT_THROW(table[0][L"b(mm)"], CInvalidArgException);
+  EXPECT_THROW(table = *&table, CInvalidArgException);  // NOLINT: assigning itself is refused
+  try {
+    CArray<int, int>().GetAt(3);
+    FAIL() << "not thrown";
+  } catch (const std::invalid_argument& error) {
+    EXPECT_NE(std::string(error.what()).find('3'), std::string::npos) << error.what();
+  }
+}
+
+TEST(CModuleClasses, Compute) {
+  CSteelJMData record;
+  CArray<double, double> sizes;
+  sizes.Add(100);
+  sizes.Add(200);
+  record.SetSectSize(3, sizes);
+  record.m_dX = record.m_dY = 0;
+  CSteelJMData::CalSectCharacterStyle(record);
+  EXPECT_EQ(record.m_dA, 20000);
+
+  int strength = 0;
+  EXPECT_TRUE(CTableSearch::SearchSub1(SUB1_Q235, 20.0, SUB1_F, strength));
+  EXPECT_EQ(strength, 205);
+  EXPECT_EQ(CTableSearch::g_sub1[0][0], 215);  // a table is data of the library
+  EXPECT_TRUE(CKvbMath::EqualTo(1.0, 1.0 + 1e-7));
+  NormalBoltData bolts;
+  AngleHanFData fillet;
+  WQWeldingData butt;
+  EXPECT_GE(sizeof bolts + sizeof fillet + sizeof butt, 3U);
+}
+
+}  // namespace

@@ -1,0 +1,230 @@
+// How a row is read: cells, units, spacings, turning and symmetry.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "framework/utf8.h"
+#include "sections/geometry_rows.h"
+#include "sections/table_types.h"
+
+namespace {
+
+using KVBT = CDataTypeStruct;
+
+CDataItem I20a() {
+  return RowOf(L"热轧普通工字钢", L"I20a",
+               {{L"h(mm)", 200},
+                {L"b(mm)", 100},
+                {L"tw(mm)", 7},
+                {L"t(mm)", 11.4},
+                {L"A(cm^2)", 35.578},
+                {L"Ix(cm^4)", 2370},
+                {L"Iy(cm^4)", 158},
+                {L"ix(cm)", 8.15}});
+}
+
+void ExpectTwo(CTwo got, double first, double second, const char* what) {
+  EXPECT_NEAR(got.first, first, 1e-9) << what;
+  EXPECT_NEAR(got.second, second, 1e-9) << what;
+}
+
+TEST(GeometryRules, CentimetresBecomeMillimetres) {
+  const CDataItem row = I20a();
+  EXPECT_NEAR(CLoadDataTable::GetDataItemArea(row), 3557.8, 1e-9);
+  ExpectTwo(RectOf(row), 100, 200, "rectangle");
+  ExpectTwo(CenterOf(row), 50, 100, "centroid");
+  ExpectTwo(InertiaOf(row), 2370e4, 158e4, "inertia");
+  EXPECT_NEAR(CLoadDataTable::GetDataItemRadixo(row), 81.5, 1e-9);
+  EXPECT_EQ(CLoadDataTable::GetDataItemMaxThick(row), 11.4);
+  EXPECT_EQ(CLoadDataTable::GetDataItemMinThick(row), 7);
+}
+
+TEST(GeometryRules, OnlyDoubleCellsCount) {
+  CDataItem row = RowOf(L"矩形截面", L"R", {});
+  AddCell(row, L"A(cm^2)", KVBT::KVBT_STRING, L"12");
+  AddCell(row, L"A(mm^2)", KVBT::KVBT_DOUBLE, L"345");
+  EXPECT_EQ(CLoadDataTable::GetDataItemArea(row), 345);
+
+  AddCell(row, L"b(mm)", KVBT::KVBT_DOUBLE, L"20");
+  AddCell(row, L"h(mm)", KVBT::KVBT_INT, L"30");
+  ExpectTwo(RectOf(row), 20, 0, "the height is an integer cell");
+  ExpectTwo(RectOf(row, 90), 20, 0, "not turned: the operation stopped");
+  EXPECT_EQ(CLoadDataTable::GetDataItemMaxThick(row), 0);
+}
+
+TEST(GeometryRules, NothingKnownIsZero) {
+  CDataItem noTable = I20a();
+  noTable.m_strTableName = L"工字钢";
+  for (const CDataItem& row :
+       {CDataItem(), noTable, RowOf(L"热轧普通工字钢", L"I", {}),
+        RowOf(L"热轧等边角钢组合", L"2L50X5", {}), RowOf(L"四肢格构柱", L"G", {{L"kx(mm)", 1}})}) {
+    ExpectTwo(RectOf(row), 0, 0, "rectangle");
+    ExpectTwo(CenterOf(row, 90), 0, 0, "centroid");
+    ExpectTwo(InertiaOf(row), 0, 0, "inertia");
+    EXPECT_EQ(CLoadDataTable::GetDataItemSxo(row), 0);
+    EXPECT_EQ(CLoadDataTable::GetDataItemRadiyo(row), 0);
+    EXPECT_EQ(CLoadDataTable::GetDataItemWyoR(row), 0);
+    EXPECT_EQ(CLoadDataTable::GetDataItemMinThick(row), 0);
+    EXPECT_EQ(CLoadDataTable::GetDatIteme0(row), 0);
+    EXPECT_EQ(CLoadDataTable::GetDataItemIw(row), 0);
+    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row), row.m_strTableName == L"热轧普通工字钢");
+  }
+}
+
+TEST(GeometryRules, ZeroDivisors) {
+  EXPECT_EQ(CLoadDataTable::CalDataItemWo(5, 0), 1e100);
+  EXPECT_EQ(CLoadDataTable::CalDataItemWo(6, -2), 3);
+  EXPECT_EQ(CLoadDataTable::CalDataItemRio(5, 0), 0);
+  EXPECT_EQ(CLoadDataTable::CalDataItemRio(8, 2), 2);
+}
+
+TEST(GeometryRules, TurnsCounterClockwise) {
+  // [10 of GB/T 707: 48 wide, 100 high, its centroid 15.2 from the back on the left.
+  const CDataItem row = RowOf(L"热轧普通槽钢", L"[10",
+                              {{L"h(mm)", 100},
+                               {L"b(mm)", 48},
+                               {L"Ix(cm^4)", 198.3},
+                               {L"Iy(cm^4)", 25.6},
+                               {L"zo(cm)", 1.52}});
+  const struct {
+    double angle;
+    CTwo rect, center, inertia;
+  } cases[] = {
+      {0, {48, 100}, {15.2, 50}, {1983e3, 256e3}},
+      {90, {100, 48}, {50, 15.2}, {256e3, 1983e3}},
+      {180, {48, 100}, {32.8, 50}, {1983e3, 256e3}},
+      {270, {100, 48}, {50, 32.8}, {256e3, 1983e3}},
+      {269.99991, {100, 48}, {50, 32.8}, {256e3, 1983e3}},
+      {90.0002, {48, 100}, {15.2, 50}, {1983e3, 256e3}},
+      {-90, {48, 100}, {15.2, 50}, {1983e3, 256e3}},
+      {360, {48, 100}, {15.2, 50}, {1983e3, 256e3}},
+  };
+  for (const auto& c : cases) {
+    const std::string what = std::to_string(c.angle);
+    ExpectTwo(RectOf(row, c.angle), c.rect.first, c.rect.second, what.c_str());
+    ExpectTwo(CenterOf(row, c.angle), c.center.first, c.center.second, what.c_str());
+    ExpectTwo(InertiaOf(row, c.angle), c.inertia.first, c.inertia.second, what.c_str());
+  }
+  // The upper left of a row without symmetry comes to lie at the lower left.
+  const CDataItem angle =
+      RowOf(L"热轧不等边角钢", L"L100X63X10",
+            {{L"B(mm)", 100}, {L"b(mm)", 63}, {L"yo(cm)", 3.4}, {L"xo(cm)", 1.58}});
+  ExpectTwo(CenterOf(angle), 15.8, 34, "heel at the lower left");
+  ExpectTwo(CenterOf(angle, 90), 66, 15.8, "heel at the lower right");
+  ExpectTwo(CenterOf(angle, 180), 47.2, 66, "heel at the upper right");
+  ExpectTwo(CenterOf(angle, 270), 34, 47.2, "heel at the upper left");
+}
+
+TEST(GeometryRules, ATHasItsHeightAsText) {
+  CDataItem row =
+      RowOf(L"剖分T型钢", L"TW62.5X125",
+            {{L"B(mm)", 125}, {L"Ix(cm^4)", 35}, {L"Wx(cm^3)", 6.91}, {L"Cx(cm)", 1.19}});
+  AddCell(row, L"h(mm)", KVBT::KVBT_STRING, L"62.5");
+  ExpectTwo(RectOf(row), 125, 62.5, "rectangle");
+  ExpectTwo(CenterOf(row), 62.5, 31.25, "at mid-height, whatever its Cx");
+  EXPECT_NEAR(CLoadDataTable::GetDataItemWxo1(row), 35e4 / 11.9, 1e-6);
+  EXPECT_NEAR(CLoadDataTable::GetDataItemWxo2(row), 6910, 1e-9);
+  row[L"h(mm)"].m_strValue = L"about 60";
+  ExpectTwo(RectOf(row), 125, 0, "no number");
+}
+
+TEST(GeometryRules, SpacingPicksItsColumn) {
+  CDataItem row = RowOf(L"热轧等边角钢组合", L"2L50X5",
+                        {{L"A(cm^2)", 9.606},
+                         {L"ix(cm)", 1.53},
+                         {L"Wy0(cm^3)", 5.14},
+                         {L"iy0(cm)", 2.07},
+                         {L"Wy8(cm^3)", 6},
+                         {L"iy8(cm)", 2.38}});
+  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(row), 20.7, 1e-9) << "without a spacing cell";
+  const CDataItem apart = WithSpacing(row, L"a(mm)", 8);
+  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(apart), 23.8, 1e-9);
+  EXPECT_NEAR(CLoadDataTable::GetDataItemRadixo(apart), 15.3, 1e-9) << "has no spacing in it";
+  EXPECT_NEAR(CLoadDataTable::GetDataItemWyoL(apart), 6000, 1e-9);
+  EXPECT_NEAR(CLoadDataTable::GetDataItemWyoR(apart), 6000, 1e-9);
+
+  const CDataItem cross = RowOf(L"热轧等边角钢十字组合", L"2L50X5",
+                                {{L"Ix0(cm^4)", 42.8},
+                                 {L"ix0(cm)", 2.11},
+                                 {L"Ix6(cm^4)", 58},
+                                 {L"ix6(cm)", 2.46},
+                                 {L"Iy1(cm^4)", 35.6},
+                                 {L"iy1(cm)", 1.92}});
+  ExpectTwo(InertiaOf(cross), 42.8e4, 35.6e4, "touching");
+  ExpectTwo(InertiaOf(WithSpacing(cross, L"δ(mm)", 6)), 58e4, 35.6e4, "6 mm apart");
+  EXPECT_NEAR(CLoadDataTable::GetDataItemRadixo(WithSpacing(cross, L"δ(mm)", 6)), 24.6, 1e-9);
+  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(WithSpacing(cross, L"δ(mm)", 6)), 19.2, 1e-9);
+}
+
+TEST(GeometryRules, SymmetryOfUserDefinedSections) {
+  using CCells = std::initializer_list<std::pair<const wchar_t*, double>>;
+  const struct {
+    const wchar_t* table;
+    CCells cells;
+    int x, y;
+  } cases[] = {
+      {L"自定义对称H型钢", {}, 1, 1},
+      {L"自定义翼缘十字形截面", {}, 1, 1},
+      {L"六边形截面", {}, 1, 1},
+      {L"三角形截面", {}, 0, 1},
+      {L"自定义非对称H型钢",
+       {{L"bh1(mm)", 10}, {L"bh2(mm)", 10}, {L"bf1(mm)", 5}, {L"bf3(mm)", 5}},
+       1,
+       0},
+      {L"自定义非对称H型钢", {{L"bh1(mm)", 10}, {L"bf1(mm)", 5}, {L"bf2(mm)", 5}}, 0, 1},
+      {L"自定义非对称H型钢", {{L"bf2(mm)", 5}, {L"bf4(mm)", 5.000001}}, 0, 0},
+      {L"自定义非对称H型钢", {{L"bf1(mm)", 1e-7}}, 1, 1},
+      {L"自定义非对称箱形截面",
+       {{L"t1(mm)", 8}, {L"t2(mm)", 8}, {L"t3(mm)", 8}, {L"t4(mm)", 9}},
+       1,
+       0},
+      {L"自定义十字形截面", {{L"bh1(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 0, 1},
+      {L"自定义T形截面", {{L"bh(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 0, 1},
+      {L"自定义T形截面", {{L"bh(mm)", 8}, {L"bf1(mm)", 9}}, 0, 0},
+      {L"自定义T形截面", {{L"bh(mm)", 8}}, 1, 1},
+      {L"自定义T形截面", {{L"bf1(mm)", 9}}, 1, 1},
+      {L"自定义槽钢", {{L"bh1(mm)", 8}, {L"bh2(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 1, 0},
+      {L"自定义槽钢", {{L"bh1(mm)", 8}, {L"bh2(mm)", 8}, {L"bf2(mm)", 9}}, 0, 1},
+      {L"自定义L形截面", {{L"bh(mm)", 8}, {L"bf(mm)", 9}}, 0, 0},
+      {L"自定义L形截面", {{L"bh(mm)", 8}}, 1, 1},
+      {L"自定义Z形截面", {{L"bh1(mm)", 8}, {L"bf1(mm)", 9}}, 0, 0},
+      {L"自定义Z形截面", {{L"bf1(mm)", 9}}, 1, 1},
+      {L"四肢格构柱", {}, 0, 0},
+  };
+  for (const auto& c : cases) {
+    const CDataItem row = RowOf(c.table, L"1", c.cells);
+    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row), c.x) << orv3::ToUtf8(CString(c.table));
+    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row), c.y) << orv3::ToUtf8(CString(c.table));
+  }
+}
+
+// By the masks of table types: 0x12B about x, 0x127 and the pairs of angles about y.
+TEST(GeometryRules, SymmetryOfRolledSections) {
+  CStringArray names;
+  CLoadDataTable::GetTableNameArray(orv3::kCatalogueTables, names);
+  ASSERT_EQ(names.GetSize(), 27);
+  for (const CString& name : names) {
+    const CDataItem row = RowOf(name.GetString(), L"1", {});
+    const bool pair =
+        CLoadDataTable::IsTableNameType(name, 0x1000080) && name != L"热轧等边角钢十字组合";
+    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row),
+              CLoadDataTable::IsTableNameType(name, 0x100012B))
+        << orv3::ToUtf8(name);
+    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row),
+              pair || CLoadDataTable::IsTableNameType(name, 0x1000127))
+        << orv3::ToUtf8(name);
+  }
+}
+
+TEST(GeometryRules, RecomputesAUserDefinedRow) {
+  CDataItem row;
+  row.m_strTableName = L"矩形截面";
+  ASSERT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
+  row[L"b(mm)"].m_strValue = L"200";
+  ASSERT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 1);
+  ExpectTwo(InertiaOf(row), 1.06667e9, 2.66667e8, "200 x 400");
+  row.m_strTableName = L"热轧普通工字钢";
+  EXPECT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 0);
+}
+
+}  // namespace
