@@ -169,15 +169,15 @@ LRESULT CEditCmbList::OnCustomDraw(NMHDR& header) const {
   auto& draw = reinterpret_cast<NMLVCUSTOMDRAW&>(header);
   switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
-      return CDRF_NOTIFYITEMDRAW;
+      return m_bShade ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
     case CDDS_ITEMPREPAINT:
       return CDRF_NOTIFYSUBITEMDRAW;
-    case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
-      draw.clrText = GetSysColor(
-          draw.iSubItem == 0 || CanEdit(static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem)
-              ? COLOR_WINDOWTEXT
-              : COLOR_GRAYTEXT);
+    case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
+      const int line = static_cast<int>(draw.nmcd.dwItemSpec);
+      const bool shaded = draw.iSubItem > 0 && !CanEdit(line, draw.iSubItem);
+      draw.clrTextBk = GetSysColor(shaded ? COLOR_BTNFACE : COLOR_WINDOW);
       return CDRF_DODEFAULT;
+    }
     default:
       return CDRF_DODEFAULT;
   }
