@@ -122,7 +122,7 @@ void OpenUserTables() {
 }
 
 void MakeUserTable(const CDialogProbe& probe) {
-  probe.Choose(IDC_TEMPLATE, probe.Choices(IDC_TEMPLATE)[1]);
+  probe.Choose(IDC_TEMPLATE, L"自定义对称H型钢");
   probe.Click(IDC_TABLE_NEW);
   Eventually([&] { return probe.Count(IDC_TABLE_LIST) == 1; }, "a table");
   probe.Click(IDC_ROW_ADD);

@@ -43,6 +43,7 @@ class CEditCmbList {
                                      UINT_PTR id, DWORD_PTR self);
   bool OnListKey(WPARAM key);
   bool OnEditorKey(WPARAM key);
+  void FitColumns();
   void OnListClick(LPARAM place);
   void OnChosen(HWND editor);
   bool MakeEditor(const RECT& cell, wchar_t typed);
