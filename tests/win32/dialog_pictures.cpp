@@ -150,8 +150,7 @@ std::map<std::string, CScene> Scenes() {
           probe.SelectItem(IDC_PROPERTY_GRID, 2);
           PostMessageW(probe.Control(IDC_PROPERTY_GRID), WM_KEYDOWN, VK_F2, 1);
         }}},
-      {"property-lattice",
-       {[] { OpenProperty(L"四肢格构柱", 1); }, L"截面特性参数设置", nullptr}},
+      {"property-lattice", {[] { OpenProperty(L"四肢格构柱", 1); }, L"截面特性参数设置", nullptr}},
       {"property-show", {OpenRolledProperty, L"截面特性参数查询", nullptr}},
       {"number", {[] { CSectSignSet().DoModal(); }, L"型钢型号输入", nullptr}},
       {"spacing", {[] { CSteelZHZJDlg().DoModal(); }, L"型钢组合肢距输入", nullptr}},
