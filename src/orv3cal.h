@@ -3,6 +3,7 @@
 
 #include "catalogue/code_tables/grids.h"
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/import/table_import.h"
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/lattice_picture.h"
 #include "catalogue/lattice/lattice_properties.h"

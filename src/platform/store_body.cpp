@@ -65,6 +65,7 @@ std::string* CStoreBody::PageToChange(std::uint64_t page, bool whole) {
 
 bool CStoreBody::Write(std::uint64_t offset, const void* data, std::size_t size) {
   if (m_bBroken) return false;
+  m_bUnkept = true;
   const char* in = static_cast<const char*>(data);
   const std::uint64_t end = offset + size;
   while (offset < end) {
@@ -82,7 +83,8 @@ bool CStoreBody::Write(std::uint64_t offset, const void* data, std::size_t size)
 }
 
 void CStoreBody::DropChanges() {
-  if (m_bShadow) return;
+  if (m_bGathering) m_bSpoiled = m_bSpoiled || m_bUnkept;
+  if (m_bShadow || m_bGathering) return;
   m_pages.clear();
   m_nSize = m_nFileSize;
   m_bReadFailed = false;
@@ -157,7 +159,9 @@ bool CStoreBody::RollBack(const CStoreJournal& journal) {
 }
 
 bool CStoreBody::Commit() {
-  if (!m_bWritable || m_bBroken || m_bReadFailed) return false;
+  if (!m_bWritable || m_bBroken || m_bReadFailed || m_bSpoiled) return false;
+  m_bUnkept = false;
+  if (m_bGathering) return true;
   CStoreJournal journal;
   if (!CollectOld(journal)) return false;
   if (m_pages.empty() && m_nSize == m_nFileSize) return true;
@@ -181,6 +185,16 @@ bool CStoreBody::Commit() {
   if (!TakeStamp()) m_bBroken = true;
   DropChanges();
   return false;
+}
+
+bool CStoreBody::CommitGathered() {
+  m_bGathering = false;
+  return Commit();
+}
+
+void CStoreBody::DropGathered() {
+  m_bGathering = m_bSpoiled = m_bUnkept = false;
+  DropChanges();
 }
 
 // --- After an interrupted save

@@ -29,6 +29,12 @@ class CStoreBody {
   bool Write(std::uint64_t offset, const void* data, std::size_t size);
   bool Commit();
   void DropChanges();
+  // From Gather() on, what openers commit stays in memory and what they forget spoils it all, until
+  // CommitGathered() brings it into the file or DropGathered() forgets it.
+  void Gather() { m_bGathering = true; }
+  bool CommitGathered();
+  void DropGathered();
+  bool HasChanges() const { return !m_pages.empty() || m_nSize != m_nFileSize; }
   const CFileStamp& Stamp() const { return m_stamp; }
   const CString& Path() const { return m_strPath; }
   bool IsWritable() const { return m_bWritable; }
@@ -51,6 +57,9 @@ class CStoreBody {
   bool m_bShadow = false;   // the pages are an interrupted save's old bytes
   bool m_bBroken = false;   // half a save is in the file; only the next opener can undo it
   bool m_bEmptied = false;  // an interrupted first save was rolled back
+  bool m_bGathering = false;
+  bool m_bUnkept = false;   // changes since the last commit
+  bool m_bSpoiled = false;  // half of a save was forgotten while gathering
   // Reading has failed since the last commit, so that what was to be saved may rest on a wrong view
   // of the file: it is not committed.
   mutable bool m_bReadFailed = false;

@@ -86,6 +86,14 @@ std::shared_ptr<CStoreBody> OpenBodyToRead(const CString& path) {
   return OpenBody(path, false);
 }
 
+bool NotWritten(const CString& path) {
+  return SetStoreError(
+             CStoreTrouble::Failed, path,
+             path +
+                 L": writing failed and the store is as it was before; see whether its disk is "
+                 L"full or its folder read-only") != 0;
+}
+
 }  // namespace
 
 milliseconds BusyWait() { return milliseconds{g_nBusyWait.load()}; }
@@ -127,14 +135,7 @@ bool CStoreFile::Write(std::uint64_t offset, const void* data, std::size_t size)
   return m_pBody->IsWritable() && m_pBody->Write(offset, data, size);
 }
 
-bool CStoreFile::Commit() {
-  if (m_pBody->Commit()) return true;
-  SetStoreError(CStoreTrouble::Failed, Path(),
-                Path() +
-                    L": writing failed and the store is as it was before; see whether its disk "
-                    L"is full or its folder read-only");
-  return false;
-}
+bool CStoreFile::Commit() { return m_pBody->Commit() || NotWritten(Path()); }
 
 const CFileStamp& CStoreFile::Stamp() const { return m_pBody->Stamp(); }
 
@@ -152,6 +153,27 @@ CStoreLock::~CStoreLock() {
   auto& held = HeldBodies();
   const auto it = std::find(held.rbegin(), held.rend(), m_pBody);
   if (m_pBody && it != held.rend()) held.erase(std::next(it).base());
+}
+
+CStoreBatch::CStoreBatch(const CString& path) : CStoreLock(path) {
+  if (m_pBody) m_pBody->Gather();
+}
+
+CStoreBatch::~CStoreBatch() {
+  if (m_pBody) m_pBody->DropGathered();
+}
+
+bool CStoreBatch::Commit() {
+  return m_pBody && (m_pBody->CommitGathered() || NotWritten(m_pBody->Path()));
+}
+
+bool IsAheadOfFile(const CString& path) {
+  if (HeldBodies().empty()) return false;
+  const CString resolved = Files().Resolve(path);
+  const auto& held = HeldBodies();
+  return std::any_of(held.begin(), held.end(), [&](const auto& body) {
+    return body->Path() == resolved && body->HasChanges();
+  });
 }
 
 }  // namespace orv3

@@ -65,8 +65,23 @@ class ORV3CAL_API CStoreLock {
 
   bool IsHeld() const noexcept { return m_pBody != nullptr; }  // else LastStoreError says why
 
- private:
+ protected:
   std::shared_ptr<CStoreBody> m_pBody;
 };
+
+// A lock that makes all saves within it one: they are seen by this thread's own openings and come
+// into the file, all of them or none, with Commit. One that fails takes the others with it.
+class ORV3CAL_API CStoreBatch : private CStoreLock {
+ public:
+  explicit CStoreBatch(const CString& path);
+  ~CStoreBatch();  // forgets what was not committed
+
+  using CStoreLock::IsHeld;
+  // False, with LastStoreError set, when the file is as it was before. Called once, at the end.
+  bool Commit();
+};
+
+// Whether this thread keeps a store to itself and has changed it since its file was written.
+bool IsAheadOfFile(const CString& path);
 
 }  // namespace orv3

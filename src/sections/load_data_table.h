@@ -51,6 +51,9 @@ class ORV3CAL_API CLoadDataTable {
   static int GetItemIcon(const CString& tableName);
 
   // --- Import: a table file or a rolled-section data file into a store --------------------------
+  // 1 when the source was read and the store saved, with `flag` rows of the same number replaced;
+  // 0, the store unchanged, otherwise. orv3::ImportFile (catalogue/import/table_import.h) tells
+  // what became of each row.
   static int ImportDataTable(const CString& file, const CString& storePath, int flag);
   static int ImportSysDataTable(const CString& file, int flag);
 

@@ -6,6 +6,7 @@
 
 #include "platform/file_system.h"
 #include "platform/store_error.h"
+#include "platform/store_file.h"
 #include "tables/table_store.h"
 
 namespace orv3 {
@@ -96,7 +97,8 @@ CTablePtr SystemTable(const CString& store, const CString& name) {
   if (!read->Load(store, name)) return nullptr;
   // Kept only when no save came between: what was read is then what the stamp stands for.
   CFileStamp after;
-  if (stamped && Files().Stamp(store, after) == CFileError::None && after == stamp) {
+  if (stamped && !IsAheadOfFile(store) && Files().Stamp(store, after) == CFileError::None &&
+      after == stamp) {
     Cache().Put(store, stamp, name, read);
   }
   return read;

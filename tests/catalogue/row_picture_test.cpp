@@ -42,7 +42,9 @@ TEST_F(RowPicture, NamesTheSizesOfTheTable) {
     const wchar_t* no;
     std::vector<const char*> texts;
   } cases[] = {
-      {L"热轧普通工字钢", L"I20a", {"h = 200", "b = 100", "tw = 7", "t = 11.4", "r = 9", "r1 = 4.5"}},
+      {L"热轧普通工字钢",
+       L"I20a",
+       {"h = 200", "b = 100", "tw = 7", "t = 11.4", "r = 9", "r1 = 4.5"}},
       {L"热轧宽翼缘H型钢", L"HW200X200", {"H = 200", "B = 200", "tw = 8", "tf = 12", "r = 16"}},
       {L"剖分T型钢", L"TW100X200", {"h = 100", "B = 200", "t1 = 8", "t2 = 12", "yo = 82.7"}},
       {L"热轧不等边角钢", L"L100X63X8", {"B = 100", "b = 63", "t = 8", "r = 10", "xo = 15"}},

@@ -77,6 +77,36 @@ TEST_F(StoreFile, AFileThatNothingWasSavedToIsRemoved) {
   EXPECT_EQ(LastStoreError().m_nTrouble, CStoreTrouble::NotFound);
 }
 
+TEST_F(StoreFile, ABatchIsOneSave) {
+  ASSERT_TRUE(Save(m_path, 0, "old"));
+  {
+    orv3::CStoreBatch batch(m_path);
+    ASSERT_TRUE(batch.IsHeld());
+    EXPECT_FALSE(orv3::IsAheadOfFile(m_path));
+    EXPECT_TRUE(Save(m_path, 0, "new"));
+    EXPECT_TRUE(orv3::IsAheadOfFile(m_path));
+    EXPECT_EQ(Seen(m_path), "new");  // within the batch
+  }
+  EXPECT_EQ(Seen(m_path), "old");  // which was never committed
+  {
+    orv3::CStoreBatch batch(m_path);
+    EXPECT_TRUE(Save(m_path, 0, "new"));
+    EXPECT_TRUE(Save(m_path, 3, "er"));
+    EXPECT_TRUE(batch.Commit());
+  }
+  EXPECT_EQ(Seen(m_path), "newer");
+  {
+    orv3::CStoreBatch batch(m_path);
+    EXPECT_TRUE(Save(m_path, 0, "bad"));
+    CStoreFile::OpenToWrite(m_path)->Write(0, "half", 4);  // a save that fails in between
+    EXPECT_FALSE(batch.Commit());
+    EXPECT_EQ(LastStoreError().m_nTrouble, CStoreTrouble::Failed);
+  }
+  EXPECT_EQ(Seen(m_path), "newer");
+  EXPECT_FALSE(orv3::IsAheadOfFile(m_path));
+  EXPECT_TRUE(Save(m_path, 0, "fresh"));
+}
+
 // A clock that stands still between two saves, or goes back, must not hide the second one.
 TEST_F(StoreFile, ASaveStampsTheFileLaterThanTheOneBefore) {
   ASSERT_TRUE(Save(m_path, 0, "old"));

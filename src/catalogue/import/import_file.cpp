@@ -1,0 +1,180 @@
+// What table files and rolled-section data files hold for an import.
+#include <cstdint>
+#include <cstring>
+#include <set>
+#include <string>
+#include <utility>
+
+#include "catalogue/import/table_import.h"
+#include "catalogue/rolled/read_file.h"
+#include "catalogue/rolled/rolled_record.h"
+#include "catalogue/rolled/rolled_style.h"
+#include "framework/number_text.h"
+#include "platform/store_error.h"
+#include "platform/whole_file.h"
+#include "tables/store_check.h"
+
+namespace orv3 {
+namespace {
+
+constexpr std::size_t kHeader = 2;                                  // a data file's record size
+constexpr std::uint64_t kLargestDataFile = std::uint64_t{1} << 24;  // 30,000 of the largest records
+
+bool Refuse(const CString& file, const CString& what, CString& why) {
+  why = file + L": " + what;
+  return false;
+}
+
+bool HasExtension(const CString& file, std::wstring_view extension) {
+  CString end = file.Right(static_cast<int>(extension.size()));
+  for (int i = 0; i < end.GetLength(); ++i) {
+    if (end[i] >= L'A' && end[i] <= L'Z') end.SetAt(i, static_cast<wchar_t>(end[i] + 32));
+  }
+  return end == extension;
+}
+
+// --- Table files ---------------------------------------------------------------------------------
+
+bool ReadTableFile(const CString& file, std::vector<CImportTable>& tables, CString& why) {
+  std::vector<CStoreFault> faults;
+  if (!VerifyStore(file, faults)) {
+    why = LastStoreError().m_strText;
+    return false;
+  }
+  if (!faults.empty()) {
+    const CStoreFault& fault = faults.front();
+    const CString table =
+        fault.m_strTable.IsEmpty() ? CString() : L"table \"" + fault.m_strTable + L"\", ";
+    return Refuse(
+        file, L"damaged: " + table + L"at " + FormatInt(fault.m_nOffset) + L": " + fault.m_strWhat,
+        why);
+  }
+  CStringArray names;
+  CDataTable::GetTableNameFromFile(file, names);
+  if (LastStoreError().m_nTrouble != CStoreTrouble::None) {
+    why = LastStoreError().m_strText;
+    return false;
+  }
+  for (const CString& name : names) {
+    CImportTable source;
+    source.m_table.SetTableName(name);
+    CString line;
+    if (!source.m_table.GetTable(file, line)) {
+      why = LastStoreError().m_strText;
+      return false;
+    }
+    tables.push_back(std::move(source));
+  }
+  return true;
+}
+
+// --- Rolled-section data files -------------------------------------------------------------------
+
+// The bytes of the records; false when they are not whole records of the style.
+bool ReadRecords(const CString& file, const CRolledStyle& style, std::string& records,
+                 CString& why) {
+  CFileStamp stamp;
+  if (Files().Stamp(file, stamp) == CFileError::None && stamp.m_nSize > kLargestDataFile) {
+    return Refuse(file, L"of more than 16 MB, which no data file is", why);
+  }
+  if (ReadWholeFile(file, records) != CFileError::None) {
+    return Refuse(file, L"not to be read; it must be open to this user and free", why);
+  }
+  std::int16_t size = 0;
+  if (records.size() >= kHeader) std::memcpy(&size, records.data(), kHeader);
+  const CString wanted = FormatInt(style.m_nSize);
+  if (size != style.m_nSize) {
+    return Refuse(file,
+                  L"damaged: its records are of " + FormatInt(size) + L" bytes; those of \"" +
+                      style.m_strName + L"\" are of " + wanted,
+                  why);
+  }
+  records.erase(0, kHeader);
+  const std::size_t over = records.size() % static_cast<std::size_t>(style.m_nSize);
+  if (over != 0) {
+    return Refuse(file,
+                  L"damaged: it ends " + FormatInt(static_cast<long long>(over)) +
+                      L" bytes into a record of " + wanted,
+                  why);
+  }
+  if (records.empty()) return Refuse(file, L"it holds no record", why);
+  return true;
+}
+
+// Records that become no row of their own, and those that cannot be any.
+bool CheckRecords(const CString& file, const CRolledStyle& style, const std::string& records,
+                  std::vector<CRefusedRow>& refused, CString& why) {
+  std::set<CString> seen;
+  const auto size = static_cast<std::size_t>(style.m_nSize);
+  for (std::size_t at = 0; at < records.size(); at += size) {
+    const CString record = L"record " + FormatInt(static_cast<long long>(at / size + 1));
+    const CString no = RecordNumber(style, records.data() + at);
+    if (no.IsEmpty()) return Refuse(file, L"damaged: " + record + L" has no model number", why);
+    CStringArray values;
+    CDataTable::TransStrToArray(RecordRow(style, records.data() + at), L",", values);
+    if (values.GetSize() != style.Columns() + 1) {
+      return Refuse(file, L"damaged: " + record + L", \"" + no + L"\", has a comma", why);
+    }
+    for (int i = 0; i < style.Columns(); ++i) {
+      if (style.Field(i).m_nKind == CFieldKind::Text || IsNumber(values[i + 1])) continue;
+      return Refuse(file,
+                    L"damaged: " + record + L", \"" + no + L"\": " +
+                        style.m_arrColumn[static_cast<std::size_t>(i)].m_strSign + L" is " +
+                        values[i + 1] + L", which is no number",
+                    why);
+    }
+    if (!seen.insert(no).second) {
+      refused.push_back({no, L"the file has an earlier record of this number"});
+    }
+  }
+  return true;
+}
+
+bool ReadDataFile(const CString& file, std::vector<CImportTable>& tables, CString& why) {
+  bool userTwin = false;
+  const std::wstring_view path = file.View();
+  const int index = FindRolledFile(path.substr(path.find_last_of(L"\\/") + 1), userTwin);
+  if (index < 0) {
+    return Refuse(file,
+                  L"no rolled-section style has a data file of this name; right would be for "
+                  L"example DbData.kvb or ODbData.kvb",
+                  why);
+  }
+  const CRolledStyle& style = RolledStyles()[static_cast<std::size_t>(index)];
+  CImportTable source;
+  std::string records;
+  if (!ReadRecords(file, style, records, why) ||
+      !CheckRecords(file, style, records, source.m_arrRefused, why)) {
+    return false;
+  }
+  // A folder that is none: the rows of the file alone are wanted, not those of a store with it.
+  source.m_table.SetSaveTablePath(file + L"/");
+  if (!CReadFile::GetIronData(file.GetString(), source.m_table)) {
+    return Refuse(file, L"no rolled-section data can be read from it", why);
+  }
+  tables.push_back(std::move(source));
+  return true;
+}
+
+}  // namespace
+
+bool ReadImportFile(const CString& file, std::vector<CImportTable>& tables, CString& why) {
+  tables.clear();
+  CFileStamp stamp;
+  if (Files().Stamp(file, stamp) == CFileError::NotFound) return Refuse(file, L"not found", why);
+  if (HasExtension(file, L".kvb")) return ReadDataFile(file, tables, why);
+  if (HasExtension(file, L".kdb")) return ReadTableFile(file, tables, why);
+  return Refuse(file,
+                L"of no kind that can be imported; right would be a table file (.KDB) or a "
+                L"rolled-section data file (.kvb)",
+                why);
+}
+
+CImportReport ImportFile(const CString& file, const CString& store, const CImportOptions& options) {
+  std::vector<CImportTable> tables;
+  CImportReport report;
+  if (!ReadImportFile(file, tables, report.m_strWhy)) return report;
+  return ImportTables(tables, store, options);
+}
+
+}  // namespace orv3

@@ -1,0 +1,221 @@
+#include "catalogue/import/table_import.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <unordered_set>
+#include <utility>
+
+#include "framework/number_text.h"
+#include "platform/store_error.h"
+#include "platform/store_file.h"
+#include "tables/table_file_check.h"
+#include "tables/table_store.h"
+
+namespace orv3 {
+namespace {
+
+constexpr int kCatalogueState = 3;  // and above: added by the catalogue, protected
+
+CString FirstCell(const CDataItem& row) {
+  return row.IsEmpty() ? CString() : row.m_arrCell.GetAt(0).m_strValue;
+}
+
+// All values of a row, as one text.
+std::wstring Values(const CDataItem& row) {
+  std::wstring values;
+  for (const CDataCell& cell : std::as_const(row.m_arrCell)) {
+    values.append(cell.m_strValue.View()).push_back(L'\n');
+  }
+  return values;
+}
+
+// --- One table -----------------------------------------------------------------------------------
+
+class CTableMerger {
+ public:
+  CTableMerger(const CImportTable& source, const CString& store, bool stored, bool overwrite)
+      : m_source(source.m_table), m_store(store), m_overwrite(overwrite), m_stored(stored) {
+    m_result.m_strTable = m_source.GetTableName();
+    m_result.m_arrRefused = source.m_arrRefused;
+    m_target.SetTableName(m_source.GetTableName());
+  }
+
+  // False, with LastStoreError set, when the store fails.
+  bool Run() {
+    if (!Open()) return false;
+    if (!m_result.m_strWhy.IsEmpty() || !Check()) return true;
+    const CDataItemArray& rows = std::as_const(m_source).m_arrItem;
+    for (int i = 0; i < rows.GetSize(); ++i) {
+      if (rows[i].m_nModifyType >= 0) Row(i, rows[i]);
+    }
+    if (m_result.m_nAdded + m_result.m_nReplaced == 0 && m_stored) return true;
+    const auto faults = SaveFaults(m_target, m_store);
+    if (!faults.empty()) {
+      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText};
+      return true;
+    }
+    return m_target.WriteTable(m_store, kSystemKind, 0) != 0;
+  }
+
+  CTableImport Take() { return std::move(m_result); }
+
+ private:
+  bool Open() {
+    CString line;
+    if (m_stored && !m_target.GetTable(m_store, line)) return false;
+    if (!m_stored) {
+      m_target.m_Title = m_source.m_Title;
+    } else if (!m_target.m_Title.IsEqualOf(m_source.m_Title)) {
+      m_result.m_strWhy = OtherHeading();
+    }
+    m_hasKey = HasKey();
+    if (!m_hasKey) {
+      for (const CDataItem& row : std::as_const(m_target).m_arrItem) {
+        if (row.m_nModifyType >= 0) m_known.insert(Values(row));
+      }
+    }
+    return true;
+  }
+
+  bool HasKey() const {
+    CArray<int, int> keys;
+    m_target.m_Title.GetDataTableKeyIndex(keys);
+    return !keys.IsEmpty();
+  }
+
+  CString OtherHeading() const {
+    const CDataTableTitle& have = m_target.m_Title;
+    const CDataTableTitle& come = m_source.m_Title;
+    for (int i = 0; i < have.GetTableTitleNum() && i < come.GetTableTitleNum(); ++i) {
+      if (have[i].m_strSign == come[i].m_strSign && have[i].m_nType == come[i].m_nType &&
+          have[i].m_strName == come[i].m_strName && have[i].m_bKey == come[i].m_bKey) {
+        continue;
+      }
+      return L"column " + FormatInt(i + 1) + L" is \"" + come[i].m_strSign + L"\" (" +
+             come[i].m_strName + L"), in the store \"" + have[i].m_strSign + L"\" (" +
+             have[i].m_strName + L"); names, signs, types and keys must agree";
+    }
+    return L"it has " + FormatInt(come.GetTableTitleNum()) + L" columns, in the store " +
+           FormatInt(have.GetTableTitleNum());
+  }
+
+  // What no table file holds: of the heading, which refuses the table, and of rows.
+  bool Check() {
+    for (const CSaveFault& fault : SaveFaults(m_source, CString(), true)) {
+      if (fault.m_nRow < 0) {
+        m_result.m_strWhy = fault.m_strText;
+        return false;
+      }
+      m_mapFault.try_emplace(fault.m_nRow, fault.m_strText);
+    }
+    return true;
+  }
+
+  void Refuse(const CDataItem& row, const CString& why) {
+    m_result.m_arrRefused.push_back({FirstCell(row), why});
+  }
+
+  void Row(int position, const CDataItem& row) {
+    const auto fault = m_mapFault.find(position);
+    if (fault != m_mapFault.end()) return Refuse(row, fault->second);
+    if (m_hasKey && FirstCell(row).IsEmpty()) return Refuse(row, L"its first cell is empty");
+    const int present = m_hasKey ? m_target.IsHaveValue(row, -1) : -1;
+    if (present >= 0) return Present(std::as_const(m_target).m_arrItem[present], row);
+    if (!m_hasKey && !m_known.insert(Values(row)).second) {
+      ++m_result.m_nUnchanged;
+      return;
+    }
+    ++m_result.m_nAdded;
+    Bring(row);
+  }
+
+  void Present(const CDataItem& present, const CDataItem& row) {
+    if (Values(present) == Values(row)) {
+      ++m_result.m_nUnchanged;
+    } else if (!m_overwrite) {
+      Refuse(row, L"the store has it with other values, which only overwriting replaces");
+    } else if (present.m_nModifyType >= kCatalogueState && row.m_nModifyType < kCatalogueState) {
+      Refuse(row, L"本数据记录不能删除和编辑!");
+    } else {
+      ++m_result.m_nReplaced;
+      Bring(row);
+    }
+  }
+
+  void Bring(const CDataItem& row) {
+    CDataItem copy = row;
+    copy.m_strTableName = m_target.GetTableName();
+    m_target.ImportTableItem(copy, 1);
+  }
+
+  const CDataTable& m_source;
+  const CString m_store;
+  const bool m_overwrite;
+  const bool m_stored;  // the store has the table
+  CDataTable m_target;
+  bool m_hasKey = false;
+  std::unordered_set<std::wstring> m_known;
+  std::map<int, CString> m_mapFault;
+  CTableImport m_result;
+};
+
+// --- The store -----------------------------------------------------------------------------------
+
+// The names of the store's tables; false when the file is neither a table file nor new.
+bool NamesOf(const CString& store, std::set<CString>& names) {
+  const auto file = CStoreFile::OpenToRead(store);
+  if (!file) return false;
+  if (file->Size() == 0) return true;
+  CStringArray found;
+  CDataTable::GetTableNameFromFile(store, found);
+  names.insert(found.begin(), found.end());
+  return LastStoreError().m_nTrouble == CStoreTrouble::None;
+}
+
+bool MergeAll(const std::vector<CImportTable>& tables, const CString& store,
+              const CImportOptions& options, CImportReport& report) {
+  std::set<CString> names;
+  if (!NamesOf(store, names)) return false;
+  const auto tell = [&options](std::size_t done, std::size_t of) {
+    if (options.m_progress) options.m_progress(static_cast<double>(done) / static_cast<double>(of));
+  };
+  for (std::size_t i = 0; i < tables.size(); ++i) {
+    tell(i, tables.size() + 1);
+    const CString name = tables[i].m_table.GetTableName();
+    if (!options.m_strTable.IsEmpty() && options.m_strTable != name) continue;
+    CTableMerger merger(tables[i], store, names.contains(name), options.m_bOverwrite);
+    if (!merger.Run()) return false;
+    report.m_arrTable.push_back(merger.Take());
+    if (report.m_arrTable.back().m_strWhy.IsEmpty()) names.insert(name);
+  }
+  tell(tables.size(), tables.size() + 1);
+  return true;
+}
+
+}  // namespace
+
+CImportReport ImportTables(const std::vector<CImportTable>& tables, const CString& store,
+                           const CImportOptions& options) {
+  CImportReport report;
+  CStoreBatch batch(store);
+  bool done = false;
+  try {
+    done = batch.IsHeld() && MergeAll(tables, store, options, report) && batch.Commit();
+  } catch (const CInvalidArgException&) {  // a row on file with more values than columns
+    SetStoreError(CStoreTrouble::Damaged, store, store + L": a row has more values than columns");
+  }
+  if (done && !options.m_strTable.IsEmpty() && report.m_arrTable.empty()) {
+    report.m_strWhy = L"the source has no table \"" + options.m_strTable + L"\"";
+    return report;
+  }
+  report.m_bDone = done;
+  if (!done) {
+    report.m_arrTable.clear();
+    report.m_strWhy = LastStoreError().m_strText;
+  }
+  if (done && options.m_progress) options.m_progress(1);
+  return report;
+}
+
+}  // namespace orv3
