@@ -17,7 +17,7 @@ namespace {
 CString Title(const CDataItem& row, int quarters) {
   CString title = row.GetTableName();
   if (!row.IsEmpty()) title += L"  " + row[0].m_strValue;
-  if (quarters > 0) title += L"  转" + FormatInt(90 * quarters) + L"°";
+  if (quarters > 0) title += L"  转" + FormatInt(90LL * quarters) + L"°";
   return title;
 }
 
