@@ -203,7 +203,7 @@ const wchar_t* CBrowserModel::ItemText(int item, int column) const {
 }
 
 CString CBrowserModel::CountText() const {
-  const CString total = L"共 " + FormatInt(Full().GetRealTableRowNum()) + L" 条记录";
+  CString total = L"共 " + FormatInt(Full().GetRealTableRowNum()) + L" 条记录";
   if (m_strFilter.IsEmpty()) return total;
   return L"检索到 " + FormatInt(ItemCount()) + L" 条记录，" + total;
 }
