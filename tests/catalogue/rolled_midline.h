@@ -10,7 +10,7 @@ class CMidline {
     CCorners line = corners;
     for (CCorner& corner : line) corner.radius = 2.5 * t;
     if (!closed) line.front().radius = line.back().radius = 0;
-    m_arrPoint = Rounded(line);
+    m_arrPoint = Rounded(line, 512);
     if (closed) m_arrPoint.push_back(m_arrPoint.front());
   }
 

@@ -20,28 +20,30 @@ inline CVector Direction(CCorner from, CCorner to) {
   return {(to.x - from.x) / length, (to.y - from.y) / length};
 }
 
-// Appends a corner rounded by an arc that touches both sides, as a fine polygon.
-inline void Round(CCorner before, CCorner at, CCorner after, CPolygon& out) {
-  constexpr int kSteps = 1024;
+// Appends a corner rounded by an arc that touches both sides: a polygon whose inner points stand a
+// little beyond the arc, so that the areas agree.
+inline void Round(CCorner before, CCorner at, CCorner after, int steps, CPolygon& out) {
   const CVector u = Direction(before, at), v = Direction(at, after);
   const double turn = std::atan2(u.x * v.y - u.y * v.x, u.x * v.x + u.y * v.y);
   const double start = at.radius * std::abs(std::tan(turn / 2));
   const double side = turn > 0 ? 1 : -1;  // of the arc's centre
   const CPoint centre{at.x - start * u.x - side * at.radius * u.y,
                       at.y - start * u.y + side * at.radius * u.x};
-  for (int i = 0; i <= kSteps; ++i) {
-    const double angle = std::atan2(u.y, u.x) + turn * i / kSteps;
-    out.push_back({centre.x + side * at.radius * std::sin(angle),
-                   centre.y - side * at.radius * std::cos(angle)});
+  const double ratio = turn / std::sin(turn / steps);
+  const double beyond = (std::sqrt(1 + (steps - 2) * ratio) - 1) / (steps - 2);
+  for (int i = 0; i <= steps; ++i) {
+    const double radius = at.radius * side * (i == 0 || i == steps ? 1 : beyond);
+    const double angle = std::atan2(u.y, u.x) + turn * i / steps;
+    out.push_back({centre.x + radius * std::sin(angle), centre.y - radius * std::cos(angle)});
   }
 }
 
-inline CPolygon Rounded(const CCorners& corners) {
+inline CPolygon Rounded(const CCorners& corners, int steps = 48) {
   CPolygon out;
   for (std::size_t i = 0, n = corners.size(); i < n; ++i) {
     const CCorner at = corners[i];
     if (at.radius > 0)
-      Round(corners[(i + n - 1) % n], at, corners[(i + 1) % n], out);
+      Round(corners[(i + n - 1) % n], at, corners[(i + 1) % n], steps, out);
     else
       out.push_back({at.x, at.y});
   }
