@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "orv3cal.h"
+#include "platform/temp_folder.h"
+#include "win32/dialog_driver.h"
 
 namespace {
 
@@ -41,6 +43,16 @@ TEST(CModuleClasses, Compute) {
   AngleHanFData fillet;
   WQWeldingData butt;
   EXPECT_GE(sizeof bolts + sizeof fillet + sizeof butt, 3U);
+}
+
+TEST(CModuleClasses, OpenTheUserTables) {
+  const CTempFolder folder;
+  CDataItem row;
+  int result = -1;
+  Drive([&] { result = CLoadDataTable::VisitSelJMDlg(folder.Path(), row, 0x02000FFF); },
+        [] { CDialogProbe::WaitFor(L"用户截面库").Close(); });
+  EXPECT_EQ(result, 0);
+  EXPECT_EQ(row.IsEmpty(), 1);
 }
 
 }  // namespace
