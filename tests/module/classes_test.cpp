@@ -39,10 +39,12 @@ TEST(CModuleClasses, Compute) {
   EXPECT_EQ(strength, 205);
   EXPECT_EQ(CTableSearch::g_sub1[0][0], 215);  // a table is data of the library
   EXPECT_TRUE(CKvbMath::EqualTo(1.0, 1.0 + 1e-7));
+  AngleHanFData fillet(0, 0, 0, 5.6, 240, 100, 0, 0, 1.22);
+  fillet.CalHFLw(8, 90);
+  EXPECT_NEAR(fillet.m_dHe, 0.7 * 8, 1e-12);
   NormalBoltData bolts;
-  AngleHanFData fillet;
-  WQWeldingData butt;
-  EXPECT_GE(sizeof bolts + sizeof fillet + sizeof butt, 3U);
+  EXPECT_EQ(bolts.BoltYanSuan(), 0);  // nothing is given yet
+  EXPECT_EQ(WQWeldingData(WQWeldingData()).m_dLw, WQWeldingData().m_dLw);
 }
 
 TEST(CModuleClasses, OpenTheUserTables) {
