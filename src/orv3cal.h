@@ -3,10 +3,10 @@
 
 #include "catalogue/code_tables/grids.h"
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/import/table_import.h"
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/lattice_picture.h"
 #include "catalogue/lattice/lattice_properties.h"
-#include "catalogue/import/table_import.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/rolled/read_file.h"
 #include "catalogue/rolled/rolled_file.h"

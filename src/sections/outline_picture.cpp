@@ -151,19 +151,21 @@ class CPictureLayout {
     }
     return right;
   }
-  double LeftEdge() const {
-    double left = m_frame.left - m_left.Depth(kLabelRoom);
+  // How far the texts of leaders reach out on the left.
+  double LeaderRoom() const {
+    double left = m_frame.left;
     for (const CSizeDimension& size : m_sizes) {
       if (size.m_nSide == CDimensionSide::Leader && size.m_from.x <= size.m_to.x)
         left = std::min(left, LeaderEnd(size).x - 4 - TextWidth(SizeText(size), kTextSize));
     }
-    return left;
+    return m_frame.left - left;
   }
 
   int Footers() const { return m_picture.m_base ? 2 : 1; }
 
   void FindPage() {
-    const double left = LeftEdge() - kMargin;
+    m_dLeaderRoom = LeaderRoom();
+    const double left = m_frame.left - m_left.Depth(kLabelRoom) - m_dLeaderRoom - kMargin;
     const double right = RightEdge() + kMargin;
     const double top =
         std::max(AxisTop() + 6, m_left.HighestText()) + 2 * kLineHeight + kMargin / 2;
@@ -265,7 +267,7 @@ class CPictureLayout {
       d.m_bVertical = vertical;
       d.m_from = Page(size.m_from);
       d.m_to = Page(size.m_to);
-      d.m_dLine = vertical                       ? m_origin.x + m_frame.left - away
+      d.m_dLine = vertical                       ? m_origin.x + m_frame.left - m_dLeaderRoom - away
                   : where == CDimensionSide::Top ? m_origin.y + m_frame.top + away - kTextSize
                                                  : m_origin.y + m_frame.bottom - away;
       d.m_strText = SizeText(size);
@@ -392,7 +394,8 @@ class CPictureLayout {
   CSide m_top;
   CSide m_bottom;
   CSide m_left;
-  CPoint m_origin;  // of the section on the page
+  double m_dLeaderRoom = 0;  // between the section and the columns on its left
+  CPoint m_origin;           // of the section on the page
   double m_dPageWidth = 0;
   double m_dPageHeight = 0;
   CDrawing* m_pDrawing = nullptr;

@@ -24,19 +24,6 @@ CString Title(const CDataItem& row, int quarters) {
 // As precise as anyone draws.
 double Hundredths(double mm) { return std::round(mm * 100) / 100; }
 
-CPoint QuarterTurned(CPoint p, int quarters, double width, double height) {
-  switch (quarters) {
-    case 1:
-      return {height - p.y, p.x};
-    case 2:
-      return {width - p.x, height - p.y};
-    case 3:
-      return {p.y, width - p.x};
-    default:
-      return p;
-  }
-}
-
 // The base point of a user-defined row, unturned.
 std::optional<CPoint> BasePoint(const CDataItem& row) {
   if (FindSectionStyle(row.GetTableName().View()) == nullptr) return std::nullopt;

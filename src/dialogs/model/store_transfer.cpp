@@ -52,7 +52,7 @@ bool WriteTo(const CString& file, const CString& path, const CString& name, CDia
   CDataTable table = Named(name, path);
   table.m_Title = stored.m_Title;
   AppendLive(stored, table);
-  if (table.WriteTable(file, kSystemKind, 1)) return true;
+  if (FitsFile(table, file, true) && table.WriteTable(file, kSystemKind, 1)) return true;
   TellSaveFailed(user);
   return false;
 }

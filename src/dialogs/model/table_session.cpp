@@ -113,7 +113,9 @@ bool CTableSession::ChangeLocked(const CChange& change) {
   }
   AlignIndices(fresh);
   if (!change(fresh)) return false;
-  if (!fresh.WriteSystemJmTable()) return SayFailed(texts::kSaveFailed);
+  if (!FitsFile(fresh, StorePath(), false) || !fresh.WriteSystemJmTable()) {
+    return SayFailed(texts::kSaveFailed);
+  }
   m_table = fresh;
   return true;
 }
