@@ -113,7 +113,7 @@ void PrintListed(const std::vector<CListed>& list) {
     table.AddRow({each.m_strName, each.m_strSource, each.m_strFamily, std::to_string(each.m_nRows),
                   std::to_string(each.m_nColumns), Hex(each.m_nMask)});
   }
-  Print(table.Text());
+  Print(list.empty() ? "no table\n" : table.Text());
 }
 
 void PrintListedCsv(const std::vector<CListed>& list) {

@@ -3,10 +3,10 @@
 #include <cstdio>
 #include <map>
 
+#include "build_files.h"
 #include "catalogue/rolled/rolled_file.h"
 #include "catalogue/rolled/rolled_style.h"
 #include "catalogue_csv.h"
-#include "fixed_clock.h"
 #include "framework/utf8.h"
 #include "pair_rows.h"
 #include "platform/code_page.h"
@@ -38,7 +38,7 @@ void Write(const CString& path, int style, const CDataTable& table) {
 
 void Make(const std::string& csvFolder, const std::string& folder) {
   SetAnsiCodePage(kSimplifiedChinese);
-  const CFixedClock clock(kStoreDate);
+  const CBuildFiles files(kStoreDate);
   for (const auto& [style, table] : MakeTables(csvFolder)) {
     const CString file(RolledStyles()[static_cast<std::size_t>(style)].m_strFile);
     const CString start = FromUtf8(folder + "/");

@@ -1,23 +1,58 @@
 #include "system_store.h"
 
-#include "catalogue/rolled/read_file.h"
+#include "catalogue/import/table_import.h"
+#include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/rolled/rolled_style.h"
 #include "catalogue_csv.h"
 #include "framework/utf8.h"
 #include "platform/file_system.h"
 #include "platform/store_error.h"
+#include "sections/load_data_table.h"
 #include "tables/table_store.h"
 
 namespace orv3::catalogue {
 namespace {
 
+constexpr std::int32_t kLatticeTables = TABLE_CUSTOM | TABLE_FAMILY_LATTICE;
+
+void Save(CDataTable& table) {
+  if (!table.WriteSystemJmTable()) throw CCatalogueError(ToUtf8(LastStoreError().m_strText));
+}
+
 void AddRolledTables(const CString& folder) {
   for (const CRolledStyle& style : RolledStyles()) {
+    const CImportReport report = ImportFile(folder + style.m_strFile, folder + kSystemStore);
+    if (!report.m_bDone) throw CCatalogueError(ToUtf8(report.m_strWhy));
+    for (const CRefusedRow& row : report.m_arrTable.front().m_arrRefused)
+      throw CCatalogueError(
+          ToUtf8(CString(style.m_strName) + L": " + row.m_strNo + L": " + row.m_strWhy));
+  }
+}
+
+// The row with which a user starts; a lattice column's is computed from limbs in the store.
+CDataItem Sample(const CString& name) {
+  CDataItem row;
+  row.m_strTableName = name;
+  const bool made = CLoadDataTable::GetDefaultDataItem(row) != 0;
+  if (made && !CLoadDataTable::IsTableNameType(name, kLatticeTables)) return row;
+  CSteelItemGeGou lattice(row);
+  if (!made || !lattice.CalSteelJMGeGou())
+    throw CCatalogueError(ToUtf8(name) + ": has no sample row");
+  return lattice;
+}
+
+// The tables that users fill, with a sample row each, which is the user's own: free to be changed
+// and deleted.
+void AddUserTables() {
+  CStringArray names;
+  CLoadDataTable::GetTableNameArray(kUserTables, names);
+  for (const CString& name : names) {
+    CDataItem sample = Sample(name);
     CDataTable table;
-    const CString path = folder + style.m_strFile;
-    if (!CReadFile::GetIronData(path.GetString(), table))
-      throw CCatalogueError(ToUtf8(path) + ": cannot be read as a data file");
-    if (!table.WriteSystemJmTable()) throw CCatalogueError(ToUtf8(LastStoreError().m_strText));
+    table.SetTableName(name);
+    table.setTableTitle(sample);
+    table.AddTableItem(sample, 1);
+    Save(table);
   }
 }
 
@@ -28,6 +63,7 @@ void MakeSystemStore(const std::string& name) {
   SetProgramPath(folder);
   Files().Remove(folder + kSystemStore);
   AddRolledTables(folder);
+  AddUserTables();
 }
 
 }  // namespace orv3::catalogue

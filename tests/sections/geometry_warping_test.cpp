@@ -211,6 +211,54 @@ TEST(GeometryWarping, BoxWithUnequalWebs) {
   EXPECT_NEAR(CLoadDataTable::GetDatIteme0(row), CellShearCentre(pieces) + left / 2 - xo, 1e-5);
 }
 
+// A hot-rolled channel with its tapering flanges, by the flow of a vertical force and the sectorial
+// coordinate about the shear centre, piece by piece from toe to toe.
+TEST(GeometryWarping, HotRolledChannel) {
+  // [20a of GB/T 707.
+  constexpr double height = 200, width = 73, tw = 7, t = 11, zo = 20.1;
+  constexpr double h = height - t, b = width - tw / 2;
+  constexpr int kPieces = 4000;
+  std::vector<CPiece> pieces;
+  const auto wall = [&pieces](double x1, double y1, double x2, double y2, auto thickness) {
+    for (int i = 0; i < kPieces; ++i) {
+      const double s = (i + 0.5) / kPieces, x = x1 + (x2 - x1) * s;
+      pieces.push_back(
+          {x, y1 + (y2 - y1) * s, (x2 - x1) / kPieces, (y2 - y1) / kPieces, thickness(x)});
+    }
+  };
+  const auto flange = [](double x) { return t + ((b + tw / 2) / 2 - x) / 10; };
+  wall(b, -h / 2, 0, -h / 2, flange);
+  wall(0, -h / 2, 0, h / 2, [](double) { return tw; });
+  wall(0, h / 2, b, h / 2, flange);
+
+  double S = 0, moment = 0, force = 0;
+  for (const CPiece& p : pieces) {
+    const double own = p.t * p.Length() * p.y;
+    S += own;
+    moment += (S - own / 2) * (p.x * p.dy - p.y * p.dx);
+    force += (S - own / 2) * p.dy;
+  }
+  const double e = moment / force;  // negative: beyond the web
+  double w = 0, sum1 = 0, sum2 = 0, A = 0;
+  for (const CPiece& p : pieces) {
+    const double step = (p.x - e) * p.dy - p.y * p.dx, dA = p.t * p.Length();
+    w += step;
+    sum1 += (w - step / 2) * dA;
+    sum2 += (w - step / 2) * (w - step / 2) * dA;
+    A += dA;
+  }
+  const double Iw = sum2 - sum1 * sum1 / A;
+
+  const CDataItem row = RowOf(L"热轧普通槽钢", L"[20a",
+                              {{L"h(mm)", height},
+                               {L"b(mm)", width},
+                               {L"tw(mm)", tw},
+                               {L"t(mm)", t},
+                               {L"zo(cm)", zo / 10}});
+  EXPECT_NEAR(CLoadDataTable::GetDatIteme0(row), zo - tw / 2 - e, 1e-3);
+  EXPECT_NEAR(CLoadDataTable::GetDataItemIw(row), Iw, 1e-5 * Iw);
+}
+
 // Missing sizes leave 0.
 TEST(GeometryWarping, MissingSizes) {
   const CDataItem row = RowOf(L"自定义槽钢", L"1", {{L"b(mm)", 10}, {L"h(mm)", 300}});

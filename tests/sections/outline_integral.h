@@ -30,7 +30,7 @@ struct COutline {
 };
 
 struct CIntegrals {
-  double A = 0, x = 0, y = 0, xx = 0, yy = 0;  // of 1, x, y, x^2, y^2 over the area
+  double A = 0, x = 0, y = 0, xx = 0, yy = 0, xy = 0;  // of 1, x, y, x^2, ... over the area
 };
 
 inline CIntegrals Integrate(const CPolygon& p) {
@@ -43,8 +43,9 @@ inline CIntegrals Integrate(const CPolygon& p) {
     sum.y += (a.y + b.y) * cross / 6;
     sum.xx += (a.x * a.x + a.x * b.x + b.x * b.x) * cross / 12;
     sum.yy += (a.y * a.y + a.y * b.y + b.y * b.y) * cross / 12;
+    sum.xy += (2 * a.x * a.y + a.x * b.y + b.x * a.y + 2 * b.x * b.y) * cross / 24;
   }
-  if (sum.A < 0) sum = {-sum.A, -sum.x, -sum.y, -sum.xx, -sum.yy};
+  if (sum.A < 0) sum = {-sum.A, -sum.x, -sum.y, -sum.xx, -sum.yy, -sum.xy};
   return sum;
 }
 
@@ -57,6 +58,7 @@ inline CIntegrals Integrate(const COutline& outline) {
     sum.y += sign * one.y;
     sum.xx += sign * one.xx;
     sum.yy += sign * one.yy;
+    sum.xy += sign * one.xy;
   }
   return sum;
 }

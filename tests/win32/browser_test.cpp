@@ -159,7 +159,8 @@ TEST(Browser, ChosenColumnsAlone) {
           const auto before = probe.Titles(IDC_LIST);
           probe.Click(IDC_VIEW_COLUMNS);
           const auto columns = CDialogProbe::WaitFor(L"选择显示项");
-          Expect(columns.Count(IDC_COLUMN_LIST), static_cast<int>(before.size()), "columns offered");
+          Expect(columns.Count(IDC_COLUMN_LIST), static_cast<int>(before.size()),
+                 "columns offered");
           columns.SetMark(IDC_COLUMN_LIST, 1, false);
           columns.Click(IDOK);
           columns.WaitUntilClosed();

@@ -19,8 +19,8 @@ std::wstring WindowText(HWND window) {
   // WM_GETTEXT and not GetWindowText, which asks no control of another thread.
   const auto length = static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0));
   std::wstring text(length + 1, L'\0');
-  text.resize(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXT, text.size(),
-                                                    reinterpret_cast<LPARAM>(text.data()))));
+  text.resize(static_cast<std::size_t>(
+      SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
   return text;
 }
 
@@ -163,10 +163,9 @@ void CDialogProbe::Close() const { PostMessageW(m_hWnd, WM_COMMAND, IDCANCEL, 0)
 
 void CDialogProbe::Choose(int id, const std::wstring& text) const {
   const HWND list = Control(id);
-  const LRESULT entry = text.empty()
-                            ? 0
-                            : SendMessageW(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                           Pointer(text.c_str()));
+  const LRESULT entry = text.empty() ? 0
+                                     : SendMessageW(list, CB_FINDSTRINGEXACT,
+                                                    static_cast<WPARAM>(-1), Pointer(text.c_str()));
   if (entry < 0) throw std::runtime_error("no choice \"" + Narrow(text) + "\"");
   SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
   SendMessageW(m_hWnd, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
@@ -205,7 +204,8 @@ void CDialogProbe::SelectNode(int id, const std::wstring& text) const {
 std::vector<std::wstring> CDialogProbe::Nodes(int id) const {
   const HWND tree = Control(id);
   std::vector<std::wstring> texts;
-  Visit(tree, TreeView_GetRoot(tree), [&](HTREEITEM item) { texts.push_back(NodeText(tree, item)); });
+  Visit(tree, TreeView_GetRoot(tree),
+        [&](HTREEITEM item) { texts.push_back(NodeText(tree, item)); });
   return texts;
 }
 
@@ -297,8 +297,8 @@ void CDialogProbe::EditCell(int id, int line, int column, const std::wstring& te
   };
   Eventually(opened, "cell editor");
   if (lstrcmpiW(ClassOf(editor).c_str(), WC_COMBOBOXW) == 0) {
-    const LRESULT entry = SendMessageW(editor, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                       Pointer(text.c_str()));
+    const LRESULT entry =
+        SendMessageW(editor, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), Pointer(text.c_str()));
     if (entry < 0) throw std::runtime_error("no choice \"" + Narrow(text) + "\"");
     SendMessageW(editor, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
   } else {

@@ -27,9 +27,9 @@ class CDialogProbe {
   std::wstring Text(int id) const;
   void SetText(int id, const std::wstring& text) const;
   bool IsEnabled(int id) const;
-  void Click(int id) const;           // returns at once: a click may open a dialog
+  void Click(int id) const;              // returns at once: a click may open a dialog
   void Press(int id, WPARAM key) const;  // a key into a control
-  void Close() const;                 // as by Esc
+  void Close() const;                    // as by Esc
 
   void Choose(int id, const std::wstring& text) const;  // in a drop-down list
   std::vector<std::wstring> Choices(int id) const;

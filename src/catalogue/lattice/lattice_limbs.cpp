@@ -13,6 +13,24 @@ bool Read(const CDataItem& row, std::wstring_view sign, double& value) {
   return row.GetCellValue(row.GetSignIndex(sign), value) != 0;
 }
 
+bool SameCell(const CDataItem& row, const wchar_t* a, const wchar_t* b) {
+  const int first = row.GetSignIndex(a);
+  const int second = row.GetSignIndex(b);
+  return first >= 0 && second >= 0 && row[first].m_strValue == row[second].m_strValue;
+}
+
+// The limb before `i` that is of the same section, which need not be looked up twice; `i` itself
+// when there is none.
+int LimbLike(const CDataItem& column, int i) {
+  for (int j = 0; j < i; ++j) {
+    if (SameCell(column, kLimbColumns[j].m_szNo, kLimbColumns[i].m_szNo) &&
+        SameCell(column, kLimbColumns[j].m_szType, kLimbColumns[i].m_szType)) {
+      return j;
+    }
+  }
+  return i;
+}
+
 }  // namespace
 
 std::wstring_view LatticeTableName(int limbs) noexcept {
@@ -31,7 +49,9 @@ bool CLatticeLimbs::Fetch(const CSteelItemGeGou& column) {
   m_arrLimb.resize(static_cast<std::size_t>(limbs));
   for (int i = 0; i < limbs; ++i) {
     CLatticeLimb& limb = m_arrLimb[static_cast<std::size_t>(i)];
-    limb.m_row = column.GetPartItem(i + 1);
+    const int like = LimbLike(column, i);
+    limb.m_row =
+        like < i ? m_arrLimb[static_cast<std::size_t>(like)].m_row : column.GetPartItem(i + 1);
     if (limb.m_row.IsEmpty()) return false;
     limb.m_dArea = CLoadDataTable::GetDataItemArea(limb.m_row);
   }

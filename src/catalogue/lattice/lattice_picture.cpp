@@ -82,7 +82,8 @@ class CLatticeLayout {
     const double lines = static_cast<double>(m_arrLimb.size() + 2);
     const double left = kMargin + kDimension + kLetterRoom;
     const double right = kMargin + kReach + kLetterRoom;
-    const double bottom = kMargin + lines * kLineHeight + kDimension + kLetterRoom;
+    const double bottom =
+        kMargin + lines * kLineHeight + kLetterRoom + (m_arrLimb.size() > 2 ? kDimension : kReach);
     const double top = kMargin + 2 * kLineHeight + kReach + kLetterRoom;
     double text = TextWidth(Title(), kTitleSize);
     for (std::size_t i = 0; i < m_arrLimb.size(); ++i)
@@ -124,7 +125,7 @@ class CLatticeLayout {
     const CBox& box = m_arrBox[i];
     const bool upper = m_arrLimb[i].m_at.m_y > (m_box.bottom + m_box.top) / 2;
     CPoint at = Page(m_arrLimb[i].m_at.m_x, upper ? box.top : box.bottom);
-    at.x += m_arrLimb[i].m_at.m_x < m_properties.m_dXo ? -kReach / 2 : kReach / 2;
+    at.x += m_arrLimb[i].m_at.m_x < m_properties.m_dXo ? -kReach : kReach;
     at.y += upper ? kReach : -kReach;
     m_pDrawing->AddLabel(
         {CLayer::Text, at, FormatInt(static_cast<int>(i + 1)), kTextSize, CAnchor::Middle, false});

@@ -34,22 +34,21 @@ bool ReadRecords(const wchar_t* path, std::string& bytes, std::size_t& recordSiz
   return size > 0 && bytes.size() >= recordSize;
 }
 
-// The records of the style, one slot each. Every read takes the larger of the two record sizes,
-// the slots advance by the style's: what a read brings beyond its slot is the start of the next
-// one until that is read, and stays there when the file ends first.
-std::string SlotsOf(const std::string& bytes, std::size_t fileSize, std::size_t styleSize) {
+// As many records as the file has of its own size, each read with the larger of that and the
+// style's size, so that records of another size do not line up. What is read beyond the style's
+// size means nothing; where the file ends first, the record is zero from there on.
+void AddRecords(const CRolledStyle& style, const std::string& bytes, std::size_t fileSize, int bNew,
+                CDataTable& table) {
+  const auto styleSize = static_cast<std::size_t>(style.m_nSize);
   const std::size_t length = std::max(fileSize, styleSize);
-  const std::size_t reads = (bytes.size() + length - 1) / length;
-  const std::size_t reached = reads + (length - styleSize + styleSize - 1) / styleSize;
-  // Behind what the file reaches all slots are zero, and as good as one.
-  const std::size_t count = std::min(bytes.size() / fileSize, reached + 1);
-  std::string slots(count * styleSize + (length - styleSize), '\0');
-  for (std::size_t i = 0; i < std::min(count, reads); ++i) {
-    const std::size_t got = std::min(length, bytes.size() - i * length);
-    std::memcpy(slots.data() + i * styleSize, bytes.data() + i * length, got);
+  for (std::size_t i = 0; i < bytes.size() / fileSize; ++i) {
+    const std::size_t at = std::min(i * length, bytes.size());
+    std::string record = bytes.substr(at, styleSize);
+    record.resize(styleSize, '\0');
+    if (table.IsHaveValue(0, orv3::RecordNumber(style, record.data()), -1) < 0)
+      table.AddTableItem(orv3::RecordRow(style, record.data()), bNew);
+    if (at == bytes.size()) break;  // all that follow are zero too, and there already
   }
-  slots.resize(count * styleSize);
-  return slots;
 }
 
 std::wstring_view FileName(std::wstring_view path) {
@@ -83,16 +82,10 @@ int CReadFile::GetIronData(const wchar_t* path, CDataTable& table) {
   if (index < 0) return 0;
 
   const CRolledStyle& style = orv3::RolledStyles()[static_cast<std::size_t>(index)];
-  const auto styleSize = static_cast<std::size_t>(style.m_nSize);
-  const std::string slots = SlotsOf(bytes, recordSize, styleSize);
   table.SetTableName(style.m_strName);
   table.GetSystemJmTable();
   if (table.GetTableColNum() <= 1) table.m_Title = orv3::RolledTitle(style);
-  for (std::size_t at = 0; at < slots.size(); at += styleSize) {
-    const char* const record = slots.data() + at;
-    if (table.IsHaveValue(0, orv3::RecordNumber(style, record), -1) < 0)
-      table.AddTableItem(orv3::RecordRow(style, record), userTwin ? 1 : 0);
-  }
+  AddRecords(style, bytes, recordSize, userTwin ? 1 : 0, table);
   return 1;
 }
 

@@ -32,7 +32,8 @@ class CEditCmbList {
   void GoTo(int line);
   bool IsEditing() const noexcept { return m_hEditor != nullptr; }
   void EndEdit(bool keep);
-  // Greys what cannot be changed; for the dialog's NM_CUSTOMDRAW.
+  // Shades the cells that cannot be changed, where others can; for the dialog's NM_CUSTOMDRAW.
+  void Shade(bool shade) noexcept { m_bShade = shade; }
   LRESULT OnCustomDraw(NMHDR& header) const;
 
  private:
@@ -42,6 +43,7 @@ class CEditCmbList {
                                      UINT_PTR id, DWORD_PTR self);
   bool OnListKey(WPARAM key);
   bool OnEditorKey(WPARAM key);
+  void FitColumns();
   void OnListClick(LPARAM place);
   void OnChosen(HWND editor);
   bool MakeEditor(const RECT& cell, wchar_t typed);
@@ -58,6 +60,7 @@ class CEditCmbList {
   int m_nDpi = 96;
   HWND m_hEditor = nullptr;
   bool m_bList = false;  // the editor is a drop-down list
+  bool m_bShade = false;
   int m_nLine = -1;
   int m_nColumn = -1;
 };

@@ -1,5 +1,5 @@
 // Shear centres and warping constants where the catalogue prints none, by thin-walled theory on the
-// mid-lines; a sloping flange counts with its mean thickness. What the tables print as "eo(cm)" is
+// mid-lines. What the tables print as "eo(cm)" is
 // the distance from shear centre to centroid, and so is every e0 here.
 #include <cmath>
 
@@ -10,22 +10,37 @@ namespace orv3 {
 
 namespace {
 
-// A channel's mid-lines.
-struct CChannel {
-  double b, h;  // flange from the web's mid-line to its tip; between the flanges
-  double t, tw;
-
-  explicit CChannel(CReader& read)
-      : b(read(L"b(mm)") - read(L"tw(mm)") / 2),
-        h(read(L"h(mm)") - read(L"t(mm)")),
-        t(read(L"t(mm)")),
-        tw(read(L"tw(mm)")) {}
-
-  // Beyond the web's mid-line.
-  double ShearCentre() const { return 3 * b * b * t / (6 * b * t + h * tw); }
-  double Warping() const {
-    return t * b * b * b * h * h / 12 * (3 * b * t + 2 * h * tw) / (6 * b * t + h * tw);
+// A hot-rolled channel's mid-lines. Its flanges' inner faces slope 1 in 10, with the thickness t
+// midway on the outstand (GB/T 707, YB 164).
+class CChannel {
+ public:
+  explicit CChannel(CReader& read) {
+    const double tw = read(L"tw(mm)"), t = read(L"t(mm)");
+    const double b = read(L"b(mm)") - tw / 2;
+    m_h = read(L"h(mm)") - t;
+    // Integrals along a flange, from the web's mid-line, of its thickness root - kSlope s.
+    const double root = t + kSlope * (b + tw / 2) / 2;
+    m_area = root * b - kSlope * b * b / 2;
+    m_first = root * b * b / 2 - kSlope * b * b * b / 3;
+    m_second = root * b * b * b / 3 - kSlope * b * b * b * b / 4;
+    m_webIx = tw * m_h * m_h * m_h / 12;
   }
+
+  // Distance beyond the web's mid-line.
+  double ShearCentre() const {
+    return m_h * m_h / 2 * m_first / (m_webIx + m_h * m_h / 2 * m_area);
+  }
+  double Warping() const {
+    const double e = ShearCentre();
+    return m_h * m_h / 2 * (m_second - 2 * e * m_first + e * e * m_area) + e * e * m_webIx;
+  }
+
+ private:
+  static constexpr double kSlope = 0.1;
+
+  double m_h;  // between the flanges
+  double m_area, m_first, m_second;
+  double m_webIx;
 };
 
 }  // namespace
@@ -40,8 +55,8 @@ std::optional<double> IWarping(const CDataItem& row, const CFamily& family, cons
 std::optional<double> ChannelShearCentre(const CDataItem& row, const CFamily& family,
                                          const CCell& cell) {
   CReader read(row, family);
-  const CChannel channel(read);
-  return read.Give(channel.ShearCentre() + read(cell) - channel.tw / 2);
+  const double e = CChannel(read).ShearCentre();
+  return read.Give(e + read(cell) - read(L"tw(mm)") / 2);
 }
 
 std::optional<double> ChannelWarping(const CDataItem& row, const CFamily& family, const CCell&) {

@@ -1,0 +1,410 @@
+// Rolled-section data files, the tables made of them, and the records of single sections.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "catalogue/rolled/read_file.h"
+#include "catalogue/rolled/rolled_file.h"
+#include "catalogue/rolled/rolled_records.h"
+#include "catalogue/rolled/rolled_style.h"
+#include "framework/number_text.h"
+#include "platform/code_page.h"
+#include "platform/store_error.h"
+#include "platform/temp_folder.h"
+#include "print.h"
+#include "sections/load_data_table.h"
+#include "tables/data_table.h"
+
+namespace {
+
+// --- Bytes written by hand -----------------------------------------------------------------------
+
+std::string Hex(std::string_view digits) {
+  std::string bytes;
+  int high = -1;
+  for (const char ch : digits) {
+    if (ch == ' ') continue;
+    const int value = ch <= '9' ? ch - '0' : ch - 'A' + 10;
+    if (high >= 0) bytes += static_cast<char>(16 * high + value);
+    high = high < 0 ? value : -1;
+  }
+  return bytes;
+}
+
+// UTF-16 of plain letters, in a field of 20.
+std::string Name(std::string_view letters, std::size_t width = 20) {
+  std::string bytes;
+  for (const char ch : letters) bytes += {ch, '\0'};
+  return bytes + std::string(2 * (width - letters.size()), '\0');
+}
+
+// A double from the sixteen digits of its IEEE 754 form, the sign and exponent first.
+std::string Double(std::string_view digits) {
+  const std::string bytes = Hex(std::string(digits) + std::string(16 - digits.size(), '0'));
+  return {bytes.rbegin(), bytes.rend()};
+}
+
+std::string Doubles(std::initializer_list<std::string_view> all) {
+  std::string bytes;
+  for (const std::string_view digits : all) bytes += Double(digits);
+  return bytes;
+}
+
+// L5X3 with r = 3.5 and, from A to N, 1, 2, 3, ... 17; the capacities are 20, 40, 60, ... 360 kN.
+std::string AngleRecord() {
+  const std::string_view lengths[] = {
+      "3FE3333333333333", "3FECCCCCCCCCCCCD", "3FF3333333333333", "3FF8", "3FFCCCCCCCCCCCCD",
+      "4000CCCCCCCCCCCD", "4003333333333333", "400599999999999A", "4008", "400A666666666666",
+      "400CCCCCCCCCCCCD", "400F333333333333", "4010CCCCCCCCCCCD", "4012", "4013333333333333",
+      "4014666666666666", "401599999999999A", "4016CCCCCCCCCCCD"};
+  const std::string_view capacities[] = {"4034",  "4044",  "404E",  "4054", "4059",  "405E",
+                                         "40618", "4064",  "40668", "4069", "406B8", "406E",
+                                         "40704", "40718", "4072C", "4074", "40754", "40768"};
+  std::string record =
+      Name("L5X3") + Hex("0500 0300 00000000") +
+      Doubles({"400C", "3FF", "4", "4008", "401", "4014", "4018", "401C", "402", "4022", "4024",
+               "4026", "4028", "402A", "402C", "402E", "403", "4031"});
+  for (std::size_t i = 0; i < 18; ++i) record += Double(lengths[i]) + Double(capacities[i]);
+  return record;
+}
+constexpr wchar_t kAngleRow[] =
+    L"L5X3,5,3,3.5,1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,20,40,60,80,100,120,140,160,180,200,"
+    L"220,240,260,280,300,320,340,360";
+
+// A T whose height is the text "62.5"; from B to Cx 1, 2, 3, ... 13.
+std::string SplitTRecord() {
+  return Name("TX1") + Name("62.5") +
+         Doubles({"3FF", "4", "4008", "401", "4014", "4018", "401C", "402", "4022", "4024", "4026",
+                  "4028", "402A"});
+}
+constexpr wchar_t kSplitTRow[] = L"TX1,62.5,1,2,3,4,5,6,7,8,9,10,11,12,13";
+
+// A round tube of 104 bytes: d, then seven doubles of 1.
+std::string TubeRecord(std::string_view name, char d = 25) {
+  std::string record = Name(name) + std::string({d, 0}) + std::string(6, '\0');
+  for (int i = 0; i < 7; ++i) record += Double("3FF");
+  return record;
+}
+
+CString RowText(const CDataItem& row) {
+  CString text;
+  for (int i = 0; i < row.GetItemLength(); ++i) text += (i == 0 ? L"" : L",") + row[i].m_strValue;
+  return text;
+}
+
+CDataTable TableOf(int style, std::initializer_list<const wchar_t*> rows) {
+  const orv3::CRolledStyle& of = orv3::RolledStyles()[static_cast<std::size_t>(style)];
+  CDataTable table;
+  table.SetTableName(of.m_strName);
+  table.m_Title = orv3::RolledTitle(of);
+  for (const wchar_t* row : rows) EXPECT_TRUE(table.AddTableItem(row, 0)) << CString(row);
+  return table;
+}
+
+class RolledFile : public testing::Test {
+ protected:
+  // The program path is a folder without stores unless a test puts one there.
+  RolledFile() {
+    orv3::SetAnsiCodePage(936);
+    CLoadDataTable::SetOrvoPrgPath(m_folder.Path());
+  }
+  ~RolledFile() override {
+    CLoadDataTable::SetOrvoPrgPath(L"");
+    orv3::SetAnsiCodePage(0);
+  }
+
+  int Read(const wchar_t* name, const std::string& bytes, CDataTable& table) {
+    PutBytes(m_folder.Path(name), bytes);
+    return CReadFile::GetIronData(m_folder.Path(name).GetString(), table);
+  }
+
+  CTempFolder m_folder;
+};
+
+TEST_F(RolledFile, HasTheBytesThatItsLayoutSays) {
+  struct CCase {
+    const wchar_t* file;
+    int style;
+    std::string bytes;
+    const wchar_t* row;
+  };
+  const CCase cases[] = {{L"DbData.kvb", 0, Hex("E001") + AngleRecord(), kAngleRow},
+                         {L"PFTIRON.kvb", 26, Hex("B800") + SplitTRecord(), kSplitTRow}};
+  for (const CCase& each : cases) {
+    CDataTable table;
+    ASSERT_EQ(Read(each.file, each.bytes, table), 1);
+    ASSERT_EQ(table.GetTableRowNum(), 1);
+    EXPECT_EQ(RowText(table[0]), each.row);
+    const CString written = m_folder.Path(L"written.kvb");
+    ASSERT_EQ(orv3::WriteRolledFile(written, each.style, TableOf(each.style, {each.row})), 1);
+    EXPECT_EQ(Bytes(written), each.bytes);
+  }
+}
+
+TEST_F(RolledFile, OfAnotherKindGivesNothing) {
+  struct CCase {
+    const wchar_t* file;
+    std::string bytes;
+    bool cleared;  // the table, which had a row before
+  };
+  const std::string tube = TubeRecord("25X1.5");
+  const CCase cases[] = {
+      {L"LWCIR.kvb", "", false},
+      {L"LWCIR.kvb", "h", false},
+      {L"LWCIR.kvb", Hex("6800"), false},
+      {L"LWCIR.kvb", Hex("6800") + tube.substr(1), false},
+      {L"LWCIR.kvb", Hex("0000") + tube, false},
+      {L"LWCIR.kvb", Hex("FFFF") + tube, false},
+      {L"OLWCIR.kvb", Hex("6800"), false},
+      {L"OOLWCIR.kvb", Hex("6800") + tube, true},
+      {L"LWCIR.KVB", Hex("6800") + tube, true},
+      {L"lwcir.kvb", Hex("6800") + tube, true},
+  };
+  for (const CCase& each : cases) {
+    CDataTable table = TableOf(17, {L"30X1.5,30,1.5,1,1,1,1,1,1"});
+    EXPECT_EQ(Read(each.file, each.bytes, table), 0) << CString(each.file) << each.bytes.size();
+    EXPECT_EQ(table.GetTableRowNum(), each.cleared ? 0 : 1) << CString(each.file);
+  }
+  CDataTable table;
+  EXPECT_EQ(CReadFile::GetIronData(m_folder.Path(L"none/LWCIR.kvb").GetString(), table), 0);
+  EXPECT_EQ(CReadFile::GetIronData(nullptr, table), 0);
+}
+
+TEST_F(RolledFile, GivesTheFirstRecordOfEachModelNumber) {
+  CDataTable table;
+  const std::string twice =
+      TubeRecord(" 30X2 ", 30) + TubeRecord("25X1.5") + TubeRecord("30X2", 31);
+  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + twice + "rest", table), 1);
+  ASSERT_EQ(table.GetTableRowNum(), 2);
+  EXPECT_EQ(RowText(table[0]), L"30X2,30,1,1,1,1,1,1,1");
+  EXPECT_EQ(RowText(table[1]), L"25X1.5,25,1,1,1,1,1,1,1");
+  // A comma would make two cells of the number; the record is passed over.
+  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + TubeRecord("1,2") + TubeRecord("3"), table), 1);
+  ASSERT_EQ(table.GetTableRowNum(), 1);
+  // A name that fills its field has no zero; numbers are shown as they are.
+  std::string full = TubeRecord(std::string(20, 'x'));
+  full.replace(48, 8, Double("7FF8"));
+  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + full, table), 1);
+  EXPECT_EQ(RowText(table[0]), L"xxxxxxxxxxxxxxxxxxxx,25,NAN,1,1,1,1,1,1");
+}
+
+TEST_F(RolledFile, WithAnotherRecordSizeIsReadWithTheLarger) {
+  const std::string two = TubeRecord("A") + TubeRecord("B");
+  CDataTable table;
+  // 8 bytes more than a record: the file has them behind each.
+  const std::string gap(8, 'g');
+  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("7000") + TubeRecord("A") + gap + TubeRecord("B") + gap, table),
+            1);
+  ASSERT_EQ(table.GetTableRowNum(), 2);
+  EXPECT_EQ(RowText(table[1]), L"B,25,1,1,1,1,1,1,1");
+  // Half a record: twice as many are counted as the file can fill; the first of the empty ones
+  // stands for all.
+  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("3400") + two, table), 1);
+  ASSERT_EQ(table.GetTableRowNum(), 3);
+  EXPECT_EQ(RowText(table[1]), L"B,25,1,1,1,1,1,1,1");
+  EXPECT_EQ(RowText(table[2]), L",0,0,0,0,0,0,0,0");
+  // The last record of 1 byte's count ends in the middle of its doubles.
+  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("0100") + two.substr(0, 104 + 60), table), 1);
+  ASSERT_EQ(table.GetTableRowNum(), 3);
+  EXPECT_EQ(RowText(table[1]), L"B,25,1,0,0,0,0,0,0");
+}
+
+TEST_F(RolledFile, OfTheUserHasTheSameColumnsAndFreeRows) {
+  CDataTable plain, twin;
+  const std::string bytes = Hex("E001") + AngleRecord();
+  ASSERT_EQ(Read(L"DbData.kvb", bytes, plain), 1);
+  ASSERT_EQ(Read(L"ODbData.kvb", bytes, twin), 1);
+  EXPECT_EQ(plain.GetTableName(), L"热轧等边角钢");
+  EXPECT_EQ(twin.GetTableName(), plain.GetTableName());
+  EXPECT_EQ(plain.GetTableColNum(), 39);
+  EXPECT_TRUE(plain.m_Title.IsEqualOf(twin.m_Title));
+  EXPECT_EQ(plain.GetTableColSign(21), L"P(0.6m)(kN)");
+  EXPECT_EQ(plain.GetTableColName(38), L"5.7m长度抗压承载力设计值");
+  // From 3 on a row is protected.
+  EXPECT_EQ(plain[0].m_nModifyType, 3);
+  EXPECT_EQ(twin[0].m_nModifyType, 1);
+}
+
+TEST_F(RolledFile, AddsToWhatTheSystemStoreHas) {
+  CDataTable stored = TableOf(17, {L"30X1.5,30,9,9,9,9,9,9,9"});
+  stored.SetTableColTitle(2, L"壁厚", L"t(mm)", CDataTypeStruct::KVBT_DOUBLE, 0);
+  ASSERT_TRUE(stored.WriteSystemJmTable());
+  CDataTable table;
+  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + TubeRecord("30X1.5") + TubeRecord("40X2"), table), 1);
+  ASSERT_EQ(table.GetTableRowNum(), 2);
+  EXPECT_EQ(RowText(table[0]), L"30X1.5,30,9,9,9,9,9,9,9");
+  EXPECT_EQ(RowText(table[1]), L"40X2,25,1,1,1,1,1,1,1");
+  EXPECT_EQ(table.GetTableColName(2), L"壁厚");
+}
+
+TEST_F(RolledFile, IsNotWrittenWithWhatARecordCannotHold) {
+  struct CCase {
+    int style;
+    const wchar_t* row;
+    const wchar_t* said;
+  };
+  const CCase cases[] = {
+      {17, L"12345678901234567890,25,1,1,1,1,1,1,1", L"at most 19 characters"},
+      {2, L"12345678901234,1,1,1,1,1,1,1,1,1,1,1,1,1", L"at most 13 characters"},
+      {17, L"25X1.5,25.5,1,1,1,1,1,1,1", L"\"25.5\" is no size"},
+      {17, L"25X1.5,32768,1,1,1,1,1,1,1", L"\"32768\" is no size"},
+      {17, L"25X1.5,25,one,1,1,1,1,1,1", L"t(mm): \"one\" is no number"},
+  };
+  const CString path = m_folder.Path(L"LWCIR.kvb");
+  PutBytes(path, "before");
+  for (const CCase& each : cases) {
+    EXPECT_EQ(orv3::WriteRolledFile(path, each.style, TableOf(each.style, {each.row})), 0);
+    EXPECT_GE(orv3::LastStoreError().m_strText.Find(each.said), 0)
+        << orv3::LastStoreError().m_strText;
+    EXPECT_EQ(Bytes(path), "before");
+  }
+  CDataTable table = TableOf(17, {L"A,25,1,1,1,1,1,1,1", L"B,25,1,1,1,1,1,1,1"});
+  table[0].m_nModifyType = -1;
+  ASSERT_EQ(orv3::WriteRolledFile(path, 17, table), 1);
+  EXPECT_EQ(Bytes(path), Hex("6800") + TubeRecord("B"));
+}
+
+// --- Styles and records --------------------------------------------------------------------------
+
+TEST(RolledStyle, IsKnownByNumberAndName) {
+  CStringArray names;
+  EXPECT_EQ(CReadFile::GetXGStyleName(names), 27);
+  EXPECT_EQ(names.GetSize(), 27);
+  for (int i = 0; i < names.GetSize(); ++i) {
+    EXPECT_EQ(CReadFile::GetXGStyleNo(i), names[i]);
+    EXPECT_EQ(CReadFile::GetXGStyleIndex(names[i].GetString()), i);
+    EXPECT_TRUE(CLoadDataTable::IsTableNameType(names[i], orv3::kCatalogueTables)) << names[i];
+  }
+  EXPECT_EQ(names[25], L"热轧轻型槽钢[]组合");
+  EXPECT_EQ(CReadFile::GetXGStyleNo(27), L"");
+  EXPECT_EQ(CReadFile::GetXGStyleNo(-1), L"");
+  EXPECT_EQ(CReadFile::GetXGStyleIndex(L"工字钢"), -1);
+  EXPECT_EQ(CReadFile::GetXGStyleIndex(nullptr), -1);
+}
+
+// The record sizes that data files have always had, by style.
+TEST(RolledStyle, HasItsRecordSize) {
+  const int sizes[] = {480, 208, 120, 120, 184, 160, 144, 120, 184, 160, 184, 200, 208, 192,
+                       248, 248, 104, 104, 248, 248, 248, 152, 240, 104, 240, 104, 184};
+  for (int i = 0; i < 27; ++i) EXPECT_EQ(orv3::RolledLayout(i).size, sizes[i]) << i;
+  EXPECT_THROW(orv3::RolledLayout(27), CInvalidArgException);
+}
+
+TEST(RolledRecord, IsFilledFromARow) {
+  dbangleiron angle;
+  std::memset(&angle, 'x', sizeof angle);
+  CDataTable angles = TableOf(0, {kAngleRow});
+  EXPECT_EQ(CReadFile::TransDataItemToXGStruct(angles[0], &angle), 0);
+  EXPECT_EQ(std::string(reinterpret_cast<const char*>(&angle), sizeof angle), AngleRecord());
+  EXPECT_EQ(angle.t, 3);
+  EXPECT_EQ(angle.zo, 16);
+  EXPECT_EQ(angle.P[17].P, 360);
+
+  // Cells that do not fit, and cells that are missing.
+  CDataTable tubes = TableOf(17, {L"abcdefghijklmnopqrstuvw,99999,1.5,1,1,1,1,1,1"});
+  tubes[0].m_arrCell.SetSize(3);
+  LwCircleiron tube;
+  EXPECT_EQ(CReadFile::TransDataItemToXGStruct(tubes[0], &tube), 17);
+  EXPECT_EQ(std::u16string(tube.xh), u"abcdefghijklmnopqrs");
+  EXPECT_EQ(tube.d, 32767);
+  EXPECT_EQ(tube.t, 1.5);
+  EXPECT_EQ(tube.i, 0);
+
+  CDataItem other = tubes[0];
+  other.m_strTableName = L"矩形截面";
+  EXPECT_LT(CReadFile::TransDataItemToXGStruct(other, &tube), 0);
+  EXPECT_EQ(CReadFile::TransXGStructToDataItem(17, &tube, other), 0);
+  EXPECT_EQ(other.GetItemLength(), 3);
+}
+
+// --- The catalogue that the build makes ----------------------------------------------------------
+
+class Catalogue : public testing::Test {
+ protected:
+  Catalogue() {
+    orv3::SetAnsiCodePage(936);
+    CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
+  }
+  ~Catalogue() override {
+    CLoadDataTable::SetOrvoPrgPath(L"");
+    orv3::SetAnsiCodePage(0);
+  }
+};
+
+TEST_F(Catalogue, HasASectionOfEveryTableAsItIsPrinted) {
+  struct CCase {
+    int style;
+    int rows;
+    const wchar_t* no;
+    // Cells by sign; from the printed tables of the standards, pairs from hand calculation.
+    std::vector<std::pair<const wchar_t*, double>> cells;
+  };
+  const CCase cases[] = {
+      {0, 82, L"L100X10", {{L"A(cm^2)", 19.261}, {L"Ix(cm^4)", 179.51}, {L"zo(cm)", 2.84}}},
+      {1, 65, L"L100X63X8", {{L"A(cm^2)", 12.584}, {L"Ix(cm^4)", 127.37}, {L"iy(cm)", 1.77}}},
+      {2, 33, L"HW300X300", {{L"A(cm^2)", 120.4}, {L"Ix(cm^4)", 20500}, {L"Wx(cm^3)", 1370}}},
+      {3, 129, L"300X200X6X10", {{L"A(cm^2)", 56.8}, {L"Ix(cm^4)", 9510.9}, {L"h(mm)", 280}}},
+      {4, 30, L"[20a", {{L"A(cm^2)", 28.837}, {L"G(kg/m)", 22.637}, {L"zo(cm)", 2.01}}},
+      {5, 34, L"I20a", {{L"A(cm^2)", 35.578}, {L"G(kg/m)", 27.929}, {L"iy(cm)", 2.11}}},
+      {6, 28, L"100X50X3.5X5", {{L"A(cm^2)", 8.15}, {L"tw(mm)", 3.5}}},
+      {7, 32, L"HN400X200", {{L"A(cm^2)", 84.12}, {L"Ix(cm^4)", 23700}, {L"iy(cm)", 4.54}}},
+      {8, 22, L"[20", {{L"A(cm^2)", 23.4}, {L"Ix(cm^4)", 1522}, {L"zo(cm)", 2.07}}},
+      {9, 27, L"I20", {{L"A(cm^2)", 26.81}, {L"Wx(cm^3)", 184}, {L"ix(cm)", 8.28}}},
+      {10, 10, L"L50X2.5", {{L"A(cm^2)", 2.37}, {L"Ixo(cm^4)", 5.93}}},
+      {11, 24, L"C160X60X20X2.5", {{L"A(cm^2)", 7.48}, {L"Ix(cm^4)", 288.13}}},
+      {12, 11, L"[120X40X3.0", {{L"A(cm^2)", 5.63}, {L"Ix(cm^4)", 112.28}}},
+      {13, 4, L"L60X20X2.0", {{L"A(cm^2)", 2.95}, {L"Iw(cm^6)", 22.64}}},
+      {14, 13, L"Z160X60X20X2.5", {{L"A(cm^2)", 7.48}, {L"Ix1(cm^4)", 288.12}}},
+      {15, 18, L"Z160X60X20X2.5", {{L"A(cm^2)", 7.676}, {L"Ix1(cm^4)", 303.09}}},
+      {16, 23, L"80X2.0", {{L"A(cm^2)", 6.07}, {L"Ix(cm^4)", 60.58}}},
+      {17, 61, L"102X2.0", {{L"A(cm^2)", 6.28}, {L"I(cm^4)", 78.57}}},
+      {18, 82, L"2L100X10", {{L"A(cm^2)", 38.522}, {L"Ix(cm^4)", 359.02}, {L"iy10(cm)", 4.52}}},
+      {19, 65, L"2L100X63X8", {{L"Ix(cm^4)", 254.74}, {L"iy10(cm)", 2.67}}},
+      {20, 65, L"2L100X63X8", {{L"Ix(cm^4)", 78.78}, {L"iy10(cm)", 4.97}}},
+      {21, 82, L"2L100X10", {{L"Iy1(cm^4)", 569.36}, {L"ix0(cm)", 4.47}}},
+      {22, 30, L"2][[20a", {{L"A(cm^2)", 57.674}, {L"iy10(cm)", 3.28}}},
+      {23, 30, L"2[][20a", {{L"A(cm^2)", 57.674}, {L"iy(cm)", 5.69}}},
+      {24, 22, L"2][[20", {{L"Ix(cm^4)", 3044}, {L"iy0(cm)", 3.02}}},
+      {25, 22, L"2[][20", {{L"Ix(cm^4)", 3044}, {L"iy(cm)", 5.95}}},
+      {26, 53, L"TW62.5X125", {{L"A(cm^2)", 15.16}, {L"Ix(cm^4)", 35}, {L"Cx(cm)", 1.19}}},
+  };
+  for (const CCase& each : cases) {
+    const CString name = CReadFile::GetXGStyleNo(each.style);
+    const CString file(orv3::RolledStyles()[static_cast<std::size_t>(each.style)].m_strFile);
+    const CDataItem row = CLoadDataTable::GetSysTemJMItem(name, each.no);
+    ASSERT_FALSE(row.IsEmpty()) << name << each.no;
+    EXPECT_GE(row.m_nModifyType, 3) << name;
+    for (const auto& [sign, value] : each.cells)
+      EXPECT_EQ(row[sign].m_strValue, orv3::FormatG(value)) << name << CString(sign);
+    // The data file holds the same sections, the user's twin none.
+    CLoadDataTable::SetOrvoPrgPath(L"nowhere/");
+    CDataTable table;
+    const CString folder = orv3::FromUtf8(ORV3CAL_CATALOGUE "/");
+    EXPECT_EQ(CReadFile::GetIronData((folder + file).GetString(), table), 1) << name;
+    EXPECT_EQ(table.GetTableRowNum(), each.rows) << name;
+    EXPECT_EQ(CReadFile::GetIronData((folder + L"O" + file).GetString(), table), 0) << name;
+    CLoadDataTable::SetOrvoPrgPath(folder);
+    CStringArray numbers;
+    EXPECT_EQ(CReadFile::GetIronXh(each.style, numbers), 1);
+    EXPECT_EQ(numbers.GetSize(), each.rows) << name;
+  }
+}
+
+TEST_F(Catalogue, FillsRecordsByModelNumber) {
+  dbangleiron angle;
+  EXPECT_EQ(CReadFile::GetIronData(L"L100X10", 0, reinterpret_cast<wchar_t*>(&angle)), 1);
+  EXPECT_EQ(std::u16string(angle.xh), u"L100X10");
+  EXPECT_EQ(angle.b, 100);
+  EXPECT_EQ(angle.A, 19.261);
+  EXPECT_EQ(angle.P[0].L, 0.6);
+  PftIron tee;
+  EXPECT_EQ(CReadFile::GetIronData(L"TW62.5X125", 26, reinterpret_cast<wchar_t*>(&tee)), 1);
+  EXPECT_EQ(std::u16string(tee.h), u"62.5");
+  EXPECT_EQ(tee.Cx, 1.19);
+  EXPECT_EQ(CReadFile::GetIronData(L"L100X11", 0, reinterpret_cast<wchar_t*>(&angle)), 0);
+  EXPECT_EQ(CReadFile::GetIronData(L"L100X10", 27, reinterpret_cast<wchar_t*>(&angle)), 0);
+}
+
+}  // namespace
