@@ -6,7 +6,10 @@
 namespace orv3::cli {
 
 void AddStoreInfoCommands(CLI::App& store);  // info, verify
+void AddStoreImportCommand(CLI::App& store);
+void AddStoreEditCommands(CLI::App& store);  // add, edit, delete
 
-inline constexpr void (*kStoreCommands[])(CLI::App&) = {AddStoreInfoCommands};
+inline constexpr void (*kStoreCommands[])(CLI::App&) = {AddStoreInfoCommands, AddStoreImportCommand,
+                                                        AddStoreEditCommands};
 
 }  // namespace orv3::cli
