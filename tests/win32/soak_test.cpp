@@ -85,8 +85,8 @@ TEST(Soak, NothingIsLeftBehind) {
   EXPECT_EQ(Handles(), handles);
   // The counts tell a leak when there is one.
   const HPEN pen = CreatePen(PS_SOLID, 1, 0);
-  const HWND window = CreateWindowExW(0, WC_STATICW, L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
-                                      nullptr, nullptr);
+  const HWND window =
+      CreateWindowExW(0, WC_STATICW, L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
   const HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
   EXPECT_GT(GdiObjects(), gdi);
   EXPECT_GT(UserObjects(), user);

@@ -25,8 +25,8 @@ CStoreFolder::CStoreFolder(CStart start) {
   std::filesystem::create_directories(folder);
   m_strPath = CString(folder.wstring()) + L"\\";
   if (start == CStart::Catalogue) {
-    std::filesystem::copy_file(
-        Of(orv3::FromUtf8(ORV3CAL_CATALOGUE "/") + CString(kStore)), folder / kStore);
+    std::filesystem::copy_file(Of(orv3::FromUtf8(ORV3CAL_CATALOGUE "/") + CString(kStore)),
+                               folder / kStore);
   }
 }
 

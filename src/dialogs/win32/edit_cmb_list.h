@@ -60,7 +60,7 @@ class CEditCmbList {
   CSetText m_fnSetText;
   int m_nDpi = 96;
   HWND m_hEditor = nullptr;
-  bool m_bList = false;  // the editor is a drop-down list
+  bool m_bList = false;   // the editor is a drop-down list
   int m_nShadeFrom = -1;  // -1: no cell is shaded
   int m_nLine = -1;
   int m_nColumn = -1;
