@@ -28,6 +28,7 @@ struct COptions {
   std::string name;
   bool json = false;
   std::string svg;
+  std::string dxf;
 };
 
 [[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
@@ -139,6 +140,7 @@ void RunSection(const COptions& options) {
   const CSectionStyle& style = StyleOf(options.style);
   const CSteelJMData record = RecordOf(style, options);
   if (!options.svg.empty()) WriteFile(options.svg, SectionSvg(style, record, options.name));
+  if (!options.dxf.empty()) WriteFile(options.dxf, SectionDxf(record));
   if (options.json) {
     PrintJson(SectionJson(style, record, options.name));
   } else {
@@ -163,6 +165,10 @@ void AddSectionCommand(CLI::App& program) {
   command->add_option("--name", options->name, "The section's name, at most 30 characters");
   command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
   command->add_option("--svg", options->svg, "Write a picture drawn to scale")->type_name("FILE");
+  command
+      ->add_option("--dxf", options->dxf,
+                   "Write the outline for a drawing program: polylines with arcs, in mm")
+      ->type_name("FILE");
   command->callback([options] { RunSection(*options); });
 }
 

@@ -1,6 +1,8 @@
 #include "section_view.h"
 
+#include "framework/drawing_dxf.h"
 #include "framework/utf8.h"
+#include "sections/outline.h"
 #include "sections/section_picture.h"
 
 namespace orv3::cli {
@@ -27,6 +29,10 @@ std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
   picture.m_strTitle = style.m_szTable;
   picture.m_strName = FromUtf8(name);
   return SectionPictureSvg(picture);
+}
+
+std::string SectionDxf(const CSteelJMData& record) {
+  return PathsDxf(SectionOutline(record.m_nStyle, record.m_dSize).m_arrLoop);
 }
 
 }  // namespace orv3::cli

@@ -15,4 +15,7 @@ CSteelJMData SampleSection(const CSectionStyle& style);
 std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
                        const std::string& name);
 
+// The outline of a record for drawing programs (drawing_dxf.h). The sizes must bound a section.
+std::string SectionDxf(const CSteelJMData& record);
+
 }  // namespace orv3::cli

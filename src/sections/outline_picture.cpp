@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <utility>
 #include <vector>
 
@@ -90,6 +91,10 @@ class CPictureLayout {
     DrawSide(m_left, CDimensionSide::Left);
     for (const CSizeDimension& size : m_sizes) DrawAlone(size);
     DrawTexts();
+    if (m_picture.m_axes.m_szStrong != nullptr) {
+      DrawSlantAxis(m_picture.m_dStrongAngle, m_picture.m_axes.m_szStrong);
+      DrawSlantAxis(m_picture.m_dStrongAngle + std::numbers::pi / 2, m_picture.m_axes.m_szWeak);
+    }
     return drawing;
   }
 
@@ -151,19 +156,21 @@ class CPictureLayout {
     }
     return right;
   }
-  double LeftEdge() const {
-    double left = m_frame.left - m_left.Depth(kLabelRoom);
+  // How far the texts of leaders reach out on the left.
+  double LeaderRoom() const {
+    double left = m_frame.left;
     for (const CSizeDimension& size : m_sizes) {
       if (size.m_nSide == CDimensionSide::Leader && size.m_from.x <= size.m_to.x)
         left = std::min(left, LeaderEnd(size).x - 4 - TextWidth(SizeText(size), kTextSize));
     }
-    return left;
+    return m_frame.left - left;
   }
 
   int Footers() const { return m_picture.m_base ? 2 : 1; }
 
   void FindPage() {
-    const double left = LeftEdge() - kMargin;
+    m_dLeaderRoom = LeaderRoom();
+    const double left = m_frame.left - m_left.Depth(kLabelRoom) - m_dLeaderRoom - kMargin;
     const double right = RightEdge() + kMargin;
     const double top =
         std::max(AxisTop() + 6, m_left.HighestText()) + 2 * kLineHeight + kMargin / 2;
@@ -209,9 +216,8 @@ class CPictureLayout {
     if (m_bCentroid) {
       DrawAxisPair(CLayer::CentroidAxis, c);
       DrawCentroidMark(c);
-      const wchar_t* x = m_picture.m_base ? L"X0" : L"X";
-      const wchar_t* y = m_picture.m_base ? L"Y0" : L"Y";
-      DrawAxisLetters(CLayer::CentroidAxis, c, o, x, y, m_bBase);
+      DrawAxisLetters(CLayer::CentroidAxis, c, o, m_picture.m_axes.m_szX, m_picture.m_axes.m_szY,
+                      m_bBase);
     }
     if (m_bBase) DrawAxisLetters(CLayer::BaseAxis, o, m_bCentroid ? c : o, L"X", L"Y", false);
   }
@@ -246,6 +252,65 @@ class CPictureLayout {
                           false});
   }
 
+  // An axis through the centroid, drawn to one side as far as its letter, which stands at the first
+  // end where nothing else does, and a little to the other.
+  void DrawSlantAxis(double angle, const wchar_t* letter) {
+    const CPoint c = Page(m_picture.m_centroid);
+    const double side = std::min(m_frame.Width(), m_frame.Height());
+    CPoint u{std::cos(angle), std::sin(angle)};
+    CPoint end = c;
+    CBox box;
+    for (const double part : {0.5, -0.5, 0.42, -0.42, 0.34, -0.34, 0.58, -0.58, 0.26, -0.26, 0.2}) {
+      u = part < 0 ? CPoint{-std::cos(angle), -std::sin(angle)}
+                   : CPoint{std::cos(angle), std::sin(angle)};
+      end = {c.x + u.x * std::fabs(part) * side, c.y + u.y * std::fabs(part) * side};
+      box = LetterBox(end, u, letter);
+      if (IsFree(box)) break;
+    }
+    const double back = 0.14 * side;
+    m_pDrawing->AddLine(CLayer::CentroidAxis, {c.x - u.x * back, c.y - u.y * back}, end);
+    m_pDrawing->AddLabel({CLayer::CentroidAxis,
+                          {(box.left + box.right) / 2, (box.bottom + box.top) / 2},
+                          letter,
+                          kTextSize,
+                          CAnchor::Middle,
+                          false});
+  }
+
+  // Of a letter beyond the end of a line that runs along u.
+  static CBox LetterBox(CPoint end, CPoint u, const wchar_t* letter) {
+    const double width = TextWidth(letter, kTextSize) / 2;
+    const double away = std::hypot(width, kTextSize / 2) + 1;
+    const CPoint at{end.x + u.x * away, end.y + u.y * away};
+    return {at.x - width, at.y - kTextSize / 2, at.x + width, at.y + kTextSize / 2};
+  }
+
+  // Whether the box is beside no row of dimensions, and no text and no level or upright line drawn
+  // so far meets it.
+  bool IsFree(const CBox& box) const {
+    if (box.left < m_origin.x + m_frame.left - kAxisReach ||
+        box.right > m_origin.x + m_frame.right + kAxisReach ||
+        box.bottom < m_origin.y + m_frame.bottom - kAxisReach)
+      return false;
+    const auto meets = [&box](const CBox& other) {
+      return box.left <= other.right && other.left <= box.right && box.bottom <= other.top &&
+             other.bottom <= box.top;
+    };
+    for (const CLabel& label : m_pDrawing->Labels()) {
+      const double width = TextWidth(label.m_strText, label.m_dSize);
+      const double reach = label.m_bUpward ? label.m_dSize / 2 : width;
+      const double rise = label.m_bUpward ? width : label.m_dSize / 2;
+      if (meets({label.m_at.x - reach, label.m_at.y - rise, label.m_at.x + reach,
+                 label.m_at.y + rise}))
+        return false;
+    }
+    const auto& figures = m_pDrawing->Figures();
+    return std::none_of(figures.begin(), figures.end(), [&](const CFigure& figure) {
+      const CBox line = PathBounds(figure.m_arrPath);
+      return !figure.m_bFilled && (line.Width() == 0 || line.Height() == 0) && meets(line);
+    });
+  }
+
   void DrawCentroidMark(CPoint at) {
     m_pDrawing->AddArea(CLayer::CentroidAxis, {CirclePath(at, 3.2)});
   }
@@ -265,7 +330,7 @@ class CPictureLayout {
       d.m_bVertical = vertical;
       d.m_from = Page(size.m_from);
       d.m_to = Page(size.m_to);
-      d.m_dLine = vertical                       ? m_origin.x + m_frame.left - away
+      d.m_dLine = vertical                       ? m_origin.x + m_frame.left - m_dLeaderRoom - away
                   : where == CDimensionSide::Top ? m_origin.y + m_frame.top + away - kTextSize
                                                  : m_origin.y + m_frame.bottom - away;
       d.m_strText = SizeText(size);
@@ -392,7 +457,8 @@ class CPictureLayout {
   CSide m_top;
   CSide m_bottom;
   CSide m_left;
-  CPoint m_origin;  // of the section on the page
+  double m_dLeaderRoom = 0;  // between the section and the columns on its left
+  CPoint m_origin;           // of the section on the page
   double m_dPageWidth = 0;
   double m_dPageHeight = 0;
   CDrawing* m_pDrawing = nullptr;

@@ -37,6 +37,17 @@ class CDialogStore {
     for (const wchar_t* row : rows) ASSERT_EQ(table.AddTableItem(row, bNew), 1);
     ASSERT_EQ(table.WriteSystemJmTable(), 1);
   }
+  // Rows T0, T1, ... with heights that fall by 1 every ten rows.
+  void AddMany(const CString& name, int rows) const {
+    CDataTable table = Read(name);
+    table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
+    table.AddTableCol(L"高度", L"h(mm)", CDataTypeStruct::KVBT_DOUBLE, 0);
+    for (int i = 0; i < rows; ++i) {
+      const CString height = orv3::FormatInt((rows - 1 - i) / 10);
+      ASSERT_EQ(table.AddTableItem(L"T" + orv3::FormatInt(i) + L"," + height, 1), 1);
+    }
+    ASSERT_EQ(table.WriteSystemJmTable(), 1);
+  }
   // Section tables with their default rows.
   void AddDefault(const CString& name) const {
     CDataTable table = Read(name);

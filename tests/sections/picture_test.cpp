@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "framework/number_text.h"
+#include "picture_check.h"
 #include "sections/outline.h"
 #include "sections/section_picture.h"
 #include "svg_check.h"
@@ -153,47 +154,6 @@ TEST(Outline, TakesOddButLegalSizes) {
 
 // --- The picture
 // ----------------------------------------------------------------------------------
-
-CBox LabelBox(const CLabel& label) {
-  const double width = TextWidth(label.m_strText, label.m_dSize);
-  const double before = label.m_nAnchor == CAnchor::Left     ? 0
-                        : label.m_nAnchor == CAnchor::Middle ? width / 2
-                                                             : width;
-  const double half = label.m_dSize * 0.36;
-  const CPoint at = label.m_at;
-  return label.m_bUpward ? CBox{at.x - half, at.y - before, at.x + half, at.y - before + width}
-                         : CBox{at.x - before, at.y - half, at.x - before + width, at.y + half};
-}
-
-bool Meet(const CBox& a, const CBox& b) {
-  return a.left < b.right && b.left < a.right && a.bottom < b.top && b.bottom < a.top;
-}
-
-// No text touches another, leaves the page or is crossed by a line of a dimension or an axis.
-void CheckLegible(const CDrawing& drawing, const std::string& what) {
-  const CBox page{0, 0, drawing.Width(), drawing.Height()};
-  std::vector<CBox> boxes;
-  for (const CLabel& label : drawing.Labels()) {
-    const CBox box = LabelBox(label);
-    EXPECT_TRUE(box.left >= 2 && box.bottom >= 2 && box.right <= page.right - 2 &&
-                box.top <= page.top - 2)
-        << what << ": " << testing::PrintToString(label.m_strText.GetString());
-    for (const CBox& other : boxes)
-      EXPECT_FALSE(Meet(box, other))
-          << what << ": " << testing::PrintToString(label.m_strText.GetString());
-    boxes.push_back(box);
-  }
-  for (const CFigure& figure : drawing.Figures()) {
-    if (figure.m_bFilled || figure.m_nLayer == CLayer::Outline) continue;
-    CBox line = PathBounds(figure.m_arrPath);
-    if (line.Width() > 0 && line.Height() > 0) continue;  // a radius: placed by its angle
-    for (const CBox& box : boxes)
-      EXPECT_FALSE(line.left <= box.right && box.left <= line.right && line.bottom <= box.top &&
-                   box.bottom <= line.top)
-          << what << ": line " << line.left << " " << line.bottom << " " << line.right << " "
-          << line.top << " meets text at " << box.left << " " << box.bottom;
-  }
-}
 
 CSectionPicture Picture(int style, const CSizes& sizes, CPoint base) {
   const COutline outline = SectionOutline(style, sizes);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "catalogue/outline/row_outline.h"
+#include "catalogue/outline/row_spacing.h"
 #include "catalogue/outline/shapes.h"
 #include "sections/load_data_table.h"
 
@@ -45,6 +46,10 @@ const CPairTable* FindPair(const CString& tableName) {
   return pair == std::end(kPairs) ? nullptr : pair;
 }
 
+const wchar_t* SpacingSign(const CPairTable& pair) {
+  return pair.m_nForm == CPairForm::Cross ? L"δ(mm)" : L"a(mm)";
+}
+
 void AddMoved(COutline& to, const std::vector<CPath>& loops, double dx, double dy) {
   for (const CPath& loop : loops) to.m_arrLoop.push_back(Moved(loop, dx, dy));
 }
@@ -82,11 +87,25 @@ COutline StandingPart(const CPairTable& pair, const CString& no) {
 
 bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullptr; }
 
+bool HasPairSpacing(const CString& tableName) {
+  const CPairTable* pair = FindPair(tableName);
+  return pair != nullptr && pair->m_nForm != CPairForm::ToeToToe;
+}
+
+CDataItem WithPairSpacing(CDataItem row, int spacing) {
+  if (!HasPairSpacing(row.GetTableName()) || row.IsEmpty()) return row;
+  const wchar_t* sign = SpacingSign(*FindPair(row.GetTableName()));
+  if (row.GetCellSign(1) == sign) row.m_arrCell.RemoveAt(1);
+  const CDataTypeStruct column(L"肢距", sign, CDataTypeStruct::KVBT_INT, 0);
+  row.m_arrCell.InsertAt(1, CDataCell(column, FormatInt(spacing)));
+  return row;
+}
+
 CPair PairOf(const CDataItem& row) {
   const CPairTable* pair = FindPair(row.GetTableName());
   if (pair == nullptr || row.IsEmpty()) return {};
   const bool cross = pair->m_nForm == CPairForm::Cross;
-  const double gap = ChosenSpacing(row, cross ? L"δ(mm)" : L"a(mm)");
+  const double gap = ChosenSpacing(row, SpacingSign(*pair));
   if (gap < 0) return {};
   const COutline part = StandingPart(*pair, row[0].m_strValue.Mid(pair->m_nMarker));
   if (part.m_arrLoop.empty()) return {};

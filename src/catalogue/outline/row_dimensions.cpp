@@ -135,7 +135,7 @@ CDimensions LippedAngle(CRowSizes& s, const COutline&) {
   const double b = s.Size(L"b(mm)"), a = s.Size(L"a(mm)"), t = s.Size(L"t(mm)");
   return {{L"b", b, kBottom, {0, 0}, {b, 0}},
           {L"b", b, kLeft, {0, 0}, {0, b}},
-          {L"a", a, kRight, {b, 0}, {b, a}},
+          {L"a", a, kTop, {0, b}, {a, b}},
           {L"t", t, kBottom, {0, b / 2}, {t, b / 2}}};
 }
 
@@ -168,10 +168,12 @@ CDimensions SlopingLipZ(CRowSizes& s, const COutline& outline) {
   const double t = s.Size(L"t(mm)");
   const double web = (outline.m_dWidth - t) / 2;  // left face
   const double half = a / 2 * std::numbers::sqrt2 / 2;
-  const CPoint lip{web + b + half, half};  // middle of the lower lip's outer face
+  const double through = t * std::numbers::sqrt2 / 2;
+  const CPoint lip{web + b + half - through,
+                   half + through};  // middle of the lower one's inner face
   return {{L"b", b, kBottom, {web, 0}, {web + b, 0}},
           {L"h", h, kLeft, {web, 0}, {web, h}},
-          {L"a", a, kLeader, {lip.x + 1, lip.y - 1}, lip},
+          {L"a", a, kLeader, {lip.x - 2, lip.y + 1}, lip},
           {L"t", t, kBottom, {web, h / 4}, {web + t, h / 4}}};
 }
 
@@ -245,17 +247,21 @@ CDimensions RolledDimensions(const CDataItem& row, const COutline& outline) {
   return {};
 }
 
-// A side after a quarter turn. A thickness across a flange has no place of its own when turned.
-CDimensionSide TurnedSide(CDimensionSide side) {
+// Where a dimension stands after quarter turns. A thickness across a flange has no place of its own
+// when the flange stands up.
+CDimensionSide TurnedSide(CDimensionSide side, int quarters) {
+  const bool half = quarters == 2;
   switch (side) {
     case kTop:
+      return half ? kBottom : kLeft;
     case kBottom:
-      return kLeft;
+      return half ? kTop : kLeft;
     case kLeft:
-    case kInside:
-      return kBottom;
+      return half ? kLeft : kBottom;
     case kRight:
-      return kTop;
+      return half ? kLeft : kTop;
+    case kInside:
+      return half ? kInside : kBottom;
     case kLeader:
     case CDimensionSide::Radius:
       break;
@@ -264,6 +270,19 @@ CDimensionSide TurnedSide(CDimensionSide side) {
 }
 
 }  // namespace
+
+CPoint QuarterTurned(CPoint p, int quarters, double width, double height) {
+  switch (quarters) {
+    case 1:
+      return {height - p.y, p.x};
+    case 2:
+      return {width - p.x, height - p.y};
+    case 3:
+      return {p.y, width - p.x};
+    default:
+      return p;
+  }
+}
 
 CDimensions RowDimensions(const CDataItem& row, const COutline& outline) {
   if (outline.m_arrLoop.empty()) return {};
@@ -274,13 +293,11 @@ CDimensions RowDimensions(const CDataItem& row, const COutline& outline) {
 }
 
 CDimensions QuarterTurned(CDimensions sizes, int quarters, double width, double height) {
-  for (; quarters > 0; --quarters) {
-    for (CSizeDimension& size : sizes) {
-      size.m_from = {height - size.m_from.y, size.m_from.x};
-      size.m_to = {height - size.m_to.y, size.m_to.x};
-      size.m_nSide = TurnedSide(size.m_nSide);
-    }
-    std::swap(width, height);
+  if (quarters == 0) return sizes;
+  for (CSizeDimension& size : sizes) {
+    size.m_from = QuarterTurned(size.m_from, quarters, width, height);
+    size.m_to = QuarterTurned(size.m_to, quarters, width, height);
+    size.m_nSide = TurnedSide(size.m_nSide, quarters);
   }
   return sizes;
 }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <string_view>
 
 #include "framework/number_text.h"
 #include "tables/data_item.h"
@@ -43,9 +44,9 @@ class CRowSizes {
 };
 
 // The spacing that was chosen with a pair's row: an integer cell of this sign right after "No.",
-// mm; 0 without it.
-inline double ChosenSpacing(const CDataItem& row, const wchar_t* sign) {
-  if (row.GetItemLength() < 2 || row.GetCellSign(1) != sign) return 0;
+// mm; 0 without it and for an empty sign.
+inline double ChosenSpacing(const CDataItem& row, std::wstring_view sign) {
+  if (sign.empty() || row.GetCellSign(1) != sign) return 0;
   return ToInt(row[1].m_strValue);
 }
 

@@ -2,6 +2,7 @@
 
 #include "dialogs/model/dialog_texts.h"
 #include "platform/store_error.h"
+#include "tables/table_file_check.h"
 #include "tables/table_store.h"
 
 namespace orv3 {
@@ -22,7 +23,7 @@ const wchar_t* ReasonOf(CStoreTrouble trouble) {
     case CStoreTrouble::Damaged:
       return L"文件已损坏。";
     case CStoreTrouble::Refused:
-      return L"数据不符合截面库文件的格式。";
+      return L"数据超出截面库文件的格式，没有保存。";
     case CStoreTrouble::Failed:
       return L"读写失败，原文件没有改变。请检查磁盘空间和文件夹权限。";
     case CStoreTrouble::None:
@@ -52,6 +53,13 @@ bool IsReadFailure() {
   const CStoreTrouble trouble = LastStoreError().m_nTrouble;
   return trouble != CStoreTrouble::None && trouble != CStoreTrouble::NotFound &&
          trouble != CStoreTrouble::NoTable;
+}
+
+bool FitsFile(const CDataTable& table, const CString& path, bool all) {
+  const std::vector<CSaveFault> faults = SaveFaults(table, path, all);
+  ClearStoreError();  // of a file that is not there yet
+  if (!faults.empty()) SetStoreError(CStoreTrouble::Refused, path, faults[0].m_strText);
+  return faults.empty();
 }
 
 CProgramPathScope::CProgramPathScope(const CString& path)

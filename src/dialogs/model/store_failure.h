@@ -4,6 +4,8 @@
 #include "dialogs/model/dialog_user.h"
 #include "framework/cstring.h"
 
+class CDataTable;
+
 namespace orv3 {
 
 // `what` ("数据保存失败："), the reason in Chinese and, on a line of its own, the details.
@@ -12,6 +14,10 @@ void TellSaveFailed(CDialogUser& user);
 void TellReadFailed(CDialogUser& user);
 // A table that is not there, or not yet, is no failure of reading.
 bool IsReadFailure();
+// Whether a file holds everything of a table that is about to be saved there (its unsaved rows, or
+// all of them). If not, that is the trouble of which StoreFailureText tells: the format would cut
+// what is too long, up to the list of the table's own rows.
+bool FitsFile(const CDataTable& table, const CString& path, bool all);
 
 // While it lives, `path` is the program's data directory, where rows are looked up; an empty one
 // leaves it alone.

@@ -58,10 +58,12 @@ CDataTable CTableSession::Named(const CString& name) const {
 
 void CTableSession::Clear() { m_table = CDataTable(); }
 
-void CTableSession::Load(const CString& name, CDialogUser& user) {
+bool CTableSession::Load(const CString& name, CDialogUser& user) {
   CDataTable table = Named(name);
-  if (!table.GetSystemJmTable() && IsReadFailure()) TellReadFailed(user);
+  const bool failed = !table.GetSystemJmTable() && IsReadFailure();
   m_table = table;
+  if (failed) TellReadFailed(user);
+  return !failed;
 }
 
 void CTableSession::MakeLatticeTable(CDialogUser& user) {
@@ -113,7 +115,9 @@ bool CTableSession::ChangeLocked(const CChange& change) {
   }
   AlignIndices(fresh);
   if (!change(fresh)) return false;
-  if (!fresh.WriteSystemJmTable()) return SayFailed(texts::kSaveFailed);
+  if (!FitsFile(fresh, StorePath(), false) || !fresh.WriteSystemJmTable()) {
+    return SayFailed(texts::kSaveFailed);
+  }
   m_table = fresh;
   return true;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "dialogs/model/store_failure.h"
 #include "dialogs/model/store_transfer.h"
 #include "platform/file_system.h"
 #include "platform/store_error.h"
@@ -22,6 +23,11 @@ bool SameRows(const CDataTable& a, const CDataTable& b) {
                     [](const CDataItem& x, const CDataItem& y) {
                       return (x.m_nModifyType < 0) == (y.m_nModifyType < 0) && SameValues(x, y);
                     });
+}
+
+bool HasLive(const CDataTable& table, int index) {
+  const int position = table.GetTableIndex(index);
+  return position >= 0 && table[position].m_nModifyType >= 0;
 }
 
 void RemoveMissingRows(CDataTable& target, const CDataTable& wanted) {
@@ -100,7 +106,9 @@ bool CUserStore::WriteNew(const CDataTable& table, CUserFile& file) const {
     made[i].m_nModifyType = made[i].m_nModifyType > 2 ? 3 : 1;
   }
   const CString name = NewTableFileName(Folder());
-  if (!made.WriteUserJmTable(name.GetString())) return false;
+  if (!FitsFile(made, Folder() + name, true) || !made.WriteUserJmTable(name.GetString())) {
+    return false;
+  }
   file = {name, std::make_shared<CDataTable>(made), true};
   return true;
 }
@@ -110,14 +118,17 @@ bool CUserStore::WriteRows(const CDataTable& table, CUserFile& file, bool& other
   RemoveMissingRows(target, table);
   for (const CDataItem& row : table.m_arrItem) {
     const int position =
-        file.m_table->GetTableIndex(row.m_nIndex) >= 0 ? target.GetTableIndex(row.m_nIndex) : -1;
+        HasLive(*file.m_table, row.m_nIndex) ? target.GetTableIndex(row.m_nIndex) : -1;
     if (position >= 0) {
       ChangeRow(target, position, row);
     } else {
       AppendRow(target, row);
     }
   }
-  if (!target.WriteUserJmTable(file.m_strName.GetString())) return false;
+  if (!FitsFile(target, Folder() + file.m_strName, false) ||
+      !target.WriteUserJmTable(file.m_strName.GetString())) {
+    return false;
+  }
   others = others || !target.GetTakenInIndex().IsEmpty();
   file.m_table = std::make_shared<CDataTable>(target);
   return true;

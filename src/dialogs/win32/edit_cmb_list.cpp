@@ -28,9 +28,9 @@ void CEditCmbList::Attach(HWND list, const CEditGridModel& grid, CSetText setTex
   SetUpList(list);
   SetWindowSubclass(list, ListProc, kSubclass, reinterpret_cast<DWORD_PTR>(this));
   for (int column = 0; column < grid.ColumnCount(); ++column) {
-    InsertListColumn(list, column, grid.ColumnTitle(column),
-                     ScaleToDpi(grid.ColumnWidth(column), dpi));
+    InsertListColumn(list, column, grid.ColumnTitle(column), 0);
   }
+  FitColumns();
   Refresh();
 }
 
@@ -52,8 +52,21 @@ void CEditCmbList::Refresh() {
 void CEditCmbList::SetDpi(int dpi) {
   EndEdit(true);
   m_nDpi = dpi;
+  FitColumns();
+}
+
+// The last column takes what the others leave it when there is no room for its own width.
+void CEditCmbList::FitColumns() {
+  RECT client{};
+  GetWindowRect(m_hList, &client);
+  int room = static_cast<int>(client.right - client.left) - GetSystemMetrics(SM_CXVSCROLL) -
+             2 * GetSystemMetrics(SM_CXEDGE);
   for (int column = 0; column < m_pGrid->ColumnCount(); ++column) {
-    ListView_SetColumnWidth(m_hList, column, ScaleToDpi(m_pGrid->ColumnWidth(column), dpi));
+    const int own = ScaleToDpi(m_pGrid->ColumnWidth(column), m_nDpi);
+    const bool last = column == m_pGrid->ColumnCount() - 1;
+    const int width = last && room > own / 2 ? std::min(own, room) : own;
+    ListView_SetColumnWidth(m_hList, column, width);
+    room -= width;
   }
 }
 
@@ -169,15 +182,15 @@ LRESULT CEditCmbList::OnCustomDraw(NMHDR& header) const {
   auto& draw = reinterpret_cast<NMLVCUSTOMDRAW&>(header);
   switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
-      return CDRF_NOTIFYITEMDRAW;
+      return m_nShadeFrom >= 0 ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
     case CDDS_ITEMPREPAINT:
       return CDRF_NOTIFYSUBITEMDRAW;
-    case CDDS_ITEMPREPAINT | CDDS_SUBITEM:
-      draw.clrText = GetSysColor(
-          draw.iSubItem == 0 || CanEdit(static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem)
-              ? COLOR_WINDOWTEXT
-              : COLOR_GRAYTEXT);
+    case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
+      const int line = static_cast<int>(draw.nmcd.dwItemSpec);
+      const bool shaded = draw.iSubItem >= m_nShadeFrom && !CanEdit(line, draw.iSubItem);
+      draw.clrTextBk = GetSysColor(shaded ? COLOR_BTNFACE : COLOR_WINDOW);
       return CDRF_DODEFAULT;
+    }
     default:
       return CDRF_DODEFAULT;
   }

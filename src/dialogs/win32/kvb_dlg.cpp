@@ -36,6 +36,11 @@ SIZE FrameSize(HWND window, SIZE client) {
           client.cy + (outer.bottom - outer.top) - inner.bottom};
 }
 
+// Pictures stand on white, as the sketches are drawn.
+bool IsPicture(HWND control) {
+  return (GetWindowLongPtrW(control, GWL_STYLE) & SS_TYPEMASK) == SS_BITMAP;
+}
+
 }  // namespace
 
 INT_PTR CKvbDlg::DoModal(HWND owner) {
@@ -124,6 +129,10 @@ INT_PTR CKvbDlg::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case kDpiChanged:
       ChangeDpi(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return TRUE;
+    case WM_CTLCOLORSTATIC:
+      return IsPicture(reinterpret_cast<HWND>(lParam))
+                 ? reinterpret_cast<INT_PTR>(GetStockObject(WHITE_BRUSH))
+                 : FALSE;
     case WM_HELP:
       OnHelp();
       return TRUE;

@@ -6,7 +6,7 @@ namespace orv3 {
 
 void SetUpList(HWND list, DWORD more) {
   ListView_SetExtendedListViewStyle(
-      list, LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER | more);
+      list, LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP | more);
 }
 
 void InsertListColumn(HWND list, int column, const CString& title, int width, bool right) {

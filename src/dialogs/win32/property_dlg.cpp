@@ -27,10 +27,11 @@ void CPropertyDlg::OnInitDialog() {
   m_grid.Attach(
       Control(IDC_PROPERTY_GRID), m_pModel->Grid(),
       [this](int line, int, const CString& text) { m_pModel->SetValue(line, text); }, Dpi());
+  m_grid.ShadeFrom(m_pModel->HasOk() ? 1 : -1);
   m_sketch.Show(Control(IDC_PROPERTY_SKETCH), m_pModel->PictureResource(), Dpi());
 
   Hold(IDC_PROPERTY_GRID, HoldAll);
-  for (const int id : {IDC_PROPERTY_SKETCH}) Hold(id, HoldTop | HoldRight);
+  Hold(IDC_PROPERTY_SKETCH, HoldTop | HoldRight);
   for (const int id : {IDOK, IDCANCEL, IDC_HELP_BUTTON}) Hold(id, HoldRight | HoldBottom);
   Remember(L"Property");
   Focus(IDC_PROPERTY_GRID);

@@ -1,0 +1,99 @@
+// orv3browser [FOLDER]: opens the section browser and prints the chosen row, UTF-8, one "key=value"
+// a line: "table", then each column by its sign.
+//
+// FOLDER holds the section stores. Without it the user's own copy of the shipped store is opened,
+// in the folder Orv3Cal of the user's local application data; it is made at the first start.
+//
+// Exit status: 0 a row was chosen, 1 none, 2 misuse, 3 trouble with files.
+#include <windows.h>
+
+#include <cstdio>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "framework/utf8.h"
+#include "module/message_box.h"
+#include "module/orv3cal_c.h"
+#include "platform/command_line.h"
+#include "platform/file_system.h"
+#include "platform/whole_file.h"
+#include "tables/table_store.h"
+
+namespace {
+
+using namespace orv3;
+
+constexpr int kEveryTable = 0x03000FFF;
+constexpr int kRoom = 4096;  // holds any row
+
+enum CExit : int { kChosen = 0, kNone = 1, kMisuse = 2, kFileTrouble = 3 };
+
+[[noreturn]] void Fail(const CString& text) { throw std::runtime_error(ToUtf8(text)); }
+
+CString ProgramFolder() {
+  std::wstring path(32768, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return CString(path).Left(CString(path).ReverseFind(L'\\') + 1);
+}
+
+// The user's folder, with a store in it.
+CString UserFolder() {
+  std::wstring local(32768, L'\0');
+  local.resize(
+      GetEnvironmentVariableW(L"LOCALAPPDATA", local.data(), static_cast<DWORD>(local.size())));
+  if (local.empty()) Fail(L"LOCALAPPDATA is not set; give the folder of the section stores");
+  const CString folder = CString(local) + L"\\Orv3Cal\\";
+  const CString store = folder + kSystemStore;
+  CFileStamp stamp;
+  if (Files().Stamp(store, stamp) == CFileError::None) return folder;
+
+  const CString shipped = ProgramFolder() + L"..\\share\\orv3cal\\" + kSystemStore;
+  std::string bytes;
+  if (ReadWholeFile(shipped, bytes) != CFileError::None)
+    Fail(shipped + L" cannot be read; give the folder of the section stores");
+  if (!Files().MakeFolder(folder) || WriteWholeFile(store, bytes) != CFileError::None)
+    Fail(store + L" cannot be written; give a folder of section stores that can");
+  return folder;
+}
+
+const char16_t* Units(const CString& text) {
+  return reinterpret_cast<const char16_t*>(text.GetString());
+}
+
+// The text of a function of the C interface; trouble when it fails.
+template <class FUNCTION, class... ARGUMENTS>
+CString TextOf(FUNCTION function, ARGUMENTS... arguments) {
+  std::vector<char16_t> room(kRoom);
+  if (function(arguments..., room.data(), kRoom) < 0) {
+    orv3_last_error(room.data(), kRoom);
+    Fail(reinterpret_cast<const wchar_t*>(room.data()));
+  }
+  return reinterpret_cast<const wchar_t*>(room.data());
+}
+
+int Browse(const CString& folder) {
+  if (orv3_open_data(Units(folder)) < 0) Fail(TextOf(orv3_last_error));
+  const CString row = TextOf(orv3_browse, kEveryTable);
+  if (row.IsEmpty()) return kNone;
+  std::printf("%s\n", ToUtf8(row).c_str());
+  return kChosen;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  UseUtf8Console();
+  const std::vector<std::string> arguments = CommandLineUtf8(argc, argv);
+  if (arguments.size() > 2 || (arguments.size() == 2 && arguments[1].starts_with("-"))) {
+    std::fprintf(stderr, "usage: orv3browser [FOLDER]   FOLDER: that of the section stores\n");
+    return kMisuse;
+  }
+  UseMessageBoxes();
+  try {
+    return Browse(arguments.size() == 2 ? FromUtf8(arguments[1]) : UserFolder());
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "orv3browser: %s\n", error.what());
+    return kFileTrouble;
+  }
+}

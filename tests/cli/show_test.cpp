@@ -1,0 +1,240 @@
+// orv3cal show and the outlines for drawing programs, run as a user runs them.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+#include <utility>
+#include <vector>
+
+#include "catalogue/lattice/steel_ge_gou.h"
+#include "cli/run_program.h"
+#include "framework/utf8.h"
+#include "sections/load_data_table.h"
+#include "svg_check.h"
+#include "tables/data_table.h"
+
+namespace {
+
+using Json = nlohmann::json;
+
+// The catalogue of the build, whatever the machine's user keeps.
+CRunResult Show(const std::string& arguments) {
+  return RunProgram("show " + arguments + " --data \"" ORV3CAL_CATALOGUE "\"");
+}
+
+Json ShowJson(const std::string& arguments) {
+  const CRunResult run = Show(arguments + " --json");
+  EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
+  return run.m_nExit == 0 ? Json::parse(run.m_strOut) : Json();
+}
+
+double Cell(const Json& row, const std::string& sign) {
+  for (std::size_t i = 0; i < row["columns"].size(); ++i) {
+    if (row["columns"][i]["sign"] == sign) return std::stod(row["cells"][i].get<std::string>());
+  }
+  ADD_FAILURE() << sign << " is no column";
+  return NAN;
+}
+
+// One section of every table: figures of the standards (GB/T 706, 707, 9787, 9788 of 1988, GB/T
+// 11263 of 1998, GB 50018-2002 Appendix B, the light series of the handbooks); of welded sections,
+// round tubes and pairs by hand from their plates or parts.
+const struct CSectionCase {
+  const char* table;
+  const char* no;
+  double area;  // cm^2
+  std::vector<std::pair<const char*, double>> figures;
+} kSections[] = {
+    {"热轧等边角钢",
+     "L100X10",
+     19.261,
+     {{"zo(cm)", 2.84}, {"Ix(cm^4)", 179.51}, {"Iyo(cm^4)", 74.35}}},
+    {"热轧不等边角钢",
+     "L100X63X8",
+     12.584,
+     {{"xo(cm)", 1.50}, {"Ix(cm^4)", 127.37}, {"tga", 0.391}}},
+    {"热轧宽翼缘H型钢",
+     "HW200X200",
+     64.28,
+     {{"Ix(cm^4)", 4770}, {"Wx(cm^3)", 477}, {"iy(cm)", 4.99}}},
+    {"热轧普通焊接H型钢", "300X200X6X10", 56.8, {{"Ix(cm^4)", 9510.9}, {"Iy(cm^4)", 1333.8}}},
+    {"热轧普通槽钢", "[20a", 28.837, {{"Ix(cm^4)", 1780}, {"Iy(cm^4)", 128}, {"zo(cm)", 2.01}}},
+    {"热轧普通工字钢", "I20a", 35.578, {{"Ix(cm^4)", 2370}, {"Wx(cm^3)", 237}, {"Iy(cm^4)", 158}}},
+    {"热轧轻型焊接H型钢", "100X50X3.5X5", 8.15, {{"Ix(cm^4)", 134.18}}},
+    {"热轧窄翼缘H型钢", "HN300X150", 47.53, {{"Ix(cm^4)", 7350}, {"Iy(cm^4)", 508}}},
+    {"热轧轻型槽钢", "[20", 23.4, {{"Ix(cm^4)", 1520}, {"zo(cm)", 2.07}}},
+    {"热轧轻型工字钢", "I20", 26.8, {{"Ix(cm^4)", 1840}, {"Iy(cm^4)", 115}}},
+    {"冷弯薄壁等边角钢", "L50X2.5", 2.37, {{"Ixo(cm^4)", 5.93}, {"yo(cm)", 1.381}}},
+    {"冷弯薄壁卷边槽钢", "C160X60X20X2.0", 6.07, {{"Ix(cm^4)", 236.59}, {"xo(cm)", 1.85}}},
+    {"冷弯薄壁槽钢", "[120X40X2.5", 4.74, {{"Ix(cm^4)", 95.92}, {"Iy(cm^4)", 6.72}}},
+    {"冷弯卷边等边角钢", "L60X20X2.0", 2.95, {{"Ixo(cm^4)", 13.83}, {"yo(cm)", 2.026}}},
+    {"冷弯薄壁卷边Z型钢", "Z140X50X20X2.5", 6.48, {{"Ix1(cm^4)", 186.77}, {"Ix1y1(cm^4)", 60.75}}},
+    {"冷弯薄壁斜卷边Z型钢",
+     "Z160X60X20X2.5",
+     7.676,
+     {{"Ix1(cm^4)", 303.09}, {"Iy1(cm^4)", 73.935}}},
+    {"冷弯薄壁方钢管", "80X2.5", 7.48, {{"Ix(cm^4)", 73.40}, {"ix(cm)", 3.13}}},
+    {"冷弯焊接薄壁圆钢管", "108X2.5", 8.29, {{"I(cm^4)", 115.4}, {"i(cm)", 3.73}}},
+    {"热轧等边角钢组合", "2L100X10", 38.52, {{"ix(cm)", 3.05}, {"iy10(cm)", 4.52}}},
+    {"热轧不等边角钢长边组合", "2L100X63X8", 25.17, {{"ix(cm)", 3.18}, {"iy10(cm)", 2.67}}},
+    {"热轧不等边角钢短边组合", "2L100X63X8", 25.17, {{"ix(cm)", 1.77}, {"iy0(cm)", 4.60}}},
+    {"热轧等边角钢十字组合", "2L100X10", 38.52, {{"ix0(cm)", 4.47}, {"iy1(cm)", 3.84}}},
+    {"热轧普通槽钢][组合", "2][[20a", 57.67, {{"ix(cm)", 7.86}, {"iy0(cm)", 2.91}}},
+    {"热轧普通槽钢[]组合", "2[][20a", 57.67, {{"ix(cm)", 7.86}, {"iy(cm)", 5.69}}},
+    {"热轧轻型槽钢][组合", "2][[20", 46.8, {{"ix(cm)", 8.07}, {"iy0(cm)", 3.02}}},
+    {"热轧轻型槽钢[]组合", "2[][20", 46.8, {{"ix(cm)", 8.07}, {"iy(cm)", 5.95}}},
+    {"剖分T型钢", "TW100X200", 32.14, {{"Iy(cm^4)", 801}, {"Cx(cm)", 1.73}}},
+};
+
+TEST(ShowCommand, GivesThePublishedValuesOfEveryTable) {
+  EXPECT_EQ(std::size(kSections), 27U);
+  for (const CSectionCase& c : kSections) {
+    SCOPED_TRACE(std::string(c.table) + " " + c.no);
+    const Json row = ShowJson(std::string(c.table) + " " + c.no);
+    ASSERT_TRUE(row.is_object());
+    EXPECT_EQ(row["table"], c.table);
+    EXPECT_EQ(row["no"], c.no);
+    EXPECT_EQ(row["cells"].size(), row["columns"].size());
+    EXPECT_NEAR(Cell(row, "A(cm^2)"), c.area, 0.0011 * c.area);
+    EXPECT_NEAR(row["geometry"]["area"], 100 * c.area, 0.11 * c.area);
+    for (const auto& [sign, value] : c.figures) {
+      EXPECT_NEAR(Cell(row, sign), value, 0.0035 * value) << sign;
+    }
+  }
+}
+
+TEST(ShowCommand, GivesTheGeometryInMillimetres) {
+  const Json row = ShowJson("热轧普通工字钢 I20a");
+  EXPECT_EQ(row["columns"][0],
+            Json({{"sign", "No."}, {"name", "型号"}, {"type", "text"}, {"key", true}}));
+  const Json& g = row["geometry"];
+  EXPECT_EQ(g.size(), 20U);
+  EXPECT_EQ(g["width"], 100);
+  EXPECT_EQ(g["height"], 200);
+  EXPECT_EQ(g["xc"], 50);
+  EXPECT_NEAR(g["Ix"], 23.7e6, 0.02e6);
+  EXPECT_NEAR(g["iy"], 21.2, 0.11);
+  EXPECT_NEAR(g["Wxo1"], 237e3, 300);
+  EXPECT_EQ(g["tmax"], 11.4);
+  EXPECT_EQ(g["symX"], true);
+}
+
+// Turned by 90 degrees counter-clockwise, a channel's back lies below.
+TEST(ShowCommand, TurnsTheSection) {
+  const Json upright = ShowJson("热轧普通槽钢 [20a")["geometry"];
+  const Json turned = ShowJson("热轧普通槽钢 [20a --turn 90")["geometry"];
+  const std::pair<const char*, const char*> same[] = {
+      {"width", "height"}, {"height", "width"}, {"yc", "xc"},     {"Ix", "Iy"},
+      {"Iy", "Ix"},        {"ix", "iy"},        {"Wxo1", "WyoR"}, {"Wxo2", "WyoL"},
+      {"WyoL", "Wxo1"},    {"WyoR", "Wxo2"},    {"area", "area"}, {"symY", "symX"}};
+  for (const auto& [now, before] : same) EXPECT_EQ(turned[now], upright[before]) << now;
+  EXPECT_EQ(turned["xc"], 100);
+  EXPECT_TRUE(turned["Sxo"].is_null());
+}
+
+TEST(ShowCommand, SetsAPairApart) {
+  const Json closed = ShowJson("热轧等边角钢组合 2L100X10");
+  const Json apart = ShowJson("热轧等边角钢组合 2L100X10 --gap 10");
+  EXPECT_EQ(closed["geometry"]["width"], 200);
+  EXPECT_EQ(apart["geometry"]["width"], 210);
+  EXPECT_EQ(apart["columns"][1]["sign"], "a(mm)");
+  EXPECT_EQ(apart["columns"][1]["type"], "int");
+  EXPECT_EQ(apart["cells"][1], "10");
+  EXPECT_NEAR(apart["geometry"]["iy"], 45.2, 0.05);
+  EXPECT_EQ(ShowJson("热轧等边角钢十字组合 2L100X10 --gap 8")["columns"][1]["sign"], "δ(mm)");
+}
+
+TEST(ShowCommand, AlignsItsColumns) {
+  const std::string text = Show("热轧普通工字钢 I20a").m_strOut;
+  EXPECT_NE(text.find("截面面积         A            35.578  cm²\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("外接矩形高       height          200  mm\n"), std::string::npos) << text;
+}
+
+TEST(ShowCommand, WritesPictureAndOutline) {
+  const std::string svg = OwnFile("c.svg");
+  const std::string dxf = OwnFile("c.dxf");
+  const CRunResult run = Show("热轧普通槽钢 [20a --turn 180 --svg " + svg + " --dxf " + dxf);
+  EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
+  const std::string picture = FileBytes(svg);
+  CheckSvg(picture);
+  EXPECT_NE(picture.find("[20a"), std::string::npos);
+  EXPECT_NE(picture.find("tw = 7"), std::string::npos);
+  EXPECT_NE(picture.find("r1 = 5.5"), std::string::npos);
+  const std::string outline = FileBytes(dxf);
+  EXPECT_NE(outline.find("AC1015"), std::string::npos);
+  EXPECT_NE(outline.find("LWPOLYLINE"), std::string::npos);
+  std::remove(svg.c_str());
+  std::remove(dxf.c_str());
+}
+
+// A store of the user's own; limbs of its columns are looked up in the catalogue.
+TEST(ShowCommand, ShowsWhatAStoreHolds) {
+  const std::string store = OwnFile("own.KDB");
+  CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
+  for (const wchar_t* name : {L"自定义Z形截面", L"双肢格构柱"}) {
+    CSteelItemGeGou row{CDataItem()};
+    row.m_strTableName = name;
+    ASSERT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
+    row.CalSteelJMGeGou();  // of a column
+    CDataTable table;
+    table.SetTableName(name);
+    ASSERT_EQ(table.setTableTitle(row), 1);
+    ASSERT_EQ(table.AddTableItem(row, 1), 1);
+    ASSERT_EQ(table.WriteTable(orv3::FromUtf8(store), 0, 1), 1);
+  }
+  CLoadDataTable::SetOrvoPrgPath(L"");
+  const Json z = ShowJson("自定义Z形截面 Z180X70X20 --store " + store)["geometry"];
+  EXPECT_EQ(z["area"], 20 * 400 + 2 * 20 * 50);
+  EXPECT_EQ(z["width"], 120);
+  const std::string svg = OwnFile("column.svg");
+  const Json g = ShowJson("双肢格构柱 G2[10X800 --store " + store + " --svg " + svg)["geometry"];
+  EXPECT_NEAR(g["area"], 2 * 1274.8, 1);  // [10 of GB/T 707
+  EXPECT_NEAR(g["Ix"], 2 * 1274.8 * 400 * 400 + 2 * 25.6e4, 1e6);
+  EXPECT_NE(FileBytes(svg).find("k = 800"), std::string::npos);
+  std::remove(svg.c_str());
+  std::remove(store.c_str());
+}
+
+TEST(SectionCommand, WritesAnOutline) {
+  const std::string dxf = OwnFile("tube.dxf");
+  EXPECT_EQ(RunProgram("section tube 50 45 --dxf " + dxf).m_nExit, 0);
+  const std::string outline = FileBytes(dxf);
+  int loops = 0;
+  for (std::size_t at = 0; (at = outline.find("\r\nLWPOLYLINE\r\n", at)) != std::string::npos; ++at)
+    ++loops;
+  EXPECT_EQ(loops, 2) << "the rim and the hole";
+  std::remove(dxf.c_str());
+}
+
+TEST(ShowCommand, RefusesInOneLineThatNamesTheFault) {
+  const struct {
+    const char* arguments;
+    std::vector<std::string> names;
+    int exit = 2;
+  } cases[] = {
+      {"热轧普通工字钢 I20", {"NO", "I20", "I20a, I20b"}},
+      {"热轧工字钢 I20a", {"TABLE", "热轧工字钢", "热轧普通工字钢"}},
+      {"热轧普通工字钢 I20a --turn 45", {"--turn", "45", "270"}},
+      {"热轧普通工字钢 I20a --gap 10", {"--gap", "热轧普通工字钢", "pairs"}},
+      {"热轧普通槽钢[]组合 2[][20a --gap 10", {"--gap"}},
+      {"热轧等边角钢组合 2L100X10 --gap 2.5", {"--gap", "2.5"}},
+      {"热轧等边角钢组合 2L100X10 --gap -1", {"--gap"}},
+      {"热轧普通工字钢", {"NO", "required"}},
+      {"热轧普通工字钢 I20a --store no_such.KDB", {"no_such.KDB"}, 3},
+      {"热轧普通工字钢 I20a --dxf no_such_folder/x.dxf", {"no_such_folder/x.dxf"}, 3},
+  };
+  for (const auto& c : cases) {
+    const CRunResult run = Show(c.arguments);
+    EXPECT_EQ(run.m_nExit, c.exit) << c.arguments;
+    EXPECT_EQ(run.m_strOut, "") << c.arguments;
+    EXPECT_EQ(std::count(run.m_strError.begin(), run.m_strError.end(), '\n'), 1) << run.m_strError;
+    for (const std::string& name : c.names) {
+      EXPECT_NE(run.m_strError.find(name), std::string::npos) << name << " in " << run.m_strError;
+    }
+  }
+}
+
+}  // namespace
