@@ -106,11 +106,11 @@ CDataTable TableOf(int style, std::initializer_list<const wchar_t*> rows) {
 class RolledFile : public testing::Test {
  protected:
   // The program path is a folder without stores unless a test puts one there.
-  RolledFile() {
+  void SetUp() override {
     orv3::SetAnsiCodePage(936);
     CLoadDataTable::SetOrvoPrgPath(m_folder.Path());
   }
-  ~RolledFile() override {
+  void TearDown() override {
     CLoadDataTable::SetOrvoPrgPath(L"");
     orv3::SetAnsiCodePage(0);
   }
@@ -323,11 +323,11 @@ TEST(RolledRecord, IsFilledFromARow) {
 
 class Catalogue : public testing::Test {
  protected:
-  Catalogue() {
+  void SetUp() override {
     orv3::SetAnsiCodePage(936);
     CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
   }
-  ~Catalogue() override {
+  void TearDown() override {
     CLoadDataTable::SetOrvoPrgPath(L"");
     orv3::SetAnsiCodePage(0);
   }

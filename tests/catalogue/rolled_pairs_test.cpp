@@ -112,11 +112,11 @@ constexpr double kShare = 0.012;
 
 class RolledPairs : public testing::TestWithParam<CPairCase> {
  protected:
-  RolledPairs() {
+  void SetUp() override {
     orv3::SetAnsiCodePage(936);
     CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
   }
-  ~RolledPairs() override {
+  void TearDown() override {
     CLoadDataTable::SetOrvoPrgPath(L"");
     orv3::SetAnsiCodePage(0);
   }
