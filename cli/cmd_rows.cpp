@@ -105,6 +105,7 @@ CDataTable Selected(const CDataTable& all, const COptions& options) {
 
 std::vector<std::string> Signs(const CDataTable& table) {
   std::vector<std::string> signs;
+  signs.reserve(static_cast<std::size_t>(table.GetTableColNum()));
   for (int i = 0; i < table.GetTableColNum(); ++i)
     signs.push_back(ToUtf8(table.m_Title[i].m_strSign));
   return signs;
