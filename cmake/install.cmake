@@ -6,6 +6,11 @@ install(TARGETS orv3cal EXPORT orv3calTargets)
 install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orv3cal
         FILES_MATCHING PATTERN "*.h"
         PATTERN "posix" EXCLUDE PATTERN "win32" EXCLUDE PATTERN "module" EXCLUDE)
+# The C interface: a header without any other, and on systems without the DLL a library of its own.
+install(FILES src/module/orv3cal_c.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orv3cal)
+if(TARGET orv3cal_c)
+  install(TARGETS orv3cal_c)
+endif()
 if(TARGET orv3cal_dll)
   install(TARGETS orv3cal_dll)
   install(FILES ${ORV3CAL_RUNTIME_DLLS} DESTINATION ${CMAKE_INSTALL_BINDIR})

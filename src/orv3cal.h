@@ -3,6 +3,8 @@
 
 #include "catalogue/code_tables/grids.h"
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/import/csv_table.h"
+#include "catalogue/import/section_rows.h"
 #include "catalogue/import/table_import.h"
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/lattice_picture.h"

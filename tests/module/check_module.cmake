@@ -1,3 +1,4 @@
+cmake_minimum_required(VERSION 3.25)
 # What the library needs beside it, and what it shows: -DDLL=, -DOBJDUMP=, -DSOURCE=, -DRUNTIME= (the
 # compiler's files that ship with it).
 execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE dump RESULT_VARIABLE result)

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "orv3cal.h"
+#include "platform/temp_folder.h"
+#include "win32/dialog_driver.h"
 
 namespace {
 
@@ -37,10 +39,22 @@ TEST(CModuleClasses, Compute) {
   EXPECT_EQ(strength, 205);
   EXPECT_EQ(CTableSearch::g_sub1[0][0], 215);  // a table is data of the library
   EXPECT_TRUE(CKvbMath::EqualTo(1.0, 1.0 + 1e-7));
+  AngleHanFData fillet(0, 0, 0, 5.6, 240, 100, 0, 0, 1.22);
+  fillet.CalHFLw(8, 90);
+  EXPECT_NEAR(fillet.m_dHe, 0.7 * 8, 1e-12);
   NormalBoltData bolts;
-  AngleHanFData fillet;
-  WQWeldingData butt;
-  EXPECT_GE(sizeof bolts + sizeof fillet + sizeof butt, 3U);
+  EXPECT_EQ(bolts.BoltYanSuan(), 0);  // nothing is given yet
+  EXPECT_EQ(WQWeldingData(WQWeldingData()).m_dLw, WQWeldingData().m_dLw);
+}
+
+TEST(CModuleClasses, OpenTheUserTables) {
+  const CTempFolder folder;
+  CDataItem row;
+  int result = -1;
+  Drive([&] { result = CLoadDataTable::VisitSelJMDlg(folder.Path(), row, 0x02000FFF); },
+        [] { CDialogProbe::WaitFor(L"用户截面库").Close(); });
+  EXPECT_EQ(result, 0);
+  EXPECT_EQ(row.IsEmpty(), 1);
 }
 
 }  // namespace

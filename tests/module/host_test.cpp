@@ -4,16 +4,23 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
+#include <functional>
 #include <string>
+#include <thread>
 #include <vector>
 
+#include "dialogs/win32/resource.h"
 #include "framework/message.h"
+#include "framework/utf8.h"
 #include "module/host_services.h"
 #include "module/orv3cal_c.h"
 #include "platform/temp_folder.h"
 #include "tables/data_table.h"
 #include "tables/sketch.h"
+#include "tables/table_store.h"
+#include "win32/dialog_driver.h"
 
 // A host's help, which the library finds among the program's exports.
 namespace {
@@ -88,6 +95,12 @@ class CHost : public testing::Test {
     table.AddTableCol(L"面积", L"A(cm^2)", CDataTypeStruct::KVBT_DOUBLE, 0);
     ASSERT_EQ(table.AddTableItem(L"I20a,35.5", 1), 1);
     ASSERT_EQ(table.WriteSystemJmTable(), 1);
+
+    // The dialogs write into their store.
+    m_catalogue = m_folder.Path(L"catalogue/");
+    ASSERT_TRUE(orv3::SystemFiles().MakeFolder(m_catalogue));
+    const CString shipped = orv3::FromUtf8(ORV3CAL_CATALOGUE "/") + orv3::kSystemStore;
+    PutBytes(m_catalogue + orv3::kSystemStore, Bytes(shipped));
   }
 
   // One day of a host's life: everything but a dialog.
@@ -115,24 +128,78 @@ class CHost : public testing::Test {
     EXPECT_EQ(std::u16string(results.data(), 7), u"pass=1\n");
   }
 
+  // Opens the browser and from it the dialogs that it opens, and chooses a row.
+  void UseDialogs() {
+    const CLibrary library;
+    ASSERT_NE(library.Get(), nullptr);
+    const auto open = Entry<decltype(orv3_open_data)>(library.Get(), "orv3_open_data");
+    const auto browse = Entry<decltype(orv3_browse)>(library.Get(), "orv3_browse");
+    ASSERT_TRUE(open != nullptr && browse != nullptr);
+    ASSERT_EQ(open(Units(m_catalogue)), 0);
+    std::array<char16_t, 4096> row{};
+    int length = -1;
+    Drive([&] { length = browse(0x03000FFF, row.data(), row.size()); },
+          [] {
+            const auto browser = CDialogProbe::WaitFor(L"钢结构截面特性数据库");
+            browser.SelectNode(IDC_TREE, L"热轧等边角钢组合");
+            const std::wstring number = browser.Column(IDC_LIST, 0).at(1);
+            browser.SelectItem(IDC_LIST, number);
+            browser.DoubleClick(IDC_LIST, browser.SelectedItem(IDC_LIST));
+            CloseDialog(L"截面特性参数查询");
+            browser.Click(IDC_VIEW_COLUMNS);
+            CloseDialog(L"选择显示项");
+            browser.Click(IDC_EXPORT);
+            CloseDialog(L"选择截面表");
+            browser.SelectItem(IDC_LIST, number);
+            browser.Click(IDOK);
+            const auto spacing = CDialogProbe::WaitFor(L"型钢组合肢距输入");
+            spacing.Click(IDOK);
+          });
+    const std::u16string text(row.data());
+    EXPECT_EQ(length, static_cast<int>(text.size()));
+    EXPECT_TRUE(text.starts_with(u"table=热轧等边角钢组合\nNo.="));
+  }
+
+  static void CloseDialog(const wchar_t* caption) {
+    const auto dialog = CDialogProbe::WaitFor(caption);
+    dialog.Close();
+    dialog.WaitUntilClosed();
+  }
+
   static const char16_t* Units(const CString& text) {
     return reinterpret_cast<const char16_t*>(text.GetString());
   }
 
   CTempFolder m_folder;
+  CString m_catalogue;
 };
 
-TEST_F(CHost, LoadsUsesAndUnloadsTheLibraryWithoutALeak) {
-  UseLibrary();  // the first time, the system and the C library set themselves up
-  UseLibrary();
+// Rounds after the first two must leave nothing: those let the system and the C library set
+// themselves up.
+void ExpectNoLeak(int rounds, const std::function<void()>& round) {
+  round();
+  round();
   const CHoldings before = Holdings();
-  for (int i = 0; i < 20; ++i) UseLibrary();
+  for (int i = 0; i < rounds; ++i) round();
   const CHoldings after = Holdings();
   EXPECT_EQ(GetModuleHandleW(kLibrary), nullptr) << "still loaded";
   EXPECT_EQ(after.windows, before.windows);
   EXPECT_EQ(after.drawing, before.drawing);
   EXPECT_EQ(after.handles, before.handles);
-  EXPECT_LE(after.heap, before.heap + 1024) << "in 20 rounds";
+  EXPECT_LE(after.heap, before.heap + 1024) << "bytes";
+}
+
+TEST_F(CHost, LoadsUsesAndUnloadsTheLibraryWithoutALeak) {
+  ExpectNoLeak(20, [this] { UseLibrary(); });
+}
+
+TEST_F(CHost, OpensAndClosesTheDialogsWithoutALeak) {
+  ExpectNoLeak(3, [this] { UseDialogs(); });
+}
+
+// What a thread keeps for the library goes with the library, not with the thread.
+TEST_F(CHost, ThreadsMayOutliveTheLibrary) {
+  std::thread([this] { UseLibrary(); }).join();
 }
 
 TEST(CHostServices, AskTheHostForHelpAndElseShowTheirOwn) {
