@@ -13,6 +13,7 @@
 #include "output.h"
 #include "store_place.h"
 #include "store_table.h"
+#include "table_json.h"
 #include "tables/search.h"
 #include "text_table.h"
 
@@ -102,12 +103,6 @@ CDataTable Selected(const CDataTable& all, const COptions& options) {
   return table.ViewTable(signs.GetString());
 }
 
-std::vector<std::string> Cells(const CDataItem& row) {
-  std::vector<std::string> cells;
-  for (const CDataCell& cell : row.m_arrCell) cells.push_back(ToUtf8(cell.m_strValue));
-  return cells;
-}
-
 std::vector<std::string> Signs(const CDataTable& table) {
   std::vector<std::string> signs;
   for (int i = 0; i < table.GetTableColNum(); ++i)
@@ -124,32 +119,9 @@ void ForEachLive(const CDataTable& table, const USE& use) {
 
 // --- Output --------------------------------------------------------------------------------------
 
-const char* TypeName(CDataTypeStruct::KVBT_Value_Type type) {
-  static constexpr const char* kNames[] = {"text",   "int",  "long", "float",
-                                           "double", "long", "char"};
-  const auto at = static_cast<std::size_t>(type);
-  return at < std::size(kNames) ? kNames[at] : "text";
-}
-
-void PrintRowsJson(const std::string& name, const CDataTable& table) {
-  CJson columns = CJson::array();
-  for (int i = 0; i < table.GetTableColNum(); ++i) {
-    const CDataTypeStruct& column = table.m_Title[i];
-    columns.push_back({{"sign", ToUtf8(column.m_strSign)},
-                       {"name", ToUtf8(column.m_strName)},
-                       {"type", TypeName(column.m_nType)},
-                       {"key", column.m_bKey != 0}});
-  }
-  CJson rows = CJson::array();
-  ForEachLive(table, [&](const CDataItem& row) {
-    rows.push_back({{"index", row.m_nIndex}, {"state", row.m_nModifyType}, {"cells", Cells(row)}});
-  });
-  PrintJson({{"table", name}, {"columns", columns}, {"rows", rows}});
-}
-
 void PrintRowsCsv(const CDataTable& table) {
   std::string text = kCsvMark + CsvLine(Signs(table));
-  ForEachLive(table, [&](const CDataItem& row) { text += CsvLine(Cells(row)); });
+  ForEachLive(table, [&](const CDataItem& row) { text += CsvLine(RowCells(row)); });
   Print(text);
 }
 
@@ -163,7 +135,7 @@ void PrintRows(const std::string& name, const CDataTable& table) {
   lines.AddRow(Signs(table));
   int count = 0;
   ForEachLive(table, [&](const CDataItem& row) {
-    lines.AddRow(Cells(row));
+    lines.AddRow(RowCells(row));
     ++count;
   });
   Print(lines.Text() + "\n" + name + ": " + std::to_string(count) +
@@ -173,7 +145,7 @@ void PrintRows(const std::string& name, const CDataTable& table) {
 void RunRows(const COptions& options) {
   const CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
   const CDataTable table = Selected(all, options);
-  if (options.json) return PrintRowsJson(options.table, table);
+  if (options.json) return PrintJson(TableJson(options.table, table));
   if (options.csv) return PrintRowsCsv(table);
   PrintRows(options.table, table);
 }

@@ -29,7 +29,8 @@ void CProgress::Show(double done) {
   m_bShown = true;
   const int filled = std::clamp(static_cast<int>(done * kWidth), 0, kWidth);
   const std::string bar(static_cast<std::size_t>(filled), '#');
-  std::fprintf(stderr, "\r[%-*s] %3.0f %%  %lld cases", kWidth, bar.c_str(), 100 * done, m_nSteps);
+  std::fprintf(stderr, "\r[%-*s] %3.0f %%", kWidth, bar.c_str(), 100 * done);
+  if (m_nSteps > 0) std::fprintf(stderr, "  %lld cases", m_nSteps);
   std::fflush(stderr);
 }
 

@@ -11,6 +11,10 @@ class CProgress {
   ~CProgress();
   CProgress(const CProgress&) = delete;
   CProgress& operator=(const CProgress&) = delete;
+  // Shows how much is done, for work of few large pieces.
+  void Share(double done) {
+    if (m_bWatched) Show(done);
+  }
   // Counts one piece of work; looks at the clock now and then only.
   void Step(double done) {
     if (m_bWatched && ++m_nSteps % 512 == 0) Show(done);

@@ -6,7 +6,11 @@
 namespace orv3::cli {
 
 void AddStoreInfoCommands(CLI::App& store);  // info, verify
+void AddStoreImportCommand(CLI::App& store);
+void AddStoreExportCommand(CLI::App& store);
+void AddStoreEditCommands(CLI::App& store);  // add, edit, delete
 
-inline constexpr void (*kStoreCommands[])(CLI::App&) = {AddStoreInfoCommands};
+inline constexpr void (*kStoreCommands[])(CLI::App&) = {
+    AddStoreInfoCommands, AddStoreImportCommand, AddStoreExportCommand, AddStoreEditCommands};
 
 }  // namespace orv3::cli

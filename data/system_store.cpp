@@ -1,7 +1,7 @@
 #include "system_store.h"
 
+#include "catalogue/import/table_import.h"
 #include "catalogue/lattice/steel_ge_gou.h"
-#include "catalogue/rolled/read_file.h"
 #include "catalogue/rolled/rolled_style.h"
 #include "catalogue_csv.h"
 #include "framework/utf8.h"
@@ -21,11 +21,11 @@ void Save(CDataTable& table) {
 
 void AddRolledTables(const CString& folder) {
   for (const CRolledStyle& style : RolledStyles()) {
-    CDataTable table;
-    const CString path = folder + style.m_strFile;
-    if (!CReadFile::GetIronData(path.GetString(), table))
-      throw CCatalogueError(ToUtf8(path) + ": cannot be read as a data file");
-    Save(table);
+    const CImportReport report = ImportFile(folder + style.m_strFile, folder + kSystemStore);
+    if (!report.m_bDone) throw CCatalogueError(ToUtf8(report.m_strWhy));
+    for (const CRefusedRow& row : report.m_arrTable.front().m_arrRefused)
+      throw CCatalogueError(
+          ToUtf8(CString(style.m_strName) + L": " + row.m_strNo + L": " + row.m_strWhy));
   }
 }
 

@@ -38,4 +38,4 @@ need_packages() {
 
 # The packages of a native build and its tests.
 NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libcli11-dev nlohmann-json3-dev
-                 libbenchmark-dev libsqlite3-dev clang-format python3"
+                 libbenchmark-dev libsqlite3-dev libxlsxwriter-dev clang-format python3"

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <utility>
 #include <vector>
 
@@ -90,6 +91,10 @@ class CPictureLayout {
     DrawSide(m_left, CDimensionSide::Left);
     for (const CSizeDimension& size : m_sizes) DrawAlone(size);
     DrawTexts();
+    if (m_picture.m_axes.m_szStrong != nullptr) {
+      DrawSlantAxis(m_picture.m_dStrongAngle, m_picture.m_axes.m_szStrong);
+      DrawSlantAxis(m_picture.m_dStrongAngle + std::numbers::pi / 2, m_picture.m_axes.m_szWeak);
+    }
     return drawing;
   }
 
@@ -211,9 +216,8 @@ class CPictureLayout {
     if (m_bCentroid) {
       DrawAxisPair(CLayer::CentroidAxis, c);
       DrawCentroidMark(c);
-      const wchar_t* x = m_picture.m_base ? L"X0" : L"X";
-      const wchar_t* y = m_picture.m_base ? L"Y0" : L"Y";
-      DrawAxisLetters(CLayer::CentroidAxis, c, o, x, y, m_bBase);
+      DrawAxisLetters(CLayer::CentroidAxis, c, o, m_picture.m_axes.m_szX, m_picture.m_axes.m_szY,
+                      m_bBase);
     }
     if (m_bBase) DrawAxisLetters(CLayer::BaseAxis, o, m_bCentroid ? c : o, L"X", L"Y", false);
   }
@@ -246,6 +250,65 @@ class CPictureLayout {
                           kTextSize,
                           right ? CAnchor::Left : CAnchor::Right,
                           false});
+  }
+
+  // An axis through the centroid, drawn to one side as far as its letter, which stands at the first
+  // end where nothing else does, and a little to the other.
+  void DrawSlantAxis(double angle, const wchar_t* letter) {
+    const CPoint c = Page(m_picture.m_centroid);
+    const double side = std::min(m_frame.Width(), m_frame.Height());
+    CPoint u{std::cos(angle), std::sin(angle)};
+    CPoint end = c;
+    CBox box;
+    for (const double part : {0.5, -0.5, 0.42, -0.42, 0.34, -0.34, 0.58, -0.58, 0.26, -0.26, 0.2}) {
+      u = part < 0 ? CPoint{-std::cos(angle), -std::sin(angle)}
+                   : CPoint{std::cos(angle), std::sin(angle)};
+      end = {c.x + u.x * std::fabs(part) * side, c.y + u.y * std::fabs(part) * side};
+      box = LetterBox(end, u, letter);
+      if (IsFree(box)) break;
+    }
+    const double back = 0.14 * side;
+    m_pDrawing->AddLine(CLayer::CentroidAxis, {c.x - u.x * back, c.y - u.y * back}, end);
+    m_pDrawing->AddLabel({CLayer::CentroidAxis,
+                          {(box.left + box.right) / 2, (box.bottom + box.top) / 2},
+                          letter,
+                          kTextSize,
+                          CAnchor::Middle,
+                          false});
+  }
+
+  // Of a letter beyond the end of a line that runs along u.
+  static CBox LetterBox(CPoint end, CPoint u, const wchar_t* letter) {
+    const double width = TextWidth(letter, kTextSize) / 2;
+    const double away = std::hypot(width, kTextSize / 2) + 1;
+    const CPoint at{end.x + u.x * away, end.y + u.y * away};
+    return {at.x - width, at.y - kTextSize / 2, at.x + width, at.y + kTextSize / 2};
+  }
+
+  // Whether the box is beside no row of dimensions, and no text and no level or upright line drawn
+  // so far meets it.
+  bool IsFree(const CBox& box) const {
+    if (box.left < m_origin.x + m_frame.left - kAxisReach ||
+        box.right > m_origin.x + m_frame.right + kAxisReach ||
+        box.bottom < m_origin.y + m_frame.bottom - kAxisReach)
+      return false;
+    const auto meets = [&box](const CBox& other) {
+      return box.left <= other.right && other.left <= box.right && box.bottom <= other.top &&
+             other.bottom <= box.top;
+    };
+    for (const CLabel& label : m_pDrawing->Labels()) {
+      const double width = TextWidth(label.m_strText, label.m_dSize);
+      const double reach = label.m_bUpward ? label.m_dSize / 2 : width;
+      const double rise = label.m_bUpward ? width : label.m_dSize / 2;
+      if (meets({label.m_at.x - reach, label.m_at.y - rise, label.m_at.x + reach,
+                 label.m_at.y + rise}))
+        return false;
+    }
+    const auto& figures = m_pDrawing->Figures();
+    return std::none_of(figures.begin(), figures.end(), [&](const CFigure& figure) {
+      const CBox line = PathBounds(figure.m_arrPath);
+      return !figure.m_bFilled && (line.Width() == 0 || line.Height() == 0) && meets(line);
+    });
   }
 
   void DrawCentroidMark(CPoint at) {

@@ -12,13 +12,24 @@
 
 namespace orv3 {
 
+// Letters of the upright axes through the centroid and of the principal ones, where these stand
+// aslant and are not to be left out.
+struct CAxisLetters {
+  const wchar_t* m_szX = L"X";
+  const wchar_t* m_szY = L"Y";
+  const wchar_t* m_szStrong = nullptr;
+  const wchar_t* m_szWeak = nullptr;
+};
+
 // Lengths in mm from the lower-left corner of the section's enclosing rectangle.
 struct COutlinePicture {
   COutline m_outline;  // with at least one loop
   std::vector<CSizeDimension> m_arrSize;
-  CPoint m_centroid;             // axes X0, Y0; X, Y when there is no base point
+  CPoint m_centroid;
   std::optional<CPoint> m_base;  // axes X, Y
   CString m_strTitle;
+  CAxisLetters m_axes{L"X0", L"Y0"};
+  double m_dStrongAngle = 0;  // of the strong axis, radians
 };
 
 // A base point farther from the section than half its greater side is given in writing only.

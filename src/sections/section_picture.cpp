@@ -10,7 +10,8 @@ CDrawing SectionPictureDrawing(const CSectionPicture& picture) {
   const CString gap = picture.m_strName.IsEmpty() ? L"" : L"  ";
   const CString title = picture.m_strTitle + gap + picture.m_strName;
   if (!outline.m_arrLoop.empty())
-    return OutlinePictureDrawing({outline, sizes, picture.m_centroid, picture.m_base, title});
+    return OutlinePictureDrawing(
+        {outline, sizes, picture.m_centroid, picture.m_base, title, {L"X0", L"Y0"}});
   std::vector<CString> lines{title, L"这些尺寸不能构成截面"};
   for (const CSizeDimension& size : sizes) lines.push_back(SizeText(size));
   return TextPictureDrawing(lines);

@@ -486,8 +486,8 @@ TEST(RowOutline, IsEmptyForSizesThatBoundNoSection) {
   const struct {
     std::size_t cell;
     const char* value;
-  } cases[] = {{1, "0"},  {1, "20"},  {2, "6.9"}, {2, "x"},   {3, "-7"},  {4, ""},
-               {4, "99"}, {4, "0.1"}, {5, "-1"},  {6, "nan"}, {1, "1e9"}, {2, "1e999"}};
+  } cases[] = {{1, "0"},   {1, "20"}, {2, "6.9"}, {2, "x"},   {3, "-7"},  {4, ""},    {4, "99"},
+               {4, "0.1"}, {5, "-1"}, {5, "60"},  {6, "9.9"}, {6, "nan"}, {1, "1e9"}, {2, "1e999"}};
   for (const auto& c : cases) {
     std::vector<std::string> bad = good;
     bad[c.cell] = c.value;

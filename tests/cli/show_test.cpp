@@ -9,8 +9,12 @@
 #include <utility>
 #include <vector>
 
+#include "catalogue/lattice/steel_ge_gou.h"
 #include "cli/run_program.h"
+#include "framework/utf8.h"
+#include "sections/load_data_table.h"
 #include "svg_check.h"
+#include "tables/data_table.h"
 
 namespace {
 
@@ -164,6 +168,34 @@ TEST(ShowCommand, WritesPictureAndOutline) {
   EXPECT_NE(outline.find("LWPOLYLINE"), std::string::npos);
   std::remove(svg.c_str());
   std::remove(dxf.c_str());
+}
+
+// A store of the user's own; limbs of its columns are looked up in the catalogue.
+TEST(ShowCommand, ShowsWhatAStoreHolds) {
+  const std::string store = OwnFile("own.KDB");
+  CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
+  for (const wchar_t* name : {L"自定义Z形截面", L"双肢格构柱"}) {
+    CSteelItemGeGou row{CDataItem()};
+    row.m_strTableName = name;
+    ASSERT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
+    row.CalSteelJMGeGou();  // of a column
+    CDataTable table;
+    table.SetTableName(name);
+    ASSERT_EQ(table.setTableTitle(row), 1);
+    ASSERT_EQ(table.AddTableItem(row, 1), 1);
+    ASSERT_EQ(table.WriteTable(orv3::FromUtf8(store), 0, 1), 1);
+  }
+  CLoadDataTable::SetOrvoPrgPath(L"");
+  const Json z = ShowJson("自定义Z形截面 Z180X70X20 --store " + store)["geometry"];
+  EXPECT_EQ(z["area"], 20 * 400 + 2 * 20 * 50);
+  EXPECT_EQ(z["width"], 120);
+  const std::string svg = OwnFile("column.svg");
+  const Json g = ShowJson("双肢格构柱 G2[10X800 --store " + store + " --svg " + svg)["geometry"];
+  EXPECT_NEAR(g["area"], 2 * 1274.8, 1);  // [10 of GB/T 707
+  EXPECT_NEAR(g["Ix"], 2 * 1274.8 * 400 * 400 + 2 * 25.6e4, 1e6);
+  EXPECT_NE(FileBytes(svg).find("k = 800"), std::string::npos);
+  std::remove(svg.c_str());
+  std::remove(store.c_str());
 }
 
 TEST(SectionCommand, WritesAnOutline) {

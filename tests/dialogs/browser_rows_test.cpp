@@ -444,8 +444,8 @@ class BrowserImport : public BrowserRows {
   BrowserImport() {
     CDataTable table = m_store.Read(kI);
     table.m_arrItem.RemoveAt(0, 4);
-    EXPECT_EQ(table.AddTableItem(L"I20a,201,100,35.5", 1), 1);
-    EXPECT_EQ(table.AddTableItem(L"I63a,630,176,154.6", 1), 1);
+    EXPECT_EQ(table.AddTableItem(L"I20a,201,100,35.5", 0), 1);
+    EXPECT_EQ(table.AddTableItem(L"I63a,630,176,154.6", 0), 1);
     EXPECT_EQ(table.WriteTable(m_store.Path(L"in.KDB"), kSystemKind, 1), 1);
     m_user.m_arrOpen = {m_store.Path(L"in.KDB")};
   }
@@ -481,6 +481,22 @@ TEST_F(BrowserImport, TellsFilesThatAreNone) {
   EXPECT_NE(messages[1].find("bad.Kvb"), std::string::npos) << messages[1];
   EXPECT_EQ(messages[1].find("in.KDB"), std::string::npos) << messages[1];
   EXPECT_EQ(model->ItemCount(), 5) << "the other file was brought in";
+}
+
+// A row of the user's own does not take the place of one of the catalogue.
+TEST_F(BrowserImport, TellsRowsThatStayOut) {
+  CDataTable table = m_store.Read(kI);
+  table.m_arrItem.RemoveAt(0, 4);
+  EXPECT_EQ(table.AddTableItem(L"I22a,221,110,42", 1), 1);
+  EXPECT_EQ(table.WriteTable(m_store.Path(L"own.KDB"), kSystemKind, 1), 1);
+  m_user.m_arrOpen = {m_store.Path(L"own.KDB")};
+  auto model = Open(kI, L"I22a");
+  m_user.m_arrAnswer = {CMessageAnswer::Yes};
+  model->Import();
+  const auto messages = m_user.TakeMessages();
+  ASSERT_EQ(messages.size(), 2U);
+  EXPECT_EQ(messages[1], "以下内容未能导入：\nown.KDB，热轧普通工字钢：1 条记录（I22a）");
+  EXPECT_STREQ(model->ItemText(2, 1), L"220");
 }
 
 TEST_F(BrowserImport, CancelledAsksNothing) {

@@ -190,10 +190,14 @@ TEST_F(Browser, FindsTheStore) {
 
 TEST_F(Browser, TellsADamagedStore) {
   PutBytes(m_store.StorePath(), std::string(30000, 'x'));
-  CBrowserModel model = Open();
+  const std::string before = Bytes(m_store.StorePath());
+  CDataItem lattice;  // whose table is not made in a store that cannot be read
+  lattice.m_strTableName = L"双肢格构柱";
+  CBrowserModel model = Open(lattice);
   model.Open();
   EXPECT_EQ(model.ItemCount(), 0);
-  ASSERT_FALSE(m_user.m_arrMessage.empty());
+  EXPECT_EQ(Bytes(m_store.StorePath()), before);
+  ASSERT_EQ(m_user.m_arrMessage.size(), 1U);
   EXPECT_EQ(m_user.m_arrMessage[0].m_strTitle, L"Orvo提醒您");
   EXPECT_EQ(m_user.TakeMessages()[0].rfind("数据读取失败：", 0), 0U);
 }

@@ -13,6 +13,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr int kMessageText = 0xFFFF;
+
 std::string Narrow(const std::wstring& text) { return orv3::ToUtf8(text); }
 
 std::wstring WindowText(HWND window) {
@@ -122,11 +124,43 @@ void Expect(long long found, long long wanted, const std::string& what) {
   }
 }
 
+// The threads share one keyboard state while they are attached.
+CKeyDown::CKeyDown(HWND window, int key)
+    : m_nThread(GetWindowThreadProcessId(window, nullptr)), m_nKey(key) {
+  AttachThreadInput(GetCurrentThreadId(), m_nThread, TRUE);
+  Set(0x80);
+}
+
+CKeyDown::~CKeyDown() {
+  Set(0);
+  AttachThreadInput(GetCurrentThreadId(), m_nThread, FALSE);
+}
+
+void CKeyDown::Set(BYTE state) const {
+  BYTE keys[256] = {};
+  GetKeyboardState(keys);
+  keys[m_nKey] = state;
+  SetKeyboardState(keys);
+}
+
 // --- Dialogs ------------------------------------------------------------------------------------
 
 CDialogProbe CDialogProbe::WaitFor(const std::wstring& caption) {
   HWND found = nullptr;
   Eventually([&] { return (found = FindDialog(caption)) != nullptr; }, "dialog " + Narrow(caption));
+  return CDialogProbe(found);
+}
+
+// The boxes of Windows and Wine have their text in a control of this number, and no dialog of ours.
+CDialogProbe CDialogProbe::WaitForMessage() {
+  HWND found = nullptr;
+  const auto open = [&] {
+    for (const HWND window : Dialogs()) {
+      if (IsWindowEnabled(window) && GetDlgItem(window, kMessageText)) found = window;
+    }
+    return found != nullptr;
+  };
+  Eventually(open, "message box");
   return CDialogProbe(found);
 }
 
@@ -310,7 +344,7 @@ void CDialogProbe::EditCell(int id, int line, int column, const std::wstring& te
 
 // --- Message boxes ------------------------------------------------------------------------------
 
-std::wstring CDialogProbe::Message() const { return Text(0xFFFF); }
+std::wstring CDialogProbe::Message() const { return Text(kMessageText); }
 
 void CDialogProbe::Answer(int button) const {
   PostMessageW(m_hWnd, WM_COMMAND, static_cast<WPARAM>(button), 0);

@@ -19,6 +19,8 @@ class CDialogProbe {
  public:
   // Waits for a dialog of this process with the caption; of several the newest.
   static CDialogProbe WaitFor(const std::wstring& caption);
+  // The message box that is open, whatever its title.
+  static CDialogProbe WaitForMessage();
   static bool IsOpen(const std::wstring& caption);
   void WaitUntilClosed() const;
 
@@ -60,6 +62,21 @@ class CDialogProbe {
  private:
   explicit CDialogProbe(HWND window) : m_hWnd(window) {}
   HWND m_hWnd;
+};
+
+// While it lives, the thread of a window takes a key for pressed.
+class CKeyDown {
+ public:
+  CKeyDown(HWND window, int key);
+  CKeyDown(const CKeyDown&) = delete;
+  CKeyDown& operator=(const CKeyDown&) = delete;
+  ~CKeyDown();
+
+ private:
+  void Set(BYTE state) const;
+
+  DWORD m_nThread;
+  int m_nKey;
 };
 
 // Waits until `condition` holds; throws, naming `what`, after twenty seconds.

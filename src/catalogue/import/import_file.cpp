@@ -97,7 +97,6 @@ bool ReadRecords(const CString& file, const CRolledStyle& style, std::string& re
                       L" bytes into a record of " + wanted,
                   why);
   }
-  if (records.empty()) return Refuse(file, L"it holds no record", why);
   return true;
 }
 
@@ -146,6 +145,10 @@ bool ReadDataFile(const CString& file, std::vector<CImportTable>& tables, CStrin
   if (!ReadRecords(file, style, records, why) ||
       !CheckRecords(file, style, records, source.m_arrRefused, why)) {
     return false;
+  }
+  if (records.empty()) {
+    // A user who has no sections of a style still has its file.
+    return userTwin || Refuse(file, L"it holds no record", why);
   }
   // A folder that is none: the rows of the file alone are wanted, not those of a store with it.
   source.m_table.SetSaveTablePath(file + L"/");

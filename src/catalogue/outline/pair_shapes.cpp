@@ -46,10 +46,8 @@ const CPairTable* FindPair(const CString& tableName) {
   return pair == std::end(kPairs) ? nullptr : pair;
 }
 
-// Empty for pairs that touch.
-const wchar_t* SpacingSign(const CPairTable* pair) {
-  if (pair == nullptr || pair->m_nForm == CPairForm::ToeToToe) return L"";
-  return pair->m_nForm == CPairForm::Cross ? L"δ(mm)" : L"a(mm)";
+const wchar_t* SpacingSign(const CPairTable& pair) {
+  return pair.m_nForm == CPairForm::Cross ? L"δ(mm)" : L"a(mm)";
 }
 
 void AddMoved(COutline& to, const std::vector<CPath>& loops, double dx, double dy) {
@@ -90,12 +88,13 @@ COutline StandingPart(const CPairTable& pair, const CString& no) {
 bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullptr; }
 
 bool HasPairSpacing(const CString& tableName) {
-  return !CString(SpacingSign(FindPair(tableName))).IsEmpty();
+  const CPairTable* pair = FindPair(tableName);
+  return pair != nullptr && pair->m_nForm != CPairForm::ToeToToe;
 }
 
 CDataItem WithPairSpacing(CDataItem row, int spacing) {
-  const wchar_t* sign = SpacingSign(FindPair(row.GetTableName()));
-  if (*sign == 0 || row.IsEmpty()) return row;
+  if (!HasPairSpacing(row.GetTableName()) || row.IsEmpty()) return row;
+  const wchar_t* sign = SpacingSign(*FindPair(row.GetTableName()));
   if (row.GetCellSign(1) == sign) row.m_arrCell.RemoveAt(1);
   const CDataTypeStruct column(L"肢距", sign, CDataTypeStruct::KVBT_INT, 0);
   row.m_arrCell.InsertAt(1, CDataCell(column, FormatInt(spacing)));
@@ -106,7 +105,7 @@ CPair PairOf(const CDataItem& row) {
   const CPairTable* pair = FindPair(row.GetTableName());
   if (pair == nullptr || row.IsEmpty()) return {};
   const bool cross = pair->m_nForm == CPairForm::Cross;
-  const double gap = ChosenSpacing(row, SpacingSign(pair));
+  const double gap = ChosenSpacing(row, SpacingSign(*pair));
   if (gap < 0) return {};
   const COutline part = StandingPart(*pair, row[0].m_strValue.Mid(pair->m_nMarker));
   if (part.m_arrLoop.empty()) return {};

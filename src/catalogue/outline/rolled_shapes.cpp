@@ -1,4 +1,6 @@
 // Hot-rolled and welded sections.
+#include <algorithm>
+
 #include "catalogue/outline/shapes.h"
 #include "tables/sketch_shapes.h"
 
@@ -11,14 +13,20 @@ constexpr double kOrdinarySlope = 1.0 / 6;
 constexpr double kLightSlope = 0.12;
 constexpr double kChannelSlope = 0.1;
 
+// What a flange of thickness t midway on its outstand, and the web beyond it, leave for the radii.
+void NeedFlange(CRowSizes& sizes, double outstand, double t, double web, const CFlangeForm& form) {
+  const double fall = form.m_dSlope * outstand / 2;
+  sizes.Needs(
+      {outstand - form.m_dRoot - form.m_dToe, t - fall - form.m_dToe, web - fall - form.m_dRoot});
+}
+
 COutline TaperedI(CRowSizes& sizes, double slope) {
   const double b = sizes.Size(L"b(mm)");
   const double h = sizes.Size(L"h(mm)");
   const double tw = sizes.Size(L"tw(mm)");
   const double t = sizes.Size(L"t(mm)");
   const CFlangeForm form{sizes.Radius(L"r(mm)"), sizes.Radius(L"r1(mm)"), slope};
-  const double fall = slope * (b - tw) / 4;
-  sizes.Needs({b - tw, t - fall, h - 2 * (t + fall)});
+  NeedFlange(sizes, (b - tw) / 2, t, h / 2 - t, form);
   return {{IShape(b, h, tw, t, form)}, b, h};
 }
 
@@ -26,7 +34,7 @@ COutline TaperedI(CRowSizes& sizes, double slope) {
 COutline RolledAngle(CRowSizes& sizes, double width, double height) {
   const double t = sizes.Size(L"t(mm)");
   const CFlangeForm form{sizes.Radius(L"r(mm)"), t / 3, 0};
-  sizes.Needs({width - t, height - t});
+  sizes.Needs({std::min(width, height) - t - form.m_dRoot - form.m_dToe});
   return {{AngleShape(width, height, t, form)}, width, height};
 }
 
@@ -40,8 +48,9 @@ COutline RolledH(CRowSizes& sizes) {
   const double h = sizes.Size(L"H(mm)");
   const double tw = sizes.Size(L"tw(mm)");
   const double tf = sizes.Size(L"tf(mm)");
-  sizes.Needs({b - tw, h - 2 * tf});
-  return {{IShape(b, h, tw, tf, {sizes.Radius(L"r(mm)"), 0, 0})}, b, h};
+  const CFlangeForm form{sizes.Radius(L"r(mm)"), 0, 0};
+  NeedFlange(sizes, (b - tw) / 2, tf, h / 2 - tf, form);
+  return {{IShape(b, h, tw, tf, form)}, b, h};
 }
 
 COutline WeldedH(CRowSizes& sizes) {
@@ -58,8 +67,9 @@ COutline SplitT(CRowSizes& sizes) {
   const double h = sizes.Size(L"h(mm)");
   const double tw = sizes.Size(L"t1(mm)");
   const double tf = sizes.Size(L"t2(mm)");
-  sizes.Needs({b - tw, h - tf});
-  return {{TShape(b, h, tw, tf, {sizes.Radius(L"r(mm)"), 0, 0})}, b, h};
+  const CFlangeForm form{sizes.Radius(L"r(mm)"), 0, 0};
+  NeedFlange(sizes, (b - tw) / 2, tf, h - tf, form);
+  return {{TShape(b, h, tw, tf, form)}, b, h};
 }
 
 COutline RolledChannel(CRowSizes& sizes) {
@@ -68,8 +78,7 @@ COutline RolledChannel(CRowSizes& sizes) {
   const double tw = sizes.Size(L"tw(mm)");
   const double t = sizes.Size(L"t(mm)");
   const CFlangeForm form{sizes.Radius(L"r(mm)"), sizes.Radius(L"r1(mm)"), kChannelSlope};
-  const double fall = kChannelSlope * (b - tw) / 2;
-  sizes.Needs({b - tw, t - fall, h - 2 * (t + fall)});
+  NeedFlange(sizes, b - tw, t, h / 2 - t, form);
   return {{ChannelShape(b, h, tw, t, form)}, b, h};
 }
 

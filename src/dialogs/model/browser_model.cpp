@@ -99,8 +99,8 @@ void CBrowserModel::LoadNode(int node) {
   m_pPreview.reset();
   m_session.Clear();
   if (HasTable()) {
-    m_session.Load(m_arrNode[static_cast<std::size_t>(node)].m_strText, m_user);
-    if (Full().GetTableColNum() < 2) m_session.MakeLatticeTable(m_user);
+    const bool read = m_session.Load(m_arrNode[static_cast<std::size_t>(node)].m_strText, m_user);
+    if (read && Full().GetTableColNum() < 2) m_session.MakeLatticeTable(m_user);
     CBitmap* picture = nullptr;
     Full().GetItemBitmap(picture);
     m_pPreview.reset(picture);
@@ -203,7 +203,7 @@ const wchar_t* CBrowserModel::ItemText(int item, int column) const {
 }
 
 CString CBrowserModel::CountText() const {
-  const CString total = L"共 " + FormatInt(Full().GetRealTableRowNum()) + L" 条记录";
+  CString total = L"共 " + FormatInt(Full().GetRealTableRowNum()) + L" 条记录";
   if (m_strFilter.IsEmpty()) return total;
   return L"检索到 " + FormatInt(ItemCount()) + L" 条记录，" + total;
 }

@@ -32,7 +32,7 @@ inline constexpr wchar_t kNothingToExport[] = L"没有可以导出的截面表!"
 inline constexpr wchar_t kExportIntoItself[] = L"不能导出到正在使用的截面库文件，请另选文件名!";
 inline constexpr wchar_t kExportNotPlaced[] =
     L"不能写入文件，请检查文件是否正被使用、文件夹是否可写：";
-inline constexpr wchar_t kImportFailed[] = L"以下文件未能导入：";
+inline constexpr wchar_t kImportFailed[] = L"以下内容未能导入：";
 inline constexpr wchar_t kImporting[] = L"正在导入截面数据";
 inline constexpr wchar_t kExporting[] = L"正在导出截面数据";
 

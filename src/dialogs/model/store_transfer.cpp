@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "catalogue/import/table_import.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/store_failure.h"
 #include "dialogs/model/table_name_model.h"
 #include "framework/number_text.h"
 #include "platform/file_system.h"
 #include "platform/store_file.h"
-#include "sections/load_data_table.h"
 #include "tables/data_table.h"
 #include "tables/table_store.h"
 
@@ -79,6 +79,37 @@ bool ChooseTables(const CString& path, const CStringArray& marked, CStringArray&
   return !names.IsEmpty();
 }
 
+// --- Import -------------------------------------------------------------------------------------
+
+constexpr int kSteps = 100;  // of the progress, for each file
+constexpr int kNamed = 5;    // numbers named of those left out
+
+CString NumbersOf(const std::vector<CRefusedRow>& rows) {
+  CString text;
+  for (std::size_t i = 0; i < rows.size() && i < kNamed; ++i) {
+    if (i > 0) text += L"、";
+    text += rows[i].m_strNo;
+  }
+  return rows.size() > kNamed ? text + L"等" : text;
+}
+
+// A line for each thing that did not come in. Without `overwrite` rows that the store has are not
+// meant to.
+CString LeftOut(const CImportReport& report, const CString& file, bool overwrite) {
+  if (!report.m_bDone) return L"\n" + file + L"：" + report.m_strWhy;
+  CString text;
+  for (const CTableImport& table : report.m_arrTable) {
+    const CString line = L"\n" + file + L"，" + table.m_strTable + L"：";
+    if (!table.m_strWhy.IsEmpty()) {
+      text += line + table.m_strWhy;
+    } else if (overwrite && !table.m_arrRefused.empty()) {
+      text += line + FormatInt(std::ssize(table.m_arrRefused)) + L" 条记录（" +
+              NumbersOf(table.m_arrRefused) + L"）";
+    }
+  }
+  return text;
+}
+
 }  // namespace
 
 std::vector<CFileFilter> ImportFilters() {
@@ -88,16 +119,19 @@ std::vector<CFileFilter> ImportFilters() {
 void ImportFiles(const std::vector<CString>& files, const CString& store, bool overwrite,
                  CDialogUser& user) {
   const auto count = static_cast<int>(files.size());
-  CString failed;
+  CString left;
   for (int i = 0; i < count; ++i) {
     const CString& file = files[static_cast<std::size_t>(i)];
-    user.Progress(texts::kImporting, i, count);
-    if (!CLoadDataTable::ImportDataTable(file, store, overwrite ? 1 : 0)) {
-      failed += L"\n" + StoreFailureText((FileNameOf(file) + L"：").GetString());
-    }
+    CImportOptions options;
+    options.m_bOverwrite = overwrite;
+    options.m_progress = [&](double share) {
+      user.Progress(texts::kImporting, i * kSteps + static_cast<int>(share * (kSteps - 1)),
+                    count * kSteps);
+    };
+    left += LeftOut(ImportFile(file, store, options), FileNameOf(file), overwrite);
   }
-  user.Progress(texts::kImporting, count, count);
-  if (!failed.IsEmpty()) user.Tell(texts::kImportFailed + failed);
+  user.Progress(texts::kImporting, count * kSteps, count * kSteps);
+  if (!left.IsEmpty()) user.Tell(texts::kImportFailed + left);
 }
 
 void GroupByNumber(const CString& path, const CString& tableName, CDialogUser& user) {
@@ -129,7 +163,7 @@ CString NewTableFileName(const CString& folder) {
   const int date = now.m_nYear * 10000 + now.m_nMonth * 100 + now.m_nDay;
   const int time = now.m_nHour * 10000 + now.m_nMinute * 100 + now.m_nSecond;
   for (int number = now.m_nMillisecond;; ++number) {
-    const CString name = L"KVBDB" + FormatInt(date) + FormatInt(time) + FormatInt(number) + L".KDB";
+    CString name = L"KVBDB" + FormatInt(date) + FormatInt(time) + FormatInt(number) + L".KDB";
     CFileStamp stamp;
     if (Files().Stamp(folder + name, stamp) != CFileError::None) return name;
   }

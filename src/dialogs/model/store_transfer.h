@@ -13,7 +13,8 @@ namespace orv3 {
 std::vector<CFileFilter> ImportFilters();
 
 // Brings the rows of the files into the store. Rows that the store has are replaced only with
-// `overwrite`. The files that could not be read are told at the end.
+// `overwrite`, rows of the catalogue only by rows of the catalogue. What did not come in is told at
+// the end.
 void ImportFiles(const std::vector<CString>& files, const CString& store, bool overwrite,
                  CDialogUser& user);
 

@@ -58,10 +58,12 @@ CDataTable CTableSession::Named(const CString& name) const {
 
 void CTableSession::Clear() { m_table = CDataTable(); }
 
-void CTableSession::Load(const CString& name, CDialogUser& user) {
+bool CTableSession::Load(const CString& name, CDialogUser& user) {
   CDataTable table = Named(name);
-  if (!table.GetSystemJmTable() && IsReadFailure()) TellReadFailed(user);
+  const bool failed = !table.GetSystemJmTable() && IsReadFailure();
   m_table = table;
+  if (failed) TellReadFailed(user);
+  return !failed;
 }
 
 void CTableSession::MakeLatticeTable(CDialogUser& user) {

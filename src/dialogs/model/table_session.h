@@ -17,8 +17,9 @@ class CTableSession {
  public:
   explicit CTableSession(const CString& path) : m_strPath(path) {}
 
-  // Reads the table of this name; without columns when the store has none.
-  void Load(const CString& name, CDialogUser& user);
+  // Reads the table of this name; without columns when the store has none. False, after a message,
+  // when it cannot be read.
+  bool Load(const CString& name, CDialogUser& user);
   void Clear();
   // The table of a lattice column that the store does not have yet; made there.
   void MakeLatticeTable(CDialogUser& user);

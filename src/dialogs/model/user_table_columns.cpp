@@ -1,6 +1,7 @@
 // The user table editor's columns.
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 #include <utility>
 
 #include "dialogs/model/dialog_texts.h"
@@ -128,8 +129,8 @@ CDataTable WithHeading(const CDataTable& table, const CDataTableTitle& title,
 }
 
 std::vector<int> SameColumns(int count) {
-  std::vector<int> from;
-  for (int i = 0; i < count; ++i) from.push_back(i);
+  std::vector<int> from(static_cast<std::size_t>(count));
+  std::iota(from.begin(), from.end(), 0);
   return from;
 }
 

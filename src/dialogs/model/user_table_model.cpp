@@ -222,7 +222,7 @@ void CUserTableModel::Push(const wchar_t* step, CState state) {
   ShowTable();
 }
 
-bool CUserTableModel::Replace(const wchar_t* step, CDataTable table) {
+bool CUserTableModel::Replace(const wchar_t* step, const CDataTable& table) {
   CState state = State();
   state.m_arrTable[static_cast<std::size_t>(state.m_nTable)].m_table =
       std::make_shared<CDataTable>(table);

@@ -117,7 +117,7 @@ class CUserTableModel {
   void FillTemplates();
   void SelectInitial();
   void Push(const wchar_t* step, CState state);
-  bool Replace(const wchar_t* step, CDataTable table);
+  bool Replace(const wchar_t* step, const CDataTable& table);
   bool AskName(const wchar_t* title, CString& name);
   bool MakeTable(int templateIndex, CDataTable& table);
 

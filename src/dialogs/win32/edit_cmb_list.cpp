@@ -182,12 +182,12 @@ LRESULT CEditCmbList::OnCustomDraw(NMHDR& header) const {
   auto& draw = reinterpret_cast<NMLVCUSTOMDRAW&>(header);
   switch (draw.nmcd.dwDrawStage) {
     case CDDS_PREPAINT:
-      return m_bShade ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
+      return m_nShadeFrom >= 0 ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
     case CDDS_ITEMPREPAINT:
       return CDRF_NOTIFYSUBITEMDRAW;
     case CDDS_ITEMPREPAINT | CDDS_SUBITEM: {
       const int line = static_cast<int>(draw.nmcd.dwItemSpec);
-      const bool shaded = draw.iSubItem > 0 && !CanEdit(line, draw.iSubItem);
+      const bool shaded = draw.iSubItem >= m_nShadeFrom && !CanEdit(line, draw.iSubItem);
       draw.clrTextBk = GetSysColor(shaded ? COLOR_BTNFACE : COLOR_WINDOW);
       return CDRF_DODEFAULT;
     }

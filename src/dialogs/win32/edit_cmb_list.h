@@ -32,8 +32,9 @@ class CEditCmbList {
   void GoTo(int line);
   bool IsEditing() const noexcept { return m_hEditor != nullptr; }
   void EndEdit(bool keep);
-  // Shades the cells that cannot be changed, where others can; for the dialog's NM_CUSTOMDRAW.
-  void Shade(bool shade) noexcept { m_bShade = shade; }
+  // Shades the cells that cannot be changed, from a column on.
+  void ShadeFrom(int column) noexcept { m_nShadeFrom = column; }
+  // For the dialog's NM_CUSTOMDRAW.
   LRESULT OnCustomDraw(NMHDR& header) const;
 
  private:
@@ -59,8 +60,8 @@ class CEditCmbList {
   CSetText m_fnSetText;
   int m_nDpi = 96;
   HWND m_hEditor = nullptr;
-  bool m_bList = false;  // the editor is a drop-down list
-  bool m_bShade = false;
+  bool m_bList = false;   // the editor is a drop-down list
+  int m_nShadeFrom = -1;  // -1: no cell is shaded
   int m_nLine = -1;
   int m_nColumn = -1;
 };

@@ -27,7 +27,7 @@ void CPropertyDlg::OnInitDialog() {
   m_grid.Attach(
       Control(IDC_PROPERTY_GRID), m_pModel->Grid(),
       [this](int line, int, const CString& text) { m_pModel->SetValue(line, text); }, Dpi());
-  m_grid.Shade(m_pModel->HasOk());
+  m_grid.ShadeFrom(m_pModel->HasOk() ? 1 : -1);
   m_sketch.Show(Control(IDC_PROPERTY_SKETCH), m_pModel->PictureResource(), Dpi());
 
   Hold(IDC_PROPERTY_GRID, HoldAll);

@@ -167,7 +167,15 @@ void CSteelDataBaseDlg::SelectNode(HTREEITEM item) {
 
 // --- What the model has changed -----------------------------------------------------------------
 
-void CSteelDataBaseDlg::Do(CChange change) { Show((m_pModel.get()->*change)()); }
+// With the columns the list of those to search may be another one; what was typed there stays.
+void CSteelDataBaseDlg::Do(CChange change) {
+  const CListChange changed = (m_pModel.get()->*change)();
+  Show(changed);
+  if (changed != CListChange::Columns) return;
+  m_pModel->SetSearchValue(TextOf(IDC_SEARCH_VALUE));
+  m_pModel->SetWholeMatch(IsDlgButtonChecked(Window(), IDC_WHOLE_MATCH) == BST_CHECKED);
+  ShowTable();
+}
 
 void CSteelDataBaseDlg::Show(CListChange change) {
   if (change == CListChange::Columns) RebuildColumns();

@@ -110,7 +110,7 @@ void CUserTableDlg::OnInitDialog() {
       Control(IDC_COLUMN_GRID), m_pModel->Columns(),
       [this](int line, int column, const CString& text) { SetColumnCell(line, column, text); },
       Dpi());
-  m_columns.Shade(true);
+  m_columns.ShadeFrom(0);
   HoldControls();
   Remember(L"UserTables");
   ShowAll();

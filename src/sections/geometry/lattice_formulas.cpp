@@ -6,6 +6,7 @@
 #include "sections/geometry/lattice_placement.h"
 #include "sections/geometry/row_values.h"
 #include "sections/load_data_table.h"
+#include "sections/table_types.h"
 
 namespace orv3 {
 
@@ -29,11 +30,10 @@ std::size_t LimbCount(const CDataItem& row, const CFamily& family) {
   return 2 + static_cast<std::size_t>(at - family.m_arrTable.begin());
 }
 
-// The limb's row; empty for a limb that is no rolled section or not in the system store.
+// The limb's row; empty for a limb that is a lattice column itself or not in the system store.
 CDataItem LimbRow(const CDataItem& row, const CLimbCells& limb) {
   const CString type = ReadText(row, limb.m_type);
-  const CFamily* family = FindFamily(type);
-  if (!family || family == FindFamily(L"双肢格构柱")) return {};
+  if (CLoadDataTable::IsTableNameType(type, TABLE_CUSTOM | TABLE_FAMILY_LATTICE)) return {};
   return ComponentRow(type, ReadText(row, limb.m_no));
 }
 

@@ -40,7 +40,8 @@ class CPart {
   double Area() const { return AreaOf(m_row); }
   double operator()(const CCell& cell) { return m_read(cell); }
   double Moment() {
-    if (m_pairing.m_nMarker == 3) return m_read(&CFamily::m_Sx);  // a channel
+    const bool printed = m_family.m_Sx.m_formula == nullptr;  // of channels
+    if (printed) return m_read(&CFamily::m_Sx);
     return AngleMoment(Width(), Height(), m_read(L"t(mm)"), m_read(L"r(mm)"), Rise());
   }
   double Thickest() const { return ThickestPlate(m_row); }

@@ -1,0 +1,174 @@
+// orv3cal store import: rows from data files, table files and CSV into a store.
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "catalogue/import/csv_table.h"
+#include "catalogue/import/section_rows.h"
+#include "catalogue/import/table_import.h"
+#include "error.h"
+#include "framework/utf8.h"
+#include "output.h"
+#include "platform/whole_file.h"
+#include "progress.h"
+#include "sections/table_names.h"
+#include "store_commands.h"
+#include "store_place.h"
+
+namespace orv3::cli {
+namespace {
+
+struct COptions {
+  std::vector<std::string> files;
+  std::string table;
+  bool overwrite = false;
+  bool json = false;
+  CStoreOptions store;
+};
+
+[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
+
+// --- Sources -------------------------------------------------------------------------------------
+
+bool IsCsv(const std::string& file) {
+  std::string end = file.size() > 4 ? file.substr(file.size() - 4) : "";
+  std::transform(end.begin(), end.end(), end.begin(),
+                 [](char ch) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + 32) : ch; });
+  return end == ".csv";
+}
+
+// The table that a CSV file is for: the one of --table, else the one that its name tells.
+CString CsvTableName(const std::string& file, const std::string& given) {
+  if (!given.empty()) return FromUtf8(given);
+  const std::size_t slash = file.find_last_of("/\\");
+  const std::string name = file.substr(slash == std::string::npos ? 0 : slash + 1);
+  const CString table = FromUtf8(name.substr(0, name.size() - 4));
+  CDataTableTitle known;
+  if (!KnownHeading(table, known)) {
+    Refuse(file + ": \"" + ToUtf8(table) + "\" is no section table; right would be --table TABLE");
+  }
+  return table;
+}
+
+CImportTable ReadCsv(const std::string& file, const COptions& options, const CString& store,
+                     CProgress& progress) {
+  std::string text;
+  if (ReadWholeFile(FromUtf8(file), text) != CFileError::None) {
+    throw CCommandError(CExit::FileTrouble, file + ": not found or not to be read");
+  }
+  const CString name = CsvTableName(file, options.table);
+  CDataTable stored;
+  stored.SetTableName(name);
+  CString line;
+  stored.GetTable(store, line);
+  CImportTable table;
+  CString why;
+  const auto tell = [&progress](double done) { progress.Share(done / 2); };
+  if (!ReadCsvTable(std::move(text), name, stored.m_Title, table, why, tell)) {
+    Refuse(file + ": " + ToUtf8(why));
+  }
+  return table;
+}
+
+std::vector<CImportTable> ReadSources(const COptions& options, const CString& store,
+                                      CProgress& progress) {
+  std::vector<CImportTable> sources;
+  for (const std::string& file : options.files) {
+    if (IsCsv(file)) {
+      sources.push_back(ReadCsv(file, options, store, progress));
+      continue;
+    }
+    std::vector<CImportTable> tables;
+    CString why;
+    if (!ReadImportFile(FromUtf8(file), tables, why)) {
+      throw CCommandError(CExit::FileTrouble, ToUtf8(why));
+    }
+    std::move(tables.begin(), tables.end(), std::back_inserter(sources));
+  }
+  return sources;
+}
+
+// --- The report ----------------------------------------------------------------------------------
+
+CJson ReportJson(const CImportReport& report) {
+  CJson tables = CJson::array();
+  for (const CTableImport& table : report.m_arrTable) {
+    CJson refused = CJson::array();
+    for (const CRefusedRow& row : table.m_arrRefused) {
+      refused.push_back({{"no", ToUtf8(row.m_strNo)}, {"why", ToUtf8(row.m_strWhy)}});
+    }
+    tables.push_back({{"table", ToUtf8(table.m_strTable)},
+                      {"added", table.m_nAdded},
+                      {"replaced", table.m_nReplaced},
+                      {"unchanged", table.m_nUnchanged},
+                      {"refused", refused},
+                      {"why", ToUtf8(table.m_strWhy)}});
+  }
+  return {{"tables", tables}};
+}
+
+void PrintReport(const CImportReport& report) {
+  for (const CTableImport& table : report.m_arrTable) {
+    std::string text = ToUtf8(table.m_strTable) + ": ";
+    if (!table.m_strWhy.IsEmpty()) {
+      text += "refused, " + ToUtf8(table.m_strWhy) + "\n";
+    } else {
+      text += std::to_string(table.m_nAdded) + " added, " + std::to_string(table.m_nReplaced) +
+              " replaced, " + std::to_string(table.m_nUnchanged) + " unchanged, " +
+              std::to_string(table.m_arrRefused.size()) + " refused\n";
+    }
+    for (const CRefusedRow& row : table.m_arrRefused) {
+      text += "  refused \"" + ToUtf8(row.m_strNo) + "\": " + ToUtf8(row.m_strWhy) + "\n";
+    }
+    Print(text);
+  }
+}
+
+bool IsRefused(const CTableImport& table) {
+  return !table.m_strWhy.IsEmpty() || !table.m_arrRefused.empty();
+}
+
+void RunImport(const COptions& options) {
+  const CString store = StoreToWrite(options.store);
+  CImportReport report;
+  {
+    CProgress progress;
+    const std::vector<CImportTable> sources = ReadSources(options, store, progress);
+    CImportOptions how;
+    how.m_bOverwrite = options.overwrite;
+    how.m_strTable = FromUtf8(options.table);
+    how.m_progress = [&progress](double done) { progress.Share(0.5 + done / 2); };
+    report = ImportTables(sources, store, how);
+  }
+  if (!report.m_bDone) throw CCommandError(CExit::FileTrouble, ToUtf8(report.m_strWhy));
+  if (options.json) {
+    PrintJson(ReportJson(report));
+  } else {
+    PrintReport(report);
+  }
+  if (std::any_of(report.m_arrTable.begin(), report.m_arrTable.end(), IsRefused)) {
+    throw CExit::BadInput;
+  }
+}
+
+}  // namespace
+
+void AddStoreImportCommand(CLI::App& store) {
+  auto options = std::make_shared<COptions>();
+  CLI::App* command =
+      store.add_subcommand("import", "Bring rows in from .kvb, .KDB and .csv files");
+  command->footer("Exit status 2 when a row or a table was refused; the others came in.");
+  command->add_option("FILE", options->files, "Data files, table files or CSV files")->required();
+  command->add_option("--table", options->table,
+                      "This table alone; for CSV the table that the rows are for");
+  command->add_flag("--overwrite", options->overwrite,
+                    "Replace rows that are there with other values");
+  command->add_flag("--json", options->json, "Report as JSON");
+  AddStoreOptions(*command, options->store);
+  command->callback([options] { RunImport(*options); });
+}
+
+}  // namespace orv3::cli

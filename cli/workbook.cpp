@@ -1,0 +1,111 @@
+// Tables as a workbook (.xlsx), by libxlsxwriter where the program was built with it.
+#include "error.h"
+#include "store_export.h"
+
+#ifdef ORV3CAL_XLSX
+
+#include <xlsxwriter.h>
+
+#include <set>
+#include <utility>
+
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "platform/file_system.h"
+
+namespace orv3::cli {
+namespace {
+
+constexpr lxw_row_t kHeadingRows = 2;
+constexpr double kColumnWidth = 12;  // characters
+constexpr std::size_t kMaxSheetName = 31;
+
+// What a spreadsheet takes as a sheet's name: no brackets, slashes and the like, 31 characters.
+std::string SheetName(const CString& table) {
+  CString name = table;
+  for (const auto& [bad, good] : {std::pair{L"[", L"［"},
+                                  {L"]", L"］"},
+                                  {L":", L"："},
+                                  {L"*", L"＊"},
+                                  {L"?", L"？"},
+                                  {L"/", L"／"},
+                                  {L"\\", L"＼"}}) {
+    name.Replace(bad, good);
+  }
+  return ToUtf8(name.Left(static_cast<int>(kMaxSheetName)));
+}
+
+void CheckSheetNames(const std::vector<CDataTable>& tables) {
+  std::set<std::string> names;
+  for (const CDataTable& table : tables) {
+    const std::string name = SheetName(table.GetTableName());
+    std::string folded = name;  // sheets' names differ in more than capitals
+    for (char& ch : folded) ch = ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + 32) : ch;
+    if (names.insert(folded).second) continue;
+    throw CCommandError(CExit::BadInput, "two tables would have the sheet name \"" + name +
+                                             "\"; right would be to export them apart");
+  }
+}
+
+void WriteSheet(lxw_workbook* book, const CDataTable& table) {
+  lxw_worksheet* sheet = workbook_add_worksheet(book, SheetName(table.GetTableName()).c_str());
+  lxw_format* heading = workbook_add_format(book);
+  format_set_bold(heading);
+  const auto columns = static_cast<lxw_col_t>(table.GetTableColNum());
+  if (columns > 0) {
+    worksheet_set_column(sheet, 0, static_cast<lxw_col_t>(columns - 1), kColumnWidth, nullptr);
+  }
+  for (lxw_col_t col = 0; col < columns; ++col) {
+    const CDataTypeStruct& column = table.m_Title[col];
+    worksheet_write_string(sheet, 0, col, ToUtf8(column.m_strName).c_str(), heading);
+    worksheet_write_string(sheet, 1, col, ToUtf8(column.m_strSign).c_str(), heading);
+  }
+  worksheet_freeze_panes(sheet, kHeadingRows, 1);
+  lxw_row_t line = kHeadingRows;
+  for (const CDataItem& row : table.m_arrItem) {
+    for (lxw_col_t col = 0; col < row.GetItemLength(); ++col) {
+      const CDataCell& cell = row[col];
+      if (ValueClassOf(cell.m_nType) != CValueClass::Text && IsNumber(cell.m_strValue)) {
+        worksheet_write_number(sheet, line, col, ToDouble(cell.m_strValue), nullptr);
+      } else {
+        worksheet_write_string(sheet, line, col, ToUtf8(cell.m_strValue).c_str(), nullptr);
+      }
+    }
+    ++line;
+  }
+}
+
+}  // namespace
+
+void WriteWorkbook(const std::string& file, const std::vector<CDataTable>& tables) {
+  CheckSheetNames(tables);
+  const std::string part = file + ".part";
+  lxw_error error = LXW_ERROR_MEMORY_MALLOC_FAILED;
+  if (lxw_workbook* book = workbook_new(part.c_str())) {
+    for (const CDataTable& table : tables) WriteSheet(book, table);
+    error = workbook_close(book);  // which writes it
+  }
+  if (error == LXW_NO_ERROR && Files().Rename(FromUtf8(part), FromUtf8(file))) return;
+  Files().Remove(FromUtf8(part));
+  throw CCommandError(
+      CExit::FileTrouble,
+      file + ": not written: " +
+          (error == LXW_NO_ERROR ? "it may be open elsewhere or be no file" : lxw_strerror(error)));
+}
+
+}  // namespace orv3::cli
+
+#else
+
+namespace orv3::cli {
+
+void WriteWorkbook(const std::string& file, const std::vector<CDataTable>&) {
+  throw CCommandError(CExit::BadInput,
+                      file +
+                          ": this program was built without libxlsxwriter and writes no "
+                          "workbooks; right would be a .csv, .json or .KDB file");
+}
+
+}  // namespace orv3::cli
+
+#endif

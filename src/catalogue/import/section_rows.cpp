@@ -1,0 +1,91 @@
+#include "catalogue/import/section_rows.h"
+
+#include "catalogue/lattice/steel_ge_gou.h"
+#include "catalogue/rolled/rolled_style.h"
+#include "framework/number_text.h"
+#include "sections/load_data_table.h"
+#include "sections/row_check.h"
+#include "sections/section_style.h"
+#include "sections/steel_jm_data.h"
+#include "tables/data_table.h"
+
+namespace orv3 {
+namespace {
+
+constexpr long kLattice = TABLE_CUSTOM | TABLE_FAMILY_LATTICE;
+
+bool IsLattice(const CString& table) {
+  return CLoadDataTable::IsTableNameType(table, kLattice) != 0;
+}
+
+bool LatticeHeading(const CString& table, CDataTableTitle& title) {
+  for (int limbs = 2; limbs <= 4; ++limbs) {
+    const CSteelJMGeGou lattice(limbs);
+    if (lattice.GetTableName() != table) continue;
+    title = lattice.m_Title;
+    return true;
+  }
+  return false;
+}
+
+// Sizes and base point go through "%G" when a row is computed: what it would round is refused.
+CString CheckDigits(const CDataItem& row, const CSectionStyle& style) {
+  for (int cell = 1; cell <= style.m_nSizes + 2; ++cell) {
+    const double value = ToDouble(row[cell].m_strValue);
+    const CString kept = FormatG(value);
+    if (ToDouble(kept) == value) continue;
+    return row.GetCellSign(cell) + L" = " + row[cell].m_strValue +
+           L": a row keeps six digits; right would be " + kept;
+  }
+  return {};
+}
+
+}  // namespace
+
+bool KnownHeading(const CString& table, CDataTableTitle& title) {
+  if (const CSectionStyle* style = FindSectionStyle(table.View())) {
+    CDataTable heading;
+    heading.SetTableName(table);
+    CSteelJMData::GetJMTableTitle(heading, style->m_nStyle);
+    title = heading.m_Title;
+    return true;
+  }
+  const int rolled = FindRolledStyle(table.View());
+  if (rolled >= 0) title = RolledTitle(RolledStyles()[static_cast<std::size_t>(rolled)]);
+  return rolled >= 0 || LatticeHeading(table, title);
+}
+
+int GivenColumns(const CString& table, const CDataTableTitle& title) {
+  if (const CSectionStyle* style = FindSectionStyle(table.View())) return style->m_nSizes + 3;
+  const int results = IsLattice(table) ? title.GetColIndex(L"A(mm^2)") : -1;
+  return results >= 0 ? results : title.GetTableTitleNum();
+}
+
+CDataItem EmptyRow(const CString& table, const CDataTableTitle& title) {
+  CDataItem row;
+  row.m_strTableName = table;
+  row.SetItemTitle(title);
+  if (const CSectionStyle* style = FindSectionStyle(table.View())) {
+    for (int cell = style->m_nSizes + 1; cell <= style->m_nSizes + 2; ++cell) {
+      if (cell < row.GetItemLength()) row[cell].m_strValue = L"0";
+    }
+  }
+  return row;
+}
+
+CString CompleteRow(CDataItem& row) {
+  if (const auto fault = CheckRow(row)) return fault->m_strText;
+  if (const CSectionStyle* style = FindSectionStyle(row.m_strTableName.View())) {
+    const CString digits = CheckDigits(row, *style);
+    if (!digits.IsEmpty()) return digits;
+    if (CLoadDataTable::CalSectCharacterStyle(row)) return {};
+    return L"the row has other cells than the columns of \"" + row.m_strTableName + L"\"";
+  }
+  if (!IsLattice(row.m_strTableName)) return {};
+  CSteelItemGeGou lattice(row);
+  if (!lattice.CalSteelJMGeGou()) return L"its properties cannot be computed from its limbs";
+  row = lattice;
+  return {};
+}
+
+}  // namespace orv3

@@ -1,0 +1,94 @@
+// The browser on the shipped catalogue.
+#include <gtest/gtest.h>
+
+#include "dialog_store.h"
+#include "dialogs/model/browser_model.h"
+#include "scripted_user.h"
+
+namespace {
+
+using namespace orv3;
+
+class CatalogueBrowser : public testing::Test {
+ protected:
+  CatalogueBrowser() {
+    PutBytes(m_store.StorePath(), Bytes(Shipped(kSystemStore)));
+    m_model = std::make_unique<CBrowserModel>(m_store.Path(), CDialogStore::AllNames(), CDataItem(),
+                                              m_user);
+    m_model->Open();
+  }
+  static CString Shipped(const CString& name) { return FromUtf8(ORV3CAL_CATALOGUE) + L"/" + name; }
+  void Select(const CString& table) {
+    for (std::size_t i = 0; i < m_model->Tree().size(); ++i) {
+      if (m_model->Tree()[i].m_strText == table) m_model->SelectNode(static_cast<int>(i));
+    }
+  }
+
+  CDialogStore m_store;
+  CScriptedUser m_user;
+  std::unique_ptr<CBrowserModel> m_model;
+};
+
+// What a designer does: find the I20 sections in the tree, sort them, take I20a.
+TEST_F(CatalogueBrowser, ChoosesABeam) {
+  Select(L"热轧普通工字钢");
+  m_model->SetSearchColumn(1);
+  m_model->SetSearchValue(L"I20");
+  m_model->Search();
+  ASSERT_EQ(m_model->ItemCount(), 2);
+  int area = -1;
+  for (int i = 0; i < m_model->ColumnCount(); ++i) {
+    if (m_model->Column(i).m_strSign == L"A(cm^2)") area = i;
+  }
+  m_model->SortBy(area);
+  m_model->SortBy(area);
+  EXPECT_STREQ(m_model->ItemText(0, 0), L"I20b");
+  EXPECT_STREQ(m_model->ItemText(1, 0), L"I20a");
+  m_model->SelectItem(1);
+  ASSERT_TRUE(m_model->Ok());
+  // GB/T 706: 35.578 cm^2, printed as 35.5 in some tables.
+  EXPECT_NEAR(CLoadDataTable::GetDataItemArea(m_model->ChosenRow()), 3555, 10);
+}
+
+TEST_F(CatalogueBrowser, EveryRolledTableHasRows) {
+  for (const CTreeNode& node : m_model->Tree()) {
+    if (!node.m_bTable) continue;
+    Select(node.m_strText);
+    const bool rolled = CLoadDataTable::IsTableNameType(node.m_strText, kCatalogueTables) != 0;
+    EXPECT_GE(m_model->ItemCount(), rolled ? 1 : 0) << ToUtf8(node.m_strText);
+    EXPECT_NE(m_model->Preview(), nullptr);
+  }
+  EXPECT_TRUE(m_user.TakeMessages().empty());
+}
+
+// Every user-defined style and lattice column starts with a section that can be kept as it stands.
+TEST_F(CatalogueBrowser, DefaultSectionsCanBeAdded) {
+  for (const CTreeNode& node : m_model->Tree()) {
+    if (!node.m_bTable || !CLoadDataTable::IsTableNameType(node.m_strText, kUserTables)) continue;
+    Select(node.m_strText);
+    const int before = m_model->ItemCount();
+    m_user.m_fnProperty = [this](CPropertyModel& model) {
+      const int number = model.Row().GetSignIndex(L"No.");
+      model.SetValue(number, L"NEW");
+      return model.Ok(m_user);
+    };
+    m_model->Add();
+    EXPECT_EQ(m_model->ItemCount(), before + 1) << ToUtf8(node.m_strText);
+    ASSERT_TRUE(m_model->Ok());
+    EXPECT_GT(CLoadDataTable::GetDataItemArea(m_model->ChosenRow()), 0) << ToUtf8(node.m_strText);
+  }
+  EXPECT_TRUE(m_user.TakeMessages().empty());
+}
+
+// The data files of the catalogue hold what the store holds.
+TEST_F(CatalogueBrowser, ImportingTheCatalogueAgainChangesNothing) {
+  const CDataTable before = m_store.Read(L"热轧等边角钢");
+  Select(L"热轧等边角钢");
+  m_user.m_arrOpen = {Shipped(L"DbData.kvb")};
+  m_user.m_arrAnswer = {CMessageAnswer::Yes};
+  m_model->Import();
+  EXPECT_EQ(m_user.TakeMessages().size(), 1U) << "the question alone";
+  EXPECT_EQ(m_model->ItemCount(), before.GetRealTableRowNum());
+}
+
+}  // namespace

@@ -1,0 +1,269 @@
+// What the browser changes: rows of the system store, and files.
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "dialogs/win32/resource.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "sections/load_data_table.h"
+#include "win32/dialog_driver.h"
+#include "win32/store_folder.h"
+
+namespace {
+
+constexpr wchar_t kCaption[] = L"钢结构截面特性数据库";
+constexpr wchar_t kProperties[] = L"截面特性参数设置";
+constexpr wchar_t kReminder[] = L"Orvo提醒您";
+constexpr wchar_t kBeams[] = L"热轧普通工字钢";
+constexpr wchar_t kUserH[] = L"自定义对称H型钢";
+constexpr long kEverything = 0x03000FFF;
+constexpr int kFileName = 0x480;  // of the system's file dialogs
+
+// Runs the browser on the folder's store, drives it with `script` and closes it.
+void Browse(const CStoreFolder& folder, const std::function<void(const CDialogProbe&)>& script) {
+  CDataItem row;
+  Drive([&] { CLoadDataTable::VisitDataBase(folder.Path(), row, kEverything); },
+        [&] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          script(probe);
+          probe.Close();
+        });
+}
+
+void AddSection(const CDialogProbe& probe, const wchar_t* no, const wchar_t* height) {
+  probe.Click(IDC_ADD);
+  const auto properties = CDialogProbe::WaitFor(kProperties);
+  properties.EditCell(IDC_PROPERTY_GRID, 0, 1, no);
+  properties.EditCell(IDC_PROPERTY_GRID, 2, 1, height);
+  properties.Click(IDOK);
+  properties.WaitUntilClosed();
+}
+
+double AreaOf(const CDataItem& row) { return CLoadDataTable::GetDataItemArea(row); }
+
+TEST(BrowserRows, AddEditAndDeleteAreInTheStore) {
+  const CStoreFolder folder;
+  const int before = folder.Table(kUserH).GetRealTableRowNum();
+  Browse(folder, [&](const CDialogProbe& probe) {
+    probe.SelectNode(IDC_TREE, kUserH);
+    AddSection(probe, L"H600X300", L"600");
+    Expect(probe.Cell(IDC_LIST, probe.SelectedItem(IDC_LIST), 0), L"H600X300");
+    // Two flanges 300 x 10 and a web 580 x 10.
+    Expect(AreaOf(folder.Row(kUserH, L"H600X300")) == 6000 + 5800, 1, "area in the store");
+
+    probe.Press(IDC_LIST, VK_F2);
+    const auto properties = CDialogProbe::WaitFor(kProperties);
+    properties.EditCell(IDC_PROPERTY_GRID, 2, 1, L"620");
+    properties.Click(IDOK);
+    properties.WaitUntilClosed();
+    Eventually([&] { return AreaOf(folder.Row(kUserH, L"H600X300")) == 6000 + 6000; },
+               "changed row in the store");
+
+    probe.SelectItem(IDC_LIST, L"H600X300");
+    const int rows = probe.Count(IDC_LIST);
+    probe.Press(IDC_LIST, VK_DELETE);
+    Eventually([&] { return probe.Count(IDC_LIST) == rows - 1; }, "one row less");
+  });
+  EXPECT_TRUE(folder.Row(kUserH, L"H600X300").IsEmpty());
+  EXPECT_EQ(folder.Table(kUserH).GetRealTableRowNum(), before);
+}
+
+TEST(BrowserRows, ProtectedRowsAreRefused) {
+  const CStoreFolder folder;
+  const int before = folder.Table(kBeams).GetRealTableRowNum();
+  Browse(folder, [](const CDialogProbe& probe) {
+    probe.SelectNode(IDC_TREE, kBeams);
+    for (const int id : {IDC_DELETE, IDC_EDIT}) {
+      probe.SelectItem(IDC_LIST, L"I20a");
+      probe.Click(id);
+      const auto box = CDialogProbe::WaitFor(L"orvo提醒您");
+      Expect(box.Message(), L"本数据记录不能删除和编辑!");
+      box.Answer(IDOK);
+    }
+  });
+  EXPECT_EQ(folder.Table(kBeams).GetRealTableRowNum(), before);
+}
+
+TEST(BrowserRows, DuplicatesAreRefused) {
+  const CStoreFolder folder;
+  Browse(folder, [](const CDialogProbe& probe) {
+    probe.SelectNode(IDC_TREE, kUserH);
+    AddSection(probe, L"H777X300", L"777");
+    probe.Click(IDC_ADD);
+    const auto properties = CDialogProbe::WaitFor(kProperties);
+    properties.EditCell(IDC_PROPERTY_GRID, 0, 1, L"H777X300");
+    properties.Click(IDOK);
+    Eventually([&] { return !IsWindowEnabled(properties.Window()); }, "a message");
+    const auto box = CDialogProbe::WaitForMessage();
+    Expect(box.Message().find(L"，该条数据记录已经存在!") != std::wstring::npos, 1, "refusal");
+    box.Answer(IDOK);
+    Expect(IsWindow(properties.Window()), 1, "property dialog open");
+    properties.Close();
+    properties.WaitUntilClosed();
+  });
+  EXPECT_TRUE(folder.Row(kUserH, L"H400X300").IsEmpty() ||
+              folder.Table(kUserH).GetRealTableRowNum() > 0);
+  EXPECT_NEAR(AreaOf(folder.Row(kUserH, L"H777X300")), 6000 + 7570, 1e-6);
+}
+
+TEST(BrowserRows, CombinedSectionsAskForTheirSpacingAndAreNotCopied) {
+  const CStoreFolder folder;
+  CDataItem row;
+  int result = 0;
+  std::wstring chosen;
+  Drive([&] { result = CLoadDataTable::VisitDataBase(folder.Path(), row, kEverything); },
+        [&] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          probe.SelectNode(IDC_TREE, L"热轧等边角钢组合");
+          probe.Click(IDC_ADD);
+          const auto box = CDialogProbe::WaitForMessage();
+          Expect(box.Message(), L"型钢组合不能进行复制");
+          box.Answer(IDOK);
+          probe.SelectItem(IDC_LIST, 2);
+          chosen = probe.Cell(IDC_LIST, 2, 0);
+          probe.Click(IDOK);
+          const auto spacing = CDialogProbe::WaitFor(L"型钢组合肢距输入");
+          spacing.Choose(IDC_SPACING, L"8");
+          spacing.Click(IDOK);
+        });
+  ASSERT_EQ(result, 1);
+  EXPECT_TRUE(std::as_const(row)[0].m_strValue == CString(chosen));
+  EXPECT_TRUE(std::as_const(row)[1].m_strValue == L"8");
+}
+
+TEST(BrowserRows, ARowOfTwoCellsIsNotHandedBack) {
+  const CStoreFolder folder(CStoreFolder::CStart::Empty);
+  const wchar_t* const name = L"自定义圆形截面";
+  CDataTable table;
+  table.SetTableName(name);
+  table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_Value_Type(0), 1);
+  table.AddTableCol(L"半径", L"R(mm)", CDataTypeStruct::KVBT_Value_Type(4), 0);
+  table.AddTableItem(L"R7,7", 1);
+  folder.Save(table);
+  CStringArray names;
+  names.Add(name);
+  CDataItem row;
+  row.m_strTableName = L"before";
+  int result = -1;
+  Drive([&] { result = CLoadDataTable::VisitDataBase(names, folder.Path(), row); },
+        [&] {
+          const auto probe = CDialogProbe::WaitFor(kCaption);
+          Expect(probe.Cell(IDC_LIST, 0, 1), L"7");
+          probe.SelectItem(IDC_LIST, 0);
+          probe.Click(IDOK);
+        });
+  EXPECT_EQ(result, 0);
+  EXPECT_TRUE(row.IsEmpty());
+  EXPECT_TRUE(row.m_strTableName == L"before");
+}
+
+TEST(BrowserRows, TenThousandRows) {
+  const CStoreFolder folder(CStoreFolder::CStart::Empty);
+  CDataTable table;
+  table.SetTableName(kBeams);
+  table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_Value_Type(0), 1);
+  table.AddTableCol(L"高度", L"h(mm)", CDataTypeStruct::KVBT_Value_Type(4), 0);
+  table.AddTableCol(L"宽度", L"b(mm)", CDataTypeStruct::KVBT_Value_Type(4), 0);
+  const int count = 10000;
+  for (int i = 0; i < count; ++i) {
+    const CString number = orv3::FormatInt(i);
+    table.AddTableItem(L"I" + number + L"," + number + L",1", 1);
+  }
+  folder.Save(table);
+  Browse(folder, [&](const CDialogProbe& probe) {
+    Expect(probe.Count(IDC_LIST), count, "rows");
+    Expect(probe.Cell(IDC_LIST, count - 1, 0), L"I9999");
+    probe.Choose(IDC_SEARCH_COLUMN, L"h(mm)");
+    probe.Choose(IDC_SEARCH_OPERATOR, L"≥");
+    probe.SetText(IDC_SEARCH_VALUE, L"9990");
+    SendMessageW(probe.Control(IDC_SEARCH), BM_CLICK, 0, 0);
+    Expect(probe.Count(IDC_LIST), 10, "rows found");
+  });
+}
+
+// --- Files --------------------------------------------------------------------------------------
+
+void ImportBeams(const CDialogProbe& probe, int answer) {
+  probe.SelectNode(IDC_TREE, kBeams);
+  probe.Click(IDC_IMPORT);
+  const auto files = CDialogProbe::WaitFor(L"导入截面数据");
+  files.SetText(kFileName, std::wstring(orv3::FromUtf8(ORV3CAL_CATALOGUE "/GZGData.kvb").View()));
+  files.Click(IDOK);
+  const auto box = CDialogProbe::WaitFor(kReminder);
+  Expect(box.Message(), L"选择确定将覆盖所有相同型号数据!\n是否覆盖已有型号数据？");
+  box.Answer(answer);
+  Eventually([&] { return IsWindowEnabled(probe.Window()) != FALSE; }, "end of the import");
+}
+
+// A beam with another area and one that is missing: No brings the missing one, Yes both.
+TEST(BrowserRows, ImportWithAndWithoutOverwriting) {
+  for (const int answer : {IDNO, IDYES}) {
+    SCOPED_TRACE(answer);
+    const CStoreFolder folder;
+    const double area = AreaOf(folder.Row(kBeams, L"I20a"));
+    CDataTable table = folder.Table(kBeams);
+    for (int i = table.GetTableRowNum() - 1; i >= 0; --i) {
+      if (table[i][L"No."].m_strValue == L"I20a") table[i][L"A(cm^2)"].m_strValue = L"1";
+      if (table[i][L"No."].m_strValue == L"I20b") table.m_arrItem.RemoveAt(i);
+    }
+    folder.Save(table);
+    ASSERT_TRUE(folder.Row(kBeams, L"I20b").IsEmpty());
+    Browse(folder, [answer](const CDialogProbe& probe) {
+      ImportBeams(probe, answer);
+      probe.SelectItem(IDC_LIST, L"I20b");  // shown at once
+    });
+    EXPECT_NEAR(AreaOf(folder.Row(kBeams, L"I20a")), answer == IDYES ? area : 100, 1e-6);
+    EXPECT_FALSE(folder.Row(kBeams, L"I20b").IsEmpty());
+  }
+}
+
+TEST(BrowserRows, ExportIsReadBack) {
+  const CStoreFolder folder;
+  const CString file = folder.Path() + L"导出.KDB";
+  Browse(folder, [&](const CDialogProbe& probe) {
+    probe.SelectNode(IDC_TREE, kBeams);
+    probe.Click(IDC_EXPORT);
+    const auto names = CDialogProbe::WaitFor(L"选择截面表");
+    names.SetText(IDC_FILTER, L"槽钢");
+    SendMessageW(names.Control(IDC_ALL), BM_CLICK, 0, 0);
+    names.Click(IDOK);
+    const auto files = CDialogProbe::WaitFor(L"导出截面数据");
+    files.SetText(kFileName, std::wstring(file.View()));
+    files.Click(IDOK);
+    files.WaitUntilClosed();
+    Eventually([&] { return IsWindowEnabled(probe.Window()) != FALSE; }, "end of the export");
+  });
+  CDataTable beams;
+  beams.SetTableName(kBeams);
+  CString line;
+  ASSERT_EQ(beams.GetTable(file, line), 1);  // the table shown was marked from the start
+  const CDataTable source = folder.Table(kBeams);
+  ASSERT_EQ(beams.GetTableRowNum(), source.GetRealTableRowNum());
+  for (int i = 0; i < beams.GetTableRowNum(); ++i) {
+    for (int j = 0; j < beams.GetTableColNum(); ++j) {
+      EXPECT_TRUE(std::as_const(beams)[i][j].m_strValue == source[i][j].m_strValue);
+    }
+  }
+  CStringArray names;
+  CDataTable::GetTableNameFromFile(file, names);
+  EXPECT_GT(names.GetSize(), 1);
+  for (const CString& name : names) EXPECT_TRUE(name == kBeams || name.Find(L"槽钢") >= 0);
+}
+
+TEST(BrowserRows, TheSelectedRowGoesToTheClipboard) {
+  const CStoreFolder folder;
+  Browse(folder, [](const CDialogProbe& probe) {
+    probe.SelectNode(IDC_TREE, kBeams);
+    probe.SelectItem(IDC_LIST, L"I20a");
+    const CKeyDown control(probe.Window(), VK_CONTROL);
+    SendMessageW(probe.Control(IDC_LIST), WM_KEYDOWN, 'C', 1);
+    ASSERT_TRUE(OpenClipboard(nullptr));
+    const HANDLE data = GetClipboardData(CF_UNICODETEXT);
+    const std::wstring text = data ? static_cast<const wchar_t*>(GlobalLock(data)) : L"";
+    CloseClipboard();
+    Expect(text.substr(0, 16), L"I20a\t200\t100\t7\t1");
+  });
+}
+
+}  // namespace
