@@ -3,7 +3,9 @@
 #include <cmath>
 
 #include "catalogue/rolled/rolled_style.h"
+#include "catalogue_csv.h"
 #include "framework/number_text.h"
+#include "framework/utf8.h"
 
 namespace orv3::catalogue {
 namespace {
@@ -126,7 +128,8 @@ CDataTable MakePairTable(const CPairTable& pair, const CDataTable& components) {
     CStringArray values;
     values.Add(pair.m_strMarker + component[0].m_strValue);
     values.Append(pair.m_pRow(component, pair.m_nDecimals));
-    table.AddTableItem(values, 0);
+    if (!table.AddTableItem(values, 0))
+      throw CCatalogueError(ToUtf8(values[0]) + ": stands twice among the pairs");
   }
   return table;
 }
