@@ -40,7 +40,7 @@ std::vector<CSectionSpacing> SpacingsOf(const COptions& options) {
   const CString table = FromUtf8(options.table);
   const CString no = FromUtf8(options.no);
   const std::vector<CString> numbers = SpacedNumbers(table);
-  const auto spacings = SectionSpacings(table, no);
+  std::vector<CSectionSpacing> spacings = SectionSpacings(table, no);
   if (numbers.empty() && LegsOf(no).m_nLong == 0) {
     Refuse("NO: " + Quoted(options.no) + " is no angle's number; right would be such as L50X5");
   }

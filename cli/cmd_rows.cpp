@@ -105,6 +105,7 @@ CDataTable Selected(const CDataTable& all, const COptions& options) {
 
 std::vector<std::string> Signs(const CDataTable& table) {
   std::vector<std::string> signs;
+  signs.reserve(static_cast<std::size_t>(table.GetTableColNum()));
   for (int i = 0; i < table.GetTableColNum(); ++i)
     signs.push_back(ToUtf8(table.m_Title[i].m_strSign));
   return signs;
@@ -125,7 +126,7 @@ void PrintRowsCsv(const CDataTable& table) {
   Print(text);
 }
 
-void PrintRows(const std::string& name, const CDataTable& table) {
+void PrintRows(const COptions& options, const CDataTable& table) {
   std::vector<CAlign> columns;
   for (int i = 0; i < table.GetTableColNum(); ++i) {
     const bool text = ValueClassOf(table.m_Title[i].m_nType) == CValueClass::Text;
@@ -138,8 +139,10 @@ void PrintRows(const std::string& name, const CDataTable& table) {
     lines.AddRow(RowCells(row));
     ++count;
   });
-  Print(lines.Text() + "\n" + name + ": " + std::to_string(count) +
+  Print(lines.Text() + "\n" + options.table + ": " + std::to_string(count) +
         (count == 1 ? " row" : " rows") + "\n");
+  const bool star = options.where.find('*') != std::string::npos;
+  if (count == 0 && star && !options.wildcard) Print("with --wildcard a * stands for any text\n");
 }
 
 void RunRows(const COptions& options) {
@@ -147,7 +150,7 @@ void RunRows(const COptions& options) {
   const CDataTable table = Selected(all, options);
   if (options.json) return PrintJson(TableJson(options.table, table));
   if (options.csv) return PrintRowsCsv(table);
-  PrintRows(options.table, table);
+  PrintRows(options, table);
 }
 
 }  // namespace
@@ -170,6 +173,9 @@ void AddRowsCommand(CLI::App& program) {
       ->type_name("SIGN[:desc]");
   CLI::Option* json = command->add_flag("--json", options->json, "As JSON, cells as text");
   command->add_flag("--csv", options->csv, "As CSV that a spreadsheet opens")->excludes(json);
+  command->footer(
+      "orv3cal rows 热轧普通工字钢 --where 'h(mm)>=200 && h(mm)<<300' --sort 'A(cm^2):desc'\n"
+      "orv3cal rows 热轧普通工字钢 --where 'No.==I20*' --wildcard --columns 'No.,A(cm^2)' --csv");
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunRows(*options); });
 }

@@ -53,8 +53,7 @@ CDataItem RowOf(const COptions& options) {
 }
 
 CDataItem WithGap(const CDataItem& row, const COptions& options) {
-  if (!HasPairSpacing(row.GetTableName()))
-    Refuse("--gap: " + options.table + " is no table of pairs that stand apart");
+  if (!IsPairTable(row.GetTableName())) Refuse("--gap: " + options.table + " is no table of pairs");
   return WithPairSpacing(row, options.gap);
 }
 

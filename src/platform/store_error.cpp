@@ -1,11 +1,13 @@
 #include "platform/store_error.h"
 
+#include "platform/per_thread.h"
+
 namespace orv3 {
 namespace {
 
 CStoreError& Current() {
-  thread_local CStoreError error;
-  return error;
+  static CPerThread<CStoreError> errors;
+  return errors.Here();
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "framework/number_text.h"
+#include "platform/per_thread.h"
 #include "platform/store_body.h"
 #include "platform/store_error.h"
 
@@ -20,8 +21,8 @@ std::atomic<long long> g_nBusyWait{1000};
 
 // The stores that this thread keeps to itself.
 std::vector<std::shared_ptr<CStoreBody>>& HeldBodies() {
-  thread_local std::vector<std::shared_ptr<CStoreBody>> held;
-  return held;
+  static CPerThread<std::vector<std::shared_ptr<CStoreBody>>> held;
+  return held.Here();
 }
 
 std::unique_ptr<CFile> OpenWaiting(const CString& path, CFileMode mode, CFileError& error) {

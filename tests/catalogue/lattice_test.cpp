@@ -77,7 +77,7 @@ CSteelItemGeGou RowOf(const CColumn& column) {
 }
 
 class Lattice : public testing::Test {
- protected:
+ public:
   Lattice() {
     orv3::SetProgramPath(m_folder.Path());
     AddTable(m_folder.Path(), kChannels,
@@ -89,8 +89,11 @@ class Lattice : public testing::Test {
     AddTable(m_folder.Path(), kAngles, {L"No.", L"b(mm)", L"A(cm^2)", L"Ix(cm^4)", L"zo(cm)"},
              {L"L75X5,75,7.412,39.97,2.04"});
   }
+  Lattice(const Lattice&) = delete;
+  Lattice& operator=(const Lattice&) = delete;
   ~Lattice() override { orv3::SetProgramPath(L""); }
 
+ private:
   CTempFolder m_folder;
 };
 

@@ -109,6 +109,13 @@ TEST(RowsCommand, AlignsItsColumns) {
       "热轧普通工字钢: 5 rows\n");
 }
 
+// Without --wildcard a star is a star; somebody who finds nothing is told.
+TEST(RowsCommand, TellsOfTheWildcard) {
+  const CRunResult run = OnCatalogue("rows 热轧普通工字钢 --where \"No.==I20*\" --columns No.");
+  EXPECT_EQ(run.m_strOut,
+            "No.\n\n热轧普通工字钢: 0 rows\nwith --wildcard a * stands for any text\n");
+}
+
 TEST(RowsCommand, RefusesInOneLineThatNamesTheFault) {
   const std::string beams = "rows 热轧普通工字钢" + kData;
   ExpectRefused({

@@ -219,7 +219,6 @@ TEST(ShowCommand, RefusesInOneLineThatNamesTheFault) {
       {"热轧工字钢 I20a", {"TABLE", "热轧工字钢", "热轧普通工字钢"}},
       {"热轧普通工字钢 I20a --turn 45", {"--turn", "45", "270"}},
       {"热轧普通工字钢 I20a --gap 10", {"--gap", "热轧普通工字钢", "pairs"}},
-      {"热轧普通槽钢[]组合 2[][20a --gap 10", {"--gap"}},
       {"热轧等边角钢组合 2L100X10 --gap 2.5", {"--gap", "2.5"}},
       {"热轧等边角钢组合 2L100X10 --gap -1", {"--gap"}},
       {"热轧普通工字钢", {"NO", "required"}},

@@ -37,18 +37,19 @@ foreach(name acrxGetApiVersion ${functions})
   endif()
 endforeach()
 
-# The classes that hosts use, by their mangled names.
-foreach(class CString CBitmap CInvalidArgException CKvbMath CDataTypeStruct CDataTableTitle CDataCell
-              CDataItem CDataFileInfo CDataTable CSteelJMData CLoadDataTable CReadFile
-              CSteelItemGeGou CSteelJMGeGou CTableSearch CGetSteelDis NormalBoltData AngleHanFData
-              WQWeldingData)
+# The classes that hosts use, by their mangled names: a member, or the type by which an exception is
+# caught.
+foreach(class CString CBitmap CInvalidArgException CDataTypeStruct CDataTableTitle CDataCell CDataItem
+              CDataFileInfo CDataTable CSteelJMData CLoadDataTable CReadFile CSteelItemGeGou
+              CSteelJMGeGou CTableSearch CGetSteelDis NormalBoltData AngleHanFData WQWeldingData)
   string(LENGTH ${class} length)
-  if(NOT exports MATCHES "\\] _ZNK?${length}${class}[^\n]*\n")
+  if(NOT exports MATCHES "\\] _Z(NK?|T[IV])${length}${class}[^\n]*\n")
     message(SEND_ERROR "no member of ${class} is exported")
   endif()
 endforeach()
 foreach(member VisitDataBase VisitSelJMDlg GetSysTemJMItem GetDataItemArea)
-  if(NOT exports MATCHES "\\] _ZN14CLoadDataTable[0-9]+${member}[^\n]*\n")
+  string(LENGTH ${member} length)
+  if(NOT exports MATCHES "\\] _ZN14CLoadDataTable${length}${member}[^\n]*\n")
     message(SEND_ERROR "CLoadDataTable::${member} is not exported")
   endif()
 endforeach()

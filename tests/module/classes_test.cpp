@@ -43,7 +43,7 @@ TEST(CModuleClasses, Compute) {
   fillet.CalHFLw(8, 90);
   EXPECT_NEAR(fillet.m_dHe, 0.7 * 8, 1e-12);
   NormalBoltData bolts;
-  EXPECT_EQ(bolts.BoltYanSuan(), 0);  // nothing is given yet
+  EXPECT_THROW(bolts.BoltYanSuan(), std::invalid_argument);  // nothing is given yet
   EXPECT_EQ(WQWeldingData(WQWeldingData()).m_dLw, WQWeldingData().m_dLw);
 }
 

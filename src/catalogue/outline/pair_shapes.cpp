@@ -87,14 +87,10 @@ COutline StandingPart(const CPairTable& pair, const CString& no) {
 
 bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullptr; }
 
-bool HasPairSpacing(const CString& tableName) {
-  const CPairTable* pair = FindPair(tableName);
-  return pair != nullptr && pair->m_nForm != CPairForm::ToeToToe;
-}
-
 CDataItem WithPairSpacing(CDataItem row, int spacing) {
-  if (!HasPairSpacing(row.GetTableName()) || row.IsEmpty()) return row;
-  const wchar_t* sign = SpacingSign(*FindPair(row.GetTableName()));
+  const CPairTable* pair = FindPair(row.GetTableName());
+  if (pair == nullptr || row.IsEmpty()) return row;
+  const wchar_t* sign = SpacingSign(*pair);
   if (row.GetCellSign(1) == sign) row.m_arrCell.RemoveAt(1);
   const CDataTypeStruct column(L"肢距", sign, CDataTypeStruct::KVBT_INT, 0);
   row.m_arrCell.InsertAt(1, CDataCell(column, FormatInt(spacing)));

@@ -44,9 +44,9 @@ class CRowSizes {
 };
 
 // The spacing that was chosen with a pair's row: an integer cell of this sign right after "No.",
-// mm; 0 without it and for an empty sign.
+// mm; 0 without it.
 inline double ChosenSpacing(const CDataItem& row, std::wstring_view sign) {
-  if (sign.empty() || row.GetCellSign(1) != sign) return 0;
+  if (row.GetCellSign(1) != sign) return 0;
   return ToInt(row[1].m_strValue);
 }
 

@@ -6,11 +6,11 @@
 
 namespace orv3 {
 
-// Whether the table's pairs stand apart: all but channels toe to toe, which touch.
-ORV3CAL_API bool HasPairSpacing(const CString& tableName);
+// Whether a table's rows are pairs of angles or channels, or crosses of angles.
+ORV3CAL_API bool IsPairTable(const CString& tableName);
 
 // The row with its spacing in whole mm as an integer cell right after "No.", in place of one that
-// is there; unchanged when its table has none.
+// is there; unchanged when it is no pair.
 ORV3CAL_API CDataItem WithPairSpacing(CDataItem row, int spacing);
 
 }  // namespace orv3

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "catalogue/outline/row_sizes.h"
+#include "catalogue/outline/row_spacing.h"
 #include "sections/outline.h"
 
 namespace orv3 {
@@ -46,7 +47,6 @@ struct CPair {
   const wchar_t* m_szHeight = L"";
   const wchar_t* m_szGap = L"";
 };
-bool IsPairTable(const CString& tableName);
 CPair PairOf(const CDataItem& row);
 
 // Lattice columns (lattice_shape.cpp).

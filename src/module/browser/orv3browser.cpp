@@ -2,11 +2,9 @@
 // a line: "table", then each column by its sign.
 //
 // FOLDER holds the section stores. Without it the user's own copy of the shipped store is opened,
-// in the folder Orv3Cal of the user's local application data; it is made at the first start.
+// the one that the command orv3cal uses; it is made at the first start.
 //
 // Exit status: 0 a row was chosen, 1 none, 2 misuse, 3 trouble with files.
-#include <windows.h>
-
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -17,6 +15,7 @@
 #include "module/orv3cal_c.h"
 #include "platform/command_line.h"
 #include "platform/file_system.h"
+#include "platform/places.h"
 #include "platform/whole_file.h"
 #include "tables/table_store.h"
 
@@ -31,28 +30,22 @@ enum CExit : int { kChosen = 0, kNone = 1, kMisuse = 2, kFileTrouble = 3 };
 
 [[noreturn]] void Fail(const CString& text) { throw std::runtime_error(ToUtf8(text)); }
 
-CString ProgramFolder() {
-  std::wstring path(32768, L'\0');
-  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-  return CString(path).Left(CString(path).ReverseFind(L'\\') + 1);
-}
+CString FolderOf(const CString& path) { return path.Left(path.ReverseFind(L'\\')); }
 
 // The user's folder, with a store in it.
 CString UserFolder() {
-  std::wstring local(32768, L'\0');
-  local.resize(
-      GetEnvironmentVariableW(L"LOCALAPPDATA", local.data(), static_cast<DWORD>(local.size())));
-  if (local.empty()) Fail(L"LOCALAPPDATA is not set; give the folder of the section stores");
-  const CString folder = CString(local) + L"\\Orv3Cal\\";
+  if (UserDataFolder().IsEmpty()) Fail(L"the user has no folder for data; give that of the stores");
+  const CString folder = UserDataFolder() + L"\\";
   const CString store = folder + kSystemStore;
   CFileStamp stamp;
   if (Files().Stamp(store, stamp) == CFileError::None) return folder;
 
-  const CString shipped = ProgramFolder() + L"..\\share\\orv3cal\\" + kSystemStore;
+  const CString installed = FolderOf(FolderOf(ProgramFile()));
+  const CString shipped = installed + L"\\share\\orv3cal\\" + kSystemStore;
   std::string bytes;
   if (ReadWholeFile(shipped, bytes) != CFileError::None)
     Fail(shipped + L" cannot be read; give the folder of the section stores");
-  if (!Files().MakeFolder(folder) || WriteWholeFile(store, bytes) != CFileError::None)
+  if (!MakeFolders(folder) || WriteWholeFile(store, bytes) != CFileError::None)
     Fail(store + L" cannot be written; give a folder of section stores that can");
   return folder;
 }

@@ -1,0 +1,40 @@
+// Case files of the checks, as JSON and as CSV: every case is read or refused with a reason.
+#include <string>
+
+#include "case_source.h"
+#include "error.h"
+#include "memory_files.h"
+#include "schemas.h"
+
+namespace {
+
+using namespace orv3::cli;
+
+void ReadAll(const char* path, const CCaseSchema& schema) {
+  try {
+    const auto source = OpenCases(path, schema);
+    std::optional<orv3::CCaseFault> fault;
+    CCaseValues values(schema.Rules().size());
+    while (source->Next(values, fault)) {
+      if (!fault) schema.Check(values);
+      fault.reset();
+      values.assign(schema.Rules().size(), std::nullopt);
+    }
+  } catch (const CCommandError& error) {
+    Require(*error.what() != '\0');
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  static CMemoryFiles files;
+  static const CCaseSchema bolt(kBoltSchema);
+  static const CCaseSchema lattice(kLatticeSchema);
+  for (const auto& [path, wide] : {std::pair{"a.json", L"a.json"}, {"a.csv", L"a.csv"}}) {
+    files[wide] = std::string(reinterpret_cast<const char*>(data), size);
+    ReadAll(path, bolt);
+    ReadAll(path, lattice);
+  }
+  return 0;
+}
