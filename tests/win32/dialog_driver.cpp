@@ -48,6 +48,17 @@ std::vector<HWND> Dialogs() {
   return found;
 }
 
+// What stands on the screen instead of what was waited for.
+std::string OpenOnes() {
+  std::string texts;
+  for (const HWND window : Dialogs()) {
+    texts += "; open: " + Narrow(WindowText(window));
+    const HWND message = GetDlgItem(window, kMessageText);
+    if (message != nullptr) texts += ": " + Narrow(WindowText(message));
+  }
+  return texts;
+}
+
 HWND FindDialog(const std::wstring& caption) {
   for (const HWND window : Dialogs()) {
     if (IsWindowEnabled(window) && WindowText(window) == caption) return window;
@@ -147,7 +158,11 @@ void CKeyDown::Set(BYTE state) const {
 
 CDialogProbe CDialogProbe::WaitFor(const std::wstring& caption) {
   HWND found = nullptr;
-  Eventually([&] { return (found = FindDialog(caption)) != nullptr; }, "dialog " + Narrow(caption));
+  try {
+    Eventually([&] { return (found = FindDialog(caption)) != nullptr; }, Narrow(caption));
+  } catch (const std::runtime_error& error) {
+    throw std::runtime_error(error.what() + OpenOnes());
+  }
   return CDialogProbe(found);
 }
 
@@ -167,7 +182,9 @@ CDialogProbe CDialogProbe::WaitForMessage() {
 bool CDialogProbe::IsOpen(const std::wstring& caption) { return FindDialog(caption) != nullptr; }
 
 void CDialogProbe::WaitUntilClosed() const {
+  const HWND owner = GetWindow(m_hWnd, GW_OWNER);
   Eventually([this] { return !IsWindow(m_hWnd); }, "end of a dialog");
+  if (owner != nullptr) SendMessageW(owner, WM_NULL, 0, 0);
 }
 
 HWND CDialogProbe::Control(int id) const {

@@ -22,6 +22,8 @@ class CDialogProbe {
   // The message box that is open, whatever its title.
   static CDialogProbe WaitForMessage();
   static bool IsOpen(const std::wstring& caption);
+  // Waits as well until its owner has done what follows: the library, which belongs to the owner's
+  // thread, may then be asked from here.
   void WaitUntilClosed() const;
 
   HWND Window() const { return m_hWnd; }
