@@ -244,12 +244,13 @@ void CDialogProbe::Check(int id, bool checked) const {
 
 void CDialogProbe::SelectNode(int id, const std::wstring& text) const {
   const HWND tree = Control(id);
-  HTREEITEM found = nullptr;
-  Visit(tree, TreeView_GetRoot(tree), [&](HTREEITEM item) {
-    if (found == nullptr && NodeText(tree, item) == text) found = item;
-  });
-  if (found == nullptr) throw std::runtime_error("no node \"" + Narrow(text) + "\"");
-  SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(found));
+  if (m_mapNode.empty()) {
+    Visit(tree, TreeView_GetRoot(tree),
+          [&](HTREEITEM item) { m_mapNode.emplace(NodeText(tree, item), item); });
+  }
+  const auto found = m_mapNode.find(text);
+  if (found == m_mapNode.end()) throw std::runtime_error("no node \"" + Narrow(text) + "\"");
+  SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(found->second));
 }
 
 std::vector<std::wstring> CDialogProbe::Nodes(int id) const {

@@ -10,6 +10,7 @@
 #include <commctrl.h>
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -64,6 +65,7 @@ class CDialogProbe {
  private:
   explicit CDialogProbe(HWND window) : m_hWnd(window) {}
   HWND m_hWnd;
+  mutable std::map<std::wstring, HTREEITEM> m_mapNode;  // of the tree: asking takes its time
 };
 
 // While it lives, the thread of a window takes a key for pressed.
