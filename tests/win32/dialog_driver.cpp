@@ -48,6 +48,17 @@ std::vector<HWND> Dialogs() {
   return found;
 }
 
+// What stands on the screen instead of what was waited for.
+std::string OpenOnes() {
+  std::string texts;
+  for (const HWND window : Dialogs()) {
+    texts += "; open: " + Narrow(WindowText(window));
+    const HWND message = GetDlgItem(window, kMessageText);
+    if (message != nullptr) texts += ": " + Narrow(WindowText(message));
+  }
+  return texts;
+}
+
 HWND FindDialog(const std::wstring& caption) {
   for (const HWND window : Dialogs()) {
     if (IsWindowEnabled(window) && WindowText(window) == caption) return window;
@@ -147,7 +158,11 @@ void CKeyDown::Set(BYTE state) const {
 
 CDialogProbe CDialogProbe::WaitFor(const std::wstring& caption) {
   HWND found = nullptr;
-  Eventually([&] { return (found = FindDialog(caption)) != nullptr; }, "dialog " + Narrow(caption));
+  try {
+    Eventually([&] { return (found = FindDialog(caption)) != nullptr; }, Narrow(caption));
+  } catch (const std::runtime_error& error) {
+    throw std::runtime_error(error.what() + OpenOnes());
+  }
   return CDialogProbe(found);
 }
 
@@ -167,7 +182,9 @@ CDialogProbe CDialogProbe::WaitForMessage() {
 bool CDialogProbe::IsOpen(const std::wstring& caption) { return FindDialog(caption) != nullptr; }
 
 void CDialogProbe::WaitUntilClosed() const {
+  const HWND owner = GetWindow(m_hWnd, GW_OWNER);
   Eventually([this] { return !IsWindow(m_hWnd); }, "end of a dialog");
+  if (owner != nullptr) SendMessageW(owner, WM_NULL, 0, 0);
 }
 
 HWND CDialogProbe::Control(int id) const {
@@ -227,12 +244,13 @@ void CDialogProbe::Check(int id, bool checked) const {
 
 void CDialogProbe::SelectNode(int id, const std::wstring& text) const {
   const HWND tree = Control(id);
-  HTREEITEM found = nullptr;
-  Visit(tree, TreeView_GetRoot(tree), [&](HTREEITEM item) {
-    if (found == nullptr && NodeText(tree, item) == text) found = item;
-  });
-  if (found == nullptr) throw std::runtime_error("no node \"" + Narrow(text) + "\"");
-  SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(found));
+  if (m_mapNode.empty()) {
+    Visit(tree, TreeView_GetRoot(tree),
+          [&](HTREEITEM item) { m_mapNode.emplace(NodeText(tree, item), item); });
+  }
+  const auto found = m_mapNode.find(text);
+  if (found == m_mapNode.end()) throw std::runtime_error("no node \"" + Narrow(text) + "\"");
+  SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(found->second));
 }
 
 std::vector<std::wstring> CDialogProbe::Nodes(int id) const {

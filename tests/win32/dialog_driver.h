@@ -10,6 +10,7 @@
 #include <commctrl.h>
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,8 @@ class CDialogProbe {
   // The message box that is open, whatever its title.
   static CDialogProbe WaitForMessage();
   static bool IsOpen(const std::wstring& caption);
+  // Waits as well until its owner has done what follows: the library, which belongs to the owner's
+  // thread, may then be asked from here.
   void WaitUntilClosed() const;
 
   HWND Window() const { return m_hWnd; }
@@ -62,6 +65,7 @@ class CDialogProbe {
  private:
   explicit CDialogProbe(HWND window) : m_hWnd(window) {}
   HWND m_hWnd;
+  mutable std::map<std::wstring, HTREEITEM> m_mapNode;  // of the tree: asking takes its time
 };
 
 // While it lives, the thread of a window takes a key for pressed.
