@@ -73,8 +73,9 @@ void Fill(sqlite3* base, const CDataTable& table) {
   std::string columns, marks;
   for (int c = 0; c < table.GetTableColNum(); ++c) {
     const bool text = table.GetDataTableColType(c) == CDataTypeStruct::KVBT_STRING;
-    columns += (c == 0 ? "" : ", ") + ('"' + orv3::ToUtf8(table.GetTableColSign(c)) + '"') +
-               (text ? " TEXT" : " REAL") + (c == 0 ? " PRIMARY KEY" : "");
+    // By number: SQLite takes "B(mm)" and "b(mm)" for one name.
+    columns += (c == 0 ? "c" : ", c") + std::to_string(c) + (text ? " TEXT" : " REAL") +
+               (c == 0 ? " PRIMARY KEY" : "");
     marks += c == 0 ? "?" : ", ?";
   }
   Run(base, "BEGIN");

@@ -128,6 +128,7 @@ int ORV3_CALL orv3_list_columns(const orv3_char* table, orv3_char* text, int siz
   return Guarded([&] {
     const CDataTable source = TableOf(table);
     std::vector<CString> lines;
+    lines.reserve(static_cast<std::size_t>(source.GetTableColNum()));
     for (int i = 0; i < source.GetTableColNum(); ++i) lines.push_back(source.m_Title.GetColSign(i));
     return GiveText(JoinLines(lines), text, size);
   });

@@ -140,7 +140,8 @@ typename CHECK::CCase CaseOf(const CHECK& check, const CValues& values) {
     bool bKnown = false;
     std::string known;
     for (const auto& key : CHECK::InputKeys()) {
-      known += std::string(known.empty() ? "" : ", ") + key.m_szKey;
+      known += known.empty() ? "" : ", ";
+      known += key.m_szKey;
       if (name != key.m_szKey) continue;
       SetValue(input, key, text);
       bKnown = true;

@@ -22,9 +22,8 @@ void CLoadDataTable::SetOrvoPrgPath(const CString& path) { orv3::SetProgramPath(
 CString CLoadDataTable::GetOrvoPrgPath() { return orv3::ProgramPath(); }
 
 int CLoadDataTable::GetSysTemItemNo(const CString& tableName, CStringArray& numbers) {
-  const CString name = tableName;  // which may be one of `numbers`
-  numbers.RemoveAll();
-  const auto read = orv3::SystemTable(orv3::SystemStorePath(), name);
+  const auto read = orv3::SystemTable(orv3::SystemStorePath(), tableName);
+  numbers.RemoveAll();  // of which the name may be one
   if (!read || read->Table().GetTableColNum() < 2) return 0;
   for (const CDataItem& row : read->Table().m_arrItem) {
     const int cell = row.GetSignIndex(L"No.");

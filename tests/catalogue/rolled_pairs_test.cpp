@@ -134,11 +134,13 @@ class RolledPairs : public testing::TestWithParam<CPairCase> {
   int m_nCount = 0;
 };
 
+std::wstring GapSign(const wchar_t* symbol, int mm, const wchar_t* unit) {
+  return symbol + std::to_wstring(mm) + unit;
+}
+
 TEST_P(RolledPairs, AreTheirComponentsSideBySide) {
   const CPairCase& each = GetParam();
   const bool cross = each.place == Cross;
-  const std::wstring modulus = cross ? L"Ix" : L"Wy", radius = cross ? L"ix" : L"iy";
-  const std::wstring power = cross ? L"(cm^4)" : L"(cm^3)";
   CStringArray numbers;
   ASSERT_EQ(CLoadDataTable::GetSysTemItemNo(each.component, numbers), 1);
   for (const CString& no : numbers) {
@@ -167,8 +169,8 @@ TEST_P(RolledPairs, AreTheirComponentsSideBySide) {
       const CIntegrals sum = Whole(placed, mm / 10.0);
       const double inertia = cross ? sum.yy : sum.xx;
       const double expected = cross ? inertia : inertia / (width + mm / 20.0);
-      Expect(modulus + std::to_wstring(mm) + power, expected, 0.1);
-      Expect(radius + std::to_wstring(mm) + L"(cm)", std::sqrt(inertia / sum.A), 0.01);
+      Expect(GapSign(cross ? L"Ix" : L"Wy", mm, cross ? L"(cm^4)" : L"(cm^3)"), expected, 0.1);
+      Expect(GapSign(cross ? L"ix" : L"iy", mm, L"(cm)"), std::sqrt(inertia / sum.A), 0.01);
     }
   }
   // Rounding goes either way.

@@ -223,11 +223,9 @@ double UnitOfLastDigit(const CTable& table, const std::string& symbol, const std
 }
 
 double DeviationOf(const CTable& table, const std::string& no, const std::string& symbol) {
-  for (const std::string& key : {no + " " + symbol, symbol}) {
-    const auto found = table.m_mapDeviation.find(key);
-    if (found != table.m_mapDeviation.end()) return found->second;
-  }
-  return 0;
+  auto found = table.m_mapDeviation.find(no + " " + symbol);
+  if (found == table.m_mapDeviation.end()) found = table.m_mapDeviation.find(symbol);
+  return found == table.m_mapDeviation.end() ? 0 : found->second;
 }
 
 bool Agrees(const CTable& table, const std::string& no, const std::string& symbol,

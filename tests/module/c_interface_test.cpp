@@ -74,7 +74,7 @@ TEST(CTexts, AreCutToTheRoomThereIsAndNeverInsideACharacter) {
   for (int size = 1; size <= static_cast<int>(whole.size()); ++size) {
     CText16 text(whole.size() + 1, u'x');
     EXPECT_EQ(orv3_last_error(text.data(), size), static_cast<int>(whole.size()));
-    const CText16 cut(text.c_str());
+    const CText16 cut = text.substr(0, text.find(u'\0'));
     EXPECT_EQ(cut, whole.substr(0, cut.size()));
     EXPECT_GE(static_cast<int>(cut.size()) + 2, size);
     EXPECT_LT(static_cast<int>(cut.size()), size);
@@ -90,7 +90,7 @@ TEST(CTexts, AnswerTheInterfaceVersion) { EXPECT_EQ(orv3_version(), ORV3_INTERFA
 TEST(CSection, ComputesAnHSectionUnderEachNameOfItsStyle) {
   const double sizes[] = {300, 400, 10, 10};  // b, h, tf, tw
   for (const char16_t* style : {u"自定义对称H型钢", u"0", u"h"}) {
-    double p[ORV3_PROPERTIES + 1];
+    double p[ORV3_PROPERTIES + 1] = {};
     p[ORV3_PROPERTIES] = -7;
     ASSERT_EQ(orv3_section(style, sizes, 4, 150, 0, p, ORV3_PROPERTIES + 1), ORV3_PROPERTIES);
     const double A = 2 * 300 * 10 + 380 * 10;
@@ -127,7 +127,7 @@ TEST(CSection, RefusesByNameWhatMakesNoSection) {
   const double sizes[] = {300, 400, 10, 10};
   const double thick[] = {300, 400, 210, 10};
   const double endless[] = {300, HUGE_VAL, 10, 10};
-  double p[ORV3_PROPERTIES];
+  double p[ORV3_PROPERTIES] = {};
   struct {
     const char16_t* style;
     const double* sizes;
@@ -336,7 +336,7 @@ TEST_F(CCatalogue, GivesCellsAndGeometry) {
   EXPECT_EQ(value, 200);
   EXPECT_EQ(orv3_cell_value(table, u"I20a", u"No.", &value), -1);
 
-  double g[ORV3_GEOMETRY];
+  double g[ORV3_GEOMETRY] = {};
   ASSERT_EQ(orv3_geometry(table, u"I20a", 0, g, ORV3_GEOMETRY), ORV3_GEOMETRY) << LastError();
   EXPECT_NEAR(g[ORV3_GEO_AREA], 3550, 1e-9);
   const char16_t* const own = u"自定义对称H型钢";

@@ -83,7 +83,7 @@ bool ReadRecords(const CString& file, const CRolledStyle& style, std::string& re
   std::int16_t size = 0;
   if (records.size() >= kHeader) std::memcpy(&size, records.data(), kHeader);
   const CString wanted = FormatInt(style.m_nSize);
-  if (size != style.m_nSize) {
+  if (size <= 0 || size != style.m_nSize) {
     return Refuse(file,
                   L"damaged: its records are of " + FormatInt(size) + L" bytes; those of \"" +
                       style.m_strName + L"\" are of " + wanted,
@@ -106,7 +106,7 @@ bool CheckRecords(const CString& file, const CRolledStyle& style, const std::str
   std::set<CString> seen;
   const auto size = static_cast<std::size_t>(style.m_nSize);
   for (std::size_t at = 0; at < records.size(); at += size) {
-    const CString record = L"record " + FormatInt(static_cast<long long>(at / size + 1));
+    const CString record = L"record " + FormatInt(static_cast<long long>(at / size) + 1);
     const CString no = RecordNumber(style, records.data() + at);
     if (no.IsEmpty()) return Refuse(file, L"damaged: " + record + L" has no model number", why);
     CStringArray values;

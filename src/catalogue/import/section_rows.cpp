@@ -76,7 +76,7 @@ CDataItem EmptyRow(const CString& table, const CDataTableTitle& title) {
 CString CompleteRow(CDataItem& row) {
   if (const auto fault = CheckRow(row)) return fault->m_strText;
   if (const CSectionStyle* style = FindSectionStyle(row.m_strTableName.View())) {
-    const CString digits = CheckDigits(row, *style);
+    CString digits = CheckDigits(row, *style);
     if (!digits.IsEmpty()) return digits;
     if (CLoadDataTable::CalSectCharacterStyle(row)) return {};
     return L"the row has other cells than the columns of \"" + row.m_strTableName + L"\"";
