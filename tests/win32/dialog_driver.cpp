@@ -86,10 +86,13 @@ void Visit(HWND tree, HTREEITEM item, const std::function<void(HTREEITEM)>& visi
   }
 }
 
+// A question is answered with No, everything else cancelled.
 void CloseEverything(const std::atomic<bool>& ended) {
   while (!ended) {
-    for (const HWND window : Dialogs()) PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
-    for (const HWND window : Dialogs()) PostMessageW(window, WM_COMMAND, IDNO, 0);
+    for (const HWND window : Dialogs()) {
+      const WPARAM answer = GetDlgItem(window, IDNO) != nullptr ? IDNO : IDCANCEL;
+      if (IsWindowEnabled(window)) PostMessageW(window, WM_COMMAND, answer, 0);
+    }
     std::this_thread::sleep_for(20ms);
   }
 }

@@ -64,9 +64,11 @@ void CDialogLayout::Arrange() const {
     Follow(r.top, r.bottom, client.bottom - m_size.cy, sides & HoldTop, sides & HoldBottom);
     if (places == nullptr) return;
     places = DeferWindowPos(places, control.m_hWnd, nullptr, r.left, r.top, r.right - r.left,
-                            r.bottom - r.top, SWP_NOZORDER | SWP_NOACTIVATE);
+                            r.bottom - r.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
   }
   if (places != nullptr) EndDeferWindowPos(places);
+  // Drawn anew as a whole: copied pixels of a control that has moved are not always valid.
+  RedrawWindow(m_hDialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void CDialogLayout::Scale(int to, int from) {
