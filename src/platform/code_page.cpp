@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "framework/utf8.h"
+#include "platform/threads.h"
 
 namespace orv3 {
 namespace {
@@ -60,14 +61,14 @@ class CPages {
   }
 
   const CPage& Current() {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::lock_guard lock(m_lock);
     if (!m_pCurrent) m_pCurrent = Find(SystemCodePage());
     if (!m_pCurrent) m_pCurrent = (m_pages[0] = Ascii()).get();
     return *m_pCurrent;
   }
 
   bool Select(int number) {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::lock_guard lock(m_lock);
     const CPage* page = Find(number == 0 ? SystemCodePage() : number);
     if (page) m_pCurrent = page;
     return page != nullptr;
@@ -80,7 +81,7 @@ class CPages {
     return page.get();
   }
 
-  std::mutex m_mutex;
+  CLock m_lock;
   std::map<int, std::unique_ptr<CPage>> m_pages;
   const CPage* m_pCurrent = nullptr;
 };

@@ -5,9 +5,11 @@
 // value outlives its thread, and a later thread that the system gives the same number finds it.
 #pragma once
 
+#include <cstdint>
 #include <mutex>
-#include <thread>
 #include <unordered_map>
+
+#include "platform/threads.h"
 
 namespace orv3 {
 
@@ -16,13 +18,13 @@ class CPerThread {
  public:
   // The calling thread's value; the reference stays valid.
   VALUE& Here() {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_mapValue[std::this_thread::get_id()];
+    const std::lock_guard lock(m_lock);
+    return m_mapValue[ThreadNumber()];
   }
 
  private:
-  std::mutex m_mutex;
-  std::unordered_map<std::thread::id, VALUE> m_mapValue;
+  CLock m_lock;
+  std::unordered_map<std::uintptr_t, VALUE> m_mapValue;
 };
 
 }  // namespace orv3

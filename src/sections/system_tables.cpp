@@ -7,6 +7,7 @@
 #include "platform/file_system.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
+#include "platform/threads.h"
 #include "tables/table_store.h"
 
 namespace orv3 {
@@ -23,7 +24,7 @@ struct CKeptStore {
 class CCache {
  public:
   CTablePtr Find(const CString& store, const CFileStamp& stamp, const CString& table) {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::lock_guard lock(m_lock);
     const auto kept = m_mapStore.find(store);
     if (kept == m_mapStore.end() || kept->second.m_stamp != stamp) return nullptr;
     const auto found = kept->second.m_mapTable.find(table);
@@ -31,7 +32,7 @@ class CCache {
   }
 
   void Put(const CString& store, const CFileStamp& stamp, const CString& table, CTablePtr read) {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::lock_guard lock(m_lock);
     if (m_mapStore.size() >= kMostStores && !m_mapStore.contains(store)) m_mapStore.clear();
     CKeptStore& kept = m_mapStore[store];
     if (kept.m_stamp != stamp) kept = {stamp, {}};
@@ -39,18 +40,18 @@ class CCache {
   }
 
   void SetInFront(const CString& file) {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::lock_guard lock(m_lock);
     m_strInFront = file;
   }
   CString InFront() {
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    const std::lock_guard lock(m_lock);
     return m_strInFront;
   }
 
  private:
   static constexpr std::size_t kMostStores = 4;
 
-  std::mutex m_mutex;
+  CLock m_lock;
   std::map<CString, CKeptStore> m_mapStore;
   CString m_strInFront;
 };

@@ -6,15 +6,16 @@
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
+#include "platform/threads.h"
 #include "tables/data_table.h"
 #include "tables/table_file_directory.h"
 
 namespace orv3 {
 namespace {
 
-std::mutex& PathMutex() {
-  static std::mutex mutex;
-  return mutex;
+CLock& PathLock() {
+  static CLock lock;
+  return lock;
 }
 
 CString& StoredPath() {
@@ -64,12 +65,12 @@ bool IsUserStore(const CString& path) {
 }  // namespace
 
 CString ProgramPath() {
-  const std::lock_guard<std::mutex> lock(PathMutex());
+  const std::lock_guard lock(PathLock());
   return StoredPath();
 }
 
 void SetProgramPath(const CString& path) {
-  const std::lock_guard<std::mutex> lock(PathMutex());
+  const std::lock_guard lock(PathLock());
   StoredPath() = path;
 }
 
