@@ -27,16 +27,16 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   target_link_options(orv3cal_dll PRIVATE -Wl,--add-stdcall-alias)
 endif()
 
-# On i686 a program catches what the DLL throws only when both use one runtime, so its files go
-# beside the DLL. On x86_64 a static runtime is enough.
+# A program catches what the DLL throws only when both use one runtime (i686), and a runtime of the
+# DLL's own would leave memory behind when a host unloads it; so its files go beside the DLL.
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-  foreach(name libgcc_s_dw2-1.dll libstdc++-6.dll libwinpthread-1.dll)
-    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}
-                    OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
-    list(APPEND ORV3CAL_RUNTIME_DLLS ${file})
-  endforeach()
-  file(COPY ${ORV3CAL_RUNTIME_DLLS} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  set(unwinding libgcc_s_dw2-1.dll)
 else()
-  target_link_options(orv3cal_dll PRIVATE -static)
-  set_property(SOURCE ${module}/dll_main.cpp APPEND PROPERTY COMPILE_DEFINITIONS ORV3CAL_OWN_RUNTIME)
+  set(unwinding libgcc_s_seh-1.dll)
 endif()
+foreach(name ${unwinding} libstdc++-6.dll libwinpthread-1.dll)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}
+                  OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
+  list(APPEND ORV3CAL_RUNTIME_DLLS ${file})
+endforeach()
+file(COPY ${ORV3CAL_RUNTIME_DLLS} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})

@@ -7,24 +7,14 @@
 #define ORV3CAL_HOST_API_VERSION ORV3_INTERFACE_VERSION
 #endif
 
-#ifdef ORV3CAL_OWN_RUNTIME
-namespace __gnu_cxx {
-void __freeres();  // gives back the memory that the runtime keeps for exceptions
-}
-#endif
-
 // A host asks once, before anything else, and refuses a module whose number it does not know.
 extern "C" __declspec(dllexport) int acrxGetApiVersion() { return ORV3CAL_HOST_API_VERSION; }
 
 // Runs under the loader's lock, so it only notes where the library is and who shows its messages.
-extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason,
-                               [[maybe_unused]] void* processEnds) {
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
   if (reason == DLL_PROCESS_ATTACH) {
     orv3::SetModuleInstance(instance);
     orv3::UseMessageBoxes();
   }
-#ifdef ORV3CAL_OWN_RUNTIME
-  if (reason == DLL_PROCESS_DETACH && processEnds == nullptr) __gnu_cxx::__freeres();
-#endif
   return TRUE;
 }
