@@ -4,10 +4,9 @@
 
 #include <array>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 
 #include "framework/utf8.h"
+#include "platform/whole_file.h"
 
 namespace {
 
@@ -42,8 +41,9 @@ std::string OwnFile(const std::string& name) {
 }
 
 std::string FileBytes(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  std::string bytes;
+  orv3::ReadWholeFile(orv3::FromUtf8(path), bytes);
+  return bytes;
 }
 
 CRunResult RunProgram(const std::string& arguments) {
