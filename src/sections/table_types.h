@@ -5,8 +5,6 @@
 
 #include <cstdint>
 
-namespace orv3 {
-
 enum CTableType : std::int32_t {
   TABLE_ROLLED = 0x01000000,  // catalogue sections
   TABLE_CUSTOM = 0x02000000,  // user-defined sections and lattice columns
@@ -24,6 +22,10 @@ enum CTableType : std::int32_t {
   TABLE_FAMILY_SOLID = 0x400,
   TABLE_FAMILY_LATTICE = 0x800,
 };
+
+namespace orv3 {
+
+using enum ::CTableType;
 
 // Every bit but TABLE_ROLLED: user-defined sections and lattice columns.
 inline constexpr std::int32_t kUserTables = static_cast<std::int32_t>(0xFEFFFFFFU);
