@@ -1,6 +1,6 @@
 // The library's entries: the system's, and the one by which a drawing host asks for its version.
+#include "dialogs/win32/message_box.h"
 #include "module/host_services.h"
-#include "module/message_box.h"
 #include "module/orv3cal_c.h"
 
 #ifndef ORV3CAL_HOST_API_VERSION
@@ -14,7 +14,7 @@ extern "C" __declspec(dllexport) int acrxGetApiVersion() { return ORV3CAL_HOST_A
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void*) {
   if (reason == DLL_PROCESS_ATTACH) {
     orv3::SetModuleInstance(instance);
-    orv3::UseMessageBoxes();
+    orv3::SetMessageHandler(orv3::ShowMessageBox);
   }
   return TRUE;
 }

@@ -3,6 +3,7 @@
 #include "dialogs/model/sign_model.h"
 #include "dialogs/model/spacing_model.h"
 #include "dialogs/win32/file_dialog.h"
+#include "dialogs/win32/message_box.h"
 #include "dialogs/win32/progress_dlg.h"
 #include "dialogs/win32/property_dlg.h"
 #include "dialogs/win32/sect_sign_set.h"
@@ -13,48 +14,11 @@
 #include "module/host_services.h"
 
 namespace orv3 {
-namespace {
-
-UINT BoxStyle(CMessageButtons buttons) {
-  switch (buttons) {
-    case CMessageButtons::OkCancel:
-      return MB_OKCANCEL | MB_ICONQUESTION;
-    case CMessageButtons::YesNo:
-      return MB_YESNO | MB_ICONQUESTION;
-    case CMessageButtons::YesNoCancel:
-      return MB_YESNOCANCEL | MB_ICONQUESTION;
-    default:
-      return MB_OK | MB_ICONINFORMATION;
-  }
-}
-
-CMessageAnswer AnswerOf(int button) {
-  switch (button) {
-    case IDOK:
-      return CMessageAnswer::Ok;
-    case IDYES:
-      return CMessageAnswer::Yes;
-    case IDNO:
-      return CMessageAnswer::No;
-    default:
-      return CMessageAnswer::Cancel;
-  }
-}
-
-}  // namespace
 
 CWindowsUser::CWindowsUser() = default;
 CWindowsUser::~CWindowsUser() = default;
 
-// A box without a title carries the caption of the window it belongs to.
-CMessageAnswer CWindowsUser::Message(const CMessage& message) {
-  const HWND owner = OwnerWindow();
-  wchar_t caption[128] = L"Orv3Cal";
-  if (owner != nullptr) GetWindowTextW(owner, caption, 128);
-  const wchar_t* title = message.m_strTitle.IsEmpty() ? caption : message.m_strTitle.GetString();
-  return AnswerOf(
-      MessageBoxW(owner, message.m_strText.GetString(), title, BoxStyle(message.m_nButtons)));
-}
+CMessageAnswer CWindowsUser::Message(const CMessage& message) { return ShowMessageBox(message); }
 
 bool CWindowsUser::AskText(const CString& title, const CString& label, CString& text) {
   CTextInputDlg dialog(title, label, text);

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "dialogs/win32/message_box.h"
 #include "framework/utf8.h"
-#include "module/message_box.h"
 #include "module/orv3cal_c.h"
 #include "platform/command_line.h"
 #include "platform/file_system.h"
@@ -82,7 +82,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: orv3browser [FOLDER]   FOLDER: that of the section stores\n");
     return kMisuse;
   }
-  UseMessageBoxes();
+  SetMessageHandler(ShowMessageBox);
   try {
     return Browse(arguments.size() == 2 ? FromUtf8(arguments[1]) : UserFolder());
   } catch (const std::exception& error) {

@@ -1,8 +1,8 @@
-#include "module/message_box.h"
+#include "dialogs/win32/message_box.h"
 
 #include <array>
 
-#include "framework/message.h"
+#include "dialogs/win32/win32_api.h"
 #include "module/host_services.h"
 
 namespace orv3 {
@@ -21,7 +21,7 @@ UINT StyleOf(CMessageButtons buttons) noexcept {
     case CMessageButtons::Ok:
       break;
   }
-  return MB_OK | MB_ICONEXCLAMATION;
+  return MB_OK | MB_ICONINFORMATION;
 }
 
 CMessageAnswer AnswerOf(int button) noexcept {
@@ -37,7 +37,6 @@ CMessageAnswer AnswerOf(int button) noexcept {
   }
 }
 
-// A message without a title bears that of the window that it belongs to.
 CString TitleOf(const CMessage& message, HWND owner) {
   if (!message.m_strTitle.IsEmpty()) return message.m_strTitle;
   std::array<wchar_t, 256> title{};
@@ -46,15 +45,13 @@ CString TitleOf(const CMessage& message, HWND owner) {
   return length > 0 ? CString(title.data()) : CString(kOwnTitle);
 }
 
-CMessageAnswer ShowBox(const CMessage& message) {
+}  // namespace
+
+CMessageAnswer ShowMessageBox(const CMessage& message) {
   const HWND owner = OwnerWindow();
   const CString title = TitleOf(message, owner);
   const UINT style = StyleOf(message.m_nButtons) | (owner == nullptr ? MB_TASKMODAL : 0);
   return AnswerOf(MessageBoxW(owner, message.m_strText.GetString(), title.GetString(), style));
 }
-
-}  // namespace
-
-void UseMessageBoxes() { SetMessageHandler(ShowBox); }
 
 }  // namespace orv3
