@@ -1,4 +1,5 @@
-// The tree's pictures: one for each table, drawn from the table's sketch.
+#include "sections/table_icons.h"
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -8,29 +9,39 @@
 #include "sections/table_names.h"
 #include "tables/sketch.h"
 
+namespace orv3 {
 namespace {
 
+constexpr int kListIcon = 16;  // pixels
+
 // Columns of three limbs have no sketch of their own; here they are three tubes.
-CBitmap ThreeLimbs() {
-  std::vector<orv3::CPath> steel;
-  for (const orv3::CPoint at : {orv3::CPoint{0, 0}, orv3::CPoint{10, 0}, orv3::CPoint{5, 9}}) {
-    steel.push_back(orv3::CirclePath(at, 2.5));
-    steel.push_back(orv3::Reversed(orv3::CirclePath(at, 1.2)));
+CBitmap ThreeLimbs(int size) {
+  std::vector<CPath> steel;
+  for (const CPoint at : {CPoint{0, 0}, CPoint{10, 0}, CPoint{5, 9}}) {
+    steel.push_back(CirclePath(at, 2.5));
+    steel.push_back(Reversed(CirclePath(at, 1.2)));
   }
-  return orv3::SteelIcon(std::move(steel));
+  return SteelIcon(std::move(steel), size);
 }
 
 }  // namespace
 
-void CLoadDataTable::GetItemImageList(CArray<CBitmap, const CBitmap&>& images) {
-  const auto names = orv3::TableNames();
-  images.RemoveAll();
-  images.SetSize(static_cast<int>(names.size()));
-  for (const orv3::CTableName& name : names) {
+CArray<CBitmap, const CBitmap&> TableIcons(int size) {
+  const auto names = TableNames();
+  CArray<CBitmap, const CBitmap&> icons;
+  icons.SetSize(static_cast<int>(names.size()));
+  for (const CTableName& name : names) {
     const bool three = CString(name.m_szName) == L"三肢格构柱";
-    images[name.m_nImage] =
-        three ? ThreeLimbs() : orv3::SketchIcon(orv3::SketchResource(name.m_szName));
+    icons[name.m_nImage] =
+        three ? ThreeLimbs(size) : SketchIcon(SketchResource(name.m_szName), size);
   }
+  return icons;
+}
+
+}  // namespace orv3
+
+void CLoadDataTable::GetItemImageList(CArray<CBitmap, const CBitmap&>& images) {
+  images.Copy(orv3::TableIcons(orv3::kListIcon));
 }
 
 int CLoadDataTable::GetItemIcon(const CString& tableName) {

@@ -5,7 +5,6 @@
 
 namespace orv3 {
 
-// Empty when there are none.
 CImages TreeImages(int dpi);
 
 }  // namespace orv3
