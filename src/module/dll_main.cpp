@@ -1,6 +1,6 @@
 // The library's entries: the system's, and the one by which a drawing host asks for its version.
+#include "dialogs/win32/host_services.h"
 #include "dialogs/win32/message_box.h"
-#include "module/host_services.h"
 #include "module/orv3cal_c.h"
 
 #ifndef ORV3CAL_HOST_API_VERSION

@@ -11,10 +11,10 @@
 #include <thread>
 #include <vector>
 
+#include "dialogs/win32/host_services.h"
 #include "dialogs/win32/resource.h"
 #include "framework/message.h"
 #include "framework/utf8.h"
-#include "module/host_services.h"
 #include "module/orv3cal_c.h"
 #include "platform/temp_folder.h"
 #include "tables/data_table.h"

@@ -168,8 +168,8 @@ bool ReadImportFile(const CString& file, std::vector<CImportTable>& tables, CStr
   if (HasExtension(file, L".kvb")) return ReadDataFile(file, tables, why);
   if (HasExtension(file, L".kdb")) return ReadTableFile(file, tables, why);
   return Refuse(file,
-                L"of no kind that can be imported; right would be a table file (.KDB) or a "
-                L"rolled-section data file (.kvb)",
+                L"of no kind that can be imported; right would be a table file (.KDB), a "
+                L"rolled-section data file (.kvb) or, for the command, a .csv file",
                 why);
 }
 

@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "dialogs/win32/dpi.h"
+#include "dialogs/win32/host_services.h"
 #include "dialogs/win32/placement.h"
 #include "dialogs/win32/resource.h"
 #include "dialogs/win32/resource_scope.h"
 #include "framework/message.h"
 #include "framework/utf8.h"
-#include "module/host_services.h"
 
 using namespace orv3;
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "dialogs/win32/host_services.h"
 #include "dialogs/win32/win32_api.h"
-#include "module/host_services.h"
 
 namespace orv3 {
 namespace {

@@ -1,7 +1,7 @@
 #include "dialogs/win32/resource_scope.h"
 
+#include "dialogs/win32/host_services.h"
 #include "dialogs/win32/resource.h"
-#include "module/host_services.h"
 
 namespace orv3 {
 namespace {

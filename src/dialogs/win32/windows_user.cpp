@@ -3,6 +3,7 @@
 #include "dialogs/model/sign_model.h"
 #include "dialogs/model/spacing_model.h"
 #include "dialogs/win32/file_dialog.h"
+#include "dialogs/win32/host_services.h"
 #include "dialogs/win32/message_box.h"
 #include "dialogs/win32/progress_dlg.h"
 #include "dialogs/win32/property_dlg.h"
@@ -11,7 +12,6 @@
 #include "dialogs/win32/steel_zhzj_dlg.h"
 #include "dialogs/win32/text_input_dlg.h"
 #include "dialogs/win32/view_col_dlg.h"
-#include "module/host_services.h"
 
 namespace orv3 {
 

@@ -1,4 +1,4 @@
-#include "module/host_services.h"
+#include "dialogs/win32/host_services.h"
 
 #include <psapi.h>
 
