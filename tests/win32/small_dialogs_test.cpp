@@ -9,6 +9,7 @@
 #include "dialogs/win32/sel_table_name_dlg.h"
 #include "dialogs/win32/steel_zhzj_dlg.h"
 #include "dialogs/win32/view_col_dlg.h"
+#include "dialogs/win32/windows_user.h"
 #include "sections/load_data_table.h"
 #include "tables/data_table.h"
 #include "win32/dialog_driver.h"
@@ -213,6 +214,27 @@ TEST(SmallDialogs, AFilterKeepsTheMarksOfHiddenNames) {
   ASSERT_EQ(model.Chosen().GetSize(), 2);
   EXPECT_TRUE(model.Chosen()[0] == L"热轧等边角钢");
   EXPECT_TRUE(model.Chosen()[1] == L"冷弯薄壁槽钢");
+}
+
+// The window that owns it waits meanwhile.
+TEST(SmallDialogs, ProgressIsShownUntilAllIsDone) {
+  const HWND owner = CreateWindowExW(0, WC_STATICW, L"", WS_POPUP | WS_VISIBLE, 0, 0, 100, 50,
+                                     nullptr, nullptr, nullptr, nullptr);
+  SetActiveWindow(owner);
+  orv3::CWindowsUser user;
+  for (const int done : {0, 2}) {
+    user.Progress(L"热轧普通槽钢", done, 3);
+    const auto probe = CDialogProbe::WaitFor(L"Orvo提醒您");
+    EXPECT_EQ(probe.Text(IDC_PROGRESS_TEXT), L"热轧普通槽钢");
+    const HWND bar = probe.Control(IDC_PROGRESS_BAR);
+    EXPECT_EQ(SendMessageW(bar, PBM_GETPOS, 0, 0), done);
+    EXPECT_EQ(SendMessageW(bar, PBM_GETRANGE, FALSE, 0), 3);
+    EXPECT_FALSE(IsWindowEnabled(owner));
+  }
+  user.Progress(L"", 3, 3);
+  EXPECT_FALSE(CDialogProbe::IsOpen(L"Orvo提醒您"));
+  EXPECT_TRUE(IsWindowEnabled(owner));
+  DestroyWindow(owner);
 }
 
 }  // namespace

@@ -3,50 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <iostream>
 
 #include "dialogs/win32/resource.h"
 #include "framework/utf8.h"
 #include "sections/load_data_table.h"
 #include "win32/dialog_driver.h"
+#include "win32/holdings.h"
 
 namespace {
 
 constexpr long kRolled = 0x01000FFF;
-
-// Windows counts for us; Wine 8 answers 0, and there the objects are tried one by one.
-int GdiObjects() {
-  if (const DWORD told = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) {
-    return static_cast<int>(told);
-  }
-  int count = 0;
-  for (UINT_PTR handle = 1; handle < 0x10000; ++handle) {
-    if (GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0) ++count;
-  }
-  return count;
-}
-
-int UserObjects() {
-  if (const DWORD told = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)) {
-    return static_cast<int>(told);
-  }
-  int count = 0;
-  for (UINT_PTR handle = 0x20; handle < 0x10000; handle += 2) {
-    const HWND window = reinterpret_cast<HWND>(handle);
-    DWORD process = 0;
-    if (IsWindow(window)) GetWindowThreadProcessId(window, &process);
-    if (process == GetCurrentProcessId() || IsMenu(reinterpret_cast<HMENU>(handle))) ++count;
-  }
-  return count;
-}
-
-int Handles() {
-  int count = 0;
-  for (UINT_PTR handle = 4; handle < 0x8000; handle += 4) {
-    DWORD flags = 0;
-    if (GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags)) ++count;
-  }
-  return count;
-}
 
 void UseOnce() {
   CDataItem row;
@@ -74,26 +41,16 @@ TEST(Soak, NothingIsLeftBehind) {
   const char* const wanted = std::getenv("ORV3CAL_SOAK");
   const int times = wanted != nullptr ? std::atoi(wanted) : 5;
   UseOnce();
-  const int gdi = GdiObjects();
-  const int user = UserObjects();
-  const int handles = Handles();
-  ASSERT_GT(gdi, 0);
-  ASSERT_GT(handles, 0);
-  for (int i = 0; i < times; ++i) UseOnce();
-  EXPECT_EQ(GdiObjects(), gdi);
-  EXPECT_EQ(UserObjects(), user);
-  EXPECT_EQ(Handles(), handles);
-  // The counts tell a leak when there is one.
-  const HPEN pen = CreatePen(PS_SOLID, 1, 0);
-  const HWND window =
-      CreateWindowExW(0, WC_STATICW, L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-  const HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-  EXPECT_GT(GdiObjects(), gdi);
-  EXPECT_GT(UserObjects(), user);
-  EXPECT_GT(Handles(), handles);
-  DeleteObject(pen);
-  DestroyWindow(window);
-  CloseHandle(event);
+  ExpectCountsSeeNewObjects();
+  const CHoldings before = Holdings();
+  for (int i = 1; i <= times; ++i) {
+    UseOnce();
+    if (wanted != nullptr) std::cout << i << " of " << times << ": " << Holdings() << std::endl;
+  }
+  const CHoldings after = Holdings();
+  EXPECT_EQ(after.windows, before.windows);
+  EXPECT_EQ(after.drawing, before.drawing);
+  EXPECT_EQ(after.handles, before.handles);
 }
 
 }  // namespace

@@ -186,7 +186,7 @@ void CKvbDlg::SetUpDpi() {
   m_nDpi = WindowDpi(m_hWnd);
   const int wanted = MulDiv(kTemplatePoints, m_nDpi, 72);
   if (made <= 0 || made == wanted) return;
-  ScaleFont(wanted, made);
+  UseFont(wanted);
   m_layout.Scale(wanted, made);
   const SIZE size = FrameSize(m_hWnd, m_layout.TemplateSize());
   SetWindowPos(m_hWnd, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -234,7 +234,7 @@ void CKvbDlg::KeepPlacement() const {
 void CKvbDlg::ChangeDpi(int dpi, const RECT& frame) {
   if (!m_bReady || dpi == m_nDpi) return;
   const int before = std::exchange(m_nDpi, dpi);
-  ScaleFont(MulDiv(kTemplatePoints, dpi, 72), MulDiv(kTemplatePoints, before, 72));
+  UseFont(MulDiv(kTemplatePoints, dpi, 72));
   m_layout.Scale(dpi, before);
   SetWindowPos(m_hWnd, nullptr, frame.left, frame.top, frame.right - frame.left,
                frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -243,9 +243,11 @@ void CKvbDlg::ChangeDpi(int dpi, const RECT& frame) {
   RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-void CKvbDlg::ScaleFont(int to, int from) {
+// The dialog's font at another height, which is given and not scaled from the last one: a dialog
+// need not have taken the font that it was sent.
+void CKvbDlg::UseFont(int height) {
   LOGFONTW font = FontOf(m_hWnd);
-  font.lfHeight = ScaleBy(font.lfHeight, to, from);
+  font.lfHeight = -height;
   CGdiFont scaled(CreateFontIndirectW(&font));
   for (HWND child = GetWindow(m_hWnd, GW_CHILD); child != nullptr;
        child = GetWindow(child, GW_HWNDNEXT)) {

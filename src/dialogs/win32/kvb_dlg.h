@@ -15,8 +15,9 @@
 #include "dialogs/win32/gdi.h"
 #include "dialogs/win32/win32_api.h"
 #include "framework/cstring.h"
+#include "framework/export.h"
 
-class CKvbDlg {
+class ORV3CAL_API CKvbDlg {
  public:
   explicit CKvbDlg(int templateId) : m_nTemplate(templateId) {}
   CKvbDlg(const CKvbDlg&) = delete;
@@ -71,7 +72,7 @@ class CKvbDlg {
   void RestorePlacement();
   void KeepPlacement() const;
   void ChangeDpi(int dpi, const RECT& frame);
-  void ScaleFont(int to, int from);
+  void UseFont(int height);  // pixels
   void Answer(LRESULT result) { SetWindowLongPtrW(m_hWnd, DWLP_MSGRESULT, result); }
 
   using CEvent = std::pair<int, int>;  // control and notification code
