@@ -166,17 +166,44 @@ int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, dou
   return Guarded([&] { return GiveValues(GeometryOf(RowOf(table, number), turn), values, room); });
 }
 
-int ORV3_CALL orv3_browse([[maybe_unused]] int mask, [[maybe_unused]] orv3_char* text,
-                          [[maybe_unused]] int size) {
-  return Guarded([&]() -> int {
 #ifdef _WIN32
+
+namespace {
+
+using CVisit = int (*)(const CString& path, CDataItem& row, long mask);
+
+int ChooseIn(CVisit visit, int mask, orv3_char* text, int size) {
+  return Guarded([&] {
     NeedData();
     CDataItem row;
     const CString path = CLoadDataTable::GetOrvoPrgPath();
-    const bool bChosen = CLoadDataTable::VisitDataBase(path, row, mask) != 0;
-    return GiveText(bChosen ? JoinLines(ValuesOf(row)) : CString(), text, size);
-#else
-    throw CFailure("the browser is part of the Windows library");
-#endif
+    const bool chosen = visit(path, row, mask) != 0;
+    return GiveText(chosen ? JoinLines(ValuesOf(row)) : CString(), text, size);
   });
 }
+
+}  // namespace
+
+int ORV3_CALL orv3_browse(int mask, orv3_char* text, int size) {
+  return ChooseIn(CLoadDataTable::VisitDataBase, mask, text, size);
+}
+
+int ORV3_CALL orv3_edit_user_tables(int mask, orv3_char* text, int size) {
+  return ChooseIn(CLoadDataTable::VisitSelJMDlg, mask, text, size);
+}
+
+#else
+
+namespace {
+
+int NoDialogs() {
+  return Guarded([]() -> int { throw CFailure("the dialogs are part of the Windows library"); });
+}
+
+}  // namespace
+
+int ORV3_CALL orv3_browse(int, orv3_char*, int) { return NoDialogs(); }
+
+int ORV3_CALL orv3_edit_user_tables(int, orv3_char*, int) { return NoDialogs(); }
+
+#endif

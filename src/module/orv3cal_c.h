@@ -187,6 +187,8 @@ ORV3_API int ORV3_CALL orv3_phi(double slenderness, double yield, const orv3_cha
  * of values: "table", then each column by its sign; an empty text when nothing was chosen. A `size`
  * of 4096 holds any row: a longer text is cut. A failure elsewhere than on Windows. */
 ORV3_API int ORV3_CALL orv3_browse(int mask, orv3_char* text, int size);
+/* The same with the editor of the user's own tables. */
+ORV3_API int ORV3_CALL orv3_edit_user_tables(int mask, orv3_char* text, int size);
 
 #ifdef __cplusplus
 }

@@ -372,6 +372,7 @@ TEST_F(CCatalogue, TellsWhatIsNotThere) {
 #ifndef _WIN32
 TEST_F(CCatalogue, HasNoBrowserOutsideWindows) {
   EXPECT_EQ(orv3_browse(0x03000FFF, nullptr, 0), -1);
+  EXPECT_EQ(orv3_edit_user_tables(0x03000FFF, nullptr, 0), -1);
   EXPECT_NE(LastError().find("Windows"), std::string::npos);
 }
 #endif

@@ -2,9 +2,15 @@
 // caught here, with its text.
 #include <gtest/gtest.h>
 
+#include "dialogs/win32/property_dlg.h"
+#include "dialogs/win32/sect_sign_set.h"
+#include "dialogs/win32/steel_data_base_dlg.h"
+#include "dialogs/win32/steel_zhzj_dlg.h"
+#include "dialogs/win32/user_table_dlg.h"
 #include "orv3cal.h"
 #include "platform/temp_folder.h"
 #include "win32/dialog_driver.h"
+#include "win32/holdings.h"
 
 namespace {
 
@@ -47,14 +53,56 @@ TEST(CModuleClasses, Compute) {
   EXPECT_EQ(WQWeldingData(WQWeldingData()).m_dLw, WQWeldingData().m_dLw);
 }
 
-TEST(CModuleClasses, OpenTheUserTables) {
+// --- Dialogs ------------------------------------------------------------------------------------
+
+template <class DIALOG>
+void OpenAndClose(DIALOG& dialog, const wchar_t* caption) {
+  INT_PTR result = -1;
+  Drive([&] { result = dialog.DoModal(); },
+        [=] {
+          const auto probe = CDialogProbe::WaitFor(caption);
+          probe.Close();
+          probe.WaitUntilClosed();
+        });
+  EXPECT_EQ(result, IDCANCEL) << orv3::ToUtf8(CString(caption));
+}
+
+void OpenEachDialog(const CString& folder) {
+  CSectSignSet number;
+  number.m_strSign = L"H400X300";
+  OpenAndClose(number, L"型钢型号输入");
+  EXPECT_EQ(number.m_strSign, L"H400X300");
+
+  CSteelZHZJDlg spacing;
+  OpenAndClose(spacing, L"型钢组合肢距输入");
+
+  CPropertyDlg properties;
+  properties.m_strTableName = properties.m_item.m_strTableName = L"自定义圆管";
+  CLoadDataTable::GetDefaultDataItem(properties.m_item);
+  OpenAndClose(properties, L"截面特性参数查询");
+
+  CSteelDataBaseDlg browser;
+  browser.m_strPath = folder;
+  CLoadDataTable::GetTableNameArray(0x03000FFF, browser.m_arrTableName);
+  OpenAndClose(browser, L"钢结构截面特性数据库");
+
+  CUserTableDlg tables;
+  tables.m_strPath = folder;
+  tables.m_arrTableName.Append(browser.m_arrTableName);
+  OpenAndClose(tables, L"用户截面库");
+  EXPECT_EQ(tables.m_item.IsEmpty(), 1);
+}
+
+TEST(CModuleClasses, OpenEachDialogAndLeaveNothingBehind) {
   const CTempFolder folder;
-  CDataItem row;
-  int result = -1;
-  Drive([&] { result = CLoadDataTable::VisitSelJMDlg(folder.Path(), row, 0x02000FFF); },
-        [] { CDialogProbe::WaitFor(L"用户截面库").Close(); });
-  EXPECT_EQ(result, 0);
-  EXPECT_EQ(row.IsEmpty(), 1);
+  OpenEachDialog(folder.Path());
+  ExpectCountsSeeNewObjects();
+  const CHoldings before = Holdings();
+  for (int round = 0; round < 3; ++round) OpenEachDialog(folder.Path());
+  const CHoldings after = Holdings();
+  EXPECT_EQ(after.windows, before.windows);
+  EXPECT_EQ(after.drawing, before.drawing);
+  EXPECT_EQ(after.handles, before.handles);
 }
 
 }  // namespace
