@@ -1,6 +1,8 @@
 // Rows as a test needs them, and what the facade answers for one.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <initializer_list>
 #include <utility>
 
@@ -24,6 +26,14 @@ inline CDataItem RowOf(const wchar_t* table, const wchar_t* no,
   for (const auto& [sign, value] : cells) {
     AddCell(row, sign, CDataTypeStruct::KVBT_DOUBLE, orv3::FormatShortest(value));
   }
+  return row;
+}
+
+// The first row of a user-defined or lattice table.
+inline CDataItem DefaultRow(const wchar_t* table) {
+  CDataItem row;
+  row.m_strTableName = table;
+  EXPECT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
   return row;
 }
 
