@@ -1,44 +1,40 @@
 // The spacing tables: every figure, the look-ups' own ways, and what is found for a section.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
 
+#include "catalogue/csv_table_check.h"
 #include "orv3cal.h"
 
 namespace {
 
 using T = CGetSteelDis;
 
-// Every cell of a table as its file has them, line ends included.
-template <std::size_t ROWS, std::size_t COLUMNS>
-std::string Csv(const wchar_t* const (&table)[ROWS][COLUMNS]) {
-  std::wstring text;
-  for (const auto& row : table) {
-    for (std::size_t i = 0; i < COLUMNS; ++i) {
-      text += row[i];
-      text += i + 1 < COLUMNS ? L',' : L'\n';
-    }
-  }
-  return orv3::ToUtf8(text);
-}
-
-std::string File(int table) {
-  std::ifstream file(std::string(ORV3CAL_SPACING) + "/strSub" + std::to_string(table) + ".csv",
-                     std::ios::binary);
-  std::string text(std::istreambuf_iterator<char>(file), {});
-  std::erase(text, '\r');
-  return text;
+template <class TABLE>
+void ExpectTable(const TABLE& table, int number) {
+  ExpectCsv(table, ORV3CAL_SPACING "/strSub" + std::to_string(number) + ".csv");
 }
 
 TEST(Spacing, CompiledTablesAreTheFiles) {
-  const std::string compiled[] = {
-      Csv(T::strSub1),  Csv(T::strSub2),  Csv(T::strSub3),  Csv(T::strSub4),  Csv(T::strSub5),
-      Csv(T::strSub6),  Csv(T::strSub7),  Csv(T::strSub8),  Csv(T::strSub9),  Csv(T::strSub10),
-      Csv(T::strSub11), Csv(T::strSub12), Csv(T::strSub13), Csv(T::strSub14), Csv(T::strSub15),
-      Csv(T::strSub16), Csv(T::strSub17), Csv(T::strSub18), Csv(T::strSub19)};
-  for (int i = 0; i < 19; ++i) EXPECT_EQ(compiled[i], File(i + 1)) << "strSub" << i + 1;
+  ExpectTable(T::strSub1, 1);
+  ExpectTable(T::strSub2, 2);
+  ExpectTable(T::strSub3, 3);
+  ExpectTable(T::strSub4, 4);
+  ExpectTable(T::strSub5, 5);
+  ExpectTable(T::strSub6, 6);
+  ExpectTable(T::strSub7, 7);
+  ExpectTable(T::strSub8, 8);
+  ExpectTable(T::strSub9, 9);
+  ExpectTable(T::strSub10, 10);
+  ExpectTable(T::strSub11, 11);
+  ExpectTable(T::strSub12, 12);
+  ExpectTable(T::strSub13, 13);
+  ExpectTable(T::strSub14, 14);
+  ExpectTable(T::strSub15, 15);
+  ExpectTable(T::strSub16, 16);
+  ExpectTable(T::strSub17, 17);
+  ExpectTable(T::strSub18, 18);
+  ExpectTable(T::strSub19, 19);
 }
 
 TEST(Spacing, JoinedRows) {
