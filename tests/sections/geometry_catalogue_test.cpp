@@ -16,8 +16,7 @@
 
 namespace {
 
-// --- What the outline says
-// ------------------------------------------------------------------------
+// --- What the outline says -----------------------------------------------------------------------
 
 struct CIntegrated {
   CIntegrals about;  // the centroid (x, y)
@@ -43,8 +42,7 @@ CIntegrated IntegrateRow(const CDataItem& row, double degrees = 0) {
   return r;
 }
 
-// --- What the facade says, beside it
-// --------------------------------------------------------------
+// --- What the facade says, beside it -------------------------------------------------------------
 
 enum COperation { Rect, Center, Area, Io, Radius, Modulus, Sx, kOperations };
 
@@ -206,8 +204,7 @@ TEST_F(GeometryCatalogue, PairsWithoutTheirComponent) {
   EXPECT_NEAR(CLoadDataTable::GetDataItemArea(row), 960.6, 1e-9);
 }
 
-// --- Shear centre and warping: rolled rows beside the same section of plates
-// ----------------------
+// --- Shear centre and warping: rolled rows beside the same section of plates ---------------------
 
 CTwo Warping(const CDataItem& row) {
   return {CLoadDataTable::GetDatIteme0(row), CLoadDataTable::GetDataItemIw(row)};
@@ -220,18 +217,10 @@ double Cell(const CDataItem& row, const wchar_t* sign) {
 }
 
 CDataItem PlateChannel(double h, double b, double tw, double t) {
-  return RowOf(L"自定义槽钢", L"1",
-               {{L"b(mm)", tw},
-                {L"h(mm)", h},
-                {L"bh1(mm)", t},
-                {L"bh2(mm)", t},
-                {L"bf1(mm)", b - tw},
-                {L"bf2(mm)", b - tw}});
+  return RowOfPlates(L"自定义槽钢", {tw, h, t, t, b - tw, b - tw});
 }
-
 CDataItem PlateH(double h, double b, double tw, double t) {
-  return RowOf(L"自定义对称H型钢", L"1",
-               {{L"b(mm)", b}, {L"h(mm)", h}, {L"tf(mm)", t}, {L"tw(mm)", tw}});
+  return RowOfPlates(L"自定义对称H型钢", {b, h, t, tw});
 }
 
 void ExpectNearPlates(const CDataItem& row, const CDataItem& plates, double e0Percent,

@@ -87,39 +87,19 @@ TEST(SectionRecord, StartsEmptyAndCopiesByValue) {
   EXPECT_EQ(49u, std::wcslen(cut.m_szName));
 }
 
+// The outer extents first, which round sections and the hexagon have one of.
 TEST(SectionRecord, BaseExternAndAllSizes) {
-  const double s0 = 60, s1 = 80;
-  const struct {
-    int style;
-    Numbers base, further;
-  } cases[] = {
-      {0, {s0, s1}, {6, 7}},
-      {1, {s0, s1}, {6}},
-      {2, {s0, s1}, {6, 7, 8, 9}},
-      {3, {s0, s1}, {}},
-      {4, {s0}, {}},
-      {5, {s0, s1}, {}},
-      {6, {s0}, {}},
-      {7, {s0}, {s1}},
-      {8, {s0, s1}, {6, 7, 8}},
-      {9, {s0, s1}, {6, 7, 8, 9, 10, 11}},
-      {10, {s0, s1}, {6, 7}},
-      {11, {s0, s1}, {6, 7, 8, 9}},
-      {12, {s0, s1}, {6, 7, 8, 9}},
-      {13, {s0, s1}, {6, 7, 8, 9}},
-      {14, {s0, s1}, {6, 7, 8, 9}},
-  };
-  for (const auto& c : cases) {
-    const CSteelJMData jm = Record(c.style);
+  for (const auto& style : orv3::SectionStyles()) {
+    const CSteelJMData jm = Record(style.m_nStyle);
+    const bool one = style.m_nStyle == 4 || style.m_nStyle == 6 || style.m_nStyle == 7;
+    const auto split = kEight.begin() + (one ? 1 : 2), end = kEight.begin() + style.m_nSizes;
     Array base = ToArray({1}), further = ToArray({1}), all = ToArray({1});
     jm.GetSectBaseSize(base);
     jm.GetSectExternSize(further);
     jm.GetSectSizeArr(all);
-    EXPECT_EQ(c.base, ToVector(base)) << c.style;
-    EXPECT_EQ(c.further, ToVector(further)) << c.style;
-    Numbers both = c.base;
-    both.insert(both.end(), c.further.begin(), c.further.end());
-    EXPECT_EQ(both, ToVector(all)) << c.style;
+    EXPECT_EQ(Numbers(kEight.begin(), split), ToVector(base)) << style.m_szAlias;
+    EXPECT_EQ(Numbers(split, end), ToVector(further)) << style.m_szAlias;
+    EXPECT_EQ(Numbers(kEight.begin(), end), ToVector(all)) << style.m_szAlias;
   }
 }
 
