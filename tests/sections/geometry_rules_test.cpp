@@ -128,34 +128,6 @@ TEST(GeometryRules, ATHasItsHeightAsText) {
   ExpectTwo(RectOf(row), 125, 0, "no number");
 }
 
-TEST(GeometryRules, SpacingPicksItsColumn) {
-  CDataItem row = RowOf(L"热轧等边角钢组合", L"2L50X5",
-                        {{L"A(cm^2)", 9.606},
-                         {L"ix(cm)", 1.53},
-                         {L"Wy0(cm^3)", 5.14},
-                         {L"iy0(cm)", 2.07},
-                         {L"Wy8(cm^3)", 6},
-                         {L"iy8(cm)", 2.38}});
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(row), 20.7, 1e-9) << "without a spacing cell";
-  const CDataItem apart = WithSpacing(row, L"a(mm)", 8);
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(apart), 23.8, 1e-9);
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadixo(apart), 15.3, 1e-9) << "has no spacing in it";
-  EXPECT_NEAR(CLoadDataTable::GetDataItemWyoL(apart), 6000, 1e-9);
-  EXPECT_NEAR(CLoadDataTable::GetDataItemWyoR(apart), 6000, 1e-9);
-
-  const CDataItem cross = RowOf(L"热轧等边角钢十字组合", L"2L50X5",
-                                {{L"Ix0(cm^4)", 42.8},
-                                 {L"ix0(cm)", 2.11},
-                                 {L"Ix6(cm^4)", 58},
-                                 {L"ix6(cm)", 2.46},
-                                 {L"Iy1(cm^4)", 35.6},
-                                 {L"iy1(cm)", 1.92}});
-  ExpectTwo(InertiaOf(cross), 42.8e4, 35.6e4, "touching");
-  ExpectTwo(InertiaOf(WithSpacing(cross, L"δ(mm)", 6)), 58e4, 35.6e4, "6 mm apart");
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadixo(WithSpacing(cross, L"δ(mm)", 6)), 24.6, 1e-9);
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(WithSpacing(cross, L"δ(mm)", 6)), 19.2, 1e-9);
-}
-
 TEST(GeometryRules, SymmetryOfUserDefinedSections) {
   using CCells = std::initializer_list<std::pair<const wchar_t*, double>>;
   const struct {
@@ -217,9 +189,7 @@ TEST(GeometryRules, SymmetryOfRolledSections) {
 }
 
 TEST(GeometryRules, RecomputesAUserDefinedRow) {
-  CDataItem row;
-  row.m_strTableName = L"矩形截面";
-  ASSERT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
+  CDataItem row = DefaultRow(L"矩形截面");
   row[L"b(mm)"].m_strValue = L"200";
   ASSERT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 1);
   ExpectTwo(InertiaOf(row), 1.06667e9, 2.66667e8, "200 x 400");

@@ -130,48 +130,6 @@ TEST(SectionCalc, AgreesWithTheIntegratedOutline) {
   EXPECT_EQ(styles.size(), orv3::SectionStyles().size());
 }
 
-// Hand calculation: plate 200 x 400, base point in its lower-left corner.
-TEST(SectionCalc, PlateByHand) {
-  const CSteelJMData jm = Calculated(3, {200, 400});
-  const struct {
-    double expected, actual, halfDigit;
-  } checks[] = {
-      {80000, jm.m_dA, 0},
-      {100, jm.m_dXo, 0},
-      {200, jm.m_dYo, 0},
-      {1066666666.67, jm.m_dIxo, 0.005},
-      {266666666.67, jm.m_dIyo, 0.005},
-      {4266666666.67, jm.m_dIx, 0.005},
-      {1066666666.67, jm.m_dIy, 0.005},
-      {115.470, jm.m_dixo, 0.0005},
-      {57.735, jm.m_diyo, 0.0005},
-      {230.940, jm.m_dix, 0.0005},
-      {115.470, jm.m_diy, 0.0005},
-      {5333333.33, jm.m_dWxo1, 0.005},
-      {5333333.33, jm.m_dWxo2, 0.005},
-      {2666666.67, jm.m_dWyoL, 0.005},
-      {2666666.67, jm.m_dWyoR, 0.005},
-      {10666666.67, jm.m_dWx1, 0.005},
-      {kNoFibre, jm.m_dWx2, 0},
-      {kNoFibre, jm.m_dWyL, 0},
-      {5333333.33, jm.m_dWyR, 0.005},
-      {4000000, jm.m_dSxo, 0},
-      {2000000, jm.m_dSyo, 0},
-      {16000000, jm.m_dSx1, 0},
-      {0, jm.m_dSx2, 0},
-      {8000000, jm.m_dSyL, 0},
-      {0, jm.m_dSyR, 0},
-  };
-  for (const auto& c : checks) EXPECT_NEAR(c.expected, c.actual, c.halfDigit);
-}
-
-TEST(SectionCalc, HexagonUsesTheRoundedCoefficient) {
-  const CSteelJMData jm = Calculated(4, {100});
-  EXPECT_DOUBLE_EQ(0.541e8, jm.m_dIxo);
-  EXPECT_DOUBLE_EQ(0.541e8, jm.m_dIyo);
-  EXPECT_GT(std::fabs(jm.m_dIxo / 1e8 - 5 * std::sqrt(3.0) / 16), 2e-4);
-}
-
 TEST(SectionCalc, SlotsBehindTheOwnSizesKeepTheModelsSizes) {
   const double z = -777;  // marks slots that nobody may touch
   const struct {
@@ -298,28 +256,6 @@ TEST(SectionCalc, RectangleHelpers) {
   CSteelJMData::CalRectBarycenterAdd(2, 7, 9, -2, 8, 2, x, y);
   EXPECT_EQ(7, x);
   EXPECT_EQ(9, y);
-}
-
-// A steel joist is the same section however it is described.
-TEST(SectionCalc, OneSectionInSeveralStyles) {
-  const struct {
-    int a;
-    Sizes sizesA;
-    int b;
-    Sizes sizesB;
-  } cases[] = {
-      {0, {300, 400, 20, 10}, 9, {10, 400, 20, 20, 145, 145, 145, 145}},
-      {1, {300, 400, 16}, 14, {300, 400, 16, 16, 16, 16}},
-      {8, {12, 300, 18, 0, 0}, 3, {12, 300}},
-      {13, {300, 400, 190, 190, 0, 0}, 3, {300, 400}},
-      {12, {10, 400, 20, 20, 90, 90}, 9, {10, 400, 20, 20, 0, 90, 0, 90}},
-  };
-  for (const auto& c : cases) {
-    const CSteelJMData a = Calculated(c.a, c.sizesA, 5, 60), b = Calculated(c.b, c.sizesB, 5, 60);
-    for (const auto& p : orv3::SectionProperties()) {
-      ExpectNear(a.*p.m_pField, b.*p.m_pField, 1e-13, p.m_szKey);
-    }
-  }
 }
 
 }  // namespace
