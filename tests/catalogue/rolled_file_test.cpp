@@ -1,6 +1,7 @@
 // Rolled-section data files, the tables made of them, and the records of single sections.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -40,33 +41,24 @@ std::string Name(std::string_view letters, std::size_t width = 20) {
   return bytes + std::string(2 * (width - letters.size()), '\0');
 }
 
-// A double from the sixteen digits of its IEEE 754 form, the sign and exponent first.
-std::string Double(std::string_view digits) {
-  const std::string bytes = Hex(std::string(digits) + std::string(16 - digits.size(), '0'));
-  return {bytes.rbegin(), bytes.rend()};
-}
-
-std::string Doubles(std::initializer_list<std::string_view> all) {
-  std::string bytes;
-  for (const std::string_view digits : all) bytes += Double(digits);
+std::string Double(double value) {
+  std::string bytes(8, '\0');
+  std::memcpy(bytes.data(), &value, 8);  // both machines are little-endian
   return bytes;
 }
 
-// L5X3 with r = 3.5 and, from A to N, 1, 2, 3, ... 17; the capacities are 20, 40, 60, ... 360 kN.
+// From `first` to `last` in whole steps.
+std::string Doubles(int first, int last) {
+  std::string bytes;
+  for (int i = first; i <= last; ++i) bytes += Double(i);
+  return bytes;
+}
+
+// L5X3 with r = 3.5 and, from A to N, 1, 2, 3, ... 17; the capacities at 0.6, 0.9, ... 5.7 m are
+// 20, 40, 60, ... 360 kN.
 std::string AngleRecord() {
-  const std::string_view lengths[] = {
-      "3FE3333333333333", "3FECCCCCCCCCCCCD", "3FF3333333333333", "3FF8", "3FFCCCCCCCCCCCCD",
-      "4000CCCCCCCCCCCD", "4003333333333333", "400599999999999A", "4008", "400A666666666666",
-      "400CCCCCCCCCCCCD", "400F333333333333", "4010CCCCCCCCCCCD", "4012", "4013333333333333",
-      "4014666666666666", "401599999999999A", "4016CCCCCCCCCCCD"};
-  const std::string_view capacities[] = {"4034",  "4044",  "404E",  "4054", "4059",  "405E",
-                                         "40618", "4064",  "40668", "4069", "406B8", "406E",
-                                         "40704", "40718", "4072C", "4074", "40754", "40768"};
-  std::string record =
-      Name("L5X3") + Hex("0500 0300 00000000") +
-      Doubles({"400C", "3FF", "4", "4008", "401", "4014", "4018", "401C", "402", "4022", "4024",
-               "4026", "4028", "402A", "402C", "402E", "403", "4031"});
-  for (std::size_t i = 0; i < 18; ++i) record += Double(lengths[i]) + Double(capacities[i]);
+  std::string record = Name("L5X3") + Hex("0500 0300 00000000") + Double(3.5) + Doubles(1, 17);
+  for (int i = 0; i < 18; ++i) record += Double((6 + 3 * i) / 10.0) + Double(20 + 20 * i);
   return record;
 }
 constexpr wchar_t kAngleRow[] =
@@ -74,17 +66,13 @@ constexpr wchar_t kAngleRow[] =
     L"220,240,260,280,300,320,340,360";
 
 // A T whose height is the text "62.5"; from B to Cx 1, 2, 3, ... 13.
-std::string SplitTRecord() {
-  return Name("TX1") + Name("62.5") +
-         Doubles({"3FF", "4", "4008", "401", "4014", "4018", "401C", "402", "4022", "4024", "4026",
-                  "4028", "402A"});
-}
+std::string SplitTRecord() { return Name("TX1") + Name("62.5") + Doubles(1, 13); }
 constexpr wchar_t kSplitTRow[] = L"TX1,62.5,1,2,3,4,5,6,7,8,9,10,11,12,13";
 
 // A round tube of 104 bytes: d, then seven doubles of 1.
 std::string TubeRecord(std::string_view name, char d = 25) {
   std::string record = Name(name) + std::string({d, 0}) + std::string(6, '\0');
-  for (int i = 0; i < 7; ++i) record += Double("3FF");
+  for (int i = 0; i < 7; ++i) record += Double(1);
   return record;
 }
 
@@ -175,43 +163,41 @@ TEST_F(RolledFile, OfAnotherKindGivesNothing) {
   EXPECT_EQ(CReadFile::GetIronData(nullptr, table), 0);
 }
 
-TEST_F(RolledFile, GivesTheFirstRecordOfEachModelNumber) {
-  CDataTable table;
-  const std::string twice =
-      TubeRecord(" 30X2 ", 30) + TubeRecord("25X1.5") + TubeRecord("30X2", 31);
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + twice + "rest", table), 1);
-  ASSERT_EQ(table.GetTableRowNum(), 2);
-  EXPECT_EQ(RowText(table[0]), L"30X2,30,1,1,1,1,1,1,1");
-  EXPECT_EQ(RowText(table[1]), L"25X1.5,25,1,1,1,1,1,1,1");
-  // A comma would make two cells of the number; the record is passed over.
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + TubeRecord("1,2") + TubeRecord("3"), table), 1);
-  ASSERT_EQ(table.GetTableRowNum(), 1);
-  // A name that fills its field has no zero; numbers are shown as they are.
+TEST_F(RolledFile, GivesTheRowsThatItsBytesHold) {
+  const std::string a = TubeRecord("A"), b = TubeRecord("B"), gap(8, 'g');
   std::string full = TubeRecord(std::string(20, 'x'));
-  full.replace(48, 8, Double("7FF8"));
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + full, table), 1);
-  EXPECT_EQ(RowText(table[0]), L"xxxxxxxxxxxxxxxxxxxx,25,NAN,1,1,1,1,1,1");
-}
-
-TEST_F(RolledFile, WithAnotherRecordSizeIsReadWithTheLarger) {
-  const std::string two = TubeRecord("A") + TubeRecord("B");
-  CDataTable table;
-  // 8 bytes more than a record: the file has them behind each.
-  const std::string gap(8, 'g');
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("7000") + TubeRecord("A") + gap + TubeRecord("B") + gap, table),
-            1);
-  ASSERT_EQ(table.GetTableRowNum(), 2);
-  EXPECT_EQ(RowText(table[1]), L"B,25,1,1,1,1,1,1,1");
-  // Half a record: twice as many are counted as the file can fill; the first of the empty ones
-  // stands for all.
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("3400") + two, table), 1);
-  ASSERT_EQ(table.GetTableRowNum(), 3);
-  EXPECT_EQ(RowText(table[1]), L"B,25,1,1,1,1,1,1,1");
-  EXPECT_EQ(RowText(table[2]), L",0,0,0,0,0,0,0,0");
-  // The last record of 1 byte's count ends in the middle of its doubles.
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("0100") + two.substr(0, 104 + 60), table), 1);
-  ASSERT_EQ(table.GetTableRowNum(), 3);
-  EXPECT_EQ(RowText(table[1]), L"B,25,1,0,0,0,0,0,0");
+  full.replace(48, 8, Double(std::nan("")));
+  const struct {
+    const char* what;
+    std::string bytes;
+    std::vector<std::string> rows;
+  } cases[] = {
+      {"the first record of each number; a rest is passed over",
+       Hex("6800") + TubeRecord(" 30X2 ", 30) + a + TubeRecord("30X2", 31) + "rest",
+       {"30X2,30,1,1,1,1,1,1,1", "A,25,1,1,1,1,1,1,1"}},
+      {"a comma would make two cells of the number",
+       Hex("6800") + TubeRecord("1,2") + b,
+       {"B,25,1,1,1,1,1,1,1"}},
+      {"a name that fills its field has no zero; numbers are shown as they are",
+       Hex("6800") + full,
+       {"xxxxxxxxxxxxxxxxxxxx,25,NAN,1,1,1,1,1,1"}},
+      {"8 bytes more than a record: the file has them behind each",
+       Hex("7000") + a + gap + b + gap,
+       {"A,25,1,1,1,1,1,1,1", "B,25,1,1,1,1,1,1,1"}},
+      {"half a record: twice as many are counted; the first of the empty ones stands for all",
+       Hex("3400") + a + b,
+       {"A,25,1,1,1,1,1,1,1", "B,25,1,1,1,1,1,1,1", ",0,0,0,0,0,0,0,0"}},
+      {"records of 1 byte: the last one ends in the middle of its doubles",
+       Hex("0100") + a + b.substr(0, 60),
+       {"A,25,1,1,1,1,1,1,1", "B,25,1,0,0,0,0,0,0", ",0,0,0,0,0,0,0,0"}},
+  };
+  for (const auto& c : cases) {
+    CDataTable table;
+    EXPECT_EQ(Read(L"LWCIR.kvb", c.bytes, table), 1) << c.what;
+    std::vector<std::string> rows;
+    for (const CDataItem& row : table.m_arrItem) rows.push_back(orv3::ToUtf8(RowText(row)));
+    EXPECT_EQ(rows, c.rows) << c.what;
+  }
 }
 
 TEST_F(RolledFile, OfTheUserHasTheSameColumnsAndFreeRows) {

@@ -5,7 +5,6 @@
 
 #include "framework/utf8.h"
 #include "sections/geometry_rows.h"
-#include "sections/table_types.h"
 
 namespace {
 
@@ -167,24 +166,6 @@ TEST(GeometryRules, SymmetryOfUserDefinedSections) {
     const CDataItem row = RowOf(c.table, L"1", c.cells);
     EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row), c.x) << orv3::ToUtf8(CString(c.table));
     EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row), c.y) << orv3::ToUtf8(CString(c.table));
-  }
-}
-
-// By the masks of table types: 0x12B about x, 0x127 and the pairs of angles about y.
-TEST(GeometryRules, SymmetryOfRolledSections) {
-  CStringArray names;
-  CLoadDataTable::GetTableNameArray(orv3::kCatalogueTables, names);
-  ASSERT_EQ(names.GetSize(), 27);
-  for (const CString& name : names) {
-    const CDataItem row = RowOf(name.GetString(), L"1", {});
-    const bool pair =
-        CLoadDataTable::IsTableNameType(name, 0x1000080) && name != L"热轧等边角钢十字组合";
-    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row),
-              CLoadDataTable::IsTableNameType(name, 0x100012B))
-        << orv3::ToUtf8(name);
-    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row),
-              pair || CLoadDataTable::IsTableNameType(name, 0x1000127))
-        << orv3::ToUtf8(name);
   }
 }
 
