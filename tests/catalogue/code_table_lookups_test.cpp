@@ -161,35 +161,33 @@ TEST(CodeTableLookups, CellsByPosition) {
   EXPECT_FALSE(T::SearchSub9(1, 6, preload));
 }
 
+// Table 5.2.1 by kind of section.
 TEST(CodeTableLookups, PlasticFactorGamma) {
-  struct {
-    int kind, axis;
-    double gamma;
-  } cases[] = {
-      {0, 0, 1.05},  {4, 1, 1.2},  {5, 1, 1.05},    {10, 1, 1.05},   {11, 1, 1.2},   {12, 0, 1.05},
-      {14, 1, 1.05}, {15, 0, 1.2}, {17, 0, 1.2},    {18, 0, 1.15},   {19, 0, 1.0},   {20, 1, 1.05},
-      {21, 1, 1.5},  {22, 0, 1.0}, {23, 0, kFalse}, {-1, 0, kFalse}, {0, 2, kFalse},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(Result<double>([&](double& v) { return T::SearchSub6(c.kind, c.axis, v); }), c.gamma)
-        << c.kind << ", " << c.axis;
+  constexpr double kX[] = {1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05,
+                           1.05, 1.05, 1.05, 1.2,  1.2,  1.2,  1.15, 1.0,  1.0,  1.0,  1.0};
+  constexpr double kY[] = {1.2, 1.2,  1.2,  1.2, 1.2, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.2,
+                           1.2, 1.05, 1.05, 1.2, 1.2, 1.2,  1.15, 1.05, 1.05, 1.5,  1.5};
+  double table[23][2];
+  for (int kind = 0; kind < 23; ++kind) {
+    table[kind][0] = kX[kind];
+    table[kind][1] = kY[kind];
   }
+  ExpectCells(T::SearchSub6, table, "gamma");
 }
 
 TEST(CodeTableLookups, BucklingClass) {
-  struct {
-    int kind, axis;
-    const wchar_t* result;
-  } cases[] = {
-      {1, 0, L"a"},  {2, 0, L"a"}, {3, 0, L"b"},  {28, 0, L"b"}, {29, 0, L"c"},
-      {30, 0, L"c"}, {1, 1, L"a"}, {2, 1, L"b"},  {25, 1, L"b"}, {26, 1, L"c"},
-      {30, 1, L"c"}, {0, 0, L"-"}, {31, 0, L"-"}, {1, 2, L"-"},  {1, -1, L"-"},
-  };
-  for (const auto& c : cases) {
-    CString found = L"-";
-    const bool bFound = T::SearchSub5(c.kind, c.axis, found);
-    EXPECT_EQ(bFound, found != L"-");
-    EXPECT_EQ(found, c.result) << c.kind << ", " << c.axis;
+  // Table 5.1.2-1: kinds 1 to 30, about x and about y.
+  const std::string classes[] = {"aa" + std::string(26, 'b') + "cc",
+                                 "a" + std::string(24, 'b') + "ccccc"};
+  for (int kind = 0; kind <= 31; ++kind) {
+    for (int axis = -1; axis <= 2; ++axis) {
+      const bool inside = kind >= 1 && kind <= 30 && (axis == 0 || axis == 1);
+      CString found = L"-";
+      EXPECT_EQ(T::SearchSub5(kind, axis, found), inside);
+      EXPECT_EQ(orv3::ToUtf8(found),
+                inside ? classes[axis].substr(static_cast<std::size_t>(kind - 1), 1) : "-")
+          << kind << ", " << axis;
+    }
   }
   CString thick = L"-";
   EXPECT_FALSE(T::SearchSub5S2(0, 0, thick) || T::SearchSub5S2(7, 0, thick));
@@ -211,49 +209,43 @@ double PhiBOf(int loadCase, double iNumber, double length) {
   return Result<double>([=](double& v) { return T::SearchSub11_1(loadCase, iNumber, length, v); });
 }
 
-TEST(CodeTableLookups, RolledBeam) {
-  // Table B.2 read cell by cell.
-  EXPECT_EQ(PhiB(0, 0, 0, 0, 0), 2.0);
-  EXPECT_EQ(PhiB(0, 0, 0, 2, 6), 0.50);  // 36~63, upper, 8 m
-  EXPECT_EQ(PhiB(0, 0, 1, 3, 1), 2.80);  // 22~40, concentrated lower, 3 m
-  EXPECT_EQ(PhiB(0, 1, 0, 4, 6), 0.44);  // 45~63, uniform upper, 8 m
-  EXPECT_EQ(PhiB(0, 1, 1, 0, 8), 0.42);
-  EXPECT_EQ(PhiB(1, 2, 2, 4, 0), 4.0);
-  // ranges of another load case, selectors that do not go together, a column too many
-  for (const double refused : {PhiB(0, 0, 0, 3, 0), PhiB(0, 0, 1, 1, 0), PhiB(1, 2, 2, 2, 0),
-                               PhiB(1, 0, 0, 0, 0), PhiB(0, 2, 2, 0, 0), PhiB(1, 2, 1, 0, 0),
-                               PhiB(2, 2, 2, 0, 0), PhiB(0, 0, 0, 0, 9), PhiB(0, 0, 0, 0, -1)}) {
-    EXPECT_EQ(refused, kFalse);
-  }
-  // The same rows by load case.
-  EXPECT_EQ(PhiB(1, 1, 3), 0.86);
-  EXPECT_EQ(PhiB(2, 4, 8), 0.60);
-  EXPECT_EQ(PhiB(3, 0, 2), 0.84);
-  EXPECT_EQ(PhiB(5, 3, 4), 0.76);
-  EXPECT_EQ(PhiB(0, 0, 0), kFalse);
-  EXPECT_EQ(PhiB(6, 0, 0), kFalse);
-  EXPECT_EQ(PhiB(2, 2, 0), kFalse);
-}
+// Table B.2: five load cases, each named by three selectors, with three ranges of I numbers each;
+// those of the first case are 0, 1, 2 and those of the others 0, 3, 4.
+constexpr struct CBeamCase {
+  int support, kind, position;
+  int ranges[3];
+  int first[3], last[3];  // I numbers
+} kBeamCases[] = {{0, 0, 0, {0, 1, 2}, {10, 22, 36}, {20, 32, 63}},
+                  {0, 0, 1, {0, 3, 4}, {10, 22, 45}, {20, 40, 63}},
+                  {0, 1, 0, {0, 3, 4}, {10, 22, 45}, {20, 40, 63}},
+                  {0, 1, 1, {0, 3, 4}, {10, 22, 45}, {20, 40, 63}},
+                  {1, 2, 2, {0, 3, 4}, {10, 22, 45}, {20, 40, 63}}};
 
-TEST(CodeTableLookups, RolledBeamByNumbers) {
-  const int kFirstNumber[2][3] = {{10, 22, 36}, {10, 22, 45}};
-  const int kLastNumber[2][3] = {{20, 32, 63}, {20, 40, 63}};
-  for (int row = 0; row < 15; ++row) {
-    const int loadCase = row / 3 + 1;
+TEST(CodeTableLookups, RolledBeam) {
+  for (int n = 0; n < 15; ++n) {
+    const CBeamCase& c = kBeamCases[n / 3];
+    const int loadCase = n / 3 + 1, range = c.ranges[n % 3];
+    const auto& row = T::g_sub11[n];
     for (int column = 0; column < 9; ++column) {
-      const auto& table = T::g_sub11[row];
-      const int own = loadCase == 1 ? 0 : 1;
-      EXPECT_EQ(PhiBOf(loadCase, kFirstNumber[own][row % 3], 2.0 + column), table[column]);
-      EXPECT_EQ(PhiBOf(loadCase, kLastNumber[own][row % 3], 2.0 + column), table[column]);
+      SCOPED_TRACE(testing::Message() << "row " << n << " column " << column);
+      EXPECT_EQ(PhiB(c.support, c.kind, c.position, range, column), row[column]);
+      EXPECT_EQ(PhiB(loadCase, range, column), row[column]);
+      EXPECT_EQ(PhiBOf(loadCase, c.first[n % 3], 2.0 + column), row[column]);
+      EXPECT_EQ(PhiBOf(loadCase, c.last[n % 3], 2.0 + column), row[column]);
       if (column == 0) continue;
-      EXPECT_NEAR(PhiBOf(loadCase, kFirstNumber[own][row % 3], 1.75 + column),
-                  0.25 * table[column - 1] + 0.75 * table[column], 1e-12);
+      EXPECT_NEAR(PhiBOf(loadCase, c.first[n % 3], 1.75 + column),
+                  0.25 * row[column - 1] + 0.75 * row[column], 1e-12);
     }
   }
+  // Ranges of another load case, selectors that do not go together, columns, numbers and lengths
+  // outside.
   for (const double refused :
-       {PhiBOf(1, 34.0, 5.0), PhiBOf(2, 42.0, 5.0), PhiBOf(1, 8.0, 5.0), PhiBOf(1, 64.0, 5.0),
+       {PhiB(0, 0, 0, 3, 0),   PhiB(0, 0, 1, 1, 0),    PhiB(1, 2, 2, 2, 0),  PhiB(1, 0, 0, 0, 0),
+        PhiB(0, 2, 2, 0, 0),   PhiB(1, 2, 1, 0, 0),    PhiB(2, 2, 2, 0, 0),  PhiB(0, 0, 0, 0, 9),
+        PhiB(0, 0, 0, 0, -1),  PhiB(0, 0, 0),          PhiB(6, 0, 0),        PhiB(2, 2, 0),
+        PhiBOf(1, 34.0, 5.0),  PhiBOf(2, 42.0, 5.0),   PhiBOf(1, 8.0, 5.0),  PhiBOf(1, 64.0, 5.0),
         PhiBOf(1, 20.0, 1.99), PhiBOf(1, 20.0, 10.01), PhiBOf(0, 20.0, 5.0), PhiBOf(6, 20.0, 5.0),
-        PhiBOf(1, kNaN, 5.0), PhiBOf(1, 20.0, kNaN)}) {
+        PhiBOf(1, kNaN, 5.0),  PhiBOf(1, 20.0, kNaN)}) {
     EXPECT_EQ(refused, kFalse);
   }
 }

@@ -7,7 +7,7 @@
 
 using CStyleSizes = std::array<double, orv3::kSectionSizes>;
 
-// Area and centroid worked out by hand from the plates.
+// Area and centroid worked out by hand from the plates. Sizes differ wherever they may.
 inline constexpr struct CStyleCase {
   int style;
   CStyleSizes sizes;  // in the order of the columns
@@ -45,8 +45,8 @@ inline constexpr struct CStyleCase {
      (2800 * 87.5 + 3640 * 150.0 + 4700 * 182.5) / 11140,
      (2800 * 392.0 + 3640 * 202 + 4700 * 10) / 11140},
     {10, {10, 200, 12, 110}, 120, 200, 3320, 95800 / 3320.0, 207920 / 3320.0},
-    {11, {8, 200, 10, 10, 70, 80}, 158, 200, 3100, 237300 / 3100.0, 300500 / 3100.0},
-    {12, {10, 320, 14, 14, 90, 80}, 100, 320, 5580, 141300 / 5580.0, 871380 / 5580.0},
+    {11, {10, 250, 14, 18, 70, 90}, 170, 250, 5020, 389100 / 5020.0, 624980 / 5020.0},
+    {12, {9, 320, 16, 12, 110, 80}, 119, 320, 5600, 172640 / 5600.0, 776320 / 5600.0},
     {13, {40, 400, 160, 200, 150, 170}, 360, 400, 28800, 175, 5504000 / 28800.0},
     {14, {300, 400, 12, 20, 10, 14}, 300, 400, 18432, 2967936 / 18432.0, 3280128 / 18432.0},
 };
