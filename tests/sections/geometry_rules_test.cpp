@@ -128,45 +128,40 @@ TEST(GeometryRules, ATHasItsHeightAsText) {
 }
 
 TEST(GeometryRules, SymmetryOfUserDefinedSections) {
-  using CCells = std::initializer_list<std::pair<const wchar_t*, double>>;
   const struct {
     const wchar_t* table;
-    CCells cells;
+    std::initializer_list<double> sizes;  // in the order of the columns
     int x, y;
   } cases[] = {
       {L"自定义对称H型钢", {}, 1, 1},
       {L"自定义翼缘十字形截面", {}, 1, 1},
       {L"六边形截面", {}, 1, 1},
       {L"三角形截面", {}, 0, 1},
-      {L"自定义非对称H型钢",
-       {{L"bh1(mm)", 10}, {L"bh2(mm)", 10}, {L"bf1(mm)", 5}, {L"bf3(mm)", 5}},
-       1,
-       0},
-      {L"自定义非对称H型钢", {{L"bh1(mm)", 10}, {L"bf1(mm)", 5}, {L"bf2(mm)", 5}}, 0, 1},
-      {L"自定义非对称H型钢", {{L"bf2(mm)", 5}, {L"bf4(mm)", 5.000001}}, 0, 0},
-      {L"自定义非对称H型钢", {{L"bf1(mm)", 1e-7}}, 1, 1},
-      {L"自定义非对称箱形截面",
-       {{L"t1(mm)", 8}, {L"t2(mm)", 8}, {L"t3(mm)", 8}, {L"t4(mm)", 9}},
-       1,
-       0},
-      {L"自定义十字形截面", {{L"bh1(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 0, 1},
-      {L"自定义T形截面", {{L"bh(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 0, 1},
-      {L"自定义T形截面", {{L"bh(mm)", 8}, {L"bf1(mm)", 9}}, 0, 0},
-      {L"自定义T形截面", {{L"bh(mm)", 8}}, 1, 1},
-      {L"自定义T形截面", {{L"bf1(mm)", 9}}, 1, 1},
-      {L"自定义槽钢", {{L"bh1(mm)", 8}, {L"bh2(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 1, 0},
-      {L"自定义槽钢", {{L"bh1(mm)", 8}, {L"bh2(mm)", 8}, {L"bf2(mm)", 9}}, 0, 1},
-      {L"自定义L形截面", {{L"bh(mm)", 8}, {L"bf(mm)", 9}}, 0, 0},
-      {L"自定义L形截面", {{L"bh(mm)", 8}}, 1, 1},
-      {L"自定义Z形截面", {{L"bh1(mm)", 8}, {L"bf1(mm)", 9}}, 0, 0},
-      {L"自定义Z形截面", {{L"bf1(mm)", 9}}, 1, 1},
-      {L"四肢格构柱", {}, 0, 0},
+      {L"自定义非对称H型钢", {0, 0, 10, 10, 5, 0, 5}, 1, 0},
+      {L"自定义非对称H型钢", {0, 0, 10, 0, 5, 5}, 0, 1},
+      {L"自定义非对称H型钢", {0, 0, 0, 0, 0, 5, 0, 5.000001}, 0, 0},
+      {L"自定义非对称H型钢", {0, 0, 0, 0, 1e-7}, 1, 1},
+      {L"自定义非对称箱形截面", {0, 0, 8, 8, 8, 9}, 1, 0},
+      {L"自定义十字形截面", {0, 0, 8, 0, 9, 9}, 0, 1},
+      {L"自定义T形截面", {0, 0, 8, 9, 9}, 0, 1},
+      {L"自定义T形截面", {0, 0, 8, 9}, 0, 0},
+      {L"自定义T形截面", {0, 0, 8}, 1, 1},
+      {L"自定义T形截面", {0, 0, 0, 9}, 1, 1},
+      {L"自定义槽钢", {0, 0, 8, 8, 9, 9}, 1, 0},
+      {L"自定义槽钢", {0, 0, 8, 8, 0, 9}, 0, 1},
+      {L"自定义L形截面", {0, 0, 8, 9}, 0, 0},
+      {L"自定义L形截面", {0, 0, 8}, 1, 1},
+      {L"自定义Z形截面", {0, 0, 8, 0, 9}, 0, 0},
+      {L"自定义Z形截面", {0, 0, 0, 0, 9}, 1, 1},
   };
   for (const auto& c : cases) {
-    const CDataItem row = RowOf(c.table, L"1", c.cells);
+    const CDataItem row = RowOfPlates(c.table, c.sizes);
     EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row), c.x) << orv3::ToUtf8(CString(c.table));
     EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row), c.y) << orv3::ToUtf8(CString(c.table));
   }
+  const CDataItem column = RowOf(L"四肢格构柱", L"1", {});
+  EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(column), 0);
+  EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(column), 0);
 }
 
 TEST(GeometryRules, RecomputesAUserDefinedRow) {
