@@ -2,17 +2,17 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "catalogue/csv_table_check.h"
 #include "catalogue/rolled/rolled_style.h"
 #include "catalogue/rolled_expected.h"
 #include "catalogue_csv.h"
-#include "framework/csv.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "platform/temp_folder.h"
 
 namespace {
 
@@ -39,27 +39,22 @@ constexpr CTable kTables[] = {
 // How far a printed figure may be from the integration beyond half a unit of its last digit, as a
 // share of it: by column, and by row and column where one figure stands out. The published figures
 // are kept; data/catalogue/SOURCES.md says where they come from.
-class CDeviations {
- public:
-  CDeviations() {
-    orv3::CCsvReader csv(Bytes(orv3::FromUtf8(ORV3CAL_DEVIATIONS)));
-    std::vector<std::string_view> cells;
-    csv.Next(cells);  // the heading
-    while (csv.Next(cells))
-      m_map[Key(cells[0], cells[1], cells[2])] = orv3::ToDouble(orv3::FromUtf8(cells[3]));
-  }
-  double Of(const char* table, std::string_view row, std::string_view column) const {
-    auto found = m_map.find(Key(table, row, column));
-    if (found == m_map.end()) found = m_map.find(Key(table, "", column));
-    return found == m_map.end() ? 0 : found->second;
-  }
+using CDeviations = std::map<std::string, double>;  // by "table,row,column"
 
- private:
-  static std::string Key(std::string_view table, std::string_view row, std::string_view column) {
-    return std::string(table).append(",").append(row).append(",").append(column);
-  }
-  std::map<std::string, double> m_map;
-};
+CDeviations ReadDeviations() {
+  CDeviations deviations;
+  for (const auto& cells : CsvRows(ORV3CAL_DEVIATIONS))
+    deviations[orv3::ToUtf8(cells[0] + L"," + cells[1] + L"," + cells[2])] =
+        orv3::ToDouble(cells[3]);
+  return deviations;
+}
+
+double DeviationOf(const CDeviations& deviations, const std::string& table, const std::string& row,
+                   const std::string& column) {
+  auto found = deviations.find(table + "," + row + "," + column);
+  if (found == deviations.end()) found = deviations.find(table + ",," + column);
+  return found == deviations.end() ? 0 : found->second;
+}
 
 const std::set<std::string> kSizes{"H",  "h",  "B",  "b",  "d", "a", "t",
                                    "t1", "t2", "tw", "tf", "r", "r1"};
@@ -102,7 +97,7 @@ class RolledRows : public testing::TestWithParam<CTable> {
   template <class CHECK>
   static void ForEachFigure(CHECK check) {
     const CTable& table = GetParam();
-    const CDeviations deviations;
+    const CDeviations deviations = ReadDeviations();
     for (const CDataItem& row : Rows()) {
       const std::string no = orv3::ToUtf8(row[0].m_strValue);
       const CValues expected = Expected(table.m_szFile, row);
@@ -113,7 +108,7 @@ class RolledRows : public testing::TestWithParam<CTable> {
         const std::string text = orv3::ToUtf8(row[i].m_strValue);
         check(no + " " + symbol,
               CFigure{text, orv3::ToDouble(row[i].m_strValue), UnitOfLastDigit(table, symbol, text),
-                      deviations.Of(table.m_szFile, no, symbol), expected.at(symbol),
+                      DeviationOf(deviations, table.m_szFile, no, symbol), expected.at(symbol),
                       IsWatched(symbol)});
       }
     }

@@ -1,6 +1,7 @@
 // How a row is read: cells, units, spacings, turning and symmetry.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
 
 #include "framework/utf8.h"
@@ -125,6 +126,30 @@ TEST(GeometryRules, ATHasItsHeightAsText) {
   EXPECT_NEAR(CLoadDataTable::GetDataItemWxo2(row), 6910, 1e-9);
   row[L"h(mm)"].m_strValue = L"about 60";
   ExpectTwo(RectOf(row), 125, 0, "no number");
+}
+
+// Of the plates; a solid counts as thick as the largest circle inside it is wide.
+TEST(GeometryRules, ThicknessesOfUserDefinedSections) {
+  const struct {
+    const wchar_t* table;
+    std::initializer_list<double> sizes;  // in the order of the columns
+    double most, least;
+  } cases[] = {
+      {L"自定义对称H型钢", {300, 400, 20, 10}, 20, 10},
+      {L"自定义非对称箱形截面", {300, 400, 30, 20, 12, 16}, 30, 12},
+      {L"自定义十字形截面", {30, 400, 150, 210, 90, 120}, 40, 30},
+      {L"自定义圆管", {100, 90}, 10, 10},
+      {L"矩形截面", {200, 400}, 200, 200},
+      {L"六边形截面", {100}, 100 * std::sqrt(3.0), 100 * std::sqrt(3.0)},
+      {L"三角形截面", {60, 40}, 4.0 * 1200 / 160, 4.0 * 1200 / 160},
+  };
+  for (const auto& c : cases) {
+    const CDataItem row = RowOfPlates(c.table, c.sizes);
+    EXPECT_NEAR(CLoadDataTable::GetDataItemMaxThick(row), c.most, 1e-9)
+        << orv3::ToUtf8(CString(c.table));
+    EXPECT_NEAR(CLoadDataTable::GetDataItemMinThick(row), c.least, 1e-9)
+        << orv3::ToUtf8(CString(c.table));
+  }
 }
 
 TEST(GeometryRules, SymmetryOfUserDefinedSections) {
