@@ -122,9 +122,9 @@ void AddWall(std::vector<CPiece>& pieces, CPoint from, CPoint to, THICKNESS thic
   }
 }
 
-// The shear centre of a cell by the flow of a vertical force: the flow of the cell cut open, and
-// the constant flow that undoes its twist. Symmetric about y = 0.
-double CellShearCentre(const std::vector<CPiece>& pieces) {
+// Where the flow of a vertical force acts; in a cell, the flow of the cell cut open and the
+// constant one that undoes its twist. Symmetric about y = 0.
+double ShearCentre(const std::vector<CPiece>& pieces, bool cell) {
   double S = 0, twist = 0, path = 0;
   std::vector<double> flow;
   for (const CPiece& p : pieces) {
@@ -137,7 +137,7 @@ double CellShearCentre(const std::vector<CPiece>& pieces) {
   double moment = 0, force = 0;
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     const CPiece& p = pieces[i];
-    const double q = flow[i] - twist / path;
+    const double q = flow[i] - (cell ? twist / path : 0);
     moment += q * (p.x * p.dy - p.y * p.dx);
     force += q * p.dy;
   }
@@ -159,7 +159,7 @@ TEST(GeometryWarping, BoxWithUnequalWebs) {
   const double xo =
       (left * web * left / 2 + right * web * (width - right / 2) + 2 * t * width * width / 2) / A;
   const CDataItem row = RowOfPlates(L"自定义非对称箱形截面", {width, h + t, t, t, left, right});
-  EXPECT_NEAR(CLoadDataTable::GetDatIteme0(row), CellShearCentre(pieces) + left / 2 - xo, 1e-5);
+  EXPECT_NEAR(CLoadDataTable::GetDatIteme0(row), ShearCentre(pieces, true) + left / 2 - xo, 1e-5);
 }
 
 // A hot-rolled channel with its tapering flanges, by the flow of a vertical force and the sectorial
@@ -174,14 +174,7 @@ TEST(GeometryWarping, HotRolledChannel) {
   AddWall(pieces, {0, -h / 2}, {0, h / 2}, [](double) { return tw; });
   AddWall(pieces, {0, h / 2}, {b, h / 2}, flange);
 
-  double S = 0, moment = 0, force = 0;
-  for (const CPiece& p : pieces) {
-    const double own = p.t * p.Length() * p.y;
-    S += own;
-    moment += (S - own / 2) * (p.x * p.dy - p.y * p.dx);
-    force += (S - own / 2) * p.dy;
-  }
-  const double e = moment / force;  // negative: beyond the web
+  const double e = ShearCentre(pieces, false);  // negative: beyond the web
   double w = 0, sum1 = 0, sum2 = 0, A = 0;
   for (const CPiece& p : pieces) {
     const double step = (p.x - e) * p.dy - p.y * p.dx, dA = p.t * p.Length();
