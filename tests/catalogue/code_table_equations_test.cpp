@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <functional>
 #include <numbers>
+#include <set>
 
 #include "orv3cal.h"
 
@@ -14,10 +14,10 @@ namespace {
 
 constexpr double kPi = std::numbers::pi;
 using T = CTableSearch;
-using CEquation = std::function<double(double)>;
 
-// The first root above `from`, 0 when there is none below `to`.
-double FirstRoot(const CEquation& f, double from, double to) {
+// The first root of f above `from`, 0 when there is none below `to`.
+template <class F>
+double FirstRoot(F f, double from, double to) {
   constexpr double kStep = 0.01;
   const bool bPositive = f(from) > 0;
   for (int step = 0; from + kStep * step < to; ++step) {
@@ -33,7 +33,10 @@ double FirstRoot(const CEquation& f, double from, double to) {
   return 0;
 }
 
-double Mu(const CEquation& f, double from, double to) { return kPi / FirstRoot(f, from, to); }
+template <class F>
+double Mu(F f, double from = 0.05, double to = kPi) {
+  return kPi / FirstRoot(f, from, to);
+}
 
 // D-1, without sidesway.
 double NoSway(double x, double k1, double k2) {
@@ -83,28 +86,22 @@ double DoubleSliding(double x, const CDouble& p) {
 
 // The print of the code differs from the rounded root in a few cells of Tables D-1 and D-2: by less
 // than a whole last digit.
-bool IsPrintException(double k1, double k2,
-                      std::initializer_list<std::pair<double, double>> cells) {
-  for (const auto& [a, b] : cells) {
-    if ((k1 == a && k2 == b) || (k1 == b && k2 == a)) return true;
-  }
-  return false;
-}
+using CCells = std::set<std::pair<double, double>>;
+const CCells kNoSwayPrint = {{0, 2}, {0.1, 0.1}, {0.2, 5}};
+const CCells kSwayPrint = {{0, 0.5}, {0.05, 3}, {0.5, 5}, {4, 5}};
 
 TEST(EffectiveLengthEquations, FrameColumns) {
   for (int i = 0; i < 13; ++i) {
     for (int j = 0; j < 13; ++j) {
-      const double k1 = orv3::kFrameK[i];
-      const double k2 = orv3::kFrameK[j];
-      const bool bNoSway = IsPrintException(k1, k2, {{0, 2}, {0.1, 0.1}, {0.2, 5}});
+      const double k1 = orv3::kFrameK[i], k2 = orv3::kFrameK[j];
+      const std::pair cell = std::minmax(k1, k2);
       EXPECT_NEAR(T::g_sub16[i][j],
                   Mu([=](double x) { return NoSway(x, k1, k2); }, 1.0, 2 * kPi + 0.1),
-                  bNoSway ? 0.00055 : 0.0005)
+                  kNoSwayPrint.count(cell) ? 0.00055 : 0.0005)
           << "D-1 at " << k1 << ", " << k2;
       if (i == 0 && j == 0) continue;  // infinity
-      const bool bSway = IsPrintException(k1, k2, {{0, 0.5}, {0.05, 3}, {0.5, 5}, {4, 5}});
       EXPECT_NEAR(T::g_sub17[i][j], Mu([=](double x) { return Sway(x, k1, k2); }, 0.05, kPi + 0.1),
-                  bSway ? 0.0055 : 0.005)
+                  kSwayPrint.count(cell) ? 0.0055 : 0.005)
           << "D-2 at " << k1 << ", " << k2;
     }
   }
@@ -115,11 +112,9 @@ TEST(EffectiveLengthEquations, SingleSteppedColumns) {
     for (int j = 0; j < 18; ++j) {
       const double eta1 = orv3::kSingleEta1[i];
       const double k1 = orv3::kSingleK1[j];
-      EXPECT_NEAR(T::g_sub18[i][j],
-                  Mu([=](double x) { return SingleFree(x, eta1, k1); }, 0.05, kPi), 0.005)
+      EXPECT_NEAR(T::g_sub18[i][j], Mu([=](double x) { return SingleFree(x, eta1, k1); }), 0.005)
           << "D-3 at " << eta1 << ", " << k1;
-      EXPECT_NEAR(T::g_sub19[i][j],
-                  Mu([=](double x) { return SingleSliding(x, eta1, k1); }, 0.05, kPi), 0.005)
+      EXPECT_NEAR(T::g_sub19[i][j], Mu([=](double x) { return SingleSliding(x, eta1, k1); }), 0.005)
           << "D-4 at " << eta1 << ", " << k1;
     }
   }
@@ -135,11 +130,9 @@ TEST(EffectiveLengthEquations, DoubleSteppedColumns) {
                        orv3::kDoubleK2[j2]};
     const int row = 6 * (j1 / 2) + i2;
     const int column = 22 * i1 + 11 * (j1 % 2) + j2;
-    EXPECT_NEAR(T::g_sub20[row][column], Mu([&](double x) { return DoubleFree(x, p); }, 0.05, kPi),
-                0.005)
+    EXPECT_NEAR(T::g_sub20[row][column], Mu([&](double x) { return DoubleFree(x, p); }), 0.005)
         << "D-5 at " << p.eta1 << ", " << p.eta2 << ", " << p.k1 << ", " << p.k2;
-    EXPECT_NEAR(T::g_sub21[row][column],
-                Mu([&](double x) { return DoubleSliding(x, p); }, 0.05, kPi), 0.005)
+    EXPECT_NEAR(T::g_sub21[row][column], Mu([&](double x) { return DoubleSliding(x, p); }), 0.005)
         << "D-6 at " << p.eta1 << ", " << p.eta2 << ", " << p.k1 << ", " << p.k2;
   }
 }

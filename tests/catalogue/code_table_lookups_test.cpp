@@ -27,8 +27,8 @@ VALUE Result(LOOKUP lookup) {
 int Steel(int grade, int group, int kind) {
   return Result<int>([=](int& v) { return T::SearchSub1(grade, group, kind, v); });
 }
-int Steel(int grade, double t, int kind) {
-  return Result<int>([=](int& v) { return T::SearchSub1(grade, t, kind, v); });
+int SteelOf(int grade, double t) {
+  return Result<int>([=](int& v) { return T::SearchSub1(grade, t, SUB1_F, v); });
 }
 int Weld(int grade, int group, int kind) {
   return Result<int>([=](int& v) { return T::SearchSub2(grade, group, kind, v); });
@@ -40,34 +40,56 @@ int Bolt(int family, int grade, int column) {
   return Result<int>([=](int& v) { return T::SearchSub3(family, grade, column, v); });
 }
 
-TEST(CodeTableLookups, SteelStrengthByGroup) {
-  struct {
-    int grade, group, kind, strength;
-  } cases[] = {
-      {SUB1_Q235, SUB1_T16, SUB1_F, 215},
-      {SUB1_Q235, SUB1_T60_100, SUB1_FV, 110},
-      {SUB1_Q345, SUB1_T16, SUB1_F, 310},
-      {SUB1_Q345, SUB1_T16_35, SUB1_FV, 170},
-      {SUB1_Q390, SUB1_T35_50, SUB1_F, 315},
-      {SUB1_Q420, SUB1_T50_100, SUB1_F, 325},
-      {SUB1_Q420, SUB1_T50_100, SUB1_FV, 185},
-      {SUB1_Q235, SUB1_T40_60, SUB1_FCE, 325},
-      {SUB1_Q345, SUB1_T16, SUB1_FCE, 400},
-      {SUB1_Q390, SUB1_T16_35, SUB1_FCE, 415},
-      {SUB1_Q420, SUB1_T50_100, SUB1_FCE, 440},
-      // a group of the other grades, a kind or a grade that is not there
-      {SUB1_Q235, SUB1_T16_35, SUB1_F, kFalse},
-      {SUB1_Q345, SUB1_T16_40, SUB1_F, kFalse},
-      {SUB1_Q345, SUB1_T60_100, SUB1_F, kFalse},
-      {SUB1_Q235, -1, SUB1_F, kFalse},
-      {SUB1_Q420, 7, SUB1_F, kFalse},
-      {SUB1_Q235, SUB1_T16, 3, kFalse},
-      {SUB1_Q235, SUB1_T16, -1, kFalse},
-      {4, SUB1_T16, SUB1_F, kFalse},
-      {-1, SUB1_T16, SUB1_F, kFalse},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(Steel(c.grade, c.group, c.kind), c.strength) << c.grade << " " << c.group;
+// The row of a selector in a table of rows, -1 outside of it.
+template <std::size_t N>
+int RowOf(const int (&rows)[N], int selector) {
+  return selector >= 0 && selector < static_cast<int>(N) ? rows[selector] : -1;
+}
+
+// Tables 3.4.1-1 and 3.4.1-3 by grade and thickness group; fce and ffw are one to a grade.
+TEST(CodeTableLookups, SteelAndWeldStrength) {
+  constexpr int kRows[4][7] = {{0, 1, 2, 3, -1, -1, -1},
+                               {4, -1, -1, -1, 5, 6, 7},
+                               {8, -1, -1, -1, 9, 10, 11},
+                               {12, -1, -1, -1, 13, 14, 15}};
+  constexpr int kFce[] = {325, 400, 415, 440}, kFfw[] = {160, 200, 220, 220};
+  for (int grade = -1; grade <= 4; ++grade) {
+    for (int group = -1; group <= 7; ++group) {
+      SCOPED_TRACE(testing::Message() << grade << " " << group);
+      const int row = grade < 0 || grade > 3 ? -1 : RowOf(kRows[grade], group);
+      const auto expected = [row](auto strength) {
+        return row < 0 ? kFalse : static_cast<int>(strength());
+      };
+      for (const int kind : {0, 1})
+        EXPECT_EQ(Steel(grade, group, kind), expected([=] { return T::g_sub1[row][kind]; }));
+      EXPECT_EQ(Steel(grade, group, SUB1_FCE), expected([=] { return kFce[grade]; }));
+      for (const int kind : {0, 1, 2, 3})
+        EXPECT_EQ(Weld(grade, group, kind), expected([=] { return T::g_sub2[row][kind]; }));
+      EXPECT_EQ(Weld(grade, group, SUB2_FFW), expected([=] { return kFfw[grade]; }));
+      for (const int refused : {Steel(grade, group, -1), Steel(grade, group, 3),
+                                Weld(grade, group, -1), Weld(grade, group, 5)})
+        EXPECT_EQ(refused, kFalse);
+    }
+  }
+}
+
+// Table 3.4.1-4 by family and grade; the code leaves cells empty, which count 0.
+TEST(CodeTableLookups, BoltStrength) {
+  constexpr int kRows[4][8] = {{0, 1, 2, -1, -1, -1, -1, -1},
+                               {-1, -1, -1, -1, 3, 4, -1, -1},
+                               {-1, -1, 5, 6, -1, -1, -1, -1},
+                               {-1, -1, -1, -1, 7, 8, 9, 10}};
+  for (int family = -1; family <= 4; ++family) {
+    for (int grade = -1; grade <= 8; ++grade) {
+      const int row = family < 0 || family > 3 ? -1 : RowOf(kRows[family], grade);
+      for (int column = 0; column < 10; ++column) {
+        EXPECT_EQ(Bolt(family, grade, column),
+                  row < 0 ? kFalse : orv3::ToDouble(T::g_sub3[row][column]))
+            << family << " " << grade << " " << column;
+      }
+      EXPECT_EQ(Bolt(family, grade, -1), kFalse);
+      EXPECT_EQ(Bolt(family, grade, 10), kFalse);
+    }
   }
 }
 
@@ -81,22 +103,7 @@ TEST(CodeTableLookups, SteelStrengthByThickness) {
       {35, 1, 295},        {35.01, 1, 265}, {50, 1, 265},       {50.01, 2, 295},   {100, 3, 325},
       {100.01, 3, kFalse}, {10, 4, kFalse},
   };
-  for (const auto& c : cases) EXPECT_EQ(Steel(c.grade, c.t, SUB1_F), c.strength) << c.t;
-}
-
-TEST(CodeTableLookups, WeldStrength) {
-  struct {
-    int grade, group, kind, strength;
-  } cases[] = {
-      {0, 0, SUB2_FCW, 215},    {0, 1, SUB2_FTW12, 205},  {0, 2, SUB2_FTW3, 170},
-      {0, 3, SUB2_FVW, 110},    {1, 4, SUB2_FTW3, 250},   {2, 5, SUB2_FVW, 180},
-      {3, 6, SUB2_FCW, 325},    {0, 2, SUB2_FFW, 160},    {1, 0, SUB2_FFW, 200},
-      {2, 6, SUB2_FFW, 220},    {3, 4, SUB2_FFW, 220},    {0, 0, 5, kFalse},
-      {0, 4, SUB2_FCW, kFalse}, {1, 1, SUB2_FFW, kFalse},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(Weld(c.grade, c.group, c.kind), c.strength) << c.grade << " " << c.group;
-  }
+  for (const auto& c : cases) EXPECT_EQ(SteelOf(c.grade, c.t), c.strength) << c.t;
 }
 
 TEST(CodeTableLookups, WeldStrengthByElectrode) {
@@ -112,81 +119,75 @@ TEST(CodeTableLookups, WeldStrengthByElectrode) {
   for (int n = 0; n < 4 * 7 * 5; ++n) EXPECT_EQ(WeldOf(SUB2_E55, n / 35, n / 5 % 7, n % 5), kFalse);
 }
 
-TEST(CodeTableLookups, BoltStrength) {
-  struct {
-    int family, grade, column, strength;
-  } cases[] = {
-      {SUB3_ORDINARY, SUB3_46_48, 0, 170},  {SUB3_ORDINARY, SUB3_46_48, 1, 140},
-      {SUB3_ORDINARY, SUB3_56, 4, 190},     {SUB3_ORDINARY, SUB3_88, 3, 400},
-      {SUB3_ANCHOR, SUB3_Q235, 6, 140},     {SUB3_ANCHOR, SUB3_Q345, 6, 180},
-      {SUB3_BEARING, SUB3_88, 7, 400},      {SUB3_BEARING, SUB3_109, 8, 310},
-      {SUB3_MEMBER, SUB3_Q235, 2, 305},     {SUB3_MEMBER, SUB3_Q390, 5, 530},
-      {SUB3_MEMBER, SUB3_Q420, 9, 655},     {SUB3_ORDINARY, SUB3_46_48, 5, 0},  // an empty cell
-      {SUB3_ORDINARY, SUB3_109, 0, kFalse}, {SUB3_ANCHOR, SUB3_Q390, 6, kFalse},
-      {SUB3_BEARING, SUB3_56, 7, kFalse},   {SUB3_MEMBER, SUB3_109, 2, kFalse},
-      {4, SUB3_46_48, 0, kFalse},           {SUB3_MEMBER, SUB3_Q235, 10, kFalse},
-      {SUB3_MEMBER, SUB3_Q235, -1, kFalse},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(Bolt(c.family, c.grade, c.column), c.strength) << c.family << " " << c.grade;
+double Number(double cell) { return cell; }
+double Number(const wchar_t* cell) { return orv3::ToDouble(cell); }
+
+// Every position has its cell; there is none beyond.
+template <class LOOKUP, class CELL, int ROWS, int COLUMNS>
+void ExpectCells(LOOKUP lookup, const CELL (&table)[ROWS][COLUMNS], const char* label) {
+  for (int i = -1; i <= ROWS; ++i) {
+    for (int j = -1; j <= COLUMNS; ++j) {
+      const bool inside = i >= 0 && i < ROWS && j >= 0 && j < COLUMNS;
+      EXPECT_EQ(Result<double>([&](double& v) { return lookup(i, j, v); }),
+                inside ? Number(table[i][j]) : kFalse)
+          << label << " " << i << ", " << j;
+    }
   }
 }
 
-// Look-ups by position: a cell in the middle, the last one, and one beyond on each side.
 TEST(CodeTableLookups, CellsByPosition) {
-  struct {
-    const char* label;
-    bool (*lookup)(int, int, double&);
-    int row, column;
-    double value;
-  } cases[] = {
-      {"l1/b1", T::SearchSub4, 1, 1, 16.5},       {"l1/b1", T::SearchSub4, 3, 2, 12.0},
-      {"l1/b1", T::SearchSub4, 4, 0, kFalse},     {"l1/b1", T::SearchSub4, 0, 3, kFalse},
-      {"gamma", T::SearchSub6, 0, 0, 1.05},       {"gamma", T::SearchSub6, 4, 1, 1.2},
-      {"gamma", T::SearchSub6, 5, 1, 1.05},       {"gamma", T::SearchSub6, 10, 1, 1.05},
-      {"gamma", T::SearchSub6, 11, 1, 1.2},       {"gamma", T::SearchSub6, 12, 0, 1.05},
-      {"gamma", T::SearchSub6, 14, 1, 1.05},      {"gamma", T::SearchSub6, 15, 0, 1.2},
-      {"gamma", T::SearchSub6, 17, 0, 1.2},       {"gamma", T::SearchSub6, 18, 0, 1.15},
-      {"gamma", T::SearchSub6, 19, 0, 1.0},       {"gamma", T::SearchSub6, 20, 1, 1.05},
-      {"gamma", T::SearchSub6, 21, 1, 1.5},       {"gamma", T::SearchSub6, 22, 0, 1.0},
-      {"gamma", T::SearchSub6, 23, 0, kFalse},    {"gamma", T::SearchSub6, -1, 0, kFalse},
-      {"gamma", T::SearchSub6, 0, 2, kFalse},     {"fatigue", T::SearchSub7, 0, 0, 1940},
-      {"fatigue", T::SearchSub7, 0, 7, 0.41},     {"fatigue", T::SearchSub7, 1, 1, 4},
-      {"fatigue", T::SearchSub7, 1, 2, 3},        {"fatigue", T::SearchSub7, 2, 0, kFalse},
-      {"fatigue", T::SearchSub7, 0, 8, kFalse},   {"slip", T::SearchSub8, 1, 0, 0.35},
-      {"slip", T::SearchSub8, 3, 2, 0.40},        {"slip", T::SearchSub8, 4, 0, kFalse},
-      {"slip", T::SearchSub8, 0, 3, kFalse},      {"preload", T::SearchSub9, 0, 1, 125},
-      {"preload", T::SearchSub9, 1, 5, 355},      {"preload", T::SearchSub9, 2, 0, kFalse},
-      {"preload", T::SearchSub9, 0, 6, kFalse},   {"tapered", T::SearchSub22, 0, 0, 0.428},
-      {"tapered", T::SearchSub22, 7, 7, 0.969},   {"tapered", T::SearchSub22, 8, 0, kFalse},
-      {"tapered", T::SearchSub22, 0, -1, kFalse}, {"area", T::SearchSub23, 4, 1, 2.45},
-      {"area", T::SearchSub23, 8, 0, 7.069},      {"area", T::SearchSub23, 9, 0, kFalse},
-      {"area", T::SearchSub23, 0, 2, kFalse},
+  using CPlain = bool (*)(int, int, double&);
+  ExpectCells(T::SearchSub4, T::g_sub4, "l1/b1");
+  ExpectCells(T::SearchSub7, T::g_sub7, "fatigue");
+  ExpectCells(T::SearchSub8, T::g_sub8, "slip");
+  ExpectCells(static_cast<CPlain>(T::SearchSub9), T::g_sub9, "preload");
+  ExpectCells(T::SearchSub22, T::g_sub22, "tapered");
+  ExpectCells(T::SearchSub23, T::g_sub23, "area");
+  const auto frame = [](auto lookup) {
+    return [=](int i, int j, double& v) { return lookup(Sub16_Style1{i}, Sub16_Style1{j}, v); };
   };
-  for (const auto& c : cases) {
-    const double got = Result<double>([&](double& v) { return c.lookup(c.row, c.column, v); });
-    EXPECT_EQ(got, c.value) << c.label << " " << c.row << ", " << c.column;
-  }
+  const auto single = [](auto lookup) {
+    return [=](int i, int j, double& v) { return lookup(Sub18_Style1{i}, Sub18_Style2{j}, v); };
+  };
+  using CFrame = bool (*)(Sub16_Style1, Sub16_Style1, double&);
+  using CSingle = bool (*)(Sub18_Style1, Sub18_Style2, double&);
+  ExpectCells(frame(static_cast<CFrame>(T::SearchSub16)), T::g_sub16, "D-1");
+  ExpectCells(frame(static_cast<CFrame>(T::SearchSub17)), T::g_sub17, "D-2");
+  ExpectCells(single(static_cast<CSingle>(T::SearchSub18)), T::g_sub18, "D-3");
+  ExpectCells(single(static_cast<CSingle>(T::SearchSub19)), T::g_sub19, "D-4");
   int preload = 0;
   EXPECT_TRUE(T::SearchSub9(1, 2, preload));
   EXPECT_EQ(preload, 190);
   EXPECT_FALSE(T::SearchSub9(1, 6, preload));
 }
 
+// Table 5.2.1 by kind of section.
+TEST(CodeTableLookups, PlasticFactorGamma) {
+  constexpr double kX[] = {1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05,
+                           1.05, 1.05, 1.05, 1.2,  1.2,  1.2,  1.15, 1.0,  1.0,  1.0,  1.0};
+  constexpr double kY[] = {1.2, 1.2,  1.2,  1.2, 1.2, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.2,
+                           1.2, 1.05, 1.05, 1.2, 1.2, 1.2,  1.15, 1.05, 1.05, 1.5,  1.5};
+  double table[23][2];
+  for (int kind = 0; kind < 23; ++kind) {
+    table[kind][0] = kX[kind];
+    table[kind][1] = kY[kind];
+  }
+  ExpectCells(T::SearchSub6, table, "gamma");
+}
+
 TEST(CodeTableLookups, BucklingClass) {
-  struct {
-    int kind, axis;
-    const wchar_t* result;
-  } cases[] = {
-      {1, 0, L"a"},  {2, 0, L"a"}, {3, 0, L"b"},  {28, 0, L"b"}, {29, 0, L"c"},
-      {30, 0, L"c"}, {1, 1, L"a"}, {2, 1, L"b"},  {25, 1, L"b"}, {26, 1, L"c"},
-      {30, 1, L"c"}, {0, 0, L"-"}, {31, 0, L"-"}, {1, 2, L"-"},  {1, -1, L"-"},
-  };
-  for (const auto& c : cases) {
-    CString found = L"-";
-    const bool bFound = T::SearchSub5(c.kind, c.axis, found);
-    EXPECT_EQ(bFound, found != L"-");
-    EXPECT_EQ(found, c.result) << c.kind << ", " << c.axis;
+  // Table 5.1.2-1: kinds 1 to 30, about x and about y.
+  const std::string classes[] = {"aa" + std::string(26, 'b') + "cc",
+                                 "a" + std::string(24, 'b') + "ccccc"};
+  for (int kind = 0; kind <= 31; ++kind) {
+    for (int axis = -1; axis <= 2; ++axis) {
+      const bool inside = kind >= 1 && kind <= 30 && (axis == 0 || axis == 1);
+      CString found = L"-";
+      EXPECT_EQ(T::SearchSub5(kind, axis, found), inside);
+      EXPECT_EQ(orv3::ToUtf8(found),
+                inside ? classes[axis].substr(static_cast<std::size_t>(kind - 1), 1) : "-")
+          << kind << ", " << axis;
+    }
   }
   CString thick = L"-";
   EXPECT_FALSE(T::SearchSub5S2(0, 0, thick) || T::SearchSub5S2(7, 0, thick));
@@ -208,49 +209,43 @@ double PhiBOf(int loadCase, double iNumber, double length) {
   return Result<double>([=](double& v) { return T::SearchSub11_1(loadCase, iNumber, length, v); });
 }
 
-TEST(CodeTableLookups, RolledBeam) {
-  // Table B.2 read cell by cell.
-  EXPECT_EQ(PhiB(0, 0, 0, 0, 0), 2.0);
-  EXPECT_EQ(PhiB(0, 0, 0, 2, 6), 0.50);  // 36~63, upper, 8 m
-  EXPECT_EQ(PhiB(0, 0, 1, 3, 1), 2.80);  // 22~40, concentrated lower, 3 m
-  EXPECT_EQ(PhiB(0, 1, 0, 4, 6), 0.44);  // 45~63, uniform upper, 8 m
-  EXPECT_EQ(PhiB(0, 1, 1, 0, 8), 0.42);
-  EXPECT_EQ(PhiB(1, 2, 2, 4, 0), 4.0);
-  // ranges of another load case, selectors that do not go together, a column too many
-  for (const double refused : {PhiB(0, 0, 0, 3, 0), PhiB(0, 0, 1, 1, 0), PhiB(1, 2, 2, 2, 0),
-                               PhiB(1, 0, 0, 0, 0), PhiB(0, 2, 2, 0, 0), PhiB(1, 2, 1, 0, 0),
-                               PhiB(2, 2, 2, 0, 0), PhiB(0, 0, 0, 0, 9), PhiB(0, 0, 0, 0, -1)}) {
-    EXPECT_EQ(refused, kFalse);
-  }
-  // The same rows by load case.
-  EXPECT_EQ(PhiB(1, 1, 3), 0.86);
-  EXPECT_EQ(PhiB(2, 4, 8), 0.60);
-  EXPECT_EQ(PhiB(3, 0, 2), 0.84);
-  EXPECT_EQ(PhiB(5, 3, 4), 0.76);
-  EXPECT_EQ(PhiB(0, 0, 0), kFalse);
-  EXPECT_EQ(PhiB(6, 0, 0), kFalse);
-  EXPECT_EQ(PhiB(2, 2, 0), kFalse);
-}
+// Table B.2: five load cases, each named by three selectors, with three ranges of I numbers each;
+// those of the first case are 0, 1, 2 and those of the others 0, 3, 4.
+constexpr struct CBeamCase {
+  int support, kind, position;
+  int ranges[3];
+  int first[3], last[3];  // I numbers
+} kBeamCases[] = {{0, 0, 0, {0, 1, 2}, {10, 22, 36}, {20, 32, 63}},
+                  {0, 0, 1, {0, 3, 4}, {10, 22, 45}, {20, 40, 63}},
+                  {0, 1, 0, {0, 3, 4}, {10, 22, 45}, {20, 40, 63}},
+                  {0, 1, 1, {0, 3, 4}, {10, 22, 45}, {20, 40, 63}},
+                  {1, 2, 2, {0, 3, 4}, {10, 22, 45}, {20, 40, 63}}};
 
-TEST(CodeTableLookups, RolledBeamByNumbers) {
-  const int kFirstNumber[2][3] = {{10, 22, 36}, {10, 22, 45}};
-  const int kLastNumber[2][3] = {{20, 32, 63}, {20, 40, 63}};
-  for (int row = 0; row < 15; ++row) {
-    const int loadCase = row / 3 + 1;
+TEST(CodeTableLookups, RolledBeam) {
+  for (int n = 0; n < 15; ++n) {
+    const CBeamCase& c = kBeamCases[n / 3];
+    const int loadCase = n / 3 + 1, range = c.ranges[n % 3];
+    const auto& row = T::g_sub11[n];
     for (int column = 0; column < 9; ++column) {
-      const auto& table = T::g_sub11[row];
-      const int own = loadCase == 1 ? 0 : 1;
-      EXPECT_EQ(PhiBOf(loadCase, kFirstNumber[own][row % 3], 2.0 + column), table[column]);
-      EXPECT_EQ(PhiBOf(loadCase, kLastNumber[own][row % 3], 2.0 + column), table[column]);
+      SCOPED_TRACE(testing::Message() << "row " << n << " column " << column);
+      EXPECT_EQ(PhiB(c.support, c.kind, c.position, range, column), row[column]);
+      EXPECT_EQ(PhiB(loadCase, range, column), row[column]);
+      EXPECT_EQ(PhiBOf(loadCase, c.first[n % 3], 2.0 + column), row[column]);
+      EXPECT_EQ(PhiBOf(loadCase, c.last[n % 3], 2.0 + column), row[column]);
       if (column == 0) continue;
-      EXPECT_NEAR(PhiBOf(loadCase, kFirstNumber[own][row % 3], 1.75 + column),
-                  0.25 * table[column - 1] + 0.75 * table[column], 1e-12);
+      EXPECT_NEAR(PhiBOf(loadCase, c.first[n % 3], 1.75 + column),
+                  0.25 * row[column - 1] + 0.75 * row[column], 1e-12);
     }
   }
+  // Ranges of another load case, selectors that do not go together, columns, numbers and lengths
+  // outside.
   for (const double refused :
-       {PhiBOf(1, 34.0, 5.0), PhiBOf(2, 42.0, 5.0), PhiBOf(1, 8.0, 5.0), PhiBOf(1, 64.0, 5.0),
+       {PhiB(0, 0, 0, 3, 0),   PhiB(0, 0, 1, 1, 0),    PhiB(1, 2, 2, 2, 0),  PhiB(1, 0, 0, 0, 0),
+        PhiB(0, 2, 2, 0, 0),   PhiB(1, 2, 1, 0, 0),    PhiB(2, 2, 2, 0, 0),  PhiB(0, 0, 0, 0, 9),
+        PhiB(0, 0, 0, 0, -1),  PhiB(0, 0, 0),          PhiB(6, 0, 0),        PhiB(2, 2, 0),
+        PhiBOf(1, 34.0, 5.0),  PhiBOf(2, 42.0, 5.0),   PhiBOf(1, 8.0, 5.0),  PhiBOf(1, 64.0, 5.0),
         PhiBOf(1, 20.0, 1.99), PhiBOf(1, 20.0, 10.01), PhiBOf(0, 20.0, 5.0), PhiBOf(6, 20.0, 5.0),
-        PhiBOf(1, kNaN, 5.0), PhiBOf(1, 20.0, kNaN)}) {
+        PhiBOf(1, kNaN, 5.0),  PhiBOf(1, 20.0, kNaN)}) {
     EXPECT_EQ(refused, kFalse);
   }
 }
@@ -351,52 +346,39 @@ TEST(CodeTableLookups, ColumnsBeyondTheGrid) {
   EXPECT_EQ(At(T::SearchSub19, 1, kNaN), kFalse);
 }
 
-TEST(CodeTableLookups, ColumnsByPosition) {
-  double mu = 0;
-  EXPECT_TRUE(T::SearchSub16(Sub16_Style1{7}, Sub16_Style1{0}, mu));
-  EXPECT_EQ(mu, 0.875);  // K1 = 1, K2 = 0
-  EXPECT_TRUE(T::SearchSub17(Sub16_Style1{12}, Sub16_Style1{12}, mu));
-  EXPECT_EQ(mu, 1.03);
-  EXPECT_TRUE(T::SearchSub18(Sub18_Style1{0}, Sub18_Style2{17}, mu));
-  EXPECT_EQ(mu, 2.07);
-  EXPECT_TRUE(T::SearchSub19(Sub18_Style1{8}, Sub18_Style2{3}, mu));
-  EXPECT_EQ(mu, 2.0);  // eta1 = 1 makes one column of both parts
-  EXPECT_FALSE(T::SearchSub16(Sub16_Style1{13}, Sub16_Style1{0}, mu));
-  EXPECT_FALSE(T::SearchSub17(Sub16_Style1{0}, Sub16_Style1{-1}, mu));
-  EXPECT_FALSE(T::SearchSub18(Sub18_Style1{19}, Sub18_Style2{0}, mu));
-  EXPECT_FALSE(T::SearchSub19(Sub18_Style1{0}, Sub18_Style2{18}, mu));
-  EXPECT_FALSE(
-      T::SearchSub20(Sub20_Style1{7}, Sub20_Style2{0}, Sub20_Style3{0}, Sub20_Style4{0}, mu));
-  EXPECT_FALSE(
-      T::SearchSub20(Sub20_Style1{0}, Sub20_Style2{6}, Sub20_Style3{0}, Sub20_Style4{0}, mu));
-  EXPECT_FALSE(
-      T::SearchSub21(Sub20_Style1{0}, Sub20_Style2{0}, Sub20_Style3{4}, Sub20_Style4{0}, mu));
-  EXPECT_FALSE(
-      T::SearchSub21(Sub20_Style1{0}, Sub20_Style2{0}, Sub20_Style3{0}, Sub20_Style4{11}, mu));
-  EXPECT_EQ(mu, 2.0);
-}
-
 double Mu3(bool bFree, double eta1, double eta2, double k1, double k2) {
   return Result<double>([=](double& v) {
     return bFree ? T::SearchSub20(eta1, eta2, k1, k2, v) : T::SearchSub21(eta1, eta2, k1, k2, v);
   });
 }
 
+double Cell3(bool bFree, int eta1, int eta2, int k1, int k2) {
+  return Result<double>([=](double& v) {
+    const auto lookup = [&](auto search) {
+      return search(Sub20_Style1{eta1}, Sub20_Style2{eta2}, Sub20_Style3{k1}, Sub20_Style4{k2}, v);
+    };
+    using CLookup = bool (*)(Sub20_Style1, Sub20_Style2, Sub20_Style3, Sub20_Style4, double&);
+    return bFree ? lookup(static_cast<CLookup>(T::SearchSub20))
+                 : lookup(static_cast<CLookup>(T::SearchSub21));
+  });
+}
+
 TEST(CodeTableLookups, DoubleSteppedColumnsOnTheGrid) {
   using orv3::kDoubleEta1, orv3::kDoubleEta2, orv3::kDoubleK1, orv3::kDoubleK2;
-  for (int n = 0; n < 7 * 6 * 4 * 11; ++n) {
-    const int i1 = n / (6 * 4 * 11), i2 = n / (4 * 11) % 6, j1 = n / 11 % 4, j2 = n % 11;
-    double cell = 0;
-    EXPECT_TRUE(T::SearchSub20(Sub20_Style1{i1}, Sub20_Style2{i2}, Sub20_Style3{j1},
-                               Sub20_Style4{j2}, cell));
-    EXPECT_EQ(cell, T::g_sub201[6 * i1 + i2][11 * j1 + j2]);
-    EXPECT_EQ(Mu3(true, kDoubleEta1[i1], kDoubleEta2[i2], kDoubleK1[j1], kDoubleK2[j2]), cell);
-    EXPECT_EQ(T::GetU3Temp(i1, i2, kDoubleK1[j1], kDoubleK2[j2]), cell);
-    EXPECT_TRUE(T::SearchSub21(Sub20_Style1{i1}, Sub20_Style2{i2}, Sub20_Style3{j1},
-                               Sub20_Style4{j2}, cell));
-    EXPECT_EQ(cell, T::g_sub211[6 * i1 + i2][11 * j1 + j2]);
-    EXPECT_EQ(Mu3(false, kDoubleEta1[i1], kDoubleEta2[i2], kDoubleK1[j1], kDoubleK2[j2]), cell);
-    EXPECT_EQ(T::GetU3Temp2(i1, i2, kDoubleK1[j1], kDoubleK2[j2]), cell);
+  for (const bool bFree : {true, false}) {
+    const auto& table = bFree ? T::g_sub201 : T::g_sub211;
+    const auto across = bFree ? T::GetU3Temp : T::GetU3Temp2;
+    for (int n = 0; n < 7 * 6 * 4 * 11; ++n) {
+      const int i1 = n / (6 * 4 * 11), i2 = n / (4 * 11) % 6, j1 = n / 11 % 4, j2 = n % 11;
+      const double cell = table[6 * i1 + i2][11 * j1 + j2];
+      EXPECT_EQ(Cell3(bFree, i1, i2, j1, j2), cell);
+      EXPECT_EQ(Mu3(bFree, kDoubleEta1[i1], kDoubleEta2[i2], kDoubleK1[j1], kDoubleK2[j2]), cell);
+      EXPECT_EQ(across(i1, i2, kDoubleK1[j1], kDoubleK2[j2]), cell);
+    }
+    for (const double refused : {Cell3(bFree, 7, 0, 0, 0), Cell3(bFree, 0, 6, 0, 0),
+                                 Cell3(bFree, 0, 0, 4, 0), Cell3(bFree, 0, 0, 0, 11)}) {
+      EXPECT_EQ(refused, kFalse);
+    }
   }
 }
 

@@ -44,6 +44,22 @@ std::string Told(const CImportReport& report) {
   return told;
 }
 
+using CRowTexts = std::vector<std::pair<CString, CString>>;  // number and height
+
+CRowTexts Numbered(int count) {
+  CRowTexts rows;
+  for (int i = 0; i < count; ++i) rows.emplace_back(Name(i), L"200");
+  return rows;
+}
+
+// A section table of a file of its own, or one more of the file; gives it back as it was saved.
+CDataTable Save(const CString& path, const wchar_t* name, const CRowTexts& rows) {
+  CDataTable table = SectionTable(name);
+  for (const auto& [no, height] : rows) AddRow(table, no, height);
+  EXPECT_EQ(table.WriteTable(path, 0, 0), 1);
+  return table;
+}
+
 class Import : public testing::Test {
  protected:
   CString File(const wchar_t* name, const std::string& bytes) const {
@@ -99,16 +115,13 @@ TEST_F(Import, RowsOfDataFilesAreTheCataloguesAndThoseOfTwinsTheUsers) {
 
 TEST_F(Import, TheSameFileTwiceChangesNothing) {
   const CString other = m_folder.Path(L"other.KDB");
-  CDataTable table = SectionTable();
-  for (int i = 0; i < 120; ++i) AddRow(table, Name(i));
-  ASSERT_EQ(table.WriteTable(other, 1, 0), 1);
+  Save(other, L"工字钢", Numbered(120));
   CDataTable loose;  // without a key
   loose.SetTableName(L"无键");
   loose.AddTableCol(L"值", L"v", CDataTypeStruct::KVBT_DOUBLE, 0);
   for (const wchar_t* value : {L"1", L"2"}) ASSERT_EQ(loose.AddTableItem(value, 1), 1);
   ASSERT_EQ(loose.WriteTable(other, 1, 0), 1);
-  CDataTable empty = SectionTable(L"空");
-  ASSERT_EQ(empty.WriteTable(other, 1, 0), 1);
+  Save(other, L"空", {});
 
   const CString files[] = {File(L"LWRECT.kvb", DataFile(Record("50X2", 50))),
                            File(L"OLWRECT.kvb", DataFile(Record("my", 50))), other};
@@ -125,12 +138,9 @@ TEST_F(Import, TheSameFileTwiceChangesNothing) {
 
 TEST_F(Import, TablesOfATableFileComeInEachByItself) {
   const CString other = m_folder.Path(L"other.kdb");
-  CDataTable table = SectionTable();
-  AddRow(table, L"new");
-  AddRow(table, L"changed", L"2");
-  AddRow(table, L"deleted");
-  AddRow(table, L"same", L"5");
-  ASSERT_EQ(table.WriteTable(other, 0, 0), 1);
+  CDataTable table =
+      Save(other, L"工字钢",
+           {{L"new", L"200"}, {L"changed", L"2"}, {L"deleted", L"200"}, {L"same", L"5"}});
   table.DeleteTableItem(2);
   ASSERT_EQ(table.WriteTable(other, 0, 0), 1);
   CDataTable wider = SectionTable(L"B");
@@ -138,13 +148,8 @@ TEST_F(Import, TablesOfATableFileComeInEachByItself) {
   ASSERT_EQ(wider.AddTableItem(L"w,1,2", 1), 1);
   ASSERT_EQ(wider.WriteTable(other, 0, 0), 1);
 
-  CDataTable have = SectionTable();
-  AddRow(have, L"changed", L"1");
-  AddRow(have, L"same", L"5");
-  ASSERT_EQ(have.WriteTable(m_store, 0, 0), 1);
-  CDataTable narrow = SectionTable(L"B");
-  AddRow(narrow, L"n");
-  ASSERT_EQ(narrow.WriteTable(m_store, 0, 0), 1);
+  Save(m_store, L"工字钢", {{L"changed", L"1"}, {L"same", L"5"}});
+  Save(m_store, L"B", {{L"n", L"200"}});
 
   const CImportReport report = Run(other);
   EXPECT_EQ(Told(report), "工字钢 +1 ~0 =1 !changed; B +0 ~0 =0 refused; ");
@@ -163,9 +168,7 @@ TEST_F(Import, TablesOfATableFileComeInEachByItself) {
 TEST_F(Import, ADamagedFileIsRefusedAndTheStoreUnchanged) {
   const std::string good = Record("50X2", 50);
   const double nan = std::nan("");
-  CDataTable table = SectionTable();
-  AddRow(table, L"I1");
-  ASSERT_EQ(table.WriteTable(m_folder.Path(L"whole.KDB"), 0, 0), 1);
+  Save(m_folder.Path(L"whole.KDB"), L"工字钢", Numbered(1));
   const std::string kdb = Bytes(m_folder.Path(L"whole.KDB"));
   const struct {
     const wchar_t* name;
@@ -188,11 +191,7 @@ TEST_F(Import, ADamagedFileIsRefusedAndTheStoreUnchanged) {
       {L"rows.csv", "No.\n", L"right would be a table file"},
   };
   for (const bool there : {false, true}) {
-    if (there) {
-      CDataTable have = SectionTable();
-      AddRow(have, L"mine");
-      ASSERT_EQ(have.WriteTable(m_store, 0, 0), 1);
-    }
+    if (there) Save(m_store, L"工字钢", Numbered(1));
     const std::string before = there ? Bytes(m_store) : "";
     for (const auto& c : cases) {
       const CImportReport report = Run(File(c.name, c.bytes), true);
@@ -213,14 +212,8 @@ TEST_F(Import, ADamagedFileIsRefusedAndTheStoreUnchanged) {
 
 TEST_F(Import, AllTablesComeInOrNone) {
   const CString other = m_folder.Path(L"other.KDB");
-  for (const wchar_t* name : {L"A", L"B", L"C"}) {
-    CDataTable table = SectionTable(name);
-    for (int i = 0; i < 10; ++i) AddRow(table, Name(i));
-    ASSERT_EQ(table.WriteTable(other, 0, 0), 1);
-  }
-  CDataTable have = SectionTable(L"B");
-  AddRow(have, L"mine");
-  ASSERT_EQ(have.WriteTable(m_store, 0, 0), 1);
+  for (const wchar_t* name : {L"A", L"B", L"C"}) Save(other, name, Numbered(10));
+  Save(m_store, L"B", {{L"mine", L"200"}});
   const std::string before = Bytes(m_store);
   for (const CFault fault : {CFault::Fail, CFault::Short}) {
     bool met = true;
@@ -242,21 +235,23 @@ TEST_F(Import, AllTablesComeInOrNone) {
 
 TEST_F(Import, TheFacadeImportsIntoTheSystemStore) {
   CLoadDataTable::SetOrvoPrgPath(m_folder.Path());
-  const CString plain = File(L"LWRECT.kvb", DataFile(Record("50X2", 50)));
-  EXPECT_EQ(CLoadDataTable::ImportSysDataTable(plain, 0), 1);
-  EXPECT_EQ(CLoadDataTable::GetDataItemArea(CLoadDataTable::GetSysTemJMItem(kTube, L"50X2")), 1000);
-  const CString changed = File(L"LWRECT.kvb", DataFile(Record("50X2", 50, 2, 20)));
   const CString store = CLoadDataTable::GetOrvoPrgPath() + L"KvbSystemJmDataBase.KDB";
-  for (const int flag : {0, 1}) {
-    EXPECT_EQ(CLoadDataTable::ImportDataTable(changed, store, flag), 1);
-    EXPECT_EQ(CLoadDataTable::GetDataItemArea(CLoadDataTable::GetSysTemJMItem(kTube, L"50X2")),
-              flag ? 2000 : 1000);
-  }
+  const auto area = [] {
+    return CLoadDataTable::GetDataItemArea(CLoadDataTable::GetSysTemJMItem(kTube, L"50X2"));
+  };
+  EXPECT_EQ(
+      CLoadDataTable::ImportSysDataTable(File(L"LWRECT.kvb", DataFile(Record("50X2", 50))), 0), 1);
+  EXPECT_EQ(area(), 1000);
+  const CString changed = File(L"LWRECT.kvb", DataFile(Record("50X2", 50, 2, 20)));
+  EXPECT_EQ(CLoadDataTable::ImportDataTable(changed, store, 0), 1);
+  EXPECT_EQ(area(), 1000);
+  EXPECT_EQ(CLoadDataTable::ImportDataTable(changed, store, 1), 1);
+  EXPECT_EQ(area(), 2000);
   EXPECT_EQ(CLoadDataTable::ImportDataTable(m_folder.Path(L"none.kvb"), store, 1), 0);
   orv3::SetBusyWait(std::chrono::milliseconds{0});
   {
     const auto held = orv3::CStoreFile::OpenToRead(store);
-    EXPECT_EQ(CLoadDataTable::ImportDataTable(plain, store, 1), 0);
+    EXPECT_EQ(CLoadDataTable::ImportDataTable(changed, store, 1), 0);
   }
   orv3::SetBusyWait(std::chrono::seconds{1});
   CLoadDataTable::SetOrvoPrgPath(L"");

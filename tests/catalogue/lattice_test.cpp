@@ -30,23 +30,24 @@ const CSection kSections[] = {
     {kBeams, L"I20a", 3557.8, 50, 50, 100, 100, 2370e4, 158e4},
     {kAngles, L"L75X5", 741.2, 20.4, 54.6, 20.4, 54.6, 39.97e4, 39.97e4},
 };
-const CSection& kC10 = kSections[0];
-const CSection& kC5 = kSections[1];
-const CSection& kI20a = kSections[2];
+const CSection &kC10 = kSections[0], &kC5 = kSections[1], &kI20a = kSections[2];
 const CSection& kL75 = kSections[3];
 
-void AddTable(const CString& folder, const wchar_t* name,
-              std::initializer_list<const wchar_t*> signs,
-              std::initializer_list<const wchar_t*> rows) {
+void AddTable(const CString& folder, const wchar_t* name) {
   CDataTable table;
   table.SetTableName(name);
   table.SetSaveTablePath(folder);
-  for (const wchar_t* sign : signs) {
-    const bool key = sign == *signs.begin();
-    table.AddTableCol(sign, sign, key ? CDataTypeStruct::KVBT_STRING : CDataTypeStruct::KVBT_DOUBLE,
-                      key ? 1 : 0);
+  table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
+  for (const wchar_t* sign : {L"h(mm)", L"b(mm)", L"A(cm^2)", L"Ix(cm^4)", L"Iy(cm^4)", L"zo(cm)"})
+    table.AddTableCol(sign, sign, CDataTypeStruct::KVBT_DOUBLE, 0);
+  for (const CSection& s : kSections) {
+    if (s.table != name) continue;
+    CString row = s.no;
+    for (const double value :
+         {s.below + s.above, s.left + s.right, s.area / 1e2, s.ix / 1e4, s.iy / 1e4, s.left / 10})
+      row += L"," + orv3::FormatShortest(value);
+    ASSERT_EQ(table.AddTableItem(row, 1), 1);
   }
-  for (const wchar_t* row : rows) ASSERT_EQ(table.AddTableItem(row, 1), 1);
   ASSERT_EQ(table.WriteSystemJmTable(), 1);
 }
 
@@ -80,14 +81,7 @@ class Lattice : public testing::Test {
  public:
   Lattice() {
     orv3::SetProgramPath(m_folder.Path());
-    AddTable(m_folder.Path(), kChannels,
-             {L"No.", L"h(mm)", L"b(mm)", L"A(cm^2)", L"Ix(cm^4)", L"Iy(cm^4)", L"zo(cm)"},
-             {L"[10,100,48,12.748,198.3,25.6,1.52", L"[5,50,37,6.928,26,8.3,1.35"});
-    AddTable(m_folder.Path(), kBeams,
-             {L"No.", L"h(mm)", L"b(mm)", L"A(cm^2)", L"Ix(cm^4)", L"Iy(cm^4)"},
-             {L"I20a,200,100,35.578,2370,158"});
-    AddTable(m_folder.Path(), kAngles, {L"No.", L"b(mm)", L"A(cm^2)", L"Ix(cm^4)", L"zo(cm)"},
-             {L"L75X5,75,7.412,39.97,2.04"});
+    for (const wchar_t* table : {kChannels, kBeams, kAngles}) AddTable(m_folder.Path(), table);
   }
   Lattice(const Lattice&) = delete;
   Lattice& operator=(const Lattice&) = delete;
@@ -162,28 +156,31 @@ CExpected Expect(const std::vector<CPlaced>& limbs) {
 }
 
 // Cells keep six digits.
-void ExpectCell(const CDataItem& row, const wchar_t* sign, double value, double scale) {
-  EXPECT_NEAR(Cell(row, sign), value, 6e-6 * std::max(std::fabs(value), scale))
-      << orv3::ToUtf8(sign);
-}
-
 void ExpectRow(const CDataItem& row, const CExpected& e) {
-  ExpectCell(row, L"A(mm^2)", e.a, 0);
-  ExpectCell(row, L"xo(mm)", e.xo, 1e-3);
-  ExpectCell(row, L"yo(mm)", e.yo, 1e-3);
-  ExpectCell(row, L"Ix(mm^4)", e.ix, 0);
-  ExpectCell(row, L"Iy(mm^4)", e.iy, 0);
-  ExpectCell(row, L"Wx1(mm^3)", e.ix / (e.top - e.yo), 0);
-  ExpectCell(row, L"Wx2(mm^3)", e.ix / (e.yo - e.bottom), 0);
-  ExpectCell(row, L"WyL(mm^3)", e.iy / (e.xo - e.left), 0);
-  ExpectCell(row, L"WyR(mm^3)", e.iy / (e.right - e.xo), 0);
-  ExpectCell(row, L"ixo(mm)", std::sqrt(e.ix / e.a), 0);
-  ExpectCell(row, L"iyo(mm)", std::sqrt(e.iy / e.a), 0);
+  const struct {
+    const wchar_t* sign;
+    double value;
+    double least;  // of what the digits are taken; a coordinate may be 0
+  } cells[] = {{L"A(mm^2)", e.a, 0},
+               {L"xo(mm)", e.xo, 1e-3},
+               {L"yo(mm)", e.yo, 1e-3},
+               {L"Ix(mm^4)", e.ix, 0},
+               {L"Iy(mm^4)", e.iy, 0},
+               {L"Wx1(mm^3)", e.ix / (e.top - e.yo), 0},
+               {L"Wx2(mm^3)", e.ix / (e.yo - e.bottom), 0},
+               {L"WyL(mm^3)", e.iy / (e.xo - e.left), 0},
+               {L"WyR(mm^3)", e.iy / (e.right - e.xo), 0},
+               {L"ixo(mm)", std::sqrt(e.ix / e.a), 0},
+               {L"iyo(mm)", std::sqrt(e.iy / e.a), 0}};
+  for (const auto& c : cells) {
+    EXPECT_NEAR(Cell(row, c.sign), c.value, 6e-6 * std::max(std::fabs(c.value), c.least))
+        << orv3::ToUtf8(c.sign);
+  }
 }
 
 // --- Tables --------------------------------------------------------------------------------------
 
-TEST(LatticeTable, Headings) {
+TEST(LatticeTable, HasTheColumnsOfItsLimbsAndResults) {
   const wchar_t* const names[] = {L"双肢格构柱", L"三肢格构柱", L"四肢格构柱"};
   const int columns[] = {1 + 1 + 6 + 11, 1 + 2 + 9 + 11, 1 + 2 + 12 + 11};
   for (int limbs = 2; limbs <= 4; ++limbs) {
@@ -194,7 +191,6 @@ TEST(LatticeTable, Headings) {
     EXPECT_EQ(table.m_Title[L"P2No."].m_strName, L"第二肢型号");
     EXPECT_EQ(table.m_Title[L"P1Type"].m_nType, CDataTypeStruct::KVBT_STRING);
     EXPECT_EQ(table.m_Title[L"P2θ°"].m_nType, CDataTypeStruct::KVBT_DOUBLE);
-    EXPECT_EQ(table.m_Title[L"WyL(mm^3)"].m_strName, L"Y轴抵抗矩(左)");
     const CSteelItemGeGou row(limbs);
     EXPECT_EQ(row.m_strTableName, names[limbs - 2]);
     EXPECT_EQ(row.GetItemLength(), columns[limbs - 2]);

@@ -1,21 +1,22 @@
 // Rolled-section data files, the tables made of them, and the records of single sections.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <string>
 #include <string_view>
 
+#include "catalogue/outline/row_spacing.h"
 #include "catalogue/rolled/read_file.h"
 #include "catalogue/rolled/rolled_file.h"
 #include "catalogue/rolled/rolled_records.h"
 #include "catalogue/rolled/rolled_style.h"
+#include "catalogue_csv.h"
 #include "framework/number_text.h"
-#include "platform/code_page.h"
 #include "platform/store_error.h"
 #include "platform/temp_folder.h"
 #include "print.h"
-#include "sections/load_data_table.h"
-#include "tables/data_table.h"
+#include "sections/catalogue_store.h"
 
 namespace {
 
@@ -40,33 +41,24 @@ std::string Name(std::string_view letters, std::size_t width = 20) {
   return bytes + std::string(2 * (width - letters.size()), '\0');
 }
 
-// A double from the sixteen digits of its IEEE 754 form, the sign and exponent first.
-std::string Double(std::string_view digits) {
-  const std::string bytes = Hex(std::string(digits) + std::string(16 - digits.size(), '0'));
-  return {bytes.rbegin(), bytes.rend()};
-}
-
-std::string Doubles(std::initializer_list<std::string_view> all) {
-  std::string bytes;
-  for (const std::string_view digits : all) bytes += Double(digits);
+std::string Double(double value) {
+  std::string bytes(8, '\0');
+  std::memcpy(bytes.data(), &value, 8);  // both machines are little-endian
   return bytes;
 }
 
-// L5X3 with r = 3.5 and, from A to N, 1, 2, 3, ... 17; the capacities are 20, 40, 60, ... 360 kN.
+// From `first` to `last` in whole steps.
+std::string Doubles(int first, int last) {
+  std::string bytes;
+  for (int i = first; i <= last; ++i) bytes += Double(i);
+  return bytes;
+}
+
+// L5X3 with r = 3.5 and, from A to N, 1, 2, 3, ... 17; the capacities at 0.6, 0.9, ... 5.7 m are
+// 20, 40, 60, ... 360 kN.
 std::string AngleRecord() {
-  const std::string_view lengths[] = {
-      "3FE3333333333333", "3FECCCCCCCCCCCCD", "3FF3333333333333", "3FF8", "3FFCCCCCCCCCCCCD",
-      "4000CCCCCCCCCCCD", "4003333333333333", "400599999999999A", "4008", "400A666666666666",
-      "400CCCCCCCCCCCCD", "400F333333333333", "4010CCCCCCCCCCCD", "4012", "4013333333333333",
-      "4014666666666666", "401599999999999A", "4016CCCCCCCCCCCD"};
-  const std::string_view capacities[] = {"4034",  "4044",  "404E",  "4054", "4059",  "405E",
-                                         "40618", "4064",  "40668", "4069", "406B8", "406E",
-                                         "40704", "40718", "4072C", "4074", "40754", "40768"};
-  std::string record =
-      Name("L5X3") + Hex("0500 0300 00000000") +
-      Doubles({"400C", "3FF", "4", "4008", "401", "4014", "4018", "401C", "402", "4022", "4024",
-               "4026", "4028", "402A", "402C", "402E", "403", "4031"});
-  for (std::size_t i = 0; i < 18; ++i) record += Double(lengths[i]) + Double(capacities[i]);
+  std::string record = Name("L5X3") + Hex("0500 0300 00000000") + Double(3.5) + Doubles(1, 17);
+  for (int i = 0; i < 18; ++i) record += Double((6 + 3 * i) / 10.0) + Double(20 + 20 * i);
   return record;
 }
 constexpr wchar_t kAngleRow[] =
@@ -74,17 +66,13 @@ constexpr wchar_t kAngleRow[] =
     L"220,240,260,280,300,320,340,360";
 
 // A T whose height is the text "62.5"; from B to Cx 1, 2, 3, ... 13.
-std::string SplitTRecord() {
-  return Name("TX1") + Name("62.5") +
-         Doubles({"3FF", "4", "4008", "401", "4014", "4018", "401C", "402", "4022", "4024", "4026",
-                  "4028", "402A"});
-}
+std::string SplitTRecord() { return Name("TX1") + Name("62.5") + Doubles(1, 13); }
 constexpr wchar_t kSplitTRow[] = L"TX1,62.5,1,2,3,4,5,6,7,8,9,10,11,12,13";
 
 // A round tube of 104 bytes: d, then seven doubles of 1.
 std::string TubeRecord(std::string_view name, char d = 25) {
   std::string record = Name(name) + std::string({d, 0}) + std::string(6, '\0');
-  for (int i = 0; i < 7; ++i) record += Double("3FF");
+  for (int i = 0; i < 7; ++i) record += Double(1);
   return record;
 }
 
@@ -93,6 +81,9 @@ CString RowText(const CDataItem& row) {
   for (int i = 0; i < row.GetItemLength(); ++i) text += (i == 0 ? L"" : L",") + row[i].m_strValue;
   return text;
 }
+
+// A number as stores write it.
+CString Written(const CString& number) { return orv3::FormatG(orv3::ToDouble(number)); }
 
 CDataTable TableOf(int style, std::initializer_list<const wchar_t*> rows) {
   const orv3::CRolledStyle& of = orv3::RolledStyles()[static_cast<std::size_t>(style)];
@@ -172,43 +163,41 @@ TEST_F(RolledFile, OfAnotherKindGivesNothing) {
   EXPECT_EQ(CReadFile::GetIronData(nullptr, table), 0);
 }
 
-TEST_F(RolledFile, GivesTheFirstRecordOfEachModelNumber) {
-  CDataTable table;
-  const std::string twice =
-      TubeRecord(" 30X2 ", 30) + TubeRecord("25X1.5") + TubeRecord("30X2", 31);
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + twice + "rest", table), 1);
-  ASSERT_EQ(table.GetTableRowNum(), 2);
-  EXPECT_EQ(RowText(table[0]), L"30X2,30,1,1,1,1,1,1,1");
-  EXPECT_EQ(RowText(table[1]), L"25X1.5,25,1,1,1,1,1,1,1");
-  // A comma would make two cells of the number; the record is passed over.
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + TubeRecord("1,2") + TubeRecord("3"), table), 1);
-  ASSERT_EQ(table.GetTableRowNum(), 1);
-  // A name that fills its field has no zero; numbers are shown as they are.
+TEST_F(RolledFile, GivesTheRowsThatItsBytesHold) {
+  const std::string a = TubeRecord("A"), b = TubeRecord("B"), gap(8, 'g');
   std::string full = TubeRecord(std::string(20, 'x'));
-  full.replace(48, 8, Double("7FF8"));
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("6800") + full, table), 1);
-  EXPECT_EQ(RowText(table[0]), L"xxxxxxxxxxxxxxxxxxxx,25,NAN,1,1,1,1,1,1");
-}
-
-TEST_F(RolledFile, WithAnotherRecordSizeIsReadWithTheLarger) {
-  const std::string two = TubeRecord("A") + TubeRecord("B");
-  CDataTable table;
-  // 8 bytes more than a record: the file has them behind each.
-  const std::string gap(8, 'g');
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("7000") + TubeRecord("A") + gap + TubeRecord("B") + gap, table),
-            1);
-  ASSERT_EQ(table.GetTableRowNum(), 2);
-  EXPECT_EQ(RowText(table[1]), L"B,25,1,1,1,1,1,1,1");
-  // Half a record: twice as many are counted as the file can fill; the first of the empty ones
-  // stands for all.
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("3400") + two, table), 1);
-  ASSERT_EQ(table.GetTableRowNum(), 3);
-  EXPECT_EQ(RowText(table[1]), L"B,25,1,1,1,1,1,1,1");
-  EXPECT_EQ(RowText(table[2]), L",0,0,0,0,0,0,0,0");
-  // The last record of 1 byte's count ends in the middle of its doubles.
-  ASSERT_EQ(Read(L"LWCIR.kvb", Hex("0100") + two.substr(0, 104 + 60), table), 1);
-  ASSERT_EQ(table.GetTableRowNum(), 3);
-  EXPECT_EQ(RowText(table[1]), L"B,25,1,0,0,0,0,0,0");
+  full.replace(48, 8, Double(std::nan("")));
+  const struct {
+    const char* what;
+    std::string bytes;
+    std::vector<std::string> rows;
+  } cases[] = {
+      {"the first record of each number; a rest is passed over",
+       Hex("6800") + TubeRecord(" 30X2 ", 30) + a + TubeRecord("30X2", 31) + "rest",
+       {"30X2,30,1,1,1,1,1,1,1", "A,25,1,1,1,1,1,1,1"}},
+      {"a comma would make two cells of the number",
+       Hex("6800") + TubeRecord("1,2") + b,
+       {"B,25,1,1,1,1,1,1,1"}},
+      {"a name that fills its field has no zero; numbers are shown as they are",
+       Hex("6800") + full,
+       {"xxxxxxxxxxxxxxxxxxxx,25,NAN,1,1,1,1,1,1"}},
+      {"8 bytes more than a record: the file has them behind each",
+       Hex("7000") + a + gap + b + gap,
+       {"A,25,1,1,1,1,1,1,1", "B,25,1,1,1,1,1,1,1"}},
+      {"half a record: twice as many are counted; the first of the empty ones stands for all",
+       Hex("3400") + a + b,
+       {"A,25,1,1,1,1,1,1,1", "B,25,1,1,1,1,1,1,1", ",0,0,0,0,0,0,0,0"}},
+      {"records of 1 byte: the last one ends in the middle of its doubles",
+       Hex("0100") + a + b.substr(0, 60),
+       {"A,25,1,1,1,1,1,1,1", "B,25,1,0,0,0,0,0,0", ",0,0,0,0,0,0,0,0"}},
+  };
+  for (const auto& c : cases) {
+    CDataTable table;
+    EXPECT_EQ(Read(L"LWCIR.kvb", c.bytes, table), 1) << c.what;
+    std::vector<std::string> rows;
+    for (const CDataItem& row : table.m_arrItem) rows.push_back(orv3::ToUtf8(RowText(row)));
+    EXPECT_EQ(rows, c.rows) << c.what;
+  }
 }
 
 TEST_F(RolledFile, OfTheUserHasTheSameColumnsAndFreeRows) {
@@ -321,78 +310,45 @@ TEST(RolledRecord, IsFilledFromARow) {
 
 // --- The catalogue that the build makes ----------------------------------------------------------
 
-class Catalogue : public testing::Test {
- protected:
-  void SetUp() override {
-    orv3::SetAnsiCodePage(936);
-    CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
-  }
-  void TearDown() override {
-    CLoadDataTable::SetOrvoPrgPath(L"");
-    orv3::SetAnsiCodePage(0);
-  }
-};
+class RolledCatalogue : public CatalogueStore {};
 
-TEST_F(Catalogue, HasASectionOfEveryTableAsItIsPrinted) {
-  struct CCase {
-    int style;
-    int rows;
-    const wchar_t* no;
-    // Cells by sign; from the printed tables of the standards, pairs from hand calculation.
-    std::vector<std::pair<const wchar_t*, double>> cells;
-  };
-  const CCase cases[] = {
-      {0, 82, L"L100X10", {{L"A(cm^2)", 19.261}, {L"Ix(cm^4)", 179.51}, {L"zo(cm)", 2.84}}},
-      {1, 65, L"L100X63X8", {{L"A(cm^2)", 12.584}, {L"Ix(cm^4)", 127.37}, {L"iy(cm)", 1.77}}},
-      {2, 33, L"HW300X300", {{L"A(cm^2)", 120.4}, {L"Ix(cm^4)", 20500}, {L"Wx(cm^3)", 1370}}},
-      {3, 129, L"300X200X6X10", {{L"A(cm^2)", 56.8}, {L"Ix(cm^4)", 9510.9}, {L"h(mm)", 280}}},
-      {4, 30, L"[20a", {{L"A(cm^2)", 28.837}, {L"G(kg/m)", 22.637}, {L"zo(cm)", 2.01}}},
-      {5, 34, L"I20a", {{L"A(cm^2)", 35.578}, {L"G(kg/m)", 27.929}, {L"iy(cm)", 2.11}}},
-      {6, 28, L"100X50X3.5X5", {{L"A(cm^2)", 8.15}, {L"tw(mm)", 3.5}}},
-      {7, 32, L"HN400X200", {{L"A(cm^2)", 84.12}, {L"Ix(cm^4)", 23700}, {L"iy(cm)", 4.54}}},
-      {8, 22, L"[20", {{L"A(cm^2)", 23.4}, {L"Ix(cm^4)", 1522}, {L"zo(cm)", 2.07}}},
-      {9, 27, L"I20", {{L"A(cm^2)", 26.81}, {L"Wx(cm^3)", 184}, {L"ix(cm)", 8.28}}},
-      {10, 10, L"L50X2.5", {{L"A(cm^2)", 2.37}, {L"Ixo(cm^4)", 5.93}}},
-      {11, 24, L"C160X60X20X2.5", {{L"A(cm^2)", 7.48}, {L"Ix(cm^4)", 288.13}}},
-      {12, 11, L"[120X40X3.0", {{L"A(cm^2)", 5.63}, {L"Ix(cm^4)", 112.28}}},
-      {13, 4, L"L60X20X2.0", {{L"A(cm^2)", 2.95}, {L"Iw(cm^6)", 22.64}}},
-      {14, 13, L"Z160X60X20X2.5", {{L"A(cm^2)", 7.48}, {L"Ix1(cm^4)", 288.12}}},
-      {15, 18, L"Z160X60X20X2.5", {{L"A(cm^2)", 7.676}, {L"Ix1(cm^4)", 303.09}}},
-      {16, 23, L"80X2.0", {{L"A(cm^2)", 6.07}, {L"Ix(cm^4)", 60.58}}},
-      {17, 61, L"102X2.0", {{L"A(cm^2)", 6.28}, {L"I(cm^4)", 78.57}}},
-      {18, 82, L"2L100X10", {{L"A(cm^2)", 38.522}, {L"Ix(cm^4)", 359.02}, {L"iy10(cm)", 4.52}}},
-      {19, 65, L"2L100X63X8", {{L"Ix(cm^4)", 254.74}, {L"iy10(cm)", 2.67}}},
-      {20, 65, L"2L100X63X8", {{L"Ix(cm^4)", 78.78}, {L"iy10(cm)", 4.97}}},
-      {21, 82, L"2L100X10", {{L"Iy1(cm^4)", 569.36}, {L"ix0(cm)", 4.47}}},
-      {22, 30, L"2][[20a", {{L"A(cm^2)", 57.674}, {L"iy10(cm)", 3.28}}},
-      {23, 30, L"2[][20a", {{L"A(cm^2)", 57.674}, {L"iy(cm)", 5.69}}},
-      {24, 22, L"2][[20", {{L"Ix(cm^4)", 3044}, {L"iy0(cm)", 3.02}}},
-      {25, 22, L"2[][20", {{L"Ix(cm^4)", 3044}, {L"iy(cm)", 5.95}}},
-      {26, 53, L"TW62.5X125", {{L"A(cm^2)", 15.16}, {L"Ix(cm^4)", 35}, {L"Cx(cm)", 1.19}}},
-  };
-  for (const CCase& each : cases) {
-    const CString name = CReadFile::GetXGStyleNo(each.style);
-    const CString file(orv3::RolledStyles()[static_cast<std::size_t>(each.style)].m_strFile);
-    const CDataItem row = CLoadDataTable::GetSysTemJMItem(name, each.no);
-    ASSERT_FALSE(row.IsEmpty()) << name << each.no;
-    EXPECT_GE(row.m_nModifyType, 3) << name;
-    for (const auto& [sign, value] : each.cells)
-      EXPECT_EQ(row[sign].m_strValue, orv3::FormatG(value)) << name << CString(sign);
-    // The data file holds the same sections, the user's twin none.
+// The store and the data file hold what the CSV file prints, pairs as many rows as their component;
+// the user's twin holds none.
+TEST_F(RolledCatalogue, HasEveryPrintedRow) {
+  int rows = 0;
+  for (int style = 0; style < orv3::kRolledStyles; ++style) {
+    const orv3::CRolledStyle& of = orv3::RolledStyles()[static_cast<std::size_t>(style)];
+    const std::vector<CDataItem> stored = Rows(CReadFile::GetXGStyleNo(style));
     CLoadDataTable::SetOrvoPrgPath(L"nowhere/");
-    CDataTable table;
-    const CString folder = orv3::FromUtf8(ORV3CAL_CATALOGUE "/");
-    EXPECT_EQ(CReadFile::GetIronData((folder + file).GetString(), table), 1) << name;
-    EXPECT_EQ(table.GetTableRowNum(), each.rows) << name;
-    EXPECT_EQ(CReadFile::GetIronData((folder + L"O" + file).GetString(), table), 0) << name;
+    CDataTable file;
+    const CString folder = Folder();
+    EXPECT_EQ(CReadFile::GetIronData((folder + CString(of.m_strFile)).GetString(), file), 1);
+    EXPECT_EQ(CReadFile::GetIronData((folder + L"O" + CString(of.m_strFile)).GetString(), file), 0);
     CLoadDataTable::SetOrvoPrgPath(folder);
+    const bool pair = orv3::IsPairTable(stored[0].GetTableName());
+    const CDataTable printed =
+        pair ? file : orv3::catalogue::ReadCsvTable(ORV3CAL_CATALOGUE_CSV, style);
+    ASSERT_EQ(file.GetTableRowNum(), static_cast<int>(stored.size())) << style;
+    ASSERT_EQ(printed.GetTableRowNum(), static_cast<int>(stored.size())) << style;
+    for (int i = 0; i < printed.GetTableRowNum(); ++i) {
+      const CDataItem& row = stored[static_cast<std::size_t>(i)];
+      EXPECT_GE(row.m_nModifyType, 3);
+      EXPECT_EQ(RowText(file[i]), RowText(row));
+      for (int cell = 0; cell < row.GetItemLength(); ++cell) {
+        const CString text = printed[i][cell].m_strValue;
+        EXPECT_EQ(row[cell].m_strValue,
+                  row[cell].m_nType == CDataTypeStruct::KVBT_STRING ? text : Written(text));
+      }
+    }
     CStringArray numbers;
-    EXPECT_EQ(CReadFile::GetIronXh(each.style, numbers), 1);
-    EXPECT_EQ(numbers.GetSize(), each.rows) << name;
+    EXPECT_EQ(CReadFile::GetIronXh(style, numbers), 1);
+    EXPECT_EQ(numbers.GetSize(), printed.GetTableRowNum());
+    rows += printed.GetTableRowNum();
   }
+  EXPECT_EQ(rows, 1097);
 }
 
-TEST_F(Catalogue, FillsRecordsByModelNumber) {
+TEST_F(RolledCatalogue, FillsRecordsByModelNumber) {
   dbangleiron angle;
   EXPECT_EQ(CReadFile::GetIronData(L"L100X10", 0, reinterpret_cast<wchar_t*>(&angle)), 1);
   EXPECT_EQ(std::u16string(angle.xh), u"L100X10");

@@ -4,34 +4,25 @@
 #include <gtest/gtest.h>
 
 #include "catalogue/outline/row_spacing.h"
-#include "framework/utf8.h"
 #include "picture_check.h"
-#include "sections/load_data_table.h"
+#include "sections/catalogue_store.h"
+#include "sections/geometry_rows.h"
 #include "svg_check.h"
-#include "tables/data_table.h"
 
 namespace {
 
 using namespace orv3;
 
-class RowPicture : public testing::Test {
- protected:
-  void SetUp() override { CLoadDataTable::SetOrvoPrgPath(FromUtf8(ORV3CAL_CATALOGUE "/")); }
-  void TearDown() override { CLoadDataTable::SetOrvoPrgPath(L""); }
-};
+class RowPicture : public CatalogueStore {};
 
 TEST_F(RowPicture, OfEveryRowIsLegible) {
-  CStringArray tables;
-  CLoadDataTable::GetTableNameArray(kCatalogueTables, tables);
-  for (const CString& name : tables) {
-    CDataTable table;
-    table.SetTableName(name);
-    ASSERT_EQ(table.GetSystemJmTable(), 1);
-    for (int i = 0; i < table.GetTableRowNum(); ++i) {
-      const CDataItem row = WithPairSpacing(table[i], i % 3 == 0 ? 0 : 8);
-      const std::string what = ToUtf8(name) + " " + ToUtf8(row[0].m_strValue);
+  for (const CString& name : Tables()) {
+    int gap = 0;
+    for (const CDataItem& row : Rows(name)) {
+      gap = gap == 0 ? 8 : 0;
       for (const double angle : {0.0, 90.0, 180.0, 270.0})
-        CheckLegible(RowPictureDrawing(row, angle), what + " at " + std::to_string(angle));
+        CheckLegible(RowPictureDrawing(WithPairSpacing(row, gap), angle),
+                     ToUtf8(name + L" " + row[0].m_strValue) + " at " + std::to_string(angle));
     }
   }
 }
@@ -65,9 +56,7 @@ TEST_F(RowPicture, NamesTheSizesOfTheTable) {
 }
 
 TEST_F(RowPicture, OfAColumnShowsItsSpacings) {
-  CDataItem row;
-  row.m_strTableName = L"四肢格构柱";
-  ASSERT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
+  const CDataItem row = DefaultRow(L"四肢格构柱");
   const std::string svg = RowPictureSvg(row);
   EXPECT_NE(svg.find("kx = 600"), std::string::npos);
   EXPECT_NE(svg.find("ky = 800"), std::string::npos);

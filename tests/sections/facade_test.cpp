@@ -7,6 +7,7 @@
 
 #include "framework/number_text.h"
 #include "platform/store_file.h"
+#include "sections/geometry_rows.h"
 #include "sections/row_check.h"
 #include "tables/table_file_tools.h"
 #include "tables/table_store.h"
@@ -22,24 +23,22 @@ std::string Joined(const CStringArray& texts) {
 TEST(TableTypes, MasksSelectNamesInTheirOrder) {
   const struct {
     long mask;
-    int count;
     const char* names;
   } cases[] = {
-      {0x001, 0, ""},
-      {0x01000000, 0, ""},
-      {0x03000001, 8,
+      {0x001, ""},
+      {0x01000000, ""},
+      {0x03000001,
        "热轧普通工字钢 热轧轻型工字钢 热轧普通焊接H型钢 热轧轻型焊接H型钢 热轧宽翼缘H型钢 "
        "热轧窄翼缘H型钢 自定义对称H型钢 自定义非对称H型钢"},
-      {0x01000008, 4, "热轧普通槽钢 热轧轻型槽钢 冷弯薄壁槽钢 冷弯薄壁卷边槽钢"},
-      {0x01000080, 4,
+      {0x01000008, "热轧普通槽钢 热轧轻型槽钢 冷弯薄壁槽钢 冷弯薄壁卷边槽钢"},
+      {0x01000080,
        "热轧等边角钢组合 热轧不等边角钢长边组合 热轧不等边角钢短边组合 热轧等边角钢十字组合"},
-      {0x01000100, 4,
-       "热轧普通槽钢][组合 热轧普通槽钢[]组合 热轧轻型槽钢][组合 热轧轻型槽钢[]组合"},
-      {0x01000E00, 0, ""},
-      {0x02000180, 0, ""},
-      {0x02000A00, 5, "自定义十字形截面 自定义翼缘十字形截面 双肢格构柱 四肢格构柱 三肢格构柱"},
-      {0x02000420, 5, "自定义圆形截面 自定义圆管 矩形截面 六边形截面 三角形截面"},
-      {0x01000052, 7,
+      {0x01000100, "热轧普通槽钢][组合 热轧普通槽钢[]组合 热轧轻型槽钢][组合 热轧轻型槽钢[]组合"},
+      {0x01000E00, ""},
+      {0x02000180, ""},
+      {0x02000A00, "自定义十字形截面 自定义翼缘十字形截面 双肢格构柱 四肢格构柱 三肢格构柱"},
+      {0x02000420, "自定义圆形截面 自定义圆管 矩形截面 六边形截面 三角形截面"},
+      {0x01000052,
        "冷弯薄壁方钢管 冷弯薄壁卷边Z型钢 冷弯薄壁斜卷边Z型钢 热轧等边角钢 热轧不等边角钢 "
        "冷弯薄壁等边角钢 冷弯卷边等边角钢"},
   };
@@ -47,7 +46,6 @@ TEST(TableTypes, MasksSelectNamesInTheirOrder) {
     CStringArray names;
     names.Add(L"前");
     CLoadDataTable::GetTableNameArray(c.mask, names);
-    EXPECT_EQ(names.GetSize(), c.count) << std::hex << c.mask;
     EXPECT_EQ(Joined(names), c.names) << std::hex << c.mask;
   }
   CStringArray names;
@@ -226,80 +224,49 @@ TEST_F(Facade, UserSectionsAreFoundByTheirFilesLine) {
   EXPECT_TRUE(CLoadDataTable::GetUserJMItem(L"工字钢", L"我的", line + L"1").IsEmpty());
 }
 
-CDataItem DefaultRow(const wchar_t* table) {
-  CDataItem row;
-  row.m_strTableName = table;
-  EXPECT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
-  return row;
-}
-
-TEST_F(Facade, DefaultRowsOfSectionsOfPlates) {
+TEST_F(Facade, DefaultRows) {
   const struct {
     const wchar_t* table;
-    const char* cells;  // number, sizes and base point
-    double area;        // from the plates by hand; 0 where none is given
+    const char* cells;  // number, sizes and base point, or number, spacings and limbs
   } cases[] = {
-      {L"自定义对称H型钢", "H400X300 300 400 10 10 100 100", 2 * 300 * 10 + 380 * 10},
-      {L"自定义非对称H型钢", "H400X320X20 20 400 20 20 150 150 150 150 100 100",
-       2 * 320 * 20 + 360 * 20},
-      {L"自定义对称箱形截面", "400X300X20 300 400 20 100 100", 300 * 400 - 260 * 360},
-      {L"自定义非对称箱形截面", "400X300X20 300 400 20 20 20 20 100 100", 300 * 400 - 260 * 360},
-      {L"自定义十字形截面", "S400X320X20 20 400 190 190 150 150 100 100", 20 * 400 + 300 * 20},
-      {L"自定义翼缘十字形截面", "YS400X300X100 300 400 100 100 20 20 100 100", 0},
-      {L"自定义T形截面", "T400X320X20 20 400 20 150 150 100 100", 320 * 20 + 380 * 20},
-      {L"自定义槽钢", "[400X100X20 20 400 20 20 80 80 50 50", 400 * 20 + 2 * 80 * 20},
-      {L"自定义Z形截面", "Z180X70X20 20 400 20 20 50 50 50 50", 400 * 20 + 2 * 50 * 20},
-      {L"自定义圆形截面", "R100 100 50 50", 31415.9},
-      {L"自定义圆管", "RH100X10 100 20 50 50", 30159.3},
-      {L"自定义L形截面", "L200X200X20 20 200 20 180 100 100", 200 * 20 + 180 * 20},
-      {L"矩形截面", "400X300 300 400 100 100", 300 * 400},
-      {L"三角形截面", "400X300 300 400 100 100", 300 * 400 / 2},
-      {L"六边形截面", "200 200 100 100", 103923},
+      {L"自定义对称H型钢", "H400X300 300 400 10 10 100 100"},
+      {L"自定义非对称H型钢", "H400X320X20 20 400 20 20 150 150 150 150 100 100"},
+      {L"自定义对称箱形截面", "400X300X20 300 400 20 100 100"},
+      {L"自定义非对称箱形截面", "400X300X20 300 400 20 20 20 20 100 100"},
+      {L"自定义十字形截面", "S400X320X20 20 400 190 190 150 150 100 100"},
+      {L"自定义翼缘十字形截面", "YS400X300X100 300 400 100 100 20 20 100 100"},
+      {L"自定义T形截面", "T400X320X20 20 400 20 150 150 100 100"},
+      {L"自定义槽钢", "[400X100X20 20 400 20 20 80 80 50 50"},
+      {L"自定义Z形截面", "Z180X70X20 20 400 20 20 50 50 50 50"},
+      {L"自定义圆形截面", "R100 100 50 50"},
+      {L"自定义圆管", "RH100X10 100 20 50 50"},
+      {L"自定义L形截面", "L200X200X20 20 200 20 180 100 100"},
+      {L"矩形截面", "400X300 300 400 100 100"},
+      {L"三角形截面", "400X300 300 400 100 100"},
+      {L"六边形截面", "200 200 100 100"},
+      {L"双肢格构柱", "G2[10X800 800 热轧普通槽钢 [10 90 热轧普通槽钢 [10 270"},
+      {L"三肢格构柱",
+       "G3X600X800 600 800 冷弯焊接薄壁圆钢管 30X2.0 0 冷弯焊接薄壁圆钢管 30X2.0 0 "
+       "冷弯焊接薄壁圆钢管 30X2.0 0"},
+      {L"四肢格构柱",
+       "G4L600X800 600 800 热轧等边角钢 L30X3 0 热轧等边角钢 L30X3 90 热轧等边角钢 L30X3 180 "
+       "热轧等边角钢 L30X3 270"},
   };
   for (const auto& c : cases) {
     const CDataItem row = DefaultRow(c.table);
+    const bool plates = orv3::FindSectionStyle(std::wstring_view(c.table)) != nullptr;
     std::string cells;
-    const int base = row.GetSignIndex(L"y(mm)");
-    for (int i = 0; i <= base; ++i) {
-      cells += (i ? " " : "") + orv3::ToUtf8(std::as_const(row)[i].m_strValue);
+    for (int i = 0; i < row.GetSignIndex(plates ? L"xo(mm)" : L"A(mm^2)"); ++i) {
+      cells += (i ? " " : "") + orv3::ToUtf8(row[i].m_strValue);
     }
     EXPECT_EQ(cells, c.cells);
-    if (c.area > 0) {
-      EXPECT_EQ(std::as_const(row)[L"A(mm^2)"].m_strValue, orv3::FormatG(c.area)) << c.cells;
+    if (plates) {
+      EXPECT_FALSE(orv3::CheckRow(row)) << orv3::CheckRow(row)->m_strText;
     }
-    EXPECT_FALSE(orv3::CheckRow(row)) << orv3::CheckRow(row)->m_strText;
   }
   CDataItem rolled;
   rolled.m_strTableName = L"热轧普通槽钢";
   EXPECT_EQ(CLoadDataTable::GetDefaultDataItem(rolled), 0);
-}
-
-TEST_F(Facade, DefaultRowsOfLatticeColumns) {
-  const struct {
-    const wchar_t* table;
-    const char* cells;
-  } cases[] = {
-      {L"双肢格构柱",
-       "No.=G2[10X800 k(mm)=800 P1Type=热轧普通槽钢 P1No.=[10 P1θ°=90 "
-       "P2Type=热轧普通槽钢 P2No.=[10 P2θ°=270"},
-      {L"三肢格构柱",
-       "No.=G3X600X800 kx(mm)=600 ky(mm)=800 P1Type=冷弯焊接薄壁圆钢管 "
-       "P1No.=30X2.0 P1θ°=0 P2Type=冷弯焊接薄壁圆钢管 P2No.=30X2.0 P2θ°=0 "
-       "P3Type=冷弯焊接薄壁圆钢管 P3No.=30X2.0 P3θ°=0"},
-      {L"四肢格构柱",
-       "No.=G4L600X800 kx(mm)=600 ky(mm)=800 P1Type=热轧等边角钢 P1No.=L30X3 "
-       "P1θ°=0 P2Type=热轧等边角钢 P2No.=L30X3 P2θ°=90 P3Type=热轧等边角钢 "
-       "P3No.=L30X3 P3θ°=180 P4Type=热轧等边角钢 P4No.=L30X3 P4θ°=270"},
-  };
-  for (const auto& c : cases) {
-    const CDataItem row = DefaultRow(c.table);
-    std::string cells;
-    for (int i = 0; i < row.GetSignIndex(L"A(mm^2)"); ++i) {
-      cells += (i ? " " : "") + orv3::ToUtf8(row.GetCellSign(i)) + "=" +
-               orv3::ToUtf8(std::as_const(row)[i].m_strValue);
-    }
-    EXPECT_EQ(cells, c.cells);
-  }
 }
 
 TEST_F(Facade, SaysWhyARowCannotBeKept) {

@@ -1,11 +1,14 @@
 // Rows as a test needs them, and what the facade answers for one.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <initializer_list>
 #include <utility>
 
 #include "framework/number_text.h"
 #include "sections/load_data_table.h"
+#include "sections/section_style.h"
 
 inline void AddCell(CDataItem& row, const wchar_t* sign, CDataTypeStruct::KVBT_Value_Type type,
                     const CString& value) {
@@ -24,6 +27,24 @@ inline CDataItem RowOf(const wchar_t* table, const wchar_t* no,
   for (const auto& [sign, value] : cells) {
     AddCell(row, sign, CDataTypeStruct::KVBT_DOUBLE, orv3::FormatShortest(value));
   }
+  return row;
+}
+
+// A row of a user-defined table, its sizes in the order of the columns.
+inline CDataItem RowOfPlates(const wchar_t* table, std::initializer_list<double> sizes) {
+  CDataItem row = RowOf(table, L"1", {});
+  const orv3::CSizeColumn* column = orv3::FindSectionStyle(std::wstring_view(table))->m_arrSize;
+  for (const double size : sizes) {
+    AddCell(row, (column++)->m_szSign, CDataTypeStruct::KVBT_DOUBLE, orv3::FormatShortest(size));
+  }
+  return row;
+}
+
+// The first row of a user-defined or lattice table.
+inline CDataItem DefaultRow(const wchar_t* table) {
+  CDataItem row;
+  row.m_strTableName = table;
+  EXPECT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
   return row;
 }
 

@@ -1,11 +1,11 @@
 // How a row is read: cells, units, spacings, turning and symmetry.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
 
 #include "framework/utf8.h"
 #include "sections/geometry_rows.h"
-#include "sections/table_types.h"
 
 namespace {
 
@@ -128,98 +128,69 @@ TEST(GeometryRules, ATHasItsHeightAsText) {
   ExpectTwo(RectOf(row), 125, 0, "no number");
 }
 
-TEST(GeometryRules, SpacingPicksItsColumn) {
-  CDataItem row = RowOf(L"热轧等边角钢组合", L"2L50X5",
-                        {{L"A(cm^2)", 9.606},
-                         {L"ix(cm)", 1.53},
-                         {L"Wy0(cm^3)", 5.14},
-                         {L"iy0(cm)", 2.07},
-                         {L"Wy8(cm^3)", 6},
-                         {L"iy8(cm)", 2.38}});
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(row), 20.7, 1e-9) << "without a spacing cell";
-  const CDataItem apart = WithSpacing(row, L"a(mm)", 8);
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(apart), 23.8, 1e-9);
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadixo(apart), 15.3, 1e-9) << "has no spacing in it";
-  EXPECT_NEAR(CLoadDataTable::GetDataItemWyoL(apart), 6000, 1e-9);
-  EXPECT_NEAR(CLoadDataTable::GetDataItemWyoR(apart), 6000, 1e-9);
-
-  const CDataItem cross = RowOf(L"热轧等边角钢十字组合", L"2L50X5",
-                                {{L"Ix0(cm^4)", 42.8},
-                                 {L"ix0(cm)", 2.11},
-                                 {L"Ix6(cm^4)", 58},
-                                 {L"ix6(cm)", 2.46},
-                                 {L"Iy1(cm^4)", 35.6},
-                                 {L"iy1(cm)", 1.92}});
-  ExpectTwo(InertiaOf(cross), 42.8e4, 35.6e4, "touching");
-  ExpectTwo(InertiaOf(WithSpacing(cross, L"δ(mm)", 6)), 58e4, 35.6e4, "6 mm apart");
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadixo(WithSpacing(cross, L"δ(mm)", 6)), 24.6, 1e-9);
-  EXPECT_NEAR(CLoadDataTable::GetDataItemRadiyo(WithSpacing(cross, L"δ(mm)", 6)), 19.2, 1e-9);
+// Of the plates; a solid counts as thick as the largest circle inside it is wide.
+TEST(GeometryRules, ThicknessesOfUserDefinedSections) {
+  const struct {
+    const wchar_t* table;
+    std::initializer_list<double> sizes;  // in the order of the columns
+    double most, least;
+  } cases[] = {
+      {L"自定义对称H型钢", {300, 400, 20, 10}, 20, 10},
+      {L"自定义非对称箱形截面", {300, 400, 30, 20, 12, 16}, 30, 12},
+      {L"自定义十字形截面", {30, 400, 150, 210, 90, 120}, 40, 30},
+      {L"自定义圆管", {100, 90}, 10, 10},
+      {L"矩形截面", {200, 400}, 200, 200},
+      {L"六边形截面", {100}, 100 * std::sqrt(3.0), 100 * std::sqrt(3.0)},
+      {L"三角形截面", {60, 40}, 4.0 * 1200 / 160, 4.0 * 1200 / 160},
+  };
+  for (const auto& c : cases) {
+    const CDataItem row = RowOfPlates(c.table, c.sizes);
+    EXPECT_NEAR(CLoadDataTable::GetDataItemMaxThick(row), c.most, 1e-9)
+        << orv3::ToUtf8(CString(c.table));
+    EXPECT_NEAR(CLoadDataTable::GetDataItemMinThick(row), c.least, 1e-9)
+        << orv3::ToUtf8(CString(c.table));
+  }
 }
 
 TEST(GeometryRules, SymmetryOfUserDefinedSections) {
-  using CCells = std::initializer_list<std::pair<const wchar_t*, double>>;
   const struct {
     const wchar_t* table;
-    CCells cells;
+    std::initializer_list<double> sizes;  // in the order of the columns
     int x, y;
   } cases[] = {
       {L"自定义对称H型钢", {}, 1, 1},
       {L"自定义翼缘十字形截面", {}, 1, 1},
       {L"六边形截面", {}, 1, 1},
       {L"三角形截面", {}, 0, 1},
-      {L"自定义非对称H型钢",
-       {{L"bh1(mm)", 10}, {L"bh2(mm)", 10}, {L"bf1(mm)", 5}, {L"bf3(mm)", 5}},
-       1,
-       0},
-      {L"自定义非对称H型钢", {{L"bh1(mm)", 10}, {L"bf1(mm)", 5}, {L"bf2(mm)", 5}}, 0, 1},
-      {L"自定义非对称H型钢", {{L"bf2(mm)", 5}, {L"bf4(mm)", 5.000001}}, 0, 0},
-      {L"自定义非对称H型钢", {{L"bf1(mm)", 1e-7}}, 1, 1},
-      {L"自定义非对称箱形截面",
-       {{L"t1(mm)", 8}, {L"t2(mm)", 8}, {L"t3(mm)", 8}, {L"t4(mm)", 9}},
-       1,
-       0},
-      {L"自定义十字形截面", {{L"bh1(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 0, 1},
-      {L"自定义T形截面", {{L"bh(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 0, 1},
-      {L"自定义T形截面", {{L"bh(mm)", 8}, {L"bf1(mm)", 9}}, 0, 0},
-      {L"自定义T形截面", {{L"bh(mm)", 8}}, 1, 1},
-      {L"自定义T形截面", {{L"bf1(mm)", 9}}, 1, 1},
-      {L"自定义槽钢", {{L"bh1(mm)", 8}, {L"bh2(mm)", 8}, {L"bf1(mm)", 9}, {L"bf2(mm)", 9}}, 1, 0},
-      {L"自定义槽钢", {{L"bh1(mm)", 8}, {L"bh2(mm)", 8}, {L"bf2(mm)", 9}}, 0, 1},
-      {L"自定义L形截面", {{L"bh(mm)", 8}, {L"bf(mm)", 9}}, 0, 0},
-      {L"自定义L形截面", {{L"bh(mm)", 8}}, 1, 1},
-      {L"自定义Z形截面", {{L"bh1(mm)", 8}, {L"bf1(mm)", 9}}, 0, 0},
-      {L"自定义Z形截面", {{L"bf1(mm)", 9}}, 1, 1},
-      {L"四肢格构柱", {}, 0, 0},
+      {L"自定义非对称H型钢", {0, 0, 10, 10, 5, 0, 5}, 1, 0},
+      {L"自定义非对称H型钢", {0, 0, 10, 0, 5, 5}, 0, 1},
+      {L"自定义非对称H型钢", {0, 0, 0, 0, 0, 5, 0, 5.000001}, 0, 0},
+      {L"自定义非对称H型钢", {0, 0, 0, 0, 1e-7}, 1, 1},
+      {L"自定义非对称箱形截面", {0, 0, 8, 8, 8, 9}, 1, 0},
+      {L"自定义十字形截面", {0, 0, 8, 0, 9, 9}, 0, 1},
+      {L"自定义T形截面", {0, 0, 8, 9, 9}, 0, 1},
+      {L"自定义T形截面", {0, 0, 8, 9}, 0, 0},
+      {L"自定义T形截面", {0, 0, 8}, 1, 1},
+      {L"自定义T形截面", {0, 0, 0, 9}, 1, 1},
+      {L"自定义槽钢", {0, 0, 8, 8, 9, 9}, 1, 0},
+      {L"自定义槽钢", {0, 0, 8, 8, 0, 9}, 0, 1},
+      {L"自定义L形截面", {0, 0, 8, 9}, 0, 0},
+      {L"自定义L形截面", {0, 0, 8}, 1, 1},
+      {L"自定义Z形截面", {0, 0, 8, 0, 9}, 0, 0},
+      {L"自定义Z形截面", {0, 0, 0, 0, 9}, 1, 1},
   };
   for (const auto& c : cases) {
-    const CDataItem row = RowOf(c.table, L"1", c.cells);
+    const CDataItem row = RowOfPlates(c.table, c.sizes);
     EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row), c.x) << orv3::ToUtf8(CString(c.table));
     EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row), c.y) << orv3::ToUtf8(CString(c.table));
   }
-}
-
-// By the masks of table types: 0x12B about x, 0x127 and the pairs of angles about y.
-TEST(GeometryRules, SymmetryOfRolledSections) {
-  CStringArray names;
-  CLoadDataTable::GetTableNameArray(orv3::kCatalogueTables, names);
-  ASSERT_EQ(names.GetSize(), 27);
-  for (const CString& name : names) {
-    const CDataItem row = RowOf(name.GetString(), L"1", {});
-    const bool pair =
-        CLoadDataTable::IsTableNameType(name, 0x1000080) && name != L"热轧等边角钢十字组合";
-    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row),
-              CLoadDataTable::IsTableNameType(name, 0x100012B))
-        << orv3::ToUtf8(name);
-    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row),
-              pair || CLoadDataTable::IsTableNameType(name, 0x1000127))
-        << orv3::ToUtf8(name);
-  }
+  const CDataItem column = RowOf(L"四肢格构柱", L"1", {});
+  EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(column), 0);
+  EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(column), 0);
 }
 
 TEST(GeometryRules, RecomputesAUserDefinedRow) {
-  CDataItem row;
-  row.m_strTableName = L"矩形截面";
-  ASSERT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
+  CDataItem row = DefaultRow(L"矩形截面");
   row[L"b(mm)"].m_strValue = L"200";
   ASSERT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 1);
   ExpectTwo(InertiaOf(row), 1.06667e9, 2.66667e8, "200 x 400");

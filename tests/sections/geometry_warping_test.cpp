@@ -7,11 +7,9 @@
 
 #include "framework/utf8.h"
 #include "sections/geometry_rows.h"
-#include "sections/steel_jm_data.h"
+#include "sections/outline_integral.h"
 
 namespace {
-
-using CCells = std::initializer_list<std::pair<const wchar_t*, double>>;
 
 double Cube(double x) { return x * x * x; }
 
@@ -19,13 +17,13 @@ double Cube(double x) { return x * x * x; }
 // turned into e0 by the centroid of the plates.
 struct CCase {
   const wchar_t* table;
-  CCells sizes;
+  std::initializer_list<double> sizes;  // in the order of the columns
   double e0, Iw;
   const char* form;
 };
 
 void Check(const CCase& c) {
-  const CDataItem row = RowOf(c.table, L"1", c.sizes);
+  const CDataItem row = RowOfPlates(c.table, c.sizes);
   EXPECT_NEAR(CLoadDataTable::GetDatIteme0(row), c.e0, 1e-9 * (1 + c.e0)) << c.form;
   EXPECT_NEAR(CLoadDataTable::GetDataItemIw(row), c.Iw, 1e-9 * (1 + c.Iw)) << c.form;
 }
@@ -33,41 +31,30 @@ void Check(const CCase& c) {
 TEST(GeometryWarping, DoublySymmetric) {
   // 300 x 400 x 20, web 10: flanges 380 apart. Iw = (t b^3 / 6) h^2 / 4.
   Check({L"自定义对称H型钢",
-         {{L"b(mm)", 300}, {L"h(mm)", 400}, {L"tf(mm)", 20}, {L"tw(mm)", 10}},
+         {300, 400, 20, 10},
          0,
          20 * Cube(300) / 6 * 380 * 380 / 4,
          "I: Iy h^2 / 4"});
   // Each flange warps in its own plane as it does in an I.
   Check({L"自定义翼缘十字形截面",
-         {{L"b(mm)", 500},
-          {L"h(mm)", 400},
-          {L"bf1(mm)", 200},
-          {L"bf2(mm)", 150},
-          {L"tw(mm)", 10},
-          {L"tf(mm)", 20}},
+         {500, 400, 200, 150, 10, 20},
          0,
          2 * (20 * Cube(200) / 12) * 190 * 190 + 2 * (20 * Cube(150) / 12) * 240 * 240,
          "flanged cross"});
   // A box without warping: b/tf = h/tw.
-  Check(
-      {L"自定义对称箱形截面", {{L"b(mm)", 300}, {L"h(mm)", 300}, {L"t(mm)", 10}}, 0, 0, "square"});
+  Check({L"自定义对称箱形截面", {300, 300, 10}, 0, 0, "square"});
   // Corners warp by w = (b h / 4) (b/tf - h/tw) / (b/tf + h/tw), plates linearly between them.
   const double b = 290, h = 380, tf = 20, tw = 10;
   const double w = b * h / 4 * (b / tf - h / tw) / (b / tf + h / tw);
   Check({L"自定义非对称箱形截面",
-         {{L"b(mm)", 300},
-          {L"h(mm)", 400},
-          {L"t1(mm)", 20},
-          {L"t2(mm)", 20},
-          {L"t3(mm)", 10},
-          {L"t4(mm)", 10}},
+         {300, 400, 20, 20, 10, 10},
          0,
          w * w / 3 * 2 * (b * tf + h * tw),
          "box"});
   for (const wchar_t* table : {L"自定义圆形截面", L"自定义圆管"}) {
-    Check({table, {{L"R(mm)", 100}, {L"r(mm)", 90}}, 0, 0, "round"});
+    Check({table, {100, 90}, 0, 0, "round"});
   }
-  Check({L"矩形截面", {{L"b(mm)", 100}, {L"h(mm)", 200}}, 0, 0, "solid"});
+  Check({L"矩形截面", {100, 200}, 0, 0, "solid"});
 }
 
 TEST(GeometryWarping, UnequalFlanges) {
@@ -80,14 +67,7 @@ TEST(GeometryWarping, UnequalFlanges) {
   const double A = 300 * 20 + 200 * 16 + 10 * web;
   const double yo = (300 * 20 * 390 + 200 * 16 * 8 + 10 * web * (16 + web / 2)) / A;
   Check({L"自定义非对称H型钢",
-         {{L"b(mm)", 10},
-          {L"h(mm)", 400},
-          {L"bh1(mm)", 16},
-          {L"bh2(mm)", 20},
-          {L"bf1(mm)", 145},
-          {L"bf2(mm)", 145},
-          {L"bf3(mm)", 95},
-          {L"bf4(mm)", 95}},
+         {10, 400, 16, 20, 145, 145, 95, 95},
          y - yo,
          h * h * top * bottom / (top + bottom),
          "I with unequal flanges"});
@@ -100,22 +80,12 @@ TEST(GeometryWarping, ChannelAndZ) {
   const double A = 300 * 10 + 2 * 90 * 16;
   const double xo = (300 * 10 * 5 + 2 * 90 * 16 * 55) / A;
   Check({L"自定义槽钢",
-         {{L"b(mm)", 10},
-          {L"h(mm)", 300},
-          {L"bh1(mm)", 16},
-          {L"bh2(mm)", 16},
-          {L"bf1(mm)", 90},
-          {L"bf2(mm)", 90}},
+         {10, 300, 16, 16, 90, 90},
          e + xo - 5,
          t * Cube(b) * h * h / 12 * (3 * b * t + 2 * h * tw) / (6 * b * t + h * tw),
          "channel"});
   Check({L"自定义Z形截面",
-         {{L"b(mm)", 10},
-          {L"h(mm)", 300},
-          {L"bh1(mm)", 16},
-          {L"bh2(mm)", 16},
-          {L"bf1(mm)", 90},
-          {L"bf2(mm)", 90}},
+         {10, 300, 16, 16, 90, 90},
          0,
          Cube(b) * t * h * h / 12 * (b * t + 2 * h * tw) / (2 * b * t + h * tw),
          "Z"});
@@ -125,32 +95,15 @@ TEST(GeometryWarping, ChannelAndZ) {
 TEST(GeometryWarping, Stars) {
   // T: flange 210 x 20 on a stem 10 x 180.
   const double T = (210.0 * 20 * 190 + 10 * 180 * 90) / (210 * 20 + 10 * 180);
-  Check({L"自定义T形截面",
-         {{L"b(mm)", 10}, {L"h(mm)", 200}, {L"bh(mm)", 20}, {L"bf1(mm)", 100}, {L"bf2(mm)", 100}},
-         190 - T,
-         0,
-         "T"});
+  Check({L"自定义T形截面", {10, 200, 20, 100, 100}, 190 - T, 0, "T"});
   // L: legs 200 x 10 upright and 100 x 20 beside it at the bottom.
   const double A = 200 * 10 + 100 * 20;
   const double x = (2000.0 * 5 + 2000 * 60) / A, y = (2000.0 * 100 + 2000 * 10) / A;
-  Check({L"自定义L形截面",
-         {{L"b(mm)", 10}, {L"h(mm)", 200}, {L"bh(mm)", 20}, {L"bf(mm)", 100}},
-         std::hypot(x - 5, y - 10),
-         0,
-         "L"});
+  Check({L"自定义L形截面", {10, 200, 20, 100}, std::hypot(x - 5, y - 10), 0, "L"});
   // Cross: arm 10 x 200 and a bar 20 thick that reaches 40 to the left and 60 to the right at 80.
   const double C = (2000.0 * 45 + 800 * 20 + 1200 * 80) / 4000;
   const double Cy = (2000.0 * 100 + 2000 * 90) / 4000;
-  Check({L"自定义十字形截面",
-         {{L"b(mm)", 10},
-          {L"h(mm)", 200},
-          {L"bh1(mm)", 80},
-          {L"bh2(mm)", 100},
-          {L"bf1(mm)", 40},
-          {L"bf2(mm)", 60}},
-         std::hypot(C - 45, Cy - 90),
-         0,
-         "cross"});
+  Check({L"自定义十字形截面", {10, 200, 80, 100, 40, 60}, std::hypot(C - 45, Cy - 90), 0, "cross"});
 }
 
 struct CPiece {
@@ -158,9 +111,20 @@ struct CPiece {
   double Length() const { return std::hypot(dx, dy); }
 };
 
-// The shear centre of a cell by the flow of a vertical force: the flow of the cell cut open, and
-// the constant flow that undoes its twist. Symmetric about y = 0.
-double CellShearCentre(const std::vector<CPiece>& pieces) {
+// Many pieces of a wall from one point to the other, its thickness by x.
+template <class THICKNESS>
+void AddWall(std::vector<CPiece>& pieces, CPoint from, CPoint to, THICKNESS thickness) {
+  constexpr int kPieces = 20000;
+  const double dx = (to.x - from.x) / kPieces, dy = (to.y - from.y) / kPieces;
+  for (int i = 0; i < kPieces; ++i) {
+    const double x = from.x + dx * (i + 0.5), y = from.y + dy * (i + 0.5);
+    pieces.push_back({x, y, dx, dy, thickness(x)});
+  }
+}
+
+// Where the flow of a vertical force acts; in a cell, the flow of the cell cut open and the
+// constant one that undoes its twist. Symmetric about y = 0.
+double ShearCentre(const std::vector<CPiece>& pieces, bool cell) {
   double S = 0, twist = 0, path = 0;
   std::vector<double> flow;
   for (const CPiece& p : pieces) {
@@ -173,7 +137,7 @@ double CellShearCentre(const std::vector<CPiece>& pieces) {
   double moment = 0, force = 0;
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     const CPiece& p = pieces[i];
-    const double q = flow[i] - twist / path;
+    const double q = flow[i] - (cell ? twist / path : 0);
     moment += q * (p.x * p.dy - p.y * p.dx);
     force += q * p.dy;
   }
@@ -183,32 +147,19 @@ double CellShearCentre(const std::vector<CPiece>& pieces) {
 TEST(GeometryWarping, BoxWithUnequalWebs) {
   // Mid-lines 200 x 300; flanges 12, webs 10 and 30.
   constexpr double b = 200, h = 300, t = 12, left = 10, right = 30;
-  constexpr int kPieces = 20000;
   std::vector<CPiece> pieces;
-  const auto wall = [&pieces](double x1, double y1, double x2, double y2, double thick) {
-    for (int i = 0; i < kPieces; ++i) {
-      const double s = (i + 0.5) / kPieces;
-      pieces.push_back({x1 + (x2 - x1) * s, y1 + (y2 - y1) * s, (x2 - x1) / kPieces,
-                        (y2 - y1) / kPieces, thick});
-    }
-  };
-  wall(0, -h / 2, b, -h / 2, t);
-  wall(b, -h / 2, b, h / 2, right);
-  wall(b, h / 2, 0, h / 2, t);
-  wall(0, h / 2, 0, -h / 2, left);
+  const auto thick = [](double t) { return [t](double) { return t; }; };
+  AddWall(pieces, {0, -h / 2}, {b, -h / 2}, thick(t));
+  AddWall(pieces, {b, -h / 2}, {b, h / 2}, thick(right));
+  AddWall(pieces, {b, h / 2}, {0, h / 2}, thick(t));
+  AddWall(pieces, {0, h / 2}, {0, -h / 2}, thick(left));
 
   const double width = b + (left + right) / 2, web = h - t;
   const double A = (left + right) * web + 2 * t * width;
   const double xo =
       (left * web * left / 2 + right * web * (width - right / 2) + 2 * t * width * width / 2) / A;
-  const CDataItem row = RowOf(L"自定义非对称箱形截面", L"1",
-                              {{L"b(mm)", width},
-                               {L"h(mm)", h + t},
-                               {L"t1(mm)", t},
-                               {L"t2(mm)", t},
-                               {L"t3(mm)", left},
-                               {L"t4(mm)", right}});
-  EXPECT_NEAR(CLoadDataTable::GetDatIteme0(row), CellShearCentre(pieces) + left / 2 - xo, 1e-5);
+  const CDataItem row = RowOfPlates(L"自定义非对称箱形截面", {width, h + t, t, t, left, right});
+  EXPECT_NEAR(CLoadDataTable::GetDatIteme0(row), ShearCentre(pieces, true) + left / 2 - xo, 1e-5);
 }
 
 // A hot-rolled channel with its tapering flanges, by the flow of a vertical force and the sectorial
@@ -217,28 +168,13 @@ TEST(GeometryWarping, HotRolledChannel) {
   // [20a of GB/T 707.
   constexpr double height = 200, width = 73, tw = 7, t = 11, zo = 20.1;
   constexpr double h = height - t, b = width - tw / 2;
-  constexpr int kPieces = 4000;
   std::vector<CPiece> pieces;
-  const auto wall = [&pieces](double x1, double y1, double x2, double y2, auto thickness) {
-    for (int i = 0; i < kPieces; ++i) {
-      const double s = (i + 0.5) / kPieces, x = x1 + (x2 - x1) * s;
-      pieces.push_back(
-          {x, y1 + (y2 - y1) * s, (x2 - x1) / kPieces, (y2 - y1) / kPieces, thickness(x)});
-    }
-  };
   const auto flange = [](double x) { return t + ((b + tw / 2) / 2 - x) / 10; };
-  wall(b, -h / 2, 0, -h / 2, flange);
-  wall(0, -h / 2, 0, h / 2, [](double) { return tw; });
-  wall(0, h / 2, b, h / 2, flange);
+  AddWall(pieces, {b, -h / 2}, {0, -h / 2}, flange);
+  AddWall(pieces, {0, -h / 2}, {0, h / 2}, [](double) { return tw; });
+  AddWall(pieces, {0, h / 2}, {b, h / 2}, flange);
 
-  double S = 0, moment = 0, force = 0;
-  for (const CPiece& p : pieces) {
-    const double own = p.t * p.Length() * p.y;
-    S += own;
-    moment += (S - own / 2) * (p.x * p.dy - p.y * p.dx);
-    force += (S - own / 2) * p.dy;
-  }
-  const double e = moment / force;  // negative: beyond the web
+  const double e = ShearCentre(pieces, false);  // negative: beyond the web
   double w = 0, sum1 = 0, sum2 = 0, A = 0;
   for (const CPiece& p : pieces) {
     const double step = (p.x - e) * p.dy - p.y * p.dx, dA = p.t * p.Length();
@@ -261,7 +197,7 @@ TEST(GeometryWarping, HotRolledChannel) {
 
 // Missing sizes leave 0.
 TEST(GeometryWarping, MissingSizes) {
-  const CDataItem row = RowOf(L"自定义槽钢", L"1", {{L"b(mm)", 10}, {L"h(mm)", 300}});
+  const CDataItem row = RowOfPlates(L"自定义槽钢", {10, 300});
   EXPECT_EQ(CLoadDataTable::GetDatIteme0(row), 0);
   EXPECT_EQ(CLoadDataTable::GetDataItemIw(row), 0);
 }

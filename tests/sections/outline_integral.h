@@ -2,107 +2,106 @@
 #pragma once
 
 #include <cmath>
-#include <numbers>
+#include <utility>
 #include <vector>
+
+#include "sections/outline.h"
 
 struct CPoint {
   double x, y;
 };
+// Counter-clockwise ones bound steel, clockwise ones holes.
 using CPolygon = std::vector<CPoint>;
+using CPolygons = std::vector<CPolygon>;
 
-// Polygons whose areas add; holes carry sign -1. Their direction does not matter.
-struct COutline {
-  struct CPart {
+// The library's outline turned by so many degrees about the origin. Of an arc's moments, chords of
+// 1/200 radian take less than 1e-5.
+inline CPolygons Polygons(const orv3::COutline& outline, double degrees = 0,
+                          double chordsPerRadian = 200) {
+  CPolygons polygons;
+  for (const orv3::CPath& loop : outline.m_arrLoop) {
     CPolygon polygon;
-    double sign = 1;
-  };
-  std::vector<CPart> parts;
-
-  COutline(CPolygon polygon) { parts.push_back({std::move(polygon)}); }
-  COutline& Hole(CPolygon polygon) {
-    parts.push_back({std::move(polygon), -1});
-    return *this;
+    const orv3::CPath turned = orv3::Turned(loop, degrees);
+    const auto& vertices = turned.m_arrVertex;
+    for (std::size_t i = 0; i < vertices.size(); ++i) {
+      const orv3::CVertex from = vertices[i], to = vertices[(i + 1) % vertices.size()];
+      polygon.push_back({from.x, from.y});
+      if (from.bulge == 0) continue;
+      const orv3::CArc arc = orv3::EdgeArc(from, to);
+      const int chords = static_cast<int>(std::ceil(std::fabs(arc.sweep) * chordsPerRadian));
+      for (int k = 1; k < chords; ++k) {
+        const double angle = arc.start + arc.sweep * k / chords;
+        polygon.push_back({arc.center.x + arc.radius * std::cos(angle),
+                           arc.center.y + arc.radius * std::sin(angle)});
+      }
+    }
+    polygons.push_back(std::move(polygon));
   }
-  COutline& Plate(CPolygon polygon) {
-    parts.push_back({std::move(polygon)});
-    return *this;
-  }
-};
+  return polygons;
+}
 
 struct CIntegrals {
   double A = 0, x = 0, y = 0, xx = 0, yy = 0, xy = 0;  // of 1, x, y, x^2, ... over the area
 };
 
-inline CIntegrals Integrate(const CPolygon& p) {
+inline CIntegrals Integrate(const CPolygons& polygons) {
   CIntegrals sum;
-  for (std::size_t i = 0; i < p.size(); ++i) {
-    const CPoint a = p[i], b = p[(i + 1) % p.size()];
-    const double cross = a.x * b.y - b.x * a.y;
-    sum.A += cross / 2;
-    sum.x += (a.x + b.x) * cross / 6;
-    sum.y += (a.y + b.y) * cross / 6;
-    sum.xx += (a.x * a.x + a.x * b.x + b.x * b.x) * cross / 12;
-    sum.yy += (a.y * a.y + a.y * b.y + b.y * b.y) * cross / 12;
-    sum.xy += (2 * a.x * a.y + a.x * b.y + b.x * a.y + 2 * b.x * b.y) * cross / 24;
-  }
-  if (sum.A < 0) sum = {-sum.A, -sum.x, -sum.y, -sum.xx, -sum.yy, -sum.xy};
-  return sum;
-}
-
-inline CIntegrals Integrate(const COutline& outline) {
-  CIntegrals sum;
-  for (const auto& [polygon, sign] : outline.parts) {
-    const CIntegrals one = Integrate(polygon);
-    sum.A += sign * one.A;
-    sum.x += sign * one.x;
-    sum.y += sign * one.y;
-    sum.xx += sign * one.xx;
-    sum.yy += sign * one.yy;
-    sum.xy += sign * one.xy;
+  for (const CPolygon& p : polygons) {
+    for (std::size_t i = 0; i < p.size(); ++i) {
+      const CPoint a = p[i], b = p[(i + 1) % p.size()];
+      const double cross = a.x * b.y - b.x * a.y;
+      sum.A += cross / 2;
+      sum.x += (a.x + b.x) * cross / 6;
+      sum.y += (a.y + b.y) * cross / 6;
+      sum.xx += (a.x * a.x + a.x * b.x + b.x * b.x) * cross / 12;
+      sum.yy += (a.y * a.y + a.y * b.y + b.y * b.y) * cross / 12;
+      sum.xy += (2 * a.x * a.y + a.x * b.y + b.x * a.y + 2 * b.x * b.y) * cross / 24;
+    }
   }
   return sum;
 }
 
-// The part of the outline with `side` * (coordinate - at) >= 0, the coordinate x or y.
-inline COutline Clip(COutline outline, double CPoint::*coordinate, double at, double side) {
-  for (auto& part : outline.parts) {
-    const CPolygon p = std::move(part.polygon);
-    part.polygon.clear();
+// About the centroid (x, y); first moved near the origin, where little is lost.
+inline CIntegrals Central(CPolygons polygons) {
+  const CPoint origin = polygons.at(0).at(0);
+  for (CPolygon& polygon : polygons) {
+    for (CPoint& p : polygon) p = {p.x - origin.x, p.y - origin.y};
+  }
+  CIntegrals i = Integrate(polygons);
+  i.x /= i.A;
+  i.y /= i.A;
+  i.xx -= i.A * i.x * i.x;
+  i.yy -= i.A * i.y * i.y;
+  i.xy -= i.A * i.x * i.y;
+  i.x += origin.x;
+  i.y += origin.y;
+  return i;
+}
+
+// The part of the area with `side` * (coordinate - at) >= 0, the coordinate x or y.
+inline CPolygons Clip(CPolygons polygons, double CPoint::*coordinate, double at, double side) {
+  for (CPolygon& polygon : polygons) {
+    const CPolygon p = std::move(polygon);
+    polygon.clear();
     for (std::size_t i = 0; i < p.size(); ++i) {
       const CPoint a = p[i], b = p[(i + 1) % p.size()];
       const double da = side * (a.*coordinate - at), db = side * (b.*coordinate - at);
-      if (da >= 0) part.polygon.push_back(a);
+      if (da >= 0) polygon.push_back(a);
       if ((da > 0 && db < 0) || (da < 0 && db > 0)) {
         const double t = da / (da - db);
-        part.polygon.push_back({a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)});
+        polygon.push_back({a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)});
       }
     }
   }
-  return outline;
+  return polygons;
 }
 
 // First moments of the part beyond (side 1) or before (side -1) an axis, about the axis.
-inline double MomentX(const COutline& outline, double y, double side) {
-  const CIntegrals part = Integrate(Clip(outline, &CPoint::y, y, side));
+inline double MomentX(const CPolygons& polygons, double y, double side) {
+  const CIntegrals part = Integrate(Clip(polygons, &CPoint::y, y, side));
   return side * (part.y - y * part.A);
 }
-inline double MomentY(const COutline& outline, double x, double side) {
-  const CIntegrals part = Integrate(Clip(outline, &CPoint::x, x, side));
+inline double MomentY(const CPolygons& polygons, double x, double side) {
+  const CIntegrals part = Integrate(Clip(polygons, &CPoint::x, x, side));
   return side * (part.x - x * part.A);
-}
-
-inline CPolygon Box(double x0, double y0, double x1, double y1) {
-  return {{x0, y0}, {x1, y0}, {x1, y1}, {x0, y1}};
-}
-
-// A circle as a polygon of 40,000 corners on it: areas and moments are low by less than 2e-8.
-inline CPolygon Circle(double cx, double cy, double radius) {
-  constexpr int kCorners = 40000;
-  CPolygon p;
-  p.reserve(kCorners);
-  for (int i = 0; i < kCorners; ++i) {
-    const double angle = 2 * std::numbers::pi * (i + 0.5) / kCorners;
-    p.push_back({cx + radius * std::cos(angle), cy + radius * std::sin(angle)});
-  }
-  return p;
 }

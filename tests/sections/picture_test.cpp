@@ -1,105 +1,32 @@
+// The outline of every style, and the picture that is drawn of it.
+#include "sections/outline.h"
+
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cmath>
 #include <limits>
 #include <random>
-#include <sstream>
 
+#include "catalogue/outline/outline_moments.h"
 #include "framework/number_text.h"
 #include "picture_check.h"
-#include "sections/outline.h"
 #include "sections/section_picture.h"
+#include "sections/section_style.h"
+#include "sections/style_cases.h"
 #include "svg_check.h"
 
 namespace {
 
 using namespace orv3;
-using CSizes = std::array<double, kSectionSizes>;
-
-struct CIntegral {
-  double area = 0;
-  double x = 0;  // first moments, later the centroid
-  double y = 0;
-};
-
-// Green's theorem over the straight edges, and the circle segment beside each arc.
-CIntegral Integrate(const std::vector<CPath>& loops) {
-  CIntegral sum;
-  for (const CPath& loop : loops) {
-    const auto& v = loop.m_arrVertex;
-    for (std::size_t i = 0; i < v.size(); ++i) {
-      const CVertex& a = v[i];
-      const CVertex& b = v[(i + 1) % v.size()];
-      const double cross = a.x * b.y - b.x * a.y;
-      sum.area += cross / 2;
-      sum.x += cross * (a.x + b.x) / 6;
-      sum.y += cross * (a.y + b.y) / 6;
-      if (a.bulge == 0) continue;
-      // Only half circles occur: area and centroid of a half disc.
-      EXPECT_EQ(std::fabs(a.bulge), 1);
-      const double r = std::hypot(b.x - a.x, b.y - a.y) / 2;
-      const double disc = a.bulge * std::acos(-1.0) * r * r / 2;
-      const double shift = a.bulge * 4 * r / (3 * std::acos(-1.0)) / (2 * r);
-      sum.area += disc;
-      sum.x += disc * ((a.x + b.x) / 2 + shift * (b.y - a.y));
-      sum.y += disc * ((a.y + b.y) / 2 - shift * (b.x - a.x));
-    }
-  }
-  sum.x /= sum.area;
-  sum.y /= sum.area;
-  return sum;
-}
-
-// Area and centroid worked out by hand from the plates.
-const struct CStyleCase {
-  int style;
-  CSizes sizes;
-  double width, height, area, x, y;
-} kStyles[] = {
-    {0, {300, 400, 20, 10}, 300, 400, 15600, 150, 200},
-    {1, {300, 400, 12}, 300, 400, 16224, 150, 200},
-    {2, {500, 600, 200, 250, 12, 20}, 500, 600, 30096, 250, 300},
-    {3, {200, 400}, 200, 400, 80000, 100, 200},
-    {4, {100}, 173.205080757, 200, 25980.7621135, 86.6025403784, 100},
-    {5, {300, 400}, 300, 400, 60000, 150, 400.0 / 3},
-    {6, {150}, 300, 300, 70685.8347058, 150, 150},
-    {7, {150, 140}, 300, 300, 9110.61869541, 150, 150},
-    {8,
-     {10, 250, 16, 90, 100},
-     200,
-     250,
-     5540,
-     (3200 * 100.0 + 2340 * 95) / 5540,
-     (3200 * 242.0 + 2340 * 117) / 5540},
-    {9,
-     {10, 400, 20, 16, 80, 120, 145, 145},
-     300,
-     400,
-     13000,
-     2017200 / 13000.0,
-     2112400 / 13000.0},
-    {9,
-     {10, 400, 20, 16, 145, 20, 80, 145},
-     300,
-     400,
-     175 * 16 + 3640 + 235 * 20,
-     (2800 * 87.5 + 3640 * 150.0 + 4700 * 182.5) / 11140,
-     (2800 * 392.0 + 3640 * 202 + 4700 * 10) / 11140},
-    {10, {10, 200, 12, 110}, 120, 200, 3320, 95800 / 3320.0, 207920 / 3320.0},
-    {11, {8, 200, 10, 10, 70, 80}, 158, 200, 3100, 237300 / 3100.0, 300500 / 3100.0},
-    {12, {10, 320, 14, 14, 90, 80}, 100, 320, 5580, 141300 / 5580.0, 871380 / 5580.0},
-    {13, {40, 400, 160, 200, 150, 170}, 360, 400, 28800, 175, 5504000 / 28800.0},
-    {14, {300, 400, 12, 20, 10, 14}, 300, 400, 18432, 2967936 / 18432.0, 3280128 / 18432.0},
-};
+using CSizes = CStyleSizes;
 
 TEST(Outline, HasTheAreaAndCentroidOfThePlates) {
-  for (const CStyleCase& c : kStyles) {
+  for (const CStyleCase& c : kStyleCases) {
     const COutline outline = SectionOutline(c.style, c.sizes);
-    const CIntegral sum = Integrate(outline.m_arrLoop);
-    EXPECT_NEAR(sum.area, c.area, 1e-9 * c.area) << c.style;
-    EXPECT_NEAR(sum.x, c.x, 1e-9 * c.width) << c.style;
-    EXPECT_NEAR(sum.y, c.y, 1e-9 * c.height) << c.style;
+    const COutlineMoments m = RowOutlineMoments(outline.m_arrLoop);
+    EXPECT_NEAR(m.m_dArea, c.area, 1e-9 * c.area) << c.style;
+    EXPECT_NEAR(m.m_centroid.x, c.x, 1e-9 * c.width) << c.style;
+    EXPECT_NEAR(m.m_centroid.y, c.y, 1e-9 * c.height) << c.style;
     const CBox box = PathBounds(outline.m_arrLoop);
     EXPECT_NEAR(box.left, 0, 1e-9) << c.style;
     EXPECT_NEAR(box.bottom, 0, 1e-9) << c.style;
@@ -147,47 +74,25 @@ TEST(Outline, TakesOddButLegalSizes) {
   for (const auto& c : cases) {
     const COutline outline = SectionOutline(c.style, c.sizes);
     EXPECT_EQ(outline.m_arrLoop.size(), c.loops) << c.what;
-    const double area = c.loops ? Integrate(outline.m_arrLoop).area : 0;
-    EXPECT_NEAR(area, c.area, 1e-9 * c.area) << c.what;
+    EXPECT_NEAR(RowOutlineMoments(outline.m_arrLoop).m_dArea, c.area, 1e-9 * c.area) << c.what;
   }
 }
 
-// --- The picture
-// ----------------------------------------------------------------------------------
+// --- The picture ---------------------------------------------------------------------------------
 
 CSectionPicture Picture(int style, const CSizes& sizes, CPoint base) {
-  const COutline outline = SectionOutline(style, sizes);
-  const CIntegral sum = Integrate(outline.m_arrLoop);
-  return {style, sizes, base, {sum.x, sum.y}, L"截面", L"A<1> & \"B\""};
+  const CPoint centroid = RowOutlineMoments(SectionOutline(style, sizes).m_arrLoop).m_centroid;
+  return {style, sizes, base, centroid, L"截面", L"A<1> & \"B\""};
 }
 
 TEST(SectionPicture, ShowsEverySizeWithItsSignAndValue) {
-  const char* signs[kSectionStyles] = {"b h tf tw",
-                                       "b h t",
-                                       "b h bf1 bf2 tw tf",
-                                       "b h",
-                                       "a",
-                                       "b h",
-                                       "R",
-                                       "R r",
-                                       "b h bh bf1 bf2",
-                                       "b h bh1 bh2 bf1 bf2 bf3 bf4",
-                                       "b h bh bf",
-                                       "b h bh1 bh2 bf1 bf2",
-                                       "b h bh1 bh2 bf1 bf2",
-                                       "b h bh1 bh2 bf1 bf2",
-                                       "b h t1 t2 t3 t4"};
-  for (const CStyleCase& c : kStyles) {
+  for (const CStyleCase& c : kStyleCases) {
     const std::string svg = SectionPictureSvg(Picture(c.style, c.sizes, {0, 0}));
     CheckSvg(svg);
-    std::size_t i = 0;
-    std::istringstream words(signs[c.style]);
-    for (std::string sign; words >> sign; ++i) {
-      std::string text = ">";
-      text += sign;
-      text += " = ";
-      text += ToUtf8(FormatG(c.sizes[i]));
-      text += "<";
+    for (std::size_t i = 0; i < FindSectionStyle(c.style)->Sizes().size(); ++i) {
+      const std::string sign = ToUtf8(FindSectionStyle(c.style)->Sizes()[i].m_szSign);
+      const std::string text =
+          ">" + sign.substr(0, sign.find('(')) + " = " + ToUtf8(FormatG(c.sizes[i])) + "<";
       EXPECT_NE(svg.find(text), std::string::npos) << c.style << " " << text;
     }
     for (const char* letter : {">X<", ">Y<", ">X0<", ">Y0<"})
@@ -198,7 +103,7 @@ TEST(SectionPicture, ShowsEverySizeWithItsSignAndValue) {
 TEST(SectionPicture, NeverLetsTextsCollide) {
   std::mt19937 random(1);
   int drawn = 0;
-  for (const CStyleCase& c : kStyles) {
+  for (const CStyleCase& c : kStyleCases) {
     for (const CPoint at : {CPoint{0, 0}, {0.5, 0.5}, {1, 1}, {-0.3, 0.4}, {0.5, 1.2}, {9, 9}}) {
       const CPoint base{at.x * c.width, at.y * c.height};
       CheckLegible(SectionPictureDrawing(Picture(c.style, c.sizes, base)), std::to_string(c.style));

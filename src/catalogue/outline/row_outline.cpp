@@ -10,32 +10,12 @@
 namespace orv3 {
 namespace {
 
-struct CTableShape {
-  const wchar_t* m_szTable;
-  COutline (*m_pShape)(CRowSizes&);
-};
-
-constexpr CTableShape kShapes[] = {
-    {L"热轧普通工字钢", OrdinaryI},     {L"热轧轻型工字钢", LightI},
-    {L"热轧普通焊接H型钢", WeldedH},    {L"热轧轻型焊接H型钢", WeldedH},
-    {L"热轧宽翼缘H型钢", RolledH},      {L"热轧窄翼缘H型钢", RolledH},
-    {L"冷弯薄壁方钢管", SquareTube},    {L"剖分T型钢", SplitT},
-    {L"热轧普通槽钢", RolledChannel},   {L"热轧轻型槽钢", RolledChannel},
-    {L"冷弯薄壁槽钢", ColdChannel},     {L"冷弯薄壁卷边槽钢", LippedChannel},
-    {L"冷弯薄壁卷边Z型钢", LippedZ},    {L"冷弯薄壁斜卷边Z型钢", SlopingLipZ},
-    {L"冷弯焊接薄壁圆钢管", RoundTube}, {L"热轧等边角钢", EqualAngle},
-    {L"热轧不等边角钢", UnequalAngle},  {L"冷弯薄壁等边角钢", ColdAngle},
-    {L"冷弯卷边等边角钢", LippedAngle},
-};
-
 COutline RolledOutline(const CDataItem& row) {
-  for (const CTableShape& shape : kShapes) {
-    if (row.GetTableName() != shape.m_szTable) continue;
-    CRowSizes sizes(row);
-    const COutline outline = shape.m_pShape(sizes);
-    return sizes.IsWhole() ? outline : COutline{};
-  }
-  return {};
+  const CRolledTable* table = FindRolledTable(row.GetTableName());
+  if (table == nullptr) return {};
+  CRowSizes sizes(row);
+  const COutline outline = table->m_pShape(sizes);
+  return sizes.IsWhole() ? outline : COutline{};
 }
 
 // The style's columns follow "No." in their order.

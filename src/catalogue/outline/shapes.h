@@ -6,6 +6,7 @@
 #include "catalogue/outline/row_sizes.h"
 #include "catalogue/outline/row_spacing.h"
 #include "sections/outline.h"
+#include "sections/section_dimensions.h"
 
 namespace orv3 {
 
@@ -31,6 +32,14 @@ COutline LippedZ(CRowSizes& sizes);
 COutline SlopingLipZ(CRowSizes& sizes);
 COutline SquareTube(CRowSizes& sizes);
 COutline RoundTube(CRowSizes& sizes);
+
+// A rolled-section table: its shape, and where its sizes are measured on it (rolled_tables.cpp).
+struct CRolledTable {
+  const wchar_t* m_szTable;
+  COutline (*m_pShape)(CRowSizes&);
+  std::vector<CSizeDimension> (*m_pDimensions)(CRowSizes&, const COutline&);
+};
+const CRolledTable* FindRolledTable(const CString& tableName);  // null for another table
 
 // The quarter turns of an angle in degrees; 0 for any other angle than 90, 180 and 270.
 int QuarterTurns(double angle);
