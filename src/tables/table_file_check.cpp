@@ -54,18 +54,17 @@ class CCheck {
 
   void Text(int row, int column, const wchar_t* part, std::wstring_view text, int limit,
             bool last) {
-    const CString name = part;
     if (std::ssize(text) > limit) {
-      Add(row, column, name + L" of " + Count(std::ssize(text), L"characters", limit));
+      Add(row, column, CString(part) + L" of " + Count(std::ssize(text), L"characters", limit));
     }
     bool missing = false;
     EncodeText(text, &missing);
-    if (missing) Add(row, column, name + L" has a character that the code page lacks");
-    if (text.find_first_of(std::wstring_view(L"\n\0", 2)) != std::wstring_view::npos) {
-      Add(row, column, name + L" has a line feed, which would end it");
+    if (missing) Add(row, column, CString(part) + L" has a character that the code page lacks");
+    if (text.find(L'\n') != text.npos || text.find(L'\0') != text.npos) {
+      Add(row, column, CString(part) + L" has a line feed, which would end it");
     }
     if (text.find(kFieldSeparator) != std::wstring_view::npos || (!last && text.ends_with(L','))) {
-      Add(row, column, name + L" has \",,,\" or ends with \",\", which would split it");
+      Add(row, column, CString(part) + L" has \",,,\" or ends with \",\", which would split it");
     }
   }
 
