@@ -45,8 +45,8 @@ std::string_view CTableDirectory::RecordBytes(int i) const {
 CDataFileInfo CTableDirectory::Record(int i) const { return RecordOf(DecodeText(RecordBytes(i))); }
 
 CString CTableDirectory::Name(int i) const {
-  const CString form = DecodeText(RecordBytes(i));
-  return CString(form.View().substr(0, form.View().find(kFieldSeparator)));
+  const std::string_view bytes = RecordBytes(i);  // no character has a comma for its second byte
+  return DecodeText(bytes.substr(0, bytes.find(EncodeText(kFieldSeparator))));
 }
 
 int CTableDirectory::Count() const {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 #include "framework/exception.h"
 #include "framework/number_text.h"
@@ -139,8 +140,9 @@ bool RowOf(std::wstring_view form, const CDataTableTitle& title, bool cut, CData
   row.Clear();
   row.m_arrCell.Reserve(title.GetTableTitleNum());
   for (std::size_t i = 2; i < wanted; ++i) {
-    const auto value = i < fields.size() ? fields[i].substr(0, kMaxStoredValue) : L"";
-    row.m_arrCell.Add(CDataCell(title[static_cast<int>(i) - 2], value));
+    CDataCell cell(title[static_cast<int>(i) - 2], CString());
+    if (i < fields.size()) cell.m_strValue = fields[i].substr(0, kMaxStoredValue);
+    row.m_arrCell.Add(std::move(cell));
   }
   return true;
 }
