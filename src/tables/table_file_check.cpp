@@ -1,5 +1,6 @@
 #include "tables/table_file_check.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -57,8 +58,9 @@ class CCheck {
     if (std::ssize(text) > limit) {
       Add(row, column, CString(part) + L" of " + Count(std::ssize(text), L"characters", limit));
     }
-    bool missing = false;
-    EncodeText(text, &missing);
+    bool missing = false;  // no code page lacks a character of ASCII
+    if (std::any_of(text.begin(), text.end(), [](wchar_t ch) { return ch > 0x7F; }))
+      EncodeText(text, &missing);
     if (missing) Add(row, column, CString(part) + L" has a character that the code page lacks");
     if (text.find(L'\n') != text.npos || text.find(L'\0') != text.npos) {
       Add(row, column, CString(part) + L" has a line feed, which would end it");
