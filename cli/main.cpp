@@ -76,8 +76,11 @@ int Run(int argc, char** argv) {
   } catch (const CLI::Success& help) {
     return program.exit(help);
   } catch (const CLI::ParseError& error) {
-    const auto used = program.get_subcommands();
-    const std::string name = used.empty() ? "" : used.front()->get_name() + " ";
+    std::string name;
+    for (const CLI::App* used = &program; !used->get_subcommands().empty();) {
+      used = used->get_subcommands().front();
+      name += used->get_name() + " ";
+    }
     return Fail(CExit::BadInput, error.what() + (" (see orv3cal " + name + "--help)"));
   }
   return static_cast<int>(CExit::Done);
