@@ -207,6 +207,15 @@ void OpenSqlite(benchmark::State& state) {
   }
 }
 
+void SelectSqlite(benchmark::State& state) {
+  CDatabase database(DatabaseFile());
+  std::string sql[2];
+  for (int i = 0; i < 2; ++i)
+    sql[i] = "SELECT * FROM \"" + orv3::ToUtf8(CString(i == 0 ? kTable : kOther)) + "\"";
+  int i = 0;
+  for (auto _ : state) Check(database.Query(sql[++i % 2], kVisible) > 30, "reading a table");
+}
+
 void SearchSqlite(benchmark::State& state, const char* condition, int found) {
   CDatabase database(DatabaseFile());
   const std::string sql = std::string("SELECT * FROM big WHERE ") + condition;
@@ -216,6 +225,7 @@ void SearchSqlite(benchmark::State& state, const char* condition, int found) {
 BENCHMARK(OpenBrowser)->Unit(benchmark::kMicrosecond);
 BENCHMARK(OpenSqlite)->Unit(benchmark::kMicrosecond);
 BENCHMARK(SelectTable)->Unit(benchmark::kMicrosecond);
+BENCHMARK(SelectSqlite)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Search, text, L"No.==*I2*", 1, 2352)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(SearchSqlite, text, "c0 LIKE '%I2%'", 2352)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Search, number, L"A(cm^2)>>50", 0, 7056)->Unit(benchmark::kMicrosecond);

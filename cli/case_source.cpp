@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include "error.h"
 #include "framework/csv.h"
@@ -27,24 +28,77 @@ std::string ReadFile(const std::string& path) {
 
 // --- JSON --------------------------------------------------------------------------------------
 
+// An array, its cases and their lists are three levels; a fault quotes a value with what lies in
+// it.
+constexpr int kDeepest = 16;
+
+// Goes through the whole text without keeping anything of it.
+void CheckJson(const std::string& bytes, const std::string& path) {
+  try {
+    const CJson nothing = CJson::parse(bytes, [&](int depth, CJson::parse_event_t, CJson&) {
+      if (depth > kDeepest) Bad(path + ": is nested too deep; give a case, or an array of them");
+      return false;
+    });
+  } catch (const CJson::exception& error) {
+    const std::string what = error.what();
+    const std::size_t text = what.find("] ");
+    Bad(path + ": is no JSON, " + (text == std::string::npos ? what : what.substr(text + 2)));
+  }
+}
+
+// Keeps one case at a time of a text that CheckJson has passed.
 class CJsonSource : public CCaseSource {
  public:
-  CJsonSource(CJson json, const CCaseSchema& schema)
-      : m_json(std::move(json)), m_schema(schema), m_bSingle(m_json.is_object()) {}
+  CJsonSource(std::string bytes, const std::string& path, const CCaseSchema& schema)
+      : m_strBytes(std::move(bytes)), m_schema(schema) {
+    CheckJson(m_strBytes, path);
+    m_nAt = m_strBytes.starts_with("\xEF\xBB\xBF") ? 3 : 0;
+    m_nAt = m_strBytes.find_first_not_of(kSpace, m_nAt);
+    m_bSingle = m_strBytes[m_nAt] == '{';
+    if (!m_bSingle && m_strBytes[m_nAt] != '[')
+      Bad(path + ": holds no case; give an object, or an array of them");
+    if (!m_bSingle) ++m_nAt;
+  }
 
   bool IsSingle() const noexcept override { return m_bSingle; }
   double Done() const noexcept override {
-    return m_bSingle ? 1 : static_cast<double>(m_nNext) / static_cast<double>(m_json.size());
+    return static_cast<double>(m_nAt) / static_cast<double>(m_strBytes.size());
   }
 
   bool Next(CCaseValues& values, std::optional<CCaseFault>& fault) override {
-    if (m_nNext >= (m_bSingle ? 1 : m_json.size())) return false;
-    Read(m_bSingle ? m_json : m_json[m_nNext], values, fault);
-    ++m_nNext;
+    m_nAt = std::min(m_strBytes.find_first_not_of(kBetween, m_nAt), m_strBytes.size());
+    if (m_nAt == m_strBytes.size() || m_strBytes[m_nAt] == ']') return false;
+    const std::size_t from = std::exchange(m_nAt, EndOfValue(m_nAt));
+    m_case = CJson::parse(m_strBytes.begin() + static_cast<std::ptrdiff_t>(from),
+                          m_strBytes.begin() + static_cast<std::ptrdiff_t>(m_nAt));
+    Read(m_case, values, fault);
     return true;
   }
 
  private:
+  static constexpr const char* kSpace = " \t\r\n";
+  static constexpr const char* kBetween = " \t\r\n,";
+
+  // Behind the value that starts at `at`: where its own brackets are closed, or where those around
+  // it go on.
+  std::size_t EndOfValue(std::size_t at) const {
+    int open = 0;
+    for (; at < m_strBytes.size(); ++at) {
+      const char ch = m_strBytes[at];
+      if (open == 0 && (ch == ',' || ch == ']')) break;
+      if (ch == '{' || ch == '[') ++open;
+      if (ch == '}' || ch == ']') --open;
+      if (ch == '"') at = EndOfText(at);
+    }
+    return at;
+  }
+
+  // The quotation mark that ends the text whose first one is at `at`.
+  std::size_t EndOfText(std::size_t at) const {
+    while (m_strBytes[++at] != '"') at += m_strBytes[at] == '\\' ? 1 : 0;
+    return at;
+  }
+
   void Read(const CJson& object, CCaseValues& values, std::optional<CCaseFault>& fault) {
     if (!object.is_object()) {
       fault = CCaseFault{"case", "is no object", "give the keys of one case in braces"};
@@ -90,10 +144,11 @@ class CJsonSource : public CCaseSource {
     return true;
   }
 
-  CJson m_json;
+  const std::string m_strBytes;
   const CCaseSchema& m_schema;
-  bool m_bSingle;
-  std::size_t m_nNext = 0;
+  bool m_bSingle = false;
+  std::size_t m_nAt = 0;  // what lies before has been read
+  CJson m_case;
   std::vector<double> m_arrNumber;  // of the lists of the case at hand
 };
 
@@ -180,17 +235,7 @@ std::unique_ptr<CCaseSource> OpenCases(const std::string& path, const CCaseSchem
   if (!IsUtf8(bytes)) Bad(path + ": is no UTF-8; save it as UTF-8");
   if (path.ends_with(".csv") || path.ends_with(".CSV"))
     return std::make_unique<CCsvSource>(std::move(bytes), path, schema);
-  CJson json;
-  try {
-    json = CJson::parse(bytes);
-  } catch (const CJson::exception& error) {
-    const std::string what = error.what();
-    const std::size_t text = what.find("] ");
-    Bad(path + ": is no JSON, " + (text == std::string::npos ? what : what.substr(text + 2)));
-  }
-  if (!json.is_object() && !json.is_array())
-    Bad(path + ": holds no case; give an object, or an array of them");
-  return std::make_unique<CJsonSource>(std::move(json), schema);
+  return std::make_unique<CJsonSource>(std::move(bytes), path, schema);
 }
 
 }  // namespace orv3::cli

@@ -50,17 +50,16 @@ int Choice(const CArguments& arguments, std::size_t at, const char* name,
   Refuse(name, arguments[at], right);
 }
 
-// The same for whole numbers.
-template <std::size_t COUNT>
+// The same for numbers.
+template <class NUMBER, std::size_t COUNT>
 int Choice(const CArguments& arguments, std::size_t at, const char* name,
-           const int (&numbers)[COUNT]) {
-  const double number = Number(arguments, at, name, "a number");
+           const NUMBER (&numbers)[COUNT]) {
   std::string right = "one of";
-  for (std::size_t i = 0; i < COUNT; ++i) {
-    if (number == numbers[i]) return static_cast<int>(i);
-    right += (i == 0 ? " " : ", ") + std::to_string(numbers[i]);
-  }
-  Refuse(name, arguments[at], right);
+  for (std::size_t i = 0; i < COUNT; ++i) right += (i == 0 ? " " : ", ") + NumberText(numbers[i]);
+  const double number = Number(arguments, at, name, right.c_str());
+  const auto* found = std::find(std::begin(numbers), std::end(numbers), number);
+  if (found == std::end(numbers)) Refuse(name, arguments[at], right);
+  return static_cast<int>(found - std::begin(numbers));
 }
 
 int Whole(const CArguments& arguments, std::size_t at, const char* name, int first, int last) {
@@ -227,6 +226,17 @@ CFigure MuStep2(const CArguments& a) {
   return {mu, "", bFree ? "GB 50017-2003, Table D-5" : "GB 50017-2003, Table D-6"};
 }
 
+// The table prints no rule between its figures, so that an argument must be one of them.
+CFigure MuTaper(const CArguments& a) {
+  static constexpr double kStiffness[] = {0.1, 0.2, 0.3, 0.5, 0.75, 1, 2, 10};  // 10 and above
+  CArguments capped = a;
+  if (Number(a, 1, "K2/K1", kRatio) > 10) capped[1] = "10";
+  double mu = 0;
+  CTableSearch::SearchSub22(Choice(a, 0, "IC0/IC1", CTableSearch::g_sub22_1),
+                            Choice(capped, 1, "K2/K1", kStiffness), mu);
+  return {mu, "", "CECS 102:2002, Table 6.1.3"};
+}
+
 CFigure BucklingClass(const CArguments& a) {
   CString name;
   CTableSearch::SearchSub5(Whole(a, 0, "KIND", 1, 30), Choice(a, 1, "AXIS", kAxes), name);
@@ -283,12 +293,24 @@ constexpr CQuestion kQuestions[] = {
      MuStep},
     {"mu-step2", "free|sliding ETA1 ETA2 K1 K2", 5, 0,
      "The same, lowest part of a double-stepped column", MuStep2},
+    {"mu-taper", "IC0/IC1 K2/K1", 2, 0,
+     "The same, tapered column with a pinned foot; figures of the table only", MuTaper},
     {"class", "KIND x|y", 2, 0, "Buckling class of a section kind 1 to 30", BucklingClass},
     {"class-thick", "ROW x|y", 2, 0, "Buckling class with plates of 40 mm and more, row 1 to 6",
      ThickClass},
     {"gamma", "KIND x|y", 2, 0, "Plastic development factor of a section kind 0 to 22", Gamma},
     {"fatigue", "CATEGORY C|beta", 2, 0, "Fatigue parameters of a detail category 1 to 8", Fatigue},
 };
+
+void CheckCount(const CQuestion& question, std::size_t count) {
+  const auto given = static_cast<int>(count);
+  if (given <= question.m_nArguments && given >= question.m_nArguments - question.m_nOptional)
+    return;
+  throw CCommandError(CExit::BadInput, std::string("code ") + question.m_szName + " takes " +
+                                           question.m_szArguments + "; " + std::to_string(given) +
+                                           (given == 1 ? " argument was" : " arguments were") +
+                                           " given");
+}
 
 void PrintFigure(const CFigure& figure, bool bJson) {
   const double* number = std::get_if<double>(&figure.m_value);
@@ -315,11 +337,10 @@ void AddCodeCommand(CLI::App& program) {
   for (const CQuestion& question : kQuestions) {
     auto options = std::make_shared<COptions>();
     CLI::App* command = code->add_subcommand(question.m_szName, question.m_szHelp);
-    command->add_option("ARGUMENTS", options->arguments, question.m_szArguments)
-        ->required()
-        ->expected(question.m_nArguments - question.m_nOptional, question.m_nArguments);
+    command->add_option("ARGUMENTS", options->arguments, question.m_szArguments);
     command->add_flag("--json", options->json, "As JSON, the number with all its digits");
     command->callback([options, &question] {
+      CheckCount(question, options->arguments.size());
       PrintFigure(question.m_pAnswer(options->arguments), options->json);
     });
   }

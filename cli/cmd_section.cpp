@@ -117,11 +117,12 @@ std::string Unit(int power) {
 void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
   Print(ToUtf8(style.m_szTable) + " (" + style.m_szShape + ")" + (name.empty() ? "" : "  " + name) +
         "\n\n");
-  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left});
+  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
   for (int i = 0; i < style.m_nSizes; ++i) {
-    const std::string sign = ToUtf8(style.Sizes()[static_cast<std::size_t>(i)].m_szSign);
-    table.AddRow({ToUtf8(style.Sizes()[static_cast<std::size_t>(i)].m_szTitle),
-                  sign.substr(0, sign.find('(')), NumberText(record.m_dSize[i]), "mm"});
+    const CSizeColumn& size = style.Sizes()[static_cast<std::size_t>(i)];
+    const std::string sign = ToUtf8(size.m_szSign);
+    table.AddRow({ToUtf8(size.m_szTitle), sign.substr(0, sign.find('(')),
+                  NumberText(record.m_dSize[i]), "mm", size.m_szMeaning});
   }
   table.AddRule();
   bool infinite = false;
@@ -129,8 +130,8 @@ void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const 
     if (!Has(style, property)) continue;
     const double value = record.*property.m_pField;
     infinite = infinite || value >= 1e100;
-    table.AddRow(
-        {ToUtf8(property.m_szTitle), property.m_szKey, NumberText(value), Unit(property.m_nPower)});
+    table.AddRow({ToUtf8(property.m_szTitle), property.m_szKey, NumberText(value),
+                  Unit(property.m_nPower), property.m_szMeaning});
   }
   Print(table.Text());
   if (infinite) Print("\n∞: the base point lies on that edge of the section\n");

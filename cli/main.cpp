@@ -39,15 +39,20 @@ std::vector<std::string> ForParsing(int argc, char** argv) {
   return arguments;
 }
 
-// What is wrong when the first argument is no command; empty when it is one, or an option.
-std::string UnknownCommand(const CLI::App& program, const std::vector<std::string>& arguments) {
-  if (arguments.empty() || arguments.back().starts_with('-')) return {};
-  std::string names;
-  for (const CLI::App* command : program.get_subcommands({})) {
-    if (command->get_name() == arguments.back()) return {};
-    names += (names.empty() ? "" : ", ") + command->get_name();
+// What is wrong when a word that must be a command is none; empty when it is one, or an option.
+std::string UnknownCommand(const CLI::App* command, const std::vector<std::string>& arguments) {
+  for (auto word = arguments.rbegin(); word != arguments.rend(); ++word) {
+    const auto commands = command->get_subcommands({});
+    if (commands.empty() || word->starts_with('-')) return {};
+    std::string names;
+    command = nullptr;
+    for (const CLI::App* each : commands) {
+      if (each->get_name() == *word) command = each;
+      names += (names.empty() ? "" : ", ") + each->get_name();
+    }
+    if (!command) return "\"" + *word + "\" is no command; right would be one of " + names;
   }
-  return "\"" + arguments.back() + "\" is no command; right would be one of " + names;
+  return {};
 }
 
 int Run(int argc, char** argv) {
@@ -63,7 +68,7 @@ int Run(int argc, char** argv) {
   if (!std::all_of(arguments.begin(), arguments.end(), orv3::IsUtf8)) {
     return Fail(CExit::BadInput, "an argument is not UTF-8 text");
   }
-  if (const std::string fault = UnknownCommand(program, arguments); !fault.empty()) {
+  if (const std::string fault = UnknownCommand(&program, arguments); !fault.empty()) {
     return Fail(CExit::BadInput, fault);
   }
   try {
@@ -71,8 +76,11 @@ int Run(int argc, char** argv) {
   } catch (const CLI::Success& help) {
     return program.exit(help);
   } catch (const CLI::ParseError& error) {
-    const auto used = program.get_subcommands();
-    const std::string name = used.empty() ? "" : used.front()->get_name() + " ";
+    std::string name;
+    for (const CLI::App* used = &program; !used->get_subcommands().empty();) {
+      used = used->get_subcommands().front();
+      name += used->get_name() + " ";
+    }
     return Fail(CExit::BadInput, error.what() + (" (see orv3cal " + name + "--help)"));
   }
   return static_cast<int>(CExit::Done);

@@ -11,30 +11,31 @@ namespace {
 
 struct CFigure {
   const char* m_szKey;
-  const char* m_szTitle;
+  const char* m_szTitle;    // Chinese
+  const char* m_szMeaning;  // English
   const char* m_szUnit;
   double CRowFigures::*m_pField;
 };
 
 constexpr CFigure kFigures[] = {
-    {"area", "截面面积", "mm²", &CRowFigures::m_dArea},
-    {"width", "外接矩形宽", "mm", &CRowFigures::m_dWidth},
-    {"height", "外接矩形高", "mm", &CRowFigures::m_dHeight},
-    {"xc", "重心距左边", "mm", &CRowFigures::m_dXc},
-    {"yc", "重心距底边", "mm", &CRowFigures::m_dYc},
-    {"Ix", "X轴惯性矩", "mm⁴", &CRowFigures::m_dIx},
-    {"Iy", "Y轴惯性矩", "mm⁴", &CRowFigures::m_dIy},
-    {"Sxo", "X轴面积矩", "mm³", &CRowFigures::m_dSxo},
-    {"ix", "X轴回转半径", "mm", &CRowFigures::m_dRx},
-    {"iy", "Y轴回转半径", "mm", &CRowFigures::m_dRy},
-    {"Wxo1", "X轴抵抗矩(上)", "mm³", &CRowFigures::m_dWTop},
-    {"Wxo2", "X轴抵抗矩(下)", "mm³", &CRowFigures::m_dWBottom},
-    {"WyoL", "Y轴抵抗矩(左)", "mm³", &CRowFigures::m_dWLeft},
-    {"WyoR", "Y轴抵抗矩(右)", "mm³", &CRowFigures::m_dWRight},
-    {"tmax", "最大板厚", "mm", &CRowFigures::m_dThickest},
-    {"tmin", "最小板厚", "mm", &CRowFigures::m_dThinnest},
-    {"e0", "剪心距离", "mm", &CRowFigures::m_dE0},
-    {"Iw", "扇性惯性矩", "mm⁶", &CRowFigures::m_dIw},
+    {"area", "截面面积", "area", "mm²", &CRowFigures::m_dArea},
+    {"width", "外接矩形宽", "width of the bounding box", "mm", &CRowFigures::m_dWidth},
+    {"height", "外接矩形高", "height of the bounding box", "mm", &CRowFigures::m_dHeight},
+    {"xc", "重心距左边", "centroid from the left", "mm", &CRowFigures::m_dXc},
+    {"yc", "重心距底边", "centroid from the bottom", "mm", &CRowFigures::m_dYc},
+    {"Ix", "X轴惯性矩", "moment of inertia about X", "mm⁴", &CRowFigures::m_dIx},
+    {"Iy", "Y轴惯性矩", "moment of inertia about Y", "mm⁴", &CRowFigures::m_dIy},
+    {"Sxo", "X轴面积矩", "first moment about X", "mm³", &CRowFigures::m_dSxo},
+    {"ix", "X轴回转半径", "radius of gyration about X", "mm", &CRowFigures::m_dRx},
+    {"iy", "Y轴回转半径", "radius of gyration about Y", "mm", &CRowFigures::m_dRy},
+    {"Wxo1", "X轴抵抗矩(上)", "modulus about X, top", "mm³", &CRowFigures::m_dWTop},
+    {"Wxo2", "X轴抵抗矩(下)", "modulus about X, bottom", "mm³", &CRowFigures::m_dWBottom},
+    {"WyoL", "Y轴抵抗矩(左)", "modulus about Y, left", "mm³", &CRowFigures::m_dWLeft},
+    {"WyoR", "Y轴抵抗矩(右)", "modulus about Y, right", "mm³", &CRowFigures::m_dWRight},
+    {"tmax", "最大板厚", "thickest plate", "mm", &CRowFigures::m_dThickest},
+    {"tmin", "最小板厚", "thinnest plate", "mm", &CRowFigures::m_dThinnest},
+    {"e0", "剪心距离", "shear centre distance", "mm", &CRowFigures::m_dE0},
+    {"Iw", "扇性惯性矩", "warping constant", "mm⁶", &CRowFigures::m_dIw},
 };
 
 const char* TypeName(CDataTypeStruct::KVBT_Value_Type type) {
@@ -71,7 +72,7 @@ std::pair<std::string, std::string> SymbolAndUnit(const std::string& sign) {
   return {sign.substr(0, open), unit};
 }
 
-std::string YesNo(bool value) { return value ? "是" : "否"; }
+std::string YesNo(bool value) { return value ? "是 yes" : "否 no"; }
 
 }  // namespace
 
@@ -99,7 +100,7 @@ CJson RowJson(const CDataItem& row, const CRowFigures& figures) {
 
 void PrintRow(const CDataItem& row, const CRowFigures& figures) {
   Print(ToUtf8(row.m_strTableName) + "  " + ToUtf8(row[0].m_strValue) + "\n\n");
-  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left});
+  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
   for (const CDataCell& cell : row.m_arrCell) {
     if (cell.m_bKey != 0) continue;
     const auto [symbol, unit] = SymbolAndUnit(ToUtf8(cell.m_strSign));
@@ -109,10 +110,11 @@ void PrintRow(const CDataItem& row, const CRowFigures& figures) {
   for (const CFigure& figure : kFigures) {
     const double value = figures.*figure.m_pField;
     if (std::isfinite(value))
-      table.AddRow({figure.m_szTitle, figure.m_szKey, NumberText(value), figure.m_szUnit});
+      table.AddRow({figure.m_szTitle, figure.m_szKey, NumberText(value), figure.m_szUnit,
+                    figure.m_szMeaning});
   }
-  table.AddRow({"对称于X轴", "symX", YesNo(figures.m_bSymX), ""});
-  table.AddRow({"对称于Y轴", "symY", YesNo(figures.m_bSymY), ""});
+  table.AddRow({"对称于X轴", "symX", YesNo(figures.m_bSymX), "", "symmetric about X"});
+  table.AddRow({"对称于Y轴", "symY", YesNo(figures.m_bSymY), "", "symmetric about Y"});
   Print(table.Text());
 }
 

@@ -78,12 +78,13 @@ class CRefusalCatcher {
   CString m_text;
 };
 
-void Save(CDataTable& table, const CString& store) {
-  const auto faults = SaveFaults(table, store);
+void Save(CDataTable& table, CStoreToWrite& store) {
+  const auto faults = SaveFaults(table, store.Path());
   if (!faults.empty()) Refuse(ToUtf8(faults.front().m_strText));
-  if (!table.WriteTable(store, kSystemKind, 0)) {
+  if (!table.WriteTable(store.Path(), kSystemKind, 0)) {
     throw CCommandError(CExit::FileTrouble, ToUtf8(LastStoreError().m_strText));
   }
+  store.Commit();
 }
 
 void Tell(const COptions& options, const CDataItem& row, const char* done) {
@@ -91,22 +92,6 @@ void Tell(const COptions& options, const CDataItem& row, const char* done) {
   if (!options.json) return Print(options.table + " \"" + no + "\": " + done + "\n");
   PrintJson({{"table", options.table}, {"no", no}, {"done", done}, {"cells", RowCells(row)}});
 }
-
-// The store, kept to this command over reading, changing and saving.
-class COpenStore {
- public:
-  explicit COpenStore(const COptions& options)
-      : m_strPath(StoreToWrite(options.store)), m_lock(m_strPath) {
-    if (!m_lock.IsHeld()) {
-      throw CCommandError(CExit::FileTrouble, ToUtf8(LastStoreError().m_strText));
-    }
-  }
-  const CString& Path() const { return m_strPath; }
-
- private:
-  CString m_strPath;
-  CStoreLock m_lock;
-};
 
 // The store's table; one that it lacks but people know is started.
 CDataTable TableToAddTo(const CString& store, const CString& name) {
@@ -136,7 +121,7 @@ int RowToChange(const CDataTable& table, const COptions& options) {
 // --- Commands ------------------------------------------------------------------------------------
 
 void RunAdd(const COptions& options) {
-  const COpenStore store(options);
+  CStoreToWrite store(options.store);
   const CString name = FromUtf8(options.table);
   if (CLoadDataTable::IsTableNameType(name, kPairs)) Refuse("型钢组合不能进行复制");
   CDataTable table = TableToAddTo(store.Path(), name);
@@ -144,27 +129,27 @@ void RunAdd(const COptions& options) {
   SetCells(table, options, row);
   const CRefusalCatcher caught;
   if (!table.AddTableItem(row, 1)) caught.Throw();
-  Save(table, store.Path());
+  Save(table, store);
   Tell(options, row, "added");
 }
 
 void RunEdit(const COptions& options) {
-  const COpenStore store(options);
+  CStoreToWrite store(options.store);
   CDataTable table = StoreTable(store.Path(), FromUtf8(options.table));
   CDataItem row = std::as_const(table)[RowToChange(table, options)];
   SetCells(table, options, row);
   const CRefusalCatcher caught;
   if (!table.ModifyTableItem(row.m_nIndex, row)) caught.Throw();
-  Save(table, store.Path());
+  Save(table, store);
   Tell(options, row, "changed");
 }
 
 void RunDelete(const COptions& options) {
-  const COpenStore store(options);
+  CStoreToWrite store(options.store);
   CDataTable table = StoreTable(store.Path(), FromUtf8(options.table));
   const CDataItem row = std::as_const(table)[RowToChange(table, options)];
   table.DeleteTableItem(row.m_nIndex);
-  Save(table, store.Path());
+  Save(table, store);
   Tell(options, row, "deleted");
 }
 

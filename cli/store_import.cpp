@@ -132,16 +132,16 @@ bool IsRefused(const CTableImport& table) {
 }
 
 void RunImport(const COptions& options) {
-  const CString store = StoreToWrite(options.store);
+  CStoreToWrite store(options.store);
   CImportReport report;
   {
     CProgress progress;
-    const std::vector<CImportTable> sources = ReadSources(options, store, progress);
+    const std::vector<CImportTable> sources = ReadSources(options, store.Path(), progress);
     CImportOptions how;
     how.m_bOverwrite = options.overwrite;
     how.m_strTable = FromUtf8(options.table);
     how.m_progress = [&progress](double done) { progress.Share(0.5 + done / 2); };
-    report = ImportTables(sources, store, how);
+    report = ImportTables(sources, store.Path(), how);  // which commits what is in the store
   }
   if (!report.m_bDone) throw CCommandError(CExit::FileTrouble, ToUtf8(report.m_strWhy));
   if (options.json) {

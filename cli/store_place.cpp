@@ -8,7 +8,6 @@
 #include "platform/file_system.h"
 #include "platform/places.h"
 #include "platform/store_error.h"
-#include "platform/store_file.h"
 #include "sections/system_tables.h"
 #include "tables/table_store.h"
 
@@ -39,10 +38,17 @@ CString ShippedStore() {
   return program.IsEmpty() ? CString() : In(program + L"/share/orv3cal");
 }
 
+// An empty file is one that a command about to save keeps to itself.
+bool HoldsTables(const CString& store) {
+  CFileStamp stamp;
+  const CFileError error = store.IsEmpty() ? CFileError::NotFound : Files().Stamp(store, stamp);
+  return error == CFileError::None ? stamp.m_nSize > 0 : error != CFileError::NotFound;
+}
+
 // The catalogue of those who name no store; empty when there is none.
 CString OwnCatalogue() {
   for (const CString& store : {UserStore(), ShippedStore()}) {
-    if (!store.IsEmpty() && IsThere(store)) return store;
+    if (HoldsTables(store)) return store;
   }
   return {};
 }
@@ -66,31 +72,29 @@ CString Catalogue(const CStoreOptions& options) {
   return options.data.empty() ? OwnCatalogue() : DataStore(options);
 }
 
-// Puts the shipped store's bytes into the user's, unless somebody was faster.
-void CopyShipped(const CString& shipped, const CString& user) {
+CString OwnStore() {
+  const CString user = UserStore();
+  if (user.IsEmpty()) Fail(L"no folder for your own store is known; name one with --store FILE");
   if (!MakeFolders(FolderOf(user))) Fail(FolderOf(user) + L": this folder cannot be made");
-  const CStoreLock lock(user);
-  const auto to = lock.IsHeld() ? CStoreFile::OpenToWrite(user) : nullptr;
-  if (!to) Fail(LastStoreError().m_strText);
-  if (to->Size() > 0) return;
+  return user;
+}
+
+CString PathToWrite(const CStoreOptions& options) {
+  SetBusyWait(std::chrono::seconds{5});
+  if (!options.store.empty()) return FromUtf8(options.store);
+  return options.data.empty() ? OwnStore() : DataStore(options);
+}
+
+// The user's own store starts with the bytes of the shipped one, if there is one.
+void StartFromShipped(const CString& user) {
+  const CString shipped = ShippedStore();
+  const auto to = CStoreFile::OpenToWrite(user);
+  if (to->Size() > 0 || !HoldsTables(shipped)) return;
   const auto from = CStoreFile::OpenToRead(shipped);
   if (!from) Fail(LastStoreError().m_strText);
   std::string bytes(static_cast<std::size_t>(from->Size()), '\0');
   if (!from->Read(0, bytes.data(), bytes.size())) Fail(shipped + L": cannot be read");
   if (!to->Write(0, bytes.data(), bytes.size()) || !to->Commit()) Fail(LastStoreError().m_strText);
-}
-
-CString OwnStoreToWrite() {
-  const CString user = UserStore();
-  if (user.IsEmpty()) Fail(L"no folder for your own store is known; name one with --store FILE");
-  if (IsThere(user)) return user;
-  const CString shipped = ShippedStore();
-  if (!shipped.IsEmpty() && IsThere(shipped)) {
-    CopyShipped(shipped, user);
-  } else if (!MakeFolders(FolderOf(user))) {
-    Fail(FolderOf(user) + L": this folder cannot be made");
-  }
-  return user;
 }
 
 }  // namespace
@@ -120,16 +124,15 @@ CString StoreToRead(const CStoreOptions& options) {
   return store;
 }
 
-CString StoreToWrite(const CStoreOptions& options) {
-  SetBusyWait(std::chrono::seconds{5});
-  if (!options.store.empty()) {
-    const CString store = FromUtf8(options.store);
-    UseFor(store, Catalogue(options));
-    return store;
-  }
-  const CString store = options.data.empty() ? OwnStoreToWrite() : DataStore(options);
-  UseFor(store, store);
-  return store;
+CStoreToWrite::CStoreToWrite(const CStoreOptions& options)
+    : m_strPath(PathToWrite(options)), m_batch(m_strPath) {
+  if (!m_batch.IsHeld()) Fail(LastStoreError().m_strText);
+  if (options.store.empty() && options.data.empty()) StartFromShipped(m_strPath);
+  UseFor(m_strPath, options.store.empty() ? m_strPath : Catalogue(options));
+}
+
+void CStoreToWrite::Commit() {
+  if (!m_batch.Commit()) Fail(LastStoreError().m_strText);
 }
 
 }  // namespace orv3::cli

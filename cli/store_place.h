@@ -3,13 +3,14 @@
 // --store FILE is taken as it stands. Else it is KvbSystemJmDataBase.KDB in --data DIR (or
 // ORV3CAL_DATA); else the user's own copy; else the one that comes with the installation, in
 // share/orv3cal beside the program's folder. The last one is never changed: the first command that
-// writes without --store and --data copies it to the user's folder.
+// saves without --store and --data saves into a copy of it in the user's folder.
 #pragma once
 
 #include <CLI/App.hpp>
 #include <string>
 
 #include "framework/cstring.h"
+#include "platform/store_file.h"
 
 namespace orv3::cli {
 
@@ -21,11 +22,24 @@ struct CStoreOptions {
 // Adds --store and --data.
 void AddStoreOptions(CLI::App& command, CStoreOptions& options);
 
-// The file of the store to read, or to change; CCommandError with status 3 when there is none.
-// CLoadDataTable's look-ups then go to it first and, for what a --store lacks, to the catalogue
-// that would serve without --store. With a writing command openers wait five seconds for a busy
-// file, and a store that is not there yet may be made.
+// The file of the store to read; CCommandError with status 3 when there is none. CLoadDataTable's
+// look-ups then go to it first and, for what a --store lacks, to the catalogue that would serve
+// without --store.
 CString StoreToRead(const CStoreOptions& options);
-CString StoreToWrite(const CStoreOptions& options);
+
+// The store to change, kept to this command from its making to its end, with look-ups as above. It
+// may be one that is not there yet. What is saved into it comes into the file with Commit, the copy
+// of the shipped store with it: a command that is refused before leaves nothing behind.
+// CCommandError with status 3 when the store, busy for five seconds perhaps, cannot be had.
+class CStoreToWrite {
+ public:
+  explicit CStoreToWrite(const CStoreOptions& options);
+  const CString& Path() const noexcept { return m_strPath; }
+  void Commit();
+
+ private:
+  CString m_strPath;
+  CStoreBatch m_batch;
+};
 
 }  // namespace orv3::cli

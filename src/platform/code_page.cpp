@@ -130,23 +130,24 @@ bool SetAnsiCodePage(int codePage) { return CPages::Instance().Select(codePage);
 std::string ToAnsi(std::wstring_view text, bool* missing) {
   const CPage& page = CPages::Instance().Current();
   if (page.m_nNumber == kUtf8) return ToUtf8(text);
-  std::string bytes;
-  bytes.reserve(text.size());
+  std::string bytes(2 * text.size(), '\0');
+  char* end = bytes.data();
   for (const wchar_t ch : text) {
     const auto code = std::uint32_t{static_cast<std::make_unsigned_t<wchar_t>>(ch)};
     const std::uint16_t encoded = code < 0x10000 ? page.m_arrEncode[code] : std::uint16_t{0};
-    if (encoded > 0xFF) bytes += static_cast<char>(encoded >> 8);
+    if (encoded > 0xFF) *end++ = static_cast<char>(encoded >> 8);
     if (encoded == 0 && missing) *missing = true;
-    bytes += encoded == 0 ? '?' : static_cast<char>(encoded & 0xFF);
+    *end++ = encoded == 0 ? '?' : static_cast<char>(encoded & 0xFF);
   }
+  bytes.resize(static_cast<std::size_t>(end - bytes.data()));
   return bytes;
 }
 
 CString FromAnsi(std::string_view bytes) {
   const CPage& page = CPages::Instance().Current();
   if (page.m_nNumber == kUtf8) return FromUtf8(bytes.substr(0, Cut(page, bytes, bytes.size())));
-  std::wstring text;
-  text.reserve(bytes.size());
+  std::wstring text(bytes.size(), L'\0');
+  wchar_t* end = text.data();
   for (std::size_t at = 0; at < bytes.size(); ++at) {
     const char byte = bytes[at];
     char16_t character = page.m_decode.m_arrSingle[Byte(byte)];
@@ -156,9 +157,9 @@ CString FromAnsi(std::string_view bytes) {
       character = page.m_decode.m_arrPair[std::size_t{Byte(byte)} * 256 + Byte(bytes[at + 1])];
       if (character) ++at;
     }
-    text += character ? static_cast<wchar_t>(character) : kReplacement;
+    *end++ = character ? static_cast<wchar_t>(character) : kReplacement;
   }
-  return text;
+  return CString(text.data(), static_cast<int>(end - text.data()));
 }
 
 std::size_t AnsiCut(std::string_view bytes, std::size_t limit) {

@@ -1,5 +1,6 @@
 #include "tables/table_file_check.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -54,18 +55,18 @@ class CCheck {
 
   void Text(int row, int column, const wchar_t* part, std::wstring_view text, int limit,
             bool last) {
-    const CString name = part;
     if (std::ssize(text) > limit) {
-      Add(row, column, name + L" of " + Count(std::ssize(text), L"characters", limit));
+      Add(row, column, CString(part) + L" of " + Count(std::ssize(text), L"characters", limit));
     }
-    bool missing = false;
-    EncodeText(text, &missing);
-    if (missing) Add(row, column, name + L" has a character that the code page lacks");
-    if (text.find_first_of(std::wstring_view(L"\n\0", 2)) != std::wstring_view::npos) {
-      Add(row, column, name + L" has a line feed, which would end it");
+    bool missing = false;  // no code page lacks a character of ASCII
+    if (std::any_of(text.begin(), text.end(), [](wchar_t ch) { return ch > 0x7F; }))
+      EncodeText(text, &missing);
+    if (missing) Add(row, column, CString(part) + L" has a character that the code page lacks");
+    if (text.find(L'\n') != text.npos || text.find(L'\0') != text.npos) {
+      Add(row, column, CString(part) + L" has a line feed, which would end it");
     }
     if (text.find(kFieldSeparator) != std::wstring_view::npos || (!last && text.ends_with(L','))) {
-      Add(row, column, name + L" has \",,,\" or ends with \",\", which would split it");
+      Add(row, column, CString(part) + L" has \",,,\" or ends with \",\", which would split it");
     }
   }
 

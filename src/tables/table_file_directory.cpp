@@ -44,15 +44,20 @@ std::string_view CTableDirectory::RecordBytes(int i) const {
 
 CDataFileInfo CTableDirectory::Record(int i) const { return RecordOf(DecodeText(RecordBytes(i))); }
 
+CString CTableDirectory::Name(int i) const {
+  const std::string_view bytes = RecordBytes(i);  // no character has a comma for its second byte
+  return DecodeText(bytes.substr(0, bytes.find(EncodeText(kFieldSeparator))));
+}
+
 int CTableDirectory::Count() const {
   int count = 0;
-  while (count < kMaxTables && !Record(count).m_strTableName.IsEmpty()) ++count;
+  while (count < kMaxTables && !Name(count).IsEmpty()) ++count;
   return count;
 }
 
 int CTableDirectory::Find(const CString& table) const {
   for (int i = 0; i < kMaxTables; ++i) {
-    const CString name = Record(i).m_strTableName;
+    const CString name = Name(i);
     if (name.IsEmpty()) return -1;
     if (name == table) return i;
   }

@@ -127,6 +127,6 @@ int CDataTable::GetTableNameFromFile(const CString& path, CStringArray& names) {
   CTableDirectory directory;
   if (!directory.Read(*file)) return NotATableFile(path);
   const int count = directory.Count();
-  for (int i = 0; i < count; ++i) names.Add(directory.Record(i).m_strTableName);
+  for (int i = 0; i < count; ++i) names.Add(directory.Name(i));
   return count;
 }

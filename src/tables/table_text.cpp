@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 #include "framework/exception.h"
 #include "framework/number_text.h"
@@ -25,7 +26,7 @@ void AddField(std::wstring& form, std::wstring_view field) {
 
 // A value up to its first line feed or zero, which would end the whole text and lose all after it.
 std::wstring_view OneLine(std::wstring_view value) {
-  return value.substr(0, value.find_first_of(std::wstring_view(L"\n\0", 2)));
+  return value.substr(0, std::min(value.find(L'\n'), value.find(L'\0')));
 }
 
 std::wstring ColumnForm(const CDataTypeStruct& column) {
@@ -89,6 +90,7 @@ std::string_view FieldBytes(std::string_view field) { return field.substr(0, fie
 std::vector<std::wstring_view> SplitFields(std::wstring_view form) {
   constexpr std::wstring_view kSeparator = kFieldSeparator;
   std::vector<std::wstring_view> fields;
+  fields.reserve(form.size() / 8 + 1);  // about
   for (;;) {
     const std::size_t at = form.find(kSeparator);
     fields.push_back(form.substr(0, at));
@@ -117,6 +119,7 @@ CDataTableTitle HeadingOf(std::wstring_view form) {
 
 std::wstring RowForm(const CDataItem& row, int state) {
   std::wstring form(FormatInt(row.m_nIndex).View());
+  form.reserve(static_cast<std::size_t>(row.GetItemLength() + 1) * 12);  // about
   AddField(form, FormatInt(state));
   for (int i = 0; i < row.GetItemLength(); ++i) {
     AddField(form, OneLine(row[i].m_strValue.View().substr(0, kMaxStoredValue)));
@@ -135,9 +138,11 @@ bool RowOf(std::wstring_view form, const CDataTableTitle& title, bool cut, CData
   row.m_nIndex = ToInt(fields[0]);
   row.m_nModifyType = ToInt(fields[1]);
   row.Clear();
-  row.SetItemTitle(title);
-  for (std::size_t i = 2; i < fields.size(); ++i) {
-    row[static_cast<int>(i) - 2].m_strValue = fields[i].substr(0, kMaxStoredValue);
+  row.m_arrCell.Reserve(title.GetTableTitleNum());
+  for (std::size_t i = 2; i < wanted; ++i) {
+    CDataCell cell(title[static_cast<int>(i) - 2], CString());
+    if (i < fields.size()) cell.m_strValue = fields[i].substr(0, kMaxStoredValue);
+    row.m_arrCell.Add(std::move(cell));
   }
   return true;
 }

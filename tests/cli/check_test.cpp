@@ -208,6 +208,8 @@ TEST(CodeCommand, LooksFiguresUp) {
       {"mu sway 0.04 0.02", nullptr},
       {"mu sway 12 40", 1.03},
       {"mu-step free 0.2 0.06", 2.0},
+      {"mu-taper 0.05 0.5", 0.644},
+      {"mu-taper 0.2 25", 0.969},
       {"gamma 2 y", 1.2},
       {"class 1 x", "a"},
       {"class-thick 2 y", "d"},
@@ -227,7 +229,7 @@ TEST(CodeCommand, LooksFiguresUp) {
   EXPECT_NEAR(phi["value"].get<double>(), 0.856, 0.0005);
   for (const char* bad :
        {"steel Q235 101", "steel Q236 10", "bolt C 8.8 ft", "preload 8.8 18", "weld Q235 10",
-        "phi 50 0 b", "mu-step2 free 0.1 0.2 0.1 0.2", "steel Q235 1x"}) {
+        "phi 50 0 b", "mu-step2 free 0.1 0.2 0.1 0.2", "mu-taper 0.04 0.5", "steel Q235 1x"}) {
     const CRunResult run = RunProgram(std::string("code ") + bad);
     EXPECT_EQ(run.m_nExit, 2) << bad;
     EXPECT_TRUE(run.m_strOut.empty()) << bad;

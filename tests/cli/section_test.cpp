@@ -121,8 +121,10 @@ TEST(SectionCommand, WritesAPicture) {
 
 TEST(SectionCommand, AlignsItsColumns) {
   const std::string text = RunProgram("section rect 200 400").m_strOut;
-  EXPECT_NE(text.find("截面面积        A          80000  mm²\n"), std::string::npos) << text;
-  EXPECT_NE(text.find("X0轴抵抗矩(上)  Wxo1     5333333  mm³\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("截面面积        A          80000  mm²  area\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("X0轴抵抗矩(上)  Wxo1     5333333  mm³  modulus about X0, top\n"),
+            std::string::npos)
+      << text;
   EXPECT_NE(text.find("∞"), std::string::npos);
 }
 

@@ -299,6 +299,13 @@ TEST_F(StoreCommand, TheShippedStoreIsCopiedAtTheFirstWriteAndNeverChanged) {
   ASSERT_FALSE(shipped.empty());
   EXPECT_EQ(RunProgram("rows 热轧普通槽钢").m_nExit, 0);
   EXPECT_FALSE(Exists(m_folder.Path(L"home")));
+  // A refused command makes no copy of the shipped store.
+  for (const std::string& refused :
+       {"delete " + kH + " none", std::string("edit 热轧普通工字钢 I10 --set A=1"),
+        "add " + kH + " --set No.=a", std::string("import none.kvb")}) {
+    EXPECT_NE(RunProgram("store " + refused).m_nExit, 0) << refused;
+    EXPECT_FALSE(Exists(m_folder.Path(L"home/orv3cal/KvbSystemJmDataBase.KDB"))) << refused;
+  }
   ASSERT_EQ(RunProgram("store " + AddH("H1")).m_nExit, 0);
   EXPECT_TRUE(FileBytes(ORV3CAL_CATALOGUE "/KvbSystemJmDataBase.KDB") == shipped);
   const auto rows = [](const std::string& options) {

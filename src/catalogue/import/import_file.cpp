@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "catalogue/import/table_import.h"
-#include "catalogue/rolled/read_file.h"
 #include "catalogue/rolled/rolled_record.h"
 #include "catalogue/rolled/rolled_style.h"
 #include "framework/number_text.h"
@@ -100,9 +99,11 @@ bool ReadRecords(const CString& file, const CRolledStyle& style, std::string& re
   return true;
 }
 
-// Records that become no row of their own, and those that cannot be any.
-bool CheckRecords(const CString& file, const CRolledStyle& style, const std::string& records,
-                  std::vector<CRefusedRow>& refused, CString& why) {
+// The records as rows, new ones for the user's twin. False for one that cannot be a row.
+bool TakeRecords(const CString& file, const CRolledStyle& style, const std::string& records,
+                 bool userTwin, CImportTable& source, CString& why) {
+  source.m_table.SetTableName(style.m_strName);
+  source.m_table.m_Title = RolledTitle(style);
   std::set<CString> seen;
   const auto size = static_cast<std::size_t>(style.m_nSize);
   for (std::size_t at = 0; at < records.size(); at += size) {
@@ -122,8 +123,10 @@ bool CheckRecords(const CString& file, const CRolledStyle& style, const std::str
                         values[i + 1] + L", which is no number",
                     why);
     }
-    if (!seen.insert(no).second) {
-      refused.push_back({no, L"the file has an earlier record of this number"});
+    if (seen.insert(no).second) {
+      source.m_table.AddTableItem(values, userTwin ? 1 : 0);
+    } else {
+      source.m_arrRefused.push_back({no, L"the file has an earlier record of this number"});
     }
   }
   return true;
@@ -143,17 +146,12 @@ bool ReadDataFile(const CString& file, std::vector<CImportTable>& tables, CStrin
   CImportTable source;
   std::string records;
   if (!ReadRecords(file, style, records, why) ||
-      !CheckRecords(file, style, records, source.m_arrRefused, why)) {
+      !TakeRecords(file, style, records, userTwin, source, why)) {
     return false;
   }
   if (records.empty()) {
     // A user who has no sections of a style still has its file.
     return userTwin || Refuse(file, L"it holds no record", why);
-  }
-  // A folder that is none: the rows of the file alone are wanted, not those of a store with it.
-  source.m_table.SetSaveTablePath(file + L"/");
-  if (!CReadFile::GetIronData(file.GetString(), source.m_table)) {
-    return Refuse(file, L"no rolled-section data can be read from it", why);
   }
   tables.push_back(std::move(source));
   return true;

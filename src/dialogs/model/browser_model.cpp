@@ -96,14 +96,10 @@ CListChange CBrowserModel::SelectNode(int node) {
 void CBrowserModel::LoadNode(int node) {
   m_session.WriteBack(m_user);
   m_nNode = node;
-  m_pPreview.reset();
   m_session.Clear();
   if (HasTable()) {
     const bool read = m_session.Load(m_arrNode[static_cast<std::size_t>(node)].m_strText, m_user);
     if (read && Full().GetTableColNum() < 2) m_session.MakeLatticeTable(m_user);
-    CBitmap* picture = nullptr;
-    Full().GetItemBitmap(picture);
-    m_pPreview.reset(picture);
   }
   m_strFilter.Empty();
   m_strView.Empty();
@@ -117,7 +113,9 @@ bool CBrowserModel::HasTable() const {
   return m_nNode >= 0 && m_arrNode[static_cast<std::size_t>(m_nNode)].m_bTable;
 }
 
-int CBrowserModel::PreviewResource() const { return SketchResource(Full().GetTableName()); }
+int CBrowserModel::PreviewResource() const {
+  return HasTable() ? SketchResource(Full().GetTableName()) : 0;
+}
 
 // --- Search -------------------------------------------------------------------------------------
 

@@ -5,7 +5,6 @@
 // shown table. Every change is in the store before the call that made it returns.
 #pragma once
 
-#include <memory>
 #include <vector>
 
 #include "dialogs/model/browser_tree.h"
@@ -13,7 +12,6 @@
 #include "dialogs/model/store_failure.h"
 #include "dialogs/model/table_session.h"
 #include "framework/array.h"
-#include "framework/bitmap.h"
 #include "framework/cstring.h"
 #include "tables/data_table.h"
 
@@ -57,8 +55,7 @@ class CBrowserModel {
   // Follows `node` down its first children and shows the table found there. A root or family is
   // refused a table of its own. None when that table is shown already.
   CListChange SelectNode(int node);
-  // The sketch of the table's sections; null without a table.
-  const CBitmap* Preview() const noexcept { return m_pPreview.get(); }
+  // The sketch of the table's sections, for SketchBitmap; 0 without a table.
   int PreviewResource() const;
 
   // --- Search -----------------------------------------------------------------------------------
@@ -145,7 +142,6 @@ class CBrowserModel {
   CDataTable m_shown;
   std::vector<int> m_arrItemRow;  // positions in the shown table
   int m_nItem = -1;
-  std::unique_ptr<CBitmap> m_pPreview;
 
   CStringArray m_arrSearchColumn;
   int m_nSearchColumn = 0;

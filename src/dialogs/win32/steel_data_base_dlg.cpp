@@ -104,7 +104,7 @@ void CSteelDataBaseDlg::OnOK() {
 void CSteelDataBaseDlg::OnDpiChanged() {
   MakeImages();
   RebuildColumns();
-  m_sketch.Show(Control(IDC_SKETCH), m_pModel->Preview() ? m_pModel->PreviewResource() : 0, Dpi());
+  m_sketch.Show(Control(IDC_SKETCH), m_pModel->PreviewResource(), Dpi());
 }
 
 void CSteelDataBaseDlg::HoldControls() {
@@ -218,7 +218,7 @@ void CSteelDataBaseDlg::ShowTable() {
   const auto node = static_cast<std::size_t>(m_pModel->SelectedNode());
   if (node < m_arrTreeItem.size()) TreeView_SelectItem(Control(IDC_TREE), m_arrTreeItem[node]);
   m_bShowing = false;
-  m_sketch.Show(Control(IDC_SKETCH), m_pModel->Preview() ? m_pModel->PreviewResource() : 0, Dpi());
+  m_sketch.Show(Control(IDC_SKETCH), m_pModel->PreviewResource(), Dpi());
   const HWND columns = Control(IDC_SEARCH_COLUMN);
   SendMessageW(columns, CB_RESETCONTENT, 0, 0);
   for (const CString& sign : m_pModel->SearchColumns()) {
