@@ -123,6 +123,7 @@ TEST(BoltProperties, MostStressedBoltCoversEveryBolt) {
     ExpectSame(sumX, load.Vx, "sum of x forces");
     ExpectSame(sumY, load.Vy, "sum of y forces");
     ExpectSame(torque, load.T, "torque");
+    ExpectSame(std::hypot(group.m_dNTx, group.m_dNTy), group.m_dNT, "the torque's force");
   });
 }
 
