@@ -110,7 +110,7 @@ void ExpectWarned(const typename CHECK::CCase& good, const std::vector<CChange>&
 TEST(BoltCase, RefusesTheImpossibleByKey) {
   ExpectRefused<CBoltCheck>(Ordinary(), {{"cols", 0},
                                          {"rows", -1},
-                                         {"rows", 1e9},
+                                         {"rows", 60000},
                                          {"layout", 2},
                                          {"t", 0},
                                          {"t", NAN},

@@ -131,10 +131,12 @@ TEST_F(KeyCheck, AgreesWithTheWalkUnderRandomWork) {
         },
         [&] { table.m_arrItem.InsertAt(position(), row()); },
         [&] { table.m_arrItem[position()].m_nModifyType = below(4) - 2; },
-        // A key column that is compared with the first column of its sign; trimmed, with a blank
-        // in front, before it is looked up, so that it is never found.
+        // Signs of the key columns: both compared with the first column of that sign, or, with a
+        // blank in front that is trimmed before it is looked up, never found.
         [&] {
-          table.SetTableColSign(2, below(9) ? L"b" : below(2) ? L"a" : L" b");
+          const int column = below(2) * 2;
+          const wchar_t* const own = column == 0 ? L"a" : L"b";
+          table.SetTableColSign(column, below(9) ? own : below(2) ? L"a" : L" x");
         },
         [&] {
           CDataItem added = row();

@@ -51,8 +51,10 @@ CDataTableTitle Title() {
   return title;
 }
 
-TEST(Title, ReportsKeysAndPositions) {
+TEST(Title, CutsTextsAndReportsPositions) {
   CDataTableTitle title = Title();
+  EXPECT_EQ(title.SetDataTableTitle(0, CString(L'钢', 70)), 1);
+  EXPECT_EQ(title.GetColName(0), CString(L'钢', 64));
   EXPECT_EQ(title.SetDataTableSign(3, L"x"), 0);
   EXPECT_EQ(title.SetDataTableKeyIndex(2, 5), 1);
   CArray<int, int> keys;
@@ -71,12 +73,12 @@ TEST(Title, ComparesEveryAttribute) {
   EXPECT_EQ(title.IsEqualOf(Title()), 1);
   EXPECT_EQ(CDataTableTitle().IsEqualOf(CDataTableTitle()), 1);
   EXPECT_EQ(title.IsEqualOf(CDataTableTitle()), 0);
-  CDataTableTitle other = Title();
-  other[1].m_bKey = 1;
-  EXPECT_EQ(title.IsEqualOf(other), 0);
-  other = Title();
-  other[1].m_strSign = L"B";
-  EXPECT_EQ(title.IsEqualOf(other), 0);
+  CDataTableTitle others[4] = {title, title, title, title};
+  others[0][1].m_strName = L"高";
+  others[1][1].m_strSign = L"B";
+  others[2][1].m_nType = T::KVBT_FLOAT;
+  others[3][1].m_bKey = 1;
+  for (const CDataTableTitle& other : others) EXPECT_EQ(title.IsEqualOf(other), 0);
 }
 
 TEST(Row, FindsCellsBySign) {
