@@ -98,6 +98,7 @@ TEST(CheckCommand, RefusesByKeyInOneLine) {
       {"fillet", R"({"he": 5})", {"he", "more than one way"}},
       {"fillet", R"({"hf": null})", {"he", "missing", "hf with angle"}},
       {"fillet", R"({"case": 6})", {"case", "at most 5"}},
+      {"butt", R"({"quality": 0})", {"quality", "at least 1"}},
   };
   for (const auto& each : cases) {
     Json input = Example(each.kind);

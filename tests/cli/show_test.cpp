@@ -131,7 +131,8 @@ TEST(ShowCommand, AlignsItsColumns) {
 TEST(ShowCommand, WritesPictureAndOutline) {
   const COwnFile svg("c.svg");
   const COwnFile dxf("c.dxf");
-  ShowJson("热轧普通槽钢 [20a --turn 180 --svg " + svg.m_strPath + " --dxf " + dxf.m_strPath);
+  const std::string files = " --svg " + svg.m_strPath + " --dxf " + dxf.m_strPath;
+  EXPECT_EQ(RunProgram(Show("热轧普通槽钢 [20a --turn 180" + files)).m_nExit, 0);
   CheckSvg(svg.Bytes());
   ExpectHas(svg.Bytes(), {"[20a", "tw = 7", "r1 = 5.5"});
   ExpectHas(dxf.Bytes(), {"AC1015", "LWPOLYLINE"});
