@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -10,7 +11,12 @@
 
 namespace {
 
-std::string ErrorFile() { return OwnFile("stderr.txt"); }
+std::string OwnPath(const std::string& name) {
+  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+  return std::string(test->test_suite_name()) + "." + test->name() + "." + name;
+}
+
+std::string ErrorFile() { return OwnPath("stderr.txt"); }
 
 #ifdef _WIN32
 std::FILE* Open(const std::string& arguments) {
@@ -35,10 +41,13 @@ std::string WithoutReturns(std::string text) {
 
 }  // namespace
 
-std::string OwnFile(const std::string& name) {
-  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-  return std::string(test->test_suite_name()) + "." + test->name() + "." + name;
+COwnFile::COwnFile(const std::string& name) : m_strPath(OwnPath(name)) {}
+
+COwnFile::COwnFile(const std::string& name, const std::string& bytes) : COwnFile(name) {
+  orv3::WriteWholeFile(orv3::FromUtf8(m_strPath), bytes);
 }
+
+COwnFile::~COwnFile() { orv3::SystemFiles().Remove(orv3::FromUtf8(m_strPath)); }
 
 std::string FileBytes(const std::string& path) {
   std::string bytes;
@@ -59,4 +68,26 @@ CRunResult RunProgram(const std::string& arguments) {
   result.m_strError = WithoutReturns(FileBytes(ErrorFile()));
   std::remove(ErrorFile().c_str());
   return result;
+}
+
+Json JsonOf(const std::string& arguments, int exit) {
+  const CRunResult run = RunProgram(arguments + " --json");
+  EXPECT_EQ(run.m_nExit, exit) << arguments << ": " << run.m_strError;
+  return run.m_strOut.empty() ? Json() : Json::parse(run.m_strOut);
+}
+
+void ExpectRefused(const std::vector<CRefusal>& refusals) {
+  for (const CRefusal& refusal : refusals) {
+    SCOPED_TRACE(refusal.arguments);
+    const CRunResult run = RunProgram(refusal.arguments);
+    EXPECT_EQ(run.m_nExit, refusal.exit);
+    EXPECT_EQ(run.m_strOut, "");
+    EXPECT_EQ(std::count(run.m_strError.begin(), run.m_strError.end(), '\n'), 1) << run.m_strError;
+    ExpectHas(run.m_strError, refusal.names);
+  }
+}
+
+void ExpectHas(const std::string& text, const std::vector<std::string>& parts) {
+  for (const std::string& part : parts)
+    EXPECT_NE(text.find(part), std::string::npos) << part << " in " << text;
 }

@@ -2,21 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstdio>
-#include <nlohmann/json.hpp>
-
 #include "cli/run_program.h"
 #include "svg_check.h"
 
 namespace {
 
-using Json = nlohmann::json;
-
 TEST(SectionCommand, GivesTheWorkedRectangle) {
-  const CRunResult run = RunProgram("section rect 200 400 --name 400X200 --json");
-  ASSERT_EQ(run.m_nExit, 0) << run.m_strError;
-  const Json json = Json::parse(run.m_strOut);
+  const Json json = JsonOf("section rect 200 400 --name 400X200");
   EXPECT_EQ(json["style"], 3);
   EXPECT_EQ(json["table"], "矩形截面");
   EXPECT_EQ(json["name"], "400X200");
@@ -31,47 +23,34 @@ TEST(SectionCommand, GivesTheWorkedRectangle) {
 }
 
 TEST(SectionCommand, TakesAStyleByNumberNameAndAlias) {
-  const std::string byNumber = RunProgram("section 7 50 45 --base -10 20 --json").m_strOut;
-  EXPECT_FALSE(byNumber.empty());
-  EXPECT_EQ(RunProgram("section tube 50 45 --base -10 20 --json").m_strOut, byNumber);
-  EXPECT_EQ(RunProgram("section 自定义圆管 50 45 --base -10 20 --json").m_strOut, byNumber);
-  EXPECT_EQ(Json::parse(byNumber)["base"], Json({-10.0, 20.0}));
+  const Json byNumber = JsonOf("section 7 50 45 --base -10 20");
+  EXPECT_EQ(JsonOf("section tube 50 45 --base -10 20"), byNumber);
+  EXPECT_EQ(JsonOf("section 自定义圆管 50 45 --base -10 20"), byNumber);
 }
 
 TEST(SectionCommand, TakesTheBasePointAnywhere) {
-  const struct {
-    const char* arguments;
-    Json base;
-  } cases[] = {
-      {"rect 200 400", {0.0, 0.0}},
+  const std::pair<const char*, Json> cases[] = {
       {"rect 200 400 --base 1e1 2", {10.0, 2.0}},
       {"rect --base -5 -6 200 400", {-5.0, -6.0}},
       {"--base -.5 .25 rect 200 400", {-0.5, 0.25}},
   };
-  for (const auto& c : cases) {
-    const CRunResult run = RunProgram(std::string("section ") + c.arguments + " --json");
-    ASSERT_EQ(run.m_nExit, 0) << run.m_strError;
-    const Json json = Json::parse(run.m_strOut);
-    EXPECT_EQ(json["base"], c.base) << c.arguments;
-    EXPECT_EQ(json["sizes"], Json({200.0, 400.0})) << c.arguments;
+  for (const auto& [arguments, base] : cases) {
+    const Json json = JsonOf(std::string("section ") + arguments);
+    EXPECT_EQ(json["base"], base) << arguments;
+    EXPECT_EQ(json["sizes"], Json({200.0, 400.0})) << arguments;
   }
 }
 
 // A hexagon's first moments are not computed; a 0 would be taken for a result.
 TEST(SectionCommand, GivesNoNumberWhereNoneIsComputed) {
-  const Json hexagon = Json::parse(RunProgram("section hexagon 100 --json").m_strOut);
-  EXPECT_TRUE(hexagon["properties"]["Sxo"].is_null());
+  EXPECT_TRUE(JsonOf("section hexagon 100")["properties"]["Sxo"].is_null());
   EXPECT_EQ(RunProgram("section hexagon 100").m_strOut.find("Sxo"), std::string::npos);
-  const Json circle = Json::parse(RunProgram("section circle 100 --json").m_strOut);
-  EXPECT_NEAR(circle["properties"]["Sxo"].get<double>(), 2e6 / 3, 1e-6);
+  const Json circle = JsonOf("section circle 100")["properties"];
+  EXPECT_NEAR(circle["Sxo"].get<double>(), 2e6 / 3, 1e-6);
 }
 
 TEST(SectionCommand, RefusesInOneLineThatNamesTheFault) {
-  const struct {
-    const char* arguments;
-    std::vector<std::string> names;
-    int exit = 2;
-  } cases[] = {
+  ExpectRefused({
       {"section rect -5 400", {"b(mm)", "-5", "above 0"}},
       {"section h 300 400 200 10", {"tf(mm)", "200"}},
       {"section tube 50 60", {"r(mm)", "60", "50"}},
@@ -94,50 +73,43 @@ TEST(SectionCommand, RefusesInOneLineThatNamesTheFault) {
       {"section rect 1 2 --svg /dev/full", {"/dev/full", "not a file"}, 3},
       {"section rect 1 2 >/dev/full", {"standard output"}, 3},
 #endif
-  };
-  for (const auto& c : cases) {
-    const CRunResult run = RunProgram(c.arguments);
-    EXPECT_EQ(run.m_nExit, c.exit) << c.arguments;
-    EXPECT_EQ(run.m_strOut, "") << c.arguments;
-    EXPECT_EQ(std::count(run.m_strError.begin(), run.m_strError.end(), '\n'), 1) << run.m_strError;
-    for (const std::string& name : c.names) {
-      EXPECT_NE(run.m_strError.find(name), std::string::npos) << name << " in " << run.m_strError;
-    }
-  }
+  });
 }
 
 TEST(SectionCommand, WritesAPicture) {
-  const CRunResult run = RunProgram("section h 300 400 20 10 --name 梁1 --svg 梁1.svg");
-  EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
-  const CRunResult again = RunProgram("section h 300 400 20 10 --name 梁1 --svg 梁1.svg --json");
-  EXPECT_EQ(again.m_nExit, 0) << "an old picture is replaced";
-#ifndef _WIN32
-  const std::string svg = FileBytes("梁1.svg");
-  CheckSvg(svg);
-  EXPECT_NE(svg.find("tf = 20"), std::string::npos);
-  std::remove("梁1.svg");
-#endif
+  const COwnFile svg("梁1.svg");
+  const std::string command = "section h 300 400 20 10 --name 梁1 --svg " + svg.m_strPath;
+  EXPECT_EQ(RunProgram(command).m_nExit, 0);
+  EXPECT_EQ(RunProgram(command + " --json").m_nExit, 0) << "an old picture is replaced";
+  CheckSvg(svg.Bytes());
+  ExpectHas(svg.Bytes(), {"tf = 20"});
+}
+
+TEST(SectionCommand, WritesAnOutline) {
+  const COwnFile dxf("tube.dxf");
+  EXPECT_EQ(RunProgram("section tube 50 45 --dxf " + dxf.m_strPath).m_nExit, 0);
+  const std::string outline = dxf.Bytes();
+  int loops = 0;
+  for (std::size_t at = 0; (at = outline.find("\r\nLWPOLYLINE\r\n", at)) != std::string::npos; ++at)
+    ++loops;
+  EXPECT_EQ(loops, 2) << "the rim and the hole";
 }
 
 TEST(SectionCommand, AlignsItsColumns) {
-  const std::string text = RunProgram("section rect 200 400").m_strOut;
-  EXPECT_NE(text.find("截面面积        A          80000  mm²  area\n"), std::string::npos) << text;
-  EXPECT_NE(text.find("X0轴抵抗矩(上)  Wxo1     5333333  mm³  modulus about X0, top\n"),
-            std::string::npos)
-      << text;
-  EXPECT_NE(text.find("∞"), std::string::npos);
+  ExpectHas(RunProgram("section rect 200 400").m_strOut,
+            {"截面面积        A          80000  mm²  area\n",
+             "X0轴抵抗矩(上)  Wxo1     5333333  mm³  modulus about X0, top\n", "∞"});
 }
 
 TEST(StylesCommand, ListsAllFifteen) {
-  const Json styles = Json::parse(RunProgram("styles --json").m_strOut);
+  const Json styles = JsonOf("styles");
   ASSERT_EQ(styles.size(), 15U);
   EXPECT_EQ(styles[9]["alias"], "general-h");
   EXPECT_EQ(styles[9]["sizes"].size(), 8U);
   EXPECT_EQ(styles[9]["sizes"][4]["sign"], "bf1(mm)");
   const CRunResult help = RunProgram("--help");
   EXPECT_EQ(help.m_nExit, 0);
-  EXPECT_NE(help.m_strOut.find("section"), std::string::npos);
-  EXPECT_NE(help.m_strOut.find("2003"), std::string::npos) << "the edition of the code";
+  ExpectHas(help.m_strOut, {"section", "2003"});  // the edition of the code
 }
 
 }  // namespace

@@ -11,16 +11,28 @@ namespace orv3 {
 inline constexpr double kNoMoment = 2e-6;
 
 // Units of NormalBoltData. Individual spacings, when given, take the place of the uniform ones.
-struct CBoltInput {
-  int layout = 0, type = 0, cols = 2, rows = 3;
+struct CGridInput {
+  int layout = 0, cols = 2, rows = 3;
   double colSpace = 70, rowSpace = 80;
   std::vector<double> colSpaces = {}, rowSpaces = {};
-  int d = 20;
+};
+struct CBoltKind {
+  int type = 0, d = 20;
   double sumT = 10;
-  int nv = 1, nf = 1;
+  int nv = 1, nf = 1, surface = 0, grade = 0, boltClass = 0;
+};
+struct CLoadInput {
   double N = 0, Vx = 0, Vy = 0, M = kNoMoment, T = 0;
+};
+struct CPlateInput {
   double ex = 50, ey = 50, t = 10;
-  int steel = 0, surface = 0, grade = 0, boltClass = 0;
+  int steel = 0;
+};
+struct CBoltInput {
+  CGridInput grid = {};
+  CBoltKind bolt = {};
+  CLoadInput load = {};
+  CPlateInput plate = {};
 };
 
 inline CArray<double, double> ToArray(const std::vector<double>& values) {
@@ -30,32 +42,40 @@ inline CArray<double, double> ToArray(const std::vector<double>& values) {
 }
 
 inline NormalBoltData BoltGroup(const CBoltInput& in) {
+  const auto& [grid, bolt, load, plate] = in;
   NormalBoltData group;
-  group.m_nLayout = in.layout;
-  group.m_nSpaceMode = in.colSpaces.empty() && in.rowSpaces.empty() ? 0 : 1;
-  group.m_nBoltType = in.type;
-  group.m_nCols = in.cols;
-  group.m_nRows = in.rows;
-  group.m_dColSpace = in.colSpace;
-  group.m_dRowSpace = in.rowSpace;
-  group.GetEcArr(ToArray(in.colSpaces));
-  group.GetErArr(ToArray(in.rowSpaces));
-  group.m_nD = in.d;
-  group.m_dSumT = in.sumT;
-  group.m_nNv = in.nv;
-  group.m_nNf = in.nf;
-  group.m_dN = in.N;
-  group.m_dVx = in.Vx;
-  group.m_dVy = in.Vy;
-  group.m_dM = in.M;
-  group.m_dT = in.T;
-  group.m_dEx = in.ex;
-  group.m_dEy = in.ey;
-  group.m_dThick = in.t;
-  group.m_nSteel = in.steel;
-  group.m_nSurface = in.surface;
-  group.m_nGrade = in.grade;
-  group.m_nBoltClass = in.boltClass;
+  group.m_nLayout = grid.layout;
+  group.m_nSpaceMode = grid.colSpaces.empty() && grid.rowSpaces.empty() ? 0 : 1;
+  group.m_nCols = grid.cols;
+  group.m_nRows = grid.rows;
+  group.m_dColSpace = grid.colSpace;
+  group.m_dRowSpace = grid.rowSpace;
+  group.GetEcArr(ToArray(grid.colSpaces));
+  group.GetErArr(ToArray(grid.rowSpaces));
+  group.m_nBoltType = bolt.type;
+  group.m_nD = bolt.d;
+  group.m_dSumT = bolt.sumT;
+  group.m_nNv = bolt.nv;
+  group.m_nNf = bolt.nf;
+  group.m_nSurface = bolt.surface;
+  group.m_nGrade = bolt.grade;
+  group.m_nBoltClass = bolt.boltClass;
+  group.m_dN = load.N;
+  group.m_dVx = load.Vx;
+  group.m_dVy = load.Vy;
+  group.m_dM = load.M;
+  group.m_dT = load.T;
+  group.m_dEx = plate.ex;
+  group.m_dEy = plate.ey;
+  group.m_dThick = plate.t;
+  group.m_nSteel = plate.steel;
+  return group;
+}
+
+// A group that has been checked.
+inline NormalBoltData Checked(const CBoltInput& in) {
+  NormalBoltData group = BoltGroup(in);
+  group.BoltYanSuan();
   return group;
 }
 

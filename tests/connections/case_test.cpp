@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <functional>
 
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
@@ -55,109 +54,98 @@ CButtCase Butt() {
           .m_dV = 60};
 }
 
-template <class CASE>
-struct CRefusal {
+// A change of the input at one key: its number, or a spacing's numbers.
+struct CChange {
   const char* key;
-  std::function<void(CASE&)> change;
+  double number;
+  std::vector<double> each = {};
 };
 
+void Put(int& field, const CChange& change) { field = static_cast<int>(change.number); }
+void Put(double& field, const CChange& change) { field = change.number; }
+void Put(CSpacing& field, const CChange& change) { field = {change.number, change.each}; }
+void Put(std::string&, const CChange&) {}
+
 template <class CHECK>
-void ExpectRefused(const typename CHECK::CCase& good,
-                   const std::vector<CRefusal<typename CHECK::CCase>>& refusals) {
+typename CHECK::CCase With(typename CHECK::CCase input, const std::vector<CChange>& changes) {
+  for (const CChange& change : changes) {
+    for (const auto& key : CHECK::InputKeys()) {
+      if (std::string_view(change.key) != key.m_szKey) continue;
+      std::visit([&](auto field) { Put(input.*field, change); }, key.m_field);
+    }
+  }
+  return input;
+}
+
+// Each change of a case that stands is refused at its key.
+template <class CHECK>
+void ExpectRefused(const typename CHECK::CCase& good, const std::vector<CChange>& changes) {
   CHECK check;
   ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line();
-  EXPECT_TRUE(check.Warnings().empty()) << check.Warnings().front().m_text.m_strEnglish;
-  for (const auto& refusal : refusals) {
-    auto bad = good;
-    refusal.change(bad);
-    EXPECT_FALSE(check.Run(bad)) << refusal.key;
-    if (check.Faults().empty()) continue;
-    EXPECT_EQ(check.Faults().front().m_strKey, refusal.key) << check.Faults().front().Line();
-    EXPECT_FALSE(check.Faults().front().m_strWhat.empty());
-    EXPECT_FALSE(check.Faults().front().m_strRight.empty());
+  for (const CChange& change : changes) {
+    SCOPED_TRACE(change.key);
+    ASSERT_FALSE(check.Run(With<CHECK>(good, {change})));
+    const CCaseFault& fault = check.Faults().front();
+    EXPECT_EQ(fault.m_strKey, change.key) << fault.Line();
+    EXPECT_FALSE(fault.m_strWhat.empty() || fault.m_strRight.empty());
     EXPECT_FALSE(check.Pass());
   }
 }
 
-TEST(BoltCase, RefusesTheImpossibleByKey) {
-  ExpectRefused<CBoltCheck>(Ordinary(),
-                            {{"cols", [](CBoltCase& c) { c.m_nCols = 0; }},
-                             {"rows", [](CBoltCase& c) { c.m_nRows = -1; }},
-                             {"rows", [](CBoltCase& c) { c.m_nRows = c.m_nCols = 50000; }},
-                             {"rows", [](CBoltCase& c) { c.m_nLayout = 1, c.m_nRows = 1; }},
-                             {"layout", [](CBoltCase& c) { c.m_nLayout = 2; }},
-                             {"t", [](CBoltCase& c) { c.m_dThick = 0; }},
-                             {"t", [](CBoltCase& c) { c.m_dThick = NAN; }},
-                             {"sumT", [](CBoltCase& c) { c.m_dSumT = 0; }},
-                             {"nv", [](CBoltCase& c) { c.m_nNv = 0; }},
-                             {"M", [](CBoltCase& c) { c.m_dM = -1; }},
-                             {"N", [](CBoltCase& c) { c.m_dN = NAN; }},
-                             {"T", [](CBoltCase& c) { c.m_dT = HUGE_VAL; }},
-                             {"d", [](CBoltCase& c) { c.m_nD = 26; }},
-                             {"steel", [](CBoltCase& c) { c.m_nSteel = 4; }},
-                             {"grade", [](CBoltCase& c) { c.m_nGrade = 2; }},
-                             {"grade", [](CBoltCase& c) { c.m_nClass = 0; }},
-                             {"grade", [](CBoltCase& c) { c.m_nType = kBearingBolt; }},
-                             {"colSpace",
-                              [](CBoltCase& c) {
-                                c.m_colSpace.m_arrEach = {70, 70};
-                              }},
-                             {"rowSpace", [](CBoltCase& c) { c.m_rowSpace.m_arrEach = {80}; }},
-                             {"rowSpace",
-                              [](CBoltCase& c) {
-                                c.m_rowSpace.m_arrEach = {80, NAN};
-                              }},
-                             {"rowSpace", [](CBoltCase& c) { c.m_rowSpace.m_dUniform = 21.5; }},
-                             {"ey", [](CBoltCase& c) { c.m_dEy = 10; }}});
-  ExpectRefused<CBoltCheck>(Friction(), {{"nf", [](CBoltCase& c) { c.m_nNf = 0; }},
-                                         {"surface", [](CBoltCase& c) { c.m_nSurface = 5; }},
-                                         {"grade", [](CBoltCase& c) { c.m_nGrade = 1; }}});
+// Each change of a case that is not warned of is warned of at its key.
+template <class CHECK>
+void ExpectWarned(const typename CHECK::CCase& good, const std::vector<CChange>& changes) {
+  CHECK check;
+  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line();
+  EXPECT_TRUE(check.Warnings().empty()) << check.Warnings().front().m_text.m_strEnglish;
+  for (const CChange& change : changes) {
+    SCOPED_TRACE(change.key);
+    ASSERT_TRUE(check.Run(With<CHECK>(good, {change}))) << check.Faults().front().Line();
+    ASSERT_EQ(check.Warnings().size(), 1U);
+    EXPECT_EQ(check.Warnings()[0].m_strKey, change.key);
+    EXPECT_NE(check.Warnings()[0].m_text.m_strChinese, check.Warnings()[0].m_text.m_strEnglish);
+  }
 }
 
-// Half the rows' holes, ten, against a plate that is 150 wide: the straight cut is all holes.
-TEST(BoltCase, RefusesAGroupWhoseHolesLeaveNoSection) {
-  CBoltCase input = Ordinary();
-  input.m_nLayout = 1;
-  input.m_nRows = 20;
-  input.m_dVy = 10;
-  CBoltCheck check;
-  EXPECT_FALSE(check.Run(input));
-  ASSERT_EQ(check.Faults().size(), 1U);
-  EXPECT_EQ(check.Faults()[0].m_strKey, "colSpace");
+TEST(BoltCase, RefusesTheImpossibleByKey) {
+  ExpectRefused<CBoltCheck>(Ordinary(), {{"cols", 0},
+                                         {"rows", -1},
+                                         {"rows", 60000},
+                                         {"layout", 2},
+                                         {"t", 0},
+                                         {"t", NAN},
+                                         {"sumT", 0},
+                                         {"nv", 0},
+                                         {"M", -1},
+                                         {"N", NAN},
+                                         {"T", HUGE_VAL},
+                                         {"d", 26},
+                                         {"steel", 4},
+                                         {"grade", 2},
+                                         {"rowSpace", 21.5},
+                                         {"ey", 10}});
+  ExpectRefused<CBoltCheck>(
+      Ordinary(), {{"colSpace", 0, {70, 70}}, {"rowSpace", 0, {80}}, {"rowSpace", 0, {80, NAN}}});
+  ExpectRefused<CBoltCheck>(Friction(), {{"nf", 0}, {"surface", 5}, {"grade", 1}});
+  ExpectRefused<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"class", 0}, {"grade", 2}}),
+                            {{"grade", 0}});
+  ExpectRefused<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}}),
+                            {{"grade", 0}});
+  // Half the rows' holes, ten, in a plate 150 wide: the straight cut is all holes.
+  const CBoltCase staggered =
+      With<CBoltCheck>(Ordinary(), {{"layout", 1}, {"rows", 20}, {"colSpace", 200}, {"Vy", 10}});
+  ExpectRefused<CBoltCheck>(staggered, {{"rows", 1}, {"colSpace", 70}});
 }
 
 TEST(BoltCase, WarnsOfDetailingAndOfTheUnsafeSide) {
-  const struct {
-    const char* key;
-    CBoltCase good;
-    std::function<void(CBoltCase&)> change;
-  } cases[] = {
-      {"rowSpace", Ordinary(), [](CBoltCase& c) { c.m_rowSpace.m_dUniform = 64; }},
-      {"colSpace", Ordinary(), [](CBoltCase& c) { c.m_colSpace.m_dUniform = 64; }},
-      {"ex", Ordinary(), [](CBoltCase& c) { c.m_dEx = 42.9; }},
-      {"ey", Ordinary(), [](CBoltCase& c) { c.m_dEy = 32; }},
-      {"T", Ordinary(), [](CBoltCase& c) { c.m_dT = -100; }},
-      {"M", Ordinary(), [](CBoltCase& c) { c.m_nRows = 1, c.m_dM = 100; }},
-      {"t", Ordinary(), [](CBoltCase& c) { c.m_dThick = 101; }},
-      {"Vx", Friction(), [](CBoltCase& c) { c.m_dVx = -60; }},
-      {"Vx", Friction(), [](CBoltCase& c) { c.m_dVx = 0, c.m_dVx = -60; }},
-      {"M", Friction(), [](CBoltCase& c) { c.m_dM = -500; }},
-      {"d", Friction(), [](CBoltCase& c) { c.m_nD = 12; }},
-  };
-  CBoltCheck check;
-  for (const auto& each : cases) {
-    CBoltCase input = each.good;
-    each.change(input);
-    ASSERT_TRUE(check.Run(input)) << check.Faults().front().Line();
-    ASSERT_EQ(check.Warnings().size(), 1U) << each.key;
-    EXPECT_EQ(check.Warnings()[0].m_strKey, each.key);
-    EXPECT_NE(check.Warnings()[0].m_text.m_strChinese, check.Warnings()[0].m_text.m_strEnglish);
-  }
+  ExpectWarned<CBoltCheck>(
+      Ordinary(),
+      {{"rowSpace", 64}, {"colSpace", 64}, {"ex", 42.9}, {"ey", 32}, {"T", -100}, {"t", 101}});
+  ExpectWarned<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"rows", 1}}), {{"M", 100}});
+  ExpectWarned<CBoltCheck>(Friction(), {{"Vx", -60}, {"M", -500}, {"d", 12}});
   // Both of the friction type's quirks under a negative shear.
-  CBoltCase input = Friction();
-  input.m_dVx = -60;
-  input.m_dM = 500;
-  ASSERT_TRUE(check.Run(input));
+  CBoltCheck check;
+  ASSERT_TRUE(check.Run(With<CBoltCheck>(Friction(), {{"Vx", -60}, {"M", 500}})));
   EXPECT_EQ(check.Warnings().size(), 2U);
 }
 
@@ -183,14 +171,9 @@ TEST(BoltCase, AGroupWithoutMomentIsCheckedAndReportsNone) {
 
 // Strengths that a case does not look up must not come from the case before.
 TEST(BoltCase, OneCheckerServesManyCases) {
-  CBoltCase bearing = Ordinary();
-  bearing.m_nType = kBearingBolt;
-  bearing.m_nGrade = 3;
-  CBoltCase staggered = Friction();
-  staggered.m_nLayout = 1;
-  staggered.m_nSurface = 4;
-  staggered.m_dVy = 20;
-  const CBoltCase cases[] = {Ordinary(), Friction(), bearing, staggered};
+  const CBoltCase cases[] = {
+      Ordinary(), Friction(), With<CBoltCheck>(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}}),
+      With<CBoltCheck>(Friction(), {{"layout", 1}, {"surface", 4}, {"Vy", 20}})};
   CBoltCheck many;
   for (int round = 0; round < 2; ++round) {
     for (const CBoltCase& input : cases) {
@@ -210,46 +193,22 @@ TEST(BoltCase, OneCheckerServesManyCases) {
 }
 
 TEST(WeldCase, RefusesTheImpossibleByKey) {
-  using C = CFilletCase;
   ExpectRefused<CFilletCheck>(
-      Fillet(), {{"case", [](C& c) { c.m_nLoadCase = 6; }},
-                 {"steel", [](C& c) { c.m_nSteel = 4; }},
-                 {"lw", [](C& c) { c.m_dLw = 0; }},
-                 {"V", [](C& c) { c.m_dV = NAN; }},
-                 {"betaF", [](C& c) { c.m_dBetaF = 0; }},
-                 {"he", [](C& c) { c.m_dHe = 0; }},
-                 {"he", [](C& c) { c.m_dHf = 8; }},
-                 {"angle", [](C& c) { c.m_dHe = 0, c.m_dHf = 8, c.m_dAngle = 180; }},
-                 {"s", [](C& c) { c.m_dHe = 0, c.m_dS = 3, c.m_dAngle = 45, c.m_nGroove = 1; }}});
-  using B = CButtCase;
-  ExpectRefused<CButtCheck>(Butt(), {{"quality", [](B& c) { c.m_nQuality = 0; }},
-                                     {"t", [](B& c) { c.m_dThick = 0; }},
-                                     {"lw", [](B& c) { c.m_dLw = -1; }}});
+      Fillet(), {{"case", 6}, {"steel", 4}, {"lw", 0}, {"V", NAN}, {"betaF", 0}, {"he", 0}});
+  ExpectRefused<CFilletCheck>(With<CFilletCheck>(Fillet(), {{"he", 0}, {"hf", 8}, {"angle", 90}}),
+                              {{"he", 5.6}, {"angle", 180}});
+  ExpectRefused<CFilletCheck>(
+      With<CFilletCheck>(Fillet(), {{"he", 0}, {"s", 8}, {"angle", 45}, {"groove", 1}}),
+      {{"s", 3}});
+  ExpectRefused<CButtCheck>(Butt(), {{"quality", 0}, {"t", 0}, {"lw", -1}});
 }
 
 TEST(WeldCase, WarnsOfTheUnsafeSide) {
-  CFilletCheck fillet;
-  const auto filletWarning = [&](std::function<void(CFilletCase&)> change) {
-    CFilletCase input = Fillet();
-    change(input);
-    EXPECT_TRUE(fillet.Run(input));
-    return fillet.Warnings().size() == 1 ? fillet.Warnings()[0].m_strKey : "";
-  };
-  EXPECT_EQ(filletWarning([](CFilletCase& c) { c.m_nLoadCase = 1; }), "V");
-  EXPECT_EQ(filletWarning([](CFilletCase& c) { c.m_dM = -1000; }), "M");
-  EXPECT_EQ(filletWarning([](CFilletCase& c) { c.m_dBetaF = 1.3; }), "betaF");
-  EXPECT_EQ(filletWarning([](CFilletCase& c) { c.m_dLw = 39; }), "lw");
+  ExpectWarned<CFilletCheck>(Fillet(), {{"M", -1000}, {"betaF", 1.3}, {"lw", 39}});
+  ExpectWarned<CFilletCheck>(With<CFilletCheck>(Fillet(), {{"case", 1}, {"V", 0}}), {{"V", 60}});
   // Q235, 12 mm, grade three: ftw 185 below fcw 215. 480 kN on 2400 mm2 is 200 N/mm2 of tension.
-  CButtCase input = Butt();
-  input.m_nLoadCase = 0;
-  input.m_dM = input.m_dV = 0;
-  input.m_nQuality = 3;
-  input.m_dN = 480;
-  CButtCheck butt;
-  ASSERT_TRUE(butt.Run(input));
-  EXPECT_TRUE(butt.Pass());
-  ASSERT_EQ(butt.Warnings().size(), 1U);
-  EXPECT_EQ(butt.Warnings()[0].m_strKey, "quality");
+  ExpectWarned<CButtCheck>(With<CButtCheck>(Butt(), {{"case", 0}, {"M", 0}, {"V", 0}, {"N", 480}}),
+                           {{"quality", 3}});
 }
 
 }  // namespace

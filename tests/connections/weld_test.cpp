@@ -2,7 +2,7 @@
 // hosts know. Forces in kN, lengths in mm, stresses in kN/mm2.
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <vector>
 
 #include "orv3cal.h"
 
@@ -38,21 +38,35 @@ const CFilletExample kFillets[] = {
     {3, 0, 5, 200, 0, 0, 170, 1.0, 0.160, 0, 0.17, 0.17, 1, 0, 0},
 };
 
+struct CValue {
+  const char* what;
+  double got, expected;
+};
+
+void ExpectNear(int loadCase, const std::vector<CValue>& values) {
+  for (const auto& [what, got, expected] : values)
+    EXPECT_NEAR(got, expected, kTolerance) << what << ", case " << loadCase;
+}
+
+// What the three verdicts of a weld are, and that all together pass or fail as they do.
+template <class WELD>
+std::vector<int> Verdicts(WELD& weld) {
+  std::vector<int> ok(3, -1);
+  const int pass = weld.JugeStress(ok[0], ok[1], ok[2]);
+  EXPECT_EQ(pass, ok[0] * ok[1] * ok[2]);
+  return ok;
+}
+
 TEST(FilletWeld, ByHand) {
   for (const CFilletExample& e : kFillets) {
     AngleHanFData weld(7, e.loadCase, e.material, e.he, e.lw, e.N, e.M, e.V, e.betaF);
-    int okSigma = -1, okTau = -1, okCombined = -1;
-    const int pass = weld.JugeStress(okSigma, okTau, okCombined);
-    EXPECT_NEAR(weld.m_dFfw, e.ffw, kTolerance) << "case " << e.loadCase;
-    EXPECT_EQ(weld.m_dFfw2, weld.m_dFfw);
-    EXPECT_NEAR(weld.m_dW, e.he * e.lw * e.lw / 6, 1e-6) << "case " << e.loadCase;
-    EXPECT_NEAR(weld.m_dSigma, e.sigma, kTolerance) << "case " << e.loadCase;
-    EXPECT_NEAR(weld.m_dTau, e.tau, kTolerance) << "case " << e.loadCase;
-    EXPECT_NEAR(weld.m_dCombined, e.combined, kTolerance) << "case " << e.loadCase;
-    EXPECT_EQ(okSigma, e.okSigma) << "case " << e.loadCase;
-    EXPECT_EQ(okTau, e.okTau) << "case " << e.loadCase;
-    EXPECT_EQ(okCombined, e.okCombined) << "case " << e.loadCase;
-    EXPECT_EQ(pass, e.okSigma * e.okTau * e.okCombined) << "case " << e.loadCase;
+    EXPECT_EQ(Verdicts(weld), (std::vector{e.okSigma, e.okTau, e.okCombined})) << e.loadCase;
+    ExpectNear(e.loadCase, {{"ffw", weld.m_dFfw, e.ffw},
+                            {"ffw again", weld.m_dFfw2, e.ffw},
+                            {"W", weld.m_dW, e.he * e.lw * e.lw / 6},
+                            {"sigma", weld.m_dSigma, e.sigma},
+                            {"tau", weld.m_dTau, e.tau},
+                            {"combined", weld.m_dCombined, e.combined}});
     EXPECT_EQ(weld.m_nWeldKind, 7);
   }
 }
@@ -96,17 +110,13 @@ TEST(FilletWeld, UnknownLoadCaseJudgesOldStresses) {
   weld.m_dSigma = 0.15;
   weld.m_dTau = 0.17;
   weld.m_dCombined = 0.1;
-  int okSigma = -1, okTau = -1, okCombined = -1;
-  EXPECT_EQ(weld.JugeStress(okSigma, okTau, okCombined), 0);
-  EXPECT_EQ(okSigma, 1);
-  EXPECT_EQ(okTau, 0);
-  EXPECT_EQ(okCombined, 1);
+  EXPECT_EQ(Verdicts(weld), (std::vector{1, 0, 1}));
 }
 
 TEST(FilletWeld, NoLengthNeverPasses) {
   AngleHanFData weld(0, 4, 0, 5, 0, 0, 0, 10, 1.0);
-  int okSigma = -1, okTau = -1, okCombined = -1;
-  EXPECT_EQ(weld.JugeStress(okSigma, okTau, okCombined), 0);
+  int ok = -1;
+  EXPECT_EQ(weld.JugeStress(ok, ok, ok), 0);
 }
 
 struct CButtExample {                        // NOLINT(clang-analyzer-optin.performance.Padding)
@@ -155,19 +165,14 @@ WQWeldingData ButtWeld(const CButtExample& e) {
 TEST(ButtWeld, ByHand) {
   for (const CButtExample& e : kButts) {
     WQWeldingData weld = ButtWeld(e);
-    int okSigma = -1, okTau = -1, okReduced = -1;
-    const int pass = weld.JugeStress(okSigma, okTau, okReduced);
-    EXPECT_NEAR(weld.m_dFtw, e.ftw, kTolerance) << "case " << e.loadCase;
-    EXPECT_NEAR(weld.m_dFcw, e.fcw, kTolerance) << "case " << e.loadCase;
-    EXPECT_NEAR(weld.m_dFvw, e.fvw, kTolerance) << "case " << e.loadCase;
-    EXPECT_NEAR(weld.m_dW, e.loadCase == 0 ? 0 : e.t * e.lw * e.lw / 6, 1e-6);
-    EXPECT_NEAR(weld.m_dSigma, e.sigma, kTolerance) << "case " << e.loadCase;
-    EXPECT_NEAR(weld.m_dTau, e.tau, kTolerance) << "case " << e.loadCase;
-    EXPECT_NEAR(weld.m_dReduced, e.reduced, kTolerance) << "case " << e.loadCase;
-    EXPECT_EQ(okSigma, e.okSigma) << "case " << e.loadCase;
-    EXPECT_EQ(okTau, e.okTau) << "case " << e.loadCase;
-    EXPECT_EQ(okReduced, e.okReduced) << "case " << e.loadCase;
-    EXPECT_EQ(pass, e.okSigma * e.okTau * e.okReduced) << "case " << e.loadCase;
+    EXPECT_EQ(Verdicts(weld), (std::vector{e.okSigma, e.okTau, e.okReduced})) << e.loadCase;
+    ExpectNear(e.loadCase, {{"ftw", weld.m_dFtw, e.ftw},
+                            {"fcw", weld.m_dFcw, e.fcw},
+                            {"fvw", weld.m_dFvw, e.fvw},
+                            {"W", weld.m_dW, e.loadCase == 0 ? 0 : e.t * e.lw * e.lw / 6},
+                            {"sigma", weld.m_dSigma, e.sigma},
+                            {"tau", weld.m_dTau, e.tau},
+                            {"reduced", weld.m_dReduced, e.reduced}});
   }
 }
 
@@ -198,23 +203,19 @@ TEST(ButtWeld, StrengthByThicknessAndQuality) {
 // 64, W = 8192 is a power of two, so that M/W is exact.
 TEST(ButtWeld, LimitsThemselves) {
   WQWeldingData weld = ButtWeld({.loadCase = 3, .t = 12, .lw = 64});
-  int okSigma = -1, okTau = -1, okReduced = -1;
   weld.m_dM = 0.215 * 8192;
-  EXPECT_EQ(weld.JugeStress(okSigma, okTau, okReduced), 1);
+  EXPECT_EQ(Verdicts(weld), (std::vector{1, 1, 1}));
   weld.m_dM = 1.1 * 0.215 * 8192;
-  weld.JugeStress(okSigma, okTau, okReduced);
-  EXPECT_EQ(okReduced, 0);
+  EXPECT_EQ(Verdicts(weld), (std::vector{0, 1, 0}));
   weld.m_dM *= 1 - 1e-12;
-  weld.JugeStress(okSigma, okTau, okReduced);
-  EXPECT_EQ(okReduced, 1);
+  EXPECT_EQ(Verdicts(weld), (std::vector{0, 1, 1}));
 }
 
 // sigma is held against the larger of ftw and fcw, so that a weld of grade three is not refused for
 // a tension between them.
 TEST(ButtWeld, TensionOfGradeThreeIsHeldAgainstTheLargerStrength) {
   WQWeldingData weld = ButtWeld({.quality = 2, .t = 10, .lw = 100, .N = 200});
-  int okSigma = -1, okTau = -1, okReduced = -1;
-  EXPECT_EQ(weld.JugeStress(okSigma, okTau, okReduced), 1);  // 0.185 < 0.200 < 0.215
+  EXPECT_EQ(Verdicts(weld), (std::vector{1, 1, 1}));  // 0.185 < 0.200 < 0.215
   EXPECT_DOUBLE_EQ(weld.m_dFtw, 0.185);
 }
 

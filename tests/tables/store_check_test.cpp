@@ -13,16 +13,15 @@ using golden::kBlock;
 using golden::kFirst;
 using golden::kOneBlock;
 
-class StoreCheck : public testing::Test {
+class StoreCheck : public TableFileTest {
  protected:
   // Saves one row with these values and says whether it came back as it was.
   bool Survives(const CString& name, const CString& height) {
     orv3::SystemFiles().Remove(m_path);
     CDataTable table = SectionTable(L"A");
     AddRow(table, name, height);
-    if (!table.WriteTable(m_path, 0, 0)) return false;
-    CDataTable read;
-    read.SetTableName(L"A");
+    if (!Save(table)) return false;
+    CDataTable read = SectionTable(L"A");
     CString line;
     try {
       if (!read.GetTable(m_path, line)) return false;
@@ -31,10 +30,6 @@ class StoreCheck : public testing::Test {
     }
     return read[0][0].m_strValue == name && read[0][1].m_strValue == height;
   }
-
-  CTempFolder m_folder;
-  CFaultyFiles m_quick;
-  const CString m_path = m_folder.Path(L"a.KDB");
 };
 
 TEST_F(StoreCheck, AFaultIsNamedExactlyWhenARowWouldChange) {
@@ -63,14 +58,11 @@ TEST_F(StoreCheck, FaultsNameTableRowAndColumn) {
   EXPECT_EQ(
       faults[0].m_strText,
       L"table \"A\", row 2, column \"No.\": value of 31 characters, but the file has room for 30");
-  ASSERT_EQ(table.WriteTable(m_path, 0, 0), 1);
+  ASSERT_EQ(Save(table), 1);
   EXPECT_TRUE(orv3::SaveFaults(table, m_path).empty());
   EXPECT_EQ(orv3::SaveFaults(table, m_path, true).size(), 1U);
 
-  CDataTable tall;
-  tall.SetTableName(CString(L'型', 64));
-  tall.AddTableCol(L"c", L"c", CDataTypeStruct::KVBT_STRING, 0);
-  for (int i = 0; i < 700; ++i) ASSERT_EQ(tall.AddTableItem(L"v", 1), 1);
+  const CDataTable tall = OneColumn(CString(L'型', 64), 700);
   EXPECT_EQ(orv3::SaveFaults(tall, L"").size(), 1U);  // 203 bytes in a record of 200
 }
 
@@ -97,48 +89,35 @@ TEST_F(StoreCheck, InformationCountsRowsByState) {
 }
 
 TEST_F(StoreCheck, EachFaultOfAFileIsNamedByItsPlace) {
-  const CTable whole{"A", 2, golden::kHeading, {"0,,,0,,,a,,,1", "1,,,0,,,b,,,2"}, {kFirst}};
-  const auto file = [&whole](auto change) {
-    std::string bytes = golden::File({whole}, kOneBlock);
-    change(bytes);
-    return bytes;
-  };
-  const auto record = [&file](const char* text) {
-    return file(
-        [text](std::string& b) { b.replace(kOneBlock - 20000, 200, golden::Field(text, 200)); });
-  };
+  constexpr std::int64_t kLine = kOneBlock - 20100;
   constexpr std::int64_t kRecord = kOneBlock - 20000;
+  // The file of one table with these bytes at a place.
+  const auto with = [](std::int64_t at, const std::string& bytes) {
+    std::string file = golden::File({golden::Section("A", 2)}, kOneBlock);
+    return file.replace(static_cast<std::size_t>(at), bytes.size(), bytes);
+  };
+  const auto field = [](const char* text) { return golden::Field(text, 200); };
   const struct {
     const char* name;
     std::string bytes;
     std::int64_t offset;
-    std::size_t faults;
+    std::size_t faults = 1;
   } kCases[] = {
-      {"short", "x", 0, 1},
-      {"magic", file([](std::string& b) { b[kOneBlock - 20100] = 'x'; }), 0, 1},
-      {"end mark", file([](std::string& b) { b.back() = '\0'; }), kOneBlock - 1, 1},
-      {"kind", file([](std::string& b) { b[kOneBlock - 20100 + 20] = '9' - 10; }),
-       kOneBlock - 20100, 1},
-      {"slot", record("A,,,92,,,2,,,20100"), kRecord, 1},
-      {"rows", record("A,,,91,,,-2,,,20100"), kRecord, 1},
-      {"blocks missing", record("A,,,91,,,96,,,20100"), kRecord, 95},  // and 94 empty slots
-      {"block outside", record("A,,,91,,,2,,,20101"), kRecord, 1},
-      {"same block", file([](std::string& b) {
-         b.replace(kOneBlock - 19800, 200, golden::Field("B,,,91,,,1,,,20100", 200));
-       }),
-       kFirst, 1},
-      {"same name", file([](std::string& b) {
-         b.replace(kOneBlock - 19800, 200, golden::Field("A,,,91,,,1,,,20100", 200));
-       }),
-       kRecord + 200, 2},
-      {"hidden record", file([](std::string& b) { b[kOneBlock - 19600] = 'B'; }), kRecord + 400, 1},
-      {"heading", file([](std::string& b) { b.replace(kFirst, 200, golden::Field("a,,,b", 200)); }),
-       kFirst, 1},
-      {"row fields",
-       file([](std::string& b) { b.replace(kFirst + 291, 91, golden::Field("1,,,0", 91)); }),
-       kFirst + 291, 1},
-      {"row text", file([](std::string& b) { b[kFirst + 200 + 8] = static_cast<char>(0xFF - 10); }),
-       kFirst + 200, 1},
+      {"short", "x", 0},
+      {"magic", with(kLine, "x"), 0},
+      {"end mark", with(kOneBlock - 1, std::string(1, '\0')), kOneBlock - 1},
+      {"kind", with(kLine + 20, golden::Fake("9")), kLine},
+      {"slot", with(kRecord, field("A,,,92,,,2,,,20100")), kRecord},
+      {"rows", with(kRecord, field("A,,,91,,,-2,,,20100")), kRecord},
+      {"blocks missing", with(kRecord, field("A,,,91,,,96,,,20100")), kRecord,
+       95},  // and 94 empty slots
+      {"block outside", with(kRecord, field("A,,,91,,,2,,,20101")), kRecord},
+      {"same block", with(kRecord + 200, field("B,,,91,,,1,,,20100")), kFirst},
+      {"same name", with(kRecord + 200, field("A,,,91,,,1,,,20100")), kRecord + 200, 2},
+      {"hidden record", with(kRecord + 400, "B"), kRecord + 400},
+      {"heading", with(kFirst, field("a,,,b")), kFirst},
+      {"row fields", with(kFirst + 291, golden::Field("1,,,0", 91)), kFirst + 291},
+      {"row text", with(kFirst + 208, golden::Fake("\xFF")), kFirst + 200},
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.name);

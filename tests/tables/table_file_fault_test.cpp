@@ -14,14 +14,14 @@ using scenarios::kCount;
 using scenarios::kNewFile;
 using scenarios::Seen;
 
-class TableFault : public testing::TestWithParam<int> {
+class TableFault : public TableFileTest, public testing::WithParamInterface<int> {
  protected:
   TableFault() {
     if (GetParam() != kNewFile) scenarios::Prepare(m_path);
     m_before = Read();
     CDataTable table = scenarios::Start(m_path, GetParam());
     m_seenBefore = Seen(m_path);
-    EXPECT_EQ(table.WriteTable(m_path, 0, 0), 1);
+    EXPECT_EQ(Save(table), 1);
     m_seenAfter = Seen(m_path);
     EXPECT_NE(m_seenBefore, m_seenAfter);
   }
@@ -32,9 +32,6 @@ class TableFault : public testing::TestWithParam<int> {
     if (!m_before.empty()) PutBytes(m_path, m_before);
   }
 
-  CTempFolder m_folder;
-  CFaultyFiles m_quick;
-  const CString m_path = m_folder.Path(L"a.KDB");
   std::string m_before;
   std::string m_seenBefore;
   std::string m_seenAfter;
@@ -52,18 +49,17 @@ TEST_P(TableFault, AFailedOperationLeavesTheOldStoreAndTheTableToBeSavedAgain) {
         int saved = 0;
         {
           CFaultyFiles faulty(fault, at, forGood);
-          saved = table.WriteTable(m_path, 0, 0);
+          saved = Save(table);
           met = faulty.Met();
         }
         points += met;
         ASSERT_EQ(Seen(m_path), saved ? m_seenAfter : m_seenBefore);
-        ASSERT_EQ(table.WriteTable(m_path, 0, 0), 1);
+        ASSERT_EQ(Save(table), 1);
         ASSERT_EQ(Seen(m_path), m_seenAfter);
       }
     }
   }
   std::cout << scenarios::kNames[GetParam()] << ": " << points << " fault points\n";
-  RecordProperty("points", points);
 }
 
 TEST_P(TableFault, AKilledSaveLeavesTheOldStoreOrTheNew) {
@@ -78,14 +74,13 @@ TEST_P(TableFault, AKilledSaveLeavesTheOldStoreOrTheNew) {
     points += status != 0;
     // First for a reader that may change nothing, then for one that may.
     for (const bool readOnly : {true, false}) {
-      m_quick.SetReadOnly(readOnly);
+      m_files.SetReadOnly(readOnly);
       const std::string seen = Seen(m_path);
       ASSERT_TRUE(seen == m_seenAfter || (status != 0 && seen == m_seenBefore)) << seen;
     }
     ASSERT_FALSE(Exists(orv3::JournalPath(m_path)));
   }
   std::cout << scenarios::kNames[GetParam()] << ": killed at " << points << " points\n";
-  RecordProperty("points", points);
   EXPECT_GT(points, 10);
 }
 

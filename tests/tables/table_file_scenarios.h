@@ -13,7 +13,7 @@ inline const char* const kNames[] = {"change a row", "delete and add", "grow", "
 // Makes the store: 95 rows of one table and 2 of another.
 inline void Prepare(const CString& path) {
   CDataTable table = SectionTable();
-  for (int i = 0; i < 95; ++i) AddRow(table, Name(i));
+  FillUp(table, 95);
   EXPECT_EQ(table.WriteTable(path, 0, 0), 1);
   CDataTable second = SectionTable(L"B");
   AddRow(second, L"B1");
@@ -25,7 +25,7 @@ inline void Prepare(const CString& path) {
 inline CDataTable Start(const CString& path, int scenario) {
   if (scenario == kNewTable || scenario == kNewFile) {
     CDataTable table = SectionTable(L"C");
-    for (int i = 0; i < 150; ++i) AddRow(table, Name(i));
+    FillUp(table, 150);
     return table;
   }
   CDataTable table = Loaded(path);
@@ -46,9 +46,7 @@ inline CDataTable Start(const CString& path, int scenario) {
     EXPECT_EQ(table.DeleteTableItem(90), 1);
     AddRow(table, L"new");
   }
-  if (scenario == kGrow) {
-    for (int i = 95; i < 200; ++i) AddRow(table, Name(i));
-  }
+  if (scenario == kGrow) FillUp(table, 200);
   return table;
 }
 

@@ -1,6 +1,7 @@
 // Several that save into one store: none's rows are lost.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 #include <thread>
 
@@ -12,22 +13,20 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-class SharedStore : public testing::Test {
+class SharedStore : public TableFileTest {
  protected:
-  SharedStore() {
-    CDataTable table = SectionTable();
-    for (int i = 0; i < 4; ++i) AddRow(table, Name(i));
-    EXPECT_EQ(table.WriteTable(m_path, 0, 0), 1);
-  }
+  SharedStore() { Start(); }
 
-  int Save(CDataTable& table) { return table.WriteTable(m_path, 0, 0); }
+  // The store with one table of four rows.
+  void Start() {
+    orv3::SystemFiles().Remove(m_path);
+    CDataTable table = SectionTable();
+    FillUp(table, 4);
+    EXPECT_EQ(Save(table), 1);
+  }
   static void Modify(CDataTable& table, int index, const wchar_t* text) {
     ASSERT_EQ(table.ModifyTableItem(index, text), 1);
   }
-
-  CTempFolder m_folder;
-  CFaultyFiles m_quick;
-  const CString m_path = m_folder.Path(L"a.KDB");
 };
 
 TEST_F(SharedStore, DifferentRowsOfBothSurvive) {
@@ -63,61 +62,52 @@ TEST_F(SharedStore, DifferentRowsOfBothSurvive) {
 }
 
 TEST_F(SharedStore, ARowThatBothChangedIsTheLaterSaves) {
+  const auto modify1 = [](const wchar_t* text) {
+    return [text](CDataTable& t) { Modify(t, 1, text); };
+  };
+  const auto modify3 = [](CDataTable& t) { Modify(t, 3, L"I3,mine"); };
+  const auto delete1 = [](CDataTable& t) { t.DeleteTableItem(1); };
+  const auto compact = [](CDataTable& t) { t.m_arrItem.RemoveAt(1); };
+  const auto add = [](const wchar_t* height) {
+    return [height](CDataTable& t) { AddRow(t, L"X", height); };
+  };
+  const auto replace = [](CDataTable& t) {
+    t.DeleteTableItem(1);
+    AddRow(t, L"X", L"theirs");
+  };
+  const auto nothing = [](CDataTable&) {};
+  const auto theirs = modify1(L"I1,theirs");
+  const auto mine = modify1(L"I1,mine");
   const struct {
     const char* name;
-    void (*theirs)(CDataTable&);
-    void (*mine)(CDataTable&);
+    std::function<void(CDataTable&)> theirs, mine;
     Lines expected;
   } kCases[] = {
-      {"both modify",
-       [](CDataTable& t) { Modify(t, 1, L"I1,theirs"); },
-       [](CDataTable& t) { Modify(t, 1, L"I1,mine"); },
-       {"I0=200", "I1=mine", "I2=200", "I3=200"}},
-      {"they delete, I modify",
-       [](CDataTable& t) { t.DeleteTableItem(1); },
-       [](CDataTable& t) { Modify(t, 1, L"I1,mine"); },
-       {"I0=200", "I1=mine", "I2=200", "I3=200"}},
-      {"they modify, I delete",
-       [](CDataTable& t) { Modify(t, 1, L"I1,theirs"); },
-       [](CDataTable& t) { t.DeleteTableItem(1); },
-       {"I0=200", "-I1=200", "I2=200", "I3=200"}},
-      {"they delete",
-       [](CDataTable& t) { t.DeleteTableItem(1); },
-       [](CDataTable&) {},
-       {"I0=200", "-I1=200", "I2=200", "I3=200"}},
+      {"both modify", theirs, mine, {"I0=200", "I1=mine", "I2=200", "I3=200"}},
+      {"they delete, I modify", delete1, mine, {"I0=200", "I1=mine", "I2=200", "I3=200"}},
+      {"they modify, I delete", theirs, delete1, {"I0=200", "-I1=200", "I2=200", "I3=200"}},
+      {"they delete", delete1, nothing, {"I0=200", "-I1=200", "I2=200", "I3=200"}},
       {"both add the same key",
-       [](CDataTable& t) { AddRow(t, L"X", L"theirs"); },
-       [](CDataTable& t) { AddRow(t, L"X", L"mine"); },
+       add(L"theirs"),
+       add(L"mine"),
        {"I0=200", "I1=200", "I2=200", "I3=200", "X=mine"}},
       {"they replace what I modify",
-       [](CDataTable& t) {
-         t.DeleteTableItem(1);
-         AddRow(t, L"X", L"theirs");
-       },
-       [](CDataTable& t) { Modify(t, 1, L"I1,mine"); },
+       replace,
+       mine,
        {"I0=200", "X=theirs", "I2=200", "I3=200", "I1=mine"}},
-      {"they compact",
-       [](CDataTable& t) { t.m_arrItem.RemoveAt(1); },
-       [](CDataTable& t) { Modify(t, 3, L"I3,mine"); },
-       {"I0=200", "I2=200", "I3=mine"}},
-      {"I compact",
-       [](CDataTable& t) { AddRow(t, L"X", L"theirs"); },
-       [](CDataTable& t) { t.m_arrItem.RemoveAt(1); },
-       {"I0=200", "I2=200", "I3=200", "X=theirs"}},
+      {"they compact", compact, modify3, {"I0=200", "I2=200", "I3=mine"}},
+      {"I compact", add(L"theirs"), compact, {"I0=200", "I2=200", "I3=200", "X=theirs"}},
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.name);
-    orv3::SystemFiles().Remove(m_path);
-    CDataTable start = SectionTable();
-    for (int i = 0; i < 4; ++i) AddRow(start, Name(i));
-    ASSERT_EQ(Save(start), 1);
-    CDataTable mine = Loaded(m_path);
-    CDataTable theirs = Loaded(m_path);
-    c.theirs(theirs);
-    ASSERT_EQ(Save(theirs), 1);
-    c.mine(mine);
-    ASSERT_EQ(Save(mine), 1);
-    EXPECT_EQ(Rows(mine), c.expected);
+    Start();
+    CDataTable table = Loaded(m_path);
+    CDataTable other = Loaded(m_path);
+    c.theirs(other);
+    ASSERT_EQ(Save(other), 1);
+    c.mine(table);
+    ASSERT_EQ(Save(table), 1);
+    EXPECT_EQ(Rows(table), c.expected);
     EXPECT_EQ(Rows(Loaded(m_path)), c.expected);
   }
 }

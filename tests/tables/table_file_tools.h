@@ -75,6 +75,16 @@ inline constexpr std::size_t kBlock = 9100;
 inline constexpr std::size_t kFirst = 20100;
 inline constexpr std::size_t kOneBlock = 20100 + kBlock + 20100;
 
+// A table of these columns with the rows I0, I1, ..., each 200 high.
+inline CTable Section(const std::string& name, int rows) {
+  CTable table{name, 2, kHeading, {}, {kFirst}};
+  for (int i = 0; i < rows; ++i) {
+    const std::string n = std::to_string(i);
+    table.rows.push_back(n + ",,,0,,,I" + n + ",,,200");
+  }
+  return table;
+}
+
 }  // namespace golden
 
 inline CDataTable SectionTable(const wchar_t* name = L"工字钢") {
@@ -85,6 +95,15 @@ inline CDataTable SectionTable(const wchar_t* name = L"工字钢") {
   return table;
 }
 
+// One column of text and so many rows.
+inline CDataTable OneColumn(const CString& name, int rows) {
+  CDataTable table;
+  table.SetTableName(name);
+  table.AddTableCol(L"c", L"c", CDataTypeStruct::KVBT_STRING, 0);
+  for (int i = 0; i < rows; ++i) EXPECT_EQ(table.AddTableItem(L"v", 1), 1);
+  return table;
+}
+
 inline CString Name(int i) { return L"I" + CString(std::to_wstring(i)); }
 
 inline void AddRow(CDataTable& table, const CString& name, const CString& height = L"200") {
@@ -92,6 +111,11 @@ inline void AddRow(CDataTable& table, const CString& name, const CString& height
   values.Add(name);
   values.Add(height);
   ASSERT_EQ(table.AddTableItem(values, 1), 1);
+}
+
+// Adds I0, I1, ... until there are `rows`.
+inline void FillUp(CDataTable& table, int rows) {
+  while (table.GetTableRowNum() < rows) AddRow(table, Name(table.GetTableRowNum()));
 }
 
 // The table's live and deleted rows as "name=height", deleted ones with "-" in front.
@@ -111,3 +135,15 @@ inline CDataTable Loaded(const CString& path, const wchar_t* name = L"工字钢"
   EXPECT_EQ(table.GetTable(path, line), 1) << orv3::ToUtf8(orv3::LastStoreError().m_strText);
   return table;
 }
+
+// A table file in a folder of its own, at the time of the golden files.
+class TableFileTest : public testing::Test {
+ protected:
+  TableFileTest() { m_files.SetLocalTime(golden::kTime); }
+
+  int Save(CDataTable& table, int all = 0) { return table.WriteTable(m_path, 0, all); }
+
+  CTempFolder m_folder;
+  CFaultyFiles m_files;
+  const CString m_path = m_folder.Path(L"a.KDB");
+};
