@@ -18,11 +18,11 @@ constexpr long kRolled = 0x01000FFF;
 void UseOnce() {
   CDataItem row;
   const CString path = orv3::FromUtf8(ORV3CAL_CATALOGUE "/");
+  CStringArray names;
+  CLoadDataTable::GetTableNameArray(kRolled, names);
   Drive([&] { CLoadDataTable::VisitDataBase(path, row, kRolled); },
-        [] {
+        [&] {
           const auto probe = CDialogProbe::WaitFor(L"钢结构截面特性数据库");
-          CStringArray names;
-          CLoadDataTable::GetTableNameArray(kRolled, names);
           for (const CString& name : names) {
             probe.SelectNode(IDC_TREE, std::wstring(name.View()));
             probe.Choose(IDC_SEARCH_COLUMN, L"No.");
@@ -45,6 +45,7 @@ TEST(Soak, NothingIsLeftBehind) {
   const CHoldings before = Holdings();
   for (int i = 1; i <= times; ++i) {
     UseOnce();
+    ASSERT_FALSE(HasFailure()) << "in round " << i;
     if (wanted != nullptr) std::cout << i << " of " << times << ": " << Holdings() << std::endl;
   }
   const CHoldings after = Holdings();
