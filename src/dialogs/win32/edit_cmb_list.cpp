@@ -13,6 +13,7 @@ namespace {
 
 constexpr UINT_PTR kSubclass = 1;
 constexpr int kChoicesShown = 12;
+constexpr int kCellMargin = 14;  // pixels at 96 dpi, beside a cell's text
 
 // Dialog keys that are the editor's while it is open, and not the dialog's.
 bool IsEditorKey(WPARAM key) { return key == VK_RETURN || key == VK_ESCAPE || key == VK_TAB; }
@@ -55,19 +56,34 @@ void CEditCmbList::SetDpi(int dpi) {
   FitColumns();
 }
 
-// The last column takes what the others leave it when there is no room for its own width.
+// A column has its own width or, up to `most`, that of its longest text.
+int CEditCmbList::FittingWidth(int column, int most) const {
+  int width = ScaleToDpi(m_pGrid->ColumnWidth(column), m_nDpi);
+  const int margin = ScaleToDpi(kCellMargin, m_nDpi);
+  for (int line = 0; line < m_pGrid->LineCount(); ++line) {
+    const CString text = m_pGrid->CellText(line, column);
+    const auto needed = static_cast<int>(
+        SendMessageW(m_hList, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text.GetString())));
+    width = std::max(width, std::min(needed + margin, most));
+  }
+  return width;
+}
+
+// The last column takes what the others leave it when there is no room for its own width; half of
+// that they must leave.
 void CEditCmbList::FitColumns() {
   RECT client{};
   GetWindowRect(m_hList, &client);
   int room = static_cast<int>(client.right - client.left) - GetSystemMetrics(SM_CXVSCROLL) -
              2 * GetSystemMetrics(SM_CXEDGE);
-  for (int column = 0; column < m_pGrid->ColumnCount(); ++column) {
-    const int own = ScaleToDpi(m_pGrid->ColumnWidth(column), m_nDpi);
-    const bool last = column == m_pGrid->ColumnCount() - 1;
-    const int width = last && room > own / 2 ? std::min(own, room) : own;
+  const int last = m_pGrid->ColumnCount() - 1;
+  const int lastOwn = ScaleToDpi(m_pGrid->ColumnWidth(last), m_nDpi);
+  for (int column = 0; column < last; ++column) {
+    const int width = FittingWidth(column, room - lastOwn / 2);
     ListView_SetColumnWidth(m_hList, column, width);
     room -= width;
   }
+  ListView_SetColumnWidth(m_hList, last, room > lastOwn / 2 ? std::min(lastOwn, room) : lastOwn);
 }
 
 bool CEditCmbList::CanEdit(int line, int column) const {

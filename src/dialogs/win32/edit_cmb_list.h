@@ -44,6 +44,7 @@ class CEditCmbList {
                                      UINT_PTR id, DWORD_PTR self);
   bool OnListKey(WPARAM key);
   bool OnEditorKey(WPARAM key);
+  int FittingWidth(int column, int most) const;
   void FitColumns();
   void OnListClick(LPARAM place);
   void OnChosen(HWND editor);
