@@ -95,6 +95,7 @@ void OpenEachDialog(const CString& folder) {
 
 TEST(CModuleClasses, OpenEachDialogAndLeaveNothingBehind) {
   const CTempFolder folder;
+  FillStockOfDrawingContexts();
   OpenEachDialog(folder.Path());
   ExpectCountsSeeNewObjects();
   const CHoldings before = Holdings();

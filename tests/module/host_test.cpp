@@ -158,6 +158,7 @@ class CHost : public testing::Test {
 // handle behind whenever they are unloaded.
 void ExpectNoLeak(int rounds, const std::function<void()>& round) {
   for (const wchar_t* file : {L"libstdc++-6.dll", L"comdlg32.dll"}) LoadLibraryW(file);
+  FillStockOfDrawingContexts();
   round();
   round();
   ExpectCountsSeeNewObjects();

@@ -63,6 +63,12 @@ std::size_t HeapBytes() {
 
 CHoldings Holdings() { return {UserObjects(), GdiObjects(), KernelHandles(), HeapBytes()}; }
 
+void FillStockOfDrawingContexts() {
+  std::array<HDC, 16> contexts{};
+  for (HDC& context : contexts) context = GetDC(nullptr);
+  for (const HDC context : contexts) ReleaseDC(nullptr, context);
+}
+
 void ExpectCountsSeeNewObjects() {
   const CHoldings before = Holdings();
   const HPEN pen = CreatePen(PS_SOLID, 1, 0);

@@ -14,6 +14,10 @@ struct CHoldings {
 // Windows counts for us; where it answers 0, as Wine 8 does, every possible handle is tried.
 CHoldings Holdings();
 
+// Lets the system make more drawing contexts than dialogs ever need at once: it keeps those it has
+// made, and how many that are depends on what happens to be painted at the same time.
+void FillStockOfDrawingContexts();
+
 // Fails the test unless a new object of each kind is counted: a count that sees nothing would let
 // every leak pass.
 void ExpectCountsSeeNewObjects();

@@ -40,6 +40,7 @@ void UseOnce() {
 TEST(Soak, NothingIsLeftBehind) {
   const char* const wanted = std::getenv("ORV3CAL_SOAK");
   const int times = wanted != nullptr ? std::atoi(wanted) : 5;
+  FillStockOfDrawingContexts();
   UseOnce();
   ExpectCountsSeeNewObjects();
   const CHoldings before = Holdings();
