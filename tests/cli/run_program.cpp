@@ -7,7 +7,7 @@
 #include <cstdio>
 
 #include "framework/utf8.h"
-#include "platform/whole_file.h"
+#include "platform/patient_read.h"
 
 namespace {
 
@@ -51,7 +51,7 @@ COwnFile::~COwnFile() { orv3::SystemFiles().Remove(orv3::FromUtf8(m_strPath)); }
 
 std::string FileBytes(const std::string& path) {
   std::string bytes;
-  orv3::ReadWholeFile(orv3::FromUtf8(path), bytes);
+  ReadPatiently(orv3::FromUtf8(path), bytes);
   return bytes;
 }
 

@@ -9,6 +9,7 @@
 
 #include "framework/cstring.h"
 #include "framework/utf8.h"
+#include "platform/patient_read.h"
 #include "platform/whole_file.h"
 
 class CTempFolder {
@@ -39,7 +40,7 @@ class CTempFolder {
 
 inline std::string Bytes(const CString& path) {
   std::string bytes;
-  EXPECT_EQ(orv3::ReadWholeFile(path, bytes), orv3::CFileError::None) << orv3::ToUtf8(path);
+  EXPECT_EQ(ReadPatiently(path, bytes), orv3::CFileError::None) << orv3::ToUtf8(path);
   return bytes;
 }
 
