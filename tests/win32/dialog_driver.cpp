@@ -97,6 +97,37 @@ void CloseEverything(const std::atomic<bool>& ended) {
   }
 }
 
+// The thread that plays the user in every test of the process. It never ends: threads of the
+// compiler's library that come and go make handles of their own, now and then one that stays.
+class CPlayer {
+ public:
+  static CPlayer& Instance() {
+    static auto* const player = new CPlayer;
+    return *player;
+  }
+  void Start(const std::function<void()>& script) {
+    m_pScript = &script;
+    SetEvent(m_hStart);
+  }
+  void WaitForEnd() { WaitForSingleObject(m_hEnd, INFINITE); }
+
+ private:
+  CPlayer() { CloseHandle(CreateThread(nullptr, 0, Play, this, 0, nullptr)); }
+
+  static DWORD WINAPI Play(void* self) {
+    auto* const player = static_cast<CPlayer*>(self);
+    for (;;) {
+      WaitForSingleObject(player->m_hStart, INFINITE);
+      (*player->m_pScript)();
+      SetEvent(player->m_hEnd);
+    }
+  }
+
+  const HANDLE m_hStart = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+  const HANDLE m_hEnd = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+  const std::function<void()>* m_pScript = nullptr;
+};
+
 }  // namespace
 
 void Eventually(const std::function<bool()>& condition, const std::string& what) {
@@ -110,17 +141,19 @@ void Eventually(const std::function<bool()>& condition, const std::string& what)
 void Drive(const std::function<void()>& dialog, const std::function<void()>& script) {
   std::string failure;
   std::atomic<bool> ended = false;
-  std::thread driver([&] {
+  const std::function<void()> play = [&] {
     try {
       script();
     } catch (const std::exception& error) {
       failure = error.what();
       CloseEverything(ended);
     }
-  });
+  };
+  CPlayer& player = CPlayer::Instance();
+  player.Start(play);
   dialog();
   ended = true;
-  driver.join();
+  player.WaitForEnd();
   EXPECT_EQ(failure, "");
 }
 
