@@ -61,6 +61,7 @@ void OpenAndClose(DIALOG& dialog, const wchar_t* caption) {
   Drive([&] { result = dialog.DoModal(); },
         [=] {
           const auto probe = CDialogProbe::WaitFor(caption);
+          probe.Paint();
           probe.Close();
           probe.WaitUntilClosed();
         });

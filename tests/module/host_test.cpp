@@ -140,6 +140,7 @@ class CHost : public testing::Test {
 
   static void CloseDialog(const wchar_t* caption) {
     const auto dialog = CDialogProbe::WaitFor(caption);
+    dialog.Paint();
     dialog.Close();
     dialog.WaitUntilClosed();
   }

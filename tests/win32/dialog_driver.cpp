@@ -223,6 +223,11 @@ void CDialogProbe::WaitUntilClosed() const {
   if (owner != nullptr) SendMessageW(owner, WM_NULL, 0, 0);
 }
 
+void CDialogProbe::Paint() const {
+  RedrawWindow(m_hWnd, nullptr, nullptr,
+               RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
 HWND CDialogProbe::Control(int id) const {
   const HWND control = GetDlgItem(m_hWnd, id);
   if (control == nullptr) throw std::runtime_error("no control " + std::to_string(id));

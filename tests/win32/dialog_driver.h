@@ -27,6 +27,9 @@ class CDialogProbe {
   // thread, may then be asked from here.
   void WaitUntilClosed() const;
 
+  // Paints all of it now: what the system makes for painting, once a process, is there then.
+  void Paint() const;
+
   HWND Window() const { return m_hWnd; }
   HWND Control(int id) const;
   std::wstring Text(int id) const;
