@@ -2,18 +2,11 @@
 #include <cmath>
 #include <numbers>
 
+#include "catalogue/outline/dimension_sides.h"
 #include "catalogue/outline/shapes.h"
 
 namespace orv3 {
 namespace {
-
-using CDimensions = std::vector<CSizeDimension>;
-constexpr auto kTop = CDimensionSide::Top;
-constexpr auto kBottom = CDimensionSide::Bottom;
-constexpr auto kLeft = CDimensionSide::Left;
-constexpr auto kRight = CDimensionSide::Right;
-constexpr auto kInside = CDimensionSide::Inside;
-constexpr auto kLeader = CDimensionSide::Leader;
 
 // A leader to the middle of the arc of this radius nearest to a point, from where no steel is.
 void AddArcLeader(CDimensions& to, const COutline& outline, const wchar_t* sign, double radius,

@@ -3,19 +3,12 @@
 #include <array>
 
 #include "catalogue/lattice/lattice_limbs.h"
+#include "catalogue/outline/dimension_sides.h"
 #include "catalogue/outline/shapes.h"
 #include "sections/section_style.h"
 
 namespace orv3 {
 namespace {
-
-using CDimensions = std::vector<CSizeDimension>;
-constexpr auto kTop = CDimensionSide::Top;
-constexpr auto kBottom = CDimensionSide::Bottom;
-constexpr auto kLeft = CDimensionSide::Left;
-constexpr auto kRight = CDimensionSide::Right;
-constexpr auto kInside = CDimensionSide::Inside;
-constexpr auto kLeader = CDimensionSide::Leader;
 
 CDimensions CustomDimensions(const CSectionStyle& style, const CDataItem& row) {
   std::array<double, kSectionSizes> sizes{};
