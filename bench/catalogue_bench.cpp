@@ -15,7 +15,7 @@
 #include "platform/code_page.h"
 #include "system_store.h"
 #include "tables/data_table.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace {
 

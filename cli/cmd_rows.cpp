@@ -14,7 +14,7 @@
 #include "store_place.h"
 #include "store_table.h"
 #include "table_json.h"
-#include "tables/search.h"
+#include "tables/expression.h"
 #include "text_table.h"
 
 namespace orv3::cli {

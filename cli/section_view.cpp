@@ -1,6 +1,6 @@
 #include "section_view.h"
 
-#include "framework/drawing_dxf.h"
+#include "drawing/dxf.h"
 #include "framework/utf8.h"
 #include "sections/outline.h"
 #include "sections/section_picture.h"

@@ -17,8 +17,8 @@
 #include "store_place.h"
 #include "store_table.h"
 #include "table_json.h"
-#include "tables/table_file_check.h"
-#include "tables/table_store.h"
+#include "tables/file/check.h"
+#include "tables/file/table_store.h"
 
 namespace orv3::cli {
 namespace {

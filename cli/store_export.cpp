@@ -20,8 +20,8 @@
 #include "store_place.h"
 #include "store_table.h"
 #include "table_json.h"
-#include "tables/store_check.h"
-#include "tables/table_file_check.h"
+#include "tables/file/check.h"
+#include "tables/file/store_check.h"
 
 namespace orv3::cli {
 namespace {

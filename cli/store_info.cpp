@@ -8,7 +8,7 @@
 #include "output.h"
 #include "platform/store_error.h"
 #include "store_commands.h"
-#include "tables/store_check.h"
+#include "tables/file/store_check.h"
 #include "text_table.h"
 
 namespace orv3::cli {

@@ -9,7 +9,7 @@
 #include "platform/places.h"
 #include "platform/store_error.h"
 #include "sections/system_tables.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace orv3::cli {
 namespace {

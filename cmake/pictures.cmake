@@ -5,7 +5,9 @@
 # emulator.
 set(pictures ${CMAKE_BINARY_DIR}/pictures)
 file(GLOB parts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/module/pictures/*
-     ${PROJECT_SOURCE_DIR}/src/framework/* ${PROJECT_SOURCE_DIR}/src/tables/sketch*)
+     ${PROJECT_SOURCE_DIR}/src/framework/* ${PROJECT_SOURCE_DIR}/src/drawing/*
+     ${PROJECT_SOURCE_DIR}/src/sections/sketch/* ${PROJECT_SOURCE_DIR}/src/sections/section_shapes.*
+     ${PROJECT_SOURCE_DIR}/src/sections/section_kind.*)
 add_custom_command(
   OUTPUT ${pictures}/pictures.rc
   COMMAND ${CMAKE_COMMAND} -S ${PROJECT_SOURCE_DIR}/src/module/pictures -B ${pictures}/tool

@@ -13,7 +13,7 @@
 #include "platform/command_line.h"
 #include "platform/store_error.h"
 #include "system_store.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace orv3::catalogue {
 namespace {

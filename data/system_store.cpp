@@ -8,7 +8,7 @@
 #include "platform/file_system.h"
 #include "platform/store_error.h"
 #include "sections/load_data_table.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace orv3::catalogue {
 namespace {

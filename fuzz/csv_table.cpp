@@ -6,7 +6,7 @@
 
 #include "memory_files.h"
 #include "sections/load_data_table.h"
-#include "tables/table_file_check.h"
+#include "tables/file/check.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 
 #include "memory_files.h"
 #include "tables/data_table.h"
-#include "tables/table_file_layout.h"
+#include "tables/file/layout.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 // The text forms: stored bytes of any kind are read, and what was read is stored as it is.
-#include "tables/table_text.h"
+#include "tables/file/table_text.h"
 
 #include <string>
 
 #include "memory_files.h"
 #include "tables/data_table.h"
-#include "tables/table_file_info.h"
+#include "tables/file/info.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   std::string plain(reinterpret_cast<const char*>(data), size);

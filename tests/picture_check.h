@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/drawing.h"
+#include "drawing/drawing.h"
 
 inline orv3::CBox LabelBox(const orv3::CLabel& label) {
   using orv3::CAnchor;

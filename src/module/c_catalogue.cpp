@@ -5,7 +5,7 @@
 #include "platform/store_error.h"
 #include "sections/load_data_table.h"
 #include "tables/data_table.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace orv3::c_interface {
 namespace {

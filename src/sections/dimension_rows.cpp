@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "framework/drawing.h"
+#include "drawing/drawing.h"
 
 namespace orv3 {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "sections/system_tables.h"
 #include "tables/data_table.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace {
 

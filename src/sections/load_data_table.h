@@ -8,8 +8,8 @@
 
 #include <string_view>
 
+#include "drawing/bitmap.h"
 #include "framework/array.h"
-#include "framework/bitmap.h"
 #include "framework/cstring.h"
 #include "framework/export.h"
 #include "sections/table_types.h"

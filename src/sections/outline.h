@@ -9,7 +9,7 @@
 #include <span>
 #include <vector>
 
-#include "framework/drawing_path.h"
+#include "drawing/path.h"
 #include "framework/export.h"
 
 namespace orv3 {

@@ -4,8 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include "drawing/drawing.h"
 #include "framework/cstring.h"
-#include "framework/drawing.h"
 #include "framework/export.h"
 #include "sections/outline.h"
 #include "sections/section_dimensions.h"

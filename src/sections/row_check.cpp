@@ -10,7 +10,7 @@
 #include "sections/section_check.h"
 #include "sections/section_style.h"
 #include "tables/data_item.h"
-#include "tables/table_text.h"
+#include "tables/file/table_text.h"
 
 namespace orv3 {
 namespace {

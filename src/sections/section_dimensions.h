@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "framework/drawing_path.h"
+#include "drawing/path.h"
 #include "sections/outline.h"
 
 namespace orv3 {

@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
+#include "drawing/drawing.h"
 #include "framework/cstring.h"
-#include "framework/drawing.h"
 #include "framework/export.h"
 #include "sections/outline.h"
 

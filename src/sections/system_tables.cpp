@@ -8,7 +8,7 @@
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "platform/threads.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace orv3 {
 namespace {

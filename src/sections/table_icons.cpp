@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "sections/load_data_table.h"
+#include "sections/sketch/sketch.h"
 #include "sections/table_names.h"
-#include "tables/sketch.h"
 
 namespace orv3 {
 namespace {

@@ -1,8 +1,8 @@
 // The tree's pictures: one for each table, drawn from the table's sketch.
 #pragma once
 
+#include "drawing/bitmap.h"
 #include "framework/array.h"
-#include "framework/bitmap.h"
 #include "framework/export.h"
 
 namespace orv3 {

@@ -2,7 +2,6 @@
 
 #include "framework/utf8.h"
 #include "tables/data_table.h"
-#include "tables/sketch.h"
 
 CDataItem& CDataItem::operator=(const CDataItem& other) {
   if (this == &other) throw CInvalidArgException("CDataItem: a row was assigned to itself");
@@ -56,8 +55,4 @@ int CDataItem::SetDataItemValue(const CString& text) {
   CStringArray values;
   CDataTable::TransStrToArray(text, L",", values);
   return SetDataItemValue(values);
-}
-
-void CDataItem::GetItemBitmap(CBitmap*& out) const {
-  out = new CBitmap(orv3::SketchBitmap(orv3::SketchResource(m_strTableName)));
 }

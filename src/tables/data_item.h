@@ -1,8 +1,8 @@
 // Rows.
 #pragma once
 
+#include "drawing/bitmap.h"
 #include "framework/array.h"
-#include "framework/bitmap.h"
 #include "framework/cstring.h"
 #include "framework/export.h"
 #include "tables/data_cell.h"

@@ -4,7 +4,6 @@
 
 #include "framework/message.h"
 #include "tables/row_index.h"
-#include "tables/sketch.h"
 
 CDataTable::CDataTable() = default;
 CDataTable::~CDataTable() = default;
@@ -74,12 +73,6 @@ int CDataTable::SetParentTable(CDataTable* parent) {
 void CDataTable::SetTableFileInfo(const CString& info) {
   m_strFileInfo = info;
   for (int i = 0; i < GetTableRowNum(); ++i) m_arrItem.Own(i).m_strFileInfo = info;
-}
-
-void CDataTable::GetItemBitmap(CBitmap*& out) const {
-  CDataItem named;
-  named.m_strTableName = m_strTableName;
-  (m_arrItem.IsEmpty() ? named : m_arrItem[0]).GetItemBitmap(out);
 }
 
 void CDataTable::ClearTable() {

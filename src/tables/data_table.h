@@ -18,7 +18,7 @@
 #include "tables/data_item.h"
 #include "tables/data_item_array.h"
 #include "tables/data_type.h"
-#include "tables/table_file_info.h"
+#include "tables/file/info.h"
 
 namespace orv3 {
 class CRowIndex;
@@ -144,9 +144,10 @@ class ORV3CAL_API CDataTable {
   static int CheckDouble(const CString& text, double& out, double max, double min);
   static int CheckInt(const CString& text, long& out, long max, long min);
 
-  // --- Table files: see tables/table_file_layout.h
+  // --- Table files: see tables/file/layout.h
   // ------------------------------------------------ Text as it goes to a file ("fake" form), one
-  // byte a character, and back; see table_text.h. A character that the ANSI code page lacks becomes
+  // byte a character, and back; see file/table_text.h. A character that the ANSI code page lacks
+  // becomes
   // "?"; saves refuse it.
   static CString TransStringToFake(const CString& text);
   static CString TransFakeToString(const char* stored);

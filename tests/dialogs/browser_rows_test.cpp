@@ -8,7 +8,7 @@
 #include "platform/faulty_files.h"
 #include "platform/store_file.h"
 #include "scripted_user.h"
-#include "tables/table_file_check.h"
+#include "tables/file/check.h"
 
 namespace {
 

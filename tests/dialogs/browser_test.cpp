@@ -6,7 +6,7 @@
 #include "dialogs/model/dialog_texts.h"
 #include "platform/faulty_files.h"
 #include "scripted_user.h"
-#include "tables/sketch.h"
+#include "sections/sketch/sketch.h"
 
 namespace {
 

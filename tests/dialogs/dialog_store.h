@@ -10,7 +10,7 @@
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 #include "tables/data_table.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 class CDialogStore {
  public:

@@ -12,7 +12,7 @@
 #include "platform/temp_folder.h"
 #include "sections/steel_jm_data.h"
 #include "tables/data_table.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace {
 

@@ -16,9 +16,9 @@
 #include "framework/utf8.h"
 #include "module/orv3cal_c.h"
 #include "platform/temp_folder.h"
+#include "sections/sketch/sketch.h"
 #include "tables/data_table.h"
-#include "tables/sketch.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 #include "win32/dialog_driver.h"
 #include "win32/holdings.h"
 

@@ -9,8 +9,8 @@
 #include "platform/store_file.h"
 #include "sections/geometry_rows.h"
 #include "sections/row_check.h"
+#include "tables/file/table_store.h"
 #include "tables/table_file_tools.h"
-#include "tables/table_store.h"
 
 namespace {
 

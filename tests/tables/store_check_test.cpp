@@ -1,9 +1,9 @@
 // What a save would cut is named before it, and what is wrong with a file is named by its place.
-#include "tables/store_check.h"
+#include "tables/file/store_check.h"
 
 #include <gtest/gtest.h>
 
-#include "tables/table_file_check.h"
+#include "tables/file/check.h"
 #include "tables/table_file_tools.h"
 
 namespace {

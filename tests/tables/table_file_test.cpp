@@ -1,5 +1,5 @@
 // Table files to the byte.
-#include "tables/table_file_info.h"
+#include "tables/file/info.h"
 
 #include <gtest/gtest.h>
 

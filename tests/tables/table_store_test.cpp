@@ -1,5 +1,5 @@
 // The section stores: which file holds what.
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 #include <gtest/gtest.h>
 

@@ -11,7 +11,7 @@
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "platform/whole_file.h"
-#include "tables/store_check.h"
+#include "tables/file/store_check.h"
 
 namespace orv3 {
 namespace {

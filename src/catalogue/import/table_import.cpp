@@ -9,8 +9,8 @@
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
-#include "tables/table_file_check.h"
-#include "tables/table_store.h"
+#include "tables/file/check.h"
+#include "tables/file/table_store.h"
 
 namespace orv3 {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "catalogue/lattice/lattice_limbs.h"
+#include "drawing/drawing.h"
 #include "framework/cstring.h"
-#include "framework/drawing.h"
 #include "framework/export.h"
 
 namespace orv3 {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "catalogue/outline/shapes.h"
-#include "tables/sketch_shapes.h"
+#include "sections/section_shapes.h"
 
 namespace orv3 {
 namespace {

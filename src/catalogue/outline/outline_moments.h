@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "framework/drawing_path.h"
+#include "drawing/path.h"
 #include "framework/export.h"
 
 namespace orv3 {

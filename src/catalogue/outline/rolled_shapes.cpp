@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "catalogue/outline/shapes.h"
-#include "tables/sketch_shapes.h"
+#include "sections/section_shapes.h"
 
 namespace orv3 {
 namespace {

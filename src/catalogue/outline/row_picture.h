@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "framework/drawing.h"
+#include "drawing/drawing.h"
 #include "framework/export.h"
 #include "tables/data_item.h"
 

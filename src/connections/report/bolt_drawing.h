@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "connections/bolt_group.h"
-#include "framework/drawing.h"
+#include "drawing/drawing.h"
 
 namespace orv3 {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "connections/cases/case_keys.h"
-#include "framework/drawing.h"
+#include "drawing/drawing.h"
 
 namespace orv3 {
 

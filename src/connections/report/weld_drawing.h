@@ -3,7 +3,7 @@
 #pragma once
 
 #include "connections/cases/weld_case.h"
-#include "framework/drawing.h"
+#include "drawing/drawing.h"
 
 namespace orv3 {
 

@@ -10,7 +10,7 @@
 #include "framework/exception.h"
 #include "framework/number_text.h"
 #include "sections/load_data_table.h"
-#include "tables/sketch.h"
+#include "sections/sketch/sketch.h"
 
 namespace orv3 {
 namespace {

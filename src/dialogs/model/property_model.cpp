@@ -10,7 +10,7 @@
 #include "sections/load_data_table.h"
 #include "sections/row_check.h"
 #include "sections/section_style.h"
-#include "tables/sketch.h"
+#include "sections/sketch/sketch.h"
 
 namespace orv3 {
 namespace {

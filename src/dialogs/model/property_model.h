@@ -9,7 +9,7 @@
 
 #include "dialogs/model/dialog_user.h"
 #include "dialogs/model/edit_grid_model.h"
-#include "framework/bitmap.h"
+#include "drawing/bitmap.h"
 #include "framework/cstring.h"
 #include "tables/data_item.h"
 

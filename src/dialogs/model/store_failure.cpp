@@ -2,8 +2,8 @@
 
 #include "dialogs/model/dialog_texts.h"
 #include "platform/store_error.h"
-#include "tables/table_file_check.h"
-#include "tables/table_store.h"
+#include "tables/file/check.h"
+#include "tables/file/table_store.h"
 
 namespace orv3 {
 namespace {

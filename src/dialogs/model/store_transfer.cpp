@@ -11,7 +11,7 @@
 #include "platform/file_system.h"
 #include "platform/store_file.h"
 #include "tables/data_table.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace orv3 {
 namespace {

@@ -7,7 +7,7 @@
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/store_failure.h"
 #include "platform/store_file.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace orv3 {
 namespace {

@@ -9,8 +9,8 @@
 #include "dialogs/model/spacing_model.h"
 #include "sections/load_data_table.h"
 #include "sections/section_style.h"
+#include "sections/sketch/sketch.h"
 #include "sections/steel_jm_data.h"
-#include "tables/sketch.h"
 
 namespace orv3 {
 namespace {

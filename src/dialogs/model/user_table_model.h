@@ -14,8 +14,8 @@
 #include "dialogs/model/edit_grid_model.h"
 #include "dialogs/model/store_failure.h"
 #include "dialogs/model/user_store.h"
+#include "drawing/bitmap.h"
 #include "framework/array.h"
-#include "framework/bitmap.h"
 #include "framework/cstring.h"
 #include "tables/data_table.h"
 

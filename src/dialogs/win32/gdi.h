@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "dialogs/win32/win32_api.h"
-#include "framework/bitmap.h"
+#include "drawing/bitmap.h"
 
 namespace orv3 {
 

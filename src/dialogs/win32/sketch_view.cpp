@@ -1,7 +1,7 @@
 #include "dialogs/win32/sketch_view.h"
 
 #include "dialogs/win32/dpi.h"
-#include "tables/sketch.h"
+#include "sections/sketch/sketch.h"
 
 namespace orv3 {
 

@@ -17,7 +17,7 @@
 #include "platform/file_system.h"
 #include "platform/places.h"
 #include "platform/whole_file.h"
-#include "tables/table_store.h"
+#include "tables/file/table_store.h"
 
 namespace {
 

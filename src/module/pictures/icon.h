@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "framework/bitmap.h"
+#include "drawing/bitmap.h"
 
 namespace orv3 {
 

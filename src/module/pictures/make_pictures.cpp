@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "framework/drawing.h"
+#include "drawing/drawing.h"
 #include "module/pictures/icon.h"
-#include "tables/sketch.h"
-#include "tables/sketch_shapes.h"
+#include "sections/section_shapes.h"
+#include "sections/sketch/sketch.h"
 
 namespace {
 

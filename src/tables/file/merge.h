@@ -1,0 +1,54 @@
+// Bringing in what another process has changed in a table since it was read.
+#pragma once
+
+#include <vector>
+
+#include "tables/data_table.h"
+#include "tables/file/image.h"
+
+namespace orv3 {
+
+// Whether a save writes a row of this edit state.
+bool IsUnsaved(int state);
+
+// The rows of a table as they are to follow each other once the changes on file are in.
+struct CMergedRow {
+  int m_nPosition;   // the table's row; -1 for one that only the file has
+  int m_nSlot;       // the slot on file that another process has changed; -1 for none
+  bool m_bFromFile;  // the row becomes what that slot holds; else it is to replace it
+};
+
+// A table's rows, unsaved changes and all, on top of the file's present slots. Every row of the
+// file comes in file order, then the table's own in theirs. `before` is what the table last saw on
+// file. A row that both changed is the table's. CInvalidArgException and false as RowOf.
+class CTableMerge {
+ public:
+  CTableMerge(const CDataTable& table, const CTableImage& before,
+              const std::vector<std::string>& slots, int slotLength);
+  bool Run();
+  // The stable index that each slot carries.
+  std::vector<int> SlotIndices() const;
+
+  std::vector<CMergedRow> m_arrRow;
+  std::vector<CDataItem> m_arrFileRow;  // by slot; only those that the result takes over
+
+ private:
+  bool Decode(const std::string& slot, CDataItem& row) const;
+  bool Changed(std::size_t slot) const;
+  bool SameKey(const CDataItem& a, const CDataItem& b) const;
+  bool IsOwnChange(int position) const;
+  bool MergeSlot(std::size_t slot);
+  int Counterpart(std::size_t slot, const CDataItem& row) const;
+  void Place(const CMergedRow& merged);
+
+  const CDataTable& m_table;
+  const CTableImage& m_before;
+  const std::vector<std::string>& m_slots;
+  int m_nSlotLength;
+  std::vector<int> m_arrSlotOfRow;
+  std::vector<int> m_arrRowAtSlot;
+  std::vector<bool> m_arrPlaced;
+  CArray<int, int> m_arrKey;
+};
+
+}  // namespace orv3
