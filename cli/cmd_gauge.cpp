@@ -28,9 +28,10 @@ std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
 void CheckTable(const std::string& table) {
   std::string right;
-  for (const wchar_t* name : SpacedSections()) {
-    if (ToUtf8(name) == table) return;
-    right += (right.empty() ? "" : ", ") + ToUtf8(name);
+  for (const CSectionKind kind : SpacedSections()) {
+    const std::string name = ToUtf8(TableName(kind));
+    if (name == table) return;
+    right += (right.empty() ? "" : ", ") + name;
   }
   Refuse("TABLE: no spacings are known for " + Quoted(table) + "; right would be one of " + right);
 }

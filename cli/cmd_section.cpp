@@ -72,7 +72,7 @@ CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
     sizes.push_back(LengthOf(sign, options.sizes[i]));
   }
   if (sizes.size() != style.Sizes().size()) {
-    Refuse(ToUtf8(style.m_szTable) + " takes " + std::to_string(style.m_nSizes) + " sizes, " +
+    Refuse(ToUtf8(style.TableName()) + " takes " + std::to_string(style.m_nSizes) + " sizes, " +
            std::to_string(sizes.size()) + " were given; right would be:" + SizeList(style));
   }
   if (const auto fault = CheckSectionSizes(style, sizes)) Refuse(fault->m_strText);
@@ -102,7 +102,7 @@ CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const 
         Has(style, property) ? JsonNumber(record.*property.m_pField) : CJson(nullptr);
   }
   return {{"style", style.m_nStyle},
-          {"table", ToUtf8(style.m_szTable)},
+          {"table", ToUtf8(style.TableName())},
           {"name", name},
           {"sizes", sizes},
           {"base", {JsonNumber(record.m_dX), JsonNumber(record.m_dY)}},
@@ -115,8 +115,8 @@ std::string Unit(int power) {
 }
 
 void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
-  Print(ToUtf8(style.m_szTable) + " (" + style.m_szShape + ")" + (name.empty() ? "" : "  " + name) +
-        "\n\n");
+  Print(ToUtf8(style.TableName()) + " (" + style.m_szShape + ")" +
+        (name.empty() ? "" : "  " + name) + "\n\n");
   CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
   for (int i = 0; i < style.m_nSizes; ++i) {
     const CSizeColumn& size = style.Sizes()[static_cast<std::size_t>(i)];

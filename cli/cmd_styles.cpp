@@ -21,7 +21,7 @@ CJson StyleJson(const CSectionStyle& style) {
   }
   return {{"style", style.m_nStyle},
           {"alias", style.m_szAlias},
-          {"table", ToUtf8(style.m_szTable)},
+          {"table", ToUtf8(style.TableName())},
           {"shape", style.m_szShape},
           {"sizes", sizes}};
 }
@@ -35,7 +35,8 @@ void PrintStyles() {
       const std::string sign = ToUtf8(size.m_szSign);
       sizes += (sizes.empty() ? "" : " ") + sign.substr(0, sign.find('('));
     }
-    table.AddRow({std::to_string(style.m_nStyle), style.m_szAlias, ToUtf8(style.m_szTable), sizes});
+    table.AddRow(
+        {std::to_string(style.m_nStyle), style.m_szAlias, ToUtf8(style.TableName()), sizes});
   }
   Print(table.Text());
 }

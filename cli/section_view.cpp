@@ -26,7 +26,7 @@ std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
   }
   picture.m_base = {record.m_dX, record.m_dY};
   picture.m_centroid = {record.m_dXo, record.m_dYo};
-  picture.m_strTitle = style.m_szTable;
+  picture.m_strTitle = style.TableName();
   picture.m_strName = FromUtf8(name);
   return SectionPictureSvg(picture);
 }

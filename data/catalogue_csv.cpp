@@ -36,7 +36,7 @@ CDataTable ReadCsvTable(const std::string& folder, int style) {
   if (ReadWholeFile(FromUtf8(path), bytes) != CFileError::None) Bad(path, "cannot be read");
 
   CDataTable table;
-  table.SetTableName(of.m_strName);
+  table.SetTableName(of.Name());
   table.m_Title = RolledTitle(of);
   CCsvReader csv(std::move(bytes));
   std::vector<std::string_view> cells;

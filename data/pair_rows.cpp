@@ -122,7 +122,7 @@ std::span<const CPairTable> PairTables() { return kPairs; }
 CDataTable MakePairTable(const CPairTable& pair, const CDataTable& components) {
   const CRolledStyle& style = RolledStyles()[static_cast<std::size_t>(pair.m_nStyle)];
   CDataTable table;
-  table.SetTableName(style.m_strName);
+  table.SetTableName(style.Name());
   table.m_Title = RolledTitle(style);
   for (const CDataItem& component : components.m_arrItem) {
     CStringArray values;

@@ -25,7 +25,7 @@ void AddRolledTables(const CString& folder) {
     if (!report.m_bDone) throw CCatalogueError(ToUtf8(report.m_strWhy));
     for (const CRefusedRow& row : report.m_arrTable.front().m_arrRefused)
       throw CCatalogueError(
-          ToUtf8(CString(style.m_strName) + L": " + row.m_strNo + L": " + row.m_strWhy));
+          ToUtf8(CString(style.Name()) + L": " + row.m_strNo + L": " + row.m_strWhy));
   }
 }
 

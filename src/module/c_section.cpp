@@ -35,7 +35,7 @@ void CheckLength(const char* argument, double value) {
 CSteelJMData RecordOf(const CSectionStyle& style, const double* values, int count) {
   if (values == nullptr) throw CFailure("sizes: is null; give an array");
   if (count != style.m_nSizes) {
-    throw CFailure("count: " + ToUtf8(style.m_szTable) + " takes " +
+    throw CFailure("count: " + ToUtf8(style.TableName()) + " takes " +
                    std::to_string(style.m_nSizes) + " sizes, " + std::to_string(count) +
                    " were given; orv3_list_sizes names them");
   }
@@ -60,7 +60,7 @@ using namespace orv3::c_interface;
 int ORV3_CALL orv3_list_styles(orv3_char* text, int size) {
   return Guarded([&] {
     std::vector<CString> lines;
-    for (const CSectionStyle& style : SectionStyles()) lines.emplace_back(style.m_szTable);
+    for (const CSectionStyle& style : SectionStyles()) lines.emplace_back(style.TableName());
     return GiveText(JoinLines(lines), text, size);
   });
 }

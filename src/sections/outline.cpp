@@ -153,36 +153,34 @@ COutline RingOutline(double outer, double inner) {
 
 COutline StyleOutline(int style, CSizes s) {
   switch (style) {
-    case 1:
+    case kStyleBox:
       return BoxOutline(s[0], s[1], s[2], s[2], s[2], s[2]);
-    case 2:
+    case kStyleFlangedCross:
       return FlangedCrossOutline(s[0], s[1], s[2], s[3], s[4], s[5]);
-    case 3:
+    case kStyleRectangle:
       return PolygonOutline(s[0], s[1], RectPath(0, 0, s[0], s[1]).m_arrVertex);
-    case 4:
+    case kStyleHexagon:
       return HexagonOutline(s[0]);
-    case 5:
+    case kStyleTriangle:
       return PolygonOutline(s[0], s[1], {{0, 0, 0}, {s[0], 0, 0}, {s[0] / 2, s[1], 0}});
-    case 6:
+    case kStyleCircle:
       return RingOutline(s[0], 0);
-    case 7:
+    case kStyleTube:
       return RingOutline(s[0], s[1]);
-    case 14:
+    case kStyleGeneralBox:
       return BoxOutline(s[0], s[1], s[2], s[3], s[4], s[5]);
     default:
       return HOutline(PlateHOf(style, s));
   }
 }
 
-// Number of sizes of each style.
-constexpr std::size_t kSizeCount[kSectionStyles] = {4, 3, 6, 2, 1, 2, 1, 2, 5, 8, 4, 6, 6, 6, 6};
-
 }  // namespace
 
 COutline SectionOutline(int style, std::span<const double, kSectionSizes> sizes) {
-  if (style < 0 || style >= kSectionStyles) return {};
+  const CSectionStyle* known = FindSectionStyle(style);
+  if (known == nullptr) return {};
   // Finite sizes far below the largest double keep every sum finite.
-  const auto used = sizes.first(kSizeCount[style]);
+  const auto used = sizes.first(known->Sizes().size());
   if (!std::all_of(used.begin(), used.end(), [](double s) { return std::fabs(s) < 1e300; }))
     return {};
   return StyleOutline(style, sizes);

@@ -11,11 +11,9 @@
 
 #include "drawing/path.h"
 #include "framework/export.h"
+#include "sections/section_style.h"
 
 namespace orv3 {
-
-inline constexpr int kSectionStyles = 15;
-inline constexpr int kSectionSizes = 8;
 
 struct COutline {
   // Counter-clockwise loops bound steel, clockwise ones holes. No loops when the sizes bound no

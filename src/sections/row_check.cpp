@@ -180,9 +180,8 @@ std::optional<CRowFault> CheckRow(const CDataItem& item) {
   }
   if (auto fault = CheckNo(item)) return fault;
   if (style) return CheckSection(item, *style);
-  const bool lattice = CLoadDataTable::IsTableNameType(item.m_strTableName,
-                                                       TABLE_CUSTOM | TABLE_FAMILY_LATTICE) != 0;
-  return lattice ? CheckLattice(item) : CheckCells(item);
+  const CSectionTable* table = FindSectionTable(item.m_strTableName);
+  return table && table->m_nLimbs > 0 ? CheckLattice(item) : CheckCells(item);
 }
 
 }  // namespace orv3

@@ -5,6 +5,7 @@
 
 #include "sections/plate_h.h"
 #include "sections/rect_moments.h"
+#include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 
 using orv3::AddCentroids;
@@ -92,7 +93,7 @@ void CSteelJMData::CalSectCharacterStyle(CSteelJMData& jm) {
 }
 
 void CSteelJMData::CalSectCharacterStyle1(CSteelJMData& jm) {
-  if (jm.m_nStyle != 3) return;
+  if (jm.m_nStyle != orv3::kStyleRectangle) return;
   const double b = jm.m_dSize[0], h = jm.m_dSize[1];
   SetCentroid(jm, b / 2, h / 2);
   jm.m_dA = b * h;
@@ -106,7 +107,7 @@ void CSteelJMData::CalSectCharacterStyle1(CSteelJMData& jm) {
 // Two corners on the vertical axis. 0.541 a^4 is the customary rounding of 5 sqrt(3) a^4 / 16, kept
 // so that results agree with stored ones.
 void CSteelJMData::CalSectCharacterStyle3(CSteelJMData& jm) {
-  if (jm.m_nStyle != 4) return;
+  if (jm.m_nStyle != orv3::kStyleHexagon) return;
   const double a = jm.m_dSize[0];
   SetCentroid(jm, kRoot3 * a / 2, a);
   jm.m_dA = 3 * kRoot3 * a * a / 2;
@@ -115,7 +116,7 @@ void CSteelJMData::CalSectCharacterStyle3(CSteelJMData& jm) {
 }
 
 void CSteelJMData::CalSectCharacterStyle4(CSteelJMData& jm) {
-  if (jm.m_nStyle != 5) return;
+  if (jm.m_nStyle != orv3::kStyleTriangle) return;
   const double b = jm.m_dSize[0], h = jm.m_dSize[1];
   SetCentroid(jm, b / 2, h / 3);
   jm.m_dA = b * h / 2;
@@ -125,7 +126,7 @@ void CSteelJMData::CalSectCharacterStyle4(CSteelJMData& jm) {
 }
 
 void CSteelJMData::CalSectCharacterStyle5(CSteelJMData& jm) {
-  if (jm.m_nStyle != 6) return;
+  if (jm.m_nStyle != orv3::kStyleCircle) return;
   const double R = jm.m_dSize[0];
   SetCentroid(jm, R, R);
   jm.m_dA = kPi * R * R;
@@ -135,7 +136,7 @@ void CSteelJMData::CalSectCharacterStyle5(CSteelJMData& jm) {
 }
 
 void CSteelJMData::CalSectCharacterStyle6(CSteelJMData& jm) {
-  if (jm.m_nStyle != 7) return;
+  if (jm.m_nStyle != orv3::kStyleTube) return;
   const double R = jm.m_dSize[0], r = jm.m_dSize[1];
   SetCentroid(jm, R, R);
   jm.m_dA = kPi * R * R - kPi * r * r;
@@ -145,7 +146,7 @@ void CSteelJMData::CalSectCharacterStyle6(CSteelJMData& jm) {
 }
 
 void CSteelJMData::CalSectCharacterStyle8(CSteelJMData& jm) {
-  if (jm.m_nStyle != 9) return;
+  if (jm.m_nStyle != orv3::kStyleGeneralH) return;
   const orv3::CPlateH h = orv3::PlateHOf(9, jm.m_dSize);
   const CRect plates[] = {
       {h.TopEdge(), h.m_dHeight - h.m_dTop, h.TopWidth(), h.m_dTop},
@@ -168,7 +169,7 @@ void CSteelJMData::CalSectCharacterStyle8(CSteelJMData& jm) {
 }
 
 void CSteelJMData::CalSectCharacterStyle2(CSteelJMData& jm) {
-  if (jm.m_nStyle != 14) return;
+  if (jm.m_nStyle != orv3::kStyleGeneralBox) return;
   const double *s = jm.m_dSize, b = s[0], h = s[1], t1 = s[2], t2 = s[3], t3 = s[4], t4 = s[5];
   const CRect rects[] = {{0, 0, b, h}, {t3, t2, b - t3 - t4, h - t1 - t2, -1}};
   const CRect& hole = rects[1];
@@ -186,7 +187,7 @@ void CSteelJMData::CalSectCharacterStyle2(CSteelJMData& jm) {
 
 // Doubly symmetric. The crossing belongs to the vertical web; the horizontal web is two halves.
 void CSteelJMData::CalSectCharacterStyle13(CSteelJMData& jm) {
-  if (jm.m_nStyle != 2) return;
+  if (jm.m_nStyle != orv3::kStyleFlangedCross) return;
   const double *s = jm.m_dSize, b = s[0], h = s[1], bf1 = s[2], bf2 = s[3], tw = s[4], tf = s[5];
   const double hw = h - 2 * tf;               // vertical web
   const double half = (b - 2 * tf - tw) / 2;  // half of the horizontal web

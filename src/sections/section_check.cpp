@@ -6,6 +6,7 @@
 
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "sections/section_style.h"
 
 namespace orv3 {
 namespace {
@@ -33,64 +34,67 @@ double FlangeClearOfCorner(const double* s) {
 
 // In the order in which faults are told: by style, then by what a designer looks at first.
 constexpr CRule kRules[] = {
-    {0, 2, CBound::Below, [](const double* s) { return s[1] / 2; }, "h(mm) / 2",
+    {kStyleH, 2, CBound::Below, [](const double* s) { return s[1] / 2; }, "h(mm) / 2",
      "the web needs a height between the flanges"},
-    {0, 3, CBound::AtMost, [](const double* s) { return s[0]; }, "b(mm)",
+    {kStyleH, 3, CBound::AtMost, [](const double* s) { return s[0]; }, "b(mm)",
      "the web is no thicker than the section is wide"},
-    {1, 2, CBound::Below, [](const double* s) { return std::min(s[0], s[1]) / 2; },
+    {kStyleBox, 2, CBound::Below, [](const double* s) { return std::min(s[0], s[1]) / 2; },
      "half the smaller of b(mm) and h(mm)", "the box needs a hole"},
-    {2, 2, CBound::AtMost, [](const double* s) { return s[0]; }, "b(mm)",
+    {kStyleFlangedCross, 2, CBound::AtMost, [](const double* s) { return s[0]; }, "b(mm)",
      "a flange is no longer than the section is wide"},
-    {2, 3, CBound::AtMost, [](const double* s) { return s[1]; }, "h(mm)",
+    {kStyleFlangedCross, 3, CBound::AtMost, [](const double* s) { return s[1]; }, "h(mm)",
      "a flange is no longer than the section is high"},
-    {2, 4, CBound::AtMost, [](const double* s) { return std::min(s[2], s[3]); },
+    {kStyleFlangedCross, 4, CBound::AtMost, [](const double* s) { return std::min(s[2], s[3]); },
      "the smaller of bf1(mm) and bf2(mm)", "the web is no thicker than its flanges are wide"},
-    {2, 5, CBound::Below, [](const double* s) { return (std::min(s[0], s[1]) - s[4]) / 2; },
+    {kStyleFlangedCross, 5, CBound::Below,
+     [](const double* s) { return (std::min(s[0], s[1]) - s[4]) / 2; },
      "half of the smaller of b(mm) and h(mm) less tw(mm)",
      "the webs need a length between the crossing and the flanges"},
-    {2, 3, CBound::AtMost, FlangeClearOfCorner, "h(mm) - 2 tf(mm)",
+    {kStyleFlangedCross, 3, CBound::AtMost, FlangeClearOfCorner, "h(mm) - 2 tf(mm)",
      "flanges so wide overlap in the corners"},
-    {7, 1, CBound::Below, [](const double* s) { return s[0]; }, "R(mm)",
+    {kStyleTube, 1, CBound::Below, [](const double* s) { return s[0]; }, "R(mm)",
      "the inner radius is below the outer one"},
-    {8, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
+    {kStyleT, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
      "the web needs a height below the flange"},
-    {9, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
+    {kStyleGeneralH, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
      "the web needs a height above the flange"},
-    {9, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; }, "h(mm) - bh1(mm)",
-     "the web needs a height between the flanges"},
-    {10, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
+    {kStyleGeneralH, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; },
+     "h(mm) - bh1(mm)", "the web needs a height between the flanges"},
+    {kStyleL, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
      "the web needs a height above the leg"},
-    {11, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
+    {kStyleZ, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
      "the web needs a height above the flange"},
-    {11, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; }, "h(mm) - bh1(mm)",
+    {kStyleZ, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; }, "h(mm) - bh1(mm)",
      "the web needs a height between the flanges"},
-    {12, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
+    {kStyleChannel, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
      "the web needs a height above the flange"},
-    {12, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; }, "h(mm) - bh1(mm)",
-     "the web needs a height between the flanges"},
-    {13, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
+    {kStyleChannel, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; },
+     "h(mm) - bh1(mm)", "the web needs a height between the flanges"},
+    {kStyleCross, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
      "the bar needs a thickness above the lower arm"},
-    {13, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; }, "h(mm) - bh1(mm)",
+    {kStyleCross, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; }, "h(mm) - bh1(mm)",
      "the bar needs a thickness between the arms"},
-    {14, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)", "the box needs a hole"},
-    {14, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; }, "h(mm) - t1(mm)",
+    {kStyleGeneralBox, 2, CBound::Below, [](const double* s) { return s[1]; }, "h(mm)",
      "the box needs a hole"},
-    {14, 4, CBound::Below, [](const double* s) { return s[0]; }, "b(mm)", "the box needs a hole"},
-    {14, 5, CBound::Below, [](const double* s) { return s[0] - s[4]; }, "b(mm) - t3(mm)",
+    {kStyleGeneralBox, 3, CBound::Below, [](const double* s) { return s[1] - s[2]; },
+     "h(mm) - t1(mm)", "the box needs a hole"},
+    {kStyleGeneralBox, 4, CBound::Below, [](const double* s) { return s[0]; }, "b(mm)",
      "the box needs a hole"},
+    {kStyleGeneralBox, 5, CBound::Below, [](const double* s) { return s[0] - s[4]; },
+     "b(mm) - t3(mm)", "the box needs a hole"},
 };
 
 // Sizes that may be 0: overhangs and the arms of a plain cross.
 bool MayBeZero(int style, int size) {
   switch (style) {
-    case 8:
-    case 10:
+    case kStyleT:
+    case kStyleL:
       return size >= 3;
-    case 9:
-    case 11:
-    case 12:
+    case kStyleGeneralH:
+    case kStyleZ:
+    case kStyleChannel:
       return size >= 4;
-    case 13:
+    case kStyleCross:
       return size >= 2;
     default:
       return false;

@@ -40,15 +40,19 @@ void CalculateAsH(int style, CSteelJMData& jm) {
 
 }  // namespace
 
-void CSteelJMData::CalSectCharacterStyle7(CSteelJMData& jm) { CalculateAsH(8, jm); }
-void CSteelJMData::CalSectCharacterStyle9(CSteelJMData& jm) { CalculateAsH(10, jm); }
-void CSteelJMData::CalSectCharacterStyle10(CSteelJMData& jm) { CalculateAsH(11, jm); }
-void CSteelJMData::CalSectCharacterStyle11(CSteelJMData& jm) { CalculateAsH(12, jm); }
-void CSteelJMData::CalSectCharacterStyle12(CSteelJMData& jm) { CalculateAsH(13, jm); }
-void CSteelJMData::CalSectCharacterStyle14(CSteelJMData& jm) { CalculateAsH(0, jm); }
+void CSteelJMData::CalSectCharacterStyle7(CSteelJMData& jm) { CalculateAsH(orv3::kStyleT, jm); }
+void CSteelJMData::CalSectCharacterStyle9(CSteelJMData& jm) { CalculateAsH(orv3::kStyleL, jm); }
+void CSteelJMData::CalSectCharacterStyle10(CSteelJMData& jm) { CalculateAsH(orv3::kStyleZ, jm); }
+void CSteelJMData::CalSectCharacterStyle11(CSteelJMData& jm) {
+  CalculateAsH(orv3::kStyleChannel, jm);
+}
+void CSteelJMData::CalSectCharacterStyle12(CSteelJMData& jm) {
+  CalculateAsH(orv3::kStyleCross, jm);
+}
+void CSteelJMData::CalSectCharacterStyle14(CSteelJMData& jm) { CalculateAsH(orv3::kStyleH, jm); }
 
 void CSteelJMData::CalSectCharacterStyle15(CSteelJMData& jm) {
-  if (jm.m_nStyle != 1) return;
+  if (jm.m_nStyle != orv3::kStyleBox) return;
   const double b = jm.m_dSize[0], h = jm.m_dSize[1], t = jm.m_dSize[2];
   CalculateAs(kGeneralBox, {b, h, t, t, t, t}, jm);
 }

@@ -9,8 +9,8 @@ namespace {
 // the columns apart. The names of the samples are kept as users know them, though not all match the
 // sizes.
 constexpr CSectionStyle kStyles[] = {
-    {0,
-     L"自定义对称H型钢",
+    {kStyleH,
+     CSectionKind::PlateH,
      "h",
      "doubly symmetric welded H",
      4,
@@ -21,8 +21,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"tf(mm)", L"翼缘厚度", "flange thickness"},
       {L"tw(mm)", L"腹板厚度", "web thickness"}},
      {L"H400X300", 100, {300, 400, 10, 10}}},
-    {1,
-     L"自定义对称箱形截面",
+    {kStyleBox,
+     CSectionKind::PlateBox,
      "box",
      "symmetric box",
      3,
@@ -32,8 +32,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"h(mm)", L"截面高度", "section height"},
       {L"t(mm)", L"边厚度", "wall thickness"}},
      {L"400X300X20", 100, {300, 400, 20}}},
-    {2,
-     L"自定义翼缘十字形截面",
+    {kStyleFlangedCross,
+     CSectionKind::FlangedCross,
      "flanged-cross",
      "cross with flanges at all four arm ends",
      6,
@@ -46,8 +46,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"tw(mm)", L"腹板厚度", "web thickness"},
       {L"tf(mm)", L"翼缘厚度", "flange thickness"}},
      {L"YS400X300X100", 100, {300, 400, 100, 100, 20, 20}}},
-    {3,
-     L"矩形截面",
+    {kStyleRectangle,
+     CSectionKind::SolidRectangle,
      "rect",
      "solid rectangle",
      2,
@@ -55,8 +55,8 @@ constexpr CSectionStyle kStyles[] = {
      true,
      {{L"b(mm)", L"截面宽度", "section width"}, {L"h(mm)", L"截面高度", "section height"}},
      {L"400X300", 100, {300, 400}}},
-    {4,
-     L"六边形截面",
+    {kStyleHexagon,
+     CSectionKind::SolidHexagon,
      "hexagon",
      "regular hexagon",
      1,
@@ -64,8 +64,8 @@ constexpr CSectionStyle kStyles[] = {
      false,
      {{L"a(mm)", L"截面边长", "side length"}},
      {L"200", 100, {200}}},
-    {5,
-     L"三角形截面",
+    {kStyleTriangle,
+     CSectionKind::SolidTriangle,
      "triangle",
      "isosceles triangle, base at the bottom",
      2,
@@ -73,8 +73,8 @@ constexpr CSectionStyle kStyles[] = {
      false,
      {{L"b(mm)", L"截面宽度", "base width"}, {L"h(mm)", L"截面高度", "section height"}},
      {L"400X300", 100, {300, 400}}},
-    {6,
-     L"自定义圆形截面",
+    {kStyleCircle,
+     CSectionKind::SolidCircle,
      "circle",
      "solid circle",
      1,
@@ -82,8 +82,8 @@ constexpr CSectionStyle kStyles[] = {
      true,
      {{L"R(mm)", L"截面半径", "radius"}},
      {L"R100", 50, {100}}},
-    {7,
-     L"自定义圆管",
+    {kStyleTube,
+     CSectionKind::PlateTube,
      "tube",
      "circular tube",
      2,
@@ -91,8 +91,8 @@ constexpr CSectionStyle kStyles[] = {
      true,
      {{L"R(mm)", L"截面半径", "outer radius"}, {L"r(mm)", L"内圆半径", "inner radius"}},
      {L"RH100X10", 50, {100, 20}}},
-    {8,
-     L"自定义T形截面",
+    {kStyleT,
+     CSectionKind::PlateT,
      "t",
      "T, flange at the top",
      5,
@@ -104,8 +104,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bf1(mm)", L"翼缘宽度", "flange overhang left of the web"},
       {L"bf2(mm)", L"翼缘宽度", "flange overhang right of the web"}},
      {L"T400X320X20", 100, {20, 400, 20, 150, 150}}},
-    {9,
-     L"自定义非对称H型钢",
+    {kStyleGeneralH,
+     CSectionKind::PlateGeneralH,
      "general-h",
      "general (unsymmetric) H",
      8,
@@ -120,8 +120,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bf3(mm)", L"下翼缘宽度", "bottom flange overhang left of the web"},
       {L"bf4(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"}},
      {L"H400X320X20", 100, {20, 400, 20, 20, 150, 150, 150, 150}}},
-    {10,
-     L"自定义L形截面",
+    {kStyleL,
+     CSectionKind::PlateL,
      "l",
      "L (angle), leg at the bottom pointing right",
      4,
@@ -132,8 +132,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bh(mm)", L"翼缘厚度", "leg thickness"},
       {L"bf(mm)", L"翼缘宽度", "leg overhang right of the web"}},
      {L"L200X200X20", 100, {20, 200, 20, 180}}},
-    {11,
-     L"自定义Z形截面",
+    {kStyleZ,
+     CSectionKind::PlateZ,
      "z",
      "Z, top flange to the left, bottom flange to the right",
      6,
@@ -146,8 +146,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bf1(mm)", L"上翼缘宽度", "top flange overhang left of the web"},
       {L"bf2(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"}},
      {L"Z180X70X20", 50, {20, 400, 20, 20, 50, 50}}},
-    {12,
-     L"自定义槽钢",
+    {kStyleChannel,
+     CSectionKind::PlateChannel,
      "channel",
      "channel, open to the right",
      6,
@@ -160,8 +160,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bf1(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"},
       {L"bf2(mm)", L"上翼缘宽度", "top flange overhang right of the web"}},
      {L"[400X100X20", 50, {20, 400, 20, 20, 80, 80}}},
-    {13,
-     L"自定义十字形截面",
+    {kStyleCross,
+     CSectionKind::PlateCross,
      "cross",
      "plain cross",
      6,
@@ -174,8 +174,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bf1(mm)", L"左翼缘宽度", "length of the left arm"},
       {L"bf2(mm)", L"右翼缘宽度", "length of the right arm"}},
      {L"S400X320X20", 100, {20, 400, 190, 190, 150, 150}}},
-    {14,
-     L"自定义非对称箱形截面",
+    {kStyleGeneralBox,
+     CSectionKind::PlateGeneralBox,
      "general-box",
      "unsymmetric box",
      6,
@@ -193,13 +193,13 @@ constexpr CSectionStyle kStyles[] = {
 constexpr bool InOrderWithAllSizes() {
   for (int i = 0; i < std::ssize(kStyles); ++i) {
     if (kStyles[i].m_nStyle != i) return false;
-    for (int s = 0; s < CSectionStyle::kMaxSizes; ++s) {
+    for (int s = 0; s < kSectionSizes; ++s) {
       if ((kStyles[i].m_arrSize[s].m_szSign != nullptr) != (s < kStyles[i].m_nSizes)) return false;
     }
   }
   return true;
 }
-static_assert(InOrderWithAllSizes());
+static_assert(std::size(kStyles) == kSectionStyles && InOrderWithAllSizes());
 
 }  // namespace
 
@@ -211,7 +211,7 @@ const CSectionStyle* FindSectionStyle(int style) noexcept {
 
 const CSectionStyle* FindSectionStyle(std::wstring_view tableName) noexcept {
   for (const CSectionStyle& style : kStyles) {
-    if (tableName == style.m_szTable) return &style;
+    if (tableName == style.TableName()) return &style;
   }
   return nullptr;
 }

@@ -9,8 +9,30 @@
 #include <string_view>
 
 #include "framework/export.h"
+#include "sections/section_kind.h"
 
 namespace orv3 {
+
+// The style numbers, which records, files and callers hold as an int.
+enum CStyleNumber : int {
+  kStyleH,
+  kStyleBox,
+  kStyleFlangedCross,
+  kStyleRectangle,
+  kStyleHexagon,
+  kStyleTriangle,
+  kStyleCircle,
+  kStyleTube,
+  kStyleT,
+  kStyleGeneralH,
+  kStyleL,
+  kStyleZ,
+  kStyleChannel,
+  kStyleCross,
+  kStyleGeneralBox,
+};
+inline constexpr int kSectionStyles = 15;
+inline constexpr int kSectionSizes = 8;  // at most, of a style
 
 // One size of a style, which is one column of its section table.
 struct CSizeColumn {
@@ -23,25 +45,24 @@ struct CSizeColumn {
 struct CSampleSection {
   const wchar_t* m_szName;
   double m_dBase;  // x and y of the base point
-  double m_arrSize[8];
+  double m_arrSize[kSectionSizes];
 };
 
 struct CSectionStyle {
-  static constexpr int kMaxSizes = 8;
-
-  int m_nStyle;
-  const wchar_t* m_szTable;  // name of the section table whose rows hold the style
-  const char* m_szAlias;     // short English name, as typed on a command line
-  const char* m_szShape;     // English title
-  int m_nSizes;              // number of sizes, 1 to 8
-  int m_nBaseSizes;          // how many of them give the outer extents
-  bool m_bFirstMoments;      // whether first moments of area are computed and tabulated
-  CSizeColumn m_arrSize[kMaxSizes];
+  CStyleNumber m_nStyle;
+  CSectionKind m_kind;    // of the section table whose rows hold the style
+  const char* m_szAlias;  // short English name, as typed on a command line
+  const char* m_szShape;  // English title
+  int m_nSizes;           // number of sizes, 1 to 8
+  int m_nBaseSizes;       // how many of them give the outer extents
+  bool m_bFirstMoments;   // whether first moments of area are computed and tabulated
+  CSizeColumn m_arrSize[kSectionSizes];
   CSampleSection m_sample;
 
   std::span<const CSizeColumn> Sizes() const {
     return {m_arrSize, static_cast<std::size_t>(m_nSizes)};
   }
+  const wchar_t* TableName() const { return TableOf(m_kind).m_szName; }
 };
 
 // All styles; the one at position i has the style number i.

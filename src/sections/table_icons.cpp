@@ -1,13 +1,12 @@
 #include "sections/table_icons.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "sections/load_data_table.h"
+#include "sections/section_kind.h"
 #include "sections/sketch/sketch.h"
-#include "sections/table_names.h"
 
 namespace orv3 {
 namespace {
@@ -27,13 +26,11 @@ CBitmap ThreeLimbs(int size) {
 }  // namespace
 
 CArray<CBitmap, const CBitmap&> TableIcons(int size) {
-  const auto names = TableNames();
   CArray<CBitmap, const CBitmap&> icons;
-  icons.SetSize(static_cast<int>(names.size()));
-  for (const CTableName& name : names) {
-    const bool three = CString(name.m_szName) == L"三肢格构柱";
-    icons[name.m_nImage] =
-        three ? ThreeLimbs(size) : SketchIcon(SketchResource(name.m_szName), size);
+  icons.SetSize(static_cast<int>(kSectionKinds));
+  for (const CSectionTable& table : SectionTables()) {
+    const bool three = table.m_kind == CSectionKind::ThreeLimbs;
+    icons[table.m_nImage] = three ? ThreeLimbs(size) : SketchIcon(table.m_nSketch, size);
   }
   return icons;
 }
@@ -45,9 +42,6 @@ void CLoadDataTable::GetItemImageList(CArray<CBitmap, const CBitmap&>& images) {
 }
 
 int CLoadDataTable::GetItemIcon(const CString& tableName) {
-  const auto names = orv3::TableNames();
-  const auto found = std::find_if(names.begin(), names.end(), [&](const orv3::CTableName& name) {
-    return tableName == name.m_szName;
-  });
-  return found == names.end() ? -1 : found->m_nImage;
+  const orv3::CSectionTable* table = orv3::FindSectionTable(tableName);
+  return table ? table->m_nImage : -1;
 }

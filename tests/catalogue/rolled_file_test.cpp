@@ -88,7 +88,7 @@ CString Written(const CString& number) { return orv3::FormatG(orv3::ToDouble(num
 CDataTable TableOf(int style, std::initializer_list<const wchar_t*> rows) {
   const orv3::CRolledStyle& of = orv3::RolledStyles()[static_cast<std::size_t>(style)];
   CDataTable table;
-  table.SetTableName(of.m_strName);
+  table.SetTableName(of.Name());
   table.m_Title = orv3::RolledTitle(of);
   for (const wchar_t* row : rows) EXPECT_TRUE(table.AddTableItem(row, 0)) << CString(row);
   return table;

@@ -42,7 +42,7 @@ CDataItem RowOf(const CSteelJMData& jm) {
   CSteelJMData::CalSectCharacterStyle(computed);
   EXPECT_EQ(1, computed.TransJMDataToItem(row));
   const auto* style = orv3::FindSectionStyle(jm.m_nStyle);
-  if (style) row.m_strTableName = style->m_szTable;
+  if (style) row.m_strTableName = style->TableName();
   return row;
 }
 

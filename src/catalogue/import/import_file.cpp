@@ -85,7 +85,7 @@ bool ReadRecords(const CString& file, const CRolledStyle& style, std::string& re
   if (size <= 0 || size != style.m_nSize) {
     return Refuse(file,
                   L"damaged: its records are of " + FormatInt(size) + L" bytes; those of \"" +
-                      style.m_strName + L"\" are of " + wanted,
+                      style.Name() + L"\" are of " + wanted,
                   why);
   }
   records.erase(0, kHeader);
@@ -102,7 +102,7 @@ bool ReadRecords(const CString& file, const CRolledStyle& style, std::string& re
 // The records as rows, new ones for the user's twin. False for one that cannot be a row.
 bool TakeRecords(const CString& file, const CRolledStyle& style, const std::string& records,
                  bool userTwin, CImportTable& source, CString& why) {
-  source.m_table.SetTableName(style.m_strName);
+  source.m_table.SetTableName(style.Name());
   source.m_table.m_Title = RolledTitle(style);
   std::set<CString> seen;
   const auto size = static_cast<std::size_t>(style.m_nSize);

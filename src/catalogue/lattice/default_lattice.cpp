@@ -1,10 +1,12 @@
 // Default rows: sections of plates by their styles, lattice columns here, where their headings are.
+#include <algorithm>
 #include <array>
 #include <iterator>
 
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "framework/number_text.h"
 #include "sections/default_row.h"
+#include "sections/kind_array.h"
 #include "sections/load_data_table.h"
 
 namespace {
@@ -14,38 +16,32 @@ namespace {
 // the angles' heels stand at the corners, lower left (0), lower right (90), upper right (180) and
 // upper left (270). Tubes have no open side and are not turned.
 struct CDefaultLattice {
-  const wchar_t* m_szTable;
-  int m_nLimbs;
+  orv3::CSectionKind m_kind;
   const wchar_t* m_szNo;
   std::array<const wchar_t*, 2> m_arrSpacing;  // "k(mm)", or "kx(mm)" and "ky(mm)"
-  const wchar_t* m_szLimbType;
+  orv3::CSectionKind m_limb;                   // table of the limbs
   const wchar_t* m_szLimbNo;
   std::array<const wchar_t*, 4> m_arrAngle;
 };
 
+using K = orv3::CSectionKind;
 constexpr CDefaultLattice kDefaults[] = {
-    {L"双肢格构柱", 2, L"G2[10X800", {L"800", L""}, L"热轧普通槽钢", L"[10", {L"90", L"270"}},
-    {L"三肢格构柱",
-     3,
-     L"G3X600X800",
-     {L"600", L"800"},
-     L"冷弯焊接薄壁圆钢管",
-     L"30X2.0",
-     {L"0", L"0", L"0"}},
-    {L"四肢格构柱",
-     4,
+    {K::TwoLimbs, L"G2[10X800", {L"800", L""}, K::OrdinaryChannel, L"[10", {L"90", L"270"}},
+    {K::FourLimbs,
      L"G4L600X800",
      {L"600", L"800"},
-     L"热轧等边角钢",
+     K::EqualAngle,
      L"L30X3",
      {L"0", L"90", L"180", L"270"}},
+    {K::ThreeLimbs, L"G3X600X800", {L"600", L"800"}, K::RoundTube, L"30X2.0", {L"0", L"0", L"0"}},
 };
+static_assert(std::size(kDefaults) == orv3::kLatticeKinds &&
+              orv3::InKindOrder(kDefaults, K::TwoLimbs));
 
 const CDefaultLattice* Find(const CString& table) {
-  for (const CDefaultLattice& lattice : kDefaults) {
-    if (table == lattice.m_szTable) return &lattice;
-  }
-  return nullptr;
+  const auto kind = orv3::FindSectionKind(table);
+  const auto* const found = std::ranges::find(kDefaults, kind, &CDefaultLattice::m_kind);
+  return found == std::end(kDefaults) ? nullptr : found;
 }
 
 bool Set(CDataItem& item, const CString& sign, const wchar_t* value) {
@@ -55,21 +51,22 @@ bool Set(CDataItem& item, const CString& sign, const wchar_t* value) {
 }
 
 int Fill(CDataItem& item, const CDefaultLattice& lattice) {
+  const int limbs = orv3::TableOf(lattice.m_kind).m_nLimbs;
   if (item.GetItemLength() < 2) {
     item.Clear();
-    item.SetItemTitle(CSteelJMGeGou(lattice.m_nLimbs).m_Title);
+    item.SetItemTitle(CSteelJMGeGou(limbs).m_Title);
   }
   bool whole = Set(item, L"No.", lattice.m_szNo);
-  if (lattice.m_nLimbs == 2) {
+  if (limbs == 2) {
     whole = Set(item, L"k(mm)", lattice.m_arrSpacing[0]) && whole;
   } else {
     whole = Set(item, L"kx(mm)", lattice.m_arrSpacing[0]) && whole;
     whole = Set(item, L"ky(mm)", lattice.m_arrSpacing[1]) && whole;
   }
-  for (int limb = 1; limb <= lattice.m_nLimbs; ++limb) {
+  for (int limb = 1; limb <= limbs; ++limb) {
     const CString sign = L"P" + orv3::FormatInt(limb);
     const auto angle = lattice.m_arrAngle[static_cast<std::size_t>(limb - 1)];
-    whole = Set(item, sign + L"Type", lattice.m_szLimbType) && whole;
+    whole = Set(item, sign + L"Type", orv3::TableOf(lattice.m_limb).m_szName) && whole;
     whole = Set(item, sign + L"No.", lattice.m_szLimbNo) && whole;
     whole = Set(item, sign + L"θ°", angle) && whole;
   }

@@ -3,11 +3,10 @@
 #include <array>
 
 #include "sections/load_data_table.h"
+#include "sections/section_kind.h"
 
 namespace orv3 {
 namespace {
-
-constexpr std::wstring_view kTables[] = {L"双肢格构柱", L"三肢格构柱", L"四肢格构柱"};
 
 bool Read(const CDataItem& row, std::wstring_view sign, double& value) {
   return row.GetCellValue(row.GetSignIndex(sign), value) != 0;
@@ -34,14 +33,15 @@ int LimbLike(const CDataItem& column, int i) {
 }  // namespace
 
 std::wstring_view LatticeTableName(int limbs) noexcept {
-  return limbs >= 2 && limbs <= kMaxLimbs ? kTables[limbs - 2] : std::wstring_view();
+  for (const CSectionTable& table : SectionTables()) {
+    if (limbs != 0 && table.m_nLimbs == limbs) return table.Name();
+  }
+  return {};
 }
 
 int LatticeLimbCount(std::wstring_view tableName) noexcept {
-  for (int limbs = 2; limbs <= kMaxLimbs; ++limbs) {
-    if (tableName == LatticeTableName(limbs)) return limbs;
-  }
-  return 0;
+  const CSectionTable* table = FindSectionTable(tableName);
+  return table ? table->m_nLimbs : 0;
 }
 
 bool CLatticeLimbs::Fetch(const CSteelItemGeGou& column) {

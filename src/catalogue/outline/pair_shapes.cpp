@@ -1,53 +1,30 @@
 // Pairs of angles and channels, and the cross of two angles.
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "catalogue/outline/shapes.h"
 #include "sections/load_data_table.h"
+#include "sections/section_kind.h"
 
 namespace orv3 {
 namespace {
 
-// How two equal parts stand to each other. An angle has its heel at the lower left, a channel its
-// back on the left.
-enum class CPairForm {
-  BackToBack,  // the part and its mirror image, backs facing
-  LegsUp,      // the same of an angle turned so that its short leg stands
-  ToeToToe,    // the part and its mirror image, open sides facing
-  Cross,       // the part and the same turned by 180 degrees about the heel
-};
-
-struct CPairTable {
-  const wchar_t* m_szTable;
-  const wchar_t* m_szPart;  // table of the parts
-  int m_nMarker;            // leading characters of "No." that mark the pair
-  CPairForm m_nForm;
-  const wchar_t* m_szWidth;   // the part's size along x, as it stands in the pair
-  const wchar_t* m_szHeight;  // and along y
-};
-
-constexpr CPairTable kPairs[] = {
-    {L"热轧等边角钢组合", L"热轧等边角钢", 1, CPairForm::BackToBack, L"b", L"b"},
-    {L"热轧不等边角钢长边组合", L"热轧不等边角钢", 1, CPairForm::BackToBack, L"b", L"B"},
-    {L"热轧不等边角钢短边组合", L"热轧不等边角钢", 1, CPairForm::LegsUp, L"B", L"b"},
-    {L"热轧等边角钢十字组合", L"热轧等边角钢", 1, CPairForm::Cross, L"b", L"b"},
-    {L"热轧普通槽钢][组合", L"热轧普通槽钢", 3, CPairForm::BackToBack, L"b", L"h"},
-    {L"热轧普通槽钢[]组合", L"热轧普通槽钢", 3, CPairForm::ToeToToe, L"b", L"h"},
-    {L"热轧轻型槽钢][组合", L"热轧轻型槽钢", 3, CPairForm::BackToBack, L"b", L"h"},
-    {L"热轧轻型槽钢[]组合", L"热轧轻型槽钢", 3, CPairForm::ToeToToe, L"b", L"h"},
-};
-
-const CPairTable* FindPair(const CString& tableName) {
-  const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs),
-                                 [&](const CPairTable& p) { return tableName == p.m_szTable; });
-  return pair == std::end(kPairs) ? nullptr : pair;
+const CSectionPair* FindPair(const CString& tableName) {
+  const CSectionTable* table = FindSectionTable(tableName);
+  return table ? table->m_pPair : nullptr;
 }
 
-const wchar_t* SpacingSign(const CPairTable& pair) {
-  return pair.m_nForm == CPairForm::Cross ? L"δ(mm)" : L"a(mm)";
+// The part's sizes along x and y, as it stands in the pair.
+struct CPartSigns {
+  const wchar_t* m_szWidth;
+  const wchar_t* m_szHeight;
+};
+
+CPartSigns PartSigns(const CSectionPair& pair) {
+  if (pair.m_part == CSectionKind::EqualAngle) return {L"b", L"b"};
+  if (pair.m_part != CSectionKind::UnequalAngle) return {L"b", L"h"};
+  return pair.m_form == CPairForm::LegsUp ? CPartSigns{L"B", L"b"} : CPartSigns{L"b", L"B"};
 }
 
 void AddMoved(COutline& to, const std::vector<CPath>& loops, double dx, double dy) {
@@ -75,11 +52,11 @@ COutline CrossOf(const COutline& part, double gap) {
 }
 
 // The part as it stands on the right.
-COutline StandingPart(const CPairTable& pair, const CString& no) {
-  COutline part = RowOutline(CLoadDataTable::GetSysTemJMItem(pair.m_szPart, no));
-  if (pair.m_nForm == CPairForm::ToeToToe) return Mirrored(std::move(part));
+COutline StandingPart(const CSectionPair& pair, const CString& no) {
+  COutline part = RowOutline(CLoadDataTable::GetSysTemJMItem(TableOf(pair.m_part).m_szName, no));
+  if (pair.m_form == CPairForm::ToeToToe) return Mirrored(std::move(part));
   // The mirror image turned back lies on its long leg, heel again at the lower left.
-  if (pair.m_nForm == CPairForm::LegsUp) return QuarterTurned(Mirrored(std::move(part)), 3);
+  if (pair.m_form == CPairForm::LegsUp) return QuarterTurned(Mirrored(std::move(part)), 3);
   return part;
 }
 
@@ -88,9 +65,9 @@ COutline StandingPart(const CPairTable& pair, const CString& no) {
 bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullptr; }
 
 CDataItem WithPairSpacing(CDataItem row, int spacing) {
-  const CPairTable* pair = FindPair(row.GetTableName());
+  const CSectionPair* pair = FindPair(row.GetTableName());
   if (pair == nullptr || row.IsEmpty()) return row;
-  const wchar_t* sign = SpacingSign(*pair);
+  const wchar_t* sign = pair->m_szGap;
   if (row.GetCellSign(1) == sign) row.m_arrCell.RemoveAt(1);
   const CDataTypeStruct column(L"肢距", sign, CDataTypeStruct::KVBT_INT, 0);
   row.m_arrCell.InsertAt(1, CDataCell(column, FormatInt(spacing)));
@@ -98,18 +75,19 @@ CDataItem WithPairSpacing(CDataItem row, int spacing) {
 }
 
 CPair PairOf(const CDataItem& row) {
-  const CPairTable* pair = FindPair(row.GetTableName());
+  const CSectionPair* pair = FindPair(row.GetTableName());
   if (pair == nullptr || row.IsEmpty()) return {};
-  const bool cross = pair->m_nForm == CPairForm::Cross;
-  const double gap = ChosenSpacing(row, SpacingSign(*pair));
+  const bool cross = pair->m_form == CPairForm::Cross;
+  const double gap = ChosenSpacing(row, pair->m_szGap);
   if (gap < 0) return {};
   const COutline part = StandingPart(*pair, row[0].m_strValue.Mid(pair->m_nMarker));
   if (part.m_arrLoop.empty()) return {};
+  const CPartSigns signs = PartSigns(*pair);
   return {cross ? CrossOf(part, gap) : SideBySide(Mirrored(part), part, gap),
           part,
           gap,
-          pair->m_szWidth,
-          pair->m_szHeight,
+          signs.m_szWidth,
+          signs.m_szHeight,
           cross ? L"δ" : L"a"};
 }
 

@@ -4,6 +4,7 @@
 
 #include "catalogue/outline/dimension_sides.h"
 #include "catalogue/outline/shapes.h"
+#include "sections/kind_array.h"
 
 namespace orv3 {
 namespace {
@@ -178,34 +179,33 @@ CDimensions RoundTubeSizes(CRowSizes& s, const COutline&) {
 // --- The tables ----------------------------------------------------------------------------------
 
 constexpr CRolledTable kTables[] = {
-    {L"热轧普通工字钢", OrdinaryI, TaperedISizes},
-    {L"热轧轻型工字钢", LightI, TaperedISizes},
-    {L"热轧普通焊接H型钢", WeldedH, WeldedHSizes},
-    {L"热轧轻型焊接H型钢", WeldedH, WeldedHSizes},
-    {L"热轧宽翼缘H型钢", RolledH, RolledHSizes},
-    {L"热轧窄翼缘H型钢", RolledH, RolledHSizes},
-    {L"冷弯薄壁方钢管", SquareTube, SquareTubeSizes},
-    {L"剖分T型钢", SplitT, SplitTSizes},
-    {L"热轧普通槽钢", RolledChannel, RolledChannelSizes},
-    {L"热轧轻型槽钢", RolledChannel, RolledChannelSizes},
-    {L"冷弯薄壁槽钢", ColdChannel, ColdChannelSizes},
-    {L"冷弯薄壁卷边槽钢", LippedChannel, LippedChannelSizes},
-    {L"冷弯薄壁卷边Z型钢", LippedZ, LippedZSizes},
-    {L"冷弯薄壁斜卷边Z型钢", SlopingLipZ, SlopingLipZSizes},
-    {L"冷弯焊接薄壁圆钢管", RoundTube, RoundTubeSizes},
-    {L"热轧等边角钢", EqualAngle, EqualAngleSizes},
-    {L"热轧不等边角钢", UnequalAngle, UnequalAngleSizes},
-    {L"冷弯薄壁等边角钢", ColdAngle, ColdAngleSizes},
-    {L"冷弯卷边等边角钢", LippedAngle, LippedAngleSizes},
+    {CSectionKind::OrdinaryI, OrdinaryI, TaperedISizes},
+    {CSectionKind::LightI, LightI, TaperedISizes},
+    {CSectionKind::WeldedH, WeldedH, WeldedHSizes},
+    {CSectionKind::LightWeldedH, WeldedH, WeldedHSizes},
+    {CSectionKind::WideH, RolledH, RolledHSizes},
+    {CSectionKind::NarrowH, RolledH, RolledHSizes},
+    {CSectionKind::SquareTube, SquareTube, SquareTubeSizes},
+    {CSectionKind::SplitT, SplitT, SplitTSizes},
+    {CSectionKind::OrdinaryChannel, RolledChannel, RolledChannelSizes},
+    {CSectionKind::LightChannel, RolledChannel, RolledChannelSizes},
+    {CSectionKind::ColdChannel, ColdChannel, ColdChannelSizes},
+    {CSectionKind::LippedChannel, LippedChannel, LippedChannelSizes},
+    {CSectionKind::LippedZ, LippedZ, LippedZSizes},
+    {CSectionKind::SlantLippedZ, SlopingLipZ, SlopingLipZSizes},
+    {CSectionKind::RoundTube, RoundTube, RoundTubeSizes},
+    {CSectionKind::EqualAngle, EqualAngle, EqualAngleSizes},
+    {CSectionKind::UnequalAngle, UnequalAngle, UnequalAngleSizes},
+    {CSectionKind::ColdAngle, ColdAngle, ColdAngleSizes},
+    {CSectionKind::LippedAngle, LippedAngle, LippedAngleSizes},
 };
+static_assert(std::size(kTables) == kSingleKinds && InKindOrder(kTables));
 
 }  // namespace
 
 const CRolledTable* FindRolledTable(const CString& tableName) {
-  for (const CRolledTable& table : kTables) {
-    if (tableName == table.m_szTable) return &table;
-  }
-  return nullptr;
+  const auto kind = FindSectionKind(tableName);
+  return kind && IndexOf(*kind) < kSingleKinds ? &kTables[IndexOf(*kind)] : nullptr;
 }
 
 }  // namespace orv3

@@ -35,7 +35,7 @@ COutline RoundTube(CRowSizes& sizes);
 
 // A rolled-section table: its shape, and where its sizes are measured on it (rolled_tables.cpp).
 struct CRolledTable {
-  const wchar_t* m_szTable;
+  CSectionKind m_kind;
   COutline (*m_pShape)(CRowSizes&);
   std::vector<CSizeDimension> (*m_pDimensions)(CRowSizes&, const COutline&);
 };

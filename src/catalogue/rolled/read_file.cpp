@@ -59,7 +59,7 @@ std::wstring_view FileName(std::wstring_view path) {
 
 int CReadFile::GetXGStyleName(CStringArray& names) {
   names.RemoveAll();
-  for (const CRolledStyle& style : orv3::RolledStyles()) names.Add(style.m_strName);
+  for (const CRolledStyle& style : orv3::RolledStyles()) names.Add(style.Name());
   return names.GetSize();
 }
 
@@ -69,7 +69,7 @@ int CReadFile::GetXGStyleIndex(const wchar_t* name) {
 
 CString CReadFile::GetXGStyleNo(int index) {
   if (index < 0 || index >= orv3::kRolledStyles) return {};
-  return orv3::RolledStyles()[static_cast<std::size_t>(index)].m_strName;
+  return orv3::RolledStyles()[static_cast<std::size_t>(index)].Name();
 }
 
 int CReadFile::GetIronData(const wchar_t* path, CDataTable& table) {
@@ -82,7 +82,7 @@ int CReadFile::GetIronData(const wchar_t* path, CDataTable& table) {
   if (index < 0) return 0;
 
   const CRolledStyle& style = orv3::RolledStyles()[static_cast<std::size_t>(index)];
-  table.SetTableName(style.m_strName);
+  table.SetTableName(style.Name());
   table.GetSystemJmTable();
   if (table.GetTableColNum() <= 1) table.m_Title = orv3::RolledTitle(style);
   AddRecords(style, bytes, recordSize, userTwin ? 1 : 0, table);

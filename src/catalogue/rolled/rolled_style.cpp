@@ -1,6 +1,7 @@
 #include "catalogue/rolled/rolled_style.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 #include "framework/exception.h"
@@ -9,6 +10,7 @@ namespace orv3 {
 namespace {
 
 using C = CRolledColumn;
+using K = CSectionKind;
 
 // --- Columns that several tables have ------------------------------------------------------------
 
@@ -128,38 +130,47 @@ constexpr C kAngleCross[] = {
 
 // --- Styles --------------------------------------------------------------------------------------
 
-// Name, data file, bytes of a record, characters of the model number, columns that are text, whole
+// Table, data file, bytes of a record, characters of the model number, columns that are text, whole
 // numbers, capacities.
 constexpr CRolledStyle kStyles[] = {
-    {L"热轧等边角钢", L"DbData.kvb", sizeof(dbangleiron), 20, 0, 2, 18, kEqualAngle},
-    {L"热轧不等边角钢", L"BDbData.kvb", sizeof(bdbangleiron), 20, 0, 3, 0, kUnequalAngle},
-    {L"热轧宽翼缘H型钢", L"KHData.kvb", sizeof(kyyHiron), 14, 0, 2, 0, kRolledH},
-    {L"热轧普通焊接H型钢", L"PHData.kvb", sizeof(PthjHiron), 15, 0, 5, 0, kWeldedH},
-    {L"热轧普通槽钢", L"PCGData.kvb", sizeof(Ptcgiron), 20, 0, 2, 0, kRolledChannel},
-    {L"热轧普通工字钢", L"GZGData.kvb", sizeof(Ptgzgiron), 20, 0, 2, 0, kRolledI},
-    {L"热轧轻型焊接H型钢", L"QxHData.kvb", sizeof(QxhjHiron), 20, 0, 3, 0, kWeldedH},
-    {L"热轧窄翼缘H型钢", L"ZHData.kvb", sizeof(ZyyHiron), 14, 0, 2, 0, kRolledH},
-    {L"热轧轻型槽钢", L"QCGData.kvb", sizeof(QxCgiron), 20, 0, 2, 0, kRolledChannel},
-    {L"热轧轻型工字钢", L"QGZGData.kvb", sizeof(QxGzgiron), 20, 0, 2, 0, kRolledI},
-    {L"冷弯薄壁等边角钢", L"LWDBData.kvb", sizeof(LwbbDbiron), 20, 0, 1, 0, kColdAngle},
-    {L"冷弯薄壁卷边槽钢", L"LWBBJbCG.kvb", sizeof(LwbbJbCgiron), 20, 0, 3, 0, kLippedChannel},
-    {L"冷弯薄壁槽钢", L"LWBBCG.kvb", sizeof(LwbbCgiron), 20, 0, 2, 0, kColdChannel},
-    {L"冷弯卷边等边角钢", L"LWJBDB.kvb", sizeof(LwJbDbiron), 20, 0, 2, 0, kLippedAngle},
-    {L"冷弯薄壁卷边Z型钢", L"LWJBZ.kvb", sizeof(LwJbZiron), 20, 0, 3, 0, kLippedZ},
-    {L"冷弯薄壁斜卷边Z型钢", L"LWXJBZ.kvb", sizeof(LwXJbZiron), 20, 0, 3, 0, kLippedZ},
-    {L"冷弯薄壁方钢管", L"LWRECT.kvb", sizeof(LwRectiron), 20, 0, 1, 0, kSquareTube},
-    {L"冷弯焊接薄壁圆钢管", L"LWCIR.kvb", sizeof(LwCircleiron), 20, 0, 1, 0, kRoundTube},
-    {L"热轧等边角钢组合", L"DBJGZH.kvb", sizeof(DbJgzhiron), 20, 0, 0, 0, kAnglePair},
-    {L"热轧不等边角钢长边组合", L"BDBJGCBZH.kvb", sizeof(BdbJgCbzhiron), 20, 0, 0, 0, kAnglePair},
-    {L"热轧不等边角钢短边组合", L"BDBJGDBZH.kvb", sizeof(BdbJgDbzhiron), 20, 0, 0, 0, kAnglePair},
-    {L"热轧等边角钢十字组合", L"DBJGSZZH.kvb", sizeof(DbJgSzzhiron), 20, 0, 0, 0, kAngleCross},
-    {L"热轧普通槽钢][组合", L"PTCGWXZH.kvb", sizeof(PtCgWxzhiron), 20, 0, 0, 0, kChannelPairBack},
-    {L"热轧普通槽钢[]组合", L"PTCGNXZH.kvb", sizeof(PtCgNxzhiron), 20, 0, 0, 0, kChannelPairToe},
-    {L"热轧轻型槽钢][组合", L"QXCGWXZH.kvb", sizeof(QxCgWxzhiron), 20, 0, 0, 0, kChannelPairBack},
-    {L"热轧轻型槽钢[]组合", L"QXCGNXZH.kvb", sizeof(QxCgNxzhiron), 20, 0, 0, 0, kChannelPairToe},
-    {L"剖分T型钢", L"PFTIRON.kvb", sizeof(PftIron), 20, 1, 0, 0, kSplitT},
+    {K::EqualAngle, L"DbData.kvb", sizeof(dbangleiron), 20, 0, 2, 18, kEqualAngle},
+    {K::UnequalAngle, L"BDbData.kvb", sizeof(bdbangleiron), 20, 0, 3, 0, kUnequalAngle},
+    {K::WideH, L"KHData.kvb", sizeof(kyyHiron), 14, 0, 2, 0, kRolledH},
+    {K::WeldedH, L"PHData.kvb", sizeof(PthjHiron), 15, 0, 5, 0, kWeldedH},
+    {K::OrdinaryChannel, L"PCGData.kvb", sizeof(Ptcgiron), 20, 0, 2, 0, kRolledChannel},
+    {K::OrdinaryI, L"GZGData.kvb", sizeof(Ptgzgiron), 20, 0, 2, 0, kRolledI},
+    {K::LightWeldedH, L"QxHData.kvb", sizeof(QxhjHiron), 20, 0, 3, 0, kWeldedH},
+    {K::NarrowH, L"ZHData.kvb", sizeof(ZyyHiron), 14, 0, 2, 0, kRolledH},
+    {K::LightChannel, L"QCGData.kvb", sizeof(QxCgiron), 20, 0, 2, 0, kRolledChannel},
+    {K::LightI, L"QGZGData.kvb", sizeof(QxGzgiron), 20, 0, 2, 0, kRolledI},
+    {K::ColdAngle, L"LWDBData.kvb", sizeof(LwbbDbiron), 20, 0, 1, 0, kColdAngle},
+    {K::LippedChannel, L"LWBBJbCG.kvb", sizeof(LwbbJbCgiron), 20, 0, 3, 0, kLippedChannel},
+    {K::ColdChannel, L"LWBBCG.kvb", sizeof(LwbbCgiron), 20, 0, 2, 0, kColdChannel},
+    {K::LippedAngle, L"LWJBDB.kvb", sizeof(LwJbDbiron), 20, 0, 2, 0, kLippedAngle},
+    {K::LippedZ, L"LWJBZ.kvb", sizeof(LwJbZiron), 20, 0, 3, 0, kLippedZ},
+    {K::SlantLippedZ, L"LWXJBZ.kvb", sizeof(LwXJbZiron), 20, 0, 3, 0, kLippedZ},
+    {K::SquareTube, L"LWRECT.kvb", sizeof(LwRectiron), 20, 0, 1, 0, kSquareTube},
+    {K::RoundTube, L"LWCIR.kvb", sizeof(LwCircleiron), 20, 0, 1, 0, kRoundTube},
+    {K::EqualAnglePair, L"DBJGZH.kvb", sizeof(DbJgzhiron), 20, 0, 0, 0, kAnglePair},
+    {K::LongLegPair, L"BDBJGCBZH.kvb", sizeof(BdbJgCbzhiron), 20, 0, 0, 0, kAnglePair},
+    {K::ShortLegPair, L"BDBJGDBZH.kvb", sizeof(BdbJgDbzhiron), 20, 0, 0, 0, kAnglePair},
+    {K::AngleCross, L"DBJGSZZH.kvb", sizeof(DbJgSzzhiron), 20, 0, 0, 0, kAngleCross},
+    {K::OrdinaryBackToBack, L"PTCGWXZH.kvb", sizeof(PtCgWxzhiron), 20, 0, 0, 0, kChannelPairBack},
+    {K::OrdinaryToeToToe, L"PTCGNXZH.kvb", sizeof(PtCgNxzhiron), 20, 0, 0, 0, kChannelPairToe},
+    {K::LightBackToBack, L"QXCGWXZH.kvb", sizeof(QxCgWxzhiron), 20, 0, 0, 0, kChannelPairBack},
+    {K::LightToeToToe, L"QXCGNXZH.kvb", sizeof(QxCgNxzhiron), 20, 0, 0, 0, kChannelPairToe},
+    {K::SplitT, L"PFTIRON.kvb", sizeof(PftIron), 20, 1, 0, 0, kSplitT},
 };
-static_assert(std::size(kStyles) == kRolledStyles);
+
+constexpr bool EveryRolledTableOnce() {
+  std::array<bool, kRolledKinds> seen{};
+  for (const CRolledStyle& style : kStyles) {
+    if (IndexOf(style.m_kind) >= seen.size() || seen[IndexOf(style.m_kind)]) return false;
+    seen[IndexOf(style.m_kind)] = true;
+  }
+  return std::size(kStyles) == kRolledKinds;
+}
+static_assert(EveryRolledTableOnce());
 static_assert(std::all_of(std::begin(kStyles), std::end(kStyles),
                           [](const CRolledStyle& style) {
                             return style.Field(style.Columns() - 1).m_nOffset + 8 == style.m_nSize;
@@ -171,9 +182,8 @@ static_assert(std::all_of(std::begin(kStyles), std::end(kStyles),
 std::span<const CRolledStyle, kRolledStyles> RolledStyles() { return kStyles; }
 
 int FindRolledStyle(std::wstring_view name) {
-  const auto* const found =
-      std::find_if(std::begin(kStyles), std::end(kStyles),
-                   [&](const auto& style) { return style.m_strName == name; });
+  const auto kind = FindSectionKind(name);
+  const auto* const found = std::ranges::find(kStyles, kind, &CRolledStyle::m_kind);
   return found == std::end(kStyles) ? -1 : static_cast<int>(found - kStyles);
 }
 

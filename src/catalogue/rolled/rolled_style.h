@@ -8,11 +8,12 @@
 
 #include "catalogue/rolled/rolled_records.h"
 #include "framework/export.h"
+#include "sections/section_kind.h"
 #include "tables/data_type.h"
 
 namespace orv3 {
 
-inline constexpr int kRolledStyles = 27;
+inline constexpr int kRolledStyles = static_cast<int>(kRolledKinds);
 
 struct CRolledColumn {
   std::wstring_view m_strSign;
@@ -33,7 +34,7 @@ struct CRecordField {
 };
 
 struct CRolledStyle {
-  std::wstring_view m_strName;  // of the style and of its table
+  CSectionKind m_kind;          // of its table, whose name is the style's
   std::wstring_view m_strFile;  // the catalogue's data file; the user's twin has an "O" before it
   int m_nSize;                  // bytes of a record
   int m_nName;                  // characters of the model number, its zero included
@@ -42,6 +43,7 @@ struct CRolledStyle {
   int m_nCapacity;              // columns that are capacities
   std::span<const CRolledColumn> m_arrColumn;  // without the key column
 
+  std::wstring_view Name() const { return TableName(m_kind); }
   constexpr int Columns() const { return static_cast<int>(m_arrColumn.size()); }
   constexpr CRecordField Field(int column) const;
 

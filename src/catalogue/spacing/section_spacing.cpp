@@ -8,13 +8,7 @@
 namespace orv3 {
 namespace {
 
-constexpr const wchar_t* kSections[] = {L"热轧等边角钢",   L"热轧不等边角钢", L"热轧普通工字钢",
-                                        L"热轧轻型工字钢", L"热轧普通槽钢",   L"热轧轻型槽钢"};
 constexpr int kAngleTables = 3;
-constexpr std::size_t kEqualLegs = 0;
-constexpr std::size_t kUnequalLegs = 1;
-constexpr std::size_t kFirstSeries = 2;
-
 constexpr CSpacingColumn kAngle[] = {{"a", "bolt line, from the back of the other leg"},
                                      {"hole", "largest bolt hole"}};
 constexpr CSpacingColumn kAngleLines[] = {{"a", "first bolt line, from the back of the other leg"},
@@ -60,21 +54,19 @@ constexpr CKind kPlateKinds[] = {{"stiffener inside the flanges", std::span(kSti
 
 // The tables of a series, counted from 0: the gauge lines, then three in the order of kPlateKinds.
 struct CSeries {
+  CSectionKind m_kind;
   int m_nLines;
   int m_nPlates;
   std::span<const CSpacingColumn> m_arrLines;
 };
-constexpr CSeries kSeries[] = {
-    {3, 7, kBeamLines}, {4, 10, kBeamLines}, {5, 13, kChannelLines}, {6, 16, kChannelLines}};
+constexpr CSeries kSeries[] = {{CSectionKind::OrdinaryI, 3, 7, kBeamLines},
+                               {CSectionKind::LightI, 4, 10, kBeamLines},
+                               {CSectionKind::OrdinaryChannel, 5, 13, kChannelLines},
+                               {CSectionKind::LightChannel, 6, 16, kChannelLines}};
 
-std::size_t Find(std::wstring_view tableName) {
-  return static_cast<std::size_t>(std::find(std::begin(kSections), std::end(kSections), tableName) -
-                                  std::begin(kSections));
-}
-
-const CSeries* SeriesOf(std::wstring_view tableName) {
-  const std::size_t at = Find(tableName);
-  return at >= kFirstSeries && at < std::size(kSections) ? &kSeries[at - kFirstSeries] : nullptr;
+const CSeries* SeriesOf(std::optional<CSectionKind> kind) {
+  const auto* const found = std::ranges::find(kSeries, kind, &CSeries::m_kind);
+  return found == std::end(kSeries) ? nullptr : found;
 }
 
 // The row with a key; the number of rows when there is none.
@@ -117,11 +109,16 @@ std::vector<CSectionSpacing> SeriesSpacings(const CSeries& series, std::wstring_
 
 }  // namespace
 
-std::span<const wchar_t* const> SpacedSections() noexcept { return kSections; }
+std::span<const CSectionKind> SpacedSections() noexcept {
+  static constexpr CSectionKind kSections[] = {
+      CSectionKind::EqualAngle, CSectionKind::UnequalAngle,    CSectionKind::OrdinaryI,
+      CSectionKind::LightI,     CSectionKind::OrdinaryChannel, CSectionKind::LightChannel};
+  return kSections;
+}
 
 std::vector<CString> SpacedNumbers(std::wstring_view tableName) {
   std::vector<CString> numbers;
-  const CSeries* series = SeriesOf(tableName);
+  const CSeries* series = SeriesOf(FindSectionKind(tableName));
   if (series == nullptr) return numbers;
   const CSpacingTable table = SpacingTable(series->m_nPlates);
   for (std::size_t row = 0; row < table.Rows(); ++row) numbers.emplace_back(table[row][0]);
@@ -143,9 +140,10 @@ CLegs LegsOf(std::wstring_view no) {
 }
 
 std::vector<CSectionSpacing> SectionSpacings(std::wstring_view tableName, std::wstring_view no) {
-  const std::size_t at = Find(tableName);
-  if (at == kEqualLegs || at == kUnequalLegs) return AngleSpacings(LegsOf(no));
-  const CSeries* series = SeriesOf(tableName);
+  const auto kind = FindSectionKind(tableName);
+  if (kind == CSectionKind::EqualAngle || kind == CSectionKind::UnequalAngle)
+    return AngleSpacings(LegsOf(no));
+  const CSeries* series = SeriesOf(kind);
   return series ? SeriesSpacings(*series, no) : std::vector<CSectionSpacing>();
 }
 

@@ -7,6 +7,7 @@
 
 #include "framework/cstring.h"
 #include "framework/export.h"
+#include "sections/section_kind.h"
 
 namespace orv3 {
 
@@ -25,7 +26,7 @@ struct CSectionSpacing {
 };
 
 // The catalogue tables whose sections the spacing tables cover.
-ORV3CAL_API std::span<const wchar_t* const> SpacedSections() noexcept;
+ORV3CAL_API std::span<const CSectionKind> SpacedSections() noexcept;
 
 // The numbers of such a table that have rows; none for angles, which go by the width of their legs.
 ORV3CAL_API std::vector<CString> SpacedNumbers(std::wstring_view tableName);

@@ -4,6 +4,7 @@
 
 #include "catalogue/spacing/spacing_rows.h"
 #include "framework/number_text.h"
+#include "sections/section_kind.h"
 
 namespace {
 
@@ -70,9 +71,10 @@ double CGetSteelDis::GetSubData(int table, const CString& no) {
 }
 
 double CGetSteelDis::GetSubData(const CString& styleName, const CString& no) {
-  if (styleName == L"热轧等边角钢" || styleName == L"热轧不等边角钢")
-    return GetSubData(kAngles, no);
-  if (styleName == L"热轧普通槽钢") return GetSubData(kChannels, no);
-  if (styleName == L"热轧轻型槽钢") return GetSubData(kLightChannels, no);
+  using K = orv3::CSectionKind;
+  const auto kind = orv3::FindSectionKind(styleName);
+  if (kind == K::EqualAngle || kind == K::UnequalAngle) return GetSubData(kAngles, no);
+  if (kind == K::OrdinaryChannel) return GetSubData(kChannels, no);
+  if (kind == K::LightChannel) return GetSubData(kLightChannels, no);
   return 0;
 }

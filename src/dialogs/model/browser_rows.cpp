@@ -8,13 +8,13 @@
 #include "dialogs/model/spacing_model.h"
 #include "dialogs/model/store_transfer.h"
 #include "sections/load_data_table.h"
+#include "sections/section_kind.h"
 #include "sections/table_types.h"
 
 namespace orv3 {
 namespace {
 
 constexpr int kProtectedState = 3;  // rows that came with the catalogue
-constexpr wchar_t kWideFlange[] = L"热轧宽翼缘H型钢";
 
 }  // namespace
 
@@ -122,7 +122,7 @@ CListChange CBrowserModel::Import() {
   ImportFiles(files, m_session.StorePath(), overwrite, m_user);
   if (!HasTable()) return CListChange::None;
   const CString name = Full().GetTableName();
-  if (name == kWideFlange) GroupByNumber(m_session.Path(), name, m_user);
+  if (FindSectionKind(name) == CSectionKind::WideH) GroupByNumber(m_session.Path(), name, m_user);
   m_session.Load(name, m_user);
   const int column = m_nSearchColumn;
   FillSearchColumns();

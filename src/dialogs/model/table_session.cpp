@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/store_failure.h"
@@ -11,13 +12,6 @@
 
 namespace orv3 {
 namespace {
-
-struct CLattice {
-  const wchar_t* m_szTable;
-  int m_nLimbs;
-};
-
-constexpr CLattice kLattices[] = {{L"双肢格构柱", 2}, {L"三肢格构柱", 3}, {L"四肢格构柱", 4}};
 
 bool IsUnsavedState(int state) { return state == 1 || state == 2 || state == 3 || state == -1; }
 
@@ -68,10 +62,9 @@ bool CTableSession::Load(const CString& name, CDialogUser& user) {
 
 void CTableSession::MakeLatticeTable(CDialogUser& user) {
   const CString name = m_table.GetTableName();
-  const auto* lattice = std::find_if(std::begin(kLattices), std::end(kLattices),
-                                     [&](const CLattice& l) { return name == l.m_szTable; });
-  if (lattice == std::end(kLattices)) return;
-  CDataTable made = CSteelJMGeGou(lattice->m_nLimbs);
+  const int limbs = LatticeLimbCount(name);
+  if (limbs == 0) return;
+  CDataTable made = CSteelJMGeGou(limbs);
   made.SetSaveTablePath(m_strPath);
   CHeldMessages messages;
   {

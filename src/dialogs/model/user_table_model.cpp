@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/spacing_model.h"
@@ -23,9 +24,7 @@ bool HasName(const CStringArray& names, const CString& name) {
 
 // The heading of a section table; without columns for a table that nothing is known of.
 CDataTable SectionTable(const CString& name) {
-  if (name == L"双肢格构柱") return CSteelJMGeGou(2);
-  if (name == L"三肢格构柱") return CSteelJMGeGou(3);
-  if (name == L"四肢格构柱") return CSteelJMGeGou(4);
+  if (const int limbs = LatticeLimbCount(name)) return CSteelJMGeGou(limbs);
   CDataTable table;
   table.SetTableName(name);
   if (const CSectionStyle* style = FindSectionStyle(name.View())) {

@@ -11,7 +11,7 @@ namespace orv3 {
 
 namespace {
 
-using CSizes = std::span<const double, CSectionStyle::kMaxSizes>;
+using CSizes = std::span<const double, kSectionSizes>;
 
 // A record of the row's sizes by the signs of its style's columns.
 bool ReadSizes(const CDataItem& row, const CSectionStyle& style, CSteelJMData& record) {
@@ -69,20 +69,20 @@ CSectorial CrossSectorial(CSizes s) { return {s[4] + s[0] / 2, (s[2] + s[1] - s[
 
 std::optional<CSectorial> SectorialOf(int style, CSizes s) {
   switch (style) {
-    case 0:
-    case 8:
-    case 9:
-    case 10:
-    case 11:
-    case 12:
+    case kStyleH:
+    case kStyleT:
+    case kStyleGeneralH:
+    case kStyleL:
+    case kStyleZ:
+    case kStyleChannel:
       return HSectorial(PlateHOf(style, s));
-    case 1:
+    case kStyleBox:
       return BoxSectorial(s[0], s[1], s[2], s[2], s[2], s[2]);
-    case 2:
+    case kStyleFlangedCross:
       return FlangedCrossSectorial(s);
-    case 13:
+    case kStyleCross:
       return CrossSectorial(s);
-    case 14:
+    case kStyleGeneralBox:
       return BoxSectorial(s[0], s[1], s[2], s[3], s[4], s[5]);
     default:
       return std::nullopt;

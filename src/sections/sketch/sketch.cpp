@@ -5,64 +5,11 @@
 #include <utility>
 #include <vector>
 
+#include "sections/section_kind.h"
 #include "sections/sketch/drawings.h"
 
 namespace orv3 {
 namespace {
-
-constexpr int kNoSketch = 8076;
-
-struct CSketchName {
-  std::wstring_view m_strTable;
-  int m_nResource;
-};
-
-constexpr CSketchName kNames[] = {
-    {L"热轧普通工字钢", 8013},
-    {L"热轧轻型工字钢", 8013},
-    {L"热轧普通焊接H型钢", 8014},
-    {L"热轧轻型焊接H型钢", 8014},
-    {L"热轧宽翼缘H型钢", 8010},
-    {L"热轧窄翼缘H型钢", 8011},
-    {L"冷弯薄壁方钢管", 8021},
-    {L"剖分T型钢", 8029},
-    {L"热轧普通槽钢", 8012},
-    {L"热轧轻型槽钢", 8012},
-    {L"冷弯薄壁槽钢", 8017},
-    {L"冷弯薄壁卷边槽钢", 8018},
-    {L"冷弯薄壁卷边Z型钢", 8019},
-    {L"冷弯薄壁斜卷边Z型钢", 8020},
-    {L"冷弯焊接薄壁圆钢管", 8022},
-    {L"热轧等边角钢", 8008},
-    {L"热轧不等边角钢", 8009},
-    {L"冷弯薄壁等边角钢", 8016},
-    {L"冷弯卷边等边角钢", 8015},
-    {L"热轧等边角钢组合", 8023},
-    {L"热轧不等边角钢长边组合", 8024},
-    {L"热轧不等边角钢短边组合", 8025},
-    {L"热轧等边角钢十字组合", 8026},
-    {L"热轧普通槽钢][组合", 8028},
-    {L"热轧轻型槽钢][组合", 8028},
-    {L"热轧普通槽钢[]组合", 8027},
-    {L"热轧轻型槽钢[]组合", 8027},
-    {L"自定义对称H型钢", 8048},
-    {L"自定义非对称H型钢", 8043},
-    {L"自定义对称箱形截面", 8035},
-    {L"自定义非对称箱形截面", 8038},
-    {L"自定义十字形截面", 8037},
-    {L"自定义翼缘十字形截面", 8047},
-    {L"自定义T形截面", 8036},
-    {L"自定义槽钢", 8046},
-    {L"自定义Z形截面", 8045},
-    {L"自定义圆形截面", 8042},
-    {L"自定义L形截面", 8044},
-    {L"自定义圆管", 8041},
-    {L"矩形截面", 8049},
-    {L"六边形截面", 8039},
-    {L"三角形截面", 8040},
-    {L"双肢格构柱", 8078},
-    {L"四肢格构柱", 8077},
-};
 
 struct CSketchEntry {
   int m_nResource;
@@ -124,10 +71,8 @@ CSketchPen DrawSketch(int resource) {
 }  // namespace
 
 int SketchResource(std::wstring_view tableName) noexcept {
-  const auto* found =
-      std::find_if(std::begin(kNames), std::end(kNames),
-                   [tableName](const CSketchName& name) { return name.m_strTable == tableName; });
-  return found == std::end(kNames) ? kNoSketch : found->m_nResource;
+  const CSectionTable* table = FindSectionTable(tableName);
+  return table ? table->m_nSketch : kNoSketch;
 }
 
 CBitmap SketchBitmap(int resource, double scale) {
