@@ -6,6 +6,7 @@
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "catalogue/outline/shapes.h"
+#include "sections/geometry/families.h"
 #include "sections/load_data_table.h"
 
 namespace orv3 {
@@ -46,10 +47,6 @@ const CPairTable* FindPair(const CString& tableName) {
   return pair == std::end(kPairs) ? nullptr : pair;
 }
 
-const wchar_t* SpacingSign(const CPairTable& pair) {
-  return pair.m_nForm == CPairForm::Cross ? L"δ(mm)" : L"a(mm)";
-}
-
 void AddMoved(COutline& to, const std::vector<CPath>& loops, double dx, double dy) {
   for (const CPath& loop : loops) to.m_arrLoop.push_back(Moved(loop, dx, dy));
 }
@@ -87,10 +84,14 @@ COutline StandingPart(const CPairTable& pair, const CString& no) {
 
 bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullptr; }
 
+CString PairSpacingSign(const CString& tableName) {
+  const CFamily* family = FindFamily(tableName);
+  return family == nullptr ? CString() : CString(family->m_pair.m_spacing.Sign());
+}
+
 CDataItem WithPairSpacing(CDataItem row, int spacing) {
-  const CPairTable* pair = FindPair(row.GetTableName());
-  if (pair == nullptr || row.IsEmpty()) return row;
-  const wchar_t* sign = SpacingSign(*pair);
+  const CString sign = PairSpacingSign(row.GetTableName());
+  if (sign.IsEmpty() || row.IsEmpty()) return row;
   if (row.GetCellSign(1) == sign) row.m_arrCell.RemoveAt(1);
   const CDataTypeStruct column(L"肢距", sign, CDataTypeStruct::KVBT_INT, 0);
   row.m_arrCell.InsertAt(1, CDataCell(column, FormatInt(spacing)));
@@ -101,7 +102,8 @@ CPair PairOf(const CDataItem& row) {
   const CPairTable* pair = FindPair(row.GetTableName());
   if (pair == nullptr || row.IsEmpty()) return {};
   const bool cross = pair->m_nForm == CPairForm::Cross;
-  const double gap = ChosenSpacing(row, SpacingSign(*pair));
+  const CString spacing = PairSpacingSign(row.GetTableName());
+  const double gap = spacing.IsEmpty() ? 0 : ChosenSpacing(row, spacing);
   if (gap < 0) return {};
   const COutline part = StandingPart(*pair, row[0].m_strValue.Mid(pair->m_nMarker));
   if (part.m_arrLoop.empty()) return {};

@@ -33,6 +33,7 @@ std::optional<double> Read(const CDataItem& row, const CGapCell& cell, double sp
 
 double ReadSpacing(const CDataItem& row, const CCell& cell) {
   int whole = 0;
+  if (cell.IsEmpty()) return 0;
   if (row.GetCellValue(row.GetSignIndex(cell.Sign()), whole)) return whole;
   return Read(row, cell).value_or(0);
 }

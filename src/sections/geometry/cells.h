@@ -38,7 +38,8 @@ struct CGapCell {
 std::optional<double> Read(const CDataItem& row, const CCell& cell);
 // The column of a spacing in mm; nothing for a spacing that is no whole number.
 std::optional<double> Read(const CDataItem& row, const CGapCell& cell, double spacing);
-// The spacing of a pair, mm: an integer cell, else a KVBT_DOUBLE one; 0 in a row without it.
+// The spacing of a pair, mm: an integer cell, else a KVBT_DOUBLE one; 0 in a row without it and for
+// an empty cell.
 double ReadSpacing(const CDataItem& row, const CCell& cell);
 // The text of a KVBT_STRING cell; empty when there is none.
 CString ReadText(const CDataItem& row, std::wstring_view sign);

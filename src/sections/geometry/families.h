@@ -38,7 +38,7 @@ struct CPairing {
 
   std::wstring_view m_table;  // of the component
   int m_nMarker = 0;          // characters before the component's number in the pair's "No."
-  CCell m_spacing;
+  CCell m_spacing;            // of the cell right after "No."; empty where the components touch
   CJoin m_join = CJoin::None;
   bool m_bTurned = false;  // the component's height lies across: short legs back to back
 };
@@ -61,6 +61,11 @@ struct CFamily {
   bool m_bSymmetricX = false;  // whatever the sizes
   bool m_bSymmetricY = false;
   CPairing m_pair = {};
+  // Where the facade's members answer otherwise for the sake of earlier results; empty: they don't.
+  CSource m_trueY = {};    // centroid
+  CSource m_trueR = {};    // radius of gyration about the axes of Ix and Iy
+  CSource m_leastR = {};   // about the weak principal axis, where that is neither x nor y
+  bool m_bAslant = false;  // moments are about axes at 45 degrees to the rectangle's sides
 };
 
 // The family of a table; null for a name of none.

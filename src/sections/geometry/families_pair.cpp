@@ -50,6 +50,7 @@ constexpr CFamily kAngleCross{
     .m_Sx = CrossPairMoment,
     .m_arrPlate = {PairThickest, PairThinnest},
     .m_pair = {L"热轧等边角钢", 1, L"δ(mm)", CJoin::Cross},
+    .m_bAslant = true,
 };
 
 constexpr CFamily BackToBack(std::wstring_view table, std::wstring_view component) {
@@ -76,10 +77,11 @@ constexpr CFamily BackToBack(std::wstring_view table, std::wstring_view componen
   };
 }
 
-// Its own columns are those of toes that touch.
+// Toes touch: the table has columns of no spacing, and channels apart are a lattice column.
 constexpr CFamily ToeToToe(std::wstring_view table, std::wstring_view component) {
   CFamily family = BackToBack(table, component);
   family.m_pair.m_join = CJoin::Toe;
+  family.m_pair.m_spacing = {};
   family.m_Iw = ToeToToeWarping;
   return family;
 }

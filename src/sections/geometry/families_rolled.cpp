@@ -57,8 +57,8 @@ constexpr CFamily Tube(std::wstring_view table, CSource width, CSource inertia, 
   };
 }
 
-// The height is a text column. The vertical centroid is taken at mid-height, as for all sections of
-// one web; what depends on the true one, Cx below the top, uses that.
+// The height is a text column. The facade's vertical centroid is at mid-height, as for all sections
+// of one web; the true one lies Cx below the top.
 constexpr CFamily kRolledT{
     .m_arrTable = {L"剖分T型钢"},
     .m_width = L"B(mm)",
@@ -77,6 +77,7 @@ constexpr CFamily kRolledT{
     .m_arrPlate = {L"t2(mm)", L"t1(mm)"},
     .m_e0 = {TShearCentre, L"Cx(cm)"},
     .m_bSymmetricY = true,
+    .m_trueY = {BelowTop, L"Cx(cm)"},
 };
 
 constexpr CFamily kRolledChannel{
@@ -142,11 +143,12 @@ constexpr CFamily ColdZ(std::wstring_view table, CFormula width, CFormula moment
       .m_Sx = moment,
       .m_arrPlate = {L"t(mm)"},
       .m_Iw = L"Iw(cm^6)",
+      .m_leastR = L"iy(cm)",
   };
 }
 
-// Io and the moduli are about axes along the legs, the radii about Xo, the axis of symmetry, and
-// Yo: those a single angle buckles about.
+// Io and the moduli are about axes along the legs, the facade's radii about Xo, the axis of
+// symmetry, and Yo: those a single angle buckles about.
 constexpr CFamily kEqualAngle{
     .m_arrTable = {L"热轧等边角钢"},
     .m_width = L"b(mm)",
@@ -164,6 +166,8 @@ constexpr CFamily kEqualAngle{
     .m_Sx = HotAngleMoment,
     .m_arrPlate = {L"t(mm)"},
     .m_e0 = AngleShearCentre,
+    .m_trueR = L"ix(cm)",
+    .m_leastR = L"iyo(cm)",
 };
 
 // The long leg stands upright.
@@ -184,6 +188,7 @@ constexpr CFamily kUnequalAngle{
     .m_Sx = HotAngleMoment,
     .m_arrPlate = {L"t(mm)"},
     .m_e0 = AngleShearCentre,
+    .m_leastR = L"iu(cm)",
 };
 
 // All about Xo and Yo, which are along the legs in these tables.
@@ -206,6 +211,7 @@ constexpr CFamily ColdAngle(std::wstring_view table, CFormula moment, CSource wa
       .m_arrPlate = {L"t(mm)"},
       .m_e0 = L"eo(cm)",
       .m_Iw = warping,
+      .m_leastR = L"iy(cm)",
   };
 }
 

@@ -69,7 +69,7 @@ std::optional<CLatticeReach> ReachOf(const CDataItem& row, const CFamily& family
     if (!box) return std::nullopt;
     boxes[i] = *box;
   }
-  return LatticeReach(std::span(boxes).first(count), spacings->x, spacings->y);
+  return RowLatticeReach(std::span(boxes).first(count), spacings->x, spacings->y);
 }
 
 }  // namespace
