@@ -11,6 +11,8 @@
 #include "framework/utf8.h"
 #include "nearest.h"
 #include "output.h"
+#include "sections/load_data_table.h"
+#include "store_place.h"
 #include "text_table.h"
 
 namespace orv3::cli {
@@ -20,6 +22,7 @@ struct COptions {
   std::string table;
   std::string no;
   bool json = false;
+  CStoreOptions store;
 };
 
 [[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
@@ -36,17 +39,29 @@ void CheckTable(const std::string& table) {
   Refuse("TABLE: no spacings are known for " + Quoted(table) + "; right would be one of " + right);
 }
 
+// Angles go by the widths of their legs, so that a number alone would answer for any.
+void CheckNumber(const COptions& options) {
+  StoreToRead(options.store);
+  const CString table = FromUtf8(options.table);
+  if (!CLoadDataTable::GetSysTemJMItem(table, FromUtf8(options.no)).IsEmpty()) return;
+  CStringArray numbers;
+  CLoadDataTable::GetSysTemItemNo(table, numbers);
+  Refuse("NO: " + options.table + " has no " + Quoted(options.no) +
+         "; the nearest are: " + Nearest(options.no, numbers));
+}
+
 std::vector<CSectionSpacing> SpacingsOf(const COptions& options) {
   CheckTable(options.table);
+  CheckNumber(options);
   const CString table = FromUtf8(options.table);
   const CString no = FromUtf8(options.no);
   const std::vector<CString> numbers = SpacedNumbers(table);
   std::vector<CSectionSpacing> spacings = SectionSpacings(table, no);
   if (numbers.empty() && LegsOf(no).m_nLong == 0) {
-    Refuse("NO: " + Quoted(options.no) + " is no angle's number; right would be such as L50X5");
+    Refuse("NO: " + Quoted(options.no) + " does not tell its legs; right would be such as L50X5");
   }
   if (!numbers.empty() && spacings.empty()) {
-    Refuse("NO: " + options.table + " has no " + Quoted(options.no) +
+    Refuse("NO: no spacings are known for " + options.table + " " + Quoted(options.no) +
            "; the nearest are: " + Nearest(options.no, numbers));
   }
   return spacings;
@@ -120,6 +135,7 @@ void AddGaugeCommand(CLI::App& program) {
   command->add_option("TABLE", options->table, "The section's table")->required();
   command->add_option("NO", options->no, "The section's number")->required();
   command->add_flag("--json", options->json, "As JSON, each figure with its meaning");
+  AddStoreOptions(*command, options->store);
   command->callback([options] { RunGauge(*options); });
 }
 

@@ -1,5 +1,6 @@
 // orv3cal lattice: the properties and the picture of a lattice column.
 
+#include <cmath>
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,6 +10,7 @@
 #include "case_source.h"
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/lattice_picture.h"
+#include "catalogue/outline/row_figures.h"
 #include "commands.h"
 #include "error.h"
 #include "framework/number_text.h"
@@ -66,28 +68,34 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
   CStringArray names;
   CLoadDataTable::GetTableNameArray(kCatalogueTables, names);
   CStringArray numbers;
-  if (CLoadDataTable::GetSysTemItemNo(FromUtf8(type), numbers) && !numbers.IsEmpty()) {
+  const bool limb = CLoadDataTable::IsTableNameType(FromUtf8(type), kCatalogueTables) != 0;
+  if (limb && CLoadDataTable::GetSysTemItemNo(FromUtf8(type), numbers) && !numbers.IsEmpty()) {
     Refuse(ToUtf8(signs.m_szNo) + ": " + type + " has no \"" + no +
            "\"; the nearest are: " + Nearest(no, numbers));
   }
-  Refuse(ToUtf8(signs.m_szType) + ": the store has no table \"" + type +
+  Refuse(ToUtf8(signs.m_szType) + ": the store has no table of rolled sections \"" + type +
          "\"; the nearest are: " + Nearest(type, names));
 }
 
 CLatticeLimbs LimbsOf(const CSteelItemGeGou& column) {
   const int count = LatticeLimbCount(column.m_strTableName);
   for (int i = 0; i < count; ++i) {
-    if (column.GetPartItem(i + 1).IsEmpty()) RefuseLimb(column, kLimbColumns[i]);
+    const CString type = column[kLimbColumns[i].m_szType].m_strValue;
+    if (!CLoadDataTable::IsTableNameType(type, kCatalogueTables) ||
+        column.GetPartItem(i + 1).IsEmpty())
+      RefuseLimb(column, kLimbColumns[i]);
   }
   CLatticeLimbs limbs;
-  if (!limbs.Fetch(column) || !limbs.Place(column)) Refuse("the column cannot be computed");
+  if (!limbs.Fetch(column)) Refuse("the column cannot be computed");
+  if (limbs.PlaceTruly(column)) return limbs;
   for (int i = 0; i < count; ++i) {
-    const CLatticeLimb& limb = limbs.m_arrLimb[static_cast<std::size_t>(i)];
-    if (limb.m_dArea > 0) continue;
+    const CRowFigures f = RowFigures(limbs.m_arrLimb[static_cast<std::size_t>(i)].m_row);
+    if (f.m_dArea > 0 && std::isfinite(f.m_dXc + f.m_dYc + f.m_dIx + f.m_dIy)) continue;
     Refuse(ToUtf8(kLimbColumns[i].m_szNo) + ": the row of " + Cell(column, kLimbColumns[i].m_szNo) +
-           " in the store tells no area; right would be a section of the catalogue");
+           " in the store lacks its area, centroid or moments of inertia; right would be a section "
+           "of the catalogue");
   }
-  return limbs;
+  Refuse("the column cannot be computed");
 }
 
 std::string Number(const CLatticeLimb& limb) { return ToUtf8(limb.m_row[0].m_strValue); }

@@ -5,9 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/rolled/angle_capacity.h"
 #include "commands.h"
 #include "csv_output.h"
 #include "error.h"
+#include "figure_cells.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
@@ -94,6 +96,7 @@ CDataTable Selected(const CDataTable& all, const COptions& options) {
     table = table.SearchTable(expression.GetString(), options.wildcard ? 1 : 0);
   }
   if (!options.sort.empty()) Sort(table, options.sort);
+  ShowFigures(table);
   if (options.columns.empty()) return table;
   CString signs;
   for (const std::string& sign : options.columns) {
@@ -120,6 +123,26 @@ void ForEachLive(const CDataTable& table, const USE& use) {
 
 // --- Output --------------------------------------------------------------------------------------
 
+// The columns that say with what their figures were computed.
+bool HasCapacities(const CDataTable& table) {
+  const std::vector<std::string> signs = Signs(table);
+  return HasAngleCapacities(table.GetTableName()) &&
+         std::any_of(signs.begin(), signs.end(),
+                     [](const std::string& sign) { return sign.ends_with("(kN)"); });
+}
+
+void PrintRowsJson(const COptions& options, const CDataTable& table) {
+  CJson json = TableJson(options.table, table);
+  int i = 0;
+  ForEachLive(table, [&](const CDataItem& row) {
+    CJson cells = CJson::array();
+    for (const CDataCell& cell : row.m_arrCell) cells.push_back(CellJson(cell));
+    json["rows"][static_cast<std::size_t>(i++)]["cells"] = std::move(cells);
+  });
+  if (HasCapacities(table)) json["notes"] = {AngleCapacityBasis()};
+  PrintJson(json);
+}
+
 void PrintRowsCsv(const CDataTable& table) {
   std::string text = kCsvMark + CsvLine(Signs(table));
   ForEachLive(table, [&](const CDataItem& row) { text += CsvLine(RowCells(row)); });
@@ -141,6 +164,7 @@ void PrintRows(const COptions& options, const CDataTable& table) {
   });
   Print(lines.Text() + "\n" + options.table + ": " + std::to_string(count) +
         (count == 1 ? " row" : " rows") + "\n");
+  if (count > 0 && HasCapacities(table)) Print(std::string(AngleCapacityBasis()) + "\n");
   const bool star = options.where.find('*') != std::string::npos;
   if (count == 0 && star && !options.wildcard) Print("with --wildcard a * stands for any text\n");
 }
@@ -148,7 +172,7 @@ void PrintRows(const COptions& options, const CDataTable& table) {
 void RunRows(const COptions& options) {
   const CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
   const CDataTable table = Selected(all, options);
-  if (options.json) return PrintJson(TableJson(options.table, table));
+  if (options.json) return PrintRowsJson(options, table);
   if (options.csv) return PrintRowsCsv(table);
   PrintRows(options, table);
 }

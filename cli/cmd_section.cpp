@@ -13,9 +13,11 @@
 #include "output.h"
 #include "section_view.h"
 #include "sections/section_check.h"
+#include "sections/section_figures.h"
 #include "sections/section_property.h"
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
+#include "show_view.h"
 #include "text_table.h"
 
 namespace orv3::cli {
@@ -89,24 +91,20 @@ CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   return record;
 }
 
-bool Has(const CSectionStyle& style, const CSectionProperty& property) {
-  return style.m_bFirstMoments || !property.m_bFirstMoment;
-}
-
 CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
   CJson sizes = CJson::array();
   for (int i = 0; i < style.m_nSizes; ++i) sizes.push_back(JsonNumber(record.m_dSize[i]));
   CJson properties = CJson::object();
   for (const CSectionProperty& property : SectionProperties().subspan(2)) {
-    properties[property.m_szKey] =
-        Has(style, property) ? JsonNumber(record.*property.m_pField) : CJson(nullptr);
+    properties[property.m_szKey] = JsonNumber(PropertyFigure(record, property));
   }
   return {{"style", style.m_nStyle},
           {"table", ToUtf8(style.TableName())},
           {"name", name},
           {"sizes", sizes},
           {"base", {JsonNumber(record.m_dX), JsonNumber(record.m_dY)}},
-          {"properties", properties}};
+          {"properties", properties},
+          {"geometry", FiguresJson(RowFigures(ExactRow(record)))}};
 }
 
 std::string Unit(int power) {
@@ -125,16 +123,21 @@ void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const 
                   NumberText(record.m_dSize[i]), "mm", size.m_szMeaning});
   }
   table.AddRule();
-  bool infinite = false;
+  bool infinite = false, missing = false;
   for (const CSectionProperty& property : SectionProperties()) {
-    if (!Has(style, property)) continue;
-    const double value = record.*property.m_pField;
-    infinite = infinite || value >= 1e100;
+    const double value = PropertyFigure(record, property);
+    infinite = infinite || std::isinf(value);
+    missing = missing || std::isnan(value);
     table.AddRow({ToUtf8(property.m_szTitle), property.m_szKey, NumberText(value),
                   Unit(property.m_nPower), property.m_szMeaning});
   }
+  table.AddRule();
+  AddFurtherFigures(table, RowFigures(ExactRow(record)));
   Print(table.Text());
   if (infinite) Print("\n∞: the base point lies on that edge of the section\n");
+  if (missing) Print("\n-: not computed for this style, or the base point lies outside\n");
+  constexpr int kHexagon = 4;
+  if (style.m_nStyle == kHexagon) Print("\nIxo = Iyo = 0.541 a⁴ as in tables; exact: 0.54127 a⁴\n");
 }
 
 void RunSection(const COptions& options) {

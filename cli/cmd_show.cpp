@@ -54,6 +54,10 @@ CDataItem RowOf(const COptions& options) {
 
 CDataItem WithGap(const CDataItem& row, const COptions& options) {
   if (!IsPairTable(row.GetTableName())) Refuse("--gap: " + options.table + " is no table of pairs");
+  if (PairSpacingSign(row.GetTableName()).IsEmpty()) {
+    Refuse("--gap: the channels of " + options.table +
+           " touch; right for channels apart would be a lattice column, 双肢格构柱");
+  }
   return WithPairSpacing(row, options.gap);
 }
 

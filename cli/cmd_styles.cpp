@@ -26,19 +26,18 @@ CJson StyleJson(const CSectionStyle& style) {
           {"sizes", sizes}};
 }
 
+// A line for each style, and below it one for each of its sizes in the order of the command line.
 void PrintStyles() {
-  CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left});
-  table.AddRow({"style", "alias", "table", "sizes (mm)"});
   for (const CSectionStyle& style : SectionStyles()) {
-    std::string sizes;
+    CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left});
     for (const CSizeColumn& size : style.Sizes()) {
       const std::string sign = ToUtf8(size.m_szSign);
-      sizes += (sizes.empty() ? "" : " ") + sign.substr(0, sign.find('('));
+      table.AddRow({" ", sign.substr(0, sign.find('(')), ToUtf8(size.m_szTitle), size.m_szMeaning});
     }
-    table.AddRow(
-        {std::to_string(style.m_nStyle), style.m_szAlias, ToUtf8(style.TableName()), sizes});
+    Print(std::to_string(style.m_nStyle) + "  " + style.m_szAlias + "  " +
+          ToUtf8(style.TableName()) + "  " + style.m_szShape + "\n" + table.Text() + "\n");
   }
-  Print(table.Text());
+  Print("all sizes in mm; orv3cal section ALIAS SIZE... takes them in this order\n");
 }
 
 // The sample section of each style, in a file named by its alias. The samples' names are those that

@@ -12,6 +12,9 @@
 namespace orv3::cli {
 namespace {
 
+// From here on a number stands for a fibre distance of 0.
+constexpr double kInfinite = 1e100;
+
 const char* Reason(CFileError error) {
   switch (error) {
     case CFileError::NotFound:
@@ -41,11 +44,13 @@ bool IsNoFile(const std::string& path) {
 
 }  // namespace
 
-CJson JsonNumber(double value) { return std::isfinite(value) ? CJson(value) : CJson(nullptr); }
+CJson JsonNumber(double value) {
+  return std::fabs(value) < kInfinite ? CJson(value) : CJson(nullptr);
+}
 
 std::string NumberText(double value) {
   if (std::isnan(value)) return "-";
-  if (std::fabs(value) >= 1e100) return value > 0 ? "∞" : "-∞";
+  if (std::fabs(value) >= kInfinite) return value > 0 ? "∞" : "-∞";
   char text[64];
   const auto format =
       std::fabs(value) >= 1e15 ? std::chars_format::scientific : std::chars_format::general;

@@ -9,7 +9,7 @@ namespace orv3::cli {
 // Keys stay in the order in which they are put in.
 using CJson = nlohmann::ordered_json;
 
-// A number with all its digits; null when it is not finite.
+// A number with all its digits; null when it is not finite or stands for infinity (1e100).
 CJson JsonNumber(double value);
 
 // Seven significant digits and trailing zeros dropped; "∞" from 1e100 on, which stands for a fibre

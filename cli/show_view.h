@@ -1,13 +1,27 @@
 // A row with its geometry, as JSON and as a table for people.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "catalogue/outline/row_figures.h"
 #include "output.h"
 #include "tables/data_item.h"
+#include "text_table.h"
 
 namespace orv3::cli {
 
 CJson RowJson(const CDataItem& row, const CRowFigures& figures);
 void PrintRow(const CDataItem& row, const CRowFigures& figures);
+
+// The figures alone, as `geometry` of RowJson has them.
+CJson FiguresJson(const CRowFigures& figures);
+// Those that the properties of a user-defined section do not tell: the enclosing rectangle,
+// thicknesses, shear centre, warping, least radius, symmetry.
+void AddFurtherFigures(CTextTable& table, const CRowFigures& figures);
+
+// What a reader of the row's figures should know.
+std::vector<std::string> RowNotes(const CDataItem& row);
+void PrintNotes(const std::vector<std::string>& notes);
 
 }  // namespace orv3::cli

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "catalogue/import/section_rows.h"
+#include "catalogue/outline/row_doubts.h"
 #include "error.h"
 #include "framework/message.h"
 #include "framework/utf8.h"
@@ -93,6 +94,16 @@ void Tell(const COptions& options, const CDataItem& row, const char* done) {
   PrintJson({{"table", options.table}, {"no", no}, {"done", done}, {"cells", RowCells(row)}});
 }
 
+// Typing errors that the row's own sizes show.
+void TellDoubts(const COptions& options, const CDataItem& row) {
+  if (options.json) return;
+  for (const CRowDoubt& doubt : RowDoubts(row)) {
+    Print("note: " + std::string(doubt.m_szKey) + " is doubtful: the row tells " +
+          NumberText(doubt.m_dTold) + ", the outline of its sizes has " +
+          NumberText(doubt.m_dOutline) + " (mm)\n");
+  }
+}
+
 // The store's table; one that it lacks but people know is started.
 CDataTable TableToAddTo(const CString& store, const CString& name) {
   CDataTable table;
@@ -131,6 +142,7 @@ void RunAdd(const COptions& options) {
   if (!table.AddTableItem(row, 1)) caught.Throw();
   Save(table, store);
   Tell(options, row, "added");
+  TellDoubts(options, row);
 }
 
 void RunEdit(const COptions& options) {
@@ -142,6 +154,7 @@ void RunEdit(const COptions& options) {
   if (!table.ModifyTableItem(row.m_nIndex, row)) caught.Throw();
   Save(table, store);
   Tell(options, row, "changed");
+  TellDoubts(options, row);
 }
 
 void RunDelete(const COptions& options) {

@@ -219,7 +219,9 @@ class CPictureLayout {
       DrawAxisLetters(CLayer::CentroidAxis, c, o, m_picture.m_axes.m_szX, m_picture.m_axes.m_szY,
                       m_bBase);
     }
-    if (m_bBase) DrawAxisLetters(CLayer::BaseAxis, o, m_bCentroid ? c : o, L"X", L"Y", false);
+    const CAxisLetters& base = m_picture.m_baseAxes;
+    if (m_bBase)
+      DrawAxisLetters(CLayer::BaseAxis, o, m_bCentroid ? c : o, base.m_szX, base.m_szY, false);
   }
 
   void DrawAxisPair(CLayer layer, CPoint at) {

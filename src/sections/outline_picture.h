@@ -29,6 +29,7 @@ struct COutlinePicture {
   std::optional<CPoint> m_base;  // axes X, Y
   CString m_strTitle;
   CAxisLetters m_axes{L"X0", L"Y0"};
+  CAxisLetters m_baseAxes{};
   double m_dStrongAngle = 0;  // of the strong axis, radians
 };
 

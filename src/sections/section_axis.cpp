@@ -2,6 +2,7 @@
 // inertia, and rectangles about an axis.
 #include <cmath>
 
+#include "sections/base_point.h"
 #include "sections/rect_moments.h"
 #include "sections/steel_jm_data.h"
 
@@ -42,8 +43,9 @@ void CSteelJMData::CalSectMomByI0(CSteelJMData& jm, double W, double H) {
   jm.m_dWxo2 = Modulus(jm.m_dIxo, jm.m_dYo);
   jm.m_dWyoL = Modulus(jm.m_dIyo, jm.m_dXo);
   jm.m_dWyoR = Modulus(jm.m_dIyo, W - jm.m_dXo);
-  jm.m_dWx1 = Modulus(jm.m_dIx, H - jm.m_dY);
-  jm.m_dWx2 = Modulus(jm.m_dIx, jm.m_dY);
-  jm.m_dWyL = Modulus(jm.m_dIy, jm.m_dX);
-  jm.m_dWyR = Modulus(jm.m_dIy, W - jm.m_dX);
+  const double x = orv3::OntoEdge(jm.m_dX, W), y = orv3::OntoEdge(jm.m_dY, H);
+  jm.m_dWx1 = Modulus(jm.m_dIx, H - y);
+  jm.m_dWx2 = Modulus(jm.m_dIx, y);
+  jm.m_dWyL = Modulus(jm.m_dIy, x);
+  jm.m_dWyR = Modulus(jm.m_dIy, W - x);
 }

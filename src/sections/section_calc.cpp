@@ -3,6 +3,7 @@
 #include <iterator>
 #include <span>
 
+#include "sections/base_point.h"
 #include "sections/plate_h.h"
 #include "sections/rect_moments.h"
 #include "sections/section_style.h"
@@ -58,13 +59,14 @@ double MomentAboutY(std::span<const CRect> rects, double xc, int right) {
 void SetFirstMoments(CSteelJMData& jm, std::span<const CRect> rects, double W, double H) {
   jm.m_dSxo = MomentAboutX(rects, jm.m_dYo, 1);
   jm.m_dSyo = MomentAboutY(rects, jm.m_dXo, 1);
-  if (0 <= jm.m_dY && jm.m_dY <= H) {
-    jm.m_dSx1 = MomentAboutX(rects, jm.m_dY, 1);
-    jm.m_dSx2 = MomentAboutX(rects, jm.m_dY, 0);
+  const double x = orv3::OntoEdge(jm.m_dX, W), y = orv3::OntoEdge(jm.m_dY, H);
+  if (0 <= y && y <= H) {
+    jm.m_dSx1 = y < H ? MomentAboutX(rects, y, 1) : 0;
+    jm.m_dSx2 = MomentAboutX(rects, y, 0);
   }
-  if (0 <= jm.m_dX && jm.m_dX <= W) {
-    jm.m_dSyL = MomentAboutY(rects, jm.m_dX, 1);
-    jm.m_dSyR = MomentAboutY(rects, jm.m_dX, 0);
+  if (0 <= x && x <= W) {
+    jm.m_dSyL = x < W ? MomentAboutY(rects, x, 1) : 0;
+    jm.m_dSyR = MomentAboutY(rects, x, 0);
   }
 }
 

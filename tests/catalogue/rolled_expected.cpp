@@ -124,13 +124,15 @@ double Stability(double lambda) {
   return (sum - std::sqrt(sum * sum - 4 * n * n)) / (2 * n * n);
 }
 
-// N and P follow from the A and iyo that stand in the row: f = 215 N/mm^2, kN.
-CValues Capacities(double A, double iyo) {
-  CValues values{{"N", A * 21.5}};
+// N and P, kN, follow from the t, A and iyo that stand in the row; f is that of Q235 (GB
+// 50017-2003, Table 3.4.1-1), which is less above 16 mm.
+CValues Capacities(double t, double A, double iyo) {
+  const double f = t <= 16 ? 21.5 : 20.5;  // kN/cm^2
+  CValues values{{"N", A * f}};
   for (int decimetres = 6; decimetres <= 57; decimetres += 3) {
     const std::string length =
         std::to_string(decimetres / 10) + "." + std::to_string(decimetres % 10);
-    values["P(" + length + "m)"] = Stability(decimetres * 10 / iyo) * A * 21.5;
+    values["P(" + length + "m)"] = Stability(decimetres * 10 / iyo) * A * f;
   }
   return values;
 }
@@ -319,7 +321,7 @@ CValues Expected(const std::string& file, const CDataItem& row) {
   CValues values = OfOutline(s);
   if (file == "DbData") {
     values += EqualAngle(s);
-    values += Capacities(sizes.values.at("A"), sizes.values.at("iyo"));
+    values += Capacities(sizes.Mm("t"), sizes.values.at("A"), sizes.values.at("iyo"));
   }
   if (file == "BDbData") values += UnequalAngle(s);
   if (file == "PHData" || file == "QxHData") values += Weld(sizes);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 #include "cli/run_program.h"
@@ -142,6 +143,27 @@ TEST(LatticeCommand, ComputesTheExample) {
   ExpectHas(OnCatalogue(lattice).m_strOut, {"X轴惯性矩      Ix   1239884400  mm⁴\n"});
 }
 
+// Two TW100X200 (GB/T 11263-1998: 185 cm4, centroid 1.73 cm below the flange's face) 600 mm apart,
+// flanges outwards and inwards.
+TEST(LatticeCommand, TakesATAtItsCentroid) {
+  for (const auto& [first, second, fibre] : {std::tuple(180, 0, 17.3), std::tuple(0, 180, 82.7)}) {
+    const COwnFile column("ts.json", Json({{"table", "双肢格构柱"},
+                                           {"No.", "G"},
+                                           {"k(mm)", 600},
+                                           {"P1Type", "剖分T型钢"},
+                                           {"P1No.", "TW100X200"},
+                                           {"P1θ°", first},
+                                           {"P2Type", "剖分T型钢"},
+                                           {"P2No.", "TW100X200"},
+                                           {"P2θ°", second}})
+                                         .dump());
+    const Json p = CatalogueJson("lattice " + column.m_strPath)["properties"];
+    const double ix = 2 * (185e4 + 3214.0 * 300 * 300);
+    EXPECT_NEAR(p["Wx1"], ix / (300 + fibre), 1e-6 * ix / 300);
+    EXPECT_NEAR(p["Wx2"], ix / (300 + fibre), 1e-6 * ix / 300);
+  }
+}
+
 TEST(LatticeCommand, DrawsItsLimbs) {
   const COwnFile column("column.json", Column({{"P2No.", "L63X6"}}));
   const COwnFile svg("column.svg");
@@ -169,6 +191,7 @@ TEST(LatticeCommand, RefusesInOneLineThatNamesTheFault) {
       {{{"kx(mm)", "600"}}, {"kx(mm)", "600", "number"}},
       {{{"A(mm^2)", 7704}}, {"A(mm^2)", "no key"}},
       {{{"P2No.", "L100X11"}}, {"P2No.", "L100X11", "L100X10"}},
+      {{{"P2Type", "四肢格构柱"}}, {"P2Type", "四肢格构柱", "rolled"}},
       {{{"P2Type", "等边角钢"}}, {"P2Type", "等边角钢", "热轧等边角钢"}},
   };
   for (const auto& c : cases) {
@@ -185,7 +208,7 @@ TEST(LatticeCommand, RefusesInOneLineThatNamesTheFault) {
 // --- gauge ---------------------------------------------------------------------------------------
 
 TEST(GaugeCommand, TellsEachFigureWithItsMeaning) {
-  const Json lines = JsonOf("gauge 热轧普通工字钢 I22a")["spacings"];
+  const Json lines = CatalogueJson("gauge 热轧普通工字钢 I22a")["spacings"];
   ASSERT_EQ(lines.size(), 4U);
   EXPECT_EQ(lines[0]["source"], "strSub4");
   const Json& values = lines[0]["values"];
@@ -193,18 +216,19 @@ TEST(GaugeCommand, TellsEachFigureWithItsMeaning) {
   EXPECT_EQ(values[0]["value"], 54);
   EXPECT_TRUE(values[4]["value"].is_null()) << "17l is no number";
   EXPECT_EQ(values[4]["text"], "17l");
-  const Json leg = JsonOf("gauge 热轧不等边角钢 L140X90X8")["spacings"][2];
+  const Json leg = CatalogueJson("gauge 热轧不等边角钢 L140X90X8")["spacings"][2];
   EXPECT_EQ(leg["leg"], 90);
   EXPECT_EQ(leg["values"][1]["value"], 23.5);
-  ExpectHas(RunProgram("gauge 热轧普通槽钢 [10").m_strOut, {"  hole      15  mm"});
-  ExpectHas(RunProgram("gauge 热轧等边角钢 L20X3").m_strOut, {"no bolt line"});
+  ExpectHas(OnCatalogue("gauge 热轧普通槽钢 [10").m_strOut, {"  hole      15  mm"});
+  ExpectHas(OnCatalogue("gauge 热轧等边角钢 L20X3").m_strOut, {"no bolt line"});
 }
 
 TEST(GaugeCommand, RefusesInOneLineThatNamesTheFault) {
   ExpectRefused(
-      {{"gauge 热轧普通槽钢 [12", {"NO", "[12", "[12.6"}},
-       {"gauge 热轧等边角钢 50X5", {"NO", "50X5", "L50X5"}},
-       {"gauge 热轧宽翼缘H型钢 HW100X100", {"TABLE", "热轧宽翼缘H型钢", "热轧普通槽钢"}}});
+      {{"gauge 热轧普通槽钢 [12" + kData, {"NO", "[12", "[12.6"}},
+       {"gauge 热轧等边角钢 50X5" + kData, {"NO", "50X5", "L50X5"}},
+       {"gauge 热轧等边角钢 L50X99" + kData, {"NO", "L50X99", "L50X5"}},
+       {"gauge 热轧宽翼缘H型钢 HW100X100" + kData, {"TABLE", "热轧宽翼缘H型钢", "热轧普通槽钢"}}});
 }
 
 }  // namespace

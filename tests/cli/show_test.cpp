@@ -86,7 +86,7 @@ TEST(ShowCommand, GivesTheGeometryInMillimetres) {
   EXPECT_EQ(row["columns"][0],
             Json({{"sign", "No."}, {"name", "型号"}, {"type", "text"}, {"key", true}}));
   const Json& g = row["geometry"];
-  EXPECT_EQ(g.size(), 20U);
+  EXPECT_EQ(g.size(), 23U);
   EXPECT_EQ(g["width"], 100);
   EXPECT_EQ(g["height"], 200);
   EXPECT_EQ(g["xc"], 50);
@@ -108,6 +108,29 @@ TEST(ShowCommand, TurnsTheSection) {
   for (const auto& [now, before] : same) EXPECT_EQ(turned[now], upright[before]) << now;
   EXPECT_EQ(turned["xc"], 100);
   EXPECT_TRUE(turned["Sxo"].is_null());
+  EXPECT_EQ(turned["axes"], Json({{"x", "Y"}, {"y", "X"}})) << "the axes turn with the section";
+}
+
+// Each letter stands for one axis: a row's figures name the axes that they are about.
+TEST(ShowCommand, NamesTheAxesOfItsFigures) {
+  const Json angle = ShowJson("热轧等边角钢 L100X10");
+  EXPECT_NEAR(angle["geometry"]["ix"], 10 * Cell(angle, "ix(cm)"), 1e-9) << "as Ix, about X";
+  EXPECT_NEAR(angle["geometry"]["imin"], 10 * Cell(angle, "iyo(cm)"), 1e-9);
+  EXPECT_EQ(ShowJson("冷弯薄壁卷边Z型钢 Z140X50X20X2.5")["geometry"]["axes"]["x"], "X1");
+  const Json cross = ShowJson("热轧等边角钢十字组合 2L100X10 --turn 90");
+  EXPECT_EQ(cross["geometry"]["axes"], Json({{"x", "X1"}, {"y", "Y1"}}));
+  EXPECT_NEAR(cross["geometry"]["Iy"], 1e4 * Cell(cross, "Iy1(cm^4)"), 1);
+  EXPECT_EQ(cross["geometry"]["symX"], true);
+  EXPECT_NEAR(ShowJson("剖分T型钢 TW100X200")["geometry"]["yc"], 100 - 17.3, 1e-9);
+}
+
+// GB 50017-2003: f = 205 N/mm^2 above 16 mm; L/iyo = 570/3.55 and 570/0.39 cm.
+TEST(ShowCommand, TellsWhatCapacitiesAreOf) {
+  EXPECT_NEAR(Cell(ShowJson("热轧等边角钢 L180X18"), "N(kN)"), 61.955 * 20.5, 0.006);
+  const Json small = ShowJson("热轧等边角钢 L20X3");
+  EXPECT_NEAR(small["slenderness"]["P(5.7m)(kN)"], 570 / 0.39, 1e-9);
+  ExpectHas(small["notes"][0], {"Q235", "class b"});
+  ExpectHas(RunProgram(Show("热轧等边角钢 L20X3")).m_strOut, {"kN  ", "λ = 1462 > 250"});
 }
 
 TEST(ShowCommand, SetsAPairApart) {
@@ -171,6 +194,7 @@ TEST(ShowCommand, RefusesInOneLineThatNamesTheFault) {
       {Show("热轧工字钢 I20a"), {"TABLE", "热轧工字钢", "热轧普通工字钢"}},
       {Show("热轧普通工字钢 I20a --turn 45"), {"--turn", "45", "270"}},
       {Show("热轧普通工字钢 I20a --gap 10"), {"--gap", "热轧普通工字钢", "pairs"}},
+      {Show("热轧普通槽钢[]组合 2[][10 --gap 10"), {"--gap", "touch", "双肢格构柱"}},
       {Show("热轧等边角钢组合 2L100X10 --gap 2.5"), {"--gap", "2.5"}},
       {Show("热轧等边角钢组合 2L100X10 --gap -1"), {"--gap"}},
       {Show("热轧普通工字钢"), {"NO", "required"}},

@@ -113,6 +113,7 @@ TEST_F(StoreCommand, RefusesWhatCannotBeKeptAndLeavesTheStore) {
       {On("edit 热轧普通槽钢 [10 --set \"h(mm)=1\""), {"本数据记录不能删除和编辑!"}},
       {On("delete 热轧普通槽钢 [10"), {"本数据记录不能删除和编辑!"}},
       {On("add 热轧等边角钢组合 --set No.=2L50X5"), {"型钢组合不能进行复制"}},
+      {On("add 热轧普通工字钢 --set No.=I99 --set \"h(mm)=990\""), {"截面宽度 b(mm)", "不能为空"}},
       {On("add 不存在 --set No.=a"), {"has no table \"不存在\""}},
       {On("edit 我的表 I20a --set a=" + wide + " --set b=" + wide),
        {"bytes, but the file has room"}},

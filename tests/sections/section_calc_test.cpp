@@ -1,6 +1,7 @@
 // Properties of every style, against an integration of the outline that is drawn of it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <vector>
@@ -128,6 +129,32 @@ TEST(SectionCalc, AgreesWithTheIntegratedOutline) {
     styles.insert(c.style);
   }
   EXPECT_EQ(styles.size(), orv3::SectionStyles().size());
+}
+
+// Sizes in tenths of a millimetre: width and height are sums that miss the decimals of a base point
+// by rounding.
+TEST(SectionCalc, ABasePointOnTheFarEdgesOfDecimalSizes) {
+  unsigned state = 1;
+  const auto tenths = [&state](int least, int most) {
+    state = state * 1664525U + 1013904223U;
+    return least + static_cast<int>(state >> 8) % (most - least);
+  };
+  for (int round = 0; round < 5000; ++round) {
+    const int h = tenths(1000, 9000), t = tenths(30, 400), left = tenths(0, 2000);
+    const int right = tenths(0, 2000), left2 = tenths(0, 2000), right2 = tenths(0, 2000);
+    const int web = tenths(30, 300);
+    const int W = std::max(left, left2) + web + std::max(right, right2);
+    const Sizes sizes = {web / 10.0,  h / 10.0,     t / 10.0,     t / 10.0,
+                         left / 10.0, right / 10.0, left2 / 10.0, right2 / 10.0};
+    const CSteelJMData jm = Calculated(9, sizes, W / 10.0, h / 10.0);
+    ASSERT_EQ(kNoFibre, jm.m_dWx1) << W << " " << h;
+    ASSERT_EQ(kNoFibre, jm.m_dWyR) << W << " " << h;
+    ASSERT_EQ(0, jm.m_dSx1);
+    ASSERT_EQ(0, jm.m_dSyL) << "nothing lies to the right";
+    ASSERT_NEAR(jm.m_dA * (W / 10.0 - jm.m_dXo), jm.m_dSyR, 1e-11 * jm.m_dA * W);
+  }
+  // Whoever means a point beside the edge gets it.
+  EXPECT_LT(Calculated(3, {200, 400}, 0, 400 + 1e-9).m_dWx1, kNoFibre);
 }
 
 TEST(SectionCalc, SlotsBehindTheOwnSizesKeepTheModelsSizes) {

@@ -1,6 +1,7 @@
 #include "catalogue/import/section_rows.h"
 
 #include "catalogue/lattice/steel_ge_gou.h"
+#include "catalogue/outline/row_doubts.h"
 #include "catalogue/rolled/rolled_style.h"
 #include "framework/number_text.h"
 #include "sections/load_data_table.h"
@@ -75,6 +76,7 @@ CDataItem EmptyRow(const CString& table, const CDataTableTitle& title) {
 
 CString CompleteRow(CDataItem& row) {
   if (const auto fault = CheckRow(row)) return fault->m_strText;
+  if (const auto fault = CheckRolledRow(row)) return fault->m_strText;
   if (const CSectionStyle* style = FindSectionStyle(row.m_strTableName.View())) {
     CString digits = CheckDigits(row, *style);
     if (!digits.IsEmpty()) return digits;

@@ -1,7 +1,9 @@
 #include "catalogue/lattice/lattice_limbs.h"
 
 #include <array>
+#include <cmath>
 
+#include "catalogue/outline/row_figures.h"
 #include "sections/load_data_table.h"
 #include "sections/section_kind.h"
 
@@ -58,21 +60,50 @@ bool CLatticeLimbs::Fetch(const CSteelItemGeGou& column) {
   return limbs > 0;
 }
 
-bool CLatticeLimbs::Place(const CSteelItemGeGou& column) {
-  for (std::size_t i = 0; i < m_arrLimb.size(); ++i) {
-    if (!Read(column, kLimbColumns[i].m_szAngle, m_arrLimb[i].m_dAngle)) return false;
+namespace {
+
+// Angles, spacings and places; false when one is missing.
+bool ReadPlaces(CLatticeLimbs& limbs, const CSteelItemGeGou& column) {
+  auto& all = limbs.m_arrLimb;
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    if (!Read(column, kLimbColumns[i].m_szAngle, all[i].m_dAngle)) return false;
   }
-  const bool two = m_arrLimb.size() == 2;
-  if (!two && !Read(column, L"kx(mm)", m_dKx)) return false;
-  if (!Read(column, two ? L"k(mm)" : L"ky(mm)", m_dKy)) return false;
-  const auto places = LatticePlacement(static_cast<int>(m_arrLimb.size()), m_dKx, m_dKy);
-  for (std::size_t i = 0; i < m_arrLimb.size(); ++i) {
-    CLatticeLimb& limb = m_arrLimb[i];
+  const bool two = all.size() == 2;
+  if (!two && !Read(column, L"kx(mm)", limbs.m_dKx)) return false;
+  if (!Read(column, two ? L"k(mm)" : L"ky(mm)", limbs.m_dKy)) return false;
+  const auto places = LatticePlacement(static_cast<int>(all.size()), limbs.m_dKx, limbs.m_dKy);
+  for (std::size_t i = 0; i < all.size(); ++i) all[i].m_at = places[i];
+  return true;
+}
+
+}  // namespace
+
+bool CLatticeLimbs::Place(const CSteelItemGeGou& column) {
+  m_bTrue = false;
+  if (!ReadPlaces(*this, column)) return false;
+  for (CLatticeLimb& limb : m_arrLimb) {
     CLimbBox& box = limb.m_box;
     CLoadDataTable::GetDataItemRect(limb.m_row, box.m_width, box.m_height, limb.m_dAngle);
     CLoadDataTable::GetDataItemCenter(limb.m_row, box.m_cx, box.m_cy, limb.m_dAngle);
     CLoadDataTable::GetDataItemIo(limb.m_row, limb.m_dIx, limb.m_dIy, limb.m_dAngle);
-    limb.m_at = places[i];
+  }
+  return true;
+}
+
+bool CLatticeLimbs::PlaceTruly(const CSteelItemGeGou& column) {
+  m_bTrue = true;
+  if (!ReadPlaces(*this, column)) return false;
+  for (CLatticeLimb& limb : m_arrLimb) {
+    // A limb is no column: one that named itself would have no end.
+    if (LatticeLimbCount(limb.m_row.m_strTableName) > 0) return false;
+    const CRowFigures f = RowFigures(limb.m_row, limb.m_dAngle);
+    limb.m_dArea = f.m_dArea;
+    limb.m_box = {f.m_dWidth, f.m_dHeight, f.m_dXc, f.m_dYc};
+    // About axes at 45 degrees to two others both moments are the mean of theirs.
+    limb.m_dIx = f.m_bAslant ? (f.m_dIx + f.m_dIy) / 2 : f.m_dIx;
+    limb.m_dIy = f.m_bAslant ? limb.m_dIx : f.m_dIy;
+    const double all = f.m_dArea + f.m_dWidth + f.m_dHeight + f.m_dXc + f.m_dYc + f.m_dIx + f.m_dIy;
+    if (!std::isfinite(all) || !(f.m_dArea > 0)) return false;
   }
   return true;
 }
@@ -86,7 +117,8 @@ double CLatticeLimbs::Area() const noexcept {
 CLatticeReach CLatticeLimbs::Reach() const {
   std::array<CLimbBox, kMaxLimbs> boxes;
   for (std::size_t i = 0; i < m_arrLimb.size(); ++i) boxes[i] = m_arrLimb[i].m_box;
-  return LatticeReach(std::span(boxes).first(m_arrLimb.size()), m_dKx, m_dKy);
+  const auto limbs = std::span(boxes).first(m_arrLimb.size());
+  return m_bTrue ? LatticeReach(limbs, m_dKx, m_dKy) : RowLatticeReach(limbs, m_dKx, m_dKy);
 }
 
 CLatticeProperties CLatticeLimbs::Properties() const {

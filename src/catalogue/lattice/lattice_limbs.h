@@ -43,11 +43,16 @@ struct ORV3CAL_API CLatticeLimbs {
   std::vector<CLatticeLimb> m_arrLimb;
   double m_dKx = 0;  // 0 with two limbs
   double m_dKy = 0;  // k with two limbs
+  bool m_bTrue = false;
 
   // Rows and areas of the limbs that the row's table has; false when one is not in the store.
   bool Fetch(const CSteelItemGeGou& column);
-  // Everything else, after Fetch; false without an angle or spacing.
+  // Everything else, after Fetch, as the rows of lattice tables are computed: by the facade's
+  // members, which have a T's centroid at mid-height, and with RowLatticeReach. False without an
+  // angle or spacing.
   bool Place(const CSteelItemGeGou& column);
+  // The same as the limbs truly are and stand; false for a limb whose row lacks a figure too.
+  bool PlaceTruly(const CSteelItemGeGou& column);
   double Area() const noexcept;
   CLatticeReach Reach() const;  // from the frame's origin
   // Of placed limbs, by the parallel-axis theorem. Without area the centroid is (0, 0); a modulus

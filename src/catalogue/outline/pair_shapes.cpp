@@ -64,10 +64,14 @@ COutline StandingPart(const CSectionPair& pair, const CString& no) {
 
 bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullptr; }
 
+CString PairSpacingSign(const CString& tableName) {
+  const CSectionPair* pair = FindPair(tableName);
+  return pair == nullptr ? CString() : CString(pair->m_szGap);
+}
+
 CDataItem WithPairSpacing(CDataItem row, int spacing) {
-  const CSectionPair* pair = FindPair(row.GetTableName());
-  if (pair == nullptr || row.IsEmpty()) return row;
-  const wchar_t* sign = pair->m_szGap;
+  const CString sign = PairSpacingSign(row.GetTableName());
+  if (sign.IsEmpty() || row.IsEmpty()) return row;
   if (row.GetCellSign(1) == sign) row.m_arrCell.RemoveAt(1);
   const CDataTypeStruct column(L"肢距", sign, CDataTypeStruct::KVBT_INT, 0);
   row.m_arrCell.InsertAt(1, CDataCell(column, FormatInt(spacing)));
@@ -78,7 +82,8 @@ CPair PairOf(const CDataItem& row) {
   const CSectionPair* pair = FindPair(row.GetTableName());
   if (pair == nullptr || row.IsEmpty()) return {};
   const bool cross = pair->m_form == CPairForm::Cross;
-  const double gap = ChosenSpacing(row, pair->m_szGap);
+  const CString spacing = pair->m_szGap;
+  const double gap = spacing.IsEmpty() ? 0 : ChosenSpacing(row, spacing);
   if (gap < 0) return {};
   const COutline part = StandingPart(*pair, row[0].m_strValue.Mid(pair->m_nMarker));
   if (part.m_arrLoop.empty()) return {};

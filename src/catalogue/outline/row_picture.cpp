@@ -1,8 +1,10 @@
 #include "catalogue/outline/row_picture.h"
 
 #include <cmath>
+#include <utility>
 
 #include "catalogue/outline/outline_moments.h"
+#include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_dimensions.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
@@ -19,27 +21,6 @@ CString Title(const CDataItem& row, int quarters) {
   if (!row.IsEmpty()) title += L"  " + row[0].m_strValue;
   if (quarters > 0) title += L"  转" + FormatInt(90LL * quarters) + L"°";
   return title;
-}
-
-// The axes as the columns of the tables name them.
-CAxisLetters AxisLetters(const CString& tableName) {
-  static constexpr struct {
-    const wchar_t* m_szTable;
-    CAxisLetters m_letters;
-  } kTables[] = {
-      {L"热轧等边角钢", {L"X", L"Y", L"Xo", L"Yo"}},
-      {L"热轧不等边角钢", {L"X", L"Y", L"V", L"U"}},
-      {L"热轧等边角钢十字组合", {L"X", L"Y", L"X1", L"Y1"}},
-      {L"冷弯薄壁等边角钢", {L"Xo", L"Yo", L"X", L"Y"}},
-      {L"冷弯卷边等边角钢", {L"Xo", L"Yo", L"X", L"Y"}},
-      {L"冷弯薄壁卷边Z型钢", {L"X1", L"Y1", L"X", L"Y"}},
-      {L"冷弯薄壁斜卷边Z型钢", {L"X1", L"Y1", L"X", L"Y"}},
-  };
-  for (const auto& table : kTables) {
-    if (tableName == table.m_szTable) return table.m_letters;
-  }
-  const bool custom = FindSectionStyle(tableName.View()) != nullptr;
-  return custom ? CAxisLetters{L"X0", L"Y0"} : CAxisLetters{};
 }
 
 // As precise as anyone draws.
@@ -67,7 +48,11 @@ CDrawing RowPictureDrawing(const CDataItem& row, double angle) {
   picture.m_arrSize = QuarterTurned(RowDimensions(row, upright), quarters, width, height);
   const COutlineMoments m = RowOutlineMoments(picture.m_outline.m_arrLoop);
   picture.m_centroid = {Hundredths(m.m_centroid.x), Hundredths(m.m_centroid.y)};
-  picture.m_axes = AxisLetters(row.GetTableName());
+  picture.m_axes = RowAxisLetters(row.GetTableName());
+  if (quarters % 2 == 1) {
+    std::swap(picture.m_axes.m_szX, picture.m_axes.m_szY);
+    std::swap(picture.m_baseAxes.m_szX, picture.m_baseAxes.m_szY);
+  }
   picture.m_dStrongAngle = std::atan2(-2 * m.m_dIxy, m.m_dIx - m.m_dIy) / 2;
   if (const auto base = BasePoint(row))
     picture.m_base = QuarterTurned(*base, quarters, width, height);

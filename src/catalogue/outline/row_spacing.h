@@ -9,8 +9,12 @@ namespace orv3 {
 // Whether a table's rows are pairs of angles or channels, or crosses of angles.
 ORV3CAL_API bool IsPairTable(const CString& tableName);
 
+// The sign of the cell that a pair's spacing stands in, "a(mm)" or "δ(mm)"; empty for a table that
+// has none: no pairs, or channels whose toes touch.
+ORV3CAL_API CString PairSpacingSign(const CString& tableName);
+
 // The row with its spacing in whole mm as an integer cell right after "No.", in place of one that
-// is there; unchanged when it is no pair.
+// is there; unchanged when its table has no spacing.
 ORV3CAL_API CDataItem WithPairSpacing(CDataItem row, int spacing);
 
 }  // namespace orv3

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/spacing_model.h"
@@ -19,7 +20,6 @@ constexpr int kColumnWidth = 150;
 constexpr int kName = 0, kValue = 1;  // the grid's columns
 constexpr int kSpacingLine = 1;
 constexpr int kMaxLimbs = 4;
-constexpr wchar_t kLattice[] = L"格构柱";
 // Limbs are single sections: a combined one would need a spacing of its own.
 constexpr long kLimbTables = TABLE_ROLLED | TABLE_FAMILY_I | TABLE_FAMILY_BOX | TABLE_FAMILY_T |
                              TABLE_FAMILY_CHANNEL | TABLE_FAMILY_Z | TABLE_FAMILY_ROUND |
@@ -57,7 +57,7 @@ CStringArray QuarterTurns() {
 CPropertyModel::CPropertyModel(const CDataItem& row, const CString& tableName, int editMode)
     : m_row(row), m_strTable(tableName), m_nEditMode(editMode) {
   if (m_row.m_strTableName.IsEmpty()) m_row.m_strTableName = tableName;
-  m_nSource = tableName.Find(kLattice) >= 0        ? CSource::Lattice
+  m_nSource = LatticeLimbCount(tableName) > 0      ? CSource::Lattice
               : FindSectionStyle(tableName.View()) ? CSource::Custom
                                                    : CSource::Plain;
   // A new lattice column comes without its results.

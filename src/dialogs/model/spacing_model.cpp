@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "catalogue/outline/row_spacing.h"
 #include "dialogs/model/dialog_texts.h"
 #include "framework/number_text.h"
 #include "sections/load_data_table.h"
@@ -10,20 +11,15 @@
 namespace orv3 {
 namespace {
 
-constexpr wchar_t kAngleCross[] = L"热轧等边角钢十字组合";
-constexpr const wchar_t* kBackToBack[] = {L"热轧普通槽钢][组合", L"热轧轻型槽钢][组合"};
 constexpr int kSpacings[] = {0, 4, 6, 8, 10, 12, 14, 16, 18, 20};
 constexpr int kCrossSpacings = 5;  // of them, for a cross
 
 }  // namespace
 
 CSpacingKind SpacingKindOf(const CString& tableName) {
-  if (tableName == kAngleCross) return CSpacingKind::Delta;
-  const bool channels = std::any_of(std::begin(kBackToBack), std::end(kBackToBack),
-                                    [&](const wchar_t* name) { return tableName == name; });
-  const bool angles =
-      CLoadDataTable::IsTableNameType(tableName, TABLE_ROLLED | TABLE_FAMILY_ANGLE_PAIR) != 0;
-  return channels || angles ? CSpacingKind::A : CSpacingKind::None;
+  const CString sign = PairSpacingSign(tableName);
+  if (sign.IsEmpty()) return CSpacingKind::None;
+  return sign == texts::kSpacingSignDelta ? CSpacingKind::Delta : CSpacingKind::A;
 }
 
 bool IsCombinedTable(const CString& tableName) {

@@ -31,10 +31,11 @@ std::optional<double> Read(const CDataItem& row, const CGapCell& cell, double sp
   return ReadSign(row, {sign, static_cast<std::size_t>(to - sign)}, cell.m_unit.ToMm());
 }
 
-double ReadSpacing(const CDataItem& row, const CCell& cell) {
+double ReadSpacing(const CDataItem& row, std::wstring_view sign) {
   int whole = 0;
-  if (row.GetCellValue(row.GetSignIndex(cell.Sign()), whole)) return whole;
-  return Read(row, cell).value_or(0);
+  if (sign.empty()) return 0;
+  if (row.GetCellValue(row.GetSignIndex(sign), whole)) return whole;
+  return ReadSign(row, sign, 1).value_or(0);
 }
 
 CString ReadText(const CDataItem& row, std::wstring_view sign) {

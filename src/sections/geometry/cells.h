@@ -38,8 +38,9 @@ struct CGapCell {
 std::optional<double> Read(const CDataItem& row, const CCell& cell);
 // The column of a spacing in mm; nothing for a spacing that is no whole number.
 std::optional<double> Read(const CDataItem& row, const CGapCell& cell, double spacing);
-// The spacing of a pair, mm: an integer cell, else a KVBT_DOUBLE one; 0 in a row without it.
-double ReadSpacing(const CDataItem& row, const CCell& cell);
+// The spacing of a pair, mm: an integer cell, else a KVBT_DOUBLE one; 0 in a row without it and for
+// an empty sign.
+double ReadSpacing(const CDataItem& row, std::wstring_view sign);
 // The text of a KVBT_STRING cell; empty when there is none.
 CString ReadText(const CDataItem& row, std::wstring_view sign);
 

@@ -18,6 +18,11 @@ std::optional<double> HalfHeight(const CDataItem& row, const CFamily& family, co
   return read.Give(read(&CFamily::m_height) / 2);
 }
 
+std::optional<double> BelowTop(const CDataItem& row, const CFamily& family, const CCell& cell) {
+  CReader read(row, family);
+  return read.Give(read(&CFamily::m_height) - read(cell));
+}
+
 std::optional<double> Twice(const CDataItem& row, const CFamily& family, const CCell& cell) {
   CReader read(row, family);
   return read.Give(2 * read(cell));

@@ -1,26 +1,17 @@
 #include "sections/geometry/families.h"
 
-#include <algorithm>
-
 namespace orv3 {
 
-namespace {
-
-const CFamily* FindAmong(std::span<const CFamily> families, std::wstring_view tableName) noexcept {
-  for (const CFamily& family : families) {
-    if (std::ranges::find(family.m_arrTable, tableName) != family.m_arrTable.end()) return &family;
-  }
-  return nullptr;
+const CFamily& FamilyOf(CSectionKind kind) noexcept {
+  const std::size_t at = IndexOf(kind);
+  if (at < kSingleKinds) return RolledFamilies()[at];
+  if (at < kRolledKinds) return PairFamilies()[at - kSingleKinds];
+  return UserFamilies()[at - kRolledKinds];
 }
 
-}  // namespace
-
 const CFamily* FindFamily(std::wstring_view tableName) noexcept {
-  if (tableName.empty()) return nullptr;
-  for (const auto families : {RolledFamilies(), PairFamilies(), UserFamilies()}) {
-    if (const CFamily* family = FindAmong(families, tableName)) return family;
-  }
-  return nullptr;
+  const auto kind = FindSectionKind(tableName);
+  return kind ? &FamilyOf(*kind) : nullptr;
 }
 
 std::optional<double> Value(const CDataItem& row, const CFamily& family, const CSource& source) {

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "sections/geometry/cells.h"
+#include "sections/kind_array.h"
 
 namespace orv3 {
 
@@ -32,21 +33,10 @@ struct CSource {
   CFormula m_formula = nullptr;
 };
 
-// How two equal components make a section.
-struct CPairing {
-  enum class CJoin { None, Back, Toe, Cross };
-
-  std::wstring_view m_table;  // of the component
-  int m_nMarker = 0;          // characters before the component's number in the pair's "No."
-  CCell m_spacing;
-  CJoin m_join = CJoin::None;
-  bool m_bTurned = false;  // the component's height lies across: short legs back to back
-};
-
 struct CFamily {
   static constexpr std::size_t kMostPlates = 4;
 
-  std::array<std::wstring_view, 3> m_arrTable;
+  CSectionKind m_kind;
   CSource m_width = {}, m_height = {};  // of the enclosing rectangle
   CSource m_x = {}, m_y = {};           // centroid
   CSource m_Ix = {}, m_Iy = {};         // about the centroidal axes
@@ -60,16 +50,21 @@ struct CFamily {
   CSource m_Iw = {};           // warping constant, mm^6; empty: 0
   bool m_bSymmetricX = false;  // whatever the sizes
   bool m_bSymmetricY = false;
-  CPairing m_pair = {};
+  // Where the facade's members answer otherwise for the sake of earlier results; empty: they don't.
+  CSource m_trueY = {};    // centroid
+  CSource m_trueR = {};    // radius of gyration about the axes of Ix and Iy
+  CSource m_leastR = {};   // about the weak principal axis, where that is neither x nor y
+  bool m_bAslant = false;  // moments are about axes at 45 degrees to the rectangle's sides
 };
 
+const CFamily& FamilyOf(CSectionKind kind) noexcept;
 // The family of a table; null for a name of none.
 const CFamily* FindFamily(std::wstring_view tableName) noexcept;
 
 std::optional<double> Value(const CDataItem& row, const CFamily& family, const CSource& source);
 
-// The families by kind of table.
-std::span<const CFamily> RolledFamilies() noexcept;
+// The families in the order of their kinds.
+std::span<const CFamily> RolledFamilies() noexcept;  // of one part
 std::span<const CFamily> PairFamilies() noexcept;
 std::span<const CFamily> UserFamilies() noexcept;  // lattice columns too
 

@@ -7,11 +7,11 @@
 namespace orv3 {
 namespace {
 
-using CJoin = CPairing::CJoin;
+using K = CSectionKind;
 
-constexpr CFamily AnglePair(std::wstring_view table, std::wstring_view component, bool turned) {
+constexpr CFamily AnglePair(K kind) {
   return {
-      .m_arrTable = {table},
+      .m_kind = kind,
       .m_width = PairWidth,
       .m_height = PairHeight,
       .m_x = HalfWidth,
@@ -28,13 +28,12 @@ constexpr CFamily AnglePair(std::wstring_view table, std::wstring_view component
       .m_arrPlate = {PairThickest, PairThinnest},
       .m_e0 = AnglePairShearCentre,
       .m_bSymmetricY = true,
-      .m_pair = {component, 1, L"a(mm)", CJoin::Back, turned},
   };
 }
 
 // About X1, which parts the two angles, and Y1 through both, at 45 degrees to the legs.
 constexpr CFamily kAngleCross{
-    .m_arrTable = {L"热轧等边角钢十字组合"},
+    .m_kind = K::AngleCross,
     .m_width = PairWidth,
     .m_height = PairWidth,
     .m_x = HalfWidth,
@@ -49,12 +48,12 @@ constexpr CFamily kAngleCross{
     .m_WyR = CrossPairModulusY,
     .m_Sx = CrossPairMoment,
     .m_arrPlate = {PairThickest, PairThinnest},
-    .m_pair = {L"热轧等边角钢", 1, L"δ(mm)", CJoin::Cross},
+    .m_bAslant = true,
 };
 
-constexpr CFamily BackToBack(std::wstring_view table, std::wstring_view component) {
+constexpr CFamily BackToBack(K kind) {
   return {
-      .m_arrTable = {table},
+      .m_kind = kind,
       .m_width = PairWidth,
       .m_height = PairHeight,
       .m_x = HalfWidth,
@@ -72,28 +71,22 @@ constexpr CFamily BackToBack(std::wstring_view table, std::wstring_view componen
       .m_Iw = BackToBackWarping,
       .m_bSymmetricX = true,
       .m_bSymmetricY = true,
-      .m_pair = {component, 3, L"a(mm)", CJoin::Back},
   };
 }
 
-// Its own columns are those of toes that touch.
-constexpr CFamily ToeToToe(std::wstring_view table, std::wstring_view component) {
-  CFamily family = BackToBack(table, component);
-  family.m_pair.m_join = CJoin::Toe;
+constexpr CFamily ToeToToe(K kind) {
+  CFamily family = BackToBack(kind);
   family.m_Iw = ToeToToeWarping;
   return family;
 }
 
 constexpr CFamily kFamilies[] = {
-    AnglePair(L"热轧等边角钢组合", L"热轧等边角钢", false),
-    AnglePair(L"热轧不等边角钢长边组合", L"热轧不等边角钢", false),
-    AnglePair(L"热轧不等边角钢短边组合", L"热轧不等边角钢", true),
-    kAngleCross,
-    BackToBack(L"热轧普通槽钢][组合", L"热轧普通槽钢"),
-    ToeToToe(L"热轧普通槽钢[]组合", L"热轧普通槽钢"),
-    BackToBack(L"热轧轻型槽钢][组合", L"热轧轻型槽钢"),
-    ToeToToe(L"热轧轻型槽钢[]组合", L"热轧轻型槽钢"),
+    AnglePair(K::EqualAnglePair),      AnglePair(K::LongLegPair),
+    AnglePair(K::ShortLegPair),        kAngleCross,
+    BackToBack(K::OrdinaryBackToBack), ToeToToe(K::OrdinaryToeToToe),
+    BackToBack(K::LightBackToBack),    ToeToToe(K::LightToeToToe),
 };
+static_assert(std::size(kFamilies) == kPairKinds && InKindOrder(kFamilies, K::EqualAnglePair));
 
 }  // namespace
 

@@ -8,12 +8,11 @@
 namespace orv3 {
 namespace {
 
-using CTables = std::array<std::wstring_view, 3>;
+using K = CSectionKind;
 
-constexpr CFamily ISection(CTables tables, CSource width, CSource height, CSource moment,
-                           CSource flange) {
+constexpr CFamily ISection(K kind, CSource width, CSource height, CSource moment, CSource flange) {
   return {
-      .m_arrTable = tables,
+      .m_kind = kind,
       .m_width = width,
       .m_height = height,
       .m_x = HalfWidth,
@@ -34,10 +33,10 @@ constexpr CFamily ISection(CTables tables, CSource width, CSource height, CSourc
   };
 }
 
-constexpr CFamily Tube(std::wstring_view table, CSource width, CSource inertia, CSource radius,
-                       CSource modulus, CFormula moment) {
+constexpr CFamily Tube(K kind, CSource width, CSource inertia, CSource radius, CSource modulus,
+                       CFormula moment) {
   return {
-      .m_arrTable = {table},
+      .m_kind = kind,
       .m_width = width,
       .m_height = width,
       .m_x = HalfWidth,
@@ -57,10 +56,10 @@ constexpr CFamily Tube(std::wstring_view table, CSource width, CSource inertia, 
   };
 }
 
-// The height is a text column. The vertical centroid is taken at mid-height, as for all sections of
-// one web; what depends on the true one, Cx below the top, uses that.
+// The height is a text column. The facade's vertical centroid is at mid-height, as for all sections
+// of one web; the true one lies Cx below the top.
 constexpr CFamily kRolledT{
-    .m_arrTable = {L"剖分T型钢"},
+    .m_kind = K::SplitT,
     .m_width = L"B(mm)",
     .m_height = {TextNumber, L"h(mm)"},
     .m_x = HalfWidth,
@@ -77,32 +76,35 @@ constexpr CFamily kRolledT{
     .m_arrPlate = {L"t2(mm)", L"t1(mm)"},
     .m_e0 = {TShearCentre, L"Cx(cm)"},
     .m_bSymmetricY = true,
+    .m_trueY = {BelowTop, L"Cx(cm)"},
 };
 
-constexpr CFamily kRolledChannel{
-    .m_arrTable = {L"热轧普通槽钢", L"热轧轻型槽钢"},
-    .m_width = L"b(mm)",
-    .m_height = L"h(mm)",
-    .m_x = L"zo(cm)",
-    .m_y = HalfHeight,
-    .m_Ix = L"Ix(cm^4)",
-    .m_Iy = L"Iy(cm^4)",
-    .m_ix = L"ix(cm)",
-    .m_iy = L"iy(cm)",
-    .m_Wx1 = L"Wx(cm^3)",
-    .m_Wx2 = L"Wx(cm^3)",
-    .m_WyL = L"Wymax(cm^3)",
-    .m_WyR = L"Wymin(cm^3)",
-    .m_Sx = L"Sx(cm^3)",
-    .m_arrPlate = {L"t(mm)", L"tw(mm)"},
-    .m_e0 = {ChannelShearCentre, L"zo(cm)"},
-    .m_Iw = ChannelWarping,
-    .m_bSymmetricX = true,
-};
-
-constexpr CFamily ColdChannel(std::wstring_view table, CFormula moment) {
+constexpr CFamily RolledChannel(K kind) {
   return {
-      .m_arrTable = {table},
+      .m_kind = kind,
+      .m_width = L"b(mm)",
+      .m_height = L"h(mm)",
+      .m_x = L"zo(cm)",
+      .m_y = HalfHeight,
+      .m_Ix = L"Ix(cm^4)",
+      .m_Iy = L"Iy(cm^4)",
+      .m_ix = L"ix(cm)",
+      .m_iy = L"iy(cm)",
+      .m_Wx1 = L"Wx(cm^3)",
+      .m_Wx2 = L"Wx(cm^3)",
+      .m_WyL = L"Wymax(cm^3)",
+      .m_WyR = L"Wymin(cm^3)",
+      .m_Sx = L"Sx(cm^3)",
+      .m_arrPlate = {L"t(mm)", L"tw(mm)"},
+      .m_e0 = {ChannelShearCentre, L"zo(cm)"},
+      .m_Iw = ChannelWarping,
+      .m_bSymmetricX = true,
+  };
+}
+
+constexpr CFamily ColdChannel(K kind, CFormula moment) {
+  return {
+      .m_kind = kind,
       .m_width = L"b(mm)",
       .m_height = L"h(mm)",
       .m_x = L"xo(cm)",
@@ -124,9 +126,9 @@ constexpr CFamily ColdChannel(std::wstring_view table, CFormula moment) {
 }
 
 // About the axes x1 along the flanges and y1 along the web.
-constexpr CFamily ColdZ(std::wstring_view table, CFormula width, CFormula moment) {
+constexpr CFamily ColdZ(K kind, CFormula width, CFormula moment) {
   return {
-      .m_arrTable = {table},
+      .m_kind = kind,
       .m_width = width,
       .m_height = L"h(mm)",
       .m_x = HalfWidth,
@@ -142,13 +144,14 @@ constexpr CFamily ColdZ(std::wstring_view table, CFormula width, CFormula moment
       .m_Sx = moment,
       .m_arrPlate = {L"t(mm)"},
       .m_Iw = L"Iw(cm^6)",
+      .m_leastR = L"iy(cm)",
   };
 }
 
-// Io and the moduli are about axes along the legs, the radii about Xo, the axis of symmetry, and
-// Yo: those a single angle buckles about.
+// Io and the moduli are about axes along the legs, the facade's radii about Xo, the axis of
+// symmetry, and Yo: those a single angle buckles about.
 constexpr CFamily kEqualAngle{
-    .m_arrTable = {L"热轧等边角钢"},
+    .m_kind = K::EqualAngle,
     .m_width = L"b(mm)",
     .m_height = L"b(mm)",
     .m_x = L"zo(cm)",
@@ -164,11 +167,13 @@ constexpr CFamily kEqualAngle{
     .m_Sx = HotAngleMoment,
     .m_arrPlate = {L"t(mm)"},
     .m_e0 = AngleShearCentre,
+    .m_trueR = L"ix(cm)",
+    .m_leastR = L"iyo(cm)",
 };
 
 // The long leg stands upright.
 constexpr CFamily kUnequalAngle{
-    .m_arrTable = {L"热轧不等边角钢"},
+    .m_kind = K::UnequalAngle,
     .m_width = L"b(mm)",
     .m_height = L"B(mm)",
     .m_x = L"xo(cm)",
@@ -184,12 +189,13 @@ constexpr CFamily kUnequalAngle{
     .m_Sx = HotAngleMoment,
     .m_arrPlate = {L"t(mm)"},
     .m_e0 = AngleShearCentre,
+    .m_leastR = L"iu(cm)",
 };
 
 // All about Xo and Yo, which are along the legs in these tables.
-constexpr CFamily ColdAngle(std::wstring_view table, CFormula moment, CSource warping) {
+constexpr CFamily ColdAngle(K kind, CFormula moment, CSource warping) {
   return {
-      .m_arrTable = {table},
+      .m_kind = kind,
       .m_width = L"b(mm)",
       .m_height = L"b(mm)",
       .m_x = L"yo(cm)",
@@ -206,27 +212,32 @@ constexpr CFamily ColdAngle(std::wstring_view table, CFormula moment, CSource wa
       .m_arrPlate = {L"t(mm)"},
       .m_e0 = L"eo(cm)",
       .m_Iw = warping,
+      .m_leastR = L"iy(cm)",
   };
 }
 
 constexpr CFamily kFamilies[] = {
-    ISection({L"热轧普通工字钢", L"热轧轻型工字钢"}, L"b(mm)", L"h(mm)", L"Sx(cm^3)", L"t(mm)"),
-    ISection({L"热轧普通焊接H型钢", L"热轧轻型焊接H型钢"}, L"B(mm)", L"H(mm)", L"Sx(cm^3)",
-             L"tf(mm)"),
-    ISection({L"热轧宽翼缘H型钢", L"热轧窄翼缘H型钢"}, L"B(mm)", L"H(mm)", WideHMoment, L"tf(mm)"),
-    Tube(L"冷弯薄壁方钢管", L"h(mm)", L"Ix(cm^4)", L"ix(cm)", L"Wx(cm^3)", SquareTubeMoment),
-    Tube(L"冷弯焊接薄壁圆钢管", L"d(mm)", L"I(cm^4)", L"i(cm)", L"W(cm^3)", RoundTubeMoment),
+    ISection(K::OrdinaryI, L"b(mm)", L"h(mm)", L"Sx(cm^3)", L"t(mm)"),
+    ISection(K::LightI, L"b(mm)", L"h(mm)", L"Sx(cm^3)", L"t(mm)"),
+    ISection(K::WeldedH, L"B(mm)", L"H(mm)", L"Sx(cm^3)", L"tf(mm)"),
+    ISection(K::LightWeldedH, L"B(mm)", L"H(mm)", L"Sx(cm^3)", L"tf(mm)"),
+    ISection(K::WideH, L"B(mm)", L"H(mm)", WideHMoment, L"tf(mm)"),
+    ISection(K::NarrowH, L"B(mm)", L"H(mm)", WideHMoment, L"tf(mm)"),
+    Tube(K::SquareTube, L"h(mm)", L"Ix(cm^4)", L"ix(cm)", L"Wx(cm^3)", SquareTubeMoment),
     kRolledT,
-    kRolledChannel,
-    ColdChannel(L"冷弯薄壁槽钢", ColdChannelMoment),
-    ColdChannel(L"冷弯薄壁卷边槽钢", LippedMoment),
-    ColdZ(L"冷弯薄壁卷边Z型钢", ZWidth, LippedMoment),
-    ColdZ(L"冷弯薄壁斜卷边Z型钢", SlantLipZWidth, SlantLipMoment),
+    RolledChannel(K::OrdinaryChannel),
+    RolledChannel(K::LightChannel),
+    ColdChannel(K::ColdChannel, ColdChannelMoment),
+    ColdChannel(K::LippedChannel, LippedMoment),
+    ColdZ(K::LippedZ, ZWidth, LippedMoment),
+    ColdZ(K::SlantLippedZ, SlantLipZWidth, SlantLipMoment),
+    Tube(K::RoundTube, L"d(mm)", L"I(cm^4)", L"i(cm)", L"W(cm^3)", RoundTubeMoment),
     kEqualAngle,
     kUnequalAngle,
-    ColdAngle(L"冷弯薄壁等边角钢", ColdAngleMoment, {}),
-    ColdAngle(L"冷弯卷边等边角钢", LippedAngleMoment, L"Iw(cm^6)"),
+    ColdAngle(K::ColdAngle, ColdAngleMoment, {}),
+    ColdAngle(K::LippedAngle, LippedAngleMoment, L"Iw(cm^6)"),
 };
+static_assert(std::size(kFamilies) == kSingleKinds && InKindOrder(kFamilies));
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 namespace orv3 {
 namespace {
 
+using K = CSectionKind;
 using CPlates = std::array<CSource, CFamily::kMostPlates>;
 
 // Open or closed sections of plates, whose shear centre and warping constant follow from the sizes.
@@ -16,11 +17,10 @@ struct CPlateForm {
 constexpr CPlateForm kPlates;
 constexpr CPlateForm kCompact{{}, {}};  // solids and the round tube
 
-constexpr CFamily UserDefined(std::wstring_view table, CSource width, CSource height,
-                              CPlates plates, CPlateForm form,
-                              CSource moment = CSource(L"Sxo(mm^3)")) {
+constexpr CFamily UserDefined(CSectionKind kind, CSource width, CSource height, CPlates plates,
+                              CPlateForm form, CSource moment = CSource(L"Sxo(mm^3)")) {
   return {
-      .m_arrTable = {table},
+      .m_kind = kind,
       .m_width = width,
       .m_height = height,
       .m_x = L"xo(mm)",
@@ -41,50 +41,56 @@ constexpr CFamily UserDefined(std::wstring_view table, CSource width, CSource he
 }
 
 // The centroid is measured from the origin of the limbs' placement (lattice_placement.h).
-constexpr CFamily kLattice{
-    .m_arrTable = {L"双肢格构柱", L"三肢格构柱", L"四肢格构柱"},
-    .m_width = LatticeWidth,
-    .m_height = LatticeHeight,
-    .m_x = L"xo(mm)",
-    .m_y = L"yo(mm)",
-    .m_Ix = L"Ix(mm^4)",
-    .m_Iy = L"Iy(mm^4)",
-    .m_ix = L"ixo(mm)",
-    .m_iy = L"iyo(mm)",
-    .m_Wx1 = L"Wx1(mm^3)",
-    .m_Wx2 = L"Wx2(mm^3)",
-    .m_WyL = L"WyL(mm^3)",
-    .m_WyR = L"WyR(mm^3)",
-    .m_Sx = LatticeMoment,
-    .m_arrPlate = {LatticeThickest, LatticeThinnest},
-};
+constexpr CFamily Lattice(CSectionKind kind) {
+  return {
+      .m_kind = kind,
+      .m_width = LatticeWidth,
+      .m_height = LatticeHeight,
+      .m_x = L"xo(mm)",
+      .m_y = L"yo(mm)",
+      .m_Ix = L"Ix(mm^4)",
+      .m_Iy = L"Iy(mm^4)",
+      .m_ix = L"ixo(mm)",
+      .m_iy = L"iyo(mm)",
+      .m_Wx1 = L"Wx1(mm^3)",
+      .m_Wx2 = L"Wx2(mm^3)",
+      .m_WyL = L"WyL(mm^3)",
+      .m_WyR = L"WyR(mm^3)",
+      .m_Sx = LatticeMoment,
+      .m_arrPlate = {LatticeThickest, LatticeThinnest},
+  };
+}
 
 // Table, width, height, plate thicknesses, form.
 constexpr CFamily kFamilies[] = {
-    UserDefined(L"自定义对称H型钢", L"b(mm)", L"h(mm)", {L"tf(mm)", L"tw(mm)"}, kPlates),
-    UserDefined(L"自定义非对称H型钢", GeneralHWidth, L"h(mm)", {L"b(mm)", L"bh1(mm)", L"bh2(mm)"},
+    UserDefined(K::PlateH, L"b(mm)", L"h(mm)", {L"tf(mm)", L"tw(mm)"}, kPlates),
+    UserDefined(K::PlateGeneralH, GeneralHWidth, L"h(mm)", {L"b(mm)", L"bh1(mm)", L"bh2(mm)"},
                 kPlates),
-    UserDefined(L"自定义对称箱形截面", L"b(mm)", L"h(mm)", {L"t(mm)"}, kPlates),
-    UserDefined(L"自定义非对称箱形截面", L"b(mm)", L"h(mm)",
+    UserDefined(K::PlateBox, L"b(mm)", L"h(mm)", {L"t(mm)"}, kPlates),
+    UserDefined(K::PlateGeneralBox, L"b(mm)", L"h(mm)",
                 {L"t1(mm)", L"t2(mm)", L"t3(mm)", L"t4(mm)"}, kPlates),
-    UserDefined(L"自定义T形截面", TWidth, L"h(mm)", {L"b(mm)", L"bh(mm)"}, kPlates),
-    UserDefined(L"自定义槽钢", ChannelPlateWidth, L"h(mm)", {L"b(mm)", L"bh1(mm)", L"bh2(mm)"},
+    UserDefined(K::PlateT, TWidth, L"h(mm)", {L"b(mm)", L"bh(mm)"}, kPlates),
+    UserDefined(K::PlateChannel, ChannelPlateWidth, L"h(mm)", {L"b(mm)", L"bh1(mm)", L"bh2(mm)"},
                 kPlates),
-    UserDefined(L"自定义Z形截面", ZPlateWidth, L"h(mm)", {L"b(mm)", L"bh1(mm)", L"bh2(mm)"},
-                kPlates),
-    UserDefined(L"自定义圆形截面", {Twice, L"R(mm)"}, {Twice, L"R(mm)"}, {CSource(Twice, L"R(mm)")},
+    UserDefined(K::PlateZ, ZPlateWidth, L"h(mm)", {L"b(mm)", L"bh1(mm)", L"bh2(mm)"}, kPlates),
+    UserDefined(K::SolidCircle, {Twice, L"R(mm)"}, {Twice, L"R(mm)"}, {CSource(Twice, L"R(mm)")},
                 kCompact),
-    UserDefined(L"自定义圆管", {Twice, L"R(mm)"}, {Twice, L"R(mm)"}, {TubeThickness}, kCompact),
-    UserDefined(L"自定义L形截面", LWidth, L"h(mm)", {L"b(mm)", L"bh(mm)"}, kPlates),
-    UserDefined(L"自定义十字形截面", CrossWidth, L"h(mm)", {L"b(mm)", CrossBarThickness}, kPlates),
-    UserDefined(L"自定义翼缘十字形截面", L"b(mm)", L"h(mm)", {L"tw(mm)", L"tf(mm)"}, kPlates,
+    UserDefined(K::PlateTube, {Twice, L"R(mm)"}, {Twice, L"R(mm)"}, {TubeThickness}, kCompact),
+    UserDefined(K::PlateL, LWidth, L"h(mm)", {L"b(mm)", L"bh(mm)"}, kPlates),
+    UserDefined(K::PlateCross, CrossWidth, L"h(mm)", {L"b(mm)", CrossBarThickness}, kPlates),
+    UserDefined(K::FlangedCross, L"b(mm)", L"h(mm)", {L"tw(mm)", L"tf(mm)"}, kPlates,
                 FlangedCrossMoment),
-    UserDefined(L"矩形截面", L"b(mm)", L"h(mm)", {RectangleThickness}, kCompact),
-    UserDefined(L"六边形截面", {HexagonWidth, L"a(mm)"}, {Twice, L"a(mm)"},
+    UserDefined(K::SolidRectangle, L"b(mm)", L"h(mm)", {RectangleThickness}, kCompact),
+    UserDefined(K::SolidHexagon, {HexagonWidth, L"a(mm)"}, {Twice, L"a(mm)"},
                 {CSource(HexagonThickness, L"a(mm)")}, kCompact, {HexagonMoment, L"a(mm)"}),
-    UserDefined(L"三角形截面", L"b(mm)", L"h(mm)", {TriangleThickness}, kCompact, TriangleMoment),
-    kLattice,
+    UserDefined(K::SolidTriangle, L"b(mm)", L"h(mm)", {TriangleThickness}, kCompact,
+                TriangleMoment),
+    Lattice(K::TwoLimbs),
+    Lattice(K::FourLimbs),
+    Lattice(K::ThreeLimbs),
 };
+static_assert(std::size(kFamilies) == kPlateKinds + kLatticeKinds &&
+              InKindOrder(kFamilies, K::PlateH));
 
 }  // namespace
 

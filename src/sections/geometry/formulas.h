@@ -9,6 +9,7 @@ namespace orv3 {
 // --------------------------------------------------
 CFormulaFunction HalfWidth;
 CFormulaFunction HalfHeight;
+CFormulaFunction BelowTop;        // the height less the cell
 CFormulaFunction Twice;           // of the cell
 CFormulaFunction TextNumber;      // the cell as a number, KVBT_STRING too
 CFormulaFunction ZWidth;          // two flanges that share the web

@@ -24,10 +24,8 @@ constexpr CLimbCells kLimbs[] = {
     {L"P4Type", L"P4No.", L"P4θ°"},
 };
 
-// In the order of the family's tables: two, three, four.
-std::size_t LimbCount(const CDataItem& row, const CFamily& family) {
-  const auto at = std::ranges::find(family.m_arrTable, row.m_strTableName.View());
-  return 2 + static_cast<std::size_t>(at - family.m_arrTable.begin());
+std::size_t LimbCount(const CFamily& family) {
+  return static_cast<std::size_t>(TableOf(family.m_kind).m_nLimbs);
 }
 
 // The limb's row; empty for a limb that is a lattice column itself or not in the system store.
@@ -60,7 +58,7 @@ std::optional<CLimbBox> BoxOf(const CDataItem& row, const CLimbCells& cells) {
 }
 
 std::optional<CLatticeReach> ReachOf(const CDataItem& row, const CFamily& family) {
-  const std::size_t count = LimbCount(row, family);
+  const std::size_t count = LimbCount(family);
   const auto spacings = SpacingsOf(row, count);
   if (!spacings) return std::nullopt;
   std::array<CLimbBox, 4> boxes;
@@ -69,7 +67,7 @@ std::optional<CLatticeReach> ReachOf(const CDataItem& row, const CFamily& family
     if (!box) return std::nullopt;
     boxes[i] = *box;
   }
-  return LatticeReach(std::span(boxes).first(count), spacings->x, spacings->y);
+  return RowLatticeReach(std::span(boxes).first(count), spacings->x, spacings->y);
 }
 
 }  // namespace
@@ -86,7 +84,7 @@ std::optional<double> LatticeHeight(const CDataItem& row, const CFamily& family,
 
 // Of the limbs whose centroid lies above the axis, each whole.
 std::optional<double> LatticeMoment(const CDataItem& row, const CFamily& family, const CCell&) {
-  const std::size_t count = LimbCount(row, family);
+  const std::size_t count = LimbCount(family);
   const auto spacings = SpacingsOf(row, count);
   const auto yo = Value(row, family, family.m_y);
   if (!spacings || !yo) return std::nullopt;
@@ -100,7 +98,7 @@ std::optional<double> LatticeMoment(const CDataItem& row, const CFamily& family,
 
 std::optional<double> LatticeThickest(const CDataItem& row, const CFamily& family, const CCell&) {
   double thickest = 0;
-  for (std::size_t i = 0; i < LimbCount(row, family); ++i) {
+  for (std::size_t i = 0; i < LimbCount(family); ++i) {
     thickest = std::max(thickest, ThickestPlate(LimbRow(row, kLimbs[i])));
   }
   return thickest;
@@ -108,7 +106,7 @@ std::optional<double> LatticeThickest(const CDataItem& row, const CFamily& famil
 
 std::optional<double> LatticeThinnest(const CDataItem& row, const CFamily& family, const CCell&) {
   double thinnest = 0;
-  for (std::size_t i = 0; i < LimbCount(row, family); ++i) {
+  for (std::size_t i = 0; i < LimbCount(family); ++i) {
     const double limb = ThinnestPlate(LimbRow(row, kLimbs[i]));
     if (i == 0 || limb < thinnest) thinnest = limb;
   }

@@ -43,23 +43,28 @@ struct CLatticeReach {
   double m_left = 0, m_right = 0, m_below = 0, m_above = 0;
 };
 
-// `limbs` in their order, 2 to 4 of them. With two limbs the upper reach counts limb 1's top as k
-// lower than it stands; columns computed so far were, and it matters only where the limbs overlap.
-constexpr CLatticeReach LatticeReach(std::span<const CLimbBox> limbs, double kx, double ky) {
-  const int count = static_cast<int>(limbs.size());
-  const auto places = LatticePlacement(count, kx, ky);
+// `limbs` in their order, 2 to 4 of them; limb 1's top counts as `lowered` lower than it stands.
+constexpr CLatticeReach LatticeReach(std::span<const CLimbBox> limbs, double kx, double ky,
+                                     double lowered = 0) {
+  const auto places = LatticePlacement(static_cast<int>(limbs.size()), kx, ky);
   CLatticeReach reach;
   for (std::size_t i = 0; i < limbs.size() && i < places.size(); ++i) {
     const CLimbBox& limb = limbs[i];
     const CLimbPlace& at = places[i];
-    const double above = limb.m_height - limb.m_cy + at.m_y - (count == 2 && i == 0 ? ky : 0);
     const CLatticeReach own = {limb.m_cx - at.m_x, limb.m_width - limb.m_cx + at.m_x,
-                               limb.m_cy - at.m_y, above};
+                               limb.m_cy - at.m_y,
+                               limb.m_height - limb.m_cy + at.m_y - (i == 0 ? lowered : 0)};
     if (i == 0) reach = own;
     reach = {std::max(reach.m_left, own.m_left), std::max(reach.m_right, own.m_right),
              std::max(reach.m_below, own.m_below), std::max(reach.m_above, own.m_above)};
   }
   return reach;
+}
+
+// The reach that rows are computed with: with two limbs limb 1's top counts as k lower, as in all
+// columns computed so far. It matters only where limb 1 reaches above limb 2.
+constexpr CLatticeReach RowLatticeReach(std::span<const CLimbBox> limbs, double kx, double ky) {
+  return LatticeReach(limbs, kx, ky, limbs.size() == 2 ? ky : 0);
 }
 
 }  // namespace orv3

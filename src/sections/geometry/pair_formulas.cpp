@@ -14,18 +14,19 @@ namespace orv3 {
 
 namespace {
 
-using CJoin = CPairing::CJoin;
 using std::numbers::sqrt2;
+
+const CSectionPair& PairOf(const CFamily& family) { return *TableOf(family.m_kind).m_pPair; }
 
 // The component as it stands on the right of the pair's vertical axis.
 class CPart {
  public:
   CPart(const CDataItem& pair, const CFamily& family)
-      : m_pairing(family.m_pair),
-        m_row(ComponentRow(CString(m_pairing.m_table),
-                           ReadText(pair, L"No.").Mid(m_pairing.m_nMarker))),
-        m_gap(ReadSpacing(pair, m_pairing.m_spacing)),
-        m_family(*FindFamily(m_pairing.m_table)),
+      : m_pair(PairOf(family)),
+        m_row(ComponentRow(TableOf(m_pair.m_part).m_szName,
+                           ReadText(pair, L"No.").Mid(m_pair.m_nMarker))),
+        m_gap(ReadSpacing(pair, m_pair.m_szGap)),
+        m_family(FamilyOf(m_pair.m_part)),
         m_read(m_row, m_family) {}
   CPart(const CPart&) = delete;
   CPart& operator=(const CPart&) = delete;
@@ -49,17 +50,17 @@ class CPart {
 
   // From the pair's axis to the centroid.
   double Offset() {
-    return m_gap / 2 + (m_pairing.m_join == CJoin::Toe ? Width() - Back() : Back());
+    return m_gap / 2 + (m_pair.m_form == CPairForm::ToeToToe ? Width() - Back() : Back());
   }
 
   std::optional<double> Give(double value) const { return m_read.Give(value); }
 
  private:
-  bool Turned() const { return m_pairing.m_bTurned; }
+  bool Turned() const { return m_pair.m_form == CPairForm::LegsUp; }
   double OwnWidth() { return m_read(&CFamily::m_width); }
   double OwnHeight() { return m_read(&CFamily::m_height); }
 
-  const CPairing& m_pairing;
+  const CSectionPair& m_pair;
   CDataItem m_row;
   double m_gap;
   const CFamily& m_family;
@@ -67,7 +68,7 @@ class CPart {
 };
 
 double SpacingOf(const CDataItem& row, const CFamily& family) {
-  return ReadSpacing(row, family.m_pair.m_spacing);
+  return ReadSpacing(row, PairOf(family).m_szGap);
 }
 
 std::optional<double> RadiusFrom(const std::optional<double>& inertia, const CDataItem& row) {
@@ -89,7 +90,7 @@ std::optional<double> PairHeight(const CDataItem& row, const CFamily& family, co
 
 std::optional<double> PairY(const CDataItem& row, const CFamily& family, const CCell&) {
   CPart part(row, family);
-  const bool cross = family.m_pair.m_join == CJoin::Cross;
+  const bool cross = PairOf(family).m_form == CPairForm::Cross;
   return part.Give(cross ? part.Height() + part.Gap() / 2 : part.Rise());
 }
 

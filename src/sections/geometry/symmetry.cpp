@@ -1,6 +1,6 @@
 // Whether a row's section is symmetric. Rolled sections are by family; of user-defined ones some
 // are by style, the others when their sizes say so. A missing cell counts as 0.
-#include <span>
+#include <algorithm>
 
 #include "framework/kvb_math.h"
 #include "sections/geometry/families.h"
@@ -24,10 +24,11 @@ class CSizes {
   const CDataItem& m_row;
 };
 
+using K = CSectionKind;
 using CRule = bool (*)(const CSizes& s);
 
 struct CStyleRules {
-  std::wstring_view m_table;
+  CSectionKind m_kind;
   CRule m_x, m_y;  // about the horizontal and the vertical axis
 };
 
@@ -41,15 +42,8 @@ constexpr CRule kBareWeb = [](const CSizes& s) {
 };
 
 constexpr CStyleRules kRules[] = {
-    {L"自定义对称H型钢", kAlways, kAlways},
-    {L"自定义对称箱形截面", kAlways, kAlways},
-    {L"自定义翼缘十字形截面", kAlways, kAlways},
-    {L"自定义圆形截面", kAlways, kAlways},
-    {L"自定义圆管", kAlways, kAlways},
-    {L"矩形截面", kAlways, kAlways},
-    {L"六边形截面", kAlways, kAlways},
-    {L"三角形截面", kNever, kAlways},
-    {L"自定义非对称H型钢",
+    {K::PlateH, kAlways, kAlways},
+    {K::PlateGeneralH,
      [](const CSizes& s) {
        return s.Equal(L"bh1(mm)", L"bh2(mm)") && s.Equal(L"bf1(mm)", L"bf3(mm)") &&
               s.Equal(L"bf2(mm)", L"bf4(mm)");
@@ -57,31 +51,40 @@ constexpr CStyleRules kRules[] = {
      [](const CSizes& s) {
        return s.Equal(L"bf1(mm)", L"bf2(mm)") && s.Equal(L"bf3(mm)", L"bf4(mm)");
      }},
-    {L"自定义非对称箱形截面", [](const CSizes& s) { return s.Equal(L"t1(mm)", L"t2(mm)"); },
+    {K::PlateBox, kAlways, kAlways},
+    {K::PlateGeneralBox, [](const CSizes& s) { return s.Equal(L"t1(mm)", L"t2(mm)"); },
      [](const CSizes& s) { return s.Equal(L"t3(mm)", L"t4(mm)"); }},
-    {L"自定义十字形截面", [](const CSizes& s) { return s.Equal(L"bh1(mm)", L"bh2(mm)"); },
-     [](const CSizes& s) { return s.Equal(L"bf1(mm)", L"bf2(mm)"); }},
-    {L"自定义T形截面",
+    {K::PlateT,
      [](const CSizes& s) {
        return s.Zero(L"bh(mm)") || (s.Zero(L"bf1(mm)") && s.Zero(L"bf2(mm)"));
      },
      [](const CSizes& s) { return s.Zero(L"bh(mm)") || s.Equal(L"bf1(mm)", L"bf2(mm)"); }},
-    {L"自定义槽钢",
+    {K::PlateChannel,
      [](const CSizes& s) {
        return s.Equal(L"bh1(mm)", L"bh2(mm)") && s.Equal(L"bf1(mm)", L"bf2(mm)");
      },
      kBareWeb},
-    {L"自定义L形截面", kBareL, kBareL},
-    {L"自定义Z形截面", kBareWeb, kBareWeb},
+    {K::PlateZ, kBareWeb, kBareWeb},
+    {K::SolidCircle, kAlways, kAlways},
+    {K::PlateTube, kAlways, kAlways},
+    {K::PlateL, kBareL, kBareL},
+    {K::PlateCross, [](const CSizes& s) { return s.Equal(L"bh1(mm)", L"bh2(mm)"); },
+     [](const CSizes& s) { return s.Equal(L"bf1(mm)", L"bf2(mm)"); }},
+    {K::FlangedCross, kAlways, kAlways},
+    {K::SolidRectangle, kAlways, kAlways},
+    {K::SolidHexagon, kAlways, kAlways},
+    {K::SolidTriangle, kNever, kAlways},
 };
+static_assert(std::size(kRules) == kPlateKinds && InKindOrder(kRules, K::PlateH));
 
 int Symmetric(const CDataItem& row, bool CFamily::*byFamily, CRule CStyleRules::*byStyle) {
-  const std::wstring_view table = row.m_strTableName;
-  for (const CStyleRules& rules : kRules) {
-    if (rules.m_table == table) return (rules.*byStyle)(CSizes(row)) ? 1 : 0;
+  const auto kind = FindSectionKind(row.m_strTableName);
+  if (!kind) return 0;
+  if (const auto rules = std::ranges::find(kRules, *kind, &CStyleRules::m_kind);
+      rules != std::end(kRules)) {
+    return ((*rules).*byStyle)(CSizes(row)) ? 1 : 0;
   }
-  const CFamily* family = FindFamily(table);
-  return family && family->*byFamily ? 1 : 0;
+  return FamilyOf(*kind).*byFamily ? 1 : 0;
 }
 
 }  // namespace
