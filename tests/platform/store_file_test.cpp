@@ -269,8 +269,9 @@ TEST_F(StoreFile, AnInterruptedSaveIsNeverUndoneInAnotherFile) {
       for (const std::string& other : others) {
         if (other == half && other != c.old && other != c.fresh) continue;
         SCOPED_TRACE(testing::Message() << "file " << &other - others);
-        PutBytes(JournalPath(m_path), journal);
+        Files().Remove(JournalPath(m_path));
         PutBytes(m_path, other);
+        PutBytes(JournalPath(m_path), journal);
         ASSERT_TRUE(Seen(m_path) == other);
         ASSERT_FALSE(Exists(JournalPath(m_path)));
       }
@@ -360,6 +361,7 @@ TEST_F(StoreFile, AJournalOfTheFirstFormatIsLeftToTheUser) {
                {std::string(100, 'n'), false},
                {std::string(200, 'o'), false}};
   for (const auto& c : cases) {
+    Files().Remove(JournalPath(m_path));
     PutBytes(m_path, c.store);
     PutBytes(JournalPath(m_path), journal);
     orv3::ClearStoreError();

@@ -43,7 +43,9 @@ class TableFault : public TableFileTest, public testing::WithParamInterface<int>
     const std::string journal = Bytes(orv3::JournalPath(m_path));
     const CString elsewhere = m_folder.Path(L"elsewhere.KDB");
     PutBytes(elsewhere, other);
+    orv3::SystemFiles().Remove(orv3::JournalPath(m_path));
     PutBytes(m_path, other);
+    PutBytes(orv3::JournalPath(m_path), journal);
     EXPECT_EQ(Seen(m_path), Seen(elsewhere));
     EXPECT_EQ(Bytes(m_path), other);
     EXPECT_FALSE(Exists(orv3::JournalPath(m_path)));
