@@ -279,6 +279,9 @@ bool CStoreBody::Settle(const CStoreJournal& journal, CJournalFit fit) {
   if (fit == CJournalFit::Between) {
     if (!RollBack(journal) || !TakeStamp()) return false;
   } else {
+    // The save may not have come to where it stamps the file.
+    const bool saved = fit == CJournalFit::After;
+    if (saved && !(m_pFile->AdvanceStamp(m_stamp.m_nChanged) && TakeStamp())) return false;
     if (!m_pFile->Sync()) return false;
     RemoveJournal();
   }
