@@ -23,6 +23,8 @@ const char* Reason(CFileError error) {
       return "another program has it open";
     case CFileError::Denied:
       return "it may not be written there";
+    case CFileError::Full:
+      return "the disk is full";
     case CFileError::None:
     case CFileError::Failed:
       break;

@@ -49,6 +49,7 @@ class CBuildFiles final : public CFileSystem {
     bool Sync() override { return true; }
     bool Discard() override { return m_pFile->Discard(); }
     bool WasCreated() const override { return m_pFile->WasCreated(); }
+    CFileError Trouble() const override { return m_pFile->Trouble(); }
 
    private:
     std::unique_ptr<CFile> m_pFile;

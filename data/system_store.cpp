@@ -7,6 +7,7 @@
 #include "framework/utf8.h"
 #include "platform/file_system.h"
 #include "platform/store_error.h"
+#include "platform/store_file.h"
 #include "sections/load_data_table.h"
 #include "tables/file/table_store.h"
 
@@ -62,8 +63,10 @@ void MakeSystemStore(const std::string& name) {
   const CString folder = FromUtf8(name + "/");
   SetProgramPath(folder);
   Files().Remove(folder + kSystemStore);
+  CStoreBatch all(folder + kSystemStore);
   AddRolledTables(folder);
   AddUserTables();
+  if (!all.Commit()) throw CCatalogueError(ToUtf8(LastStoreError().m_strText));
 }
 
 }  // namespace orv3::catalogue

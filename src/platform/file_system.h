@@ -19,6 +19,7 @@ enum class CFileError {
   NotFound,  // the file or its folder is not there
   Busy,      // somebody else has it open
   Denied,    // a read-only mark, medium or folder, or missing rights
+  Full,      // no room is left on the medium
   Failed,    // anything else
 };
 
@@ -70,6 +71,8 @@ class ORV3CAL_API CFile {
   // Removes the file while it is open, so that nobody can come between.
   virtual bool Discard() = 0;
   virtual bool WasCreated() const = 0;  // the file was made by this opening
+  // Why a Write, SetSize or Sync has failed.
+  virtual CFileError Trouble() const { return CFileError::Failed; }
 };
 
 class ORV3CAL_API CFileSystem {

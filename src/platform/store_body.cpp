@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 #include "platform/store_error.h"
@@ -43,11 +44,12 @@ bool CStoreBody::Read(std::uint64_t offset, void* data, std::size_t size) const 
   char* const out = static_cast<char*>(data);
   if (!ReadFromFile(offset, out, size)) return false;
   const std::uint64_t end = offset + size;
-  for (auto it = m_pages.lower_bound(offset / kPage); it != m_pages.end(); ++it) {
-    const std::uint64_t pageAt = it->first * kPage;
+  for (auto it = m_pages.lower_bound(offset / kJournalPage); it != m_pages.end(); ++it) {
+    const std::uint64_t pageAt = it->first * kJournalPage;
     if (pageAt >= end) break;
     const std::uint64_t from = std::max(offset, pageAt);
-    const std::size_t count = Part(kPage - static_cast<std::size_t>(from - pageAt), end - from);
+    const std::size_t count =
+        Part(kJournalPage - static_cast<std::size_t>(from - pageAt), end - from);
     std::memcpy(out + (from - offset), it->second.data() + (from - pageAt), count);
   }
   return true;
@@ -57,8 +59,9 @@ bool CStoreBody::Read(std::uint64_t offset, void* data, std::size_t size) const 
 std::string* CStoreBody::PageToChange(std::uint64_t page, bool whole) {
   const auto [it, added] = m_pages.try_emplace(page);
   if (!added) return &it->second;
-  it->second.assign(kPage, '\0');
-  if (whole || ReadFromFile(page * kPage, it->second.data(), kPage)) return &it->second;
+  it->second.assign(kJournalPage, '\0');
+  if (whole || ReadFromFile(page * kJournalPage, it->second.data(), kJournalPage))
+    return &it->second;
   m_pages.erase(it);
   return nullptr;
 }
@@ -69,10 +72,10 @@ bool CStoreBody::Write(std::uint64_t offset, const void* data, std::size_t size)
   const char* in = static_cast<const char*>(data);
   const std::uint64_t end = offset + size;
   while (offset < end) {
-    const std::uint64_t page = offset / kPage;
-    const auto at = static_cast<std::size_t>(offset % kPage);
-    const std::size_t step = Part(kPage - at, end - offset);
-    std::string* bytes = PageToChange(page, step == kPage);
+    const std::uint64_t page = offset / kJournalPage;
+    const auto at = static_cast<std::size_t>(offset % kJournalPage);
+    const std::size_t step = Part(kJournalPage - at, end - offset);
+    std::string* bytes = PageToChange(page, step == kJournalPage);
     if (!bytes) return false;
     std::memcpy(bytes->data() + at, in, step);
     in += step;
@@ -83,8 +86,8 @@ bool CStoreBody::Write(std::uint64_t offset, const void* data, std::size_t size)
 }
 
 void CStoreBody::DropChanges() {
-  if (m_bGathering) m_bSpoiled = m_bSpoiled || m_bUnkept;
-  if (m_bShadow || m_bGathering) return;
+  if (m_nGathering > 0) m_bSpoiled = m_bSpoiled || m_bUnkept;
+  if (m_bShadow || m_nGathering > 0) return;
   m_pages.clear();
   m_nSize = m_nFileSize;
   m_bReadFailed = false;
@@ -99,32 +102,27 @@ bool CStoreBody::TakeStamp() {
 // --- Saving
 // ---------------------------------------------------------------------------------------
 
-// Keeps only the pages that differ from the file; their old bytes go into the journal.
-bool CStoreBody::CollectOld(CStoreJournal& journal) {
+// Keeps only the pages that differ from the file; what differs goes into the journal.
+bool CStoreBody::CollectChanges(CStoreJournal& journal) {
   journal.m_nOldSize = m_nFileSize;
   journal.m_nNewSize = m_nSize;
-  std::string old(kPage, '\0');
+  std::string old(kJournalPage, '\0');
   for (auto it = m_pages.begin(); it != m_pages.end();) {
-    const std::uint64_t pageAt = it->first * kPage;
-    if (!ReadFromFile(pageAt, old.data(), kPage)) return false;
-    if (old == it->second) {
-      it = m_pages.erase(it);
-      continue;
-    }
-    if (pageAt < m_nFileSize) {
-      journal.m_arrPiece.push_back({pageAt, old.substr(0, Part(kPage, m_nFileSize - pageAt))});
-    }
-    ++it;
+    const std::uint64_t pageAt = it->first * kJournalPage;
+    if (!ReadFromFile(pageAt, old.data(), kJournalPage)) return false;
+    it = journal.AddPage(pageAt, old, it->second) ? std::next(it) : m_pages.erase(it);
   }
   return true;
 }
 
 bool CStoreBody::WriteJournal(const CStoreJournal& journal) {
-  CFileError error{};
-  const auto file = Files().Open(JournalPath(m_strPath), CFileMode::Replace, error);
-  if (!file) return false;
   const std::string bytes = EncodeJournal(journal);
-  return file->Write(0, bytes.data(), bytes.size()) == bytes.size() && file->Sync();
+  if (bytes.size() > kMaxJournal) return false;
+  const auto file = Files().Open(JournalPath(m_strPath), CFileMode::Replace, m_nTrouble);
+  if (!file) return false;
+  const bool written = file->Write(0, bytes.data(), bytes.size()) == bytes.size() && file->Sync();
+  m_nTrouble = written ? CFileError::None : file->Trouble();
+  return written;
 }
 
 // Writes neighbouring pages together.
@@ -135,13 +133,13 @@ bool CStoreBody::ApplyChanges() {
     return run.empty() || m_pFile->Write(runAt, run.data(), run.size()) == run.size();
   };
   for (const auto& [number, bytes] : m_pages) {
-    const std::uint64_t pageAt = number * kPage;
+    const std::uint64_t pageAt = number * kJournalPage;
     if (run.empty() || runAt + run.size() != pageAt || run.size() >= kMaxWrite) {
       if (!flush()) return false;
       run.clear();
       runAt = pageAt;
     }
-    run.append(bytes, 0, Part(kPage, m_nSize - pageAt));
+    run.append(bytes, 0, Part(kJournalPage, m_nSize - pageAt));
   }
   if (!flush()) return false;
   // The end may be zeros that no page holds.
@@ -151,36 +149,41 @@ bool CStoreBody::ApplyChanges() {
 
 bool CStoreBody::RollBack(const CStoreJournal& journal) {
   for (const CStoreJournal::CPiece& piece : journal.m_arrPiece) {
-    const std::string& bytes = piece.m_strBytes;
+    const std::string& bytes = piece.m_strOld;
     if (m_pFile->Write(piece.m_nOffset, bytes.data(), bytes.size()) != bytes.size()) return false;
   }
-  return m_pFile->SetSize(journal.m_nOldSize) && m_pFile->Sync() &&
-         Files().Remove(JournalPath(m_strPath)) && Files().SyncFolder(m_strPath);
+  if (!m_pFile->SetSize(journal.m_nOldSize) || !m_pFile->Sync()) return false;
+  RemoveJournal();
+  return true;
 }
 
+// Of a store that is on the medium as before a save or as after it, a journal says no more than
+// that there is nothing to undo. So it does no harm when its removal fails or is lost again with
+// the power.
+void CStoreBody::RemoveJournal() const { Files().Remove(JournalPath(m_strPath)); }
+
 bool CStoreBody::Commit() {
+  m_nTrouble = CFileError::Failed;
   if (!m_bWritable || m_bBroken || m_bReadFailed || m_bSpoiled) return false;
   m_bUnkept = false;
-  if (m_bGathering) return true;
+  if (m_nGathering > 0) return true;
   CStoreJournal journal;
-  if (!CollectOld(journal)) return false;
+  if (!CollectChanges(journal)) return false;
   if (m_pages.empty() && m_nSize == m_nFileSize) return true;
 
-  const CString journalPath = JournalPath(m_strPath);
   if (!WriteJournal(journal) || !Files().SyncFolder(m_strPath)) {
-    Files().Remove(journalPath);
+    RemoveJournal();
     DropChanges();
     return false;
   }
-  // Gone is the journal, done is the save.
-  if (ApplyChanges() && m_pFile->AdvanceStamp(m_stamp.m_nChanged) && m_pFile->Sync() &&
-      Files().Remove(journalPath)) {
-    Files().SyncFolder(m_strPath);
+  if (ApplyChanges() && m_pFile->AdvanceStamp(m_stamp.m_nChanged) && m_pFile->Sync()) {
+    RemoveJournal();
     m_nFileSize = m_nSize;
     m_pages.clear();
     if (!TakeStamp()) m_stamp = CFileStamp();
     return true;
   }
+  m_nTrouble = m_pFile->Trouble();
   m_bBroken = !RollBack(journal);
   if (!TakeStamp()) m_bBroken = true;
   DropChanges();
@@ -188,33 +191,51 @@ bool CStoreBody::Commit() {
 }
 
 bool CStoreBody::CommitGathered() {
-  m_bGathering = false;
-  return Commit();
+  --m_nGathering;
+  const bool done = Commit();
+  if (m_nGathering == 0) {
+    m_bSpoiled = m_bUnkept = false;
+    DropChanges();
+  }
+  return done;
 }
 
 void CStoreBody::DropGathered() {
-  m_bGathering = m_bSpoiled = m_bUnkept = false;
+  --m_nGathering;
+  m_bSpoiled = m_nGathering > 0;
+  m_bUnkept = false;
   DropChanges();
 }
 
 // --- After an interrupted save
 // --------------------------------------------------------------------
 
-// `found` tells whether there is a journal at all; an empty `journal` with it, that it is not
-// whole. False when one is there and cannot be read.
+// `found` tells whether there is a journal that is whole; one that is not is removed: the store was
+// not touched yet. False, with the reason told, when one is there and cannot be read.
 bool CStoreBody::ReadJournal(CStoreJournal& journal, bool& found) {
+  const CString path = JournalPath(m_strPath);
   CFileError error{};
-  const auto file = Files().Open(JournalPath(m_strPath), CFileMode::Read, error);
-  found = error != CFileError::NotFound;
-  if (!file) return !found;
+  auto file = Files().Open(path, CFileMode::Read, error);
+  found = false;
+  if (!file && error == CFileError::NotFound) return true;
   CFileStamp stamp;
-  if (!file->Stamp(stamp)) return false;
-  // A journal holds at most the whole old store and a few words for each of its pages.
-  if (stamp.m_nSize > 2 * m_nFileSize + 64) return true;
-  std::string bytes(static_cast<std::size_t>(stamp.m_nSize), '\0');
-  if (file->Read(0, bytes.data(), bytes.size()) != bytes.size()) return false;
-  if (!DecodeJournal(bytes, m_nFileSize, journal)) journal = CStoreJournal();
-  return true;
+  std::string bytes;
+  if (file && file->Stamp(stamp)) {
+    if (stamp.m_nSize <= kMaxJournal) bytes.resize(static_cast<std::size_t>(stamp.m_nSize));
+    if (file->Read(0, bytes.data(), bytes.size()) == bytes.size()) {
+      file.reset();
+      found = DecodeJournal(bytes, journal);
+      if (!found) RemoveJournal();
+      return true;
+    }
+  }
+  const CStoreTrouble trouble = error == CFileError::Denied ? CStoreTrouble::Denied
+                                : error == CFileError::Busy ? CStoreTrouble::Busy
+                                                            : CStoreTrouble::Failed;
+  SetStoreError(trouble, m_strPath,
+                path + L": the journal of an interrupted save cannot be read; " + m_strPath +
+                    L" can be opened once it can, or is removed");
+  return false;
 }
 
 bool CStoreBody::Recover() {
@@ -224,20 +245,59 @@ bool CStoreBody::Recover() {
   bool found = false;
   if (!ReadJournal(journal, found)) return false;
   if (!found) return true;
-  if (journal.m_nNewSize == 0) {  // not whole: the store was not touched yet
-    Files().Remove(JournalPath(m_strPath));
-    return true;
+  CJournalFit fit{};
+  const auto read = [this](std::uint64_t offset, char* data, std::size_t size) {
+    return ReadFromFile(offset, data, size);
+  };
+  if (!CompareWithFile(journal, m_nFileSize, read, fit)) return false;
+  switch (fit) {
+    case CJournalFit::Foreign:
+      RemoveJournal();
+      return true;
+    case CJournalFit::Undecided:
+      return Undecided();
+    case CJournalFit::Before:
+    case CJournalFit::Between:
+    case CJournalFit::After:
+      break;
   }
-  if (m_bWritable) {
+  return m_bWritable ? Settle(journal, fit) : Shadow(journal, fit);
+}
+
+bool CStoreBody::Undecided() const {
+  const CString journal = JournalPath(m_strPath);
+  return SetStoreError(CStoreTrouble::Damaged, m_strPath,
+                       m_strPath + L": beside it lies " + journal +
+                           L", written by an earlier version, which does not tell whether it "
+                           L"belongs to this file; open the file with that version to undo the "
+                           L"interrupted save, or remove the journal to keep the file as it is") !=
+         0;
+}
+
+// Undoes a save in the file, or finds that there is nothing to undo once the file is on the medium.
+bool CStoreBody::Settle(const CStoreJournal& journal, CJournalFit fit) {
+  if (fit == CJournalFit::Between) {
     if (!RollBack(journal) || !TakeStamp()) return false;
-    m_nSize = m_nFileSize;
-    m_bEmptied = m_nSize == 0;
-    return true;
+  } else {
+    // The save may not have come to where it stamps the file.
+    const bool saved = fit == CJournalFit::After;
+    if (saved && !(m_pFile->AdvanceStamp(m_stamp.m_nChanged) && TakeStamp())) return false;
+    if (!m_pFile->Sync()) return false;
+    RemoveJournal();
   }
-  m_nSize = journal.m_nOldSize;
+  m_nSize = m_nFileSize;
+  m_bEmptied = m_nSize == 0;
+  return true;
+}
+
+// Undoes a save in memory, for a reader.
+bool CStoreBody::Shadow(const CStoreJournal& journal, CJournalFit fit) {
   m_bShadow = true;
+  if (fit != CJournalFit::Between) return true;
+  m_nSize = journal.m_nOldSize;
   for (const CStoreJournal::CPiece& piece : journal.m_arrPiece) {
-    if (!Write(piece.m_nOffset, piece.m_strBytes.data(), piece.m_strBytes.size())) return false;
+    if (piece.m_nOffset >= m_nSize) break;
+    if (!Write(piece.m_nOffset, piece.m_strOld.data(), piece.m_strOld.size())) return false;
   }
   return true;
 }

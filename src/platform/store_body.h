@@ -19,9 +19,10 @@ class CStoreBody {
   ~CStoreBody();
 
   // Takes up what an interrupted save left: rolls it back in the file or, for a reader, in memory
-  // only. False when that fails. Called once, before anything else.
+  // only; a journal that is not this file's is removed. False when that fails. Called once, before
+  // anything else.
   bool Recover();
-  // Whether Recover found a save to roll back that only a writer can roll back in the file.
+  // Whether Recover found a journal that only a writer can take back.
   bool RecoveredInMemory() const { return m_bShadow; }
 
   std::uint64_t Size() const { return m_nSize; }
@@ -30,25 +31,31 @@ class CStoreBody {
   bool Commit();
   void DropChanges();
   // From Gather() on, what openers commit stays in memory and what they forget spoils it all, until
-  // CommitGathered() brings it into the file or DropGathered() forgets it.
-  void Gather() { m_bGathering = true; }
+  // CommitGathered() brings it into the file or DropGathered() forgets it: the outermost of them,
+  // where they are nested.
+  void Gather() { ++m_nGathering; }
   bool CommitGathered();
   void DropGathered();
   bool HasChanges() const { return !m_pages.empty() || m_nSize != m_nFileSize; }
   const CFileStamp& Stamp() const { return m_stamp; }
   const CString& Path() const { return m_strPath; }
   bool IsWritable() const { return m_bWritable; }
+  // After a Commit that failed: why, and whether half of it is in the file.
+  CFileError Trouble() const { return m_nTrouble; }
+  bool IsBroken() const { return m_bBroken; }
 
  private:
-  static constexpr std::size_t kPage = 4096;
-
   bool ReadFromFile(std::uint64_t offset, char* data, std::size_t size) const;
   std::string* PageToChange(std::uint64_t page, bool whole);
-  bool CollectOld(CStoreJournal& journal);
+  bool CollectChanges(CStoreJournal& journal);
   bool WriteJournal(const CStoreJournal& journal);
   bool ReadJournal(CStoreJournal& journal, bool& found);
   bool ApplyChanges();
   bool RollBack(const CStoreJournal& journal);
+  void RemoveJournal() const;
+  bool Undecided() const;
+  bool Settle(const CStoreJournal& journal, CJournalFit fit);
+  bool Shadow(const CStoreJournal& journal, CJournalFit fit);
   bool TakeStamp();
 
   std::unique_ptr<CFile> m_pFile;
@@ -57,12 +64,13 @@ class CStoreBody {
   bool m_bShadow = false;   // the pages are an interrupted save's old bytes
   bool m_bBroken = false;   // half a save is in the file; only the next opener can undo it
   bool m_bEmptied = false;  // an interrupted first save was rolled back
-  bool m_bGathering = false;
+  int m_nGathering = 0;
   bool m_bUnkept = false;   // changes since the last commit
   bool m_bSpoiled = false;  // half of a save was forgotten while gathering
   // Reading has failed since the last commit, so that what was to be saved may rest on a wrong view
   // of the file: it is not committed.
   mutable bool m_bReadFailed = false;
+  CFileError m_nTrouble = CFileError::Failed;
   CFileStamp m_stamp;
   std::uint64_t m_nFileSize = 0;
   std::uint64_t m_nSize = 0;

@@ -58,6 +58,9 @@ void Explain(CFileError error, const CString& path) {
       SetStoreError(CStoreTrouble::Denied, path,
                     path + L": access denied; the file and its folder must be open to this user");
       break;
+    case CFileError::Full:
+      SetStoreError(CStoreTrouble::Failed, path, path + L": not made, the disk is full");
+      break;
     case CFileError::Failed:
     case CFileError::None:
       SetStoreError(CStoreTrouble::Failed, path, path + L": cannot be opened or read");
@@ -87,12 +90,14 @@ std::shared_ptr<CStoreBody> OpenBodyToRead(const CString& path) {
   return OpenBody(path, false);
 }
 
-bool NotWritten(const CString& path) {
-  return SetStoreError(
-             CStoreTrouble::Failed, path,
-             path +
-                 L": writing failed and the store is as it was before; see whether its disk is "
-                 L"full or its folder read-only") != 0;
+bool NotWritten(const CStoreBody& body) {
+  CString text = body.Path() + L": writing failed";
+  if (body.Trouble() == CFileError::Full) text += L", the disk is full";
+  if (body.Trouble() == CFileError::Denied) text += L", its folder is read-only";
+  text += body.IsBroken() ? L"; whoever opens the store next finds it whole, as before the save "
+                            L"or, where all of it got through, as after it"
+                          : L"; the store is as it was before";
+  return SetStoreError(CStoreTrouble::Failed, body.Path(), text) != 0;
 }
 
 }  // namespace
@@ -136,7 +141,7 @@ bool CStoreFile::Write(std::uint64_t offset, const void* data, std::size_t size)
   return m_pBody->IsWritable() && m_pBody->Write(offset, data, size);
 }
 
-bool CStoreFile::Commit() { return m_pBody->Commit() || NotWritten(Path()); }
+bool CStoreFile::Commit() { return m_pBody->Commit() || NotWritten(*m_pBody); }
 
 const CFileStamp& CStoreFile::Stamp() const { return m_pBody->Stamp(); }
 
@@ -161,12 +166,15 @@ CStoreBatch::CStoreBatch(const CString& path) : CStoreLock(path) {
 }
 
 CStoreBatch::~CStoreBatch() {
-  if (m_pBody) m_pBody->DropGathered();
+  if (m_pBody && !m_bCommitted) m_pBody->DropGathered();
 }
 
 bool CStoreBatch::Commit() {
-  return m_pBody && (m_pBody->CommitGathered() || NotWritten(m_pBody->Path()));
+  m_bCommitted = true;
+  return m_pBody && (m_pBody->CommitGathered() || NotWritten(*m_pBody));
 }
+
+void RemoveJournal(const CString& path) { Files().Remove(JournalPath(Files().Resolve(path))); }
 
 bool IsAheadOfFile(const CString& path) {
   if (HeldBodies().empty()) return false;

@@ -39,7 +39,8 @@ class ORV3CAL_API CStoreFile {
   // Changes the store in memory; writing beyond its end lengthens it, with zeros between.
   bool Write(std::uint64_t offset, const void* data, std::size_t size);
   // Brings the changes into the file, unless a Read within it has failed before. After false the
-  // file is as it was, now or, when even that fails, for whoever opens it next.
+  // file is as it was. Where not even that can be written, whoever opens it next finds it as it was
+  // or, when all changes but nothing behind them got through, as it was to become.
   bool Commit();
   // Of the file as it was opened or last committed.
   const CFileStamp& Stamp() const;
@@ -70,7 +71,8 @@ class ORV3CAL_API CStoreLock {
 };
 
 // A lock that makes all saves within it one: they are seen by this thread's own openings and come
-// into the file, all of them or none, with Commit. One that fails takes the others with it.
+// into the file, all of them or none, with Commit. One that fails takes the others with it. A batch
+// within another of the same store is part of it.
 class ORV3CAL_API CStoreBatch : private CStoreLock {
  public:
   explicit CStoreBatch(const CString& path);
@@ -79,7 +81,14 @@ class ORV3CAL_API CStoreBatch : private CStoreLock {
   using CStoreLock::IsHeld;
   // False, with LastStoreError set, when the file is as it was before. Called once, at the end.
   bool Commit();
+
+ private:
+  bool m_bCommitted = false;
 };
+
+// Removes what an interrupted save left beside a file that has been replaced by another. An opener
+// would find the two apart by their bytes and do the same.
+ORV3CAL_API void RemoveJournal(const CString& path);
 
 // Whether this thread keeps a store to itself and has changed it since its file was written.
 bool IsAheadOfFile(const CString& path);

@@ -1,5 +1,6 @@
 #include "tables/data_item_array.h"
 
+#include <algorithm>
 #include <utility>
 
 CDataItemArray& CDataItemArray::operator=(const CDataItemArray& other) {
@@ -46,7 +47,12 @@ void CDataItemArray::RemoveAt(int index, int count) {
   orv3::CheckIndex("rows", index, GetSize());
   orv3::CheckIndex("rows", static_cast<long long>(index) + count - 1, GetSize());
   m_arrNode.erase(m_arrNode.begin() + index, m_arrNode.begin() + index + count);
-  Rearranged();
+  ++m_nArrangement;
+  std::vector<int>& out = m_arrHandedOut;
+  out.erase(std::remove_if(out.begin(), out.end(),
+                           [&](int at) { return at >= index && at < index + count; }),
+            out.end());
+  for (int& at : out) at -= at > index ? count : 0;
 }
 
 void CDataItemArray::RemoveAll() noexcept {

@@ -48,7 +48,7 @@ orv3::CRowIndex& CDataTable::Index() const {
 
 int CDataTable::GetTableIndex(int index) const {
   if (index < 0) return -1;
-  for (const int position : Index().IndexCandidates(m_arrItem, index)) {
+  for (const int position : Index().IndexCandidates(index)) {
     if (m_arrItem[position].m_nIndex == index) return position;
   }
   return -1;
@@ -163,7 +163,7 @@ std::vector<int> CDataTable::FindByKey(const CDataItem& row) const {
   std::vector<int> found;
   const orv3::CRowIndex& index = Index();
   if (index.Key().empty()) return found;
-  for (const int position : index.KeyCandidates(m_arrItem, row)) {
+  for (const int position : index.KeyCandidates(row)) {
     if (m_arrItem[position].m_nModifyType < 0) continue;
     const bool same =
         std::all_of(index.Key().begin(), index.Key().end(), [&](const orv3::CKeyColumn& column) {
@@ -190,7 +190,7 @@ bool CDataTable::RefuseDuplicate(const CDataItem& row, int ownPosition) const {
 void CDataTable::ReplaceRow(int position, const CDataItem& row) {
   CDataItem& stored = m_arrItem.Own(position);
   orv3::CRowIndex& index = Index();
-  index.Forget(m_arrItem, position);
+  index.Forget(position);
   stored = row;
   index.Remember(m_arrItem, position);
 }
@@ -201,7 +201,7 @@ int CDataTable::AddTableItem(CDataItem& row, int bNew, int bNoCheck) {
     return 1;
   }
   if (RefuseDuplicate(row, -1)) return 0;
-  const int deleted = Index().FirstDeleted(m_arrItem);
+  const int deleted = m_pIndex->FirstDeleted();  // as the key check has just found it
   row.m_nIndex = deleted < 0 ? GetTableRowNum() : m_arrItem.Own(deleted).m_nIndex;
   row.m_nModifyType = bNew ? 1 : 3;
   if (deleted < 0) {
@@ -250,13 +250,14 @@ int CDataTable::DeleteTableItem(int index) {
   const int position = GetTableIndex(index);
   if (position < 0) return 0;
   CDataItem& row = m_arrItem.Own(position);
+  if (row.m_nModifyType < 0) return 1;
+  m_pIndex->Forget(position);
   if (row.m_nModifyType == 1 || row.m_nModifyType == 3) {
     m_arrItem.RemoveAt(position);
-  } else if (row.m_nModifyType >= 0) {
-    orv3::CRowIndex& rows = Index();
-    rows.Forget(m_arrItem, position);
+    m_pIndex->CloseGap(m_arrItem, position);
+  } else {
     row.m_nModifyType = -1;
-    rows.Remember(m_arrItem, position);
+    m_pIndex->Remember(m_arrItem, position);
   }
   return 1;
 }

@@ -38,6 +38,21 @@ void SortOut(std::vector<int>& positions) {
   positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
 }
 
+// Into ascending positions and out of them.
+void PutIn(std::vector<int>& positions, int position) {
+  if (positions.empty() || positions.back() < position) {
+    positions.push_back(position);
+    return;
+  }
+  const auto place = std::lower_bound(positions.begin(), positions.end(), position);
+  if (*place != position) positions.insert(place, position);
+}
+
+void TakeOut(std::vector<int>& positions, int position) {
+  const auto place = std::lower_bound(positions.begin(), positions.end(), position);
+  if (place != positions.end() && *place == position) positions.erase(place);
+}
+
 }  // namespace
 
 std::vector<CKeyColumn> KeyColumns(const CDataTableTitle& title) {
@@ -92,13 +107,21 @@ void CPositionChains::Add(std::uint64_t hash, int position) {
   Link(position);
 }
 
-void CPositionChains::Remove(std::uint64_t hash, int position) {
-  if (m_arrHead.empty()) return;
-  int* link = &m_arrHead[Bucket(hash)];
-  while (*link >= 0 && *link != position) link = &m_arrNext[static_cast<std::size_t>(*link)];
-  if (*link < 0) return;
-  *link = m_arrNext[static_cast<std::size_t>(position)];
-  m_arrNext[static_cast<std::size_t>(position)] = kAbsent;
+void CPositionChains::Remove(int position) {
+  const auto at = static_cast<std::size_t>(position);
+  if (at >= m_arrNext.size() || m_arrNext[at] == kAbsent) return;
+  int* link = &m_arrHead[Bucket(m_arrHash[at])];
+  while (*link != position) link = &m_arrNext[static_cast<std::size_t>(*link)];
+  *link = m_arrNext[at];
+  m_arrNext[at] = kAbsent;
+}
+
+void CPositionChains::CloseGap(int position) {
+  if (position >= std::ssize(m_arrNext)) return;
+  m_arrNext.erase(m_arrNext.begin() + position);
+  m_arrHash.erase(m_arrHash.begin() + position);
+  for (int& head : m_arrHead) head -= head > position;
+  for (int& next : m_arrNext) next -= next > position;
 }
 
 void CPositionChains::Collect(std::uint64_t hash, std::vector<int>& out) const {
@@ -116,14 +139,25 @@ void CRowIndex::Update(const CDataItemArray& rows, const CDataTableTitle& title)
     m_nArrangement = rows.Arrangement();
     m_byKey.Clear();
     m_byIndex.Clear();
-    m_setDeleted.clear();
-    m_setWithoutKey.clear();
+    m_arrDeleted.clear();
+    m_arrWithoutKey.clear();
+    m_arrSeen.clear();
+    m_arrSeenText.clear();
     m_nIndexed = 0;
   }
   while (m_nIndexed < rows.GetSize()) Remember(rows, m_nIndexed++);
+  LookAgain(rows);
 }
 
-std::vector<int> CRowIndex::KeyCandidates(const CDataItemArray& rows, const CDataItem& row) const {
+void CRowIndex::LookAgain(const CDataItemArray& rows) {
+  for (const int position : rows.HandedOut()) {
+    if (IsAsSeen(rows.GetAt(position), static_cast<std::size_t>(position))) continue;
+    Forget(position);
+    Remember(rows, position);
+  }
+}
+
+std::vector<int> CRowIndex::KeyCandidates(const CDataItem& row) const {
   std::vector<std::uint64_t> hashes{0};
   for (const CKeyColumn& column : m_arrKey) {
     const CString& text = row[column.m_nKey].m_strValue;
@@ -141,53 +175,80 @@ std::vector<int> CRowIndex::KeyCandidates(const CDataItemArray& rows, const CDat
       hashes[i] = Mix(hashes[i], low);
     }
   }
-  std::vector<int> positions = rows.HandedOut();
-  positions.insert(positions.end(), m_setWithoutKey.begin(), m_setWithoutKey.end());
+  std::vector<int> positions = m_arrWithoutKey;
   for (const std::uint64_t hash : hashes) m_byKey.Collect(hash, positions);
   SortOut(positions);
   return positions;
 }
 
-std::vector<int> CRowIndex::IndexCandidates(const CDataItemArray& rows, int index) const {
-  std::vector<int> positions = rows.HandedOut();
+std::vector<int> CRowIndex::IndexCandidates(int index) const {
+  std::vector<int> positions;
   m_byIndex.Collect(static_cast<std::uint64_t>(index), positions);
   SortOut(positions);
   return positions;
 }
 
-int CRowIndex::FirstDeleted(const CDataItemArray& rows) const {
-  int first = rows.GetSize();
-  for (const int position : m_setDeleted) {
-    if (rows.IsHandedOut(position)) continue;
-    first = position;
-    break;
-  }
-  for (const int position : rows.HandedOut()) {
-    if (position < first && rows.GetAt(position).m_nModifyType < 0) first = position;
-  }
-  return first < rows.GetSize() ? first : -1;
-}
-
-void CRowIndex::Forget(const CDataItemArray& rows, int position) {
-  if (rows.IsHandedOut(position)) return;
-  const CDataItem& row = rows.GetAt(position);
-  m_setDeleted.erase(position);
-  m_setWithoutKey.erase(position);
-  m_byIndex.Remove(static_cast<std::uint64_t>(row.m_nIndex), position);
-  if (!m_arrKey.empty() && HasKey(row)) m_byKey.Remove(KeyHash(row), position);
+void CRowIndex::Forget(int position) {
+  TakeOut(m_arrDeleted, position);
+  TakeOut(m_arrWithoutKey, position);
+  m_byIndex.Remove(position);
+  m_byKey.Remove(position);
 }
 
 void CRowIndex::Remember(const CDataItemArray& rows, int position) {
-  if (rows.IsHandedOut(position)) return;
   const CDataItem& row = rows.GetAt(position);
-  if (row.m_nModifyType < 0) m_setDeleted.insert(position);
+  if (row.m_nModifyType < 0) PutIn(m_arrDeleted, position);
   m_byIndex.Add(static_cast<std::uint64_t>(row.m_nIndex), position);
-  if (m_arrKey.empty()) return;
-  if (HasKey(row)) {
-    m_byKey.Add(KeyHash(row), position);
-  } else {
-    m_setWithoutKey.insert(position);
+  if (!m_arrKey.empty()) {
+    if (HasKey(row)) {
+      m_byKey.Add(KeyHash(row), position);
+    } else {
+      PutIn(m_arrWithoutKey, position);
+    }
   }
+  if (rows.IsHandedOut(position)) TakeSeen(row, static_cast<std::size_t>(position));
+}
+
+void CRowIndex::CloseGap(const CDataItemArray& rows, int position) {
+  m_byKey.CloseGap(position);
+  m_byIndex.CloseGap(position);
+  for (int& deleted : m_arrDeleted) deleted -= deleted > position;
+  for (int& bare : m_arrWithoutKey) bare -= bare > position;
+  if (position < std::ssize(m_arrSeen)) {
+    const auto width = std::ssize(m_arrKey);
+    const auto text = m_arrSeenText.begin() + position * width;
+    m_arrSeen.erase(m_arrSeen.begin() + position);
+    m_arrSeenText.erase(text, text + width);
+  }
+  --m_nIndexed;
+  m_nArrangement = rows.Arrangement();
+}
+
+void CRowIndex::TakeSeen(const CDataItem& row, std::size_t at) {
+  if (m_arrSeen.size() <= at) {
+    m_arrSeen.resize(at + 1);
+    m_arrSeenText.resize((at + 1) * m_arrKey.size());
+  }
+  const bool hasKey = HasKey(row);
+  m_arrSeen[at] = {true, hasKey, row.m_nIndex, row.m_nModifyType};
+  CString* text = m_arrSeenText.data() + at * m_arrKey.size();
+  for (const CKeyColumn& column : m_arrKey) {
+    *text++ = hasKey ? row[column.m_nCompare].m_strValue : CString();
+  }
+}
+
+bool CRowIndex::IsAsSeen(const CDataItem& row, std::size_t at) const {
+  if (at >= m_arrSeen.size()) return false;
+  const CSeen& seen = m_arrSeen[at];
+  if (!seen.m_bKnown || seen.m_nIndex != row.m_nIndex || seen.m_nState != row.m_nModifyType ||
+      seen.m_bKey != HasKey(row)) {
+    return false;
+  }
+  const CString* text = m_arrSeenText.data() + at * m_arrKey.size();
+  return !seen.m_bKey ||
+         std::all_of(m_arrKey.begin(), m_arrKey.end(), [&](const CKeyColumn& column) {
+           return row[column.m_nCompare].m_strValue.GetString() == text++->GetString();
+         });
 }
 
 bool CRowIndex::HasKey(const CDataItem& row) const noexcept {

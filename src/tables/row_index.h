@@ -1,14 +1,13 @@
 // The index behind a table's key check and row look-up.
 //
-// Rows that only the table has touched are found through hashes. A row that was handed out by
-// reference may change at any time, so it is never trusted to the hashes but named as a candidate
-// of every question; so is a row that lacks a key column. The answers are candidates: the caller
-// looks at each one's cells, and so decides exactly as a walk over all rows would.
+// Rows are found through hashes. A row that was handed out by reference may change at any time, so
+// what it was hashed by is kept and compared with what it is before every question. A row that
+// lacks a key column is a candidate of every question. The answers are candidates: the caller looks
+// at each one's cells, and so decides exactly as a walk over all rows would.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <set>
 #include <vector>
 
 #include "tables/data_item_array.h"
@@ -34,7 +33,9 @@ class CPositionChains {
  public:
   void Clear();
   void Add(std::uint64_t hash, int position);
-  void Remove(std::uint64_t hash, int position);
+  void Remove(int position);
+  // The positions behind `position`, which is not held, are one less from now on.
+  void CloseGap(int position);
   void Collect(std::uint64_t hash, std::vector<int>& out) const;
 
  private:
@@ -55,25 +56,42 @@ class CRowIndex {
   const std::vector<CKeyColumn>& Key() const noexcept { return m_arrKey; }
   // Ascending positions that hold every row with the key of `row`. CInvalidArgException when `row`
   // lacks a key column.
-  std::vector<int> KeyCandidates(const CDataItemArray& rows, const CDataItem& row) const;
+  std::vector<int> KeyCandidates(const CDataItem& row) const;
   // Ascending positions that hold every row with a stable index.
-  std::vector<int> IndexCandidates(const CDataItemArray& rows, int index) const;
+  std::vector<int> IndexCandidates(int index) const;
   // Position of the first row with a negative edit state, -1 when there is none.
-  int FirstDeleted(const CDataItemArray& rows) const;
+  int FirstDeleted() const { return m_arrDeleted.empty() ? -1 : m_arrDeleted.front(); }
 
   // Around every change that the table makes to a row: before and after it.
-  void Forget(const CDataItemArray& rows, int position);
+  void Forget(int position);
   void Remember(const CDataItemArray& rows, int position);
+  // After a row that was forgotten has been removed from the array.
+  void CloseGap(const CDataItemArray& rows, int position);
 
  private:
+  // What a row that was handed out is hashed by, beside the texts of its key columns.
+  struct CSeen {
+    bool m_bKnown = false;
+    bool m_bKey = false;
+    int m_nIndex = 0;
+    int m_nState = 0;
+  };
+
+  void LookAgain(const CDataItemArray& rows);
+  void TakeSeen(const CDataItem& row, std::size_t at);
+  bool IsAsSeen(const CDataItem& row, std::size_t at) const;
   bool HasKey(const CDataItem& row) const noexcept;
   std::uint64_t KeyHash(const CDataItem& row) const;
 
   std::vector<CKeyColumn> m_arrKey;
   CPositionChains m_byKey;
   CPositionChains m_byIndex;
-  std::set<int> m_setDeleted;
-  std::set<int> m_setWithoutKey;
+  std::vector<int> m_arrDeleted;     // ascending positions
+  std::vector<int> m_arrWithoutKey;  // the same
+  std::vector<CSeen> m_arrSeen;      // by position, as far as rows were handed out
+  // The key columns' texts, for each of m_arrSeen. They are shared with the rows', which therefore
+  // cannot change in their places.
+  std::vector<CString> m_arrSeenText;
   unsigned long long m_nArrangement = 0;
   int m_nIndexed = 0;  // rows taken in so far
 };

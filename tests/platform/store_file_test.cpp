@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <utility>
+
 #include "platform/faulty_files.h"
 #include "platform/store_error.h"
 #include "platform/store_journal.h"
@@ -104,6 +107,17 @@ TEST_F(StoreFile, ABatchIsOneSave) {
   }
   EXPECT_EQ(Seen(m_path), "newer");
   EXPECT_FALSE(orv3::IsAheadOfFile(m_path));
+  for (const bool kept : {false, true}) {  // a batch within another
+    orv3::CStoreBatch outer(m_path);
+    EXPECT_TRUE(Save(m_path, 0, "N"));
+    {
+      orv3::CStoreBatch inner(m_path);
+      EXPECT_TRUE(Save(m_path, 1, "E"));
+      EXPECT_TRUE(!kept || inner.Commit());
+    }
+    EXPECT_EQ(outer.Commit(), kept);
+    EXPECT_EQ(Seen(m_path), kept ? "NEwer" : "newer");
+  }
   EXPECT_TRUE(Save(m_path, 0, "fresh"));
 }
 
@@ -171,7 +185,9 @@ TEST_F(StoreFile, AFaultAtAnyOperationLeavesTheOldOrTheNewStore) {
           if (saved) {
             ASSERT_EQ(seen, c.fresh);
           } else {
-            ASSERT_TRUE(c.old.empty() ? seen.empty() || seen == "?" : seen == c.old);
+            // When nothing at all gets through any more, all of the save may have before.
+            const bool old = c.old.empty() ? seen.empty() || seen == "?" : seen == c.old;
+            ASSERT_TRUE(old || (forGood && seen == c.fresh));
           }
           ASSERT_FALSE(Exists(JournalPath(m_path)));
           ASSERT_TRUE(Save(m_path, c.offset, c.added));
@@ -207,12 +223,104 @@ TEST_F(StoreFile, AReaderInAReadOnlyFolderSeesTheOldStore) {
   }
 }
 
-TEST_F(StoreFile, AJournalThatIsNotWholeOrOfAnotherStateIsDropped) {
+// What `at` operations of a save leave when the process ends at the next one: the file, and its
+// journal if there is one. False when the save got through.
+bool Interrupt(const CString& path, const CCase& c, int at) {
+  Files().Remove(path);
+  Files().Remove(JournalPath(path));
+  if (!c.old.empty()) PutBytes(path, c.old);
+  const CFaultyFiles faulty(CFault::Short, at, true);
+  const auto file = CStoreFile::OpenToWrite(path);
+  if (file && file->Write(c.offset, c.added.data(), c.added.size())) file->Commit();
+  return faulty.Met();
+}
+
+// A file that has been put in the place of a store whose save was interrupted is read as it is,
+// whatever it has in common with that store.
+TEST_F(StoreFile, AnInterruptedSaveIsNeverUndoneInAnotherFile) {
+  const CString backup = m_folder.Path(L"backup.KDB");
+  int journals = 0;
+  for (const CCase& c : Cases()) {
+    const auto changed = [](std::string bytes, std::size_t at) {
+      if (at < bytes.size()) bytes[at] = '?';
+      return bytes;
+    };
+    const std::size_t last = c.fresh.size() - 1;
+    const std::string others[] = {
+        c.old,
+        c.fresh,
+        std::string(c.fresh.size(), 'x'),
+        std::string(c.old.size() + 1, 'o'),
+        c.fresh + "more",
+        c.old.substr(0, c.old.size() / 2),
+        std::string(),
+        changed(c.old, c.offset),  // of the same size, with another byte where both differ
+        changed(c.fresh, c.offset),
+        changed(c.fresh, c.offset - 1),  // and beside it
+        changed(c.old, c.offset + c.added.size()),
+        changed(c.fresh, last),
+    };
+    for (int at = 1; Interrupt(m_path, c, at); ++at) {
+      SCOPED_TRACE(std::string(c.name) + " operation " + std::to_string(at));
+      if (!Exists(JournalPath(m_path))) continue;
+      ++journals;
+      const std::string journal = Bytes(JournalPath(m_path));
+      const std::string half = Bytes(m_path);
+      for (const std::string& other : others) {
+        if (other == half && other != c.old && other != c.fresh) continue;
+        SCOPED_TRACE(testing::Message() << "file " << &other - others);
+        Files().Remove(JournalPath(m_path));
+        PutBytes(m_path, other);
+        PutBytes(JournalPath(m_path), journal);
+        ASSERT_TRUE(Seen(m_path) == other);
+        ASSERT_FALSE(Exists(JournalPath(m_path)));
+      }
+      // Moved together with their names, the store and its journal still belong together.
+      PutBytes(backup, half);
+      PutBytes(JournalPath(backup), journal);
+      const std::string seen = Seen(backup);
+      ASSERT_TRUE(seen == c.old || seen == c.fresh || (seen == "?" && c.old.empty()));
+    }
+  }
+  EXPECT_GT(journals, 10);
+}
+
+// A save whose pages got onto the medium in any order, as after a power failure.
+TEST_F(StoreFile, AnyMixtureOfOldAndNewBytesIsUndone) {
+  for (const CCase& c : Cases()) {
+    std::string journal;
+    for (int at = 1; Interrupt(m_path, c, at); ++at) {
+      if (Exists(JournalPath(m_path))) journal = Bytes(JournalPath(m_path));
+    }
+    std::string old = c.old;
+    old.resize(c.fresh.size(), '\0');
+    std::mt19937 random(1);
+    for (int i = 0; i < 50; ++i) {
+      std::string mixed = old;
+      for (std::size_t at = 0; at < mixed.size();) {
+        const std::size_t step = random() % 700 + 1;
+        if (random() % 2) mixed.replace(at, step, c.fresh, at, step);
+        at += step;
+      }
+      if (mixed == c.fresh) continue;
+      PutBytes(m_path, mixed);
+      PutBytes(JournalPath(m_path), journal);
+      const std::string seen = Seen(m_path);
+      ASSERT_TRUE(seen == c.old || (seen == "?" && c.old.empty())) << c.name << i;
+    }
+  }
+}
+
+TEST_F(StoreFile, AJournalThatIsNotWholeIsDropped) {
   const std::string store(100, 's');
   orv3::CStoreJournal journal;
   journal.m_nOldSize = 100;
   journal.m_nNewSize = 100;
-  journal.m_arrPiece.push_back({10, "old"});
+  std::string before = store;
+  before.resize(orv3::kJournalPage, '\0');
+  std::string after = before;
+  before.replace(10, 3, "old");
+  ASSERT_TRUE(journal.AddPage(0, before, after.replace(30, 2, "to")));
   const std::string whole = EncodeJournal(journal);
   const auto seen = [&](const std::string& bytes) {
     PutBytes(m_path, store);
@@ -229,11 +337,48 @@ TEST_F(StoreFile, AJournalThatIsNotWholeOrOfAnotherStateIsDropped) {
     damaged[i] = static_cast<char>(damaged[i] ^ 4);
     ASSERT_EQ(seen(damaged), store) << i;
   }
-  journal.m_nOldSize = 101;  // the store would have to be longer than it is
-  journal.m_nNewSize = 101;
-  EXPECT_EQ(seen(EncodeJournal(journal)), store);
-  journal.m_nOldSize = 12;  // the piece ends beyond the old store
-  EXPECT_EQ(seen(EncodeJournal(journal)), store);
+}
+
+// The first format does not tell which file it belongs to: neither the file nor the journal is
+// touched, unless there is nothing to undo.
+TEST_F(StoreFile, AJournalOfTheFirstFormatIsLeftToTheUser) {
+  const auto number = [](std::uint64_t value) {
+    std::string bytes(8, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(std::exchange(value, value >> 8) & 0xFF);
+    return bytes;
+  };
+  std::string journal = "Orv3CalJournal 1" + number(100) + number(200) + number(1) + number(0) +
+                        number(100) + std::string(100, 'o');
+  std::uint64_t sum = 0xCBF29CE484222325;
+  for (const char byte : journal) sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
+  journal += number(sum);
+  const struct {
+    std::string store;
+    bool opens;
+  } cases[] = {{std::string(100, 'o'), true},  // the save had not begun
+               {std::string(201, 'x'), true},  // another file
+               {std::string(99, 'o'), true},
+               {std::string(100, 'n'), false},
+               {std::string(200, 'o'), false}};
+  for (const auto& c : cases) {
+    Files().Remove(JournalPath(m_path));
+    PutBytes(m_path, c.store);
+    PutBytes(JournalPath(m_path), journal);
+    orv3::ClearStoreError();
+    EXPECT_EQ(Seen(m_path), c.opens ? c.store : "?");
+    EXPECT_EQ(Exists(JournalPath(m_path)), !c.opens);
+    EXPECT_EQ(LastStoreError().m_strText.Find(JournalPath(m_path).GetString()) >= 0, !c.opens);
+    EXPECT_EQ(Bytes(m_path), c.store);
+  }
+}
+
+// The reason is told, and the journal by its name.
+TEST_F(StoreFile, ItsErrorsNameWhatFailed) {
+  PutBytes(m_path, "old");
+  Files().MakeFolder(JournalPath(m_path));
+  orv3::ClearStoreError();
+  EXPECT_EQ(Seen(m_path), "?");
+  EXPECT_GE(LastStoreError().m_strText.Find(JournalPath(m_path).GetString()), 0);
 }
 
 TEST_F(StoreFile, AReadOnlyMarkIsClearedOnce) {

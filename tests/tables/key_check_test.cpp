@@ -117,7 +117,18 @@ TEST_F(KeyCheck, AgreesWithTheWalkUnderRandomWork) {
     };
     const auto row = [&] { return Row(table, value(), value()); };
     const auto position = [&] { return below(table.GetTableRowNum()); };
+    CDataItem* held = nullptr;
     const std::function<void()> work[] = {
+        [&] { held = &table[position()]; },
+        [&] {  // through a reference from before, to a row that may have moved since
+          for (const CDataItem& row : std::as_const(table.m_arrItem)) {
+            if (&row != held) continue;
+            (*held)[below(2) * 2].m_strValue = value();
+            held->m_nIndex = below(30);
+            held->m_nModifyType = below(4) - 2;
+          }
+        },
+        [&] { table.DeleteTableItem(std::as_const(table)[position()].m_nIndex); },
         [&] { table[position()][below(2) * 2].SetItemValue(value()); },
         [&] { table.DeleteTableItem(below(table.GetTableRowNum() + 2)); },
         [&] { table.ModifyTableItem(position(), value() + L",," + value()); },

@@ -43,6 +43,9 @@ CFileError ErrorOf(int code) {
     case EPERM:
     case EROFS:
       return CFileError::Denied;
+    case ENOSPC:
+    case EDQUOT:
+      return CFileError::Full;
     default:
       return CFileError::Failed;
   }
@@ -81,6 +84,7 @@ class CPosixFile final : public CFile {
       const ssize_t step = ::pwrite(m_nHandle, static_cast<const char*>(data) + done, size - done,
                                     static_cast<off_t>(offset + done));
       if (step < 0 && errno == EINTR) continue;
+      if (step < 0) m_nTrouble = ErrorOf(errno);
       if (step <= 0) break;
       done += static_cast<std::size_t>(step);
     }
@@ -95,7 +99,7 @@ class CPosixFile final : public CFile {
   }
 
   bool SetSize(std::uint64_t size) override {
-    return ::ftruncate(m_nHandle, static_cast<off_t>(size)) == 0;
+    return Done(::ftruncate(m_nHandle, static_cast<off_t>(size)) == 0);
   }
 
   bool AdvanceStamp(std::int64_t past) override {
@@ -115,14 +119,21 @@ class CPosixFile final : public CFile {
   }
 
   // The bytes and the size; nothing depends on the times after a power failure.
-  bool Sync() override { return ::fdatasync(m_nHandle) == 0; }
+  bool Sync() override { return Done(::fdatasync(m_nHandle) == 0); }
   bool Discard() override { return ::unlink(m_strPath.c_str()) == 0; }
   bool WasCreated() const override { return m_bCreated; }
+  CFileError Trouble() const override { return m_nTrouble; }
 
  private:
+  bool Done(bool done) {
+    if (!done) m_nTrouble = ErrorOf(errno);
+    return done;
+  }
+
   int m_nHandle;
   std::string m_strPath;
   bool m_bCreated;
+  CFileError m_nTrouble = CFileError::Failed;
 };
 
 // Opens an existing file, or makes it when the mode allows that. -1 with errno set on failure.
@@ -169,7 +180,7 @@ class CPosixFileSystem final : public CFileSystem {
       }
       if (::flock(handle, lock) != 0) break;
       if (!IsStillThere(handle, native)) continue;
-      if (mode == CFileMode::Replace && !file->SetSize(0)) break;
+      if (mode == CFileMode::Replace && info.st_size != 0 && !file->SetSize(0)) break;
       error = CFileError::None;
       return file;
     }

@@ -44,18 +44,29 @@ std::string_view CTableDirectory::RecordBytes(int i) const {
 
 CDataFileInfo CTableDirectory::Record(int i) const { return RecordOf(DecodeText(RecordBytes(i))); }
 
-CString CTableDirectory::Name(int i) const {
-  const std::string_view bytes = RecordBytes(i);  // no character has a comma for its second byte
-  return DecodeText(bytes.substr(0, bytes.find(EncodeText(kFieldSeparator))));
+std::string_view CTableDirectory::NameBytes(int i) const {
+  static const std::string separator = EncodeText(kFieldSeparator);  // the same in every code page
+  const std::string_view bytes = FieldBytes(RecordBytes(i));
+  return bytes.substr(0, bytes.find(separator));  // no character has a comma for its second byte
 }
 
+CString CTableDirectory::Name(int i) const { return DecodeText(NameBytes(i)); }
+
 int CTableDirectory::Count() const {
+  constexpr std::size_t kLongestPart = 3;  // of a character that lacks bytes and reads as nothing
   int count = 0;
-  while (count < kMaxTables && !Name(count).IsEmpty()) ++count;
+  while (count < kMaxTables && (NameBytes(count).size() > kLongestPart || !Name(count).IsEmpty())) {
+    ++count;
+  }
   return count;
 }
 
 int CTableDirectory::Find(const CString& table) const {
+  const std::string wanted = EncodeText(table);
+  for (int i = 0; i < kMaxTables && !NameBytes(i).empty(); ++i) {
+    if (NameBytes(i) == wanted && Name(i) == table) return i;
+  }
+  // By other bytes for the same characters.
   for (int i = 0; i < kMaxTables; ++i) {
     const CString name = Name(i);
     if (name.IsEmpty()) return -1;

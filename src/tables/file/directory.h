@@ -37,6 +37,7 @@ class CTableDirectory {
   CString InfoLine() const;
   int Count() const;  // records up to the first without a name
   CDataFileInfo Record(int i) const;
+  std::string_view NameBytes(int i) const;
   CString Name(int i) const;             // Record(i).m_strTableName alone
   int Find(const CString& table) const;  // the table's record; -1 when there is none
   bool IsFull() const { return Count() >= kMaxTables; }

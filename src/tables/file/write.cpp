@@ -240,7 +240,8 @@ struct CDataTable::CRowWrite {
 
 int CDataTable::CollectRows(const CStoreFile& file, bool all,
                             std::vector<CRowWrite>& writes) const {
-  const std::vector<int> slots = orv3::SlotsOfRows(m_arrItem, m_pImage ? *m_pImage : CTableImage());
+  static const CTableImage nothing;
+  const std::vector<int> slots = orv3::SlotsOfRows(m_arrItem, m_pImage ? *m_pImage : nothing);
   const auto length = static_cast<std::size_t>(GetTableItemLen());
   for (int i = 0; i < GetTableRowNum(); ++i) {
     const CDataItem& row = std::as_const(m_arrItem)[i];
