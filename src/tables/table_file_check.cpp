@@ -8,7 +8,7 @@
 #include "platform/store_file.h"
 #include "tables/data_table.h"
 #include "tables/table_file_directory.h"
-#include "tables/table_file_merge.h"
+#include "tables/edit_state.h"
 #include "tables/table_text.h"
 
 namespace orv3 {
@@ -19,7 +19,7 @@ class CCheck {
   explicit CCheck(const CDataTable& table) : m_table(table) {}
 
   void Table(const CString& path) {
-    Text(-1, -1, L"name", m_table.m_strTableName, CDataTable::kMaxTableName, true);
+    Text(-1, -1, L"name", m_table.m_strTableName, CDataTable::kMaxTableName, false);
     if (m_table.m_strTableName.IsEmpty()) Add(-1, -1, L"a table without a name cannot be stored");
     Heading();
     Directory(path);
@@ -109,7 +109,7 @@ class CCheck {
       }
       info.m_arrBlockPos.Add(static_cast<std::int32_t>(end));
     }
-    Size(-1, RecordForm(info), kRecordSize);
+    Size(-1, RecordForm(info), kRecordSize - 1);  // a full record cannot be told from a cut one
   }
 
   const CDataTable& m_table;

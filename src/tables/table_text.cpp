@@ -1,6 +1,7 @@
 #include "tables/table_text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "framework/number_text.h"
 #include "platform/code_page.h"
 #include "tables/data_table.h"
+#include "tables/table_file_layout.h"
 
 namespace orv3 {
 namespace {
@@ -19,22 +21,18 @@ char Shifted(char byte, unsigned by) {
   return static_cast<char>(static_cast<unsigned char>(byte) + by);
 }
 
-void AddField(std::wstring& form, std::wstring_view field) {
-  if (!form.empty()) form += kFieldSeparator;
-  form += field;
+std::array<std::wstring, 4> ColumnFields(const CDataTypeStruct& column) {
+  return {std::wstring(OneLine(column.m_strName)), std::wstring(OneLine(column.m_strSign)),
+          std::wstring(FormatInt(column.m_bKey).View()),
+          std::wstring(FormatInt(column.m_nType).View())};
 }
 
-// A value up to its first line feed or zero, which would end the whole text and lose all after it.
-std::wstring_view OneLine(std::wstring_view value) {
-  return value.substr(0, std::min(value.find(L'\n'), value.find(L'\0')));
-}
-
-std::wstring ColumnForm(const CDataTypeStruct& column) {
-  std::wstring form(OneLine(column.m_strName));
-  for (const CString& field :
-       {column.m_strSign, FormatInt(column.m_bKey), FormatInt(column.m_nType)}) {
-    form += kFieldSeparator;
-    form += OneLine(field);
+template <class FIELDS>
+std::wstring Joined(const FIELDS& fields) {
+  std::wstring form;
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (i > 0) form += kFieldSeparator;
+    form += fields[i];
   }
   return form;
 }
@@ -47,6 +45,16 @@ CDataTypeStruct ColumnOf(const std::wstring_view* fields, std::size_t count) {
   if (count > 2) column.m_bKey = ToInt(fields[2]);
   if (count > 3) column.m_nType = static_cast<CDataTypeStruct::KVBT_Value_Type>(ToInt(fields[3]));
   return column;
+}
+
+CDataTableTitle ColumnsIn(const std::vector<std::wstring_view>& fields) {
+  CDataTableTitle title;
+  for (std::size_t i = 0; i < fields.size(); i += 4) {
+    const CDataTypeStruct column =
+        ColumnOf(&fields[i], std::min<std::size_t>(4, fields.size() - i));
+    title.InsertColumn(title.GetTableTitleNum(), column);
+  }
+  return title;
 }
 
 // Bytes in a wide text, each as a signed number of 16 bits: the way fake text travels.
@@ -76,11 +84,6 @@ CString DecodeText(std::string_view stored) {
 
 std::string EncodeField(std::wstring_view text, std::size_t length, bool* missing) {
   std::string bytes = EncodeText(text, missing);
-  if (bytes.size() > length) {
-    std::string plain = bytes;
-    for (char& byte : plain) byte = Shifted(byte, kShift);
-    bytes.resize(AnsiCut(plain, length));
-  }
   bytes.resize(length, '\0');
   return bytes;
 }
@@ -99,37 +102,67 @@ std::vector<std::wstring_view> SplitFields(std::wstring_view form) {
   }
 }
 
-std::wstring HeadingForm(const CDataTableTitle& title) {
-  std::wstring form;
-  for (int i = 0; i < title.GetTableTitleNum(); ++i) AddField(form, ColumnForm(title[i]));
-  return form;
+std::vector<std::wstring_view> SplitStored(std::wstring_view form, std::size_t wanted, bool cut) {
+  std::vector<std::wstring_view> fields = SplitFields(form);
+  std::wstring_view& last = fields.back();
+  for (int i = 0; cut && fields.size() < wanted && i < 2 && last.ends_with(L','); ++i) {
+    last.remove_suffix(1);
+  }
+  return fields;
 }
 
-CDataTableTitle HeadingOf(std::wstring_view form) {
-  CDataTableTitle title;
-  if (form.empty()) return title;
-  const std::vector<std::wstring_view> fields = SplitFields(form);
-  for (std::size_t i = 0; i < fields.size(); i += 4) {
-    const CDataTypeStruct column =
-        ColumnOf(&fields[i], std::min<std::size_t>(4, fields.size() - i));
-    title.InsertColumn(title.GetTableTitleNum(), column);
+// Either would end the whole text and lose all after it.
+std::wstring_view OneLine(std::wstring_view text) {
+  return text.substr(0, std::min(text.find(L'\n'), text.find(L'\0')));
+}
+
+std::wstring_view StoredValue(std::wstring_view value) {
+  return OneLine(value.substr(0, kMaxStoredValue));
+}
+
+std::vector<std::wstring> HeadingFields(const CDataTableTitle& title) {
+  std::vector<std::wstring> fields;
+  for (int i = 0; i < title.GetTableTitleNum(); ++i) {
+    for (std::wstring& field : ColumnFields(title[i])) fields.push_back(std::move(field));
   }
-  return title;
+  return fields;
+}
+
+std::wstring HeadingForm(const CDataTableTitle& title) { return Joined(HeadingFields(title)); }
+
+CDataTableTitle HeadingOf(std::wstring_view form) {
+  return form.empty() ? CDataTableTitle() : ColumnsIn(SplitFields(form));
+}
+
+bool StoredHeading(std::string_view area, CDataTableTitle& title) {
+  const auto columns = static_cast<int>(area.size() / HeadingLength(1));
+  const bool cut = FieldBytes(area).size() == area.size();
+  const CString form = DecodeText(area);
+  title.Clear();
+  if (!form.IsEmpty()) {
+    title = ColumnsIn(SplitStored(form, 4 * static_cast<std::size_t>(columns), cut));
+  }
+  while (cut && title.GetTableTitleNum() < columns) {
+    title.InsertColumn(title.GetTableTitleNum(), CDataTypeStruct());
+  }
+  return title.GetTableTitleNum() == columns;
 }
 
 std::wstring RowForm(const CDataItem& row, int state) {
   std::wstring form(FormatInt(row.m_nIndex).View());
   form.reserve(static_cast<std::size_t>(row.GetItemLength() + 1) * 12);  // about
-  AddField(form, FormatInt(state));
-  for (int i = 0; i < row.GetItemLength(); ++i) {
-    AddField(form, OneLine(row[i].m_strValue.View().substr(0, kMaxStoredValue)));
-  }
+  const auto add = [&form](std::wstring_view field) {
+    form += kFieldSeparator;
+    form += field;
+  };
+  add(FormatInt(state));
+  for (int i = 0; i < row.GetItemLength(); ++i) add(StoredValue(row[i].m_strValue));
   return form;
 }
 
 bool RowOf(std::wstring_view form, const CDataTableTitle& title, bool cut, CDataItem& row) {
-  const std::vector<std::wstring_view> fields = SplitFields(form);
   const auto wanted = static_cast<std::size_t>(title.GetTableTitleNum()) + 2;
+  const std::vector<std::wstring_view> fields = SplitStored(form, wanted, cut);
   if (fields.size() < (cut ? 2 : wanted)) return false;
   if (fields.size() > wanted) {
     throw CInvalidArgException("row on file: " + std::to_string(fields.size() - 2) +
@@ -153,7 +186,7 @@ bool RowOf(std::wstring_view form, const CDataTableTitle& title, bool cut, CData
 // --------------------------------------------------------------------------
 
 CString CDataTypeStruct::TranToFake() const {
-  return CDataTable::TransStringToFake(orv3::ColumnForm(*this));
+  return CDataTable::TransStringToFake(orv3::Joined(orv3::ColumnFields(*this)));
 }
 
 void CDataTypeStruct::TransToNormal(const char* stored) {
