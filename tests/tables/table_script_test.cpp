@@ -280,7 +280,7 @@ class CScript {
       store.hasTable = store.known = true;
       return Compare(store);
     }
-    EXPECT_EQ(m_files[store.path], before);
+    EXPECT_TRUE(m_files[store.path] == before);
     EXPECT_EQ(orv3::LastStoreError().m_nTrouble, orv3::CStoreTrouble::Refused);
     Repair();
   }
