@@ -77,8 +77,8 @@ bool EncodeRecord(const CDataFileInfo& info, std::string& field, CString& why) {
     why = L"its name " + CString(kMissing);
   } else if (bytes.size() >= kRecordSize) {
     why = L"its name and the places of its " + FormatInt(info.m_arrBlockPos.GetSize()) +
-          L" blocks take " + FormatInt(std::ssize(bytes)) +
-          L" bytes, but the record has room for 199: fewer rows or a shorter name fit";
+          L" blocks take " + FormatInt(std::ssize(bytes) + 1) +
+          L" bytes, but the file has room for 200: fewer rows or a shorter name fit";
   } else if (const CDataFileInfo back = RecordOf(DecodeText(field));
              back.m_strTableName.IsEmpty() || back.m_strTableName != info.m_strTableName ||
              RecordForm(back) != form) {

@@ -333,7 +333,7 @@ TEST_F(TableFile, NinetyNineTablesFit) {
   EXPECT_EQ(Bytes(m_path).back(), '#');
 }
 
-// 128 bytes of name, 11 of sizes, 8 for each block: 195 with 7 blocks, 203 with 8.
+// 128 bytes of name, 11 of sizes, 8 for each block, a zero: 196 with 7 blocks, 204 with 8.
 TEST_F(TableFile, ARecordThatOutgrowsItsFieldIsRefused) {
   CDataTable table = OneColumn(CString(L'型', 64), 695);
   ASSERT_EQ(Save(table), 1);
