@@ -21,14 +21,15 @@ constexpr wchar_t kSplit[] =
 // -1 when all do. A field that is full has lost what stood behind its end.
 int FirstLost(const std::vector<std::wstring_view>& kept, std::string_view bytes, bool full) {
   const CString form = DecodeText(bytes);
-  const std::vector<std::wstring_view> back = SplitStored(form, kept.size(), full);
+  CStoredFields back(form, kept.size(), full);
   for (std::size_t i = 0; i < kept.size(); ++i) {
-    if (i < back.size() && back[i] == kept[i]) continue;
-    const bool behindTheEnd = full && i + 1 >= back.size();
-    const bool cut = behindTheEnd && (i >= back.size() || kept[i].starts_with(back[i]));
+    std::wstring_view field;
+    const bool found = back.Next(field);
+    if (found && field == kept[i]) continue;
+    const bool cut = full && back.AtEnd() && (!found || kept[i].starts_with(field));
     if (!cut) return static_cast<int>(i);
   }
-  return back.size() > kept.size() ? static_cast<int>(kept.size()) - 1 : -1;
+  return back.AtEnd() ? -1 : static_cast<int>(kept.size()) - 1;
 }
 
 bool Prove(const std::vector<std::wstring_view>& kept, std::string_view field, bool missing,
@@ -49,22 +50,6 @@ CString ColumnText(const CDataTableTitle& title, int column) {
              ? CString()
              : L"column \"" + title[column].m_strSign + L"\" ";
 }
-
-// What a row's slot is to say, in order.
-struct CRowText {
-  CRowText(const CDataItem& row, int state)
-      : m_strIndex(FormatInt(row.m_nIndex)), m_strState(FormatInt(state)) {
-    m_arrField = {m_strIndex, m_strState};
-    m_arrField.reserve(static_cast<std::size_t>(row.GetItemLength()) + 2);
-    for (int i = 0; i < row.GetItemLength(); ++i) {
-      m_arrField.push_back(StoredValue(row[i].m_strValue));
-    }
-  }
-
-  CString m_strIndex;
-  CString m_strState;
-  std::vector<std::wstring_view> m_arrField;
-};
 
 }  // namespace
 
@@ -91,7 +76,7 @@ bool EncodeRecord(const CDataFileInfo& info, std::string& field, CString& why) {
 }
 
 bool EncodeHeading(const CDataTableTitle& title, std::string& area, CString& why) {
-  const auto columns = static_cast<std::size_t>(title.GetTableTitleNum());
+  const std::int64_t columns = title.GetTableTitleNum();
   const std::vector<std::wstring> fields = HeadingFields(title);
   bool missing = false;
   area = EncodeField(HeadingForm(title), static_cast<std::size_t>(HeadingLength(columns)), &missing);
@@ -110,9 +95,10 @@ bool EncodeRow(const CDataItem& row, int state, const CDataTableTitle& title, st
     return false;
   }
   bool missing = false;
-  slot = EncodeField(RowForm(row, state), static_cast<std::size_t>(SlotLength(columns)), &missing);
+  const CRowText text(row, state);
+  slot = EncodeField(text.Form(), static_cast<std::size_t>(SlotLength(columns)), &missing);
   int lost = -1;
-  if (Prove(CRowText(row, state).m_arrField, slot, missing, lost, why)) return true;
+  if (Prove(text.Fields(), slot, missing, lost, why)) return true;
   why = ColumnText(title, lost - 2) + why;
   return false;
 }
@@ -120,7 +106,7 @@ bool EncodeRow(const CDataItem& row, int state, const CDataTableTitle& title, st
 bool StandsIn(const CDataItem& row, std::string_view slot, const CDataTableTitle& title) {
   if (row.GetItemLength() != title.GetTableTitleNum()) return false;
   const bool full = std::ssize(slot) == SlotLength(title.GetTableTitleNum());
-  return FirstLost(CRowText(row, StateOnFile(row.m_nModifyType)).m_arrField, slot, full) < 0;
+  return FirstLost(CRowText(row, StateOnFile(row.m_nModifyType)).Fields(), slot, full) < 0;
 }
 
 }  // namespace orv3

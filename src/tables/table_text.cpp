@@ -29,7 +29,10 @@ std::array<std::wstring, 4> ColumnFields(const CDataTypeStruct& column) {
 
 template <class FIELDS>
 std::wstring Joined(const FIELDS& fields) {
+  std::size_t size = 0;
+  for (const auto& field : fields) size += field.size() + std::size(kFieldSeparator);
   std::wstring form;
+  form.reserve(size);
   for (std::size_t i = 0; i < fields.size(); ++i) {
     if (i > 0) form += kFieldSeparator;
     form += fields[i];
@@ -91,23 +94,29 @@ std::string EncodeField(std::wstring_view text, std::size_t length, bool* missin
 std::string_view FieldBytes(std::string_view field) { return field.substr(0, field.find('\0')); }
 
 std::vector<std::wstring_view> SplitFields(std::wstring_view form) {
+  return SplitStored(form, 0, false);
+}
+
+bool CStoredFields::Next(std::wstring_view& field) {
   constexpr std::wstring_view kSeparator = kFieldSeparator;
-  std::vector<std::wstring_view> fields;
-  fields.reserve(form.size() / 8 + 1);  // about
-  for (;;) {
-    const std::size_t at = form.find(kSeparator);
-    fields.push_back(form.substr(0, at));
-    if (at == std::wstring_view::npos) return fields;
-    form.remove_prefix(at + kSeparator.size());
+  if (m_bEnd) return false;
+  const std::size_t at = m_rest.find(kSeparator);
+  m_bEnd = at == std::wstring_view::npos;
+  field = m_rest.substr(0, at);
+  if (m_nWanted > 0) --m_nWanted;  // of those that are still to come
+  if (!m_bEnd) {
+    m_rest.remove_prefix(at + kSeparator.size());
+  } else if (m_bCut && m_nWanted > 0) {
+    for (int i = 0; i < 2 && field.ends_with(L','); ++i) field.remove_suffix(1);
   }
+  return true;
 }
 
 std::vector<std::wstring_view> SplitStored(std::wstring_view form, std::size_t wanted, bool cut) {
-  std::vector<std::wstring_view> fields = SplitFields(form);
-  std::wstring_view& last = fields.back();
-  for (int i = 0; cut && fields.size() < wanted && i < 2 && last.ends_with(L','); ++i) {
-    last.remove_suffix(1);
-  }
+  std::vector<std::wstring_view> fields;
+  fields.reserve(form.size() / 8 + 1);  // about
+  CStoredFields stored(form, wanted, cut);
+  for (std::wstring_view field; stored.Next(field);) fields.push_back(field);
   return fields;
 }
 
@@ -148,17 +157,19 @@ bool StoredHeading(std::string_view area, CDataTableTitle& title) {
   return title.GetTableTitleNum() == columns;
 }
 
-std::wstring RowForm(const CDataItem& row, int state) {
-  std::wstring form(FormatInt(row.m_nIndex).View());
-  form.reserve(static_cast<std::size_t>(row.GetItemLength() + 1) * 12);  // about
-  const auto add = [&form](std::wstring_view field) {
-    form += kFieldSeparator;
-    form += field;
-  };
-  add(FormatInt(state));
-  for (int i = 0; i < row.GetItemLength(); ++i) add(StoredValue(row[i].m_strValue));
-  return form;
+CRowText::CRowText(const CDataItem& row, int state)
+    : m_strIndex(FormatInt(row.m_nIndex)), m_strState(FormatInt(state)) {
+  m_arrField.reserve(static_cast<std::size_t>(row.GetItemLength()) + 2);
+  m_arrField.push_back(m_strIndex);
+  m_arrField.push_back(m_strState);
+  for (int i = 0; i < row.GetItemLength(); ++i) {
+    m_arrField.push_back(StoredValue(row[i].m_strValue));
+  }
 }
+
+std::wstring CRowText::Form() const { return Joined(m_arrField); }
+
+std::wstring RowForm(const CDataItem& row, int state) { return CRowText(row, state).Form(); }
 
 bool RowOf(std::wstring_view form, const CDataTableTitle& title, bool cut, CDataItem& row) {
   const auto wanted = static_cast<std::size_t>(title.GetTableTitleNum()) + 2;
