@@ -163,10 +163,10 @@ class ORV3CAL_API CDataTable {
   int WriteTableFileInfo(orv3::CStoreFile* file, int storeKind, CDataFileInfo& info);
   // Saves the table: rows that changed, or every row with `bAll`. All of it or nothing; after 0
   // orv3::LastStoreError() says why. After 1 every row can be read again; what a file cuts of a
-  // value, and what is refused, is in tables/table_file_proof.h. What others have saved into the table since it was read is
-  // brought in first and its own rows placed after them; a row that both changed stays as it is
-  // here. A table that was never read from this file is taken as having only rows of its own; with
-  // `bAll` it replaces the one on file.
+  // value, and what is refused, is in tables/table_file_proof.h. What others have saved into the
+  // table since it was read is brought in first and its own rows placed after them; a row that both
+  // changed stays as it is here. A table that was never read from this file is taken as having only
+  // rows of its own; with `bAll` it replaces the one on file.
   int WriteTable(const CString& path, int storeKind, int bAll);
   // Stable indices of the rows that the last WriteTable brought in.
   const CArray<int, int>& GetTakenInIndex() const noexcept { return m_arrTakenIn; }

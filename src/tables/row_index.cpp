@@ -11,9 +11,9 @@ namespace orv3 {
 namespace {
 
 // Floating keys are equal within 1e-6. Each value falls into one bucket of a grid far wider than
-// that, so all values equal to one lie in its bucket or in one beside it. The grid's edges lie where
-// no value with up to five decimals comes within reach of one; whoever does has two hashes instead
-// of one, which doubles with each such column: only the first few are hashed.
+// that, so all values equal to one lie in its bucket or in one beside it. The grid's edges lie
+// where no value with up to five decimals comes within reach of one; whoever does has two hashes
+// instead of one, which doubles with each such column: only the first few are hashed.
 constexpr double kReach = 1.01e-6;
 constexpr double kBucket = 1e-4;
 constexpr double kEdge = 5.5555e-5;

@@ -181,8 +181,8 @@ class CVerify {
     const int needed = BlocksFor(rows);
     if (blocks > needed) {
       Note(name, recordAt,
-           FormatInt(rows) + L" rows need " + FormatInt(needed) + L" blocks, but the record names " +
-               FormatInt(blocks));
+           FormatInt(rows) + L" rows need " + FormatInt(needed) +
+               L" blocks, but the record names " + FormatInt(blocks));
     }
     info.m_nRowNum = FirstRowOf(blocks);
     std::vector<std::string> slots;

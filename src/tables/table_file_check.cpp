@@ -7,8 +7,8 @@
 #include "framework/number_text.h"
 #include "platform/store_file.h"
 #include "tables/data_table.h"
-#include "tables/table_file_directory.h"
 #include "tables/edit_state.h"
+#include "tables/table_file_directory.h"
 #include "tables/table_text.h"
 
 namespace orv3 {

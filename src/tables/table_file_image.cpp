@@ -68,8 +68,8 @@ std::vector<int> SlotsOfRows(const CDataItemArray& rows, const CDataTableTitle& 
   if (inOrder) {
     std::vector<int> slots(static_cast<std::size_t>(rows.GetSize()), -1);
     std::iota(slots.begin(),
-              slots.begin() + static_cast<std::ptrdiff_t>(
-                                  std::min(slots.size(), image.m_arrIndex.size())),
+              slots.begin() +
+                  static_cast<std::ptrdiff_t>(std::min(slots.size(), image.m_arrIndex.size())),
               0);
     return slots;
   }

@@ -58,11 +58,9 @@ bool CTableMerge::Changed(std::size_t slot) const {
 
 bool CTableMerge::SameKey(const CDataItem& a, const CDataItem& b) const {
   if (m_arrKey.IsEmpty()) return a.m_nIndex == b.m_nIndex;
-  return std::all_of(m_arrKey.begin(), m_arrKey.end(),
-                     [&](int column) {
-                       return StoredValue(a[column].m_strValue) ==
-                              StoredValue(b[column].m_strValue);
-                     });
+  return std::all_of(m_arrKey.begin(), m_arrKey.end(), [&](int column) {
+    return StoredValue(a[column].m_strValue) == StoredValue(b[column].m_strValue);
+  });
 }
 
 // Whether the file does not have the row as the table has it: unsaved, or never in this file.

@@ -56,7 +56,7 @@ class CTableMerge {
   std::vector<int> m_arrRowAtSlot;
   std::vector<bool> m_arrPlaced;
   CArray<int, int> m_arrKey;
-  std::vector<int> m_arrCutKey;  // live rows whose key the file cuts
+  std::vector<int> m_arrCutKey;                            // live rows whose key the file cuts
   std::unordered_map<int, std::vector<int>> m_mapByIndex;  // rows that stable indices tell
 };
 

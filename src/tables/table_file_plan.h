@@ -22,8 +22,8 @@ struct CRecordPlan {
   std::string m_strHeading;      // the heading area; empty when it stays
 };
 
-// The file's directory; `directory` as it is for a file too short to have one. 0, like all here, with
-// LastStoreError set.
+// The file's directory; `directory` as it is for a file too short to have one. 0, like all here,
+// with LastStoreError set.
 int ReadOrStart(const CStoreFile& file, CTableDirectory& directory);
 int RefuseSave(const CStoreFile& file, const CString& what);
 int RefuseDamaged(const CStoreFile& file, const CString& table);

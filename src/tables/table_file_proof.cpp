@@ -67,8 +67,9 @@ bool EncodeRecord(const CDataFileInfo& info, std::string& field, CString& why) {
   } else if (const CDataFileInfo back = RecordOf(DecodeText(field));
              back.m_strTableName.IsEmpty() || back.m_strTableName != info.m_strTableName ||
              RecordForm(back) != form) {
-    why = L"its name cannot be stored; a name is not empty, holds no line feed and no \",,,\" and "
-          L"does not end with \",\"";
+    why =
+        L"its name cannot be stored; a name is not empty, holds no line feed and no \",,,\" and "
+        L"does not end with \",\"";
   } else {
     return true;
   }
@@ -79,7 +80,8 @@ bool EncodeHeading(const CDataTableTitle& title, std::string& area, CString& why
   const std::int64_t columns = title.GetTableTitleNum();
   const std::vector<std::wstring> fields = HeadingFields(title);
   bool missing = false;
-  area = EncodeField(HeadingForm(title), static_cast<std::size_t>(HeadingLength(columns)), &missing);
+  area =
+      EncodeField(HeadingForm(title), static_cast<std::size_t>(HeadingLength(columns)), &missing);
   int lost = -1;
   if (columns == 0 || Prove({fields.begin(), fields.end()}, area, missing, lost, why)) return true;
   why = L"its heading " + ColumnText(title, lost < 0 ? -1 : lost / 4) + why;

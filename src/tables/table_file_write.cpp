@@ -156,7 +156,8 @@ int CDataTable::CatchUp(const CStoreFile& file, bool replaceUnknown) {
     return 1;
   }
   const CDataFileInfo info = directory.Record(record);
-  if (info.m_nItemLen != GetTableItemLen()) return orv3::RefuseColumns(file, *this, info.m_nItemLen);
+  if (info.m_nItemLen != GetTableItemLen())
+    return orv3::RefuseColumns(file, *this, info.m_nItemLen);
   auto image = std::make_shared<CTableImage>();
   if (orv3::BlocksOf(info, directory.Offset()).empty() ||
       !orv3::ReadSlots(file, info, image->m_arrSlot)) {
@@ -198,8 +199,8 @@ int CDataTable::CollectRows(const CStoreFile& file, bool all,
     CString why;
     if (!orv3::EncodeRow(row, orv3::StateOnFile(row.m_nModifyType), m_Title, write.m_strSlot,
                          why)) {
-      return orv3::RefuseSave(file, L"table \"" + m_strTableName + L"\", row " +
-                                        orv3::FormatInt(i + 1) + L": " + why);
+      return orv3::RefuseSave(
+          file, L"table \"" + m_strTableName + L"\", row " + orv3::FormatInt(i + 1) + L": " + why);
     }
     writes.push_back(std::move(write));
   }

@@ -64,8 +64,7 @@ class KeyCheck : public ::testing::Test {
   static void Add(CDataTable& table, CDataItem row) {
     int expected = Outcome([&] { return WalkFinds(table, row) ? 0 : 1; });
     if (expected == 1 && !HasSlot(table)) expected = -1;
-    ASSERT_EQ(Outcome([&] { return table.AddTableItem(row, 1); }), expected)
-        << row[0].m_strValue;
+    ASSERT_EQ(Outcome([&] { return table.AddTableItem(row, 1); }), expected) << row[0].m_strValue;
   }
   CMessageCatcher m_messages;
 };
@@ -106,7 +105,8 @@ TEST_F(KeyCheck, ComparesNumbersAsNumbers) {
 TEST_F(KeyCheck, FindsNumbersOnBothSidesOfAnEdge) {
   for (int columns = 1; columns <= 26; columns += 5) {
     CDataTable table;
-    for (int i = 0; i < columns; ++i) table.AddTableCol(L"a", orv3::FormatInt(i), T::KVBT_DOUBLE, 1);
+    for (int i = 0; i < columns; ++i)
+      table.AddTableCol(L"a", orv3::FormatInt(i), T::KVBT_DOUBLE, 1);
     for (const double base : {0.0, 12.0, -7.5, 200.0}) {
       for (double step = 5.0e-5; step < 6.0e-5; step += 2.5e-7) {
         CDataItem row;

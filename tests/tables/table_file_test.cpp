@@ -242,8 +242,7 @@ TEST_F(TableFile, ValuesBeyondACutAreEmpty) {
         const CDataTable read = Loaded(m_path, L"T");
         ASSERT_EQ(read.GetTableRowNum(), 1);
         EXPECT_EQ(read[0][0].m_strValue, row[0].m_strValue);
-        const int room =
-            124 - static_cast<int>(std::to_string(index).size()) - 7 - 2 * first - 3;
+        const int room = 124 - static_cast<int>(std::to_string(index).size()) - 7 - 2 * first - 3;
         EXPECT_EQ(read[0][1].m_strValue, CString(L'号', std::min(second, room / 2)));
         EXPECT_EQ(read[0][2].m_strValue, CString(L"a,bc").Left(std::max(0, room - 2 * second - 3)));
       }

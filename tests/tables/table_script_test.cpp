@@ -54,8 +54,8 @@ bool Splits(const CDataItem& row) {
 
 // Whether a row came back whole or, when it is longer than its slot, up to some place.
 bool ReadsBack(const CDataItem& row, const CDataItem& read) {
-  int size = static_cast<int>(std::to_string(row.m_nIndex).size()) + 4 +
-             (row.m_nModifyType < 0 ? 1 : 0);
+  int size =
+      static_cast<int>(std::to_string(row.m_nIndex).size()) + 4 + (row.m_nModifyType < 0 ? 1 : 0);
   for (const CDataCell& cell : row.m_arrCell) {
     size += 3;
     for (const wchar_t ch : Kept(cell.m_strValue).View()) size += ch > 0x7F ? 2 : 1;
@@ -73,7 +73,8 @@ bool ReadsBack(const CDataItem& row, const CDataItem& read) {
 
 class CScript {
  public:
-  CScript(CMemoryFiles& files, unsigned seed) : m_files(files), m_random(seed), m_keyed(seed % 3 != 0) {
+  CScript(CMemoryFiles& files, unsigned seed)
+      : m_files(files), m_random(seed), m_keyed(seed % 3 != 0) {
     for (CStore& store : m_stores) {
       m_files.Remove(store.path);
       CDataTable other = SectionTable(L"other");
@@ -111,13 +112,11 @@ class CScript {
     return table;
   }
 
-  CString AnyKey() {
-    return OneIn(6) ? CString(L'k', 30) + Name(Any(3)) : Name(Any(40));
-  }
+  CString AnyKey() { return OneIn(6) ? CString(L'k', 30) + Name(Any(3)) : Name(Any(40)); }
   CString AnyValue() {
     static const CString kPlain[] = {L"", L"1", L"12.5", L"a,b", L",a", L"钢", L"200"};
-    static const CString kOdd[] = {CString(L'号', 30), CString(L'z', 31), CString(L'号', 28),
-                                   L"x\ny",            L"a,,,b",          L"a,"};
+    static const CString kOdd[] = {
+        CString(L'号', 30), CString(L'z', 31), CString(L'号', 28), L"x\ny", L"a,,,b", L"a,"};
     return OneIn(5) ? kOdd[Any(std::size(kOdd))] : kPlain[Any(std::size(kPlain))];
   }
   CValues AnyRow() { return {AnyKey(), AnyValue(), AnyValue()}; }
@@ -290,8 +289,8 @@ class CScript {
     ASSERT_EQ(read.GetTableRowNum(), m_table.GetTableRowNum());
     for (int i = 0; i < read.GetTableRowNum(); ++i) {
       const CDataItem& row = std::as_const(m_table)[i];
-      EXPECT_TRUE(ReadsBack(row, read[i]))
-          << i << testing::PrintToString(ValuesOf(row)) << testing::PrintToString(ValuesOf(read[i]));
+      EXPECT_TRUE(ReadsBack(row, read[i])) << i << testing::PrintToString(ValuesOf(row))
+                                           << testing::PrintToString(ValuesOf(read[i]));
     }
     EXPECT_EQ(Rows(Loaded(store.path, L"other")), (std::vector<std::string>{"I0=200", "I1=200"}));
     std::vector<orv3::CStoreFault> faults;
@@ -309,12 +308,12 @@ class CScript {
       found = true;
       const CValues before = ValuesOf(std::as_const(m_table)[i]);
       CDataItem& row = m_table[i];
-      if (row.m_nModifyType >= 0) Forget(before);
+      const bool live = row.m_nModifyType >= 0;
       row[1].m_strValue = row[2].m_strValue = L"0";
-      if (row.m_nModifyType >= 0) m_live.insert(ValuesOf(row));
-      if (row.m_nModifyType == 0 || row.m_nModifyType == 4) ++row.m_nModifyType;
-      if (row.m_nModifyType == 5) row.m_nModifyType = 3;
-      if (row.m_nModifyType == -2) row.m_nModifyType = -1;
+      row.m_nModifyType = !live ? -1 : row.m_nModifyType <= 2 ? 2 : 3;
+      if (!live) continue;
+      Forget(before);
+      m_live.insert(ValuesOf(row));
     }
     EXPECT_TRUE(found) << orv3::LastStoreError().m_strText;
   }
