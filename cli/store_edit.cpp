@@ -18,6 +18,7 @@
 #include "store_place.h"
 #include "store_table.h"
 #include "table_json.h"
+#include "tables/aligned_indices.h"
 #include "tables/file/check.h"
 #include "tables/file/table_store.h"
 
@@ -49,7 +50,7 @@ void SetCell(const CDataTable& table, const std::string& set, CDataItem& row) {
   if (column >= GivenColumns(table.GetTableName(), table.m_Title)) {
     Refuse("--set: \"" + set.substr(0, equals) + "\" is computed from the columns before it");
   }
-  row[column].m_strValue = FromUtf8(set.substr(equals + 1)).Trim();
+  row[column].m_strValue = FromUtf8(set.substr(equals + 1)).Trim(L" \t");
 }
 
 void SetCells(const CDataTable& table, const COptions& options, CDataItem& row) {
@@ -136,6 +137,7 @@ void RunAdd(const COptions& options) {
   const CString name = FromUtf8(options.table);
   if (CLoadDataTable::IsTableNameType(name, kPairs)) Refuse("型钢组合不能进行复制");
   CDataTable table = TableToAddTo(store.Path(), name);
+  AlignIndices(table);
   CDataItem row = EmptyRow(name, table.m_Title);
   SetCells(table, options, row);
   const CRefusalCatcher caught;

@@ -90,26 +90,36 @@ void RunInfo(const COptions& options) {
   }
 }
 
+CJson FaultsJson(const std::vector<CStoreFault>& faults) {
+  CJson list = CJson::array();
+  for (const CStoreFault& fault : faults) {
+    list.push_back({{"table", ToUtf8(fault.m_strTable)},
+                    {"offset", fault.m_nOffset},
+                    {"what", ToUtf8(fault.m_strWhat)}});
+  }
+  return list;
+}
+
+void PrintFaults(const char* kind, const std::vector<CStoreFault>& faults) {
+  for (const CStoreFault& fault : faults) {
+    const std::string table =
+        fault.m_strTable.IsEmpty() ? "file" : "table " + ToUtf8(fault.m_strTable);
+    Print(kind + table + ", at " + std::to_string(fault.m_nOffset) + ": " +
+          ToUtf8(fault.m_strWhat) + "\n");
+  }
+}
+
 void RunVerify(const COptions& options) {
   std::vector<CStoreFault> faults;
-  if (!VerifyStore(FromUtf8(options.file), faults)) FailAsTold();
+  std::vector<CStoreFault> notes;
+  if (!VerifyStore(FromUtf8(options.file), faults, &notes)) FailAsTold();
   if (options.json) {
-    CJson list = CJson::array();
-    for (const CStoreFault& fault : faults) {
-      list.push_back({{"table", ToUtf8(fault.m_strTable)},
-                      {"offset", fault.m_nOffset},
-                      {"what", ToUtf8(fault.m_strWhat)}});
-    }
-    PrintJson({{"ok", faults.empty()}, {"faults", list}});
-  } else if (faults.empty()) {
-    Print("whole: no fault found\n");
+    PrintJson(
+        {{"ok", faults.empty()}, {"faults", FaultsJson(faults)}, {"notes", FaultsJson(notes)}});
   } else {
-    for (const CStoreFault& fault : faults) {
-      const std::string table =
-          fault.m_strTable.IsEmpty() ? "file" : "table " + ToUtf8(fault.m_strTable);
-      Print(table + ", at " + std::to_string(fault.m_nOffset) + ": " + ToUtf8(fault.m_strWhat) +
-            "\n");
-    }
+    if (faults.empty()) Print("whole: no fault found\n");
+    PrintFaults("", faults);
+    PrintFaults("note: ", notes);
   }
   if (!faults.empty()) throw CExit::FileTrouble;
 }

@@ -13,8 +13,9 @@ CDataTable::CDataTable(const CDataTable& other)
       m_strTableName(other.m_strTableName),
       m_Title(other.m_Title),
       m_arrItem(other.m_arrItem),
-      m_pParentTable(other.m_pParentTable),
-      m_pImage(other.m_pImage) {}
+      m_pParentTable(other.m_pParentTable) {
+  CopyImages(other);
+}
 
 CDataTable& CDataTable::operator=(const CDataTable& other) {
   if (this == &other) throw CInvalidArgException("CDataTable: a table was assigned to itself");
@@ -23,7 +24,7 @@ CDataTable& CDataTable::operator=(const CDataTable& other) {
   m_Title = other.m_Title;
   m_arrItem = other.m_arrItem;
   m_pParentTable = other.m_pParentTable;
-  m_pImage = other.m_pImage;
+  CopyImages(other);
   return *this;
 }
 

@@ -24,6 +24,7 @@ namespace orv3 {
 class CRowIndex;
 class CStoreFile;
 class CTableMerge;
+struct CRecordPlan;
 struct CTableImage;
 struct CSearchExpression;
 }  // namespace orv3
@@ -162,10 +163,11 @@ class ORV3CAL_API CDataTable {
   // CStoreFile it lasts once that is committed. Store kinds: 0 system, 1 user, 2 current.
   int WriteTableFileInfo(orv3::CStoreFile* file, int storeKind, CDataFileInfo& info);
   // Saves the table: rows that changed, or every row with `bAll`. All of it or nothing; after 0
-  // orv3::LastStoreError() says why. What others have saved into the table since it was read is
-  // brought in first and its own rows placed after them; a row that both changed stays as it is
-  // here. A table that was never read from this file is taken as having only rows of its own; with
-  // `bAll` it replaces the one on file.
+  // orv3::LastStoreError() says why. After 1 every row can be read again; what a file cuts of a
+  // value, and what is refused, is in tables/table_file_proof.h. What others have saved into the
+  // table since it was read is brought in first and its own rows placed after them; a row that both
+  // changed stays as it is here. A table that was never read from this file is taken as having only
+  // rows of its own; with `bAll` it replaces the one on file.
   int WriteTable(const CString& path, int storeKind, int bAll);
   // Stable indices of the rows that the last WriteTable brought in.
   const CArray<int, int>& GetTakenInIndex() const noexcept { return m_arrTakenIn; }
@@ -219,14 +221,25 @@ class ORV3CAL_API CDataTable {
 
   CString StorePath(const wchar_t* name);
   struct CRowWrite;
+  friend class orv3::CTableMerge;
+  bool TakeUpImage(const CString& path);
+  std::vector<int> SlotsIn() const;
   int CatchUp(const orv3::CStoreFile& file, bool replaceUnknown);
   void TakeIn(const orv3::CTableMerge& merge);
   void SeparateIndices(const orv3::CTableImage& image);
   int CollectRows(const orv3::CStoreFile& file, bool all, std::vector<CRowWrite>& writes) const;
-  int WriteHeading(orv3::CStoreFile& file, const CDataFileInfo& info) const;
+  int PlanRecord(const orv3::CStoreFile& file, int storeKind, orv3::CRecordPlan& plan) const;
+  int PlanHeading(const orv3::CStoreFile& file, orv3::CRecordPlan& plan) const;
+  void CopyImages(const CDataTable& other);
   void MarkSaved(const orv3::CStoreFile& file, const std::vector<CRowWrite>& writes);
 
   mutable std::unique_ptr<orv3::CRowIndex> m_pIndex;
   std::shared_ptr<orv3::CTableImage> m_pImage;  // what is on file; null before reading and saving
+  // Of the files that the table was saved to before the last one, the latest first: its edit states
+  // tell nothing of them, but they do what has changed since.
+  std::vector<std::shared_ptr<orv3::CTableImage>> m_arrEarlierImage;
+  // The rows' arrangement in which each slot of m_pImage has its row at its position.
+  static constexpr unsigned long long kNoArrangement = ~0ULL;
+  unsigned long long m_nImageArrangement = kNoArrangement;
   CArray<int, int> m_arrTakenIn;
 };

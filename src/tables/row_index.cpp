@@ -10,10 +10,14 @@
 namespace orv3 {
 namespace {
 
-// Floating keys are equal within 1e-6. Each value falls into one bucket four times as wide, so all
-// values equal to one lie in its bucket or in one beside it.
+// Floating keys are equal within 1e-6. Each value falls into one bucket of a grid far wider than
+// that, so all values equal to one lie in its bucket or in one beside it. The grid's edges lie
+// where no value with up to five decimals comes within reach of one; whoever does has two hashes
+// instead of one, which doubles with each such column: only the first few are hashed.
 constexpr double kReach = 1.01e-6;
-constexpr double kBucket = 4e-6;
+constexpr double kBucket = 1e-4;
+constexpr double kEdge = 5.5555e-5;
+constexpr int kHashedFloating = 4;
 
 constexpr int kAbsent = -2;
 
@@ -24,7 +28,7 @@ std::uint64_t Mix(std::uint64_t seed, std::uint64_t value) noexcept {
 }
 
 std::uint64_t BucketHash(double value) noexcept {
-  return std::hash<double>()(std::floor(value / kBucket) + 0.0);
+  return std::hash<double>()(std::floor((value - kEdge) / kBucket) + 0.0);
 }
 
 // The hash of a cell that is not floating.
@@ -159,8 +163,10 @@ void CRowIndex::LookAgain(const CDataItemArray& rows) {
 
 std::vector<int> CRowIndex::KeyCandidates(const CDataItem& row) const {
   std::vector<std::uint64_t> hashes{0};
+  int floating = 0;
   for (const CKeyColumn& column : m_arrKey) {
     const CString& text = row[column.m_nKey].m_strValue;
+    if (column.m_nClass == CValueClass::Floating && floating++ >= kHashedFloating) continue;
     if (column.m_nClass != CValueClass::Floating) {
       const std::uint64_t part = ExactHash(column.m_nClass, text);
       for (std::uint64_t& hash : hashes) hash = Mix(hash, part);
@@ -259,7 +265,9 @@ bool CRowIndex::HasKey(const CDataItem& row) const noexcept {
 
 std::uint64_t CRowIndex::KeyHash(const CDataItem& row) const {
   std::uint64_t hash = 0;
+  int floating = 0;
   for (const CKeyColumn& column : m_arrKey) {
+    if (column.m_nClass == CValueClass::Floating && floating++ >= kHashedFloating) continue;
     const CString& text = row[column.m_nCompare].m_strValue;
     hash = Mix(hash, column.m_nClass == CValueClass::Floating ? BucketHash(ToDouble(text))
                                                               : ExactHash(column.m_nClass, text));

@@ -118,13 +118,35 @@ TEST_F(StoreCommand, RefusesWhatCannotBeKeptAndLeavesTheStore) {
       {On("edit 我的表 I20a --set a=" + wide + " --set b=" + wide),
        {"bytes, but the file has room"}},
       {On("add 我的表 --set No.=x --set a=,,,"), {"含有逗号"}},
+      {On("edit 我的表 I20a --set \"a=7\n\""), {"line feed"}},
       {On("import " + Quoted(L"none.kvb")), {"not found"}, 3},
       // A refused row starts no store.
       {"store add " + kH + " --set No.=a --store " + Quoted(L"new.KDB") + kData, {}},
   });
+  for (const char* name : {"a,", ","}) {  // which would meet the separator behind it
+    const Json told = Import("--table " + std::string(name) + " " + Quoted(L"I.csv"), 2);
+    ExpectHas(told[0]["why"], {"ends with \",\""});
+  }
   EXPECT_TRUE(FileBytes(m_store) == before);
   EXPECT_FALSE(Exists(m_folder.Path(L"new.KDB")));
   EXPECT_EQ(Run(AddH("H3")).m_nExit, 0);
+}
+
+// The first row was deleted before the first save, so that no index is its row's position.
+TEST_F(StoreCommand, ANewRowTakesADeletedRowsPlaceAndNoOther) {
+  {
+    CDataTable table;
+    table.SetTableName(L"我的");
+    table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
+    for (const wchar_t* no : {L"A", L"B", L"C"}) ASSERT_EQ(table.AddTableItem(no, 1), 1);
+    ASSERT_EQ(table.DeleteTableItem(0), 1);
+    ASSERT_EQ(table.WriteTable(orv3::FromUtf8(m_store), 0, 0), 1);
+  }
+  ASSERT_EQ(Run("delete 我的 B").m_nExit, 0);
+  ASSERT_EQ(Run("add 我的 --set No.=D").m_nExit, 0);
+  EXPECT_EQ(Rows("我的")["rows"].size(), 2U);
+  EXPECT_EQ(Cell("我的", "No."), "D");
+  EXPECT_EQ(JsonOf("store info \"" + m_store + "\"")["tables"][0]["deleted"], 0);
 }
 
 TEST_F(StoreCommand, RefusesAHundredthTableAndARecordThatDoesNotFit) {
@@ -248,7 +270,15 @@ TEST_F(StoreCommand, TellsFaultsOfATableFile) {
   EXPECT_EQ(told["ok"], false);
   EXPECT_EQ(told["faults"][0]["table"], kH);
   EXPECT_EQ(told["faults"][0]["offset"], 20100 + 3200);
-  EXPECT_EQ(JsonOf("store verify \"" + m_store + "\"")["ok"], true);
+  EXPECT_EQ(JsonOf("store verify \"" + m_store + "\""),
+            (Json{{"ok", true}, {"faults", Json::array()}, {"notes", Json::array()}}));
+  bytes = FileBytes(m_store);
+  bytes.replace(20100 + 3200 + 1081, 8, "\x26\x22\x22\x22\x26\x22\x22\x22");  // a second row
+  Put(L"longer.KDB", bytes);
+  const Json notes = JsonOf("store verify " + Quoted(L"longer.KDB"))["notes"];
+  ASSERT_EQ(notes.size(), 1U);
+  EXPECT_EQ(notes[0]["table"], kH);
+  EXPECT_EQ(notes[0]["offset"], 20100 + 3200 + 1081);
   ExpectRefused({{"store info " + Quoted(L"none.KDB"), {}, 3}});
 }
 

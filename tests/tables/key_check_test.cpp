@@ -64,8 +64,7 @@ class KeyCheck : public ::testing::Test {
   static void Add(CDataTable& table, CDataItem row) {
     int expected = Outcome([&] { return WalkFinds(table, row) ? 0 : 1; });
     if (expected == 1 && !HasSlot(table)) expected = -1;
-    ASSERT_EQ(Outcome([&] { return table.AddTableItem(row, 1); }), expected)
-        << row[0].m_strValue.View().size();
+    ASSERT_EQ(Outcome([&] { return table.AddTableItem(row, 1); }), expected) << row[0].m_strValue;
   }
   CMessageCatcher m_messages;
 };
@@ -99,6 +98,23 @@ TEST_F(KeyCheck, ComparesNumbersAsNumbers) {
   EXPECT_EQ(table.GetTableRowNum(), 3);
   for (const wchar_t* a : {L"0", L"-0", L"1e-7", L"1e999", L"1e999", L"-1e999", L"1e300"}) {
     Add(table, Row(table, a, L"7"));
+  }
+}
+
+// Around the places where the index parts the numbers, and with more columns than it hashes.
+TEST_F(KeyCheck, FindsNumbersOnBothSidesOfAnEdge) {
+  for (int columns = 1; columns <= 26; columns += 5) {
+    CDataTable table;
+    for (int i = 0; i < columns; ++i)
+      table.AddTableCol(L"a", orv3::FormatInt(i), T::KVBT_DOUBLE, 1);
+    for (const double base : {0.0, 12.0, -7.5, 200.0}) {
+      for (double step = 5.0e-5; step < 6.0e-5; step += 2.5e-7) {
+        CDataItem row;
+        row.SetItemTitle(table.m_Title);
+        for (int i = 0; i < columns; ++i) row[i].m_strValue = orv3::FormatFixed(base + step, 9);
+        Add(table, row);
+      }
+    }
   }
 }
 

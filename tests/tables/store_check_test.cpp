@@ -116,6 +116,11 @@ TEST_F(StoreCheck, EachFaultOfAFileIsNamedByItsPlace) {
       {"same name", with(kRecord + 200, field("A,,,91,,,1,,,20100")), kRecord + 200, 2},
       {"hidden record", with(kRecord + 400, "B"), kRecord + 400},
       {"heading", with(kFirst, field("a,,,b")), kFirst},
+      {"heading fields", with(kFirst, field("a,,,b,,,0,,,0,,,c,,,d,,,0")), kFirst},
+      {"heading key", with(kFirst, field("a,,,b,,,2,,,0,,,c,,,d,,,0,,,4")), kFirst},
+      {"heading type", with(kFirst, field("a,,,b,,,1,,,x,,,c,,,d,,,0,,,7")), kFirst, 2},
+      {"heading text", with(kFirst, golden::Fake("\xFF")), kFirst},
+      {"record text", with(kRecord, field("A\xFF,,,91,,,2,,,20100")), kRecord},
       {"row fields", with(kFirst + 291, golden::Field("1,,,0", 91)), kFirst + 291},
       {"row text", with(kFirst + 208, golden::Fake("\xFF")), kFirst + 200},
   };
@@ -127,6 +132,24 @@ TEST_F(StoreCheck, EachFaultOfAFileIsNamedByItsPlace) {
     ASSERT_EQ(faults.size(), c.faults);
     EXPECT_EQ(faults[0].m_nOffset, c.offset) << faults[0].m_strWhat;
   }
+}
+
+TEST_F(StoreCheck, WhatAForcedSaveOfFewerRowsLeavesIsNoted) {
+  CDataTable table = SectionTable(L"A");
+  FillUp(table, 97);
+  ASSERT_EQ(Save(table), 1);
+  std::vector<orv3::CStoreFault> faults;
+  std::vector<orv3::CStoreFault> notes;
+  EXPECT_TRUE(orv3::VerifyStore(m_path, faults, &notes));
+  EXPECT_TRUE(faults.empty() && notes.empty());
+  table.m_arrItem.SetSize(2);
+  ASSERT_EQ(Save(table, 1), 1);
+  EXPECT_TRUE(orv3::VerifyStore(m_path, faults, &notes));
+  EXPECT_TRUE(faults.empty());
+  ASSERT_EQ(notes.size(), 2U);
+  EXPECT_EQ(notes[0].m_strWhat, L"2 rows need 1 blocks, but the record names 2");
+  EXPECT_EQ(notes[1].m_strWhat, L"95 rows lie behind the record's count of 2");
+  EXPECT_EQ(notes[1].m_nOffset, static_cast<std::int64_t>(kFirst + 200 + 2 * 91));
 }
 
 }  // namespace

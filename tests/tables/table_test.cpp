@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "print.h"
+#include "tables/aligned_indices.h"
 
 namespace {
 
@@ -155,6 +156,18 @@ TEST(TableRows, TheSlotIsThePositionOfTheIndex) {
   gone.m_arrItem[0].m_nIndex = 5;
   gone.DeleteTableItem(5);
   EXPECT_THROW(gone.AddTableItem(L"new,1,1", 1), CInvalidArgException);
+}
+
+// The first row was deleted before its first save: no index is its row's position.
+TEST(TableRows, AlignedATableGivesANewRowTheDeletedRowsPlace) {
+  CDataTable table = Loaded(3);
+  table.m_arrItem.RemoveAt(0);
+  orv3::AlignIndices(table);
+  EXPECT_EQ(table[1].m_nIndex, 1);
+  EXPECT_EQ(table[1].m_nModifyType, 2);
+  EXPECT_EQ(table.DeleteTableItem(0), 1);
+  EXPECT_EQ(table.AddTableItem(L"new,1,1", 1), 1);
+  EXPECT_EQ(Names(table), (std::vector<std::wstring>{L"new", L"I30"}));
 }
 
 TEST(TableRows, AnUncheckedRowIsAppendedAsItIs) {

@@ -9,6 +9,7 @@
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
+#include "tables/aligned_indices.h"
 #include "tables/file/check.h"
 #include "tables/file/table_store.h"
 
@@ -69,6 +70,7 @@ class CTableMerger {
     } else if (!m_target.m_Title.IsEqualOf(m_source.m_Title)) {
       m_result.m_strWhy = OtherHeading();
     }
+    AlignIndices(m_target);
     m_hasKey = HasKey();
     if (!m_hasKey) {
       for (const CDataItem& row : std::as_const(m_target).m_arrItem) {

@@ -8,6 +8,7 @@
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/store_failure.h"
 #include "platform/store_file.h"
+#include "tables/aligned_indices.h"
 #include "tables/file/table_store.h"
 
 namespace orv3 {
@@ -18,20 +19,6 @@ bool IsUnsavedState(int state) { return state == 1 || state == 2 || state == 3 |
 bool SameValues(const CDataItem& a, const CDataItem& b) {
   return std::equal(a.m_arrCell.begin(), a.m_arrCell.end(), b.m_arrCell.begin(), b.m_arrCell.end(),
                     [](const auto& x, const auto& y) { return x.m_strValue == y.m_strValue; });
-}
-
-// Gives every row its position as its stable index. A new row takes over a deleted row's index and
-// with it the position of that number, which must not be another row's.
-void AlignIndices(CDataTable& table) {
-  for (int i = 0; i < table.GetTableRowNum(); ++i) {
-    if (std::as_const(table)[i].m_nIndex == i) continue;
-    CDataItem& row = table[i];
-    row.m_nIndex = i;
-    row.m_nModifyType = row.m_nModifyType == 0   ? 2
-                        : row.m_nModifyType == 4 ? 3
-                        : row.m_nModifyType < 0  ? -1
-                                                 : row.m_nModifyType;
-  }
 }
 
 bool SayFailed(const wchar_t* what) {

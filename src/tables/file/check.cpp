@@ -7,8 +7,8 @@
 #include "framework/number_text.h"
 #include "platform/store_file.h"
 #include "tables/data_table.h"
+#include "tables/edit_state.h"
 #include "tables/file/directory.h"
-#include "tables/file/merge.h"
 #include "tables/file/table_text.h"
 
 namespace orv3 {
@@ -19,7 +19,7 @@ class CCheck {
   explicit CCheck(const CDataTable& table) : m_table(table) {}
 
   void Table(const CString& path) {
-    Text(-1, -1, L"name", m_table.m_strTableName, CDataTable::kMaxTableName, true);
+    Text(-1, -1, L"name", m_table.m_strTableName, CDataTable::kMaxTableName, false);
     if (m_table.m_strTableName.IsEmpty()) Add(-1, -1, L"a table without a name cannot be stored");
     Heading();
     Directory(path);
@@ -81,6 +81,11 @@ class CCheck {
     for (int i = 0; i < title.GetTableTitleNum(); ++i) {
       Text(-1, i, L"title", title[i].m_strName, CDataTypeStruct::kMaxName, false);
       Text(-1, i, L"sign", title[i].m_strSign, CDataTypeStruct::kMaxSign, false);
+      if (title[i].m_bKey != 0 && title[i].m_bKey != 1) Add(-1, i, L"a key flag is 0 or 1");
+      if (title[i].m_nType < CDataTypeStruct::KVBT_STRING ||
+          title[i].m_nType > CDataTypeStruct::KVBT_CHAR) {
+        Add(-1, i, L"a type is 0 to 6");
+      }
     }
     Size(-1, HeadingForm(title), m_table.GetTableTitleLen());
   }
@@ -109,7 +114,9 @@ class CCheck {
       }
       info.m_arrBlockPos.Add(static_cast<std::int32_t>(end));
     }
-    Size(-1, RecordForm(info), kRecordSize);
+    // With its ending zero: a full record cannot be told from a cut one.
+    const std::int64_t size = std::ssize(EncodeText(RecordForm(info))) + 1;
+    if (size > kRecordSize) Add(-1, -1, Count(size, L"bytes", kRecordSize));
   }
 
   const CDataTable& m_table;

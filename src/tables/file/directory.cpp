@@ -75,9 +75,9 @@ int CTableDirectory::Find(const CString& table) const {
   return -1;
 }
 
-void CTableDirectory::SetRecord(int i, const CDataFileInfo& info) {
+void CTableDirectory::SetRecord(int i, const std::string& field) {
   const auto at = kInfoLineSize + kRecordSize * static_cast<std::size_t>(i);
-  m_strBytes.replace(at, kRecordSize, EncodeField(RecordForm(info), kRecordSize));
+  m_strBytes.replace(at, kRecordSize, field);
 }
 
 bool Overlap(std::vector<CFileRange> ranges) {

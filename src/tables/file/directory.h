@@ -41,7 +41,7 @@ class CTableDirectory {
   CString Name(int i) const;             // Record(i).m_strTableName alone
   int Find(const CString& table) const;  // the table's record; -1 when there is none
   bool IsFull() const { return Count() >= kMaxTables; }
-  void SetRecord(int i, const CDataFileInfo& info);
+  void SetRecord(int i, const std::string& field);  // 200 bytes
   bool HasEndMark() const { return m_strBytes.back() == '#'; }
   std::string_view RecordBytes(int i) const;
 

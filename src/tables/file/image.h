@@ -19,8 +19,12 @@ struct CTableImage {
   std::vector<int> m_arrIndex;         // the rows' stable indices
 };
 
-// For each row the slot that holds it, -1 for a row that has none: the slot at its position if that
-// carries its stable index, else another one that does. No slot is given twice.
-std::vector<int> SlotsOfRows(const CDataItemArray& rows, const CTableImage& image);
+// For each row the slot that holds it, -1 for a row that has none. No slot is given twice.
+//
+// `inOrder` says that each slot's row still has its position. Otherwise a row is known by its
+// stable index, which other rows may share: an unchanged row by what its slot holds as well, any
+// other row by an index that none of those has, if possible at its own position.
+std::vector<int> SlotsOfRows(const CDataItemArray& rows, const CDataTableTitle& title,
+                             const CTableImage& image, bool inOrder);
 
 }  // namespace orv3

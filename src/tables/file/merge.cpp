@@ -1,22 +1,31 @@
 #include "tables/file/merge.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "framework/number_text.h"
+#include "tables/edit_state.h"
 #include "tables/file/table_text.h"
 
 namespace orv3 {
 
-bool IsUnsaved(int state) { return state != 0 && state != 4 && state != -2; }
+namespace {
+
+bool HasNeverBeenSaved(const CDataItem& row) {
+  return row.m_nModifyType == 1 || row.m_nModifyType == 3;
+}
+
+}  // namespace
 
 CTableMerge::CTableMerge(const CDataTable& table, const CTableImage& before,
-                         const std::vector<std::string>& slots, int slotLength)
+                         std::vector<int> slotsOfRows, const std::vector<std::string>& slots,
+                         int slotLength)
     : m_arrFileRow(slots.size()),
       m_table(table),
       m_before(before),
       m_slots(slots),
       m_nSlotLength(slotLength),
-      m_arrSlotOfRow(SlotsOfRows(table.m_arrItem, before)),
+      m_arrSlotOfRow(std::move(slotsOfRows)),
       m_arrRowAtSlot(before.m_arrSlot.size(), -1),
       m_arrPlaced(m_arrSlotOfRow.size(), false) {
   for (std::size_t i = 0; i < m_arrSlotOfRow.size(); ++i) {
@@ -24,6 +33,19 @@ CTableMerge::CTableMerge(const CDataTable& table, const CTableImage& before,
     if (slot >= 0) m_arrRowAtSlot[static_cast<std::size_t>(slot)] = static_cast<int>(i);
   }
   table.m_Title.GetDataTableKeyIndex(m_arrKey);
+  const bool seen = !before.m_strPath.IsEmpty();
+  for (int i = 0; i < table.GetTableRowNum(); ++i) {
+    const CDataItem& row = table.m_arrItem[i];
+    if (row.m_nModifyType < 0) continue;
+    const bool cut = std::any_of(m_arrKey.begin(), m_arrKey.end(), [&](int column) {
+      const CString& value = row[column].m_strValue;
+      return StoredValue(value) != value.View();
+    });
+    if (cut) m_arrCutKey.push_back(i);
+    if (m_arrKey.IsEmpty() && !seen && !HasNeverBeenSaved(row)) {
+      m_mapByIndex[row.m_nIndex].push_back(i);
+    }
+  }
 }
 
 bool CTableMerge::Decode(const std::string& slot, CDataItem& row) const {
@@ -36,8 +58,9 @@ bool CTableMerge::Changed(std::size_t slot) const {
 
 bool CTableMerge::SameKey(const CDataItem& a, const CDataItem& b) const {
   if (m_arrKey.IsEmpty()) return a.m_nIndex == b.m_nIndex;
-  return std::all_of(m_arrKey.begin(), m_arrKey.end(),
-                     [&](int column) { return a[column].m_strValue == b[column].m_strValue; });
+  return std::all_of(m_arrKey.begin(), m_arrKey.end(), [&](int column) {
+    return StoredValue(a[column].m_strValue) == StoredValue(b[column].m_strValue);
+  });
 }
 
 // Whether the file does not have the row as the table has it: unsaved, or never in this file.
@@ -54,7 +77,27 @@ int CTableMerge::Counterpart(std::size_t slot, const CDataItem& row) const {
       return m_arrRowAtSlot[slot];
     }
   }
-  return row.m_nModifyType < 0 ? -1 : m_table.IsHaveValue(row, -1);
+  if (row.m_nModifyType < 0) return -1;
+  return m_arrKey.IsEmpty() ? WithIndexOf(row) : WithKeyOf(row);
+}
+
+int CTableMerge::WithKeyOf(const CDataItem& row) const {
+  for (const int position : m_table.FindByKey(row)) {
+    if (!IsPlaced(position)) return position;
+  }
+  for (const int position : m_arrCutKey) {
+    if (!IsPlaced(position) && SameKey(m_table.m_arrItem[position], row)) return position;
+  }
+  return -1;
+}
+
+int CTableMerge::WithIndexOf(const CDataItem& row) const {
+  const auto found = m_mapByIndex.find(row.m_nIndex);
+  if (found == m_mapByIndex.end()) return -1;
+  for (const int position : found->second) {
+    if (!IsPlaced(position)) return position;
+  }
+  return -1;
 }
 
 void CTableMerge::Place(const CMergedRow& merged) {
@@ -65,7 +108,7 @@ void CTableMerge::Place(const CMergedRow& merged) {
 bool CTableMerge::MergeSlot(std::size_t slot) {
   if (!Changed(slot)) {
     const int position = m_arrRowAtSlot[slot];
-    if (position >= 0 && !m_arrPlaced[static_cast<std::size_t>(position)]) {
+    if (position >= 0 && !IsPlaced(position)) {
       Place({position, -1, false});
     }
     return true;  // without a row the table has taken it out
@@ -73,7 +116,7 @@ bool CTableMerge::MergeSlot(std::size_t slot) {
   CDataItem& row = m_arrFileRow[slot];
   if (!Decode(m_slots[slot], row)) return false;
   int position = Counterpart(slot, row);
-  if (position >= 0 && m_arrPlaced[static_cast<std::size_t>(position)]) position = -1;
+  if (position >= 0 && IsPlaced(position)) position = -1;
   Place({position, static_cast<int>(slot), position < 0 || !IsOwnChange(position)});
   return true;
 }
@@ -91,10 +134,9 @@ bool CTableMerge::Run() {
     if (!MergeSlot(slot)) return false;
   }
   for (int i = 0; i < m_table.GetTableRowNum(); ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    if (m_arrPlaced[at] || !IsOwnChange(i)) continue;  // the latter: gone from the file
-    // A row that the file no longer has needs no deletion there.
-    if (m_arrSlotOfRow[at] >= 0 && m_table.m_arrItem[i].m_nModifyType < 0) continue;
+    if (IsPlaced(i) || !IsOwnChange(i)) continue;  // the latter: gone from the file
+    // A row that the file does not have needs no deletion there.
+    if (m_table.m_arrItem[i].m_nModifyType < 0) continue;
     Place({i, -1, false});
   }
   return true;

@@ -25,17 +25,6 @@ int Damaged(const CString& path, const CString& table, const wchar_t* what) {
   return SetStoreError(CStoreTrouble::Damaged, path, path + L": table \"" + table + L"\": " + what);
 }
 
-// The heading of a stored table. A heading cut at the end of its area has lost columns; they become
-// nameless ones, since the rows still hold their values. False when it does not go with the slots.
-bool TakeHeading(const std::string& stored, int columns, CDataTableTitle& title) {
-  title = orv3::HeadingOf(orv3::DecodeText(stored));
-  const bool cut = orv3::FieldBytes(stored).size() == stored.size();
-  while (cut && title.GetTableTitleNum() < columns) {
-    title.InsertColumn(title.GetTableTitleNum(), CDataTypeStruct());
-  }
-  return title.GetTableTitleNum() == columns;
-}
-
 }  // namespace
 
 namespace orv3 {
@@ -93,7 +82,7 @@ int CDataTable::GetTable(const CString& path, CString& infoLine) {
     return Damaged(path, m_strTableName, L"its rows cannot be read");
   }
   CDataTableTitle title;
-  if (!TakeHeading(heading, orv3::ColumnsOf(info.m_nItemLen), title)) {
+  if (!orv3::StoredHeading(heading, title)) {
     return Damaged(path, m_strTableName, L"its heading does not go with its rows");
   }
   CDataItemArray rows;
@@ -110,6 +99,7 @@ int CDataTable::GetTable(const CString& path, CString& infoLine) {
   }
 
   m_Title = title;
+  const bool wasEmpty = m_arrItem.IsEmpty();
   m_arrItem.Append(rows);
   SetTableFileInfo(line);
   infoLine = line;
@@ -117,6 +107,8 @@ int CDataTable::GetTable(const CString& path, CString& infoLine) {
   image->m_strTable = m_strTableName;
   image->m_stamp = file->Stamp();
   m_pImage = std::move(image);
+  m_arrEarlierImage.clear();
+  m_nImageArrangement = wasEmpty ? m_arrItem.Arrangement() : kNoArrangement;
   return 1;
 }
 

@@ -1,7 +1,9 @@
 #include "tables/file/store_check.h"
 
+#include <algorithm>
 #include <set>
 #include <string>
+#include <utility>
 
 #include "framework/number_text.h"
 #include "platform/store_error.h"
@@ -31,8 +33,8 @@ int StateOf(const std::string& slot) {
 
 class CVerify {
  public:
-  CVerify(const CStoreFile& file, std::vector<CStoreFault>& faults)
-      : m_file(file), m_faults(faults) {}
+  CVerify(const CStoreFile& file, std::vector<CStoreFault>& faults, std::vector<CStoreFault>& notes)
+      : m_file(file), m_faults(faults), m_notes(notes) {}
 
   void Run() {
     if (!m_directory.Read(m_file)) {
@@ -58,6 +60,16 @@ class CVerify {
     m_faults.push_back({table, offset, what});
   }
 
+  void Note(const CString& table, std::int64_t offset, const CString& what) {
+    m_notes.push_back({table, offset, what});
+  }
+
+  void Text(const CString& table, std::int64_t offset, const CString& part, const CString& text) {
+    if (text.Find(wchar_t{0xFFFD}) >= 0) {
+      Add(table, offset, part + L" has bytes that are no text of the code page");
+    }
+  }
+
   std::int64_t RecordAt(int i) const {
     return m_directory.Offset() + kInfoLineSize + std::int64_t{kRecordSize} * i;
   }
@@ -70,6 +82,7 @@ class CVerify {
     if (FieldBytes(m_directory.RecordBytes(i)).size() == kRecordSize) {
       Add(name, at, L"the record fills its 200 bytes and may be cut");
     }
+    Text(name, at, L"the record", DecodeText(m_directory.RecordBytes(i)));
     if (!IsSlotLength(info.m_nItemLen)) {
       return Add(name, at, L"slot length " + FormatInt(info.m_nItemLen) + L" is not 33 n + 25");
     }
@@ -83,6 +96,7 @@ class CVerify {
     if (!Blocks(info, at) || BlocksOf(info, m_directory.Offset()).empty()) return;
     Heading(info);
     Rows(info);
+    LeftOver(info, at);
   }
 
   bool Blocks(const CDataFileInfo& info, std::int64_t recordAt) {
@@ -107,15 +121,33 @@ class CVerify {
   void Heading(const CDataFileInfo& info) {
     std::string stored;
     if (!ReadHeading(m_file, info, stored)) return;
+    const CString& name = info.m_strTableName;
     const std::int64_t at = info.m_arrBlockPos[0];
-    const int columns = ColumnsOf(info.m_nItemLen);
-    const int titled = HeadingOf(DecodeText(stored)).GetTableTitleNum();
-    if (columns > 0 && FieldBytes(stored).size() == stored.size()) {
-      Add(info.m_strTableName, at, L"the heading fills its area and may be cut");
+    const auto wanted = 4 * static_cast<std::size_t>(ColumnsOf(info.m_nItemLen));
+    const bool full = wanted > 0 && FieldBytes(stored).size() == stored.size();
+    if (full) Add(name, at, L"the heading fills its area and may be cut");
+    const CString form = DecodeText(stored);
+    Text(name, at, L"the heading", form);
+    const std::vector<std::wstring_view> fields = SplitStored(form, wanted, full);
+    const std::size_t count = form.IsEmpty() ? 0 : fields.size();
+    if (full ? count > wanted : count != wanted) {
+      return Add(name, at,
+                 L"the heading has " + FormatInt(std::ssize(fields)) + L" fields instead of " +
+                     FormatInt(static_cast<int>(wanted)) + L", 4 for each column of the rows");
     }
-    if (titled != columns) {
-      Add(info.m_strTableName, at,
-          L"the heading has " + FormatInt(titled) + L" columns, the rows " + FormatInt(columns));
+    for (std::size_t i = 0; i + 4 <= count; i += 4) Column(name, at, &fields[i]);
+  }
+
+  void Column(const CString& table, std::int64_t at, const std::wstring_view* fields) {
+    const auto isDigit = [](std::wstring_view text, wchar_t last) {
+      return text.size() == 1 && text[0] >= L'0' && text[0] <= last;
+    };
+    const CString column = L"column \"" + CString(fields[1]) + L"\": ";
+    if (!isDigit(fields[2], L'1')) {
+      Add(table, at, column + L"the key flag \"" + CString(fields[2]) + L"\" is not 0 or 1");
+    }
+    if (!isDigit(fields[3], L'6')) {
+      Add(table, at, column + L"the type \"" + CString(fields[3]) + L"\" is not 0 to 6");
     }
   }
 
@@ -137,14 +169,36 @@ class CVerify {
             row + L" has " + FormatInt(static_cast<int>(fields)) + L" fields instead of " +
                 FormatInt(static_cast<int>(wanted)));
       }
-      if (form.Find(wchar_t{0xFFFD}) >= 0) {
-        Add(info.m_strTableName, at, row + L" has bytes that are no text of the code page");
-      }
+      Text(info.m_strTableName, at, row, form);
     }
+  }
+
+  // What a save of fewer rows leaves behind, and what is left of rows whose count was lost.
+  void LeftOver(CDataFileInfo info, std::int64_t recordAt) {
+    const CString& name = info.m_strTableName;
+    const int rows = info.m_nRowNum;
+    const int blocks = info.m_arrBlockPos.GetSize();
+    const int needed = BlocksFor(rows);
+    if (blocks > needed) {
+      Note(name, recordAt,
+           FormatInt(rows) + L" rows need " + FormatInt(needed) +
+               L" blocks, but the record names " + FormatInt(blocks));
+    }
+    info.m_nRowNum = FirstRowOf(blocks);
+    std::vector<std::string> slots;
+    if (info.m_nRowNum <= rows || !ReadSlots(m_file, info, slots)) return;
+    const auto behind = slots.begin() + rows;
+    const auto isUsed = [](const std::string& slot) { return !slot.empty(); };
+    const auto first = std::find_if(behind, slots.end(), isUsed);
+    if (first == slots.end()) return;
+    Note(name, SlotOffset(info, static_cast<int>(first - slots.begin())),
+         FormatInt(std::count_if(first, slots.end(), isUsed)) +
+             L" rows lie behind the record's count of " + FormatInt(rows));
   }
 
   const CStoreFile& m_file;
   std::vector<CStoreFault>& m_faults;
+  std::vector<CStoreFault>& m_notes;
   CTableDirectory m_directory;
   std::set<CString> m_names;
   std::vector<CFileRange> m_used;
@@ -189,12 +243,15 @@ bool ReadStoreInfo(const CString& path, CStoreInfo& info) {
   return true;
 }
 
-bool VerifyStore(const CString& path, std::vector<CStoreFault>& faults) {
+bool VerifyStore(const CString& path, std::vector<CStoreFault>& faults,
+                 std::vector<CStoreFault>* notes) {
   ClearStoreError();
+  std::vector<CStoreFault> found;
   faults.clear();
   const auto file = CStoreFile::OpenToRead(path);
   if (!file) return false;
-  CVerify(*file, faults).Run();
+  CVerify(*file, faults, found).Run();
+  if (notes) *notes = std::move(found);
   return true;
 }
 

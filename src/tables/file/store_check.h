@@ -36,7 +36,10 @@ struct CStoreFault {
   CString m_strWhat;
 };
 
-// Every structural fault of a table file. False, with LastStoreError set, when it cannot be read.
-ORV3CAL_API bool VerifyStore(const CString& path, std::vector<CStoreFault>& faults);
+// Every structural fault of a table file, and, as notes, what harms nothing: rows behind a table's
+// count of them and blocks that it does not need, as a save of fewer rows leaves them. False, with
+// LastStoreError set, when the file cannot be read.
+ORV3CAL_API bool VerifyStore(const CString& path, std::vector<CStoreFault>& faults,
+                             std::vector<CStoreFault>* notes = nullptr);
 
 }  // namespace orv3

@@ -1,6 +1,7 @@
 #include "tables/file/table_text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "framework/number_text.h"
 #include "platform/code_page.h"
 #include "tables/data_table.h"
+#include "tables/file/layout.h"
 
 namespace orv3 {
 namespace {
@@ -19,22 +21,21 @@ char Shifted(char byte, unsigned by) {
   return static_cast<char>(static_cast<unsigned char>(byte) + by);
 }
 
-void AddField(std::wstring& form, std::wstring_view field) {
-  if (!form.empty()) form += kFieldSeparator;
-  form += field;
+std::array<std::wstring, 4> ColumnFields(const CDataTypeStruct& column) {
+  return {std::wstring(OneLine(column.m_strName)), std::wstring(OneLine(column.m_strSign)),
+          std::wstring(FormatInt(column.m_bKey).View()),
+          std::wstring(FormatInt(column.m_nType).View())};
 }
 
-// A value up to its first line feed or zero, which would end the whole text and lose all after it.
-std::wstring_view OneLine(std::wstring_view value) {
-  return value.substr(0, std::min(value.find(L'\n'), value.find(L'\0')));
-}
-
-std::wstring ColumnForm(const CDataTypeStruct& column) {
-  std::wstring form(OneLine(column.m_strName));
-  for (const CString& field :
-       {column.m_strSign, FormatInt(column.m_bKey), FormatInt(column.m_nType)}) {
-    form += kFieldSeparator;
-    form += OneLine(field);
+template <class FIELDS>
+std::wstring Joined(const FIELDS& fields) {
+  std::size_t size = 0;
+  for (const auto& field : fields) size += field.size() + std::size(kFieldSeparator);
+  std::wstring form;
+  form.reserve(size);
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (i > 0) form += kFieldSeparator;
+    form += fields[i];
   }
   return form;
 }
@@ -47,6 +48,16 @@ CDataTypeStruct ColumnOf(const std::wstring_view* fields, std::size_t count) {
   if (count > 2) column.m_bKey = ToInt(fields[2]);
   if (count > 3) column.m_nType = static_cast<CDataTypeStruct::KVBT_Value_Type>(ToInt(fields[3]));
   return column;
+}
+
+CDataTableTitle ColumnsIn(const std::vector<std::wstring_view>& fields) {
+  CDataTableTitle title;
+  for (std::size_t i = 0; i < fields.size(); i += 4) {
+    const CDataTypeStruct column =
+        ColumnOf(&fields[i], std::min<std::size_t>(4, fields.size() - i));
+    title.InsertColumn(title.GetTableTitleNum(), column);
+  }
+  return title;
 }
 
 // Bytes in a wide text, each as a signed number of 16 bits: the way fake text travels.
@@ -76,11 +87,6 @@ CString DecodeText(std::string_view stored) {
 
 std::string EncodeField(std::wstring_view text, std::size_t length, bool* missing) {
   std::string bytes = EncodeText(text, missing);
-  if (bytes.size() > length) {
-    std::string plain = bytes;
-    for (char& byte : plain) byte = Shifted(byte, kShift);
-    bytes.resize(AnsiCut(plain, length));
-  }
   bytes.resize(length, '\0');
   return bytes;
 }
@@ -88,48 +94,86 @@ std::string EncodeField(std::wstring_view text, std::size_t length, bool* missin
 std::string_view FieldBytes(std::string_view field) { return field.substr(0, field.find('\0')); }
 
 std::vector<std::wstring_view> SplitFields(std::wstring_view form) {
+  return SplitStored(form, 0, false);
+}
+
+bool CStoredFields::Next(std::wstring_view& field) {
   constexpr std::wstring_view kSeparator = kFieldSeparator;
+  if (m_bEnd) return false;
+  const std::size_t at = m_rest.find(kSeparator);
+  m_bEnd = at == std::wstring_view::npos;
+  field = m_rest.substr(0, at);
+  if (m_nWanted > 0) --m_nWanted;  // of those that are still to come
+  if (!m_bEnd) {
+    m_rest.remove_prefix(at + kSeparator.size());
+  } else if (m_bCut && m_nWanted > 0) {
+    for (int i = 0; i < 2 && field.ends_with(L','); ++i) field.remove_suffix(1);
+  }
+  return true;
+}
+
+std::vector<std::wstring_view> SplitStored(std::wstring_view form, std::size_t wanted, bool cut) {
   std::vector<std::wstring_view> fields;
   fields.reserve(form.size() / 8 + 1);  // about
-  for (;;) {
-    const std::size_t at = form.find(kSeparator);
-    fields.push_back(form.substr(0, at));
-    if (at == std::wstring_view::npos) return fields;
-    form.remove_prefix(at + kSeparator.size());
-  }
+  CStoredFields stored(form, wanted, cut);
+  for (std::wstring_view field; stored.Next(field);) fields.push_back(field);
+  return fields;
 }
 
-std::wstring HeadingForm(const CDataTableTitle& title) {
-  std::wstring form;
-  for (int i = 0; i < title.GetTableTitleNum(); ++i) AddField(form, ColumnForm(title[i]));
-  return form;
+// Either would end the whole text and lose all after it.
+std::wstring_view OneLine(std::wstring_view text) {
+  return text.substr(0, std::min(text.find(L'\n'), text.find(L'\0')));
 }
+
+std::wstring_view StoredValue(std::wstring_view value) {
+  return OneLine(value.substr(0, kMaxStoredValue));
+}
+
+std::vector<std::wstring> HeadingFields(const CDataTableTitle& title) {
+  std::vector<std::wstring> fields;
+  for (int i = 0; i < title.GetTableTitleNum(); ++i) {
+    for (std::wstring& field : ColumnFields(title[i])) fields.push_back(std::move(field));
+  }
+  return fields;
+}
+
+std::wstring HeadingForm(const CDataTableTitle& title) { return Joined(HeadingFields(title)); }
 
 CDataTableTitle HeadingOf(std::wstring_view form) {
-  CDataTableTitle title;
-  if (form.empty()) return title;
-  const std::vector<std::wstring_view> fields = SplitFields(form);
-  for (std::size_t i = 0; i < fields.size(); i += 4) {
-    const CDataTypeStruct column =
-        ColumnOf(&fields[i], std::min<std::size_t>(4, fields.size() - i));
-    title.InsertColumn(title.GetTableTitleNum(), column);
-  }
-  return title;
+  return form.empty() ? CDataTableTitle() : ColumnsIn(SplitFields(form));
 }
 
-std::wstring RowForm(const CDataItem& row, int state) {
-  std::wstring form(FormatInt(row.m_nIndex).View());
-  form.reserve(static_cast<std::size_t>(row.GetItemLength() + 1) * 12);  // about
-  AddField(form, FormatInt(state));
-  for (int i = 0; i < row.GetItemLength(); ++i) {
-    AddField(form, OneLine(row[i].m_strValue.View().substr(0, kMaxStoredValue)));
+bool StoredHeading(std::string_view area, CDataTableTitle& title) {
+  const auto columns = static_cast<int>(area.size() / HeadingLength(1));
+  const bool cut = FieldBytes(area).size() == area.size();
+  const CString form = DecodeText(area);
+  title.Clear();
+  if (!form.IsEmpty()) {
+    title = ColumnsIn(SplitStored(form, 4 * static_cast<std::size_t>(columns), cut));
   }
-  return form;
+  while (cut && title.GetTableTitleNum() < columns) {
+    title.InsertColumn(title.GetTableTitleNum(), CDataTypeStruct());
+  }
+  return title.GetTableTitleNum() == columns;
 }
+
+CRowText::CRowText(const CDataItem& row, int state)
+    : m_strIndex(FormatInt(row.m_nIndex)), m_strState(FormatInt(state)) {
+  m_arrField.reserve(static_cast<std::size_t>(row.GetItemLength()) + 2);
+  m_arrField.push_back(m_strIndex);
+  m_arrField.push_back(m_strState);
+  for (int i = 0; i < row.GetItemLength(); ++i) {
+    m_arrField.push_back(StoredValue(row[i].m_strValue));
+  }
+}
+
+std::wstring CRowText::Form() const { return Joined(m_arrField); }
+
+std::wstring RowForm(const CDataItem& row, int state) { return CRowText(row, state).Form(); }
 
 bool RowOf(std::wstring_view form, const CDataTableTitle& title, bool cut, CDataItem& row) {
-  const std::vector<std::wstring_view> fields = SplitFields(form);
   const auto wanted = static_cast<std::size_t>(title.GetTableTitleNum()) + 2;
+  const std::vector<std::wstring_view> fields = SplitStored(form, wanted, cut);
   if (fields.size() < (cut ? 2 : wanted)) return false;
   if (fields.size() > wanted) {
     throw CInvalidArgException("row on file: " + std::to_string(fields.size() - 2) +
@@ -153,7 +197,7 @@ bool RowOf(std::wstring_view form, const CDataTableTitle& title, bool cut, CData
 // --------------------------------------------------------------------------
 
 CString CDataTypeStruct::TranToFake() const {
-  return CDataTable::TransStringToFake(orv3::ColumnForm(*this));
+  return CDataTable::TransStringToFake(orv3::Joined(orv3::ColumnFields(*this)));
 }
 
 void CDataTypeStruct::TransToNormal(const char* stored) {
