@@ -19,6 +19,7 @@ enum class CFileError {
   NotFound,  // the file or its folder is not there
   Busy,      // somebody else has it open
   Denied,    // a read-only mark, medium or folder, or missing rights
+  Full,      // no room is left on the medium
   Failed,    // anything else
 };
 
@@ -70,6 +71,8 @@ class ORV3CAL_API CFile {
   // Removes the file while it is open, so that nobody can come between.
   virtual bool Discard() = 0;
   virtual bool WasCreated() const = 0;  // the file was made by this opening
+  // Why a Write, SetSize or Sync has failed.
+  virtual CFileError Trouble() const { return CFileError::Failed; }
 };
 
 class ORV3CAL_API CFileSystem {
@@ -85,6 +88,10 @@ class ORV3CAL_API CFileSystem {
   virtual bool Remove(const CString& path) = 0;
   virtual bool Rename(const CString& from, const CString& to) = 0;  // replaces `to`
   virtual bool ClearReadOnly(const CString& path) = 0;
+  // Whether nobody may write the file: its mark or its mode says so.
+  virtual bool IsReadOnly(const CString& /*path*/) { return false; }
+  // Gives a file the owner and the rights of another, as far as this user may.
+  virtual void CopyRights(const CString& /*from*/, const CString& /*to*/) {}
   // Makes additions and removals in the folder that holds `path` last.
   virtual bool SyncFolder(const CString& path) = 0;
   // The names in a folder, folders included, "." and ".." not, in code unit order.

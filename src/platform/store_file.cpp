@@ -58,6 +58,7 @@ void Explain(CFileError error, const CString& path) {
       SetStoreError(CStoreTrouble::Denied, path,
                     path + L": access denied; the file and its folder must be open to this user");
       break;
+    case CFileError::Full:
     case CFileError::Failed:
     case CFileError::None:
       SetStoreError(CStoreTrouble::Failed, path, path + L": cannot be opened or read");

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "framework/cstring.h"
+#include "framework/export.h"
 
 namespace orv3 {
 
@@ -34,7 +35,7 @@ struct CStoreJournal {
 
 // The journal's path for a store: "a.KDB" has "a._KDB.journal", which no search for store files
 // finds.
-CString JournalPath(const CString& store);
+ORV3CAL_API CString JournalPath(const CString& store);
 
 std::string EncodeJournal(const CStoreJournal& journal);
 // False unless `bytes` are a whole journal of a store that is now `storeSize` bytes long.

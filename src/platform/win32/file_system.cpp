@@ -30,6 +30,9 @@ CFileError ErrorOf(DWORD code) {
     case ERROR_ACCESS_DENIED:
     case ERROR_WRITE_PROTECT:
       return CFileError::Denied;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+      return CFileError::Full;
     default:
       return CFileError::Failed;
   }
@@ -81,6 +84,7 @@ class CWinFile final : public CFile {
       const auto part = static_cast<DWORD>(std::min(size - done, kMaxTransfer));
       if (!WriteFile(m_hFile, static_cast<const char*>(data) + done, part, &step, &place) ||
           step == 0) {
+        m_nTrouble = ErrorOf(GetLastError());
         break;
       }
       done += step;
@@ -98,7 +102,7 @@ class CWinFile final : public CFile {
   bool SetSize(std::uint64_t size) override {
     LARGE_INTEGER end;
     end.QuadPart = static_cast<LONGLONG>(size);
-    return SetFilePointerEx(m_hFile, end, nullptr, FILE_BEGIN) && SetEndOfFile(m_hFile);
+    return Done(SetFilePointerEx(m_hFile, end, nullptr, FILE_BEGIN) && SetEndOfFile(m_hFile));
   }
 
   bool AdvanceStamp(std::int64_t past) override {
@@ -115,7 +119,7 @@ class CWinFile final : public CFile {
     return stamp.m_nChanged != past;
   }
 
-  bool Sync() override { return FlushFileBuffers(m_hFile) != 0; }
+  bool Sync() override { return Done(FlushFileBuffers(m_hFile) != 0); }
 
   bool Discard() override {
     FILE_DISPOSITION_INFO disposition{};
@@ -125,10 +129,17 @@ class CWinFile final : public CFile {
   }
 
   bool WasCreated() const override { return m_bCreated; }
+  CFileError Trouble() const override { return m_nTrouble; }
 
  private:
+  bool Done(bool done) {
+    if (!done) m_nTrouble = ErrorOf(GetLastError());
+    return done;
+  }
+
   HANDLE m_hFile;
   bool m_bCreated;
+  CFileError m_nTrouble = CFileError::Failed;
 };
 
 struct COpenArguments {
@@ -186,6 +197,11 @@ class CWinFileSystem final : public CFileSystem {
 
   bool ClearReadOnly(const CString& path) override {
     return SetFileAttributesW(Native(path).c_str(), FILE_ATTRIBUTE_NORMAL) != 0;
+  }
+
+  bool IsReadOnly(const CString& path) override {
+    const DWORD attributes = GetFileAttributesW(Native(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
   }
 
   bool SyncFolder(const CString&) override { return true; }  // folders are written through
