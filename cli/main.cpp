@@ -47,7 +47,8 @@ std::vector<std::string> ForParsing(int argc, char** argv) {
 void RefuseEmptyPaths(CLI::App& command) {
   for (CLI::Option* option : command.get_options()) {
     const std::string type = option->get_type_name();
-    if (!type.starts_with("FILE") && type != "FOLDER" && type != "DIR") continue;
+    const bool place = type.starts_with("FILE") || type == "FOLDER" || type == "DIR";
+    if (!place && option->get_name(true) != "FILE") continue;
     option->check([](const std::string& path) {
       return path.empty() ? "names nothing; right would be a path" : std::string();
     });

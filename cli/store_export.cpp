@@ -137,6 +137,20 @@ std::vector<CDataTable> TablesOf(const CString& store, const COptions& options) 
   return tables;
 }
 
+// All tables as they were at one time: read anew when somebody has saved between two of them.
+std::vector<CDataTable> TablesAtOnce(const CString& store, const COptions& options) {
+  constexpr int kTries = 20;
+  for (int i = 0; i < kTries; ++i) {
+    CFileStamp before;
+    CFileStamp after;
+    Files().Stamp(store, before);
+    std::vector<CDataTable> tables = TablesOf(store, options);
+    Files().Stamp(store, after);
+    if (before == after) return tables;
+  }
+  Fail(store + L": changed by others all the time; try again later");
+}
+
 // The store that is read and the file that is written, by whatever names they go.
 void RefuseOwnStore(const CString& store, const std::string& to) {
   CFileStamp from;
@@ -169,7 +183,7 @@ void RunExport(const COptions& options) {
   RefuseOwnStore(store, options.to);
   CStoreInfo info;
   if (!ReadStoreInfo(store, info)) Fail(LastStoreError().m_strText);
-  std::vector<CDataTable> tables = TablesOf(store, options);
+  std::vector<CDataTable> tables = TablesAtOnce(store, options);
   WriteFile(options.to, Content(options, tables, info.m_nKind));
   int rows = 0;
   for (const CDataTable& table : tables) rows += table.GetTableRowNum();

@@ -23,6 +23,10 @@ void SetVariable(const char* name, const std::string& value) {
 #endif
 }
 
+std::filesystem::path NativePath(const std::string& path) {
+  return {std::u8string(path.begin(), path.end())};
+}
+
 // Rows of one cell.
 std::string Lines(int count) {
   std::string lines;
@@ -210,7 +214,7 @@ TEST_F(StoreCommand, ImportsCsvAsSpreadsheetsSaveIt) {
   const std::u16string wide = u"\xFEFFNo.:text:key\tv:double\tn:text\na\t1.5\t宽\n";
   const std::string sources[] = {
       head + "a,1.5,\xE5\xAE\xBD,,\r\n,,,,\r\n",  // UTF-8
-      head + "a,1.5,\xBF\xED,,\r\n,,,,\r\n",       // GBK
+      head + "a,1.5,\xBF\xED,,\r\n,,,,\r\n",      // GBK
       "No.:text:key;v:double;n:text\n\na;1.5;\"\xE5\xAE\xBD\"\n;;\n",
       "No.:text:key\tv:double\tn:text\na\t1.5\t\xBF\xED\n",
       std::string(reinterpret_cast<const char*>(wide.data()), 2 * wide.size()),
@@ -218,7 +222,7 @@ TEST_F(StoreCommand, ImportsCsvAsSpreadsheetsSaveIt) {
   Json first;
   for (const std::string& bytes : sources) {
     Put(L"own.csv", bytes);
-    std::filesystem::remove(std::filesystem::path(orv3::FromUtf8(m_store).GetString()));
+    std::filesystem::remove(NativePath(m_store));
     EXPECT_EQ(Import("--table 我的 - <" + Quoted(L"own.csv"), 0)[0]["added"], 1);
     const Json rows = Rows("我的")["rows"];
     if (first.is_null()) first = rows;
@@ -270,12 +274,11 @@ TEST_F(StoreCommand, ExportsComeBackAsTheyWere) {
 }
 
 TEST_F(StoreCommand, GuardsTextsThatSpreadsheetsCompute) {
-  Put(L"own.csv",
-      "No.:text:key,n:text\n=1+1,-5\n+1e3,-a\n@x,\" =a\"\n'a,'b'\nb,\"=\"\"a\"\"\"\n");
+  Put(L"own.csv", "No.:text:key,n:text\n=1+1,-5\n+1e3,-a\n@x,\" =a\"\n'a,'b'\nb,\"=\"\"a\"\"\"\n");
   ASSERT_EQ(Run("import --table \"'我的'\" " + Quoted(L"own.csv")).m_nExit, 0);
   ASSERT_EQ(Run("export --guard --to " + Quoted(L"out.csv")).m_nExit, 0);
   EXPECT_EQ(FileBytes(File(L"out.csv")),
-            "\xEF\xBB\xBFNo.:text:key,n:text\n'=1+1,-5\n+1e3,'-a\n'@x,\"' =a\"\n'a,'b'\n"
+            "\xEF\xBB\xBFNo.:text:key,n:text\n'=1+1,-5\n+1e3,'-a\n'@x,' =a\n'a,'b'\n"
             "b,\"'=\"\"a\"\"\"\n");
   const CRunResult book = Run("export --to " + Quoted(L"all.xlsx"));
   if (book.m_nExit != 0) {
@@ -286,8 +289,8 @@ TEST_F(StoreCommand, GuardsTextsThatSpreadsheetsCompute) {
 TEST_F(StoreCommand, ExportsReplaceNothingButTheirTarget) {
   namespace fs = std::filesystem;
   ASSERT_EQ(Run(AddH("H1")).m_nExit, 0);
-  const fs::path folder(m_folder.Path().GetString());
-  const fs::path store(orv3::FromUtf8(m_store).GetString());
+  const fs::path folder = NativePath(File(L""));
+  const fs::path store = NativePath(m_store);
   const std::string before = FileBytes(m_store);
   fs::create_hard_link(store, folder / "hard.KDB");
   std::vector<CRefusal> own = {{On("export --to " + Quoted(L"我的.KDB")), {"is the store"}},
@@ -307,11 +310,13 @@ TEST_F(StoreCommand, ExportsReplaceNothingButTheirTarget) {
   ExpectRefused(own);
   EXPECT_TRUE(FileBytes(m_store) == before);
 
-  for (const wchar_t* mine : {L"link.csv.part", L"link.csv.new", L"a.csv.new", L".orv3cal-0.part"}) {
+  for (const wchar_t* mine :
+       {L"link.csv.part", L"link.csv.new", L"a.csv.new", L".orv3cal-0.part"}) {
     Put(mine, "mine");
   }
   ASSERT_EQ(Run("export --to " + Quoted(L"link.csv")).m_nExit, 0);
-  for (const wchar_t* mine : {L"link.csv.part", L"link.csv.new", L"a.csv.new", L".orv3cal-0.part"}) {
+  for (const wchar_t* mine :
+       {L"link.csv.part", L"link.csv.new", L"a.csv.new", L".orv3cal-0.part"}) {
     EXPECT_EQ(FileBytes(File(mine)), "mine");
   }
   EXPECT_FALSE(Exists(m_folder.Path(L".orv3cal-1.part")));
