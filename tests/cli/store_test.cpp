@@ -152,7 +152,7 @@ TEST_F(StoreCommand, RefusesAHundredthTableAndARecordThatDoesNotFit) {
   const std::string before = FileBytes(m_store);
   ExpectRefused({{On(AddH("H1")), {"room for 99"}}});
   Put(L"t0.csv", "No.\n" + Lines(2500));
-  ExpectHas(Import("--table t0 " + Quoted(L"t0.csv"), 2)[0]["why"], {"room for 200"});
+  ExpectHas(Import("--table t0 " + Quoted(L"t0.csv"), 2)[0]["why"], {"room for 200", "2500 rows"});
   EXPECT_TRUE(FileBytes(m_store) == before);
 }
 

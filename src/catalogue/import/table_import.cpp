@@ -56,7 +56,7 @@ class CTableMerger {
     if (m_result.m_nAdded + m_result.m_nReplaced == 0 && !bare) return true;
     const auto faults = SaveFaults(m_target, m_store);
     if (!faults.empty()) {
-      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText};
+      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText + Crowd()};
       return true;
     }
     m_changed = m_target.WriteTable(m_store, kSystemKind, 0) != 0;
@@ -88,6 +88,15 @@ class CTableMerger {
     CArray<int, int> keys;
     m_target.m_Title.GetDataTableKeyIndex(keys);
     return !keys.IsEmpty();
+  }
+
+  // The usual reason why the record of a table does not fit its place.
+  CString Crowd() const {
+    constexpr int kUsual = 1600;
+    const int rows = m_target.GetTableRowNum();
+    return rows < kUsual
+               ? CString()
+               : L"; it would have " + FormatInt(rows) + L" rows, a table takes some 1,700";
   }
 
   CString OtherHeading() const {
