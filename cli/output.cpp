@@ -22,6 +22,7 @@ void PrintBytes(std::string_view bytes) { std::fwrite(bytes.data(), 1, bytes.siz
 
 // A file that standard output goes to must not be replaced under it.
 bool IsStandardOutput(const std::filesystem::path& file) {
+  if constexpr (std::filesystem::path::preferred_separator != '/') return false;  // Windows
   std::error_code error;
   return std::filesystem::equivalent("/dev/stdout", file, error);
 }
