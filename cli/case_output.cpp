@@ -5,7 +5,8 @@
 namespace orv3::cli {
 
 void AppendCsv(std::string& line, const std::string& text) {
-  if (text.find_first_of(",\"\r\n") == std::string::npos) {
+  const bool padded = text.starts_with(' ') || text.ends_with(' ');  // which readers drop
+  if (!padded && text.find_first_of(",;\t\"\r\n") == std::string::npos) {
     line += text;
     return;
   }

@@ -171,7 +171,7 @@ class CCsvSource : public CCaseSource {
 
   bool Next(CCaseValues& values, std::optional<CCaseFault>& fault) override {
     do {
-      if (!m_csv.Next(m_arrCell)) return false;
+      if (!m_csv.Next(m_arrCell)) return TellMalformed(fault);
     } while (m_arrCell.size() == 1 && m_arrCell[0].empty());
     if (m_arrCell.size() > m_arrColumn.size()) {
       fault = CCaseFault{"case", "has more cells than the first line has keys", "give one a key"};
@@ -187,6 +187,15 @@ class CCsvSource : public CCaseSource {
   }
 
  private:
+  // The text is not read beyond a malformed cell, which is a refused case of its own.
+  bool TellMalformed(std::optional<CCaseFault>& fault) {
+    if (!m_csv.IsMalformed() || std::exchange(m_bTold, true)) return false;
+    fault = CCaseFault{"line " + std::to_string(m_csv.Line()),
+                       "has a cell in quotation marks that is not closed or goes on behind them",
+                       "close it before the separator, and double the marks within it"};
+    return true;
+  }
+
   std::size_t CountNumbers() const {
     std::size_t count = m_arrCell.size();
     for (const std::string_view cell : m_arrCell)
@@ -222,6 +231,7 @@ class CCsvSource : public CCaseSource {
   }
 
   CCsvReader m_csv;
+  bool m_bTold = false;  // of a malformed cell
   const CCaseSchema& m_schema;
   std::vector<std::string_view> m_arrCell;
   std::vector<int> m_arrColumn;     // position of each column's key

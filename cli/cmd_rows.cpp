@@ -30,6 +30,7 @@ struct COptions {
   std::string sort;
   bool json = false;
   bool csv = false;
+  bool guard = false;
   CStoreOptions store;
 };
 
@@ -143,10 +144,14 @@ void PrintRowsJson(const COptions& options, const CDataTable& table) {
   PrintJson(json);
 }
 
-void PrintRowsCsv(const CDataTable& table) {
+void PrintRowsCsv(const CDataTable& table, bool guard) {
   std::string text = kCsvMark + CsvLine(Signs(table));
-  ForEachLive(table, [&](const CDataItem& row) { text += CsvLine(RowCells(row)); });
-  Print(text);
+  ForEachLive(table, [&](const CDataItem& row) {
+    std::vector<std::string> cells = RowCells(row);
+    if (guard) GuardFormulas(cells);
+    text += CsvLine(cells);
+  });
+  PrintCsv(text);
 }
 
 void PrintRows(const COptions& options, const CDataTable& table) {
@@ -173,7 +178,7 @@ void RunRows(const COptions& options) {
   const CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
   const CDataTable table = Selected(all, options);
   if (options.json) return PrintRowsJson(options, table);
-  if (options.csv) return PrintRowsCsv(table);
+  if (options.csv) return PrintRowsCsv(table, options.guard);
   PrintRows(options, table);
 }
 
@@ -196,7 +201,10 @@ void AddRowsCommand(CLI::App& program) {
   command->add_option("--sort", options->sort, "The column to sort by, ascending unless :desc")
       ->type_name("SIGN[:desc]");
   CLI::Option* json = command->add_flag("--json", options->json, "As JSON, cells as text");
-  command->add_flag("--csv", options->csv, "As CSV that a spreadsheet opens")->excludes(json);
+  CLI::Option* csv = command->add_flag("--csv", options->csv, "As CSV that a spreadsheet opens");
+  csv->excludes(json);
+  command->add_flag("--guard", options->guard, "No cell of the CSV is a formula to a spreadsheet")
+      ->needs(csv);
   command->footer(
       "orv3cal rows 热轧普通工字钢 --where 'h(mm)>=200 && h(mm)<<300' --sort 'A(cm^2):desc'\n"
       "orv3cal rows 热轧普通工字钢 --where 'No.==I20*' --wildcard --columns 'No.,A(cm^2)' --csv");

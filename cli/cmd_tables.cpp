@@ -124,7 +124,7 @@ void PrintListedCsv(const std::vector<CListed>& list) {
         CsvLine({each.m_strName, each.m_strSource, each.m_strFamily, std::to_string(each.m_nRows),
                  std::to_string(each.m_nColumns), Hex(each.m_nMask)});
   }
-  Print(text);
+  PrintCsv(text);
 }
 
 void PrintListedJson(const std::vector<CListed>& list) {
@@ -149,6 +149,7 @@ void RunTables(const COptions& options) {
   }
   if (options.json) return PrintListedJson(list);
   if (options.csv) return PrintListedCsv(list);
+  Print("store: " + WhichStore(options.store) + "\n\n");
   PrintListed(list);
 }
 

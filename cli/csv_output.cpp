@@ -1,6 +1,10 @@
 #include "csv_output.h"
 
+#include <string_view>
+
 #include "case_output.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
 
 namespace orv3::cli {
 
@@ -11,6 +15,17 @@ std::string CsvLine(const std::vector<std::string>& cells) {
     AppendCsv(line, cells[i]);
   }
   return line + '\n';
+}
+
+void GuardFormulas(std::vector<std::string>& cells) {
+  for (std::string& cell : cells) {
+    const std::size_t first = cell.find_first_not_of(" \t\r\n");
+    if (first == cell.npos ||
+        std::string_view("=+-@").find(cell[first]) == std::string_view::npos) {
+      continue;
+    }
+    if (!IsNumber(FromUtf8(cell))) cell.insert(0, "'");
+  }
 }
 
 }  // namespace orv3::cli

@@ -2,8 +2,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -11,6 +13,7 @@
 #include "error.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "output.h"
 #include "platform/command_line.h"
 
 namespace {
@@ -19,7 +22,7 @@ using orv3::cli::CExit;
 
 int Fail(CExit exit, std::string text) {
   std::replace(text.begin(), text.end(), '\n', ' ');
-  std::fprintf(stderr, "orv3cal: %s\n", text.c_str());
+  std::fprintf(stderr, "orv3cal: %s\n", orv3::Visible(text).c_str());
   return static_cast<int>(exit);
 }
 
@@ -37,6 +40,20 @@ std::vector<std::string> ForParsing(int argc, char** argv) {
   std::reverse(arguments.begin(), arguments.end());
   if (!arguments.empty()) arguments.pop_back();
   return arguments;
+}
+
+// An option that names a file or a folder and does not name one, such as --store "$UNSET", is no
+// option left out.
+void RefuseEmptyPaths(CLI::App& command) {
+  for (CLI::Option* option : command.get_options()) {
+    const std::string type = option->get_type_name();
+    const bool place = type.starts_with("FILE") || type == "FOLDER" || type == "DIR";
+    if (!place && option->get_name(true) != "FILE") continue;
+    option->check([](const std::string& path) {
+      return path.empty() ? "names nothing; right would be a path" : std::string();
+    });
+  }
+  for (CLI::App* each : command.get_subcommands({})) RefuseEmptyPaths(*each);
 }
 
 // What is wrong when a word that must be a command is none; empty when it is one, or an option.
@@ -64,6 +81,7 @@ int Run(int argc, char** argv) {
   program.require_subcommand(1);
   program.footer("orv3cal COMMAND --help tells what a command takes.");
   for (const auto add : orv3::cli::kCommands) add(program);
+  RefuseEmptyPaths(program);
   std::vector<std::string> arguments = ForParsing(argc, argv);
   if (!std::all_of(arguments.begin(), arguments.end(), orv3::IsUtf8)) {
     return Fail(CExit::BadInput, "an argument is not UTF-8 text");
@@ -94,6 +112,8 @@ int RunGuarded(int argc, char** argv) {
     return static_cast<int>(exit);
   } catch (const orv3::cli::CCommandError& error) {
     return Fail(error.m_nExit, error.what());
+  } catch (const std::bad_alloc&) {
+    return Fail(CExit::FileTrouble, "the memory of this machine does not suffice");
   } catch (const std::exception& error) {
     return Fail(CExit::FileTrouble, error.what());
   }
@@ -104,6 +124,11 @@ int RunGuarded(int argc, char** argv) {
 int main(int argc, char** argv) {
   orv3::UseUtf8Console();
   const int status = RunGuarded(argc, argv);
+  errno = 0;
   if (std::cout.flush() && std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
-  return Fail(CExit::FileTrouble, "standard output cannot be written, is the disk full?");
+  const std::string& saved = orv3::cli::SavedNote();
+  return Fail(CExit::FileTrouble,
+              std::string("standard output cannot be written") +
+                  (errno == ENOSPC ? ", the disk is full" : ", is the disk full?") +
+                  (saved.empty() ? "" : "; saved before that: " + saved));
 }

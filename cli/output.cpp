@@ -1,5 +1,6 @@
 #include "output.h"
 
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -7,6 +8,7 @@
 
 #include "error.h"
 #include "framework/utf8.h"
+#include "platform/terminal.h"
 #include "platform/whole_file.h"
 
 namespace orv3::cli {
@@ -15,33 +17,35 @@ namespace {
 // From here on a number stands for a fibre distance of 0.
 constexpr double kInfinite = 1e100;
 
-const char* Reason(CFileError error) {
-  switch (error) {
-    case CFileError::NotFound:
-      return "its folder is not there";
-    case CFileError::Busy:
-      return "another program has it open";
-    case CFileError::Denied:
-      return "it may not be written there";
-    case CFileError::Full:
-      return "the disk is full";
-    case CFileError::None:
-    case CFileError::Failed:
-      break;
-  }
-  return "the system refused";
-}
-
-// A folder, a device or a pipe, whose place no file must take.
-bool IsNoFile(const std::string& path) {
-  const std::filesystem::path native(std::u8string(path.begin(), path.end()));
-  std::error_code error;
-  const auto status = std::filesystem::status(native, error);
-  return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
-}
-
 [[noreturn]] void NotWritten(const std::string& path, const char* reason) {
   throw CCommandError(CExit::FileTrouble, path + ": not written, " + reason);
+}
+
+void PrintBytes(std::string_view bytes) { std::fwrite(bytes.data(), 1, bytes.size(), stdout); }
+
+// A file that standard output goes to must not be replaced under it.
+bool IsStandardOutput(const std::filesystem::path& file) {
+  if constexpr (std::filesystem::path::preferred_separator != '/') return false;  // Windows
+  std::error_code error;
+  return std::filesystem::equivalent("/dev/stdout", file, error);
+}
+
+// A device or a pipe, whose place no file must take.
+void WriteThrough(const std::filesystem::path& device, const std::string& path,
+                  const std::string& bytes) {
+  errno = 0;
+  std::FILE* out = std::fopen(device.string().c_str(), "wb");
+  if (!out)
+    NotWritten(path, WriteTrouble(errno == EACCES ? CFileError::Denied : CFileError::Failed));
+  const bool written = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+  const bool closed = std::fclose(out) == 0;
+  if (written && closed) return;
+  NotWritten(path, WriteTrouble(errno == ENOSPC ? CFileError::Full : CFileError::Failed));
+}
+
+std::string& Saved() {
+  static std::string note;
+  return note;
 }
 
 }  // namespace
@@ -62,14 +66,62 @@ std::string NumberText(double value) {
   return {text, std::to_chars(text, text + sizeof text, shown, format, digits).ptr};
 }
 
-void Print(const std::string& text) { std::fwrite(text.data(), 1, text.size(), stdout); }
+void Print(const std::string& text) { PrintBytes(Visible(text, true)); }
 
-void PrintJson(const CJson& json) { Print(json.dump(2) + '\n'); }
+// JSON has its own escapes for controls, of which the library writes those below U+0020.
+void PrintJson(const CJson& json) {
+  std::string text;
+  for (const char ch : json.dump(2)) {
+    const auto byte = static_cast<unsigned char>(ch);
+    const bool control = text.ends_with('\xC2') && byte < 0xA0;
+    if (control) text.pop_back();
+    if (control || byte == 0x7F) {
+      char escape[8];
+      std::snprintf(escape, sizeof escape, "\\u%04x", unsigned{byte});
+      text += escape;
+    } else {
+      text += ch;
+    }
+  }
+  PrintBytes(text + '\n');
+}
+
+void PrintCsv(const std::string& text) {
+  PrintBytes(OutputIsTerminal() ? Visible(text, true) : text);
+}
 
 void WriteFile(const std::string& path, const std::string& bytes) {
-  if (IsNoFile(path)) NotWritten(path, "it is not a file");
+  const std::filesystem::path native(std::u8string(path.begin(), path.end()));
+  std::error_code ignored;
+  const auto status = std::filesystem::status(native, ignored);
+  if (std::filesystem::is_directory(status)) NotWritten(path, "it is a folder");
+  if (IsStandardOutput(native)) return PrintBytes(bytes);
+  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+    return WriteThrough(native, path, bytes);
+  }
   const CFileError error = WriteWholeFile(FromUtf8(path), bytes);
-  if (error != CFileError::None) NotWritten(path, Reason(error));
+  if (error != CFileError::None) NotWritten(path, WriteTrouble(error));
 }
+
+const char* WriteTrouble(CFileError error) {
+  switch (error) {
+    case CFileError::NotFound:
+      return "its folder is not there";
+    case CFileError::Busy:
+      return "another program has it open";
+    case CFileError::Denied:
+      return "it is write-protected, or its folder is closed to this user";
+    case CFileError::Full:
+      return "the disk is full";
+    case CFileError::None:
+    case CFileError::Failed:
+      break;
+  }
+  return "the system refused";
+}
+
+void NoteSaved(const std::string& what) { Saved() = what; }
+
+const std::string& SavedNote() { return Saved(); }
 
 }  // namespace orv3::cli

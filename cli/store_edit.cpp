@@ -91,6 +91,7 @@ void Save(CDataTable& table, CStoreToWrite& store) {
 
 void Tell(const COptions& options, const CDataItem& row, const char* done) {
   const std::string no = ToUtf8(row.m_arrCell.GetAt(0).m_strValue);
+  NoteSaved(options.table + " \"" + no + "\" " + done);
   if (!options.json) return Print(options.table + " \"" + no + "\": " + done + "\n");
   PrintJson({{"table", options.table}, {"no", no}, {"done", done}, {"cells", RowCells(row)}});
 }

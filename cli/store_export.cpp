@@ -3,6 +3,7 @@
 #include "store_export.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,6 +17,8 @@
 #include "platform/file_system.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
+#include "platform/store_journal.h"
+#include "platform/whole_file.h"
 #include "store_commands.h"
 #include "store_place.h"
 #include "store_table.h"
@@ -29,6 +32,7 @@ namespace {
 struct COptions {
   std::vector<std::string> tables;
   std::string to;
+  bool guard = false;
   CStoreOptions store;
 };
 
@@ -68,41 +72,49 @@ std::vector<std::string> FirstLine(const CDataTable& table) {
   return cells;
 }
 
-void WriteCsv(const std::string& file, const std::vector<CDataTable>& tables) {
+std::string CsvText(const std::vector<CDataTable>& tables, bool guard) {
   if (tables.size() != 1) {
     Refuse("--to: a CSV file holds one table, the export has " + std::to_string(tables.size()) +
            "; right would be one TABLE, or a file of another kind");
   }
   std::string text = kCsvMark + CsvLine(FirstLine(tables[0]));
-  for (const CDataItem& row : tables[0].m_arrItem) text += CsvLine(RowCells(row));
-  WriteFile(file, text);
+  for (const CDataItem& row : tables[0].m_arrItem) {
+    std::vector<std::string> cells = RowCells(row);
+    if (guard) GuardFormulas(cells);
+    text += CsvLine(cells);
+  }
+  return text;
 }
 
-void WriteJson(const std::string& file, const std::vector<CDataTable>& tables) {
+std::string JsonText(const std::vector<CDataTable>& tables) {
   CJson list = CJson::array();
   for (const CDataTable& table : tables) {
     list.push_back(TableJson(ToUtf8(table.GetTableName()), table));
   }
-  WriteFile(file, CJson{{"tables", list}}.dump(2) + "\n");
+  return CJson{{"tables", list}}.dump(2) + "\n";
 }
 
-// A table file replaces the one that is there when it is whole.
-void WriteTableFile(const std::string& file, std::vector<CDataTable>& tables, int kind) {
-  const CString to = FromUtf8(file);
-  const CString part = to + L".part";
-  Files().Remove(part);
-  {
-    CStoreBatch batch(part);
-    for (CDataTable& table : tables) {
-      const auto faults = SaveFaults(table, part, true);
-      if (!faults.empty()) Fail(faults.front().m_strText);
-      if (!batch.IsHeld() || !table.WriteTable(part, kind, 1)) Fail(LastStoreError().m_strText);
+// The tables as a file that has never been anywhere: saved into a store that is not committed.
+std::string TableFileBytes(std::vector<CDataTable>& tables, int kind) {
+  const CTemporaryFile place;
+  CStoreBatch batch(place.Path());
+  for (CDataTable& table : tables) {
+    const auto faults = SaveFaults(table, place.Path(), true);
+    if (!faults.empty()) Fail(faults.front().m_strText);
+    if (!batch.IsHeld() || !table.WriteTable(place.Path(), kind, 1)) {
+      Fail(LastStoreError().m_strText);
     }
-    if (!batch.Commit()) Fail(LastStoreError().m_strText);
   }
-  if (Files().Rename(part, to)) return;
-  Files().Remove(part);
-  Fail(to + L": not written, it may be open elsewhere or its folder closed to this user");
+  const auto file = CStoreFile::OpenToRead(place.Path());
+  if (!file) Fail(LastStoreError().m_strText);
+  std::string bytes(static_cast<std::size_t>(file->Size()), '\0');
+  if (!file->Read(0, bytes.data(), bytes.size())) Fail(place.Path() + L": cannot be read");
+  return bytes;
+}
+
+bool IsThere(const std::string& file) {
+  CFileStamp stamp;
+  return Files().Stamp(FromUtf8(file), stamp) != CFileError::NotFound;
 }
 
 bool HasExtension(const std::string& file, const std::string& extension) {
@@ -125,27 +137,76 @@ std::vector<CDataTable> TablesOf(const CString& store, const COptions& options) 
   return tables;
 }
 
+// All tables as they were at one time: read anew when somebody has saved between two of them.
+std::vector<CDataTable> TablesAtOnce(const CString& store, const COptions& options) {
+  constexpr int kTries = 20;
+  for (int i = 0; i < kTries; ++i) {
+    CFileStamp before;
+    CFileStamp after;
+    Files().Stamp(store, before);
+    std::vector<CDataTable> tables = TablesOf(store, options);
+    Files().Stamp(store, after);
+    if (before == after) return tables;
+  }
+  Fail(store + L": changed by others all the time; try again later");
+}
+
+// The store that is read and the file that is written, by whatever names they go.
+void RefuseOwnStore(const CString& store, const std::string& to) {
+  CFileStamp from;
+  CFileStamp target;
+  if (Files().Stamp(store, from) != CFileError::None ||
+      Files().Stamp(FromUtf8(to), target) != CFileError::None ||
+      from.m_nVolume != target.m_nVolume || from.m_nFile != target.m_nFile) {
+    return;
+  }
+  Refuse("--to: \"" + to + "\" is the store that is exported; right would be another file");
+}
+
+std::string Content(const COptions& options, std::vector<CDataTable>& tables, int kind) {
+  if (HasExtension(options.to, ".csv")) return CsvText(tables, options.guard);
+  if (HasExtension(options.to, ".json")) return JsonText(tables);
+  if (HasExtension(options.to, ".xlsx")) return WorkbookBytes(options.to, tables);
+  // An interrupted save of a store that was here before has no say in the new one.
+  if (!IsThere(options.to)) Files().Remove(JournalPath(Files().Resolve(FromUtf8(options.to))));
+  return TableFileBytes(tables, kind);
+}
+
 void RunExport(const COptions& options) {
   static constexpr const char* kForms[] = {".kdb", ".csv", ".json", ".xlsx"};
   if (std::none_of(std::begin(kForms), std::end(kForms),
                    [&](const char* form) { return HasExtension(options.to, form); })) {
     Refuse("--to: \"" + options.to + "\"; right would be a file named .KDB, .csv, .json or .xlsx");
   }
+  SetBusyWait(std::chrono::seconds{5});
   const CString store = StoreToRead(options.store);
+  RefuseOwnStore(store, options.to);
   CStoreInfo info;
   if (!ReadStoreInfo(store, info)) Fail(LastStoreError().m_strText);
-  std::vector<CDataTable> tables = TablesOf(store, options);
-  if (HasExtension(options.to, ".kdb")) WriteTableFile(options.to, tables, info.m_nKind);
-  if (HasExtension(options.to, ".csv")) WriteCsv(options.to, tables);
-  if (HasExtension(options.to, ".json")) WriteJson(options.to, tables);
-  if (HasExtension(options.to, ".xlsx")) WriteWorkbook(options.to, tables);
+  std::vector<CDataTable> tables = TablesAtOnce(store, options);
+  WriteFile(options.to, Content(options, tables, info.m_nKind));
   int rows = 0;
   for (const CDataTable& table : tables) rows += table.GetTableRowNum();
   Print(options.to + ": " + std::to_string(tables.size()) +
         (tables.size() == 1 ? " table, " : " tables, ") + std::to_string(rows) + " rows\n");
 }
 
+CString TemporaryFolder() {
+  std::error_code error;
+  const std::u8string folder = std::filesystem::temp_directory_path(error).u8string();
+  return FromUtf8(std::string(folder.begin(), folder.end())) + L"/";
+}
+
 }  // namespace
+
+CTemporaryFile::CTemporaryFile() : CFreshFile(TemporaryFolder()) {
+  if (Error() != CFileError::None) {
+    throw CCommandError(CExit::FileTrouble, ToUtf8(TemporaryFolder()) +
+                                                ": no temporary file can be made here, " +
+                                                WriteTrouble(Error()));
+  }
+  Close();
+}
 
 void AddStoreExportCommand(CLI::App& store) {
   auto options = std::make_shared<COptions>();
@@ -155,6 +216,7 @@ void AddStoreExportCommand(CLI::App& store) {
   command->add_option("--to", options->to, "The file, whose name tells the form")
       ->type_name("FILE")
       ->required();
+  command->add_flag("--guard", options->guard, "No cell of a CSV is a formula to a spreadsheet");
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunExport(*options); });
 }

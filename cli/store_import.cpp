@@ -11,10 +11,10 @@
 #include "catalogue/import/table_import.h"
 #include "error.h"
 #include "framework/utf8.h"
+#include "input.h"
 #include "output.h"
-#include "platform/whole_file.h"
 #include "progress.h"
-#include "sections/table_names.h"
+#include "sections/section_kind.h"
 #include "store_commands.h"
 #include "store_place.h"
 
@@ -33,7 +33,12 @@ struct COptions {
 
 // --- Sources -------------------------------------------------------------------------------------
 
+// More than all rows of any table with their cells at full length.
+constexpr std::uint64_t kLargestCsv = std::uint64_t{1} << 26;
+
+// What comes through a pipe is CSV: the other kinds are told by their names and read at random.
 bool IsCsv(const std::string& file) {
+  if (IsStream(file)) return true;
   std::string end = file.size() > 4 ? file.substr(file.size() - 4) : "";
   std::transform(end.begin(), end.end(), end.begin(),
                  [](char ch) { return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + 32) : ch; });
@@ -43,6 +48,7 @@ bool IsCsv(const std::string& file) {
 // The table that a CSV file is for: the one of --table, else the one that its name tells.
 CString CsvTableName(const std::string& file, const std::string& given) {
   if (!given.empty()) return FromUtf8(given);
+  if (IsStream(file)) Refuse(file + ": its name tells no table; right would be --table TABLE");
   const std::size_t slash = file.find_last_of("/\\");
   const std::string name = file.substr(slash == std::string::npos ? 0 : slash + 1);
   const CString table = FromUtf8(name.substr(0, name.size() - 4));
@@ -55,11 +61,12 @@ CString CsvTableName(const std::string& file, const std::string& given) {
 
 CImportTable ReadCsv(const std::string& file, const COptions& options, const CString& store,
                      CProgress& progress) {
-  std::string text;
-  if (ReadWholeFile(FromUtf8(file), text) != CFileError::None) {
-    throw CCommandError(CExit::FileTrouble, file + ": not found or not to be read");
-  }
   const CString name = CsvTableName(file, options.table);
+  std::string text = ReadInput(file, kLargestCsv);
+  if (text.size() > kLargestCsv) {
+    Refuse(file +
+           ": more than 64 MB; a table takes some 1,700 rows, right would be several tables");
+  }
   CDataTable stored;
   stored.SetTableName(name);
   CString line;
@@ -110,6 +117,18 @@ CJson ReportJson(const CImportReport& report) {
   return {{"tables", tables}};
 }
 
+// What came into the store, in one line; empty when nothing did.
+std::string SavedLine(const CImportReport& report) {
+  std::string line;
+  for (const CTableImport& table : report.m_arrTable) {
+    if (table.m_nAdded + table.m_nReplaced == 0) continue;
+    line += (line.empty() ? "" : "; ") + ToUtf8(table.m_strTable) + ": " +
+            std::to_string(table.m_nAdded) + " added, " + std::to_string(table.m_nReplaced) +
+            " replaced";
+  }
+  return line;
+}
+
 void PrintReport(const CImportReport& report) {
   for (const CTableImport& table : report.m_arrTable) {
     std::string text = ToUtf8(table.m_strTable) + ": ";
@@ -144,6 +163,7 @@ void RunImport(const COptions& options) {
     report = ImportTables(sources, store.Path(), how);  // which commits what is in the store
   }
   if (!report.m_bDone) throw CCommandError(CExit::FileTrouble, ToUtf8(report.m_strWhy));
+  NoteSaved(SavedLine(report));
   if (options.json) {
     PrintJson(ReportJson(report));
   } else {
@@ -161,7 +181,10 @@ void AddStoreImportCommand(CLI::App& store) {
   CLI::App* command =
       store.add_subcommand("import", "Bring rows in from .kvb, .KDB and .csv files");
   command->footer("Exit status 2 when a row or a table was refused; the others came in.");
-  command->add_option("FILE", options->files, "Data files, table files or CSV files")->required();
+  command
+      ->add_option("FILE", options->files,
+                   "Data files, table files or CSV files; - for CSV from standard input")
+      ->required();
   command->add_option("--table", options->table,
                       "This table alone; for CSV the table that the rows are for");
   command->add_flag("--overwrite", options->overwrite,

@@ -8,6 +8,7 @@
 #include "output.h"
 #include "platform/store_error.h"
 #include "store_commands.h"
+#include "store_place.h"
 #include "tables/file/store_check.h"
 #include "text_table.h"
 
@@ -17,7 +18,19 @@ namespace {
 struct COptions {
   std::string file;
   bool json = false;
+  CStoreOptions store;
 };
+
+// The file that is named, as with --store; the store that other commands read otherwise.
+CStoreOptions Place(const COptions& options) {
+  CStoreOptions place = options.store;
+  if (options.file.empty()) return place;
+  if (!place.store.empty()) {
+    throw CCommandError(CExit::BadInput, "FILE and --store both name a file; right would be one");
+  }
+  place.store = options.file;
+  return place;
+}
 
 [[noreturn]] void FailAsTold() {
   throw CCommandError(CExit::FileTrouble, ToUtf8(LastStoreError().m_strText));
@@ -28,7 +41,7 @@ const char* KindName(int kind) {
   return kind >= 0 && kind < 3 ? kNames[kind] : "unknown";
 }
 
-CJson InfoJson(const CStoreInfo& info) {
+CJson InfoJson(const CStoreOptions& place, const CStoreInfo& info) {
   CJson tables = CJson::array();
   for (const CStoreTable& table : info.m_arrTable) {
     tables.push_back({{"name", ToUtf8(table.m_strName)},
@@ -38,7 +51,11 @@ CJson InfoJson(const CStoreInfo& info) {
                       {"slot", table.m_nSlot},
                       {"blocks", table.m_arrBlock}});
   }
-  return {{"kind", KindName(info.m_nKind)}, {"line", ToUtf8(info.m_strLine)}, {"tables", tables}};
+  CJson json = WhichStoreJson(place);
+  json["kind"] = KindName(info.m_nKind);
+  json["line"] = ToUtf8(info.m_strLine);
+  json["tables"] = tables;
+  return json;
 }
 
 // What the edit states that rows have on file mean.
@@ -64,10 +81,10 @@ std::string States(const CStoreTable& table) {
   return text;
 }
 
-void PrintInfo(const CStoreInfo& info) {
-  Print("kind        " + std::string(KindName(info.m_nKind)) + "\ninformation " +
-        ToUtf8(info.m_strLine) + "\nroom for    " + std::to_string(info.m_nFreeTables) +
-        " more tables\n\n");
+void PrintInfo(const CStoreOptions& place, const CStoreInfo& info) {
+  Print("store       " + WhichStore(place) + "\nkind        " +
+        std::string(KindName(info.m_nKind)) + "\ninformation " + ToUtf8(info.m_strLine) +
+        "\nroom for    " + std::to_string(info.m_nFreeTables) + " more tables\n\n");
   CTextTable table(
       {CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left, CAlign::Right, CAlign::Right});
   table.AddRow({"table", "columns", "rows", "of which", "slot", "blocks"});
@@ -81,12 +98,13 @@ void PrintInfo(const CStoreInfo& info) {
 }
 
 void RunInfo(const COptions& options) {
+  const CStoreOptions place = Place(options);
   CStoreInfo info;
-  if (!ReadStoreInfo(FromUtf8(options.file), info)) FailAsTold();
+  if (!ReadStoreInfo(StoreToRead(place), info)) FailAsTold();
   if (options.json) {
-    PrintJson(InfoJson(info));
+    PrintJson(InfoJson(place, info));
   } else {
-    PrintInfo(info);
+    PrintInfo(place, info);
   }
 }
 
@@ -112,7 +130,7 @@ void PrintFaults(const char* kind, const std::vector<CStoreFault>& faults) {
 void RunVerify(const COptions& options) {
   std::vector<CStoreFault> faults;
   std::vector<CStoreFault> notes;
-  if (!VerifyStore(FromUtf8(options.file), faults, &notes)) FailAsTold();
+  if (!VerifyStore(StoreToRead(Place(options)), faults, &notes)) FailAsTold();
   if (options.json) {
     PrintJson(
         {{"ok", faults.empty()}, {"faults", FaultsJson(faults)}, {"notes", FaultsJson(notes)}});
@@ -127,8 +145,10 @@ void RunVerify(const COptions& options) {
 void Add(CLI::App& store, const char* name, const char* what, void (*run)(const COptions&)) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = store.add_subcommand(name, what);
-  command->add_option("FILE", options->file, "A table file (.KDB)")->required();
+  command->add_option("FILE", options->file,
+                      "A table file (.KDB); without one the store that other commands read");
   command->add_flag("--json", options->json, "As JSON");
+  AddStoreOptions(*command, options->store);
   command->callback([options, run] { run(*options); });
 }
 

@@ -53,10 +53,18 @@ CString OwnCatalogue() {
   return {};
 }
 
+constexpr const char* kVariable = "ORV3CAL_DATA";
+
+bool NamesFolder(const CStoreOptions& options) {
+  return !options.data.empty() || !Environment(kVariable).IsEmpty();
+}
+
 CString DataStore(const CStoreOptions& options) {
-  const CString folder = FromUtf8(options.data);
+  const bool given = !options.data.empty();
+  const CString folder = given ? FromUtf8(options.data) : Environment(kVariable);
   if (!Files().IsFolder(folder)) {
-    Fail(folder + L": --data must name a folder that is there; it holds " + kSystemStore);
+    Fail(folder + L": " + (given ? L"--data" : L"the variable ORV3CAL_DATA") +
+         L" must name a folder that is there; it holds " + kSystemStore);
   }
   return In(folder);
 }
@@ -68,8 +76,12 @@ void UseFor(const CString& store, const CString& catalogue) {
   SetStoreInFront(store == catalogue ? CString() : store);
 }
 
+// A variable that names no folder is no reason to refuse a store that is named: look-ups then have
+// that store alone.
 CString Catalogue(const CStoreOptions& options) {
-  return options.data.empty() ? OwnCatalogue() : DataStore(options);
+  const bool spare = !options.store.empty() && options.data.empty();
+  if (spare && NamesFolder(options) && !Files().IsFolder(Environment(kVariable))) return {};
+  return NamesFolder(options) ? DataStore(options) : OwnCatalogue();
 }
 
 CString OwnStore() {
@@ -82,7 +94,7 @@ CString OwnStore() {
 CString PathToWrite(const CStoreOptions& options) {
   SetBusyWait(std::chrono::seconds{5});
   if (!options.store.empty()) return FromUtf8(options.store);
-  return options.data.empty() ? OwnStore() : DataStore(options);
+  return NamesFolder(options) ? DataStore(options) : OwnStore();
 }
 
 // The user's own store starts with the bytes of the shipped one, if there is one.
@@ -106,9 +118,9 @@ void AddStoreOptions(CLI::App& command, CStoreOptions& options) {
       ->type_name("FILE");
   command
       .add_option("--data", options.data,
-                  "The program directory, which holds KvbSystemJmDataBase.KDB")
-      ->type_name("DIR")
-      ->envname("ORV3CAL_DATA");
+                  "The program directory, which holds KvbSystemJmDataBase.KDB; the variable "
+                  "ORV3CAL_DATA if it is not given")
+      ->type_name("DIR");
 }
 
 CString StoreToRead(const CStoreOptions& options) {
@@ -124,10 +136,34 @@ CString StoreToRead(const CStoreOptions& options) {
   return store;
 }
 
+CJson WhichStoreJson(const CStoreOptions& options) {
+  const CString store = StoreToRead(options);
+  const char* origin = !options.store.empty()  ? "--store"
+                       : !options.data.empty() ? "--data"
+                       : NamesFolder(options)  ? kVariable
+                       : store == UserStore()  ? "own"
+                                               : "shipped";
+  return {{"store", ToUtf8(store)}, {"origin", origin}};
+}
+
+std::string WhichStore(const CStoreOptions& options) {
+  const CJson which = WhichStoreJson(options);
+  std::string origin = which["origin"];
+  if (origin == "own") {
+    origin = HoldsTables(ShippedStore()) ? "your own copy, read instead of the shipped catalogue"
+                                         : "your own store";
+  } else if (origin == "shipped") {
+    origin = "the shipped catalogue";
+  } else {
+    origin = "named by " + origin;
+  }
+  return std::string(which["store"]) + " (" + origin + ")";
+}
+
 CStoreToWrite::CStoreToWrite(const CStoreOptions& options)
     : m_strPath(PathToWrite(options)), m_batch(m_strPath) {
   if (!m_batch.IsHeld()) Fail(LastStoreError().m_strText);
-  if (options.store.empty() && options.data.empty()) StartFromShipped(m_strPath);
+  if (options.store.empty() && !NamesFolder(options)) StartFromShipped(m_strPath);
   UseFor(m_strPath, options.store.empty() ? m_strPath : Catalogue(options));
 }
 

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "framework/cstring.h"
+#include "output.h"
 #include "platform/store_file.h"
 
 namespace orv3::cli {
@@ -19,7 +20,7 @@ struct CStoreOptions {
   std::string data;
 };
 
-// Adds --store and --data.
+// Adds --store and --data; the variable ORV3CAL_DATA stands for a --data that is not given.
 void AddStoreOptions(CLI::App& command, CStoreOptions& options);
 
 // The file of the store to read; CCommandError with status 3 when there is none. CLoadDataTable's
@@ -27,9 +28,14 @@ void AddStoreOptions(CLI::App& command, CStoreOptions& options);
 // without --store.
 CString StoreToRead(const CStoreOptions& options);
 
+// "PATH (your own copy, ...)": which store StoreToRead has chosen, and why.
+std::string WhichStore(const CStoreOptions& options);
+// The same as {"store", "origin"}, the origin one of --store, --data, ORV3CAL_DATA, own, shipped.
+CJson WhichStoreJson(const CStoreOptions& options);
+
 // The store to change, kept to this command from its making to its end, with look-ups as above. It
 // may be one that is not there yet. What is saved into it comes into the file with Commit, the copy
-// of the shipped store with it: a command that is refused before leaves nothing behind.
+// of the shipped store with it: a command that is refused or changes nothing leaves nothing behind.
 // CCommandError with status 3 when the store, busy for five seconds perhaps, cannot be had.
 class CStoreToWrite {
  public:

@@ -33,6 +33,11 @@ int DisplayWidth(std::string_view utf8) {
   return width;
 }
 
+void CTextTable::AddRow(std::vector<std::string> cells) {
+  for (std::string& cell : cells) cell = Visible(cell);
+  m_arrRow.push_back(std::move(cells));
+}
+
 std::string CTextTable::Text() const {
   std::vector<int> widths(m_arrAlign.size(), 0);
   for (const auto& row : m_arrRow) {

@@ -12,8 +12,8 @@ enum class CAlign { Left, Right };
 class CTextTable {
  public:
   explicit CTextTable(std::vector<CAlign> columns) : m_arrAlign(std::move(columns)) {}
-  // One UTF-8 text a column; fewer leave the rest empty.
-  void AddRow(std::vector<std::string> cells) { m_arrRow.push_back(std::move(cells)); }
+  // One UTF-8 text a column, shown on one line; fewer leave the rest empty.
+  void AddRow(std::vector<std::string> cells);
   void AddRule() { m_arrRow.emplace_back(); }  // an empty line
   std::string Text() const;
 

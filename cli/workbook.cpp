@@ -6,23 +6,25 @@
 
 #include <xlsxwriter.h>
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "platform/file_system.h"
+#include "platform/terminal.h"
 
 namespace orv3::cli {
 namespace {
 
 constexpr lxw_row_t kHeadingRows = 2;
 constexpr double kColumnWidth = 12;  // characters
-constexpr std::size_t kMaxSheetName = 31;
+constexpr int kMaxSheetName = 31;
 
-// What a spreadsheet takes as a sheet's name: no brackets, slashes and the like, 31 characters.
+// What a spreadsheet takes as a sheet's name: no brackets, slashes and the like, no apostrophe at
+// an end, 31 characters.
 std::string SheetName(const CString& table) {
-  CString name = table;
+  CString name = FromUtf8(Visible(ToUtf8(table)));
   for (const auto& [bad, good] : {std::pair{L"[", L"［"},
                                   {L"]", L"］"},
                                   {L":", L"："},
@@ -32,7 +34,11 @@ std::string SheetName(const CString& table) {
                                   {L"\\", L"＼"}}) {
     name.Replace(bad, good);
   }
-  return ToUtf8(name.Left(static_cast<int>(kMaxSheetName)));
+  name = name.Left(kMaxSheetName);
+  for (const int end : {0, name.GetLength() - 1}) {
+    if (name[end] == L'\'') name.SetAt(end, L'’');
+  }
+  return ToUtf8(name);
 }
 
 void CheckSheetNames(const std::vector<CDataTable>& tables) {
@@ -47,8 +53,9 @@ void CheckSheetNames(const std::vector<CDataTable>& tables) {
   }
 }
 
-void WriteSheet(lxw_workbook* book, const CDataTable& table) {
+bool WriteSheet(lxw_workbook* book, const CDataTable& table) {
   lxw_worksheet* sheet = workbook_add_worksheet(book, SheetName(table.GetTableName()).c_str());
+  if (!sheet) return false;
   lxw_format* heading = workbook_add_format(book);
   format_set_bold(heading);
   const auto columns = static_cast<lxw_col_t>(table.GetTableColNum());
@@ -73,24 +80,31 @@ void WriteSheet(lxw_workbook* book, const CDataTable& table) {
     }
     ++line;
   }
+  return true;
+}
+
+bool WriteSheets(const std::string& file, const std::vector<CDataTable>& tables) {
+  const CErrorSilence silence;  // the command has its own words
+  lxw_workbook* book = workbook_new(file.c_str());
+  if (!book) return false;
+  const bool whole = std::all_of(tables.begin(), tables.end(),
+                                 [&](const CDataTable& table) { return WriteSheet(book, table); });
+  return workbook_close(book) == LXW_NO_ERROR && whole;  // which writes it
 }
 
 }  // namespace
 
-void WriteWorkbook(const std::string& file, const std::vector<CDataTable>& tables) {
+std::string WorkbookBytes(const std::string& file, const std::vector<CDataTable>& tables) {
   CheckSheetNames(tables);
-  const std::string part = file + ".part";
-  lxw_error error = LXW_ERROR_MEMORY_MALLOC_FAILED;
-  if (lxw_workbook* book = workbook_new(part.c_str())) {
-    for (const CDataTable& table : tables) WriteSheet(book, table);
-    error = workbook_close(book);  // which writes it
+  const CTemporaryFile made;
+  std::string bytes;
+  if (WriteSheets(ToUtf8(made.Path()), tables) &&
+      ReadWholeFile(made.Path(), bytes) == CFileError::None) {
+    return bytes;
   }
-  if (error == LXW_NO_ERROR && Files().Rename(FromUtf8(part), FromUtf8(file))) return;
-  Files().Remove(FromUtf8(part));
-  throw CCommandError(
-      CExit::FileTrouble,
-      file + ": not written: " +
-          (error == LXW_NO_ERROR ? "it may be open elsewhere or be no file" : lxw_strerror(error)));
+  throw CCommandError(CExit::FileTrouble, file +
+                                              ": not written, the workbook could not be made at " +
+                                              ToUtf8(made.Path()) + "; is that disk full?");
 }
 
 }  // namespace orv3::cli
@@ -99,7 +113,7 @@ void WriteWorkbook(const std::string& file, const std::vector<CDataTable>& table
 
 namespace orv3::cli {
 
-void WriteWorkbook(const std::string& file, const std::vector<CDataTable>&) {
+std::string WorkbookBytes(const std::string& file, const std::vector<CDataTable>&) {
   throw CCommandError(CExit::BadInput,
                       file +
                           ": this program was built without libxlsxwriter and writes no "

@@ -30,7 +30,9 @@ std::string Color(std::uint32_t color) {
   return text;
 }
 
-bool IsXmlChar(wchar_t ch) { return ch >= 0x20 && ch != 0x7F && ch != 0xFFFE && ch != 0xFFFF; }
+bool IsXmlChar(wchar_t ch) {
+  return ch >= 0x20 && (ch < 0x7F || ch > 0x9F) && ch != 0xFFFE && ch != 0xFFFF;
+}
 
 std::string Escaped(std::wstring_view text) {
   std::wstring out;

@@ -88,6 +88,10 @@ class ORV3CAL_API CFileSystem {
   virtual bool Remove(const CString& path) = 0;
   virtual bool Rename(const CString& from, const CString& to) = 0;  // replaces `to`
   virtual bool ClearReadOnly(const CString& path) = 0;
+  // Whether nobody may write the file: its mark or its mode says so.
+  virtual bool IsReadOnly(const CString& /*path*/) { return false; }
+  // Gives a file the owner and the rights of another, as far as this user may.
+  virtual void CopyRights(const CString& /*from*/, const CString& /*to*/) {}
   // Makes additions and removals in the folder that holds `path` last.
   virtual bool SyncFolder(const CString& path) = 0;
   // The names in a folder, folders included, "." and ".." not, in code unit order.

@@ -13,6 +13,9 @@ ORV3CAL_API CString ProgramFile();
 // "Orv3Cal" in %APPDATA%. It need not be there; empty when the user has no such place.
 ORV3CAL_API CString UserDataFolder();
 
+// A variable of the process; empty when it is not set.
+ORV3CAL_API CString Environment(const char* name);
+
 // Makes a folder and those above it; true as well when it is there.
 ORV3CAL_API bool MakeFolders(const CString& folder);
 

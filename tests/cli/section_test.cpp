@@ -76,9 +76,9 @@ TEST(SectionCommand, RefusesInOneLineThatNamesTheFault) {
       {"section rect -.5 2", {"b(mm)", "-0.5", "above 0"}},
       {"section rect 1 2 --base 1", {"--base"}},
       {"section rect 1 2 --svg no_such_folder/x.svg", {"no_such_folder/x.svg"}, 3},
-      {"section rect 1 2 --svg .", {".: not written", "not a file"}, 3},
+      {"section rect 1 2 --svg .", {".: not written", "it is a folder"}, 3},
 #ifndef _WIN32
-      {"section rect 1 2 --svg /dev/full", {"/dev/full", "not a file"}, 3},
+      {"section rect 1 2 --svg /dev/full", {"/dev/full", "the disk is full"}, 3},
       {"section rect 1 2 >/dev/full", {"standard output"}, 3},
 #endif
   });

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "cli/run_program.h"
 #include "framework/number_text.h"
@@ -20,6 +21,17 @@ void SetVariable(const char* name, const std::string& value) {
 #else
   setenv(name, value.c_str(), 1);
 #endif
+}
+
+std::filesystem::path NativePath(const std::string& path) {
+  return {std::u8string(path.begin(), path.end())};
+}
+
+// Rows of one cell.
+std::string Lines(int count) {
+  std::string lines;
+  for (int i = 0; i < count; ++i) lines += "r" + std::to_string(i) + "\n";
+  return lines;
 }
 
 class StoreCommand : public testing::Test {
@@ -162,10 +174,8 @@ TEST_F(StoreCommand, RefusesAHundredthTableAndARecordThatDoesNotFit) {
   }
   const std::string before = FileBytes(m_store);
   ExpectRefused({{On(AddH("H1")), {"room for 99"}}});
-  std::string rows = "No.\n";
-  for (int i = 0; i < 2500; ++i) rows += "r" + std::to_string(i) + "\n";
-  Put(L"t0.csv", rows);
-  ExpectHas(Import("--table t0 " + Quoted(L"t0.csv"), 2)[0]["why"], {"room for 200"});
+  Put(L"t0.csv", "No.\n" + Lines(2500));
+  ExpectHas(Import("--table t0 " + Quoted(L"t0.csv"), 2)[0]["why"], {"room for 200", "2500 rows"});
   EXPECT_TRUE(FileBytes(m_store) == before);
 }
 
@@ -196,13 +206,16 @@ TEST_F(StoreCommand, ImportsCsvAndTellsWhatBecameOfEachRow) {
 TEST_F(StoreCommand, ImportsATableWhoseHeadingNamesItsColumns) {
   const std::string own = Quoted(L"own.csv");
   const std::string import = "import --table 我的 " + own;
-  const std::pair<const char*, const char*> refused[] = {
+  const std::pair<std::string, const char*> refused[] = {
       {"", "empty"},
       {"No.,v\na,1\n", "right would be for example No.:double"},
       {"No.:text:key,v:number\n", "\"v:number\" is no column"},
       {"No.:text:key,v:double:yes\n", "\"v:double:yes\" is no column"},
       {"No.:text:key,:double\n", "without a sign"},
       {"No.:text:key,\xFF:double\n", "UTF-8"},
+      {"No.:text:key,v:double\na,\"3\"00\n", "line 2: a cell in quotation marks"},
+      {"No.:text:key,v:double\na,\"3\n", "a cell in quotation marks is not closed"},
+      {"No.:text:key\n" + Lines(2501), "more than 2500 rows"},
   };
   for (const auto& [text, why] : refused) {
     Put(L"own.csv", text);
@@ -217,6 +230,28 @@ TEST_F(StoreCommand, ImportsATableWhoseHeadingNamesItsColumns) {
   EXPECT_EQ(columns[1]["type"], "double");
   EXPECT_EQ(columns[2]["type"], "char");
   ExpectRefused({{On("import " + own), {}}});  // own is no section table
+}
+
+TEST_F(StoreCommand, ImportsCsvAsSpreadsheetsSaveIt) {
+  const std::string head = "No.:text:key,v:double,n:text,,\r\n";
+  const std::u16string wide = u"\xFEFFNo.:text:key\tv:double\tn:text\na\t1.5\t宽\n";
+  const std::string sources[] = {
+      head + "a,1.5,\xE5\xAE\xBD,,\r\n,,,,\r\n",  // UTF-8
+      head + "a,1.5,\xBF\xED,,\r\n,,,,\r\n",      // GBK
+      "No.:text:key;v:double;n:text\n\na;1.5;\"\xE5\xAE\xBD\"\n;;\n",
+      "No.:text:key\tv:double\tn:text\na\t1.5\t\xBF\xED\n",
+      std::string(reinterpret_cast<const char*>(wide.data()), 2 * wide.size()),
+  };
+  Json first;
+  for (const std::string& bytes : sources) {
+    Put(L"own.csv", bytes);
+    std::filesystem::remove(NativePath(m_store));
+    EXPECT_EQ(Import("--table 我的 - <" + Quoted(L"own.csv"), 0)[0]["added"], 1);
+    const Json rows = Rows("我的")["rows"];
+    if (first.is_null()) first = rows;
+    EXPECT_EQ(rows, first) << bytes;
+    EXPECT_EQ(rows[0]["cells"], Json::array({"a", "1.5", "宽"}));
+  }
 }
 
 TEST_F(StoreCommand, ExportsComeBackAsTheyWere) {
@@ -261,6 +296,63 @@ TEST_F(StoreCommand, ExportsComeBackAsTheyWere) {
                  {On("export --to " + Quoted(L"none/all.json")), {}, 3}});
 }
 
+TEST_F(StoreCommand, GuardsTextsThatSpreadsheetsCompute) {
+  Put(L"own.csv", "No.:text:key,n:text\n=1+1,-5\n+1e3,-a\n@x,\" =a\"\n'a,'b'\nb,\"=\"\"a\"\"\"\n");
+  ASSERT_EQ(Run("import --table \"'我的'\" " + Quoted(L"own.csv")).m_nExit, 0);
+  ASSERT_EQ(Run("export --guard --to " + Quoted(L"out.csv")).m_nExit, 0);
+  EXPECT_EQ(FileBytes(File(L"out.csv")),
+            "\xEF\xBB\xBFNo.:text:key,n:text\n'=1+1,-5\n+1e3,'-a\n'@x,' =a\n'a,'b'\n"
+            "b,\"'=\"\"a\"\"\"\n");
+  const CRunResult book = Run("export --to " + Quoted(L"all.xlsx"));
+  if (book.m_nExit != 0) {
+    ExpectHas(book.m_strError, {"built without libxlsxwriter"});
+  }
+}
+
+TEST_F(StoreCommand, ExportsReplaceNothingButTheirTarget) {
+  namespace fs = std::filesystem;
+  ASSERT_EQ(Run(AddH("H1")).m_nExit, 0);
+  const fs::path folder = NativePath(File(L""));
+  const fs::path store = NativePath(m_store);
+  const std::string before = FileBytes(m_store);
+  fs::create_hard_link(store, folder / "hard.KDB");
+  std::vector<CRefusal> own = {{On("export --to " + Quoted(L"我的.KDB")), {"is the store"}},
+                               {On("export --to " + Quoted(L"./我的.KDB")), {"is the store"}},
+                               {On("export --to " + Quoted(L"hard.KDB")), {"is the store"}}};
+  Put(L"a.csv", "old");
+#ifndef _WIN32  // where links need no rights of their own
+  fs::create_symlink(store, folder / "soft.KDB");
+  own.push_back({On("export --to " + Quoted(L"soft.KDB")), {"is the store"}});
+  fs::create_symlink("/dev/full", folder / "full.csv");
+  own.push_back({On("export --to " + Quoted(L"full.csv")), {"the disk is full"}, 3});
+  fs::create_symlink("a.csv", folder / "link.csv");
+  fs::permissions(folder / "a.csv", fs::perms(0640));
+#else
+  fs::copy(folder / "a.csv", folder / "link.csv");
+#endif
+  ExpectRefused(own);
+  EXPECT_TRUE(FileBytes(m_store) == before);
+
+  for (const wchar_t* mine :
+       {L"link.csv.part", L"link.csv.new", L"a.csv.new", L".orv3cal-0.part"}) {
+    Put(mine, "mine");
+  }
+  ASSERT_EQ(Run("export --to " + Quoted(L"link.csv")).m_nExit, 0);
+  for (const wchar_t* mine :
+       {L"link.csv.part", L"link.csv.new", L"a.csv.new", L".orv3cal-0.part"}) {
+    EXPECT_EQ(FileBytes(File(mine)), "mine");
+  }
+  EXPECT_FALSE(Exists(m_folder.Path(L".orv3cal-1.part")));
+#ifndef _WIN32
+  EXPECT_EQ(fs::status(folder / "a.csv").permissions(), fs::perms(0640));
+  EXPECT_TRUE(fs::is_symlink(folder / "link.csv"));
+  EXPECT_EQ(FileBytes(File(L"a.csv")).substr(0, 3), "\xEF\xBB\xBF");
+#endif
+  fs::permissions(folder / "a.csv", fs::perms::owner_read);
+  ExpectRefused({{On("export --to " + Quoted(L"a.csv")), {"write-protected"}, 3}});
+  fs::permissions(folder / "a.csv", fs::perms::owner_all);
+}
+
 TEST_F(StoreCommand, TellsFaultsOfATableFile) {
   ASSERT_EQ(Run(AddH("H1")).m_nExit, 0);
   std::string bytes = FileBytes(m_store);
@@ -290,7 +382,10 @@ TEST_F(StoreCommand, TheShippedStoreIsCopiedAtTheFirstWriteAndNeverChanged) {
   ASSERT_FALSE(shipped.empty());
   EXPECT_EQ(RunProgram("rows 热轧普通槽钢").m_nExit, 0);
   EXPECT_FALSE(Exists(m_folder.Path(L"home")));
-  // A refused command makes no copy of the shipped store.
+  EXPECT_EQ(JsonOf("store info")["origin"], "shipped");
+  // A command that is refused or changes nothing makes no copy of the shipped store.
+  EXPECT_EQ(RunProgram("store import \"" ORV3CAL_CATALOGUE "/PCGData.kvb\"").m_nExit, 0);
+  EXPECT_FALSE(Exists(m_folder.Path(L"home/orv3cal/KvbSystemJmDataBase.KDB")));
   for (const std::string& refused :
        {"delete " + kH + " none", std::string("edit 热轧普通工字钢 I10 --set A=1"),
         "add " + kH + " --set No.=a", std::string("import none.kvb")}) {
@@ -302,6 +397,16 @@ TEST_F(StoreCommand, TheShippedStoreIsCopiedAtTheFirstWriteAndNeverChanged) {
   EXPECT_EQ(JsonOf("rows " + kH)["rows"].size(), JsonOf("rows " + kH + kData)["rows"].size() + 1);
   EXPECT_EQ(RunProgram("rows 热轧普通槽钢").m_nExit, 0);
   EXPECT_EQ(RunProgram("rows " + kH + " --data \"" + home + "/none\"").m_nExit, 3);
+  EXPECT_EQ(JsonOf("store info")["origin"], "own");
+  ExpectHas(RunProgram("tables").m_strOut, {home, "your own copy, read instead of"});
+
+  SetVariable("ORV3CAL_DATA", home + "/none");
+  ExpectRefused({{"rows " + kH, {"the variable ORV3CAL_DATA"}, 3},
+                 {"rows " + kH + " --store \"\"", {"--store", "names nothing"}}});
+  EXPECT_EQ(RunProgram("rows " + kH + " --store \"" + home + "/orv3cal/KvbSystemJmDataBase.KDB\"")
+                .m_nExit,
+            0);
+  SetVariable("ORV3CAL_DATA", "");
 }
 
 }  // namespace

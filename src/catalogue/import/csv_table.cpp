@@ -11,7 +11,9 @@
 #include "catalogue/import/section_rows.h"
 #include "framework/csv.h"
 #include "framework/number_text.h"
+#include "framework/utf16.h"
 #include "framework/utf8.h"
+#include "platform/code_page.h"
 
 namespace orv3 {
 namespace {
@@ -25,6 +27,47 @@ bool Refuse(const CString& what, CString& why) {
   why = what;
   return false;
 }
+
+CString LineText(int line) { return L"line " + FormatInt(line) + L": "; }
+
+// --- The text ------------------------------------------------------------------------------------
+
+// The units of a text in UTF-16 behind its byte order mark.
+std::u16string Utf16Units(std::string_view bytes, bool bigEndian) {
+  std::u16string units;
+  for (std::size_t at = 2; at + 1 < bytes.size(); at += 2) {
+    const auto first = static_cast<unsigned char>(bytes[at]);
+    const auto second = static_cast<unsigned char>(bytes[at + 1]);
+    units += static_cast<char16_t>(bigEndian ? first << 8 | second : second << 8 | first);
+  }
+  return units;
+}
+
+// Spreadsheets write UTF-8, the code page or, with a byte order mark, UTF-16. False for none.
+bool MakeUtf8(std::string& text) {
+  const bool little = text.starts_with("\xFF\xFE");
+  if (little || text.starts_with("\xFE\xFF")) {
+    text = ToUtf8(FromUtf16(Utf16Units(text, !little)));
+    return true;
+  }
+  if (IsUtf8(text)) return true;
+  const CString wide = FromAnsi(text);
+  if (wide.Find(L'\xFFFD') >= 0 || AnsiCut(text, text.size()) != text.size()) return false;
+  text = ToUtf8(wide);
+  return true;
+}
+
+// A spreadsheet ends its lines with cells for columns that hold nothing.
+bool IsBlank(const CCells& cells) {
+  return std::all_of(cells.begin(), cells.end(),
+                     [](std::string_view cell) { return cell.empty(); });
+}
+
+void DropEmptyEnd(CCells& cells) {
+  while (!cells.empty() && cells.back().empty()) cells.pop_back();
+}
+
+// --- Columns and rows ----------------------------------------------------------------------------
 
 // One column of the first line: sign, sign:type or sign:type:key.
 struct CCsvColumn {
@@ -84,7 +127,7 @@ class CCsvTable {
       return;
     }
     const CString no = row.IsEmpty() ? CString() : row[0].m_strValue;
-    m_table.m_arrRefused.push_back({no, L"line " + FormatInt(line) + L": " + why});
+    m_table.m_arrRefused.push_back({no, LineText(line) + why});
   }
 
  private:
@@ -179,19 +222,30 @@ const char* ValueTypeName(CDataTypeStruct::KVBT_Value_Type type) {
 
 bool ReadCsvTable(std::string text, const CString& name, const CDataTableTitle& stored,
                   CImportTable& table, CString& why, const std::function<void(double)>& progress) {
-  if (!IsUtf8(text)) return Refuse(L"not UTF-8 text; right would be CSV saved as UTF-8", why);
+  if (!MakeUtf8(text)) {
+    return Refuse(L"neither UTF-8 nor text of the code page " + FormatInt(AnsiCodePage()) +
+                      L"; right would be CSV saved as UTF-8",
+                  why);
+  }
   CCsvReader reader(std::move(text));
   CCells cells;
   CCsvTable csv(name, table, why);
-  if (!reader.Next(cells)) {
+  if (reader.Next(cells)) DropEmptyEnd(cells);
+  if (cells.empty() && !reader.IsMalformed()) {
     return Refuse(L"empty; right would be a first line with the columns' signs", why);
   }
-  if (!csv.Head(cells, stored)) return false;
-  for (int line = 2; reader.Next(cells); ++line) {
-    if (cells.size() > 1 || !cells[0].empty()) csv.Row(cells, line);
+  if (!reader.IsMalformed() && !csv.Head(cells, stored)) return false;
+  for (int rows = 0; reader.Next(cells);) {
+    if (IsBlank(cells)) continue;
+    if (++rows > kMostTableRows) return Refuse(TooManyRows(), why);
+    csv.Row(cells, reader.Line());
     if (progress) progress(reader.Done());
   }
-  return true;
+  if (!reader.IsMalformed()) return true;
+  return Refuse(LineText(reader.Line()) +
+                    L"a cell in quotation marks is not closed, or goes on behind them; right would "
+                    L"be to close it before the separator and to double the marks within it",
+                why);
 }
 
 }  // namespace orv3

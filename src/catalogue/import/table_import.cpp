@@ -44,21 +44,27 @@ class CTableMerger {
 
   // False, with LastStoreError set, when the store fails.
   bool Run() {
+    if (m_source.GetRealTableRowNum() > kMostTableRows) m_result.m_strWhy = TooManyRows();
+    if (!m_result.m_strWhy.IsEmpty()) return true;
     if (!Open()) return false;
     if (!m_result.m_strWhy.IsEmpty() || !Check()) return true;
     const CDataItemArray& rows = std::as_const(m_source).m_arrItem;
     for (int i = 0; i < rows.GetSize(); ++i) {
       if (rows[i].m_nModifyType >= 0) Row(i, rows[i]);
     }
-    if (m_result.m_nAdded + m_result.m_nReplaced == 0 && m_stored) return true;
+    // A table without rows is one; one whose rows are all refused is none.
+    const bool bare = !m_stored && m_result.m_arrRefused.empty();
+    if (m_result.m_nAdded + m_result.m_nReplaced == 0 && !bare) return true;
     const auto faults = SaveFaults(m_target, m_store);
     if (!faults.empty()) {
-      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText};
+      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText + Crowd()};
       return true;
     }
-    return m_target.WriteTable(m_store, kSystemKind, 0) != 0;
+    m_changed = m_target.WriteTable(m_store, kSystemKind, 0) != 0;
+    return m_changed;
   }
 
+  bool HasChanged() const noexcept { return m_changed; }
   CTableImport Take() { return std::move(m_result); }
 
  private:
@@ -84,6 +90,15 @@ class CTableMerger {
     CArray<int, int> keys;
     m_target.m_Title.GetDataTableKeyIndex(keys);
     return !keys.IsEmpty();
+  }
+
+  // The usual reason why the record of a table does not fit its place.
+  CString Crowd() const {
+    constexpr int kUsual = 1600;
+    const int rows = m_target.GetTableRowNum();
+    return rows < kUsual
+               ? CString()
+               : L"; it would have " + FormatInt(rows) + L" rows, a table takes some 1,700";
   }
 
   CString OtherHeading() const {
@@ -157,6 +172,7 @@ class CTableMerger {
   const bool m_stored;  // the store has the table
   CDataTable m_target;
   bool m_hasKey = false;
+  bool m_changed = false;
   std::unordered_set<std::wstring> m_known;
   std::map<int, CString> m_mapFault;
   CTableImport m_result;
@@ -175,8 +191,9 @@ bool NamesOf(const CString& store, std::set<CString>& names) {
   return LastStoreError().m_nTrouble == CStoreTrouble::None;
 }
 
+// `changed` tells whether there is anything to commit.
 bool MergeAll(const std::vector<CImportTable>& tables, const CString& store,
-              const CImportOptions& options, CImportReport& report) {
+              const CImportOptions& options, CImportReport& report, bool& changed) {
   std::set<CString> names;
   if (!NamesOf(store, names)) return false;
   const auto tell = [&options](std::size_t done, std::size_t of) {
@@ -189,7 +206,8 @@ bool MergeAll(const std::vector<CImportTable>& tables, const CString& store,
     CTableMerger merger(tables[i], store, names.contains(name), options.m_bOverwrite);
     if (!merger.Run()) return false;
     report.m_arrTable.push_back(merger.Take());
-    if (report.m_arrTable.back().m_strWhy.IsEmpty()) names.insert(name);
+    changed = changed || merger.HasChanged();
+    if (merger.HasChanged()) names.insert(name);
   }
   tell(tables.size(), tables.size() + 1);
   return true;
@@ -197,13 +215,20 @@ bool MergeAll(const std::vector<CImportTable>& tables, const CString& store,
 
 }  // namespace
 
+CString TooManyRows() {
+  return L"it has more than " + FormatInt(kMostTableRows) +
+         L" rows; a table takes some 1,700, right would be several tables";
+}
+
 CImportReport ImportTables(const std::vector<CImportTable>& tables, const CString& store,
                            const CImportOptions& options) {
   CImportReport report;
   CStoreBatch batch(store);
   bool done = false;
+  bool changed = false;
   try {
-    done = batch.IsHeld() && MergeAll(tables, store, options, report) && batch.Commit();
+    done = batch.IsHeld() && MergeAll(tables, store, options, report, changed) &&
+           (!changed || batch.Commit());
   } catch (const CInvalidArgException&) {  // a row on file with more values than columns
     SetStoreError(CStoreTrouble::Damaged, store, store + L": a row has more values than columns");
   }

@@ -40,6 +40,11 @@ struct CImportReport {
   std::vector<CTableImport> m_arrTable;
 };
 
+// What no table can exceed: each block of 100 rows takes 8 bytes or more of the 200 that list a
+// table in its file. The name and long files leave room for some 1,700 rows usually.
+inline constexpr int kMostTableRows = 2500;
+ORV3CAL_API CString TooManyRows();
+
 struct CImportOptions {
   bool m_bOverwrite = false;
   CString m_strTable;                      // this table alone; empty for all of the source

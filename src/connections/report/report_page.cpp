@@ -5,6 +5,7 @@
 
 #include "connections/cases/case_rules.h"
 #include "connections/report/connection_report.h"
+#include "framework/utf8.h"
 
 namespace orv3 {
 namespace {
@@ -130,7 +131,7 @@ std::string Equation(const CReportStep& step) {
 
 std::string Escaped(std::string_view text) {
   std::string out;
-  for (const char ch : text) {
+  for (const char ch : Visible(text, true)) {
     switch (ch) {
       case '&':
         out += "&amp;";

@@ -15,16 +15,10 @@
 #include <ctime>
 #include <string>
 
-#include "framework/utf8.h"
+#include "platform/posix/native_path.h"
 
 namespace orv3 {
 namespace {
-
-std::string Native(const CString& path) {
-  std::string native = ToUtf8(path);
-  std::replace(native.begin(), native.end(), '\\', '/');
-  return native;
-}
 
 std::string FolderOf(const std::string& native) {
   const auto slash = native.rfind('/');
@@ -208,6 +202,21 @@ class CPosixFileSystem final : public CFileSystem {
            ::chmod(native.c_str(), (info.st_mode & 07777) | S_IWUSR) == 0;
   }
 
+  bool IsReadOnly(const CString& path) override {
+    struct stat info {};
+    return ::stat(Native(path).c_str(), &info) == 0 &&
+           (info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+  }
+
+  void CopyRights(const CString& from, const CString& to) override {
+    const std::string target = Native(to);
+    struct stat info {};
+    if (::stat(Native(from).c_str(), &info) != 0) return;
+    // Changing the owner takes marks away that the mode gives back.
+    const bool owned = ::chown(target.c_str(), info.st_uid, info.st_gid) == 0;
+    ::chmod(target.c_str(), info.st_mode & (owned ? 07777 : 0777));
+  }
+
   bool SyncFolder(const CString& path) override {
     const int handle = ::open(FolderOf(Native(path)).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0) return false;
@@ -224,7 +233,7 @@ class CPosixFileSystem final : public CFileSystem {
     errno = 0;
     while (const dirent* entry = ::readdir(stream)) {
       const std::string_view name = entry->d_name;
-      if (name != "." && name != "..") names.push_back(FromUtf8(name));
+      if (name != "." && name != "..") names.push_back(FromNative(name));
       errno = 0;
     }
     const bool whole = errno == 0;
@@ -243,15 +252,17 @@ class CPosixFileSystem final : public CFileSystem {
   }
 
   CString Resolve(const CString& path) override {
-    const std::string native = Native(path);
+    std::string native = Native(path);
     std::string resolved = RealPath(native);
+    for (int link = 0; link < kMostLinks && resolved.empty() && FollowLink(native); ++link) {
+    }
     if (resolved.empty()) {  // not there yet: its folder may be
       const auto slash = native.rfind('/');
       const std::string folder = RealPath(FolderOf(native));
       const std::string name = slash == std::string::npos ? native : native.substr(slash + 1);
       resolved = folder.empty() ? native : (folder == "/" ? "/" : folder + "/") + name;
     }
-    return FromUtf8(resolved);
+    return FromNative(resolved);
   }
 
   CLocalTime LocalTime() override {
@@ -269,6 +280,18 @@ class CPosixFileSystem final : public CFileSystem {
   }
 
  private:
+  static constexpr int kMostLinks = 40;
+
+  // A link to what is not there stands for the place that it names.
+  static bool FollowLink(std::string& native) {
+    std::string to(PATH_MAX, '\0');
+    const ssize_t length = ::readlink(native.c_str(), to.data(), to.size());
+    if (length <= 0) return false;
+    to.resize(static_cast<std::size_t>(length));
+    native = to.front() == '/' ? to : FolderOf(native) + "/" + to;
+    return true;
+  }
+
   static std::string RealPath(const std::string& native) {
     char* resolved = ::realpath(native.c_str(), nullptr);
     std::string path = resolved ? resolved : "";

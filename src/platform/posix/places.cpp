@@ -3,20 +3,25 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "framework/utf8.h"
+#include "platform/posix/native_path.h"
 
 namespace orv3 {
 
 CString ProgramFile() {
   std::error_code error;
-  return FromUtf8(std::filesystem::read_symlink("/proc/self/exe", error).string());
+  return FromNative(std::filesystem::read_symlink("/proc/self/exe", error).string());
+}
+
+CString Environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? FromNative(value) : CString();
 }
 
 CString UserDataFolder() {
   const char* data = std::getenv("XDG_DATA_HOME");
-  if (data && *data == '/') return FromUtf8(std::string(data) + "/orv3cal");
+  if (data && *data == '/') return FromNative(std::string(data) + "/orv3cal");
   const char* home = std::getenv("HOME");
-  return home && *home ? FromUtf8(std::string(home) + "/.local/share/orv3cal") : CString();
+  return home && *home ? FromNative(std::string(home) + "/.local/share/orv3cal") : CString();
 }
 
 }  // namespace orv3

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <fcntl.h>
+#include <io.h>
 #include <shellapi.h>
 
 #include "framework/utf8.h"
@@ -18,6 +20,9 @@ std::vector<std::string> CommandLineUtf8(int argc, const char* const* argv) {
   return arguments;
 }
 
-void UseUtf8Console() { SetConsoleOutputCP(CP_UTF8); }
+void UseUtf8Console() {
+  SetConsoleOutputCP(CP_UTF8);
+  _setmode(0, _O_BINARY);  // what is read from standard input are bytes
+}
 
 }  // namespace orv3

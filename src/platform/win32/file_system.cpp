@@ -199,6 +199,11 @@ class CWinFileSystem final : public CFileSystem {
     return SetFileAttributesW(Native(path).c_str(), FILE_ATTRIBUTE_NORMAL) != 0;
   }
 
+  bool IsReadOnly(const CString& path) override {
+    const DWORD attributes = GetFileAttributesW(Native(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+  }
+
   bool SyncFolder(const CString&) override { return true; }  // folders are written through
 
   bool List(const CString& folder, std::vector<CString>& names) override {

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstring>
 #include <cwchar>
 #include <string>
 
@@ -14,6 +15,11 @@ CString ProgramFile() {
     if (length < path.size()) return CString(path.data(), static_cast<int>(length));
     path.resize(path.size() * 2);
   }
+}
+
+CString Environment(const char* name) {
+  const wchar_t* value = _wgetenv(std::wstring(name, name + std::strlen(name)).c_str());
+  return value ? CString(value) : CString();
 }
 
 CString UserDataFolder() {
