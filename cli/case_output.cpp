@@ -16,7 +16,7 @@ void AppendCsv(std::string& line, const std::string& text) {
 
 std::string PercentText(double utilisation) {
   if (!std::isfinite(utilisation)) return "∞";
-  return PlainNumber(std::round(std::fabs(utilisation) * 1000) / 10) + " %";
+  return PercentNumber(utilisation) + " %";
 }
 
 std::string WarningLine(std::span<const CCaseWarning> warnings) {

@@ -38,6 +38,11 @@ void GroupFaults(const CBoltCase& input, CFaultList& faults) {
   }
 }
 
+double Least(const CSpacing& spacing) {
+  const auto& each = spacing.m_arrEach;
+  return each.empty() ? spacing.m_dUniform : *std::min_element(each.begin(), each.end());
+}
+
 // Smallest spacing of one direction that leaves the holes apart.
 void SpacingFaults(const char* key, const char* lines, const CSpacing& spacing, int count,
                    double least, CFaultList& faults) {
@@ -50,8 +55,7 @@ void SpacingFaults(const char* key, const char* lines, const CSpacing& spacing, 
     return;
   }
   if (count == 0) return;
-  const double smallest =
-      each.empty() ? spacing.m_dUniform : *std::min_element(each.begin(), each.end());
+  const double smallest = Least(spacing);
   for (const double value : each) faults.Finite(key, value);
   faults.Finite(key, spacing.m_dUniform);
   if (smallest <= least) {
@@ -84,6 +88,10 @@ void BoltFieldFaults(const CBoltCase& input, CFaultList& faults) {
                "give 10, 12, 14, 16, 18, 20, 22, 24, 27, 30 or a larger one that it has");
   }
   if (input.m_nType == kFrictionBolt) {
+    if (input.m_nD < 16) {
+      faults.Add("d", "Table 7.2.2-2 has no preload for M" + std::to_string(input.m_nD),
+                 "give 16 or more");
+    }
     faults.Within("nf", input.m_nNf, 1, 100);
     faults.Within("surface", input.m_nSurface, 0, 4);
   } else {
@@ -92,6 +100,10 @@ void BoltFieldFaults(const CBoltCase& input, CFaultList& faults) {
   }
   if (input.m_nType == kOrdinaryBolt) faults.Within("class", input.m_nClass, 0, 2);
   faults.Positive("t", input.m_dThick, "mm");
+  if (input.m_dThick > kThickestSteel) {
+    faults.Add("t", PlainNumber(input.m_dThick) + " mm is beyond Table 3.4.1-1",
+               "give at most " + PlainNumber(kThickestSteel) + " mm");
+  }
 }
 
 void LoadFaults(const CBoltCase& input, CFaultList& faults) {
@@ -104,6 +116,28 @@ void LoadFaults(const CBoltCase& input, CFaultList& faults) {
     faults.Add("M", PlainNumber(input.m_dM) + " is below 0",
                "give 0 or more: turn the group so that its first row is the one pressed on");
   }
+  if (input.m_nRows == 1 && !IsZero(input.m_dM)) {
+    faults.Add("M", "one row of bolts has no lever arm for " + PlainNumber(input.m_dM) + " kN mm",
+               "give 0, or 2 rows or more");
+  }
+  if (input.m_nRows == 1 && input.m_nCols == 1 && !IsZero(input.m_dT)) {
+    faults.Add("T", "a single bolt carries no torque of " + PlainNumber(input.m_dT) + " kN mm",
+               "give 0, or 2 bolts or more");
+  }
+}
+
+// Neighbours of a staggered group stand half a row apart, those of one line two columns.
+void StaggerFault(const CBoltCase& input, double d0, CFaultList& faults) {
+  if (input.m_nLayout != 1) return;
+  double nearest = std::hypot(Least(input.m_colSpace), Least(input.m_rowSpace) / 2);
+  const auto& each = input.m_colSpace.m_arrEach;
+  if (each.empty() && input.m_nCols > 2)
+    nearest = std::min(nearest, 2 * input.m_colSpace.m_dUniform);
+  for (std::size_t i = 1; i < each.size(); ++i) nearest = std::min(nearest, each[i - 1] + each[i]);
+  if (nearest > d0) return;
+  faults.Add("colSpace",
+             "staggered holes stand " + PlainNumber(nearest) + " mm apart and run into one another",
+             "give spacings that keep them more than " + PlainNumber(d0) + " mm apart");
 }
 
 void EdgeFault(const char* key, double distance, double d0, CFaultList& faults) {
@@ -165,66 +199,89 @@ void TableWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& warn
           "Table 7.2.2-2 has no preload for " + d + "; P = " + preload +
               " is that of a neighbouring size. Check it."}});
   }
-  if (record.m_dThick > 100) {
-    warnings.push_back({"t",
-                        {"表 3.4.1-1 止于 100 mm；强度 f 按最厚一组取值，偏于不安全。",
-                         "Table 3.4.1-1 ends at 100 mm; f is that of the thickest group, which is "
-                         "on the unsafe side."}});
-  }
 }
 
-void MomentWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& warnings) {
-  if (record.m_dNtM < 0) {
-    warnings.push_back({record.m_dVx < 0 ? "Vx" : "M",
-                        {"弯矩分配给螺栓的拉力为负（M 与 Vx 异号），偏于不安全；请把 Vx 与 M "
-                         "取同号再算一次。",
-                         "The moment's share of the bolt tension is negative (M and Vx have "
-                         "opposite signs), which is on the unsafe side; run it again with Vx and M "
-                         "of one sign."}});
-  }
-  if (!IsZero(record.m_dM) && IsZero(record.m_dSumLy2)) {
-    warnings.push_back({"M",
-                        {"单行螺栓对弯矩没有力臂，M 未计入验算。",
-                         "One row of bolts has no lever arm for the moment: M is not part of the "
-                         "check."}});
-  }
-  if (record.m_dT < 0) {
-    warnings.push_back({"T",
-                        {"扭矩为负，其分力与直接剪力相抵，偏于不安全；请以 |T| 再算一次。",
-                         "The torque is negative and its share is taken off the direct shear, "
-                         "which is on the unsafe side; run it again with |T|."}});
-  }
-  if (record.m_dT != 0 && record.m_nBoltNum == 1) {
-    warnings.push_back({"T",
-                        {"单个螺栓不能承受扭矩，T 未计入验算。",
-                         "A single bolt carries no torque: T is not part of the check."}});
-  }
+// --- Where the verdict is not by the record's figures -------------------------------------------
+
+bool Differ(double a, double b) {
+  return std::fabs(a - b) > 1e-9 * std::max(std::fabs(a), std::fabs(b));
 }
 
-void SectionWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& warnings) {
-  const bool bTwoStresses = record.m_nBoltType == kFrictionBolt || record.m_nLayout == 1;
-  const auto signs = [&](const char* key, double shear) {
-    if (!bTwoStresses || shear >= 0) return;
-    warnings.push_back(
-        {key,
-         {std::string(key) + " 为负：两个截面应力按代数值比较，取了绝对值较小者，偏于不安全；"
-                             "请以正值再算一次。",
-          std::string(key) + " is negative: the two section stresses are compared with their "
-                             "signs and the smaller in size governs, which is on the unsafe side; "
-                             "run it again with a positive value."}});
+std::string Ratios(const NormalBoltData& record, const CBoltFigures& figures) {
+  return PlainNumber(record.m_dRatio) + " → " + PlainNumber(figures.m_dRatio);
+}
+
+void ShearWarnings(const NormalBoltData& record, const CBoltFigures& figures,
+                   std::vector<CCaseWarning>& warnings) {
+  if (!Differ(record.m_dNv, figures.m_dNv)) return;
+  const std::string was = PlainNumber(record.m_dNv);
+  const std::string is = PlainNumber(figures.m_dNv);
+  warnings.push_back(
+      {"T",
+       {"扭矩为负：记录值 Nv = " + was + " kN 把其分力与直接剪力相抵；按相加的 Nv = " + is +
+            " kN 验算（相关式 " + Ratios(record, figures) + "）。",
+        "The torque is negative: the record's Nv = " + was +
+            " kN takes its share off the direct shear; judged by Nv = " + is +
+            " kN, where it adds (interaction " + Ratios(record, figures) + ")."}});
+}
+
+void TensionWarnings(const NormalBoltData& record, const CBoltFigures& figures,
+                     std::vector<CCaseWarning>& warnings) {
+  if (record.m_dN < 0 && !IsZero(record.m_dN)) {
+    warnings.push_back({"N",
+                        {"N < 0 为压力，由板件接触传递，未验算接触面；螺栓只验算其余内力。",
+                         "N below 0 presses the plates together: contact carries it, which is not "
+                         "checked; the bolts are checked for what remains."}});
+  }
+  if (!Differ(record.m_dNt, figures.m_dNt)) return;
+  const std::string was = "Nt = " + PlainNumber(record.m_dNt) + " kN";
+  const std::string is = "Nt = " + PlainNumber(figures.m_dNt) + " kN";
+  static constexpr CTextLiteral kHow[] = {
+      {"", ""},
+      {"绕形心转动", "turning about the centroid"},
+      {"绕第一行转动并计入 N 对该行之矩", "turning about the first row, which N lifts off as well"},
   };
-  signs("Vx", record.m_dVx);
-  signs("Vy", record.m_dVy);
-  if (record.m_nLayout == 1 && record.m_nBoltType != kFrictionBolt && !IsZero(record.m_dVy)) {
+  const CTextLiteral& how = kHow[static_cast<int>(figures.m_nTurn)];
+  warnings.push_back({"M",
+                      {"记录值 " + was + " 偏于不安全；按" + how.m_szChinese + "的 " + is +
+                           " 验算（相关式 " + Ratios(record, figures) + "）。",
+                       "The record's " + was + " is on the unsafe side; judged by " + is + ", " +
+                           how.m_szEnglish + " (interaction " + Ratios(record, figures) + ")."}});
+}
+
+void BearingWarnings(const NormalBoltData& record, const CBoltFigures& figures,
+                     std::vector<CCaseWarning>& warnings) {
+  if (record.m_nBoltType != kBearingBolt || figures.m_dNv == 0) return;
+  const double reduced = record.m_dBeta * record.m_dNcb / 1.2;
+  if (figures.m_dNt == 0 && figures.m_dNv > reduced) {
+    const std::string was = PercentNumber(figures.m_dNv / reduced) + " %";
+    const std::string is = PercentNumber(figures.m_dNv / figures.m_dBearing) + " %";
     warnings.push_back(
-        {"Vy",
-         {"错列布置抵抗 Vy 的净截面：直线截面按行数之半扣孔，折线截面每段取整个行距，"
-          "可能偏于不安全；请另行核对这两个截面。",
-          "The net sections of a staggered group that resist Vy: the straight one "
-          "deducts half as many holes as there are rows, and each leg of the zigzag "
-          "one spans a whole row spacing, which can be on the unsafe side; check "
-          "both by themselves."}});
+        {"Vx",
+         {"记录按 Nv ≤ Ncb / 1.2 判定孔壁承压（" + was +
+              "）；7.2.3 条仅在同时受拉时要求除以 1.2，无拉力按 Ncb 验算（" + is + "）。",
+          "The record holds Nv against Ncb / 1.2 (" + was +
+              "), which 7.2.3 asks only together with tension; judged against Ncb (" + is + ")."}});
   }
+}
+
+void SectionWarning(const char* key, double recorded, const CPlateSection& section, double f,
+                    bool bFriction, std::vector<CCaseWarning>& warnings) {
+  if (!Differ(std::fabs(recorded), section.Worst())) return;
+  const auto stress = [f](double sigma) {
+    return PlainNumber(sigma) + " N/mm² (" + PercentNumber(sigma / f) + " %)";
+  };
+  const std::string number = std::to_string(section.Holes());
+  const std::string area = PlainNumber(section.m_dNet) + " mm²";
+  const std::string share =
+      bFriction ? ", 1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
+  warnings.push_back({key,
+                      {std::string("记录的 ") + key + " 截面应力为 " + stress(recorded) +
+                           "；按 5.1.1 条最不利截面（" + number + " 孔，净面积 " + area + share +
+                           "）验算：" + stress(section.Worst()) + "。",
+                       std::string("The record's section stress from ") + key + " is " +
+                           stress(recorded) + "; judged by the worst section of 5.1.1 (" + number +
+                           " holes, net " + area + share + "): " + stress(section.Worst()) + "."}});
 }
 
 }  // namespace
@@ -241,18 +298,24 @@ std::vector<CCaseFault> BoltFaults(const CBoltCase& input) {
   const double leastColumn = input.m_nLayout == 1 ? 0 : d0;
   SpacingFaults("colSpace", "columns", input.m_colSpace, input.m_nCols - 1, leastColumn, faults);
   SpacingFaults("rowSpace", "rows", input.m_rowSpace, input.m_nRows - 1, d0, faults);
+  if (faults.IsEmpty()) StaggerFault(input, d0, faults);
   EdgeFault("ex", input.m_dEx, d0, faults);
   EdgeFault("ey", input.m_dEy, d0, faults);
   return faults.Take();
 }
 
-std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record) {
+std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record, const CBoltFigures& figures) {
   std::vector<CCaseWarning> warnings;
   SpacingWarnings(record, warnings);
   EdgeWarnings(record, warnings);
   TableWarnings(record, warnings);
-  MomentWarnings(record, warnings);
-  SectionWarnings(record, warnings);
+  ShearWarnings(record, figures, warnings);
+  TensionWarnings(record, figures, warnings);
+  BearingWarnings(record, figures, warnings);
+  const double f = 1000 * record.m_dF;
+  const bool bFriction = record.m_nBoltType == kFrictionBolt;
+  SectionWarning("Vx", record.m_dSigmaX[0], figures.m_x, f, bFriction, warnings);
+  SectionWarning("Vy", record.m_dSigmaY[0], figures.m_y, f, bFriction, warnings);
   return warnings;
 }
 

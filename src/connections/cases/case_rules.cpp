@@ -1,7 +1,6 @@
 #include "connections/cases/case_rules.h"
 
-#include <cstdlib>
-
+#include "connections/check_math.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 
@@ -20,6 +19,23 @@ std::string PlainNumber(double value) {
     if (text.back() == '.') text.pop_back();
   }
   return text == "-0" ? "0" : text;
+}
+
+std::string PercentNumber(double utilisation) {
+  const double percent = 100 * std::fabs(utilisation);
+  std::string text = PlainNumber(std::round(10 * percent) / 10);
+  for (int digits = 2; percent > 100 && text == "100" && digits < 16; ++digits)
+    text = ToUtf8(FormatFixed(percent, digits));
+  return text;
+}
+
+CComparedText Compared(double effect, double limit) {
+  CComparedText text = {PlainNumber(effect), PlainNumber(limit)};
+  for (int digits = 1; effect > limit && text.m_strEffect == text.m_strLimit && digits < 16;
+       ++digits) {
+    text = {ToUtf8(FormatFixed(effect, digits)), ToUtf8(FormatFixed(limit, digits))};
+  }
+  return text;
 }
 
 const CCasePart& WorstPart(std::span<const CCasePart> parts) {
@@ -45,28 +61,27 @@ void CFaultList::Within(const char* key, int value, int first, int last) {
       "give a whole number from " + std::to_string(first) + " to " + std::to_string(last));
 }
 
-void WarnOfWeldLoads(int loadCase, double N, double M, double V,
-                     std::vector<CCaseWarning>& warnings) {
-  const auto leftOut = [&](const char* key, double load, bool bTaken) {
-    if (bTaken || load == 0) return;
-    const std::string number = std::to_string(loadCase);
-    warnings.push_back(
-        {key,
-         {std::string(key) + " 不为 0，但工况 " + number + " 的验算不计入它；请选用计入它的工况。",
-          std::string(key) + " is not 0, but load case " + number +
-              " leaves it out; choose a load case that takes it."}});
+void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& faults) {
+  const auto dropped = [&](const char* key, double load, bool bTaken, const char* cases) {
+    if (bTaken || std::fabs(load) <= kCheckTolerance || !std::isfinite(load)) return;
+    faults.Add(key, PlainNumber(load) + " is left out by load case " + std::to_string(loadCase),
+               std::string("give 0, or a load case that takes ") + key + ": " + cases);
   };
-  leftOut("N", N, TakesN(loadCase));
-  leftOut("M", M, TakesM(loadCase));
-  leftOut("V", V, TakesV(loadCase));
-  if (TakesN(loadCase) && TakesM(loadCase) && ((N < 0 && M > 0) || (N > 0 && M < 0))) {
-    warnings.push_back({"M",
-                        {"N 与 M 异号：应力按代数和计算，未验算另一边缘的 |N/A| + |M/W|；"
-                         "请以同号的 M 再算一次。",
-                         "N and M have opposite signs: their stresses are added with signs, and "
-                         "|N/A| + |M/W| at the other edge is not checked; run it again with M of "
-                         "the sign of N."}});
-  }
+  dropped("N", N, TakesN(loadCase), "0, 1, 2, 4, 5");
+  dropped("M", M, TakesM(loadCase), "1 to 5");
+  dropped("V", V, TakesV(loadCase), "3, 4, 5");
+}
+
+void WarnOfOther(const char* key, const CTextLiteral& what, double record, double judged,
+                 const CTextLiteral& why, std::vector<CCaseWarning>& warnings) {
+  if (std::fabs(record - judged) <= 1e-9 * std::fabs(judged)) return;
+  const std::string was = PlainNumber(record);
+  const std::string is = PlainNumber(judged);
+  warnings.push_back({key,
+                      {std::string("记录的") + what.m_szChinese + "为 " + was + " N/mm²；按 " + is +
+                           " N/mm² 验算：" + why.m_szChinese + "。",
+                       std::string("The record's ") + what.m_szEnglish + " is " + was +
+                           " N/mm²; judged by " + is + " N/mm²: " + why.m_szEnglish + "."}});
 }
 
 }  // namespace orv3

@@ -94,8 +94,7 @@ std::string Scripts(std::string_view& text) {
 
 std::string Percent(double utilisation) {
   if (!std::isfinite(utilisation)) return "—";
-  std::string text = PlainNumber(std::round(std::fabs(utilisation) * 1000) / 10);
-  return text + "%";
+  return PercentNumber(utilisation) + "%";
 }
 
 std::string Verdict(bool bPass, CLanguage language) {
@@ -178,6 +177,12 @@ std::string Formula(std::string_view text) {
 std::string Put(double value) {
   const std::string text = PlainNumber(value);
   return value < 0 ? "(" + text + ")" : text;
+}
+
+std::string Relation(double effect, double limit, bool bPass) {
+  const CComparedText text = Compared(effect, limit);
+  const char* sign = bPass ? " ≤ " : effect > limit ? " > " : " ≮ ";
+  return text.m_strEffect + sign + text.m_strLimit;
 }
 
 std::string InputText(int value, std::span<const char* const> choices) {
