@@ -44,12 +44,14 @@ void NoSectionLeft(const NormalBoltData& record, std::vector<CCaseFault>& faults
     return area[1] > 0;
   };
   if (!left(record.m_dAreaX, record.m_dVx)) {
-    faults.push_back({"rowSpace", "the holes leave no net section that resists Vx",
-                      "give larger spacings or fewer rows"});
+    faults.push_back({"rowSpace",
+                      {"扣孔后无净截面抵抗 Vx", "the holes leave no net section that resists Vx"},
+                      {"请加大间距或减少行数", "give larger spacings or fewer rows"}});
   }
   if (!left(record.m_dAreaY, record.m_dVy)) {
-    faults.push_back({"colSpace", "the holes leave no net section that resists Vy",
-                      "give larger spacings or fewer bolts"});
+    faults.push_back({"colSpace",
+                      {"扣孔后无净截面抵抗 Vy", "the holes leave no net section that resists Vy"},
+                      {"请加大间距或减少螺栓", "give larger spacings or fewer bolts"}});
   }
 }
 
