@@ -31,6 +31,7 @@ struct COptions {
   bool csv = false;
   bool sort = false;
   std::string report;
+  std::string project;
   std::string language;  // "zh", "en", or empty
 
   // Of what is printed, and of the report.
@@ -42,7 +43,7 @@ struct COptions {
   }
 };
 
-// Ties the schema's keys to the fields of a case.
+// Ties the schema's keys to the fields of a case and of its report's head.
 template <class CHECK>
 class CCaseReader {
  public:
@@ -52,9 +53,21 @@ class CCaseReader {
       const auto key = std::find_if(keys.begin(), keys.end(), [&](const auto& each) {
         return rule.m_strKey == each.m_szKey;
       });
-      if (key == keys.end()) throw std::logic_error("schema: no field for " + rule.m_strKey);
-      m_arrKey.push_back(&*key);
+      m_arrKey.push_back(key == keys.end() ? nullptr : &*key);
+      if (key == keys.end() && SheetField(rule.m_strKey) == nullptr)
+        throw std::logic_error("schema: no field for " + rule.m_strKey);
     }
+  }
+
+  // What the case tells for the head of its report.
+  CReportSheet Sheet(const CCaseValues& values) const {
+    CReportSheet sheet;
+    for (std::size_t i = 0; i < m_arrKey.size(); ++i) {
+      const auto* text = values[i] ? std::get_if<std::string_view>(&*values[i]) : nullptr;
+      if (m_arrKey[i] == nullptr && text != nullptr)
+        sheet.*SheetField(m_schema.Rules()[i].m_strKey) = *text;
+    }
+    return sheet;
   }
 
   // A refused case keeps its name.
@@ -65,7 +78,7 @@ class CCaseReader {
     if (read.m_fault) return read.m_fault;
     if (auto fault = m_schema.Check(values)) return fault;
     for (std::size_t i = 0; i < values.size(); ++i) {
-      if (values[i] && !SetInput(input, *m_arrKey[i], *values[i])) {
+      if (values[i] && m_arrKey[i] != nullptr && !SetInput(input, *m_arrKey[i], *values[i])) {
         const auto& rule = m_schema.Rules()[i];
         return CCaseFault{rule.m_strKey, {"不可用", "is not possible"}, rule.Right()};
       }
@@ -74,6 +87,13 @@ class CCaseReader {
   }
 
  private:
+  static std::string CReportSheet::*SheetField(std::string_view name) noexcept {
+    for (const CSheetKey& key : kSheetKeys) {
+      if (name == key.m_szKey) return key.m_pField;
+    }
+    return nullptr;
+  }
+
   void SetName(const CCaseValues& values, typename CHECK::CCase& input) const {
     const int key = m_schema.Find("id");
     if (key < 0 || !values[static_cast<std::size_t>(key)]) return;
@@ -82,7 +102,7 @@ class CCaseReader {
   }
 
   const CCaseSchema& m_schema;
-  std::vector<const CInputKey<typename CHECK::CCase>*> m_arrKey;
+  std::vector<const CInputKey<typename CHECK::CCase>*> m_arrKey;  // null for the head's
 };
 
 template <class CHECK>
@@ -108,7 +128,8 @@ class CChecker {
     if (m_nCases == 0) Refuse({"没有算例；请至少给一个", "holds no case; give one at least"});
     if (!m_bOne) m_answers.Finish();
     WriteReport();
-    if (m_nRefused > 0 && !m_bOne) {
+    if (m_bOne && m_fault) Refuse(m_fault->Text());
+    if (m_nRefused > 0) {
       const std::string refused = std::to_string(m_nRefused);
       const std::string cases = std::to_string(m_nCases);
       Refuse({cases + " 个算例中有 " + refused + " 个被拒绝，第一个：" + m_strFirstFault,
@@ -135,16 +156,15 @@ class CChecker {
     } else if (!m_check.Pass()) {
       ++m_nFailed;
     }
+    AddToReport(read);
     if (m_bOne) {
       AnswerOne();
     } else {
       Answer();
     }
-    AddToReport();
   }
 
   void CountFault() {
-    if (m_bOne) Refuse(m_fault->Text());
     if (m_nRefused++ > 0) return;
     const std::string number = std::to_string(m_nCases);
     const CText which = {"第 " + number + " 个，", "case " + number + ", "};
@@ -152,6 +172,7 @@ class CChecker {
   }
 
   void AnswerOne() {
+    if (m_fault) return;
     if (m_options.json) {
       PrintJson(CaseJson(m_input, m_check, Language()));
     } else {
@@ -212,19 +233,33 @@ class CChecker {
     return row;
   }
 
-  void AddToReport() {
-    if (m_options.report.empty() || m_fault) return;
+  void AddToReport(const CReadCase& read) {
+    if (m_options.report.empty()) return;
     if (m_arrReport.size() == kMostReports) {
-      throw CCommandError(CExit::BadInput, "--report: takes at most " +
-                                               std::to_string(kMostReports) +
-                                               " cases; give a file with fewer");
+      const std::string most = std::to_string(kMostReports);
+      Refuse({"--report 至多写 " + most + " 个算例；请把文件分开",
+              "--report takes at most " + most + " cases; give a file with fewer"});
     }
-    m_arrReport.push_back(CaseReport(m_input, m_check, m_options.ReportLanguage()));
+    const CLanguage language = m_options.ReportLanguage();
+    CReportCase each = {.m_nCase = m_nCases,
+                        .m_strId = m_input.m_strId,
+                        .m_sheet = m_reader.Sheet(read.m_arrValue)};
+    if (each.m_sheet.m_strProject.empty()) each.m_sheet.m_strProject = m_options.project;
+    if (m_fault) {
+      each.m_strRefused = m_fault->Line(language);
+    } else {
+      each.m_bPass = m_check.Pass();
+      each.m_dUtilisation = m_check.Worst().m_dUtilisation;
+      each.m_strGoverns = m_check.Worst().m_name.In(language);
+      each.m_nWarnings = m_check.Warnings().size();
+      each.m_strBody = CaseReport(m_input, m_check, language);
+    }
+    m_arrReport.push_back(std::move(each));
   }
 
-  void WriteReport() {
+  void WriteReport() const {
     if (m_options.report.empty()) return;
-    const std::string title = "Orv3Cal " + m_options.kind;
+    const CReportTitle title = {"Orv3Cal " + m_options.kind, ORV3CAL_VERSION};
     WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.ReportLanguage()));
   }
 
@@ -236,7 +271,7 @@ class CChecker {
   typename CHECK::CCase m_input;
   std::optional<CCaseFault> m_fault;
   bool m_bOne = false;  // the file is one case, which is answered in full
-  std::vector<std::string> m_arrReport;
+  std::vector<CReportCase> m_arrReport;
   int m_nCases = 0;
   int m_nFailed = 0;
   int m_nRefused = 0;
@@ -265,6 +300,8 @@ void AddCheckCommand(CLI::App& program) {
   command->add_flag("--sort", options->sort, "Of many cases, the greatest utilisation first");
   command->add_option("--report", options->report, "Write a calculation report to print on A4")
       ->type_name("FILE.html");
+  command->add_option("--project", options->project,
+                      "The project in the head of the report, of cases that name none");
   command
       ->add_option(
           "--lang", options->language,

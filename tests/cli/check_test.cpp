@@ -9,6 +9,7 @@
 #include "cli/run_program.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
+#include "connections/report/connection_report.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ template <class CHECK>
 void ExpectKeysOf(const std::string& kind) {
   std::set<std::string> keys;
   for (const auto& key : CHECK::InputKeys()) keys.insert(key.m_szKey);
+  for (const auto& key : orv3::kSheetKeys) keys.insert(key.m_szKey);
   std::set<std::string> listed;
   const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/" + kind + ".schema.json"));
   for (const auto& [key, rule] : schema["properties"].items()) {
@@ -183,13 +185,20 @@ TEST(CheckCommand, RefusedCasesKeepTheirOwnIds) {
 
 TEST(CheckCommand, AnArrayOfCasesGivesAReportOfAll) {
   Json second = Example("fillet");
-  second["id"] = "the other";
+  second["id"] = "the \"other\"";
+  second["checked"] = "Li Hua";
+  Json third = Example("fillet");
+  third["id"] = "a third";
+  third["case"] = 9;
   const COwnFile report("report.html");
-  const CRunResult run = Check("fillet", Json::array({Example("fillet"), second}).dump(),
-                               "--report " + report.m_strPath + " --lang en");
-  EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
+  const CRunResult run = Check("fillet", Json::array({Example("fillet"), second, third}).dump(),
+                               "--report " + report.m_strPath + " --lang en --project Depot");
+  EXPECT_EQ(run.m_nExit, 2) << "one is refused";
   ExpectHas(run.m_strOut, {"utilisation"});
-  ExpectHas(report.Bytes(), {"the other"});
+  // The summary lists the third, and the margins of the second's pages name it.
+  ExpectHas(report.Bytes(), {"3 cases: 2 pass, 0 fail, 1 refused", "case: 9 is not possible",
+                             "content: \"the\\20 \\22 other\\22 \"", "Li Hua", "Depot",
+                             "counter(page)", "GB 50017-2017"});
   EXPECT_EQ(report.Bytes().find("验算"), std::string::npos) << "English was asked for";
 }
 

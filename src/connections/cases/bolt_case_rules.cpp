@@ -274,6 +274,8 @@ std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record) {
   std::vector<CCaseWarning> warnings;
   SpacingWarnings(record, warnings);
   EdgeWarnings(record, warnings);
+  WarnOfLargestDistances(record, warnings);
+  WarnOfThreads(record, warnings);
   TableWarnings(record, warnings);
   MomentWarnings(record, warnings);
   SectionWarnings(record, warnings);

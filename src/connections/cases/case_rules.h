@@ -7,6 +7,8 @@
 
 #include "connections/cases/case_keys.h"
 
+class NormalBoltData;
+
 namespace orv3 {
 
 // A number as people write it: four significant digits at least, no exponent for everyday sizes.
@@ -42,6 +44,11 @@ constexpr bool TakesV(int loadCase) noexcept { return loadCase >= 3; }
 // Warnings of loads that the load case leaves out, and of N and M that relieve one another.
 void WarnOfWeldLoads(int loadCase, double N, double M, double V,
                      std::vector<CCaseWarning>& warnings);
+
+// Of a computed bolt group: distances above those of Table 8.3.4.
+void WarnOfLargestDistances(const NormalBoltData& record, std::vector<CCaseWarning>& warnings);
+// The shear resistance of bearing-type bolts with threads in the shear plane (7.2.3).
+void WarnOfThreads(const NormalBoltData& record, std::vector<CCaseWarning>& warnings);
 
 extern const char* const kSteels[4];
 
