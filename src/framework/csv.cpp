@@ -1,9 +1,37 @@
 #include "framework/csv.h"
 
 namespace orv3 {
+namespace {
 
-CCsvReader::CCsvReader(std::string bytes) : m_strBytes(std::move(bytes)) {
-  if (m_strBytes.starts_with("\xEF\xBB\xBF")) m_nAt = 3;
+constexpr std::size_t kKeep = 1U << 16;  // text that was read is dropped from here on
+
+}  // namespace
+
+CCsvReader::CCsvReader(std::string bytes) : m_strBytes(std::move(bytes)) { Start(); }
+
+CCsvReader::CCsvReader(CMore more) : m_more(std::move(more)) { Start(); }
+
+void CCsvReader::Start() {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  if (!IsEnd(kMark.size() - 1) && m_strBytes.starts_with(kMark)) m_nAt = kMark.size();
+  m_chSeparator = FindSeparator();
+}
+
+char CCsvReader::FindSeparator() {
+  static constexpr std::string_view kSeparators = ",;\t";
+  std::size_t counts[kSeparators.size()] = {};
+  bool quoted = false;
+  for (std::size_t at = m_nAt; !IsEnd(at); ++at) {
+    const char ch = m_strBytes[at];
+    if (ch == '"') quoted = !quoted;
+    if (quoted) continue;
+    if (ch == '\n' || ch == '\r') break;
+    const std::size_t which = kSeparators.find(ch);
+    if (which != kSeparators.npos) ++counts[which];
+  }
+  std::size_t most = 0;
+  for (std::size_t i = 1; i < kSeparators.size(); ++i) most = counts[i] > counts[most] ? i : most;
+  return kSeparators[most];
 }
 
 double CCsvReader::Done() const noexcept {
@@ -11,47 +39,83 @@ double CCsvReader::Done() const noexcept {
   return static_cast<double>(m_nAt) / static_cast<double>(m_strBytes.size());
 }
 
-bool CCsvReader::Next(std::vector<std::string_view>& cells) {
-  cells.clear();
-  const std::size_t size = m_strBytes.size();
-  if (m_nAt >= size) return false;
-  while (true) {
-    cells.push_back(m_nAt < size && m_strBytes[m_nAt] == '"' ? QuotedCell() : PlainCell());
-    if (m_nAt >= size) return true;
-    const char end = m_strBytes[m_nAt++];
-    if (end == '\r' && m_nAt < size && m_strBytes[m_nAt] == '\n') ++m_nAt;
-    if (end != ',') return true;
+bool CCsvReader::IsEnd(std::size_t at) {
+  while (at >= m_strBytes.size()) {
+    if (!m_more || !m_more(m_strBytes)) return true;
   }
+  return false;
 }
 
-std::string_view CCsvReader::PlainCell() {
-  const std::size_t first = m_nAt;
-  while (m_nAt < m_strBytes.size()) {
-    const char ch = m_strBytes[m_nAt];
-    if (ch == ',' || ch == '\n' || ch == '\r') break;
-    ++m_nAt;
+void CCsvReader::DropRead() {
+  if (!m_more || m_nAt < kKeep) return;
+  m_strBytes.erase(0, m_nAt);
+  m_nAt = 0;
+}
+
+bool CCsvReader::Next(std::vector<std::string_view>& cells) {
+  cells.clear();
+  m_arrCell.clear();
+  DropRead();
+  if (m_bMalformed || IsEnd(m_nAt)) return false;
+  m_nLine = m_nNextLine;
+  for (bool more = true; more;) {
+    m_arrCell.push_back(!IsEnd(m_nAt) && m_strBytes[m_nAt] == '"' ? QuotedCell() : PlainCell());
+    if (m_bMalformed) {
+      m_nLine = m_nNextLine;
+      return false;
+    }
+    if (IsEnd(m_nAt)) break;
+    const char end = m_strBytes[m_nAt++];
+    more = end == m_chSeparator;
+    if (!more) EndLine(end);
   }
-  std::string_view cell(m_strBytes.data() + first, m_nAt - first);
-  while (cell.starts_with(' ')) cell.remove_prefix(1);
-  while (cell.ends_with(' ')) cell.remove_suffix(1);
+  for (const CCell& cell : m_arrCell)
+    cells.emplace_back(m_strBytes.data() + cell.m_nFirst, cell.m_nEnd - cell.m_nFirst);
+  return true;
+}
+
+// Counts a line that has ended with a character, and passes over the LF of a CR LF.
+void CCsvReader::EndLine(char end) {
+  if (end == '\r' && !IsEnd(m_nAt) && m_strBytes[m_nAt] == '\n') ++m_nAt;
+  ++m_nNextLine;
+}
+
+bool CCsvReader::AtEndOfCell() {
+  if (IsEnd(m_nAt)) return true;
+  const char ch = m_strBytes[m_nAt];
+  return ch == m_chSeparator || ch == '\n' || ch == '\r';
+}
+
+CCsvReader::CCell CCsvReader::PlainCell() {
+  CCell cell{m_nAt, m_nAt};
+  while (!AtEndOfCell()) ++m_nAt;
+  cell.m_nEnd = m_nAt;
+  while (cell.m_nFirst < cell.m_nEnd && m_strBytes[cell.m_nFirst] == ' ') ++cell.m_nFirst;
+  while (cell.m_nFirst < cell.m_nEnd && m_strBytes[cell.m_nEnd - 1] == ' ') --cell.m_nEnd;
   return cell;
 }
 
 // Doubled quotes are made single in place, which only shortens the text.
-std::string_view CCsvReader::QuotedCell() {
+CCsvReader::CCell CCsvReader::QuotedCell() {
   const std::size_t first = ++m_nAt;
   std::size_t out = first;
-  while (m_nAt < m_strBytes.size()) {
+  bool closed = false;
+  while (!IsEnd(m_nAt)) {
     const char ch = m_strBytes[m_nAt++];
     if (ch == '"') {
-      if (m_nAt >= m_strBytes.size() || m_strBytes[m_nAt] != '"') break;
+      closed = IsEnd(m_nAt) || m_strBytes[m_nAt] != '"';
+      if (closed) break;
       ++m_nAt;
     }
+    m_nNextLine += ch == '\n' ? 1 : 0;
     m_strBytes[out++] = ch;
   }
-  const std::string_view cell(m_strBytes.data() + first, out - first);
-  PlainCell();  // what stands between the closing quote and the comma is dropped
-  return cell;
+  if (closed) {
+    const CCell behind = PlainCell();
+    closed = behind.m_nFirst == behind.m_nEnd;
+  }
+  m_bMalformed = !closed;
+  return {first, out};
 }
 
 }  // namespace orv3

@@ -1,7 +1,8 @@
-// Comma-separated values, record by record.
+// Values separated by commas, semicolons or tabs, record by record.
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,25 +11,55 @@
 
 namespace orv3 {
 
-// Reads text in memory. A record ends with LF, CR or CR LF. A cell in quotation marks may hold
-// commas, line ends and, doubled, quotation marks; blanks around any other cell are dropped.
+// Reads text in memory, or piece by piece. A record ends with LF, CR or CR LF. A cell in quotation
+// marks may hold separators, line ends and, doubled, quotation marks; blanks around cells are
+// dropped. Cells are separated by the one of the comma, the semicolon and the tab that the first
+// line has most often.
 class ORV3CAL_API CCsvReader {
  public:
-  explicit CCsvReader(std::string bytes);  // passes over a UTF-8 byte order mark
+  // Appends the next piece to a text that holds what was read of the record at hand; false at the
+  // end.
+  using CMore = std::function<bool(std::string&)>;
+
+  // Both pass over a UTF-8 byte order mark. With `more` no more is held than a record and a piece.
+  explicit CCsvReader(std::string bytes);
+  explicit CCsvReader(CMore more);
   CCsvReader(const CCsvReader&) = delete;
   CCsvReader& operator=(const CCsvReader&) = delete;
 
-  // Puts the next record into `cells`, which point into the reader and stay valid as long as it;
-  // false at the end of the text. An empty line is a record of one empty cell.
+  // Puts the next record into `cells`, which point into the reader and stay valid as long as it (of
+  // text in pieces, until the next call); false at the end of the text, and where a cell in
+  // quotation marks is not closed or is followed by anything but a separator. An empty line is a
+  // record of one empty cell.
   bool Next(std::vector<std::string_view>& cells);
-  double Done() const noexcept;  // share of the text that has been read
+  bool IsMalformed() const noexcept { return m_bMalformed; }
+  // The line of the text, from 1, on which the last record starts or the malformed cell ends.
+  int Line() const noexcept { return m_nLine; }
+  double Done() const noexcept;  // share of the text in memory that has been read
 
  private:
-  std::string_view PlainCell();
-  std::string_view QuotedCell();
+  // Where a cell lies in the text, which may move while more of it is read.
+  struct CCell {
+    std::size_t m_nFirst;
+    std::size_t m_nEnd;
+  };
+  void Start();
+  char FindSeparator();
+  bool IsEnd(std::size_t at);  // reads more where the text at hand ends
+  bool AtEndOfCell();
+  CCell PlainCell();
+  CCell QuotedCell();
+  void EndLine(char end);
+  void DropRead();
 
+  CMore m_more;
   std::string m_strBytes;
+  std::vector<CCell> m_arrCell;
   std::size_t m_nAt = 0;
+  char m_chSeparator = ',';
+  int m_nLine = 1;
+  int m_nNextLine = 1;
+  bool m_bMalformed = false;
 };
 
 }  // namespace orv3

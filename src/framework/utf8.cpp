@@ -89,6 +89,27 @@ CString FromUtf8(std::string_view text) {
   return CString(out);
 }
 
+std::string Visible(std::string_view text, bool lines) {
+  constexpr char32_t kPictures = 0x2400;  // of U+0000 to U+001F, and behind them of U+007F
+  std::string out;
+  out.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : 0);
+    if (byte == 0xC2 && next >= 0x80 && next < 0xA0) {  // U+0080 to U+009F
+      AppendUtf8(out, kReplacement);
+      ++i;
+    } else if (byte == 0x7F) {
+      AppendUtf8(out, kPictures + 0x21);
+    } else if (byte < 0x20 && !(lines && (byte == '\n' || byte == '\t'))) {
+      AppendUtf8(out, kPictures + byte);
+    } else {
+      out += text[i];
+    }
+  }
+  return out;
+}
+
 bool IsUtf8(std::string_view text) noexcept {
   while (!text.empty()) {
     const std::size_t length = DecodeUtf8(text).length;

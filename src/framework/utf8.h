@@ -18,4 +18,8 @@ ORV3CAL_API CString FromUtf8(std::string_view text);
 // Whether `text` is whole, shortest-form UTF-8 without surrogates.
 ORV3CAL_API bool IsUtf8(std::string_view text) noexcept;
 
+// Text that a terminal or a page shows without obeying it: control characters, in `lines` but line
+// ends and tabs, become their pictures.
+ORV3CAL_API std::string Visible(std::string_view text, bool lines = false);
+
 }  // namespace orv3

@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <set>
 #include <sstream>
 
 #include "cli/run_program.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
+#include "connections/report/connection_report.h"
 
 namespace {
 
@@ -32,6 +34,7 @@ template <class CHECK>
 void ExpectKeysOf(const std::string& kind) {
   std::set<std::string> keys;
   for (const auto& key : CHECK::InputKeys()) keys.insert(key.m_szKey);
+  for (const auto& key : orv3::kSheetKeys) keys.insert(key.m_szKey);
   std::set<std::string> listed;
   const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/" + kind + ".schema.json"));
   for (const auto& [key, rule] : schema["properties"].items()) {
@@ -106,8 +109,17 @@ TEST(CheckCommand, RefusesByKeyInOneLine) {
     const COwnFile file("case.json", input.dump());
     ExpectRefused({{std::string("check ") + each.kind + " " + file.m_strPath, each.names}});
   }
-  for (const char* text : {R"({"N": 1e999})", "{", "7", ""})
-    EXPECT_EQ(Check("bolt", text).m_nExit, 2) << text;
+  const std::string behind = Example("bolt").dump() + std::string(3, '\0');
+  for (const std::string& text :
+       {std::string(R"({"N": 1e999})"), std::string("{"), std::string("7"), std::string(), behind,
+        Example("bolt").dump() + " {}", std::string("[]"),
+        "{\"" + std::string(1'000'000, 'k') + "\":1}"}) {
+    const COwnFile file("case.json", text);
+    const CRunResult run = RunProgram("check bolt " + file.m_strPath);
+    EXPECT_EQ(run.m_nExit, 2) << run.m_strError;
+    EXPECT_TRUE(run.m_strOut.empty()) << run.m_strOut;
+    EXPECT_LT(run.m_strError.size(), 500U) << "what is quoted is cut";
+  }
   EXPECT_EQ(RunProgram("check bolt no-such-file.json").m_nExit, 3);
   EXPECT_EQ(RunProgram("check rivet no-such-file.json").m_nExit, 2);
 }
@@ -146,15 +158,47 @@ TEST(CheckCommand, AnswersManyCasesOfACsv) {
   EXPECT_EQ(answers[1]["results"], ExampleAnswer("bolt")["results"]) << "the same group";
 }
 
+// Of an array of cases, each of which is read to its end.
+TEST(CheckCommand, RefusedCasesKeepTheirOwnIds) {
+  const COwnFile file("cases.json",
+                      R"([{"id": 12, "N": 5, "N": 7}, {"zz": 1, "id": 1.50}, 7, [1, {}],
+      {"M": {"id": "no"}, "id": "x"}, {"rowSpace": [7, "x"]}])");
+  const struct {
+    const char* id;  // null: none
+    std::vector<std::string> refused;
+    std::vector<std::string> chinese;
+  } cases[] = {{"12", {"N:", "twice, with 5 and with 7"}, {"N：", "两次，值为 5 和 7"}},
+               {"1.50", {"zz", "keys are"}, {"zz", "可用的键为"}},
+               {nullptr, {"case: 7 is no object"}, {"7 不是对象"}},
+               {nullptr, {"is no object"}, {"不是对象"}},
+               {"x", {"M: {…} is not possible"}, {"M：{…} 不可用"}},
+               {nullptr, {"rowSpace: \"x\"", "list"}, {"rowSpace：", "\"x\""}}};
+  const Json english = JsonOf("check bolt " + file.m_strPath, 2);
+  const Json chinese = JsonOf("check bolt " + file.m_strPath + " --lang zh", 2);
+  ASSERT_EQ(english.size(), std::size(cases));
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
+    EXPECT_EQ(english[i].value("id", Json()), cases[i].id ? Json(cases[i].id) : Json()) << i;
+    ExpectHas(english[i]["refused"], cases[i].refused);
+    ExpectHas(chinese[i]["refused"], cases[i].chinese);
+  }
+}
+
 TEST(CheckCommand, AnArrayOfCasesGivesAReportOfAll) {
   Json second = Example("fillet");
-  second["id"] = "the other";
+  second["id"] = "the \"other\"";
+  second["checked"] = "Li Hua";
+  Json third = Example("fillet");
+  third["id"] = "a third";
+  third["case"] = 9;
   const COwnFile report("report.html");
-  const CRunResult run = Check("fillet", Json::array({Example("fillet"), second}).dump(),
-                               "--report " + report.m_strPath + " --lang en");
-  EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
+  const CRunResult run = Check("fillet", Json::array({Example("fillet"), second, third}).dump(),
+                               "--report " + report.m_strPath + " --lang en --project Depot");
+  EXPECT_EQ(run.m_nExit, 2) << "one is refused";
   ExpectHas(run.m_strOut, {"utilisation"});
-  ExpectHas(report.Bytes(), {"the other"});
+  // The summary lists the third, and the margins of the second's pages name it.
+  ExpectHas(report.Bytes(), {"3 cases: 2 pass, 0 fail, 1 refused", "case: 9 is not possible",
+                             "content: \"the\\20 \\22 other\\22 \"", "Li Hua", "Depot",
+                             "counter(page)", "GB 50017-2017"});
   EXPECT_EQ(report.Bytes().find("验算"), std::string::npos) << "English was asked for";
 }
 
@@ -183,13 +227,16 @@ TEST(CodeCommand, LooksFiguresUp) {
       {"mu sway 0.04 0.02", nullptr},
       {"mu sway 12 40", 1.03},
       {"mu-step free 0.2 0.06", 2.0},
+      {"mu-step free 3 0.8", 10.24},
       {"mu-taper 0.05 0.5", 0.644},
       {"mu-taper 0.2 25", 0.969},
       {"gamma 2 y", 1.2},
       {"class 1 x", "a"},
       {"class-thick 2 y", "d"},
       {"fatigue 3 C", 3.26},
-      {"phib concentrated-upper 20 2", 2.0},
+      {"phib concentrated-upper 20 7", 0.58},
+      {"gamma 21 y", 1.0},
+      {"gamma 22 x", 1.0},
   };
   for (const auto& each : cases) {
     const Json answer = JsonOf(std::string("code ") + each.arguments);
@@ -199,6 +246,17 @@ TEST(CodeCommand, LooksFiguresUp) {
   ExpectHas(RunProgram("code mu sway 0 0").m_strOut, {"∞"});
   // Appendix C, class b, lambda 50 sqrt(235/fy): the printed table C-2 has 0.856.
   EXPECT_NEAR(JsonOf("code phi 50 235 b")["value"].get<double>(), 0.856, 0.0005);
+  // Beyond the tables: eta1 K1 tan(pi/mu) tan(eta1 pi/mu) = 1, and above 0.6 (B.1-2).
+  const double mu = JsonOf("code mu-step free 5 1.5")["value"];
+  constexpr double kPi = 3.14159265358979;
+  EXPECT_NEAR(7.5 * std::tan(kPi / mu) * std::tan(5 * kPi / mu), 1, 1e-9);
+  EXPECT_NEAR(mu, 21.4, 0.05);
+  EXPECT_NEAR(JsonOf("code mu-step sliding 3.001 0.8")["value"].get<double>(), 4.61, 0.006);
+  EXPECT_DOUBLE_EQ(JsonOf("code phib concentrated-upper 20 2")["value"], 1.07 - 0.282 / 2.0);
+  ExpectRefused({{"code gamma 23 x", {"23", "solid bars", "T sections"}},
+                 {"code class 0 x", {"rolled tube"}},
+                 {"code slip 5 Q235", {"wire brush"}},
+                 {"code mu-step free 0 1", {"above 0"}}});
   for (const char* bad :
        {"steel Q235 101", "steel Q236 10", "bolt C 8.8 ft", "preload 8.8 18", "weld Q235 10",
         "phi 50 0 b", "mu-step2 free 0.1 0.2 0.1 0.2", "mu-taper 0.04 0.5", "steel Q235 1x"}) {

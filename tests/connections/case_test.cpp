@@ -81,12 +81,12 @@ typename CHECK::CCase With(typename CHECK::CCase input, const std::vector<CChang
 template <class CHECK>
 void ExpectRefused(const typename CHECK::CCase& good, const std::vector<CChange>& changes) {
   CHECK check;
-  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line();
+  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line(CLanguage::English);
   for (const CChange& change : changes) {
     SCOPED_TRACE(change.key);
     ASSERT_FALSE(check.Run(With<CHECK>(good, {change})));
     const CCaseFault& fault = check.Faults().front();
-    EXPECT_EQ(fault.m_strKey, change.key) << fault.Line();
+    EXPECT_EQ(fault.m_strKey, change.key) << fault.Line(CLanguage::English);
     EXPECT_FALSE(fault.m_strWhat.empty() || fault.m_strRight.empty());
     EXPECT_FALSE(check.Pass());
   }
@@ -96,11 +96,12 @@ void ExpectRefused(const typename CHECK::CCase& good, const std::vector<CChange>
 template <class CHECK>
 void ExpectWarned(const typename CHECK::CCase& good, const std::vector<CChange>& changes) {
   CHECK check;
-  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line();
+  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line(CLanguage::English);
   EXPECT_TRUE(check.Warnings().empty()) << check.Warnings().front().m_text.m_strEnglish;
   for (const CChange& change : changes) {
     SCOPED_TRACE(change.key);
-    ASSERT_TRUE(check.Run(With<CHECK>(good, {change}))) << check.Faults().front().Line();
+    ASSERT_TRUE(check.Run(With<CHECK>(good, {change})))
+        << check.Faults().front().Line(CLanguage::English);
     ASSERT_EQ(check.Warnings().size(), 1U);
     EXPECT_EQ(check.Warnings()[0].m_strKey, change.key);
     EXPECT_NE(check.Warnings()[0].m_text.m_strChinese, check.Warnings()[0].m_text.m_strEnglish);
@@ -141,8 +142,16 @@ TEST(BoltCase, WarnsOfDetailingAndOfTheUnsafeSide) {
   ExpectWarned<CBoltCheck>(
       Ordinary(),
       {{"rowSpace", 64}, {"colSpace", 64}, {"ex", 42.9}, {"ey", 32}, {"T", -100}, {"t", 101}});
+  // 12 t = 144 mm is below 8 d0 = 172; 4 d0 = 86 below 8 t = 96.
+  ExpectWarned<CBoltCheck>(Ordinary(),
+                           {{"rowSpace", 145}, {"colSpace", 145}, {"ex", 86.5}, {"ey", 86.5}});
   ExpectWarned<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"rows", 1}}), {{"M", 100}});
   ExpectWarned<CBoltCheck>(Friction(), {{"Vx", -60}, {"M", -500}, {"d", 12}});
+  CBoltCheck threads;
+  ASSERT_TRUE(threads.Run(With<CBoltCheck>(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}})));
+  ASSERT_EQ(threads.Warnings().size(), 1U);
+  EXPECT_EQ(threads.Warnings()[0].m_strKey, "nv") << "78.5 kN, and 61.2 at the threads";
+  EXPECT_NE(threads.Warnings()[0].m_text.m_strEnglish.find("61.2"), std::string::npos);
   // Both of the friction type's quirks under a negative shear.
   CBoltCheck check;
   ASSERT_TRUE(check.Run(With<CBoltCheck>(Friction(), {{"Vx", -60}, {"M", 500}})));

@@ -52,10 +52,16 @@ int Count(const std::string& text, const std::string& part) {
 template <class CHECK>
 void ExpectWholeReport(const typename CHECK::CCase& input) {
   CHECK check;
-  ASSERT_TRUE(check.Run(input)) << check.Faults().front().Line();
+  ASSERT_TRUE(check.Run(input)) << check.Faults().front().Line(CLanguage::English);
   for (const CLanguage language : {CLanguage::Chinese, CLanguage::English}) {
-    const std::string bodies[] = {CaseReport(input, check, language)};
-    const std::string html = ReportDocument("report", bodies, language);
+    const CReportCase cases[] = {{.m_nCase = 1,
+                                  .m_strId = input.m_strId,
+                                  .m_sheet = {.m_strProject = "<P> & Q", .m_strChecked = "Li"},
+                                  .m_bPass = true,
+                                  .m_strBody = CaseReport(input, check, language)},
+                                 {.m_nCase = 2, .m_strRefused = "N: <none>"}};
+    const std::string html = ReportDocument({"report", "0"}, cases, language);
+    EXPECT_TRUE(Has(html, "&lt;P&gt; &amp; Q") && Has(html, "N: &lt;none&gt;"));
     const std::size_t body = html.find("<body>");
     EXPECT_TRUE(IsBalanced("<?xml?>" + html.substr(body, html.find("</html>") - body)));
     EXPECT_EQ(Count(html, "http"), Count(html, "http://www.w3.org/2000/svg")) << "fetches nothing";

@@ -38,13 +38,18 @@ double RecordMoment(const CBoltCase& input) noexcept {
 // A cut through the holes that leaves nothing of the plate has no stress to compare.
 std::vector<CCaseFault> NoSectionLeft(const CBoltFigures& figures) {
   CFaultList faults;
-  const auto check = [&](const char* key, const char* shear, const char* right,
+  const auto check = [&](const char* key, const std::string& shear, const CText& right,
                          const CPlateSection& section) {
     if (section.m_arrHole.empty() || section.m_dNet > 0) return;
-    faults.Add(key, std::string("the holes leave no net section that resists ") + shear, right);
+    faults.Add(
+        key,
+        {"扣孔后无净截面抵抗 " + shear, "the holes leave no net section that resists " + shear},
+        right);
   };
-  check("rowSpace", "Vx", "give larger spacings or fewer rows", figures.m_x);
-  check("colSpace", "Vy", "give larger spacings or fewer bolts", figures.m_y);
+  check("rowSpace", "Vx", {"请加大间距或减少行数", "give larger spacings or fewer rows"},
+        figures.m_x);
+  check("colSpace", "Vy", {"请加大间距或减少螺栓", "give larger spacings or fewer bolts"},
+        figures.m_y);
   return faults.Take();
 }
 

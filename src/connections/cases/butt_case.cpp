@@ -92,10 +92,7 @@ std::vector<CCaseFault> ButtFaults(const CButtCase& input) {
   faults.Finite("N", input.m_dN);
   faults.Finite("M", input.m_dM);
   faults.Finite("V", input.m_dV);
-  if (input.m_dThick > kThickestSteel) {
-    faults.Add("t", PlainNumber(input.m_dThick) + " mm is beyond Table 3.4.1-3",
-               "give at most " + PlainNumber(kThickestSteel) + " mm");
-  }
+  if (input.m_dThick > kThickestSteel) TooThick("t", input.m_dThick, "3.4.1-3", faults);
   DroppedLoadFaults(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, faults);
   return faults.Take();
 }

@@ -51,24 +51,41 @@ void CFaultList::Positive(const char* key, double value, const char* unit) {
   if (!std::isfinite(value)) {
     Finite(key, value);
   } else if (value <= 0) {
-    Add(key, PlainNumber(value) + " is not possible", std::string("give more than 0 ") + unit);
+    NotPossible(
+        key, PlainNumber(value),
+        {std::string("请给出大于 0 的数值 ") + unit, std::string("give more than 0 ") + unit});
   }
 }
 
 void CFaultList::Within(const char* key, int value, int first, int last) {
   if (value >= first && value <= last) return;
-  Add(key, std::to_string(value) + " is not possible",
-      "give a whole number from " + std::to_string(first) + " to " + std::to_string(last));
+  const std::string from = std::to_string(first);
+  const std::string to = std::to_string(last);
+  NotPossible(key, std::to_string(value),
+              {"请给出 " + from + " 至 " + to + " 的整数",
+               "give a whole number from " + from + " to " + to});
+}
+
+void TooThick(const char* key, double thickness, const std::string& table, CFaultList& faults) {
+  const std::string is = PlainNumber(thickness) + " mm";
+  const std::string most = PlainNumber(kThickestSteel) + " mm";
+  faults.Add(key, {is + " 超出表 " + table, is + " is beyond Table " + table},
+             {"请给不大于 " + most, "give at most " + most});
 }
 
 void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& faults) {
-  const auto dropped = [&](const char* key, double load, bool bTaken, const char* cases) {
+  const auto dropped = [&](const std::string& key, double load, bool bTaken,
+                           const std::string& cases) {
     if (bTaken || std::fabs(load) <= kCheckTolerance || !std::isfinite(load)) return;
-    faults.Add(key, PlainNumber(load) + " is left out by load case " + std::to_string(loadCase),
-               std::string("give 0, or a load case that takes ") + key + ": " + cases);
+    const std::string is = PlainNumber(load);
+    const std::string number = std::to_string(loadCase);
+    faults.Add(key,
+               {is + " 不为工况 " + number + " 所计入", is + " is left out by load case " + number},
+               {"请给 0，或选用计入 " + key + " 的工况：" + cases,
+                "give 0, or a load case that takes " + key + ": " + cases});
   };
   dropped("N", N, TakesN(loadCase), "0, 1, 2, 4, 5");
-  dropped("M", M, TakesM(loadCase), "1 to 5");
+  dropped("M", M, TakesM(loadCase), "1, 2, 3, 4, 5");
   dropped("V", V, TakesV(loadCase), "3, 4, 5");
 }
 

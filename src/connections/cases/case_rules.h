@@ -7,6 +7,8 @@
 
 #include "connections/cases/case_keys.h"
 
+class NormalBoltData;
+
 namespace orv3 {
 
 // A number as people write it: four significant digits at least, no exponent for everyday sizes.
@@ -25,11 +27,15 @@ CComparedText Compared(double effect, double limit);
 // Collects the faults of one case.
 class CFaultList {
  public:
-  void Add(std::string key, std::string what, std::string right) {
+  void Add(std::string key, CText what, CText right) {
     m_arrFault.push_back({std::move(key), std::move(what), std::move(right)});
   }
+  void NotPossible(std::string key, const std::string& number, CText right) {
+    Add(std::move(key), {number + " 不可用", number + " is not possible"}, std::move(right));
+  }
   void Finite(const char* key, double value) {
-    if (!std::isfinite(value)) Add(key, "is no finite number", "give a number");
+    if (!std::isfinite(value))
+      Add(key, {"不是有限数", "is no finite number"}, {"请给出数值", "give a number"});
   }
   void Positive(const char* key, double value, const char* unit);
   void Within(const char* key, int value, int first, int last);
@@ -60,6 +66,12 @@ constexpr bool IsShortFusion(int groove) noexcept {
 }
 
 inline constexpr double kThickestSteel = 100;  // Tables 3.4.1-1 and 3.4.1-3, mm
+void TooThick(const char* key, double thickness, const std::string& table, CFaultList& faults);
+
+// Of a computed bolt group: distances above those of Table 8.3.4.
+void WarnOfLargestDistances(const NormalBoltData& record, std::vector<CCaseWarning>& warnings);
+// The shear resistance of bearing-type bolts with threads in the shear plane (7.2.3).
+void WarnOfThreads(const NormalBoltData& record, std::vector<CCaseWarning>& warnings);
 
 extern const char* const kSteels[4];
 

@@ -9,8 +9,11 @@ namespace {
 void ThroatFaults(const CFilletCase& input, CFaultList& faults) {
   const int given = (input.m_dHe != 0) + (input.m_dHf != 0) + (input.m_dS != 0);
   if (given != 1) {
-    faults.Add("he", given == 0 ? "no throat is given" : "more than one throat is given",
-               "give he, or hf and angle, or s, angle and groove");
+    const CText what = given == 0 ? CText{"未给计算厚度", "no throat is given"}
+                                  : CText{"给了不止一种计算厚度", "more than one throat is given"};
+    faults.Add("he", what,
+               {"请给 he，或 hf 与 angle，或 s、angle 与 groove",
+                "give he, or hf and angle, or s, angle and groove"});
     return;
   }
   if (input.m_dHe != 0) {
@@ -18,8 +21,8 @@ void ThroatFaults(const CFilletCase& input, CFaultList& faults) {
     return;
   }
   if (!(input.m_dAngle > 0 && input.m_dAngle < 180)) {
-    faults.Add("angle", PlainNumber(input.m_dAngle) + " is not possible",
-               "give an angle between 0 and 180 degrees");
+    faults.NotPossible("angle", PlainNumber(input.m_dAngle),
+                       {"请给 0° 与 180° 之间的角度", "give an angle between 0 and 180 degrees"});
   }
   if (input.m_dHf != 0) {
     faults.Positive("hf", input.m_dHf, "mm");
@@ -28,15 +31,18 @@ void ThroatFaults(const CFilletCase& input, CFaultList& faults) {
   faults.Positive("s", input.m_dS, "mm");
   faults.Within("groove", input.m_nGroove, 0, 4);
   if ((input.m_nGroove == 1 || input.m_nGroove == 2) && input.m_dS <= 3) {
-    faults.Add("s", PlainNumber(input.m_dS) + " mm leaves no throat with this groove (he = s - 3)",
-               "give more than 3 mm");
+    const std::string s = PlainNumber(input.m_dS) + " mm";
+    faults.Add("s",
+               {s + " 对此坡口没有计算厚度（he = s - 3）",
+                s + " leaves no throat with this groove (he = s - 3)"},
+               {"请给大于 3 mm", "give more than 3 mm"});
   }
   if ((input.m_nGroove == 1 || input.m_nGroove == 2) && input.m_dAngle < 40) {
+    const std::string is = PlainNumber(input.m_dAngle) + "°";
     faults.Add("angle",
-               PlainNumber(input.m_dAngle) +
-                   " degrees: 7.1.5 gives no throat for bevel and K "
-                   "grooves below 40",
-               "give 40 or more, or the throat he");
+               {is + "：7.1.5 条未给出小于 40° 的单边 V 形和 K 形坡口的计算厚度",
+                is + ": 7.1.5 gives no throat for bevel and K grooves below 40°"},
+               {"请给 40° 或更大，或直接给 he", "give 40° or more, or the throat he"});
   }
 }
 

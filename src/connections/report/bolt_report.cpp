@@ -30,6 +30,7 @@ class CBoltReport {
   void Inputs();
   void Figure();
   CSteps Geometry() const;
+  void Distances(CSteps& steps) const;
   CSteps Strengths() const;
   CSteps Resistances() const;
   CSteps Forces() const;
@@ -56,6 +57,8 @@ void CBoltReport::Inputs() {
   std::vector<CReportBody::CInputLine> used;
   const auto unused = [&](const std::string& key) {
     if (key == "id") return true;
+    if (key == "colSpace") return m_input.m_nCols == 1;
+    if (key == "rowSpace") return m_input.m_nRows == 1;
     if (m_bFriction) return key == "sumT" || key == "nv" || key == "class";
     return key == "nf" || key == "surface" || (key == "class" && m_input.m_nType != kOrdinaryBolt);
   };
@@ -121,6 +124,7 @@ CBoltReport::CSteps CBoltReport::Geometry() const {
                      PlainNumber(m_r.m_dDe),
                      "mm"});
   }
+  Distances(steps);
   if (m_group.m_dSumR2 > 0) {
     steps.push_back({{"至形心距离的平方和", "Sum of squared distances from the centroid"},
                      "",
@@ -138,6 +142,28 @@ CBoltReport::CSteps CBoltReport::Geometry() const {
                      PlainNumber(m_group.m_dSumLy2), "mm²"});
   }
   return steps;
+}
+
+// The centroid, in mm from the first bolt, and the farthest bolts from it.
+void CBoltReport::Distances(CSteps& steps) const {
+  if (m_r.m_nBolts < 2) return;
+  const std::string n = std::to_string(m_r.m_nBolts);
+  const auto mean = [&](CTextLiteral name, const char* symbol, const char* formula, double value) {
+    steps.push_back({name, "", symbol, formula, PlainNumber(value * m_r.m_nBolts) + " / " + n,
+                     PlainNumber(value), "mm"});
+  };
+  mean({"形心横坐标（自第一个螺栓）", "Centroid along x, from the first bolt"}, "x_c", "Σx / n",
+       m_group.m_dXc);
+  mean({"形心纵坐标（自第一个螺栓）", "Centroid along y, from the first bolt"}, "y_c", "Σy / n",
+       m_group.m_dYc);
+  const auto farthest = [&](CTextLiteral name, const char* symbol, const char* formula,
+                            double value) {
+    steps.push_back({name, "", symbol, formula, "", PlainNumber(std::fabs(value)), "mm"});
+  };
+  farthest({"最远螺栓的 x 向距离", "Farthest bolt along x"}, "x_{max}", "\\max |x − x_c|",
+           m_group.m_dXMax);
+  farthest({"最远螺栓的 y 向距离", "Farthest bolt along y"}, "y_{max}", "\\max |y − y_c|",
+           m_group.m_dYMax);
 }
 
 CBoltReport::CSteps CBoltReport::Strengths() const {
