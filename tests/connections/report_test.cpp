@@ -112,25 +112,31 @@ TEST(Report, HoldsEveryInputAndResultInBothLanguages) {
   }
 }
 
-// With a torque the most stressed bolt is a single corner, whose force by statics is the record's.
-TEST(Report, MarksTheBoltThatTheRecordJudges) {
+// With a torque the most stressed bolt is a single corner, whose forces by statics are those
+// judged.
+TEST(Report, MarksTheBoltThatIsJudged) {
   CBoltCheck check;
   for (const int type : {0, 1, 2}) {
-    CBoltCase input = Group(type, 0);
-    ASSERT_TRUE(check.Run(input));
-    const NormalBoltData& group = check.Record();
-    const CStressedBolts stressed = MostStressedBolts(group);
-    ASSERT_EQ(stressed.m_arrBolt.size(), 1U);
-    const BoltPoint& bolt = group.m_PointArr[stressed.m_arrBolt[0]];
-    const double turn = (stressed.m_bClockwise ? 1 : -1) * group.m_dT / group.m_dSumR2;
-    EXPECT_NEAR(std::hypot(group.m_dNvx + turn * bolt.dy, group.m_dNvy - turn * bolt.dx),
-                group.m_dNv, 1e-9);
-    EXPECT_EQ(bolt.dy, group.m_dYMax) << "the moment pulls hardest at the far row";
+    for (const double T : {4100.0, -4100.0}) {
+      CBoltCase input = Group(type, 0);
+      input.m_dT = T;
+      ASSERT_TRUE(check.Run(input));
+      const NormalBoltData& group = check.Record();
+      const CBoltFigures& judged = check.Figures();
+      const CStressedBolts stressed = MostStressedBolts(check);
+      ASSERT_EQ(stressed.m_arrBolt.size(), 1U);
+      const BoltPoint& bolt = group.m_PointArr[stressed.m_arrBolt[0]];
+      const double turn = (stressed.m_bClockwise ? 1 : -1) * std::fabs(T) / group.m_dSumR2;
+      EXPECT_NEAR(std::hypot(group.m_dNvx + turn * bolt.dy, group.m_dNvy - turn * bolt.dx),
+                  judged.m_dNv, 1e-9);
+      EXPECT_NEAR(judged.m_dNtFirst + judged.m_dNtPerMm * bolt.y, judged.m_dNt, 1e-9);
+      EXPECT_EQ(bolt.y, 165) << "the moment pulls hardest at the far row";
+    }
   }
   CBoltCase shear = Group(0, 0);
   shear.m_dT = shear.m_dM = 0;
   ASSERT_TRUE(check.Run(shear));
-  EXPECT_EQ(MostStressedBolts(check.Record()).m_arrBolt.size(), 15U) << "all are equal";
+  EXPECT_EQ(MostStressedBolts(check).m_arrBolt.size(), 15U) << "all are equal";
 }
 
 }  // namespace
