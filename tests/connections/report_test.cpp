@@ -92,12 +92,14 @@ TEST(Report, HoldsEveryInputAndResultInBothLanguages) {
     ExpectWholeReport<CBoltCheck>(Group(type, 1));
   }
   for (int loadCase = 0; loadCase < 6; ++loadCase) {
+    const double M = TakesM(loadCase) ? -1300 : 0;
+    const double V = TakesV(loadCase) ? 47 : 0;
     ExpectWholeReport<CFilletCheck>({.m_nLoadCase = loadCase,
                                      .m_nSteel = 1,
                                      .m_dLw = 217,
-                                     .m_dN = 31,
-                                     .m_dM = 1300,
-                                     .m_dV = 47,
+                                     .m_dN = TakesN(loadCase) ? 31.0 : 0,
+                                     .m_dM = M,
+                                     .m_dV = V,
                                      .m_dBetaF = 1.22,
                                      .m_dHf = 8,
                                      .m_dAngle = 100});
@@ -106,9 +108,9 @@ TEST(Report, HoldsEveryInputAndResultInBothLanguages) {
                                    .m_nQuality = 3,
                                    .m_dLw = 217,
                                    .m_dThick = 18,
-                                   .m_dN = 131,
-                                   .m_dM = 1300,
-                                   .m_dV = 47});
+                                   .m_dN = TakesN(loadCase) ? 131.0 : 0,
+                                   .m_dM = M,
+                                   .m_dV = V});
   }
 }
 

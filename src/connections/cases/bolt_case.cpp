@@ -35,24 +35,6 @@ double RecordMoment(const CBoltCase& input) noexcept {
   return input.m_nType != kFrictionBolt && IsZero(input.m_dM) ? kNoMoment : input.m_dM;
 }
 
-// A cut through the holes that leaves nothing of the plate has no stress to compare.
-std::vector<CCaseFault> NoSectionLeft(const CBoltFigures& figures) {
-  CFaultList faults;
-  const auto check = [&](const char* key, const std::string& shear, const CText& right,
-                         const CPlateSection& section) {
-    if (section.m_arrHole.empty() || section.m_dNet > 0) return;
-    faults.Add(
-        key,
-        {"扣孔后无净截面抵抗 " + shear, "the holes leave no net section that resists " + shear},
-        right);
-  };
-  check("rowSpace", "Vx", {"请加大间距或减少行数", "give larger spacings or fewer rows"},
-        figures.m_x);
-  check("colSpace", "Vy", {"请加大间距或减少螺栓", "give larger spacings or fewer bolts"},
-        figures.m_y);
-  return faults.Take();
-}
-
 }  // namespace
 
 const char* const kBoltGrades[5] = {"4.6", "4.8", "5.6", "8.8", "10.9"};
@@ -137,7 +119,6 @@ bool CBoltCheck::Run(const CBoltCase& input) {
   m_record.BoltYanSuan();
   ReadResults(input);
   m_figures = JudgedFigures(m_record);
-  if (Refused(NoSectionLeft(m_figures))) return false;
   JudgeParts();
   Warn(BoltWarnings(m_record, m_figures));
   return true;

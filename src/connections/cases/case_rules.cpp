@@ -24,8 +24,10 @@ std::string PlainNumber(double value) {
 std::string PercentNumber(double utilisation) {
   const double percent = 100 * std::fabs(utilisation);
   std::string text = PlainNumber(std::round(10 * percent) / 10);
-  for (int digits = 2; percent > 100 && text == "100" && digits < 16; ++digits)
-    text = ToUtf8(FormatFixed(percent, digits));
+  for (int digits = 2; percent > 100 && text == "100" && digits < 16; ++digits) {
+    const std::string longer = ToUtf8(FormatFixed(percent, digits));
+    if (longer.find_first_not_of("0", 4) != std::string::npos) text = longer;
+  }
   return text;
 }
 

@@ -137,9 +137,10 @@ CCutWay WayY(const NormalBoltData& record) {
   return way;
 }
 
-// The worst of all cuts. With friction-type bolts half of what the holes in the cut carry has been
-// passed on in front of them (5.1.1-2): the stress is (n - 0.5 n1) / (l - n1 d0), a quotient whose
-// greatest value is that of the least l - n1 (d0 - 0.5 / q) for q, the greatest value itself.
+// The worst of all cuts. Holes apart from one another and from the edges leave something of each.
+// With friction-type bolts half of what the holes in the cut carry has been passed on in front of
+// them (5.1.1-2): the stress is (n - 0.5 n1) / (l - n1 d0), a quotient whose greatest value is that
+// of the least l - n1 (d0 - 0.5 / q) for q, the greatest value itself.
 CPlateSection WorstSection(const NormalBoltData& record, const CCutWay& way) {
   CPlateSection section;
   if (IsZero(way.m_dShear)) return section;
@@ -160,7 +161,7 @@ CPlateSection WorstSection(const NormalBoltData& record, const CCutWay& way) {
     section.m_arrHole.clear();
     for (const int line : cut.m_arrLine)
       section.m_arrHole.push_back(way.m_arrHole[static_cast<std::size_t>(line)]);
-    if (!bFriction || left <= 0) break;
+    if (!bFriction) break;
     deduct = record.m_dD0 - 0.5 * left / (share * record.m_nBoltNum);
   }
   double gross = way.m_dEdges;
