@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "error.h"
-#include "framework/excerpt.h"
 #include "framework/utf8.h"
 
 namespace orv3::cli {
@@ -26,7 +25,7 @@ std::size_t WholeCharacters(std::string_view text) noexcept {
 }  // namespace
 
 CCaseBytes::CCaseBytes(const std::string& path, CLanguage language)
-    : m_strPath(Excerpt(path)), m_nLanguage(language), m_strPiece(kPiece, '\0') {
+    : m_strPath(Visible(path)), m_nLanguage(language), m_strPiece(kPiece, '\0') {
   CFileError error{};
   m_pFile = Files().Open(FromUtf8(path), CFileMode::ReadShared, error);
   if (error == CFileError::NotFound) {

@@ -16,6 +16,7 @@
 #include "connections/report/connection_report.h"
 #include "error.h"
 #include "framework/excerpt.h"
+#include "framework/utf8.h"
 #include "progress.h"
 #include "schemas.h"
 
@@ -142,7 +143,7 @@ class CChecker {
   CLanguage Language() const noexcept { return m_options.Language(); }
 
   [[noreturn]] void Refuse(const CText& what) const {
-    throw CCommandError(CExit::BadInput, Excerpt(m_options.file) + ": " + what.In(Language()));
+    throw CCommandError(CExit::BadInput, Visible(m_options.file) + ": " + what.In(Language()));
   }
 
   // Computes the case that was read, and answers it.

@@ -11,6 +11,7 @@
 #include "catalogue/lattice/lattice_picture.h"
 #include "commands.h"
 #include "error.h"
+#include "framework/excerpt.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "nearest.h"
@@ -73,10 +74,10 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
   CLoadDataTable::GetTableNameArray(kCatalogueTables, names);
   CStringArray numbers;
   if (CLoadDataTable::GetSysTemItemNo(FromUtf8(type), numbers) && !numbers.IsEmpty()) {
-    Refuse(ToUtf8(signs.m_szNo) + ": " + type + " has no \"" + no +
+    Refuse(ToUtf8(signs.m_szNo) + ": " + type + " has no \"" + Excerpt(no) +
            "\"; the nearest are: " + Nearest(no, numbers));
   }
-  Refuse(ToUtf8(signs.m_szType) + ": the store has no table \"" + type +
+  Refuse(ToUtf8(signs.m_szType) + ": the store has no table \"" + Excerpt(type) +
          "\"; the nearest are: " + Nearest(type, names));
 }
 
