@@ -285,6 +285,11 @@ CExit RunCheck(const COptions& options) {
   return CChecker<CButtCheck>(options, kButtSchema).Run();
 }
 
+// What is wrong with the name of a file.
+std::string FileName(const std::string& name) {
+  return name.empty() ? "is empty; give the name of a file" : "";
+}
+
 }  // namespace
 
 void AddCheckCommand(CLI::App& program) {
@@ -294,12 +299,17 @@ void AddCheckCommand(CLI::App& program) {
   command->add_option("KIND", options->kind, "What to check")
       ->required()
       ->check(CLI::IsMember({"bolt", "fillet", "butt"}));
-  command->add_option("FILE", options->file, "A case or an array of cases in JSON, or a .csv")
-      ->required();
+  command
+      ->add_option(
+          "FILE", options->file,
+          "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input")
+      ->required()
+      ->check(FileName);
   auto* json = command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
   command->add_flag("--csv", options->csv, "As CSV, one line a case")->excludes(json);
   command->add_flag("--sort", options->sort, "Of many cases, the greatest utilisation first");
   command->add_option("--report", options->report, "Write a calculation report to print on A4")
+      ->check(FileName)
       ->type_name("FILE.html");
   command->add_option("--project", options->project,
                       "The project in the head of the report, of cases that name none");
