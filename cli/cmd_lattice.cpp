@@ -68,16 +68,16 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
 
 // Names the limb that is not in the store, and what would be there.
 [[noreturn]] void RefuseLimb(const CSteelItemGeGou& column, const CLimbColumns& signs) {
-  const std::string type = Cell(column, signs.m_szType);
-  const std::string no = Cell(column, signs.m_szNo);
+  const std::string type = Excerpt(Cell(column, signs.m_szType));
+  const std::string no = Excerpt(Cell(column, signs.m_szNo));
   CStringArray names;
   CLoadDataTable::GetTableNameArray(kCatalogueTables, names);
   CStringArray numbers;
   if (CLoadDataTable::GetSysTemItemNo(FromUtf8(type), numbers) && !numbers.IsEmpty()) {
-    Refuse(ToUtf8(signs.m_szNo) + ": " + type + " has no \"" + Excerpt(no) +
+    Refuse(ToUtf8(signs.m_szNo) + ": " + type + " has no \"" + no +
            "\"; the nearest are: " + Nearest(no, numbers));
   }
-  Refuse(ToUtf8(signs.m_szType) + ": the store has no table \"" + Excerpt(type) +
+  Refuse(ToUtf8(signs.m_szType) + ": the store has no table \"" + type +
          "\"; the nearest are: " + Nearest(type, names));
 }
 
