@@ -1,9 +1,11 @@
 #include "case_bytes.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
 
 #include "error.h"
-#include "framework/excerpt.h"
 #include "framework/utf8.h"
 
 namespace orv3::cli {
@@ -23,10 +25,27 @@ std::size_t WholeCharacters(std::string_view text) noexcept {
   return text.size();
 }
 
+bool IsPipe(const std::filesystem::path& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  return std::filesystem::is_fifo(status) || std::filesystem::is_character_file(status);
+}
+
 }  // namespace
 
 CCaseBytes::CCaseBytes(const std::string& path, CLanguage language)
-    : m_strPath(Excerpt(path)), m_nLanguage(language), m_strPiece(kPiece, '\0') {
+    : m_strPath(path), m_nLanguage(language), m_strPiece(kPiece, '\0') {
+  const std::filesystem::path native(std::u8string(path.begin(), path.end()));
+  if (path == "-") {
+    m_pStream = std::make_unique<std::istream>(std::cin.rdbuf());
+  } else if (IsPipe(native)) {
+    m_pStream = std::make_unique<std::ifstream>(native, std::ios::binary);
+  } else {
+    OpenFile(path);
+  }
+}
+
+void CCaseBytes::OpenFile(const std::string& path) {
   CFileError error{};
   m_pFile = Files().Open(FromUtf8(path), CFileMode::ReadShared, error);
   if (error == CFileError::NotFound) {
@@ -39,9 +58,14 @@ CCaseBytes::CCaseBytes(const std::string& path, CLanguage language)
   m_nSize = stamp.m_nSize;
 }
 
+std::size_t CCaseBytes::Read(char* data, std::size_t size) {
+  if (m_pFile) return m_pFile->Read(m_nAt, data, size);
+  m_pStream->read(data, static_cast<std::streamsize>(size));
+  return static_cast<std::size_t>(m_pStream->gcount());
+}
+
 bool CCaseBytes::More(std::string& text) {
-  const std::size_t got =
-      m_pFile->Read(m_nAt, m_strPiece.data() + m_nCut, m_strPiece.size() - m_nCut);
+  const std::size_t got = Read(m_strPiece.data() + m_nCut, m_strPiece.size() - m_nCut);
   m_nAt += got;
   const std::string_view piece(m_strPiece.data(), m_nCut + got);
   if (got == 0 && m_nAt < m_nSize) {
@@ -59,7 +83,7 @@ bool CCaseBytes::More(std::string& text) {
 }
 
 double CCaseBytes::Done() const noexcept {
-  return m_nSize == 0 ? 1 : static_cast<double>(m_nAt) / static_cast<double>(m_nSize);
+  return m_nSize == 0 ? 0 : static_cast<double>(m_nAt) / static_cast<double>(m_nSize);
 }
 
 void CCaseBytes::Refuse(const CText& what) const {

@@ -16,6 +16,7 @@
 #include "connections/report/connection_report.h"
 #include "error.h"
 #include "framework/excerpt.h"
+#include "framework/utf8.h"
 #include "progress.h"
 #include "schemas.h"
 
@@ -142,7 +143,7 @@ class CChecker {
   CLanguage Language() const noexcept { return m_options.Language(); }
 
   [[noreturn]] void Refuse(const CText& what) const {
-    throw CCommandError(CExit::BadInput, Excerpt(m_options.file) + ": " + what.In(Language()));
+    throw CCommandError(CExit::BadInput, Visible(m_options.file) + ": " + what.In(Language()));
   }
 
   // Computes the case that was read, and answers it.
@@ -284,6 +285,11 @@ CExit RunCheck(const COptions& options) {
   return CChecker<CButtCheck>(options, kButtSchema).Run();
 }
 
+// What is wrong with the name of a file.
+std::string FileName(const std::string& name) {
+  return name.empty() ? "is empty; give the name of a file" : "";
+}
+
 }  // namespace
 
 void AddCheckCommand(CLI::App& program) {
@@ -293,12 +299,17 @@ void AddCheckCommand(CLI::App& program) {
   command->add_option("KIND", options->kind, "What to check")
       ->required()
       ->check(CLI::IsMember({"bolt", "fillet", "butt"}));
-  command->add_option("FILE", options->file, "A case or an array of cases in JSON, or a .csv")
-      ->required();
+  command
+      ->add_option(
+          "FILE", options->file,
+          "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input")
+      ->required()
+      ->check(FileName);
   auto* json = command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
   command->add_flag("--csv", options->csv, "As CSV, one line a case")->excludes(json);
   command->add_flag("--sort", options->sort, "Of many cases, the greatest utilisation first");
   command->add_option("--report", options->report, "Write a calculation report to print on A4")
+      ->check(FileName)
       ->type_name("FILE.html");
   command->add_option("--project", options->project,
                       "The project in the head of the report, of cases that name none");

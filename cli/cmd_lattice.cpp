@@ -11,6 +11,7 @@
 #include "catalogue/lattice/lattice_picture.h"
 #include "commands.h"
 #include "error.h"
+#include "framework/excerpt.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "nearest.h"
@@ -67,8 +68,8 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
 
 // Names the limb that is not in the store, and what would be there.
 [[noreturn]] void RefuseLimb(const CSteelItemGeGou& column, const CLimbColumns& signs) {
-  const std::string type = Cell(column, signs.m_szType);
-  const std::string no = Cell(column, signs.m_szNo);
+  const std::string type = Excerpt(Cell(column, signs.m_szType));
+  const std::string no = Excerpt(Cell(column, signs.m_szNo));
   CStringArray names;
   CLoadDataTable::GetTableNameArray(kCatalogueTables, names);
   CStringArray numbers;

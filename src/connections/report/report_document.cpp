@@ -9,19 +9,19 @@ namespace orv3 {
 namespace {
 
 constexpr const char* kStyle = R"(
-@page { size: A4; margin: 16mm 15mm 18mm 18mm;
+@page { size: A4; margin: 14mm 15mm 13mm 18mm;
        font: 8pt "Noto Sans CJK SC", "Source Han Sans SC", "Microsoft YaHei",
        "WenQuanYi Micro Hei", Arial, sans-serif; color: #44535f; }
 * { box-sizing: border-box; }
-body { font: 9.5pt/1.4 "Noto Sans CJK SC", "Source Han Sans SC", "Microsoft YaHei",
+body { font: 9.5pt/1.3 "Noto Sans CJK SC", "Source Han Sans SC", "Microsoft YaHei",
        "WenQuanYi Micro Hei", Arial, sans-serif; color: #16202b; margin: 0 auto; max-width: 178mm; }
 article + article { break-before: page; }
 .sheet { table-layout: fixed; font-size: 8.5pt; } .sheet td { overflow-wrap: anywhere; }
 .sheet th { width: 17mm; } .sheet .sign td { height: 8mm; }
-h1 { font-size: 15pt; margin: 3mm 0 2mm; }
-h2 { font-size: 11pt; margin: 3.5mm 0 1mm; color: #234a78; break-after: avoid; }
+h1 { font-size: 14pt; margin: 2mm 0 1mm; }
+h2 { font-size: 11pt; margin: 2.5mm 0 0.8mm; color: #234a78; break-after: avoid; }
 table { width: 100%; border-collapse: collapse; }
-th, td { padding: 0.6mm 1.6mm; border: 0.5pt solid #c3ccd4; text-align: left; vertical-align: top; }
+th, td { padding: 0.4mm 1.6mm; border: 0.5pt solid #c3ccd4; text-align: left; vertical-align: top; }
 th { background: #eef2f6; font-weight: 600; }
 tr, figure, .box { break-inside: avoid; }
 thead { display: table-header-group; }
@@ -43,7 +43,7 @@ td.tick { white-space: nowrap; }
 .ss { display: inline-flex; flex-direction: column; vertical-align: middle; font-size: 0.68em;
       line-height: 1.05; }
 sub, sup { font-size: 0.7em; line-height: 0; }
-.box { border: 0.8pt solid; border-radius: 2pt; padding: 2mm 3mm; margin: 2mm 0; }
+.box { border: 0.8pt solid; border-radius: 2pt; padding: 1.3mm 3mm; margin: 1.5mm 0; }
 .verdict { display: flex; justify-content: space-between; font-weight: 600; }
 .pass { color: #14633a; } .fail { color: #a4161a; }
 .box.pass { background: #eef8f1; } .box.fail { background: #fdf0ef; }
@@ -52,10 +52,11 @@ sub, sup { font-size: 0.7em; line-height: 0; }
 .bar { position: relative; height: 3.2mm; width: 22mm; margin-top: 1mm; background: #e7ecf0; }
 .bar > i { position: absolute; inset: 0 auto 0 0; background: #3c8d5a; }
 .bar.over > i { background: #c0392b; }
-figure { margin: 2mm 0; text-align: center; }
-figure svg { max-width: 100%; height: auto; }
+figure { margin: 1.5mm 0; text-align: center; }
+figure svg { max-width: 100%; max-height: 100mm; height: auto; }
+figure.wide svg { height: 42mm; width: auto; }
 figcaption { font-size: 9pt; color: #44535f; }
-.note { font-size: 9pt; color: #44535f; }
+.note { font-size: 8pt; color: #44535f; margin: 1mm 0; }
 @media print { * { print-color-adjust: exact; -webkit-print-color-adjust: exact; } }
 )";
 

@@ -200,7 +200,9 @@ void CReportBody::Inputs(std::span<const CInputLine> lines) {
 void CReportBody::Figure(const CDrawing& drawing, const std::string& caption) {
   std::string svg = DrawingSvg(drawing);
   svg.erase(0, std::min(svg.find("<svg"), svg.size()));
-  m_strHtml += "<figure>\n" + svg + "\n<figcaption>" + caption + "</figcaption></figure>\n";
+  const bool bWide = drawing.Width() > 3 * drawing.Height();
+  m_strHtml += std::string(bWide ? "<figure class=\"wide\">\n" : "<figure>\n") + svg +
+               "\n<figcaption>" + caption + "</figcaption></figure>\n";
 }
 
 void CReportBody::Steps(std::span<const CReportStep> steps) {
