@@ -138,8 +138,9 @@ CBoltReport::CSteps CBoltReport::Geometry() const {
     static constexpr CTextLiteral kAbout[] = {
         {"弯矩力臂平方和（绕第一行螺栓）", "Sum of squared lever arms, about the first row"},
         {"弯矩力臂平方和（绕形心）", "Sum of squared lever arms, about the centroid"}};
-    steps.push_back({kAbout[m_bFriction ? 1 : 0], "", "Σl^2", "Σl_i^2", "",
-                     PlainNumber(m_group.m_dSumLy2), "mm²"});
+    const bool bCentroid = m_judged.m_nTurn == CTurn::Centroid;
+    steps.push_back({kAbout[bCentroid ? 1 : 0], "", "Σl^2", "Σl_i^2", "",
+                     PlainNumber(m_judged.m_dSumArm2), "mm²"});
   }
   return steps;
 }
