@@ -141,6 +141,13 @@ CBoltReport::CSteps CBoltReport::Geometry() const {
     const bool bCentroid = m_judged.m_nTurn == CTurn::Centroid;
     steps.push_back({kAbout[bCentroid ? 1 : 0], "", "Σl^2", "Σl_i^2", "",
                      PlainNumber(m_judged.m_dSumArm2), "mm²"});
+    steps.push_back({{"受力最大螺栓的力臂", "Lever arm of the farthest bolt"},
+                     "",
+                     "l_{max}",
+                     "",
+                     "",
+                     PlainNumber(m_judged.m_dArm),
+                     "mm"});
   }
   return steps;
 }
