@@ -27,7 +27,11 @@ inline void AppendCsv(std::string& line, bool value) { line += value ? "true" : 
 void AppendCsv(std::string& line, const std::string& text);
 
 std::string PercentText(double utilisation);
-std::string WarningLine(std::span<const CCaseWarning> warnings);
+std::string WarningLine(std::span<const CCaseWarning> warnings, CLanguage language);
+const char* VerdictText(bool bPass, CLanguage language);
+// The verdict with what governs it, and what to look at, a line each.
+std::string VerdictLines(bool bPass, const CCasePart& worst, std::span<const CCaseWarning> warnings,
+                         CLanguage language);
 
 template <class CHECK>
 bool HasResult(const CResultKey<typename CHECK::CResults>& key,
@@ -36,7 +40,7 @@ bool HasResult(const CResultKey<typename CHECK::CResults>& key,
 }
 
 template <class CHECK>
-CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check) {
+CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check, CLanguage language) {
   CJson results = CJson::object();
   for (const auto& key : CHECK::ResultKeys()) {
     if (!HasResult<CHECK>(key, input)) continue;
@@ -45,11 +49,11 @@ CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check) {
   }
   CJson warnings = CJson::array();
   for (const CCaseWarning& warning : check.Warnings())
-    warnings.push_back({{"key", warning.m_strKey}, {"text", warning.m_text.m_strEnglish}});
+    warnings.push_back({{"key", warning.m_strKey}, {"text", warning.m_text.In(language)}});
   return {{"pass", check.Pass()},
           {"results", std::move(results)},
           {"utilisation", JsonNumber(check.Worst().m_dUtilisation)},
-          {"governs", check.Worst().m_name.m_szEnglish},
+          {"governs", check.Worst().m_name.In(language)},
           {"warnings", std::move(warnings)}};
 }
 
@@ -61,7 +65,8 @@ std::string CsvHead() {
 }
 
 template <class CHECK>
-void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const CHECK& check) {
+void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const CHECK& check,
+                   CLanguage language) {
   const auto cell = [&](auto value) {
     line += ',';
     AppendCsv(line, value);
@@ -69,7 +74,7 @@ void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const 
   cell(check.Pass());
   cell(check.Worst().m_dUtilisation);
   line += ',';
-  line += check.Worst().m_name.m_szEnglish;
+  line += check.Worst().m_name.In(language);
   for (const auto& key : CHECK::ResultKeys()) {
     if (HasResult<CHECK>(key, input)) {
       std::visit([&](auto field) { cell(check.Results().*field); }, key.m_field);
@@ -78,14 +83,14 @@ void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const 
     }
   }
   line += ',';
-  if (!check.Warnings().empty()) AppendCsv(line, WarningLine(check.Warnings()));
+  if (!check.Warnings().empty()) AppendCsv(line, WarningLine(check.Warnings(), language));
   line += ",\n";
 }
 
 // The results of one case with their units, the parts of the verdict, the verdict and what to look
 // at.
 template <class CHECK>
-std::string CaseText(const typename CHECK::CCase& input, const CHECK& check) {
+std::string CaseText(const typename CHECK::CCase& input, const CHECK& check, CLanguage language) {
   CTextTable results({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left});
   for (const auto& key : CHECK::ResultKeys()) {
     if (!HasResult<CHECK>(key, input) ||
@@ -93,20 +98,15 @@ std::string CaseText(const typename CHECK::CCase& input, const CHECK& check) {
       continue;
     const double value = std::visit(
         [&](auto field) { return static_cast<double>(check.Results().*field); }, key.m_field);
-    results.AddRow({key.m_name.m_szEnglish, key.m_szKey, PlainNumber(value), key.m_szUnit});
+    results.AddRow({key.m_name.In(language), key.m_szKey, PlainNumber(value), key.m_szUnit});
   }
   CTextTable parts({CAlign::Left, CAlign::Right, CAlign::Left});
   for (const CCasePart& part : check.Parts()) {
-    parts.AddRow({part.m_name.m_szEnglish, PercentText(part.m_dUtilisation),
-                  part.m_bPass ? "passes" : "fails"});
+    parts.AddRow({part.m_name.In(language), PercentText(part.m_dUtilisation),
+                  VerdictText(part.m_bPass, language)});
   }
-  std::string text = results.Text() + '\n' + parts.Text();
-  text += std::string("\nverdict: ") + (check.Pass() ? "passes" : "fails") + ", utilisation " +
-          PercentText(check.Worst().m_dUtilisation) + " (" + check.Worst().m_name.m_szEnglish +
-          ")\n";
-  for (const CCaseWarning& warning : check.Warnings())
-    text += "look at " + warning.m_strKey + ": " + warning.m_text.m_strEnglish + '\n';
-  return text;
+  return results.Text() + '\n' + parts.Text() +
+         VerdictLines(check.Pass(), check.Worst(), check.Warnings(), language);
 }
 
 }  // namespace orv3::cli

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "connections/cases/case_rules.h"
+#include "framework/excerpt.h"
 
 namespace orv3::cli {
 namespace {
@@ -69,15 +70,24 @@ bool Within(double value, const CCaseSchema::CRange& range) noexcept {
          !(range.m_below && value >= *range.m_below);
 }
 
-std::string RangeWords(const CCaseSchema::CRange& range) {
-  std::string words;
-  const auto add = [&](const char* word, const std::optional<double>& bound) {
-    if (bound) words += (words.empty() ? " " : ", ") + (word + PlainNumber(*bound));
+void Append(CText& text, const CText& more) {
+  text.m_strChinese += more.m_strChinese;
+  text.m_strEnglish += more.m_strEnglish;
+}
+
+CText RangeWords(const CCaseSchema::CRange& range) {
+  CText words;
+  const auto add = [&](CTextLiteral word, const std::optional<double>& bound) {
+    if (!bound) return;
+    const bool bFirst = words.m_strEnglish.empty();
+    const std::string number = PlainNumber(*bound);
+    Append(words, {(bFirst ? "，" : "且") + std::string(word.m_szChinese) + number,
+                   (bFirst ? " " : ", ") + std::string(word.m_szEnglish) + number});
   };
-  add("of at least ", range.m_minimum);
-  add("above ", range.m_above);
-  add("at most ", range.m_maximum);
-  add("below ", range.m_below);
+  add({"不小于 ", "of at least "}, range.m_minimum);
+  add({"大于 ", "above "}, range.m_above);
+  add({"不大于 ", "at most "}, range.m_maximum);
+  add({"小于 ", "below "}, range.m_below);
   return words;
 }
 
@@ -86,36 +96,57 @@ bool Among(const std::vector<VALUE>& allowed, const auto& value) noexcept {
   return allowed.empty() || std::find(allowed.begin(), allowed.end(), value) != allowed.end();
 }
 
-// What is wrong with a value by itself; empty when nothing is.
-std::string Wrong(const CCaseSchema::CRule& rule, const CKeyValue& value) {
+CText NotPossible(const std::string& value) {
+  return {value + " 不可用", value + " is not possible"};
+}
+
+// What is wrong with a value by itself.
+std::optional<CText> Wrong(const CCaseSchema::CRule& rule, const CKeyValue& value) {
   if (const auto* text = std::get_if<std::string_view>(&value)) {
-    if (rule.m_bText && Among(rule.m_arrText, *text)) return "";
-    return "\"" + std::string(*text) + "\" is not possible";
+    if (rule.m_bText && Among(rule.m_arrText, *text)) return std::nullopt;
+    return NotPossible(ValueText(value));
   }
   if (const auto* number = std::get_if<double>(&value)) {
     const bool bKind = rule.m_bNumber && !(rule.m_bInteger && *number != std::floor(*number));
-    if (bKind && Within(*number, rule.m_range) && Among(rule.m_arrNumber, *number)) return "";
-    return PlainNumber(*number) + " is not possible";
+    if (bKind && Within(*number, rule.m_range) && Among(rule.m_arrNumber, *number))
+      return std::nullopt;
+    return NotPossible(ValueText(value));
   }
-  if (!rule.m_bArray) return "a list is not possible";
+  if (!rule.m_bArray) return CText{"不能给数列", "a list is not possible"};
   for (const double each : std::get<std::span<const double>>(value)) {
-    if (!Within(each, rule.m_items)) return PlainNumber(each) + " in the list is not possible";
+    if (Within(each, rule.m_items)) continue;
+    return CText{"数列中的 " + PlainNumber(each) + " 不可用",
+                 PlainNumber(each) + " in the list is not possible"};
   }
-  return "";
+  return std::nullopt;
 }
 
 }  // namespace
 
-std::string CCaseSchema::CRule::Right() const {
+std::string ValueText(const CKeyValue& value) {
+  if (const auto* text = std::get_if<std::string_view>(&value)) return '"' + Excerpt(*text) + '"';
+  if (const auto* number = std::get_if<double>(&value)) return PlainNumber(*number);
+  std::string list;
+  for (const double each : std::get<std::span<const double>>(value)) {
+    list += (list.empty() ? "" : ", ") + PlainNumber(each);
+    if (list.size() > 60) break;
+  }
+  return "[" + Excerpt(list) + "]";
+}
+
+CText CCaseSchema::CRule::Right() const {
   std::string right;
   for (const std::string& text : m_arrText) right += (right.empty() ? "\"" : ", \"") + text + "\"";
   for (const double number : m_arrNumber) {
     right += (right.empty() ? "" : ", ") + PlainNumber(number);
   }
-  if (!right.empty()) return "give one of " + right;
-  if (m_bText) return "give a text";
-  right = std::string("give ") + (m_bInteger ? "a whole number" : "a number") + RangeWords(m_range);
-  return m_bArray ? right + ", or a list of such" : right;
+  if (!right.empty()) return {"请给出下列之一：" + right, "give one of " + right};
+  if (m_bText) return {"请给出文字", "give a text"};
+  CText words = m_bInteger ? CText{"请给出整数", "give a whole number"}
+                           : CText{"请给出数值", "give a number"};
+  Append(words, RangeWords(m_range));
+  if (m_bArray) Append(words, {"，或这样的数列", ", or a list of such"});
+  return words;
 }
 
 CCaseSchema::CCaseSchema(std::string_view text) {
@@ -182,7 +213,9 @@ int CCaseSchema::Find(std::string_view key) const noexcept {
 CCaseFault CCaseSchema::Unknown(std::string_view key) const {
   std::string known;
   for (const CRule& rule : m_arrRule) known += (known.empty() ? "" : ", ") + rule.m_strKey;
-  return {std::string(key), "is no key here", "the keys are " + known};
+  return {Excerpt(key),
+          {"不是此处的键", "is no key here"},
+          {"可用的键为 " + known, "the keys are " + known}};
 }
 
 bool CCaseSchema::Holds(const CNeed& need, const CCaseValues& values) const {
@@ -198,38 +231,46 @@ std::optional<CCaseFault> CCaseSchema::CheckAlternatives(const CCaseValues& valu
   if (m_arrAlternative.empty()) return std::nullopt;
   const auto given = [&](int key) { return values[static_cast<std::size_t>(key)].has_value(); };
   int whole = 0;
-  std::string right;
+  CText right;
   for (const auto& keys : m_arrAlternative) {
     whole += std::all_of(keys.begin(), keys.end(), given) ? 1 : 0;
-    std::string names;
+    CText names;
     for (const int key : keys) {
-      names += (names.empty() ? "" : " with ") + m_arrRule[static_cast<std::size_t>(key)].m_strKey;
+      const std::string& name = m_arrRule[static_cast<std::size_t>(key)].m_strKey;
+      const bool bFirst = names.m_strEnglish.empty();
+      Append(names, {(bFirst ? "" : "、") + name, (bFirst ? "" : " with ") + name});
     }
-    right += (right.empty() ? "give " : ", or ") + names;
+    const bool bFirst = right.m_strEnglish.empty();
+    Append(right, bFirst ? CText{"请给出 ", "give "} : CText{"，或 ", ", or "});
+    Append(right, names);
   }
   if (whole == 1) return std::nullopt;
   const std::string& first = m_arrRule[static_cast<std::size_t>(m_arrAlternative[0][0])].m_strKey;
-  return CCaseFault{first, whole == 0 ? "is missing" : "is given in more than one way", right};
+  const CText what = whole == 0 ? CText{"缺失", "is missing"}
+                                : CText{"给了不止一种", "is given in more than one way"};
+  return CCaseFault{first, what, right};
 }
 
 CCaseFault CCaseSchema::Never(const CNeed& need, int key) const {
   const std::string& condition = m_arrRule[static_cast<std::size_t>(need.m_nIf)].m_strKey;
   return {m_arrRule[static_cast<std::size_t>(key)].m_strKey,
-          "has no place where " + condition + " is \"" + need.m_strConst + "\"", "leave it out"};
+          {condition + " 为 \"" + need.m_strConst + "\" 时不用",
+           "has no place where " + condition + " is \"" + need.m_strConst + "\""},
+          {"请删去", "leave it out"}};
 }
 
 std::optional<CCaseFault> CCaseSchema::Check(const CCaseValues& values) const {
   for (std::size_t i = 0; i < m_arrRule.size(); ++i) {
     if (!values[i]) continue;
-    const std::string wrong = Wrong(m_arrRule[i], *values[i]);
-    if (!wrong.empty()) return CCaseFault{m_arrRule[i].m_strKey, wrong, m_arrRule[i].Right()};
+    if (const auto wrong = Wrong(m_arrRule[i], *values[i]))
+      return CCaseFault{m_arrRule[i].m_strKey, *wrong, m_arrRule[i].Right()};
   }
   for (const CNeed& need : m_arrNeed) {
     if (!Holds(need, values)) continue;
     for (const int key : need.m_arrKey) {
       const CRule& rule = m_arrRule[static_cast<std::size_t>(key)];
       if (!values[static_cast<std::size_t>(key)])
-        return CCaseFault{rule.m_strKey, "is missing", rule.Right()};
+        return CCaseFault{rule.m_strKey, {"缺失", "is missing"}, rule.Right()};
     }
     for (const int key : need.m_arrNever) {
       if (values[static_cast<std::size_t>(key)]) return Never(need, key);

@@ -21,6 +21,9 @@ namespace orv3::cli {
 // out.
 using CCaseValues = std::vector<std::optional<CKeyValue>>;
 
+// A value as an error quotes it.
+std::string ValueText(const CKeyValue& value);
+
 class CCaseSchema {
  public:
   // std::invalid_argument for a schema outside the subset.
@@ -38,8 +41,8 @@ class CCaseSchema {
     std::vector<std::string> m_arrText;  // allowed texts
     std::vector<double> m_arrNumber;     // allowed numbers
     CRange m_range;
-    CRange m_items;             // of the numbers of an array
-    std::string Right() const;  // what would be right, in words
+    CRange m_items;       // of the numbers of an array
+    CText Right() const;  // what would be right, in words
   };
 
   const std::vector<CRule>& Rules() const noexcept { return m_arrRule; }

@@ -2,7 +2,7 @@
 // first line holds the keys.
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -10,17 +10,19 @@
 
 namespace orv3::cli {
 
-class CCaseSource {
- public:
-  virtual ~CCaseSource() = default;
-  // Reads the next case into `values`, which point into the source until the next call; false at
-  // the end. A case that cannot be read gives its fault.
-  virtual bool Next(CCaseValues& values, std::optional<CCaseFault>& fault) = 0;
-  virtual bool IsSingle() const noexcept { return false; }
-  virtual double Done() const noexcept = 0;  // share of the file that has been read
+struct CReadCase {
+  CCaseValues m_arrValue;             // by the keys of the schema
+  std::optional<CCaseFault> m_fault;  // why it could not be read
+  bool m_bSingle = false;             // the file is this one JSON object
+  double m_dDone = 0;                 // share of the file that has been read
 };
+// Takes a case, whose values point into the reader until the call returns.
+using CTakeCase = std::function<void(const CReadCase&)>;
 
-// A file whose name ends in ".csv" is a CSV. CCommandError when it cannot be read or is neither.
-std::unique_ptr<CCaseSource> OpenCases(const std::string& path, const CCaseSchema& schema);
+// Hands over every case of a file, of which no more than one is held; a file whose name ends in
+// ".csv" is a CSV. CCommandError, in `language`, when the file cannot be read or is neither; what
+// lies before the fault has been handed over by then.
+void ReadCases(const std::string& path, const CCaseSchema& schema, CLanguage language,
+               const CTakeCase& take);
 
 }  // namespace orv3::cli

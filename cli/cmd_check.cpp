@@ -11,9 +11,12 @@
 #include "case_output.h"
 #include "case_schema.h"
 #include "case_source.h"
+#include "check_answers.h"
 #include "commands.h"
 #include "connections/report/connection_report.h"
 #include "error.h"
+#include "framework/excerpt.h"
+#include "framework/utf8.h"
 #include "progress.h"
 #include "schemas.h"
 
@@ -29,10 +32,19 @@ struct COptions {
   bool csv = false;
   bool sort = false;
   std::string report;
-  std::string language = "zh";
+  std::string project;
+  std::string language;  // "zh", "en", or empty
+
+  // Of what is printed, and of the report.
+  CLanguage Language() const noexcept {
+    return language == "zh" ? CLanguage::Chinese : CLanguage::English;
+  }
+  CLanguage ReportLanguage() const noexcept {
+    return language == "en" ? CLanguage::English : CLanguage::Chinese;
+  }
 };
 
-// Ties the schema's keys to the fields of a case.
+// Ties the schema's keys to the fields of a case and of its report's head.
 template <class CHECK>
 class CCaseReader {
  public:
@@ -42,25 +54,47 @@ class CCaseReader {
       const auto key = std::find_if(keys.begin(), keys.end(), [&](const auto& each) {
         return rule.m_strKey == each.m_szKey;
       });
-      if (key == keys.end()) throw std::logic_error("schema: no field for " + rule.m_strKey);
-      m_arrKey.push_back(&*key);
+      m_arrKey.push_back(key == keys.end() ? nullptr : &*key);
+      if (key == keys.end() && SheetField(rule.m_strKey) == nullptr)
+        throw std::logic_error("schema: no field for " + rule.m_strKey);
     }
   }
 
-  std::optional<CCaseFault> Read(const CCaseValues& values, typename CHECK::CCase& input) const {
+  // What the case tells for the head of its report.
+  CReportSheet Sheet(const CCaseValues& values) const {
+    CReportSheet sheet;
+    for (std::size_t i = 0; i < m_arrKey.size(); ++i) {
+      const auto* text = values[i] ? std::get_if<std::string_view>(&*values[i]) : nullptr;
+      if (m_arrKey[i] == nullptr && text != nullptr)
+        sheet.*SheetField(m_schema.Rules()[i].m_strKey) = *text;
+    }
+    return sheet;
+  }
+
+  // A refused case keeps its name.
+  std::optional<CCaseFault> Read(const CReadCase& read, typename CHECK::CCase& input) const {
+    const CCaseValues& values = read.m_arrValue;
     input = {};
-    SetName(values, input);  // known also of a case that is refused
+    SetName(values, input);
+    if (read.m_fault) return read.m_fault;
     if (auto fault = m_schema.Check(values)) return fault;
     for (std::size_t i = 0; i < values.size(); ++i) {
-      if (values[i] && !SetInput(input, *m_arrKey[i], *values[i])) {
+      if (values[i] && m_arrKey[i] != nullptr && !SetInput(input, *m_arrKey[i], *values[i])) {
         const auto& rule = m_schema.Rules()[i];
-        return CCaseFault{rule.m_strKey, "is not possible", rule.Right()};
+        return CCaseFault{rule.m_strKey, {"不可用", "is not possible"}, rule.Right()};
       }
     }
     return std::nullopt;
   }
 
  private:
+  static std::string CReportSheet::*SheetField(std::string_view name) noexcept {
+    for (const CSheetKey& key : kSheetKeys) {
+      if (name == key.m_szKey) return key.m_pField;
+    }
+    return nullptr;
+  }
+
   void SetName(const CCaseValues& values, typename CHECK::CCase& input) const {
     const int key = m_schema.Find("id");
     if (key < 0 || !values[static_cast<std::size_t>(key)]) return;
@@ -69,137 +103,93 @@ class CCaseReader {
   }
 
   const CCaseSchema& m_schema;
-  std::vector<const CInputKey<typename CHECK::CCase>*> m_arrKey;
-};
-
-template <class ROWS>
-void WorstFirst(ROWS& rows) {
-  std::stable_sort(rows.begin(), rows.end(),
-                   [](const auto& a, const auto& b) { return a.m_dWorst > b.m_dWorst; });
-}
-
-// Where the CSV lines of many cases go: as they come, or worst first at the end.
-class CAnswers {
- public:
-  explicit CAnswers(bool bSort) : m_bSort(bSort) {}
-
-  std::string& Line() noexcept { return m_strLine; }
-  // Ends the line at hand.
-  void End(double worst) {
-    if (m_bSort) {
-      m_arrLine.push_back({worst, std::move(m_strLine)});
-      m_strLine.clear();
-    } else if (m_strLine.size() > (1U << 16)) {
-      Flush();
-    }
-  }
-  void Flush() {
-    WorstFirst(m_arrLine);
-    for (const CLine& line : m_arrLine) Print(line.m_strText);
-    m_arrLine.clear();
-    Print(m_strLine);
-    m_strLine.clear();
-  }
-
- private:
-  struct CLine {
-    double m_dWorst;
-    std::string m_strText;
-  };
-  bool m_bSort;
-  std::string m_strLine;
-  std::vector<CLine> m_arrLine;
+  std::vector<const CInputKey<typename CHECK::CCase>*> m_arrKey;  // null for the head's
 };
 
 template <class CHECK>
 class CChecker {
  public:
   CChecker(const COptions& options, std::string_view schema)
-      : m_options(options), m_schema(schema), m_reader(m_schema) {}
+      : m_options(options),
+        m_schema(schema),
+        m_reader(m_schema),
+        m_answers(options.csv    ? CAnswerForm::Csv
+                  : options.json ? CAnswerForm::Json
+                                 : CAnswerForm::Table,
+                  options.sort, options.Language(), options.csv ? CsvHead<CHECK>() : "") {}
 
   CExit Run() {
-    const auto source = OpenCases(m_options.file, m_schema);
-    if (source->IsSingle() && !m_options.csv) return RunOne(*source);
-    return RunMany(*source);
-  }
-
- private:
-  using CCase = typename CHECK::CCase;
-
-  // Reads and computes the next case; false at the end of the source.
-  bool Next(CCaseSource& source) {
-    m_values.assign(m_schema.Rules().size(), std::nullopt);
-    m_fault.reset();
-    if (!source.Next(m_values, m_fault)) return false;
-    if (!m_fault) m_fault = m_reader.Read(m_values, m_input);
-    if (!m_fault && !m_check.Run(m_input)) m_fault = m_check.Faults().front();
-    return true;
-  }
-
-  CLanguage Language() const {
-    return m_options.language == "en" ? CLanguage::English : CLanguage::Chinese;
-  }
-
-  void WriteReport(const std::vector<std::string>& bodies) {
-    if (m_options.report.empty()) return;
-    const std::string title = "Orv3Cal " + m_options.kind;
-    WriteFile(m_options.report, ReportDocument(title, bodies, Language()));
-  }
-
-  CExit RunOne(CCaseSource& source) {
-    Next(source);
-    if (m_fault) throw CCommandError(CExit::BadInput, m_options.file + ": " + m_fault->Line());
-    if (!m_options.report.empty()) WriteReport({CaseReport(m_input, m_check, Language())});
-    if (m_options.json) {
-      PrintJson(CaseJson(m_input, m_check));
-    } else {
-      Print(CaseText(m_input, m_check));
-    }
-    return m_check.Pass() ? CExit::Done : CExit::CheckFailed;
-  }
-
-  CExit RunMany(CCaseSource& source) {
-    if (m_options.csv) Print(CsvHead<CHECK>());
     {
       CProgress progress;
-      while (Next(source)) {
-        ++m_nCases;
-        Answer();
-        progress.Step(source.Done());
-      }
+      ReadCases(m_options.file, m_schema, Language(), [&](const CReadCase& read) {
+        Check(read);
+        progress.Step(read.m_dDone);
+      });
     }
-    Finish();
-    WriteReport(m_arrReport);
+    if (m_nCases == 0) Refuse({"没有算例；请至少给一个", "holds no case; give one at least"});
+    if (!m_bOne) m_answers.Finish();
+    WriteReport();
+    if (m_bOne && m_fault) Refuse(m_fault->Text());
     if (m_nRefused > 0) {
-      throw CCommandError(CExit::BadInput, m_options.file + ": " + std::to_string(m_nRefused) +
-                                               " of " + std::to_string(m_nCases) +
-                                               " cases refused, the first: " + m_strFirstFault);
+      const std::string refused = std::to_string(m_nRefused);
+      const std::string cases = std::to_string(m_nCases);
+      Refuse({cases + " 个算例中有 " + refused + " 个被拒绝，第一个：" + m_strFirstFault,
+              refused + " of " + cases + " cases refused, the first: " + m_strFirstFault});
     }
     return m_nFailed > 0 ? CExit::CheckFailed : CExit::Done;
   }
 
-  void Answer() {
+ private:
+  CLanguage Language() const noexcept { return m_options.Language(); }
+
+  [[noreturn]] void Refuse(const CText& what) const {
+    throw CCommandError(CExit::BadInput, Visible(m_options.file) + ": " + what.In(Language()));
+  }
+
+  // Computes the case that was read, and answers it.
+  void Check(const CReadCase& read) {
+    ++m_nCases;
+    m_bOne = read.m_bSingle && !m_options.csv;
+    m_fault = m_reader.Read(read, m_input);
+    if (!m_fault && !m_check.Run(m_input)) m_fault = m_check.Faults().front();
     if (m_fault) {
-      if (m_nRefused++ == 0) {
-        m_strFirstFault = "case " + std::to_string(m_nCases) + ", " + m_fault->Line();
-      }
+      CountFault();
     } else if (!m_check.Pass()) {
       ++m_nFailed;
     }
-    if (m_options.csv) {
-      CsvAnswer();
-    } else if (m_options.json) {
-      JsonAnswer();
+    AddToReport(read);
+    if (m_bOne) {
+      AnswerOne();
     } else {
-      TableAnswer();
+      Answer();
     }
-    if (m_options.report.empty() || m_fault) return;
-    if (m_arrReport.size() == kMostReports) {
-      throw CCommandError(CExit::BadInput, "--report: takes at most " +
-                                               std::to_string(kMostReports) +
-                                               " cases; give a file with fewer");
+  }
+
+  void CountFault() {
+    if (m_nRefused++ > 0) return;
+    const std::string number = std::to_string(m_nCases);
+    const CText which = {"第 " + number + " 个，", "case " + number + ", "};
+    m_strFirstFault = which.In(Language()) + m_fault->Line(Language());
+  }
+
+  void AnswerOne() {
+    if (m_fault) return;
+    if (m_options.json) {
+      PrintJson(CaseJson(m_input, m_check, Language()));
+    } else {
+      Print(CaseText(m_input, m_check, Language()));
     }
-    m_arrReport.push_back(CaseReport(m_input, m_check, Language()));
+  }
+
+  void Answer() {
+    switch (m_answers.Form()) {
+      case CAnswerForm::Csv:
+        return m_answers.AddLine(Worst(), CsvAnswer());
+      case CAnswerForm::Json:
+        return m_answers.AddJson(Worst(), JsonAnswer());
+      case CAnswerForm::Table:
+        return m_answers.AddRow(Worst(), TableAnswer());
+    }
   }
 
   double Worst() const {
@@ -207,80 +197,82 @@ class CChecker {
     return std::isnan(worst) ? HUGE_VAL : worst;
   }
 
-  void CsvAnswer() {
-    std::string& line = m_answers.Line();
-    AppendCsv(line, m_nCases);
-    line += ',';
-    if (!m_input.m_strId.empty()) AppendCsv(line, m_input.m_strId);
-    if (m_fault) {
-      line.append(CHECK::ResultKeys().size() + 5, ',');
-      AppendCsv(line, m_fault->Line());
-      line += '\n';
-    } else {
-      AppendCsvLine(line, m_input, m_check);
+  std::string CsvAnswer() const {
+    std::string line = std::to_string(m_nCases) + ',';
+    AppendCsv(line, m_input.m_strId);
+    if (!m_fault) {
+      AppendCsvLine(line, m_input, m_check, Language());
+      return line;
     }
-    m_answers.End(Worst());
+    line.append(CHECK::ResultKeys().size() + 5, ',');
+    AppendCsv(line, m_fault->Line(Language()));
+    return line + '\n';
   }
 
-  void JsonAnswer() {
+  CJson JsonAnswer() const {
     CJson answer = {{"case", m_nCases}};
     if (!m_input.m_strId.empty()) answer["id"] = m_input.m_strId;
     if (m_fault) {
-      answer["refused"] = m_fault->Line();
+      answer["refused"] = m_fault->Line(Language());
     } else {
-      answer.update(CaseJson(m_input, m_check));
+      answer.update(CaseJson(m_input, m_check, Language()));
     }
-    m_arrJson.push_back({Worst(), std::move(answer)});
+    return answer;
   }
 
-  void TableAnswer() {
-    std::vector<std::string> row = {std::to_string(m_nCases), m_input.m_strId};
+  std::vector<std::string> TableAnswer() const {
+    static constexpr CTextLiteral kRefused = {"拒绝", "refused"};
+    std::vector<std::string> row = {std::to_string(m_nCases), Excerpt(m_input.m_strId)};
     if (m_fault) {
-      row.insert(row.end(), {"refused", "", m_fault->Line()});
+      row.insert(row.end(), {kRefused.In(Language()), "", m_fault->Line(Language())});
     } else {
+      const CCasePart& worst = m_check.Worst();
       row.insert(row.end(),
-                 {m_check.Pass() ? "passes" : "fails", PercentText(m_check.Worst().m_dUtilisation),
-                  m_check.Worst().m_name.m_szEnglish, std::to_string(m_check.Warnings().size())});
+                 {VerdictText(m_check.Pass(), Language()), PercentText(worst.m_dUtilisation),
+                  worst.m_name.In(Language()), std::to_string(m_check.Warnings().size())});
     }
-    m_arrRow.push_back({Worst(), std::move(row)});
+    return row;
   }
 
-  void Finish() {
-    if (m_options.csv) return m_answers.Flush();
-    if (m_options.json) {
-      if (m_options.sort) WorstFirst(m_arrJson);
-      CJson all = CJson::array();
-      for (CJsonRow& row : m_arrJson) all.push_back(std::move(row.m_json));
-      return PrintJson(all);
+  void AddToReport(const CReadCase& read) {
+    if (m_options.report.empty()) return;
+    if (m_arrReport.size() == kMostReports) {
+      const std::string most = std::to_string(kMostReports);
+      Refuse({"--report 至多写 " + most + " 个算例；请把文件分开",
+              "--report takes at most " + most + " cases; give a file with fewer"});
     }
-    if (m_options.sort) WorstFirst(m_arrRow);
-    CTextTable table(
-        {CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Right});
-    table.AddRow({"case", "id", "verdict", "utilisation", "governs", "warnings"});
-    for (CRow& row : m_arrRow) table.AddRow(std::move(row.m_arrCell));
-    Print(table.Text());
+    const CLanguage language = m_options.ReportLanguage();
+    CReportCase each = {.m_nCase = m_nCases,
+                        .m_strId = m_input.m_strId,
+                        .m_sheet = m_reader.Sheet(read.m_arrValue)};
+    if (each.m_sheet.m_strProject.empty()) each.m_sheet.m_strProject = m_options.project;
+    if (m_fault) {
+      each.m_strRefused = m_fault->Line(language);
+    } else {
+      each.m_bPass = m_check.Pass();
+      each.m_dUtilisation = m_check.Worst().m_dUtilisation;
+      each.m_strGoverns = m_check.Worst().m_name.In(language);
+      each.m_nWarnings = m_check.Warnings().size();
+      each.m_strBody = CaseReport(m_input, m_check, language);
+    }
+    m_arrReport.push_back(std::move(each));
   }
 
-  struct CRow {
-    double m_dWorst;
-    std::vector<std::string> m_arrCell;
-  };
-  struct CJsonRow {
-    double m_dWorst;
-    CJson m_json;
-  };
+  void WriteReport() const {
+    if (m_options.report.empty()) return;
+    const CReportTitle title = {"Orv3Cal " + m_options.kind, ORV3CAL_VERSION};
+    WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.ReportLanguage()));
+  }
 
   const COptions& m_options;
   CCaseSchema m_schema;
   CCaseReader<CHECK> m_reader;
+  CAnswers m_answers;
   CHECK m_check;
-  CCase m_input;
-  CCaseValues m_values;
+  typename CHECK::CCase m_input;
   std::optional<CCaseFault> m_fault;
-  CAnswers m_answers{m_options.sort};
-  std::vector<CRow> m_arrRow;
-  std::vector<CJsonRow> m_arrJson;
-  std::vector<std::string> m_arrReport;
+  bool m_bOne = false;  // the file is one case, which is answered in full
+  std::vector<CReportCase> m_arrReport;
   int m_nCases = 0;
   int m_nFailed = 0;
   int m_nRefused = 0;
@@ -293,6 +285,11 @@ CExit RunCheck(const COptions& options) {
   return CChecker<CButtCheck>(options, kButtSchema).Run();
 }
 
+// What is wrong with the name of a file.
+std::string FileName(const std::string& name) {
+  return name.empty() ? "is empty; give the name of a file" : "";
+}
+
 }  // namespace
 
 void AddCheckCommand(CLI::App& program) {
@@ -302,14 +299,24 @@ void AddCheckCommand(CLI::App& program) {
   command->add_option("KIND", options->kind, "What to check")
       ->required()
       ->check(CLI::IsMember({"bolt", "fillet", "butt"}));
-  command->add_option("FILE", options->file, "A case or an array of cases in JSON, or a .csv")
-      ->required();
+  command
+      ->add_option(
+          "FILE", options->file,
+          "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input")
+      ->required()
+      ->check(FileName);
   auto* json = command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
   command->add_flag("--csv", options->csv, "As CSV, one line a case")->excludes(json);
   command->add_flag("--sort", options->sort, "Of many cases, the greatest utilisation first");
   command->add_option("--report", options->report, "Write a calculation report to print on A4")
+      ->check(FileName)
       ->type_name("FILE.html");
-  command->add_option("--lang", options->language, "Language of the report: zh or en")
+  command->add_option("--project", options->project,
+                      "The project in the head of the report, of cases that name none");
+  command
+      ->add_option(
+          "--lang", options->language,
+          "Language of the answers (en unless given) and of the report (zh unless given): zh or en")
       ->check(CLI::IsMember({"zh", "en"}));
   command->callback([options] {
     const CExit exit = RunCheck(*options);

@@ -8,10 +8,12 @@
 #include <variant>
 #include <vector>
 
+#include "catalogue/code_tables/stepped_column_equation.h"
 #include "catalogue/code_tables/table_search.h"
 #include "commands.h"
 #include "connections/cases/case_rules.h"
 #include "error.h"
+#include "framework/excerpt.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
@@ -25,11 +27,13 @@ struct CFigure {
   std::variant<double, std::string> m_value;  // an infinity where the code prints one
   const char* m_szUnit;
   const char* m_szSource;
+  std::string m_strNote = {};  // what to know before relying on it
 };
 
 [[noreturn]] void Refuse(const std::string& name, const std::string& text,
                          const std::string& right) {
-  throw CCommandError(CExit::BadInput, name + ": \"" + text + "\" is not possible; give " + right);
+  throw CCommandError(CExit::BadInput,
+                      name + ": \"" + Excerpt(text) + "\" is not possible; give " + right);
 }
 
 double Number(const CArguments& arguments, std::size_t at, const char* name, const char* right) {
@@ -62,9 +66,11 @@ int Choice(const CArguments& arguments, std::size_t at, const char* name,
   return static_cast<int>(found - std::begin(numbers));
 }
 
-int Whole(const CArguments& arguments, std::size_t at, const char* name, int first, int last) {
-  const std::string right =
-      "a whole number from " + std::to_string(first) + " to " + std::to_string(last);
+// `meanings` tells what the numbers stand for.
+int Whole(const CArguments& arguments, std::size_t at, const char* name, int first, int last,
+          const std::string& meanings = "") {
+  const std::string right = "a whole number from " + std::to_string(first) + " to " +
+                            std::to_string(last) + (meanings.empty() ? "" : ": " + meanings);
   const double number = Number(arguments, at, name, right.c_str());
   if (number != std::floor(number) || number < first || number > last)
     Refuse(name, arguments[at], right);
@@ -81,6 +87,35 @@ constexpr const char* kStress = "N/mm²";
 constexpr const char* kThickness = "a thickness above 0 and up to 100 mm";
 constexpr const char* kRatio = "a number not below 0";
 constexpr const char* kAxes[] = {"x", "y"};
+
+// The numbers of the section kinds run through the pictures of the table, row by row.
+constexpr const char* kGammaKinds =
+    "0 to 4 I and H sections (item 1 of the table: 1.05 and 1.2), 5 to 10 boxes and what is bent "
+    "as "
+    "they are (item 2: 1.05 and 1.05), 11 and 12 T sections (item 3: x 1.05 at the flange, 1.2 at "
+    "the tip of the web; y 1.2), 13 and 14 the same with y 1.05 (item 4), 15 to 17 solid bars "
+    "(item "
+    "5: 1.2 and 1.2), 18 the circular tube (item 6: 1.15), 19 and 20 lattices, x the axis that "
+    "cuts "
+    "no limb (item 7: 1.0 and 1.05), 21 and 22 lattices whose axes both cut no limb (item 8: 1.0 "
+    "and 1.0)";
+constexpr const char* kClassKinds =
+    "1 the rolled tube (class a), 2 the rolled I of width over height up to 0.8 (x a, y b), 3 to "
+    "25 "
+    "what the table has as b about both axes (other rolled I and H, flame-cut welded I, rolled "
+    "channels, angles and tees, welded tubes, boxes of width over thickness above 20, lattices), "
+    "26 "
+    "to 28 welded I and tees whose flanges are rolled or sheared (x b, y c), 29 and 30 welded "
+    "sections of rolled or sheared plates and boxes of width over thickness up to 20 (c)";
+constexpr const char* kThickRows =
+    "1 rolled I or H, t below 80 mm; 2 the same, 80 mm and more; 3 welded I, flanges flame-cut; 4 "
+    "welded I, flanges rolled or sheared; 5 welded box, width over thickness above 20; 6 the same, "
+    "up to 20";
+
+constexpr const char* kSurfaces =
+    "0 sand- or shot-blasted, 1 the same with inorganic zinc-rich paint, 2 the same and rusted "
+    "red, "
+    "3 loose rust brushed off with a wire brush, 4 clean rolled surface without treatment";
 
 CFigure Steel(const CArguments& a) {
   static constexpr const char* kKinds[] = {"f", "fv", "fce"};
@@ -139,8 +174,8 @@ CFigure Preload(const CArguments& a) {
 }
 
 CFigure Slip(const CArguments& a) {
-  static constexpr int kColumn[] = {0, 1, 1, 2};                  // Q235; Q345 and Q390; Q420
-  const int surface = std::min(Whole(a, 0, "SURFACE", 0, 4), 3);  // 3 and 4 share a row
+  static constexpr int kColumn[] = {0, 1, 1, 2};  // Q235; Q345 and Q390; Q420
+  const int surface = std::min(Whole(a, 0, "SURFACE", 0, 4, kSurfaces), 3);  // 3 and 4 share a row
   double factor = 0;
   CTableSearch::SearchSub8(surface, kColumn[Choice(a, 1, "GRADE", kSteels)], factor);
   return {factor, "", "GB 50017-2003, Table 7.2.2-1"};
@@ -180,7 +215,12 @@ CFigure PhiB(const CArguments& a) {
   Found(length >= 2 && length <= 10, a, 2, "LENGTH", "a free length of 2 to 10 m");
   Found(CTableSearch::SearchSub11_1(Choice(a, 0, "CASE", kCases) + 1, number, length, phi), a, 1,
         "I-NUMBER", "an I number of the table, 10 to 63");
-  return {phi, "", "GB 50017-2003, Table B.2"};
+  // The figures are those of Q235; above 0.6 the beam is no longer elastic.
+  if (phi <= 0.6) return {phi, "", "GB 50017-2003, Table B.2", "for Q235; × 235/fy for others"};
+  return {std::min(1.0, 1.07 - 0.282 / phi), "", "GB 50017-2003, Table B.2 with (B.1-2)",
+          "for Q235; the table's φb = " + NumberText(phi) +
+              " is above 0.6, so φb' = 1.07 − 0.282/φb, at most 1, takes its place; other steels: "
+              "φb × 235/fy before that"};
 }
 
 CFigure Mu(const CArguments& a) {
@@ -200,17 +240,28 @@ CFigure Mu(const CArguments& a) {
 
 constexpr const char* kTops[] = {"free", "sliding"};
 
+// Within the tables their figures; elsewhere, where they have none, the equation under them.
 CFigure MuStep(const CArguments& a) {
+  constexpr double kLargest = 1000;
+  constexpr const char* kRange = "a number above 0 and up to 1000";
   const bool bFree = Choice(a, 0, "TOP", kTops) == 0;
-  const double eta1 = Number(a, 1, "ETA1", kRatio);
-  const double k1 = Number(a, 2, "K1", kRatio);
+  const double eta1 = Number(a, 1, "ETA1", kRange);
+  const double k1 = Number(a, 2, "K1", kRange);
+  Found(eta1 > 0 && eta1 <= kLargest, a, 1, "ETA1", kRange);
+  Found(k1 > 0 && k1 <= kLargest, a, 2, "K1", kRange);
+  const char* table = bFree ? "GB 50017-2003, Table D-3" : "GB 50017-2003, Table D-4";
+  if (!IsWithinSingleStepped(eta1, k1)) {
+    return {SingleSteppedMu(bFree ? CSteppedTop::Free : CSteppedTop::Sliding, eta1, k1), "", table,
+            "by the equation under the table, whose figures are for η1 0.2 to 3.0 and K1 0.06 to "
+            "0.8"};
+  }
   double mu = 0;
   if (bFree) {
     CTableSearch::SearchSub18(eta1, k1, mu);
   } else {
     CTableSearch::SearchSub19(eta1, k1, mu);
   }
-  return {mu, "", bFree ? "GB 50017-2003, Table D-3" : "GB 50017-2003, Table D-4"};
+  return {mu, "", table};
 }
 
 CFigure MuStep2(const CArguments& a) {
@@ -239,20 +290,28 @@ CFigure MuTaper(const CArguments& a) {
 
 CFigure BucklingClass(const CArguments& a) {
   CString name;
-  CTableSearch::SearchSub5(Whole(a, 0, "KIND", 1, 30), Choice(a, 1, "AXIS", kAxes), name);
+  CTableSearch::SearchSub5(Whole(a, 0, "KIND", 1, 30, kClassKinds), Choice(a, 1, "AXIS", kAxes),
+                           name);
   return {ToUtf8(name), "", "GB 50017-2003, Table 5.1.2-1"};
 }
 
 CFigure ThickClass(const CArguments& a) {
   CString name;
-  CTableSearch::SearchSub5S2(Whole(a, 0, "ROW", 1, 6), Choice(a, 1, "AXIS", kAxes), name);
+  CTableSearch::SearchSub5S2(Whole(a, 0, "ROW", 1, 6, kThickRows), Choice(a, 1, "AXIS", kAxes),
+                             name);
   return {ToUtf8(name.Left(1)), "", "GB 50017-2003, Table 5.1.2-2"};
 }
 
 CFigure Gamma(const CArguments& a) {
+  const int kind = Whole(a, 0, "KIND", 0, 22, kGammaKinds);
+  const int axis = Choice(a, 1, "AXIS", kAxes);
   double gamma = 0;
-  CTableSearch::SearchSub6(Whole(a, 0, "KIND", 0, 22), Choice(a, 1, "AXIS", kAxes), gamma);
-  return {gamma, "", "GB 50017-2003, Table 5.2.1"};
+  CTableSearch::SearchSub6(kind, axis, gamma);
+  CFigure figure{gamma, "", "GB 50017-2003, Table 5.2.1"};
+  if (kind >= 21) figure.m_value = 1.0;  // item 8 has 1.0 about both axes
+  if (axis == 0 && kind >= 11 && kind <= 14)
+    figure.m_strNote = "at the flange; 1.2 at the web's tip";
+  return figure;
 }
 
 CFigure Fatigue(const CArguments& a) {
@@ -271,6 +330,7 @@ struct CQuestion {
   int m_nOptional;
   const char* m_szHelp;
   CFigure (*m_pAnswer)(const CArguments&);
+  const char* m_szMeanings = "";  // of the numbers that an argument takes
 };
 
 constexpr CQuestion kQuestions[] = {
@@ -279,7 +339,8 @@ constexpr CQuestion kQuestions[] = {
     {"bolt", "C|AB|anchor|bearing GRADE ft|fv|fc", 3, 0,
      "Strength of bolts; fc takes the steel of the plate for GRADE", Bolt},
     {"preload", "8.8|10.9 D", 2, 0, "Preload of one high-strength bolt of D mm", Preload},
-    {"slip", "SURFACE GRADE", 2, 0, "Slip factor by surface treatment 0 to 4 and steel", Slip},
+    {"slip", "SURFACE GRADE", 2, 0, "Slip factor by surface treatment 0 to 4 and steel", Slip,
+     kSurfaces},
     {"area", "D [gross|effective]", 2, 1, "Area of a bolt of D mm", Area},
     {"slender", "GRADE upper|lower|braced", 2, 0,
      "Largest l1/b1 of an I beam that needs no check of overall stability", Slender},
@@ -295,10 +356,12 @@ constexpr CQuestion kQuestions[] = {
      "The same, lowest part of a double-stepped column", MuStep2},
     {"mu-taper", "IC0/IC1 K2/K1", 2, 0,
      "The same, tapered column with a pinned foot; figures of the table only", MuTaper},
-    {"class", "KIND x|y", 2, 0, "Buckling class of a section kind 1 to 30", BucklingClass},
+    {"class", "KIND x|y", 2, 0, "Buckling class of a section kind 1 to 30", BucklingClass,
+     kClassKinds},
     {"class-thick", "ROW x|y", 2, 0, "Buckling class with plates of 40 mm and more, row 1 to 6",
-     ThickClass},
-    {"gamma", "KIND x|y", 2, 0, "Plastic development factor of a section kind 0 to 22", Gamma},
+     ThickClass, kThickRows},
+    {"gamma", "KIND x|y", 2, 0, "Plastic development factor of a section kind 0 to 22", Gamma,
+     kGammaKinds},
     {"fatigue", "CATEGORY C|beta", 2, 0, "Fatigue parameters of a detail category 1 to 8", Fatigue},
 };
 
@@ -317,12 +380,16 @@ void PrintFigure(const CFigure& figure, bool bJson) {
   if (bJson) {
     const CJson value =
         number != nullptr ? JsonNumber(*number) : CJson(std::get<std::string>(figure.m_value));
-    return PrintJson({{"value", value}, {"unit", figure.m_szUnit}, {"source", figure.m_szSource}});
+    CJson answer = {{"value", value}, {"unit", figure.m_szUnit}, {"source", figure.m_szSource}};
+    if (!figure.m_strNote.empty()) answer["note"] = figure.m_strNote;
+    return PrintJson(answer);
   }
   std::string text =
       number != nullptr ? NumberText(*number) : std::get<std::string>(figure.m_value);
   if (*figure.m_szUnit != 0) text += std::string(" ") + figure.m_szUnit;
-  Print(text + "  (" + figure.m_szSource + ")\n");
+  text += std::string("  (") + figure.m_szSource;
+  if (!figure.m_strNote.empty()) text += "; " + figure.m_strNote;
+  Print(text + ")\n");
 }
 
 }  // namespace
@@ -339,6 +406,7 @@ void AddCodeCommand(CLI::App& program) {
     CLI::App* command = code->add_subcommand(question.m_szName, question.m_szHelp);
     command->add_option("ARGUMENTS", options->arguments, question.m_szArguments);
     command->add_flag("--json", options->json, "As JSON, the number with all its digits");
+    command->footer(question.m_szMeanings);
     command->callback([options, &question] {
       CheckCount(question, options->arguments.size());
       PrintFigure(question.m_pAnswer(options->arguments), options->json);

@@ -13,6 +13,7 @@
 #include "catalogue/outline/row_figures.h"
 #include "commands.h"
 #include "error.h"
+#include "framework/excerpt.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "nearest.h"
@@ -41,16 +42,8 @@ CString CellText(const CKeyValue& value) {
   return number ? FormatShortest(*number) : FromUtf8(std::get<std::string_view>(value));
 }
 
-// The column of the file, each value in the cell of its key.
-CSteelItemGeGou ReadColumn(const std::string& path) {
-  const CCaseSchema schema(kLatticeSchema);
-  const auto source = OpenCases(path, schema);
-  if (!source->IsSingle()) Refuse(path + ": holds no single column; give one JSON object");
-  CCaseValues values(schema.Rules().size());
-  std::optional<CCaseFault> fault;
-  source->Next(values, fault);
-  if (!fault) fault = schema.Check(values);
-  if (fault) Refuse(path + ": " + fault->Line());
+// Each value in the cell of its key.
+CSteelItemGeGou ColumnOf(const CCaseSchema& schema, const CCaseValues& values) {
   const auto table = static_cast<std::size_t>(schema.Find("table"));
   CSteelItemGeGou column(LatticeLimbCount(CellText(*values[table])));
   for (std::size_t i = 0; i < values.size(); ++i) {
@@ -61,10 +54,24 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
   return column;
 }
 
+// The column of the file.
+CSteelItemGeGou ReadColumn(const std::string& path) {
+  const CCaseSchema schema(kLatticeSchema);
+  std::optional<CSteelItemGeGou> column;
+  ReadCases(path, schema, CLanguage::English, [&](const CReadCase& read) {
+    if (!read.m_bSingle) Refuse(path + ": holds no single column; give one JSON object");
+    const auto fault = read.m_fault ? read.m_fault : schema.Check(read.m_arrValue);
+    if (fault) Refuse(path + ": " + fault->Line(CLanguage::English));
+    column = ColumnOf(schema, read.m_arrValue);
+  });
+  if (!column) Refuse(path + ": holds no column; give one JSON object");
+  return *column;
+}
+
 // Names the limb that is not in the store, and what would be there.
 [[noreturn]] void RefuseLimb(const CSteelItemGeGou& column, const CLimbColumns& signs) {
-  const std::string type = Cell(column, signs.m_szType);
-  const std::string no = Cell(column, signs.m_szNo);
+  const std::string type = Excerpt(Cell(column, signs.m_szType));
+  const std::string no = Excerpt(Cell(column, signs.m_szNo));
   CStringArray names;
   CLoadDataTable::GetTableNameArray(kCatalogueTables, names);
   CStringArray numbers;

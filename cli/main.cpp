@@ -11,6 +11,7 @@
 
 #include "commands.h"
 #include "error.h"
+#include "framework/excerpt.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
@@ -67,9 +68,19 @@ std::string UnknownCommand(const CLI::App* command, const std::vector<std::strin
       if (each->get_name() == *word) command = each;
       names += (names.empty() ? "" : ", ") + each->get_name();
     }
-    if (!command) return "\"" + *word + "\" is no command; right would be one of " + names;
+    if (!command) return "\"" + Excerpt(*word) + "\" is no command; right would be one of " + names;
   }
   return {};
+}
+
+// An error's text in which no argument is quoted whole that is too long for it.
+std::string WithExcerpts(std::string text, const std::vector<std::string>& arguments) {
+  for (const std::string& argument : arguments) {
+    const std::string excerpt = orv3::Excerpt(argument);
+    const std::size_t at = excerpt == argument ? text.npos : text.find(argument);
+    if (at != text.npos) text.replace(at, argument.size(), excerpt);
+  }
+  return text;
 }
 
 int Run(int argc, char** argv) {
@@ -99,7 +110,8 @@ int Run(int argc, char** argv) {
       used = used->get_subcommands().front();
       name += used->get_name() + " ";
     }
-    return Fail(CExit::BadInput, error.what() + (" (see orv3cal " + name + "--help)"));
+    return Fail(CExit::BadInput, WithExcerpts(error.what(), ForParsing(argc, argv)) +
+                                     " (see orv3cal " + name + "--help)");
   }
   return static_cast<int>(CExit::Done);
 }

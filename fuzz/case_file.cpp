@@ -12,14 +12,10 @@ using namespace orv3::cli;
 
 void ReadAll(const char* path, const CCaseSchema& schema) {
   try {
-    const auto source = OpenCases(path, schema);
-    std::optional<orv3::CCaseFault> fault;
-    CCaseValues values(schema.Rules().size());
-    while (source->Next(values, fault)) {
-      if (!fault) schema.Check(values);
-      fault.reset();
-      values.assign(schema.Rules().size(), std::nullopt);
-    }
+    orv3::cli::ReadCases(path, schema, orv3::CLanguage::Chinese, [&](const CReadCase& read) {
+      const auto fault = read.m_fault ? read.m_fault : schema.Check(read.m_arrValue);
+      if (fault) Require(!fault->Line(orv3::CLanguage::English).empty());
+    });
   } catch (const CCommandError& error) {
     Require(*error.what() != '\0');
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalogue/code_tables/grids.h"
+#include "catalogue/code_tables/stepped_column_equation.h"
 #include "catalogue/code_tables/table_search.h"
 #include "catalogue/import/csv_table.h"
 #include "catalogue/import/section_rows.h"

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <numbers>
 #include <set>
+#include <utility>
 
 #include "orv3cal.h"
 
@@ -117,6 +118,20 @@ TEST(EffectiveLengthEquations, SingleSteppedColumns) {
       EXPECT_NEAR(T::g_sub19[i][j], Mu([=](double x) { return SingleSliding(x, eta1, k1); }), 0.005)
           << "D-4 at " << eta1 << ", " << k1;
     }
+  }
+}
+
+// The command's roots, on both sides of eta1 = 1 and beyond the tables.
+TEST(EffectiveLengthEquations, SingleSteppedColumnsBeyondTheTables) {
+  const std::pair<double, double> ratios[] = {{5, 1.5},   {1, 0.3},  {0.05, 0.01}, {0.1, 20},
+                                              {0.9, 2.5}, {1.1, 40}, {7, 0.02},    {3.5, 0.06}};
+  for (const auto& [eta1, k1] : ratios) {
+    const auto expect = [e = eta1, k = k1](orv3::CSteppedTop top, auto equation) {
+      const double mu = Mu([&](double x) { return equation(x, e, k); }, 1e-3);
+      EXPECT_NEAR(orv3::SingleSteppedMu(top, e, k), mu, 1e-6 * mu) << e << ", " << k;
+    };
+    expect(orv3::CSteppedTop::Free, SingleFree);
+    expect(orv3::CSteppedTop::Sliding, SingleSliding);
   }
 }
 

@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <set>
 #include <sstream>
 
 #include "cli/run_program.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
+#include "connections/report/connection_report.h"
 
 namespace {
 
@@ -32,6 +34,7 @@ template <class CHECK>
 void ExpectKeysOf(const std::string& kind) {
   std::set<std::string> keys;
   for (const auto& key : CHECK::InputKeys()) keys.insert(key.m_szKey);
+  for (const auto& key : orv3::kSheetKeys) keys.insert(key.m_szKey);
   std::set<std::string> listed;
   const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/" + kind + ".schema.json"));
   for (const auto& [key, rule] : schema["properties"].items()) {
@@ -106,8 +109,17 @@ TEST(CheckCommand, RefusesByKeyInOneLine) {
     const COwnFile file("case.json", input.dump());
     ExpectRefused({{std::string("check ") + each.kind + " " + file.m_strPath, each.names}});
   }
-  for (const char* text : {R"({"N": 1e999})", "{", "7", ""})
-    EXPECT_EQ(Check("bolt", text).m_nExit, 2) << text;
+  const std::string behind = Example("bolt").dump() + std::string(3, '\0');
+  for (const std::string& text :
+       {std::string(R"({"N": 1e999})"), std::string("{"), std::string("7"), std::string(), behind,
+        Example("bolt").dump() + " {}", std::string("[]"),
+        "{\"" + std::string(1'000'000, 'k') + "\":1}"}) {
+    const COwnFile file("case.json", text);
+    const CRunResult run = RunProgram("check bolt " + file.m_strPath);
+    EXPECT_EQ(run.m_nExit, 2) << run.m_strError;
+    EXPECT_TRUE(run.m_strOut.empty()) << run.m_strOut;
+    EXPECT_LT(run.m_strError.size(), 500U) << "what is quoted is cut";
+  }
   EXPECT_EQ(RunProgram("check bolt no-such-file.json").m_nExit, 3);
   EXPECT_EQ(RunProgram("check rivet no-such-file.json").m_nExit, 2);
 }
@@ -117,6 +129,73 @@ TEST(CheckCommand, TellsAFailureByItsStatus) {
   input["Vy"] = 2500;
   const COwnFile file("case.json", input.dump());
   EXPECT_FALSE(JsonOf("check bolt " + file.m_strPath, 1)["pass"]);
+}
+
+// Each passed, or failed where the code has it pass, by the record alone.
+TEST(CheckCommand, PassesOnlyWhatTheCodePasses) {
+  const std::string bolts =
+      R"({"layout":"grid","cols":2,"rows":3,"colSpace":70,"rowSpace":80,"d":20,"sumT":20,"nv":1,
+          "nf":1,"surface":0,"N":0,"Vx":0,"Vy":0,"M":0,"T":0,"ex":50,"ey":50,"t":10,
+          "steel":"Q235","type":"friction","grade":"10.9"})";
+  const std::string butt =
+      R"({"case":1,"steel":"Q235","quality":3,"lw":300,"t":10,"N":0,"M":0,"V":0})";
+  const struct {
+    const char* kind;
+    const char* patch;
+    int exit;
+    double utilisation;  // of what is not refused
+    std::vector<std::string> told;
+  } cases[] = {
+      {"bolt",
+       R"({"type":"bearing","rows":8,"rowSpace":100,"M":350000})",
+       1,
+       1.1921,
+       {"0.7153 → 1.192", "about the centroid"}},
+      {"bolt",
+       R"({"type":"ordinary","grade":"4.6","class":"C","rows":5,"N":212,"M":16960})",
+       1,
+       1.0194,
+       {"0.8495 → 1.019"}},
+      {"butt", R"({"N":-15,"M":-31000})", 1, 1.0901, {"201.7", "ftw = 185"}},
+      {"bolt", R"({"Vx":60,"T":-20000})", 0, 0.9923, {"T", "takes its share off"}},
+      {"bolt", R"({"Vx":60,"M":-50000})", 1, 1.4194, {"about the centroid"}},
+      {"bolt", R"({"rows":1,"M":100})", 2, 0, {"M: one row of bolts has no lever arm"}},
+      {"bolt", R"({"rows":1,"cols":1,"T":100})", 2, 0, {"T: a single bolt carries no torque"}},
+      {"butt", R"({"V":100})", 2, 0, {"V: 100 is left out by load case 1", "3, 4, 5"}},
+      {"butt", R"({"case":0,"N":600})", 1, 1.0811, {"ftw = 185"}},
+      {"bolt",
+       R"({"type":"ordinary","grade":"4.6","class":"C","layout":"staggered","cols":5,
+                   "colSpace":60,"rowSpace":60,"nv":2,"Vy":580})",
+       1,
+       1.0343,
+       {"5 holes, net 2608 mm²", "195.3 N/mm² (90.8 %)"}},
+      {"bolt",
+       R"({"type":"bearing","sumT":10,"t":16,"Vx":500.1})",
+       0,
+       0.8867,
+       {"106.4 %", "88.7 %", "7.2.3 asks only together with tension"}},
+      {"bolt",
+       R"({"steel":"Q345","cols":3,"rowSpace":50,"ey":100,"nf":2,"Vx":730})",
+       0,
+       0.8386,
+       {"312 N/mm² (100.6 %)", "(83.9 %)"}},
+      {"butt", R"({"case":0,"quality":1,"N":645.003})", 1, 1.000005, {}},
+  };
+  for (const auto& each : cases) {
+    SCOPED_TRACE(each.patch);
+    Json input = Json::parse(std::string(each.kind) == "bolt" ? bolts : butt);
+    input.merge_patch(Json::parse(each.patch));
+    const CRunResult run = Check(each.kind, input.dump(), "--json");
+    ASSERT_EQ(run.m_nExit, each.exit) << run.m_strOut << run.m_strError;
+    if (each.exit == 2) {
+      ExpectHas(run.m_strError, each.told);
+      continue;
+    }
+    const Json answer = Json::parse(run.m_strOut);
+    EXPECT_EQ(answer["pass"], each.exit == 0);
+    EXPECT_NEAR(answer["utilisation"].get<double>(), each.utilisation, 5e-5);
+    ExpectHas(answer["warnings"].dump(), each.told);
+  }
 }
 
 TEST(CheckCommand, AnswersManyCasesOfACsv) {
@@ -146,15 +225,47 @@ TEST(CheckCommand, AnswersManyCasesOfACsv) {
   EXPECT_EQ(answers[1]["results"], ExampleAnswer("bolt")["results"]) << "the same group";
 }
 
+// Of an array of cases, each of which is read to its end.
+TEST(CheckCommand, RefusedCasesKeepTheirOwnIds) {
+  const COwnFile file("cases.json",
+                      R"([{"id": 12, "N": 5, "N": 7}, {"zz": 1, "id": 1.50}, 7, [1, {}],
+      {"M": {"id": "no"}, "id": "x"}, {"rowSpace": [7, "x"]}])");
+  const struct {
+    const char* id;  // null: none
+    std::vector<std::string> refused;
+    std::vector<std::string> chinese;
+  } cases[] = {{"12", {"N:", "twice, with 5 and with 7"}, {"N：", "两次，值为 5 和 7"}},
+               {"1.50", {"zz", "keys are"}, {"zz", "可用的键为"}},
+               {nullptr, {"case: 7 is no object"}, {"7 不是对象"}},
+               {nullptr, {"is no object"}, {"不是对象"}},
+               {"x", {"M: {…} is not possible"}, {"M：{…} 不可用"}},
+               {nullptr, {"rowSpace: \"x\"", "list"}, {"rowSpace：", "\"x\""}}};
+  const Json english = JsonOf("check bolt " + file.m_strPath, 2);
+  const Json chinese = JsonOf("check bolt " + file.m_strPath + " --lang zh", 2);
+  ASSERT_EQ(english.size(), std::size(cases));
+  for (std::size_t i = 0; i < std::size(cases); ++i) {
+    EXPECT_EQ(english[i].value("id", Json()), cases[i].id ? Json(cases[i].id) : Json()) << i;
+    ExpectHas(english[i]["refused"], cases[i].refused);
+    ExpectHas(chinese[i]["refused"], cases[i].chinese);
+  }
+}
+
 TEST(CheckCommand, AnArrayOfCasesGivesAReportOfAll) {
   Json second = Example("fillet");
-  second["id"] = "the other";
+  second["id"] = "the \"other\"";
+  second["checked"] = "Li Hua";
+  Json third = Example("fillet");
+  third["id"] = "a third";
+  third["case"] = 9;
   const COwnFile report("report.html");
-  const CRunResult run = Check("fillet", Json::array({Example("fillet"), second}).dump(),
-                               "--report " + report.m_strPath + " --lang en");
-  EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
+  const CRunResult run = Check("fillet", Json::array({Example("fillet"), second, third}).dump(),
+                               "--report " + report.m_strPath + " --lang en --project Depot");
+  EXPECT_EQ(run.m_nExit, 2) << "one is refused";
   ExpectHas(run.m_strOut, {"utilisation"});
-  ExpectHas(report.Bytes(), {"the other"});
+  // The summary lists the third, and the margins of the second's pages name it.
+  ExpectHas(report.Bytes(), {"3 cases: 2 pass, 0 fail, 1 refused", "case: 9 is not possible",
+                             "content: \"the\\20 \\22 other\\22 \"", "Li Hua", "Depot",
+                             "counter(page)", "GB 50017-2017"});
   EXPECT_EQ(report.Bytes().find("验算"), std::string::npos) << "English was asked for";
 }
 
@@ -183,13 +294,16 @@ TEST(CodeCommand, LooksFiguresUp) {
       {"mu sway 0.04 0.02", nullptr},
       {"mu sway 12 40", 1.03},
       {"mu-step free 0.2 0.06", 2.0},
+      {"mu-step free 3 0.8", 10.24},
       {"mu-taper 0.05 0.5", 0.644},
       {"mu-taper 0.2 25", 0.969},
       {"gamma 2 y", 1.2},
       {"class 1 x", "a"},
       {"class-thick 2 y", "d"},
       {"fatigue 3 C", 3.26},
-      {"phib concentrated-upper 20 2", 2.0},
+      {"phib concentrated-upper 20 7", 0.58},
+      {"gamma 21 y", 1.0},
+      {"gamma 22 x", 1.0},
   };
   for (const auto& each : cases) {
     const Json answer = JsonOf(std::string("code ") + each.arguments);
@@ -199,6 +313,17 @@ TEST(CodeCommand, LooksFiguresUp) {
   ExpectHas(RunProgram("code mu sway 0 0").m_strOut, {"∞"});
   // Appendix C, class b, lambda 50 sqrt(235/fy): the printed table C-2 has 0.856.
   EXPECT_NEAR(JsonOf("code phi 50 235 b")["value"].get<double>(), 0.856, 0.0005);
+  // Beyond the tables: eta1 K1 tan(pi/mu) tan(eta1 pi/mu) = 1, and above 0.6 (B.1-2).
+  const double mu = JsonOf("code mu-step free 5 1.5")["value"];
+  constexpr double kPi = 3.14159265358979;
+  EXPECT_NEAR(7.5 * std::tan(kPi / mu) * std::tan(5 * kPi / mu), 1, 1e-9);
+  EXPECT_NEAR(mu, 21.4, 0.05);
+  EXPECT_NEAR(JsonOf("code mu-step sliding 3.001 0.8")["value"].get<double>(), 4.61, 0.006);
+  EXPECT_DOUBLE_EQ(JsonOf("code phib concentrated-upper 20 2")["value"], 1.07 - 0.282 / 2.0);
+  ExpectRefused({{"code gamma 23 x", {"23", "solid bars", "T sections"}},
+                 {"code class 0 x", {"rolled tube"}},
+                 {"code slip 5 Q235", {"wire brush"}},
+                 {"code mu-step free 0 1", {"above 0"}}});
   for (const char* bad :
        {"steel Q235 101", "steel Q236 10", "bolt C 8.8 ft", "preload 8.8 18", "weld Q235 10",
         "phi 50 0 b", "mu-step2 free 0.1 0.2 0.1 0.2", "mu-taper 0.04 0.5", "steel Q235 1x"}) {

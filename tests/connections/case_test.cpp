@@ -81,13 +81,13 @@ typename CHECK::CCase With(typename CHECK::CCase input, const std::vector<CChang
 template <class CHECK>
 void ExpectRefused(const typename CHECK::CCase& good, const std::vector<CChange>& changes) {
   CHECK check;
-  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line();
+  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line(CLanguage::English);
   for (const CChange& change : changes) {
     SCOPED_TRACE(change.key);
     ASSERT_FALSE(check.Run(With<CHECK>(good, {change})));
     const CCaseFault& fault = check.Faults().front();
-    EXPECT_EQ(fault.m_strKey, change.key) << fault.Line();
-    EXPECT_FALSE(fault.m_strWhat.empty() || fault.m_strRight.empty());
+    EXPECT_EQ(fault.m_strKey, change.key) << fault.Line(CLanguage::English);
+    EXPECT_NE(fault.Text().m_strChinese, fault.Text().m_strEnglish);
     EXPECT_FALSE(check.Pass());
   }
 }
@@ -96,11 +96,12 @@ void ExpectRefused(const typename CHECK::CCase& good, const std::vector<CChange>
 template <class CHECK>
 void ExpectWarned(const typename CHECK::CCase& good, const std::vector<CChange>& changes) {
   CHECK check;
-  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line();
+  ASSERT_TRUE(check.Run(good)) << check.Faults().front().Line(CLanguage::English);
   EXPECT_TRUE(check.Warnings().empty()) << check.Warnings().front().m_text.m_strEnglish;
   for (const CChange& change : changes) {
     SCOPED_TRACE(change.key);
-    ASSERT_TRUE(check.Run(With<CHECK>(good, {change}))) << check.Faults().front().Line();
+    ASSERT_TRUE(check.Run(With<CHECK>(good, {change})))
+        << check.Faults().front().Line(CLanguage::English);
     ASSERT_EQ(check.Warnings().size(), 1U);
     EXPECT_EQ(check.Warnings()[0].m_strKey, change.key);
     EXPECT_NE(check.Warnings()[0].m_text.m_strChinese, check.Warnings()[0].m_text.m_strEnglish);
@@ -113,6 +114,7 @@ TEST(BoltCase, RefusesTheImpossibleByKey) {
                                          {"rows", 60000},
                                          {"layout", 2},
                                          {"t", 0},
+                                         {"t", 101},
                                          {"t", NAN},
                                          {"sumT", 0},
                                          {"nv", 0},
@@ -126,27 +128,33 @@ TEST(BoltCase, RefusesTheImpossibleByKey) {
                                          {"ey", 10}});
   ExpectRefused<CBoltCheck>(
       Ordinary(), {{"colSpace", 0, {70, 70}}, {"rowSpace", 0, {80}}, {"rowSpace", 0, {80, NAN}}});
-  ExpectRefused<CBoltCheck>(Friction(), {{"nf", 0}, {"surface", 5}, {"grade", 1}});
+  ExpectRefused<CBoltCheck>(Friction(), {{"nf", 0}, {"surface", 5}, {"grade", 1}, {"d", 14}});
   ExpectRefused<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"class", 0}, {"grade", 2}}),
                             {{"grade", 0}});
   ExpectRefused<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}}),
                             {{"grade", 0}});
-  // Half the rows' holes, ten, in a plate 150 wide: the straight cut is all holes.
-  const CBoltCase staggered =
-      With<CBoltCheck>(Ordinary(), {{"layout", 1}, {"rows", 20}, {"colSpace", 200}, {"Vy", 10}});
-  ExpectRefused<CBoltCheck>(staggered, {{"rows", 1}, {"colSpace", 70}});
+  // Loads that nothing resists.
+  ExpectRefused<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"rows", 1}}), {{"M", 100}});
+  ExpectRefused<CBoltCheck>(With<CBoltCheck>(Friction(), {{"rows", 1}}), {{"M", -100}});
+  ExpectRefused<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"rows", 1}, {"cols", 1}}), {{"T", -1}});
+  // Staggered holes 15 mm apart.
+  ExpectRefused<CBoltCheck>(
+      With<CBoltCheck>(Ordinary(), {{"layout", 1}, {"Vy", 10}, {"rowSpace", 25}}),
+      {{"rows", 1}, {"colSpace", 9}});
 }
 
 TEST(BoltCase, WarnsOfDetailingAndOfTheUnsafeSide) {
   ExpectWarned<CBoltCheck>(
       Ordinary(),
-      {{"rowSpace", 64}, {"colSpace", 64}, {"ex", 42.9}, {"ey", 32}, {"T", -100}, {"t", 101}});
-  ExpectWarned<CBoltCheck>(With<CBoltCheck>(Ordinary(), {{"rows", 1}}), {{"M", 100}});
-  ExpectWarned<CBoltCheck>(Friction(), {{"Vx", -60}, {"M", -500}, {"d", 12}});
-  // Both of the friction type's quirks under a negative shear.
-  CBoltCheck check;
-  ASSERT_TRUE(check.Run(With<CBoltCheck>(Friction(), {{"Vx", -60}, {"M", 500}})));
-  EXPECT_EQ(check.Warnings().size(), 2U);
+      {{"rowSpace", 64}, {"colSpace", 64}, {"ex", 42.9}, {"ey", 32}, {"T", -100}, {"N", -5}});
+  // 12 t = 144 mm is below 8 d0 = 172; 4 d0 = 86 below 8 t = 96.
+  ExpectWarned<CBoltCheck>(Ordinary(),
+                           {{"rowSpace", 145}, {"colSpace", 145}, {"ex", 86.5}, {"ey", 86.5}});
+  CBoltCheck threads;
+  ASSERT_TRUE(threads.Run(With<CBoltCheck>(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}})));
+  ASSERT_EQ(threads.Warnings().size(), 1U);
+  EXPECT_EQ(threads.Warnings()[0].m_strKey, "nv") << "78.5 kN, and 61.17 at the threads";
+  EXPECT_NE(threads.Warnings()[0].m_text.m_strEnglish.find("61.17"), std::string::npos);
 }
 
 // Six bolts share Vx = 60 kN and N = 30 kN; one takes 10 kN of shear and 5 kN of tension.
@@ -200,15 +208,23 @@ TEST(WeldCase, RefusesTheImpossibleByKey) {
   ExpectRefused<CFilletCheck>(
       With<CFilletCheck>(Fillet(), {{"he", 0}, {"s", 8}, {"angle", 45}, {"groove", 1}}),
       {{"s", 3}});
-  ExpectRefused<CButtCheck>(Butt(), {{"quality", 0}, {"t", 0}, {"lw", -1}});
+  ExpectRefused<CFilletCheck>(
+      With<CFilletCheck>(Fillet(), {{"he", 0}, {"s", 8}, {"angle", 45}, {"groove", 2}}),
+      {{"angle", 39}});
+  ExpectRefused<CButtCheck>(Butt(), {{"quality", 0}, {"t", 0}, {"t", 101}, {"lw", -1}});
+  // Loads that the load case leaves out.
+  ExpectRefused<CButtCheck>(With<CButtCheck>(Butt(), {{"case", 0}, {"M", 0}, {"V", 0}}),
+                            {{"M", -1}, {"V", 1}});
+  ExpectRefused<CFilletCheck>(With<CFilletCheck>(Fillet(), {{"case", 3}, {"N", 0}}), {{"N", 1}});
+  ExpectRefused<CFilletCheck>(With<CFilletCheck>(Fillet(), {{"case", 2}, {"V", 0}}), {{"V", 1}});
 }
 
-TEST(WeldCase, WarnsOfTheUnsafeSide) {
-  ExpectWarned<CFilletCheck>(Fillet(), {{"M", -1000}, {"betaF", 1.3}, {"lw", 39}});
-  ExpectWarned<CFilletCheck>(With<CFilletCheck>(Fillet(), {{"case", 1}, {"V", 0}}), {{"V", 60}});
-  // Q235, 12 mm, grade three: ftw 185 below fcw 215. 480 kN on 2400 mm2 is 200 N/mm2 of tension.
-  ExpectWarned<CButtCheck>(With<CButtCheck>(Butt(), {{"case", 0}, {"M", 0}, {"V", 0}, {"N", 480}}),
-                           {{"quality", 3}});
+TEST(WeldCase, WarnsOfDetailingAndOfTheUnsafeSide) {
+  ExpectWarned<CFilletCheck>(With<CFilletCheck>(Fillet(), {{"case", 1}, {"V", 0}}),
+                             {{"betaF", 1.3}, {"lw", 39}, {"M", -1000}});
+  ExpectWarned<CFilletCheck>(
+      With<CFilletCheck>(Fillet(), {{"he", 0}, {"hf", 8}, {"angle", 100}, {"betaF", 1}}),
+      {{"angle", 136}});
 }
 
 }  // namespace

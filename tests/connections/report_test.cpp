@@ -52,10 +52,16 @@ int Count(const std::string& text, const std::string& part) {
 template <class CHECK>
 void ExpectWholeReport(const typename CHECK::CCase& input) {
   CHECK check;
-  ASSERT_TRUE(check.Run(input)) << check.Faults().front().Line();
+  ASSERT_TRUE(check.Run(input)) << check.Faults().front().Line(CLanguage::English);
   for (const CLanguage language : {CLanguage::Chinese, CLanguage::English}) {
-    const std::string bodies[] = {CaseReport(input, check, language)};
-    const std::string html = ReportDocument("report", bodies, language);
+    const CReportCase cases[] = {{.m_nCase = 1,
+                                  .m_strId = input.m_strId,
+                                  .m_sheet = {.m_strProject = "<P> & Q", .m_strChecked = "Li"},
+                                  .m_bPass = true,
+                                  .m_strBody = CaseReport(input, check, language)},
+                                 {.m_nCase = 2, .m_strRefused = "N: <none>"}};
+    const std::string html = ReportDocument({"report", "0"}, cases, language);
+    EXPECT_TRUE(Has(html, "&lt;P&gt; &amp; Q") && Has(html, "N: &lt;none&gt;"));
     const std::size_t body = html.find("<body>");
     EXPECT_TRUE(IsBalanced("<?xml?>" + html.substr(body, html.find("</html>") - body)));
     EXPECT_EQ(Count(html, "http"), Count(html, "http://www.w3.org/2000/svg")) << "fetches nothing";
@@ -86,12 +92,14 @@ TEST(Report, HoldsEveryInputAndResultInBothLanguages) {
     ExpectWholeReport<CBoltCheck>(Group(type, 1));
   }
   for (int loadCase = 0; loadCase < 6; ++loadCase) {
+    const double M = TakesM(loadCase) ? -1300 : 0;
+    const double V = TakesV(loadCase) ? 47 : 0;
     ExpectWholeReport<CFilletCheck>({.m_nLoadCase = loadCase,
                                      .m_nSteel = 1,
                                      .m_dLw = 217,
-                                     .m_dN = 31,
-                                     .m_dM = 1300,
-                                     .m_dV = 47,
+                                     .m_dN = TakesN(loadCase) ? 31.0 : 0,
+                                     .m_dM = M,
+                                     .m_dV = V,
                                      .m_dBetaF = 1.22,
                                      .m_dHf = 8,
                                      .m_dAngle = 100});
@@ -100,31 +108,37 @@ TEST(Report, HoldsEveryInputAndResultInBothLanguages) {
                                    .m_nQuality = 3,
                                    .m_dLw = 217,
                                    .m_dThick = 18,
-                                   .m_dN = 131,
-                                   .m_dM = 1300,
-                                   .m_dV = 47});
+                                   .m_dN = TakesN(loadCase) ? 131.0 : 0,
+                                   .m_dM = M,
+                                   .m_dV = V});
   }
 }
 
-// With a torque the most stressed bolt is a single corner, whose force by statics is the record's.
-TEST(Report, MarksTheBoltThatTheRecordJudges) {
+// With a torque the most stressed bolt is a single corner, whose forces by statics are those
+// judged.
+TEST(Report, MarksTheBoltThatIsJudged) {
   CBoltCheck check;
   for (const int type : {0, 1, 2}) {
-    CBoltCase input = Group(type, 0);
-    ASSERT_TRUE(check.Run(input));
-    const NormalBoltData& group = check.Record();
-    const CStressedBolts stressed = MostStressedBolts(group);
-    ASSERT_EQ(stressed.m_arrBolt.size(), 1U);
-    const BoltPoint& bolt = group.m_PointArr[stressed.m_arrBolt[0]];
-    const double turn = (stressed.m_bClockwise ? 1 : -1) * group.m_dT / group.m_dSumR2;
-    EXPECT_NEAR(std::hypot(group.m_dNvx + turn * bolt.dy, group.m_dNvy - turn * bolt.dx),
-                group.m_dNv, 1e-9);
-    EXPECT_EQ(bolt.dy, group.m_dYMax) << "the moment pulls hardest at the far row";
+    for (const double T : {4100.0, -4100.0}) {
+      CBoltCase input = Group(type, 0);
+      input.m_dT = T;
+      ASSERT_TRUE(check.Run(input));
+      const NormalBoltData& group = check.Record();
+      const CBoltFigures& judged = check.Figures();
+      const CStressedBolts stressed = MostStressedBolts(check);
+      ASSERT_EQ(stressed.m_arrBolt.size(), 1U);
+      const BoltPoint& bolt = group.m_PointArr[stressed.m_arrBolt[0]];
+      const double turn = (stressed.m_bClockwise ? 1 : -1) * std::fabs(T) / group.m_dSumR2;
+      EXPECT_NEAR(std::hypot(group.m_dNvx + turn * bolt.dy, group.m_dNvy - turn * bolt.dx),
+                  judged.m_dNv, 1e-9);
+      EXPECT_NEAR(judged.m_dNtFirst + judged.m_dNtPerMm * bolt.y, judged.m_dNt, 1e-9);
+      EXPECT_EQ(bolt.y, 165) << "the moment pulls hardest at the far row";
+    }
   }
   CBoltCase shear = Group(0, 0);
   shear.m_dT = shear.m_dM = 0;
   ASSERT_TRUE(check.Run(shear));
-  EXPECT_EQ(MostStressedBolts(check.Record()).m_arrBolt.size(), 15U) << "all are equal";
+  EXPECT_EQ(MostStressedBolts(check).m_arrBolt.size(), 15U) << "all are equal";
 }
 
 }  // namespace

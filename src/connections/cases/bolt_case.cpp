@@ -35,24 +35,6 @@ double RecordMoment(const CBoltCase& input) noexcept {
   return input.m_nType != kFrictionBolt && IsZero(input.m_dM) ? kNoMoment : input.m_dM;
 }
 
-// A cut through the holes that leaves nothing of the plate has no stress to compare.
-void NoSectionLeft(const NormalBoltData& record, std::vector<CCaseFault>& faults) {
-  const auto left = [&](const double(&area)[4], double shear) {
-    if (IsZero(shear)) return true;
-    if (record.m_nBoltType != kFrictionBolt && record.m_nLayout == 1)
-      return area[2] > 0 && area[3] > 0;
-    return area[1] > 0;
-  };
-  if (!left(record.m_dAreaX, record.m_dVx)) {
-    faults.push_back({"rowSpace", "the holes leave no net section that resists Vx",
-                      "give larger spacings or fewer rows"});
-  }
-  if (!left(record.m_dAreaY, record.m_dVy)) {
-    faults.push_back({"colSpace", "the holes leave no net section that resists Vy",
-                      "give larger spacings or fewer bolts"});
-  }
-}
-
 }  // namespace
 
 const char* const kBoltGrades[5] = {"4.6", "4.8", "5.6", "8.8", "10.9"};
@@ -132,18 +114,13 @@ std::span<const CResultKey<CBoltResults>> CBoltCheck::ResultKeys() {
 }
 
 bool CBoltCheck::Run(const CBoltCase& input) {
-  m_arrWarning.clear();
-  m_arrPart.clear();
-  m_bPass = false;
-  m_arrFault = BoltFaults(input);
-  if (!m_arrFault.empty()) return false;
+  if (Refused(BoltFaults(input))) return false;
   FillRecord(input);
   m_record.BoltYanSuan();
-  NoSectionLeft(m_record, m_arrFault);
-  if (!m_arrFault.empty()) return false;
   ReadResults(input);
+  m_figures = JudgedFigures(m_record);
   JudgeParts();
-  m_arrWarning = BoltWarnings(m_record);
+  Warn(BoltWarnings(m_record, m_figures));
   return true;
 }
 
@@ -201,24 +178,15 @@ void CBoltCheck::ReadResults(const CBoltCase& input) {
                .m_bY = m_record.m_bJieMianY == 1};
   m_results.m_bForces = m_record.JugeYingLi() == 1;
   m_results.m_dRatio = m_record.m_dRatio;
-  m_bPass = m_results.m_bForces && m_results.m_bX && m_results.m_bY;
 }
 
 void CBoltCheck::JudgeParts() {
-  const CBoltResults& r = m_results;
-  m_arrPart.push_back({{"螺栓相关式", "bolt interaction"},
-                       "passForces",
-                       r.m_dRatio,
-                       AtMost(std::fabs(r.m_dRatio), 1)});
-  if (m_record.m_nBoltType != kFrictionBolt) {
-    const double resistance = r.m_dNv - m_record.m_dNvExcess;
-    m_arrPart.push_back(
-        {{"孔壁承压", "bearing"}, "passForces", r.m_dNv / resistance, AtMost(r.m_dNv, resistance)});
-  }
-  m_arrPart.push_back(
-      {{"x 向截面", "section for Vx"}, "passX", std::fabs(r.m_dSigmaX) / r.m_dF, r.m_bX});
-  m_arrPart.push_back(
-      {{"y 向截面", "section for Vy"}, "passY", std::fabs(r.m_dSigmaY) / r.m_dF, r.m_bY});
+  const CBoltFigures& j = m_figures;
+  Judge({"螺栓相关式", "bolt interaction"}, "passForces", j.m_dRatio);
+  if (m_record.m_nBoltType != kFrictionBolt)
+    Judge({"孔壁承压", "bearing"}, "passForces", j.m_dNv / j.m_dBearing);
+  Judge({"x 向截面", "section for Vx"}, "passX", j.m_x.Worst() / m_results.m_dF);
+  Judge({"y 向截面", "section for Vy"}, "passY", j.m_y.Worst() / m_results.m_dF);
 }
 
 }  // namespace orv3

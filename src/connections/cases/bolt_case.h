@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "connections/bolt_group.h"
-#include "connections/cases/case_keys.h"
-#include "framework/export.h"
+#include "connections/cases/case_answer.h"
+#include "connections/verdict/bolt_verdict.h"
 
 namespace orv3 {
 
@@ -66,8 +66,9 @@ struct CBoltResults {
   bool m_bY = false;
 };
 
-// The check of bolt groups; one object serves many cases and keeps its storage between them.
-class ORV3CAL_API CBoltCheck {
+// The check of bolt groups; one object serves many cases and keeps its storage between them. The
+// results are what the record computed, the verdict is by the judged figures.
+class ORV3CAL_API CBoltCheck : public CCaseAnswer {
  public:
   using CCase = CBoltCase;
   using CResults = CBoltResults;
@@ -78,14 +79,9 @@ class ORV3CAL_API CBoltCheck {
   // Computes the case. False when it is refused: then Faults says why, by key.
   bool Run(const CBoltCase& input);
 
-  const std::vector<CCaseFault>& Faults() const noexcept { return m_arrFault; }
-  const std::vector<CCaseWarning>& Warnings() const noexcept { return m_arrWarning; }
-  const std::vector<CCasePart>& Parts() const noexcept { return m_arrPart; }
   const CBoltResults& Results() const noexcept { return m_results; }
   const NormalBoltData& Record() const noexcept { return m_record; }
-  bool Pass() const noexcept { return m_bPass; }
-  // The part of the verdict with the greatest utilisation, which a NaN counts as.
-  const CCasePart& Worst() const { return WorstPart(m_arrPart); }
+  const CBoltFigures& Figures() const noexcept { return m_figures; }
 
  private:
   void FillRecord(const CBoltCase& input);
@@ -94,17 +90,15 @@ class ORV3CAL_API CBoltCheck {
 
   NormalBoltData m_record;
   CBoltResults m_results;
-  std::vector<CCaseFault> m_arrFault;
-  std::vector<CCaseWarning> m_arrWarning;
-  std::vector<CCasePart> m_arrPart;
-  bool m_bPass = false;
+  CBoltFigures m_figures;
 };
 
 // Impossible input, by key; empty when the case can be computed.
 ORV3CAL_API std::vector<CCaseFault> BoltFaults(const CBoltCase& input);
 // Of a computed record: detailing minima that it falls short of (GB 50017-2003, Table 8.3.4), and
-// results on the unsafe side.
-ORV3CAL_API std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record);
+// where the judged figures are not the record's.
+ORV3CAL_API std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record,
+                                                   const CBoltFigures& figures);
 
 extern const char* const kBoltGrades[5];
 extern const CTextLiteral kBoltTypeNames[3];

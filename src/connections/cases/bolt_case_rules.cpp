@@ -30,33 +30,50 @@ void GroupFaults(const CBoltCase& input, CFaultList& faults) {
   faults.Within("rows", input.m_nRows, 1, kMostBolts);
   if (!faults.IsEmpty()) return;
   if (static_cast<long long>(input.m_nCols) * input.m_nRows > kMostBolts) {
-    faults.Add("rows", "the group has more than 100000 bolts", "give fewer rows or columns");
+    faults.Add("rows", {"螺栓多于 100000 个", "the group has more than 100000 bolts"},
+               {"请减少行数或列数", "give fewer rows or columns"});
   }
   if (input.m_nLayout == 1 && (input.m_nCols < 2 || input.m_nRows < 2)) {
-    faults.Add(input.m_nCols < 2 ? "cols" : "rows", "a staggered group with one line of bolts",
-               "give at least 2, or the layout grid");
+    faults.Add(input.m_nCols < 2 ? "cols" : "rows",
+               {"错列螺栓群只有一线螺栓", "a staggered group with one line of bolts"},
+               {"请至少给 2，或用 grid 排列", "give at least 2, or the layout grid"});
   }
 }
 
+double Least(const CSpacing& spacing) {
+  const auto& each = spacing.m_arrEach;
+  return each.empty() ? spacing.m_dUniform : *std::min_element(each.begin(), each.end());
+}
+
+CText MoreThan(double least) {
+  const std::string number = PlainNumber(least) + " mm";
+  return {"请给大于 " + number, "give more than " + number};
+}
+
 // Smallest spacing of one direction that leaves the holes apart.
-void SpacingFaults(const char* key, const char* lines, const CSpacing& spacing, int count,
+void SpacingFaults(const char* key, CTextLiteral lines, const CSpacing& spacing, int count,
                    double least, CFaultList& faults) {
   const auto& each = spacing.m_arrEach;
   if (!each.empty() && each.size() != static_cast<std::size_t>(count)) {
+    const std::string given = std::to_string(each.size());
+    const std::string needed = std::to_string(count);
+    const std::string all = std::to_string(count + 1);
     faults.Add(
         key,
-        std::to_string(each.size()) + " spacings for " + std::to_string(count + 1) + " " + lines,
-        "give " + std::to_string(count) + ", or one number for all");
+        {"给了 " + given + " 个间距，而有 " + all + " " + lines.m_szChinese,
+         given + " spacings for " + all + " " + lines.m_szEnglish},
+        {"请给 " + needed + " 个，或一个通用值", "give " + needed + ", or one number for all"});
     return;
   }
   if (count == 0) return;
-  const double smallest =
-      each.empty() ? spacing.m_dUniform : *std::min_element(each.begin(), each.end());
+  const double smallest = Least(spacing);
   for (const double value : each) faults.Finite(key, value);
   faults.Finite(key, spacing.m_dUniform);
   if (smallest <= least) {
-    faults.Add(key, PlainNumber(smallest) + " mm lets the holes run into one another",
-               "give more than " + PlainNumber(least) + " mm");
+    faults.Add(key,
+               {PlainNumber(smallest) + " mm 使孔相连",
+                PlainNumber(smallest) + " mm lets the holes run into one another"},
+               MoreThan(least));
   }
 }
 
@@ -66,12 +83,17 @@ void GradeFaults(const CBoltCase& input, CFaultList& faults) {
   const std::string grade = kBoltGrades[input.m_nGrade];
   const bool bHighStrength = input.m_nGrade >= 3;
   if (input.m_nType != kOrdinaryBolt && !bHighStrength) {
-    faults.Add("grade", grade + " is no grade of high-strength bolts", "give 8.8 or 10.9");
+    faults.Add("grade",
+               {grade + " 不是高强度螺栓的等级", grade + " is no grade of high-strength bolts"},
+               {"请给 8.8 或 10.9", "give 8.8 or 10.9"});
   } else if (input.m_nType == kOrdinaryBolt && input.m_nClass == 2 && input.m_nGrade > 1) {
-    faults.Add("grade", grade + " is no grade of class C bolts", "give 4.6 or 4.8");
+    faults.Add("grade", {grade + " 不是 C 级螺栓的等级", grade + " is no grade of class C bolts"},
+               {"请给 4.6 或 4.8", "give 4.6 or 4.8"});
   } else if (input.m_nType == kOrdinaryBolt && input.m_nClass != 2 &&
              (input.m_nGrade < 2 || input.m_nGrade > 3)) {
-    faults.Add("grade", grade + " is no grade of class A and B bolts", "give 5.6 or 8.8");
+    faults.Add("grade",
+               {grade + " 不是 A、B 级螺栓的等级", grade + " is no grade of class A and B bolts"},
+               {"请给 5.6 或 8.8", "give 5.6 or 8.8"});
   }
 }
 
@@ -80,10 +102,17 @@ void BoltFieldFaults(const CBoltCase& input, CFaultList& faults) {
   faults.Within("type", input.m_nType, 0, 2);
   faults.Within("steel", input.m_nSteel, 0, 3);
   if (!IsTableDiameter(input.m_nD)) {
-    faults.Add("d", std::to_string(input.m_nD) + " is no diameter of the table",
-               "give 10, 12, 14, 16, 18, 20, 22, 24, 27, 30 or a larger one that it has");
+    const std::string d = std::to_string(input.m_nD);
+    faults.Add("d", {d + " 不是表中的直径", d + " is no diameter of the table"},
+               {"请给 10、12、14、16、18、20、22、24、27、30 或表中更大的直径",
+                "give 10, 12, 14, 16, 18, 20, 22, 24, 27, 30 or a larger one that it has"});
   }
   if (input.m_nType == kFrictionBolt) {
+    if (input.m_nD < 16) {
+      const std::string d = "M" + std::to_string(input.m_nD);
+      faults.Add("d", {"表 7.2.2-2 无 " + d + " 的预拉力", "Table 7.2.2-2 has no preload for " + d},
+                 {"请给 16 或更大", "give 16 or more"});
+    }
     faults.Within("nf", input.m_nNf, 1, 100);
     faults.Within("surface", input.m_nSurface, 0, 4);
   } else {
@@ -92,6 +121,7 @@ void BoltFieldFaults(const CBoltCase& input, CFaultList& faults) {
   }
   if (input.m_nType == kOrdinaryBolt) faults.Within("class", input.m_nClass, 0, 2);
   faults.Positive("t", input.m_dThick, "mm");
+  if (input.m_dThick > kThickestSteel) TooThick("t", input.m_dThick, "3.4.1-1", faults);
 }
 
 void LoadFaults(const CBoltCase& input, CFaultList& faults) {
@@ -101,15 +131,46 @@ void LoadFaults(const CBoltCase& input, CFaultList& faults) {
   faults.Finite("M", input.m_dM);
   faults.Finite("T", input.m_dT);
   if (input.m_nType != kFrictionBolt && input.m_dM < 0 && !IsZero(input.m_dM)) {
-    faults.Add("M", PlainNumber(input.m_dM) + " is below 0",
-               "give 0 or more: turn the group so that its first row is the one pressed on");
+    faults.Add("M", {PlainNumber(input.m_dM) + " 小于 0", PlainNumber(input.m_dM) + " is below 0"},
+               {"请给 0 或正值：转动螺栓群，使第一行为受压一侧",
+                "give 0 or more: turn the group so that its first row is the one pressed on"});
   }
+  if (input.m_nRows == 1 && !IsZero(input.m_dM)) {
+    const std::string M = PlainNumber(input.m_dM) + " kN·mm";
+    faults.Add("M", {"单行螺栓对 " + M + " 没有力臂", "one row of bolts has no lever arm for " + M},
+               {"请给 0，或至少 2 行", "give 0, or 2 rows or more"});
+  }
+  if (input.m_nRows == 1 && input.m_nCols == 1 && !IsZero(input.m_dT)) {
+    const std::string T = PlainNumber(input.m_dT) + " kN·mm";
+    faults.Add("T", {"单个螺栓不能承受扭矩 " + T, "a single bolt carries no torque, here " + T},
+               {"请给 0，或至少 2 个螺栓", "give 0, or 2 bolts or more"});
+  }
+}
+
+// Neighbours of a staggered group stand half a row apart, those of one line two columns.
+void StaggerFault(const CBoltCase& input, double d0, CFaultList& faults) {
+  if (input.m_nLayout != 1) return;
+  double nearest = std::hypot(Least(input.m_colSpace), Least(input.m_rowSpace) / 2);
+  const auto& each = input.m_colSpace.m_arrEach;
+  if (each.empty() && input.m_nCols > 2)
+    nearest = std::min(nearest, 2 * input.m_colSpace.m_dUniform);
+  for (std::size_t i = 1; i < each.size(); ++i) nearest = std::min(nearest, each[i - 1] + each[i]);
+  if (nearest > d0) return;
+  const std::string is = PlainNumber(nearest) + " mm";
+  const std::string least = PlainNumber(d0) + " mm";
+  faults.Add("colSpace",
+             {"错列孔相距 " + is + "，孔相连",
+              "staggered holes stand " + is + " apart and run into one another"},
+             {"请给使孔距大于 " + least + " 的间距",
+              "give spacings that keep them more than " + least + " apart"});
 }
 
 void EdgeFault(const char* key, double distance, double d0, CFaultList& faults) {
   if (std::isfinite(distance) && distance > d0 / 2) return;
-  faults.Add(key, PlainNumber(distance) + " mm lets the holes cut the edge",
-             "give more than " + PlainNumber(d0 / 2) + " mm");
+  faults.Add(key,
+             {PlainNumber(distance) + " mm 使孔切到边缘",
+              PlainNumber(distance) + " mm lets the holes cut the edge"},
+             MoreThan(d0 / 2));
 }
 
 // --- Warnings ----------------------------------------------------------------------------------
@@ -165,66 +226,89 @@ void TableWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& warn
           "Table 7.2.2-2 has no preload for " + d + "; P = " + preload +
               " is that of a neighbouring size. Check it."}});
   }
-  if (record.m_dThick > 100) {
-    warnings.push_back({"t",
-                        {"表 3.4.1-1 止于 100 mm；强度 f 按最厚一组取值，偏于不安全。",
-                         "Table 3.4.1-1 ends at 100 mm; f is that of the thickest group, which is "
-                         "on the unsafe side."}});
-  }
 }
 
-void MomentWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& warnings) {
-  if (record.m_dNtM < 0) {
-    warnings.push_back({record.m_dVx < 0 ? "Vx" : "M",
-                        {"弯矩分配给螺栓的拉力为负（M 与 Vx 异号），偏于不安全；请把 Vx 与 M "
-                         "取同号再算一次。",
-                         "The moment's share of the bolt tension is negative (M and Vx have "
-                         "opposite signs), which is on the unsafe side; run it again with Vx and M "
-                         "of one sign."}});
-  }
-  if (!IsZero(record.m_dM) && IsZero(record.m_dSumLy2)) {
-    warnings.push_back({"M",
-                        {"单行螺栓对弯矩没有力臂，M 未计入验算。",
-                         "One row of bolts has no lever arm for the moment: M is not part of the "
-                         "check."}});
-  }
-  if (record.m_dT < 0) {
-    warnings.push_back({"T",
-                        {"扭矩为负，其分力与直接剪力相抵，偏于不安全；请以 |T| 再算一次。",
-                         "The torque is negative and its share is taken off the direct shear, "
-                         "which is on the unsafe side; run it again with |T|."}});
-  }
-  if (record.m_dT != 0 && record.m_nBoltNum == 1) {
-    warnings.push_back({"T",
-                        {"单个螺栓不能承受扭矩，T 未计入验算。",
-                         "A single bolt carries no torque: T is not part of the check."}});
-  }
+// --- Where the verdict is not by the record's figures -------------------------------------------
+
+bool Differ(double a, double b) {
+  return std::fabs(a - b) > 1e-9 * std::max(std::fabs(a), std::fabs(b));
 }
 
-void SectionWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& warnings) {
-  const bool bTwoStresses = record.m_nBoltType == kFrictionBolt || record.m_nLayout == 1;
-  const auto signs = [&](const char* key, double shear) {
-    if (!bTwoStresses || shear >= 0) return;
-    warnings.push_back(
-        {key,
-         {std::string(key) + " 为负：两个截面应力按代数值比较，取了绝对值较小者，偏于不安全；"
-                             "请以正值再算一次。",
-          std::string(key) + " is negative: the two section stresses are compared with their "
-                             "signs and the smaller in size governs, which is on the unsafe side; "
-                             "run it again with a positive value."}});
+std::string Ratios(const NormalBoltData& record, const CBoltFigures& figures) {
+  return PlainNumber(record.m_dRatio) + " → " + PlainNumber(figures.m_dRatio);
+}
+
+void ShearWarnings(const NormalBoltData& record, const CBoltFigures& figures,
+                   std::vector<CCaseWarning>& warnings) {
+  if (!Differ(record.m_dNv, figures.m_dNv)) return;
+  const std::string was = PlainNumber(record.m_dNv);
+  const std::string is = PlainNumber(figures.m_dNv);
+  warnings.push_back(
+      {"T",
+       {"扭矩为负：记录值 Nv = " + was + " kN 把其分力与直接剪力相抵；按相加的 Nv = " + is +
+            " kN 验算（相关式 " + Ratios(record, figures) + "）。",
+        "The torque is negative: the record's Nv = " + was +
+            " kN takes its share off the direct shear; judged by Nv = " + is +
+            " kN, where it adds (interaction " + Ratios(record, figures) + ")."}});
+}
+
+void TensionWarnings(const NormalBoltData& record, const CBoltFigures& figures,
+                     std::vector<CCaseWarning>& warnings) {
+  if (record.m_dN < 0 && !IsZero(record.m_dN)) {
+    warnings.push_back({"N",
+                        {"N < 0 为压力，由板件接触传递，未验算接触面；螺栓只验算其余内力。",
+                         "N below 0 presses the plates together: contact carries it, which is not "
+                         "checked; the bolts are checked for what remains."}});
+  }
+  if (!Differ(record.m_dNt, figures.m_dNt)) return;
+  const std::string was = "Nt = " + PlainNumber(record.m_dNt) + " kN";
+  const std::string is = "Nt = " + PlainNumber(figures.m_dNt) + " kN";
+  static constexpr CTextLiteral kHow[] = {
+      {"", ""},
+      {"绕形心转动", "turning about the centroid"},
+      {"绕第一行转动并计入 N 对该行之矩", "turning about the first row, which N lifts off as well"},
   };
-  signs("Vx", record.m_dVx);
-  signs("Vy", record.m_dVy);
-  if (record.m_nLayout == 1 && record.m_nBoltType != kFrictionBolt && !IsZero(record.m_dVy)) {
+  const CTextLiteral& how = kHow[static_cast<int>(figures.m_nTurn)];
+  warnings.push_back({"M",
+                      {"记录值 " + was + " 偏于不安全；按" + how.m_szChinese + "的 " + is +
+                           " 验算（相关式 " + Ratios(record, figures) + "）。",
+                       "The record's " + was + " is on the unsafe side; judged by " + is + ", " +
+                           how.m_szEnglish + " (interaction " + Ratios(record, figures) + ")."}});
+}
+
+void BearingWarnings(const NormalBoltData& record, const CBoltFigures& figures,
+                     std::vector<CCaseWarning>& warnings) {
+  if (record.m_nBoltType != kBearingBolt || figures.m_dNv == 0) return;
+  const double reduced = record.m_dBeta * record.m_dNcb / 1.2;
+  if (figures.m_dNt == 0 && figures.m_dNv > reduced) {
+    const std::string was = PercentNumber(figures.m_dNv / reduced) + " %";
+    const std::string is = PercentNumber(figures.m_dNv / figures.m_dBearing) + " %";
     warnings.push_back(
-        {"Vy",
-         {"错列布置抵抗 Vy 的净截面：直线截面按行数之半扣孔，折线截面每段取整个行距，"
-          "可能偏于不安全；请另行核对这两个截面。",
-          "The net sections of a staggered group that resist Vy: the straight one "
-          "deducts half as many holes as there are rows, and each leg of the zigzag "
-          "one spans a whole row spacing, which can be on the unsafe side; check "
-          "both by themselves."}});
+        {"Vx",
+         {"记录按 Nv ≤ Ncb / 1.2 判定孔壁承压（" + was +
+              "）；7.2.3 条仅在同时受拉时要求除以 1.2，无拉力按 Ncb 验算（" + is + "）。",
+          "The record holds Nv against Ncb / 1.2 (" + was +
+              "), which 7.2.3 asks only together with tension; judged against Ncb (" + is + ")."}});
   }
+}
+
+void SectionWarning(const char* key, double recorded, const CPlateSection& section, double f,
+                    bool bFriction, std::vector<CCaseWarning>& warnings) {
+  if (!Differ(std::fabs(recorded), section.Worst())) return;
+  const auto stress = [f](double sigma) {
+    return PlainNumber(sigma) + " N/mm² (" + PercentNumber(sigma / f) + " %)";
+  };
+  const std::string number = std::to_string(section.Holes());
+  const std::string area = PlainNumber(section.m_dNet) + " mm²";
+  const std::string share =
+      bFriction ? ", 1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
+  warnings.push_back({key,
+                      {std::string("记录的 ") + key + " 截面应力为 " + stress(recorded) +
+                           "；按 5.1.1 条最不利截面（" + number + " 孔，净面积 " + area + share +
+                           "）验算：" + stress(section.Worst()) + "。",
+                       std::string("The record's section stress from ") + key + " is " +
+                           stress(recorded) + "; judged by the worst section of 5.1.1 (" + number +
+                           " holes, net " + area + share + "): " + stress(section.Worst()) + "."}});
 }
 
 }  // namespace
@@ -239,20 +323,29 @@ std::vector<CCaseFault> BoltFaults(const CBoltCase& input) {
   const double d0 = HoleDiameter(input);
   // The neighbouring columns of a staggered group share no row, so only the lines need be apart.
   const double leastColumn = input.m_nLayout == 1 ? 0 : d0;
-  SpacingFaults("colSpace", "columns", input.m_colSpace, input.m_nCols - 1, leastColumn, faults);
-  SpacingFaults("rowSpace", "rows", input.m_rowSpace, input.m_nRows - 1, d0, faults);
+  SpacingFaults("colSpace", {"列", "columns"}, input.m_colSpace, input.m_nCols - 1, leastColumn,
+                faults);
+  SpacingFaults("rowSpace", {"行", "rows"}, input.m_rowSpace, input.m_nRows - 1, d0, faults);
+  if (faults.IsEmpty()) StaggerFault(input, d0, faults);
   EdgeFault("ex", input.m_dEx, d0, faults);
   EdgeFault("ey", input.m_dEy, d0, faults);
   return faults.Take();
 }
 
-std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record) {
+std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record, const CBoltFigures& figures) {
   std::vector<CCaseWarning> warnings;
   SpacingWarnings(record, warnings);
   EdgeWarnings(record, warnings);
+  WarnOfLargestDistances(record, warnings);
+  WarnOfThreads(record, warnings);
   TableWarnings(record, warnings);
-  MomentWarnings(record, warnings);
-  SectionWarnings(record, warnings);
+  ShearWarnings(record, figures, warnings);
+  TensionWarnings(record, figures, warnings);
+  BearingWarnings(record, figures, warnings);
+  const double f = 1000 * record.m_dF;
+  const bool bFriction = record.m_nBoltType == kFrictionBolt;
+  SectionWarning("Vx", record.m_dSigmaX[0], figures.m_x, f, bFriction, warnings);
+  SectionWarning("Vy", record.m_dSigmaY[0], figures.m_y, f, bFriction, warnings);
   return warnings;
 }
 

@@ -7,20 +7,31 @@
 namespace orv3 {
 namespace {
 
-void StrengthWarnings(const CButtCase& input, const CButtResults& results,
-                      std::vector<CCaseWarning>& warnings) {
-  if (results.m_dSigma > results.m_dFtw && results.m_bSigma) {
+constexpr CTextLiteral kBothEdges = {
+    "M 使一侧边缘受拉、另一侧受压，N 与 M 取同号相加",
+    "M pulls one edge and presses the other, so N and M add at one of them"};
+
+std::vector<CCaseWarning> ButtWarnings(const CButtResults& r, const CWeldFigures& judged) {
+  std::vector<CCaseWarning> warnings;
+  const double sigma = std::fabs(r.m_dSigma);
+  const double greatest = std::max(judged.m_dTension, judged.m_dCompression);
+  WarnOfOther("M", {"正应力", "normal stress"}, sigma, greatest, kBothEdges, warnings);
+  if (judged.m_bShear) {
+    WarnOfOther("M", {"折算应力", "reduced stress"}, r.m_dReduced, judged.m_dCombined, kBothEdges,
+                warnings);
+  }
+  // The record's limit is the larger of both strengths.
+  if (judged.m_dTension > r.m_dFtw && r.m_bSigma) {
+    const std::string tension = PlainNumber(judged.m_dTension);
+    const std::string ftw = PlainNumber(r.m_dFtw);
+    const std::string fcw = PlainNumber(r.m_dFcw);
     warnings.push_back({"quality",
-                        {"三级焊缝的拉应力大于 ftw，但验算以 ftw 与 fcw 之大者为限，偏于不安全。",
-                         "The tensile stress is above ftw of grade three, but the check's limit is "
-                         "the larger of ftw and fcw, which is on the unsafe side."}});
+                        {"受拉边缘 " + tension + " N/mm² 按 ftw = " + ftw +
+                             " N/mm² 验算；记录以 fcw = " + fcw + " N/mm² 为限。",
+                         "The pulled edge, " + tension + " N/mm², is judged by ftw = " + ftw +
+                             " N/mm²; the record's limit is fcw = " + fcw + " N/mm²."}});
   }
-  if (input.m_dThick > 100) {
-    warnings.push_back({"t",
-                        {"表 3.4.1-3 止于 100 mm；强度按最厚一组取值，偏于不安全。",
-                         "Table 3.4.1-3 ends at 100 mm; the strengths are those of the thickest "
-                         "group, which is on the unsafe side."}});
-  }
+  return warnings;
 }
 
 WQWeldingData Record(const CButtCase& input) {
@@ -81,6 +92,8 @@ std::vector<CCaseFault> ButtFaults(const CButtCase& input) {
   faults.Finite("N", input.m_dN);
   faults.Finite("M", input.m_dM);
   faults.Finite("V", input.m_dV);
+  if (input.m_dThick > kThickestSteel) TooThick("t", input.m_dThick, "3.4.1-3", faults);
+  DroppedLoadFaults(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, faults);
   return faults.Take();
 }
 
@@ -90,25 +103,19 @@ bool CButtCheck::Run(const CButtCase& input) {
   int okSigma = 0;
   int okTau = 0;
   int okReduced = 0;
-  m_bPass = weld.JugeStress(okSigma, okTau, okReduced) == 1;
+  weld.JugeStress(okSigma, okTau, okReduced);
   m_results = {1000 * weld.m_dFtw,   1000 * weld.m_dFcw, 1000 * weld.m_dFvw,     weld.m_dW,
                1000 * weld.m_dSigma, 1000 * weld.m_dTau, 1000 * weld.m_dReduced, okSigma == 1,
                okTau == 1,           okReduced == 1};
   const CButtResults& r = m_results;
-  m_arrPart.push_back({{"正应力 σ", "normal stress σ"},
-                       "okSigma",
-                       std::fabs(r.m_dSigma) / std::max(r.m_dFtw, r.m_dFcw),
-                       r.m_bSigma});
-  if (TakesV(input.m_nLoadCase)) {
-    m_arrPart.push_back(
-        {{"剪应力 τ", "shear stress τ"}, "okTau", std::fabs(r.m_dTau) / r.m_dFvw, r.m_bTau});
-    m_arrPart.push_back({{"折算应力", "reduced stress"},
-                         "okReduced",
-                         r.m_dReduced / (1.1 * r.m_dFtw),
-                         r.m_bReduced});
+  const CWeldFigures j = m_figures = JudgedFigures(input, r);
+  Judge({"正应力 σ", "normal stress σ"}, "okSigma", j.Across() / j.AcrossLimit(), r.m_bSigma);
+  if (j.m_bShear) {
+    Judge({"剪应力 τ", "shear stress τ"}, "okTau", j.m_dTau / j.m_dTauLimit, r.m_bTau);
+    Judge({"折算应力", "reduced stress"}, "okReduced", j.m_dCombined / j.m_dCombinedLimit,
+          r.m_bReduced);
   }
-  WarnOfWeldLoads(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, m_arrWarning);
-  StrengthWarnings(input, r, m_arrWarning);
+  Warn(ButtWarnings(r, j));
   return true;
 }
 

@@ -44,9 +44,14 @@ struct CResultKey {
 // Why a case is refused: the key, what was wrong and what would be right.
 struct CCaseFault {
   std::string m_strKey;
-  std::string m_strWhat;
-  std::string m_strRight;
-  std::string Line() const { return m_strKey + ": " + m_strWhat + "; " + m_strRight; }
+  CText m_what;
+  CText m_right;
+  // "key: what was wrong; what would be right"
+  CText Text() const {
+    return {m_strKey + "：" + m_what.m_strChinese + "；" + m_right.m_strChinese,
+            m_strKey + ": " + m_what.m_strEnglish + "; " + m_right.m_strEnglish};
+  }
+  std::string Line(CLanguage language) const { return Text().In(language); }
 };
 
 // What to look at in a result that stands.

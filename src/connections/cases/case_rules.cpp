@@ -1,7 +1,6 @@
 #include "connections/cases/case_rules.h"
 
-#include <cstdlib>
-
+#include "connections/check_math.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 
@@ -22,6 +21,25 @@ std::string PlainNumber(double value) {
   return text == "-0" ? "0" : text;
 }
 
+std::string PercentNumber(double utilisation) {
+  const double percent = 100 * std::fabs(utilisation);
+  std::string text = PlainNumber(std::round(10 * percent) / 10);
+  for (int digits = 2; percent > 100 && text == "100" && digits < 16; ++digits) {
+    const std::string longer = ToUtf8(FormatFixed(percent, digits));
+    if (longer.find_first_not_of("0", 4) != std::string::npos) text = longer;
+  }
+  return text;
+}
+
+CComparedText Compared(double effect, double limit) {
+  CComparedText text = {PlainNumber(effect), PlainNumber(limit)};
+  for (int digits = 1; effect > limit && text.m_strEffect == text.m_strLimit && digits < 16;
+       ++digits) {
+    text = {ToUtf8(FormatFixed(effect, digits)), ToUtf8(FormatFixed(limit, digits))};
+  }
+  return text;
+}
+
 const CCasePart& WorstPart(std::span<const CCasePart> parts) {
   const CCasePart* worst = &parts.front();
   for (const CCasePart& part : parts) {
@@ -35,38 +53,54 @@ void CFaultList::Positive(const char* key, double value, const char* unit) {
   if (!std::isfinite(value)) {
     Finite(key, value);
   } else if (value <= 0) {
-    Add(key, PlainNumber(value) + " is not possible", std::string("give more than 0 ") + unit);
+    NotPossible(
+        key, PlainNumber(value),
+        {std::string("请给出大于 0 的数值 ") + unit, std::string("give more than 0 ") + unit});
   }
 }
 
 void CFaultList::Within(const char* key, int value, int first, int last) {
   if (value >= first && value <= last) return;
-  Add(key, std::to_string(value) + " is not possible",
-      "give a whole number from " + std::to_string(first) + " to " + std::to_string(last));
+  const std::string from = std::to_string(first);
+  const std::string to = std::to_string(last);
+  NotPossible(key, std::to_string(value),
+              {"请给出 " + from + " 至 " + to + " 的整数",
+               "give a whole number from " + from + " to " + to});
 }
 
-void WarnOfWeldLoads(int loadCase, double N, double M, double V,
-                     std::vector<CCaseWarning>& warnings) {
-  const auto leftOut = [&](const char* key, double load, bool bTaken) {
-    if (bTaken || load == 0) return;
+void TooThick(const char* key, double thickness, const std::string& table, CFaultList& faults) {
+  const std::string is = PlainNumber(thickness) + " mm";
+  const std::string most = PlainNumber(kThickestSteel) + " mm";
+  faults.Add(key, {is + " 超出表 " + table, is + " is beyond Table " + table},
+             {"请给不大于 " + most, "give at most " + most});
+}
+
+void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& faults) {
+  const auto dropped = [&](const std::string& key, double load, bool bTaken,
+                           const std::string& cases) {
+    if (bTaken || std::fabs(load) <= kCheckTolerance || !std::isfinite(load)) return;
+    const std::string is = PlainNumber(load);
     const std::string number = std::to_string(loadCase);
-    warnings.push_back(
-        {key,
-         {std::string(key) + " 不为 0，但工况 " + number + " 的验算不计入它；请选用计入它的工况。",
-          std::string(key) + " is not 0, but load case " + number +
-              " leaves it out; choose a load case that takes it."}});
+    faults.Add(key,
+               {is + " 不为工况 " + number + " 所计入", is + " is left out by load case " + number},
+               {"请给 0，或选用计入 " + key + " 的工况：" + cases,
+                "give 0, or a load case that takes " + key + ": " + cases});
   };
-  leftOut("N", N, TakesN(loadCase));
-  leftOut("M", M, TakesM(loadCase));
-  leftOut("V", V, TakesV(loadCase));
-  if (TakesN(loadCase) && TakesM(loadCase) && ((N < 0 && M > 0) || (N > 0 && M < 0))) {
-    warnings.push_back({"M",
-                        {"N 与 M 异号：应力按代数和计算，未验算另一边缘的 |N/A| + |M/W|；"
-                         "请以同号的 M 再算一次。",
-                         "N and M have opposite signs: their stresses are added with signs, and "
-                         "|N/A| + |M/W| at the other edge is not checked; run it again with M of "
-                         "the sign of N."}});
-  }
+  dropped("N", N, TakesN(loadCase), "0, 1, 2, 4, 5");
+  dropped("M", M, TakesM(loadCase), "1, 2, 3, 4, 5");
+  dropped("V", V, TakesV(loadCase), "3, 4, 5");
+}
+
+void WarnOfOther(const char* key, const CTextLiteral& what, double record, double judged,
+                 const CTextLiteral& why, std::vector<CCaseWarning>& warnings) {
+  if (std::fabs(record - judged) <= 1e-9 * std::fabs(judged)) return;
+  const std::string was = PlainNumber(record);
+  const std::string is = PlainNumber(judged);
+  warnings.push_back({key,
+                      {std::string("记录的") + what.m_szChinese + "为 " + was + " N/mm²；按 " + is +
+                           " N/mm² 验算：" + why.m_szChinese + "。",
+                       std::string("The record's ") + what.m_szEnglish + " is " + was +
+                           " N/mm²; judged by " + is + " N/mm²: " + why.m_szEnglish + "."}});
 }
 
 }  // namespace orv3

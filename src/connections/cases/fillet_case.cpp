@@ -9,8 +9,11 @@ namespace {
 void ThroatFaults(const CFilletCase& input, CFaultList& faults) {
   const int given = (input.m_dHe != 0) + (input.m_dHf != 0) + (input.m_dS != 0);
   if (given != 1) {
-    faults.Add("he", given == 0 ? "no throat is given" : "more than one throat is given",
-               "give he, or hf and angle, or s, angle and groove");
+    const CText what = given == 0 ? CText{"未给计算厚度", "no throat is given"}
+                                  : CText{"给了不止一种计算厚度", "more than one throat is given"};
+    faults.Add("he", what,
+               {"请给 he，或 hf 与 angle，或 s、angle 与 groove",
+                "give he, or hf and angle, or s, angle and groove"});
     return;
   }
   if (input.m_dHe != 0) {
@@ -18,8 +21,8 @@ void ThroatFaults(const CFilletCase& input, CFaultList& faults) {
     return;
   }
   if (!(input.m_dAngle > 0 && input.m_dAngle < 180)) {
-    faults.Add("angle", PlainNumber(input.m_dAngle) + " is not possible",
-               "give an angle between 0 and 180 degrees");
+    faults.NotPossible("angle", PlainNumber(input.m_dAngle),
+                       {"请给 0° 与 180° 之间的角度", "give an angle between 0 and 180 degrees"});
   }
   if (input.m_dHf != 0) {
     faults.Positive("hf", input.m_dHf, "mm");
@@ -28,28 +31,62 @@ void ThroatFaults(const CFilletCase& input, CFaultList& faults) {
   faults.Positive("s", input.m_dS, "mm");
   faults.Within("groove", input.m_nGroove, 0, 4);
   if ((input.m_nGroove == 1 || input.m_nGroove == 2) && input.m_dS <= 3) {
-    faults.Add("s", PlainNumber(input.m_dS) + " mm leaves no throat with this groove (he = s - 3)",
-               "give more than 3 mm");
+    const std::string s = PlainNumber(input.m_dS) + " mm";
+    faults.Add("s",
+               {s + " 对此坡口没有计算厚度（he = s - 3）",
+                s + " leaves no throat with this groove (he = s - 3)"},
+               {"请给大于 3 mm", "give more than 3 mm"});
+  }
+  if ((input.m_nGroove == 1 || input.m_nGroove == 2) && input.m_dAngle < 40) {
+    const std::string is = PlainNumber(input.m_dAngle) + "°";
+    faults.Add("angle",
+               {is + "：7.1.5 条未给出小于 40° 的单边 V 形和 K 形坡口的计算厚度",
+                is + ": 7.1.5 gives no throat for bevel and K grooves below 40°"},
+               {"请给 40° 或更大，或直接给 he", "give 40° or more, or the throat he"});
   }
 }
 
-CCaseWarning BetaWarning(const char* szChinese, const char* szEnglish) {
-  return {"betaF", {szChinese, szEnglish}};
+void BetaWarnings(const CFilletCase& input, const CWeldFigures& judged,
+                  std::vector<CCaseWarning>& warnings) {
+  const bool bTension = judged.m_dBetaTension < input.m_dBetaF && judged.m_dTension > 0;
+  const bool bCompression = judged.m_dBetaCompression < input.m_dBetaF && judged.m_dCompression > 0;
+  if (!bTension && !bCompression) return;
+  const std::string is = PlainNumber(bTension ? judged.m_dBetaTension : judged.m_dBetaCompression);
+  const char* clause = input.m_dS != 0                 ? "7.1.5"
+                       : input.m_dHf != 0 && is == "1" ? "7.1.4"
+                                                       : "7.1.3";
+  warnings.push_back(
+      {"betaF",
+       {"βf = " + PlainNumber(input.m_dBetaF) + " 大于 " + clause + " 条所给之值；按 βf = " + is +
+            " 验算" + (input.m_dS != 0 ? "（1.22 仅用于受压）。" : "。"),
+        "βf = " + PlainNumber(input.m_dBetaF) + " is more than " + clause +
+            " gives; judged by βf = " + is +
+            (input.m_dS != 0 ? " (1.22 is for compression only)." : ".")}});
 }
 
-void BetaWarnings(const CFilletCase& input, std::vector<CCaseWarning>& warnings) {
-  if (input.m_dBetaF > 1.22) {
-    warnings.push_back(
-        BetaWarning("βf 大于 1.22，超出 7.1.3 条所给之值，偏于不安全。",
-                    "βf is above 1.22, more than 7.1.3 gives, which is on the unsafe side."));
-  } else if (input.m_dHf != 0 && input.m_dBetaF > 1 && std::fabs(input.m_dAngle - 90) > 1e-6) {
-    warnings.push_back(BetaWarning("斜角角焊缝应取 βf = 1.0（7.1.4 条）。",
-                                   "Fillet welds between inclined faces take βf = 1.0 (7.1.4)."));
-  } else if (input.m_dS != 0 && input.m_dBetaF > 1) {
-    warnings.push_back(BetaWarning(
-        "部分焊透对接焊缝仅在垂直于焊缝受压时取 βf = 1.22，其他情况取 1.0（7.1.5 条）。",
-        "Partial-penetration groove welds take βf = 1.22 only for compression across the weld, 1.0 "
-        "otherwise (7.1.5)."));
+void StressWarnings(const CFilletCase& input, const CFilletResults& r, const CWeldFigures& judged,
+                    std::vector<CCaseWarning>& warnings) {
+  static constexpr CTextLiteral kBothEdges = {
+      "M 使两侧边缘应力反号，N 与 M 取同号相加",
+      "M stresses both edges, so N and M add at one of them"};
+  static constexpr CTextLiteral kLong = {
+      "侧面角焊缝超过 60 hf 的部分不计（8.2.7 条）；内力沿全长分布时不受此限，请改以 he 输入",
+      "a side fillet weld counts to 60 hf (8.2.7); where the force acts along all of its length "
+      "give "
+      "he in the place of hf"};
+  static constexpr CTextLiteral kCombined = {"取上述各值", "by the figures judged"};
+  WarnOfOther("M", {"正应力", "stress across"}, std::fabs(r.m_dSigma),
+              std::max(judged.m_dTension, judged.m_dCompression), kBothEdges, warnings);
+  if (!judged.m_bShear) return;
+  WarnOfOther("lw", {"剪应力", "stress along"}, std::fabs(r.m_dTau), judged.m_dTau, kLong,
+              warnings);
+  WarnOfOther("M", {"综合应力", "combined stress"}, r.m_dCombined, judged.m_dCombined, kCombined,
+              warnings);
+  if (input.m_dS != 0 && IsShortFusion(input.m_nGroove)) {
+    warnings.push_back({"groove",
+                        {"熔合线处截面边长接近 s，抗剪强度按 0.9 ffw 验算（7.1.5 条）。",
+                         "The line of fusion is about as short as s: the shear strength is judged "
+                         "as 0.9 ffw (7.1.5)."}});
   }
 }
 
@@ -62,13 +99,6 @@ void DetailingWarnings(const CFilletCase& input, std::vector<CCaseWarning>& warn
                              " mm（8 hf 和 40 mm，8.2.7 条）。",
                          "lw = " + lw + " mm is below the detailing minimum " + PlainNumber(least) +
                              " mm (8 hf and 40 mm, 8.2.7)."}});
-  }
-  if (input.m_dHf != 0 && TakesV(input.m_nLoadCase) && input.m_dLw > 60 * input.m_dHf) {
-    warnings.push_back({"lw",
-                        {"lw = " + lw + " mm，大于 60 hf；侧面角焊缝超出部分不计（8.2.7 条）。",
-                         "lw = " + lw +
-                             " mm is above 60 hf; what is beyond does not count in a "
-                             "side fillet weld (8.2.7)."}});
   }
   if (input.m_dHf != 0 && (input.m_dAngle < 60 || input.m_dAngle > 135)) {
     warnings.push_back({"angle",
@@ -130,6 +160,7 @@ std::vector<CCaseFault> FilletFaults(const CFilletCase& input) {
   faults.Finite("V", input.m_dV);
   faults.Positive("betaF", input.m_dBetaF, "(1.22 static, 1.0 dynamic)");
   ThroatFaults(input, faults);
+  DroppedLoadFaults(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, faults);
   return faults.Take();
 }
 
@@ -142,24 +173,22 @@ bool CFilletCheck::Run(const CFilletCase& input) {
   int okSigma = 0;
   int okTau = 0;
   int okCombined = 0;
-  m_bPass = weld.JugeStress(okSigma, okTau, okCombined) == 1;
+  weld.JugeStress(okSigma, okTau, okCombined);
   m_results = {weld.m_dHe,           weld.m_dW,          1000 * weld.m_dFfw,
                1000 * weld.m_dSigma, 1000 * weld.m_dTau, 1000 * weld.m_dCombined,
                okSigma == 1,         okTau == 1,         okCombined == 1};
   const CFilletResults& r = m_results;
-  m_arrPart.push_back({{"正应力 σf", "stress across, σf"},
-                       "okSigma",
-                       std::fabs(r.m_dSigma) / (input.m_dBetaF * r.m_dFfw),
-                       r.m_bSigma});
-  if (TakesV(input.m_nLoadCase)) {
-    m_arrPart.push_back(
-        {{"剪应力 τf", "stress along, τf"}, "okTau", std::fabs(r.m_dTau) / r.m_dFfw, r.m_bTau});
-    m_arrPart.push_back(
-        {{"综合应力", "combined stress"}, "okCombined", r.m_dCombined / r.m_dFfw, r.m_bCombined});
+  const CWeldFigures j = m_figures = JudgedFigures(input, r);
+  Judge({"正应力 σf", "stress across, σf"}, "okSigma", j.Across() / j.AcrossLimit());
+  if (j.m_bShear) {
+    Judge({"剪应力 τf", "stress along, τf"}, "okTau", j.m_dTau / j.m_dTauLimit);
+    Judge({"综合应力", "combined stress"}, "okCombined", j.m_dCombined / j.m_dCombinedLimit);
   }
-  WarnOfWeldLoads(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, m_arrWarning);
-  BetaWarnings(input, m_arrWarning);
-  DetailingWarnings(input, m_arrWarning);
+  std::vector<CCaseWarning> warnings;
+  StressWarnings(input, r, j, warnings);
+  BetaWarnings(input, j, warnings);
+  DetailingWarnings(input, warnings);
+  Warn(std::move(warnings));
   return true;
 }
 

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "connections/butt_weld.h"
-#include "connections/cases/case_keys.h"
+#include "connections/cases/case_answer.h"
 #include "connections/fillet_weld.h"
-#include "framework/export.h"
+#include "connections/verdict/weld_verdict.h"
 
 namespace orv3 {
 
@@ -68,36 +68,21 @@ struct CButtResults {
   bool m_bReduced = false;
 };
 
-// What both weld checks hand out; the members mean what they mean in CBoltCheck. The kind of a weld
-// check is its load case.
+// What both weld checks hand out. The kind of a weld check is its load case; the results are what
+// the record computed, the verdict is by the judged figures.
 template <class CASE, class RESULTS>
-class CWeldCheck {
+class CWeldCheck : public CCaseAnswer {
  public:
   using CCase = CASE;
   using CResults = RESULTS;
   static int Kind(const CASE& input) noexcept { return input.m_nLoadCase; }
 
-  const std::vector<CCaseFault>& Faults() const noexcept { return m_arrFault; }
-  const std::vector<CCaseWarning>& Warnings() const noexcept { return m_arrWarning; }
-  const std::vector<CCasePart>& Parts() const noexcept { return m_arrPart; }
   const RESULTS& Results() const noexcept { return m_results; }
-  bool Pass() const noexcept { return m_bPass; }
-  const CCasePart& Worst() const { return WorstPart(m_arrPart); }
+  const CWeldFigures& Figures() const noexcept { return m_figures; }
 
  protected:
-  bool Refused(std::vector<CCaseFault> faults) {
-    m_arrWarning.clear();
-    m_arrPart.clear();
-    m_bPass = false;
-    m_arrFault = std::move(faults);
-    return !m_arrFault.empty();
-  }
-
   RESULTS m_results;
-  std::vector<CCaseFault> m_arrFault;
-  std::vector<CCaseWarning> m_arrWarning;
-  std::vector<CCasePart> m_arrPart;
-  bool m_bPass = false;
+  CWeldFigures m_figures;
 };
 
 class ORV3CAL_API CFilletCheck : public CWeldCheck<CFilletCase, CFilletResults> {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "connections/cases/bolt_case.h"
 #include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
 #include "framework/utf8.h"
@@ -16,28 +15,31 @@ constexpr double kMostHeight = 240;  // of the plate on the page
 constexpr double kMargin = 66;       // around the plate: dimensions and loads
 
 // The interaction ratio of one bolt; sense +1 for a clockwise torque.
-double BoltRatio(const NormalBoltData& group, const BoltPoint& bolt, double sense) {
-  const double perMm = group.m_dSumR2 > 0 ? sense * group.m_dT / group.m_dSumR2 : 0;
+double BoltRatio(const CBoltCheck& check, const BoltPoint& bolt, double sense) {
+  const NormalBoltData& group = check.Record();
+  const CBoltFigures& judged = check.Figures();
+  const double perMm = group.m_dSumR2 > 0 ? sense * std::fabs(group.m_dT) / group.m_dSumR2 : 0;
   const double shear = std::hypot(group.m_dNvx + perMm * bolt.dy, group.m_dNvy - perMm * bolt.dx) /
                        (group.m_dNvb * group.m_dBeta);
-  const double moment = group.m_dSumLy2 > 0 ? group.m_dM * bolt.ly / group.m_dSumLy2 : 0;
-  const double tension = std::max(0.0, moment + group.m_dNtN) / group.m_dNtb;
+  const double tension =
+      std::max(0.0, judged.m_dNtFirst + judged.m_dNtPerMm * bolt.y) / group.m_dNtb;
   return group.m_nBoltType == kFrictionBolt ? shear + tension : std::hypot(shear, tension);
 }
 
-double WorstRatio(const NormalBoltData& group, double sense) {
+double WorstRatio(const CBoltCheck& check, double sense) {
   double worst = 0;
-  for (const BoltPoint& bolt : group.m_PointArr)
-    worst = std::max(worst, BoltRatio(group, bolt, sense));
+  for (const BoltPoint& bolt : check.Record().m_PointArr)
+    worst = std::max(worst, BoltRatio(check, bolt, sense));
   return worst;
 }
 
 class CBoltPainter {
  public:
-  explicit CBoltPainter(const NormalBoltData& group)
-      : m_group(group),
-        m_dPlateWidth(group.m_dWidth + 2 * group.m_dEx),
-        m_dPlateHeight(group.m_dHeight + 2 * group.m_dEy),
+  explicit CBoltPainter(const CBoltCheck& check)
+      : m_check(check),
+        m_group(check.Record()),
+        m_dPlateWidth(m_group.m_dWidth + 2 * m_group.m_dEx),
+        m_dPlateHeight(m_group.m_dHeight + 2 * m_group.m_dEy),
         m_dScale(std::min((kPageWidth - 2 * kMargin - 60) / m_dPlateWidth,
                           kMostHeight / m_dPlateHeight)),
         m_dLeft((kPageWidth - m_dScale * m_dPlateWidth) / 2),
@@ -72,70 +74,34 @@ class CBoltPainter {
     const double radius = std::max(1.0, m_dScale * m_group.m_dD0 / 2);
     for (const BoltPoint& bolt : m_group.m_PointArr)
       m_drawing.AddCircle(CLayer::Outline, At(bolt.x, bolt.y), radius);
-    for (const int index : MostStressedBolts(m_group).m_arrBolt) {
+    for (const int index : MostStressedBolts(m_check).m_arrBolt) {
       const BoltPoint& bolt = m_group.m_PointArr[index];
       m_drawing.AddArea(CLayer::CentroidAxis, {CirclePath(At(bolt.x, bolt.y), 0.8 * radius)});
     }
   }
 
-  // A cut from edge to edge through the given bolts, named at its far end, or at its near one.
-  void Cut(const std::vector<CPoint>& bolts, bool bVertical, const wchar_t* szName,
-           bool bNear = false) {
-    if (bolts.empty()) return;
+  // A cut from edge to edge through the given holes, named at its far end.
+  void Cut(const std::vector<CHole>& holes, bool bVertical, const wchar_t* szName) {
+    if (holes.empty()) return;
     CPath path;
     path.m_bClosed = false;
     const auto add = [&path](CPoint point) { path.m_arrVertex.push_back({point.x, point.y}); };
-    const CPoint first = bolts.front();
-    const CPoint last = bolts.back();
+    const CPoint first = At(holes.front().m_x, holes.front().m_y);
+    const CPoint last = At(holes.back().m_x, holes.back().m_y);
     add(bVertical ? CPoint{first.x, kMargin - 4} : CPoint{m_dLeft - 4, first.y});
-    for (const CPoint point : bolts) add(point);
+    for (const CHole& hole : holes) add(At(hole.m_x, hole.m_y));
     const CPoint end = bVertical ? CPoint{last.x, Top() + 4} : CPoint{Right() + 4, last.y};
     add(end);
     m_drawing.AddPath(CLayer::BaseAxis, path);
-    CPoint label = bVertical ? CPoint{end.x, end.y + 9} : CPoint{end.x + 4, end.y};
-    if (bNear)
-      label = bVertical ? CPoint{first.x + 8, kMargin - 10} : CPoint{m_dLeft - 12, first.y + 9};
     m_drawing.AddLabel({.m_nLayer = CLayer::BaseAxis,
-                        .m_at = label,
+                        .m_at = bVertical ? CPoint{end.x, end.y + 9} : CPoint{end.x + 4, end.y},
                         .m_strText = szName,
                         .m_nAnchor = bVertical ? CAnchor::Middle : CAnchor::Left});
   }
 
-  // The bolts for which `take` holds, in the order of `before`, on the page.
-  template <class TAKE, class BEFORE>
-  std::vector<CPoint> Line(TAKE take, BEFORE before) const {
-    std::vector<BoltPoint> line;
-    for (const BoltPoint& bolt : m_group.m_PointArr)
-      if (take(bolt)) line.push_back(bolt);
-    std::sort(line.begin(), line.end(), before);
-    std::vector<CPoint> points;
-    for (const BoltPoint& bolt : line) points.push_back(At(bolt.x, bolt.y));
-    return points;
-  }
-
   void Cuts() {
-    const bool bStaggered = m_group.m_nLayout == 1;
-    const bool bZigzag = bStaggered && m_group.m_nBoltType != kFrictionBolt;
-    const int column = bStaggered ? (m_group.m_nCols - 1) / 2 * 2 : m_group.m_nCols - 1;
-    double x = 0;
-    for (int i = 0; i < column; ++i) x += m_group.m_EcArr[i];
-    const double before = bStaggered && column > 0 ? x - m_group.m_EcArr[column - 1]
-                          : bStaggered             ? x + m_group.m_EcArr[0]
-                                                   : x;
-    const double half = bStaggered ? m_group.m_ErArr[0] / 2 : 0;
-    const auto near = [](double a, double b) { return std::fabs(a - b) < 1e-6; };
-    const auto byX = [](const BoltPoint& a, const BoltPoint& b) { return a.x < b.x; };
-    const auto byY = [](const BoltPoint& a, const BoltPoint& b) { return a.y < b.y; };
-    if (!IsZero(m_group.m_dVx)) {
-      Cut(Line([&](const BoltPoint& b) { return near(b.x, x); }, byY), true, L"1");
-      const auto inEither = [&](const BoltPoint& b) { return near(b.x, x) || near(b.x, before); };
-      if (bZigzag) Cut(Line(inEither, byY), true, L"2", true);
-    }
-    if (!IsZero(m_group.m_dVy)) {
-      Cut(Line([&](const BoltPoint& b) { return near(b.y, 0); }, byX), false, L"3");
-      const auto inEither = [&](const BoltPoint& b) { return near(b.y, 0) || near(b.y, half); };
-      if (bZigzag) Cut(Line(inEither, byX), false, L"4", true);
-    }
+    Cut(m_check.Figures().m_x.m_arrHole, true, L"1");
+    Cut(m_check.Figures().m_y.m_arrHole, false, L"2");
   }
 
   // Edge, spacings and edge along one side: one by one while there is room, else in sum.
@@ -196,13 +162,13 @@ class CBoltPainter {
       Force({centroid.x, bUp ? near : far}, {centroid.x, bUp ? far : near},
             {centroid.x + 6, far - 4}, L"Vy", CAnchor::Left);
     }
-    if (!IsZero(m_group.m_dT)) Torque(centroid, MostStressedBolts(m_group).m_bClockwise);
+    if (!IsZero(m_group.m_dT)) Torque(centroid, MostStressedBolts(m_check).m_bClockwise);
   }
 
   // An arc of three quarters about the centroid.
   void Torque(CPoint centroid, bool bClockwise) {
     const double r = 17;
-    const double side = bClockwise == (m_group.m_dT > 0) ? 1 : -1;
+    const double side = bClockwise ? 1 : -1;
     CPath arc;
     arc.m_bClosed = false;
     constexpr double kThreeQuarters = 2.414213562373095;  // tan(270 / 4 degrees)
@@ -216,6 +182,7 @@ class CBoltPainter {
                         .m_nAnchor = side > 0 ? CAnchor::Left : CAnchor::Right});
   }
 
+  const CBoltCheck& m_check;
   const NormalBoltData& m_group;
   double m_dPlateWidth;
   double m_dPlateHeight;
@@ -226,20 +193,21 @@ class CBoltPainter {
 
 }  // namespace
 
-CStressedBolts MostStressedBolts(const NormalBoltData& group) {
+CStressedBolts MostStressedBolts(const CBoltCheck& check) {
   CStressedBolts stressed;
-  const double clockwise = WorstRatio(group, 1);
-  const double counter = WorstRatio(group, -1);
+  const double clockwise = WorstRatio(check, 1);
+  const double counter = WorstRatio(check, -1);
   stressed.m_bClockwise = clockwise >= counter - 1e-9;
   const double sense = stressed.m_bClockwise ? 1 : -1;
   const double worst = std::max(clockwise, counter);
+  const NormalBoltData& group = check.Record();
   for (int i = 0; i < group.m_PointArr.GetSize(); ++i) {
-    if (BoltRatio(group, group.m_PointArr[i], sense) >= worst * (1 - 1e-9) - 1e-12)
+    if (BoltRatio(check, group.m_PointArr[i], sense) >= worst * (1 - 1e-9) - 1e-12)
       stressed.m_arrBolt.push_back(i);
   }
   return stressed;
 }
 
-CDrawing BoltGroupDrawing(const NormalBoltData& group) { return CBoltPainter(group).Draw(); }
+CDrawing BoltGroupDrawing(const CBoltCheck& check) { return CBoltPainter(check).Draw(); }
 
 }  // namespace orv3

@@ -1,5 +1,7 @@
 // The report of a bolt group: GB 50017-2003, 7.2.1 to 7.2.4 and 5.1.1.
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
@@ -17,6 +19,7 @@ class CBoltReport {
         m_check(check),
         m_group(check.Record()),
         m_r(check.Results()),
+        m_judged(check.Figures()),
         m_bFriction(input.m_nType == kFrictionBolt),
         m_body(language) {}
 
@@ -27,13 +30,15 @@ class CBoltReport {
   void Inputs();
   void Figure();
   CSteps Geometry() const;
+  void Distances(CSteps& steps) const;
   CSteps Strengths() const;
   CSteps Resistances() const;
   CSteps Forces() const;
   CSteps LongJoint() const;
   CSteps Sections() const;
-  void SectionX(CSteps& steps) const;
-  void SectionY(CSteps& steps) const;
+  void Tension(CSteps& steps) const;
+  void Section(bool bX, CSteps& steps) const;
+  static std::string Legs(const CPlateSection& section, double edges);
   std::vector<CReportVerdict> Verdicts() const;
   CReportVerdict SectionVerdict(bool bX) const;
 
@@ -41,6 +46,7 @@ class CBoltReport {
   const CBoltCheck& m_check;
   const NormalBoltData& m_group;
   const CBoltResults& m_r;
+  const CBoltFigures& m_judged;
   bool m_bFriction;
   CReportBody m_body;
 };
@@ -51,6 +57,8 @@ void CBoltReport::Inputs() {
   std::vector<CReportBody::CInputLine> used;
   const auto unused = [&](const std::string& key) {
     if (key == "id") return true;
+    if (key == "colSpace") return m_input.m_nCols == 1;
+    if (key == "rowSpace") return m_input.m_nRows == 1;
     if (m_bFriction) return key == "sumT" || key == "nv" || key == "class";
     return key == "nf" || key == "surface" || (key == "class" && m_input.m_nType != kOrdinaryBolt);
   };
@@ -68,18 +76,22 @@ void CBoltReport::Inputs() {
 
 void CBoltReport::Figure() {
   static constexpr CTextLiteral kCaption = {
-      "螺栓群布置（按比例，mm）。红色：受力最大的螺栓；点划线：形心轴；虚线 1、2：抵抗 Vx "
-      "的直线、折线截面；3、4：抵抗 Vy 的直线、折线截面。N、M 垂直于图面。",
-      "The bolt group to scale, mm. Red: the most stressed bolts; chain lines: centroidal axes; "
-      "dashed 1 and 2: straight and zigzag section that resists Vx; 3 and 4: the same for Vy. N "
-      "and M act out of the plane."};
+      "螺栓群布置（按比例，mm）。红色：受力最大的螺栓；点划线：形心轴",
+      "The bolt group to scale, mm. Red: the most stressed bolts; chain lines: centroidal axes"};
+  static constexpr CTextLiteral kCuts[] = {
+      {"；虚线 1：抵抗 Vx 的最不利净截面", "; dashed 1: the worst net section for Vx"},
+      {"；虚线 2：抵抗 Vy 的最不利净截面", "; dashed 2: the worst net section for Vy"}};
+  static constexpr CTextLiteral kAcross = {"。N、M 垂直于图面。",
+                                           ". N and M act out of the plane."};
+  static constexpr CTextLiteral kEnd = {"。", "."};
   static constexpr CTextLiteral kTooMany = {"螺栓数过多，未绘图。",
                                             "Not drawn: the group has too many bolts."};
-  if (m_r.m_nBolts <= kMostDrawnBolts) {
-    m_body.Figure(BoltGroupDrawing(m_group), m_body.Text(kCaption));
-  } else {
-    m_body.Note(kTooMany);
-  }
+  if (m_r.m_nBolts > kMostDrawnBolts) return m_body.Note(kTooMany);
+  std::string caption = m_body.Text(kCaption);
+  if (m_judged.m_x.Holes() > 0) caption += m_body.Text(kCuts[0]);
+  if (m_judged.m_y.Holes() > 0) caption += m_body.Text(kCuts[1]);
+  const bool bAcross = !IsZero(m_input.m_dN) || !IsZero(m_input.m_dM);
+  m_body.Figure(BoltGroupDrawing(m_check), caption + m_body.Text(bAcross ? kAcross : kEnd));
 }
 
 CBoltReport::CSteps CBoltReport::Geometry() const {
@@ -112,6 +124,7 @@ CBoltReport::CSteps CBoltReport::Geometry() const {
                      PlainNumber(m_r.m_dDe),
                      "mm"});
   }
+  Distances(steps);
   if (m_group.m_dSumR2 > 0) {
     steps.push_back({{"至形心距离的平方和", "Sum of squared distances from the centroid"},
                      "",
@@ -125,10 +138,40 @@ CBoltReport::CSteps CBoltReport::Geometry() const {
     static constexpr CTextLiteral kAbout[] = {
         {"弯矩力臂平方和（绕第一行螺栓）", "Sum of squared lever arms, about the first row"},
         {"弯矩力臂平方和（绕形心）", "Sum of squared lever arms, about the centroid"}};
-    steps.push_back({kAbout[m_bFriction ? 1 : 0], "", "Σl^2", "Σl_i^2", "",
-                     PlainNumber(m_group.m_dSumLy2), "mm²"});
+    const bool bCentroid = m_judged.m_nTurn == CTurn::Centroid;
+    steps.push_back({kAbout[bCentroid ? 1 : 0], "", "Σl^2", "Σl_i^2", "",
+                     PlainNumber(m_judged.m_dSumArm2), "mm²"});
+    steps.push_back({{"受力最大螺栓的力臂", "Lever arm of the farthest bolt"},
+                     "",
+                     "l_{max}",
+                     "",
+                     "",
+                     PlainNumber(m_judged.m_dArm),
+                     "mm"});
   }
   return steps;
+}
+
+// The centroid, in mm from the first bolt, and the farthest bolts from it.
+void CBoltReport::Distances(CSteps& steps) const {
+  if (m_r.m_nBolts < 2) return;
+  const std::string n = std::to_string(m_r.m_nBolts);
+  const auto mean = [&](CTextLiteral name, const char* symbol, const char* formula, double value) {
+    steps.push_back({name, "", symbol, formula, PlainNumber(value * m_r.m_nBolts) + " / " + n,
+                     PlainNumber(value), "mm"});
+  };
+  mean({"形心横坐标（自第一个螺栓）", "Centroid along x, from the first bolt"}, "x_c", "Σx / n",
+       m_group.m_dXc);
+  mean({"形心纵坐标（自第一个螺栓）", "Centroid along y, from the first bolt"}, "y_c", "Σy / n",
+       m_group.m_dYc);
+  const auto farthest = [&](CTextLiteral name, const char* symbol, const char* formula,
+                            double value) {
+    steps.push_back({name, "", symbol, formula, "", PlainNumber(std::fabs(value)), "mm"});
+  };
+  farthest({"最远螺栓的 x 向距离", "Farthest bolt along x"}, "x_{max}", "\\max |x − x_c|",
+           m_group.m_dXMax);
+  farthest({"最远螺栓的 y 向距离", "Farthest bolt along y"}, "y_{max}", "\\max |y − y_c|",
+           m_group.m_dYMax);
 }
 
 CBoltReport::CSteps CBoltReport::Strengths() const {
@@ -193,40 +236,68 @@ CBoltReport::CSteps CBoltReport::Forces() const {
                      Put(load) + " × " + Put(arm) + " / " + PlainNumber(sum), PlainNumber(result),
                      "kN"});
   };
-  share({"Vx 分配的剪力", "Share of Vx"}, "N_{vx}", "V_x", m_input.m_dVx, m_group.m_dNvx);
-  share({"Vy 分配的剪力", "Share of Vy"}, "N_{vy}", "V_y", m_input.m_dVy, m_group.m_dNvy);
+  share({"Vx 分配的剪力", "Share of Vx"}, "N_{vx}", "|V_x|", std::fabs(m_input.m_dVx),
+        m_judged.m_dNvx);
+  share({"Vy 分配的剪力", "Share of Vy"}, "N_{vy}", "|V_y|", std::fabs(m_input.m_dVy),
+        m_judged.m_dNvy);
   const bool bTorque = m_group.m_dSumR2 > 0;
   if (bTorque) {
+    const double T = std::fabs(m_input.m_dT);
     lever({"扭矩在最远螺栓的 x 向分力", "Torque, farthest bolt, along x"}, "N_{Tx}",
-          "T y_{max} / Σr^2", m_input.m_dT, m_group.m_dYMax, m_group.m_dSumR2, m_group.m_dNTx);
+          "|T| y_{max} / Σr^2", T, std::fabs(m_group.m_dYMax), m_group.m_dSumR2, m_judged.m_dNTx);
     lever({"扭矩在最远螺栓的 y 向分力", "Torque, farthest bolt, along y"}, "N_{Ty}",
-          "T x_{max} / Σr^2", m_input.m_dT, m_group.m_dXMax, m_group.m_dSumR2, m_group.m_dNTy);
+          "|T| x_{max} / Σr^2", T, std::fabs(m_group.m_dXMax), m_group.m_dSumR2, m_judged.m_dNTy);
   }
-  const std::string x =
-      bTorque ? "(" + Put(m_group.m_dNvx) + " + " + Put(m_group.m_dNTx) + ")" : Put(m_group.m_dNvx);
-  const std::string y =
-      bTorque ? "(" + Put(m_group.m_dNvy) + " + " + Put(m_group.m_dNTy) + ")" : Put(m_group.m_dNvy);
+  const std::string x = bTorque ? "(" + Put(m_judged.m_dNvx) + " + " + Put(m_judged.m_dNTx) + ")"
+                                : Put(m_judged.m_dNvx);
+  const std::string y = bTorque ? "(" + Put(m_judged.m_dNvy) + " + " + Put(m_judged.m_dNTy) + ")"
+                                : Put(m_judged.m_dNvy);
   steps.push_back(
       {{"受力最大螺栓的剪力", "Shear on the most stressed bolt"},
        "",
        "N_v",
        bTorque ? "√((N_{vx} + N_{Tx})^2 + (N_{vy} + N_{Ty})^2)" : "√(N_{vx}^2 + N_{vy}^2)",
        "√(" + x + "^2 + " + y + "^2)",
-       PlainNumber(m_r.m_dNv),
+       PlainNumber(m_judged.m_dNv),
        "kN"});
-  share({"N 分配的拉力", "Share of N"}, "N_{tN}", "N", m_input.m_dN, m_group.m_dNtN);
-  if (!IsZero(m_group.m_dM) && m_group.m_dSumLy2 > 0) {
-    lever({"弯矩在最远螺栓的拉力", "Moment, farthest bolt"}, "N_{tM}", "M l_{max} / Σl^2",
-          m_input.m_dM, m_group.m_dLyMax, m_group.m_dSumLy2, m_group.m_dNtM);
-  }
-  steps.push_back({{"受力最大螺栓的拉力", "Tension on the most stressed bolt"},
-                   "",
-                   "N_t",
-                   "\\max(N_{tN} + N_{tM}, 0)",
-                   "\\max(" + Put(m_group.m_dNtN) + " + " + Put(m_group.m_dNtM) + ", 0)",
-                   PlainNumber(m_r.m_dNt),
-                   "kN"});
+  Tension(steps);
   return steps;
+}
+
+// Of the axis that the group is judged to turn about.
+void CBoltReport::Tension(CSteps& steps) const {
+  static constexpr CTextLiteral kMost = {"受力最大螺栓的拉力", "Tension on the most stressed bolt"};
+  static constexpr CTextLiteral kMoment[] = {
+      {"弯矩在最远螺栓的拉力（绕第一行）", "Moment, farthest bolt, about the first row"},
+      {"弯矩在最远螺栓的拉力（绕形心）", "Moment, farthest bolt, about the centroid"}};
+  const std::string sum = PlainNumber(m_judged.m_dSumArm2);
+  const std::string arm = Put(m_judged.m_dArm);
+  const double M = std::fabs(m_input.m_dM);
+  const bool bMoment = !IsZero(M);
+  if (m_judged.m_nTurn == CTurn::FirstRowWithN) {
+    steps.push_back({kMost, "", "N_t", "\\max((M + N y_c) l_{max} / Σl^2, 0)",
+                     "\\max((" + Put(M) + " + " + Put(m_input.m_dN) + " × " + Put(m_group.m_dYc) +
+                         ") × " + arm + " / " + sum + ", 0)",
+                     PlainNumber(m_judged.m_dNt), "kN"});
+    return;
+  }
+  const double shareN = m_input.m_dN / m_r.m_nBolts;
+  const double shareM = bMoment ? M * m_judged.m_dArm / m_judged.m_dSumArm2 : 0;
+  steps.push_back({{"N 分配的拉力", "Share of N"},
+                   "",
+                   "N_{tN}",
+                   "N / n",
+                   Put(m_input.m_dN) + " / " + std::to_string(m_r.m_nBolts),
+                   PlainNumber(shareN),
+                   "kN"});
+  if (bMoment) {
+    steps.push_back({kMoment[static_cast<int>(m_judged.m_nTurn)], "", "N_{tM}",
+                     m_input.m_dM < 0 ? "|M| l_{max} / Σl^2" : "M l_{max} / Σl^2",
+                     Put(M) + " × " + arm + " / " + sum, PlainNumber(shareM), "kN"});
+  }
+  steps.push_back({kMost, "", "N_t", "\\max(N_{tN} + N_{tM}, 0)",
+                   "\\max(" + Put(shareN) + " + " + Put(shareM) + ", 0)",
+                   PlainNumber(m_judged.m_dNt), "kN"});
 }
 
 CBoltReport::CSteps CBoltReport::LongJoint() const {
@@ -249,151 +320,95 @@ CBoltReport::CSteps CBoltReport::LongJoint() const {
   return steps;
 }
 
-void CBoltReport::SectionX(CSteps& steps) const {
-  if (IsZero(m_input.m_dVx)) return;
+// What the verdict holds against f, the gross section first where it is looked at.
+void CBoltReport::Section(bool bX, CSteps& steps) const {
+  const CPlateSection& section = bX ? m_judged.m_x : m_judged.m_y;
+  if (section.Holes() == 0) return;
+  const auto sign = [bX](const char* szX, const char* szY) { return bX ? szX : szY; };
+  const double edge = bX ? m_input.m_dEy : m_input.m_dEx;
   const std::string t = Put(m_input.m_dThick);
-  const std::string d0 = PlainNumber(m_r.m_dD0);
-  const std::string width = "2 × " + Put(m_input.m_dEy) + " + " + PlainNumber(m_group.m_dHeight);
-  const std::string rows = std::to_string(m_input.m_nRows);
-  const double(&area)[4] = m_group.m_dAreaX;
-  static constexpr CTextLiteral kStraight = {"抵抗 Vx 的直线净截面（1）",
-                                             "Straight net section for Vx (1)"};
-  const auto stress = [&](const char* symbol, const char* formula, double factor, double part,
-                          double sigma) {
-    const std::string share = factor == 1 ? "" : PlainNumber(factor) + " × ";
-    steps.push_back({{"其应力", "Its stress"},
-                     "5.1.1",
-                     symbol,
-                     formula,
-                     share + Put(m_input.m_dVx) + " × 1000 / " + PlainNumber(part),
-                     PlainNumber(sigma),
-                     "N/mm²"});
-  };
-  const std::string net = "(" + width + " − " + rows + " × " + d0 + ") × " + t;
+  const std::string V = Put(std::fabs(bX ? m_input.m_dVx : m_input.m_dVy));
+  const std::string holes = std::to_string(section.Holes());
+  static constexpr CTextLiteral kStress = {"其应力", "Its stress"};
   if (m_bFriction) {
-    steps.push_back({{"抵抗 Vx 的毛截面", "Gross section for Vx"},
-                     "5.1.1",
-                     "A_x",
-                     "(2 e_y + Σs_r) t",
-                     "(" + width + ") × " + t,
-                     PlainNumber(area[0]),
-                     "mm²"});
-    stress("σ_{x1}", "V_x / A_x", 1, area[0], m_group.m_dSigmaX[1]);
-    steps.push_back(
-        {kStraight, "5.1.1", "A_{nx}", "A_x − n_r d_0 t", net, PlainNumber(area[1]), "mm²"});
-    const int boltShare = m_input.m_nRows / m_r.m_nBolts;  // whole, as in the record
-    stress("σ_{x2}", "(1 − 0.5 ⌊n_r / n⌋) V_x / A_{nx}", 1 - 0.5 * boltShare, area[1],
-           m_group.m_dSigmaX[2]);
-    return;
+    const double sum = bX ? m_group.m_dHeight : m_group.m_dWidth;
+    static constexpr CTextLiteral kGross[] = {{"抵抗 Vy 的毛截面", "Gross section for Vy"},
+                                              {"抵抗 Vx 的毛截面", "Gross section for Vx"}};
+    steps.push_back({kGross[bX], "5.1.1", sign("A_x", "A_y"),
+                     sign("(2 e_y + Σs_r) t", "(2 e_x + Σs_c) t"),
+                     "(2 × " + Put(edge) + " + " + PlainNumber(sum) + ") × " + t,
+                     PlainNumber(section.m_dGross), "mm²"});
+    steps.push_back({kStress, "5.1.1", sign("σ_{x1}", "σ_{y1}"), sign("|V_x| / A_x", "|V_y| / A_y"),
+                     V + " × 1000 / " + PlainNumber(section.m_dGross),
+                     PlainNumber(section.m_dSigmaGross), "N/mm²"});
   }
-  const bool bGrid = m_input.m_nLayout == 0;
-  steps.push_back({kStraight, "5.1.1", "A_{nx}", "(2 e_y + Σs_r − n_r d_0) t", net,
-                   PlainNumber(area[bGrid ? 1 : 2]), "mm²"});
-  stress(bGrid ? "σ_x" : "σ_{x1}", "V_x / A_{nx}", 1, area[bGrid ? 1 : 2],
-         m_group.m_dSigmaX[bGrid ? 0 : 1]);
-  if (bGrid) return;
-  const double leg = std::hypot(m_group.m_dWidth / (m_input.m_nCols - 1),
-                                m_group.m_dHeight / (m_input.m_nRows - 1));
-  steps.push_back({{"抵抗 Vx 的折线净截面（2）", "Zigzag net section for Vx (2)"},
-                   "5.1.1",
-                   "A_{zx}",
-                   "(s (n_r − 1) + 2 e_y − (2 n_r − 1) d_0) t",
-                   "(" + PlainNumber(leg) + " × " + std::to_string(m_input.m_nRows - 1) +
-                       " + 2 × " + Put(m_input.m_dEy) + " − " +
-                       std::to_string(2 * m_input.m_nRows - 1) + " × " + d0 + ") × " + t,
-                   PlainNumber(area[3]),
-                   "mm²"});
-  stress("σ_{x2}", "V_x / A_{zx}", 1, area[3], m_group.m_dSigmaX[2]);
+  static constexpr CTextLiteral kLength[] = {
+      {"抵抗 Vy 的最不利截面（2）之长", "Length of the worst section for Vy (2)"},
+      {"抵抗 Vx 的最不利截面（1）之长", "Length of the worst section for Vx (1)"}};
+  static constexpr CTextLiteral kNet = {"其净面积", "Its net area"};
+  steps.push_back({kLength[bX], "5.1.1", sign("L_x", "L_y"), sign("2 e_y + Σs", "2 e_x + Σs"),
+                   "2 × " + Put(edge) + Legs(section, 2 * edge), PlainNumber(section.m_dLength),
+                   "mm"});
+  steps.push_back({kNet, "5.1.1", sign("A_{nx}", "A_{ny}"),
+                   sign("(L_x − n_1 d_0) t", "(L_y − n_1 d_0) t"),
+                   "(" + PlainNumber(section.m_dLength) + " − " + holes + " × " +
+                       PlainNumber(m_r.m_dD0) + ") × " + t,
+                   PlainNumber(section.m_dNet), "mm²"});
+  const std::string share = m_bFriction ? "(1 − 0.5 n_1 / n) " : "";
+  const std::string shareNumbers =
+      m_bFriction ? "(1 − 0.5 × " + holes + " / " + std::to_string(m_r.m_nBolts) + ") × " : "";
+  const char* symbol = m_bFriction ? sign("σ_{x2}", "σ_{y2}") : sign("σ_x", "σ_y");
+  steps.push_back({kStress, "5.1.1", symbol, share + sign("|V_x| / A_{nx}", "|V_y| / A_{ny}"),
+                   shareNumbers + V + " × 1000 / " + PlainNumber(section.m_dNet),
+                   PlainNumber(section.m_dSigma), "N/mm²"});
 }
 
-void CBoltReport::SectionY(CSteps& steps) const {
-  if (IsZero(m_input.m_dVy)) return;
-  const std::string t = Put(m_input.m_dThick);
-  const std::string d0 = PlainNumber(m_r.m_dD0);
-  const std::string width = "2 × " + Put(m_input.m_dEx) + " + " + PlainNumber(m_group.m_dWidth);
-  const bool bGrid = m_input.m_nLayout == 0;
-  const int holes = bGrid         ? m_input.m_nCols
-                    : m_bFriction ? (m_input.m_nCols + 1) / 2
-                                  : (m_input.m_nRows + 1) / 2;
-  const char* count = bGrid ? "n_c" : m_bFriction ? "⌈n_c / 2⌉" : "⌈n_r / 2⌉";
-  const double(&area)[4] = m_group.m_dAreaY;
-  static constexpr CTextLiteral kStraight = {"抵抗 Vy 的直线净截面（3）",
-                                             "Straight net section for Vy (3)"};
-  const auto stress = [&](const char* symbol, const std::string& formula, double factor,
-                          double part, double sigma) {
-    const std::string share = factor == 1 ? "" : PlainNumber(factor) + " × ";
-    steps.push_back({{"其应力", "Its stress"},
-                     "5.1.1",
-                     symbol,
-                     formula,
-                     share + Put(m_input.m_dVy) + " × 1000 / " + PlainNumber(part),
-                     PlainNumber(sigma),
-                     "N/mm²"});
-  };
-  const std::string net = "(" + width + " − " + std::to_string(holes) + " × " + d0 + ") × " + t;
-  if (m_bFriction) {
-    steps.push_back({{"抵抗 Vy 的毛截面", "Gross section for Vy"},
-                     "5.1.1",
-                     "A_y",
-                     "(2 e_x + Σs_c) t",
-                     "(" + width + ") × " + t,
-                     PlainNumber(area[0]),
-                     "mm²"});
-    stress("σ_{y1}", "V_y / A_y", 1, area[0], m_group.m_dSigmaY[1]);
-    steps.push_back({kStraight, "5.1.1", "A_{ny}", std::string("A_y − ") + count + " d_0 t", net,
-                     PlainNumber(area[1]), "mm²"});
-    stress("σ_{y2}", std::string("(1 − 0.5 ") + count + " / n) V_y / A_{ny}",
-           1 - 0.5 * holes / m_r.m_nBolts, area[1], m_group.m_dSigmaY[2]);
-    return;
+// The legs of a section's cut after its edges, as " + 3 × 80 + 52.2": equal ones together, and what
+// runs straight on to an edge past a line that is not cut.
+std::string CBoltReport::Legs(const CPlateSection& section, double edges) {
+  std::vector<std::pair<double, int>> legs;
+  double rest = section.m_dLength - edges;
+  for (std::size_t i = 1; i < section.m_arrHole.size(); ++i) {
+    const CHole& from = section.m_arrHole[i - 1];
+    const CHole& to = section.m_arrHole[i];
+    const double leg = std::hypot(to.m_x - from.m_x, to.m_y - from.m_y);
+    rest -= leg;
+    const auto same = std::find_if(legs.begin(), legs.end(), [leg](const auto& each) {
+      return std::fabs(each.first - leg) < 1e-9 * leg;
+    });
+    if (same == legs.end()) {
+      legs.push_back({leg, 1});
+    } else {
+      ++same->second;
+    }
   }
-  steps.push_back({kStraight, "5.1.1", "A_{ny}",
-                   std::string("(2 e_x + Σs_c − ") + count + " d_0) t", net,
-                   PlainNumber(area[bGrid ? 1 : 2]), "mm²"});
-  stress(bGrid ? "σ_y" : "σ_{y1}", "V_y / A_{ny}", 1, area[bGrid ? 1 : 2],
-         m_group.m_dSigmaY[bGrid ? 0 : 1]);
-  if (bGrid) return;
-  const double leg = std::hypot(m_group.m_dWidth / (m_input.m_nCols - 1),
-                                m_group.m_dHeight / (m_input.m_nRows - 1));
-  steps.push_back({{"抵抗 Vy 的折线净截面（4）", "Zigzag net section for Vy (4)"},
-                   "5.1.1",
-                   "A_{zy}",
-                   "(s (n_c − 1) + 2 e_x − n_c d_0) t",
-                   "(" + PlainNumber(leg) + " × " + std::to_string(m_input.m_nCols - 1) +
-                       " + 2 × " + Put(m_input.m_dEx) + " − " + std::to_string(m_input.m_nCols) +
-                       " × " + d0 + ") × " + t,
-                   PlainNumber(area[3]),
-                   "mm²"});
-  stress("σ_{y2}", "V_y / A_{zy}", 1, area[3], m_group.m_dSigmaY[2]);
+  std::string text;
+  for (const auto& [leg, count] : legs)
+    text += " + " + (count > 1 ? std::to_string(count) + " × " : "") + PlainNumber(leg);
+  if (rest > 1e-6) text += " + " + PlainNumber(rest);
+  return text;
 }
 
 CReportVerdict CBoltReport::SectionVerdict(bool bX) const {
-  const double sigma = bX ? m_r.m_dSigmaX : m_r.m_dSigmaY;
-  const double load = bX ? m_input.m_dVx : m_input.m_dVy;
-  static constexpr CTextLiteral kNames[] = {{"y 向截面", "Section for Vy"},
-                                            {"x 向截面", "Section for Vx"}};
+  const CPlateSection& section = bX ? m_judged.m_x : m_judged.m_y;
+  const CCasePart& part = m_check.Parts()[m_bFriction ? (bX ? 1 : 2) : (bX ? 2 : 3)];
   const std::string symbol = bX ? "σ_x" : "σ_y";
-  const bool bTwo = m_bFriction || m_input.m_nLayout == 1;
   const std::string both = bX ? " = \\max(σ_{x1}, σ_{x2})" : " = \\max(σ_{y1}, σ_{y2})";
-  CReportVerdict verdict;
-  verdict.m_name = kNames[bX ? 1 : 0];
-  verdict.m_strClause = "5.1.1";
-  verdict.m_strCondition =
-      "|" + symbol + "| ≤ f" + (bTwo && !IsZero(load) ? ",  " + symbol + both : "");
-  verdict.m_strNumbers = PlainNumber(std::fabs(sigma)) +
-                         (std::fabs(sigma) <= m_r.m_dF ? " ≤ " : " > ") + PlainNumber(m_r.m_dF) +
-                         " \\N/\\mm²";
-  verdict.m_dUtilisation = std::fabs(sigma) / m_r.m_dF;
-  verdict.m_bPass = bX ? m_r.m_bX : m_r.m_bY;
-  return verdict;
+  const bool bBoth = m_bFriction && section.Holes() > 0;
+  return {part.m_name,
+          "5.1.1",
+          symbol + " ≤ f" + (bBoth ? ",  " + symbol + both : ""),
+          Relation(section.Worst(), m_r.m_dF, part.m_bPass) + " \\N/\\mm²",
+          part.m_dUtilisation,
+          part.m_bPass};
 }
 
 std::vector<CReportVerdict> CBoltReport::Verdicts() const {
   std::vector<CReportVerdict> verdicts;
   const std::span<const CCasePart> parts = m_check.Parts();
-  const auto relation = [](bool bPass) { return bPass ? " ≤ " : " > "; };
   const std::string shear =
-      Put(m_r.m_dNv) + " / (" + Put(m_r.m_dBeta) + " × " + Put(m_r.m_dNvb) + ")";
-  const std::string tension = Put(m_r.m_dNt) + " / " + Put(m_r.m_dNtb);
+      Put(m_judged.m_dNv) + " / (" + Put(m_r.m_dBeta) + " × " + Put(m_r.m_dNvb) + ")";
+  const std::string tension = Put(m_judged.m_dNt) + " / " + Put(m_r.m_dNtb);
   const char* clauses[] = {"7.2.1, 7.2.4", "7.2.2, 7.2.4", "7.2.3, 7.2.4"};
   const char* clause = clauses[m_input.m_nType];
   verdicts.push_back(
@@ -401,15 +416,14 @@ std::vector<CReportVerdict> CBoltReport::Verdicts() const {
        m_bFriction ? "N_v / (β N_v^b) + N_t / N_t^b ≤ 1"
                    : "√((N_v / β N_v^b)^2 + (N_t / N_t^b)^2) ≤ 1",
        (m_bFriction ? shear + " + " + tension : "√((" + shear + ")^2 + (" + tension + ")^2)") +
-           " = " + PlainNumber(m_r.m_dRatio) + relation(parts[0].m_bPass) + "1",
+           " = " + Relation(m_judged.m_dRatio, 1, parts[0].m_bPass),
        parts[0].m_dUtilisation, parts[0].m_bPass});
   if (!m_bFriction) {
-    const bool bOrdinary = m_input.m_nType == kOrdinaryBolt;
-    const double limit = m_r.m_dBeta * m_r.m_dNcb / (bOrdinary ? 1 : 1.2);
-    verdicts.push_back(
-        {parts[1].m_name, clause, bOrdinary ? "N_v ≤ β N_c^b" : "N_v ≤ β N_c^b / 1.2",
-         PlainNumber(m_r.m_dNv) + relation(parts[1].m_bPass) + PlainNumber(limit) + " \\kN",
-         parts[1].m_dUtilisation, parts[1].m_bPass});
+    // 7.2.3 divides by 1.2 only together with tension.
+    const bool bReduced = m_input.m_nType == kBearingBolt && m_judged.m_dNt > 0;
+    verdicts.push_back({parts[1].m_name, clause, bReduced ? "N_v ≤ β N_c^b / 1.2" : "N_v ≤ β N_c^b",
+                        Relation(m_judged.m_dNv, m_judged.m_dBearing, parts[1].m_bPass) + " \\kN",
+                        parts[1].m_dUtilisation, parts[1].m_bPass});
   }
   verdicts.push_back(SectionVerdict(true));
   verdicts.push_back(SectionVerdict(false));
@@ -418,8 +432,8 @@ std::vector<CReportVerdict> CBoltReport::Verdicts() const {
 
 CBoltReport::CSteps CBoltReport::Sections() const {
   CSteps steps;
-  SectionX(steps);
-  SectionY(steps);
+  Section(true, steps);
+  Section(false, steps);
   return steps;
 }
 

@@ -4,60 +4,10 @@
 #include <cmath>
 
 #include "connections/cases/case_rules.h"
-#include "connections/report/connection_report.h"
 #include "framework/utf8.h"
 
 namespace orv3 {
 namespace {
-
-constexpr const char* kStyle = R"(
-@page { size: A4; margin: 16mm 15mm 18mm 18mm; }
-* { box-sizing: border-box; }
-body { font: 9.5pt/1.4 "Noto Sans CJK SC", "Source Han Sans SC", "Microsoft YaHei",
-       "WenQuanYi Micro Hei", Arial, sans-serif; color: #16202b; margin: 0 auto; max-width: 178mm; }
-article + article { break-before: page; }
-header.doc { display: flex; justify-content: space-between; border-bottom: 1.5pt solid #2f5d94;
-       font-size: 9pt; color: #44535f; padding: 4mm 0 1mm; }
-h1 { font-size: 15pt; margin: 3mm 0 2mm; }
-h2 { font-size: 11pt; margin: 3.5mm 0 1mm; color: #234a78; break-after: avoid; }
-table { width: 100%; border-collapse: collapse; }
-th, td { padding: 0.6mm 1.6mm; border: 0.5pt solid #c3ccd4; text-align: left; vertical-align: top; }
-th { background: #eef2f6; font-weight: 600; }
-tr, figure, .box { break-inside: avoid; }
-thead { display: table-header-group; }
-td.num, th.num { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
-td.clause { white-space: nowrap; font-size: 9pt; color: #44535f; }
-.inputs { table-layout: fixed; } .inputs td { width: 13%; overflow-wrap: anywhere; }
-.inputs td.name { width: 26%; } .inputs td.unit { width: 11%; }
-.inputs td.num { white-space: normal; }
-td.res { text-align: right; font-weight: 600; font-variant-numeric: tabular-nums;
-      white-space: nowrap; border-right: none; vertical-align: bottom; }
-td.unit { white-space: nowrap; } td.res + td.unit { border-left: none; padding-left: 0;
-      vertical-align: bottom; }
-table.steps { table-layout: fixed; }
-table.verdicts { break-inside: avoid; }
-td.tick { white-space: nowrap; }
-.eq { display: grid; grid-template-columns: 4.2em 1fr; column-gap: 0.4em; }
-.eq > .sym { text-align: right; } .eq > .rhs { overflow-wrap: anywhere; }
-.m { font-family: "Cambria Math", "STIX Two Text", "Liberation Serif", "Times New Roman", serif; }
-.ss { display: inline-flex; flex-direction: column; vertical-align: middle; font-size: 0.68em;
-      line-height: 1.05; }
-sub, sup { font-size: 0.7em; line-height: 0; }
-.box { border: 0.8pt solid; border-radius: 2pt; padding: 2mm 3mm; margin: 2mm 0; }
-.verdict { display: flex; justify-content: space-between; font-weight: 600; }
-.pass { color: #14633a; } .fail { color: #a4161a; }
-.box.pass { background: #eef8f1; } .box.fail { background: #fdf0ef; }
-.warn { border-color: #b26a00; background: #fff7e8; }
-.warn ul { margin: 0; padding-left: 5mm; }
-.bar { position: relative; height: 3.2mm; width: 22mm; margin-top: 1mm; background: #e7ecf0; }
-.bar > i { position: absolute; inset: 0 auto 0 0; background: #3c8d5a; }
-.bar.over > i { background: #c0392b; }
-figure { margin: 2mm 0; text-align: center; }
-figure svg { max-width: 100%; height: auto; }
-figcaption { font-size: 9pt; color: #44535f; }
-.note { font-size: 9pt; color: #44535f; }
-@media print { * { print-color-adjust: exact; -webkit-print-color-adjust: exact; } }
-)";
 
 bool IsLetter(char ch) noexcept { return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z'); }
 
@@ -93,19 +43,6 @@ std::string Scripts(std::string_view& text) {
   return bSub ? "<sub>" + first + "</sub>" : "<sup>" + first + "</sup>";
 }
 
-std::string Percent(double utilisation) {
-  if (!std::isfinite(utilisation)) return "—";
-  std::string text = PlainNumber(std::round(std::fabs(utilisation) * 1000) / 10);
-  return text + "%";
-}
-
-std::string Verdict(bool bPass, CLanguage language) {
-  static constexpr CTextLiteral kPass = {"满足", "passes"};
-  static constexpr CTextLiteral kFail = {"不满足", "fails"};
-  return std::string("<span class=\"") + (bPass ? "pass" : "fail") + "\">" +
-         (bPass ? kPass : kFail).In(language) + "</span>";
-}
-
 std::string Bar(double utilisation) {
   const double size = std::isfinite(utilisation) ? std::fabs(utilisation) : 9;
   const std::string width = PlainNumber(std::min(100.0, 100 * size));
@@ -128,6 +65,18 @@ std::string Equation(const CReportStep& step) {
 }
 
 }  // namespace
+
+std::string Percent(double utilisation) {
+  if (!std::isfinite(utilisation)) return "—";
+  return PercentNumber(utilisation) + "%";
+}
+
+std::string Verdict(bool bPass, CLanguage language) {
+  static constexpr CTextLiteral kPass = {"满足", "passes"};
+  static constexpr CTextLiteral kFail = {"不满足", "fails"};
+  return std::string("<span class=\"") + (bPass ? "pass" : "fail") + "\">" +
+         (bPass ? kPass : kFail).In(language) + "</span>";
+}
 
 std::string Escaped(std::string_view text) {
   std::string out;
@@ -181,6 +130,12 @@ std::string Put(double value) {
   return value < 0 ? "(" + text + ")" : text;
 }
 
+std::string Relation(double effect, double limit, bool bPass) {
+  const CComparedText text = Compared(effect, limit);
+  const char* sign = bPass ? " ≤ " : effect > limit ? " > " : " ≮ ";
+  return text.m_strEffect + sign + text.m_strLimit;
+}
+
 std::string InputText(int value, std::span<const char* const> choices) {
   const auto at = static_cast<std::size_t>(value);
   return at < choices.size() ? choices[at] : std::to_string(value);
@@ -206,12 +161,9 @@ std::string CReportBody::Clause(const std::string& clause) const {
 }
 
 void CReportBody::Title(const std::string& title, bool bPass, double utilisation) {
-  static constexpr CTextLiteral kBasis = {"依据《钢结构设计规范》GB 50017-2003",
-                                          "By GB 50017-2003, Code for design of steel structures"};
   static constexpr CTextLiteral kResult = {"验算结论：", "Verdict: "};
   static constexpr CTextLiteral kWorst = {"最大利用率 ", "greatest utilisation "};
-  m_strHtml += std::string("<header class=\"doc\"><span>") + Text(kBasis) +
-               "</span><span>Orv3Cal</span></header>\n<h1>" + Escaped(title) + "</h1>\n";
+  m_strHtml += "<h1>" + Escaped(title) + "</h1>\n";
   m_strHtml += std::string("<div class=\"box verdict ") + (bPass ? "pass" : "fail") + "\"><span>" +
                Text(kResult) + Verdict(bPass, m_nLanguage) + "</span><span>" + Text(kWorst) +
                Percent(utilisation) + "</span></div>\n";
@@ -248,7 +200,9 @@ void CReportBody::Inputs(std::span<const CInputLine> lines) {
 void CReportBody::Figure(const CDrawing& drawing, const std::string& caption) {
   std::string svg = DrawingSvg(drawing);
   svg.erase(0, std::min(svg.find("<svg"), svg.size()));
-  m_strHtml += "<figure>\n" + svg + "\n<figcaption>" + caption + "</figcaption></figure>\n";
+  const bool bWide = drawing.Width() > 3 * drawing.Height();
+  m_strHtml += std::string(bWide ? "<figure class=\"wide\">\n" : "<figure>\n") + svg +
+               "\n<figcaption>" + caption + "</figcaption></figure>\n";
 }
 
 void CReportBody::Steps(std::span<const CReportStep> steps) {
@@ -296,16 +250,6 @@ void CReportBody::Verdicts(std::span<const CReportVerdict> verdicts) {
 
 void CReportBody::Note(const CTextLiteral& text) {
   m_strHtml += std::string("<p class=\"note\">") + Text(text) + "</p>\n";
-}
-
-std::string ReportDocument(const std::string& title, std::span<const std::string> bodies,
-                           CLanguage language) {
-  std::string html = std::string("<!DOCTYPE html>\n<html lang=\"") +
-                     (language == CLanguage::Chinese ? "zh-CN" : "en") +
-                     "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + Escaped(title) +
-                     "</title>\n<style>" + kStyle + "</style>\n</head>\n<body>\n";
-  for (const std::string& body : bodies) html += body;
-  return html + "</body>\n</html>\n";
 }
 
 }  // namespace orv3

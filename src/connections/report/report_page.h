@@ -1,4 +1,4 @@
-// The pages of a calculation report: one HTML file that needs nothing else, printed on A4.
+// The body of one case's calculation report, in HTML.
 #pragma once
 
 #include <span>
@@ -11,7 +11,10 @@
 
 namespace orv3 {
 
+// Text as HTML, its control characters visible.
 std::string Escaped(std::string_view text);
+std::string Percent(double utilisation);
+std::string Verdict(bool bPass, CLanguage language);
 
 // A formula as HTML. `_x` or `_{text}` sets a subscript, `^` a superscript, both after one another
 // stand above each other; letters are italic, `\name` is upright ("\max").
@@ -19,6 +22,9 @@ std::string Formula(std::string_view text);
 
 // A number put into a formula, a negative one in brackets.
 std::string Put(double value);
+
+// An effect against its limit: "7.1 ≤ 8", with the digits that show one that fails.
+std::string Relation(double effect, double limit, bool bPass);
 
 // One step: what is computed, the formula in symbols, the numbers put in and what comes out.
 struct CReportStep {
@@ -61,7 +67,7 @@ class CReportBody {
   void Verdicts(std::span<const CReportVerdict> verdicts);
   void Note(const CTextLiteral& text);
   CLanguage Language() const noexcept { return m_nLanguage; }
-  std::string Take() { return "<article>\n" + std::move(m_strHtml) + "</article>\n"; }
+  std::string Take() { return std::move(m_strHtml); }
 
  private:
   std::string Clause(const std::string& clause) const;

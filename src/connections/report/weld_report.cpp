@@ -14,32 +14,43 @@ namespace {
 using CSteps = std::vector<CReportStep>;
 using CVerdicts = std::vector<CReportVerdict>;
 
-std::string Relation(double effect, double limit, bool bPass) {
-  return PlainNumber(effect) +
-         (bPass            ? " ≤ "
-          : effect > limit ? " > "
-                           : " ≮ ") +
-         PlainNumber(limit) + " \\N/\\mm²";
-}
-
 // The normal stress of a weld area by load case.
 struct CStressTerms {
   std::string m_strFormula;
   std::string m_strNumbers;
 };
 CStressTerms NormalStress(int loadCase, double N, double M, const std::string& area,
-                          const std::string& areaNumbers, double W) {
+                          const std::string& areaNumbers, double W, const char* sign = "+") {
   CStressTerms terms;
   if (TakesN(loadCase)) {
     terms.m_strFormula = "N / (" + area + ")";
     terms.m_strNumbers = Put(N) + " × 1000 / (" + areaNumbers + ")";
   }
   if (TakesM(loadCase)) {
-    const char* plus = TakesN(loadCase) ? " + " : "";
-    terms.m_strFormula += std::string(plus) + "M / W";
+    const bool bFirst = !TakesN(loadCase) && *sign == '+';
+    const std::string plus = bFirst ? "" : " " + std::string(sign) + " ";
+    terms.m_strFormula += plus + "M / W";
     terms.m_strNumbers += plus + Put(M) + " × 1000 / " + PlainNumber(W);
   }
   return terms;
+}
+
+// The steps of the normal stress: at one edge, and at the other when there is a moment.
+template <class CASE, class RESULTS>
+void StressSteps(const CASE& input, const RESULTS& r, const CTextLiteral& name, const char* clause,
+                 const char* symbol, const std::string& area, const std::string& areaNumbers,
+                 double areaMm2, CSteps& steps) {
+  const CStressTerms one =
+      NormalStress(input.m_nLoadCase, input.m_dN, input.m_dM, area, areaNumbers, r.m_dW);
+  steps.push_back(
+      {name, clause, symbol, one.m_strFormula, one.m_strNumbers, PlainNumber(r.m_dSigma), "N/mm²"});
+  if (!TakesM(input.m_nLoadCase) || input.m_dM == 0) return;
+  const CStressTerms other =
+      NormalStress(input.m_nLoadCase, input.m_dN, input.m_dM, area, areaNumbers, r.m_dW, "−");
+  const double direct = TakesN(input.m_nLoadCase) ? 1000 * input.m_dN / areaMm2 : 0;
+  static constexpr CTextLiteral kOther = {"另一边缘", "At the other edge"};
+  steps.push_back({kOther, clause, std::string(symbol) + "′", other.m_strFormula,
+                   other.m_strNumbers, PlainNumber(direct - 1000 * input.m_dM / r.m_dW), "N/mm²"});
 }
 
 constexpr const char* kLoadsOfCase[] = {"N", "N, M", "N, M", "M, V", "N, M, V", "N, M, V"};
@@ -86,11 +97,11 @@ CReportStep Throat(const CFilletCase& input, const CFilletResults& r) {
   return {kName, "7.1.5", "h_e", "s", "", he, "mm"};
 }
 
-CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r) {
+CSteps FilletSteps(const CFilletCase& input, const CFilletCheck& check) {
+  const CFilletResults& r = check.Results();
+  const CWeldFigures& judged = check.Figures();
   const std::string he = Put(r.m_dHe);
   const std::string lw = Put(input.m_dLw);
-  const CStressTerms sigma =
-      NormalStress(input.m_nLoadCase, input.m_dN, input.m_dM, "h_e l_w", he + " × " + lw, r.m_dW);
   CSteps steps = {Throat(input, r)};
   steps.push_back({{"角焊缝强度设计值", "Design strength of the fillet weld"},
                    "T 3.4.1-3",
@@ -106,50 +117,65 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r) {
                    he + " × " + lw + "^2 / 6",
                    PlainNumber(r.m_dW),
                    "mm³"});
-  steps.push_back({{"垂直于焊缝的应力", "Stress across the weld"},
-                   "7.1.3",
-                   "σ_f",
-                   sigma.m_strFormula,
-                   sigma.m_strNumbers,
-                   PlainNumber(r.m_dSigma),
-                   "N/mm²"});
+  static constexpr CTextLiteral kAcross = {"垂直于焊缝的应力", "Stress across the weld"};
+  StressSteps(input, r, kAcross, "7.1.3", "σ_f", "h_e l_w", he + " × " + lw, r.m_dHe * input.m_dLw,
+              steps);
   if (!TakesV(input.m_nLoadCase)) return steps;
+  const bool bLong = judged.m_dShearLength < input.m_dLw;
   steps.push_back({{"沿焊缝的剪应力", "Shear stress along the weld"},
-                   "7.1.3",
+                   bLong ? "7.1.3, 8.2.7" : "7.1.3",
                    "τ_f",
-                   "V / (h_e l_w)",
-                   Put(input.m_dV) + " × 1000 / (" + he + " × " + lw + ")",
-                   PlainNumber(r.m_dTau),
+                   bLong ? "|V| / (h_e · 60 h_f)" : "|V| / (h_e l_w)",
+                   Put(std::fabs(input.m_dV)) + " × 1000 / (" + he + " × " +
+                       PlainNumber(judged.m_dShearLength) + ")",
+                   PlainNumber(judged.m_dTau),
                    "N/mm²"});
+  const bool bTension = judged.m_dTension / judged.m_dBetaTension >=
+                        judged.m_dCompression / judged.m_dBetaCompression;
+  const double across = bTension ? judged.m_dTension : judged.m_dCompression;
+  const double beta = bTension ? judged.m_dBetaTension : judged.m_dBetaCompression;
   steps.push_back({{"综合应力", "Combined stress"},
                    "7.1.3",
                    "σ_{fs}",
                    "√((σ_f / β_f)^2 + τ_f^2)",
-                   "√((" + PlainNumber(r.m_dSigma) + " / " + PlainNumber(input.m_dBetaF) +
-                       ")^2 + " + Put(r.m_dTau) + "^2)",
-                   PlainNumber(r.m_dCombined),
+                   "√((" + PlainNumber(across) + " / " + PlainNumber(beta) + ")^2 + " +
+                       Put(judged.m_dTau) + "^2)",
+                   PlainNumber(judged.m_dCombined),
                    "N/mm²"});
   return steps;
 }
 
-CVerdicts FilletVerdicts(const CFilletCase& input, const CFilletCheck& check) {
-  const CFilletResults& r = check.Results();
-  const auto parts = check.Parts();
-  const double across = input.m_dBetaF * r.m_dFfw;
+// A weld's parts in the order that its check judges them.
+template <class CHECK>
+CVerdicts WeldVerdicts(const CHECK& check, const char* clause, const std::string& across,
+                       const std::string& along, const std::string& combined) {
+  const CWeldFigures& judged = check.Figures();
   CVerdicts verdicts;
-  const auto add = [&](std::size_t part, const char* condition, double effect, double limit) {
-    verdicts.push_back({parts[part].m_name, "7.1.3", condition,
-                        Relation(effect, limit, parts[part].m_bPass), parts[part].m_dUtilisation,
-                        parts[part].m_bPass});
+  const auto add = [&](const std::string& condition, double effect, double limit) {
+    const CCasePart& part = check.Parts()[verdicts.size()];
+    verdicts.push_back({part.m_name, clause, condition,
+                        Relation(effect, limit, part.m_bPass) + " \\N/\\mm²", part.m_dUtilisation,
+                        part.m_bPass});
   };
-  add(0, "|σ_f| ≤ β_f f_f^w", std::fabs(r.m_dSigma), across);
-  if (!TakesV(input.m_nLoadCase)) return verdicts;
-  add(1, "|τ_f| ≤ f_f^w", std::fabs(r.m_dTau), r.m_dFfw);
-  add(2, "√((σ_f / β_f)^2 + τ_f^2) ≤ f_f^w", r.m_dCombined, r.m_dFfw);
+  add(across, judged.Across(), judged.AcrossLimit());
+  if (!judged.m_bShear) return verdicts;
+  add(along, judged.m_dTau, judged.m_dTauLimit);
+  add(combined, judged.m_dCombined, judged.m_dCombinedLimit);
   return verdicts;
 }
 
-CSteps ButtSteps(const CButtCase& input, const CButtResults& r) {
+CVerdicts FilletVerdicts(const CFilletCheck& check) {
+  const CWeldFigures& judged = check.Figures();
+  const double beta = judged.TensionGoverns() ? judged.m_dBetaTension : judged.m_dBetaCompression;
+  const std::string strength =
+      judged.m_bShear && judged.m_dTauLimit < check.Results().m_dFfw ? "0.9 f_f^w" : "f_f^w";
+  return WeldVerdicts(check, "7.1.3", "|σ_f| ≤ β_f f_f^w,  β_f = " + PlainNumber(beta),
+                      "|τ_f| ≤ " + strength, "√((σ_f / β_f)^2 + τ_f^2) ≤ " + strength);
+}
+
+CSteps ButtSteps(const CButtCase& input, const CButtCheck& check) {
+  const CButtResults& r = check.Results();
+  const CWeldFigures& judged = check.Figures();
   const std::string t = Put(input.m_dThick);
   const std::string lw = Put(input.m_dLw);
   const std::string area = t + " × " + lw;
@@ -169,47 +195,31 @@ CSteps ButtSteps(const CButtCase& input, const CButtResults& r) {
                      PlainNumber(r.m_dW),
                      "mm³"});
   }
-  const CStressTerms sigma =
-      NormalStress(input.m_nLoadCase, input.m_dN, input.m_dM, "t l_w", area, r.m_dW);
-  steps.push_back({{"正应力", "Normal stress"},
-                   "7.1.2",
-                   "σ",
-                   sigma.m_strFormula,
-                   sigma.m_strNumbers,
-                   PlainNumber(r.m_dSigma),
-                   "N/mm²"});
+  static constexpr CTextLiteral kNormal = {"正应力", "Normal stress"};
+  StressSteps(input, r, kNormal, "7.1.2", "σ", "t l_w", area, input.m_dThick * input.m_dLw, steps);
   if (!TakesV(input.m_nLoadCase)) return steps;
   steps.push_back({{"剪应力", "Shear stress"},
                    "7.1.2",
                    "τ",
-                   "1.5 V / (t l_w)",
-                   "1.5 × " + Put(input.m_dV) + " × 1000 / (" + area + ")",
-                   PlainNumber(r.m_dTau),
+                   "1.5 |V| / (t l_w)",
+                   "1.5 × " + Put(std::fabs(input.m_dV)) + " × 1000 / (" + area + ")",
+                   PlainNumber(judged.m_dTau),
                    "N/mm²"});
   steps.push_back({{"折算应力", "Reduced stress"},
                    "7.1.2",
                    "σ_{zs}",
                    "√(σ^2 + 3 τ^2)",
-                   "√(" + Put(r.m_dSigma) + "^2 + 3 × " + Put(r.m_dTau) + "^2)",
-                   PlainNumber(r.m_dReduced),
+                   "√(" + Put(std::max(judged.m_dTension, judged.m_dCompression)) + "^2 + 3 × " +
+                       Put(judged.m_dTau) + "^2)",
+                   PlainNumber(judged.m_dCombined),
                    "N/mm²"});
   return steps;
 }
 
-CVerdicts ButtVerdicts(const CButtCase& input, const CButtCheck& check) {
-  const CButtResults& r = check.Results();
-  const auto parts = check.Parts();
-  CVerdicts verdicts;
-  const auto add = [&](std::size_t part, const char* condition, double effect, double limit) {
-    verdicts.push_back({parts[part].m_name, "7.1.2", condition,
-                        Relation(effect, limit, parts[part].m_bPass), parts[part].m_dUtilisation,
-                        parts[part].m_bPass});
-  };
-  add(0, "|σ| ≤ \\max(f_t^w, f_c^w)", std::fabs(r.m_dSigma), std::max(r.m_dFtw, r.m_dFcw));
-  if (!TakesV(input.m_nLoadCase)) return verdicts;
-  add(1, "|τ| ≤ f_v^w", std::fabs(r.m_dTau), r.m_dFvw);
-  add(2, "√(σ^2 + 3 τ^2) < 1.1 f_t^w", r.m_dReduced, 1.1 * r.m_dFtw);
-  return verdicts;
+CVerdicts ButtVerdicts(const CButtCheck& check) {
+  return WeldVerdicts(check, "7.1.2",
+                      check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w", "|τ| ≤ f_v^w",
+                      "√(σ^2 + 3 τ^2) < 1.1 f_t^w");
 }
 
 template <class CHECK>
@@ -249,7 +259,7 @@ std::string CaseReport(const CFilletCase& input, const CFilletCheck& check, CLan
   };
   WeldInputs(body, input, CFilletCheck::InputKeys(), skip);
   body.Figure(FilletDrawing(input, check.Results().m_dHe), body.Text(kCaption));
-  return Tail(body, FilletSteps(input, check.Results()), FilletVerdicts(input, check));
+  return Tail(body, FilletSteps(input, check), FilletVerdicts(check));
 }
 
 std::string CaseReport(const CButtCase& input, const CButtCheck& check, CLanguage language) {
@@ -257,7 +267,7 @@ std::string CaseReport(const CButtCase& input, const CButtCheck& check, CLanguag
   Head(body, {"对接焊缝验算", "Butt weld"}, input.m_strId, check);
   WeldInputs(body, input, CButtCheck::InputKeys(), [](const std::string&) { return false; });
   body.Figure(ButtDrawing(input), body.Text(kCaption));
-  return Tail(body, ButtSteps(input, check.Results()), ButtVerdicts(input, check));
+  return Tail(body, ButtSteps(input, check), ButtVerdicts(check));
 }
 
 }  // namespace orv3

@@ -1,0 +1,147 @@
+#include <algorithm>
+#include <charconv>
+
+#include "case_readers.h"
+#include "framework/csv.h"
+
+namespace orv3::cli {
+namespace {
+
+class CCsvCases {
+ public:
+  CCsvCases(CCaseBytes& file, const CCaseSchema& schema)
+      : m_file(file), m_schema(schema), m_csv([&file](std::string& text) {
+          if (text.size() > kLongestCase) file.RefuseLongCase();
+          return file.More(text);
+        }) {
+    if (!m_csv.Next(m_arrCell)) Malformed();
+    for (const std::string_view name : m_arrCell) AddColumn(name);
+  }
+
+  bool Next(CReadCase& read) {
+    do {
+      if (!m_csv.Next(m_arrCell)) return TellMalformed(read);
+    } while (IsBlank());
+    m_arrNumber.clear();
+    m_arrNumber.reserve(CountNumbers());
+    for (std::size_t i = 0; i < std::min(m_arrCell.size(), m_arrColumn.size()); ++i) {
+      const auto key = static_cast<std::size_t>(m_arrColumn[i]);
+      if (m_arrCell[i].empty()) continue;
+      read.m_arrValue[key] = Value(m_arrCell[i], m_schema.Rules()[key]);
+    }
+    CheckWidth(read);
+    return true;
+  }
+
+ private:
+  void AddColumn(std::string_view name) {
+    const int key = m_schema.Find(name);
+    if (key < 0) m_file.Refuse(m_schema.Unknown(name).Text());
+    const auto before = std::find(m_arrColumn.begin(), m_arrColumn.end(), key);
+    if (before != m_arrColumn.end()) {
+      const std::string first = std::to_string(before - m_arrColumn.begin() + 1);
+      const std::string second = std::to_string(m_arrColumn.size() + 1);
+      const std::string sign = std::string(name) + ": ";
+      m_file.Refuse({sign + "在首行出现两次（第 " + first + "、" + second + " 列）；请只给一次",
+                     sign + "stands twice in the first line, in columns " + first + " and " +
+                         second + "; give it once"});
+    }
+    m_arrColumn.push_back(key);
+  }
+
+  [[noreturn]] void Malformed() {
+    if (m_csv.IsMalformed()) m_file.Refuse(MalformedFault().Text());
+    m_file.Refuse({"是空文件；首行应为各键", "is empty; the first line holds the keys"});
+  }
+
+  CCaseFault MalformedFault() const {
+    const std::string line = std::to_string(m_csv.Line());
+    return {"case",
+            {"第 " + line + " 行有一个引号单元格没有结束，或其后还有文字",
+             "line " + line +
+                 " has a cell in quotation marks that is not closed or goes on behind them"},
+            {"请在分隔符之前结束引号，其中的引号写两个",
+             "close it before the separator, and double the marks within it"}};
+  }
+
+  // The text is not read beyond a malformed cell, which is a refused case of its own.
+  bool TellMalformed(CReadCase& read) {
+    if (!m_csv.IsMalformed() || m_bTold) return false;
+    m_bTold = true;
+    read.m_fault = MalformedFault();
+    return true;
+  }
+
+  bool IsBlank() const {
+    return std::all_of(m_arrCell.begin(), m_arrCell.end(), [](auto cell) { return cell.empty(); });
+  }
+
+  void CheckWidth(CReadCase& read) const {
+    const auto behind = std::min(m_arrCell.size(), m_arrColumn.size());
+    if (std::all_of(m_arrCell.begin() + static_cast<std::ptrdiff_t>(behind), m_arrCell.end(),
+                    [](auto cell) { return cell.empty(); })) {
+      return;
+    }
+    read.m_fault = {"case",
+                    {"单元格多于首行的键", "has more cells than the first line has keys"},
+                    {"请为多出的单元格给出键", "give each a key"}};
+  }
+
+  std::size_t CountNumbers() const {
+    std::size_t count = m_arrCell.size();
+    for (const std::string_view cell : m_arrCell)
+      count += static_cast<std::size_t>(std::count(cell.begin(), cell.end(), ';'));
+    return count;
+  }
+
+  static bool ReadNumber(std::string_view text, double& number) noexcept {
+    while (text.starts_with(' ')) text.remove_prefix(1);
+    while (text.ends_with(' ')) text.remove_suffix(1);
+    if (text.starts_with('+')) text.remove_prefix(1);
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size();
+  }
+
+  // A text where the key takes one, a list where semicolons stand, else a number; what is none of
+  // them stays a text, which the schema then refuses.
+  CKeyValue Value(std::string_view cell, const CCaseSchema::CRule& rule) {
+    double number = 0;
+    if (rule.m_bText) return cell;
+    if (!rule.m_bArray || cell.find(';') == std::string_view::npos) {
+      if (ReadNumber(cell, number)) return number;
+      return cell;
+    }
+    const std::size_t first = m_arrNumber.size();
+    for (std::size_t at = 0; at <= cell.size();) {
+      const std::size_t end = std::min(cell.find(';', at), cell.size());
+      if (!ReadNumber(cell.substr(at, end - at), number)) return cell;
+      m_arrNumber.push_back(number);
+      at = end + 1;
+    }
+    return std::span<const double>(m_arrNumber).subspan(first);
+  }
+
+  CCaseBytes& m_file;
+  const CCaseSchema& m_schema;
+  CCsvReader m_csv;
+  std::vector<std::string_view> m_arrCell;
+  std::vector<int> m_arrColumn;     // position of each column's key
+  std::vector<double> m_arrNumber;  // of the lists of the case at hand
+  bool m_bTold = false;             // of a malformed cell
+};
+
+}  // namespace
+
+void ReadCsvCases(CCaseBytes& file, const CCaseSchema& schema, const CTakeCase& take) {
+  CCsvCases cases(file, schema);
+  CReadCase read;
+  while (true) {
+    read.m_arrValue.assign(schema.Rules().size(), std::nullopt);
+    read.m_fault.reset();
+    if (!cases.Next(read)) return;
+    read.m_dDone = file.Done();
+    take(read);
+  }
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,262 @@
+#include <iterator>
+#include <utility>
+
+#include "case_readers.h"
+#include "framework/excerpt.h"
+
+namespace orv3::cli {
+namespace {
+
+// The bytes of a file as the parser asks for them.
+class CJsonBytes {
+ public:
+  explicit CJsonBytes(CCaseBytes& bytes) : m_bytes(bytes) {}
+  char Get() const noexcept { return m_strPiece[m_nAt]; }
+  bool IsEnd() {
+    while (m_nAt == m_strPiece.size()) {
+      m_nCase += std::exchange(m_nAt, 0);
+      m_strPiece.clear();
+      if (m_nCase > kLongestCase) m_bytes.RefuseLongCase();
+      if (!m_bytes.More(m_strPiece)) return m_strPiece.empty();
+    }
+    return false;
+  }
+  void Step() noexcept { ++m_nAt; }
+  void StartCase() noexcept { m_nCase = 0; }
+
+ private:
+  CCaseBytes& m_bytes;
+  std::string m_strPiece;
+  std::size_t m_nAt = 0;
+  std::size_t m_nCase = 0;  // bytes before the piece that belong to the case at hand
+};
+
+class CJsonIterator {
+ public:
+  using iterator_category = std::input_iterator_tag;
+  using value_type = char;
+  using difference_type = std::ptrdiff_t;
+  using pointer = const char*;
+  using reference = char;
+
+  explicit CJsonIterator(CJsonBytes* bytes) : m_pBytes(bytes) {}  // null: the end
+  char operator*() const noexcept { return m_pBytes->Get(); }
+  CJsonIterator& operator++() noexcept {
+    m_pBytes->Step();
+    return *this;
+  }
+  // Compared with the end only.
+  bool operator==(const CJsonIterator&) const { return m_pBytes->IsEnd(); }
+  bool operator!=(const CJsonIterator& other) const { return !(*this == other); }
+
+ private:
+  CJsonBytes* m_pBytes;
+};
+
+// Takes what the parser finds, and hands every case over when its object ends.
+class CJsonCases : public nlohmann::json_sax<CJson> {
+ public:
+  CJsonCases(CCaseBytes& file, CJsonBytes& bytes, const CCaseSchema& schema, const CTakeCase& take)
+      : m_file(file),
+        m_bytes(bytes),
+        m_arrRule(schema.Rules()),
+        m_schema(schema),
+        m_take(take),
+        m_nSpare(static_cast<int>(m_arrRule.size())),
+        m_arrText(m_arrRule.size() + 1),
+        m_arrList(m_arrRule.size() + 1) {
+    StartCase();
+  }
+
+  // At the end of the text: a single case is handed over when nothing else was found.
+  void Finish() {
+    if (m_case.m_bSingle) HandOver();
+  }
+
+  bool null() override { return Other("null"); }
+  bool boolean(bool value) override { return Other(value ? "true" : "false"); }
+  bool number_integer(number_integer_t value) override {
+    return Number(static_cast<double>(value), std::to_string(value));
+  }
+  bool number_unsigned(number_unsigned_t value) override {
+    return Number(static_cast<double>(value), std::to_string(value));
+  }
+  bool number_float(number_float_t value, const string_t& text) override {
+    return Number(value, text);
+  }
+  bool string(string_t& text) override {
+    if (m_nDepth != Field() || m_nKey == kNone) return Other('"' + Excerpt(text) + '"');
+    SetText(text);
+    return true;
+  }
+  bool binary(binary_t&) override { return true; }  // only other formats have it
+
+  bool start_object(std::size_t) override {
+    if (m_nDepth == 0) m_case.m_bSingle = true;
+    if (m_nDepth >= Field()) Other("{…}");
+    ++m_nDepth;
+    return true;
+  }
+  bool key(string_t& key) override {
+    if (m_nDepth == Field()) FindKey(key);
+    return true;
+  }
+  bool end_object() override { return End(); }
+  bool start_array(std::size_t) override {
+    if (m_nDepth == Field() && m_nKey != kNone) {
+      m_bList = true;
+      List().clear();
+    } else if (m_nDepth > 0) {
+      Other("[…]");
+    }
+    ++m_nDepth;
+    return true;
+  }
+  bool end_array() override {
+    if (m_nDepth == Field() + 1 && m_bList) EndList();
+    return End();
+  }
+
+  bool parse_error(std::size_t, const std::string& token,
+                   const nlohmann::detail::exception& error) override {
+    std::string what = error.what();
+    const std::size_t text = what.find("] ");  // behind the library's number of the error
+    if (text != std::string::npos) what.erase(0, text + 2);
+    const std::size_t quoted = what.find(token);
+    if (quoted != std::string::npos) what.replace(quoted, token.size(), Excerpt(token));
+    m_file.Refuse({"不是 JSON：" + what, "is no JSON, " + what});
+  }
+
+ private:
+  static constexpr int kNone = -1;
+
+  // How many brackets are open where the keys of a case stand.
+  int Field() const noexcept { return m_case.m_bSingle ? 1 : 2; }
+  std::vector<double>& List() { return m_arrList[static_cast<std::size_t>(m_nKey)]; }
+  const CCaseSchema::CRule& Rule() const {
+    return m_arrRule[static_cast<std::size_t>(m_nKey == m_nSpare ? m_nTwice : m_nKey)];
+  }
+
+  void StartCase() {
+    m_case.m_arrValue.assign(m_arrRule.size() + 1, std::nullopt);
+    m_case.m_fault.reset();
+    m_nKey = kNone;
+    m_bytes.StartCase();
+  }
+
+  void HandOver() {
+    m_case.m_arrValue.pop_back();
+    m_case.m_dDone = m_file.Done();
+    m_take(m_case);
+    StartCase();
+  }
+
+  void Fault(CCaseFault fault) {
+    if (!m_case.m_fault) m_case.m_fault = std::move(fault);
+  }
+
+  void FindKey(const std::string& key) {
+    m_nKey = m_schema.Find(key);
+    if (m_nKey == kNone) return Fault(m_schema.Unknown(key));
+    if (!m_case.m_arrValue[static_cast<std::size_t>(m_nKey)]) return;
+    m_nTwice = std::exchange(m_nKey, m_nSpare);
+  }
+
+  bool Number(double value, const std::string& text) {
+    if (m_nDepth == Field() && m_nKey != kNone) {
+      if (Rule().m_bText && Rule().m_bNumber) {
+        SetText(text);
+      } else {
+        Set(value);
+      }
+      return true;
+    }
+    if (m_bList && m_nDepth == Field() + 1) {
+      List().push_back(value);
+      return true;
+    }
+    return Other(Excerpt(text));
+  }
+
+  void SetText(const std::string& text) {
+    std::string& kept = m_arrText[static_cast<std::size_t>(m_nKey)];
+    kept = text;
+    Set(std::string_view(kept));
+  }
+
+  void EndList() {
+    m_bList = false;
+    Set(std::span<const double>(List()));
+  }
+
+  // The value of the key at hand; the second one of a key is a fault that names both.
+  void Set(const CKeyValue& value) {
+    auto& kept = m_case.m_arrValue[static_cast<std::size_t>(m_nKey)];
+    kept = value;
+    if (m_nKey == m_nSpare) {
+      Fault(Twice(Rule().m_strKey, *m_case.m_arrValue[static_cast<std::size_t>(m_nTwice)], value));
+      kept.reset();
+    }
+    m_nKey = kNone;
+  }
+
+  static CCaseFault Twice(const std::string& key, const CKeyValue& first, const CKeyValue& second) {
+    const std::string a = ValueText(first);
+    const std::string b = ValueText(second);
+    return {key,
+            {"出现两次，值为 " + a + " 和 " + b, "stands twice, with " + a + " and with " + b},
+            {"请只给一次", "give it once"}};
+  }
+
+  // What stands where it cannot: no object as a case, or a value that no key takes.
+  bool Other(const std::string& text) {
+    if (m_nDepth == 0) {
+      m_file.Refuse({"没有算例；请给出一个对象或对象的数组",
+                     "holds no case; give an object, or an array of them"});
+    }
+    if (m_nDepth < Field()) {
+      Fault({"case",
+             {text + " 不是对象", text + " is no object"},
+             {"请把一个算例的键写在花括号内", "give the keys of one case in braces"}});
+      if (text != "[…]") HandOver();
+    } else if (m_nDepth == Field() && m_nKey != kNone) {
+      Fault({Rule().m_strKey, {text + " 不可用", text + " is not possible"}, Rule().Right()});
+      m_nKey = kNone;
+    } else if (m_nDepth == Field() + 1 && m_bList) {
+      Fault({Rule().m_strKey,
+             {"数列中不能有 " + text, text + " is not possible in a list"},
+             Rule().Right()});
+    }
+    return true;
+  }
+
+  bool End() {
+    if (--m_nDepth == Field() - 1 && m_nDepth > 0) HandOver();
+    return true;
+  }
+
+  CCaseBytes& m_file;
+  CJsonBytes& m_bytes;
+  const std::vector<CCaseSchema::CRule>& m_arrRule;
+  const CCaseSchema& m_schema;
+  const CTakeCase& m_take;
+  const int m_nSpare;  // place behind the keys for the second value of one
+  CReadCase m_case;
+  int m_nDepth = 0;      // open brackets
+  int m_nKey = kNone;    // whose value comes next
+  int m_nTwice = kNone;  // the key whose second value goes to the spare place
+  bool m_bList = false;
+  std::vector<std::string> m_arrText;  // what the values point to, by key
+  std::vector<std::vector<double>> m_arrList;
+};
+
+}  // namespace
+
+void ReadJsonCases(CCaseBytes& file, const CCaseSchema& schema, const CTakeCase& take) {
+  CJsonBytes bytes(file);
+  CJsonCases cases(file, bytes, schema, take);
+  CJson::sax_parse(CJsonIterator(&bytes), CJsonIterator(nullptr), &cases);
+  cases.Finish();
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,68 @@
+#include "check_answers.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "text_table.h"
+
+namespace orv3::cli {
+namespace {
+
+constexpr std::size_t kHeld = 1000;
+
+// A JSON text as an element of an array.
+std::string Indented(const std::string& text) {
+  std::string out = "  ";
+  for (const char ch : text) {
+    out += ch;
+    if (ch == '\n') out += "  ";
+  }
+  return out;
+}
+
+}  // namespace
+
+void CAnswers::AddJson(double worst, const CJson& json) { AddLine(worst, Indented(json.dump(2))); }
+
+void CAnswers::Add(CAnswer answer) {
+  m_arrAnswer.push_back(std::move(answer));
+  if (!m_bSort && m_arrAnswer.size() == kHeld) Flush();
+}
+
+void CAnswers::Finish() {
+  std::stable_sort(m_arrAnswer.begin(), m_arrAnswer.end(), [this](const auto& a, const auto& b) {
+    return m_bSort && a.m_dWorst > b.m_dWorst;
+  });
+  if (!m_arrAnswer.empty() || !m_bBegun) Flush();
+  if (m_nForm == CAnswerForm::Json) Print(m_bBegun ? "\n]\n" : "[]\n");
+}
+
+void CAnswers::Flush() {
+  if (m_nForm == CAnswerForm::Table) {
+    PrintTable();
+  } else {
+    std::string text = m_bBegun ? "" : m_strHead;
+    for (const CAnswer& answer : m_arrAnswer) {
+      if (m_nForm == CAnswerForm::Json) text += std::exchange(m_bBegun, true) ? ",\n" : "[\n";
+      text += answer.m_strText;
+    }
+    Print(text);
+  }
+  m_bBegun = m_bBegun || m_nForm != CAnswerForm::Json;
+  m_arrAnswer.clear();
+}
+
+void CAnswers::PrintTable() const {
+  static constexpr CTextLiteral kHead[] = {{"序号", "case"},      {"编号", "id"},
+                                           {"结论", "verdict"},   {"利用率", "utilisation"},
+                                           {"控制项", "governs"}, {"警告", "warnings"}};
+  CTextTable table(
+      {CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Right});
+  std::vector<std::string> head;
+  for (const CTextLiteral& text : kHead) head.emplace_back(text.In(m_nLanguage));
+  table.AddRow(std::move(head));
+  for (const CAnswer& answer : m_arrAnswer) table.AddRow(answer.m_arrCell);
+  Print(table.Text());
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,69 @@
+#include "connections/verdict/weld_verdict.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "connections/cases/case_rules.h"
+#include "connections/cases/weld_case.h"
+
+namespace orv3 {
+namespace {
+
+// Both edges of a weld of `area` mm2 and `modulus` mm3.
+template <class CASE>
+CWeldFigures Edges(const CASE& input, double area, double modulus) {
+  const double direct = TakesN(input.m_nLoadCase) ? 1000 * input.m_dN / area : 0;
+  const double bending = TakesM(input.m_nLoadCase) ? 1000 * std::fabs(input.m_dM) / modulus : 0;
+  CWeldFigures figures;
+  figures.m_dTension = std::max(0.0, direct + bending);
+  figures.m_dCompression = std::max(0.0, bending - direct);
+  figures.m_bShear = TakesV(input.m_nLoadCase);
+  figures.m_dShearLength = input.m_dLw;
+  return figures;
+}
+
+// The factors that the code allows (7.1.3 to 7.1.5), at most the one given: 1.22 across a fillet
+// weld at a right angle, 1.0 between inclined faces; 1.22 in a partial-penetration groove weld
+// under compression only.
+void Beta(const CFilletCase& input, CWeldFigures& figures) {
+  constexpr double kMost = 1.22;
+  const bool bInclined = input.m_dHf != 0 && !IsRightAngle(input.m_dAngle);
+  figures.m_dBetaTension = std::min(input.m_dBetaF, bInclined || input.m_dS != 0 ? 1.0 : kMost);
+  figures.m_dBetaCompression = std::min(input.m_dBetaF, bInclined ? 1.0 : kMost);
+}
+
+}  // namespace
+
+CWeldFigures JudgedFigures(const CFilletCase& input, const CFilletResults& results) {
+  CWeldFigures figures = Edges(input, results.m_dHe * input.m_dLw, results.m_dW);
+  Beta(input, figures);
+  figures.m_dTensionLimit = figures.m_dBetaTension * results.m_dFfw;
+  figures.m_dCompressionLimit = figures.m_dBetaCompression * results.m_dFfw;
+  if (!figures.m_bShear) return figures;
+  // A side fillet weld counts to 60 hf (8.2.7). Where the line of fusion of a groove weld is about
+  // as short as its depth (bevel, K and J), the shear strength is 0.9 of the table's (7.1.5).
+  if (input.m_dHf != 0) figures.m_dShearLength = std::min(input.m_dLw, 60 * input.m_dHf);
+  const bool bShortFusion = input.m_dS != 0 && IsShortFusion(input.m_nGroove);
+  figures.m_dTauLimit = figures.m_dCombinedLimit = (bShortFusion ? 0.9 : 1) * results.m_dFfw;
+  figures.m_dTau = 1000 * std::fabs(input.m_dV) / (results.m_dHe * figures.m_dShearLength);
+  const double across = std::max(figures.m_dTension / figures.m_dBetaTension,
+                                 figures.m_dCompression / figures.m_dBetaCompression);
+  figures.m_dCombined = std::hypot(across, figures.m_dTau);
+  return figures;
+}
+
+// Tension is held against ftw and compression against fcw, each at its own edge.
+CWeldFigures JudgedFigures(const CButtCase& input, const CButtResults& results) {
+  CWeldFigures figures = Edges(input, input.m_dThick * input.m_dLw, results.m_dW);
+  figures.m_dTensionLimit = results.m_dFtw;
+  figures.m_dCompressionLimit = results.m_dFcw;
+  if (!figures.m_bShear) return figures;
+  figures.m_dTau = 1.5 * 1000 * std::fabs(input.m_dV) / (input.m_dThick * input.m_dLw);
+  figures.m_dTauLimit = results.m_dFvw;
+  const double across = std::max(figures.m_dTension, figures.m_dCompression);
+  figures.m_dCombined = std::sqrt(across * across + 3 * figures.m_dTau * figures.m_dTau);
+  figures.m_dCombinedLimit = 1.1 * results.m_dFtw;
+  return figures;
+}
+
+}  // namespace orv3
