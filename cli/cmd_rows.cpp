@@ -97,7 +97,7 @@ CDataTable Selected(const CDataTable& all, const COptions& options) {
     table = table.SearchTable(expression.GetString(), options.wildcard ? 1 : 0);
   }
   if (!options.sort.empty()) Sort(table, options.sort);
-  ShowFigures(table);
+  if (!options.json) ShowFigures(table);
   if (options.columns.empty()) return table;
   CString signs;
   for (const std::string& sign : options.columns) {
@@ -132,14 +132,9 @@ bool HasCapacities(const CDataTable& table) {
                      [](const std::string& sign) { return sign.ends_with("(kN)"); });
 }
 
+// The cells as they stand in the store, which is what programs and exports take.
 void PrintRowsJson(const COptions& options, const CDataTable& table) {
   CJson json = TableJson(options.table, table);
-  int i = 0;
-  ForEachLive(table, [&](const CDataItem& row) {
-    CJson cells = CJson::array();
-    for (const CDataCell& cell : row.m_arrCell) cells.push_back(CellJson(cell));
-    json["rows"][static_cast<std::size_t>(i++)]["cells"] = std::move(cells);
-  });
   if (HasCapacities(table)) json["notes"] = {AngleCapacityBasis()};
   PrintJson(json);
 }

@@ -172,7 +172,7 @@ std::string LatticeNote(const CDataItem& row, const CRowFigures& figures) {
     if (!row.GetCellValue(sign, told) || std::fabs(told - value) <= 1e-5 * value) continue;
     return "The row's " + ToUtf8(CString(sign)) + " = " + NumberText(told) +
            " differs from what its limbs give as they stand, " + NumberText(value) +
-           "; rows count a T's centroid at mid-height.";
+           "; rows count a T's centroid at mid-height and limb 1's top k lower.";
   }
   return {};
 }
@@ -254,19 +254,23 @@ void PrintRow(const CDataItem& row, const CRowFigures& figures) {
   PrintNotes(RowNotes(row));
 }
 
-std::vector<std::string> RowNotes(const CDataItem& row) {
+std::vector<std::string> RowDoubtNotes(const CDataItem& row) {
   std::vector<std::string> notes;
-  const CRowFigures figures = RowFigures(row);
-  if (HasAngleCapacities(row.m_strTableName)) notes.emplace_back(AngleCapacityBasis());
-  if (figures.m_bAslant)
-    notes.emplace_back("X1 lies between the angles and Y1 through both, at 45° to their legs.");
-  for (std::string note : {StaleNote(row), LatticeNote(row, figures)})
+  for (std::string note : {StaleNote(row), LatticeNote(row, RowFigures(row))})
     if (!note.empty()) notes.push_back(std::move(note));
   for (const CRowDoubt& doubt : RowDoubts(row)) {
     notes.push_back(std::string(doubt.m_szKey) + " is doubtful: the row tells " +
                     NumberText(doubt.m_dTold) + ", the outline of its sizes has " +
-                    NumberText(doubt.m_dOutline) + ".");
+                    NumberText(doubt.m_dOutline) + " (mm).");
   }
+  return notes;
+}
+
+std::vector<std::string> RowNotes(const CDataItem& row) {
+  std::vector<std::string> notes = RowDoubtNotes(row);
+  if (HasAngleCapacities(row.m_strTableName)) notes.emplace_back(AngleCapacityBasis());
+  if (RowFigures(row).m_bAslant)
+    notes.emplace_back("X1 lies between the angles and Y1 through both, at 45° to their legs.");
   return notes;
 }
 

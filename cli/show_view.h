@@ -20,7 +20,9 @@ CJson FiguresJson(const CRowFigures& figures);
 // thicknesses, shear centre, warping, least radius, symmetry.
 void AddFurtherFigures(CTextTable& table, const CRowFigures& figures);
 
-// What a reader of the row's figures should know.
+// Where a row contradicts itself: figures that are not those of its sizes or limbs.
+std::vector<std::string> RowDoubtNotes(const CDataItem& row);
+// These and what else a reader of the row's figures should know.
 std::vector<std::string> RowNotes(const CDataItem& row);
 void PrintNotes(const std::vector<std::string>& notes);
 

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "catalogue/import/section_rows.h"
-#include "catalogue/outline/row_doubts.h"
 #include "error.h"
 #include "framework/message.h"
 #include "framework/utf8.h"
@@ -14,6 +13,7 @@
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "sections/load_data_table.h"
+#include "show_view.h"
 #include "store_commands.h"
 #include "store_place.h"
 #include "store_table.h"
@@ -89,21 +89,18 @@ void Save(CDataTable& table, CStoreToWrite& store) {
   store.Commit();
 }
 
-void Tell(const COptions& options, const CDataItem& row, const char* done) {
+void Tell(const COptions& options, const CDataItem& row, const char* done,
+          const std::vector<std::string>& notes = {}) {
   const std::string no = ToUtf8(row.m_arrCell.GetAt(0).m_strValue);
   NoteSaved(options.table + " \"" + no + "\" " + done);
-  if (!options.json) return Print(options.table + " \"" + no + "\": " + done + "\n");
-  PrintJson({{"table", options.table}, {"no", no}, {"done", done}, {"cells", RowCells(row)}});
-}
-
-// Typing errors that the row's own sizes show.
-void TellDoubts(const COptions& options, const CDataItem& row) {
-  if (options.json) return;
-  for (const CRowDoubt& doubt : RowDoubts(row)) {
-    Print("note: " + std::string(doubt.m_szKey) + " is doubtful: the row tells " +
-          NumberText(doubt.m_dTold) + ", the outline of its sizes has " +
-          NumberText(doubt.m_dOutline) + " (mm)\n");
+  if (!options.json) {
+    Print(options.table + " \"" + no + "\": " + done + "
+");
+    return PrintNotes(notes);
   }
+  CJson json = {{"table", options.table}, {"no", no}, {"done", done}, {"cells", RowCells(row)}};
+  if (!notes.empty()) json["notes"] = notes;
+  PrintJson(json);
 }
 
 // The store's table; one that it lacks but people know is started.
@@ -144,8 +141,7 @@ void RunAdd(const COptions& options) {
   const CRefusalCatcher caught;
   if (!table.AddTableItem(row, 1)) caught.Throw();
   Save(table, store);
-  Tell(options, row, "added");
-  TellDoubts(options, row);
+  Tell(options, row, "added", RowDoubtNotes(row));
 }
 
 void RunEdit(const COptions& options) {
@@ -156,8 +152,7 @@ void RunEdit(const COptions& options) {
   const CRefusalCatcher caught;
   if (!table.ModifyTableItem(row.m_nIndex, row)) caught.Throw();
   Save(table, store);
-  Tell(options, row, "changed");
-  TellDoubts(options, row);
+  Tell(options, row, "changed", RowDoubtNotes(row));
 }
 
 void RunDelete(const COptions& options) {

@@ -1,5 +1,7 @@
 #include "tables/data_item.h"
 
+#include <utility>
+
 #include "framework/utf8.h"
 #include "tables/data_table.h"
 
@@ -22,7 +24,9 @@ const CDataCell& CDataItem::operator[](const wchar_t* sign) const {
 }
 
 CDataCell& CDataItem::operator[](const wchar_t* sign) {
-  return const_cast<CDataCell&>(static_cast<const CDataItem&>(*this)[sign]);
+  // Found first and then asked for to be written: the cells may be shared with other rows.
+  const CDataCell& found = std::as_const(*this)[sign];
+  return m_arrCell[static_cast<int>(&found - std::as_const(m_arrCell).begin())];
 }
 
 int CDataItem::GetSignIndex(std::wstring_view sign) const noexcept {

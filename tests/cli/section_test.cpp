@@ -48,7 +48,7 @@ TEST(SectionCommand, TakesTheBasePointAnywhere) {
 // A hexagon's first moments are not computed; a 0 would be taken for a result.
 TEST(SectionCommand, GivesNoNumberWhereNoneIsComputed) {
   EXPECT_TRUE(JsonOf("section hexagon 100")["properties"]["Sxo"].is_null());
-  ExpectHas(RunProgram("section hexagon 100").m_strOut, {"Sxo              -  mm³", "0.54127"});
+  ExpectHas(RunProgram("section hexagon 100").m_strOut, {"Sxo                -  mm³", "0.54127"});
   const Json circle = JsonOf("section circle 100")["properties"];
   EXPECT_NEAR(circle["Sxo"].get<double>(), 2e6 / 3, 1e-6);
   EXPECT_TRUE(circle["Sx1"].is_null());
@@ -105,8 +105,8 @@ TEST(SectionCommand, WritesAnOutline) {
 
 TEST(SectionCommand, AlignsItsColumns) {
   ExpectHas(RunProgram("section rect 200 400").m_strOut,
-            {"截面面积        A          80000  mm²  area\n",
-             "X0轴抵抗矩(上)  Wxo1     5333333  mm³  modulus about X0, top\n", "∞"});
+            {"截面面积        A            80000  mm²  area\n",
+             "X0轴抵抗矩(上)  Wxo1       5333333  mm³  modulus about X0, top\n", "∞"});
 }
 
 TEST(StylesCommand, ListsAllFifteen) {

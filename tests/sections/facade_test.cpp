@@ -155,6 +155,9 @@ TEST_F(Facade, LooksSectionsUpInTheSystemStore) {
   EXPECT_EQ(Height(L"[10", L"热轧轻型槽钢"), L"none");
   EXPECT_EQ(CLoadDataTable::GetSysTemJMItem(L"热轧普通槽钢", L"[5").m_strTableName,
             L"热轧普通槽钢");
+  CDataItem own = CLoadDataTable::GetSysTemJMItem(L"热轧普通槽钢", L"[10");
+  own[L"h(mm)"].m_strValue = L"999";
+  EXPECT_EQ(Height(L"[10"), L"100") << "a row is the caller's own";
   EXPECT_EQ(CLoadDataTable::IsHaveSystemJMItem(L"热轧普通槽钢", L"h(mm) >> 99"), 1);
   EXPECT_EQ(CLoadDataTable::IsHaveSystemJMItem(L"热轧普通槽钢", L"h(mm) == 80"), 0);
   EXPECT_EQ(CLoadDataTable::IsHaveSystemJMItem(L"热轧普通槽钢", L"No. == [1*"), 0);
