@@ -64,6 +64,12 @@ TEST(BrowserRows, AddEditAndDeleteAreInTheStore) {
     const int rows = probe.Count(IDC_LIST);
     probe.Press(IDC_LIST, VK_DELETE);
     Eventually([&] { return probe.Count(IDC_LIST) == rows - 1; }, "one row less");
+    probe.Click(IDC_TAKE_BACK);
+    Eventually([&] { return probe.Count(IDC_LIST) == rows; }, "the row again");
+    Expect(probe.Cell(IDC_LIST, probe.SelectedItem(IDC_LIST), 0), L"H600X300");
+    Expect(AreaOf(folder.Row(kUserH, L"H600X300")) == 6000 + 6000, 1, "area in the store again");
+    probe.Press(IDC_LIST, VK_DELETE);
+    Eventually([&] { return probe.Count(IDC_LIST) == rows - 1; }, "one row less again");
   });
   EXPECT_TRUE(folder.Row(kUserH, L"H600X300").IsEmpty());
   EXPECT_EQ(folder.Table(kUserH).GetRealTableRowNum(), before);
@@ -121,6 +127,12 @@ TEST(BrowserRows, CombinedSectionsAskForTheirSpacingAndAreNotCopied) {
           Expect(box.Message(), L"型钢组合不能进行复制");
           box.Answer(IDOK);
           probe.SelectItem(IDC_LIST, 2);
+          probe.DoubleClick(IDC_LIST, 2);
+          const auto shown = CDialogProbe::WaitFor(L"截面特性参数查询");
+          const auto style = GetWindowLongW(shown.Control(IDC_PROPERTY_GRID), GWL_STYLE);
+          Expect(style & WS_HSCROLL, 0, "horizontal bar of the grid");
+          shown.Close();
+          shown.WaitUntilClosed();
           chosen = probe.Cell(IDC_LIST, 2, 0);
           probe.Click(IDOK);
           const auto spacing = CDialogProbe::WaitFor(L"型钢组合肢距输入");

@@ -3,6 +3,7 @@
 
 #include "dialogs/model/column_model.h"
 #include "dialogs/model/table_name_model.h"
+#include "dialogs/win32/dialog_help.h"
 #include "dialogs/win32/property_dlg.h"
 #include "dialogs/win32/resource.h"
 #include "dialogs/win32/sect_sign_set.h"
@@ -184,6 +185,10 @@ TEST(SmallDialogs, ColumnsToShow) {
         [] {
           const auto probe = CDialogProbe::WaitFor(L"选择显示项");
           Expect(probe.Count(IDC_COLUMN_LIST), 3, "columns");
+          probe.Click(IDC_HELP_BUTTON);
+          const auto help = CDialogProbe::WaitFor(L"帮助");
+          Expect(help.Message(), orv3::HelpOf(IDD_VIEW_COLUMNS).m_szText);
+          help.Answer(IDOK);
           SendMessageW(probe.Control(IDC_NONE), BM_CLICK, 0, 0);
           probe.Click(IDOK);  // refused: nothing is left
           CDialogProbe::WaitFor(L"Orvo提醒您").Answer(IDOK);

@@ -52,7 +52,7 @@ class CTableMerger {
     if (m_result.m_nAdded + m_result.m_nReplaced == 0 && m_stored) return true;
     const auto faults = SaveFaults(m_target, m_store);
     if (!faults.empty()) {
-      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText};
+      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText, false};
       return true;
     }
     return m_target.WriteTable(m_store, kSystemKind, 0) != 0;
@@ -68,6 +68,7 @@ class CTableMerger {
       m_target.m_Title = m_source.m_Title;
     } else if (!m_target.m_Title.IsEqualOf(m_source.m_Title)) {
       m_result.m_strWhy = OtherHeading();
+      m_result.m_bOtherColumns = true;
     }
     m_hasKey = HasKey();
     if (!m_hasKey) {

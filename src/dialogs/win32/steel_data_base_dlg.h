@@ -50,7 +50,7 @@ class ORV3CAL_API CSteelDataBaseDlg : public CKvbDlg {
   void Show(orv3::CListChange change);
   void RebuildColumns();
   void ShowArrow();
-  void ShowRows();
+  void ShowRows(bool follow);
   void ShowTable();
   void ShowCommands();
 
