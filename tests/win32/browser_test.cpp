@@ -118,24 +118,6 @@ TEST(Browser, CancelLeavesTheRow) {
   EXPECT_TRUE(row[L"No."].m_strValue == L"I20a");
 }
 
-TEST(Browser, EveryTableOpens) {
-  CDataItem row;
-  Drive([&] { CLoadDataTable::VisitDataBase(Catalogue(), row, 0x01000FFF); },
-        [] {
-          const auto probe = CDialogProbe::WaitFor(kCaption);
-          CStringArray names;
-          CLoadDataTable::GetTableNameArray(0x01000FFF, names);
-          for (const CString& name : names) {
-            const std::wstring text(name.View());
-            probe.SelectNode(IDC_TREE, text);
-            if (probe.Count(IDC_LIST) == 0 || probe.Cell(IDC_LIST, 0, 0).empty()) {
-              throw std::runtime_error("no rows in " + orv3::ToUtf8(text));
-            }
-          }
-          probe.Close();
-        });
-}
-
 TEST(Browser, EnterInTheSearchFieldSearches) {
   CDataItem row;
   Drive([&] { CLoadDataTable::VisitDataBase(Catalogue(), row, kEverything); },
