@@ -1,7 +1,7 @@
 // The C interface: the catalogue, the geometry of its rows, and the browser.
 #include <cmath>
 
-#include "catalogue/outline/row_spacing.h"
+#include "dialogs/model/spacing_model.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "module/c_support.h"
@@ -76,15 +76,15 @@ double QuarterTurnOf(double turn) {
 // The row with its two parts this far apart.
 CDataItem SpacedRow(const CDataItem& row, double spacing) {
   constexpr double kMost = 1000;
-  if (!IsPairTable(row.GetTableName())) {
+  if (SpacingKindOf(row.GetTableName()) == CSpacingKind::None) {
     throw CFailure("table: \"" + ToUtf8(row.GetTableName()) +
-                   "\" is no table of pairs; orv3_geometry takes its sections");
+                   "\" has no spacing; orv3_geometry takes its sections");
   }
   if (!(spacing >= 0 && spacing <= kMost && spacing == std::floor(spacing))) {
     throw CFailure("spacing: " + ToUtf8(FormatShortest(spacing)) +
                    " mm is not possible; give a whole number from 0 to 1000");
   }
-  return WithPairSpacing(row, static_cast<int>(spacing));
+  return WithSpacing(row, FormatInt(static_cast<int>(spacing)));
 }
 
 // In the order of the enumeration in the header.

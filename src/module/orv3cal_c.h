@@ -158,7 +158,7 @@ enum {
 ORV3_API int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, double turn,
                                      double* values, int room);
 
-/* The same of a section of two angles or channels, or of a cross of angles, whose parts stand
+/* The same of two angles, of a cross of angles, or of two channels back to back, whose parts stand
  * `spacing` apart: whole mm, 0 to 1000. */
 ORV3_API int ORV3_CALL orv3_pair_geometry(const orv3_char* table, const orv3_char* number,
                                           double spacing, double turn, double* values, int room);

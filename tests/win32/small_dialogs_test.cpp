@@ -4,6 +4,7 @@
 #include "dialogs/model/column_model.h"
 #include "dialogs/model/table_name_model.h"
 #include "dialogs/win32/dialog_help.h"
+#include "dialogs/win32/message_box.h"
 #include "dialogs/win32/property_dlg.h"
 #include "dialogs/win32/resource.h"
 #include "dialogs/win32/sect_sign_set.h"
@@ -130,6 +131,7 @@ CDataTableTitle ThreeColumns() {
 
 TEST(SmallDialogs, ColumnsToShow) {
   orv3::CColumnModel model(ThreeColumns(), L"");
+  const auto before = orv3::SetMessageHandler(orv3::ShowMessageBox);  // as the library's entry does
   INT_PTR result = 0;
   Drive([&] { result = CViewColDlg(model).DoModal(); },
         [] {
@@ -146,6 +148,7 @@ TEST(SmallDialogs, ColumnsToShow) {
           probe.SetMark(IDC_COLUMN_LIST, 0, true);
           probe.Click(IDOK);
         });
+  orv3::SetMessageHandler(before);
   EXPECT_EQ(result, IDOK);
   EXPECT_TRUE(model.View() == L"No.<<>>A(cm^2)");
 }

@@ -15,7 +15,7 @@ namespace {
 constexpr UINT_PTR kSubclass = 1;
 constexpr int kChoicesShown = 12;
 constexpr int kCellMargin = 14;  // pixels at 96 dpi, beside a cell's text
-constexpr int kLineMargin = 8;   // above and below it: room for the frame of a drop-down list
+constexpr int kLineMargin = 6;   // above and below it: room for the frame of a drop-down list
 
 // Dialog keys that are the editor's while it is open, and not the dialog's.
 bool IsEditorKey(WPARAM key) { return key == VK_RETURN || key == VK_ESCAPE || key == VK_TAB; }
@@ -134,13 +134,14 @@ bool CEditCmbList::EditCell(int line, int column, wchar_t typed) {
 }
 
 bool CEditCmbList::MakeEditor(const RECT& cell, wchar_t typed) {
+  const int inset = m_bList ? 0 : ScaleToDpi(1, m_nDpi);  // an edit field's text stands at its top
   const int width = cell.right - cell.left;
-  const int height = cell.bottom - cell.top;
+  const int height = cell.bottom - cell.top - 2 * inset;
   const DWORD style = WS_CHILD | (m_bList ? CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL
                                           : ES_AUTOHSCROLL | WS_BORDER);
-  m_hEditor = CreateWindowExW(0, m_bList ? WC_COMBOBOXW : WC_EDITW, L"", style, cell.left, cell.top,
-                              width, m_bList ? height * (kChoicesShown + 2) : height, m_hList,
-                              nullptr, nullptr, nullptr);
+  m_hEditor = CreateWindowExW(
+      0, m_bList ? WC_COMBOBOXW : WC_EDITW, L"", style, cell.left, cell.top + inset, width,
+      m_bList ? height * (kChoicesShown + 2) : height, m_hList, nullptr, nullptr, nullptr);
   if (m_hEditor == nullptr) return false;
   SendMessageW(m_hEditor, WM_SETFONT, static_cast<WPARAM>(SendMessageW(m_hList, WM_GETFONT, 0, 0)),
                FALSE);

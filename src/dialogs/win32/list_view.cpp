@@ -26,7 +26,7 @@ void DeleteListColumns(HWND list) {
 
 int SelectedListItem(HWND list) { return ListView_GetNextItem(list, -1, LVNI_SELECTED); }
 
-void SelectListItem(HWND list, int item, bool follow) {
+void SelectListItem(HWND list, int item) {
   constexpr UINT kBoth = LVIS_SELECTED | LVIS_FOCUSED;
   if (item < 0) {
     ListView_SetItemState(list, -1, 0, kBoth);
@@ -34,7 +34,12 @@ void SelectListItem(HWND list, int item, bool follow) {
   }
   ListView_SetItemState(list, item, kBoth, kBoth);
   ListView_SetSelectionMark(list, item);
-  if (follow) ListView_EnsureVisible(list, item, FALSE);
+  ListView_EnsureVisible(list, item, FALSE);
+}
+
+void ScrollListTo(HWND list, int item) {
+  ListView_EnsureVisible(list, ListView_GetItemCount(list) - 1, FALSE);
+  ListView_EnsureVisible(list, item, FALSE);
 }
 
 void SetSortArrow(HWND list, int column, int direction) {

@@ -180,7 +180,9 @@ void CSteelDataBaseDlg::Do(CChange change) {
 
 void CSteelDataBaseDlg::Show(CListChange change) {
   if (change == CListChange::Columns) RebuildColumns();
-  if (change != CListChange::None) ShowRows(change != CListChange::Order);
+  const int top = ListView_GetTopIndex(Control(IDC_LIST));
+  if (change != CListChange::None) ShowRows();
+  if (change == CListChange::Order) ScrollListTo(Control(IDC_LIST), top);
   ShowCommands();
 }
 
@@ -201,13 +203,12 @@ void CSteelDataBaseDlg::ShowArrow() {
   }
 }
 
-// `follow`: the selected item comes into view.
-void CSteelDataBaseDlg::ShowRows(bool follow) {
+void CSteelDataBaseDlg::ShowRows() {
   m_bShowing = true;
   const HWND list = Control(IDC_LIST);
   SelectListItem(list, -1);
   ListView_SetItemCountEx(list, m_pModel->ItemCount(), LVSICF_NOSCROLL);
-  SelectListItem(list, m_pModel->SelectedItem(), follow);
+  SelectListItem(list, m_pModel->SelectedItem());
   InvalidateRect(list, nullptr, TRUE);
   m_bShowing = false;
   ShowArrow();

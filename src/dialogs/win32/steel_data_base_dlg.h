@@ -50,7 +50,7 @@ class ORV3CAL_API CSteelDataBaseDlg : public CKvbDlg {
   void Show(orv3::CListChange change);
   void RebuildColumns();
   void ShowArrow();
-  void ShowRows(bool follow);
+  void ShowRows();
   void ShowTable();
   void ShowCommands();
 
