@@ -541,8 +541,8 @@ TEST_F(BrowserImport, TellsFilesThatAreNone) {
   EXPECT_EQ(messages[1],
             "以下内容未能导入："
             "\nbad.Kvb：没有以此为名的型钢数据文件，应为例如DbData.kvb。"
-            "\nDbData.kvb：文件已损坏，不能导入。"
-            "\nbad.KDB：文件已损坏，不能导入。"
+            "\nDbData.kvb：文件已损坏或不能读取。"
+            "\nbad.KDB：文件已损坏或不能读取。"
             "\nnone.KDB：文件或文件夹不存在。"
             "\nother.KDB，热轧普通工字钢：" +
                 ToUtf8(texts::kImportOtherColumns));

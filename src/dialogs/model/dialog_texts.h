@@ -38,7 +38,7 @@ inline constexpr wchar_t kImportFailed[] = L"以下内容未能导入：";
 inline constexpr wchar_t kImportOtherKind[] =
     L"不是可以导入的文件，应为型钢数据文件（.Kvb）或截面库文件（.KDB）。";
 inline constexpr wchar_t kImportOtherName[] = L"没有以此为名的型钢数据文件，应为例如DbData.kvb。";
-inline constexpr wchar_t kImportDamaged[] = L"文件已损坏，不能导入。";
+inline constexpr wchar_t kImportDamaged[] = L"文件已损坏或不能读取。";
 inline constexpr wchar_t kImportOtherColumns[] =
     L"列的名称、标识、类型或关键字与截面库中的同名截面表不同。";
 inline constexpr wchar_t kImporting[] = L"正在导入截面数据";
