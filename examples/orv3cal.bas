@@ -5,6 +5,7 @@ Attribute VB_Name = "Orv3Cal"
 '   =OrvSection("h", A1:A4, "Ixo")                mm^4, of the sizes b, h, tf, tw in A1:A4
 '   =OrvCell(B1, "I20a", "A(cm^2)")               a cell of the catalogue table named in B1
 '   =OrvGeometry(B1, "I20a", "area")              mm^2
+'   =OrvPairGeometry(B1, B2, 10, "Iy")            mm^4, of a pair whose parts stand 10 mm apart
 '   =OrvSteel("Q345", 20, "f")                    N/mm^2
 '   =OrvPhi(100, 235, "b")
 '   =OrvCheckBolt(D1:E19)                         keys in D, values in E; two columns of results
@@ -40,6 +41,9 @@ Private Declare PtrSafe Function orv3_cell Lib "Orv3CalDll.dll" ( _
 Private Declare PtrSafe Function orv3_geometry Lib "Orv3CalDll.dll" ( _
     ByVal table As LongPtr, ByVal number As LongPtr, ByVal turn As Double, _
     ByRef values As Double, ByVal room As Long) As Long
+Private Declare PtrSafe Function orv3_pair_geometry Lib "Orv3CalDll.dll" ( _
+    ByVal table As LongPtr, ByVal number As LongPtr, ByVal spacing As Double, _
+    ByVal turn As Double, ByRef values As Double, ByVal room As Long) As Long
 Private Declare PtrSafe Function orv3_check_bolt Lib "Orv3CalDll.dll" ( _
     ByVal given As LongPtr, ByVal text As LongPtr, ByVal size As Long) As Long
 Private Declare PtrSafe Function orv3_check_fillet Lib "Orv3CalDll.dll" ( _
@@ -93,6 +97,17 @@ Public Function OrvGeometry(table As String, number As String, name As String, _
         OrvGeometry = Failure()
     Else
         OrvGeometry = Named(GEOMETRY_NAMES, name, values)
+    End If
+End Function
+
+Public Function OrvPairGeometry(table As String, number As String, spacing As Double, _
+                                name As String, Optional turn As Double = 0) As Variant
+    Dim values(0 To 19) As Double
+    OpenOnce
+    If orv3_pair_geometry(StrPtr(table), StrPtr(number), spacing, turn, values(0), 20) < 0 Then
+        OrvPairGeometry = Failure()
+    Else
+        OrvPairGeometry = Named(GEOMETRY_NAMES, name, values)
     End If
 End Function
 

@@ -96,6 +96,11 @@ class Orv3Cal:
         return self._numbers(self._library.orv3_geometry, self.GEOMETRY, self._text(table),
                              self._text(number), ctypes.c_double(turn))
 
+    def pair_geometry(self, table, number, spacing, turn=0):
+        """The same of a pair whose parts stand `spacing` mm apart."""
+        return self._numbers(self._library.orv3_pair_geometry, self.GEOMETRY, self._text(table),
+                             self._text(number), ctypes.c_double(spacing), ctypes.c_double(turn))
+
     # --- Checks: keyword arguments in, a dictionary out ----------------------------------------------
 
     def _case(self, function, case):

@@ -36,6 +36,13 @@ need_packages() {
   rm -f "$log"
 }
 
+# Gives a Wine prefix the font of the signs in a caption's buttons, which are letters without it.
+wine_symbols() {
+  for font in /usr/share/wine/fonts/marlett.ttf "$CACHE/wine32/usr/share/wine/fonts/marlett.ttf"; do
+    [ ! -e "$font" ] || cp "$font" "$1/drive_c/windows/Fonts"
+  done
+}
+
 # The packages of a native build and its tests.
 NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libcli11-dev nlohmann-json3-dev
                  libbenchmark-dev libsqlite3-dev libxlsxwriter-dev clang-format python3"

@@ -38,7 +38,7 @@ void CString::Free(Data* data) noexcept {
   ::operator delete(data);
 }
 
-CString::CString(const wchar_t* text) : CString(text ? std::wstring_view(text) : L"") {}
+CString::CString(const wchar_t* text) : CString(ViewOf(text)) {}
 
 CString::CString(const wchar_t* text, int length)
     : CString(text && length > 0 ? std::wstring_view(text, static_cast<std::size_t>(length))

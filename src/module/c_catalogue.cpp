@@ -1,4 +1,7 @@
 // The C interface: the catalogue, the geometry of its rows, and the browser.
+#include <cmath>
+
+#include "dialogs/model/spacing_model.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "module/c_support.h"
@@ -55,6 +58,33 @@ const CDataCell& CellOf(const CDataItem& row, const orv3_char* sign) {
                    ToUtf8(row.GetTableName()) + "\"; orv3_list_columns names them");
   }
   return row[index];
+}
+
+// The quarter turn from 0 to 270 degrees that a turn comes to.
+double QuarterTurnOf(double turn) {
+  constexpr double kQuarter = 90;
+  constexpr double kSame = 1e-4;  // degrees, as the geometry itself takes a turn
+  const double within = std::remainder(turn, 4 * kQuarter);
+  const double quarters = std::round(within / kQuarter);
+  if (!(std::fabs(within - kQuarter * quarters) < kSame)) {
+    throw CFailure("turn: " + ToUtf8(FormatShortest(turn)) +
+                   " is no quarter turn; give a multiple of 90 degrees");
+  }
+  return kQuarter * (quarters < 0 ? quarters + 4 : quarters);
+}
+
+// The row with its two parts this far apart.
+CDataItem SpacedRow(const CDataItem& row, double spacing) {
+  constexpr double kMost = 1000;
+  if (SpacingKindOf(row.GetTableName()) == CSpacingKind::None) {
+    throw CFailure("table: \"" + ToUtf8(row.GetTableName()) +
+                   "\" has no spacing; orv3_geometry takes its sections");
+  }
+  if (!(spacing >= 0 && spacing <= kMost && spacing == std::floor(spacing))) {
+    throw CFailure("spacing: " + ToUtf8(FormatShortest(spacing)) +
+                   " mm is not possible; give a whole number from 0 to 1000");
+  }
+  return WithSpacing(row, FormatInt(static_cast<int>(spacing)));
 }
 
 // In the order of the enumeration in the header.
@@ -163,7 +193,19 @@ int ORV3_CALL orv3_cell_value(const orv3_char* table, const orv3_char* number,
 
 int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, double turn,
                             double* values, int room) {
-  return Guarded([&] { return GiveValues(GeometryOf(RowOf(table, number), turn), values, room); });
+  return Guarded([&] {
+    const double quarter = QuarterTurnOf(turn);
+    return GiveValues(GeometryOf(RowOf(table, number), quarter), values, room);
+  });
+}
+
+int ORV3_CALL orv3_pair_geometry(const orv3_char* table, const orv3_char* number, double spacing,
+                                 double turn, double* values, int room) {
+  return Guarded([&] {
+    const double quarter = QuarterTurnOf(turn);
+    const CDataItem row = SpacedRow(RowOf(table, number), spacing);
+    return GiveValues(GeometryOf(row, quarter), values, room);
+  });
 }
 
 #ifdef _WIN32

@@ -4,6 +4,8 @@
 
 #include "catalogue/code_tables/table_search.h"
 #include "connections/cases/case_rules.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
 #include "module/c_support.h"
 
 namespace orv3::c_interface {
@@ -13,6 +15,12 @@ void CheckThickness(double thickness) {
   if (!(thickness > 0 && thickness <= 100))
     throw CFailure("thickness: " + PlainNumber(thickness) +
                    " mm is in no group of the table; give a thickness above 0 and up to 100");
+}
+
+void CheckWithin(const char* argument, double value, double least, double most) {
+  if (value >= least && value <= most) return;
+  throw CFailure(std::string(argument) + ": " + ToUtf8(FormatShortest(value)) +
+                 " is not possible; give " + PlainNumber(least) + " to " + PlainNumber(most));
 }
 
 // Table 3.4.1-3 groups the thicknesses of Q235 at 16, 40 and 60 mm and those of the other steels at
@@ -62,10 +70,11 @@ int ORV3_CALL orv3_phi(double slenderness, double yield, const orv3_char* buckli
                        double* value) {
   return Guarded([&] {
     static constexpr const char* kClasses[] = {"a", "b", "c", "d"};
+    CheckWithin("slenderness", slenderness, 0, 1000);
+    CheckWithin("yield", yield, 100, 1000);
     const int bucklingClass = WordAmong(buckling_class, "buckling_class", kClasses);
     double phi = 0;
-    if (!CTableSearch::SearchSub12(slenderness, yield, bucklingClass, phi))
-      throw CFailure("slenderness, yield: must be numbers that are not below 0");
+    CTableSearch::SearchSub12(slenderness, yield, bucklingClass, phi);
     return GiveValue(phi, value);
   });
 }

@@ -4,16 +4,17 @@
 #include <climits>
 
 #include "framework/utf8.h"
+#include "platform/per_thread.h"
 
 namespace orv3::c_interface {
 namespace {
 
 constexpr char32_t kPastTheFirstPlane = 0x10000;
 
-// Not thread_local: a destructor that a thread runs at its end could outlive the library.
+// The calling thread's own. Not thread_local, which would keep the library loaded: per_thread.h.
 std::u16string& LastError() {
-  static std::u16string text;
-  return text;
+  static CPerThread<std::u16string> texts;
+  return texts.Here();
 }
 
 std::u16string Utf16Of(const CString& text) {
@@ -63,16 +64,19 @@ int GiveUnits(const std::u16string& text, orv3_char* out, int size) {
 }  // namespace
 
 int KeepFailure() noexcept {
+  std::u16string* kept = nullptr;
   try {
+    kept = &LastError();
+    kept->clear();
     try {
       throw;
     } catch (const std::exception& error) {
-      LastError() = Utf16Of(FromUtf8(error.what()));
+      *kept = Utf16Of(FromUtf8(error.what()));
     } catch (...) {
-      LastError() = u"an error of an unknown kind";
+      *kept = u"an error of an unknown kind";
     }
   } catch (...) {  // no memory for the text either
-    LastError().clear();
+    if (kept != nullptr) kept->clear();
   }
   return -1;
 }

@@ -2,10 +2,11 @@
  * The flat C interface of Orv3Cal, for spreadsheets, scripts and programs of other compilers.
  *
  * Functions: undecorated names; __stdcall in the 32-bit Windows library, the system's C convention
- * elsewhere. All of them belong to one thread, and nothing is thrown.
+ * elsewhere. Nothing is thrown. Sections, checks and figures of the code may be asked for on
+ * several threads at once; the catalogue and the dialogs belong to one.
  *
- * Results: a negative result is a failure, and orv3_last_error tells the reason. Otherwise the
- * result is what the function's comment says.
+ * Results: a negative result is a failure, and orv3_last_error on the same thread tells the reason.
+ * Otherwise the result is what the function's comment says.
  *
  * Texts: UTF-16, ended by a zero. A function that gives a text takes `text` and `size`, the room
  * there in characters with the ending zero; it writes what fits and returns the length of the whole
@@ -21,7 +22,7 @@
 #define ORV3CAL_C_H
 
 /* Raised whenever a function is added; functions never change or go. */
-#define ORV3_INTERFACE_VERSION 1
+#define ORV3_INTERFACE_VERSION 2
 
 #if defined(_WIN32)
 #define ORV3_CALL __stdcall
@@ -49,7 +50,8 @@ typedef unsigned short orv3_char;
 /* The interface version of the library that was loaded. */
 ORV3_API int ORV3_CALL orv3_version(void);
 
-/* Why the last failing call failed: one line that says what was wrong and what would be right. */
+/* Why the last failing call of this thread failed: one line that says what was wrong and what would
+ * be right. */
 ORV3_API int ORV3_CALL orv3_last_error(orv3_char* text, int size);
 
 /* --- Sections from their sizes ------------------------------------------------------------------
@@ -93,7 +95,7 @@ enum {
 ORV3_API int ORV3_CALL orv3_list_styles(orv3_char* text, int size);
 
 /* The signs of a style's sizes in their order, a list. `style` is a table name, a style number as
- * text, or a short English name such as "h". */
+ * text, or a short English name such as "h", in capitals or not. */
 ORV3_API int ORV3_CALL orv3_list_sizes(const orv3_char* style, orv3_char* text, int size);
 
 /* Computes a section of `count` sizes with its base point at (x, y), and writes the first `room`
@@ -150,10 +152,16 @@ enum {
 };
 
 /* The geometry of a catalogue section; writes the first `room` values and returns how many were
- * written. A quarter turn (90, 180, 270, counter-clockwise) turns width, height, xc, yc, Ix and Iy;
- * everything else is of the section as it stands in the catalogue. */
+ * written. A quarter turn, counter-clockwise, turns width, height, xc, yc, Ix and Iy; everything
+ * else is of the section as it stands in the catalogue. `turn` is any multiple of 90 (-90 is 270,
+ * 450 is 90). The parts of a pair touch. */
 ORV3_API int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, double turn,
                                      double* values, int room);
+
+/* The same of two angles, of a cross of angles, or of two channels back to back, whose parts stand
+ * `spacing` apart: whole mm, 0 to 1000. */
+ORV3_API int ORV3_CALL orv3_pair_geometry(const orv3_char* table, const orv3_char* number,
+                                          double spacing, double turn, double* values, int room);
 
 /* --- Checks by GB 50017-2003 --------------------------------------------------------------------
  */
@@ -176,8 +184,8 @@ ORV3_API int ORV3_CALL orv3_steel_strength(const orv3_char* steel, double thickn
 /* Strength of a weld; `kind` is "fcw", "ftw12", "ftw3", "fvw" or "ffw". Table 3.4.1-3. */
 ORV3_API int ORV3_CALL orv3_weld_strength(const orv3_char* steel, double thickness,
                                           const orv3_char* kind, double* value);
-/* Stability factor of an axially compressed member: slenderness, yield strength in N/mm^2, buckling
- * class "a", "b", "c" or "d". Appendix C. */
+/* Stability factor of an axially compressed member: slenderness, 0 to 1000; yield strength, 100 to
+ * 1000 N/mm^2; buckling class "a", "b", "c" or "d". Appendix C. */
 ORV3_API int ORV3_CALL orv3_phi(double slenderness, double yield, const orv3_char* buckling_class,
                                 double* value);
 

@@ -16,9 +16,10 @@ const CStoreError& LastStoreError() { return Current(); }
 
 void ClearStoreError() { Current() = CStoreError(); }
 
-int SetStoreError(CStoreTrouble trouble, const CString& path, const CString& text) {
+int SetStoreError(CStoreTrouble trouble, const CString& path, const CString& text,
+                  const CString& place) {
   CStoreError& error = Current();
-  if (error.m_nTrouble == CStoreTrouble::None) error = {trouble, path, text};
+  if (error.m_nTrouble == CStoreTrouble::None) error = {trouble, path, text, place};
   return 0;
 }
 

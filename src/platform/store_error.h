@@ -21,7 +21,8 @@ enum class CStoreTrouble {
 struct CStoreError {
   CStoreTrouble m_nTrouble = CStoreTrouble::None;
   CString m_strPath;
-  CString m_strText;  // one line: what was wrong and what would be right
+  CString m_strText;   // one line: what was wrong and what would be right
+  CString m_strPlace;  // what of the file it is about, as the dialogs' users know it; may be empty
 };
 
 // Of this thread's last operation; None after one that succeeded.
@@ -30,6 +31,7 @@ ORV3CAL_API const CStoreError& LastStoreError();
 void ClearStoreError();
 // Keeps the first trouble since the last clearing, which is the cause of those after it. Returns 0,
 // the result that the failing operation gives.
-int SetStoreError(CStoreTrouble trouble, const CString& path, const CString& text);
+int SetStoreError(CStoreTrouble trouble, const CString& path, const CString& text,
+                  const CString& place = {});
 
 }  // namespace orv3

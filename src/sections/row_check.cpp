@@ -160,13 +160,39 @@ CFault CheckLattice(const CDataItem& item) {
 
 // --- Rows of any other table --------------------------------------------------------------------
 
+// Where a pair's spacing stands: its parts may touch.
+bool IsSpacing(const CDataItem& item, int cell) {
+  constexpr long kPairs = TABLE_ROLLED | TABLE_FAMILY_ANGLE_PAIR | TABLE_FAMILY_CHANNEL_PAIR;
+  return cell == 1 && CLoadDataTable::IsTableNameType(item.m_strTableName, kPairs) != 0;
+}
+
+// A figure of the catalogue: what a rolled section measures and what follows from it. A size is
+// above 0, a radius, a weld or a property may be 0. No section is wider than a kilometre.
+CFault CheckFigure(const CDataItem& item, int cell) {
+  constexpr double kMostLength = 1e6, kMost = 1e15;
+  const CString sign = item.GetCellSign(cell);
+  const bool length = sign.Right(4) == L"(mm)";
+  const bool size = length && sign.Left(1) != L"r" && sign != L"hf(mm)" && !IsSpacing(item, cell);
+  const double value = ToDouble(Value(item, cell));
+  const double most = length ? kMostLength : kMost;
+  if (value > most) {
+    return Fault(item, cell, Value(item, cell) + L"不可用，不应大于" + FormatG(most) + L"。");
+  }
+  if (value > 0 || (value == 0 && !size)) return {};
+  return Fault(item, cell,
+               Value(item, cell) + (size ? L"不可用，应大于0。" : L"不可用，不应小于0。"));
+}
+
 CFault CheckCells(const CDataItem& item) {
+  const bool rolled = CLoadDataTable::IsTableNameType(item.m_strTableName, kCatalogueTables) != 0;
   for (int cell = 1; cell < item.GetItemLength(); ++cell) {
     const bool number = ValueClassOf(item.m_arrCell.GetAt(cell).m_nType) != CValueClass::Text;
     const bool empty = CString(Value(item, cell)).Trim().IsEmpty();
     if (auto fault = number && !empty ? CheckNumber(item, cell) : CheckStored(item, cell)) {
       return fault;
     }
+    const bool figure = rolled && IsNumber(Value(item, cell));  // a T's height is kept as text
+    if (auto fault = figure ? CheckFigure(item, cell) : CFault()) return fault;
   }
   return {};
 }

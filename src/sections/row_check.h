@@ -16,9 +16,10 @@ struct CRowFault {
 };
 
 // The first fault of a row in cell order; nothing when its table can take it. Every row needs a
-// number ("No.") and values that a table file holds whole; a column of numbers takes numbers. A
-// user-defined row needs sizes that make a section, a lattice row spacings above 0, limbs that the
-// system store has and quarter turns. Results, which are computed, are not looked at.
+// number ("No.") and values that a table file holds whole; a column of numbers takes numbers, one
+// of the catalogue sizes above 0, up to a kilometre, and no figure below 0. A user-defined row
+// needs sizes that make a section, a lattice row spacings above 0, limbs that the system store has
+// and quarter turns. Results, which are computed, are not looked at.
 ORV3CAL_API std::optional<CRowFault> CheckRow(const CDataItem& item);
 
 }  // namespace orv3

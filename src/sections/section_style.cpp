@@ -1,5 +1,6 @@
 #include "sections/section_style.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace orv3 {
@@ -217,8 +218,11 @@ const CSectionStyle* FindSectionStyle(std::wstring_view tableName) noexcept {
 }
 
 const CSectionStyle* FindSectionAlias(std::string_view alias) noexcept {
+  const auto lower = [](char ch) {
+    return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch;
+  };
   for (const CSectionStyle& style : kStyles) {
-    if (alias == style.m_szAlias) return &style;
+    if (std::ranges::equal(alias, std::string_view(style.m_szAlias), {}, lower)) return &style;
   }
   return nullptr;
 }

@@ -25,6 +25,9 @@ class ORV3CAL_API CDataItem {
 
   // The first cell with the sign (whole, case-sensitive); -1 when there is none.
   int GetSignIndex(std::wstring_view sign) const noexcept;
+  int GetSignIndex(const wchar_t* sign) const noexcept {
+    return GetSignIndex(CString::ViewOf(sign));
+  }
 
   // The cell's GetItemValue; 0 as well when there is no such cell.
   template <class VALUE>

@@ -52,6 +52,7 @@ class ORV3CAL_API CDataTable {
   CDataItem& operator[](int position) { return m_arrItem[position]; }
   const CDataItem& operator[](int position) const { return m_arrItem[position]; }
   int GetTableColIndex(std::wstring_view sign) const noexcept { return m_Title.GetColIndex(sign); }
+  int GetTableColIndex(const wchar_t* sign) const noexcept { return m_Title.GetColIndex(sign); }
 
   // --- Name, parent, file -----------------------------------------------------------------------
   CString GetTableName() const { return m_strTableName; }

@@ -59,8 +59,9 @@ class ORV3CAL_API CDataTableTitle {
   const CDataTypeStruct& operator[](const wchar_t* sign) const;
 
   int GetColIndex(std::wstring_view sign) const noexcept;  // -1 when there is none
-  CString GetColName(int index) const;                     // empty out of range
-  CString GetColSign(int index) const;                     // empty out of range
+  int GetColIndex(const wchar_t* sign) const noexcept { return GetColIndex(CString::ViewOf(sign)); }
+  CString GetColName(int index) const;  // empty out of range
+  CString GetColSign(int index) const;  // empty out of range
   // Always KVBT_STRING for a column that is there, whatever its stored type: callers rely on it.
   // The stored type is operator[](index).m_nType. CInvalidArgException out of range.
   KVBT_Value_Type GetColType(int index) const;

@@ -186,6 +186,52 @@ TEST_F(BrowserRows, AddsEditsAndDeletes) {
   EXPECT_TRUE(m_user.TakeMessages().empty());
 }
 
+TEST_F(BrowserRows, DeletionsSelectTheNeighbourAndAreTakenBack) {
+  auto model = Open(kH, L"H400X300");
+  for (const wchar_t* number : {L"A", L"B", L"C"}) {
+    m_user.m_fnProperty = Typing(m_user, {{L"No.", number}});
+    model->Add();
+  }
+  model->SelectItem(1);
+  model->Delete();
+  EXPECT_EQ(Selected(*model), "B");
+  model->Delete();
+  EXPECT_EQ(Selected(*model), "C");
+  model->Delete();
+  EXPECT_EQ(Selected(*model), "H400X300") << "nothing follows: the one before";
+  EXPECT_EQ(m_store.Numbers(kH), "H400X300");
+  // From another table, under a filter that hides the row, and its place taken by another one.
+  model->TakeBack();
+  EXPECT_EQ(Selected(*model), "C");
+  m_user.m_fnProperty = Typing(m_user, {{L"No.", L"D"}});
+  model->Add();
+  model->SelectNode(0);
+  ASSERT_STREQ(model->ItemText(0, 0), L"I20a");
+  EXPECT_EQ(model->TakeBack(), CListChange::Columns);
+  EXPECT_EQ(Selected(*model), "B");
+  model->SetSearchColumn(1);
+  model->SetSearchValue(L"H4");
+  model->Search();
+  ASSERT_EQ(model->ItemCount(), 1);
+  EXPECT_TRUE(model->CanTakeBack());
+  model->TakeBack();
+  EXPECT_EQ(Selected(*model), "A");
+  EXPECT_EQ(m_store.Numbers(kH), "H400X300 D B C A");
+  EXPECT_FALSE(model->CanTakeBack());
+  EXPECT_EQ(model->TakeBack(), CListChange::None);
+  // A number that has been given to another section is refused, and free again it is not lost.
+  model->Delete();
+  m_user.m_fnProperty = Typing(m_user, {{L"No.", L"A"}});
+  model->Add();
+  model->TakeBack();
+  EXPECT_EQ(m_user.TakeMessages(), std::vector<std::string>{"型号=A，该条数据记录已经存在!"});
+  m_user.m_fnProperty = Typing(m_user, {{L"No.", L"E"}});
+  model->Edit();
+  model->TakeBack();
+  EXPECT_EQ(Selected(*model), "A");
+  EXPECT_TRUE(m_user.TakeMessages().empty());
+}
+
 TEST_F(BrowserRows, CancelledDialogsChangeNothing) {
   auto model = Open(kH, L"H400X300");
   const std::string before = Bytes(m_store.StorePath());
@@ -221,6 +267,11 @@ TEST_F(BrowserRows, CopiesARolledRow) {
     answers.erase(answers.begin());
     return true;
   };
+  m_user.m_arrAnswer = {CMessageAnswer::No};
+  EXPECT_EQ(model->Add(), CListChange::None) << "A is no longer that of the height";
+  EXPECT_EQ(m_user.TakeMessages(), std::vector{"h(mm)" + ToUtf8(texts::kSizesChanged) + "A(cm^2)" +
+                                               ToUtf8(texts::kOldFigures)});
+  m_user.m_arrAnswer = {CMessageAnswer::Yes, CMessageAnswer::Yes};
   EXPECT_EQ(model->Add(), CListChange::Rows);
   EXPECT_TRUE(answers.empty());
   EXPECT_EQ(m_store.Numbers(kI), "I20a I20b I22a I10 I20c");
@@ -233,7 +284,7 @@ TEST_F(BrowserRows, CopiesARolledRow) {
   m_user.m_fnSign = [](CSignModel&) { return false; };
   m_user.m_fnProperty = Typing(m_user, {});
   EXPECT_EQ(model->Copy(), CListChange::None) << "no number given";
-  EXPECT_TRUE(m_user.TakeMessages().empty());
+  EXPECT_EQ(m_user.TakeMessages().size(), 2U) << "the questions for old figures";
 }
 
 // A row that is the only one to match stays found while it is edited.
@@ -244,11 +295,11 @@ TEST_F(BrowserRows, ChangesKeepSearchAndOrder) {
   model->SetSearchValue(L"150");
   model->Search();
   ASSERT_EQ(model->ItemCount(), 1);
-  m_user.m_fnProperty = Typing(m_user, {{L"h(mm)", L"120"}});
+  m_user.m_fnProperty = Typing(m_user, {{L"h(mm)", L"120"}, {L"A(cm^2)", L"16"}});
   model->Edit();
   EXPECT_EQ(model->ItemCount(), 1);
   EXPECT_STREQ(model->ItemText(0, 1), L"120");
-  m_user.m_fnProperty = Typing(m_user, {{L"h(mm)", L"160"}});
+  m_user.m_fnProperty = Typing(m_user, {{L"h(mm)", L"160"}, {L"A(cm^2)", L"20"}});
   model->Edit();
   EXPECT_EQ(model->ItemCount(), 0);
   EXPECT_EQ(model->SelectedItem(), -1);
@@ -329,7 +380,8 @@ TEST_F(BrowserRows, FailedSavesAreToldAndChangeNothing) {
   SetBusyWait(wait);
   ASSERT_EQ(m_user.m_arrMessage.size(), 2U);
   for (const std::string& text : m_user.TakeMessages()) {
-    EXPECT_EQ(text.rfind("数据保存失败：文件正被其他程序使用，请稍后再试。\n", 0), 0U) << text;
+    EXPECT_EQ(text,
+              "数据保存失败：文件正被其他程序使用，请稍后再试。\n" + ToUtf8(m_store.StorePath()));
   }
   EXPECT_EQ(model->ItemCount(), 1);
   EXPECT_EQ(m_store.Numbers(kH), "H400X300");
@@ -356,8 +408,9 @@ TEST_F(BrowserRows, RefusesWhatTheFileCannotHold) {
   m_user.m_fnProperty = Typing(m_user, {{L"No.", L"more"}});
   EXPECT_EQ(model->Add(), CListChange::None);
   const auto messages = m_user.TakeMessages();
-  ASSERT_EQ(messages.size(), 1U);
-  EXPECT_EQ(messages[0].rfind("数据保存失败：数据超出截面库文件的格式，没有保存。\n", 0), 0U);
+  EXPECT_EQ(messages, std::vector{"数据保存失败：数据过长、过多，或含有不能保存的字符，没有保存。\n"
+                                  "剖分T型钢\n" +
+                                  ToUtf8(m_store.StorePath())});
   EXPECT_EQ(m_store.Read(L"剖分T型钢").GetTableRowNum(), rows);
 }
 
@@ -472,14 +525,27 @@ TEST_F(BrowserImport, OverwritesOnlyWhenAsked) {
 
 TEST_F(BrowserImport, TellsFilesThatAreNone) {
   auto model = Open(kI, L"I20a");
-  PutBytes(m_store.Path(L"bad.Kvb"), "x");
-  m_user.m_arrOpen.insert(m_user.m_arrOpen.begin(), m_store.Path(L"bad.Kvb"));
+  CDataTable other = m_store.Read(kH);
+  other.SetTableName(kI);
+  ASSERT_EQ(other.WriteTable(m_store.Path(L"other.KDB"), kSystemKind, 1), 1);
+  for (const wchar_t* name : {L"bad.Kvb", L"DbData.kvb", L"bad.KDB"}) {
+    PutBytes(m_store.Path(name), "x");
+    m_user.m_arrOpen.push_back(m_store.Path(name));
+  }
+  m_user.m_arrOpen.push_back(m_store.Path(L"none.KDB"));
+  m_user.m_arrOpen.push_back(m_store.Path(L"other.KDB"));
   m_user.m_arrAnswer = {CMessageAnswer::No};
   model->Import();
   const auto messages = m_user.TakeMessages();
   ASSERT_EQ(messages.size(), 2U);
-  EXPECT_NE(messages[1].find("bad.Kvb"), std::string::npos) << messages[1];
-  EXPECT_EQ(messages[1].find("in.KDB"), std::string::npos) << messages[1];
+  EXPECT_EQ(messages[1],
+            "以下内容未能导入："
+            "\nbad.Kvb：没有以此为名的型钢数据文件，应为例如DbData.kvb。"
+            "\nDbData.kvb：文件已损坏或不能读取。"
+            "\nbad.KDB：文件已损坏或不能读取。"
+            "\nnone.KDB：文件或文件夹不存在。"
+            "\nother.KDB，热轧普通工字钢：" +
+                ToUtf8(texts::kImportOtherColumns));
   EXPECT_EQ(model->ItemCount(), 5) << "the other file was brought in";
 }
 

@@ -114,8 +114,7 @@ TEST_F(Browser, WithoutTables) {
   EXPECT_EQ(model.ChooseColumns(), CListChange::None);
   EXPECT_EQ(model.Search(), CListChange::Rows);
   EXPECT_EQ(model.CopyText(), L"");
-  EXPECT_TRUE(model.Ok());
-  EXPECT_TRUE(model.ChosenRow().IsEmpty());
+  EXPECT_FALSE(model.Ok()) << "there is nothing to hand back";
   EXPECT_TRUE(m_user.m_arrMessage.empty());
 }
 
@@ -275,6 +274,21 @@ TEST_F(Browser, SearchWithoutAColumnKeepsTheFilter) {
   EXPECT_EQ(model.CountText(), L"共 1 条记录");
 }
 
+TEST_F(Browser, NumbersAreFilteredByNumbers) {
+  CBrowserModel model = Open();
+  model.Open();
+  Search(model, L"h(mm)", 2, L" 200 ", false);
+  ASSERT_EQ(Column(model), "I22a");
+  model.SetSearchValue(L"abc");
+  EXPECT_EQ(model.Search(), CListChange::None);
+  EXPECT_EQ(m_user.TakeMessages(), std::vector{"“abc”" + ToUtf8(texts::kNoNumber)});
+  EXPECT_EQ(Column(model), "I22a") << "the filter before stays";
+  EXPECT_EQ(Search(model, L"h(mm)", 2, L" ", false), " : I20a I20b I22a I10");
+  EXPECT_EQ(model.CountText(), L"共 4 条记录");
+  EXPECT_EQ(Search(model, L"h(mm)", 0, L"500", false), "h(mm)==500 : ");
+  EXPECT_FALSE(model.Ok()) << "no row is found";
+}
+
 // --- List ---------------------------------------------------------------------------------------
 
 TEST_F(Browser, ListColumns) {
@@ -299,7 +313,7 @@ TEST_F(Browser, SortsAndKeepsTheSelectedRow) {
   CBrowserModel model = Open();
   model.Open();
   model.SelectItem(3);  // I10
-  EXPECT_EQ(model.SortBy(3), CListChange::Rows);
+  EXPECT_EQ(model.SortBy(3), CListChange::Order);
   EXPECT_EQ(Column(model), "I10 I20a I20b I22a");
   EXPECT_EQ(model.SelectedItem(), 0);
   EXPECT_EQ(model.Column(3).m_nSorted, 1);

@@ -107,6 +107,34 @@ TEST(Property, FaultsKeepItOpenAndNameTheLine) {
   }
 }
 
+// What a catalogue could not print; and sizes that no longer make the section that they made.
+TEST(Property, FiguresOfARolledSection) {
+  const CDialogStore store;
+  PutBytes(store.StorePath(), Bytes(FromUtf8(ORV3CAL_CATALOGUE) + L"/" + kSystemStore));
+  constexpr wchar_t kTable[] = L"热轧普通工字钢";
+  struct CCase {
+    const wchar_t* sign;
+    const wchar_t* text;
+    bool line;  // the message is about the value, and leads to it
+  };
+  for (const CCase& c : {CCase{L"h(mm)", L"-5", true},
+                         {L"h(mm)", L"1e300", true},
+                         {L"h(mm)", L"0", true},
+                         {L"A(cm^2)", L"-1", true},
+                         {L"Ix(cm^4)", L"1e300", true},
+                         {L"h(mm)", L"10", false}}) {
+    CScriptedUser user;
+    CPropertyModel model(CLoadDataTable::GetSysTemJMItem(kTable, L"I20a"), kTable, 1);
+    model.SetValue(LineOf(model, c.sign), c.text);
+    EXPECT_FALSE(model.Ok(user)) << ToUtf8(c.text);
+    EXPECT_EQ(user.TakeMessages().size(), 1U) << ToUtf8(c.text);
+    EXPECT_EQ(model.FaultLine(), c.line ? LineOf(model, c.sign) : -1) << ToUtf8(c.text);
+  }
+  CScriptedUser user;
+  CPropertyModel model(CLoadDataTable::GetSysTemJMItem(kTable, L"I20a"), kTable, 1);
+  EXPECT_TRUE(model.Ok(user)) << "as printed";
+}
+
 TEST(Property, RefusedByTheCallerItStaysAsItWas) {
   CScriptedUser user;
   CPropertyModel model(DefaultRow(L"矩形截面"), L"矩形截面", 1);

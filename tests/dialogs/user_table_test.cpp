@@ -149,8 +149,13 @@ TEST_F(UserTables, SavedChangesCanBeUndoneAndSavedAgain) {
     model->AddRow();
   }
   ASSERT_TRUE(model->Save());
+  model->SelectRow(2);
+  model->DeleteRow();
+  EXPECT_EQ(model->SelectedRow(), 1) << "the neighbour";
+  model->Undo();
   model->SelectRow(1);
   model->DeleteRow();
+  EXPECT_EQ(model->SelectedRow(), 1);
   Type({{L"No.", L"D"}});
   model->AddRow();
   ASSERT_TRUE(model->Save());
@@ -202,6 +207,10 @@ TEST_F(UserTables, NamesThatAreRefused) {
   EXPECT_EQ(m_user.TakeMessages(),
             (std::vector{ToUtf8(texts::kTableNameTaken), ToUtf8(texts::kTableNameComma),
                          ToUtf8(texts::kTableNameTooLong), ToUtf8(texts::kTableNameMissing)}));
+  EXPECT_TRUE(model->NewTable(TemplateOf(*model, L"三角形截面")));
+  EXPECT_FALSE(model->NewTable(TemplateOf(*model, L"三角形截面"))) << "one is there";
+  EXPECT_EQ(m_user.TakeMessages(), std::vector{ToUtf8(texts::kTableNameTaken)});
+  model->Undo();
   m_user.m_arrText = {kRect};
   EXPECT_FALSE(model->RenameTable());
   EXPECT_EQ(m_user.TakeMessages(), std::vector{ToUtf8(texts::kNameOfOtherColumns)});

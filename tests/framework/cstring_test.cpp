@@ -67,6 +67,22 @@ TEST(String, FindsTrimsAndReplaces) {
   EXPECT_THROW(text.GetAt(8), CInvalidArgException);
 }
 
+TEST(String, TakesANullPointerForTheEmptyText) {
+  const wchar_t* const none = nullptr;
+  CString text(L" ab ");
+  EXPECT_EQ(text.Find(none), 0);
+  EXPECT_GT(text.Compare(none), 0);
+  EXPECT_EQ(CString(text).Trim(none), text);
+  EXPECT_EQ(text.Replace(none, L"x"), 0);
+  EXPECT_EQ(text += none, L" ab ");
+  EXPECT_EQ(text + none, L" ab ");
+  EXPECT_EQ(none + text, L" ab ");
+  text = none;
+  EXPECT_TRUE(text.IsEmpty() && text == none);
+  text = std::wstring(L"c");
+  EXPECT_EQ(text, L"c");
+}
+
 // A character beyond 0xFFFF is two code units from 0xD800 on and so stands before 0xFF01.
 TEST(String, OrdersByUtf16CodeUnits) {
   const CString beyond = orv3::FromUtf8("\xF0\xA0\x80\x80");

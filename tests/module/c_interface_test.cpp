@@ -5,6 +5,7 @@
 #include <cmath>
 #include <map>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "framework/utf8.h"
@@ -83,13 +84,24 @@ TEST(CTexts, AreCutToTheRoomThereIsAndNeverInsideACharacter) {
   }
 }
 
+TEST(CTexts, TellEachThreadItsOwnFailure) {
+  ASSERT_EQ(orv3_list_sizes(u"here", nullptr, 0), -1);
+  std::thread([] {
+    EXPECT_EQ(LastError(), "");
+    ASSERT_EQ(orv3_list_sizes(u"there", nullptr, 0), -1);
+    EXPECT_NE(LastError().find("there"), std::string::npos);
+  }).join();
+  EXPECT_NE(LastError().find("here\""), std::string::npos) << LastError();
+  EXPECT_EQ(LastError().find("there"), std::string::npos) << LastError();
+}
+
 TEST(CTexts, AnswerTheInterfaceVersion) { EXPECT_EQ(orv3_version(), ORV3_INTERFACE_VERSION); }
 
 // --- Sections ------------------------------------------------------------------------------------
 
 TEST(CSection, ComputesAnHSectionUnderEachNameOfItsStyle) {
   const double sizes[] = {300, 400, 10, 10};  // b, h, tf, tw
-  for (const char16_t* style : {u"自定义对称H型钢", u"0", u"h"}) {
+  for (const char16_t* style : {u"自定义对称H型钢", u"0", u"h", u"H"}) {
     double p[ORV3_PROPERTIES + 1] = {};
     p[ORV3_PROPERTIES] = -7;
     ASSERT_EQ(orv3_section(style, sizes, 4, 150, 0, p, ORV3_PROPERTIES + 1), ORV3_PROPERTIES);
@@ -276,7 +288,10 @@ TEST(CCode, GivesThePrintedStabilityFactors) {
     ASSERT_EQ(orv3_phi(c.lambda, 235, c.bucklingClass, &value), 0) << LastError();
     EXPECT_NEAR(value, c.phi, 0.0005) << c.lambda;
   }
-  EXPECT_EQ(orv3_phi(-1, 235, u"a", &value), -1);
+  for (const double wrong : {-1.0, 1e300, std::nan("")})
+    EXPECT_EQ(orv3_phi(wrong, 235, u"a", &value), -1) << wrong;
+  for (const double wrong : {-235.0, 0.0, 0.235, 1e300, std::nan("")})
+    EXPECT_EQ(orv3_phi(100, wrong, u"a", &value), -1) << wrong;
   EXPECT_EQ(orv3_phi(100, 235, u"e", &value), -1);
 }
 
@@ -347,9 +362,43 @@ TEST_F(CCatalogue, GivesCellsAndGeometry) {
   EXPECT_EQ(g[ORV3_GEO_SYMX], 1);
   EXPECT_NEAR(g[ORV3_GEO_IX], 273.927e6, 500);  // six digits in the row
   const double Ix = g[ORV3_GEO_IX];
-  ASSERT_EQ(orv3_geometry(own, u"H400", 90, g, ORV3_GEOMETRY), ORV3_GEOMETRY);
-  EXPECT_EQ(g[ORV3_GEO_WIDTH], 400);
-  EXPECT_EQ(g[ORV3_GEO_IY], Ix);
+  for (const double turn : {90.0, -90.0, 450.0, 270.00005}) {
+    ASSERT_EQ(orv3_geometry(own, u"H400", turn, g, ORV3_GEOMETRY), ORV3_GEOMETRY) << turn;
+    EXPECT_EQ(g[ORV3_GEO_WIDTH], 400) << turn;
+    EXPECT_EQ(g[ORV3_GEO_IY], Ix) << turn;
+  }
+  for (const double turn : {45.0, -0.001, 1e-3, HUGE_VAL, std::nan("")}) {
+    EXPECT_EQ(orv3_geometry(own, u"H400", turn, g, ORV3_GEOMETRY), -1) << turn;
+    EXPECT_EQ(LastError().find("turn: "), 0U) << LastError();
+  }
+}
+
+// By the parallel axis theorem from the component, the centroids zo from the backs.
+TEST(CPairs, StandApartByTheSpacingThatIsGiven) {
+  ASSERT_EQ(orv3_open_data(Utf16(orv3::FromUtf8(ORV3CAL_CATALOGUE)).c_str()), 0) << LastError();
+  const char16_t *const angles = u"热轧等边角钢", *const pairs = u"热轧等边角钢组合";
+  double A = 0, Iy = 0, zo = 0;
+  ASSERT_EQ(orv3_cell_value(angles, u"L100X10", u"A(cm^2)", &A), 0);
+  ASSERT_EQ(orv3_cell_value(angles, u"L100X10", u"Ix(cm^4)", &Iy), 0);  // equal legs
+  ASSERT_EQ(orv3_cell_value(angles, u"L100X10", u"zo(cm)", &zo), 0);
+  const std::string numbers = Utf8(TextFrom(orv3_list_numbers, pairs));
+  const std::size_t at = numbers.find("L100X10\n");
+  const std::size_t begin = numbers.rfind('\n', at) + 1;
+  const CText16 pair = Utf16(orv3::FromUtf8(numbers.substr(begin, at + 7 - begin)));
+  double g[ORV3_GEOMETRY] = {};
+  for (const double spacing : {0.0, 10.0, 13.0}) {
+    ASSERT_EQ(orv3_pair_geometry(pairs, pair.c_str(), spacing, 0, g, ORV3_GEOMETRY), ORV3_GEOMETRY)
+        << LastError();
+    EXPECT_EQ(g[ORV3_GEO_WIDTH], 200 + spacing);
+    const double arm = 10 * zo + spacing / 2;
+    EXPECT_NEAR(g[ORV3_GEO_IY], 2 * (Iy * 1e4 + A * 100 * arm * arm), 1);
+  }
+  for (const double spacing : {-1.0, 2.5, 1e300, std::nan("")}) {
+    EXPECT_EQ(orv3_pair_geometry(pairs, pair.c_str(), spacing, 0, g, ORV3_GEOMETRY), -1);
+    EXPECT_EQ(LastError().find("spacing: "), 0U) << LastError();
+  }
+  EXPECT_EQ(orv3_pair_geometry(angles, u"L100X10", 10, 0, g, ORV3_GEOMETRY), -1);
+  EXPECT_EQ(LastError().find("table: "), 0U) << LastError();
 }
 
 TEST_F(CCatalogue, TellsWhatIsNotThere) {

@@ -2,11 +2,16 @@
 // caught here, with its text.
 #include <gtest/gtest.h>
 
+#include "dialogs/model/column_model.h"
+#include "dialogs/model/property_model.h"
+#include "dialogs/model/table_name_model.h"
 #include "dialogs/win32/property_dlg.h"
 #include "dialogs/win32/sect_sign_set.h"
+#include "dialogs/win32/sel_table_name_dlg.h"
 #include "dialogs/win32/steel_data_base_dlg.h"
 #include "dialogs/win32/steel_zhzj_dlg.h"
 #include "dialogs/win32/user_table_dlg.h"
+#include "dialogs/win32/view_col_dlg.h"
 #include "orv3cal.h"
 #include "platform/temp_folder.h"
 #include "win32/dialog_driver.h"
@@ -82,10 +87,26 @@ void OpenEachDialog(const CString& folder) {
   CLoadDataTable::GetDefaultDataItem(properties.m_item);
   OpenAndClose(properties, L"截面特性参数查询");
 
+  orv3::CPropertyModel edited(properties.m_item, properties.m_strTableName, 1);
+  CPropertyDlg edit(edited);
+  OpenAndClose(edit, L"截面特性参数设置");
+
+  CDataTable table;
+  table.setTableTitle(properties.m_item);
+  orv3::CColumnModel columns(table.m_Title, L"R(mm)");
+  CViewColDlg view(columns);
+  OpenAndClose(view, L"选择显示项");
+  EXPECT_EQ(columns.CheckedCount(), 1);
+
   CSteelDataBaseDlg browser;
   browser.m_strPath = folder;
   CLoadDataTable::GetTableNameArray(0x03000FFF, browser.m_arrTableName);
   OpenAndClose(browser, L"钢结构截面特性数据库");
+
+  orv3::CTableNameModel names(browser.m_arrTableName, CStringArray());
+  CSelTableNameDlg choice(names);
+  OpenAndClose(choice, L"选择截面表");
+  EXPECT_EQ(names.Count(), browser.m_arrTableName.GetSize());
 
   CUserTableDlg tables;
   tables.m_strPath = folder;

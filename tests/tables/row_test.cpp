@@ -103,6 +103,28 @@ TEST(Row, FindsCellsBySign) {
   EXPECT_EQ(row.GetItemLength(), 6) << "cells that are there stay in front";
 }
 
+TEST(Row, NullTextsAreEmptyOnes) {
+  const wchar_t* const sign = nullptr;
+  const char* const stored = nullptr;
+  CDataTable table;
+  table.SetTableName(L"T");
+  table.m_Title = Title();
+  CDataItem row;
+  row.SetItemTitle(Title());
+  EXPECT_EQ(table.GetTableColIndex(sign), -1);
+  EXPECT_EQ(table.m_Title.GetColIndex(sign), -1);
+  EXPECT_EQ(row.GetSignIndex(sign), -1);
+  EXPECT_EQ(CDataTable::TransFakeToString(stored), L"");
+  EXPECT_EQ(table.TransItemToNormal(stored), 0);
+  CDataTypeStruct column = Title()[0];
+  column.TransToNormal(stored);
+  EXPECT_EQ(column.m_strSign, L"");
+  CDataTableTitle title = Title();
+  title.TransToNormal(stored);
+  EXPECT_EQ(title.GetTableTitleNum(), 0);
+  CDataFileInfo().TransToNormal(stored);
+}
+
 TEST(Row, CopiesEverythingAndRefusesItself) {
   CDataItem row;
   row.m_strFileInfo = L"info";

@@ -65,6 +65,7 @@ TEST_F(TableStore, UserTablesAreFoundByTheirInformationLine) {
 
 TEST_F(TableStore, TheUserFolderListsWhatMayBeAUserStore) {
   CDataTable table = WithRow(L"I0");
+  EXPECT_EQ(table.WriteUserJmTable(nullptr), 0);
   ASSERT_EQ(table.WriteUserJmTable(L"user.KDB"), 1);
   ASSERT_EQ(table.WriteSystemJmTable(), 1);
   PutBytes(User(L"copied.KDB"), Bytes(m_folder.Path(L"KvbSystemJmDataBase.KDB")));

@@ -11,6 +11,7 @@
 #include <map>
 
 #include "dialogs/model/column_model.h"
+#include "dialogs/model/spacing_model.h"
 #include "dialogs/model/table_name_model.h"
 #include "dialogs/win32/progress_dlg.h"
 #include "dialogs/win32/property_dlg.h"
@@ -92,9 +93,20 @@ void OpenProperty(const wchar_t* table, int editMode) {
 
 void OpenRolledProperty() {
   CPropertyDlg dialog;
-  dialog.m_strTableName = L"热轧普通工字钢";
-  dialog.m_item = CLoadDataTable::GetSysTemJMItem(dialog.m_strTableName, L"I20a");
+  dialog.m_strTableName = L"热轧不等边角钢长边组合";
+  CStringArray numbers;
+  CLoadDataTable::GetSysTemItemNo(dialog.m_strTableName, numbers);
+  const CDataItem row = CLoadDataTable::GetSysTemJMItem(dialog.m_strTableName, numbers[20]);
+  dialog.m_item = CDataItem(orv3::WithSpacing(row, L"8"));
   dialog.DoModal();
+}
+
+// Starts changing the value of a line.
+std::function<void(const CDialogProbe&)> Edit(int line) {
+  return [line](const CDialogProbe& probe) {
+    probe.SelectItem(IDC_PROPERTY_GRID, line);
+    PostMessageW(probe.Control(IDC_PROPERTY_GRID), WM_KEYDOWN, VK_F2, 1);
+  };
 }
 
 void OpenColumns() {
@@ -145,12 +157,8 @@ std::map<std::string, CScene> Scenes() {
   return {
       {"browser", {OpenBrowser, kBrowser, SearchBeams}},
       {"property-edit",
-       {[] { OpenProperty(L"自定义对称H型钢", 1); }, L"截面特性参数设置",
-        [](const CDialogProbe& probe) {
-          probe.SelectItem(IDC_PROPERTY_GRID, 2);
-          PostMessageW(probe.Control(IDC_PROPERTY_GRID), WM_KEYDOWN, VK_F2, 1);
-        }}},
-      {"property-lattice", {[] { OpenProperty(L"四肢格构柱", 1); }, L"截面特性参数设置", nullptr}},
+       {[] { OpenProperty(L"自定义对称H型钢", 1); }, L"截面特性参数设置", Edit(2)}},
+      {"property-lattice", {[] { OpenProperty(L"四肢格构柱", 1); }, L"截面特性参数设置", Edit(3)}},
       {"property-show", {OpenRolledProperty, L"截面特性参数查询", nullptr}},
       {"number", {[] { CSectSignSet().DoModal(); }, L"型钢型号输入", nullptr}},
       {"spacing", {[] { CSteelZHZJDlg().DoModal(); }, L"型钢组合肢距输入", nullptr}},

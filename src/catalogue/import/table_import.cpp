@@ -57,7 +57,7 @@ class CTableMerger {
     if (m_result.m_nAdded + m_result.m_nReplaced == 0 && !bare) return true;
     const auto faults = SaveFaults(m_target, m_store);
     if (!faults.empty()) {
-      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText + Crowd()};
+      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText + Crowd(), false};
       return true;
     }
     m_changed = m_target.WriteTable(m_store, kSystemKind, 0) != 0;
@@ -75,6 +75,7 @@ class CTableMerger {
       m_target.m_Title = m_source.m_Title;
     } else if (!m_target.m_Title.IsEqualOf(m_source.m_Title)) {
       m_result.m_strWhy = OtherHeading();
+      m_result.m_bOtherColumns = true;
     }
     AlignIndices(m_target);
     m_hasKey = HasKey();

@@ -31,7 +31,8 @@ struct CTableImport {
   int m_nReplaced = 0;
   int m_nUnchanged = 0;
   std::vector<CRefusedRow> m_arrRefused;
-  CString m_strWhy;  // why none of its rows came in; empty otherwise
+  CString m_strWhy;              // why none of its rows came in; empty otherwise
+  bool m_bOtherColumns = false;  // that is why: the store's table of the name has other columns
 };
 
 struct CImportReport {

@@ -143,15 +143,27 @@ bool CBrowserModel::IsWholeMatchEnabled() const {
 }
 
 CListChange CBrowserModel::Search() {
-  if (m_nSearchColumn > 0 && m_nSearchColumn < m_arrSearchColumn.GetSize()) {
-    m_nWildcard = IsWholeMatchEnabled() && !m_bWholeMatch ? 1 : 0;
-    m_strFilter = m_arrSearchColumn[m_nSearchColumn];
-    if (m_nOperator >= 0 && m_nOperator < std::ssize(kOperators)) {
-      m_strFilter += kOperators[m_nOperator].m_szExpression;
-    }
-    m_strFilter += m_nWildcard ? WithStars(m_strValue) : m_strValue;
-  }
+  const bool column = m_nSearchColumn > 0 && m_nSearchColumn < m_arrSearchColumn.GetSize();
+  if (column && !MakeFilter()) return CListChange::None;
   return Refresh(CListChange::Rows);
+}
+
+bool CBrowserModel::MakeFilter() {
+  const CString value = CString(m_strValue).Trim();
+  const bool number = IsNumeric(Full().GetDataTableColType(m_nSearchColumn - 1));
+  if (number && !value.IsEmpty() && !IsNumber(value)) {
+    m_user.Tell(L"“" + value + L"”" + texts::kNoNumber);
+    return false;
+  }
+  m_nWildcard = IsWholeMatchEnabled() && !m_bWholeMatch ? 1 : 0;
+  m_strFilter.Empty();
+  if (number && value.IsEmpty()) return true;
+  m_strFilter = m_arrSearchColumn[m_nSearchColumn];
+  if (m_nOperator >= 0 && m_nOperator < std::ssize(kOperators)) {
+    m_strFilter += kOperators[m_nOperator].m_szExpression;
+  }
+  m_strFilter += m_nWildcard ? WithStars(m_strValue) : m_strValue;
+  return true;
 }
 
 void CBrowserModel::ApplySearch() {
@@ -214,11 +226,15 @@ int CBrowserModel::SelectedIndex() const {
              : -1;
 }
 
-void CBrowserModel::SelectByIndex(int index) {
+// False when the list does not show the row.
+bool CBrowserModel::SelectByIndex(int index) {
   for (int item = 0; item < ItemCount(); ++item) {
     const int row = m_arrItemRow[static_cast<std::size_t>(item)];
-    if (std::as_const(m_shown)[row].m_nIndex == index) return SelectItem(item);
+    if (std::as_const(m_shown)[row].m_nIndex != index) continue;
+    SelectItem(item);
+    return true;
   }
+  return false;
 }
 
 int CBrowserModel::FindItem(const CString& text, int start) const {
@@ -240,7 +256,7 @@ CListChange CBrowserModel::SortBy(int column) {
   m_shown.OrderTable(column, m_bAscending ? 1 : 0);
   FillList();
   SelectByIndex(selected);
-  return CListChange::Rows;
+  return CListChange::Order;
 }
 
 CListChange CBrowserModel::ChooseColumns() {

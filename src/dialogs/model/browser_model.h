@@ -19,10 +19,11 @@ namespace orv3 {
 
 class CPropertyModel;
 
-// What a call has changed of the list, and so what the view has to show anew. After Rows and
-// Columns the selected item is SelectedItem().
+// What a call has changed of the list, and so what the view has to show anew. Except after None the
+// selected item is SelectedItem().
 enum class CListChange {
   None,
+  Order,    // the same items in another order: the list stays scrolled as it is
   Rows,     // items, their order, count and selection
   Columns,  // columns as well; and, after a tree node, picture and search controls
 };
@@ -73,6 +74,8 @@ class CBrowserModel {
   // Texts alone can match in part, and only for being equal or not: for anything else the mark
   // "完全匹配" is greyed.
   bool IsWholeMatchEnabled() const;
+  // Without a column the filter stays. A column of numbers takes a number, and none for all rows;
+  // anything else is refused (None).
   CListChange Search();
   CString FilterExpression() const { return m_strFilter; }
   CString ViewExpression() const { return m_strView; }
@@ -101,7 +104,11 @@ class CBrowserModel {
   CListChange Add();
   CListChange Copy();  // the selected row as a new one
   CListChange Edit();
-  CListChange Delete();
+  CListChange Delete();  // the neighbour is selected then
+  // Brings back the row that was deleted last, in any table, and shows it: once for each deletion
+  // since the dialog was opened.
+  CListChange TakeBack();
+  bool CanTakeBack() const noexcept { return !m_arrDeleted.empty(); }
   void ShowProperties();
 
   // --- Stores -----------------------------------------------------------------------------------
@@ -109,10 +116,9 @@ class CBrowserModel {
   CListChange Export();  // leaves the list alone
 
   // --- End --------------------------------------------------------------------------------------
-  // False when the dialog stays open (the spacing was not given).
+  // False when the dialog stays open (no item is selected, or the spacing was not given).
   bool Ok();
-  // After OK: the selected row with every column of its table, a combined section with its spacing;
-  // without cells when no item was selected.
+  // After OK: the selected row with every column of its table, a combined section with its spacing.
   const CDataItem& ChosenRow() const noexcept { return m_chosen; }
 
  private:
@@ -121,10 +127,11 @@ class CBrowserModel {
   int InitialNode() const;
   void LoadNode(int node);
   void FillSearchColumns();
+  bool MakeFilter();
   CListChange Refresh(CListChange change);
   void ApplySearch();
   void FillList();
-  void SelectByIndex(int index);
+  bool SelectByIndex(int index);
   int SelectedIndex() const;
   CDataItem SelectedRow() const;
   bool IsProtected(const CDataItem& row);
@@ -153,6 +160,7 @@ class CBrowserModel {
   int m_nWildcard = 0;
   int m_nSortColumn = -1;
   bool m_bAscending = true;
+  std::vector<CDataItem> m_arrDeleted;  // the last one deleted at the end
 
   CString m_strSpacing;  // last given for a combined section
   CDataItem m_chosen;

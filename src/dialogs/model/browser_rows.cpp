@@ -1,4 +1,5 @@
 // The browser's commands on rows, and what it hands back.
+#include <algorithm>
 #include <utility>
 
 #include "dialogs/model/browser_model.h"
@@ -96,8 +97,31 @@ CListChange CBrowserModel::Edit() {
 CListChange CBrowserModel::Delete() {
   const CDataItem row = SelectedRow();
   if (row.IsEmpty() || IsProtected(row)) return CListChange::None;
-  m_session.Delete(row, m_user);
-  return Refresh(CListChange::Rows);
+  const int item = m_nItem;
+  if (m_session.Delete(row, m_user)) m_arrDeleted.push_back(row);
+  Refresh(CListChange::Rows);
+  SelectItem(std::min(item, ItemCount() - 1));
+  return CListChange::Rows;
+}
+
+CListChange CBrowserModel::TakeBack() {
+  if (!CanTakeBack()) return CListChange::None;
+  CDataItem row = m_arrDeleted.back();
+  CListChange change = CListChange::Rows;
+  if (Full().GetTableName() != row.m_strTableName) {
+    const auto node = std::find_if(m_arrNode.begin(), m_arrNode.end(), [&](const CTreeNode& n) {
+      return n.m_bTable && n.m_strText == row.m_strTableName;
+    });
+    change = SelectNode(static_cast<int>(node - m_arrNode.begin()));
+  }
+  if (!m_session.TakeBack(row, m_user)) return change;
+  m_arrDeleted.pop_back();
+  Refresh(CListChange::Rows);
+  if (SelectByIndex(row.m_nIndex)) return change;
+  m_strFilter.Empty();  // it would hide the row
+  Refresh(CListChange::Rows);
+  SelectByIndex(row.m_nIndex);
+  return change;
 }
 
 void CBrowserModel::ShowProperties() {
@@ -142,7 +166,7 @@ CListChange CBrowserModel::Export() {
 
 bool CBrowserModel::Ok() {
   CDataItem row = SelectedRow();
-  if (!AskSpacing(m_user, row, m_strSpacing)) return false;
+  if (row.IsEmpty() || !AskSpacing(m_user, row, m_strSpacing)) return false;
   m_chosen = row;
   return true;
 }

@@ -6,11 +6,12 @@
 
 #include "dialogs/model/dialog_user.h"
 #include "framework/cstring.h"
+#include "framework/export.h"
 #include "tables/data_type.h"
 
 namespace orv3 {
 
-class CColumnModel {
+class ORV3CAL_API CColumnModel {
  public:
   // `view`: the signs shown now, joined by "<<>>"; empty for all.
   CColumnModel(const CDataTableTitle& title, const CString& view);

@@ -28,11 +28,19 @@ inline constexpr wchar_t kRowGone[] = L"该条数据记录已被其他程序修�
 inline constexpr wchar_t kNoDefaultRow[] = L"该截面类型没有默认数据，不能增加记录!";
 inline constexpr wchar_t kNoSample[] = L"请先选择一条数据记录作为新记录的样本!";
 inline constexpr wchar_t kOtherColumns[] = L"截面表的列与该截面类型不符，不能增加记录!";
+// Behind the value in quotation marks.
+inline constexpr wchar_t kNoNumber[] = L"不是数值。该列请输入数字，例如“200”；留空则显示全部记录。";
 inline constexpr wchar_t kNothingToExport[] = L"没有可以导出的截面表!";
 inline constexpr wchar_t kExportIntoItself[] = L"不能导出到正在使用的截面库文件，请另选文件名!";
 inline constexpr wchar_t kExportNotPlaced[] =
     L"不能写入文件，请检查文件是否正被使用、文件夹是否可写：";
 inline constexpr wchar_t kImportFailed[] = L"以下内容未能导入：";
+inline constexpr wchar_t kImportOtherKind[] =
+    L"不是可以导入的文件，应为型钢数据文件（.Kvb）或截面库文件（.KDB）。";
+inline constexpr wchar_t kImportOtherName[] = L"没有以此为名的型钢数据文件，应为例如DbData.kvb。";
+inline constexpr wchar_t kImportDamaged[] = L"文件已损坏或不能读取。";
+inline constexpr wchar_t kImportOtherColumns[] =
+    L"列的名称、标识、类型或关键字与截面库中的同名截面表不同。";
 inline constexpr wchar_t kImporting[] = L"正在导入截面数据";
 inline constexpr wchar_t kExporting[] = L"正在导出截面数据";
 
@@ -40,6 +48,11 @@ inline constexpr wchar_t kExporting[] = L"正在导出截面数据";
 // -----------------------------------------------------------------------------
 inline constexpr wchar_t kSaveFailed[] = L"数据保存失败：";
 inline constexpr wchar_t kReadFailed[] = L"数据读取失败：";
+
+// --- What goes wrong unforeseen
+// -------------------------------------------------------------------
+inline constexpr wchar_t kNoMemory[] = L"内存不足，操作没有完成。";
+inline constexpr wchar_t kUnforeseen[] = L"程序内部错误，操作没有完成：\n";
 
 // --- Property dialog
 // --------------------------------------------------------------------------------
@@ -51,6 +64,9 @@ inline constexpr wchar_t kParameterName[] = L"参数名称";
 inline constexpr wchar_t kParameterValue[] = L"参数值";
 inline constexpr wchar_t kNoResult[] =
     L"不能计算截面特性，请检查截面尺寸或各肢的类型、型号、角度和肢距!";
+// Between and behind the names of values.
+inline constexpr wchar_t kSizesChanged[] = L"已修改，而下列数值仍是原截面的，程序不重新计算：\n";
+inline constexpr wchar_t kOldFigures[] = L"\n是否仍按现有数据保存？";
 
 // --- Spacing and number
 // -----------------------------------------------------------------------------

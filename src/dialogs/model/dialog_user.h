@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "framework/cstring.h"
+#include "framework/export.h"
 #include "framework/message.h"
 
 namespace orv3 {
@@ -20,7 +21,7 @@ struct CFileFilter {
   CString m_strPattern;  // "*.Kvb"
 };
 
-class CDialogUser {
+class ORV3CAL_API CDialogUser {
  public:
   CDialogUser() = default;
   CDialogUser(const CDialogUser&) = delete;

@@ -6,6 +6,7 @@
 
 #include "framework/array.h"
 #include "framework/cstring.h"
+#include "framework/export.h"
 
 namespace orv3 {
 
@@ -15,7 +16,7 @@ enum class CModifyType {
   Fixed = 2,  // not to be changed
 };
 
-class CEditGridModel {
+class ORV3CAL_API CEditGridModel {
  public:
   void InsertColumn(int position, const CString& title, int width);  // pixels at 96 dpi
   // One text per column; missing ones are empty.

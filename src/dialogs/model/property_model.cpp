@@ -5,6 +5,7 @@
 
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/steel_ge_gou.h"
+#include "catalogue/outline/row_outline.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/spacing_model.h"
 #include "framework/number_text.h"
@@ -55,7 +56,7 @@ CStringArray QuarterTurns() {
 }  // namespace
 
 CPropertyModel::CPropertyModel(const CDataItem& row, const CString& tableName, int editMode)
-    : m_row(row), m_strTable(tableName), m_nEditMode(editMode) {
+    : m_row(row), m_before(row), m_strTable(tableName), m_nEditMode(editMode) {
   if (m_row.m_strTableName.IsEmpty()) m_row.m_strTableName = tableName;
   m_nSource = LatticeLimbCount(tableName) > 0      ? CSource::Lattice
               : FindSectionStyle(tableName.View()) ? CSource::Custom
@@ -195,8 +196,37 @@ bool CPropertyModel::Refuse(CDialogUser& user) {
     user.Tell(fault->m_strText);
     return true;
   }
-  if (Compute()) return false;
+  const bool lost = m_nSource == CSource::Plain && !RowOutline(m_before).m_arrLoop.empty() &&
+                    RowOutline(m_row).m_arrLoop.empty();
+  if (!lost && Compute()) return false;
   user.Tell(texts::kNoResult);
+  return true;
+}
+
+bool CPropertyModel::IsChanged(int line) const {
+  return std::as_const(m_row)[line].m_strValue != m_before[line].m_strValue.View();
+}
+
+// Printed figures belong to printed sizes: those of a rolled section are nowhere computed anew.
+bool CPropertyModel::AcceptOldFigures(CDialogUser& user) {
+  if (m_nSource != CSource::Plain) return true;
+  CString sizes, figures;
+  const auto name = [](CString& list, const CString& sign) {
+    list += (list.IsEmpty() ? L"" : L"、") + sign;
+  };
+  for (int i = 0; i < LineCount(); ++i) {
+    const CDataCell& cell = m_before[i];
+    const bool size = cell.m_strSign.Right(4) == L"(mm)";
+    const bool figure = !size && ValueClassOf(cell.m_nType) != CValueClass::Text;
+    if (size && IsChanged(i) && SpacingOf(m_before).IsEmpty()) name(sizes, cell.m_strSign);
+    if (!figure || IsChanged(i) || cell.m_strValue.IsEmpty()) continue;
+    if (figures.IsEmpty()) m_nFaultLine = i;
+    name(figures, cell.m_strSign);
+  }
+  const bool asked = !sizes.IsEmpty() && !figures.IsEmpty();
+  const CString question = sizes + texts::kSizesChanged + figures + texts::kOldFigures;
+  if (asked && !user.AskYesNo(texts::kReminder, question)) return false;
+  m_nFaultLine = -1;
   return true;
 }
 
@@ -206,7 +236,7 @@ bool CPropertyModel::Ok(CDialogUser& user) {
   const CMessageRoute route(user);
   const bool refused = Refuse(user);
   ShowValues();
-  if (refused) return false;
+  if (refused || !AcceptOldFigures(user)) return false;
   CDataItem row = m_row;
   if (m_fnAccept && !m_fnAccept(row, user)) return false;
   m_row = row;

@@ -11,11 +11,12 @@
 #include "dialogs/model/edit_grid_model.h"
 #include "drawing/bitmap.h"
 #include "framework/cstring.h"
+#include "framework/export.h"
 #include "tables/data_item.h"
 
 namespace orv3 {
 
-class CPropertyModel {
+class ORV3CAL_API CPropertyModel {
  public:
   // What is to become of the edited row when OK is pressed; false, after a message of its own,
   // keeps the dialog open. It may change the row.
@@ -36,7 +37,8 @@ class CPropertyModel {
   // the line cannot hold stays there until OK refuses it.
   void SetValue(int line, const CString& text);
 
-  // True when the dialog ends. After false, and a message, the line to go to is FaultLine.
+  // True when the dialog ends. After false, and a message, the line to go to is FaultLine. Asks
+  // first when sizes were changed of a row whose other figures nobody computes from them.
   bool Ok(CDialogUser& user);
   int FaultLine() const noexcept { return m_nFaultLine; }  // -1 when no line is at fault
   const CDataItem& Row() const noexcept { return m_row; }
@@ -57,8 +59,11 @@ class CPropertyModel {
   void Recompute();
   bool Compute();
   bool Refuse(CDialogUser& user);
+  bool IsChanged(int line) const;
+  bool AcceptOldFigures(CDialogUser& user);
 
   CDataItem m_row;
+  const CDataItem m_before;
   CString m_strTable;
   int m_nEditMode;
   CSource m_nSource;

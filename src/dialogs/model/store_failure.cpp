@@ -2,13 +2,30 @@
 
 #include "dialogs/model/dialog_texts.h"
 #include "platform/store_error.h"
+#include "tables/data_table.h"
 #include "tables/file/check.h"
 #include "tables/file/table_store.h"
 
 namespace orv3 {
 namespace {
 
-const wchar_t* ReasonOf(CStoreTrouble trouble) {
+// What stands where in a table, such as "热轧普通工字钢，I20a，h(mm)".
+CString PlaceOf(const CDataTable& table, const CSaveFault& fault) {
+  CString place = table.GetTableName();
+  const bool row = fault.m_nRow >= 0 && fault.m_nRow < table.GetTableRowNum();
+  if (row && !table[fault.m_nRow].IsEmpty()) place += L"，" + table[fault.m_nRow][0].m_strValue;
+  if (fault.m_nColumn >= 0) place += L"，" + table.GetTableColSign(fault.m_nColumn);
+  return place;
+}
+
+CString WithSeparator(const CString& path) {
+  const wchar_t last = path.IsEmpty() ? L'\\' : path[path.GetLength() - 1];
+  return last == L'\\' || last == L'/' ? path : path + L"\\";
+}
+
+}  // namespace
+
+const wchar_t* StoreReason(CStoreTrouble trouble) {
   switch (trouble) {
     case CStoreTrouble::NotFound:
       return L"文件或文件夹不存在。";
@@ -23,7 +40,7 @@ const wchar_t* ReasonOf(CStoreTrouble trouble) {
     case CStoreTrouble::Damaged:
       return L"文件已损坏。";
     case CStoreTrouble::Refused:
-      return L"数据超出截面库文件的格式，没有保存。";
+      return L"数据过长、过多，或含有不能保存的字符，没有保存。";
     case CStoreTrouble::Failed:
       return L"读写失败，原文件没有改变。请检查磁盘空间和文件夹权限。";
     case CStoreTrouble::None:
@@ -32,17 +49,12 @@ const wchar_t* ReasonOf(CStoreTrouble trouble) {
   return L"原因不明。";
 }
 
-CString WithSeparator(const CString& path) {
-  const wchar_t last = path.IsEmpty() ? L'\\' : path[path.GetLength() - 1];
-  return last == L'\\' || last == L'/' ? path : path + L"\\";
-}
-
-}  // namespace
-
 CString StoreFailureText(const wchar_t* what) {
   const CStoreError& error = LastStoreError();
-  CString text = CString(what) + ReasonOf(error.m_nTrouble);
-  if (!error.m_strText.IsEmpty()) text += L"\n" + error.m_strText;
+  CString text = CString(what) + StoreReason(error.m_nTrouble);
+  for (const CString& line : {error.m_strPlace, error.m_strPath}) {
+    if (!line.IsEmpty()) text += L"\n" + line;
+  }
   return text;
 }
 
@@ -58,8 +70,9 @@ bool IsReadFailure() {
 bool FitsFile(const CDataTable& table, const CString& path, bool all) {
   const std::vector<CSaveFault> faults = SaveFaults(table, path, all);
   ClearStoreError();  // of a file that is not there yet
-  if (!faults.empty()) SetStoreError(CStoreTrouble::Refused, path, faults[0].m_strText);
-  return faults.empty();
+  if (faults.empty()) return true;
+  SetStoreError(CStoreTrouble::Refused, path, faults[0].m_strText, PlaceOf(table, faults[0]));
+  return false;
 }
 
 CProgramPathScope::CProgramPathScope(const CString& path)

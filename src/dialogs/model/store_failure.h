@@ -3,12 +3,16 @@
 
 #include "dialogs/model/dialog_user.h"
 #include "framework/cstring.h"
+#include "platform/store_error.h"
 
 class CDataTable;
 
 namespace orv3 {
 
-// `what` ("数据保存失败："), the reason in Chinese and, on a line of its own, the details.
+// The reason in Chinese, one sentence.
+const wchar_t* StoreReason(CStoreTrouble trouble);
+// `what` ("数据保存失败："), the reason and, on lines of their own, where in the tables and which
+// file.
 CString StoreFailureText(const wchar_t* what);
 void TellSaveFailed(CDialogUser& user);
 void TellReadFailed(CDialogUser& user);

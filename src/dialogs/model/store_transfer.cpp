@@ -4,9 +4,11 @@
 #include <utility>
 
 #include "catalogue/import/table_import.h"
+#include "catalogue/rolled/rolled_style.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/store_failure.h"
 #include "dialogs/model/table_name_model.h"
+#include "dialogs/model/text_match.h"
 #include "framework/number_text.h"
 #include "platform/file_system.h"
 #include "platform/store_file.h"
@@ -93,15 +95,32 @@ CString NumbersOf(const std::vector<CRefusedRow>& rows) {
   return rows.size() > kNamed ? text + L"等" : text;
 }
 
+// Why nothing of a file came in.
+const wchar_t* WhyNot(const CString& file) {
+  if (LastStoreError().m_nTrouble != CStoreTrouble::None) {
+    return StoreReason(LastStoreError().m_nTrouble);
+  }
+  CFileStamp stamp;
+  if (Files().Stamp(file, stamp) != CFileError::None) return StoreReason(CStoreTrouble::NotFound);
+  bool userTwin = false;
+  const CString extension = file.Right(4);
+  const bool dataFile = BeginsWithText(extension, L".kvb");
+  if (!dataFile && !BeginsWithText(extension, L".kdb")) return texts::kImportOtherKind;
+  return dataFile && FindRolledFile(FileNameOf(file).View(), userTwin) < 0 ? texts::kImportOtherName
+                                                                           : texts::kImportDamaged;
+}
+
 // A line for each thing that did not come in. Without `overwrite` rows that the store has are not
 // meant to.
-CString LeftOut(const CImportReport& report, const CString& file, bool overwrite) {
-  if (!report.m_bDone) return L"\n" + file + L"：" + report.m_strWhy;
+CString LeftOut(const CImportReport& report, const CString& path, bool overwrite) {
+  const CString file = FileNameOf(path);
+  if (!report.m_bDone) return L"\n" + file + L"：" + WhyNot(path);
   CString text;
   for (const CTableImport& table : report.m_arrTable) {
     const CString line = L"\n" + file + L"，" + table.m_strTable + L"：";
     if (!table.m_strWhy.IsEmpty()) {
-      text += line + table.m_strWhy;
+      text += line + (table.m_bOtherColumns ? texts::kImportOtherColumns
+                                            : StoreReason(CStoreTrouble::Refused));
     } else if (overwrite && !table.m_arrRefused.empty()) {
       text += line + FormatInt(std::ssize(table.m_arrRefused)) + L" 条记录（" +
               NumbersOf(table.m_arrRefused) + L"）";
@@ -128,7 +147,8 @@ void ImportFiles(const std::vector<CString>& files, const CString& store, bool o
       user.Progress(texts::kImporting, i * kSteps + static_cast<int>(share * (kSteps - 1)),
                     count * kSteps);
     };
-    left += LeftOut(ImportFile(file, store, options), FileNameOf(file), overwrite);
+    ClearStoreError();
+    left += LeftOut(ImportFile(file, store, options), file, overwrite);
   }
   user.Progress(texts::kImporting, count * kSteps, count * kSteps);
   if (!left.IsEmpty()) user.Tell(texts::kImportFailed + left);

@@ -7,10 +7,11 @@
 #include "dialogs/model/dialog_user.h"
 #include "framework/array.h"
 #include "framework/cstring.h"
+#include "framework/export.h"
 
 namespace orv3 {
 
-class CTableNameModel {
+class ORV3CAL_API CTableNameModel {
  public:
   // `checked`: the names marked to start with.
   CTableNameModel(const CStringArray& names, const CStringArray& checked);

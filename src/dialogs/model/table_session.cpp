@@ -145,4 +145,16 @@ bool CTableSession::Delete(const CDataItem& before, CDialogUser& user) {
   return Change(remove, user);
 }
 
+bool CTableSession::TakeBack(CDataItem& row, CDialogUser& user) {
+  const auto restore = [&](CDataTable& table) {
+    const CDataItemArray& rows = std::as_const(table).m_arrItem;
+    const auto place = std::find_if(rows.begin(), rows.end(), [&](const CDataItem& other) {
+      return other.m_nModifyType < 0 && SameValues(other, row);
+    });
+    return place == rows.end() ? table.AddTableItem(row, 1) != 0
+                               : table.ModifyTableItem(place->m_nIndex, row) != 0;
+  };
+  return Change(restore, user);
+}
+
 }  // namespace orv3

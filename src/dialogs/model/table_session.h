@@ -37,6 +37,9 @@ class CTableSession {
   // left alone, and the user is told.
   bool Modify(const CDataItem& before, CDataItem& row, CDialogUser& user);
   bool Delete(const CDataItem& before, CDialogUser& user);
+  // A row deleted before: in its own place, or in another one when that has been taken. It gets its
+  // index. Refused with the table's own message when its key has been taken.
+  bool TakeBack(CDataItem& row, CDialogUser& user);
 
  private:
   using CChange = std::function<bool(CDataTable& table)>;

@@ -172,6 +172,10 @@ bool CUserTableModel::MakeTable(int templateIndex, CDataTable& table) {
     table = EmptyTable(name);
     return true;
   }
+  if (IsNameTaken(m_arrTemplate[templateIndex])) {
+    m_user.Tell(texts::kTableNameTaken);
+    return false;
+  }
   table = SectionTable(m_arrTemplate[templateIndex]);
   if (table.GetTableColNum() > 0) return true;
   m_user.Tell(texts::kNoHeading);

@@ -23,7 +23,8 @@ int FreeIndex(const CDataTable& table) {
 
 void CUserTableModel::ShowTable() {
   ShowColumns();
-  if (m_nItem >= RowCount() || (m_nItem < 0 && RowCount() > 0)) m_nItem = RowCount() > 0 ? 0 : -1;
+  if (m_nItem < 0) m_nItem = 0;
+  m_nItem = std::min(m_nItem, RowCount() - 1);
 }
 
 int CUserTableModel::ColumnCount() const { return Selected() ? Selected()->GetTableColNum() : 0; }

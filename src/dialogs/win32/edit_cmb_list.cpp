@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "dialogs/win32/dpi.h"
+#include "dialogs/win32/gdi.h"
 #include "dialogs/win32/list_view.h"
 
 using namespace orv3;
@@ -14,6 +15,7 @@ namespace {
 constexpr UINT_PTR kSubclass = 1;
 constexpr int kChoicesShown = 12;
 constexpr int kCellMargin = 14;  // pixels at 96 dpi, beside a cell's text
+constexpr int kLineMargin = 6;   // above and below it: room for the frame of a drop-down list
 
 // Dialog keys that are the editor's while it is open, and not the dialog's.
 bool IsEditorKey(WPARAM key) { return key == VK_RETURN || key == VK_ESCAPE || key == VK_TAB; }
@@ -28,6 +30,7 @@ void CEditCmbList::Attach(HWND list, const CEditGridModel& grid, CSetText setTex
   m_hEditor = nullptr;
   SetUpList(list);
   SetWindowSubclass(list, ListProc, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  SetLineHeight();
   for (int column = 0; column < grid.ColumnCount(); ++column) {
     InsertListColumn(list, column, grid.ColumnTitle(column), 0);
   }
@@ -53,7 +56,23 @@ void CEditCmbList::Refresh() {
 void CEditCmbList::SetDpi(int dpi) {
   EndEdit(true);
   m_nDpi = dpi;
+  SetLineHeight();
   FitColumns();
+}
+
+// A list view takes the height of its lines from its pictures, here empty ones.
+void CEditCmbList::SetLineHeight() const {
+  const CWindowDc dc(m_hList);
+  const HGDIOBJ font = reinterpret_cast<HGDIOBJ>(SendMessageW(m_hList, WM_GETFONT, 0, 0));
+  const HGDIOBJ before = SelectObject(dc.Get(), font);
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(dc.Get(), &metrics);
+  SelectObject(dc.Get(), before);
+  const int height = static_cast<int>(metrics.tmHeight) + ScaleToDpi(kLineMargin, m_nDpi);
+  const HIMAGELIST pictures = ImageList_Create(1, height, ILC_COLOR, 0, 1);
+  if (const HIMAGELIST old = ListView_SetImageList(m_hList, pictures, LVSIL_SMALL)) {
+    ImageList_Destroy(old);
+  }
 }
 
 // A column has its own width or, up to `most`, that of its longest text.
@@ -83,7 +102,7 @@ void CEditCmbList::FitColumns() {
     ListView_SetColumnWidth(m_hList, column, width);
     room -= width;
   }
-  ListView_SetColumnWidth(m_hList, last, room > lastOwn / 2 ? std::min(lastOwn, room) : lastOwn);
+  ListView_SetColumnWidth(m_hList, last, room >= lastOwn / 2 ? std::min(lastOwn, room) : lastOwn);
 }
 
 bool CEditCmbList::CanEdit(int line, int column) const {
@@ -115,13 +134,14 @@ bool CEditCmbList::EditCell(int line, int column, wchar_t typed) {
 }
 
 bool CEditCmbList::MakeEditor(const RECT& cell, wchar_t typed) {
+  const int inset = m_bList ? 0 : ScaleToDpi(1, m_nDpi);  // an edit field's text stands at its top
   const int width = cell.right - cell.left;
-  const int height = cell.bottom - cell.top;
+  const int height = cell.bottom - cell.top - 2 * inset;
   const DWORD style = WS_CHILD | (m_bList ? CBS_DROPDOWNLIST | CBS_HASSTRINGS | WS_VSCROLL
                                           : ES_AUTOHSCROLL | WS_BORDER);
-  m_hEditor = CreateWindowExW(0, m_bList ? WC_COMBOBOXW : WC_EDITW, L"", style, cell.left, cell.top,
-                              width, m_bList ? height * (kChoicesShown + 2) : height, m_hList,
-                              nullptr, nullptr, nullptr);
+  m_hEditor = CreateWindowExW(
+      0, m_bList ? WC_COMBOBOXW : WC_EDITW, L"", style, cell.left, cell.top + inset, width,
+      m_bList ? height * (kChoicesShown + 2) : height, m_hList, nullptr, nullptr, nullptr);
   if (m_hEditor == nullptr) return false;
   SendMessageW(m_hEditor, WM_SETFONT, static_cast<WPARAM>(SendMessageW(m_hList, WM_GETFONT, 0, 0)),
                FALSE);

@@ -46,6 +46,7 @@ class CEditCmbList {
   bool OnEditorKey(WPARAM key);
   int FittingWidth(int column, int most) const;
   void FitColumns();
+  void SetLineHeight() const;
   void OnListClick(LPARAM place);
   void OnChosen(HWND editor);
   bool MakeEditor(const RECT& cell, wchar_t typed);

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 #include <vector>
 
+#include "dialogs/model/dialog_texts.h"
+#include "dialogs/win32/dialog_help.h"
 #include "dialogs/win32/dpi.h"
 #include "dialogs/win32/host_services.h"
 #include "dialogs/win32/placement.h"
@@ -61,10 +64,8 @@ void CKvbDlg::OnNotify(int id, int code, CNotifyHandler handler) {
 }
 
 void CKvbDlg::OnHelp() {
-  const int length = GetWindowTextLengthW(m_hWnd);
-  std::vector<wchar_t> caption(static_cast<std::size_t>(length) + 1);
-  GetWindowTextW(m_hWnd, caption.data(), length + 1);
-  ShowHostHelp(CString(caption.data()));
+  const CDialogHelp& help = HelpOf(m_nTemplate);
+  ShowHostHelp(help.m_szTopic, help.m_szText);
 }
 
 void CKvbDlg::Focus(int id) {
@@ -99,10 +100,12 @@ INT_PTR CALLBACK CKvbDlg::DialogProc(HWND window, UINT message, WPARAM wParam, L
   if (dialog == nullptr) return FALSE;
   try {
     return dialog->Handle(message, wParam, lParam);
+  } catch (const std::bad_alloc&) {
+    ShowMessage(texts::kReminder, texts::kNoMemory);
   } catch (const std::exception& error) {
-    ShowMessage(L"Orvo提醒您", FromUtf8(error.what()));
-    return TRUE;
+    ShowMessage(texts::kReminder, texts::kUnforeseen + FromUtf8(error.what()));
   }
+  return TRUE;
 }
 
 INT_PTR CKvbDlg::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -37,6 +37,11 @@ void SelectListItem(HWND list, int item) {
   ListView_EnsureVisible(list, item, FALSE);
 }
 
+void ScrollListTo(HWND list, int item) {
+  ListView_EnsureVisible(list, ListView_GetItemCount(list) - 1, FALSE);
+  ListView_EnsureVisible(list, item, FALSE);
+}
+
 void SetSortArrow(HWND list, int column, int direction) {
   const HWND header = ListView_GetHeader(list);
   HDITEMW item{};

@@ -13,6 +13,8 @@ void DeleteListColumns(HWND list);
 int SelectedListItem(HWND list);  // -1 when there is none
 // Selects an item (none for -1), gives it the focus frame and brings it into view.
 void SelectListItem(HWND list, int item);
+// Scrolls so that an item is the first one shown, or as near to it as the list's end allows.
+void ScrollListTo(HWND list, int item);
 // The arrow in a column's header: 1 up, -1 down, 0 none.
 void SetSortArrow(HWND list, int column, int direction);
 // Lets an item's text point at `text`, which must last until the list asks again.

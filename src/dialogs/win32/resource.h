@@ -45,6 +45,7 @@
 #define IDC_SEARCH_GROUP 8100
 #define IDC_SEARCH_LABEL 8101
 #define IDC_STATUS 8102
+#define IDC_TAKE_BACK 8103
 
 /* CViewColDlg */
 #define IDD_VIEW_COLUMNS 8091

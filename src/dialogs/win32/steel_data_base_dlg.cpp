@@ -77,6 +77,7 @@ void CSteelDataBaseDlg::MapButtons() {
   OnClick(IDC_ADD, [this] { Do(&CBrowserModel::Add); });
   OnClick(IDC_DELETE, [this] { Do(&CBrowserModel::Delete); });
   OnClick(IDC_EDIT, [this] { Do(&CBrowserModel::Edit); });
+  OnClick(IDC_TAKE_BACK, [this] { Do(&CBrowserModel::TakeBack); });
 }
 
 // --- Opening and closing ------------------------------------------------------------------------
@@ -115,7 +116,7 @@ void CSteelDataBaseDlg::HoldControls() {
     Hold(id, HoldLeft | HoldRight | HoldBottom);
   }
   for (const int id : {IDC_SEARCH_LABEL, IDC_SEARCH_COLUMN, IDC_SEARCH_OPERATOR, IDC_VIEW_COLUMNS,
-                       IDC_IMPORT, IDC_EXPORT, IDC_ADD, IDC_DELETE, IDC_EDIT}) {
+                       IDC_IMPORT, IDC_EXPORT, IDC_ADD, IDC_DELETE, IDC_EDIT, IDC_TAKE_BACK}) {
     Hold(id, HoldLeft | HoldBottom);
   }
   for (const int id : {IDC_WHOLE_MATCH, IDC_SEARCH, IDOK, IDCANCEL, IDC_HELP_BUTTON}) {
@@ -179,7 +180,9 @@ void CSteelDataBaseDlg::Do(CChange change) {
 
 void CSteelDataBaseDlg::Show(CListChange change) {
   if (change == CListChange::Columns) RebuildColumns();
+  const int top = ListView_GetTopIndex(Control(IDC_LIST));
   if (change != CListChange::None) ShowRows();
+  if (change == CListChange::Order) ScrollListTo(Control(IDC_LIST), top);
   ShowCommands();
 }
 
@@ -234,7 +237,8 @@ void CSteelDataBaseDlg::ShowTable() {
 
 void CSteelDataBaseDlg::ShowCommands() {
   for (const int id : {IDC_ADD, IDC_VIEW_COLUMNS, IDC_SEARCH}) Enable(id, m_pModel->HasTable());
-  for (const int id : {IDC_DELETE, IDC_EDIT}) Enable(id, m_pModel->HasItem());
+  for (const int id : {IDC_DELETE, IDC_EDIT, IDOK}) Enable(id, m_pModel->HasItem());
+  Enable(IDC_TAKE_BACK, m_pModel->CanTakeBack());
 }
 
 // --- Search -------------------------------------------------------------------------------------
@@ -261,6 +265,10 @@ bool CSteelDataBaseDlg::OnListKey(int key) {
   const bool control = GetKeyState(VK_CONTROL) < 0;
   if (control && (key == 'C' || key == VK_INSERT)) {
     CopyRow();
+    return true;
+  }
+  if (control && key == 'Z') {
+    Do(&CBrowserModel::TakeBack);
     return true;
   }
   switch (key) {

@@ -101,8 +101,14 @@ int CDataTable::WriteCurrentJmTable() {
 
 int CDataTable::WriteUserJmTable(const wchar_t* fileName) {
   const CString folder = StorePath(orv3::kUserStoreFolder);
+  const CString name(fileName);
+  if (name.IsEmpty()) {
+    orv3::ClearStoreError();
+    return orv3::SetStoreError(orv3::CStoreTrouble::Refused, folder,
+                               folder + L": a user table needs the name of a file");
+  }
   orv3::Files().MakeFolder(folder);
-  return WriteTable(folder + fileName, orv3::kUserKind, 0);
+  return WriteTable(folder + name, orv3::kUserKind, 0);
 }
 
 int CDataTable::GetSystemJmTableName(CStringArray& names) {

@@ -85,6 +85,10 @@ CString DecodeText(std::string_view stored) {
   return FromAnsi(bytes);
 }
 
+CString DecodeText(const char* stored) {
+  return DecodeText(stored ? std::string_view(stored) : std::string_view());
+}
+
 std::string EncodeField(std::wstring_view text, std::size_t length, bool* missing) {
   std::string bytes = EncodeText(text, missing);
   bytes.resize(length, '\0');

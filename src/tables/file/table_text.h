@@ -23,8 +23,9 @@ inline constexpr int kMaxStoredValue = 30;  // characters of a cell that go to a
 // A text as it stands in a file, without the ending zero. `missing` is set when the code page lacks
 // a character.
 std::string EncodeText(std::wstring_view text, bool* missing = nullptr);
-// The text of stored bytes, which end at the first zero byte.
+// The text of stored bytes, which end at the first zero byte; of a null pointer the empty one.
 CString DecodeText(std::string_view stored);
+CString DecodeText(const char* stored);
 
 // A field of `length` bytes: the text, cut at its end, then zeros.
 std::string EncodeField(std::wstring_view text, std::size_t length, bool* missing = nullptr);
