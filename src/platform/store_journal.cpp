@@ -94,6 +94,27 @@ struct CStates {
   }
 };
 
+// Whether the bytes that the file has beyond the old store's end are zeros where no piece is.
+bool IsTailClean(const CStoreJournal& journal, std::uint64_t fileSize, const CFileReader& read,
+                 bool& clean) {
+  std::string page(kJournalPage, '\0');
+  auto piece = journal.m_arrPiece.begin();
+  clean = true;
+  for (std::uint64_t at = journal.m_nOldSize; clean && at < fileSize;) {
+    const std::uint64_t next = at - at % kJournalPage + kJournalPage;
+    page.resize(static_cast<std::size_t>(next - at));
+    if (!read(at, page.data(), page.size())) return false;
+    for (; piece != journal.m_arrPiece.end() && piece->m_nOffset < next; ++piece) {
+      const std::uint64_t begin = std::max(piece->m_nOffset, at);
+      const std::uint64_t end = piece->m_nOffset + piece->m_strNew.size();
+      for (std::uint64_t i = begin; i < end; ++i) page[static_cast<std::size_t>(i - at)] = '\0';
+    }
+    clean = page.find_first_not_of('\0') == std::string::npos;
+    at = next;
+  }
+  return true;
+}
+
 bool CompareFirstFormat(const CStoreJournal& journal, std::uint64_t fileSize,
                         const CFileReader& read, CJournalFit& fit) {
   fit = fileSize == journal.m_nOldSize ? CJournalFit::Before : CJournalFit::Undecided;
@@ -200,7 +221,9 @@ bool CompareWithFile(const CStoreJournal& journal, std::uint64_t fileSize, const
     }
     around = JournalChecksum(page, around);
   }
-  if (around != journal.m_nAround || !states.m_bBetween) return true;
+  bool clean = false;
+  if (!IsTailClean(journal, fileSize, read, clean)) return false;
+  if (!clean || around != journal.m_nAround || !states.m_bBetween) return true;
   if (states.m_bBefore && fileSize == journal.m_nOldSize) {
     fit = CJournalFit::Before;
   } else if (states.m_bAfter && fileSize == journal.m_nNewSize) {

@@ -154,7 +154,9 @@ void CRowIndex::Update(const CDataItemArray& rows, const CDataTableTitle& title)
 }
 
 void CRowIndex::LookAgain(const CDataItemArray& rows) {
+  const int column = m_arrKey.empty() ? 0 : m_arrKey.front().m_nCompare;
   for (const int position : rows.HandedOut()) {
+    rows.Prefetch(position, column);
     if (IsAsSeen(rows.GetAt(position), static_cast<std::size_t>(position))) continue;
     Forget(position);
     Remember(rows, position);

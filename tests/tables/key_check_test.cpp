@@ -137,8 +137,8 @@ TEST_F(KeyCheck, AgreesWithTheWalkUnderRandomWork) {
     const std::function<void()> work[] = {
         [&] { held = &table[position()]; },
         [&] {  // through a reference from before, to a row that may have moved since
-          for (const CDataItem& row : std::as_const(table.m_arrItem)) {
-            if (&row != held) continue;
+          for (int i = 0; i < table.GetTableRowNum(); ++i) {
+            if (&std::as_const(table)[i] != held || !table.m_arrItem.IsHandedOut(i)) continue;
             (*held)[below(2) * 2].m_strValue = value();
             held->m_nIndex = below(30);
             held->m_nModifyType = below(4) - 2;
