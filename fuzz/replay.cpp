@@ -2,8 +2,7 @@
 // every run on every machine sees the same bytes. (The search that follows the coverage depends on
 // where the system puts the program in memory, and finds one thing today and another tomorrow.)
 //
-//   TARGET RUNS CORPUS FINDING     RUNS inputs besides those in the folder CORPUS; the one that
-//   fails
+//   TARGET RUNS CORPUS FINDING     RUNS inputs besides those in the folder CORPUS; one that fails
 //                                  is written to the file FINDING
 #include <sanitizer/common_interface_defs.h>
 

@@ -12,7 +12,8 @@ Without DOCUMENT: README*.md and docs/*.md. The language of a fenced block says 
     ```text, ```cmake, ```csv and ```json without a name: nothing is run
 
 A line "..." stands for any lines, "..." within a line for any characters. Every command must end with
-status 0; one that does not is shown as "COMMAND; echo $?". Each block runs in a folder of its own with a
+status 0; one that does not is shown as "COMMAND; echo $?". A picture that a command draws under the
+name of one in docs/pictures must be the same. Each block runs in a folder of its own with a
 copy of examples/, the build tree as build/release, the catalogue as share/orv3cal, a home of its own,
 and the command orv3cal on the path.
 """
@@ -147,7 +148,8 @@ class Runner:
         includes = [line for line in block.lines if line.startswith("#include")]
         body = [line for line in block.lines if not line.startswith("#include")]
         header = "orv3cal.h" if block.language == "cpp" else "orv3cal_c.h"
-        text = "\n".join([f"#include <{header}>"] + includes) + "\n"
+        printing = ["<cstdio>", "<iostream>"] if block.language == "cpp" else ["<stdio.h>"]
+        text = "\n".join([f"#include {name}" for name in [f"<{header}>"] + printing] + includes) + "\n"
         if any(re.match(r"int main\(", line) for line in body):
             text += "\n".join(body) + "\n"
         else:
@@ -189,6 +191,10 @@ class Runner:
                 found = [f'"{block.language}" does not say what the block is; see run_docs.py']
             for text in found:
                 yield block.line, text
+        for picture in sorted(Path(root).glob("*/work/*.svg")):
+            kept = self.source / "docs" / "pictures" / picture.name
+            if kept.exists() and kept.read_bytes() != picture.read_bytes():
+                yield 0, f"docs/pictures/{picture.name} is not what the command draws today"
 
 
 def main():
@@ -202,11 +208,11 @@ def main():
     documents = options.documents or sorted(
         [*runner.source.glob("README*.md"), *runner.source.glob("docs/*.md")])
     failed = 0
-    with tempfile.TemporaryDirectory() as root:
-        for document in documents:
+    for document in documents:
+        with tempfile.TemporaryDirectory() as root:
             for line, text in runner.faults(document, root):
                 failed += 1
-                print(f"--- {document}:{line}\n{text}\n")
+                print(f"--- {document}:{line}\n{text}\n", flush=True)
     print(f"{len(documents)} documents, {failed} faults")
     return 1 if failed or not documents else 0
 
