@@ -16,6 +16,14 @@ if(TARGET orv3cal_dll)
   install(FILES ${ORV3CAL_RUNTIME_DLLS} DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 
+# What an installation takes from the build tree, for builds of no more than that.
+add_custom_target(installed)
+foreach(target orv3cal orv3cal_c orv3cal_cli orv3cal_dll orv3browser catalogue)
+  if(TARGET ${target})
+    add_dependencies(installed ${target})
+  endif()
+endforeach()
+
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/orv3cal)
 install(EXPORT orv3calTargets NAMESPACE orv3cal:: FILE orv3calConfig.cmake
         DESTINATION ${package_dir})

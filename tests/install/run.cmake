@@ -9,6 +9,17 @@ function(run)
 endfunction()
 
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
+# The target "installed" builds all of what has been installed: whoever built no more can install.
+execute_process(COMMAND ninja -C ${BUILD} -t commands installed OUTPUT_VARIABLE built
+                COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB_RECURSE products ${prefix}/*/liborv3cal* ${prefix}/bin/*)
+foreach(product ${products})
+  cmake_path(GET product FILENAME name)
+  if(NOT IS_SYMLINK ${product} AND NOT built MATCHES "[ /]${name} ")
+    message(FATAL_ERROR "the target \"installed\" does not build ${name}")
+  endif()
+endforeach()
+
 file(GLOB_RECURSE pc ${prefix}/*/orv3cal.pc)
 cmake_path(GET pc PARENT_PATH pc_dir)
 set(ENV{PKG_CONFIG_PATH} ${pc_dir})
