@@ -130,7 +130,7 @@ TEST_F(StoreCommand, RefusesWhatCannotBeKeptAndLeavesTheStore) {
       {On("edit 我的表 I20a --set a=" + wide + " --set b=" + wide),
        {"bytes, but the file has room"}},
       {On("add 我的表 --set No.=x --set a=,,,"), {"含有逗号"}},
-      {On("edit 我的表 I20a --set \"a=7\n\""), {"line feed"}},
+      {On("edit 我的表 I20a --set \"a=7\n\""), {"含有换行"}},
       {On("import " + Quoted(L"none.kvb")), {"not found"}, 3},
       // A refused row starts no store.
       {"store add " + kH + " --set No.=a --store " + Quoted(L"new.KDB") + kData, {}},
