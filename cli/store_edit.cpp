@@ -94,8 +94,7 @@ void Tell(const COptions& options, const CDataItem& row, const char* done,
   const std::string no = ToUtf8(row.m_arrCell.GetAt(0).m_strValue);
   NoteSaved(options.table + " \"" + no + "\" " + done);
   if (!options.json) {
-    Print(options.table + " \"" + no + "\": " + done + "
-");
+    Print(options.table + " \"" + no + "\": " + done + "\n");
     return PrintNotes(notes);
   }
   CJson json = {{"table", options.table}, {"no", no}, {"done", done}, {"cells", RowCells(row)}};

@@ -73,7 +73,7 @@ CDataItem ExactRow(const CSteelJMData& record) {
   record.TransJMDataToItem(row);
   const CSectionStyle* style = FindSectionStyle(record.m_nStyle);
   if (style == nullptr) return row;
-  row.m_strTableName = style->m_szTable;
+  row.m_strTableName = style->TableName();
   for (int i = 0; i < style->m_nSizes; ++i)
     row.m_arrCell.Own(i + 1).m_strValue = FormatShortest(record.m_dSize[i]);
   ForEachColumn(*style, [&](int column, const CSectionProperty& property) {

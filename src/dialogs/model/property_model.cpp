@@ -20,7 +20,6 @@ namespace {
 constexpr int kColumnWidth = 150;
 constexpr int kName = 0, kValue = 1;  // the grid's columns
 constexpr int kSpacingLine = 1;
-constexpr int kMaxLimbs = 4;
 // Limbs are single sections: a combined one would need a spacing of its own.
 constexpr long kLimbTables = TABLE_ROLLED | TABLE_FAMILY_I | TABLE_FAMILY_BOX | TABLE_FAMILY_T |
                              TABLE_FAMILY_CHANNEL | TABLE_FAMILY_Z | TABLE_FAMILY_ROUND |
