@@ -150,7 +150,8 @@ TEST_F(StoreCommand, ANewRowTakesADeletedRowsPlaceAndNoOther) {
     CDataTable table;
     table.SetTableName(L"我的");
     table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
-    for (const wchar_t* no : {L"A", L"B", L"C"}) ASSERT_EQ(table.AddTableItem(no, 1), 1);
+    table.AddTableCol(L"注", L"note", CDataTypeStruct::KVBT_STRING, 0);
+    for (const wchar_t* row : {L"A,1", L"B,2", L"C,3"}) ASSERT_EQ(table.AddTableItem(row, 1), 1);
     ASSERT_EQ(table.DeleteTableItem(0), 1);
     ASSERT_EQ(table.WriteTable(orv3::FromUtf8(m_store), 0, 0), 1);
   }
