@@ -51,7 +51,8 @@ std::string UnknownCommand(const CLI::App* command, const std::vector<std::strin
       if (each->get_name() == *word) command = each;
       names += (names.empty() ? "" : ", ") + each->get_name();
     }
-    if (!command) return "\"" + Excerpt(*word) + "\" is no command; right would be one of " + names;
+    if (!command)
+      return "\"" + orv3::Excerpt(*word) + "\" is no command; right would be one of " + names;
   }
   return {};
 }
