@@ -1,4 +1,4 @@
-// Making the system store from the catalogue's data files in one save, as the build does but
+// Making the system store from the catalogue's data files in two saves, as the build does but
 // waiting for the medium; SQLite beside it, which is handed the tables as they come out of the data
 // files, with its default durability: one transaction a table, and one for all.
 

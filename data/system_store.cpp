@@ -1,5 +1,9 @@
 #include "system_store.h"
 
+#include <iterator>
+#include <utility>
+#include <vector>
+
 #include "catalogue/import/table_import.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/rolled/rolled_style.h"
@@ -21,12 +25,18 @@ void Save(CDataTable& table) {
 }
 
 void AddRolledTables(const CString& folder) {
+  std::vector<CImportTable> tables;
   for (const CRolledStyle& style : RolledStyles()) {
-    const CImportReport report = ImportFile(folder + style.m_strFile, folder + kSystemStore);
-    if (!report.m_bDone) throw CCatalogueError(ToUtf8(report.m_strWhy));
-    for (const CRefusedRow& row : report.m_arrTable.front().m_arrRefused)
-      throw CCatalogueError(
-          ToUtf8(CString(style.Name()) + L": " + row.m_strNo + L": " + row.m_strWhy));
+    std::vector<CImportTable> read;
+    CString why;
+    if (!ReadImportFile(folder + style.m_strFile, read, why)) throw CCatalogueError(ToUtf8(why));
+    std::move(read.begin(), read.end(), std::back_inserter(tables));
+  }
+  const CImportReport report = ImportTables(tables, folder + kSystemStore);
+  if (!report.m_bDone) throw CCatalogueError(ToUtf8(report.m_strWhy));
+  for (const CTableImport& table : report.m_arrTable) {
+    for (const CRefusedRow& row : table.m_arrRefused)
+      throw CCatalogueError(ToUtf8(table.m_strTable + L": " + row.m_strNo + L": " + row.m_strWhy));
   }
 }
 
@@ -63,10 +73,10 @@ void MakeSystemStore(const std::string& name) {
   const CString folder = FromUtf8(name + "/");
   SetProgramPath(folder);
   Files().Remove(folder + kSystemStore);
-  CStoreBatch all(folder + kSystemStore);
   AddRolledTables(folder);
+  CStoreBatch user(folder + kSystemStore);
   AddUserTables();
-  if (!all.Commit()) throw CCatalogueError(ToUtf8(LastStoreError().m_strText));
+  if (!user.Commit()) throw CCatalogueError(ToUtf8(LastStoreError().m_strText));
 }
 
 }  // namespace orv3::catalogue

@@ -86,8 +86,8 @@ bool CStoreBody::Write(std::uint64_t offset, const void* data, std::size_t size)
 }
 
 void CStoreBody::DropChanges() {
-  if (m_nGathering > 0) m_bSpoiled = m_bSpoiled || m_bUnkept;
-  if (m_bShadow || m_nGathering > 0) return;
+  if (m_bGathering) m_bSpoiled = m_bSpoiled || m_bUnkept;
+  if (m_bShadow || m_bGathering) return;
   m_pages.clear();
   m_nSize = m_nFileSize;
   m_bReadFailed = false;
@@ -166,7 +166,7 @@ bool CStoreBody::Commit() {
   m_nTrouble = CFileError::Failed;
   if (!m_bWritable || m_bBroken || m_bReadFailed || m_bSpoiled) return false;
   m_bUnkept = false;
-  if (m_nGathering > 0) return true;
+  if (m_bGathering) return true;
   CStoreJournal journal;
   if (!CollectChanges(journal)) return false;
   if (m_pages.empty() && m_nSize == m_nFileSize) return true;
@@ -191,19 +191,12 @@ bool CStoreBody::Commit() {
 }
 
 bool CStoreBody::CommitGathered() {
-  --m_nGathering;
-  const bool done = Commit();
-  if (m_nGathering == 0) {
-    m_bSpoiled = m_bUnkept = false;
-    DropChanges();
-  }
-  return done;
+  m_bGathering = false;
+  return Commit();
 }
 
 void CStoreBody::DropGathered() {
-  --m_nGathering;
-  m_bSpoiled = m_nGathering > 0;
-  m_bUnkept = false;
+  m_bGathering = m_bSpoiled = m_bUnkept = false;
   DropChanges();
 }
 

@@ -31,9 +31,8 @@ class CStoreBody {
   bool Commit();
   void DropChanges();
   // From Gather() on, what openers commit stays in memory and what they forget spoils it all, until
-  // CommitGathered() brings it into the file or DropGathered() forgets it: the outermost of them,
-  // where they are nested.
-  void Gather() { ++m_nGathering; }
+  // CommitGathered() brings it into the file or DropGathered() forgets it.
+  void Gather() { m_bGathering = true; }
   bool CommitGathered();
   void DropGathered();
   bool HasChanges() const { return !m_pages.empty() || m_nSize != m_nFileSize; }
@@ -64,7 +63,7 @@ class CStoreBody {
   bool m_bShadow = false;   // the pages are an interrupted save's old bytes
   bool m_bBroken = false;   // half a save is in the file; only the next opener can undo it
   bool m_bEmptied = false;  // an interrupted first save was rolled back
-  int m_nGathering = 0;
+  bool m_bGathering = false;
   bool m_bUnkept = false;   // changes since the last commit
   bool m_bSpoiled = false;  // half of a save was forgotten while gathering
   // Reading has failed since the last commit, so that what was to be saved may rest on a wrong view

@@ -166,11 +166,10 @@ CStoreBatch::CStoreBatch(const CString& path) : CStoreLock(path) {
 }
 
 CStoreBatch::~CStoreBatch() {
-  if (m_pBody && !m_bCommitted) m_pBody->DropGathered();
+  if (m_pBody) m_pBody->DropGathered();
 }
 
 bool CStoreBatch::Commit() {
-  m_bCommitted = true;
   return m_pBody && (m_pBody->CommitGathered() || NotWritten(*m_pBody));
 }
 

@@ -71,8 +71,7 @@ class ORV3CAL_API CStoreLock {
 };
 
 // A lock that makes all saves within it one: they are seen by this thread's own openings and come
-// into the file, all of them or none, with Commit. One that fails takes the others with it. A batch
-// within another of the same store is part of it.
+// into the file, all of them or none, with Commit. One that fails takes the others with it.
 class ORV3CAL_API CStoreBatch : private CStoreLock {
  public:
   explicit CStoreBatch(const CString& path);
@@ -81,9 +80,6 @@ class ORV3CAL_API CStoreBatch : private CStoreLock {
   using CStoreLock::IsHeld;
   // False, with LastStoreError set, when the file is as it was before. Called once, at the end.
   bool Commit();
-
- private:
-  bool m_bCommitted = false;
 };
 
 // Removes what an interrupted save left beside a file that has been replaced by another. An opener

@@ -107,17 +107,6 @@ TEST_F(StoreFile, ABatchIsOneSave) {
   }
   EXPECT_EQ(Seen(m_path), "newer");
   EXPECT_FALSE(orv3::IsAheadOfFile(m_path));
-  for (const bool kept : {false, true}) {  // a batch within another
-    orv3::CStoreBatch outer(m_path);
-    EXPECT_TRUE(Save(m_path, 0, "N"));
-    {
-      orv3::CStoreBatch inner(m_path);
-      EXPECT_TRUE(Save(m_path, 1, "E"));
-      EXPECT_TRUE(!kept || inner.Commit());
-    }
-    EXPECT_EQ(outer.Commit(), kept);
-    EXPECT_EQ(Seen(m_path), kept ? "NEwer" : "newer");
-  }
   EXPECT_TRUE(Save(m_path, 0, "fresh"));
 }
 
