@@ -48,7 +48,8 @@ TEST(SectionCommand, TakesTheBasePointAnywhere) {
 // A hexagon's first moments are not computed; a 0 would be taken for a result.
 TEST(SectionCommand, GivesNoNumberWhereNoneIsComputed) {
   EXPECT_TRUE(JsonOf("section hexagon 100")["properties"]["Sxo"].is_null());
-  ExpectHas(RunProgram("section hexagon 100").m_strOut, {"Sxo                -  mm³", "0.54127"});
+  ExpectHas(RunProgram("section hexagon 100").m_strOut,
+            {"-  mm³  first moment about X0", "0.54127"});
   const Json circle = JsonOf("section circle 100")["properties"];
   EXPECT_NEAR(circle["Sxo"].get<double>(), 2e6 / 3, 1e-6);
   EXPECT_TRUE(circle["Sx1"].is_null());
