@@ -162,8 +162,7 @@ int Check(const orv3_char* text, orv3_char* out, int size) {
   const auto input = CaseOf(check, ReadValues(text));
   if (!check.Run(input)) throw CFailure(check.Faults().front().Line(CLanguage::English));
   std::vector<CString> lines{L"pass=" + ValueText(check.Pass() ? 1 : 0),
-                             L"utilisation=" + ValueText(check.Worst().m_dUtilisation),
-                             L"governs=" + FromUtf8(check.Worst().m_name.m_szEnglish)};
+                             L"utilisation=" + ValueText(check.Worst().m_dUtilisation)};
   for (const auto& key : CHECK::ResultKeys()) {
     if ((key.m_nKinds >> CHECK::Kind(input) & 1U) == 0) continue;
     const CString value =

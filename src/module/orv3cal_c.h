@@ -168,8 +168,8 @@ ORV3_API int ORV3_CALL orv3_pair_geometry(const orv3_char* table, const orv3_cha
 
 /* `input` is a list of values with the keys of the command line's case files (docs/connections.md);
  * a spacing may be several numbers separated by semicolons. The result is a list of values: the
- * verdict as "pass" (1 or 0), "utilisation" and "governs", the results of the record, and one line
- * "warning" for each warning (English). */
+ * verdict as "pass" (1 or 0) and "utilisation", the results of the record, and one line "warning"
+ * for each warning (English). */
 ORV3_API int ORV3_CALL orv3_check_bolt(const orv3_char* input, orv3_char* text, int size);
 ORV3_API int ORV3_CALL orv3_check_fillet(const orv3_char* input, orv3_char* text, int size);
 ORV3_API int ORV3_CALL orv3_check_butt(const orv3_char* input, orv3_char* text, int size);
