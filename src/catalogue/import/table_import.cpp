@@ -57,7 +57,8 @@ class CTableMerger {
     if (m_result.m_nAdded + m_result.m_nReplaced == 0 && !bare) return true;
     const auto faults = SaveFaults(m_target, m_store);
     if (!faults.empty()) {
-      m_result = {m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText + Crowd(), false};
+      m_result = {
+          m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText + Crowd(m_target), false};
       return true;
     }
     m_changed = m_target.WriteTable(m_store, kSystemKind, 0) != 0;
@@ -94,9 +95,9 @@ class CTableMerger {
   }
 
   // The usual reason why the record of a table does not fit its place.
-  CString Crowd() const {
+  static CString Crowd(const CDataTable& table) {
     constexpr int kUsual = 1600;
-    const int rows = m_target.GetTableRowNum();
+    const int rows = table.GetTableRowNum();
     return rows < kUsual
                ? CString()
                : L"; it would have " + FormatInt(rows) + L" rows, a table takes some 1,700";
@@ -122,7 +123,7 @@ class CTableMerger {
   bool Check() {
     for (const CSaveFault& fault : SaveFaults(m_source, CString(), true)) {
       if (fault.m_nRow < 0) {
-        m_result.m_strWhy = fault.m_strText;
+        m_result.m_strWhy = fault.m_strText + Crowd(m_source);
         return false;
       }
       m_mapFault.try_emplace(fault.m_nRow, fault.m_strText);
