@@ -7,6 +7,7 @@
 
 #include "error.h"
 #include "framework/utf8.h"
+#include "platform/code_page.h"
 
 namespace orv3::cli {
 namespace {
@@ -33,8 +34,11 @@ bool IsPipe(const std::filesystem::path& path) {
 
 }  // namespace
 
-CCaseBytes::CCaseBytes(const std::string& path, CLanguage language)
-    : m_strPath(path), m_nLanguage(language), m_strPiece(kPiece, '\0') {
+CCaseBytes::CCaseBytes(const std::string& path, bool spreadsheet, CLanguage language)
+    : m_strPath(path),
+      m_nLanguage(language),
+      m_bSpreadsheet(spreadsheet),
+      m_strPiece(kPiece, '\0') {
   const std::filesystem::path native(std::u8string(path.begin(), path.end()));
   if (path == "-") {
     m_pStream = std::make_unique<std::istream>(std::cin.rdbuf());
@@ -58,6 +62,33 @@ void CCaseBytes::OpenFile(const std::string& path) {
   m_nSize = stamp.m_nSize;
 }
 
+// Appends the whole characters of a piece and answers their bytes. The first piece that is more
+// than ASCII decides whether a spreadsheet's file is of UTF-8 or of the code page.
+std::size_t CCaseBytes::AddCharacters(std::string_view piece, bool last, std::string& text) {
+  std::size_t whole = last ? piece.size() : WholeCharacters(piece);
+  std::string_view characters = piece.substr(0, whole);
+  const bool utf8 = !m_bCodePage && IsUtf8(characters);
+  if (characters.find('\0') != characters.npos || (!utf8 && (!m_bSpreadsheet || m_bUtf8))) {
+    Refuse({"不是 UTF-8 文本；请另存为 UTF-8", "is no UTF-8 text; save it as UTF-8"});
+  }
+  if (utf8) {
+    const auto isAscii = [](char ch) { return static_cast<unsigned char>(ch) < 0x80; };
+    m_bUtf8 = m_bUtf8 || !std::all_of(characters.begin(), characters.end(), isAscii);
+    text += characters;
+    return whole;
+  }
+  m_bCodePage = true;
+  whole = AnsiCut(piece, piece.size());
+  characters = piece.substr(0, whole);
+  const CString wide = FromAnsi(characters);
+  if (wide.Find(L'\xFFFD') >= 0 || (last && whole < piece.size())) {
+    Refuse({"既不是 UTF-8 文本，也不是系统字符集的文本；请另存为 UTF-8",
+            "is text neither of UTF-8 nor of the code page; save it as UTF-8"});
+  }
+  text += ToUtf8(wide);
+  return whole;
+}
+
 std::size_t CCaseBytes::Read(char* data, std::size_t size) {
   if (m_pFile) return m_pFile->Read(m_nAt, data, size);
   m_pStream->read(data, static_cast<std::streamsize>(size));
@@ -71,12 +102,7 @@ bool CCaseBytes::More(std::string& text) {
   if (got == 0 && m_nAt < m_nSize) {
     RefuseFile({"读到一半出错；请检查磁盘", "cannot be read to its end; check the disk"});
   }
-  const std::size_t whole = got == 0 ? piece.size() : WholeCharacters(piece);
-  const std::string_view characters = piece.substr(0, whole);
-  if (!IsUtf8(characters) || characters.find('\0') != characters.npos) {
-    Refuse({"不是 UTF-8 文本；请另存为 UTF-8", "is no UTF-8 text; save it as UTF-8"});
-  }
-  text += characters;
+  const std::size_t whole = AddCharacters(piece, got == 0, text);
   m_nCut = piece.size() - whole;
   std::copy_n(m_strPiece.data() + whole, m_nCut, m_strPiece.data());
   return got > 0;

@@ -6,8 +6,9 @@ namespace orv3::cli {
 
 void ReadCases(const std::string& path, const CCaseSchema& schema, CLanguage language,
                const CTakeCase& take) {
-  CCaseBytes bytes(path, language);
-  if (path.ends_with(".csv") || path.ends_with(".CSV")) {
+  const bool csv = path.ends_with(".csv") || path.ends_with(".CSV");
+  CCaseBytes bytes(path, csv, language);
+  if (csv) {
     ReadCsvCases(bytes, schema, take);
   } else {
     ReadJsonCases(bytes, schema, take);

@@ -46,7 +46,10 @@ void CAnswers::Flush() {
       if (m_nForm == CAnswerForm::Json) text += std::exchange(m_bBegun, true) ? ",\n" : "[\n";
       text += answer.m_strText;
     }
-    Print(text);
+    if (m_nForm == CAnswerForm::Csv)
+      PrintCsv(text);
+    else
+      Print(text);
   }
   m_bBegun = m_bBegun || m_nForm != CAnswerForm::Json;
   m_arrAnswer.clear();

@@ -17,8 +17,6 @@
 #include "platform/file_system.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
-#include "platform/store_journal.h"
-#include "platform/whole_file.h"
 #include "store_commands.h"
 #include "store_place.h"
 #include "store_table.h"
@@ -168,7 +166,7 @@ std::string Content(const COptions& options, std::vector<CDataTable>& tables, in
   if (HasExtension(options.to, ".json")) return JsonText(tables);
   if (HasExtension(options.to, ".xlsx")) return WorkbookBytes(options.to, tables);
   // An interrupted save of a store that was here before has no say in the new one.
-  if (!IsThere(options.to)) Files().Remove(JournalPath(Files().Resolve(FromUtf8(options.to))));
+  if (!IsThere(options.to)) RemoveJournal(FromUtf8(options.to));
   return TableFileBytes(tables, kind);
 }
 
