@@ -198,11 +198,14 @@ CFigure Slender(const CArguments& a) {
 
 CFigure Phi(const CArguments& a) {
   static constexpr const char* kClasses[] = {"a", "b", "c", "d"};
-  const double lambda = Number(a, 0, "LAMBDA", kRatio);
-  const double fy = Number(a, 1, "FY", "a yield strength above 0 N/mm²");
+  static constexpr const char* kSlenderness = "a slenderness of 0 to 1000";
+  static constexpr const char* kYield = "a yield strength of 100 to 1000 N/mm²";
+  const double lambda = Number(a, 0, "LAMBDA", kSlenderness);
+  const double fy = Number(a, 1, "FY", kYield);
   double phi = 0;
-  const bool bFound = CTableSearch::SearchSub12(lambda, fy, Choice(a, 2, "CLASS", kClasses), phi);
-  Found(bFound && fy > 0, a, 1, "FY", "a yield strength above 0 N/mm²");
+  Found(lambda >= 0 && lambda <= 1000, a, 0, "LAMBDA", kSlenderness);
+  Found(fy >= 100 && fy <= 1000, a, 1, "FY", kYield);
+  CTableSearch::SearchSub12(lambda, fy, Choice(a, 2, "CLASS", kClasses), phi);
   return {phi, "", "GB 50017-2003, Appendix C"};
 }
 

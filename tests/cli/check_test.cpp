@@ -225,6 +225,23 @@ TEST(CheckCommand, AnswersManyCasesOfACsv) {
   EXPECT_EQ(answers[1]["results"], ExampleAnswer("bolt")["results"]) << "the same group";
 }
 
+// "端板" in UTF-8 and in the code page, behind more plain text than is read at once.
+TEST(CheckCommand, TakesACsvInTheCodePageOfASpreadsheet) {
+  const std::string utf8 = "\xE7\xAB\xAF\xE6\x9D\xBF";
+  const std::string codePage = "\xB6\xCB\xB0\xE5";
+  const std::string rest = ";0;Q235;1;100;10;50;0;0\r\n";
+  std::string plain = "id;case;steel;quality;lw;t;N;M;V\r\n";
+  for (int i = 0; i < 4000; ++i) plain += "plain" + rest;
+  const auto check = [&](const std::string& id) {
+    return Check("butt", plain + id + rest, "--csv", "saved.csv");
+  };
+  ExpectHas(check(utf8).m_strOut, {utf8});
+  EXPECT_EQ(check(codePage).m_strOut, check(utf8).m_strOut);
+  // What began as UTF-8 goes on as such; what is neither is refused.
+  for (const std::string& broken : {utf8 + rest + codePage, std::string("\xFF\xFF")})
+    EXPECT_EQ(check(broken).m_nExit, 2);
+}
+
 // Of an array of cases, each of which is read to its end.
 TEST(CheckCommand, RefusedCasesKeepTheirOwnIds) {
   const COwnFile file("cases.json",

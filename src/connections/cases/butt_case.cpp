@@ -109,9 +109,9 @@ bool CButtCheck::Run(const CButtCase& input) {
                okTau == 1,           okReduced == 1};
   const CButtResults& r = m_results;
   const CWeldFigures j = m_figures = JudgedFigures(input, r);
-  Judge({"正应力 σ", "normal stress σ"}, "okSigma", j.Across() / j.AcrossLimit(), r.m_bSigma);
+  Judge({"正应力 σ", "normal stress σ"}, "okSigma", j.Across() / j.AcrossLimit());
   if (j.m_bShear) {
-    Judge({"剪应力 τ", "shear stress τ"}, "okTau", j.m_dTau / j.m_dTauLimit, r.m_bTau);
+    Judge({"剪应力 τ", "shear stress τ"}, "okTau", j.m_dTau / j.m_dTauLimit);
     Judge({"折算应力", "reduced stress"}, "okReduced", j.m_dCombined / j.m_dCombinedLimit,
           r.m_bReduced);
   }

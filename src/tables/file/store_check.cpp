@@ -83,6 +83,7 @@ class CVerify {
       Add(name, at, L"the record fills its 200 bytes and may be cut");
     }
     Text(name, at, L"the record", DecodeText(m_directory.RecordBytes(i)));
+    if (!Numbers(i, info)) return;
     if (!IsSlotLength(info.m_nItemLen)) {
       return Add(name, at, L"slot length " + FormatInt(info.m_nItemLen) + L" is not 33 n + 25");
     }
@@ -97,6 +98,14 @@ class CVerify {
     Heading(info);
     Rows(info);
     LeftOver(info, at);
+  }
+
+  // Whether the record's numbers read as what stands there: a count of "15x" would pass for 15.
+  bool Numbers(int i, const CDataFileInfo& info) {
+    const CString form = DecodeText(m_directory.RecordBytes(i));
+    if (form == CString(RecordForm(info))) return true;
+    Add(info.m_strTableName, RecordAt(i), L"the record's numbers are none: \"" + form + L"\"");
+    return false;
   }
 
   bool Blocks(const CDataFileInfo& info, std::int64_t recordAt) {
