@@ -217,8 +217,7 @@ TEST_F(GeometryCatalogue, PairsWithoutTheirComponent) {
   EXPECT_NEAR(CLoadDataTable::GetDataItemArea(row), 960.6, 1e-9);
 }
 
-// --- Shear centre and warping
-// ---------------------------------------------------------------------
+// --- Shear centre and warping --------------------------------------------------------------------
 
 double Cell(const CDataItem& row, const wchar_t* sign) {
   double value = 0;

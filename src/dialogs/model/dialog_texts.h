@@ -3,8 +3,7 @@
 
 namespace orv3::texts {
 
-// --- Browser
-// --------------------------------------------------------------------------------------
+// --- Browser -------------------------------------------------------------------------------------
 inline constexpr wchar_t kBrowserCaption[] = L"钢结构截面特性数据库";
 inline constexpr wchar_t kCatalogueRoot[] = L"标准型钢库";
 inline constexpr wchar_t kCustomRoot[] = L"自定义型钢库";
@@ -13,13 +12,11 @@ inline constexpr wchar_t kExportTitle[] = L"导出截面数据";
 inline constexpr wchar_t kDataFileFilter[] = L"型钢数据文件 (*.Kvb)";
 inline constexpr wchar_t kTableFileFilter[] = L"截面库文件 (*.KDB)";
 
-// --- Titles of message boxes
-// ------------------------------------------------------------------------
+// --- Titles of message boxes ---------------------------------------------------------------------
 inline constexpr wchar_t kReminder[] = L"Orvo提醒您";
 inline constexpr wchar_t kProtectedReminder[] = L"orvo提醒您";
 
-// --- Refusals and questions of the browser
-// ----------------------------------------------------------
+// --- Refusals and questions of the browser -------------------------------------------------------
 inline constexpr wchar_t kProtectedRow[] = L"本数据记录不能删除和编辑!";
 inline constexpr wchar_t kNoCopyOfCombined[] = L"型钢组合不能进行复制";
 inline constexpr wchar_t kOverwriteQuestion[] =
@@ -44,18 +41,15 @@ inline constexpr wchar_t kImportOtherColumns[] =
 inline constexpr wchar_t kImporting[] = L"正在导入截面数据";
 inline constexpr wchar_t kExporting[] = L"正在导出截面数据";
 
-// --- Failures of stores
-// -----------------------------------------------------------------------------
+// --- Failures of stores --------------------------------------------------------------------------
 inline constexpr wchar_t kSaveFailed[] = L"数据保存失败：";
 inline constexpr wchar_t kReadFailed[] = L"数据读取失败：";
 
-// --- What goes wrong unforeseen
-// -------------------------------------------------------------------
+// --- What goes wrong unforeseen ------------------------------------------------------------------
 inline constexpr wchar_t kNoMemory[] = L"内存不足，操作没有完成。";
 inline constexpr wchar_t kUnforeseen[] = L"程序内部错误，操作没有完成：\n";
 
-// --- Property dialog
-// --------------------------------------------------------------------------------
+// --- Property dialog -----------------------------------------------------------------------------
 inline constexpr wchar_t kPropertyEdit[] = L"截面特性参数设置";
 inline constexpr wchar_t kPropertyShow[] = L"截面特性参数查询";
 inline constexpr wchar_t kCancel[] = L"取消";
@@ -68,8 +62,7 @@ inline constexpr wchar_t kNoResult[] =
 inline constexpr wchar_t kSizesChanged[] = L"已修改，而下列数值仍是原截面的，程序不重新计算：\n";
 inline constexpr wchar_t kOldFigures[] = L"\n是否仍按现有数据保存？";
 
-// --- Spacing and number
-// -----------------------------------------------------------------------------
+// --- Spacing and number --------------------------------------------------------------------------
 inline constexpr wchar_t kSpacingCaption[] = L"型钢组合肢距输入";
 inline constexpr wchar_t kSpacingA[] = L"肢距a(mm)";
 inline constexpr wchar_t kSpacingDelta[] = L"肢距δ(mm)";
@@ -78,15 +71,13 @@ inline constexpr wchar_t kSpacingSignA[] = L"a(mm)";
 inline constexpr wchar_t kSpacingSignDelta[] = L"δ(mm)";
 inline constexpr wchar_t kSignCaption[] = L"型钢型号输入";
 
-// --- Columns and table names
-// ------------------------------------------------------------------------
+// --- Columns and table names ---------------------------------------------------------------------
 inline constexpr wchar_t kColumnCaption[] = L"选择显示项";
 inline constexpr wchar_t kNoColumn[] = L"请至少选择一个显示项!";
 inline constexpr wchar_t kTableNameCaption[] = L"选择截面表";
 inline constexpr wchar_t kNoTableChosen[] = L"请至少选择一个截面表!";
 
-// --- User tables
-// ------------------------------------------------------------------------------------
+// --- User tables ---------------------------------------------------------------------------------
 inline constexpr wchar_t kUserTableCaption[] = L"用户截面库";
 inline constexpr wchar_t kEmptyTable[] = L"空白表";
 inline constexpr wchar_t kNewTable[] = L"新建截面表";
