@@ -7,13 +7,13 @@
 namespace orv3 {
 namespace {
 
-struct CFamily {
+struct CTreeFamily {
   const wchar_t* m_szText;
   int m_nType;
   int m_nImage;
 };
 
-constexpr CFamily kCatalogueFamilies[] = {
+constexpr CTreeFamily kCatalogueFamilies[] = {
     {L"工字钢、H型钢", TABLE_FAMILY_I, 0},
     {L"方钢管", TABLE_FAMILY_BOX, 2},
     {L"T型钢", TABLE_FAMILY_T, 3},
@@ -25,7 +25,7 @@ constexpr CFamily kCatalogueFamilies[] = {
     {L"槽钢组合", TABLE_FAMILY_CHANNEL_PAIR, 16},
 };
 
-constexpr CFamily kCustomFamilies[] = {
+constexpr CTreeFamily kCustomFamilies[] = {
     {L"工字形截面", TABLE_FAMILY_I, 0},      {L"箱形截面", TABLE_FAMILY_BOX, 2},
     {L"十字形截面", TABLE_FAMILY_CROSS, 18}, {L"T形截面", TABLE_FAMILY_T, 3},
     {L"槽形截面", TABLE_FAMILY_CHANNEL, 4},  {L"Z形截面", TABLE_FAMILY_Z, 20},
@@ -38,9 +38,9 @@ class CTreeMaker {
   explicit CTreeMaker(const CStringArray& names) : m_arrName(names) {}
 
   template <std::size_t COUNT>
-  void AddRoot(const wchar_t* text, int source, const CFamily (&families)[COUNT]) {
+  void AddRoot(const wchar_t* text, int source, const CTreeFamily (&families)[COUNT]) {
     const int root = Add({text, families[0].m_nImage, -1, false});
-    for (const CFamily& family : families) AddFamily(root, source, family);
+    for (const CTreeFamily& family : families) AddFamily(root, source, family);
   }
 
   std::vector<CTreeNode> m_arrNode;
@@ -51,7 +51,7 @@ class CTreeMaker {
     return static_cast<int>(m_arrNode.size()) - 1;
   }
 
-  void AddFamily(int root, int source, const CFamily& family) {
+  void AddFamily(int root, int source, const CTreeFamily& family) {
     const int parent = Add({family.m_szText, family.m_nImage, root, false});
     CStringArray tables;
     CLoadDataTable::SelectTableNameArray(source | family.m_nType, m_arrName, tables);
