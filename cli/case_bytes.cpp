@@ -113,7 +113,7 @@ double CCaseBytes::Done() const noexcept {
 }
 
 void CCaseBytes::Refuse(const CText& what) const {
-  throw CCommandError(CExit::BadInput, m_strPath + ": " + what.In(m_nLanguage));
+  cli::Refuse(m_strPath + ": " + what.In(m_nLanguage));
 }
 
 void CCaseBytes::RefuseLongCase() const {

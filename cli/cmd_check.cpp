@@ -143,7 +143,7 @@ class CChecker {
   CLanguage Language() const noexcept { return m_options.Language(); }
 
   [[noreturn]] void Refuse(const CText& what) const {
-    throw CCommandError(CExit::BadInput, Visible(m_options.file) + ": " + what.In(Language()));
+    cli::Refuse(Visible(m_options.file) + ": " + what.In(Language()));
   }
 
   // Computes the case that was read, and answers it.

@@ -30,15 +30,14 @@ struct CFigure {
   std::string m_strNote = {};  // what to know before relying on it
 };
 
-[[noreturn]] void Refuse(const std::string& name, const std::string& text,
-                         const std::string& right) {
-  throw CCommandError(CExit::BadInput,
-                      name + ": \"" + Excerpt(text) + "\" is not possible; give " + right);
+[[noreturn]] void RefuseArgument(const std::string& name, const std::string& text,
+                                 const std::string& right) {
+  Refuse(name + ": \"" + Excerpt(text) + "\" is not possible; give " + right);
 }
 
 double Number(const CArguments& arguments, std::size_t at, const char* name, const char* right) {
   const CString text = FromUtf8(arguments[at]);
-  if (!IsNumber(text) || ToDouble(text) < 0) Refuse(name, arguments[at], right);
+  if (!IsNumber(text) || ToDouble(text) < 0) RefuseArgument(name, arguments[at], right);
   return ToDouble(text);
 }
 
@@ -51,7 +50,7 @@ int Choice(const CArguments& arguments, std::size_t at, const char* name,
     if (arguments[at] == words[i]) return static_cast<int>(i);
     right += std::string(i == 0 ? " " : ", ") + words[i];
   }
-  Refuse(name, arguments[at], right);
+  RefuseArgument(name, arguments[at], right);
 }
 
 // The same for numbers.
@@ -62,7 +61,7 @@ int Choice(const CArguments& arguments, std::size_t at, const char* name,
   for (std::size_t i = 0; i < COUNT; ++i) right += (i == 0 ? " " : ", ") + NumberText(numbers[i]);
   const double number = Number(arguments, at, name, right.c_str());
   const auto* found = std::find(std::begin(numbers), std::end(numbers), number);
-  if (found == std::end(numbers)) Refuse(name, arguments[at], right);
+  if (found == std::end(numbers)) RefuseArgument(name, arguments[at], right);
   return static_cast<int>(found - std::begin(numbers));
 }
 
@@ -73,14 +72,14 @@ int Whole(const CArguments& arguments, std::size_t at, const char* name, int fir
                             std::to_string(last) + (meanings.empty() ? "" : ": " + meanings);
   const double number = Number(arguments, at, name, right.c_str());
   if (number != std::floor(number) || number < first || number > last)
-    Refuse(name, arguments[at], right);
+    RefuseArgument(name, arguments[at], right);
   return static_cast<int>(number);
 }
 
 // What a look-up found, or a refusal that names the argument it does not have.
 void Found(bool bFound, const CArguments& arguments, std::size_t at, const char* name,
            const char* right) {
-  if (!bFound) Refuse(name, arguments[at], right);
+  if (!bFound) RefuseArgument(name, arguments[at], right);
 }
 
 constexpr const char* kStress = "N/mm²";
@@ -372,10 +371,8 @@ void CheckCount(const CQuestion& question, std::size_t count) {
   const auto given = static_cast<int>(count);
   if (given <= question.m_nArguments && given >= question.m_nArguments - question.m_nOptional)
     return;
-  throw CCommandError(CExit::BadInput, std::string("code ") + question.m_szName + " takes " +
-                                           question.m_szArguments + "; " + std::to_string(given) +
-                                           (given == 1 ? " argument was" : " arguments were") +
-                                           " given");
+  Refuse(std::string("code ") + question.m_szName + " takes " + question.m_szArguments + "; " +
+         std::to_string(given) + (given == 1 ? " argument was" : " arguments were") + " given");
 }
 
 void PrintFigure(const CFigure& figure, bool bJson) {

@@ -25,8 +25,6 @@ struct COptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
-
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
 void CheckTable(const std::string& table) {

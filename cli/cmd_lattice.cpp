@@ -33,8 +33,6 @@ struct COptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
-
 std::string Cell(const CDataItem& row, const wchar_t* sign) { return ToUtf8(row[sign].m_strValue); }
 
 CString CellText(const CKeyValue& value) {

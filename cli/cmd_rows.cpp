@@ -34,8 +34,6 @@ struct COptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
-
 // --- Conditions ----------------------------------------------------------------------------------
 
 // A search passes over what it does not understand; here it is refused.

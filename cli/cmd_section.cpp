@@ -33,8 +33,6 @@ struct COptions {
   std::string dxf;
 };
 
-[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
-
 const CSectionStyle& StyleOf(const std::string& text) {
   const CString wide = FromUtf8(text);
   const CSectionStyle* style = FindSectionAlias(text);

@@ -31,8 +31,6 @@ struct COptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
-
 [[noreturn]] void RefuseTable(const COptions& options, const CString& file) {
   CStringArray names;
   CDataTable::GetTableNameFromFile(file, names);

@@ -62,9 +62,9 @@ std::int32_t MaskOf(const std::string& text) {
   std::uint32_t mask = 0;
   const auto read = std::from_chars(first, end, mask, hex ? 16 : 10);
   if (read.ec != std::errc() || read.ptr != end) {
-    throw CCommandError(CExit::BadInput, "--mask: \"" + text +
-                                             "\" is no mask; right would be a number of 32 bits, "
-                                             "such as 0x01000001 for the rolled I and H sections");
+    Refuse("--mask: \"" + text +
+           "\" is no mask; right would be a number of 32 bits, "
+           "such as 0x01000001 for the rolled I and H sections");
   }
   return static_cast<std::int32_t>(mask);
 }

@@ -16,4 +16,9 @@ class CCommandError : public std::runtime_error {
   CExit m_nExit;
 };
 
+// Ends the command for a mistake in what it was asked.
+[[noreturn]] inline void Refuse(const std::string& text) {
+  throw CCommandError(CExit::BadInput, text);
+}
+
 }  // namespace orv3::cli

@@ -36,8 +36,6 @@ struct COptions {
 constexpr int kProtectedState = 3;  // and above: rows of the catalogue
 constexpr long kPairs = TABLE_ROLLED | TABLE_FAMILY_ANGLE_PAIR | TABLE_FAMILY_CHANNEL_PAIR;
 
-[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
-
 // --- Cells ---------------------------------------------------------------------------------------
 
 // Puts SIGN=VALUE into the row. Signs hold no "=", so that the first one parts them.

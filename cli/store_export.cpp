@@ -34,7 +34,6 @@ struct COptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
 [[noreturn]] void Fail(const CString& text) {
   throw CCommandError(CExit::FileTrouble, ToUtf8(text));
 }

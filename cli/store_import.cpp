@@ -29,8 +29,6 @@ struct COptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void Refuse(const std::string& text) { throw CCommandError(CExit::BadInput, text); }
-
 // --- Sources -------------------------------------------------------------------------------------
 
 // More than all rows of any table with their cells at full length.

@@ -26,7 +26,7 @@ CStoreOptions Place(const COptions& options) {
   CStoreOptions place = options.store;
   if (options.file.empty()) return place;
   if (!place.store.empty()) {
-    throw CCommandError(CExit::BadInput, "FILE and --store both name a file; right would be one");
+    Refuse("FILE and --store both name a file; right would be one");
   }
   place.store = options.file;
   return place;

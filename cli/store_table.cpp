@@ -33,10 +33,9 @@ CDataTable StoreTable(const CString& store, const CString& name) {
   if (table.GetTable(store, info)) return table;
   const CStringArray names = StoreTableNames(store);
   if (std::find(names.begin(), names.end(), name) != names.end()) NotRead(store);
-  throw CCommandError(CExit::BadInput, "TABLE: the store has no table \"" + ToUtf8(name) +
-                                           (names.IsEmpty() ? "\", nor any other"
-                                                            : "\"; the nearest are: " +
-                                                                  Nearest(ToUtf8(name), names)));
+  Refuse("TABLE: the store has no table \"" + ToUtf8(name) +
+         (names.IsEmpty() ? "\", nor any other"
+                          : "\"; the nearest are: " + Nearest(ToUtf8(name), names)));
 }
 
 int ColumnOf(const CDataTable& table, const std::string& what, const std::string& sign) {
@@ -44,8 +43,8 @@ int ColumnOf(const CDataTable& table, const std::string& what, const std::string
   if (column >= 0) return column;
   CStringArray signs;
   for (int i = 0; i < table.GetTableColNum(); ++i) signs.Add(table.m_Title[i].m_strSign);
-  throw CCommandError(CExit::BadInput, what + ": the table has no column \"" + sign +
-                                           "\"; the nearest are: " + Nearest(sign, signs));
+  Refuse(what + ": the table has no column \"" + sign +
+         "\"; the nearest are: " + Nearest(sign, signs));
 }
 
 }  // namespace orv3::cli

@@ -48,8 +48,8 @@ void CheckSheetNames(const std::vector<CDataTable>& tables) {
     std::string folded = name;  // sheets' names differ in more than capitals
     for (char& ch : folded) ch = ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + 32) : ch;
     if (names.insert(folded).second) continue;
-    throw CCommandError(CExit::BadInput, "two tables would have the sheet name \"" + name +
-                                             "\"; right would be to export them apart");
+    Refuse("two tables would have the sheet name \"" + name +
+           "\"; right would be to export them apart");
   }
 }
 
@@ -114,10 +114,9 @@ std::string WorkbookBytes(const std::string& file, const std::vector<CDataTable>
 namespace orv3::cli {
 
 std::string WorkbookBytes(const std::string& file, const std::vector<CDataTable>&) {
-  throw CCommandError(CExit::BadInput,
-                      file +
-                          ": this program was built without libxlsxwriter and writes no "
-                          "workbooks; right would be a .csv, .json or .KDB file");
+  Refuse(file +
+         ": this program was built without libxlsxwriter and writes no "
+         "workbooks; right would be a .csv, .json or .KDB file");
 }
 
 }  // namespace orv3::cli

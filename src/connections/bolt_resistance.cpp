@@ -1,4 +1,6 @@
 // Strengths and the resistances of one bolt: GB 50017-2003, 3.4.1, 7.2.1 to 7.2.4.
+#include <numbers>
+
 #include "catalogue/code_tables/table_search.h"
 #include "connections/bolt_group.h"
 #include "connections/check_math.h"
@@ -16,7 +18,7 @@ constexpr const wchar_t* NormalBoltData::m_strBolt[28][2] = {
 
 namespace {
 
-constexpr double kPi = 3.141592653589793;
+constexpr double kPi = std::numbers::pi;
 
 // The row of the steel strength table for a plate.
 int SteelRow(int steel, double thickness) noexcept {

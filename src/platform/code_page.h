@@ -27,8 +27,7 @@ ORV3CAL_API CString FromAnsi(std::string_view bytes);
 // How many of the first `limit` bytes are whole characters.
 ORV3CAL_API std::size_t AnsiCut(std::string_view bytes, std::size_t limit);
 
-// --- What a platform supplies
-// ---------------------------------------------------------------------
+// --- What a platform supplies --------------------------------------------------------------------
 
 // A page's characters by their bytes; 0 for bytes without a character.
 struct CCodePageTable {

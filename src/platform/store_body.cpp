@@ -27,8 +27,7 @@ CStoreBody::~CStoreBody() {
   if (saves && m_nFileSize == 0 && (m_bEmptied || m_pFile->WasCreated())) m_pFile->Discard();
 }
 
-// --- Reading and changing in memory
-// ---------------------------------------------------------------
+// --- Reading and changing in memory --------------------------------------------------------------
 
 bool CStoreBody::ReadFromFile(std::uint64_t offset, char* data, std::size_t size) const {
   const std::uint64_t left = offset < m_nFileSize ? m_nFileSize - offset : 0;
@@ -99,8 +98,7 @@ bool CStoreBody::TakeStamp() {
   return true;
 }
 
-// --- Saving
-// ---------------------------------------------------------------------------------------
+// --- Saving --------------------------------------------------------------------------------------
 
 // Keeps only the pages that differ from the file; what differs goes into the journal.
 bool CStoreBody::CollectChanges(CStoreJournal& journal) {
@@ -200,8 +198,7 @@ void CStoreBody::DropGathered() {
   DropChanges();
 }
 
-// --- After an interrupted save
-// --------------------------------------------------------------------
+// --- After an interrupted save -------------------------------------------------------------------
 
 // `found` tells whether there is a journal that is whole; one that is not is removed: the store was
 // not touched yet. False, with the reason told, when one is there and cannot be read.

@@ -212,8 +212,7 @@ int SystemGroup(int group) { return group >= 0 && group < kSystemGroups ? group 
 
 }  // namespace
 
-// --- Headers and slots
-// ----------------------------------------------------------------------------
+// --- Headers and slots ---------------------------------------------------------------------------
 
 int CSteelJMData::ReadJMFileInfo(const CStoreFile* file, int group, FileInfo& info) {
   FileInfo header;
@@ -245,8 +244,7 @@ int CSteelJMData::GetTableItem(const CStoreFile* file, long position, CSteelJMDa
          orv3::DecodeRecord(image, record);
 }
 
-// --- Whole groups
-// ---------------------------------------------------------------------------------
+// --- Whole groups --------------------------------------------------------------------------------
 
 int CSteelJMData::WriteTable(const CArray<CSteelJMData>& records, int group, const CString& path) {
   orv3::ClearStoreError();
@@ -276,8 +274,7 @@ int CSteelJMData::GetTableLength(int group, const CString& path) {
   return file && ReadJMFileInfo(file.get(), group, info) ? info.m_nCount : 0;
 }
 
-// --- The three stores
-// -----------------------------------------------------------------------------
+// --- The three stores ----------------------------------------------------------------------------
 
 int CSteelJMData::WriteTableToSystem(const CArray<CSteelJMData>& records, int group) {
   return WriteTable(records, SystemGroup(group), orv3::kSystemRecords);
@@ -315,8 +312,7 @@ int CSteelJMData::GetTableLengthToCurrent() {
   return GetTableLength(kSingleGroup, orv3::kCurrentRecords);
 }
 
-// --- Section tables from records
-// ------------------------------------------------------------------
+// --- Section tables from records -----------------------------------------------------------------
 
 int CSteelJMData::GetJMTableData(const CString& tableName, CDataTable& table) {
   return TransJMTableData(tableName, table, 0);

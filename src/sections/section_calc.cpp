@@ -1,6 +1,7 @@
 // The properties of the shapes that have formulas of their own. The workers' numbers differ from
 // the style numbers; the dispatch tells which belongs to which.
 #include <iterator>
+#include <numbers>
 #include <span>
 
 #include "sections/base_point.h"
@@ -15,8 +16,8 @@ using orv3::RectInertia;
 
 namespace {
 
-constexpr double kPi = 3.141592653589793;
-constexpr double kRoot3 = 1.7320508075688772;
+constexpr double kPi = std::numbers::pi;
+constexpr double kRoot3 = std::numbers::sqrt3;
 
 // One plate: its lower-left corner and its extents.
 struct CRect {

@@ -146,11 +146,9 @@ class ORV3CAL_API CDataTable {
   static int CheckDouble(const CString& text, double& out, double max, double min);
   static int CheckInt(const CString& text, long& out, long max, long min);
 
-  // --- Table files: see tables/file/layout.h
-  // ------------------------------------------------ Text as it goes to a file ("fake" form), one
-  // byte a character, and back; see file/table_text.h. A character that the ANSI code page lacks
-  // becomes
-  // "?"; saves refuse it.
+  // --- Table files: see tables/file/layout.h -----------------------------------------------------
+  // Text as it goes to a file ("fake" form), one byte a character, and back; see
+  // file/table_text.h. A character that the ANSI code page lacks becomes "?"; saves refuse it.
   static CString TransStringToFake(const CString& text);
   static CString TransFakeToString(const char* stored);
   CString TransItemToFake(int position) const;

@@ -101,16 +101,6 @@ void Compare(const CDataItem& row, CDeviations& d) {
   EXPECT_GE(CLoadDataTable::GetDataItemMaxThick(row), least) << orv3::ToUtf8(table);
 }
 
-// The rectangle's middle axes are axes of symmetry when the moments beside them say so.
-void CompareSymmetry(const CDataItem& row) {
-  const CIntegrated flat = IntegrateRow(row);
-  const bool straight = std::fabs(flat.about.xy) < 1e-6 * flat.about.xx;
-  const bool x = straight && std::fabs(flat.top - flat.bottom) < 1e-6;
-  const bool y = straight && std::fabs(flat.left - flat.right) < 1e-6;
-  EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row), x) << orv3::ToUtf8(row.m_strTableName);
-  EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row), y) << orv3::ToUtf8(row.m_strTableName);
-}
-
 // Per cent. Printed figures of the smallest sections have two digits, so that one row may be off by
 // half a unit of the second; over a table that evens out. Cells of user-defined rows have six.
 struct CLimits {
@@ -142,7 +132,6 @@ TEST_F(GeometryCatalogue, RolledRowsAgreeWithTheirOutline) {
   for (const CString& table : Tables()) {
     CDeviations d;
     for (const CDataItem& row : Rows(table)) Compare(row, d);
-    CompareSymmetry(Rows(table)[0]);
     ExpectClose(orv3::ToUtf8(table), d, kPrinted);
   }
 }
@@ -217,8 +206,7 @@ TEST_F(GeometryCatalogue, PairsWithoutTheirComponent) {
   EXPECT_NEAR(CLoadDataTable::GetDataItemArea(row), 960.6, 1e-9);
 }
 
-// --- Shear centre and warping
-// ---------------------------------------------------------------------
+// --- Shear centre and warping --------------------------------------------------------------------
 
 double Cell(const CDataItem& row, const wchar_t* sign) {
   double value = 0;

@@ -41,26 +41,9 @@ TEST(Sketch, EveryNumberIsAPictureOfItsOwnWithinItsFrame) {
   }
 }
 
-TEST(Sketch, IsChosenByTheWholeTableName) {
-  const std::pair<const wchar_t*, int> cases[] = {{L"热轧普通工字钢", 8013},
-                                                  {L"热轧轻型焊接H型钢", 8014},
-                                                  {L"热轧宽翼缘H型钢", 8010},
-                                                  {L"热轧窄翼缘H型钢", 8011},
-                                                  {L"冷弯薄壁斜卷边Z型钢", 8020},
-                                                  {L"热轧不等边角钢长边组合", 8024},
-                                                  {L"热轧轻型槽钢][组合", 8028},
-                                                  {L"热轧轻型槽钢[]组合", 8027},
-                                                  {L"剖分T型钢", 8029},
-                                                  {L"自定义非对称H型钢", 8043},
-                                                  {L"三角形截面", 8040},
-                                                  {L"双肢格构柱", 8078},
-                                                  {L"四肢格构柱", 8077},
-                                                  {L"三肢格构柱", 8076},
-                                                  {L"自定义对称h型钢", 8076},
-                                                  {L"矩形截面 ", 8076},
-                                                  {L"", 8076}};
-  for (const auto& [name, resource] : cases)
-    EXPECT_EQ(orv3::SketchResource(name), resource) << testing::PrintToString(name);
+TEST(Sketch, IsTheGeneralOneForAnyOtherNameOrNumber) {
+  for (const wchar_t* name : {L"自定义对称h型钢", L"矩形截面 ", L""})
+    EXPECT_EQ(orv3::SketchResource(name), 8076) << testing::PrintToString(name);
   EXPECT_EQ(orv3::SketchSvg(0), orv3::SketchSvg(8076));
   EXPECT_EQ(orv3::SketchSvg(8030), orv3::SketchSvg(8076));
 }

@@ -83,8 +83,8 @@ bool CLatticeLimbs::Place(const CSteelItemGeGou& column) {
   if (!ReadPlaces(*this, column)) return false;
   for (CLatticeLimb& limb : m_arrLimb) {
     CLimbBox& box = limb.m_box;
-    CLoadDataTable::GetDataItemRect(limb.m_row, box.m_width, box.m_height, limb.m_dAngle);
-    CLoadDataTable::GetDataItemCenter(limb.m_row, box.m_cx, box.m_cy, limb.m_dAngle);
+    CLoadDataTable::GetDataItemRect(limb.m_row, box.m_dWidth, box.m_dHeight, limb.m_dAngle);
+    CLoadDataTable::GetDataItemCenter(limb.m_row, box.m_dCx, box.m_dCy, limb.m_dAngle);
     CLoadDataTable::GetDataItemIo(limb.m_row, limb.m_dIx, limb.m_dIy, limb.m_dAngle);
   }
   return true;

@@ -33,10 +33,10 @@ const wchar_t* OriginText(std::size_t limbs) {
 
 // The limb in the column's frame, mm.
 std::vector<CPath> LimbLoops(const CLatticeLimb& limb) {
-  const double left = limb.m_at.m_x - limb.m_box.m_cx;
-  const double bottom = limb.m_at.m_y - limb.m_box.m_cy;
+  const double left = limb.m_at.m_x - limb.m_box.m_dCx;
+  const double bottom = limb.m_at.m_y - limb.m_box.m_dCy;
   std::vector<CPath> loops = RowOutline(limb.m_row, limb.m_dAngle).m_arrLoop;
-  if (loops.empty()) loops.push_back(RectPath(0, 0, limb.m_box.m_width, limb.m_box.m_height));
+  if (loops.empty()) loops.push_back(RectPath(0, 0, limb.m_box.m_dWidth, limb.m_box.m_dHeight));
   for (CPath& loop : loops) loop = Moved(std::move(loop), left, bottom);
   return loops;
 }

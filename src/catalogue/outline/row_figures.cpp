@@ -108,7 +108,7 @@ CRowFigures OfRecord(const CSteelJMData& record, const CFamily& family) {
 double MomentAbove(const CLatticeLimbs& limbs, double yo) {
   double moment = 0;
   for (const CLatticeLimb& limb : limbs.m_arrLimb) {
-    const double bottom = limb.m_at.m_y - limb.m_box.m_cy, top = bottom + limb.m_box.m_height;
+    const double bottom = limb.m_at.m_y - limb.m_box.m_dCy, top = bottom + limb.m_box.m_dHeight;
     if (bottom < yo && yo < top) return kUnknown;
     moment += limb.m_dArea * std::max(0.0, limb.m_at.m_y - yo);
   }
@@ -118,7 +118,7 @@ double MomentAbove(const CLatticeLimbs& limbs, double yo) {
 double MomentRight(const CLatticeLimbs& limbs, double xo) {
   double moment = 0;
   for (const CLatticeLimb& limb : limbs.m_arrLimb) {
-    const double left = limb.m_at.m_x - limb.m_box.m_cx, right = left + limb.m_box.m_width;
+    const double left = limb.m_at.m_x - limb.m_box.m_dCx, right = left + limb.m_box.m_dWidth;
     if (left < xo && xo < right) return kUnknown;
     moment += limb.m_dArea * std::max(0.0, limb.m_at.m_x - xo);
   }

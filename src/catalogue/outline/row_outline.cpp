@@ -1,10 +1,10 @@
 #include "catalogue/outline/row_outline.h"
 
 #include <array>
-#include <cmath>
 #include <utility>
 
 #include "catalogue/outline/shapes.h"
+#include "sections/geometry/row_values.h"
 #include "sections/section_style.h"
 
 namespace orv3 {
@@ -44,13 +44,6 @@ COutline QuarterTurned(COutline outline, int quarters) {
     std::swap(outline.m_dWidth, outline.m_dHeight);
   }
   return outline;
-}
-
-int QuarterTurns(double angle) {
-  for (const int turns : {1, 2, 3}) {
-    if (std::fabs(angle - 90 * turns) < 0.0001) return turns;
-  }
-  return 0;
 }
 
 COutline RowOutline(const CDataItem& row, double angle) {

@@ -9,6 +9,7 @@
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
 #include "framework/number_text.h"
+#include "sections/geometry/row_values.h"
 #include "sections/outline_picture.h"
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"

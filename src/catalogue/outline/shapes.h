@@ -41,8 +41,6 @@ struct CRolledTable {
 };
 const CRolledTable* FindRolledTable(const CString& tableName);  // null for another table
 
-// The quarter turns of an angle in degrees; 0 for any other angle than 90, 180 and 270.
-int QuarterTurns(double angle);
 // A turned outline: `quarters` quarter turns counter-clockwise, origin as before.
 COutline QuarterTurned(COutline outline, int quarters);
 

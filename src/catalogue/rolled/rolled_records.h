@@ -184,8 +184,7 @@ struct ORV3CAL_API Ironcfg {
   std::int16_t columns;  // of the style's table, the key column included
 };
 
-// --- Layout: size, the first field after the model number, a later one, the last
-// ------------------
+// --- Layout: size, the first field after the model number, a later one, the last -----------------
 
 #define ORV3CAL_RECORD(type, size, whole, wholeAt, value, valueAt, last, lastAt)              \
   static_assert(sizeof(type) == (size) && offsetof(type, xh) == 0);                           \

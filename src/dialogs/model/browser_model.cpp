@@ -152,7 +152,7 @@ bool CBrowserModel::MakeFilter() {
   const CString value = CString(m_strValue).Trim();
   const bool number = IsNumeric(Full().GetDataTableColType(m_nSearchColumn - 1));
   if (number && !value.IsEmpty() && !IsNumber(value)) {
-    m_user.Tell(L"“" + value + L"”" + texts::kNoNumber);
+    m_user.Tell(texts::kOpenQuote + value + texts::kCloseQuote + texts::kNoNumber);
     return false;
   }
   m_nWildcard = IsWholeMatchEnabled() && !m_bWholeMatch ? 1 : 0;
@@ -213,9 +213,9 @@ const wchar_t* CBrowserModel::ItemText(int item, int column) const {
 }
 
 CString CBrowserModel::CountText() const {
-  CString total = L"共 " + FormatInt(Full().GetRealTableRowNum()) + L" 条记录";
+  CString total = texts::kAll + FormatInt(Full().GetRealTableRowNum()) + texts::kRecords;
   if (m_strFilter.IsEmpty()) return total;
-  return L"检索到 " + FormatInt(ItemCount()) + L" 条记录，" + total;
+  return texts::kFound + FormatInt(ItemCount()) + texts::kRecords + texts::kComma + total;
 }
 
 void CBrowserModel::SelectItem(int item) { m_nItem = item >= 0 && item < ItemCount() ? item : -1; }

@@ -7,30 +7,35 @@
 namespace orv3 {
 namespace {
 
-struct CFamily {
+struct CTreeFamily {
   const wchar_t* m_szText;
   int m_nType;
   int m_nImage;
 };
 
-constexpr CFamily kCatalogueFamilies[] = {
-    {L"工字钢、H型钢", TABLE_FAMILY_I, 0},
-    {L"方钢管", TABLE_FAMILY_BOX, 2},
-    {L"T型钢", TABLE_FAMILY_T, 3},
-    {L"槽钢", TABLE_FAMILY_CHANNEL, 4},
-    {L"Z型钢", TABLE_FAMILY_Z, 6},
-    {L"圆钢管", TABLE_FAMILY_ROUND, 8},
-    {L"角钢", TABLE_FAMILY_ANGLE, 9},
-    {L"角钢组合", TABLE_FAMILY_ANGLE_PAIR, 12},
-    {L"槽钢组合", TABLE_FAMILY_CHANNEL_PAIR, 16},
+constexpr CTreeFamily kCatalogueFamilies[] = {
+    {texts::kRolledI, TABLE_FAMILY_I, 0},
+    {texts::kRolledBox, TABLE_FAMILY_BOX, 2},
+    {texts::kRolledT, TABLE_FAMILY_T, 3},
+    {texts::kRolledChannel, TABLE_FAMILY_CHANNEL, 4},
+    {texts::kRolledZ, TABLE_FAMILY_Z, 6},
+    {texts::kRolledTube, TABLE_FAMILY_ROUND, 8},
+    {texts::kRolledAngle, TABLE_FAMILY_ANGLE, 9},
+    {texts::kAnglePair, TABLE_FAMILY_ANGLE_PAIR, 12},
+    {texts::kChannelPair, TABLE_FAMILY_CHANNEL_PAIR, 16},
 };
 
-constexpr CFamily kCustomFamilies[] = {
-    {L"工字形截面", TABLE_FAMILY_I, 0},      {L"箱形截面", TABLE_FAMILY_BOX, 2},
-    {L"十字形截面", TABLE_FAMILY_CROSS, 18}, {L"T形截面", TABLE_FAMILY_T, 3},
-    {L"槽形截面", TABLE_FAMILY_CHANNEL, 4},  {L"Z形截面", TABLE_FAMILY_Z, 20},
-    {L"圆形截面", TABLE_FAMILY_ROUND, 8},    {L"L形截面", TABLE_FAMILY_ANGLE, 10},
-    {L"多边形截面", TABLE_FAMILY_SOLID, 22}, {L"格构柱", TABLE_FAMILY_LATTICE, 25},
+constexpr CTreeFamily kCustomFamilies[] = {
+    {texts::kOwnI, TABLE_FAMILY_I, 0},
+    {texts::kOwnBox, TABLE_FAMILY_BOX, 2},
+    {texts::kOwnCross, TABLE_FAMILY_CROSS, 18},
+    {texts::kOwnT, TABLE_FAMILY_T, 3},
+    {texts::kOwnChannel, TABLE_FAMILY_CHANNEL, 4},
+    {texts::kOwnZ, TABLE_FAMILY_Z, 20},
+    {texts::kOwnRound, TABLE_FAMILY_ROUND, 8},
+    {texts::kOwnL, TABLE_FAMILY_ANGLE, 10},
+    {texts::kOwnPolygon, TABLE_FAMILY_SOLID, 22},
+    {texts::kOwnLattice, TABLE_FAMILY_LATTICE, 25},
 };
 
 class CTreeMaker {
@@ -38,9 +43,9 @@ class CTreeMaker {
   explicit CTreeMaker(const CStringArray& names) : m_arrName(names) {}
 
   template <std::size_t COUNT>
-  void AddRoot(const wchar_t* text, int source, const CFamily (&families)[COUNT]) {
+  void AddRoot(const wchar_t* text, int source, const CTreeFamily (&families)[COUNT]) {
     const int root = Add({text, families[0].m_nImage, -1, false});
-    for (const CFamily& family : families) AddFamily(root, source, family);
+    for (const CTreeFamily& family : families) AddFamily(root, source, family);
   }
 
   std::vector<CTreeNode> m_arrNode;
@@ -51,7 +56,7 @@ class CTreeMaker {
     return static_cast<int>(m_arrNode.size()) - 1;
   }
 
-  void AddFamily(int root, int source, const CFamily& family) {
+  void AddFamily(int root, int source, const CTreeFamily& family) {
     const int parent = Add({family.m_szText, family.m_nImage, root, false});
     CStringArray tables;
     CLoadDataTable::SelectTableNameArray(source | family.m_nType, m_arrName, tables);

@@ -46,7 +46,7 @@ CStringArray LimbTypes() {
   return types;
 }
 
-CStringArray QuarterTurns() {
+CStringArray TurnChoices() {
   CStringArray turns;
   for (const int angle : {0, 90, 180, 270}) turns.Add(FormatInt(angle));
   return turns;
@@ -112,7 +112,7 @@ void CPropertyModel::OfferSpacings() {
 
 void CPropertyModel::OfferLimbs() {
   const CStringArray types = LimbTypes();
-  const CStringArray turns = QuarterTurns();
+  const CStringArray turns = TurnChoices();
   for (int limb = 1; limb <= kMaxLimbs; ++limb) {
     const int type = CellOf(m_row, LimbSign(limb, L"Type"));
     const int angle = CellOf(m_row, LimbSign(limb, L"θ°"));
@@ -211,7 +211,7 @@ bool CPropertyModel::AcceptOldFigures(CDialogUser& user) {
   if (m_nSource != CSource::Plain) return true;
   CString sizes, figures;
   const auto name = [](CString& list, const CString& sign) {
-    list += (list.IsEmpty() ? L"" : L"、") + sign;
+    list += (list.IsEmpty() ? L"" : texts::kAnd) + sign;
   };
   for (int i = 0; i < LineCount(); ++i) {
     const CDataCell& cell = m_before[i];

@@ -13,8 +13,10 @@ namespace {
 CString PlaceOf(const CDataTable& table, const CSaveFault& fault) {
   CString place = table.GetTableName();
   const bool row = fault.m_nRow >= 0 && fault.m_nRow < table.GetTableRowNum();
-  if (row && !table[fault.m_nRow].IsEmpty()) place += L"，" + table[fault.m_nRow][0].m_strValue;
-  if (fault.m_nColumn >= 0) place += L"，" + table.GetTableColSign(fault.m_nColumn);
+  if (row && !table[fault.m_nRow].IsEmpty()) {
+    place += texts::kComma + table[fault.m_nRow][0].m_strValue;
+  }
+  if (fault.m_nColumn >= 0) place += texts::kComma + table.GetTableColSign(fault.m_nColumn);
   return place;
 }
 
@@ -28,25 +30,25 @@ CString WithSeparator(const CString& path) {
 const wchar_t* StoreReason(CStoreTrouble trouble) {
   switch (trouble) {
     case CStoreTrouble::NotFound:
-      return L"文件或文件夹不存在。";
+      return texts::kNotFound;
     case CStoreTrouble::Busy:
-      return L"文件正被其他程序使用，请稍后再试。";
+      return texts::kBusy;
     case CStoreTrouble::Denied:
-      return L"文件只读，或没有访问权限。";
+      return texts::kDenied;
     case CStoreTrouble::NotAStore:
-      return L"文件不是截面库文件。";
+      return texts::kNotAStore;
     case CStoreTrouble::NoTable:
-      return L"截面库中没有该截面表。";
+      return texts::kNoTable;
     case CStoreTrouble::Damaged:
-      return L"文件已损坏。";
+      return texts::kDamaged;
     case CStoreTrouble::Refused:
-      return L"数据过长、过多，或含有不能保存的字符，没有保存。";
+      return texts::kRefused;
     case CStoreTrouble::Failed:
-      return L"读写失败，原文件没有改变。请检查磁盘空间和文件夹权限。";
+      return texts::kFailed;
     case CStoreTrouble::None:
       break;
   }
-  return L"原因不明。";
+  return texts::kReasonUnknown;
 }
 
 CString StoreFailureText(const wchar_t* what) {

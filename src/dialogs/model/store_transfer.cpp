@@ -89,10 +89,10 @@ constexpr int kNamed = 5;    // numbers named of those left out
 CString NumbersOf(const std::vector<CRefusedRow>& rows) {
   CString text;
   for (std::size_t i = 0; i < rows.size() && i < kNamed; ++i) {
-    if (i > 0) text += L"、";
+    if (i > 0) text += texts::kAnd;
     text += rows[i].m_strNo;
   }
-  return rows.size() > kNamed ? text + L"等" : text;
+  return rows.size() > kNamed ? text + texts::kAndOthers : text;
 }
 
 // Why nothing of a file came in.
@@ -114,16 +114,16 @@ const wchar_t* WhyNot(const CString& file) {
 // meant to.
 CString LeftOut(const CImportReport& report, const CString& path, bool overwrite) {
   const CString file = FileNameOf(path);
-  if (!report.m_bDone) return L"\n" + file + L"：" + WhyNot(path);
+  if (!report.m_bDone) return L"\n" + file + texts::kColon + WhyNot(path);
   CString text;
   for (const CTableImport& table : report.m_arrTable) {
-    const CString line = L"\n" + file + L"，" + table.m_strTable + L"：";
+    const CString line = L"\n" + file + texts::kComma + table.m_strTable + texts::kColon;
     if (!table.m_strWhy.IsEmpty()) {
       text += line + (table.m_bOtherColumns ? texts::kImportOtherColumns
                                             : StoreReason(CStoreTrouble::Refused));
     } else if (overwrite && !table.m_arrRefused.empty()) {
-      text += line + FormatInt(std::ssize(table.m_arrRefused)) + L" 条记录（" +
-              NumbersOf(table.m_arrRefused) + L"）";
+      text += line + FormatInt(std::ssize(table.m_arrRefused)) + texts::kRecords +
+              texts::kOpenBracket + NumbersOf(table.m_arrRefused) + texts::kCloseBracket;
     }
   }
   return text;

@@ -50,8 +50,8 @@ int CTableNameModel::CheckedCount() const noexcept {
 }
 
 CString CTableNameModel::CountText() const {
-  return L"已选 " + FormatInt(CheckedCount()) + L" 个，共 " + FormatInt(std::ssize(m_arrItem)) +
-         L" 个";
+  return texts::kChecked + FormatInt(CheckedCount()) + texts::kTables + texts::kComma +
+         texts::kAll + FormatInt(std::ssize(m_arrItem)) + texts::kTables;
 }
 
 bool CTableNameModel::Ok(CDialogUser& user) const {

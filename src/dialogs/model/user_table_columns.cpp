@@ -24,10 +24,13 @@ struct CTypeName {
 };
 
 constexpr CTypeName kTypeNames[] = {
-    {CDataTypeStruct::KVBT_STRING, L"文本"},      {CDataTypeStruct::KVBT_INT, L"整数"},
-    {CDataTypeStruct::KVBT_LONG, L"长整数"},      {CDataTypeStruct::KVBT_FLOAT, L"单精度数"},
-    {CDataTypeStruct::KVBT_DOUBLE, L"双精度数"},  {CDataTypeStruct::KVBT_CHAR, L"字符"},
-    {CDataTypeStruct::KVBT_LONG_ALT, L"长整数2"},
+    {CDataTypeStruct::KVBT_STRING, texts::kTypeText},
+    {CDataTypeStruct::KVBT_INT, texts::kTypeInt},
+    {CDataTypeStruct::KVBT_LONG, texts::kTypeLong},
+    {CDataTypeStruct::KVBT_FLOAT, texts::kTypeFloat},
+    {CDataTypeStruct::KVBT_DOUBLE, texts::kTypeDouble},
+    {CDataTypeStruct::KVBT_CHAR, texts::kTypeChar},
+    {CDataTypeStruct::KVBT_LONG_ALT, texts::kTypeLong2},
 };
 
 CString TypeText(CType type) {

@@ -39,8 +39,8 @@ CDataTable SectionTable(const CString& name) {
 CDataTable EmptyTable(const CString& name) {
   CDataTable table;
   table.SetTableName(name);
-  table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
-  table.AddTableCol(L"截面面积", L"A(mm^2)", CDataTypeStruct::KVBT_DOUBLE, 0);
+  table.AddTableCol(texts::kModelNumber, L"No.", CDataTypeStruct::KVBT_STRING, 1);
+  table.AddTableCol(texts::kArea, L"A(mm^2)", CDataTypeStruct::KVBT_DOUBLE, 0);
   return table;
 }
 

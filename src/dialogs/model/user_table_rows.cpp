@@ -49,7 +49,9 @@ const wchar_t* CUserTableModel::RowText(int item, int column) const {
 
 void CUserTableModel::SelectRow(int item) { m_nItem = item >= 0 && item < RowCount() ? item : -1; }
 
-CString CUserTableModel::CountText() const { return L"共 " + FormatInt(RowCount()) + L" 条记录"; }
+CString CUserTableModel::CountText() const {
+  return texts::kAll + FormatInt(RowCount()) + texts::kRecords;
+}
 
 CDataItem CUserTableModel::Row(int item) const {
   return item < 0 || item >= RowCount() ? CDataItem() : (*Selected())[item];

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "dialogs/model/dialog_texts.h"
 #include "framework/message.h"
 
 namespace orv3 {
@@ -55,7 +56,7 @@ HWND OwnerWindow() {
 void ShowHostHelp(const CString& topic, const CString& text) {
   auto* help = FindHostFunction<CHelpFunction>("acedHelp");
   if (help != nullptr && help(L"", topic.GetString(), HELP_PARTIALKEY) == kDone) return;
-  ShowMessage(L"帮助", text.IsEmpty() ? CString(L"当前程序没有提供帮助。") : text);
+  ShowMessage(texts::kHelpCaption, text.IsEmpty() ? CString(texts::kHelpMissing) : text);
 }
 
 }  // namespace orv3

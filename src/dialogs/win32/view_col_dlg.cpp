@@ -1,6 +1,7 @@
 #include "dialogs/win32/view_col_dlg.h"
 
 #include "dialogs/model/column_model.h"
+#include "dialogs/model/dialog_texts.h"
 #include "dialogs/win32/resource.h"
 #include "dialogs/win32/windows_user.h"
 
@@ -43,6 +44,7 @@ void CViewColDlg::MarkAll(bool checked) {
 }
 
 void CViewColDlg::ShowCount() {
-  SetText(IDC_COUNT, L"已选择 " + CString(std::to_wstring(m_model.CheckedCount())) + L" 项，共 " +
-                         CString(std::to_wstring(m_model.Count())) + L" 项");
+  SetText(IDC_COUNT, texts::kColumnsChecked + CString(std::to_wstring(m_model.CheckedCount())) +
+                         texts::kColumns + texts::kComma + texts::kAll +
+                         CString(std::to_wstring(m_model.Count())) + texts::kColumns);
 }

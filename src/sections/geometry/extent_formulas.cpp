@@ -50,8 +50,7 @@ std::optional<double> HexagonWidth(const CDataItem& row, const CFamily& family, 
   return read.Give(std::numbers::sqrt3 * read(cell));
 }
 
-// --- User-defined sections: the web and the overhangs that reach beyond it
-// ------------------------
+// --- User-defined sections: the web and the overhangs that reach beyond it -----------------------
 
 std::optional<double> TWidth(const CDataItem& row, const CFamily& family, const CCell&) {
   CReader read(row, family);

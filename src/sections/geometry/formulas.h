@@ -5,8 +5,7 @@
 
 namespace orv3 {
 
-// --- extent_formulas.cpp: rectangle and centroid
-// --------------------------------------------------
+// --- extent_formulas.cpp: rectangle and centroid -------------------------------------------------
 CFormulaFunction HalfWidth;
 CFormulaFunction HalfHeight;
 CFormulaFunction BelowTop;        // the height less the cell

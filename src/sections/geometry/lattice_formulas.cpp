@@ -50,8 +50,8 @@ std::optional<CLimbBox> BoxOf(const CDataItem& row, const CLimbCells& cells) {
   const auto angle = Read(row, cells.m_angle);
   const CDataItem limb = LimbRow(row, cells);
   CLimbBox box;
-  if (!angle || !FindRect(limb, box.m_width, box.m_height, *angle) ||
-      !FindCenter(limb, box.m_cx, box.m_cy, *angle)) {
+  if (!angle || !FindRect(limb, box.m_dWidth, box.m_dHeight, *angle) ||
+      !FindCenter(limb, box.m_dCx, box.m_dCy, *angle)) {
     return std::nullopt;
   }
   return box;

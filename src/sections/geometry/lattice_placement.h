@@ -34,8 +34,8 @@ constexpr std::array<CLimbPlace, 4> LatticePlacement(int limbs, double kx, doubl
 
 // A limb as it is turned: its enclosing rectangle, and its centroid from the left and bottom edges.
 struct CLimbBox {
-  double m_width = 0, m_height = 0;
-  double m_cx = 0, m_cy = 0;
+  double m_dWidth = 0, m_dHeight = 0;
+  double m_dCx = 0, m_dCy = 0;
 };
 
 // How far the limbs reach from the frame's origin; each is positive outwards.
@@ -51,9 +51,9 @@ constexpr CLatticeReach LatticeReach(std::span<const CLimbBox> limbs, double kx,
   for (std::size_t i = 0; i < limbs.size() && i < places.size(); ++i) {
     const CLimbBox& limb = limbs[i];
     const CLimbPlace& at = places[i];
-    const CLatticeReach own = {limb.m_cx - at.m_x, limb.m_width - limb.m_cx + at.m_x,
-                               limb.m_cy - at.m_y,
-                               limb.m_height - limb.m_cy + at.m_y - (i == 0 ? lowered : 0)};
+    const CLatticeReach own = {limb.m_dCx - at.m_x, limb.m_dWidth - limb.m_dCx + at.m_x,
+                               limb.m_dCy - at.m_y,
+                               limb.m_dHeight - limb.m_dCy + at.m_y - (i == 0 ? lowered : 0)};
     if (i == 0) reach = own;
     reach = {std::max(reach.m_left, own.m_left), std::max(reach.m_right, own.m_right),
              std::max(reach.m_below, own.m_below), std::max(reach.m_above, own.m_above)};

@@ -155,8 +155,7 @@ std::optional<double> ToeToToeWarping(const CDataItem& row, const CFamily& famil
   return value ? std::optional(BoxSectorial(width, height, t, t, tw, tw).m_Iw) : value;
 }
 
-// --- Crosses: each angle's axis of symmetry lies along Y1
-// -----------------------------------------
+// --- Crosses: each angle's axis of symmetry lies along Y1 ----------------------------------------
 
 std::optional<double> CrossPairIx(const CDataItem& row, const CFamily& family, const CCell&) {
   constexpr CGapCell kInertia{L"Ix", L"(cm^4)"};

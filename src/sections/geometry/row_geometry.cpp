@@ -13,15 +13,6 @@ namespace orv3 {
 
 namespace {
 
-// Quarter turns counter-clockwise, 0 to 3; 0 for any other angle.
-int QuarterTurns(double angle) {
-  constexpr double kTolerance = 0.0001;
-  for (int turns = 1; turns <= 3; ++turns) {
-    if (std::fabs(angle - 90 * turns) < kTolerance) return turns;
-  }
-  return 0;
-}
-
 bool Take(const std::optional<double>& value, double& out) {
   if (value) out = *value;
   return value.has_value();
@@ -57,6 +48,14 @@ double Plate(const CDataItem& row, BETTER better) {
 }
 
 }  // namespace
+
+int QuarterTurns(double angle) {
+  constexpr double kTolerance = 0.0001;
+  for (int turns = 1; turns <= 3; ++turns) {
+    if (std::fabs(angle - 90 * turns) < kTolerance) return turns;
+  }
+  return 0;
+}
 
 bool FindRect(const CDataItem& row, double& width, double& height, double angle) {
   if (!FindTwo(row, &CFamily::m_width, &CFamily::m_height, width, height)) return false;

@@ -7,6 +7,9 @@
 
 namespace orv3 {
 
+// Quarter turns counter-clockwise, 0 to 3, of an angle in degrees; 0 for any other angle.
+int QuarterTurns(double angle);
+
 bool FindRect(const CDataItem& row, double& width, double& height, double angle);
 bool FindCenter(const CDataItem& row, double& x, double& y, double angle);
 double AreaOf(const CDataItem& row);

@@ -197,8 +197,7 @@ bool RowOf(std::wstring_view form, const CDataTableTitle& title, bool cut, CData
 
 }  // namespace orv3
 
-// --- The same as members
-// --------------------------------------------------------------------------
+// --- The same as members -------------------------------------------------------------------------
 
 CString CDataTypeStruct::TranToFake() const {
   return CDataTable::TransStringToFake(orv3::Joined(orv3::ColumnFields(*this)));

@@ -38,8 +38,7 @@ int CDataTable::GetTableTextLen() const {
   return GetTableItemLen() * GetTableRowNum() + GetTableTitleLen();
 }
 
-// --- What the table knows of its files
-// ------------------------------------------------------------
+// --- What the table knows of its files -----------------------------------------------------------
 
 void CDataTable::CopyImages(const CDataTable& other) {
   const bool inOrder = other.m_nImageArrangement == other.m_arrItem.Arrangement();
@@ -82,8 +81,7 @@ bool CDataTable::TakeUpImage(const CString& path) {
   return m_pImage != nullptr;
 }
 
-// --- The table's record
-// ---------------------------------------------------------------------------
+// --- The table's record --------------------------------------------------------------------------
 
 int CDataTable::WriteTableFileInfo(CStoreFile* file, int storeKind, CDataFileInfo& info) {
   if (!file) return 0;
@@ -94,8 +92,7 @@ int CDataTable::WriteTableFileInfo(CStoreFile* file, int storeKind, CDataFileInf
   return 1;
 }
 
-// --- Bringing in what others have saved
-// -----------------------------------------------------------
+// --- Bringing in what others have saved ----------------------------------------------------------
 
 // Puts the merged rows into the table. Rows that stay keep their addresses.
 void CDataTable::TakeIn(const orv3::CTableMerge& merge) {
@@ -177,8 +174,7 @@ int CDataTable::CatchUp(const CStoreFile& file, bool replaceUnknown) {
   return 1;
 }
 
-// --- Saving
-// ---------------------------------------------------------------------------------------
+// --- Saving --------------------------------------------------------------------------------------
 
 // The rows to be written, with their slots' bytes.
 struct CDataTable::CRowWrite {
