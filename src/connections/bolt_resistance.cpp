@@ -1,5 +1,6 @@
 // Strengths and the resistances of one bolt: GB 50017-2003, 3.4.1, 7.2.1 to 7.2.4.
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/code_tables/thickness_group.h"
 #include "connections/bolt_group.h"
 #include "connections/check_math.h"
 #include "framework/number_text.h"
@@ -17,14 +18,6 @@ constexpr const wchar_t* NormalBoltData::m_strBolt[28][2] = {
 namespace {
 
 constexpr double kPi = 3.141592653589793;
-
-// The row of the steel strength table for a plate.
-int SteelRow(int steel, double thickness) noexcept {
-  const double limits[3] = {16, steel == 0 ? 40.0 : 35.0, steel == 0 ? 60.0 : 50.0};
-  int group = 0;
-  while (group < 3 && !orv3::AtMost(thickness, limits[group])) ++group;
-  return 4 * steel + group;
-}
 
 // A cell of the bolt strength table, N/mm2.
 double Strength(int row, int column) { return orv3::ToInt(CTableSearch::g_sub3[row][column]); }
@@ -47,7 +40,10 @@ void NormalBoltData::CalBoltYouXiaoD() {
 }
 
 void NormalBoltData::CalGangCaiQD() {
-  if (IsSteel(m_nSteel)) m_dF = CTableSearch::g_sub1[SteelRow(m_nSteel, m_dThick)][0];
+  if (IsSteel(m_nSteel)) {
+    const int row = orv3::PlateRow(m_nSteel, m_dThick, orv3::kCheckTolerance);
+    m_dF = CTableSearch::g_sub1[row][0];
+  }
   m_dF /= 1000;
 }
 
