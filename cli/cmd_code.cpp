@@ -10,6 +10,7 @@
 
 #include "catalogue/code_tables/stepped_column_equation.h"
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/code_tables/thickness_group.h"
 #include "commands.h"
 #include "connections/cases/case_rules.h"
 #include "error.h"
@@ -130,11 +131,8 @@ CFigure Weld(const CArguments& a) {
   static constexpr const char* kKinds[] = {"fcw", "ftw12", "ftw3", "fvw", "ffw"};
   const int grade = Choice(a, 0, "GRADE", kSteels);
   const double t = Number(a, 1, "T", kThickness);
-  const double limits[3] = {16, grade == 0 ? 40.0 : 35.0, grade == 0 ? 60.0 : 50.0};
-  const auto row =
-      std::count_if(std::begin(limits), std::end(limits), [t](double limit) { return t > limit; });
-  Found(t > 0 && t <= 100, a, 1, "T", kThickness);
-  const int group = row == 0 || grade == 0 ? static_cast<int>(row) : static_cast<int>(row) + 3;
+  const int group = ThicknessGroup(grade, t);
+  Found(t > 0 && group >= 0, a, 1, "T", kThickness);
   int strength = 0;
   CTableSearch::SearchSub2(grade, group, Choice(a, 2, "STRENGTH", kKinds), strength);
   return {strength + 0.0, kStress, "GB 50017-2003, Table 3.4.1-3"};

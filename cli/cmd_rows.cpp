@@ -16,6 +16,7 @@
 #include "store_place.h"
 #include "store_table.h"
 #include "table_json.h"
+#include "tables/edit_state.h"
 #include "tables/expression.h"
 #include "text_table.h"
 
@@ -116,7 +117,7 @@ std::vector<std::string> Signs(const CDataTable& table) {
 template <class USE>
 void ForEachLive(const CDataTable& table, const USE& use) {
   for (const CDataItem& row : table.m_arrItem) {
-    if (row.m_nModifyType >= 0) use(row);
+    if (!IsDeleted(row.m_nModifyType)) use(row);
   }
 }
 

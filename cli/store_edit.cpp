@@ -19,6 +19,7 @@
 #include "store_table.h"
 #include "table_json.h"
 #include "tables/aligned_indices.h"
+#include "tables/edit_state.h"
 #include "tables/file/check.h"
 #include "tables/file/table_store.h"
 
@@ -33,7 +34,6 @@ struct COptions {
   CStoreOptions store;
 };
 
-constexpr int kProtectedState = 3;  // and above: rows of the catalogue
 constexpr long kPairs = TABLE_ROLLED | TABLE_FAMILY_ANGLE_PAIR | TABLE_FAMILY_CHANNEL_PAIR;
 
 // --- Cells ---------------------------------------------------------------------------------------
@@ -119,7 +119,7 @@ int RowToChange(const CDataTable& table, const COptions& options) {
     Refuse("NO: table " + options.table + " has no \"" + options.no +
            "\"; right would be a number that orv3cal rows lists");
   }
-  if (table[position].m_nModifyType >= kProtectedState) {
+  if (IsProtected(table[position].m_nModifyType)) {
     Refuse(options.table + " \"" + options.no + "\": 本数据记录不能删除和编辑!");
   }
   return position;

@@ -21,6 +21,7 @@
 #include "store_place.h"
 #include "store_table.h"
 #include "table_json.h"
+#include "tables/edit_state.h"
 #include "tables/file/check.h"
 #include "tables/file/store_check.h"
 
@@ -44,7 +45,7 @@ CDataTable Live(const CDataTable& stored) {
   table.SetTableName(stored.GetTableName());
   table.m_Title = stored.m_Title;
   for (const CDataItem& row : stored.m_arrItem) {
-    if (row.m_nModifyType < 0) continue;
+    if (IsDeleted(row.m_nModifyType)) continue;
     CDataItem copy = row;
     copy.m_nIndex = table.GetTableRowNum();
     table.AddTableItem(copy, 0, 1);

@@ -2,6 +2,7 @@
 
 #include "catalogue/import/csv_table.h"
 #include "framework/utf8.h"
+#include "tables/edit_state.h"
 
 namespace orv3::cli {
 
@@ -22,7 +23,7 @@ CJson TableJson(const std::string& name, const CDataTable& table) {
   }
   CJson rows = CJson::array();
   for (const CDataItem& row : table.m_arrItem) {
-    if (row.m_nModifyType < 0) continue;
+    if (IsDeleted(row.m_nModifyType)) continue;
     rows.push_back(
         {{"index", row.m_nIndex}, {"state", row.m_nModifyType}, {"cells", RowCells(row)}});
   }

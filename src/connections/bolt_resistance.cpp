@@ -2,6 +2,7 @@
 #include <numbers>
 
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/code_tables/thickness_group.h"
 #include "connections/bolt_group.h"
 #include "connections/check_math.h"
 #include "framework/number_text.h"
@@ -19,14 +20,6 @@ constexpr const wchar_t* NormalBoltData::m_strBolt[28][2] = {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
-
-// The row of the steel strength table for a plate.
-int SteelRow(int steel, double thickness) noexcept {
-  const double limits[3] = {16, steel == 0 ? 40.0 : 35.0, steel == 0 ? 60.0 : 50.0};
-  int group = 0;
-  while (group < 3 && !orv3::AtMost(thickness, limits[group])) ++group;
-  return 4 * steel + group;
-}
 
 // A cell of the bolt strength table, N/mm2.
 double Strength(int row, int column) { return orv3::ToInt(CTableSearch::g_sub3[row][column]); }
@@ -49,7 +42,10 @@ void NormalBoltData::CalBoltYouXiaoD() {
 }
 
 void NormalBoltData::CalGangCaiQD() {
-  if (IsSteel(m_nSteel)) m_dF = CTableSearch::g_sub1[SteelRow(m_nSteel, m_dThick)][0];
+  if (IsSteel(m_nSteel)) {
+    const int row = orv3::PlateRow(m_nSteel, m_dThick, orv3::kCheckTolerance);
+    m_dF = CTableSearch::g_sub1[row][0];
+  }
   m_dF /= 1000;
 }
 

@@ -4,15 +4,13 @@
 #include <cmath>
 
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/code_tables/thickness_group.h"
 
 WQWeldingData::WQWeldingData(int, double, double, double, double, double, int, int) {}
 
 void WQWeldingData::CalWeldQD() {
   if (m_nSteel >= 0 && m_nSteel <= 3) {
-    const double limits[3] = {16, m_nSteel == 0 ? 40.0 : 35.0, m_nSteel == 0 ? 60.0 : 50.0};
-    int group = 0;
-    while (group < 3 && !(m_dT <= limits[group])) ++group;
-    const auto& row = CTableSearch::g_sub2[4 * m_nSteel + group];
+    const auto& row = CTableSearch::g_sub2[orv3::PlateRow(m_nSteel, m_dT)];
     const bool bUpperGrades = m_nQuality == 0 || m_nQuality == 1;
     m_dFtw = std::trunc(row[bUpperGrades ? 1 : 2]);
     m_dFcw = std::trunc(row[0]);

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "catalogue/code_tables/table_search.h"
 #include "connections/check_math.h"
 #include "framework/kvb_math.h"
 
@@ -55,8 +56,8 @@ void AngleHanFData::CalHFLw(double s, double angle, int grooveKind) {
 void AngleHanFData::CalWeldSectionW() { m_dW = m_dHe * m_dLw * m_dLw / 6; }
 
 void AngleHanFData::CalWeldQD() {
-  static constexpr double kStrength[4] = {160, 200, 220, 220};
-  if (m_nMaterial >= 0 && m_nMaterial <= 3) m_dFfw = kStrength[m_nMaterial];
+  int strength = 0;  // the same in every thickness group
+  if (CTableSearch::SearchSub2(m_nMaterial, SUB1_T16, SUB2_FFW, strength)) m_dFfw = strength;
   m_dFfw /= 1000;
   m_dFfw2 = m_dFfw;
 }

@@ -1,8 +1,6 @@
 // The C interface: figures of the design code.
-#include <algorithm>
-#include <cmath>
-
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/code_tables/thickness_group.h"
 #include "connections/cases/case_rules.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
@@ -14,23 +12,14 @@ namespace {
 void CheckThickness(double thickness) {
   if (!(thickness > 0 && thickness <= 100))
     throw CFailure("thickness: " + PlainNumber(thickness) +
-                   " mm is in no group of the table; give a thickness above 0 and up to 100");
+                   " mm is in no group of the table; give a thickness above 0 and up to " +
+                   PlainNumber(kThickestPlate));
 }
 
 void CheckWithin(const char* argument, double value, double least, double most) {
   if (value >= least && value <= most) return;
   throw CFailure(std::string(argument) + ": " + ToUtf8(FormatShortest(value)) +
                  " is not possible; give " + PlainNumber(least) + " to " + PlainNumber(most));
-}
-
-// Table 3.4.1-3 groups the thicknesses of Q235 at 16, 40 and 60 mm and those of the other steels at
-// 16, 35 and 50 mm, under numbers of their own.
-int WeldGroup(int steel, double thickness) {
-  const bool bMild = steel == SUB1_Q235;
-  const double limits[] = {16, bMild ? 40.0 : 35.0, bMild ? 60.0 : 50.0};
-  const auto above = std::count_if(std::begin(limits), std::end(limits),
-                                   [thickness](double limit) { return thickness > limit; });
-  return static_cast<int>(above) + (above == 0 || bMild ? 0 : 3);
 }
 
 }  // namespace
@@ -59,7 +48,7 @@ int ORV3_CALL orv3_weld_strength(const orv3_char* steel, double thickness, const
     CheckThickness(thickness);
     const int grade = WordAmong(steel, "steel", kSteels);
     int strength = 0;
-    if (!CTableSearch::SearchSub2(grade, WeldGroup(grade, thickness),
+    if (!CTableSearch::SearchSub2(grade, ThicknessGroup(grade, thickness),
                                   WordAmong(kind, "kind", kKinds), strength))
       throw CFailure("the table has no such strength");
     return GiveValue(strength, value);

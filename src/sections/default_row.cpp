@@ -3,14 +3,9 @@
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 #include "tables/data_item.h"
+#include "tables/edit_state.h"
 
 namespace orv3 {
-namespace {
-
-constexpr int kAdded = 1;  // edit state
-
-}  // namespace
-
 int DefaultSectionRow(CDataItem& item) {
   const CSectionStyle* style = FindSectionStyle(item.m_strTableName.View());
   if (!style) return 0;

@@ -5,6 +5,7 @@
 
 #include "sections/system_tables.h"
 #include "tables/data_table.h"
+#include "tables/edit_state.h"
 #include "tables/file/table_store.h"
 
 namespace {
@@ -27,7 +28,8 @@ int CLoadDataTable::GetSysTemItemNo(const CString& tableName, CStringArray& numb
   if (!read || read->Table().GetTableColNum() < 2) return 0;
   for (const CDataItem& row : read->Table().m_arrItem) {
     const int cell = row.GetSignIndex(L"No.");
-    if (row.m_nModifyType >= 0 && cell >= 0) numbers.Add(row.m_arrCell.GetAt(cell).m_strValue);
+    if (!orv3::IsDeleted(row.m_nModifyType) && cell >= 0)
+      numbers.Add(row.m_arrCell.GetAt(cell).m_strValue);
   }
   return 1;
 }

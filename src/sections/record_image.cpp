@@ -7,6 +7,7 @@
 
 #include "framework/utf16.h"
 #include "sections/record_store.h"
+#include "tables/edit_state.h"
 
 namespace orv3 {
 namespace {
@@ -48,7 +49,7 @@ std::u16string MarkedName(const CSteelJMData& record, bool singleGroup) {
   const auto* const end = std::find(record.m_szName, std::end(record.m_szName), L'\0');
   std::u16string name = ToUtf16({record.m_szName, end});
   name.resize(kNameUnits - 1, u' ');
-  name[kDeletedMark] = record.m_nState == -1 ? u'(' : u'\x01';
+  name[kDeletedMark] = record.m_nState == kDeleted ? u'(' : u'\x01';
   if (singleGroup) name[kStyleMark] = static_cast<char16_t>(record.m_nStyle + 20);
   name += u'\0';
   return name;
@@ -97,7 +98,7 @@ bool DecodeRecord(const CRecordImage& image, CSteelJMData& record) {
   const std::wstring name = PlainName(image);
   std::fill(std::begin(record.m_szName), std::end(record.m_szName), L'\0');
   std::copy(name.begin(), name.end(), record.m_szName);
-  record.m_nState = Take<2>(image, kNameAt + 2 * kDeletedMark) == u'(' ? -1 : 0;
+  record.m_nState = Take<2>(image, kNameAt + 2 * kDeletedMark) == u'(' ? kDeleted : kUnchanged;
   record.m_nStyle = static_cast<std::int32_t>(Take<4>(image, kStyleAt));
   std::size_t at = kDoublesAt;
   for (const auto field : kDoubles) {

@@ -11,6 +11,7 @@
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 #include "tables/data_table.h"
+#include "tables/edit_state.h"
 
 using orv3::CStoreFile;
 using orv3::CStoreTrouble;
@@ -165,11 +166,11 @@ std::vector<std::int64_t> Places(const CArray<CSteelJMData>& records, std::int64
   for (int i = 0; i < records.GetSize(); ++i) {
     const std::int64_t own = begin + std::int64_t{i} * kRecordSlot;
     const int state = records[i].m_nState;
-    if (state == 0) {
+    if (state == orv3::kUnchanged) {
       places.push_back(-1);
-    } else if (state != 1) {
+    } else if (state != orv3::kAdded) {
       places.push_back(own);
-      if (state == -1) freed.push_back(own);
+      if (state == orv3::kDeleted) freed.push_back(own);
     } else if (!freed.empty()) {
       places.push_back(freed.front());
       freed.pop_front();
@@ -330,7 +331,7 @@ int CSteelJMData::TransJMTableData(const CString& tableName, CDataTable& table, 
   table.SetTableName(tableName);
   GetJMTableTitle(table, style->m_nStyle);
   for (const CSteelJMData& record : records) {
-    if (record.m_nStyle != style->m_nStyle || record.m_nState == -1) continue;
+    if (record.m_nStyle != style->m_nStyle || record.m_nState == orv3::kDeleted) continue;
     CDataItem row;
     row.m_strTableName = tableName;
     row.SetItemTitle(table.m_Title);

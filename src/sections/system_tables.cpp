@@ -8,6 +8,7 @@
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "platform/threads.h"
+#include "tables/edit_state.h"
 #include "tables/file/table_store.h"
 
 namespace orv3 {
@@ -72,7 +73,7 @@ bool CSystemTable::Load(const CString& store, const CString& name) {
   const CDataItemArray& rows = std::as_const(m_table).m_arrItem;
   for (int i = 0; text && i < rows.GetSize(); ++i) {
     const CDataItem& row = rows[i];
-    if (row.m_nModifyType < 0 || row.IsEmpty()) continue;
+    if (IsDeleted(row.m_nModifyType) || row.IsEmpty()) continue;
     m_mapNo.try_emplace(row.m_arrCell.GetAt(0).m_strValue.View(), i);
   }
   return true;

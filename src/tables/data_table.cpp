@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "framework/message.h"
+#include "tables/edit_state.h"
 #include "tables/row_index.h"
 
 CDataTable::CDataTable() = default;
@@ -31,8 +32,9 @@ CDataTable& CDataTable::operator=(const CDataTable& other) {
 // --- Counts and look-up -------------------------------------------------------------------------
 
 int CDataTable::GetRealTableRowNum() const noexcept {
-  return static_cast<int>(std::count_if(m_arrItem.begin(), m_arrItem.end(),
-                                        [](const auto& row) { return row.m_nModifyType >= 0; }));
+  return static_cast<int>(std::count_if(m_arrItem.begin(), m_arrItem.end(), [](const auto& row) {
+    return !orv3::IsDeleted(row.m_nModifyType);
+  }));
 }
 
 const CDataTable& CDataTable::Root() const noexcept {
@@ -165,7 +167,7 @@ std::vector<int> CDataTable::FindByKey(const CDataItem& row) const {
   const orv3::CRowIndex& index = Index();
   if (index.Key().empty()) return found;
   for (const int position : index.KeyCandidates(row)) {
-    if (m_arrItem[position].m_nModifyType < 0) continue;
+    if (orv3::IsDeleted(m_arrItem[position].m_nModifyType)) continue;
     const bool same =
         std::all_of(index.Key().begin(), index.Key().end(), [&](const orv3::CKeyColumn& column) {
           return IsSelected(position, column.m_nCompare, row[column.m_nKey].m_strValue, 0) != 0;
@@ -204,7 +206,7 @@ int CDataTable::AddTableItem(CDataItem& row, int bNew, int bNoCheck) {
   if (RefuseDuplicate(row, -1)) return 0;
   const int deleted = m_pIndex->FirstDeleted();  // as the key check has just found it
   row.m_nIndex = deleted < 0 ? GetTableRowNum() : m_arrItem.Own(deleted).m_nIndex;
-  row.m_nModifyType = bNew ? 1 : 3;
+  row.m_nModifyType = bNew ? orv3::kAdded : orv3::kCatalogueAdded;
   if (deleted < 0) {
     m_arrItem.Add(row);
   } else {
@@ -229,7 +231,7 @@ int CDataTable::ModifyTableItem(int index, CDataItem& row) {
   const int position = GetTableIndex(index);
   if (position < 0) return 0;
   row.m_nIndex = index;
-  row.m_nModifyType = row.m_nModifyType <= 2 ? 2 : 3;
+  row.m_nModifyType = orv3::StateAfterChange(row.m_nModifyType);
   if (RefuseDuplicate(row, position)) return 0;
   ReplaceRow(position, row);
   return 1;
@@ -251,13 +253,13 @@ int CDataTable::DeleteTableItem(int index) {
   const int position = GetTableIndex(index);
   if (position < 0) return 0;
   CDataItem& row = m_arrItem.Own(position);
-  if (row.m_nModifyType < 0) return 1;
+  if (orv3::IsDeleted(row.m_nModifyType)) return 1;
   m_pIndex->Forget(position);
-  if (row.m_nModifyType == 1 || row.m_nModifyType == 3) {
+  if (orv3::IsAdded(row.m_nModifyType)) {
     m_arrItem.RemoveAt(position);
     m_pIndex->CloseGap(m_arrItem, position);
   } else {
-    row.m_nModifyType = -1;
+    row.m_nModifyType = orv3::kDeleted;
     m_pIndex->Remember(m_arrItem, position);
   }
   return 1;
@@ -265,9 +267,9 @@ int CDataTable::DeleteTableItem(int index) {
 
 int CDataTable::ImportTableItem(CDataItem& row, int bOverwrite) {
   if (row.GetItemLength() != GetTableColNum()) return 0;
-  if (row.m_nModifyType < 0) return 1;
-  if (row.m_nModifyType == 0) row.m_nModifyType = 1;
-  if (row.m_nModifyType == 4) row.m_nModifyType = 3;
+  if (orv3::IsDeleted(row.m_nModifyType)) return 1;
+  if (row.m_nModifyType == orv3::kUnchanged) row.m_nModifyType = orv3::kAdded;
+  if (row.m_nModifyType == orv3::kCatalogueSaved) row.m_nModifyType = orv3::kCatalogueAdded;
   const int present = IsHaveValue(row, -1);
   if (present < 0) {
     row.m_nIndex = GetTableRowNum();

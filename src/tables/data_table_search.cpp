@@ -7,6 +7,7 @@
 
 #include "framework/number_text.h"
 #include "tables/data_table.h"
+#include "tables/edit_state.h"
 #include "tables/expression.h"
 
 using orv3::CCondition;
@@ -41,7 +42,7 @@ void AddMatching(const CDataTable& table, const CCondition& condition,
   for (int i = 0; i < table.GetTableRowNum(); ++i) {
     table.m_arrItem.Prefetch(i, condition.Column());
     const CDataItem& row = table[i];
-    if (row.m_nModifyType < 0 || present[static_cast<std::size_t>(i)]) continue;
+    if (orv3::IsDeleted(row.m_nModifyType) || present[static_cast<std::size_t>(i)]) continue;
     if (condition.Matches(row)) positions.push_back(i);
   }
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "framework/number_text.h"
+#include "tables/edit_state.h"
 
 namespace orv3 {
 namespace {
@@ -205,7 +206,7 @@ void CRowIndex::Forget(int position) {
 
 void CRowIndex::Remember(const CDataItemArray& rows, int position) {
   const CDataItem& row = rows.GetAt(position);
-  if (row.m_nModifyType < 0) PutIn(m_arrDeleted, position);
+  if (IsDeleted(row.m_nModifyType)) PutIn(m_arrDeleted, position);
   m_byIndex.Add(static_cast<std::uint64_t>(row.m_nIndex), position);
   if (!m_arrKey.empty()) {
     if (HasKey(row)) {

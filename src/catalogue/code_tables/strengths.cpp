@@ -1,6 +1,7 @@
 // Strengths of steel, welds and bolts, N/mm2: GB 50017-2003, 3.4.1.
 #include "catalogue/code_tables/interpolation.h"
 #include "catalogue/code_tables/table_search.h"
+#include "catalogue/code_tables/thickness_group.h"
 #include "framework/number_text.h"
 
 // Table 3.4.1-1, the columns f and fv.
@@ -89,16 +90,6 @@ int StrengthRow(int grade, int group) noexcept {
   return group >= SUB1_T16_35 && group <= SUB1_T50_100 ? 4 * grade + 1 + group - SUB1_T16_35 : -1;
 }
 
-// The thickness group, -1 above 100 mm and for a NaN.
-int ThicknessGroup(int grade, double thickness) noexcept {
-  const bool bQ235 = grade == SUB1_Q235;
-  if (thickness <= 16) return SUB1_T16;
-  if (thickness <= (bQ235 ? 40 : 35)) return bQ235 ? SUB1_T16_40 : SUB1_T16_35;
-  if (thickness <= (bQ235 ? 60 : 50)) return bQ235 ? SUB1_T40_60 : SUB1_T35_50;
-  if (thickness <= 100) return bQ235 ? SUB1_T60_100 : SUB1_T50_100;
-  return -1;
-}
-
 // A cell of g_sub2, or the fillet weld's strength, which is the same for a grade's four rows.
 bool WeldStrength(int row, int kind, const int (&fillet)[4], int& strength) noexcept {
   if (row < 0 || !orv3::InRange(kind, 5)) return false;
@@ -133,7 +124,7 @@ bool CTableSearch::SearchSub1(int grade, int group, int kind, int& strength) {
 }
 
 bool CTableSearch::SearchSub1(int grade, double thickness, int kind, int& strength) {
-  return SearchSub1(grade, ThicknessGroup(grade, thickness), kind, strength);
+  return SearchSub1(grade, orv3::ThicknessGroup(grade, thickness), kind, strength);
 }
 
 bool CTableSearch::SearchSub2(int grade, int group, int kind, int& strength) {

@@ -14,6 +14,7 @@
 #include "framework/utf16.h"
 #include "framework/utf8.h"
 #include "platform/code_page.h"
+#include "tables/edit_state.h"
 
 namespace orv3 {
 namespace {
@@ -122,7 +123,7 @@ class CCsvTable {
     CDataItem row = EmptyRow(m_name, m_table.m_table.m_Title);
     const CString why = Fill(cells, row);
     if (why.IsEmpty()) {
-      row.m_nModifyType = 1;
+      row.m_nModifyType = kAdded;
       m_table.m_table.AddTableItem(row, 1, 1);
       return;
     }

@@ -10,13 +10,12 @@
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "tables/aligned_indices.h"
+#include "tables/edit_state.h"
 #include "tables/file/check.h"
 #include "tables/file/table_store.h"
 
 namespace orv3 {
 namespace {
-
-constexpr int kCatalogueState = 3;  // and above: added by the catalogue, protected
 
 CString FirstCell(const CDataItem& row) {
   return row.IsEmpty() ? CString() : row.m_arrCell.GetAt(0).m_strValue;
@@ -50,7 +49,7 @@ class CTableMerger {
     if (!m_result.m_strWhy.IsEmpty() || !Check()) return true;
     const CDataItemArray& rows = std::as_const(m_source).m_arrItem;
     for (int i = 0; i < rows.GetSize(); ++i) {
-      if (rows[i].m_nModifyType >= 0) Row(i, rows[i]);
+      if (!IsDeleted(rows[i].m_nModifyType)) Row(i, rows[i]);
     }
     // A table without rows is one; one whose rows are all refused is none.
     const bool bare = !m_stored && m_result.m_arrRefused.empty();
@@ -82,7 +81,7 @@ class CTableMerger {
     m_hasKey = HasKey();
     if (!m_hasKey) {
       for (const CDataItem& row : std::as_const(m_target).m_arrItem) {
-        if (row.m_nModifyType >= 0) m_known.insert(Values(row));
+        if (!IsDeleted(row.m_nModifyType)) m_known.insert(Values(row));
       }
     }
     return true;
@@ -154,7 +153,7 @@ class CTableMerger {
       ++m_result.m_nUnchanged;
     } else if (!m_overwrite) {
       Refuse(row, L"the store has it with other values, which only overwriting replaces");
-    } else if (present.m_nModifyType >= kCatalogueState && row.m_nModifyType < kCatalogueState) {
+    } else if (IsProtected(present.m_nModifyType) && !IsProtected(row.m_nModifyType)) {
       Refuse(row, L"本数据记录不能删除和编辑!");
     } else {
       ++m_result.m_nReplaced;

@@ -11,6 +11,7 @@
 #include "framework/utf16.h"
 #include "platform/store_error.h"
 #include "platform/whole_file.h"
+#include "tables/edit_state.h"
 
 namespace orv3 {
 namespace {
@@ -60,7 +61,7 @@ int WriteRolledFile(const CString& path, int number, const CDataTable& table) {
   std::string bytes(sizeof header, '\0');
   std::memcpy(bytes.data(), &header, sizeof header);
   for (const CDataItem& row : table.m_arrItem) {
-    if (row.m_nModifyType < 0) continue;
+    if (IsDeleted(row.m_nModifyType)) continue;
     const CString fault = Fault(style, row);
     if (!fault.IsEmpty()) {
       const CString no = row.IsEmpty() ? CString() : row[0].m_strValue;

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "catalogue/code_tables/thickness_group.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
@@ -121,7 +122,7 @@ void BoltFieldFaults(const CBoltCase& input, CFaultList& faults) {
   }
   if (input.m_nType == kOrdinaryBolt) faults.Within("class", input.m_nClass, 0, 2);
   faults.Positive("t", input.m_dThick, "mm");
-  if (input.m_dThick > kThickestSteel) TooThick("t", input.m_dThick, "3.4.1-1", faults);
+  if (input.m_dThick > kThickestPlate) TooThick("t", input.m_dThick, "3.4.1-1", faults);
 }
 
 void LoadFaults(const CBoltCase& input, CFaultList& faults) {

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "catalogue/code_tables/thickness_group.h"
 #include "connections/cases/case_rules.h"
 #include "connections/cases/weld_case.h"
 
@@ -92,7 +93,7 @@ std::vector<CCaseFault> ButtFaults(const CButtCase& input) {
   faults.Finite("N", input.m_dN);
   faults.Finite("M", input.m_dM);
   faults.Finite("V", input.m_dV);
-  if (input.m_dThick > kThickestSteel) TooThick("t", input.m_dThick, "3.4.1-3", faults);
+  if (input.m_dThick > kThickestPlate) TooThick("t", input.m_dThick, "3.4.1-3", faults);
   DroppedLoadFaults(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, faults);
   return faults.Take();
 }

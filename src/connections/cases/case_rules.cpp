@@ -1,5 +1,6 @@
 #include "connections/cases/case_rules.h"
 
+#include "catalogue/code_tables/thickness_group.h"
 #include "connections/check_math.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
@@ -70,7 +71,7 @@ void CFaultList::Within(const char* key, int value, int first, int last) {
 
 void TooThick(const char* key, double thickness, const std::string& table, CFaultList& faults) {
   const std::string is = PlainNumber(thickness) + " mm";
-  const std::string most = PlainNumber(kThickestSteel) + " mm";
+  const std::string most = PlainNumber(kThickestPlate) + " mm";
   faults.Add(key, {is + " 超出表 " + table, is + " is beyond Table " + table},
              {"请给不大于 " + most, "give at most " + most});
 }

@@ -65,7 +65,7 @@ constexpr bool IsShortFusion(int groove) noexcept {
   return groove == 1 || groove == 2 || groove == 4;
 }
 
-inline constexpr double kThickestSteel = 100;  // Tables 3.4.1-1 and 3.4.1-3, mm
+// Of a plate above kThickestPlate.
 void TooThick(const char* key, double thickness, const std::string& table, CFaultList& faults);
 
 // Of a computed bolt group: distances above those of Table 8.3.4.

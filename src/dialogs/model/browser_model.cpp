@@ -11,6 +11,7 @@
 #include "framework/number_text.h"
 #include "sections/load_data_table.h"
 #include "sections/sketch/sketch.h"
+#include "tables/edit_state.h"
 
 namespace orv3 {
 namespace {
@@ -190,7 +191,7 @@ void CBrowserModel::FillList() {
   m_arrItemRow.clear();
   const CDataItemArray& rows = m_shown.m_arrItem;
   for (int i = 0; i < rows.GetSize(); ++i) {
-    if (rows[i].m_nModifyType < 0) continue;
+    if (IsDeleted(rows[i].m_nModifyType)) continue;
     if (rows[i].IsEmpty()) break;
     m_arrItemRow.push_back(i);
   }

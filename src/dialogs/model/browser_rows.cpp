@@ -11,14 +11,9 @@
 #include "sections/load_data_table.h"
 #include "sections/section_kind.h"
 #include "sections/table_types.h"
+#include "tables/edit_state.h"
 
 namespace orv3 {
-namespace {
-
-constexpr int kProtectedState = 3;  // rows that came with the catalogue
-
-}  // namespace
-
 // The selected row with all columns of its table; without cells when there is none.
 CDataItem CBrowserModel::SelectedRow() const {
   const int position = Full().GetTableIndex(SelectedIndex());
@@ -26,7 +21,7 @@ CDataItem CBrowserModel::SelectedRow() const {
 }
 
 bool CBrowserModel::IsProtected(const CDataItem& row) {
-  if (row.m_nModifyType < kProtectedState) return false;
+  if (!orv3::IsProtected(row.m_nModifyType)) return false;
   m_user.Tell(texts::kProtectedReminder, texts::kProtectedRow);
   return true;
 }

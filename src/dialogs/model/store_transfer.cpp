@@ -13,6 +13,7 @@
 #include "platform/file_system.h"
 #include "platform/store_file.h"
 #include "tables/data_table.h"
+#include "tables/edit_state.h"
 #include "tables/file/table_store.h"
 
 namespace orv3 {
@@ -36,7 +37,7 @@ CDataTable Named(const CString& name, const CString& path) {
 // The live rows, their positions as their indices.
 void AppendLive(const CDataTable& from, CDataTable& to) {
   for (const CDataItem& row : from.m_arrItem) {
-    if (row.m_nModifyType < 0) continue;
+    if (IsDeleted(row.m_nModifyType)) continue;
     CDataItem copy = row;
     copy.m_nIndex = to.GetTableRowNum();
     to.AddTableItem(copy, 1, 1);

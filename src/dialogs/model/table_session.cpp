@@ -9,12 +9,11 @@
 #include "dialogs/model/store_failure.h"
 #include "platform/store_file.h"
 #include "tables/aligned_indices.h"
+#include "tables/edit_state.h"
 #include "tables/file/table_store.h"
 
 namespace orv3 {
 namespace {
-
-bool IsUnsavedState(int state) { return state == 1 || state == 2 || state == 3 || state == -1; }
 
 bool SameValues(const CDataItem& a, const CDataItem& b) {
   return std::equal(a.m_arrCell.begin(), a.m_arrCell.end(), b.m_arrCell.begin(), b.m_arrCell.end(),
@@ -69,9 +68,8 @@ void CTableSession::MakeLatticeTable(CDialogUser& user) {
 
 bool CTableSession::WriteBack(CDialogUser& user) {
   const CDataItemArray& rows = m_table.m_arrItem;
-  const bool unsaved = std::any_of(rows.begin(), rows.end(), [](const CDataItem& row) {
-    return IsUnsavedState(row.m_nModifyType);
-  });
+  const bool unsaved = std::any_of(
+      rows.begin(), rows.end(), [](const CDataItem& row) { return IsUnsaved(row.m_nModifyType); });
   if (m_table.GetTableColNum() <= 1 || !unsaved || m_table.WriteSystemJmTable()) return true;
   TellSaveFailed(user);
   return false;
@@ -117,7 +115,7 @@ bool CTableSession::Add(CDataItem& row, CDialogUser& user) {
 int CTableSession::Locate(CDataTable& fresh, const CDataItem& before) {
   const CDataItemArray& rows = fresh.m_arrItem;
   const auto same = [&](const CDataItem& row) {
-    return row.m_nModifyType >= 0 && SameValues(row, before);
+    return !IsDeleted(row.m_nModifyType) && SameValues(row, before);
   };
   const int position = fresh.GetTableIndex(before.m_nIndex);
   if (position >= 0 && same(rows[position])) return position;
@@ -149,7 +147,7 @@ bool CTableSession::TakeBack(CDataItem& row, CDialogUser& user) {
   const auto restore = [&](CDataTable& table) {
     const CDataItemArray& rows = std::as_const(table).m_arrItem;
     const auto place = std::find_if(rows.begin(), rows.end(), [&](const CDataItem& other) {
-      return other.m_nModifyType < 0 && SameValues(other, row);
+      return IsDeleted(other.m_nModifyType) && SameValues(other, row);
     });
     return place == rows.end() ? table.AddTableItem(row, 1) != 0
                                : table.ModifyTableItem(place->m_nIndex, row) != 0;

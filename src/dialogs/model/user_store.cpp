@@ -8,6 +8,7 @@
 #include "platform/file_system.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
+#include "tables/edit_state.h"
 #include "tables/file/table_store.h"
 
 namespace orv3 {
@@ -21,19 +22,20 @@ bool SameValues(const CDataItem& a, const CDataItem& b) {
 bool SameRows(const CDataTable& a, const CDataTable& b) {
   return std::equal(a.m_arrItem.begin(), a.m_arrItem.end(), b.m_arrItem.begin(), b.m_arrItem.end(),
                     [](const CDataItem& x, const CDataItem& y) {
-                      return (x.m_nModifyType < 0) == (y.m_nModifyType < 0) && SameValues(x, y);
+                      return IsDeleted(x.m_nModifyType) == IsDeleted(y.m_nModifyType) &&
+                             SameValues(x, y);
                     });
 }
 
 bool HasLive(const CDataTable& table, int index) {
   const int position = table.GetTableIndex(index);
-  return position >= 0 && table[position].m_nModifyType >= 0;
+  return position >= 0 && !IsDeleted(table[position].m_nModifyType);
 }
 
 void RemoveMissingRows(CDataTable& target, const CDataTable& wanted) {
   for (int i = target.GetTableRowNum() - 1; i >= 0; --i) {
     const CDataItem& row = std::as_const(target)[i];
-    if (row.m_nModifyType < 0 || wanted.GetTableIndex(row.m_nIndex) >= 0) continue;
+    if (IsDeleted(row.m_nModifyType) || wanted.GetTableIndex(row.m_nIndex) >= 0) continue;
     target.DeleteTableItem(row.m_nIndex);
   }
 }
@@ -42,7 +44,7 @@ void ChangeRow(CDataTable& target, int position, const CDataItem& wanted) {
   CDataItem& row = target[position];
   if (SameValues(row, wanted)) return;
   row.m_arrCell = wanted.m_arrCell;
-  row.m_nModifyType = row.m_nModifyType <= 2 ? 2 : 3;
+  row.m_nModifyType = StateAfterChange(row.m_nModifyType);
 }
 
 // Behind all rows: a deleted row's place is not taken, as its index may still be known elsewhere.
@@ -50,7 +52,7 @@ void AppendRow(CDataTable& target, const CDataItem& wanted) {
   CDataItem row = wanted;
   row.m_nIndex = target.GetTableRowNum();
   while (target.GetTableIndex(row.m_nIndex) >= 0) ++row.m_nIndex;
-  row.m_nModifyType = 1;
+  row.m_nModifyType = kAdded;
   target.AddTableItem(row, 1, 1);
 }
 
@@ -63,7 +65,7 @@ CDataTable LiveRows(const CDataTable& table) {
   live.m_Title = table.m_Title;
   for (const CDataItem& row : table.m_arrItem) {
     CDataItem copy = row;
-    if (row.m_nModifyType >= 0) live.AddTableItem(copy, 1, 1);
+    if (!IsDeleted(row.m_nModifyType)) live.AddTableItem(copy, 1, 1);
   }
   return live;
 }
@@ -103,7 +105,7 @@ bool CUserStore::WriteNew(const CDataTable& table, CUserFile& file) const {
   made.SetSaveTablePath(m_strPath);
   for (int i = 0; i < made.GetTableRowNum(); ++i) {
     made[i].m_nIndex = i;
-    made[i].m_nModifyType = made[i].m_nModifyType > 2 ? 3 : 1;
+    made[i].m_nModifyType = IsProtected(made[i].m_nModifyType) ? kCatalogueAdded : kAdded;
   }
   const CString name = NewTableFileName(Folder());
   if (!FitsFile(made, Folder() + name, true) || !made.WriteUserJmTable(name.GetString())) {

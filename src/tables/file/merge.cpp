@@ -9,13 +9,7 @@
 
 namespace orv3 {
 
-namespace {
-
-bool HasNeverBeenSaved(const CDataItem& row) {
-  return row.m_nModifyType == 1 || row.m_nModifyType == 3;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 CTableMerge::CTableMerge(const CDataTable& table, const CTableImage& before,
                          std::vector<int> slotsOfRows, const std::vector<std::string>& slots,
@@ -36,13 +30,13 @@ CTableMerge::CTableMerge(const CDataTable& table, const CTableImage& before,
   const bool seen = !before.m_strPath.IsEmpty();
   for (int i = 0; i < table.GetTableRowNum(); ++i) {
     const CDataItem& row = table.m_arrItem[i];
-    if (row.m_nModifyType < 0) continue;
+    if (IsDeleted(row.m_nModifyType)) continue;
     const bool cut = std::any_of(m_arrKey.begin(), m_arrKey.end(), [&](int column) {
       const CString& value = row[column].m_strValue;
       return StoredValue(value) != value.View();
     });
     if (cut) m_arrCutKey.push_back(i);
-    if (m_arrKey.IsEmpty() && !seen && !HasNeverBeenSaved(row)) {
+    if (m_arrKey.IsEmpty() && !seen && !IsAdded(row.m_nModifyType)) {
       m_mapByIndex[row.m_nIndex].push_back(i);
     }
   }
@@ -77,7 +71,7 @@ int CTableMerge::Counterpart(std::size_t slot, const CDataItem& row) const {
       return m_arrRowAtSlot[slot];
     }
   }
-  if (row.m_nModifyType < 0) return -1;
+  if (IsDeleted(row.m_nModifyType)) return -1;
   return m_arrKey.IsEmpty() ? WithIndexOf(row) : WithKeyOf(row);
 }
 
@@ -136,7 +130,7 @@ bool CTableMerge::Run() {
   for (int i = 0; i < m_table.GetTableRowNum(); ++i) {
     if (IsPlaced(i) || !IsOwnChange(i)) continue;  // the latter: gone from the file
     // A row that the file does not have needs no deletion there.
-    if (m_table.m_arrItem[i].m_nModifyType < 0) continue;
+    if (IsDeleted(m_table.m_arrItem[i].m_nModifyType)) continue;
     Place({i, -1, false});
   }
   return true;

@@ -9,6 +9,7 @@
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "tables/data_table.h"
+#include "tables/edit_state.h"
 #include "tables/file/directory.h"
 #include "tables/file/table_text.h"
 
@@ -225,7 +226,7 @@ CStoreTable Describe(const CStoreFile& file, const CDataFileInfo& info, std::int
   for (const std::string& slot : slots) {
     const int state = StateOf(slot);
     ++table.m_mapState[state];
-    table.m_nDeleted += state < 0;
+    table.m_nDeleted += IsDeleted(state);
   }
   return table;
 }
