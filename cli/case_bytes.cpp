@@ -7,6 +7,7 @@
 
 #include "error.h"
 #include "framework/utf8.h"
+#include "output.h"
 #include "platform/code_page.h"
 
 namespace orv3::cli {
@@ -55,6 +56,7 @@ void CCaseBytes::OpenFile(const std::string& path) {
   if (error == CFileError::NotFound) {
     RefuseFile({"文件不存在；请给出算例文件", "is not there; give a file of cases"});
   }
+  NoteInput(path);
   CFileStamp stamp;
   if (!m_pFile || !m_pFile->Stamp(stamp)) {
     RefuseFile({"无法读取；请给出算例文件", "cannot be read; give a file of cases"});

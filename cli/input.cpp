@@ -7,6 +7,7 @@
 
 #include "error.h"
 #include "framework/utf8.h"
+#include "output.h"
 #include "platform/whole_file.h"
 
 namespace orv3::cli {
@@ -49,6 +50,7 @@ std::string ReadInput(const std::string& path, std::uint64_t most) {
     if (!stream) NotRead(path, "cannot be read");
     return ReadStream(stream, most);
   }
+  NoteInput(path);
   std::string bytes;
   switch (ReadWholeFile(FromUtf8(path), bytes, most + 1)) {
     case CFileError::None:

@@ -84,6 +84,16 @@ std::string WithExcerpts(std::string text, const std::vector<std::string>& argum
   return text;
 }
 
+// A command's sentence quotes a path whole, but nothing that is longer than any path one types.
+std::string Bounded(const std::string& text, int argc, char** argv) {
+  constexpr std::size_t kLongestPath = 300;
+  std::vector<std::string> endless;
+  for (std::string& argument : ForParsing(argc, argv)) {
+    if (argument.size() > kLongestPath) endless.push_back(std::move(argument));
+  }
+  return WithExcerpts(text, endless);
+}
+
 int Run(int argc, char** argv) {
   CLI::App program(
       "Sections and connection checks of structural steel, by GB 50017-2003 (the 2003 edition)",
@@ -124,7 +134,7 @@ int RunGuarded(int argc, char** argv) {
   } catch (const CExit exit) {
     return static_cast<int>(exit);
   } catch (const orv3::cli::CCommandError& error) {
-    return Fail(error.m_nExit, error.what());
+    return Fail(error.m_nExit, Bounded(error.what(), argc, argv));
   } catch (const std::bad_alloc&) {
     return Fail(CExit::FileTrouble, "the memory of this machine does not suffice");
   } catch (const std::exception& error) {

@@ -5,11 +5,13 @@
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
+#include <vector>
 
 #include "error.h"
 #include "framework/utf8.h"
 #include "platform/terminal.h"
 #include "platform/whole_file.h"
+#include "tables/file/store_check.h"
 
 namespace orv3::cli {
 namespace {
@@ -41,6 +43,27 @@ void WriteThrough(const std::filesystem::path& device, const std::string& path,
   const bool closed = std::fclose(out) == 0;
   if (written && closed) return;
   NotWritten(path, WriteTrouble(errno == ENOSPC ? CFileError::Full : CFileError::Failed));
+}
+
+std::vector<std::filesystem::path>& Inputs() {
+  static std::vector<std::filesystem::path> inputs;
+  return inputs;
+}
+
+// A picture, report or list takes the place neither of what the command reads nor of a store.
+void KeepFromLoss(const std::filesystem::path& target, const std::string& path,
+                  const std::string& bytes) {
+  std::error_code error;
+  for (const auto& input : Inputs()) {
+    if (std::filesystem::equivalent(input, target, error))
+      Refuse(path + ": is the file that is read; right would be another name");
+  }
+  CStoreInfo store;
+  const bool text = bytes.find('\0') == bytes.npos;
+  if (text && std::filesystem::is_regular_file(target, error) &&
+      ReadStoreInfo(FromUtf8(path), store)) {
+    Refuse(path + ": is a store of sections; right would be another name");
+  }
 }
 
 std::string& Saved() {
@@ -86,6 +109,10 @@ void PrintJson(const CJson& json) {
   PrintBytes(text + '\n');
 }
 
+void NoteInput(const std::string& path) {
+  Inputs().emplace_back(std::u8string(path.begin(), path.end()));
+}
+
 void PrintCsv(const std::string& text) {
   PrintBytes(OutputIsTerminal() ? Visible(text, true) : text);
 }
@@ -96,6 +123,7 @@ void WriteFile(const std::string& path, const std::string& bytes) {
   const auto status = std::filesystem::status(native, ignored);
   if (std::filesystem::is_directory(status)) NotWritten(path, "it is a folder");
   if (IsStandardOutput(native)) return PrintBytes(bytes);
+  KeepFromLoss(native, path, bytes);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
     return WriteThrough(native, path, bytes);
   }

@@ -133,6 +133,7 @@ CString StoreToRead(const CStoreOptions& options) {
   }
   if (!IsThere(store)) Fail(store + L": not found; right would be a table file (.KDB)");
   UseFor(store, catalogue);
+  NoteInput(ToUtf8(store));
   return store;
 }
 

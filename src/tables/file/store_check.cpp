@@ -54,9 +54,23 @@ class CVerify {
         Add(L"", RecordAt(i), L"a record behind the end of the records");
       }
     }
+    if (m_faults.empty()) Gaps();
   }
 
  private:
+  // A save never gives a block back: bytes of no table are those of one whose record is lost.
+  void Gaps() {
+    std::sort(m_used.begin(), m_used.end(),
+              [](const CFileRange& a, const CFileRange& b) { return a.m_nBegin < b.m_nBegin; });
+    std::int64_t at = kUnusedHead;
+    m_used.push_back({m_directory.Offset(), m_directory.Offset()});
+    for (const CFileRange& used : m_used) {
+      if (used.m_nBegin > at)
+        Note(L"", at, FormatInt(used.m_nBegin - at) + L" bytes belong to no table");
+      at = std::max(at, used.m_nEnd);
+    }
+  }
+
   void Add(const CString& table, std::int64_t offset, const CString& what) {
     m_faults.push_back({table, offset, what});
   }
@@ -180,7 +194,17 @@ class CVerify {
                 FormatInt(static_cast<int>(wanted)));
       }
       Text(info.m_strTableName, at, row, form);
+      State(info.m_strTableName, at, row, form);
     }
+  }
+
+  // The states that a save writes, and those of rows that were never marked as saved.
+  void State(const CString& table, std::int64_t at, const CString& row, const CString& form) {
+    const std::vector<std::wstring_view> fields = SplitFields(form);
+    if (fields.size() < 2) return;
+    const int state = ToInt(fields[1]);
+    if (FormatInt(state) == CString(fields[1]) && state >= -2 && state <= 4) return;
+    Add(table, at, row + L": the state \"" + CString(fields[1]) + L"\" is not -2 to 4");
   }
 
   // What a save of fewer rows leaves behind, and what is left of rows whose count was lost.
