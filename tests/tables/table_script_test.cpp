@@ -58,7 +58,8 @@ bool ReadsBack(const CDataItem& row, const CDataItem& read) {
       static_cast<int>(std::to_string(row.m_nIndex).size()) + 4 + (row.m_nModifyType < 0 ? 1 : 0);
   for (const CDataCell& cell : row.m_arrCell) {
     size += 3;
-    for (const wchar_t ch : Kept(cell.m_strValue).View()) size += ch > 0x7F ? 2 : 1;
+    const CString kept = Kept(cell.m_strValue);
+    for (const wchar_t ch : kept.View()) size += ch > 0x7F ? 2 : 1;
   }
   bool cut = false;
   for (int i = 0; i < kColumns; ++i) {
