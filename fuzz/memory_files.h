@@ -56,14 +56,15 @@ class CMemoryFiles final : public orv3::CFileSystem {
     std::size_t Read(std::uint64_t offset, void* data, std::size_t size) override {
       const std::string& bytes = m_files[m_strPath];
       if (offset >= bytes.size()) return 0;
-      const std::size_t done = std::min<std::size_t>(size, bytes.size() - offset);
-      std::memcpy(data, bytes.data() + offset, done);
+      const std::size_t done = std::min(size, bytes.size() - static_cast<std::size_t>(offset));
+      std::memcpy(data, bytes.data() + static_cast<std::size_t>(offset), done);
       return done;
     }
     std::size_t Write(std::uint64_t offset, const void* data, std::size_t size) override {
       std::string& bytes = m_files[m_strPath];
-      bytes.resize(std::max<std::size_t>(bytes.size(), offset + size));
-      std::memcpy(bytes.data() + offset, data, size);
+      const auto at = static_cast<std::size_t>(offset);
+      bytes.resize(std::max(bytes.size(), at + size));
+      std::memcpy(bytes.data() + at, data, size);
       ++m_files.m_nChanged;
       return size;
     }
@@ -73,7 +74,7 @@ class CMemoryFiles final : public orv3::CFileSystem {
       return true;
     }
     bool SetSize(std::uint64_t size) override {
-      m_files[m_strPath].resize(size);
+      m_files[m_strPath].resize(static_cast<std::size_t>(size));
       return true;
     }
     bool AdvanceStamp(std::int64_t) override { return true; }

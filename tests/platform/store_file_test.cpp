@@ -230,8 +230,8 @@ TEST_F(StoreFile, AnInterruptedSaveIsNeverUndoneInAnotherFile) {
   const CString backup = m_folder.Path(L"backup.KDB");
   int journals = 0;
   for (const CCase& c : Cases()) {
-    const auto changed = [](std::string bytes, std::size_t at) {
-      if (at < bytes.size()) bytes[at] = '?';
+    const auto changed = [](std::string bytes, std::uint64_t at) {
+      if (at < bytes.size()) bytes[static_cast<std::size_t>(at)] = '?';
       return bytes;
     };
     const std::size_t last = c.fresh.size() - 1;
