@@ -188,7 +188,7 @@ double LoopSize(std::span<const CPath> loops) {
   return std::max({0.0, box.Width(), box.Height()});
 }
 
-double LoopArea(const CPath& loop) {
+double SignedArea(const CPath& loop) {
   const auto& vertices = loop.m_arrVertex;
   if (vertices.empty()) return 0;
   const CVertex origin = vertices.front();  // near by, so that distant loops lose no digits

@@ -35,6 +35,6 @@ std::vector<CPoint> Meetings(const CLoopPiece& a, const CLoopPiece& b, double to
 double LoopSize(std::span<const CPath> loops);
 
 // mm^2, positive for a loop that runs counter-clockwise.
-double LoopArea(const CPath& loop);
+double SignedArea(const CPath& loop);
 
 }  // namespace orv3

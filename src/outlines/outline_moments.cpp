@@ -1,4 +1,4 @@
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 
 #include <cmath>
 
