@@ -14,6 +14,7 @@
 #include "tables/file/plan.h"
 #include "tables/file/proof.h"
 #include "tables/file/table_text.h"
+#include "framework/language.h"
 #include "tables/row_index.h"
 
 using orv3::CStoreFile;
@@ -196,7 +197,7 @@ int CDataTable::CollectRows(const CStoreFile& file, bool all,
     if (!orv3::EncodeRow(row, orv3::StateOnFile(row.m_nModifyType), m_Title, write.m_strSlot,
                          why)) {
       return orv3::RefuseSave(
-          file, L"table \"" + m_strTableName + L"\", row " + orv3::FormatInt(i + 1) + L": " + why);
+          file, orv3::Say(L"表“{1}”第 {2} 行：{3}", L"table \"{1}\", row {2}: {3}", {m_strTableName, orv3::FormatInt(i + 1), why}));
     }
     writes.push_back(std::move(write));
   }
