@@ -188,12 +188,12 @@ class CDxfReader {
     while (m_groups.Next(group)) {
       if (group.m_nCode == 0) {
         m_groups.PutBack();
-        break;
+        return true;
       }
       if (group.m_nCode == 8 && entity.m_strLayer.empty()) entity.m_strLayer = group.m_strValue;
       entity.m_arrGroup.push_back(group);
     }
-    return true;
+    return entity.m_strKind == "ENDSEC";  // anything else goes on
   }
 
   void ReadEntities() {

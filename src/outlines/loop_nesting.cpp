@@ -59,8 +59,9 @@ std::vector<int> Around(CPieceTree& tree, std::span<const CLoopPiece> pieces, CP
 }  // namespace
 
 std::vector<CLoopPlace> NestLoops(std::span<const CPath> loops) {
-  const std::vector<CLoopPiece> pieces = LoopPieces(loops, 1e-9 * LoopSize(loops));
-  CPieceTree tree(pieces, 0, kMostSteps);
+  const double tolerance = 1e-9 * LoopSize(loops);
+  const std::vector<CLoopPiece> pieces = LoopPieces(loops, tolerance);
+  CPieceTree tree(pieces, tolerance, kMostSteps);
   std::vector<CLoopPlace> places(loops.size());
   for (std::size_t i = 0; i < loops.size(); ++i) {
     if (loops[i].m_arrVertex.empty()) continue;

@@ -4,22 +4,18 @@
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <string>
 
 #include "drawing/path.h"
 #include "framework/export.h"
+#include "framework/language.h"
 
 namespace orv3 {
 
 inline constexpr std::size_t kMostOutlinePoints = 100'000;
 inline constexpr double kFarthestOutlinePoint = 1e6;  // mm from the origin, and the greatest size
 
-// A sentence in each language, UTF-8: what is wrong, and what would be right. Loops and their
-// points are counted from 1.
-struct COutlineFault {
-  std::string m_strChinese;
-  std::string m_strEnglish;
-};
+// What is wrong, and what would be right. Loops and their points are counted from 1.
+using COutlineFault = CText;
 
 // The first thing wrong with the loops, whose senses count for nothing: no loops, or more points
 // than kMostOutlinePoints; a point that is not finite or too far out; a path that is not closed, an
