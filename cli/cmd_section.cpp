@@ -6,12 +6,15 @@
 #include <utility>
 #include <vector>
 
+#include "catalogue/exact/row_exact.h"
 #include "commands.h"
 #include "error.h"
+#include "exact_view.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
 #include "section_view.h"
+#include "sections/outline.h"
 #include "sections/section_check.h"
 #include "sections/section_figures.h"
 #include "sections/section_property.h"
@@ -89,6 +92,10 @@ CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   return record;
 }
 
+CExactProperties ExactOf(const CSteelJMData& record) {
+  return ExactProperties(SectionOutline(record.m_nStyle, record.m_dSize));
+}
+
 CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
   CJson sizes = CJson::array();
   for (int i = 0; i < style.m_nSizes; ++i) sizes.push_back(JsonNumber(record.m_dSize[i]));
@@ -102,7 +109,8 @@ CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const 
           {"sizes", sizes},
           {"base", {JsonNumber(record.m_dX), JsonNumber(record.m_dY)}},
           {"properties", properties},
-          {"geometry", FiguresJson(RowFigures(ExactRow(record)))}};
+          {"geometry", FiguresJson(RowFigures(ExactRow(record)))},
+          {"exact", ExactJson(ExactOf(record))}};
 }
 
 std::string Unit(int power) {
@@ -136,6 +144,7 @@ void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const 
   if (missing) Print("\n-: not computed for this style, or the base point lies outside\n");
   constexpr int kHexagon = 4;
   if (style.m_nStyle == kHexagon) Print("\nIxo = Iyo = 0.541 a⁴ as in tables; exact: 0.54127 a⁴\n");
+  PrintExact(ExactOf(record));
 }
 
 void RunSection(const COptions& options) {

@@ -3,12 +3,14 @@
 #include <memory>
 #include <string>
 
+#include "catalogue/exact/row_exact.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_picture.h"
 #include "catalogue/outline/row_spacing.h"
 #include "commands.h"
 #include "drawing/dxf.h"
 #include "error.h"
+#include "exact_view.h"
 #include "framework/utf8.h"
 #include "nearest.h"
 #include "output.h"
@@ -72,10 +74,14 @@ void RunShow(const COptions& options, bool spaced) {
   if (!options.svg.empty()) WriteFile(options.svg, RowPictureSvg(row, options.turn));
   if (!options.dxf.empty()) WriteDxf(options, row);
   const CRowFigures figures = RowFigures(row, options.turn);
+  const CExactProperties exact = ExactProperties(row);
   if (options.json) {
-    PrintJson(RowJson(row, figures));
+    CJson json = RowJson(row, figures);
+    json["exact"] = ExactJson(exact);
+    PrintJson(json);
   } else {
     PrintRow(row, figures);
+    PrintExact(exact);
   }
 }
 

@@ -12,6 +12,8 @@ void AddSectionCommand(CLI::App& program);
 void AddTablesCommand(CLI::App& program);
 void AddRowsCommand(CLI::App& program);
 void AddShowCommand(CLI::App& program);
+void AddOutlineCommand(CLI::App& program);
+void AddOutlineCommand(CLI::App& program);
 void AddLatticeCommand(CLI::App& program);
 void AddCodeCommand(CLI::App& program);
 void AddCheckCommand(CLI::App& program);
@@ -20,7 +22,8 @@ void AddStoreCommand(CLI::App& program);
 
 // The commands in the order of the help; a new one is entered here.
 inline constexpr void (*kCommands[])(CLI::App&) = {
-    AddStylesCommand,  AddSectionCommand, AddTablesCommand, AddRowsCommand,  AddShowCommand,
-    AddLatticeCommand, AddCodeCommand,    AddCheckCommand,  AddGaugeCommand, AddStoreCommand};
+    AddStylesCommand, AddSectionCommand, AddTablesCommand,  AddRowsCommand,
+    AddShowCommand,   AddOutlineCommand, AddLatticeCommand, AddCodeCommand,
+    AddCheckCommand,  AddGaugeCommand,   AddStoreCommand};
 
 }  // namespace orv3::cli

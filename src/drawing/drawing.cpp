@@ -121,10 +121,16 @@ void CDrawing::AddFigure(CFigure figure) {
 }
 
 void CDrawing::AddArea(CLayer layer, std::vector<CPath> loops) {
-  AddFigure({layer, true, std::move(loops)});
+  AddFigure({layer, true, std::move(loops), {}});
 }
 
-void CDrawing::AddPath(CLayer layer, CPath path) { AddFigure({layer, false, {std::move(path)}}); }
+void CDrawing::AddPath(CLayer layer, CPath path) {
+  AddFigure({layer, false, {std::move(path)}, {}});
+}
+
+void CDrawing::AddTinted(CLayer layer, std::uint32_t color, std::vector<CPath> paths) {
+  AddFigure({layer, false, std::move(paths), color});
+}
 
 void CDrawing::AddLine(CLayer layer, CPoint from, CPoint to) { AddPath(layer, LinePath(from, to)); }
 
@@ -134,7 +140,7 @@ void CDrawing::AddCircle(CLayer layer, CPoint center, double radius) {
 
 void CDrawing::AddSection(const std::vector<CPath>& loops) {
   AddArea(CLayer::Section, loops);
-  AddFigure({CLayer::Outline, false, loops});
+  AddFigure({CLayer::Outline, false, loops, {}});
 }
 
 void CDrawing::AddArrowHead(CLayer layer, CPoint tail, CPoint tip) {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,6 +50,8 @@ struct CFigure {
   CLayer m_nLayer = CLayer::Outline;
   bool m_bFilled = false;
   std::vector<CPath> m_arrPath;
+  // A colour of its own for thick lines, as a scale of colours has them; only SVG shows it.
+  std::optional<std::uint32_t> m_nTint = std::nullopt;
 };
 
 // A dimension line measured along x, or along y when vertical.
@@ -79,6 +82,7 @@ class ORV3CAL_API CDrawing {
   void AddArea(CLayer layer, std::vector<CPath> loops);
   // Lines along the paths.
   void AddPath(CLayer layer, CPath path);
+  void AddTinted(CLayer layer, std::uint32_t color, std::vector<CPath> paths);
   void AddLine(CLayer layer, CPoint from, CPoint to);
   void AddCircle(CLayer layer, CPoint center, double radius);
   // The steel of a section: filled in layer Section, its edges in layer Outline.

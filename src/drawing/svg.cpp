@@ -105,7 +105,9 @@ class CSvgWriter {
     Put("<path d=\"");
     for (const CPath& path : figure.m_arrPath) WritePath(path);
     const CPen& pen = LayerPen(figure.m_nLayer);
-    if (figure.m_bFilled) {
+    if (figure.m_nTint) {
+      Put("\" stroke-width=\"5\" stroke=\"", Color(*figure.m_nTint));
+    } else if (figure.m_bFilled) {
       Put("\" fill=\"", Color(pen.m_nFillColor), "\" stroke=\"none");
     } else if (pen.m_arrDash[0] > 0) {
       Put("\" stroke-dasharray=\"");

@@ -20,12 +20,6 @@ std::string At(CPoint p) { return "(" + ToUtf8(FormatG(p.x)) + ", " + ToUtf8(For
 std::string Number(std::size_t position) { return std::to_string(position + 1); }
 std::string Number(int position) { return std::to_string(position + 1); }
 
-COutlineFault TooClose() {
-  return {"各边过于密集，无法判断是否相交；请用圆弧代替细碎的折线",
-          "its edges lie too close together to tell whether they cross; right would be arcs in "
-          "place of many short edges"};
-}
-
 // --- Points --------------------------------------------------------------------------------------
 
 CFault CheckPoint(const CVertex& v, const std::string& loop, const std::string& point) {
@@ -144,11 +138,17 @@ CFault CheckCrossings(std::span<const CPath> loops, double tolerance, double siz
     }
     return true;
   });
-  if (!fault && tree.IsExhausted()) fault = TooClose();
+  if (!fault && tree.IsExhausted()) fault = TooCloseFault();
   return fault;
 }
 
 }  // namespace
+
+COutlineFault TooCloseFault() {
+  return {"各边过于密集，无法判断是否相交；请用圆弧代替细碎的折线",
+          "its edges lie too close together to tell whether they cross; right would be arcs in "
+          "place of many short edges"};
+}
 
 std::optional<COutlineFault> CheckLoops(std::span<const CPath> loops) {
   if (auto fault = CheckPoints(loops)) return fault;
@@ -161,7 +161,7 @@ std::optional<COutlineFault> CheckLoops(std::span<const CPath> loops) {
 std::optional<COutlineFault> CheckOutline(std::span<const CPath> loops) {
   if (auto fault = CheckLoops(loops)) return fault;
   const std::vector<CLoopPlace> places = NestLoops(loops);
-  if (places.empty()) return TooClose();
+  if (places.empty()) return TooCloseFault();
   for (std::size_t i = 0; i < loops.size(); ++i) {
     const bool hole = SignedArea(loops[i]) < 0;
     if (hole == places[i].IsHole()) continue;

@@ -29,4 +29,7 @@ ORV3CAL_API std::optional<COutlineFault> CheckLoops(std::span<const CPath> loops
 // part inside another one, are faults as well.
 ORV3CAL_API std::optional<COutlineFault> CheckOutline(std::span<const CPath> loops);
 
+// What such an outline is refused with.
+ORV3CAL_API COutlineFault TooCloseFault();
+
 }  // namespace orv3

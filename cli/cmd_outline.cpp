@@ -1,0 +1,235 @@
+// orv3cal outline: the exact properties, and stresses, of any outline.
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "commands.h"
+#include "csv_output.h"
+#include "error.h"
+#include "exact_view.h"
+#include "framework/language.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "outline_input.h"
+#include "outlines/exact_keys.h"
+#include "outlines/exact_picture.h"
+#include "outlines/loop_pieces.h"
+#include "outlines/section_solver.h"
+#include "output.h"
+#include "text_table.h"
+
+namespace orv3::cli {
+namespace {
+
+struct COptions {
+  std::string file;
+  std::string layer;
+  std::vector<std::string> stress;
+  bool json = false;
+  bool csv = false;
+  std::string svg;
+};
+
+constexpr struct {
+  const char* m_szKey;
+  const char* m_szUnit;
+  double CSectionForces::*m_pField;
+} kForces[] = {{"N", "kN", &CSectionForces::N},      {"Mx", "kN·mm", &CSectionForces::Mx},
+               {"My", "kN·mm", &CSectionForces::My}, {"T", "kN·mm", &CSectionForces::T},
+               {"Vx", "kN", &CSectionForces::Vx},    {"Vy", "kN", &CSectionForces::Vy}};
+
+// kN and kN mm as given, N and N mm as the solver takes them.
+CSectionForces ForcesOf(const std::vector<std::string>& given) {
+  constexpr double kKilo = 1000, kMost = 1e12;
+  if (given.size() != 4 && given.size() != std::size(kForces)) {
+    Refuse(Say("--stress：给出了 {1} 个数；请给出 N,Mx,My,T 或 N,Mx,My,T,Vx,Vy（kN、kN·mm）",
+               "--stress: {1} numbers were given; right would be N,Mx,My,T or N,Mx,My,T,Vx,Vy in "
+               "kN and kN·mm",
+               {std::to_string(given.size())}));
+  }
+  CSectionForces forces;
+  for (std::size_t i = 0; i < given.size(); ++i) {
+    const CString wide = FromUtf8(given[i]);
+    if (!IsNumber(wide) || std::fabs(ToDouble(wide)) > kMost) {
+      Refuse(Say("--stress {1}：\"{2}\" 不是可用的数（{3}）",
+                 "--stress {1}: \"{2}\" is no number that can be; right would be {3}",
+                 {kForces[i].m_szKey, given[i], kForces[i].m_szUnit}));
+    }
+    forces.*kForces[i].m_pField = ToDouble(wide) * kKilo;
+  }
+  return forces;
+}
+
+struct CAnswer {
+  std::vector<CPath> loops;
+  CPoint corner;
+  CExactProperties exact;
+  CSectionForces forces;
+  std::vector<CBoundaryStress> stress;
+
+  std::size_t Holes() const {
+    return static_cast<std::size_t>(std::count_if(
+        loops.begin(), loops.end(), [](const CPath& loop) { return SignedArea(loop) < 0; }));
+  }
+  std::size_t Points() const {
+    std::size_t points = 0;
+    for (const CPath& loop : loops) points += loop.m_arrVertex.size();
+    return points;
+  }
+};
+
+CAnswer Solve(const COptions& options) {
+  CAnswer answer;
+  if (!options.stress.empty()) answer.forces = ForcesOf(options.stress);
+  answer.loops = ReadOutline(options.file, options.layer, answer.corner);
+  const CSectionSolver solver(answer.loops);
+  answer.exact = solver.Properties();
+  if (std::isnan(answer.exact.A)) {
+    Refuse(options.file + ": " +
+           Say("无法求解这个轮廓",
+               "this outline is beyond the solver; right would be one with "
+               "fewer or less slender edges"));
+  }
+  if (!options.stress.empty()) answer.stress = solver.Stresses(answer.forces);
+  return answer;
+}
+
+// --- Stresses ------------------------------------------------------------------------------------
+
+struct CStressRow {
+  const char* m_szKey;
+  const char* m_szTitle;
+  const char* m_szMeaning;
+  const CBoundaryStress* CGreatestStress::*m_pPoint;
+  double CBoundaryStress::*m_pValue;
+};
+constexpr CStressRow kStresses[] = {
+    {"sigma", "最大正应力", "greatest normal stress", &CGreatestStress::m_pSigma,
+     &CBoundaryStress::sigma},
+    {"tau", "最大剪应力", "greatest shear stress", &CGreatestStress::m_pTau, &CBoundaryStress::tau},
+    {"mises", "最大折算应力", "greatest equivalent stress (von Mises)", &CGreatestStress::m_pMises,
+     &CBoundaryStress::mises},
+};
+
+CJson StressJson(const CAnswer& answer) {
+  CJson json = CJson::object();
+  for (const auto& force : kForces) json[force.m_szKey] = answer.forces.*force.m_pField / 1000;
+  const CGreatestStress greatest = GreatestStress(answer.stress);
+  for (const CStressRow& row : kStresses) {
+    const CBoundaryStress* point = greatest.*row.m_pPoint;
+    json[row.m_szKey] = point == nullptr ? CJson(nullptr)
+                                         : CJson{{"value", JsonNumber(point->*row.m_pValue)},
+                                                 {"x", JsonNumber(point->m_point.x)},
+                                                 {"y", JsonNumber(point->m_point.y)}};
+  }
+  json["sharpCorners"] = greatest.m_bSharp;
+  return json;
+}
+
+void PrintStresses(const CAnswer& answer) {
+  std::string head = Say("\n应力", "\nStresses");
+  for (const auto& force : kForces) {
+    head += std::string("  ") + force.m_szKey + " = " +
+            NumberText(answer.forces.*force.m_pField / 1000) + " " + force.m_szUnit;
+  }
+  Print(head + "\n\n");
+  const CGreatestStress greatest = GreatestStress(answer.stress);
+  CTextTable table(
+      {CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left});
+  for (const CStressRow& row : kStresses) {
+    const CBoundaryStress* point = greatest.*row.m_pPoint;
+    if (point == nullptr) {
+      table.AddRow({row.m_szTitle, row.m_szKey, "-", "", row.m_szMeaning});
+      continue;
+    }
+    table.AddRow({row.m_szTitle, row.m_szKey, NumberText(point->*row.m_pValue), "N/mm²",
+                  row.m_szMeaning,
+                  "x = " + NumberText(point->m_point.x) + ", y = " + NumberText(point->m_point.y)});
+  }
+  Print(table.Text());
+  if (greatest.m_bSharp) {
+    Print(Say("\n尖锐内凹角处剪应力理论上无界，未计入；请给出圆角\n",
+              "\nAt sharp re-entrant corners theory has no bound for the shear stress: they are "
+              "left out; right would be corners with radii\n"));
+  }
+}
+
+// --- Output --------------------------------------------------------------------------------------
+
+void PrintOutlineJson(const CAnswer& answer, bool stresses) {
+  CJson json = {{"unit", "mm"},
+                {"loops", answer.loops.size()},
+                {"holes", answer.Holes()},
+                {"points", answer.Points()},
+                {"origin", {JsonNumber(answer.corner.x), JsonNumber(answer.corner.y)}},
+                {"exact", ExactJson(answer.exact)}};
+  if (stresses) json["stress"] = StressJson(answer);
+  PrintJson(json);
+}
+
+void PrintOutlineCsv(const CAnswer& answer) {
+  std::vector<std::string> head, cells;
+  for (const CExactKey& key : ExactKeys()) {
+    const double value = answer.exact.*key.m_pField;
+    head.emplace_back(key.m_szKey);
+    cells.push_back(std::isfinite(value) ? ToUtf8(FormatShortest(value)) : "");
+  }
+  PrintCsv(kCsvMark + CsvLine(head) + CsvLine(cells));
+}
+
+void PrintOutline(const CAnswer& answer, const COptions& options) {
+  const auto number = [](std::size_t value) { return std::to_string(value); };
+  const std::size_t holes = answer.Holes();
+  Print(options.file + "\n\n" +
+        Say("{1} 个部分，{2} 个孔，{3} 点；原点取在 x = {4}、y = {5}\n",
+            "parts: {1}, holes: {2}, points: {3}; the origin below is at x = {4}, y = {5} mm\n",
+            {number(answer.loops.size() - holes), number(holes), number(answer.Points()),
+             NumberText(answer.corner.x), NumberText(answer.corner.y)}));
+  PrintExact(answer.exact);
+  if (!options.stress.empty()) PrintStresses(answer);
+}
+
+void RunOutline(const COptions& options) {
+  const CAnswer answer = Solve(options);
+  if (!options.svg.empty()) {
+    const CExactPicture picture{answer.loops, answer.exact, FromUtf8(options.file), answer.stress,
+                                MessageLanguage()};
+    WriteFile(options.svg, DrawingSvg(ExactPictureDrawing(picture), FromUtf8(options.file)));
+  }
+  if (options.json) return PrintOutlineJson(answer, !options.stress.empty());
+  if (options.csv) return PrintOutlineCsv(answer);
+  PrintOutline(answer, options);
+}
+
+}  // namespace
+
+void AddOutlineCommand(CLI::App& program) {
+  auto options = std::make_shared<COptions>();
+  CLI::App* command = program.add_subcommand(
+      "outline", "Exact properties of any outline: torsion, warping, shear, plastic, principal");
+  command
+      ->add_option("FILE", options->file,
+                   "A DXF file, or JSON {\"unit\": \"mm\", \"loops\": [[[x, y], [x, y, bulge], "
+                   "...], ...]}; - reads standard input")
+      ->required();
+  command->add_option("--layer", options->layer, "Of a DXF file this layer only")
+      ->type_name("NAME");
+  CLI::Option* json =
+      command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
+  command->add_flag("--csv", options->csv, "As CSV, one line")->excludes(json);
+  command->add_option("--svg", options->svg, "Write a picture with axes and shear centre")
+      ->type_name("FILE");
+  command
+      ->add_option("--stress", options->stress,
+                   "Stresses from N,Mx,My,T or N,Mx,My,T,Vx,Vy in kN and kN·mm; Mx pulls the "
+                   "upper edge, My the right one, N tension")
+      ->delimiter(',')
+      ->expected(1, 6)
+      ->type_name("N,Mx,My,T");
+  command->callback([options] { RunOutline(*options); });
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,18 @@
+// Outlines from files: DXF, or JSON {"unit": "mm", "loops": [[[x, y], [x, y, bulge], ...], ...]}.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "drawing/path.h"
+
+namespace orv3::cli {
+
+// The outline's loops in mm, parts counter-clockwise and holes clockwise, moved so that the lower
+// left corner of the rectangle around them is the origin; `corner` is where it was. A DXF file is
+// known by its name (.dxf) or its content, `layer` is for one alone. "-" is standard input.
+//
+// CCommandError names the file and what is wrong with it: status 2, or 3 when it cannot be read.
+std::vector<CPath> ReadOutline(const std::string& path, const std::string& layer, CPoint& corner);
+
+}  // namespace orv3::cli
