@@ -1,6 +1,6 @@
 #include "outlines/outline_moments.h"
 
-#include <cmath>
+#include "outlines/edge.h"
 
 namespace orv3 {
 namespace {
@@ -21,38 +21,26 @@ void AddEdge(CIntegrals& sum, CPoint a, CPoint b) {
   sum.xy += cross * (2 * a.x * a.y + a.x * b.y + b.x * a.y + 2 * b.x * b.y) / 24;
 }
 
-// The circular segment between an arc and its chord: material when the arc runs counter-clockwise.
-void AddSegment(CIntegrals& sum, const CArc& arc) {
-  const double sweep = std::fabs(arc.sweep);
-  const double sign = arc.sweep < 0 ? -1 : 1;
-  const double r2 = arc.radius * arc.radius;
-  const double half = std::sin(sweep / 2);
-  // About the circle's center, u along the line to the arc's middle, v across it.
-  const double area = sign * r2 / 2 * (sweep - std::sin(sweep));
-  const double u = sign * r2 * arc.radius * 2 / 3 * half * half * half;
-  const double twist = 2 * std::sin(sweep) * half * half;
-  const double uu = sign * r2 * r2 / 8 * (sweep - std::sin(sweep) + twist);
-  const double vv = sign * r2 * r2 / 24 * (3 * (sweep - std::sin(sweep)) - twist);
-  const double middle = arc.start + arc.sweep / 2;
-  const double c = std::cos(middle);
-  const double s = std::sin(middle);
-  const CPoint o = arc.center;
-  sum.one += area;
-  sum.x += area * o.x + u * c;
-  sum.y += area * o.y + u * s;
-  sum.xx += area * o.x * o.x + 2 * o.x * u * c + uu * c * c + vv * s * s;
-  sum.yy += area * o.y * o.y + 2 * o.y * u * s + uu * s * s + vv * c * c;
-  sum.xy += area * o.x * o.y + u * (o.x * s + o.y * c) + (uu - vv) * c * s;
+// The sector between the origin and an arc, likewise.
+void AddArc(CIntegrals& sum, const CEdge& arc) {
+  const auto over = [&](auto f) {
+    return Integrate(arc, 0, 1, [&](CPoint p, CPoint d) { return (p.x * d.y - p.y * d.x) * f(p); });
+  };
+  sum.one += over([](CPoint) { return 1; }) / 2;
+  sum.x += over([](CPoint p) { return p.x; }) / 3;
+  sum.y += over([](CPoint p) { return p.y; }) / 3;
+  sum.xx += over([](CPoint p) { return p.x * p.x; }) / 4;
+  sum.yy += over([](CPoint p) { return p.y * p.y; }) / 4;
+  sum.xy += over([](CPoint p) { return p.x * p.y; }) / 4;
 }
 
 void AddLoop(CIntegrals& sum, const CPath& loop) {
   const auto& vertices = loop.m_arrVertex;
-  for (std::size_t i = 0; i < vertices.size(); ++i) {
-    const CVertex& from = vertices[i];
+  ForEachEdge(loop, [&](const CEdge& edge, std::size_t i) {
     const CVertex& to = vertices[(i + 1) % vertices.size()];
-    AddEdge(sum, {from.x, from.y}, {to.x, to.y});
-    if (from.bulge != 0) AddSegment(sum, EdgeArc(from, to));
-  }
+    if (edge.IsArc()) return AddArc(sum, edge);
+    AddEdge(sum, {vertices[i].x, vertices[i].y}, {to.x, to.y});
+  });
 }
 
 }  // namespace
