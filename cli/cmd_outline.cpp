@@ -14,9 +14,9 @@
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "outline_input.h"
+#include "outlines/crossing.h"
 #include "outlines/exact_keys.h"
 #include "outlines/exact_picture.h"
-#include "outlines/loop_pieces.h"
 #include "outlines/section_solver.h"
 #include "output.h"
 #include "text_table.h"
@@ -72,7 +72,7 @@ struct CAnswer {
 
   std::size_t Holes() const {
     return static_cast<std::size_t>(std::count_if(
-        loops.begin(), loops.end(), [](const CPath& loop) { return SignedArea(loop) < 0; }));
+        loops.begin(), loops.end(), [](const CPath& loop) { return LoopArea(loop) < 0; }));
   }
   std::size_t Points() const {
     std::size_t points = 0;
@@ -87,7 +87,7 @@ CAnswer Solve(const COptions& options) {
   answer.loops = ReadOutline(options.file, options.layer, answer.corner);
   const CSectionSolver solver(answer.loops);
   answer.exact = solver.Properties();
-  if (std::isnan(answer.exact.A)) {
+  if (std::isnan(answer.exact.It)) {
     Refuse(options.file + ": " +
            Say("无法求解这个轮廓",
                "this outline is beyond the solver; right would be one with "

@@ -10,6 +10,7 @@
 #include "csv_output.h"
 #include "error.h"
 #include "figure_cells.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
@@ -134,7 +135,7 @@ bool HasCapacities(const CDataTable& table) {
 // The cells as they stand in the store, which is what programs and exports take.
 void PrintRowsJson(const COptions& options, const CDataTable& table) {
   CJson json = TableJson(options.table, table);
-  if (HasCapacities(table)) json["notes"] = {AngleCapacityBasis()};
+  if (HasCapacities(table)) json["notes"] = {AngleCapacityBasis().In(MessageLanguage())};
   PrintJson(json);
 }
 
@@ -163,7 +164,7 @@ void PrintRows(const COptions& options, const CDataTable& table) {
   });
   Print(lines.Text() + "\n" + options.table + ": " + std::to_string(count) +
         (count == 1 ? " row" : " rows") + "\n");
-  if (count > 0 && HasCapacities(table)) Print(std::string(AngleCapacityBasis()) + "\n");
+  if (count > 0 && HasCapacities(table)) Print(std::string(AngleCapacityBasis().In(MessageLanguage())) + "\n");
   const bool star = options.where.find('*') != std::string::npos;
   if (count == 0 && star && !options.wildcard) Print("with --wildcard a * stands for any text\n");
 }

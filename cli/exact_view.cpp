@@ -11,7 +11,7 @@ namespace {
 
 // Why figures are missing, or less than they are elsewhere.
 std::vector<std::string> ExactNotes(const CExactProperties& exact) {
-  if (std::isnan(exact.A)) {
+  if (std::isnan(exact.It)) {
     return {Say("-：没有轮廓，或板件重叠、仅在一线相接，轮廓不能确定",
                 "-: there is no outline, or its plates overlap or meet in an edge without width")};
   }

@@ -8,6 +8,7 @@
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/rolled/angle_capacity.h"
 #include "figure_cells.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "sections/section_figures.h"
@@ -270,7 +271,7 @@ std::vector<std::string> RowDoubtNotes(const CDataItem& row) {
 
 std::vector<std::string> RowNotes(const CDataItem& row) {
   std::vector<std::string> notes = RowDoubtNotes(row);
-  if (HasAngleCapacities(row.m_strTableName)) notes.emplace_back(AngleCapacityBasis());
+  if (HasAngleCapacities(row.m_strTableName)) notes.emplace_back(AngleCapacityBasis().In(MessageLanguage()));
   if (RowFigures(row).m_bAslant)
     notes.emplace_back("X1 lies between the angles and Y1 through both, at 45° to their legs.");
   return notes;

@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "outlines/crossing.h"
 #include "outlines/piece_tree.h"
 
 namespace orv3 {
@@ -76,7 +77,7 @@ std::vector<CLoopPlace> NestLoops(std::span<const CPath> loops) {
 
 std::vector<CPath> Sensed(std::vector<CPath> loops, std::span<const CLoopPlace> places) {
   for (std::size_t i = 0; i < loops.size(); ++i) {
-    if ((SignedArea(loops[i]) < 0) != places[i].IsHole()) loops[i] = Reversed(std::move(loops[i]));
+    if ((LoopArea(loops[i]) < 0) != places[i].IsHole()) loops[i] = Reversed(std::move(loops[i]));
   }
   return loops;
 }

@@ -188,25 +188,4 @@ double LoopSize(std::span<const CPath> loops) {
   return std::max({0.0, box.Width(), box.Height()});
 }
 
-double SignedArea(const CPath& loop) {
-  const auto& vertices = loop.m_arrVertex;
-  if (vertices.empty()) return 0;
-  const CVertex origin = vertices.front();  // near by, so that distant loops lose no digits
-  double area = 0;
-  for (std::size_t i = 0; i < vertices.size(); ++i) {
-    const CVertex& a = vertices[i];
-    const CVertex& b = vertices[(i + 1) % vertices.size()];
-    area += ((a.x - origin.x) * (b.y - origin.y) - (b.x - origin.x) * (a.y - origin.y)) / 2;
-    if (a.bulge == 0) continue;
-    // The segment between arc and chord; for a flat one by its height, 2/3 of the rectangle.
-    const double chord = std::hypot(b.x - a.x, b.y - a.y);
-    const double sweep = 4 * std::atan(a.bulge);
-    const double sine = std::sin(sweep / 2);
-    area += std::fabs(a.bulge) < 1e-4
-                ? a.bulge * chord * chord / 3
-                : chord * chord / (8 * sine * sine) * (sweep - std::sin(sweep));
-  }
-  return area;
-}
-
 }  // namespace orv3

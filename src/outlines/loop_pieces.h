@@ -34,7 +34,4 @@ std::vector<CPoint> Meetings(const CLoopPiece& a, const CLoopPiece& b, double to
 // shares of.
 double LoopSize(std::span<const CPath> loops);
 
-// mm^2, positive for a loop that runs counter-clockwise.
-double SignedArea(const CPath& loop);
-
 }  // namespace orv3

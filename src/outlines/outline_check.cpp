@@ -5,6 +5,7 @@
 
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "outlines/crossing.h"
 #include "outlines/loop_nesting.h"
 #include "outlines/piece_tree.h"
 
@@ -98,7 +99,7 @@ CFault CheckSingleLoops(std::span<const CPath> loops, double tolerance, double s
     if (loops[i].m_arrVertex.empty()) return empty;
     if (auto fault = CheckEdges(loops[i], Number(i), tolerance)) return fault;
     if (loops[i].m_arrVertex.size() < 2 ||
-        (loops[i].m_arrVertex.size() == 2 && std::fabs(SignedArea(loops[i])) <= tolerance * size))
+        (loops[i].m_arrVertex.size() == 2 && std::fabs(LoopArea(loops[i])) <= tolerance * size))
       return empty;
   }
   return std::nullopt;
@@ -163,7 +164,7 @@ std::optional<COutlineFault> CheckOutline(std::span<const CPath> loops) {
   const std::vector<CLoopPlace> places = NestLoops(loops);
   if (places.empty()) return TooCloseFault();
   for (std::size_t i = 0; i < loops.size(); ++i) {
-    const bool hole = SignedArea(loops[i]) < 0;
+    const bool hole = LoopArea(loops[i]) < 0;
     if (hole == places[i].IsHole()) continue;
     if (hole) {
       return COutlineFault{

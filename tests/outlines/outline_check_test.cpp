@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "drawing/dxf.h"
+#include "outlines/crossing.h"
 #include "outlines/dxf_outline.h"
 #include "outlines/loop_nesting.h"
-#include "outlines/loop_pieces.h"
 
 namespace orv3 {
 namespace {
@@ -106,7 +106,7 @@ TEST(OutlineCheck, TellsHolesFromParts) {
   EXPECT_NE(Fault(CheckOutline(loops)).find("loop 1 is a part inside"), std::string::npos);
   const CLoops sensed = Sensed(loops, places);
   EXPECT_EQ(Fault(CheckOutline(sensed)), "");
-  EXPECT_NEAR(SignedArea(sensed[2]), 4 * std::acos(-1.0), 1e-12);
+  EXPECT_NEAR(LoopArea(sensed[2]), 4 * std::acos(-1.0), 1e-12);
   EXPECT_NE(Fault(CheckOutline({{Reversed(loops[3])}})).find("a hole outside"), std::string::npos);
 }
 
@@ -131,8 +131,8 @@ TEST(DxfOutline, ReadsWhatPathsAreWrittenAs) {
   CLoops read;
   ASSERT_EQ(Fault(ReadDxfOutline(PathsDxf(drawn), "SECTION", read)), "");
   ASSERT_EQ(read.size(), 2U);
-  EXPECT_EQ(SignedArea(read[0]), 600);
-  EXPECT_NEAR(SignedArea(read[1]), SignedArea(drawn[1]), 1e-12);
+  EXPECT_EQ(LoopArea(read[0]), 600);
+  EXPECT_NEAR(LoopArea(read[1]), LoopArea(drawn[1]), 1e-12);
   EXPECT_EQ(Fault(ReadDxfOutline(PathsDxf(drawn), "0", read)), "");  // another layer
   EXPECT_TRUE(read.empty());
   const std::string whole = PathsDxf(drawn);
@@ -180,7 +180,7 @@ TEST(DxfOutline, JoinsLinesAndArcs) {
     EXPECT_EQ(fault.empty(), *c.fault == 0) << c.what << ": " << fault;
     ASSERT_EQ(loops.size(), c.area > 0 ? 1U : 0U) << c.what;
     if (c.area > 0) {
-      EXPECT_NEAR(std::fabs(SignedArea(loops[0])), c.area, 1e-3 * c.area) << c.what;
+      EXPECT_NEAR(std::fabs(LoopArea(loops[0])), c.area, 1e-3 * c.area) << c.what;
       EXPECT_EQ(Fault(CheckLoops(loops)), "") << c.what;
     }
   }

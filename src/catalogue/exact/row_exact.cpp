@@ -1,16 +1,12 @@
 #include "catalogue/exact/row_exact.h"
 
-#include <algorithm>
-#include <cmath>
-#include <numbers>
 #include <utility>
 #include <vector>
 
 #include "catalogue/exact/exact_figures.h"
 #include "catalogue/outline/row_outline.h"
-#include "outlines/exact_keys.h"
+#include "outlines/geometric_figures.h"
 #include "outlines/outline_moments.h"
-#include "outlines/plastic.h"
 #include "sections/section_kind.h"
 
 namespace orv3 {
@@ -35,42 +31,12 @@ CLoops Apart(CLoops loops) {
   return loops;
 }
 
-// What follows from the area alone, of loops that may touch.
-void SetAreaFigures(CExactProperties& exact, const CLoops& loops) {
-  const COutlineMoments m = RowOutlineMoments(loops);
-  const CBox box = PathBounds(loops);
-  exact.A = m.m_dArea;
-  exact.xo = m.m_centroid.x - box.left;
-  exact.yo = m.m_centroid.y - box.bottom;
-  exact.Ix = m.m_dIx;
-  exact.Iy = m.m_dIy;
-  exact.Ixy = m.m_dIxy;
-  const double middle = (m.m_dIx + m.m_dIy) / 2;
-  const double radius = std::hypot((m.m_dIx - m.m_dIy) / 2, m.m_dIxy);
-  exact.I1 = middle + radius;
-  exact.I2 = middle - radius;
-  const bool round = radius <= 1e-12 * middle;
-  exact.theta = round ? 0 : std::atan2(-2 * m.m_dIxy, m.m_dIx - m.m_dIy) * 90 / std::numbers::pi;
-  if (exact.theta <= -90) exact.theta += 180;
-  exact.ix = std::sqrt(exact.Ix / exact.A);
-  exact.iy = std::sqrt(exact.Iy / exact.A);
-  exact.i1 = std::sqrt(exact.I1 / exact.A);
-  exact.i2 = std::sqrt(exact.I2 / exact.A);
-  exact.Wx1 = exact.Ix / (box.top - m.m_centroid.y);
-  exact.Wx2 = exact.Ix / exact.yo;
-  exact.WyL = exact.Iy / exact.xo;
-  exact.WyR = exact.Iy / (box.right - m.m_centroid.x);
-  const CPlasticAxis x = PlasticAxisX(loops);
-  const CPlasticAxis y = PlasticAxisY(loops);
-  exact.Wpx = x.m_dModulus;
-  exact.Wpy = y.m_dModulus;
-  exact.yp = x.m_dAt - box.bottom;
-  exact.xp = y.m_dAt - box.left;
-}
-
 CExactProperties OfParts(const CLoops& loops) {
-  CExactProperties exact = ExactProperties(Apart(loops));
-  if (!std::isnan(exact.A)) SetAreaFigures(exact, loops);
+  const CExactProperties apart = ExactProperties(Apart(loops));
+  CExactProperties exact = GeometricFigures(loops);
+  exact.It = apart.It;
+  exact.m_error.It = apart.m_error.It;
+  exact.m_bAccurate = apart.m_bAccurate;
   return exact;
 }
 
