@@ -3,25 +3,32 @@
 namespace orv3 {
 namespace {
 
-constexpr std::array<double, 6> kNode = {0.1252334085114689, 0.3678314989981802, 0.5873179542866175,
-                                         0.7699026741943047, 0.9041172563704749, 0.9815606342467193};
-constexpr std::array<double, 6> kWeight = {0.2491470458134028, 0.2334925365383548,
-                                           0.2031674267230659, 0.1600783285433462,
-                                           0.1069393259953184, 0.0471753363865118};
+constexpr double kNodes12[] = {0.1252334085114689, 0.3678314989981802, 0.5873179542866175,
+                               0.7699026741943047, 0.9041172563704749, 0.9815606342467193};
+constexpr double kWeights12[] = {0.2491470458134028, 0.2334925365383548, 0.2031674267230659,
+                                 0.1600783285433462, 0.1069393259953184, 0.0471753363865118};
+constexpr double kNodes8[] = {0.1834346424956498, 0.5255324099163290, 0.7966664774136267,
+                              0.9602898564975363};
+constexpr double kWeights8[] = {0.3626837833783620, 0.3137066458778873, 0.2223810344533745,
+                                0.1012285362903763};
 
-constexpr std::array<CGaussPoint, 12> MakePoints() {
-  std::array<CGaussPoint, 12> points{};
-  for (std::size_t i = 0; i < 6; ++i) {
-    points[2 * i] = {(1 - kNode[i]) / 2, kWeight[i] / 2};
-    points[2 * i + 1] = {(1 + kNode[i]) / 2, kWeight[i] / 2};
+template <std::size_t N>
+constexpr std::array<CGaussPoint, 2 * N> MakePoints(const double (&node)[N],
+                                                    const double (&weight)[N]) {
+  std::array<CGaussPoint, 2 * N> points{};
+  for (std::size_t i = 0; i < N; ++i) {
+    points[2 * i] = {(1 - node[i]) / 2, weight[i] / 2};
+    points[2 * i + 1] = {(1 + node[i]) / 2, weight[i] / 2};
   }
   return points;
 }
-constexpr std::array<CGaussPoint, 12> kPoints = MakePoints();
+constexpr auto kPoints12 = MakePoints(kNodes12, kWeights12);
+constexpr auto kPoints8 = MakePoints(kNodes8, kWeights8);
 
 }  // namespace
 
-std::span<const CGaussPoint, 12> GaussPoints() { return kPoints; }
+std::span<const CGaussPoint, 12> GaussPoints() { return kPoints12; }
+std::span<const CGaussPoint, 8> GaussPoints8() { return kPoints8; }
 
 CEdge::CEdge(const CVertex& from, const CVertex& to)
     : m_from{from.x, from.y}, m_to{to.x, to.y}, m_sweep(4 * std::atan(from.bulge)) {

@@ -38,11 +38,12 @@ void ForEachEdge(const CPath& loop, Visit visit) {
   for (std::size_t i = 0; i < v.size(); ++i) visit(CEdge(v[i], v[(i + 1) % v.size()]), i);
 }
 
-// Gauss-Legendre on [0, 1], exact for polynomials up to degree 23.
+// Gauss-Legendre on [0, 1], of 12 points exact for polynomials up to degree 23, of 8 up to 15.
 struct CGaussPoint {
   double at, weight;
 };
 std::span<const CGaussPoint, 12> GaussPoints();
+std::span<const CGaussPoint, 8> GaussPoints8();
 
 // The integral of f(point, derivative) over t from a to b of an edge: arcs in pieces of a quarter
 // turn at most, which leaves rounding alone.

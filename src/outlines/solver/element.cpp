@@ -23,8 +23,8 @@ Eigen::MatrixXd CurveShares(int n) {
 CElement::CElement(const CSectionMesh& mesh, const CMeshTriangle& triangle,
                    const CShapeFunctions& shape, int geometry)
     : m_shape(shape),
-      m_x(Eigen::VectorXd::Zero(shape.m_nCount)),
-      m_y(Eigen::VectorXd::Zero(shape.m_nCount)) {
+      m_x(CElementVector::Zero(shape.m_nCount)),
+      m_y(CElementVector::Zero(shape.m_nCount)) {
   for (int i = 0; i < 3; ++i) {
     const CPoint p = mesh.m_arrVertex[static_cast<std::size_t>(
         triangle.m_vertex[static_cast<std::size_t>(i)])];
@@ -103,14 +103,22 @@ void CElement::Integrate() {
   m_loads.col(kLoadTwist) = dx.transpose() * ay - dy.transpose() * ax;
 }
 
-Eigen::MatrixXd CElement::Stiffness() const {
+CElementMatrix CElement::Stiffness() const {
   if (m_curved) return m_stiffness;
   return m_xixi * m_shape.m_xixi + m_xieta * m_shape.m_xieta + m_etaeta * m_shape.m_etaeta;
 }
 
-double CElement::Energy(const Eigen::VectorXd& u) const { return u.dot(Stiffness() * u); }
+double CElement::Energy(const CElementVector& u) const {
+  const auto product = [&u](const auto& matrix) { return u.dot(CElementVector(matrix * u)); };
+  if (m_curved) return product(m_stiffness);
+  return m_xixi * product(m_shape.m_xixi) + m_xieta * product(m_shape.m_xieta) +
+         m_etaeta * product(m_shape.m_etaeta);
+}
 
-Eigen::MatrixXd CElement::Mass() const { return m_curved ? m_mass : m_det * m_shape.m_mass; }
+double CElement::Square(const CElementVector& u) const {
+  if (m_curved) return u.dot(CElementVector(m_mass * u));
+  return m_det * u.dot(CElementVector(m_shape.m_mass * u));
+}
 
 CLoadMatrix CElement::Loads() const {
   if (m_curved) return m_loads;

@@ -12,7 +12,7 @@ namespace orv3 {
 // The columns of CElement::Loads: integrals of v, x v, y v, dv/dx, dv/dy and y dv/dx - x dv/dy with
 // each shape function v.
 enum CLoad { kLoadOne, kLoadX, kLoadY, kLoadDx, kLoadDy, kLoadTwist, kLoads };
-using CLoadMatrix = Eigen::Matrix<double, Eigen::Dynamic, kLoads>;
+using CLoadMatrix = Eigen::Matrix<double, Eigen::Dynamic, kLoads, 0, kMaxFunctions, kLoads>;
 
 // Curved edges are polynomials of the degree `geometry` through points of the arc, so that x and y
 // are themselves among the functions.
@@ -23,13 +23,13 @@ class CElement {
 
   bool IsSound() const { return m_sound; }
   CPoint Vertex(int i) const { return m_vertex[static_cast<std::size_t>(i)]; }
-  Eigen::MatrixXd Stiffness() const;  // integrals of the products of gradients
-  double Energy(const Eigen::VectorXd& u) const;
-  Eigen::MatrixXd Mass() const;
+  CElementMatrix Stiffness() const;  // integrals of the products of gradients
+  double Energy(const CElementVector& u) const;
+  double Square(const CElementVector& u) const;  // integral of u^2
   CLoadMatrix Loads() const;
   // x and y in the shape functions.
-  const Eigen::VectorXd& X() const { return m_x; }
-  const Eigen::VectorXd& Y() const { return m_y; }
+  const CElementVector& X() const { return m_x; }
+  const CElementVector& Y() const { return m_y; }
 
  private:
   void Bend(const CSectionMesh& mesh, const CMeshTriangle& triangle, int edge, int geometry);
@@ -37,7 +37,7 @@ class CElement {
 
   const CShapeFunctions& m_shape;
   std::array<CPoint, 3> m_vertex;
-  Eigen::VectorXd m_x, m_y;
+  CElementVector m_x, m_y;
   bool m_curved = false, m_sound = true;
   // Of a straight triangle.
   double m_det = 0, m_xixi = 0, m_xieta = 0, m_etaeta = 0;

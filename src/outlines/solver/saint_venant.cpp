@@ -9,18 +9,19 @@
 namespace orv3 {
 namespace {
 
-using Eigen::MatrixXd, Eigen::VectorXd;
+using Eigen::MatrixXd;
 
 std::size_t Index(int i) { return static_cast<std::size_t>(i); }
 
 // An element without the functions that vanish on its edges.
 struct CCondensed {
-  MatrixXd m_recover;  // interior = m_inner - m_recover * skeleton
-  MatrixXd m_inner;
-  MatrixXd m_stiffness, m_force;
+  CElementMatrix m_recover;  // interior = m_inner - m_recover * skeleton
+  CElementFields m_inner;
+  CElementMatrix m_stiffness;
+  CElementFields m_force;
 };
 
-CCondensed Condensed(const MatrixXd& stiffness, const MatrixXd& force,
+CCondensed Condensed(const CElementMatrix& stiffness, const CElementFields& force,
                      const CDegreeFunctions& functions) {
   const auto& b = functions.m_arrSkeleton;
   const auto& i = functions.m_arrInterior;
@@ -28,12 +29,12 @@ CCondensed Condensed(const MatrixXd& stiffness, const MatrixXd& force,
   c.m_stiffness = stiffness(b, b);
   c.m_force = force(b, Eigen::all);
   if (i.empty()) return c;
-  const MatrixXd coupling = stiffness(i, b);
-  const Eigen::LLT<MatrixXd> inner(stiffness(i, i));
+  const CElementMatrix coupling = stiffness(i, b);
+  const Eigen::LLT<CElementMatrix> inner(stiffness(i, i));
   c.m_recover = inner.solve(coupling);
   c.m_inner = inner.solve(force(i, Eigen::all));
-  c.m_stiffness.noalias() -= coupling.transpose() * c.m_recover;
-  c.m_force.noalias() -= coupling.transpose() * c.m_inner;
+  c.m_stiffness -= coupling.transpose().lazyProduct(c.m_recover);
+  c.m_force -= coupling.transpose().lazyProduct(c.m_inner);
   return c;
 }
 
@@ -93,14 +94,18 @@ void CSaintVenant::MakeElements(int geometry) {
   m_centroid = {x / m_area, y / m_area};
   for (const CElement& element : m_elements) {
     const auto loads = element.Loads();
-    VectorXd dx = element.X(), dy = element.Y();
+    CElementVector dx = element.X(), dy = element.Y();
     dx.head(3).array() -= m_centroid.x;
     dy.head(3).array() -= m_centroid.y;
-    const VectorXd fx = loads.col(kLoadX) - m_centroid.x * loads.col(kLoadOne);
-    const VectorXd fy = loads.col(kLoadY) - m_centroid.y * loads.col(kLoadOne);
-    m_Iy += dx.dot(fx);
-    m_Ix += dy.dot(fy);
-    m_Ixy += dx.dot(fy);
+    CElementFields forces(loads.rows(), 3);
+    forces.col(0) = loads.col(kLoadTwist) - m_centroid.y * loads.col(kLoadDx) +
+                    m_centroid.x * loads.col(kLoadDy);
+    forces.col(1) = loads.col(kLoadX) - m_centroid.x * loads.col(kLoadOne);
+    forces.col(2) = loads.col(kLoadY) - m_centroid.y * loads.col(kLoadOne);
+    m_Iy += dx.dot(forces.col(1));
+    m_Ix += dy.dot(forces.col(2));
+    m_Ixy += dx.dot(forces.col(2));
+    m_forces.push_back(forces);
   }
 }
 
@@ -122,17 +127,6 @@ void CSaintVenant::NumberEdges() {
   }
 }
 
-// The right-hand sides of the three problems.
-MatrixXd CSaintVenant::Forces(std::size_t element) const {
-  const auto loads = m_elements[element].Loads();
-  MatrixXd forces(loads.rows(), 3);
-  forces.col(0) = loads.col(kLoadTwist) - m_centroid.y * loads.col(kLoadDx) +
-                  m_centroid.x * loads.col(kLoadDy);
-  forces.col(1) = loads.col(kLoadX) - m_centroid.x * loads.col(kLoadOne);
-  forces.col(2) = loads.col(kLoadY) - m_centroid.y * loads.col(kLoadOne);
-  return forces;
-}
-
 std::optional<CFields> CSaintVenant::Solve(int degree) const {
   const CDegreeFunctions functions = CShapeFunctions::Functions(degree);
   const int vertices = static_cast<int>(m_mesh.m_arrVertex.size());
@@ -144,7 +138,7 @@ std::optional<CFields> CSaintVenant::Solve(int degree) const {
   std::vector<Eigen::Triplet<double>> entries;
   MatrixXd force = MatrixXd::Zero(size, 3);
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
-    condensed.push_back(Condensed(m_elements[i].Stiffness(), Forces(i), functions));
+    condensed.push_back(Condensed(m_elements[i].Stiffness(), m_forces[i], functions));
     numbers.push_back(NumbersOf(m_mesh.m_arrTriangle[i], m_edges[i], vertices, degree));
     const auto& [of, sign] = numbers.back();
     const CCondensed& c = condensed.back();
@@ -168,7 +162,7 @@ std::optional<CFields> CSaintVenant::Solve(int degree) const {
   CFields fields(m_elements.size());
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     const auto& [of, sign] = numbers[i];
-    MatrixXd skeleton = MatrixXd::Zero(static_cast<Eigen::Index>(of.size()), 3);
+    CElementFields skeleton = CElementFields::Zero(static_cast<Eigen::Index>(of.size()), 3);
     for (std::size_t k = 0; k < of.size(); ++k) {
       if (of[k] >= 0) skeleton.row(static_cast<Eigen::Index>(k)) = sign[k] * solution.row(of[k]);
     }
@@ -176,7 +170,7 @@ std::optional<CFields> CSaintVenant::Solve(int degree) const {
     fields[i](functions.m_arrSkeleton, Eigen::all) = skeleton;
     if (!functions.m_arrInterior.empty()) {
       fields[i](functions.m_arrInterior, Eigen::all) =
-          condensed[i].m_inner - condensed[i].m_recover * skeleton;
+          condensed[i].m_inner - condensed[i].m_recover.lazyProduct(skeleton);
     }
   }
   return fields;
@@ -190,19 +184,19 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
     const CElement& element = m_elements[i];
     const auto loads = element.Loads();
     const auto& u = fields[i];
-    const MatrixXd forces = Forces(i);
+    const auto& forces = m_forces[i];
     wx += u.col(0).dot(forces.col(1));
     wy += u.col(0).dot(forces.col(2));
-    flexure += forces.rightCols(2).transpose() * u.rightCols(2);
+    flexure += forces.rightCols(2).transpose().lazyProduct(u.rightCols(2));
     // The energy of grad w + (-y, x), about the element's own vertex: about the centroid a thin
     // section's would be the small difference of large ones.
     const CPoint c = element.Vertex(0);
-    VectorXd dx = element.X(), dy = element.Y();
+    CElementVector dx = element.X(), dy = element.Y();
     dx.head(3).array() -= c.x;
     dy.head(3).array() -= c.y;
-    VectorXd w = u.col(0) - (c.y - m_centroid.y) * dx + (c.x - m_centroid.x) * dy;
+    CElementVector w = u.col(0) - (c.y - m_centroid.y) * dx + (c.x - m_centroid.x) * dy;
     w.head(3).array() -= w[0];
-    const VectorXd twist =
+    const CElementVector twist =
         loads.col(kLoadTwist) - c.y * loads.col(kLoadDx) + c.x * loads.col(kLoadDy);
     const double polar = dx.dot(loads.col(kLoadX) - c.x * loads.col(kLoadOne)) +
                          dy.dot(loads.col(kLoadY) - c.y * loads.col(kLoadOne));
@@ -215,11 +209,11 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
   figures.m_dFlexX = alongX.dot(flexure * alongX);
   figures.m_dFlexY = alongY.dot(flexure * alongY);
   double mean = 0;
-  std::vector<VectorXd> warping;
+  std::vector<CElementVector> warping;
   warping.reserve(m_elements.size());
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     const CElement& element = m_elements[i];
-    VectorXd dx = element.X(), dy = element.Y();
+    CElementVector dx = element.X(), dy = element.Y();
     dx.head(3).array() -= m_centroid.x;
     dy.head(3).array() -= m_centroid.y;
     warping.push_back(fields[i].col(0) - pole.y * dx + pole.x * dy);
@@ -227,7 +221,7 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
   }
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     warping[i].head(3).array() -= mean;
-    figures.Iw += warping[i].dot(m_elements[i].Mass() * warping[i]);
+    figures.Iw += m_elements[i].Square(warping[i]);
   }
   return figures;
 }
@@ -237,13 +231,13 @@ std::vector<double> CSaintVenant::Shares() const {
   const double twist = 1 / m_fine.It;
   Eigen::Vector2d flexure = Eigen::Vector2d::Zero();
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
-    const MatrixXd forces = Forces(i);
+    const auto& forces = m_forces[i];
     flexure[0] += forces.col(1).dot(m_fields[i].col(1));
     flexure[1] += forces.col(2).dot(m_fields[i].col(2));
   }
   std::vector<double> shares;
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
-    const MatrixXd d = m_fields[i] - m_lower[i];
+    const CElementFields d = m_fields[i] - m_lower[i];
     const CElement& element = m_elements[i];
     shares.push_back(element.Energy(d.col(0)) * twist + element.Energy(d.col(1)) / flexure[0] +
                      element.Energy(d.col(2)) / flexure[1]);

@@ -22,7 +22,7 @@ struct CTorsionShear {
 
 // By element the shares of the shape functions: of the warping about the centroid, of the flexure
 // functions of x and of y.
-using CFields = std::vector<Eigen::Matrix<double, Eigen::Dynamic, 3>>;
+using CFields = std::vector<CElementFields>;
 
 class CSaintVenant {
  public:
@@ -50,7 +50,6 @@ class CSaintVenant {
   void NumberEdges();
   std::optional<CFields> Solve(int degree) const;
   CTorsionShear Figures(const CFields& fields) const;
-  Eigen::MatrixXd Forces(std::size_t element) const;
 
   CSectionMesh m_mesh;
   int m_degree;
@@ -62,6 +61,7 @@ class CSaintVenant {
   CPoint m_centroid;
   double m_Ix = 0, m_Iy = 0, m_Ixy = 0;
   bool m_sound = false;
+  CFields m_forces;  // right-hand sides of the three problems
   CFields m_fields, m_lower;
   CTorsionShear m_fine, m_coarse;
 };

@@ -41,8 +41,6 @@ CDual Chain(double value, double slope, const CDual& of) {
   return {value, slope * of.x, slope * of.y};
 }
 
-constexpr int kMaxDegree = 6;
-
 }  // namespace
 
 CKernel EdgeKernel(int d, double x) {
@@ -90,7 +88,7 @@ void CShapeFunctions::Evaluate(double xi, double eta, double* value, double* dxi
 
 CShapeFunctions::CShapeFunctions(int degree) : m_nDegree(degree), m_nCount(Count(degree)) {
   // Gauss points in a square, one side of which is drawn together in a corner.
-  const auto gauss = GaussPoints();
+  const auto gauss = GaussPoints8();
   const auto points = static_cast<Eigen::Index>(gauss.size() * gauss.size());
   m_value.resize(m_nCount, points);
   m_dxi.resize(m_nCount, points);
@@ -109,7 +107,7 @@ CShapeFunctions::CShapeFunctions(int degree) : m_nDegree(degree), m_nCount(Count
   m_dxi.transposeInPlace();
   m_deta.transposeInPlace();
   const auto integral = [&](const Eigen::MatrixXd& f, const Eigen::MatrixXd& g) {
-    return Eigen::MatrixXd(f.transpose() * m_weight.asDiagonal() * g);
+    return CElementMatrix(f.transpose() * m_weight.asDiagonal() * g);
   };
   m_xixi = integral(m_dxi, m_dxi);
   m_xieta = integral(m_dxi, m_deta) + integral(m_deta, m_dxi);

@@ -12,6 +12,15 @@
 
 namespace orv3 {
 
+// Matrices of an element, which need no memory of their own.
+inline constexpr int kMaxDegree = 6;
+inline constexpr int kMaxFunctions = (kMaxDegree + 1) * (kMaxDegree + 2) / 2;
+using CElementMatrix =
+    Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, 0, kMaxFunctions, kMaxFunctions>;
+using CElementVector = Eigen::Matrix<double, Eigen::Dynamic, 1, 0, kMaxFunctions, 1>;
+// Three at once: of the warping and the two flexure functions.
+using CElementFields = Eigen::Matrix<double, Eigen::Dynamic, 3, 0, kMaxFunctions, 3>;
+
 // Which functions of a degree stand on the boundary of the triangle, and which inside.
 struct CDegreeFunctions {
   std::vector<int> m_arrSkeleton;  // vertices, edge 0 by degree, edge 1, edge 2
@@ -38,7 +47,7 @@ class CShapeFunctions {
   Eigen::MatrixXd m_value, m_dxi, m_deta;
   Eigen::VectorXd m_weight;
   // Integrals of products: of derivatives, of values, of a derivative and a vertex function.
-  Eigen::MatrixXd m_xixi, m_xieta, m_etaeta, m_mass, m_xi, m_eta;
+  CElementMatrix m_xixi, m_xieta, m_etaeta, m_mass, m_xi, m_eta;
 };
 
 // P'_{d-1} and its derivative at x.
