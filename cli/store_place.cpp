@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "catalogue/exact/exact_figures.h"
 #include "error.h"
 #include "framework/utf8.h"
 #include "platform/file_system.h"
@@ -74,6 +75,8 @@ void UseFor(const CString& store, const CString& catalogue) {
   const CString folder = FolderOf(catalogue);
   SetProgramPath(folder.IsEmpty() ? folder : folder + L"/");
   SetStoreInFront(store == catalogue ? CString() : store);
+  const CString shipped = FolderOf(ShippedStore());
+  SetExactFile(shipped.IsEmpty() ? shipped : shipped + L"/" + kExactFile);
 }
 
 // A variable that names no folder is no reason to refuse a store that is named: look-ups then have

@@ -1,5 +1,5 @@
-// make_catalogue CSV-FOLDER FOLDER: makes the catalogue's data files and the system store in
-// FOLDER, which must be there, from the CSV files.
+// make_catalogue CSV-FOLDER FOLDER: makes the catalogue's data files, the system store and the exact
+// properties of its rows in FOLDER, which must be there, from the CSV files.
 #include <cstdio>
 #include <map>
 
@@ -7,6 +7,7 @@
 #include "catalogue/rolled/rolled_file.h"
 #include "catalogue/rolled/rolled_style.h"
 #include "catalogue_csv.h"
+#include "exact_file.h"
 #include "framework/utf8.h"
 #include "pair_rows.h"
 #include "platform/code_page.h"
@@ -46,6 +47,7 @@ void Make(const std::string& csvFolder, const std::string& folder) {
     Write(start + L"O" + file, style, CDataTable());
   }
   MakeSystemStore(folder);
+  MakeExactFile(folder);
 }
 
 }  // namespace
