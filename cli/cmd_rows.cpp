@@ -9,10 +9,12 @@
 #include "commands.h"
 #include "csv_output.h"
 #include "error.h"
+#include "exact_columns.h"
 #include "figure_cells.h"
 #include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "outlines/exact_keys.h"
 #include "output.h"
 #include "store_place.h"
 #include "store_table.h"
@@ -33,6 +35,7 @@ struct COptions {
   bool json = false;
   bool csv = false;
   bool guard = false;
+  bool exact = false;
   CStoreOptions store;
 };
 
@@ -87,7 +90,18 @@ void Sort(CDataTable& table, const std::string& sort) {
   if (order != "asc" && order != "desc") {
     Refuse("--sort: \"" + order + "\" is no order; right would be desc, or asc");
   }
-  table.OrderTable(ColumnOf(table, "--sort", sort.substr(0, colon)), order == "asc" ? 1 : 0);
+  const int column = ColumnOf(table, "--sort", sort.substr(0, colon));
+  table.OrderTable(column, order == "asc" ? 1 : 0);
+  if (IsExactColumn(table.m_Title[column])) SortUnknownLast(table, column);
+}
+
+// The signs that the options name, wherever they stand.
+std::vector<std::string> AskedSigns(const COptions& options) {
+  std::vector<std::string> signs = options.columns;
+  signs.push_back(options.sort.substr(0, options.sort.rfind(':')));
+  for (const CSearchExpression::CPart& part : CSearchExpression(FromUtf8(options.where)).m_arrPart)
+    signs.push_back(ToUtf8(CString(part.m_strSign).Trim()));
+  return signs;
 }
 
 CDataTable Selected(const CDataTable& all, const COptions& options) {
@@ -95,12 +109,18 @@ CDataTable Selected(const CDataTable& all, const COptions& options) {
   if (!options.where.empty()) {
     const CString expression = Checked(all, options.where, options.wildcard);
     table = table.SearchTable(expression.GetString(), options.wildcard ? 1 : 0);
+    const CSearchExpression search(expression);
+    if (!search.m_bEverything) RemoveUnknown(table, search, options.wildcard);
   }
   if (!options.sort.empty()) Sort(table, options.sort);
   if (!options.json) ShowFigures(table);
   if (options.columns.empty()) return table;
   CString signs;
-  for (const std::string& sign : options.columns) {
+  std::vector<std::string> shown = options.columns;
+  if (options.exact) {
+    for (const CExactKey& key : ExactKeys()) shown.emplace_back(key.m_szKey);
+  }
+  for (const std::string& sign : shown) {
     ColumnOf(all, "--columns", sign);
     signs += (signs.IsEmpty() ? L"" : L"<<>>") + FromUtf8(sign);
   }
@@ -149,6 +169,26 @@ void PrintRowsCsv(const CDataTable& table, bool guard) {
   PrintCsv(text);
 }
 
+// Those of exact properties with their units, as the table's own have theirs.
+std::vector<std::string> ShownSigns(const CDataTable& table) {
+  std::vector<std::string> signs = Signs(table);
+  for (std::string& sign : signs) {
+    if (const CExactKey* key = FindExactKey(sign))
+      sign += std::string("(") + key->m_szSignUnit + ")";
+  }
+  return signs;
+}
+
+// With the digits that a reader needs.
+std::vector<std::string> ShownCells(const CDataTable& table, const CDataItem& row) {
+  std::vector<std::string> cells = RowCells(row);
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    if (!IsExactColumn(table.m_Title[static_cast<int>(i)])) continue;
+    cells[i] = cells[i].empty() ? "-" : NumberText(ToDouble(FromUtf8(cells[i])));
+  }
+  return cells;
+}
+
 void PrintRows(const COptions& options, const CDataTable& table) {
   std::vector<CAlign> columns;
   for (int i = 0; i < table.GetTableColNum(); ++i) {
@@ -156,21 +196,24 @@ void PrintRows(const COptions& options, const CDataTable& table) {
     columns.push_back(text ? CAlign::Left : CAlign::Right);
   }
   CTextTable lines(columns);
-  lines.AddRow(Signs(table));
+  lines.AddRow(ShownSigns(table));
   int count = 0;
   ForEachLive(table, [&](const CDataItem& row) {
-    lines.AddRow(RowCells(row));
+    lines.AddRow(ShownCells(table, row));
     ++count;
   });
   Print(lines.Text() + "\n" + options.table + ": " + std::to_string(count) +
         (count == 1 ? " row" : " rows") + "\n");
-  if (count > 0 && HasCapacities(table)) Print(std::string(AngleCapacityBasis().In(MessageLanguage())) + "\n");
+  if (count > 0 && HasCapacities(table))
+    Print(std::string(AngleCapacityBasis().In(MessageLanguage())) + "\n");
   const bool star = options.where.find('*') != std::string::npos;
   if (count == 0 && star && !options.wildcard) Print("with --wildcard a * stands for any text\n");
 }
 
 void RunRows(const COptions& options) {
-  const CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
+  CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
+  AddExactColumns(all, AskedSigns(options));
+  if (options.exact) AddExactColumns(all);
   const CDataTable table = Selected(all, options);
   if (options.json) return PrintRowsJson(options, table);
   if (options.csv) return PrintRowsCsv(table, options.guard);
@@ -193,6 +236,8 @@ void AddRowsCommand(CLI::App& program) {
   command->add_option("--columns", options->columns, "The columns to show, in the table's order")
       ->type_name("SIGN,SIGN...")
       ->delimiter(',');
+  command->add_flag("--exact", options->exact,
+                    "Show the exact properties, computed from the outlines, as columns too");
   command->add_option("--sort", options->sort, "The column to sort by, ascending unless :desc")
       ->type_name("SIGN[:desc]");
   CLI::Option* json = command->add_flag("--json", options->json, "As JSON, cells as text");
@@ -202,7 +247,8 @@ void AddRowsCommand(CLI::App& program) {
       ->needs(csv);
   command->footer(
       "orv3cal rows 热轧普通工字钢 --where 'h(mm)>=200 && h(mm)<<300' --sort 'A(cm^2):desc'\n"
-      "orv3cal rows 热轧普通工字钢 --where 'No.==I20*' --wildcard --columns 'No.,A(cm^2)' --csv");
+      "orv3cal rows 热轧普通工字钢 --where 'No.==I20*' --wildcard --columns 'No.,A(cm^2)' --csv\n"
+      "orv3cal rows 热轧普通工字钢 --where 'It>=1e6' --columns 'No.,It,Iw,Wpx' --sort It");
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunRows(*options); });
 }

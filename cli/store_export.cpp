@@ -12,6 +12,8 @@
 #include "catalogue/import/section_rows.h"
 #include "csv_output.h"
 #include "error.h"
+#include "exact_columns.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "output.h"
 #include "platform/file_system.h"
@@ -32,6 +34,7 @@ struct COptions {
   std::vector<std::string> tables;
   std::string to;
   bool guard = false;
+  bool exact = false;
   CStoreOptions store;
 };
 
@@ -161,6 +164,16 @@ void RefuseOwnStore(const CString& store, const std::string& to) {
   Refuse("--to: \"" + to + "\" is the store that is exported; right would be another file");
 }
 
+// A table file holds what a store holds.
+void AddExactFigures(std::vector<CDataTable>& tables, const std::string& to) {
+  if (HasExtension(to, ".kdb")) {
+    Refuse(Say("--exact：.KDB 文件只存表中的列；请用 .xlsx、.csv 或 .json",
+               "--exact: a .KDB file keeps the table's own columns; right would be .xlsx, .csv or "
+               ".json"));
+  }
+  for (CDataTable& table : tables) AddExactColumns(table);
+}
+
 std::string Content(const COptions& options, std::vector<CDataTable>& tables, int kind) {
   if (HasExtension(options.to, ".csv")) return CsvText(tables, options.guard);
   if (HasExtension(options.to, ".json")) return JsonText(tables);
@@ -182,6 +195,7 @@ void RunExport(const COptions& options) {
   CStoreInfo info;
   if (!ReadStoreInfo(store, info)) Fail(LastStoreError().m_strText);
   std::vector<CDataTable> tables = TablesAtOnce(store, options);
+  if (options.exact) AddExactFigures(tables, options.to);
   WriteFile(options.to, Content(options, tables, info.m_nKind));
   int rows = 0;
   for (const CDataTable& table : tables) rows += table.GetTableRowNum();
@@ -215,6 +229,8 @@ void AddStoreExportCommand(CLI::App& store) {
       ->type_name("FILE")
       ->required();
   command->add_flag("--guard", options->guard, "No cell of a CSV is a formula to a spreadsheet");
+  command->add_flag("--exact", options->exact,
+                    "Add the exact properties, computed from the outlines, as columns");
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunExport(*options); });
 }

@@ -1,0 +1,27 @@
+// Exact properties as columns of a table, computed row by row.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tables/data_table.h"
+#include "tables/expression.h"
+
+namespace orv3::cli {
+
+// Appends a column for each of `signs` that names an exact property (outlines/exact_keys.h) and no
+// column of the table: numbers with all their digits, empty where a row has no such figure. Other
+// signs are passed over.
+void AddExactColumns(CDataTable& table, const std::vector<std::string>& signs);
+// All of them.
+void AddExactColumns(CDataTable& table);
+
+// Whether the column at a position is one of those.
+bool IsExactColumn(const CDataTypeStruct& column);
+
+// Takes away the rows that match the expression by nothing but a figure that they do not have.
+void RemoveUnknown(CDataTable& table, const CSearchExpression& search, bool wildcard);
+// Puts the rows that lack the figure behind the others, as they follow each other.
+void SortUnknownLast(CDataTable& table, int column);
+
+}  // namespace orv3::cli
