@@ -1,7 +1,6 @@
 #include "outline_input.h"
 
 #include <array>
-#include <cmath>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -42,9 +41,7 @@ class COutlineJson : public nlohmann::json_sax<CJson> {
                 "{\"unit\": \"mm\", \"loops\": [[[x, y], ...], ...]}"));
     }
     for (CPath& loop : m_arrLoop) {
-      for (CVertex& v : loop.m_arrVertex) {
-        v = {v.x * m_dMm, v.y * m_dMm, std::fabs(v.bulge) < 1e-10 ? 0 : v.bulge};
-      }
+      for (CVertex& v : loop.m_arrVertex) v = {v.x * m_dMm, v.y * m_dMm, v.bulge};
     }
     return std::move(m_arrLoop);
   }

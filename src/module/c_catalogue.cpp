@@ -1,6 +1,7 @@
 // The C interface: the catalogue, the geometry of its rows, and the browser.
 #include <cmath>
 
+#include "catalogue/exact/row_exact.h"
 #include "dialogs/model/spacing_model.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
@@ -189,6 +190,11 @@ int ORV3_CALL orv3_cell_value(const orv3_char* table, const orv3_char* number,
     if (!IsNumber(text)) throw CFailure("the cell holds \"" + ToUtf8(text) + "\", no number");
     return GiveValue(ToDouble(text), value);
   });
+}
+
+int ORV3_CALL orv3_exact(const orv3_char* table, const orv3_char* number, double* values,
+                         int room) {
+  return Guarded([&] { return GiveExact(ExactProperties(RowOf(table, number)), values, room); });
 }
 
 int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, double turn,

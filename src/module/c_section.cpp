@@ -1,9 +1,11 @@
 // The C interface: sections from their sizes.
 #include <cmath>
 
+#include "catalogue/exact/row_exact.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "module/c_support.h"
+#include "sections/outline.h"
 #include "sections/section_check.h"
 #include "sections/section_property.h"
 #include "sections/section_style.h"
@@ -86,5 +88,14 @@ int ORV3_CALL orv3_section(const orv3_char* style, const double* sizes, int coun
     for (const CSectionProperty& property : SectionProperties().subspan(kBasePoint))
       values.push_back(record.*property.m_pField);
     return GiveValues(values, properties, room);
+  });
+}
+
+int ORV3_CALL orv3_section_exact(const orv3_char* style, const double* sizes, int count,
+                                 double* values, int room) {
+  return Guarded([&] {
+    const CSteelJMData record = RecordOf(StyleOf(style), sizes, count);
+    const COutline outline = SectionOutline(record.m_nStyle, record.m_dSize);
+    return GiveExact(ExactProperties(outline), values, room);
   });
 }

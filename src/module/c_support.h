@@ -10,6 +10,7 @@
 
 #include "framework/cstring.h"
 #include "module/orv3cal_c.h"
+#include "outlines/exact_properties.h"
 
 namespace orv3::c_interface {
 
@@ -42,6 +43,9 @@ int GiveText(const CString& text, orv3_char* out, int size);
 // Writes as many values as there is room for; returns their number. CFailure for a null pointer.
 int GiveValues(const std::vector<double>& values, double* out, int room);
 int GiveValue(double value, double* out);  // returns 0
+
+// The figures of one section in the order of ORV3_EXACT_A and on; CFailure when there are none.
+int GiveExact(const CExactProperties& exact, double* out, int room);
 
 // The texts one a line.
 CString JoinLines(const std::vector<CString>& lines);

@@ -22,7 +22,7 @@
 #define ORV3CAL_C_H
 
 /* Raised whenever a function is added; functions never change or go. */
-#define ORV3_INTERFACE_VERSION 2
+#define ORV3_INTERFACE_VERSION 3
 
 #if defined(_WIN32)
 #define ORV3_CALL __stdcall
@@ -162,6 +162,66 @@ ORV3_API int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* nu
  * `spacing` apart: whole mm, 0 to 1000. */
 ORV3_API int ORV3_CALL orv3_pair_geometry(const orv3_char* table, const orv3_char* number,
                                           double spacing, double turn, double* values, int room);
+
+/* --- Exact properties ---------------------------------------------------------------------------
+ */
+
+/* Positions in the results of orv3_exact and its like: what follows from the outline alone, root
+ * radii included. The frame: x to the right, y upwards, origin at the lower-left corner of the
+ * section's bounding box. NaN where there is no answer: the parts of a pair and the limbs of a
+ * lattice column are not joined, so that It is added up and Iw, shear centre, shear areas and
+ * constants of monosymmetry are none. */
+enum {
+  ORV3_EXACT_A,
+  ORV3_EXACT_XO, /* centroid */
+  ORV3_EXACT_YO,
+  ORV3_EXACT_IX, /* about the centroid's axes: mm^4 */
+  ORV3_EXACT_IY,
+  ORV3_EXACT_IXY,
+  ORV3_EXACT_I1, /* principal, I1 >= I2 */
+  ORV3_EXACT_I2,
+  ORV3_EXACT_THETA, /* degrees from x to axis 1, in (-90, 90] */
+  ORV3_EXACT_RX,    /* radii of gyration ix, iy, i1, i2 */
+  ORV3_EXACT_RY,
+  ORV3_EXACT_R1,
+  ORV3_EXACT_R2,
+  ORV3_EXACT_WX1, /* section moduli: top, bottom, left, right */
+  ORV3_EXACT_WX2,
+  ORV3_EXACT_WYL,
+  ORV3_EXACT_WYR,
+  ORV3_EXACT_WPX, /* plastic moduli */
+  ORV3_EXACT_WPY,
+  ORV3_EXACT_XP, /* plastic neutral axes */
+  ORV3_EXACT_YP,
+  ORV3_EXACT_IT, /* torsion constant */
+  ORV3_EXACT_IW, /* warping constant about the shear centre */
+  ORV3_EXACT_XS, /* shear centre */
+  ORV3_EXACT_YS,
+  ORV3_EXACT_ASX, /* shear areas for forces along x and y */
+  ORV3_EXACT_ASY,
+  ORV3_EXACT_BETAX, /* constants of monosymmetry, mm */
+  ORV3_EXACT_BETAY,
+  ORV3_EXACT_MASS,    /* kg/m at 7850 kg/m^3 */
+  ORV3_EXACT_SURFACE, /* m^2/m of the outer outline */
+  ORV3_EXACT          /* how many there are */
+};
+
+/* Of a catalogue section, whose parts touch when it is a pair; writes the first `room` values and
+ * returns how many were written. A section without an outline is refused. */
+ORV3_API int ORV3_CALL orv3_exact(const orv3_char* table, const orv3_char* number, double* values,
+                                  int room);
+
+/* Of a section of `count` sizes, which are as for orv3_section. */
+ORV3_API int ORV3_CALL orv3_section_exact(const orv3_char* style, const double* sizes, int count,
+                                          double* values, int room);
+
+/* Of any outline in mm: `loops` closed loops of counts[i] points each, one loop after the other, a
+ * point three numbers: x, y and the bulge of the edge that starts there (the tangent of a quarter
+ * of its arc's angle, positive when it turns to the left; 0 for a straight edge). A loop inside
+ * another one is a hole, whichever way it runs. At most 100000 points. An outline that is open,
+ * crosses or touches itself or encloses nothing is refused. */
+ORV3_API int ORV3_CALL orv3_outline_exact(const double* points, const int* counts, int loops,
+                                          double* values, int room);
 
 /* --- Checks by GB 50017-2003 --------------------------------------------------------------------
  */

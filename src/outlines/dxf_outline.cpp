@@ -167,11 +167,9 @@ class CDxfReader {
                "14 (dm)");
   }
 
-  // Coordinates in mm, but for what would make no difference an arc's bulge that is none.
+  // Coordinates in mm.
   void Scale(CPath& path) const {
-    for (CVertex& v : path.m_arrVertex) {
-      v = {v.x * m_dMm, v.y * m_dMm, std::fabs(v.bulge) < 1e-10 ? 0 : v.bulge};
-    }
+    for (CVertex& v : path.m_arrVertex) v = {v.x * m_dMm, v.y * m_dMm, v.bulge};
     auto& vertices = path.m_arrVertex;
     const auto same = [](const CVertex& a, const CVertex& b) {
       return std::hypot(a.x - b.x, a.y - b.y) <= kJoin;

@@ -12,6 +12,8 @@ namespace orv3 {
 namespace {
 
 constexpr long kMostSteps = 30'000'000;
+// A bulge that bends an edge by less than any size is told.
+constexpr double kFlat = 1e-10;
 
 // Where a piece that rises or falls all along meets the height y, which is between its ends.
 double CrossingX(const CLoopPiece& piece, double y) {
@@ -77,6 +79,9 @@ std::vector<CLoopPlace> NestLoops(std::span<const CPath> loops) {
 
 std::vector<CPath> Sensed(std::vector<CPath> loops, std::span<const CLoopPlace> places) {
   for (std::size_t i = 0; i < loops.size(); ++i) {
+    for (CVertex& v : loops[i].m_arrVertex) {
+      if (std::fabs(v.bulge) < kFlat) v.bulge = 0;
+    }
     if ((LoopArea(loops[i]) < 0) != places[i].IsHole()) loops[i] = Reversed(std::move(loops[i]));
   }
   return loops;

@@ -22,7 +22,7 @@ struct CLoopPlace {
 ORV3CAL_API std::vector<CLoopPlace> NestLoops(std::span<const CPath> loops);
 
 // The loops as an outline has them, whichever way they ran before: parts counter-clockwise, holes
-// clockwise.
+// clockwise; arcs that bend nothing straight.
 ORV3CAL_API std::vector<CPath> Sensed(std::vector<CPath> loops, std::span<const CLoopPlace> places);
 
 }  // namespace orv3
