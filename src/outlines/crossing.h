@@ -18,9 +18,8 @@ struct CCrossing {
   CPoint m_point;
 };
 
-// The first pair of edges, of one loop or of two, that cross or overlap; touching in a point is
-// none. In O(n log n) for outlines that are not made to be slow, never beyond O(n sqrt(n)) a pair
-// tested at most once.
+// A pair of edges, of one loop or of two, that cross. Edges that touch, or lie on one another, do
+// not. In O(n log n) where no two edges are long and near at once, as they are in a comb.
 ORV3CAL_API std::optional<CCrossing> FindCrossing(std::span<const CPath> loops);
 
 // No point of the loop's inside is hidden from another: it turns to one side only.

@@ -71,4 +71,23 @@ CExactProperties GeometricFigures(std::span<const CPath> loops) {
   return p;
 }
 
+CThirdMoments ThirdMoments(std::span<const CPath> loops, CPoint centroid) {
+  CThirdMoments m;
+  for (const CPath& loop : loops) {
+    const CPath centered = Moved(loop, -centroid.x, -centroid.y);
+    ForEachEdge(centered, [&](const CEdge& edge, std::size_t) {
+      const auto over = [&](auto f) {
+        return Integrate(edge, 0, 1,
+                         [&](CPoint p, CPoint d) {
+                           return f(p) * (p.x * p.x + p.y * p.y) * (p.x * d.y - p.y * d.x);
+                         }) /
+               5;
+      };
+      m.forX += over([](CPoint p) { return p.y; });
+      m.forY += over([](CPoint p) { return p.x; });
+    });
+  }
+  return m;
+}
+
 }  // namespace orv3

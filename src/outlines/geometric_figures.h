@@ -10,4 +10,11 @@ namespace orv3 {
 // A to surface; all NaN when the loops enclose no area.
 CExactProperties GeometricFigures(std::span<const CPath> loops);
 
+// The integrals of y (x^2 + y^2) and x (x^2 + y^2) over the area, the first for
+// betax, from the centroid.
+struct CThirdMoments {
+  double forX = 0, forY = 0;
+};
+CThirdMoments ThirdMoments(std::span<const CPath> loops, CPoint centroid);
+
 }  // namespace orv3

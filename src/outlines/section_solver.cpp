@@ -93,7 +93,8 @@ std::optional<std::vector<std::vector<CPath>>> PartsOf(std::span<const CPath> lo
     if (!(LoopArea(loops[i]) < 0)) continue;
     const CVertex& v = loops[i].m_arrVertex[0];
     std::optional<std::size_t> in;
-    for (std::size_t k = 0; k < outers.size(); ++k) {
+    if (outers.size() == 1) in = 0;
+    for (std::size_t k = 0; k < outers.size() && outers.size() > 1; ++k) {
       if (Encloses(loops[outers[k].loop], {v.x, v.y}) && (!in || outers[k].area < outers[*in].area))
         in = k;
     }
@@ -122,6 +123,9 @@ struct CSectionSolver::CState {
 
   void Solve(std::span<const CPath> loops);
   void TakeFigures(double depth);
+  void AddStresses(std::size_t part, const CSectionForces& forces,
+                   std::vector<CBoundaryStress>& to) const;
+  double Sigma(CPoint p, const CSectionForces& forces) const;
 };
 
 void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
@@ -150,8 +154,9 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
   std::vector<CSectionMesh> meshes;
   std::size_t at = 0;
   for (const auto& part : *parts) {
-    const std::vector<std::size_t> own(order.begin() + static_cast<std::ptrdiff_t>(at),
-                                       order.begin() + static_cast<std::ptrdiff_t>(at + part.size()));
+    const std::vector<std::size_t> own(
+        order.begin() + static_cast<std::ptrdiff_t>(at),
+        order.begin() + static_cast<std::ptrdiff_t>(at + part.size()));
     at += part.size();
     auto found = MeshesOfPart(part);
     if (found.empty()) return;
@@ -170,6 +175,11 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
     m_parts.push_back(std::move(*solved));
   }
   TakeFigures(depth);
+  if (std::isnan(m_properties.Iw)) return;
+  CExactProperties& p = m_properties;
+  const CThirdMoments third = ThirdMoments(loops, {m_origin.x + p.xo, m_origin.y + p.yo});
+  p.betax = third.forX / p.Ix - 2 * (p.ys - p.yo);
+  p.betay = third.forY / p.Iy - 2 * (p.xs - p.xo);
 }
 
 void CSectionSolver::CState::TakeFigures(double depth) {
@@ -202,6 +212,60 @@ void CSectionSolver::CState::TakeFigures(double depth) {
   p.m_error.center *= m_scale;
 }
 
+// At a point from the centroid.
+double CSectionSolver::CState::Sigma(CPoint p, const CSectionForces& f) const {
+  const CExactProperties& s = m_properties;
+  const double det = s.I1 * s.I2;
+  return f.N / s.A + (f.Mx * (s.Iy * p.y - s.Ixy * p.x) + f.My * (s.Ix * p.x - s.Ixy * p.y)) / det;
+}
+
+void CSectionSolver::CState::AddStresses(std::size_t part, const CSectionForces& f,
+                                         std::vector<CBoundaryStress>& to) const {
+  const CSaintVenant& solved = m_parts[part];
+  const CSectionMesh& mesh = solved.Mesh();
+  // The stretches along the boundary in order, with the triangle that each is an edge of.
+  struct CSide {
+    int loop, edge;
+    double from;
+    std::size_t triangle, side;
+    auto operator<=>(const CSide&) const = default;
+  };
+  std::vector<CSide> sides;
+  for (std::size_t i = 0; i < mesh.m_arrTriangle.size(); ++i) {
+    for (std::size_t k = 0; k < 3; ++k) {
+      const int s = mesh.m_arrTriangle[i].m_stretch[k];
+      if (s < 0) continue;
+      const CStretch& stretch = mesh.m_arrStretch[static_cast<std::size_t>(s)];
+      sides.push_back({stretch.m_nLoop, stretch.m_nEdge, stretch.m_dFrom, i, k});
+    }
+  }
+  std::sort(sides.begin(), sides.end());
+  const double square = m_scale * m_scale;
+  const double twist = f.T == 0 ? 0 : f.T / m_properties.It * m_scale;
+  const double shearX =
+      m_properties.m_bJoined || f.Vx == 0 ? f.Vx / square : CExactProperties::kUnknown;
+  const double shearY =
+      m_properties.m_bJoined || f.Vy == 0 ? f.Vy / square : CExactProperties::kUnknown;
+  constexpr int kPoints = 4;  // of each stretch
+  for (const CSide& side : sides) {
+    const CMeshTriangle& triangle = mesh.m_arrTriangle[side.triangle];
+    const auto vertex = static_cast<std::size_t>(triangle.m_vertex[side.side]);
+    for (int i = 0; i < kPoints; ++i) {
+      const CEdgeTraction t =
+          solved.Traction(side.triangle, static_cast<int>(side.side), 1.0 * i / kPoints);
+      CBoundaryStress stress;
+      stress.m_nLoop = m_loops[part][static_cast<std::size_t>(side.loop)];
+      stress.m_point = {m_origin.x + t.m_point.x * m_scale, m_origin.y + t.m_point.y * m_scale};
+      stress.sigma = Sigma(
+          {t.m_point.x * m_scale - m_properties.xo, t.m_point.y * m_scale - m_properties.yo}, f);
+      stress.tau = twist * t.m_dTwist + shearX * t.m_dX + shearY * t.m_dY;
+      stress.mises = std::sqrt(stress.sigma * stress.sigma + 3 * stress.tau * stress.tau);
+      stress.m_bSharp = i == 0 && mesh.m_arrSharp[vertex];
+      to.push_back(stress);
+    }
+  }
+}
+
 CSectionSolver::CSectionSolver(std::span<const CPath> loops) : m_state(new CState) {
   m_state->Solve(loops);
 }
@@ -213,6 +277,11 @@ const CExactProperties& CSectionSolver::Properties() const noexcept {
   return m_state->m_properties;
 }
 
-std::vector<CBoundaryStress> CSectionSolver::Stresses(const CSectionForces&) const { return {}; }
+std::vector<CBoundaryStress> CSectionSolver::Stresses(const CSectionForces& forces) const {
+  std::vector<CBoundaryStress> stresses;
+  for (std::size_t i = 0; i < m_state->m_parts.size(); ++i)
+    m_state->AddStresses(i, forces, stresses);
+  return stresses;
+}
 
 }  // namespace orv3

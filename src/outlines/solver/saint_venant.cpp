@@ -226,6 +226,25 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
   return figures;
 }
 
+CEdgeTraction CSaintVenant::Traction(std::size_t element, int edge, double t) const {
+  constexpr std::array<CPoint, 4> kCorner{CPoint{0, 0}, {1, 0}, {0, 1}, {0, 0}};
+  const CPoint a = kCorner[Index(edge)], b = kCorner[Index(edge + 1)];
+  CElementVector value(m_shape->m_nCount), dxi(value), deta(value);
+  m_shape->Evaluate(a.x * (1 - t) + b.x * t, a.y * (1 - t) + b.y * t, value.data(), dxi.data(),
+                    deta.data());
+  // Along the edge alone: what matters of a gradient there is its tangential part.
+  const CElementVector slope = (b.x - a.x) * dxi + (b.y - a.y) * deta;
+  const CElement& e = m_elements[element];
+  const CElementFields& u = m_fields[element];
+  const CPoint p{value.dot(e.X()), value.dot(e.Y())}, d{slope.dot(e.X()), slope.dot(e.Y())};
+  const double length = std::hypot(d.x, d.y);
+  const Eigen::RowVector3d gradient = slope.transpose().lazyProduct(u) / length;
+  const double det = m_Ix * m_Iy - m_Ixy * m_Ixy;
+  return {p, gradient[0] + ((m_centroid.y - p.y) * d.x + (p.x - m_centroid.x) * d.y) / length,
+          (m_Ix * gradient[1] - m_Ixy * gradient[2]) / det,
+          (m_Iy * gradient[2] - m_Ixy * gradient[1]) / det};
+}
+
 std::vector<double> CSaintVenant::Shares() const {
   // By the energies that the limits are about.
   const double twist = 1 / m_fine.It;

@@ -20,6 +20,13 @@ struct CTorsionShear {
   double m_dFlexX = 0, m_dFlexY = 0;  // the reciprocals of the shear areas
 };
 
+// The shear along the boundary at a point of it, in the mesh's units: for a twist of 1, and for
+// forces of 1 along x and y through the shear center.
+struct CEdgeTraction {
+  CPoint m_point;
+  double m_dTwist = 0, m_dX = 0, m_dY = 0;
+};
+
 // By element the shares of the shape functions: of the warping about the centroid, of the flexure
 // functions of x and of y.
 using CFields = std::vector<CElementFields>;
@@ -38,10 +45,8 @@ class CSaintVenant {
 
   double Area() const { return m_area; }
   const CSectionMesh& Mesh() const { return m_mesh; }
-  const CElement& Element(std::size_t i) const { return m_elements[i]; }
-  const CShapeFunctions& Shape() const { return *m_shape; }
-  CPoint Centroid() const { return m_centroid; }
-  const CFields& Fields() const { return m_fields; }
+  // On an edge of an element that is part of the boundary, t from 0 to 1 along it.
+  CEdgeTraction Traction(std::size_t element, int edge, double t) const;
   // By element: its share of the difference of the two solutions, in the energy of either problem.
   std::vector<double> Shares() const;
 
