@@ -1,0 +1,329 @@
+// The exact properties of rows: kept beside the store, never those of other sizes, and near to an
+// independent solution.
+#include "catalogue/exact/row_exact.h"
+
+#include <gtest/gtest.h>
+
+#include <Eigen/Sparse>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <numbers>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "catalogue/exact/exact_figures.h"
+#include "catalogue/outline/row_outline.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "outlines/crossing.h"
+#include "outlines/exact_keys.h"
+#include "outlines/outline_check.h"
+#include "platform/whole_file.h"
+#include "sections/load_data_table.h"
+#include "sections/section_check.h"
+#include "sections/section_style.h"
+#include "tables/data_table.h"
+#include "tables/file/table_store.h"
+
+namespace orv3 {
+namespace {
+
+const CString kFolder = FromUtf8(ORV3CAL_CATALOGUE "/");
+
+std::vector<CDataItem> AllRows() {
+  SetProgramPath(kFolder);
+  std::vector<CDataItem> rows;
+  CStringArray names;
+  CDataTable::GetTableNameFromFile(kFolder + kSystemStore, names);
+  for (const CString& name : names) {
+    CDataTable table;
+    table.SetTableName(name);
+    CString info;
+    table.GetTable(kFolder + kSystemStore, info);
+    for (const CDataItem& row : std::as_const(table.m_arrItem)) rows.push_back(row);
+  }
+  return rows;
+}
+
+std::string NameOf(const CDataItem& row) {
+  return ToUtf8(row.m_strTableName + L" " + row[0].m_strValue);
+}
+
+// --- Kept figures --------------------------------------------------------------------------------
+
+// Every row is found; its solver reached its limits; what is kept is what is computed.
+TEST(RowExact, IsKeptOfEveryRow) {
+  const std::vector<CDataItem> rows = AllRows();
+  ASSERT_GT(rows.size(), 1000U);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const auto kept = FindExact(RowOutline(rows[i]).m_arrLoop);
+    ASSERT_TRUE(kept) << NameOf(rows[i]);
+    EXPECT_TRUE(kept->m_bAccurate) << NameOf(rows[i]);
+    EXPECT_LE(kept->m_error.It, 1e-3) << NameOf(rows[i]);
+    if (i % 50 != 0) continue;
+    const CExactProperties computed = ComputedExact(rows[i]);
+    for (const CExactKey& key : ExactKeys()) {
+      const double a = *kept.*key.m_pField, b = computed.*key.m_pField;
+      EXPECT_EQ(std::isnan(a), std::isnan(b)) << NameOf(rows[i]) << key.m_szKey;
+      if (std::isnan(b)) continue;
+      EXPECT_NEAR(a, b, 1e-9 * std::fabs(b) + 1e-6) << NameOf(rows[i]) << key.m_szKey;
+    }
+  }
+}
+
+// A size changed by a thousandth of a millimetre has figures of its own.
+TEST(RowExact, IsComputedOfAChangedRow) {
+  SetProgramPath(kFolder);
+  CDataItem row = CLoadDataTable::GetSysTemJMItem(L"热轧普通焊接H型钢", L"WH200X100X3.2X4.5");
+  if (row.IsEmpty()) {
+    CStringArray numbers;
+    CLoadDataTable::GetSysTemItemNo(L"热轧普通焊接H型钢", numbers);
+    row = CLoadDataTable::GetSysTemJMItem(L"热轧普通焊接H型钢", numbers[0]);
+  }
+  const double before = ExactProperties(row).It;
+  double tf = 0;
+  ASSERT_TRUE(row.GetCellValue(L"tf(mm)", tf));
+  row[L"tf(mm)"].m_strValue = FormatShortest(tf + 0.001);
+  EXPECT_FALSE(FindExact(RowOutline(row).m_arrLoop));
+  const double after = ExactProperties(row).It;
+  EXPECT_GT(after, before * (1 + 1e-5));
+  EXPECT_LT(after, before * (1 + 1e-3));
+}
+
+// Every byte of the file is tried; none gives another figure.
+TEST(RowExact, PassesOverADamagedFile) {
+  const CExactProperties exact =
+      ExactProperties(std::span<const CPath>(std::vector<CPath>{RectPath(0, 0, 20, 10)}));
+  std::vector<CExactRecord> records{{{1, 2}, exact}, {{1, 1}, exact}, {{1, 2}, exact}};
+  const std::string whole = ExactFileBytes(records);
+  const auto read = ReadExactFile(whole);
+  ASSERT_TRUE(read);
+  ASSERT_EQ(read->size(), 2U);
+  EXPECT_EQ((*read)[0].m_key, (CExactRecordKey{1, 1}));
+  EXPECT_EQ((*read)[1].m_exact.It, exact.It);
+  EXPECT_EQ((*read)[1].m_exact.m_bAccurate, exact.m_bAccurate);
+  for (std::size_t at = 0; at < whole.size(); ++at) {
+    std::string damaged = whole;
+    damaged[at] = static_cast<char>(damaged[at] ^ 0x10);
+    EXPECT_FALSE(ReadExactFile(damaged)) << at;
+    EXPECT_FALSE(ReadExactFile(whole.substr(0, at))) << at;
+  }
+  EXPECT_FALSE(ReadExactFile(whole + "x"));
+}
+
+TEST(RowExact, AddsUpWhatIsNotJoined) {
+  SetProgramPath(kFolder);
+  const CDataItem single = CLoadDataTable::GetSysTemJMItem(L"热轧等边角钢", L"L100X10");
+  const CDataItem pair = CLoadDataTable::GetSysTemJMItem(L"热轧等边角钢组合", L"2L100X10");
+  const CExactProperties one = ExactProperties(single);
+  const CExactProperties two = ExactProperties(pair);
+  EXPECT_NEAR(two.It, 2 * one.It, 1e-9 * two.It);
+  EXPECT_NEAR(two.A, 2 * one.A, 1e-9 * two.A);
+  EXPECT_NEAR(two.Ix, 2 * one.Ix, 1e-9 * two.Ix);
+  EXPECT_NEAR(two.Iy, 2 * (one.Iy + one.A * one.xo * one.xo), 1e-9 * two.Iy);
+  EXPECT_NEAR(two.Wpy, 2 * one.A * one.xo, 1e-9 * two.Wpy);
+  for (const auto none : {&CExactProperties::Iw, &CExactProperties::xs, &CExactProperties::Asy})
+    EXPECT_TRUE(std::isnan(two.*none));
+}
+
+// --- Printed figures -----------------------------------------------------------------------------
+
+// How far the printed It, Iw and eo of the cold-formed tables are from the exact ones, in percent,
+// as docs/catalogue.md tells.
+TEST(RowExact, ToldDeviationsOfPrintedFigures) {
+  const struct {
+    const wchar_t* table;
+    const wchar_t* sign;
+    double least, greatest;
+  } cases[] = {
+      {L"冷弯薄壁等边角钢", L"It(cm^4)", 1.18, 2.31},
+      {L"冷弯薄壁等边角钢", L"eo(cm)", 1.09, 4.38},
+      {L"冷弯卷边等边角钢", L"It(cm^4)", 0.57, 1.18},
+      {L"冷弯卷边等边角钢", L"Iw(cm^6)", 4.06, 10.74},
+      {L"冷弯卷边等边角钢", L"eo(cm)", 0.44, 1.91},
+      {L"冷弯薄壁槽钢", L"It(cm^4)", 0.69, 1.41},
+      {L"冷弯薄壁槽钢", L"Iw(cm^6)", -0.87, -0.19},
+      {L"冷弯薄壁槽钢", L"eo(cm)", -0.22, 0.22},
+      {L"冷弯薄壁卷边槽钢", L"It(cm^4)", 0.27, 0.71},
+      {L"冷弯薄壁卷边槽钢", L"Iw(cm^6)", -5.35, -0.03},
+      {L"冷弯薄壁卷边槽钢", L"eo(cm)", -0.30, 0.10},
+      {L"冷弯薄壁卷边Z型钢", L"It(cm^4)", 0.43, 0.76},
+      {L"冷弯薄壁卷边Z型钢", L"Iw(cm^6)", 2.34, 7.76},
+      {L"冷弯薄壁斜卷边Z型钢", L"It(cm^4)", 0.30, 0.58},
+      {L"冷弯薄壁斜卷边Z型钢", L"Iw(cm^6)", -0.88, -0.23},
+  };
+  const std::vector<CDataItem> rows = AllRows();
+  for (const auto& c : cases) {
+    double least = 1e9, greatest = -1e9;
+    for (const CDataItem& row : rows) {
+      if (row.m_strTableName != c.table) continue;
+      const CExactProperties e = ExactProperties(row);
+      double printed = 0;
+      ASSERT_TRUE(row.GetCellValue(c.sign, printed)) << NameOf(row);
+      const double exact = c.sign[0] == L'e'   ? std::hypot(e.xs - e.xo, e.ys - e.yo) / 10
+                           : c.sign[1] == L't' ? e.It / 1e4
+                                               : e.Iw / 1e6;
+      least = std::min(least, 100 * (printed / exact - 1));
+      greatest = std::max(greatest, 100 * (printed / exact - 1));
+    }
+    EXPECT_NEAR(least, c.least, 0.02) << ToUtf8(CString(c.table)) << ToUtf8(CString(c.sign));
+    EXPECT_NEAR(greatest, c.greatest, 0.02) << ToUtf8(CString(c.table)) << ToUtf8(CString(c.sign));
+  }
+}
+
+// --- An independent solution ---------------------------------------------------------------------
+
+// It by the membrane over a section of plates: Prandtl's stress function in bilinear elements whose
+// lines follow the plates' edges, a hole as a rigid lid. The library solves for the warping
+// instead: one is below the true figure, the other above.
+class CMembrane {
+ public:
+  CMembrane(const std::vector<CPath>& loops, int cells) {
+    std::set<double> xs, ys;
+    for (const CPath& loop : loops) {
+      for (const CVertex& v : loop.m_arrVertex) {
+        xs.insert(v.x);
+        ys.insert(v.y);
+      }
+    }
+    m_x = Lines(xs, cells);
+    m_y = Lines(ys, cells);
+    for (std::size_t j = 0; j + 1 < m_y.size(); ++j) {
+      for (std::size_t i = 0; i + 1 < m_x.size(); ++i) m_cell.push_back(KindAt(loops, i, j));
+    }
+  }
+
+  double It() {
+    Number();
+    const auto count = static_cast<Eigen::Index>(m_nFree);
+    std::vector<Eigen::Triplet<double>> entries;
+    Eigen::VectorXd load = Eigen::VectorXd::Zero(count);
+    EachCell([&](const std::array<int, 4>& node, double a, double b, double stiffness) {
+      for (int p = 0; p < 4; ++p) {
+        if (node[static_cast<std::size_t>(p)] < 0) continue;
+        load[node[static_cast<std::size_t>(p)]] += a * b / 2;
+        for (int q = 0; q < 4; ++q) {
+          if (node[static_cast<std::size_t>(q)] < 0) continue;
+          const bool sameX = (p & 1) == (q & 1), sameY = (p & 2) == (q & 2);
+          const double kx = b / a * (sameX ? 1 : -1) * (sameY ? 2 : 1) / 6;
+          const double ky = a / b * (sameY ? 1 : -1) * (sameX ? 2 : 1) / 6;
+          entries.emplace_back(node[static_cast<std::size_t>(p)], node[static_cast<std::size_t>(q)],
+                               stiffness * (kx + ky));
+        }
+      }
+    });
+    Eigen::SparseMatrix<double> matrix(count, count);
+    matrix.setFromTriplets(entries.begin(), entries.end());
+    const Eigen::SimplicialLDLT<Eigen::SparseMatrix<double>> solver(matrix);
+    const Eigen::VectorXd phi = solver.solve(load);
+    return load.dot(phi);  // twice the integral of phi, which the load holds
+  }
+
+ private:
+  enum CKind : char { kOutside, kSteel, kHole };
+
+  // Lines closer together towards the plates' edges, where the stress is steep.
+  static std::vector<double> Lines(const std::set<double>& edges, int cells) {
+    std::vector<double> lines;
+    double last = 0;
+    for (const double edge : edges) {
+      if (!lines.empty() && edge - last < 1e-9) continue;
+      for (int i = 1; !lines.empty() && i < cells; ++i)
+        lines.push_back(last + (edge - last) * (1 - std::cos(std::numbers::pi * i / cells)) / 2);
+      lines.push_back(edge);
+      last = edge;
+    }
+    return lines;
+  }
+
+  CKind KindAt(const std::vector<CPath>& loops, std::size_t i, std::size_t j) const {
+    const CPoint middle{(m_x[i] + m_x[i + 1]) / 2, (m_y[j] + m_y[j + 1]) / 2};
+    int around = 0;
+    for (const CPath& loop : loops) around += Encloses(loop, middle) ? 1 : 0;
+    return around == 0 ? kOutside : around == 1 ? kSteel : kHole;
+  }
+
+  CKind Cell(std::size_t i, std::size_t j) const {
+    const bool within = i + 1 < m_x.size() && j + 1 < m_y.size();
+    return within ? m_cell[j * (m_x.size() - 1) + i] : kOutside;
+  }
+
+  void Number() {
+    m_nFree = 0;
+    m_node.assign(m_x.size() * m_y.size(), -1);
+    for (std::size_t j = 1; j < m_y.size(); ++j) {
+      for (std::size_t i = 1; i < m_x.size(); ++i) {
+        const bool inside = Cell(i, j) != kOutside && Cell(i - 1, j) != kOutside &&
+                            Cell(i, j - 1) != kOutside && Cell(i - 1, j - 1) != kOutside;
+        if (inside) m_node[j * m_x.size() + i] = m_nFree++;
+      }
+    }
+  }
+
+  template <class VISIT>
+  void EachCell(const VISIT& visit) const {
+    for (std::size_t j = 0; j + 1 < m_y.size(); ++j) {
+      for (std::size_t i = 0; i + 1 < m_x.size(); ++i) {
+        if (Cell(i, j) == kOutside) continue;
+        const std::size_t at = j * m_x.size() + i;
+        visit({m_node[at], m_node[at + 1], m_node[at + m_x.size()], m_node[at + m_x.size() + 1]},
+              m_x[i + 1] - m_x[i], m_y[j + 1] - m_y[j], Cell(i, j) == kHole ? 1e6 : 1.0);
+      }
+    }
+  }
+
+  std::vector<double> m_x, m_y;
+  std::vector<CKind> m_cell;
+  std::vector<int> m_node;
+  int m_nFree = 0;
+};
+
+// Between two grids the error falls as the square of the cells.
+double MembraneIt(const std::vector<CPath>& loops) {
+  const double coarse = CMembrane(loops, 6).It();
+  const double fine = CMembrane(loops, 12).It();
+  return fine + (fine - coarse) / 3;
+}
+
+bool IsOfPlates(const std::vector<CPath>& loops) {
+  for (const CPath& loop : loops) {
+    for (std::size_t i = 0; i < loop.m_arrVertex.size(); ++i) {
+      const CVertex& a = loop.m_arrVertex[i];
+      const CVertex& b = loop.m_arrVertex[(i + 1) % loop.m_arrVertex.size()];
+      if (a.bulge != 0 || (a.x != b.x && a.y != b.y)) return false;
+    }
+  }
+  return true;
+}
+
+// A hundred sections of each style, their sizes around those of its sample.
+TEST(RowExact, HoldsForUserSections) {
+  std::uint64_t seed = 20'241'001;
+  const auto random = [&] {
+    seed = seed * 6364136223846793005U + 1442695040888963407U;
+    return static_cast<double>(seed >> 40) / (1 << 24);
+  };
+  for (const CSectionStyle& style : SectionStyles()) {
+    for (int made = 0; made < 100;) {
+      std::array<double, kSectionSizes> sizes{};
+      for (std::size_t i = 0; i < style.Sizes().size(); ++i)
+        sizes[i] = std::round(10 * style.m_sample.m_arrSize[i] * (0.6 + 0.8 * random())) / 10;
+      const auto given = std::span(sizes).first(style.Sizes().size());
+      const COutline outline = SectionOutline(style.m_nStyle, sizes);
+      if (CheckSectionSizes(style, given) || CheckOutline(outline.m_arrLoop)) continue;
+      ++made;
+      const CExactProperties exact = ExactProperties(outline);
+      std::string name = style.m_szAlias;
+      for (const double size : given) name += " " + std::to_string(size);
+      EXPECT_TRUE(exact.m_bAccurate) << name;
+      if (made % 5 != 0 || !IsOfPlates(outline.m_arrLoop)) continue;
+      EXPECT_NEAR(exact.It, MembraneIt(outline.m_arrLoop), 0.01 * exact.It) << name;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace orv3
