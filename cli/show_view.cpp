@@ -56,9 +56,9 @@ constexpr CFigure kFigures[] = {
     {"WyoR", CAxis::Y, "W@右", "#轴抵抗矩(右)", "modulus about #, right", "mm³", &F::m_dWRight},
     {"tmax", CAxis::None, "tmax", "最大板厚", "thickest plate", "mm", &F::m_dThickest, true},
     {"tmin", CAxis::None, "tmin", "最小板厚", "thinnest plate", "mm", &F::m_dThinnest, true},
-    {"e0", CAxis::None, "e0", "剪心距离(薄壁)", "shear centre to centroid, thin-wall", "mm",
+    {"e0", CAxis::None, "e0", "剪心距(薄壁)", "shear centre to centroid, thin-wall", "mm",
      &F::m_dE0, true},
-    {"Iw", CAxis::None, "Iw", "扇性惯性矩(薄壁)", "warping constant, thin-wall", "mm⁶", &F::m_dIw,
+    {"Iw", CAxis::None, "Iw", "扇性矩(薄壁)", "warping constant, thin-wall", "mm⁶", &F::m_dIw,
      true},
 };
 
