@@ -39,7 +39,11 @@ TEST(Property, CaptionsAndButtons) {
   EXPECT_FALSE(show.HasOk());
   const CEditGridModel& grid = edit.Grid();
   ASSERT_EQ(grid.ColumnCount(), 2);
-  EXPECT_EQ(grid.LineCount(), row.GetItemLength());
+  const int exact = row.GetItemLength();  // a heading, and the 31 exact properties
+  EXPECT_EQ(grid.LineCount(), exact + 32);
+  EXPECT_EQ(grid.CellText(exact, 0), L"由轮廓精确计算 (mm)");
+  EXPECT_EQ(grid.CellText(exact + 1, 0), L"截面面积  A(mm^2)");
+  EXPECT_EQ(grid.CellText(exact + 1, 1), L"120000");
   EXPECT_EQ(grid.ColumnTitle(0), L"参数名称");
   EXPECT_EQ(grid.ColumnWidth(1), 150);
   EXPECT_EQ(grid.CellText(0, 0), L"型号");
@@ -76,6 +80,8 @@ TEST(Property, ResultsFollowSizes) {
   EXPECT_EQ(model.Grid().CellText(LineOf(model, L"A(mm^2)"), 1), L"150000");
   model.SetValue(LineOf(model, L"A(mm^2)"), L"1");
   EXPECT_EQ(Number(model, L"A(mm^2)"), 150000);
+  const int exact = model.Row().GetItemLength();
+  EXPECT_EQ(model.Grid().CellText(exact + 1, 1), L"150000") << "as the sizes are now";
   EXPECT_TRUE(model.Ok(user));
   EXPECT_EQ(model.Row()[0].m_strValue, L"400X300");
 }

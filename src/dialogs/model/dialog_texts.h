@@ -105,6 +105,7 @@ inline constexpr wchar_t kCancel[] = L"取消";
 inline constexpr wchar_t kLeave[] = L"退出";
 inline constexpr wchar_t kParameterName[] = L"参数名称";
 inline constexpr wchar_t kParameterValue[] = L"参数值";
+inline constexpr wchar_t kExactHeading[] = L"由轮廓精确计算 (mm)";
 inline constexpr wchar_t kNoResult[] =
     L"不能计算截面特性，请检查截面尺寸或各肢的类型、型号、角度和肢距!";
 // Between and behind the names of values.

@@ -1,14 +1,18 @@
 #include "dialogs/model/property_model.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
+#include "catalogue/exact/row_exact.h"
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/outline/row_outline.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/spacing_model.h"
 #include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "outlines/exact_keys.h"
 #include "sections/load_data_table.h"
 #include "sections/row_check.h"
 #include "sections/section_style.h"
@@ -85,13 +89,38 @@ void CPropertyModel::FillGrid() {
     line.Add(cell.m_strValue);
     m_grid.InsertLine(i, line);
   }
+  if (!RowOutline(m_row).m_arrLoop.empty()) AddExact();
   SetModifyTypes();
+}
+
+void CPropertyModel::AddExact() {
+  CStringArray heading;
+  heading.Add(texts::kExactHeading);
+  m_grid.InsertLine(m_grid.LineCount(), heading);
+  for (const CExactKey& key : ExactKeys()) {
+    CStringArray line;
+    line.Add(FromUtf8(key.m_szTitle) + L"  " + FromUtf8(key.m_szKey) + L"(" +
+             FromUtf8(key.m_szSignUnit) + L")");
+    m_grid.InsertLine(m_grid.LineCount(), line);
+  }
+  ShowExact();
+}
+
+void CPropertyModel::ShowExact() {
+  int line = LineCount() + 1;
+  if (line >= m_grid.LineCount()) return;
+  const CExactProperties exact = ExactProperties(std::as_const(m_row));
+  for (const CExactKey& key : ExactKeys()) {
+    const double value = exact.*key.m_pField;
+    m_grid.SetCellText(line++, kValue, std::isfinite(value) ? FormatG(value) : L"-");
+  }
 }
 
 void CPropertyModel::ShowValues() {
   for (int i = 0; i < LineCount(); ++i) {
     m_grid.SetCellText(i, kValue, std::as_const(m_row)[i].m_strValue);
   }
+  ShowExact();
 }
 
 void CPropertyModel::SetModifyTypes() {
@@ -100,6 +129,8 @@ void CPropertyModel::SetModifyTypes() {
     const bool fixed = m_nEditMode == 0 || IsComputed(i);
     m_grid.SetCellModifyType(i, kValue, fixed ? CModifyType::Fixed : CModifyType::Edit);
   }
+  for (int i = LineCount(); i < m_grid.LineCount(); ++i)
+    m_grid.SetCellModifyType(i, kValue, CModifyType::Fixed);
   OfferSpacings();
   if (m_nSource == CSource::Lattice && m_nEditMode != 0) OfferLimbs();
 }

@@ -1,8 +1,9 @@
 // CPropertyModel: the parameters of one section row, shown or edited (CPropertyDlg).
 //
-// One grid line per cell of the row. In edit mode a change recomputes what follows from it at once:
-// the properties of a user-defined section from its sizes, those of a lattice column from its
-// limbs.
+// One grid line per cell of the row, and below them the exact properties of the row's outline,
+// which nobody changes: a heading and a line each. A row without an outline has none of these. In
+// edit mode a change recomputes what follows from it at once: the properties of a user-defined
+// section from its sizes, those of a lattice column from its limbs.
 #pragma once
 
 #include <functional>
@@ -48,6 +49,8 @@ class ORV3CAL_API CPropertyModel {
 
   int LineCount() const noexcept { return m_row.GetItemLength(); }
   void FillGrid();
+  void AddExact();
+  void ShowExact();
   void ShowValues();
   void SetModifyTypes();
   void OfferSpacings();
