@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "catalogue/exact/row_exact.h"
 #include "framework/utf8.h"
 #include "sections/load_data_table.h"
 
@@ -30,6 +31,10 @@ double Inertia(const CDataItem& row) {
   return iy;
 }
 
+// Looked up in the catalogue's file, and computed.
+double ExactKept(const CDataItem& row) { return orv3::ExactProperties(row).It; }
+double ExactComputed(const CDataItem& row) { return orv3::ComputedExact(row).It; }
+
 void Run(benchmark::State& state, const wchar_t* table, const wchar_t* no, COperation operation) {
   CLoadDataTable::SetOrvoPrgPath(CString(orv3::FromUtf8(ORV3CAL_CATALOGUE)) + L"/");
   const CDataItem row = CLoadDataTable::GetSysTemJMItem(table, no);
@@ -53,6 +58,9 @@ BENCHMARK_CAPTURE(Run, channel_e0, kChannels, L"[20a", CLoadDataTable::GetDatIte
 BENCHMARK_CAPTURE(Run, channel_Iw, kChannels, L"[20a", CLoadDataTable::GetDataItemIw);
 BENCHMARK_CAPTURE(Run, pair_io, kPairs, L"2L50X5", Inertia);
 BENCHMARK_CAPTURE(Run, pair_radius, kPairs, L"2L50X5", CLoadDataTable::GetDataItemRadiyo);
+BENCHMARK_CAPTURE(Run, beam_exact_kept, kBeams, L"I20a", ExactKept);
+BENCHMARK_CAPTURE(Run, beam_exact_computed, kBeams, L"I20a", ExactComputed);
+BENCHMARK_CAPTURE(Run, pair_exact_kept, kPairs, L"2L50X5", ExactKept);
 
 }  // namespace
 
