@@ -8,8 +8,8 @@
 #include <variant>
 #include <vector>
 
+#include "framework/bilingual_text.h"
 #include "framework/export.h"
-#include "framework/language_text.h"
 
 namespace orv3 {
 
