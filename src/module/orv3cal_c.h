@@ -22,7 +22,7 @@
 #define ORV3CAL_C_H
 
 /* Raised whenever a function is added; functions never change or go. */
-#define ORV3_INTERFACE_VERSION 2
+#define ORV3_INTERFACE_VERSION 3
 
 #if defined(_WIN32)
 #define ORV3_CALL __stdcall
