@@ -8,7 +8,8 @@
 #include "connections/cases/case_rules.h"
 #include "connections/report/bolt_drawing.h"
 #include "connections/report/connection_report.h"
-#include "connections/report/report_page.h"
+#include "reports/report_document.h"
+#include "reports/report_page.h"
 #include "svg_check.h"
 
 namespace orv3 {
