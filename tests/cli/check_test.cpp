@@ -9,9 +9,9 @@
 #include "cli/run_program.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
-#include "connections/report/connection_report.h"
 #include "framework/utf8.h"
 #include "platform/code_page.h"
+#include "reports/report_document.h"
 
 namespace {
 
