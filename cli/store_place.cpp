@@ -6,6 +6,7 @@
 #include "catalogue/exact/exact_figures.h"
 #include "error.h"
 #include "framework/utf8.h"
+#include "inputs_read.h"
 #include "platform/file_system.h"
 #include "platform/places.h"
 #include "platform/store_error.h"
