@@ -50,6 +50,8 @@ const CSectionStyle& StyleOf(const std::string& text) {
 
 // No section is a kilometre wide; beyond that the fourth powers would overflow some day.
 constexpr double kMaxLength = 1e6;
+// Nor is a plate thinner than a micrometre; below that they would vanish.
+constexpr double kMinLength = 1e-3;
 
 double LengthOf(const std::string& what, const std::string& text) {
   const CString wide = FromUtf8(text);
@@ -78,6 +80,10 @@ CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
     const std::string sign = i < style.Sizes().size() ? ToUtf8(style.Sizes()[i].m_szSign)
                                                       : Say("第 {1} 个尺寸", "size {1}", {std::to_string(i + 1)});
     sizes.push_back(LengthOf(sign, options.sizes[i]));
+    if (sizes.back() > 0 && sizes.back() < kMinLength) {
+      Refuse(Say("{1} = {2}：不应小于 0.001 mm", "{1} = {2}: must be at least 0.001 mm",
+                 {sign, options.sizes[i]}));
+    }
   }
   if (sizes.size() != style.Sizes().size()) {
     Refuse(Say("{1} 有 {2} 个尺寸，给出的是 {3} 个；应为：{4}",

@@ -199,6 +199,10 @@ void AddStoreImportCommand(CLI::App& store) {
                       Say("只导入此表；CSV 时为各行所属的表",
                           "This table alone; for CSV the table that the rows are for"))
       ->check([](const std::string& table) {
+        const std::string length = std::to_string(FromUtf8(table).GetLength());
+        if (FromUtf8(table).GetLength() > CDataTable::kMaxTableName)
+          return Say("有 {1} 个字符；表名至多 64 个", "has {1} characters; a table's name has at most 64",
+                     {length});
         return table.empty() ? Say("为空；请给出表名，或不写此选项",
                                    "is empty; give a table's name, or leave the option out")
                              : std::string();

@@ -65,7 +65,7 @@ CSentence MisfitText(const CDataCell& cell) {
   const CString value = FromUtf8(Excerpt(ToUtf8(cell.m_strValue)));
   const CString& sign = cell.m_strSign;
   const CSentence right = Wanted(cell.m_nType);
-  return {L"列“" + sign + L"”：“" + value + L"”不可用，应为" + right.m_strChinese,
+  return {L"列“" + sign + L"”：“" + value + L"”不可用，应为 " + right.m_strChinese,
           L"column \"" + sign + L"\": \"" + value + L"\" is not possible; right would be " +
               right.m_strEnglish};
 }

@@ -1,4 +1,5 @@
 // What table files and rolled-section data files hold for an import.
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <set>
@@ -41,8 +42,11 @@ bool ReadTableFile(const CString& file, std::vector<CImportTable>& tables, CStri
     why = LastStoreError().m_strText;
     return false;
   }
-  if (!faults.empty()) {
-    const CStoreFault& fault = faults.front();
+  // Values are refused row by row.
+  const auto found = std::find_if(faults.begin(), faults.end(),
+                                  [](const CStoreFault& fault) { return !fault.m_bValue; });
+  if (found != faults.end()) {
+    const CStoreFault& fault = *found;
     const CString table =
         fault.m_strTable.IsEmpty()
             ? CString()

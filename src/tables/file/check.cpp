@@ -122,7 +122,7 @@ class CCheck {
         const int record = directory.Find(m_table.m_strTableName);
         if (record >= 0) info = directory.Record(record);
         if (record < 0 && directory.IsFull())
-          Add(-1, -1, Say(L"库中已有 99 个表，不能再多", L"the store has 99 tables and no room for another"));
+          Add(-1, -1, Say(L"库中已有 99 个表，不能再多", L"the store has 99 tables, and room for 99"));
       }
     }
     info.m_strTableName = m_table.m_strTableName;

@@ -13,6 +13,7 @@
 #include "tables/edit_state.h"
 #include "tables/file/directory.h"
 #include "tables/file/table_text.h"
+#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -116,8 +117,10 @@ class CVerify {
           Needs(info.m_nRowNum, BlocksFor(info.m_nRowNum), blocks));
     }
     if (!Blocks(info, at) || BlocksOf(info, m_directory.Offset()).empty()) return;
+    const std::size_t faults = m_faults.size();
     Heading(info);
     Rows(info);
+    if (m_faults.size() == faults) Values(info);
     LeftOver(info, at);
   }
 
@@ -203,6 +206,53 @@ class CVerify {
       Text(info.m_strTableName, at, row, form);
       State(info.m_strTableName, at, row, form);
     }
+  }
+
+  // What sound rows say. Deleted ones are read by nobody.
+  void Values(const CDataFileInfo& info) {
+    std::string heading;
+    std::vector<std::string> slots;
+    CDataTable table;
+    if (!ReadHeading(m_file, info, heading) || !ReadSlots(m_file, info, slots) ||
+        !StoredHeading(heading, table.m_Title)) {
+      return;
+    }
+    for (const std::string& slot : slots) {
+      CDataItem row;
+      if (!RowOf(DecodeText(slot), table.m_Title, false, row)) return;
+      row.m_nIndex = table.m_arrItem.GetSize();
+      table.m_arrItem.Add(row);
+    }
+    for (int i = 0; i < table.GetTableRowNum(); ++i) {
+      if (!IsDeleted(std::as_const(table)[i].m_nModifyType)) Values(info, table, i);
+    }
+  }
+
+  void Values(const CDataFileInfo& info, const CDataTable& table, int position) {
+    const CDataItem& row = table[position];
+    const CString place = Say(L"第 {1} 行", L"row {1}, ", {FormatInt(position + 1)});
+    for (int i = 0; i < row.GetItemLength(); ++i) {
+      if (Fits(row[i])) continue;
+      Value(info, position, place + MisfitText(row[i]).In(MessageLanguage()));
+    }
+    const int same = table.IsHaveValue(row, position);
+    if (same < 0 || same > position) return;
+    Value(info, position,
+          Say(L"第 {1} 行的关键字“{2}”与第 {3} 行相同，查找时只能得到前一行",
+              L"row {1} has the key \"{2}\" of row {3}, which is all that look-ups find",
+              {FormatInt(position + 1), KeyText(table, row), FormatInt(same + 1)}));
+  }
+
+  void Value(const CDataFileInfo& info, int position, const CString& what) {
+    m_faults.push_back({info.m_strTableName, SlotOffset(info, position), what, true});
+  }
+
+  static CString KeyText(const CDataTable& table, const CDataItem& row) {
+    CArray<int, int> keys;
+    table.m_Title.GetDataTableKeyIndex(keys);
+    CString text;
+    for (const int key : keys) text += (text.IsEmpty() ? L"" : L", ") + row[key].m_strValue;
+    return text;
   }
 
   // The states that a save writes, and those of rows that were never marked as saved.
