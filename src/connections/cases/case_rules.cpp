@@ -33,10 +33,15 @@ std::string PercentNumber(double utilisation) {
 }
 
 CComparedText Compared(double effect, double limit) {
-  CComparedText text = {PlainNumber(effect), PlainNumber(limit)};
-  for (int digits = 1; effect > limit && text.m_strEffect == text.m_strLimit && digits < 16;
+  return effect > limit ? Apart(effect, limit)
+                        : CComparedText{PlainNumber(effect), PlainNumber(limit)};
+}
+
+CComparedText Apart(double one, double other) {
+  CComparedText text = {PlainNumber(one), PlainNumber(other)};
+  for (int digits = 1; one != other && text.m_strEffect == text.m_strLimit && digits < 16;
        ++digits) {
-    text = {ToUtf8(FormatFixed(effect, digits)), ToUtf8(FormatFixed(limit, digits))};
+    text = {ToUtf8(FormatFixed(one, digits)), ToUtf8(FormatFixed(other, digits))};
   }
   return text;
 }
@@ -70,7 +75,8 @@ void CFaultList::Within(const char* key, int value, int first, int last) {
 }
 
 void TooThick(const char* key, double thickness, const std::string& table, CFaultList& faults) {
-  const std::string is = PlainNumber(thickness) + " mm";
+  const CComparedText text = Compared(thickness, kThickestPlate);
+  const std::string is = text.m_strEffect + " mm";
   const std::string most = PlainNumber(kThickestPlate) + " mm";
   faults.Add(key, {is + " 超出表 " + table, is + " is beyond Table " + table},
              {"请给不大于 " + most, "give at most " + most});
@@ -95,8 +101,7 @@ void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& f
 void WarnOfOther(const char* key, const CTextLiteral& what, double record, double judged,
                  const CTextLiteral& why, std::vector<CCaseWarning>& warnings) {
   if (std::fabs(record - judged) <= 1e-9 * std::fabs(judged)) return;
-  const std::string was = PlainNumber(record);
-  const std::string is = PlainNumber(judged);
+  const auto [was, is] = Apart(record, judged);
   warnings.push_back({key,
                       {std::string("记录的") + what.m_szChinese + "为 " + was + " N/mm²；按 " + is +
                            " N/mm² 验算：" + why.m_szChinese + "。",

@@ -23,6 +23,8 @@ struct CComparedText {
   std::string m_strLimit;
 };
 CComparedText Compared(double effect, double limit);
+// Two numbers with the digits that tell them apart.
+CComparedText Apart(double one, double other);
 
 // Collects the faults of one case.
 class CFaultList {
