@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -20,6 +21,7 @@
 #include "framework/language.h"
 #include "framework/utf8.h"
 #include "progress.h"
+#include "reports/report_document.h"
 #include "schemas.h"
 
 namespace orv3::cli {
@@ -255,9 +257,18 @@ class CChecker {
     m_arrReport.push_back(std::move(each));
   }
 
+  // What the browser calls the report.
+  std::string Title() const {
+    static const std::map<std::string, CText> kTitles = {
+        {"bolt", {"螺栓连接验算", "Bolted connections"}},
+        {"fillet", {"角焊缝验算", "Fillet welds"}},
+        {"butt", {"对接焊缝验算", "Butt welds"}}};
+    return kTitles.at(m_options.kind).In(m_options.ReportLanguage());
+  }
+
   void WriteReport() const {
     if (m_options.report.empty()) return;
-    const CReportTitle title = {"Orv3Cal " + m_options.kind, ORV3CAL_VERSION};
+    const CReportTitle title = {Title() + " — Orv3Cal", ORV3CAL_VERSION};
     WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.ReportLanguage()));
   }
 
@@ -304,11 +315,20 @@ void AddCheckCommand(CLI::App& program) {
               "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input"))
       ->required()
       ->check(FileName);
-  auto* json = command->add_flag("--json", options->json, Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
-  command->add_flag("--csv", options->csv, Say("以 CSV 输出，每个算例一行", "As CSV, one line a case"))->excludes(json);
-  command->add_flag("--sort", options->sort, Say("多个算例时，利用率大者在前", "Of many cases, the greatest utilisation first"));
-  command->add_option("--report", options->report, Say("写入可按 A4 打印的计算书（不给 --lang 时为中文）",
-                                           "Write a calculation report to print on A4, in Chinese unless --lang is given"))
+  auto* json = command->add_flag(
+      "--json", options->json,
+      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_flag("--csv", options->csv, Say("以 CSV 输出，每个算例一行", "As CSV, one line a case"))
+      ->excludes(json);
+  command->add_flag(
+      "--sort", options->sort,
+      Say("多个算例时，利用率大者在前", "Of many cases, the greatest utilisation first"));
+  command
+      ->add_option(
+          "--report", options->report,
+          Say("写入可按 A4 打印的计算书（不给 --lang 时为中文）",
+              "Write a calculation report to print on A4, in Chinese unless --lang is given"))
       ->check(FileName)
       ->type_name("FILE.html");
   command->add_option("--project", options->project,

@@ -34,7 +34,8 @@ void CheckTable(const std::string& table) {
     right += (right.empty() ? "" : ", ") + name;
   }
   Refuse(Say("TABLE: “{1}”没有线距资料；应为下列之一：{2}",
-             "TABLE: no spacings are known for \"{1}\"; right would be one of {2}", {table, right}));
+             "TABLE: no spacings are known for \"{1}\"; right would be one of {2}",
+             {table, right}));
 }
 
 // Angles go by the widths of their legs, so that a number alone would answer for any.
@@ -99,8 +100,8 @@ CJson SpacingJson(const CSectionSpacing& spacing) {
 
 void PrintSpacings(const COptions& options, const std::vector<CSectionSpacing>& spacings) {
   Print(options.table + "  " + options.no + "\n");
-  if (spacings.empty()) Print(Say("\n这样宽的肢上没有规定线距\n",
-                                     "\nno bolt line is set out on legs of this width\n"));
+  if (spacings.empty())
+    Print(Say("\n这样宽的肢上没有规定线距\n", "\nno bolt line is set out on legs of this width\n"));
   bool misprint = false;
   for (const CSectionSpacing& spacing : spacings) {
     CTextTable table({CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
@@ -114,8 +115,9 @@ void PrintSpacings(const COptions& options, const std::vector<CSectionSpacing>& 
     Print("\n" + Title(spacing) + " (strSub" + std::to_string(spacing.m_nTable) + ")\n" +
           table.Text());
   }
-  if (misprint) Print(Say("\n(!) 原表中以字母代替了数字：请查原表\n",
-                          "\n(!) printed with a letter in the place of a digit: look it up\n"));
+  if (misprint)
+    Print(Say("\n(!) 原表中以字母代替了数字：请查原表\n",
+              "\n(!) printed with a letter in the place of a digit: look it up\n"));
   if (!spacings.empty() && IsDerived(spacings.front())) {
     Print(Say("\n由截面尺寸推算；各手册相差数毫米\n",
               "\nderived from the section's dimensions; handbooks differ by some millimetres\n"));
@@ -140,7 +142,8 @@ void AddGaugeCommand(CLI::App& program) {
                    "angle"));
   command->add_option("TABLE", options->table, Say("截面表", "The section's table"))->required();
   command->add_option("NO", options->no, Say("型号", "The section's number"))->required();
-  command->add_flag("--json", options->json, Say("以 JSON 输出，附各数的含义", "As JSON, each figure with its meaning"));
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，附各数的含义", "As JSON, each figure with its meaning"));
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunGauge(*options); });
 }

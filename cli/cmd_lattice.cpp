@@ -58,14 +58,16 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
   const CCaseSchema schema(kLatticeSchema);
   std::optional<CSteelItemGeGou> column;
   ReadCases(path, schema, MessageLanguage(), [&](const CReadCase& read) {
-    if (!read.m_bSingle) Refuse(Say("{1}: 不是单个格构柱；请给一个 JSON 对象",
-                                    "{1}: holds no single column; give one JSON object", {path}));
+    if (!read.m_bSingle)
+      Refuse(Say("{1}: 不是单个格构柱；请给一个 JSON 对象",
+                 "{1}: holds no single column; give one JSON object", {path}));
     const auto fault = read.m_fault ? read.m_fault : schema.Check(read.m_arrValue);
     if (fault) Refuse(path + ": " + fault->Line(MessageLanguage()));
     column = ColumnOf(schema, read.m_arrValue);
   });
-  if (!column) Refuse(Say("{1}: 没有格构柱；请给一个 JSON 对象",
-                          "{1}: holds no column; give one JSON object", {path}));
+  if (!column)
+    Refuse(Say("{1}: 没有格构柱；请给一个 JSON 对象", "{1}: holds no column; give one JSON object",
+               {path}));
   return *column;
 }
 
@@ -134,8 +136,8 @@ CJson LatticeJson(const CSteelItemGeGou& column, const CLatticeLimbs& limbs) {
 void PrintLattice(const CSteelItemGeGou& column, const CLatticeLimbs& limbs) {
   CTextTable parts({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Right,
                     CAlign::Right, CAlign::Right});
-  parts.AddRow({Say("肢", "limb"), Say("表", "table"), Say("型号", "no"), Say("转角 (°)", "turned (°)"),
-                "A (mm²)", "x (mm)", "y (mm)"});
+  parts.AddRow({Say("肢", "limb"), Say("表", "table"), Say("型号", "no"),
+                Say("转角 (°)", "turned (°)"), "A (mm²)", "x (mm)", "y (mm)"});
   for (std::size_t i = 0; i < limbs.m_arrLimb.size(); ++i) {
     const CLatticeLimb& limb = limbs.m_arrLimb[i];
     parts.AddRow({std::to_string(i + 1), ToUtf8(limb.m_row.m_strTableName), Number(limb),
@@ -175,11 +177,17 @@ void AddLatticeCommand(CLI::App& program) {
   CLI::App* command = program.add_subcommand(
       "lattice", Say("计算双肢、三肢或四肢格构柱",
                      "Compute a lattice column of two, three or four rolled limbs"));
-  command->add_option("FILE", options->file, Say("格构柱，见 docs/lattice.md（JSON）",
-                                                   "The column, as docs/lattice.md tells (JSON)"))
+  command
+      ->add_option(
+          "FILE", options->file,
+          Say("格构柱，见 docs/lattice.md（JSON）", "The column, as docs/lattice.md tells (JSON)"))
       ->required();
-  command->add_flag("--json", options->json, Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
-  command->add_option("--svg", options->svg, Say("写入按比例绘制的图形", "Write a picture drawn to scale"))->type_name("FILE");
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_option("--svg", options->svg,
+                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
+      ->type_name("FILE");
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunLattice(*options); });
 }

@@ -40,10 +40,11 @@ const CSectionStyle& StyleOf(const std::string& text) {
   if (style == nullptr) style = FindSectionStyle(wide.View());
   if (style == nullptr && FormatInt(ToInt(wide)) == wide) style = FindSectionStyle(ToInt(wide));
   if (style == nullptr) {
-    Refuse(Say("STYLE: “{1}”不是截面种类；应为 0 至 14 的编号，或 orv3cal styles 列出的表名或别名",
-               "STYLE: \"{1}\" is no section style; right would be a number 0 to 14, a table name or "
-               "an alias that orv3cal styles lists",
-               {text}));
+    Refuse(
+        Say("STYLE: “{1}”不是截面种类；应为 0 至 14 的编号，或 orv3cal styles 列出的表名或别名",
+            "STYLE: \"{1}\" is no section style; right would be a number 0 to 14, a table name or "
+            "an alias that orv3cal styles lists",
+            {text}));
   }
   return *style;
 }
@@ -56,8 +57,8 @@ constexpr double kMinLength = 1e-3;
 double LengthOf(const std::string& what, const std::string& text) {
   const CString wide = FromUtf8(text);
   if (!IsNumber(wide)) {
-    Refuse(Say("{1}: “{2}”不是数值；应为毫米数", "{1}: \"{2}\" is no number; right would be millimetres",
-               {what, text}));
+    Refuse(Say("{1}: “{2}”不是数值；应为毫米数",
+               "{1}: \"{2}\" is no number; right would be millimetres", {what, text}));
   }
   const double value = ToDouble(wide);
   if (std::fabs(value) > kMaxLength) {
@@ -77,8 +78,9 @@ std::string SizeList(const CSectionStyle& style) {
 CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   std::vector<double> sizes;
   for (std::size_t i = 0; i < options.sizes.size(); ++i) {
-    const std::string sign = i < style.Sizes().size() ? ToUtf8(style.Sizes()[i].m_szSign)
-                                                      : Say("第 {1} 个尺寸", "size {1}", {std::to_string(i + 1)});
+    const std::string sign = i < style.Sizes().size()
+                                 ? ToUtf8(style.Sizes()[i].m_szSign)
+                                 : Say("第 {1} 个尺寸", "size {1}", {std::to_string(i + 1)});
     sizes.push_back(LengthOf(sign, options.sizes[i]));
     if (sizes.back() > 0 && sizes.back() < kMinLength) {
       Refuse(Say("{1} = {2}：不应小于 0.001 mm", "{1} = {2}: must be at least 0.001 mm",
@@ -149,12 +151,15 @@ void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const 
   table.AddRule();
   AddFurtherFigures(table, RowFigures(ExactRow(record)));
   Print(table.Text());
-  if (infinite) Print(Say("\n∞：基点在截面的该边上\n",
-                          "\n∞: the base point lies on that edge of the section\n"));
-  if (missing) Print(Say("\n-：该种截面不计算此项，或基点在截面之外\n",
-                         "\n-: not computed for this style, or the base point lies outside\n"));
+  if (infinite)
+    Print(
+        Say("\n∞：基点在截面的该边上\n", "\n∞: the base point lies on that edge of the section\n"));
+  if (missing)
+    Print(Say("\n-：该种截面不计算此项，或基点在截面之外\n",
+              "\n-: not computed for this style, or the base point lies outside\n"));
   constexpr int kHexagon = 4;
-  if (style.m_nStyle == kHexagon) Print(Say("\nIxo = Iyo = 0.541 a⁴，与用表一致；精确值为 0.54127 a⁴\n",
+  if (style.m_nStyle == kHexagon)
+    Print(Say("\nIxo = Iyo = 0.541 a⁴，与用表一致；精确值为 0.54127 a⁴\n",
               "\nIxo = Iyo = 0.541 a⁴ as in tables; exact: 0.54127 a⁴\n"));
 }
 
@@ -174,22 +179,31 @@ void RunSection(const COptions& options) {
 
 void AddSectionCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
-  CLI::App* command =
-      program.add_subcommand("section", Say("由尺寸（mm）计算截面特性",
-                                       "Compute a section's properties from its sizes in mm"));
-  command->add_option("STYLE", options->style, Say("编号 0 至 14、表名或别名", "Style number 0 to 14, table name or alias"))
+  CLI::App* command = program.add_subcommand(
+      "section",
+      Say("由尺寸（mm）计算截面特性", "Compute a section's properties from its sizes in mm"));
+  command
+      ->add_option("STYLE", options->style,
+                   Say("编号 0 至 14、表名或别名", "Style number 0 to 14, table name or alias"))
       ->required();
-  command->add_option("SIZE", options->sizes, Say("各尺寸（mm），按 styles 列出的次序",
-                                                    "The style's sizes in mm, in the order of styles"))
+  command
+      ->add_option("SIZE", options->sizes,
+                   Say("各尺寸（mm），按 styles 列出的次序",
+                       "The style's sizes in mm, in the order of styles"))
       ->type_name("NUMBER...");
   command
       ->add_option("--base", options->base,
                    Say("基点距左下角（mm），不给时为 0 0",
                        "Base point in mm from the lower-left corner, 0 0 if not given"))
       ->type_name("X Y");
-  command->add_option("--name", options->name, Say("截面名称，至多 30 个字符", "The section's name, at most 30 characters"));
-  command->add_flag("--json", options->json, Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
-  command->add_option("--svg", options->svg, Say("写入按比例绘制的图形", "Write a picture drawn to scale"))->type_name("FILE");
+  command->add_option("--name", options->name,
+                      Say("截面名称，至多 30 个字符", "The section's name, at most 30 characters"));
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_option("--svg", options->svg,
+                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
+      ->type_name("FILE");
   command
       ->add_option("--dxf", options->dxf,
                    Say("为绘图程序写入轮廓：带圆弧的多段线，单位 mm",

@@ -54,7 +54,8 @@ CDataItem RowOf(const COptions& options) {
 }
 
 CDataItem WithGap(const CDataItem& row, const COptions& options) {
-  if (!IsPairTable(row.GetTableName())) Refuse(Say("--gap: {1} 不是组合截面表", "--gap: {1} is no table of pairs", {options.table}));
+  if (!IsPairTable(row.GetTableName()))
+    Refuse(Say("--gap: {1} 不是组合截面表", "--gap: {1} is no table of pairs", {options.table}));
   if (PairSpacingSign(row.GetTableName()).IsEmpty()) {
     Refuse(Say("--gap: {1} 的两槽钢相接；分开的槽钢请用 双肢格构柱",
                "--gap: the channels of {1} touch; right for channels apart would be a lattice "
@@ -92,10 +93,16 @@ void AddShowCommand(CLI::App& program) {
   CLI::App* command = program.add_subcommand(
       "show", Say("显示库中的截面及其几何特性（mm）",
                   "Show a section of the catalogue or a store with its geometry in mm"));
-  command->add_option("TABLE", options->table, Say("截面表，例如 热轧普通工字钢", "The section table, such as 热轧普通工字钢"))
+  command
+      ->add_option("TABLE", options->table,
+                   Say("截面表，例如 热轧普通工字钢", "The section table, such as 热轧普通工字钢"))
       ->required();
-  command->add_option("NO", options->no, Say("型号，例如 I20a", "The section's number, such as I20a"))->required();
-  command->add_option("--turn", options->turn, Say("截面逆时针转动的角度", "Turn the section counter-clockwise, degrees"))
+  command
+      ->add_option("NO", options->no, Say("型号，例如 I20a", "The section's number, such as I20a"))
+      ->required();
+  command
+      ->add_option("--turn", options->turn,
+                   Say("截面逆时针转动的角度", "Turn the section counter-clockwise, degrees"))
       ->check(CLI::IsMember({0, 90, 180, 270}));
   CLI::Option* gap =
       command
@@ -105,8 +112,12 @@ void AddShowCommand(CLI::App& program) {
           ->check(CLI::Range(0, 1000))
           ->type_name("MM");
   AddStoreOptions(*command, options->store);
-  command->add_flag("--json", options->json, Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
-  command->add_option("--svg", options->svg, Say("写入按比例绘制的图形", "Write a picture drawn to scale"))->type_name("FILE");
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_option("--svg", options->svg,
+                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
+      ->type_name("FILE");
   command
       ->add_option("--dxf", options->dxf,
                    Say("为绘图程序写入轮廓：带圆弧的多段线，单位 mm",

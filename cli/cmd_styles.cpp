@@ -33,10 +33,12 @@ void PrintStyles() {
     CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left});
     for (const CSizeColumn& size : style.Sizes()) {
       const std::string sign = ToUtf8(size.m_szSign);
-      table.AddRow({" ", sign.substr(0, sign.find('(')), ToUtf8(size.m_szTitle), Say({"", size.m_szMeaning})});
+      table.AddRow({" ", sign.substr(0, sign.find('(')), ToUtf8(size.m_szTitle),
+                    Say({"", size.m_szMeaning})});
     }
     Print(std::to_string(style.m_nStyle) + "  " + style.m_szAlias + "  " +
-          ToUtf8(style.TableName()) + Say({"", std::string("  ") + style.m_szShape}) + "\n" + table.Text() + "\n");
+          ToUtf8(style.TableName()) + Say({"", std::string("  ") + style.m_szShape}) + "\n" +
+          table.Text() + "\n");
   }
   Print(Say("尺寸单位均为 mm；orv3cal section ALIAS SIZE... 按此次序给出\n",
             "all sizes in mm; orv3cal section ALIAS SIZE... takes them in this order\n"));
@@ -58,11 +60,11 @@ void AddStylesCommand(CLI::App& program) {
     std::string folder;
   };
   auto options = std::make_shared<COptions>();
-  CLI::App* command =
-      program.add_subcommand(
+  CLI::App* command = program.add_subcommand(
       "styles",
       Say("列出自定义截面的种类和尺寸", "List the user-defined section styles and their sizes"));
-  command->add_flag("--json", options->json, Say("以 JSON 输出，附各尺寸的名称和含义",
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，附各尺寸的名称和含义",
                         "As JSON, with the titles and meanings of the sizes"));
   command
       ->add_option("--svg", options->folder,

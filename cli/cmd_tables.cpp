@@ -44,7 +44,8 @@ constexpr CFamily kFamilies[] = {
     {TABLE_FAMILY_SOLID, {"实心", "solid"}},
     {TABLE_FAMILY_LATTICE, {"格构柱", "lattice"}},
 };
-constexpr CFamily kSources[] = {{TABLE_ROLLED, {"热轧", "rolled"}}, {TABLE_CUSTOM, {"自定义", "user-defined"}}};
+constexpr CFamily kSources[] = {{TABLE_ROLLED, {"热轧", "rolled"}},
+                                {TABLE_CUSTOM, {"自定义", "user-defined"}}};
 
 // One table as it is listed.
 struct CListed {
@@ -125,8 +126,8 @@ void PrintListedCsv(const std::vector<CListed>& list) {
   text += "table,source,family,rows,columns,mask\n";
   for (const CListed& each : list) {
     text +=
-        CsvLine({each.m_strName, each.m_source.m_szEnglish, each.m_family.m_szEnglish, std::to_string(each.m_nRows),
-                 std::to_string(each.m_nColumns), Hex(each.m_nMask)});
+        CsvLine({each.m_strName, each.m_source.m_szEnglish, each.m_family.m_szEnglish,
+                 std::to_string(each.m_nRows), std::to_string(each.m_nColumns), Hex(each.m_nMask)});
   }
   PrintCsv(text);
 }
@@ -161,7 +162,8 @@ void RunTables(const COptions& options) {
 
 void AddTablesCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
-  CLI::App* command = program.add_subcommand("tables", Say("列出库中各表", "List the tables of the store"));
+  CLI::App* command =
+      program.add_subcommand("tables", Say("列出库中各表", "List the tables of the store"));
   command
       ->add_option("--mask", options->mask,
                    Say("只列来源位和类别位都符合的表，例如 0x01000001",
@@ -169,7 +171,10 @@ void AddTablesCommand(CLI::App& program) {
                        "0x01000001"))
       ->type_name("M");
   CLI::Option* json = command->add_flag("--json", options->json, Say("以 JSON 输出", "As JSON"));
-  command->add_flag("--csv", options->csv, Say("以 CSV 输出，可用电子表格打开", "As CSV that a spreadsheet opens"))->excludes(json);
+  command
+      ->add_flag("--csv", options->csv,
+                 Say("以 CSV 输出，可用电子表格打开", "As CSV that a spreadsheet opens"))
+      ->excludes(json);
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunTables(*options); });
 }

@@ -131,8 +131,9 @@ int Run(int argc, char** argv) {
       used = used->get_subcommands().front();
       name += used->get_name() + " ";
     }
-    return Fail(CExit::BadInput, WithExcerpts(orv3::cli::OptionErrorText(error), ForParsing(argc, argv)) +
-                                     Say("（见 orv3cal {1}--help）", " (see orv3cal {1}--help)", {name}));
+    return Fail(CExit::BadInput,
+                WithExcerpts(orv3::cli::OptionErrorText(error), ForParsing(argc, argv)) +
+                    Say("（见 orv3cal {1}--help）", " (see orv3cal {1}--help)", {name}));
   }
   return static_cast<int>(CExit::Done);
 }
@@ -146,7 +147,8 @@ int RunGuarded(int argc, char** argv) {
   } catch (const orv3::cli::CCommandError& error) {
     return Fail(error.m_nExit, Bounded(error.what(), argc, argv));
   } catch (const std::bad_alloc&) {
-    return Fail(CExit::FileTrouble, Say("本机内存不足", "the memory of this machine does not suffice"));
+    return Fail(CExit::FileTrouble,
+                Say("本机内存不足", "the memory of this machine does not suffice"));
   } catch (const std::exception& error) {
     return Fail(CExit::FileTrouble, error.what());
   }
@@ -160,11 +162,11 @@ int main(int argc, char** argv) {
   errno = 0;
   if (std::cout.flush() && std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
   const std::string& saved = orv3::cli::SavedNote();
-  return Fail(CExit::FileTrouble,
-              (errno == ENOSPC ? Say("标准输出不能写入，磁盘已满",
-                                     "standard output cannot be written, the disk is full")
-                               : Say("标准输出不能写入，磁盘是否已满？",
-                                     "standard output cannot be written, is the disk full?")) +
-                  (saved.empty() ? ""
-                                 : Say("；此前已保存：{1}", "; saved before that: {1}", {saved})));
+  return Fail(
+      CExit::FileTrouble,
+      (errno == ENOSPC ? Say("标准输出不能写入，磁盘已满",
+                             "standard output cannot be written, the disk is full")
+                       : Say("标准输出不能写入，磁盘是否已满？",
+                             "standard output cannot be written, is the disk full?")) +
+          (saved.empty() ? "" : Say("；此前已保存：{1}", "; saved before that: {1}", {saved})));
 }

@@ -10,6 +10,7 @@
 #include "error.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
+#include "inputs_read.h"
 #include "platform/terminal.h"
 #include "platform/whole_file.h"
 #include "tables/file/store_check.h"
@@ -21,7 +22,8 @@ namespace {
 constexpr double kInfinite = 1e100;
 
 [[noreturn]] void NotWritten(const std::string& path, const std::string& reason) {
-  throw CCommandError(CExit::FileTrouble, Say("{1}: 没有写入，{2}", "{1}: not written, {2}", {path, reason}));
+  throw CCommandError(CExit::FileTrouble,
+                      Say("{1}: 没有写入，{2}", "{1}: not written, {2}", {path, reason}));
 }
 
 void PrintBytes(std::string_view bytes) { std::fwrite(bytes.data(), 1, bytes.size(), stdout); }
@@ -46,16 +48,11 @@ void WriteThrough(const std::filesystem::path& device, const std::string& path,
   NotWritten(path, WriteTrouble(errno == ENOSPC ? CFileError::Full : CFileError::Failed));
 }
 
-std::vector<std::filesystem::path>& Inputs() {
-  static std::vector<std::filesystem::path> inputs;
-  return inputs;
-}
-
 // A picture, report or list takes the place neither of what the command reads nor of a store.
 void KeepFromLoss(const std::filesystem::path& target, const std::string& path,
                   const std::string& bytes) {
   std::error_code error;
-  for (const auto& input : Inputs()) {
+  for (const auto& input : InputsRead()) {
     if (std::filesystem::equivalent(input, target, error))
       Refuse(Say("{1}: 正是所读的文件；请另给名称",
                  "{1}: is the file that is read; right would be another name", {path}));
@@ -64,8 +61,8 @@ void KeepFromLoss(const std::filesystem::path& target, const std::string& path,
   const bool text = bytes.find('\0') == bytes.npos;
   if (text && std::filesystem::is_regular_file(target, error) &&
       ReadStoreInfo(FromUtf8(path), store)) {
-    Refuse(Say("{1}: 是截面库；请另给名称", "{1}: is a store of sections; right would be another name",
-               {path}));
+    Refuse(Say("{1}: 是截面库；请另给名称",
+               "{1}: is a store of sections; right would be another name", {path}));
   }
 }
 
@@ -110,10 +107,6 @@ void PrintJson(const CJson& json) {
     }
   }
   PrintBytes(text + '\n');
-}
-
-void NoteInput(const std::string& path) {
-  Inputs().emplace_back(std::u8string(path.begin(), path.end()));
 }
 
 void PrintCsv(const std::string& text) {

@@ -86,7 +86,8 @@ void AddFigure(CTextTable& table, const CFigure& figure, const CRowFigures& figu
 }
 
 void AddSymmetry(CTextTable& table, const std::string& letter, const std::optional<bool>& value) {
-  table.AddRow({"对称于" + letter + "轴", "", value ? (*value ? Say("是", "是 yes") : Say("否", "否 no")) : "-", "",
+  table.AddRow({"对称于" + letter + "轴", "",
+                value ? (*value ? Say("是", "是 yes") : Say("否", "否 no")) : "-", "",
                 Say({"", "symmetric about " + letter})});
 }
 
@@ -172,10 +173,12 @@ std::string LatticeNote(const CDataItem& row, const CRowFigures& figures) {
     double told = 0;
     const double value = figures.*field;
     if (!row.GetCellValue(sign, told) || std::fabs(told - value) <= 1e-5 * value) continue;
-    return Say("该行的 {1} = {2} 与由各肢按实际位置所得的 {3} 不同；行中 T 型钢的重心取在半高，肢 1 的顶部低 k。",
-               "The row's {1} = {2} differs from what its limbs give as they stand, {3}; rows count "
-               "a T's centroid at mid-height and limb 1's top k lower.",
-               {ToUtf8(CString(sign)), NumberText(told), NumberText(value)});
+    return Say(
+        "该行的 {1} = {2} 与由各肢按实际位置所得的 {3} 不同；行中 T 型钢的重心取在半高，肢 1 "
+        "的顶部低 k。",
+        "The row's {1} = {2} differs from what its limbs give as they stand, {3}; rows count "
+        "a T's centroid at mid-height and limb 1's top k lower.",
+        {ToUtf8(CString(sign)), NumberText(told), NumberText(value)});
   }
   return {};
 }
@@ -263,16 +266,17 @@ std::vector<std::string> RowDoubtNotes(const CDataItem& row) {
   for (std::string note : {StaleNote(row), LatticeNote(row, RowFigures(row))})
     if (!note.empty()) notes.push_back(std::move(note));
   for (const CRowDoubt& doubt : RowDoubts(row)) {
-    notes.push_back(Say("{1} 可疑：行中为 {2}，由尺寸的轮廓得 {3}（mm）。",
-                        "{1} is doubtful: the row tells {2}, the outline of its sizes has {3} (mm).",
-                        {doubt.m_szKey, NumberText(doubt.m_dTold), NumberText(doubt.m_dOutline)}));
+    notes.push_back(
+        Say("{1} 可疑：行中为 {2}，由尺寸的轮廓得 {3}（mm）。",
+            "{1} is doubtful: the row tells {2}, the outline of its sizes has {3} (mm).",
+            {doubt.m_szKey, NumberText(doubt.m_dTold), NumberText(doubt.m_dOutline)}));
   }
   return notes;
 }
 
 std::vector<std::string> RowNotes(const CDataItem& row) {
   std::vector<std::string> notes = RowDoubtNotes(row);
-  if (HasAngleCapacities(row.m_strTableName)) 
+  if (HasAngleCapacities(row.m_strTableName))
     notes.emplace_back(AngleCapacityBasis().In(MessageLanguage()));
   if (RowFigures(row).m_bAslant)
     notes.push_back(Say("X1 在两角钢之间，Y1 穿过两角钢，与肢成 45°。",

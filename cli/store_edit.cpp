@@ -76,9 +76,9 @@ class CRefusalCatcher {
 
   // The library has its words in Chinese.
   [[noreturn]] void Throw(const CDataItem& row) const {
-    Refuse(Say("{1}", "{2}: the table has a row \"{3}\" already; right would be another key",
-               {ToUtf8(m_text), ToUtf8(row.m_strTableName),
-                ToUtf8(row.m_arrCell.GetAt(0).m_strValue)}));
+    Refuse(Say(
+        "{1}", "{2}: the table has a row \"{3}\" already; right would be another key",
+        {ToUtf8(m_text), ToUtf8(row.m_strTableName), ToUtf8(row.m_arrCell.GetAt(0).m_strValue)}));
   }
 
  private:
@@ -104,7 +104,8 @@ void Tell(const COptions& options, const CDataItem& row, CTextLiteral done,
     Print(options.table + " \"" + no + "\": " + told + "\n");
     return PrintNotes(notes);
   }
-  CJson json = {{"table", options.table}, {"no", no}, {"done", done.m_szEnglish}, {"cells", RowCells(row)}};
+  CJson json = {
+      {"table", options.table}, {"no", no}, {"done", done.m_szEnglish}, {"cells", RowCells(row)}};
   if (!notes.empty()) json["notes"] = notes;
   PrintJson(json);
 }
@@ -149,7 +150,8 @@ int RowToChange(const CDataTable& table, const COptions& options) {
 void RunAdd(const COptions& options) {
   CStoreToWrite store(options.store);
   const CString name = FromUtf8(options.table);
-  if (CLoadDataTable::IsTableNameType(name, kPairs)) Refuse(Say("型钢组合不能进行复制",
+  if (CLoadDataTable::IsTableNameType(name, kPairs))
+    Refuse(Say("型钢组合不能进行复制",
                "TABLE: pairs are made of single sections and take no rows of their own"));
   CDataTable table = TableToAddTo(store.Path(), name);
   AlignIndices(table);
@@ -185,8 +187,12 @@ CLI::App* Add(CLI::App& store, const char* name, const std::string& what, bool t
               void (*run)(const COptions&)) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = store.add_subcommand(name, what);
-  command->add_option("TABLE", options->table, Say("表名，见 tables", "The table's name, as tables lists it"))->required();
-  if (takesNo) command->add_option("NO", options->no, Say("型号", "The section's number"))->required();
+  command
+      ->add_option("TABLE", options->table,
+                   Say("表名，见 tables", "The table's name, as tables lists it"))
+      ->required();
+  if (takesNo)
+    command->add_option("NO", options->no, Say("型号", "The section's number"))->required();
   if (run != RunDelete) {
     command
         ->add_option("--set", options->set,

@@ -109,7 +109,8 @@ std::string TableFileBytes(std::vector<CDataTable>& tables, int kind) {
   const auto file = CStoreFile::OpenToRead(place.Path());
   if (!file) Fail(LastStoreError().m_strText);
   std::string bytes(static_cast<std::size_t>(file->Size()), '\0');
-  if (!file->Read(0, bytes.data(), bytes.size())) Fail(Say(L"{1}: 不能读取", L"{1}: cannot be read", {place.Path()}));
+  if (!file->Read(0, bytes.data(), bytes.size()))
+    Fail(Say(L"{1}: 不能读取", L"{1}: cannot be read", {place.Path()}));
   return bytes;
 }
 
@@ -132,8 +133,9 @@ std::vector<CDataTable> TablesOf(const CString& store, const COptions& options) 
   CStringArray names;
   for (const std::string& name : options.tables) names.Add(FromUtf8(name));
   if (names.IsEmpty()) names = StoreTableNames(store);
-  if (names.IsEmpty()) Refuse(Say("{1}: 库中没有可以导出的表", "{1}: the store has no table to export",
-               {ToUtf8(store)}));
+  if (names.IsEmpty())
+    Refuse(
+        Say("{1}: 库中没有可以导出的表", "{1}: the store has no table to export", {ToUtf8(store)}));
   std::vector<CDataTable> tables;
   for (const CString& name : names) tables.push_back(Live(StoreTable(store, name)));
   return tables;
@@ -210,9 +212,10 @@ CString TemporaryFolder() {
 
 CTemporaryFile::CTemporaryFile() : CFreshFile(TemporaryFolder()) {
   if (Error() != CFileError::None) {
-    throw CCommandError(CExit::FileTrouble, Say("{1}: 不能在此建立临时文件，{2}",
-                                                "{1}: no temporary file can be made here, {2}",
-                                                {ToUtf8(TemporaryFolder()), WriteTrouble(Error())}));
+    throw CCommandError(
+        CExit::FileTrouble,
+        Say("{1}: 不能在此建立临时文件，{2}", "{1}: no temporary file can be made here, {2}",
+            {ToUtf8(TemporaryFolder()), WriteTrouble(Error())}));
   }
   Close();
 }
@@ -221,13 +224,18 @@ void AddStoreExportCommand(CLI::App& store) {
   auto options = std::make_shared<COptions>();
   CLI::App* command =
       store.add_subcommand("export", Say("把表写入 .KDB、.csv、.json 或 .xlsx 文件",
-                                   "Write tables to a .KDB, .csv, .json or .xlsx file"));
-  command->add_option("TABLE", options->tables, Say("表名；不给时为库中全部", "The tables; all of the store if none is named"));
-  command->add_option("--to", options->to, Say("文件，由文件名决定格式", "The file, whose name tells the form"))
+                                         "Write tables to a .KDB, .csv, .json or .xlsx file"));
+  command->add_option(
+      "TABLE", options->tables,
+      Say("表名；不给时为库中全部", "The tables; all of the store if none is named"));
+  command
+      ->add_option("--to", options->to,
+                   Say("文件，由文件名决定格式", "The file, whose name tells the form"))
       ->type_name("FILE")
       ->required();
-  command->add_flag("--guard", options->guard, Say("CSV 的单元格不会被电子表格当作公式",
-                        "No cell of a CSV is a formula to a spreadsheet"));
+  command->add_flag(
+      "--guard", options->guard,
+      Say("CSV 的单元格不会被电子表格当作公式", "No cell of a CSV is a formula to a spreadsheet"));
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunExport(*options); });
 }

@@ -47,7 +47,8 @@ bool IsCsv(const std::string& file) {
 // The table that a CSV file is for: the one of --table, else the one that its name tells.
 CString CsvTableName(const std::string& file, const std::string& given) {
   if (!given.empty()) return FromUtf8(given);
-  if (IsStream(file)) Refuse(Say("{1}: 文件名不能说明是哪个表；请给出 --table TABLE",
+  if (IsStream(file))
+    Refuse(Say("{1}: 文件名不能说明是哪个表；请给出 --table TABLE",
                "{1}: its name tells no table; right would be --table TABLE", {file}));
   const std::size_t slash = file.find_last_of("/\\");
   const std::string name = file.substr(slash == std::string::npos ? 0 : slash + 1);
@@ -185,9 +186,9 @@ void RunImport(const COptions& options) {
 
 void AddStoreImportCommand(CLI::App& store) {
   auto options = std::make_shared<COptions>();
-  CLI::App* command =
-      store.add_subcommand("import", Say("从 .kvb、.KDB 和 .csv 文件导入各行",
-                                     "Bring rows in from .kvb, .KDB and .csv files"));
+  CLI::App* command = store.add_subcommand(
+      "import",
+      Say("从 .kvb、.KDB 和 .csv 文件导入各行", "Bring rows in from .kvb, .KDB and .csv files"));
   command->footer(Say("有行或表被拒绝时退出状态为 2；其余已导入。",
                       "Exit status 2 when a row or a table was refused; the others came in."));
   command
@@ -195,14 +196,15 @@ void AddStoreImportCommand(CLI::App& store) {
                    Say("型钢数据文件、截面库文件或 CSV 文件；- 表示从标准输入读 CSV",
                        "Data files, table files or CSV files; - for CSV from standard input"))
       ->required();
-  command->add_option("--table", options->table,
-                      Say("只导入此表；CSV 时为各行所属的表",
-                          "This table alone; for CSV the table that the rows are for"))
+  command
+      ->add_option("--table", options->table,
+                   Say("只导入此表；CSV 时为各行所属的表",
+                       "This table alone; for CSV the table that the rows are for"))
       ->check([](const std::string& table) {
         const std::string length = std::to_string(FromUtf8(table).GetLength());
         if (FromUtf8(table).GetLength() > CDataTable::kMaxTableName)
-          return Say("有 {1} 个字符；表名至多 64 个", "has {1} characters; a table's name has at most 64",
-                     {length});
+          return Say("有 {1} 个字符；表名至多 64 个",
+                     "has {1} characters; a table's name has at most 64", {length});
         return table.empty() ? Say("为空；请给出表名，或不写此选项",
                                    "is empty; give a table's name, or leave the option out")
                              : std::string();

@@ -86,12 +86,11 @@ void PrintInfo(const CStoreOptions& place, const CStoreInfo& info) {
   static constexpr CTextLiteral kKinds[] = {
       {"系统库", "system"}, {"用户库", "user"}, {"当前库", "current"}};
   const bool known = info.m_nKind >= 0 && info.m_nKind < 3;
-  const std::string kind = known ? kKinds[info.m_nKind].In(MessageLanguage())
-                                 : Say("不明", "unknown");
+  const std::string kind =
+      known ? kKinds[info.m_nKind].In(MessageLanguage()) : Say("不明", "unknown");
   Print(Say("库      {1}\n种类    {2}\n信息行  {3}\n还可放  {4} 个表\n\n",
             "store       {1}\nkind        {2}\ninformation {3}\nroom for    {4} more tables\n\n",
-            {WhichStore(place), kind, ToUtf8(info.m_strLine),
-             std::to_string(info.m_nFreeTables)}));
+            {WhichStore(place), kind, ToUtf8(info.m_strLine), std::to_string(info.m_nFreeTables)}));
   CTextTable table(
       {CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left, CAlign::Right, CAlign::Right});
   table.AddRow({Say("表", "table"), Say("列", "columns"), Say("行", "rows"),
@@ -128,12 +127,13 @@ CJson FaultsJson(const std::vector<CStoreFault>& faults) {
 
 void PrintFaults(const std::string& kind, const std::vector<CStoreFault>& faults) {
   for (const CStoreFault& fault : faults) {
-    const std::string table =
-        fault.m_strTable.IsEmpty()
-            ? Say("文件", "file")
-            : Say("表 {1}", "table {1}", {ToUtf8(fault.m_strTable)});
-    Print(kind + Say("{1}，位于 {2}：{3}", "{1}, at {2}: {3}",
-                     {table, std::to_string(fault.m_nOffset), ToUtf8(fault.m_strWhat)}) + "\n");
+    const std::string table = fault.m_strTable.IsEmpty()
+                                  ? Say("文件", "file")
+                                  : Say("表 {1}", "table {1}", {ToUtf8(fault.m_strTable)});
+    Print(kind +
+          Say("{1}，位于 {2}：{3}", "{1}, at {2}: {3}",
+              {table, std::to_string(fault.m_nOffset), ToUtf8(fault.m_strWhat)}) +
+          "\n");
   }
 }
 
@@ -167,8 +167,10 @@ void Add(CLI::App& store, const char* name, const std::string& what, void (*run)
 
 void AddStoreInfoCommands(CLI::App& store) {
   Add(store, "info", Say("显示截面库文件的内容", "Tell what a table file holds"), RunInfo);
-  Add(store, "verify", Say("检查文件的错误；有错误时退出状态为 3",
-          "Look for faults; exit status 3 when there is one"), RunVerify);
+  Add(store, "verify",
+      Say("检查文件的错误；有错误时退出状态为 3",
+          "Look for faults; exit status 3 when there is one"),
+      RunVerify);
 }
 
 }  // namespace orv3::cli

@@ -6,6 +6,7 @@
 #include "error.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
+#include "inputs_read.h"
 #include "platform/file_system.h"
 #include "platform/places.h"
 #include "platform/store_error.h"
@@ -95,10 +96,12 @@ CString Catalogue(const CStoreOptions& options) {
 
 CString OwnStore() {
   const CString user = UserStore();
-  if (user.IsEmpty()) Fail(Say(L"不知道您自己的库应放在哪个文件夹（没有变量 HOME）；请用 --store FILE 给出",
+  if (user.IsEmpty())
+    Fail(Say(L"不知道您自己的库应放在哪个文件夹（没有变量 HOME）；请用 --store FILE 给出",
              L"no folder for your own store is known, the variable HOME is not set; name a store "
              L"with --store FILE"));
-  if (!MakeFolders(FolderOf(user))) Fail(Say(L"{1}: 不能建立此文件夹", L"{1}: this folder cannot be made", {FolderOf(user)}));
+  if (!MakeFolders(FolderOf(user)))
+    Fail(Say(L"{1}: 不能建立此文件夹", L"{1}: this folder cannot be made", {FolderOf(user)}));
   return user;
 }
 
@@ -121,7 +124,8 @@ void StartFromShipped(const CString& user) {
   const auto from = CStoreFile::OpenToRead(shipped);
   if (!from) Fail(LastStoreError().m_strText);
   std::string bytes(static_cast<std::size_t>(from->Size()), '\0');
-  if (!from->Read(0, bytes.data(), bytes.size())) Fail(Say(L"{1}: 不能读取", L"{1}: cannot be read", {shipped}));
+  if (!from->Read(0, bytes.data(), bytes.size()))
+    Fail(Say(L"{1}: 不能读取", L"{1}: cannot be read", {shipped}));
   if (!to->Write(0, bytes.data(), bytes.size()) || !to->Commit()) Fail(LastStoreError().m_strText);
 }
 
@@ -145,10 +149,9 @@ CString StoreToRead(const CStoreOptions& options) {
   const CString catalogue = Catalogue(options);
   const CString store = options.store.empty() ? catalogue : FromUtf8(options.store);
   if (store.IsEmpty()) {
-    Fail(
-        Say(L"程序旁和您自己的文件夹中都没有截面库；请给出 --store FILE 或 --data DIR",
-            L"there is no catalogue beside the program or in your own folder; right would be "
-            L"--store FILE or --data DIR"));
+    Fail(Say(L"程序旁和您自己的文件夹中都没有截面库；请给出 --store FILE 或 --data DIR",
+             L"there is no catalogue beside the program or in your own folder; right would be "
+             L"--store FILE or --data DIR"));
   }
   if (!IsThere(store)) Fail(NotFound(store));
   UseFor(store, catalogue);

@@ -13,9 +13,11 @@ namespace {
 
 [[noreturn]] void NotRead(const CString& store) {
   const CStoreError& error = LastStoreError();
-  throw CCommandError(CExit::FileTrouble, error.m_strText.IsEmpty()
-                                              ? Say("{1}: 不能作为截面库读取", "{1}: cannot be read as a store", {ToUtf8(store)})
-                                              : ToUtf8(error.m_strText));
+  throw CCommandError(
+      CExit::FileTrouble,
+      error.m_strText.IsEmpty()
+          ? Say("{1}: 不能作为截面库读取", "{1}: cannot be read as a store", {ToUtf8(store)})
+          : ToUtf8(error.m_strText));
 }
 
 }  // namespace

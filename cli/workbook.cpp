@@ -104,10 +104,11 @@ std::string WorkbookBytes(const std::string& file, const std::vector<CDataTable>
       ReadWholeFile(made.Path(), bytes) == CFileError::None) {
     return bytes;
   }
-  throw CCommandError(CExit::FileTrouble, Say("{1}: 没有写入，不能在 {2} 建立工作簿；磁盘是否已满？",
-                                              "{1}: not written, the workbook could not be made at "
-                                              "{2}; is that disk full?",
-                                              {file, ToUtf8(made.Path())}));
+  throw CCommandError(CExit::FileTrouble,
+                      Say("{1}: 没有写入，不能在 {2} 建立工作簿；磁盘是否已满？",
+                          "{1}: not written, the workbook could not be made at "
+                          "{2}; is that disk full?",
+                          {file, ToUtf8(made.Path())}));
 }
 
 }  // namespace orv3::cli

@@ -19,7 +19,8 @@ CSentence Wanted(CType type) {
     case CDataTypeStruct::KVBT_CHAR:
       return {L"一个字符", L"one character"};
     case CDataTypeStruct::KVBT_FLOAT:
-      return {L"绝对值不大于 3.4e38 的数值，例如 12.5", L"a number of at most 3.4e38, such as 12.5"};
+      return {L"绝对值不大于 3.4e38 的数值，例如 12.5",
+              L"a number of at most 3.4e38, such as 12.5"};
     case CDataTypeStruct::KVBT_DOUBLE:
       return {L"数值，例如 12.5", L"a number, such as 12.5"};
     case CDataTypeStruct::KVBT_INT:

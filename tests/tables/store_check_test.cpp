@@ -125,8 +125,7 @@ TEST_F(StoreCheck, EachFaultOfAFileIsNamedByItsPlace) {
       {"row text", with(kFirst + 208, golden::Fake("\xFF")), kFirst + 200},
       {"no number", with(kFirst + 200, golden::Field("0,,,0,,,a,,,1.5x", 91)), kFirst + 200},
       {"same key",
-       with(kFirst + 200,
-            golden::Field("0,,,0,,,a,,,1", 91) + golden::Field("1,,,0,,,a,,,2", 91)),
+       with(kFirst + 200, golden::Field("0,,,0,,,a,,,1", 91) + golden::Field("1,,,0,,,a,,,2", 91)),
        kFirst + 291},
   };
   for (const auto& c : kCases) {

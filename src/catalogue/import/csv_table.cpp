@@ -56,7 +56,7 @@ bool MakeUtf8(std::string& text) {
   }
   if (IsUtf8(text)) return true;
   const CString wide = FromAnsi(text);
-  if (wide.Find(L'\xFFFD') >= 0 || AnsiCut(text, text.size()) != text.size()) return false;
+  if (HasMeaningless(wide.View()) || AnsiCut(text, text.size()) != text.size()) return false;
   text = ToUtf8(wide);
   return true;
 }
@@ -84,7 +84,10 @@ struct CCsvColumn {
 bool ParseColumn(std::string_view text, CCsvColumn& column, CString& why) {
   const std::size_t first = text.find(':');
   column.m_strSign = FromUtf8(text.substr(0, first)).Trim();
-  if (column.m_strSign.IsEmpty()) return Refuse(LineText(1) + Say(L"有一列没有标识；每列应有标识", L"a column without a sign; right would be one for each column"), why);
+  if (column.m_strSign.IsEmpty())
+    return Refuse(LineText(1) + Say(L"有一列没有标识；每列应有标识",
+                                    L"a column without a sign; right would be one for each column"),
+                  why);
   if (first == std::string_view::npos) return true;
   std::string_view type = text.substr(first + 1);
   const std::size_t second = type.find(':');
@@ -92,12 +95,13 @@ bool ParseColumn(std::string_view text, CCsvColumn& column, CString& why) {
   type = type.substr(0, second);
   const auto* found = std::find(kTypes.begin(), kTypes.end(), type);
   if (found == kTypes.end() || (second != std::string_view::npos && key != "key")) {
-    return Refuse(LineText(1) +
-                      Say(L"“{1}”不是列；应为 标识:类型 或 标识:类型:key，类型为 text、int、long、float、double、char",
+    return Refuse(
+        LineText(1) + Say(L"“{1}”不是列；应为 标识:类型 或 标识:类型:key，类型为 "
+                          L"text、int、long、float、double、char",
                           L"\"{1}\" is no column; right would be sign:type or sign:type:key with a "
                           L"type of text, int, long, float, double, char",
                           {FromUtf8(Excerpt(text))}),
-                  why);
+        why);
   }
   column.m_bTyped = true;
   column.m_nType = static_cast<CDataTypeStruct::KVBT_Value_Type>(found - kTypes.begin());
@@ -153,18 +157,21 @@ class CCsvTable {
         return Refuse(LineText(1) + (twice ? Twice(column) : Missing(column)), m_why);
       }
       if (column.m_bTyped && ValueClassOf(column.m_nType) != ValueClassOf(title[at].m_nType)) {
-        return Refuse(LineText(1) + Say(L"列“{1}”在表中的类型是 {2}；应与之相同",
-                                        L"column \"{1}\" is of type {2} in the table; right would "
-                                        L"be that one",
-                                        {column.m_strSign, FromUtf8(ValueTypeName(title[at].m_nType))}),
-                      m_why);
+        return Refuse(
+            LineText(1) + Say(L"列“{1}”在表中的类型是 {2}；应与之相同",
+                              L"column \"{1}\" is of type {2} in the table; right would "
+                              L"be that one",
+                              {column.m_strSign, FromUtf8(ValueTypeName(title[at].m_nType))}),
+            m_why);
       }
       taken[static_cast<std::size_t>(at)] = true;
       m_arrColumn.push_back(at);
     }
     for (int i = 0; i < title.GetTableTitleNum(); ++i) {
       if (title[i].m_bKey == 0 || taken[static_cast<std::size_t>(i)]) continue;
-      return Refuse(LineText(1) + Say(L"缺少关键字列“{1}”", L"the key column \"{1}\" is missing", {title[i].m_strSign}), m_why);
+      return Refuse(LineText(1) + Say(L"缺少关键字列“{1}”", L"the key column \"{1}\" is missing",
+                                      {title[i].m_strSign}),
+                    m_why);
     }
     return true;
   }
@@ -184,12 +191,14 @@ class CCsvTable {
   bool Start(const std::vector<CCsvColumn>& columns) {
     for (const CCsvColumn& column : columns) {
       if (!column.m_bTyped) {
-        return Refuse(LineText(1) + Say(L"库中没有表“{1}”，列“{2}”没有类型；例如可写为 {2}:double，关键字列为 :text:key",
-                                        L"the store has no table \"{1}\" and column \"{2}\" no type; "
-                                        L"right would be for example {2}:double, or :text:key for "
-                                        L"the key",
-                                        {m_name, column.m_strSign}),
-                      m_why);
+        return Refuse(
+            LineText(1) + Say(L"库中没有表“{1}”，列“{2}”没有类型；例如可写为 "
+                              L"{2}:double，关键字列为 :text:key",
+                              L"the store has no table \"{1}\" and column \"{2}\" no type; "
+                              L"right would be for example {2}:double, or :text:key for "
+                              L"the key",
+                              {m_name, column.m_strSign}),
+            m_why);
       }
       if (m_table.m_table.m_Title.GetColIndex(column.m_strSign) >= 0) {
         return Refuse(LineText(1) + Twice(column), m_why);
@@ -216,8 +225,7 @@ class CCsvTable {
     }
     if (m_known) return CompleteRow(row);
     const int misfit = FindMisfit(row);
-    return misfit < 0 ? CString()
-                      : MisfitText(std::as_const(row)[misfit]).In(MessageLanguage());
+    return misfit < 0 ? CString() : MisfitText(std::as_const(row)[misfit]).In(MessageLanguage());
   }
 
   const CString m_name;
@@ -248,7 +256,9 @@ bool ReadCsvTable(std::string text, const CString& name, const CDataTableTitle& 
   CCsvTable csv(name, table, why);
   if (reader.Next(cells)) DropEmptyEnd(cells);
   if (cells.empty() && !reader.IsMalformed()) {
-    return Refuse(Say(L"首行为空；应为各列的标识", L"the first line is empty; right would be the columns' signs"), why);
+    return Refuse(Say(L"首行为空；应为各列的标识",
+                      L"the first line is empty; right would be the columns' signs"),
+                  why);
   }
   if (!reader.IsMalformed() && !csv.Head(cells, stored)) return false;
   for (int rows = 0; reader.Next(cells);) {
@@ -258,12 +268,13 @@ bool ReadCsvTable(std::string text, const CString& name, const CDataTableTitle& 
     if (progress) progress(reader.Done());
   }
   if (!reader.IsMalformed()) return true;
-  return Refuse(LineText(reader.Line()) +
-                    Say(L"有一个引号单元格没有结束，或其后还有文字；请在分隔符之前结束引号，其中的引号写两个",
-                        L"a cell in quotation marks is not closed, or goes on behind them; right "
-                        L"would be to close it before the separator and to double the marks within "
-                        L"it"),
-                why);
+  return Refuse(
+      LineText(reader.Line()) +
+          Say(L"有一个引号单元格没有结束，或其后还有文字；请在分隔符之前结束引号，其中的引号写两个",
+              L"a cell in quotation marks is not closed, or goes on behind them; right "
+              L"would be to close it before the separator and to double the marks within "
+              L"it"),
+      why);
 }
 
 }  // namespace orv3

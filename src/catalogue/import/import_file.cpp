@@ -47,10 +47,9 @@ bool ReadTableFile(const CString& file, std::vector<CImportTable>& tables, CStri
                                   [](const CStoreFault& fault) { return !fault.m_bValue; });
   if (found != faults.end()) {
     const CStoreFault& fault = *found;
-    const CString table =
-        fault.m_strTable.IsEmpty()
-            ? CString()
-            : Say(L"表“{1}”", L"table \"{1}\", ", {fault.m_strTable});
+    const CString table = fault.m_strTable.IsEmpty()
+                              ? CString()
+                              : Say(L"表“{1}”", L"table \"{1}\", ", {fault.m_strTable});
     return Refuse(file,
                   Say(L"已损坏：{1}位于 {2}：{3}", L"damaged: {1}at {2}: {3}",
                       {table, FormatInt(fault.m_nOffset), fault.m_strWhat}),
@@ -82,11 +81,14 @@ bool ReadRecords(const CString& file, const CRolledStyle& style, std::string& re
                  CString& why) {
   CFileStamp stamp;
   if (Files().Stamp(file, stamp) == CFileError::None && stamp.m_nSize > kLargestDataFile) {
-    return Refuse(file, Say(L"大于 16 MB，不是数据文件", L"of more than 16 MB, which no data file is"), why);
+    return Refuse(
+        file, Say(L"大于 16 MB，不是数据文件", L"of more than 16 MB, which no data file is"), why);
   }
   if (ReadWholeFile(file, records) != CFileError::None) {
-    return Refuse(file, Say(L"不能读取；应对当前用户开放，且未被占用",
-                            L"not to be read; it must be open to this user and free"), why);
+    return Refuse(file,
+                  Say(L"不能读取；应对当前用户开放，且未被占用",
+                      L"not to be read; it must be open to this user and free"),
+                  why);
   }
   std::int16_t size = 0;
   if (records.size() >= kHeader) std::memcpy(&size, records.data(), kHeader);
@@ -120,12 +122,18 @@ bool TakeRecords(const CString& file, const CRolledStyle& style, const std::stri
   for (std::size_t at = 0; at < records.size(); at += size) {
     const CString record = FormatInt(static_cast<long long>(at / size) + 1);
     const CString no = RecordNumber(style, records.data() + at);
-    if (no.IsEmpty()) return Refuse(file, Say(L"已损坏：第 {1} 条记录没有型号", L"damaged: record {1} has no model number", {record}), why);
+    if (no.IsEmpty())
+      return Refuse(file,
+                    Say(L"已损坏：第 {1} 条记录没有型号",
+                        L"damaged: record {1} has no model number", {record}),
+                    why);
     CStringArray values;
     CDataTable::TransStrToArray(RecordRow(style, records.data() + at), L",", values);
     if (values.GetSize() != style.Columns() + 1) {
-      return Refuse(file, Say(L"已损坏：第 {1} 条记录“{2}”中有逗号", L"damaged: record {1}, \"{2}\", has a comma",
-                        {record, no}), why);
+      return Refuse(file,
+                    Say(L"已损坏：第 {1} 条记录“{2}”中有逗号",
+                        L"damaged: record {1}, \"{2}\", has a comma", {record, no}),
+                    why);
     }
     for (int i = 0; i < style.Columns(); ++i) {
       if (style.Field(i).m_nKind == CFieldKind::Text || IsNumber(values[i + 1])) continue;
@@ -140,7 +148,7 @@ bool TakeRecords(const CString& file, const CRolledStyle& style, const std::stri
       source.m_table.AddTableItem(values, userTwin ? 1 : 0);
     } else {
       source.m_arrRefused.push_back({no, Say(L"文件中前面已有该型号的记录",
-                                               L"the file has an earlier record of this number")});
+                                             L"the file has an earlier record of this number")});
     }
   }
   return true;
@@ -177,14 +185,16 @@ bool ReadDataFile(const CString& file, std::vector<CImportTable>& tables, CStrin
 bool ReadImportFile(const CString& file, std::vector<CImportTable>& tables, CString& why) {
   tables.clear();
   CFileStamp stamp;
-  if (Files().Stamp(file, stamp) == CFileError::NotFound) return Refuse(file, Say(L"文件不存在", L"not found"), why);
+  if (Files().Stamp(file, stamp) == CFileError::NotFound)
+    return Refuse(file, Say(L"文件不存在", L"not found"), why);
   if (HasExtension(file, L".kvb")) return ReadDataFile(file, tables, why);
   if (HasExtension(file, L".kdb")) return ReadTableFile(file, tables, why);
-  return Refuse(file,
-                Say(L"不是可以导入的文件；应为截面库文件（.KDB）、型钢数据文件（.kvb），命令还可用 .csv 文件",
-                    L"of no kind that can be imported; right would be a table file (.KDB), a "
-                    L"rolled-section data file (.kvb) or, for the command, a .csv file"),
-                why);
+  return Refuse(
+      file,
+      Say(L"不是可以导入的文件；应为截面库文件（.KDB）、型钢数据文件（.kvb），命令还可用 .csv 文件",
+          L"of no kind that can be imported; right would be a table file (.KDB), a "
+          L"rolled-section data file (.kvb) or, for the command, a .csv file"),
+      why);
 }
 
 CImportReport ImportFile(const CString& file, const CString& store, const CImportOptions& options) {

@@ -93,7 +93,8 @@ CString CompleteRow(CDataItem& row) {
   if (misfit >= 0) return MisfitText(std::as_const(row)[misfit]).In(MessageLanguage());
   if (!IsLattice(row.m_strTableName)) return {};
   CSteelItemGeGou lattice(row);
-  if (!lattice.CalSteelJMGeGou()) return Say(L"不能由各肢计算其特性", L"its properties cannot be computed from its limbs");
+  if (!lattice.CalSteelJMGeGou())
+    return Say(L"不能由各肢计算其特性", L"its properties cannot be computed from its limbs");
   row = lattice;
   return {};
 }

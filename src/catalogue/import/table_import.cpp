@@ -113,11 +113,12 @@ class CTableMerger {
           have[i].m_strName == come[i].m_strName && have[i].m_bKey == come[i].m_bKey) {
         continue;
       }
-      return Say(L"第 {1} 列是“{2}”（{3}），库中是“{4}”（{5}）；名称、标识、类型和关键字应相同",
-                 L"column {1} is \"{2}\" ({3}), in the store \"{4}\" ({5}); names, signs, types and "
-                 L"keys must agree",
-                 {FormatInt(i + 1), come[i].m_strSign, come[i].m_strName, have[i].m_strSign,
-                  have[i].m_strName});
+      return Say(
+          L"第 {1} 列是“{2}”（{3}），库中是“{4}”（{5}）；名称、标识、类型和关键字应相同",
+          L"column {1} is \"{2}\" ({3}), in the store \"{4}\" ({5}); names, signs, types and "
+          L"keys must agree",
+          {FormatInt(i + 1), come[i].m_strSign, come[i].m_strName, have[i].m_strSign,
+           have[i].m_strName});
     }
     return Say(L"它有 {1} 列，库中有 {2} 列", L"it has {1} columns, in the store {2}",
                {FormatInt(come.GetTableTitleNum()), FormatInt(have.GetTableTitleNum())});
@@ -249,10 +250,13 @@ CImportReport ImportTables(const std::vector<CImportTable>& tables, const CStrin
     done = batch.IsHeld() && MergeAll(tables, store, options, report, changed) &&
            (!changed || batch.Commit());
   } catch (const CInvalidArgException&) {  // a row on file with more values than columns
-    SetStoreError(CStoreTrouble::Damaged, store, Say(L"{1}: 有一行的值多于列", L"{1}: a row has more values than columns", {store}));
+    SetStoreError(
+        CStoreTrouble::Damaged, store,
+        Say(L"{1}: 有一行的值多于列", L"{1}: a row has more values than columns", {store}));
   }
   if (done && !options.m_strTable.IsEmpty() && report.m_arrTable.empty()) {
-    report.m_strWhy = Say(L"文件中没有表“{1}”", L"the source has no table \"{1}\"", {options.m_strTable});
+    report.m_strWhy =
+        Say(L"文件中没有表“{1}”", L"the source has no table \"{1}\"", {options.m_strTable});
     return report;
   }
   report.m_bDone = done;

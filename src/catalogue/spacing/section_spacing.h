@@ -13,7 +13,7 @@
 namespace orv3 {
 
 struct CSpacingColumn {
-  const char* m_szKey;      // short, different for each figure of a spacing
+  const char* m_szKey;  // short, different for each figure of a spacing
   CTextLiteral m_meaning;
 };
 

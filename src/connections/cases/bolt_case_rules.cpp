@@ -60,14 +60,13 @@ void SpacingFaults(const char* key, CTextLiteral lines, const CSpacing& spacing,
     const std::string given = std::to_string(each.size());
     const std::string needed = std::to_string(count);
     const std::string all = std::to_string(count + 1);
-    faults.Add(
-        key,
-        {"给了 " + given + " 个间距，而有 " + all + " " + lines.m_szChinese,
-         given + (given == "1" ? " spacing for " : " spacings for ") + all + " " +
-             std::string(lines.m_szEnglish, std::strlen(lines.m_szEnglish) - (count == 0))},
-        count == 0 ? CText{"请不给此键", "leave the key out"}
-                   : CText{"请给 " + needed + " 个，或一个通用值",
-                           "give " + needed + ", or one number for all"});
+    faults.Add(key,
+               {"给了 " + given + " 个间距，而有 " + all + " " + lines.m_szChinese,
+                given + (given == "1" ? " spacing for " : " spacings for ") + all + " " +
+                    std::string(lines.m_szEnglish, std::strlen(lines.m_szEnglish) - (count == 0))},
+               count == 0 ? CText{"请不给此键", "leave the key out"}
+                          : CText{"请给 " + needed + " 个，或一个通用值",
+                                  "give " + needed + ", or one number for all"});
     return;
   }
   if (count == 0) return;
@@ -311,14 +310,14 @@ void SectionWarning(const char* key, double recorded, const CPlateSection& secti
   const std::string area = PlainNumber(section.m_dNet) + " mm²";
   const std::string share =
       bFriction ? ", 1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
-  warnings.push_back({key,
-                      {std::string("记录的 ") + key + " 截面应力为 " + was +
-                           "；按 5.1.1 条最不利截面（" + number + " 孔，净面积 " + area + share +
-                           "）验算：" + is + "。",
-                       std::string("The record's section stress from ") + key + " is " +
-                           was + "; judged by the worst section of 5.1.1 (" + number +
-                           (section.Holes() == 1 ? " hole, net " : " holes, net ") + area + share +
-                           "): " + is + "."}});
+  warnings.push_back(
+      {key,
+       {std::string("记录的 ") + key + " 截面应力为 " + was + "；按 5.1.1 条最不利截面（" + number +
+            " 孔，净面积 " + area + share + "）验算：" + is + "。",
+        std::string("The record's section stress from ") + key + " is " + was +
+            "; judged by the worst section of 5.1.1 (" + number +
+            (section.Holes() == 1 ? " hole, net " : " holes, net ") + area + share + "): " + is +
+            "."}});
 }
 
 }  // namespace

@@ -38,9 +38,9 @@ struct CStoreFault {
 };
 
 // Every fault of a table file: of its structure, and of rows whose values read as something else (a
-// number that is none) or that no look-up finds (a key that an earlier row has). As notes, what harms nothing: rows behind a table's
-// count of them and blocks that it does not need, as a save of fewer rows leaves them. False, with
-// LastStoreError set, when the file cannot be read.
+// number that is none) or that no look-up finds (a key that an earlier row has). As notes, what
+// harms nothing: rows behind a table's count of them and blocks that it does not need, as a save of
+// fewer rows leaves them. False, with LastStoreError set, when the file cannot be read.
 ORV3CAL_API bool VerifyStore(const CString& path, std::vector<CStoreFault>& faults,
                              std::vector<CStoreFault>* notes = nullptr);
 

@@ -1,9 +1,9 @@
-#include "connections/report/report_page.h"
+#include "reports/report_page.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "connections/cases/case_rules.h"
+#include "framework/plain_number.h"
 #include "framework/utf8.h"
 
 namespace orv3 {
@@ -126,7 +126,7 @@ std::string Formula(std::string_view text) {
 }
 
 std::string Put(double value) {
-  const std::string text = PlainNumber(value);
+  const std::string text = SubstitutedNumber(value);
   return value < 0 ? "(" + text + ")" : text;
 }
 
