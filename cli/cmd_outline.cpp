@@ -209,23 +209,35 @@ void RunOutline(const COptions& options) {
 void AddOutlineCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "outline", "Exact properties of any outline: torsion, warping, shear, plastic, principal");
+      "outline", Say("由任意轮廓精确计算扭转、翘曲、剪切、塑性和主轴特性",
+                     "Exact properties of any outline: torsion, warping, shear, plastic, "
+                     "principal"));
   command
       ->add_option("FILE", options->file,
-                   "A DXF file, or JSON {\"unit\": \"mm\", \"loops\": [[[x, y], [x, y, bulge], "
-                   "...], ...]}; - reads standard input")
+                   Say("DXF 文件，或 JSON {\"unit\": \"mm\", \"loops\": [[[x, y], [x, y, 凸度], "
+                       "...], ...]}；- 为标准输入",
+                       "A DXF file, or JSON {\"unit\": \"mm\", \"loops\": [[[x, y], [x, y, "
+                       "bulge], ...], ...]}; - reads standard input"))
       ->required();
-  command->add_option("--layer", options->layer, "Of a DXF file this layer only")
+  command
+      ->add_option("--layer", options->layer,
+                   Say("DXF 文件只读此图层", "Of a DXF file this layer only"))
       ->type_name("NAME");
-  CLI::Option* json =
-      command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
-  command->add_flag("--csv", options->csv, "As CSV, one line")->excludes(json);
-  command->add_option("--svg", options->svg, "Write a picture with axes and shear centre")
+  CLI::Option* json = command->add_flag(
+      "--json", options->json,
+      Say("以 JSON 输出，数值全部有效位", "As JSON, numbers with all their digits"));
+  command->add_flag("--csv", options->csv, Say("以 CSV 输出，一行", "As CSV, one line"))
+      ->excludes(json);
+  command
+      ->add_option("--svg", options->svg,
+                   Say("写出绘有各轴和剪心的图", "Write a picture with axes and shear centre"))
       ->type_name("FILE");
   command
       ->add_option("--stress", options->stress,
-                   "Stresses from N,Mx,My,T or N,Mx,My,T,Vx,Vy in kN and kN·mm; Mx pulls the "
-                   "upper edge, My the right one, N tension")
+                   Say("由 N,Mx,My,T 或 N,Mx,My,T,Vx,Vy 求应力，kN、kN·mm；N 受拉为正，Mx 使上边缘"
+                       "受拉，My 使右边缘受拉",
+                       "Stresses from N,Mx,My,T or N,Mx,My,T,Vx,Vy in kN and kN·mm; Mx pulls the "
+                       "upper edge, My the right one, N tension"))
       ->delimiter(',')
       ->expected(1, 6)
       ->type_name("N,Mx,My,T");

@@ -27,8 +27,9 @@ const CString& Value(const CDataItem& item, int cell) {
 }
 
 CRowFault Fault(const CDataItem& item, int cell, const CSentence& what) {
-  return {cell, {Caption(item, cell) + L"：" + what.m_strChinese,
-                 item.GetCellSign(cell) + L": " + what.m_strEnglish}};
+  return {cell,
+          {Caption(item, cell) + L"：" + what.m_strChinese,
+           item.GetCellSign(cell) + L": " + what.m_strEnglish}};
 }
 
 bool IsControl(wchar_t ch) { return ch < L' ' || ch == L'\x7f'; }
@@ -39,36 +40,40 @@ CFault CheckStored(const CDataItem& item, int cell) {
   const CString& value = Value(item, cell);
   if (value.GetLength() > kMaxStoredValue) {
     return Fault(item, cell,
-                 Both(L"共{1}个字符，最多{2}个，请缩短。",
-                      L"has {1} characters; give at most {2}",
+                 Both(L"共{1}个字符，最多{2}个，请缩短。", L"has {1} characters; give at most {2}",
                       {FormatInt(value.GetLength()), FormatInt(kMaxStoredValue)}));
   }
   const std::wstring_view text = value.View();
   if (std::any_of(text.begin(), text.end(), IsControl)) {
-    return Fault(item, cell, Both(L"含有换行或控制字符，请删去。",
-                      L"has a line end or control character; take it out"));
+    return Fault(
+        item, cell,
+        Both(L"含有换行或控制字符，请删去。", L"has a line end or control character; take it out"));
   }
   if (text.find(L',') != std::wstring_view::npos) {
-    return Fault(item, cell, Both(L"“{1}”含有逗号，逗号用于分隔数据，请改用其他字符。",
-                      L"\"{1}\" has a comma, which separates values; use another character",
-                      {value}));
+    return Fault(
+        item, cell,
+        Both(L"“{1}”含有逗号，逗号用于分隔数据，请改用其他字符。",
+             L"\"{1}\" has a comma, which separates values; use another character", {value}));
   }
   bool missing = false;
   EncodeText(text, &missing);
-  if (missing) return Fault(item, cell, Both(L"“{1}”含有系统字符集以外的字符，请改写。",
-                      L"\"{1}\" has a character that the code page lacks; write it otherwise",
-                      {value}));
+  if (missing)
+    return Fault(
+        item, cell,
+        Both(L"“{1}”含有系统字符集以外的字符，请改写。",
+             L"\"{1}\" has a character that the code page lacks; write it otherwise", {value}));
   return {};
 }
 
 CFault CheckNo(const CDataItem& item) {
   const CString& no = Value(item, 0);
   if (CString(no).Trim().IsEmpty()) {
-    return Fault(item, 0, Both(L"不能为空，请输入型号，例如“H400X300”。",
+    return Fault(item, 0,
+                 Both(L"不能为空，请输入型号，例如“H400X300”。",
                       L"is empty; give a number such as H400X300"));
   }
-  if (CString(no).Trim() != no) return Fault(item, 0, Both(L"首尾不能有空格，请删去。",
-                      L"has a space at an end; take it out"));
+  if (CString(no).Trim() != no)
+    return Fault(item, 0, Both(L"首尾不能有空格，请删去。", L"has a space at an end; take it out"));
   return CheckStored(item, 0);
 }
 
@@ -76,9 +81,11 @@ CFault CheckNo(const CDataItem& item) {
 
 CFault CheckNumber(const CDataItem& item, int cell) {
   const CString& value = Value(item, cell);
-  if (CString(value).Trim().IsEmpty()) return Fault(item, cell, Both(L"不能为空，请输入数值。", L"is empty; give a number"));
+  if (CString(value).Trim().IsEmpty())
+    return Fault(item, cell, Both(L"不能为空，请输入数值。", L"is empty; give a number"));
   if (!IsNumber(value)) {
-    return Fault(item, cell, Both(L"“{1}”不是数值，请输入数字，例如“300”或“12.5”。",
+    return Fault(item, cell,
+                 Both(L"“{1}”不是数值，请输入数字，例如“300”或“12.5”。",
                       L"\"{1}\" is no number; give one such as 300 or 12.5", {value}));
   }
   return CheckStored(item, cell);
@@ -87,8 +94,9 @@ CFault CheckNumber(const CDataItem& item, int cell) {
 CFault CheckPositive(const CDataItem& item, int cell) {
   if (auto fault = CheckNumber(item, cell)) return fault;
   if (ToDouble(Value(item, cell)) > 0) return {};
-  return Fault(item, cell, Both(L"{1}不可用，应大于0。", L"{1} is not possible; give more than 0",
-                    {Value(item, cell)}));
+  return Fault(
+      item, cell,
+      Both(L"{1}不可用，应大于0。", L"{1} is not possible; give more than 0", {Value(item, cell)}));
 }
 
 // --- Sections of plates -------------------------------------------------------------------------
@@ -100,10 +108,12 @@ CSentence Wanted(const CSectionFault& fault) {
     case CSizeRule::NotNegative:
       return Both(L"不应小于0。", L"; give 0 or more");
     case CSizeRule::Below:
-      return Both(L"与其他尺寸不符，应小于{1}。", L" does not go with the other sizes; give less than {1}",
+      return Both(L"与其他尺寸不符，应小于{1}。",
+                  L" does not go with the other sizes; give less than {1}",
                   {FormatShortest(fault.m_dBound)});
     case CSizeRule::AtMost:
-      return Both(L"与其他尺寸不符，不应大于{1}。", L" does not go with the other sizes; give at most {1}",
+      return Both(L"与其他尺寸不符，不应大于{1}。",
+                  L" does not go with the other sizes; give at most {1}",
                   {FormatShortest(fault.m_dBound)});
     case CSizeRule::Finite:
       break;
@@ -120,8 +130,9 @@ CFault CheckSection(const CDataItem& item, const CSectionStyle& style) {
   if (const auto fault = CheckSectionSizes(style, sizes)) {
     const int cell = fault->m_nSize + 1;
     const CSentence wanted = Wanted(*fault);
-    return Fault(item, cell,
-                 {Value(item, cell) + wanted.m_strChinese, Value(item, cell) + wanted.m_strEnglish});
+    return Fault(
+        item, cell,
+        {Value(item, cell) + wanted.m_strChinese, Value(item, cell) + wanted.m_strEnglish});
   }
   for (int cell = style.m_nSizes + 1; cell <= style.m_nSizes + 2; ++cell) {  // the base point
     if (auto fault = CheckNumber(item, cell)) return fault;
@@ -137,7 +148,8 @@ CFault CheckAngle(const CDataItem& item, int cell) {
   if (auto fault = CheckNumber(item, cell)) return fault;
   const double quarters = ToDouble(Value(item, cell)) / 90;
   if (quarters >= 0 && quarters < 4 && quarters == std::floor(quarters)) return {};
-  return Fault(item, cell, Both(L"{1}不可用，应为0、90、180或270。",
+  return Fault(item, cell,
+               Both(L"{1}不可用，应为0、90、180或270。",
                     L"{1} is not possible; give 0, 90, 180 or 270", {Value(item, cell)}));
 }
 
@@ -147,7 +159,7 @@ CFault CheckLimb(const CDataItem& item, int limb) {
   const int angle = item.GetSignIndex(LimbSign(limb, L"θ°"));
   if (number < 0 || angle < 0)
     return CRowFault{-1, Both(L"本行缺少第{1}肢的数据。", L"the row lacks the cells of limb {1}",
-                                {FormatInt(limb)})};
+                              {FormatInt(limb)})};
   for (const int cell : {type, number}) {
     if (auto fault = CheckStored(item, cell)) return fault;
   }
@@ -196,7 +208,8 @@ CFault CheckFigure(const CDataItem& item, int cell) {
   const double value = ToDouble(Value(item, cell));
   const double most = length ? kMostLength : kMost;
   if (value > most) {
-    return Fault(item, cell, Both(L"{1}不可用，不应大于{2}。", L"{1} is not possible; give at most {2}",
+    return Fault(item, cell,
+                 Both(L"{1}不可用，不应大于{2}。", L"{1} is not possible; give at most {2}",
                       {Value(item, cell), FormatG(most)}));
   }
   if (value > 0 || (value == 0 && !size)) return {};
@@ -226,9 +239,9 @@ CFault CheckCells(const CDataItem& item) {
 std::optional<CRowFault> CheckRow(const CDataItem& item) {
   const CSectionStyle* style = FindSectionStyle(item.m_strTableName.View());
   if (item.GetItemLength() < (style ? style->m_nSizes + 3 : 2)) {
-    return CRowFault{-1, Both(L"本行数据不完整，应先按“{1}”的列填写。",
-                               L"the row is incomplete; fill in the columns of \"{1}\"",
-                               {item.m_strTableName})};
+    return CRowFault{
+        -1, Both(L"本行数据不完整，应先按“{1}”的列填写。",
+                 L"the row is incomplete; fill in the columns of \"{1}\"", {item.m_strTableName})};
   }
   if (auto fault = CheckNo(item)) return fault;
   if (style) return CheckSection(item, *style);

@@ -1,5 +1,7 @@
 #include "catalogue/import/section_rows.h"
 
+#include <utility>
+
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/rolled/rolled_style.h"
@@ -10,6 +12,7 @@
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 #include "tables/data_table.h"
+#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -86,9 +89,12 @@ CString CompleteRow(CDataItem& row) {
     return Say(L"行的单元格与“{1}”的列不符", L"the row has other cells than the columns of \"{1}\"",
                {row.m_strTableName});
   }
+  const int misfit = FindMisfit(row);
+  if (misfit >= 0) return MisfitText(std::as_const(row)[misfit]).In(MessageLanguage());
   if (!IsLattice(row.m_strTableName)) return {};
   CSteelItemGeGou lattice(row);
-  if (!lattice.CalSteelJMGeGou()) return Say(L"不能由各肢计算其特性", L"its properties cannot be computed from its limbs");
+  if (!lattice.CalSteelJMGeGou())
+    return Say(L"不能由各肢计算其特性", L"its properties cannot be computed from its limbs");
   row = lattice;
   return {};
 }

@@ -54,14 +54,16 @@ CRowFault Fault(const CDataItem& row, int cell, const CSentence& what) {
 std::optional<CRowFault> CheckCell(const CDataItem& row, int cell) {
   const CString& value = row[cell].m_strValue;
   if (CString(value).Trim().IsEmpty())
-    return Fault(row, cell, Both(L"不能为空，截面特性由它计算，请输入数值。",
+    return Fault(row, cell,
+                 Both(L"不能为空，截面特性由它计算，请输入数值。",
                       L"is empty, and properties follow from it; give a number"));
   const CString sign = row.GetCellSign(cell);
   const bool radius = sign == L"r(mm)" || sign == L"r1(mm)";
   const double number = IsNumber(value) ? ToDouble(value) : -1;
   if (number > 0 || (radius && number == 0)) return {};
-  return Fault(row, cell, radius ? Both(L"应为不小于0的数值。", L"give a number of 0 or more")
-                                 : Both(L"应为大于0的数值。", L"give a number above 0"));
+  return Fault(row, cell,
+               radius ? Both(L"应为不小于0的数值。", L"give a number of 0 or more")
+                      : Both(L"应为大于0的数值。", L"give a number above 0"));
 }
 
 // Why no section can be drawn: a size that is not there, or sizes that do not fit together.

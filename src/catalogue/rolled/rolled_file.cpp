@@ -20,7 +20,8 @@ namespace {
 CString FitsText(const CRolledStyle& style, std::wstring_view text) {
   const int most = style.m_nName - 1;
   if (ToUtf16(text).size() <= static_cast<std::size_t>(most)) return {};
-  return Say(L"太长；至多 {1} 个字符", L"is too long; give at most {1} characters", {FormatInt(most)});
+  return Say(L"太长；至多 {1} 个字符", L"is too long; give at most {1} characters",
+             {FormatInt(most)});
 }
 
 CString FitsWhole(std::wstring_view text) {
@@ -67,13 +68,15 @@ int WriteRolledFile(const CString& path, int number, const CDataTable& table) {
     const CString fault = Fault(style, row);
     if (!fault.IsEmpty()) {
       const CString no = row.IsEmpty() ? CString() : row[0].m_strValue;
-      return SetStoreError(CStoreTrouble::Refused, path, Say(L"{1}: 行“{2}”：{3}", L"{1}: row \"{2}\": {3}", {path, no, fault}));
+      return SetStoreError(CStoreTrouble::Refused, path,
+                           Say(L"{1}: 行“{2}”：{3}", L"{1}: row \"{2}\": {3}", {path, no, fault}));
     }
     bytes.resize(bytes.size() + size);
     FillRecord(style, row, bytes.data() + bytes.size() - size);
   }
   if (WriteWholeFile(path, bytes) == CFileError::None) return 1;
-  return SetStoreError(CStoreTrouble::Failed, path, Say(L"{1}: 不能写入", L"{1}: cannot be written", {path}));
+  return SetStoreError(CStoreTrouble::Failed, path,
+                       Say(L"{1}: 不能写入", L"{1}: cannot be written", {path}));
 }
 
 }  // namespace orv3

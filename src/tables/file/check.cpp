@@ -11,7 +11,6 @@
 #include "tables/data_table.h"
 #include "tables/edit_state.h"
 #include "tables/file/directory.h"
-#include "framework/language.h"
 #include "tables/file/table_text.h"
 
 namespace orv3 {
@@ -23,7 +22,8 @@ class CCheck {
 
   void Table(const CString& path) {
     Text(-1, -1, {"表名", "name"}, m_table.m_strTableName, CDataTable::kMaxTableName, false);
-    if (m_table.m_strTableName.IsEmpty()) Add(-1, -1, Say(L"没有名称的表不能保存", L"a table without a name cannot be stored"));
+    if (m_table.m_strTableName.IsEmpty())
+      Add(-1, -1, Say(L"没有名称的表不能保存", L"a table without a name cannot be stored"));
     Heading();
     Directory(path);
   }
@@ -55,8 +55,8 @@ class CCheck {
   }
 
   CString Bytes(std::int64_t count, std::int64_t room) {
-    return Say(L"有 {1} 字节，文件只有 {2} 字节的位置",
-               L"{1} bytes, but the file has room for {2}", {FormatInt(count), FormatInt(room)});
+    return Say(L"有 {1} 字节，文件只有 {2} 字节的位置", L"{1} bytes, but the file has room for {2}",
+               {FormatInt(count), FormatInt(room)});
   }
 
   void Text(int row, int column, CTextLiteral name, std::wstring_view text, int limit, bool last) {
@@ -102,7 +102,8 @@ class CCheck {
     for (int i = 0; i < title.GetTableTitleNum(); ++i) {
       Text(-1, i, {"列名", "title"}, title[i].m_strName, CDataTypeStruct::kMaxName, false);
       Text(-1, i, {"标识", "sign"}, title[i].m_strSign, CDataTypeStruct::kMaxSign, false);
-      if (title[i].m_bKey != 0 && title[i].m_bKey != 1) Add(-1, i, Say(L"关键字标志应为 0 或 1", L"a key flag is 0 or 1"));
+      if (title[i].m_bKey != 0 && title[i].m_bKey != 1)
+        Add(-1, i, Say(L"关键字标志应为 0 或 1", L"a key flag is 0 or 1"));
       if (title[i].m_nType < CDataTypeStruct::KVBT_STRING ||
           title[i].m_nType > CDataTypeStruct::KVBT_CHAR) {
         Add(-1, i, Say(L"类型应为 0 至 6", L"a type is 0 to 6"));
@@ -122,7 +123,8 @@ class CCheck {
         const int record = directory.Find(m_table.m_strTableName);
         if (record >= 0) info = directory.Record(record);
         if (record < 0 && directory.IsFull())
-          Add(-1, -1, Say(L"库中已有 99 个表，不能再多", L"the store has 99 tables and no room for another"));
+          Add(-1, -1,
+              Say(L"库中已有 99 个表，不能再多", L"the store has 99 tables, and room for 99"));
       }
     }
     info.m_strTableName = m_table.m_strTableName;

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "tables/data_table.h"
 #include "tables/file/layout.h"
 #include "tables/file/proof.h"
-#include "framework/language.h"
 #include "tables/file/table_text.h"
 
 namespace orv3 {
@@ -51,20 +51,23 @@ int RefuseSave(const CStoreFile& file, const CString& what) {
 
 int RefuseDamaged(const CStoreFile& file, const CString& table) {
   return SetStoreError(CStoreTrouble::Damaged, file.Path(),
-                       Say(L"{1}: 文件中的表“{2}”已损坏", L"{1}: table \"{2}\" on file is damaged", {file.Path(), table}));
+                       Say(L"{1}: 文件中的表“{2}”已损坏", L"{1}: table \"{2}\" on file is damaged",
+                           {file.Path(), table}));
 }
 
 int RefuseColumns(const CStoreFile& file, const CDataTable& table, int slotLength) {
-  return RefuseSave(file, Say(L"表“{1}”有 {2} 列，文件中每行 {3} 字节，是另外的列",
-                              L"table \"{1}\" has {2} columns but rows of {3} bytes on file, "
-                              L"which are of other columns",
-                              {table.m_strTableName, FormatInt(table.GetTableColNum()), FormatInt(slotLength)}));
+  return RefuseSave(
+      file, Say(L"表“{1}”有 {2} 列，文件中每行 {3} 字节，是另外的列",
+                L"table \"{1}\" has {2} columns but rows of {3} bytes on file, "
+                L"which are of other columns",
+                {table.m_strTableName, FormatInt(table.GetTableColNum()), FormatInt(slotLength)}));
 }
 
 int ReadOrStart(const CStoreFile& file, CTableDirectory& directory) {
   if (file.Size() <= kUnusedHead || directory.Read(file)) return 1;
   return SetStoreError(CStoreTrouble::NotAStore, file.Path(),
-                       Say(L"{1}: 不是截面库文件；没有写入", L"{1}: not a table file; nothing was written", {file.Path()}));
+                       Say(L"{1}: 不是截面库文件；没有写入",
+                           L"{1}: not a table file; nothing was written", {file.Path()}));
 }
 
 int WritePlan(CStoreFile& file, const CRecordPlan& plan) {
@@ -93,7 +96,8 @@ int CDataTable::PlanRecord(const orv3::CStoreFile& file, int storeKind,
   plan.m_bNewTable = record < 0;
   if (plan.m_bNewTable) {
     if (directory.IsFull()) {
-      return orv3::RefuseSave(file, orv3::Say(L"没有位置再放一个表；一个文件至多 99 个", L"no room for another table; a file holds 99"));
+      return orv3::RefuseSave(file, orv3::Say(L"没有位置再放一个表；一个文件至多 99 个",
+                                              L"no room for another table; a file holds 99"));
     }
     record = directory.Count();
     plan.m_info.m_strTableName = m_strTableName;
@@ -114,7 +118,8 @@ int CDataTable::PlanRecord(const orv3::CStoreFile& file, int storeKind,
     std::string field;
     CString why;
     if (!orv3::EncodeRecord(plan.m_info, field, why)) {
-      return orv3::RefuseSave(file, orv3::Say(L"表“{1}”：{2}", L"table \"{1}\": {2}", {m_strTableName, why}));
+      return orv3::RefuseSave(
+          file, orv3::Say(L"表“{1}”：{2}", L"table \"{1}\": {2}", {m_strTableName, why}));
     }
     directory.SetRecord(record, field);
   }
@@ -132,5 +137,6 @@ int CDataTable::PlanHeading(const orv3::CStoreFile& file, orv3::CRecordPlan& pla
   }
   CString why;
   if (orv3::EncodeHeading(m_Title, plan.m_strHeading, why)) return 1;
-  return orv3::RefuseSave(file, orv3::Say(L"表“{1}”：{2}", L"table \"{1}\": {2}", {m_strTableName, why}));
+  return orv3::RefuseSave(file,
+                          orv3::Say(L"表“{1}”：{2}", L"table \"{1}\": {2}", {m_strTableName, why}));
 }

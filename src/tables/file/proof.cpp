@@ -4,11 +4,11 @@
 #include <string_view>
 #include <vector>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "tables/edit_state.h"
 #include "tables/file/directory.h"
 #include "tables/file/layout.h"
-#include "framework/language.h"
 #include "tables/file/table_text.h"
 
 namespace orv3 {
@@ -74,10 +74,9 @@ bool EncodeRecord(const CDataFileInfo& info, std::string& field, CString& why) {
   } else if (const CDataFileInfo back = RecordOf(DecodeText(field));
              back.m_strTableName.IsEmpty() || back.m_strTableName != info.m_strTableName ||
              RecordForm(back) != form) {
-    why =
-        Say(L"表名不能保存；表名不能为空，不能有换行或“,,,”，末尾不能是“,”",
-            L"its name cannot be stored; a name is not empty, holds no line feed and no \",,,\" "
-            L"and does not end with \",\"");
+    why = Say(L"表名不能保存；表名不能为空，不能有换行或“,,,”，末尾不能是“,”",
+              L"its name cannot be stored; a name is not empty, holds no line feed and no \",,,\" "
+              L"and does not end with \",\"");
   } else {
     return true;
   }
@@ -92,7 +91,8 @@ bool EncodeHeading(const CDataTableTitle& title, std::string& area, CString& why
       EncodeField(HeadingForm(title), static_cast<std::size_t>(HeadingLength(columns)), &missing);
   int lost = -1;
   if (columns == 0 || Prove({fields.begin(), fields.end()}, area, missing, lost, why)) return true;
-  why = Say(L"表头{1}{2}", L"its heading {1}{2}", {ColumnText(title, lost < 0 ? -1 : lost / 4), why});
+  why =
+      Say(L"表头{1}{2}", L"its heading {1}{2}", {ColumnText(title, lost < 0 ? -1 : lost / 4), why});
   return false;
 }
 

@@ -1,12 +1,12 @@
 // Reading tables from table files.
 #include <utility>
 
+#include "framework/language.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "tables/data_table.h"
 #include "tables/file/directory.h"
 #include "tables/file/image.h"
-#include "framework/language.h"
 #include "tables/file/table_text.h"
 
 using orv3::CStoreFile;
@@ -17,14 +17,16 @@ using orv3::SetStoreError;
 namespace {
 
 int NotATableFile(const CString& path) {
-  return SetStoreError(
-      CStoreTrouble::NotAStore, path,
-      orv3::Say(L"{1}: 不是截面库文件；其信息行中应有“{2}”", L"{1}: not a table file; one has \"{2}\" in its information line", {path, orv3::kTableMagic}));
+  return SetStoreError(CStoreTrouble::NotAStore, path,
+                       orv3::Say(L"{1}: 不是截面库文件；其信息行中应有“{2}”",
+                                 L"{1}: not a table file; one has \"{2}\" in its information line",
+                                 {path, orv3::kTableMagic}));
 }
 
 int Damaged(const CString& path, const CString& table, const CString& what) {
-  return SetStoreError(CStoreTrouble::Damaged, path,
-                       orv3::Say(L"{1}: 表“{2}”：{3}", L"{1}: table \"{2}\": {3}", {path, table, what}));
+  return SetStoreError(
+      CStoreTrouble::Damaged, path,
+      orv3::Say(L"{1}: 表“{2}”：{3}", L"{1}: table \"{2}\": {3}", {path, table, what}));
 }
 
 }  // namespace
@@ -39,8 +41,9 @@ int FindRecord(const CStoreFile& file, const CString& table, CString& infoLine,
   infoLine = directory.InfoLine();
   const int record = directory.Find(table);
   if (record < 0) {
-    return SetStoreError(CStoreTrouble::NoTable, file.Path(),
-                         Say(L"{1}: 没有表“{2}”", L"{1}: has no table \"{2}\"", {file.Path(), table}));
+    return SetStoreError(
+        CStoreTrouble::NoTable, file.Path(),
+        Say(L"{1}: 没有表“{2}”", L"{1}: has no table \"{2}\"", {file.Path(), table}));
   }
   info = directory.Record(record);
   return 1;
@@ -75,7 +78,9 @@ int CDataTable::GetTable(const CString& path, CString& infoLine) {
   if (!ReadTableFileInfo(file.get(), line, info)) return 0;
   const std::int64_t end = static_cast<std::int64_t>(file->Size()) - orv3::kDirectorySize;
   if (orv3::BlocksOf(info, end).empty()) {
-    return Damaged(path, m_strTableName, orv3::Say(L"目录记录中的槽长、行数或块不可能", L"its record names impossible slots, rows or blocks"));
+    return Damaged(path, m_strTableName,
+                   orv3::Say(L"目录记录中的槽长、行数或块不可能",
+                             L"its record names impossible slots, rows or blocks"));
   }
 
   auto image = std::make_shared<orv3::CTableImage>();
@@ -85,7 +90,8 @@ int CDataTable::GetTable(const CString& path, CString& infoLine) {
   }
   CDataTableTitle title;
   if (!orv3::StoredHeading(heading, title)) {
-    return Damaged(path, m_strTableName, orv3::Say(L"表头与各行不符", L"its heading does not go with its rows"));
+    return Damaged(path, m_strTableName,
+                   orv3::Say(L"表头与各行不符", L"its heading does not go with its rows"));
   }
   CDataItemArray rows;
   for (const std::string& slot : image->m_arrSlot) {
