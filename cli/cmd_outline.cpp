@@ -142,11 +142,11 @@ void PrintStresses(const CAnswer& answer) {
   for (const CStressRow& row : kStresses) {
     const CBoundaryStress* point = greatest.*row.m_pPoint;
     if (point == nullptr) {
-      table.AddRow({row.m_szTitle, row.m_szKey, "-", "", row.m_szMeaning});
+      table.AddRow({row.m_szTitle, row.m_szKey, "-", "", Say({"", row.m_szMeaning})});
       continue;
     }
     table.AddRow({row.m_szTitle, row.m_szKey, NumberText(point->*row.m_pValue), "N/mm²",
-                  row.m_szMeaning,
+                  Say({"", row.m_szMeaning}),
                   "x = " + NumberText(point->m_point.x) + ", y = " + NumberText(point->m_point.y)});
   }
   Print(table.Text());

@@ -50,8 +50,8 @@ void PrintExact(const CExactProperties& exact) {
             "\nExact, from the outline itself (origin at the lower left corner of its box)\n\n"));
   CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
   for (const CExactKey& key : ExactKeys()) {
-    table.AddRow(
-        {key.m_szTitle, key.m_szKey, NumberText(Shown(exact, key)), key.m_szUnit, key.m_szMeaning});
+    table.AddRow({key.m_szTitle, key.m_szKey, NumberText(Shown(exact, key)), key.m_szUnit,
+                  Say({"", key.m_szMeaning})});
   }
   Print(table.Text());
   for (const std::string& note : ExactNotes(exact)) Print("\n" + note + "\n");
