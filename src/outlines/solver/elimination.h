@@ -1,0 +1,51 @@
+// Cholesky elimination of finite element equations along the mesh.
+//
+// Elements are joined two by two, those first whose union has the shortest border; whatever
+// unknowns no other element shares are eliminated at once, by dense algebra. A thin-walled section
+// is a chain of triangles, and its fronts stay a few dozen unknowns wide.
+#pragma once
+
+#include <Eigen/Dense>
+#include <utility>
+#include <vector>
+
+#include "outlines/mesh/section_mesh.h"
+
+namespace orv3 {
+
+// The pairs to join; the union keeps the first one's number.
+std::vector<std::pair<int, int>> JoiningOrder(const CSectionMesh& mesh);
+
+class CElimination {
+ public:
+  // sharing: by unknown, how many elements have it.
+  CElimination(std::vector<int> sharing, std::size_t elements);
+
+  // unknowns: by row of the matrix; -1 for one that is held at 0.
+  void Add(std::size_t element, const std::vector<int>& unknowns, const Eigen::MatrixXd& matrix,
+           const Eigen::MatrixXd& force);
+  void Join(std::size_t a, std::size_t b);
+  // A row for each unknown; empty when the matrix is not positive.
+  Eigen::MatrixXd Solution() const;
+
+ private:
+  // The equations of the unknowns that a union shares with others, in rising order.
+  struct CBorder {
+    std::vector<int> unknowns;
+    Eigen::MatrixXd matrix, force;
+  };
+  // Eliminated unknowns = m_own - m_of * the unknowns of the border.
+  struct CEliminated {
+    std::vector<int> m_arrUnknown, m_arrBorder;
+    Eigen::MatrixXd m_own, m_of;
+  };
+  void Eliminate(CBorder all, CBorder& left);
+
+  std::vector<int> m_sharing;
+  std::vector<CBorder> m_borders;
+  std::vector<CEliminated> m_eliminated;
+  Eigen::Index m_forces = 0;
+  bool m_positive = true;
+};
+
+}  // namespace orv3
