@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <iterator>
 #include <queue>
 
 namespace orv3 {
@@ -115,85 +117,103 @@ CElimination::CElimination(std::vector<int> sharing, std::size_t elements)
 
 void CElimination::Add(std::size_t element, const std::vector<int>& unknowns,
                        const MatrixXd& matrix, const MatrixXd& force) {
-  std::vector<int> rows;
+  std::vector<std::pair<int, Eigen::Index>> rows;
   for (std::size_t i = 0; i < unknowns.size(); ++i) {
-    if (unknowns[i] >= 0) rows.push_back(static_cast<int>(i));
+    if (unknowns[i] >= 0) rows.push_back({unknowns[i], static_cast<Eigen::Index>(i)});
   }
-  std::sort(rows.begin(), rows.end(),
-            [&](int a, int b) { return unknowns[Index(a)] < unknowns[Index(b)]; });
-  CBorder all;
-  for (int row : rows) all.unknowns.push_back(unknowns[Index(row)]);
-  all.matrix = matrix(rows, rows);
-  all.force = force(rows, Eigen::all);
+  std::sort(rows.begin(), rows.end());
   m_forces = force.cols();
-  Eliminate(std::move(all), m_borders[element]);
+  std::vector<int> all;
+  for (const auto& [unknown, row] : rows) all.push_back(unknown);
+  CFront front = FrontOf(all);
+  for (std::size_t j = 0; j < rows.size(); ++j) {
+    const Eigen::Index column = front.m_place[j];
+    for (std::size_t i = 0; i < rows.size(); ++i)
+      front.m_lower(front.m_place[i], column) = matrix(rows[i].second, rows[j].second);
+    front.m_lower.col(column).tail(m_forces) = force.row(rows[j].second).transpose();
+  }
+  Eliminate(std::move(front), m_borders[element]);
 }
 
 void CElimination::Join(std::size_t a, std::size_t b) {
   const CBorder one = std::move(m_borders[a]), other = std::move(m_borders[b]);
   m_borders[b] = {};
-  CBorder all;
+  std::vector<int> all, both;
   std::set_union(one.unknowns.begin(), one.unknowns.end(), other.unknowns.begin(),
-                 other.unknowns.end(), std::back_inserter(all.unknowns));
-  const auto size = static_cast<Eigen::Index>(all.unknowns.size());
-  all.matrix = MatrixXd::Zero(size, size);
-  all.force = MatrixXd::Zero(size, m_forces);
+                 other.unknowns.end(), std::back_inserter(all));
+  std::set_intersection(one.unknowns.begin(), one.unknowns.end(), other.unknowns.begin(),
+                        other.unknowns.end(), std::back_inserter(both));
+  for (int unknown : both) --m_sharing[Index(unknown)];
+  CFront front = FrontOf(all);
   for (const CBorder* part : {&one, &other}) {
     std::vector<Eigen::Index> rows;
     std::size_t at = 0;
     for (int unknown : part->unknowns) {
-      while (all.unknowns[at] != unknown) ++at;
-      rows.push_back(static_cast<Eigen::Index>(at));
+      while (all[at] != unknown) ++at;
+      rows.push_back(front.m_place[at]);
     }
-    for (std::size_t j = 0; j < rows.size(); ++j) {
-      const auto column = static_cast<Eigen::Index>(j);
-      for (std::size_t i = 0; i < rows.size(); ++i)
-        all.matrix(rows[i], rows[j]) += part->matrix(static_cast<Eigen::Index>(i), column);
-      all.force.row(rows[j]) += part->force.row(column);
+    // Places rise with the unknowns, but for those that are eliminated now and stand first.
+    const auto count = static_cast<Eigen::Index>(rows.size());
+    for (Eigen::Index j = 0; j < count; ++j) {
+      const Eigen::Index column = rows[static_cast<std::size_t>(j)];
+      for (Eigen::Index i = j; i < count; ++i) {
+        const Eigen::Index row = rows[static_cast<std::size_t>(i)];
+        front.m_lower(std::max(row, column), std::min(row, column)) += part->m_lower(i, j);
+      }
+      front.m_lower.col(column).tail(m_forces) += part->m_lower.col(j).tail(m_forces);
     }
   }
-  std::size_t at = 0;
-  for (int unknown : one.unknowns) {
-    while (at < other.unknowns.size() && other.unknowns[at] < unknown) ++at;
-    if (at < other.unknowns.size() && other.unknowns[at] == unknown) --m_sharing[Index(unknown)];
-  }
-  Eliminate(std::move(all), m_borders[a]);
+  Eliminate(std::move(front), m_borders[a]);
 }
 
-void CElimination::Eliminate(CBorder all, CBorder& left) {
-  std::vector<int> inner, outer;
-  CEliminated e;
-  for (std::size_t i = 0; i < all.unknowns.size(); ++i) {
-    const int unknown = all.unknowns[i];
-    const bool own = m_sharing[Index(unknown)] == 1;
-    (own ? inner : outer).push_back(static_cast<int>(i));
-    (own ? e.m_arrUnknown : e.m_arrBorder).push_back(unknown);
+CElimination::CFront CElimination::FrontOf(const std::vector<int>& all) const {
+  CFront front;
+  for (int unknown : all) {
+    (m_sharing[Index(unknown)] == 1 ? front.m_inner : front.m_outer).push_back(unknown);
   }
-  if (inner.empty()) {
-    left = std::move(all);
-    return;
+  const auto inner = static_cast<Eigen::Index>(front.m_inner.size());
+  Eigen::Index nextInner = 0, nextOuter = inner;
+  for (int unknown : all)
+    front.m_place.push_back(m_sharing[Index(unknown)] == 1 ? nextInner++ : nextOuter++);
+  const auto size = static_cast<Eigen::Index>(all.size());
+  front.m_lower = MatrixXd::Zero(size + m_forces, size);
+  return front;
+}
+
+// The factor's columns of the inner unknowns; what is left is the border's.
+void CElimination::Eliminate(CFront front, CBorder& left) {
+  MatrixXd& a = front.m_lower;
+  const auto inner = static_cast<Eigen::Index>(front.m_inner.size());
+  const Eigen::Index rows = a.rows(), columns = a.cols();
+  for (Eigen::Index k = 0; k < inner; ++k) {
+    m_positive = m_positive && a(k, k) > 0;
+    const double root = std::sqrt(a(k, k));
+    a.col(k).tail(rows - k) /= root;
+    for (Eigen::Index j = k + 1; j < columns; ++j)
+      a.col(j).tail(rows - j) -= a(j, k) * a.col(k).tail(rows - j);
   }
-  left.unknowns = e.m_arrBorder;
-  left.matrix = all.matrix(outer, outer);
-  left.force = all.force(outer, Eigen::all);
-  const Eigen::LLT<MatrixXd> factor(all.matrix(inner, inner));
-  m_positive = m_positive && factor.info() == Eigen::Success;
-  const MatrixXd coupling = all.matrix(inner, outer);
-  e.m_own = factor.solve(all.force(inner, Eigen::all));
-  e.m_of = factor.solve(coupling);
-  left.matrix.noalias() -= coupling.transpose() * e.m_of;
-  left.force.noalias() -= coupling.transpose() * e.m_own;
-  m_eliminated.push_back(std::move(e));
+  left.unknowns = front.m_outer;
+  left.m_lower = a.bottomRightCorner(rows - inner, columns - inner);
+  if (inner == 0) return;
+  m_eliminated.push_back({std::move(front.m_inner), std::move(front.m_outer), a.leftCols(inner)});
 }
 
 MatrixXd CElimination::Solution() const {
   if (!m_positive) return {};
   MatrixXd solution = MatrixXd::Zero(static_cast<Eigen::Index>(m_sharing.size()), m_forces);
   for (auto e = m_eliminated.rbegin(); e != m_eliminated.rend(); ++e) {
-    solution(e->m_arrUnknown, Eigen::all) = e->m_own;
-    if (!e->m_arrBorder.empty()) {
-      solution(e->m_arrUnknown, Eigen::all) -= e->m_of * solution(e->m_arrBorder, Eigen::all);
+    const Eigen::Index inner = e->m_factor.cols();
+    MatrixXd own = e->m_factor.bottomRows(m_forces).transpose();
+    for (std::size_t i = 0; i < e->m_outer.size(); ++i) {
+      own -= e->m_factor.row(inner + static_cast<Eigen::Index>(i)).transpose() *
+             solution.row(e->m_outer[i]);
     }
+    for (Eigen::Index k = inner - 1; k >= 0; --k) {
+      own.row(k) /= e->m_factor(k, k);
+      own.topRows(k) -= e->m_factor.row(k).head(k).transpose() * own.row(k);
+    }
+    for (Eigen::Index k = 0; k < inner; ++k)
+      solution.row(e->m_inner[static_cast<std::size_t>(k)]) = own.row(k);
   }
   return solution;
 }

@@ -29,17 +29,24 @@ class CElimination {
   Eigen::MatrixXd Solution() const;
 
  private:
-  // The equations of the unknowns that a union shares with others, in rising order.
+  // The equations of the unknowns that a union shares with others, in rising order: the lower
+  // triangle, and the forces as further rows.
   struct CBorder {
     std::vector<int> unknowns;
-    Eigen::MatrixXd matrix, force;
+    Eigen::MatrixXd m_lower;
   };
-  // Eliminated unknowns = m_own - m_of * the unknowns of the border.
+  // The same of all unknowns of a union, those that it does not share first.
+  struct CFront {
+    std::vector<int> m_inner, m_outer;
+    std::vector<Eigen::Index> m_place;  // of all in rising order
+    Eigen::MatrixXd m_lower;
+  };
   struct CEliminated {
-    std::vector<int> m_arrUnknown, m_arrBorder;
-    Eigen::MatrixXd m_own, m_of;
+    std::vector<int> m_inner, m_outer;
+    Eigen::MatrixXd m_factor;
   };
-  void Eliminate(CBorder all, CBorder& left);
+  CFront FrontOf(const std::vector<int>& all) const;
+  void Eliminate(CFront front, CBorder& left);
 
   std::vector<int> m_sharing;
   std::vector<CBorder> m_borders;

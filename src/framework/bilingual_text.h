@@ -1,4 +1,4 @@
-// A text of the check cases and their reports in both languages, UTF-8.
+// A text in both languages of the system, UTF-8.
 #pragma once
 
 #include <string>
