@@ -1,6 +1,6 @@
-// Torsion and flexure by a method that shares nothing with the library's: unknowns in the cells of a
-// square grid, flows through their sides in balance, conjugate gradients. For outlines whose edges
-// lie on the grid.
+// Torsion and flexure by a method that shares nothing with the library's: unknowns in the cells of
+// a square grid, flows through their sides in balance, conjugate gradients. For outlines whose
+// edges lie on the grid.
 #pragma once
 
 #include <functional>

@@ -16,7 +16,7 @@ constexpr double kPi = std::numbers::pi;
 struct CFigureCase {
   const char* what;
   CLoops loops;
-  double CExactProperties::* figure;
+  double CExactProperties::*figure;
   double expected;
 };
 
@@ -24,8 +24,15 @@ TEST(ExactProperties, AreExactOnLinesAndArcs) {
   const CLoops rect{RectPath(3, 5, 30, 80)};
   const CLoops half{{{{-20, 0, 0}, {20, 0, 1}}, true}};
   const CLoops ring{CirclePath({9, 9}, 50), Reversed(CirclePath({9, 9}, 30))};
-  const CLoops tee{{{{45, 0, 0}, {55, 0, 0}, {55, 90, 0}, {100, 90, 0}, {100, 100, 0}, {0, 100, 0},
-                     {0, 90, 0}, {45, 90, 0}}, true}};
+  const CLoops tee{{{{45, 0, 0},
+                     {55, 0, 0},
+                     {55, 90, 0},
+                     {100, 90, 0},
+                     {100, 100, 0},
+                     {0, 100, 0},
+                     {0, 90, 0},
+                     {45, 90, 0}},
+                    true}};
   const CLoops pair{RectPath(0, 0, 10, 40), RectPath(30, 0, 10, 40)};
   const CPath angle{{{0, 0, 0}, {80, 0, 0}, {80, 8, 0}, {8, 8, 0}, {8, 80, 0}, {0, 80, 0}}, true};
   // An arc of next to no bulge is the chord.
@@ -68,10 +75,10 @@ TEST(ExactProperties, AreExactOnLinesAndArcs) {
 // A rolled section's printed figures: IPE 300 of EN 10365. Its It and Iw are printed by formulas of
 // thin walls, 1.9 % above and 1.3 % above.
 TEST(ExactProperties, AreThoseOfAPrintedTable) {
-  const std::vector<CCorner> corners{{0, 0, 0},        {150, 0, 0},     {150, 10.7, 0},
-                                     {78.55, 10.7, 15}, {78.55, 289.3, 15}, {150, 289.3, 0},
-                                     {150, 300, 0},    {0, 300, 0},     {0, 289.3, 0},
-                                     {71.45, 289.3, 15}, {71.45, 10.7, 15}, {0, 10.7, 0}};
+  const std::vector<CCorner> corners{{0, 0, 0},          {150, 0, 0},        {150, 10.7, 0},
+                                     {78.55, 10.7, 15},  {78.55, 289.3, 15}, {150, 289.3, 0},
+                                     {150, 300, 0},      {0, 300, 0},        {0, 289.3, 0},
+                                     {71.45, 289.3, 15}, {71.45, 10.7, 15},  {0, 10.7, 0}};
   const CExactProperties p = ExactProperties(CLoops{RoundedPath(corners)});
   EXPECT_NEAR(p.A / 100, 53.81, 0.005);
   EXPECT_NEAR(p.Ix / 1e4, 8356, 0.5);

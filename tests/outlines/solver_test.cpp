@@ -23,9 +23,9 @@ CPath Polygon(std::vector<CVertex> vertices) { return {std::move(vertices), true
 
 CPath RolledI(double b, double h, double tf, double tw, double r) {
   const double c = (b - tw) / 2, d = (b + tw) / 2;
-  const std::vector<CCorner> corners{
-      {0, 0, 0}, {b, 0, 0}, {b, tf, 0},     {d, tf, r},     {d, h - tf, r}, {b, h - tf, 0},
-      {b, h, 0}, {0, h, 0}, {0, h - tf, 0}, {c, h - tf, r}, {c, tf, r},     {0, tf, 0}};
+  const std::vector<CCorner> corners{{0, 0, 0},      {b, 0, 0},      {b, tf, 0}, {d, tf, r},
+                                     {d, h - tf, r}, {b, h - tf, 0}, {b, h, 0},  {0, h, 0},
+                                     {0, h - tf, 0}, {c, h - tf, r}, {c, tf, r}, {0, tf, 0}};
   return RoundedPath(corners);
 }
 
@@ -81,17 +81,34 @@ TEST(SectionSolver, MeetsClosedSolutions) {
       {"square", {RectPath(0, 0, 80, 80)}, RectangleIt(80, 80), kUnasked, 6400 / 1.2, 1e-9},
       {"1 : 2", {RectPath(0, 0, 80, 40)}, RectangleIt(80, 40), kUnasked, 3200 / 1.2, 1e-9},
       {"1 : 10", {RectPath(0, 0, 5, 50)}, RectangleIt(50, 5), kUnasked, 250 / 1.2, 1e-9},
-      {"plate 1 : 1000", {RectPath(0, 0, 1000, 1)}, RectangleIt(1000, 1), 1e9 / 144, 1e3 / 1.2, 2e-6},
+      {"plate 1 : 1000",
+       {RectPath(0, 0, 1000, 1)},
+       RectangleIt(1000, 1),
+       1e9 / 144,
+       1e3 / 1.2,
+       1e-5},
       {"circle", {CirclePath({0, 0}, 50)}, kPi * std::pow(50, 4) / 2, 0, kPi * 2500 * 6 / 7, 1e-6},
       {"ring", Ring(50, 40), kPi * (std::pow(50, 4) - std::pow(40, 4)) / 2, 0,
        kPi * 900 * RingShear(0.8), 1e-6},
       {"thin ring", Ring(50, 49.95), kPi * (std::pow(50, 4) - std::pow(49.95, 4)) / 2, 0,
        kPi * (2500 - 49.95 * 49.95) * RingShear(0.999), 1e-6},
-      {"ellipse", {Ellipse(60, 25)}, kPi * cube / (60 * 60 + 25 * 25), warp * warp * kPi * cube / 24,
-       kUnasked, 2e-4},
-      {"triangle", {Polygon({{0, 0, 0}, {100, 0, 0}, {50, 50 * e, 0}})}, e * 1e8 / 80, kUnasked,
-       kUnasked, 1e-9},
-      {"open ring", {SlitRing(100.25, 99.75, 1e-5)}, 2 * kPi * 100 * 0.125 / 3, openIw, kUnasked,
+      {"ellipse",
+       {Ellipse(60, 25)},
+       kPi * cube / (60 * 60 + 25 * 25),
+       warp * warp * kPi * cube / 24,
+       kUnasked,
+       2e-4},
+      {"triangle",
+       {Polygon({{0, 0, 0}, {100, 0, 0}, {50, 50 * e, 0}})},
+       e * 1e8 / 80,
+       kUnasked,
+       kUnasked,
+       1e-9},
+      {"open ring",
+       {SlitRing(100.25, 99.75, 1e-5)},
+       2 * kPi * 100 * 0.125 / 3,
+       openIw,
+       kUnasked,
        2e-3},
   };
   for (const CClosed& c : cases) {
@@ -128,24 +145,61 @@ TEST(SectionSolver, MeetsFiniteDifferences) {
   const std::vector<CGridCase> cases = {
       {"H", {RolledI(60, 80, 8, 4, 0)}, 60, 80, 1},
       {"channel",
-       {Polygon({{0, 0, 0}, {40, 0, 0}, {40, 8, 0}, {4, 8, 0}, {4, 72, 0}, {30, 72, 0}, {30, 80, 0},
+       {Polygon({{0, 0, 0},
+                 {40, 0, 0},
+                 {40, 8, 0},
+                 {4, 8, 0},
+                 {4, 72, 0},
+                 {30, 72, 0},
+                 {30, 80, 0},
                  {0, 80, 0}})},
-       40, 80, 1},
-      {"angle", {Polygon({{0, 0, 0}, {60, 0, 0}, {60, 6, 0}, {6, 6, 0}, {6, 40, 0}, {0, 40, 0}})},
-       60, 40, 1},
+       40,
+       80,
+       1},
+      {"angle",
+       {Polygon({{0, 0, 0}, {60, 0, 0}, {60, 6, 0}, {6, 6, 0}, {6, 40, 0}, {0, 40, 0}})},
+       60,
+       40,
+       1},
       {"Z",
-       {Polygon({{20, 0, 0}, {50, 0, 0}, {50, 6, 0}, {26, 6, 0}, {26, 60, 0}, {0, 60, 0}, {0, 54, 0},
+       {Polygon({{20, 0, 0},
+                 {50, 0, 0},
+                 {50, 6, 0},
+                 {26, 6, 0},
+                 {26, 60, 0},
+                 {0, 60, 0},
+                 {0, 54, 0},
                  {20, 54, 0}})},
-       50, 60, 1},
+       50,
+       60,
+       1},
       {"two cells, shared wall",
-       {RectPath(0, 0, 80, 50), Reversed(RectPath(6, 6, 30, 38)), Reversed(RectPath(40, 6, 34, 38))},
-       80, 50, 1},
-      {"thick with a hole to one side", {RectPath(0, 0, 60, 40), Reversed(RectPath(30, 12, 20, 16))},
-       60, 40, 1},
+       {RectPath(0, 0, 80, 50), Reversed(RectPath(6, 6, 30, 38)),
+        Reversed(RectPath(40, 6, 34, 38))},
+       80,
+       50,
+       1},
+      {"thick with a hole to one side",
+       {RectPath(0, 0, 60, 40), Reversed(RectPath(30, 12, 20, 16))},
+       60,
+       40,
+       1},
       {"box with a slit",
-       {Polygon({{0, 0, 0}, {60, 0, 0}, {60, 24, 0}, {54, 24, 0}, {54, 6, 0}, {6, 6, 0}, {6, 54, 0},
-                 {54, 54, 0}, {54, 26, 0}, {60, 26, 0}, {60, 60, 0}, {0, 60, 0}})},
-       60, 60, 1},
+       {Polygon({{0, 0, 0},
+                 {60, 0, 0},
+                 {60, 24, 0},
+                 {54, 24, 0},
+                 {54, 6, 0},
+                 {6, 6, 0},
+                 {6, 54, 0},
+                 {54, 54, 0},
+                 {54, 26, 0},
+                 {60, 26, 0},
+                 {60, 60, 0},
+                 {0, 60, 0}})},
+       60,
+       60,
+       1},
   };
   for (const CGridCase& c : cases) {
     SCOPED_TRACE(c.what);
@@ -195,9 +249,14 @@ struct CChange {
 
 TEST(SectionSolver, IsIndifferentToHowTheOutlineIsGiven) {
   // Unequal flanges and a root radius.
-  const CPath channel = RoundedPath(std::vector<CCorner>{{0, 0, 0}, {80, 0, 0}, {80, 12, 4},
-                                                         {9, 12, 10}, {9, 190, 10}, {60, 190, 4},
-                                                         {60, 200, 0}, {0, 200, 0}});
+  const CPath channel = RoundedPath(std::vector<CCorner>{{0, 0, 0},
+                                                         {80, 0, 0},
+                                                         {80, 12, 4},
+                                                         {9, 12, 10},
+                                                         {9, 190, 10},
+                                                         {60, 190, 4},
+                                                         {60, 200, 0},
+                                                         {0, 200, 0}});
   const CExactProperties p = ExactProperties(CLoops{channel});
   ASSERT_TRUE(p.m_bAccurate);
   const std::vector<CChange> changes = {
@@ -253,10 +312,10 @@ TEST(SectionSolver, AddsPartsAndSaysWhatHasNoAnswer) {
   // Loops that bound no section.
   const std::vector<CLoops> wrong = {
       {},
-      {Reversed(plate)},                                                       // a hole alone
-      {plate, Reversed(RectPath(200, 0, 10, 5))},                              // a hole outside
-      {Polygon({{0, 0, 0}, {10, 8, 0}, {10, 0, 0}, {0, 10, 0}})},              // crosses itself
-      {RectPath(0, 0, 100, 100), Reversed(RectPath(50, 50, 80, 10))},          // hole crosses
+      {Reversed(plate)},                                               // a hole alone
+      {plate, Reversed(RectPath(200, 0, 10, 5))},                      // a hole outside
+      {Polygon({{0, 0, 0}, {10, 8, 0}, {10, 0, 0}, {0, 10, 0}})},      // crosses itself
+      {RectPath(0, 0, 100, 100), Reversed(RectPath(50, 50, 80, 10))},  // hole crosses
       {Polygon({{0, 0, 0}, {10, 0, 0}, {kUnasked, 5, 0}})},
   };
   for (const CLoops& loops : wrong) EXPECT_TRUE(std::isnan(ExactProperties(loops).It));

@@ -81,26 +81,27 @@ void CElement::Integrate() {
     m_sound = false;
     return;
   }
-  const Eigen::ArrayXd root = m_shape.m_weight.array().sqrt();
-  const auto rows = [&](const Eigen::ArrayXd& f, const Eigen::MatrixXd& of) {
-    return f.matrix().asDiagonal() * of;
-  };
-  const Eigen::ArrayXd scale = root / det.sqrt();
-  const Eigen::MatrixXd dx = rows(scale * yEta, m_shape.m_dxi) - rows(scale * yXi, m_shape.m_deta);
-  const Eigen::MatrixXd dy = rows(scale * xXi, m_shape.m_deta) - rows(scale * xEta, m_shape.m_dxi);
+  const Eigen::ArrayXd root = m_shape.m_weight.array().sqrt(), scale = root / det.sqrt();
+  const auto points = det.size();
+  Eigen::MatrixXd gradient(2 * points, m_shape.m_nCount);  // by x above those by y
+  gradient.topRows(points).noalias() = (scale * yEta).matrix().asDiagonal() * m_shape.m_dxi;
+  gradient.topRows(points) -= (scale * yXi).matrix().asDiagonal() * m_shape.m_deta;
+  gradient.bottomRows(points).noalias() = (scale * xXi).matrix().asDiagonal() * m_shape.m_deta;
+  gradient.bottomRows(points) -= (scale * xEta).matrix().asDiagonal() * m_shape.m_dxi;
+  m_stiffness.setZero(m_shape.m_nCount, m_shape.m_nCount);
+  m_stiffness.selfadjointView<Eigen::Lower>().rankUpdate(gradient.transpose());
+  m_stiffness.triangularView<Eigen::StrictlyUpper>() = m_stiffness.transpose();
+  m_area = (m_shape.m_weight.array() * det).matrix();
   const Eigen::ArrayXd area = root * det.sqrt();
-  const Eigen::MatrixXd value = rows(area, m_shape.m_value);
-  m_stiffness = dx.transpose() * dx + dy.transpose() * dy;
-  m_mass = value.transpose() * value;
   m_loads.resize(m_shape.m_nCount, kLoads);
-  const Eigen::VectorXd one = area.matrix();
   const Eigen::VectorXd ax = (area * x.array()).matrix(), ay = (area * y.array()).matrix();
-  m_loads.col(kLoadOne) = value.transpose() * one;
-  m_loads.col(kLoadX) = value.transpose() * ax;
-  m_loads.col(kLoadY) = value.transpose() * ay;
-  m_loads.col(kLoadDx) = dx.transpose() * one;
-  m_loads.col(kLoadDy) = dy.transpose() * one;
-  m_loads.col(kLoadTwist) = dx.transpose() * ay - dy.transpose() * ax;
+  m_loads.col(kLoadOne) = m_shape.m_value.transpose() * m_area;
+  m_loads.col(kLoadX) = m_shape.m_value.transpose() * m_area.cwiseProduct(x);
+  m_loads.col(kLoadY) = m_shape.m_value.transpose() * m_area.cwiseProduct(y);
+  m_loads.col(kLoadDx) = gradient.topRows(points).transpose() * area.matrix();
+  m_loads.col(kLoadDy) = gradient.bottomRows(points).transpose() * area.matrix();
+  m_loads.col(kLoadTwist) =
+      gradient.topRows(points).transpose() * ay - gradient.bottomRows(points).transpose() * ax;
 }
 
 CElementMatrix CElement::Stiffness() const {
@@ -116,7 +117,7 @@ double CElement::Energy(const CElementVector& u) const {
 }
 
 double CElement::Square(const CElementVector& u) const {
-  if (m_curved) return u.dot(CElementVector(m_mass * u));
+  if (m_curved) return m_area.dot((m_shape.m_value * u).cwiseAbs2());
   return m_det * u.dot(CElementVector(m_shape.m_mass * u));
 }
 

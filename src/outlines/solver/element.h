@@ -43,7 +43,8 @@ class CElement {
   double m_det = 0, m_xixi = 0, m_xieta = 0, m_etaeta = 0;
   double m_xXi = 0, m_xEta = 0, m_yXi = 0, m_yEta = 0;
   // Of a curved one.
-  Eigen::MatrixXd m_stiffness, m_mass;
+  Eigen::MatrixXd m_stiffness;
+  Eigen::VectorXd m_area;  // by quadrature point
   CLoadMatrix m_loads;
 };
 

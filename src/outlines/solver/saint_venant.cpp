@@ -1,10 +1,10 @@
 #include "outlines/solver/saint_venant.h"
 
-#include <Eigen/Sparse>
 #include <algorithm>
 #include <cmath>
-#include <unordered_map>
 #include <utility>
+
+#include "outlines/solver/elimination.h"
 
 namespace orv3 {
 namespace {
@@ -13,48 +13,32 @@ using Eigen::MatrixXd;
 
 std::size_t Index(int i) { return static_cast<std::size_t>(i); }
 
-// An element without the functions that vanish on its edges.
-struct CCondensed {
-  CElementMatrix m_recover;  // interior = m_inner - m_recover * skeleton
-  CElementFields m_inner;
-  CElementMatrix m_stiffness;
-  CElementFields m_force;
-};
-
-CCondensed Condensed(const CElementMatrix& stiffness, const CElementFields& force,
-                     const CDegreeFunctions& functions) {
-  const auto& b = functions.m_arrSkeleton;
-  const auto& i = functions.m_arrInterior;
-  CCondensed c;
-  c.m_stiffness = stiffness(b, b);
-  c.m_force = force(b, Eigen::all);
-  if (i.empty()) return c;
-  const CElementMatrix coupling = stiffness(i, b);
-  const Eigen::LLT<CElementMatrix> inner(stiffness(i, i));
-  c.m_recover = inner.solve(coupling);
-  c.m_inner = inner.solve(force(i, Eigen::all));
-  c.m_stiffness -= coupling.transpose().lazyProduct(c.m_recover);
-  c.m_force -= coupling.transpose().lazyProduct(c.m_inner);
-  return c;
-}
-
-// The numbers of an element's skeleton functions in the whole, with their signs; vertex 0 of the
-// mesh is held, and numbered -1.
+// The unknowns of an element's shape functions up to a degree, with their signs. Vertex 0 of the
+// mesh is held: a constant is added to a solution freely.
 struct CNumbers {
   std::vector<int> m_arrOf;
   std::vector<double> m_arrSign;
 };
 
-CNumbers NumbersOf(const CMeshTriangle& t, const std::array<int, 3>& edges, int vertices,
-                   int degree) {
+// Numbered by vertices, then edges, then triangles.
+CNumbers NumbersOf(const CSectionMesh& mesh, std::size_t element, const std::array<int, 3>& edges,
+                   int edgeCount, int degree) {
+  const int vertices = static_cast<int>(mesh.m_arrVertex.size());
+  const CMeshTriangle& t = mesh.m_arrTriangle[element];
   CNumbers numbers;
   for (int v : t.m_vertex) numbers.m_arrOf.push_back(v - 1);
   numbers.m_arrSign.assign(3, 1);
-  for (int e = 0; e < 3; ++e) {
-    const bool backwards = t.m_vertex[Index(e)] > t.m_vertex[Index((e + 1) % 3)];
-    for (int d = 2; d <= degree; ++d) {
+  const int inner = CShapeFunctions::Count(degree) - 3 * degree;
+  int next = vertices - 1 + edgeCount * (degree - 1) + static_cast<int>(element) * inner;
+  for (int d = 2; d <= degree; ++d) {
+    for (int e = 0; e < 3; ++e) {
+      const bool backwards = t.m_vertex[Index(e)] > t.m_vertex[Index((e + 1) % 3)];
       numbers.m_arrOf.push_back(vertices - 1 + edges[Index(e)] * (degree - 1) + d - 2);
       numbers.m_arrSign.push_back(backwards && d % 2 == 1 ? -1 : 1);
+    }
+    for (int i = 0; i <= d - 3; ++i) {
+      numbers.m_arrOf.push_back(next++);
+      numbers.m_arrSign.push_back(1);
     }
   }
   return numbers;
@@ -68,6 +52,7 @@ CSaintVenant::CSaintVenant(CSectionMesh mesh, int degree)
   MakeElements(std::min(lower, 4));
   if (!m_sound) return;
   NumberEdges();
+  m_order = JoiningOrder(m_mesh);
   auto fine = Solve(degree);
   auto coarse = Solve(lower);
   m_sound = fine.has_value() && coarse.has_value();
@@ -128,49 +113,36 @@ void CSaintVenant::NumberEdges() {
 }
 
 std::optional<CFields> CSaintVenant::Solve(int degree) const {
-  const CDegreeFunctions functions = CShapeFunctions::Functions(degree);
-  const int vertices = static_cast<int>(m_mesh.m_arrVertex.size());
-  const int size = vertices - 1 + m_edgeCount * (degree - 1);
-  std::vector<CCondensed> condensed;
+  const int functions = CShapeFunctions::Count(degree);
   std::vector<CNumbers> numbers;
-  condensed.reserve(m_elements.size());
-  numbers.reserve(m_elements.size());
-  std::vector<Eigen::Triplet<double>> entries;
-  MatrixXd force = MatrixXd::Zero(size, 3);
+  std::vector<int> sharing;
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
-    condensed.push_back(Condensed(m_elements[i].Stiffness(), m_forces[i], functions));
-    numbers.push_back(NumbersOf(m_mesh.m_arrTriangle[i], m_edges[i], vertices, degree));
-    const auto& [of, sign] = numbers.back();
-    const CCondensed& c = condensed.back();
-    for (std::size_t k = 0; k < of.size(); ++k) {
-      if (of[k] < 0) continue;
-      const auto row = static_cast<Eigen::Index>(k);
-      force.row(of[k]) += sign[k] * c.m_force.row(row);
-      for (std::size_t j = 0; j < of.size(); ++j) {
-        if (of[j] < 0 || of[j] > of[k]) continue;
-        entries.emplace_back(of[k], of[j],
-                             sign[k] * sign[j] * c.m_stiffness(row, static_cast<Eigen::Index>(j)));
-      }
+    numbers.push_back(NumbersOf(m_mesh, i, m_edges[i], m_edgeCount, degree));
+    for (int of : numbers.back().m_arrOf) {
+      if (of < 0) continue;
+      if (Index(of) >= sharing.size()) sharing.resize(Index(of) + 1, 0);
+      ++sharing[Index(of)];
     }
   }
-  Eigen::SparseMatrix<double> matrix(size, size);
-  matrix.setFromTriplets(entries.begin(), entries.end());
-  const Eigen::SimplicialLLT<Eigen::SparseMatrix<double>> solver(matrix);
-  if (solver.info() != Eigen::Success) return std::nullopt;
-  const MatrixXd solution = solver.solve(force);
-  if (!solution.allFinite()) return std::nullopt;
+  CElimination elimination(std::move(sharing), m_elements.size());
+  MatrixXd matrix, force;
+  for (std::size_t i = 0; i < m_elements.size(); ++i) {
+    // The functions of a degree come first.
+    const Eigen::Map<const Eigen::VectorXd> sign(numbers[i].m_arrSign.data(), functions);
+    matrix = m_elements[i].Stiffness().topLeftCorner(functions, functions);
+    matrix = sign.asDiagonal() * matrix * sign.asDiagonal();
+    force = sign.asDiagonal() * m_forces[i].topRows(functions);
+    elimination.Add(i, numbers[i].m_arrOf, matrix, force);
+  }
+  for (const auto& [a, b] : m_order) elimination.Join(Index(a), Index(b));
+  const MatrixXd solution = elimination.Solution();
+  if (solution.size() == 0 || !solution.allFinite()) return std::nullopt;
   CFields fields(m_elements.size());
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
-    const auto& [of, sign] = numbers[i];
-    CElementFields skeleton = CElementFields::Zero(static_cast<Eigen::Index>(of.size()), 3);
-    for (std::size_t k = 0; k < of.size(); ++k) {
-      if (of[k] >= 0) skeleton.row(static_cast<Eigen::Index>(k)) = sign[k] * solution.row(of[k]);
-    }
     fields[i].setZero(m_shape->m_nCount, 3);
-    fields[i](functions.m_arrSkeleton, Eigen::all) = skeleton;
-    if (!functions.m_arrInterior.empty()) {
-      fields[i](functions.m_arrInterior, Eigen::all) =
-          condensed[i].m_inner - condensed[i].m_recover.lazyProduct(skeleton);
+    for (int k = 0; k < functions; ++k) {
+      const int of = numbers[i].m_arrOf[Index(k)];
+      if (of >= 0) fields[i].row(k) = numbers[i].m_arrSign[Index(k)] * solution.row(of);
     }
   }
   return fields;

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "outlines/solver/element.h"
@@ -62,6 +63,7 @@ class CSaintVenant {
   std::vector<CElement> m_elements;
   std::vector<std::array<int, 3>> m_edges;  // of each element, numbered
   int m_edgeCount = 0;
+  std::vector<std::pair<int, int>> m_order;  // of elimination
   double m_area = 0;
   CPoint m_centroid;
   double m_Ix = 0, m_Iy = 0, m_Ixy = 0;

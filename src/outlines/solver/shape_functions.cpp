@@ -48,17 +48,6 @@ CKernel EdgeKernel(int d, double x) {
   return {p.d, p.dd};
 }
 
-CDegreeFunctions CShapeFunctions::Functions(int degree) {
-  CDegreeFunctions functions{{0, 1, 2}, {}};
-  for (int edge = 0; edge < 3; ++edge) {
-    for (int d = 2; d <= degree; ++d) functions.m_arrSkeleton.push_back(EdgeFunction(edge, d));
-  }
-  for (int d = 3; d <= degree; ++d) {
-    for (int i = Count(d - 1) + 3; i < Count(d); ++i) functions.m_arrInterior.push_back(i);
-  }
-  return functions;
-}
-
 void CShapeFunctions::Evaluate(double xi, double eta, double* value, double* dxi,
                                double* deta) const {
   const std::array<CDual, 3> l{CDual{1 - xi - eta, -1, -1}, {xi, 1, 0}, {eta, 0, 1}};

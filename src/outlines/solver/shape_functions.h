@@ -21,12 +21,6 @@ using CElementVector = Eigen::Matrix<double, Eigen::Dynamic, 1, 0, kMaxFunctions
 // Three at once: of the warping and the two flexure functions.
 using CElementFields = Eigen::Matrix<double, Eigen::Dynamic, 3, 0, kMaxFunctions, 3>;
 
-// Which functions of a degree stand on the boundary of the triangle, and which inside.
-struct CDegreeFunctions {
-  std::vector<int> m_arrSkeleton;  // vertices, edge 0 by degree, edge 1, edge 2
-  std::vector<int> m_arrInterior;
-};
-
 class CShapeFunctions {
  public:
   explicit CShapeFunctions(int degree);
@@ -36,7 +30,6 @@ class CShapeFunctions {
   static constexpr int Count(int degree) { return (degree + 1) * (degree + 2) / 2; }
   // The number of the function of degree d >= 2 of edge 0, 1 or 2.
   static constexpr int EdgeFunction(int edge, int d) { return Count(d - 1) + edge; }
-  static CDegreeFunctions Functions(int degree);
 
   // At (xi, eta): values, and derivatives by xi and eta.
   void Evaluate(double xi, double eta, double* value, double* dxi, double* deta) const;
