@@ -1,5 +1,5 @@
-// make_catalogue CSV-FOLDER FOLDER: makes the catalogue's data files, the system store and the exact
-// properties of its rows in FOLDER, which must be there, from the CSV files.
+// make_catalogue CSV-FOLDER FOLDER: makes the catalogue's data files, the system store and the
+// exact properties of its rows in FOLDER, which must be there, from the CSV files.
 #include <cstdio>
 #include <map>
 

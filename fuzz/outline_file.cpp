@@ -1,5 +1,5 @@
-// DXF files and files of exact properties: whatever the bytes, reading gives a fault or loops, which
-// are refused or bound steel; and no properties but from a file that is whole.
+// DXF files and files of exact properties: whatever the bytes, reading gives a fault or loops,
+// which are refused or bound steel; and no properties but from a file that is whole.
 //
 // The first byte of an input chooses the kind of file; the rest is the file.
 #include <string_view>
