@@ -193,7 +193,6 @@ class CExactLayout {
     // To the other side, clear of the letters of axes through the centroid.
     DrawAxis(drawing, CLayer::BaseAxis, {m_box.left, m_exact.yp}, 180, L"p");
     DrawAxis(drawing, CLayer::BaseAxis, {m_exact.xp, m_box.bottom}, 270, L"p");
-    DrawPlastic(drawing);
     if (!std::isfinite(m_exact.xs)) return;
     const CPoint s = Page(m_exact.xs, m_exact.ys);
     drawing.AddCircle(CLayer::Dimension, s, 5);
@@ -201,11 +200,6 @@ class CExactLayout {
     drawing.AddLine(CLayer::Dimension, {s.x, s.y - 8}, {s.x, s.y + 8});
     drawing.AddLabel(
         {CLayer::Dimension, {s.x + 9, s.y + 9}, L"S", kTextSize, CAnchor::Left, false});
-  }
-
-  void DrawPlastic(CDrawing& drawing) const {
-    drawing.AddLine(CLayer::BaseAxis, Page(m_box.left, m_exact.yp), Page(m_box.right, m_exact.yp));
-    drawing.AddLine(CLayer::BaseAxis, Page(m_exact.xp, m_box.bottom), Page(m_exact.xp, m_box.top));
   }
 
   const CExactPicture& m_picture;
