@@ -319,7 +319,7 @@ TEST(RowExact, HoldsForUserSections) {
       std::string name = style.m_szAlias;
       for (const double size : given) name += " " + std::to_string(size);
       EXPECT_TRUE(exact.m_bAccurate) << name;
-      if (made % 5 != 0 || !IsOfPlates(outline.m_arrLoop)) continue;
+      if (made % 10 != 0 || !IsOfPlates(outline.m_arrLoop)) continue;
       EXPECT_NEAR(exact.It, MembraneIt(outline.m_arrLoop), 0.01 * exact.It) << name;
     }
   }
