@@ -79,15 +79,17 @@ CBitmap SketchBitmap(int resource, double scale) {
   return DrawingBitmap(DrawSketch(resource).Drawing(), scale);
 }
 
-CBitmap SketchIcon(int resource, int size) {
+std::vector<CPath> SketchSteel(int resource) {
   const CSketchPen sketch = DrawSketch(resource);
   std::vector<CPath> steel;
   for (const CFigure& figure : sketch.Drawing().Figures()) {
     if (figure.m_nLayer != CLayer::Section) continue;
     steel.insert(steel.end(), figure.m_arrPath.begin(), figure.m_arrPath.end());
   }
-  return SteelIcon(std::move(steel), size);
+  return steel;
 }
+
+CBitmap SketchIcon(int resource, int size) { return SteelIcon(SketchSteel(resource), size); }
 
 CBitmap SteelIcon(std::vector<CPath> steel, int size) {
   const CBox box = PathBounds(steel);
