@@ -9,6 +9,8 @@
 #include "cli/run_program.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
+#include "framework/utf8.h"
+#include "platform/code_page.h"
 #include "reports/report_document.h"
 
 namespace {
@@ -225,10 +227,11 @@ TEST(CheckCommand, AnswersManyCasesOfACsv) {
   EXPECT_EQ(answers[1]["results"], ExampleAnswer("bolt")["results"]) << "the same group";
 }
 
-// "端板" in UTF-8 and in the code page, behind more plain text than is read at once.
+// "端板" in the code page 936, or what the same bytes are in another system's, and the same text in
+// UTF-8, behind more plain text than is read at once.
 TEST(CheckCommand, TakesACsvInTheCodePageOfASpreadsheet) {
-  const std::string utf8 = "\xE7\xAB\xAF\xE6\x9D\xBF";
   const std::string codePage = "\xB6\xCB\xB0\xE5";
+  const std::string utf8 = orv3::ToUtf8(orv3::FromAnsi(codePage));
   const std::string rest = ";0;Q235;1;100;10;50;0;0\r\n";
   std::string plain = "id;case;steel;quality;lw;t;N;M;V\r\n";
   for (int i = 0; i < 4000; ++i) plain += "plain" + rest;
@@ -238,6 +241,7 @@ TEST(CheckCommand, TakesACsvInTheCodePageOfASpreadsheet) {
   ExpectHas(check(utf8).m_strOut, {utf8});
   EXPECT_EQ(check(codePage).m_strOut, check(utf8).m_strOut);
   // What began as UTF-8 goes on as such; what is neither is refused.
+  if (orv3::AnsiCodePage() != 936) return;  // another page may have a character for every byte
   for (const std::string& broken : {utf8 + rest + codePage, std::string("\xFF\xFF")})
     EXPECT_EQ(check(broken).m_nExit, 2);
 }
