@@ -1,8 +1,4 @@
-<<<<<<<< HEAD:src/framework/bilingual_text.h
 // A text in both languages of the system, UTF-8.
-========
-// A text in both languages of the program, UTF-8.
->>>>>>>> w-code:src/framework/language_text.h
 #pragma once
 
 #include <string>
