@@ -73,7 +73,7 @@ CHoleRoom RoomOf(const CBoltCase2017& input, const CHoleSize& size) noexcept {
 void FieldFaults(const CBoltCase2017& input, CFaultList& faults) {
   faults.Within("layout", input.m_nLayout, 0, 1);
   faults.Within("type", input.m_nType, 0, 2);
-  faults.Within("steel", input.m_nSteel, 0, static_cast<int>(kSteelGrades) - 1);
+  faults.Within("steel", input.m_nSteel, 0, gb2017::kLastSteel);
   faults.Within("hole", input.m_nHole, CBoltCase2017::kNotSaid, 3);
   DiameterFault(input.m_nD, faults);
   faults.Positive("t", input.m_dThick, "mm");
@@ -93,7 +93,7 @@ void HoleKindFaults(const CBoltCase2017& input, CFaultList& faults) {
     faults.Add("hole", {"普通螺栓没有孔型", "ordinary bolts have no hole kinds"},
                {"请删去，或用高强度螺栓", "leave it out, or take high-strength bolts"});
   } else if (input.m_nType == kBearingBolt && input.m_nHole != 0) {
-    const std::string hole = kHoles[input.m_nHole];
+    const std::string hole = kHoleNames[input.m_nHole];
     faults.Add("hole",
                {hole + "：承压型连接采用标准圆孔（11.5.1 条）",
                 hole + ": bearing type takes standard holes (11.5.1)"},
@@ -119,9 +119,9 @@ auto MakeInputKeys() {
           keys.push_back({key.m_szKey, field, key.m_szUnit, key.m_name, key.m_choices});
         },
         key.m_field);
-    if (std::string_view(key.m_szKey) == "steel") keys.back().m_choices = kSteels2017;
+    if (std::string_view(key.m_szKey) == "steel") keys.back().m_choices = kGradeNames;
   }
-  keys.push_back({"hole", &C::m_nHole, "", {"孔型", "hole"}, kHoles});
+  keys.push_back({"hole", &C::m_nHole, "", {"孔型", "hole"}, kHoleNames});
   keys.push_back({"threads", &C::m_nThreads, "", {"剪切面处螺纹", "threads in the shear plane"},
                   kThreads});
   keys.push_back({"edges", &C::m_nEdges, "", {"板边加工", "edges"}, kEdges});
@@ -147,10 +147,6 @@ auto MakeResultKeys() {
 }
 
 }  // namespace
-
-// In the order of CSteelGrade and CHoleKind.
-const char* const kSteels2017[7] = {"Q235", "Q345", "Q355", "Q390", "Q420", "Q460", "Q345GJ"};
-const char* const kHoles[4] = {"standard", "oversize", "slot-across", "slot-along"};
 
 std::span<const CInputKey<CBoltCase2017>> CBoltCheck2017::InputKeys() {
   static const auto kKeys = MakeInputKeys();
@@ -290,7 +286,7 @@ void CBoltCheck2017::JudgeParts(const CBoltCase2017& input) {
 
 std::vector<CCaseWarning> CBoltCheck2017::Notes(const CBoltCase2017& input) const {
   std::vector<CCaseWarning> notes;
-  if (SteelOf(input) == CSteelGrade::Q355) gb2017::NoteOfQ355(notes);
+  gb2017::NoteOf(SteelStrengths(gb2017::kEdition, SteelOf(input), input.m_dThick), "steel", notes);
   gb2017::NoteOfDetails(m_arrDetail, notes);
   if (input.m_dN < 0 && !IsZero(input.m_dN)) {
     notes.push_back({"N",

@@ -68,7 +68,5 @@ class ORV3CAL_API CBoltCheck2017 : public CCaseAnswer {
   std::vector<CDetail> m_arrDetail;
 };
 
-extern const char* const kSteels2017[7];
-extern const char* const kHoles[4];
 
 }  // namespace orv3

@@ -23,7 +23,7 @@ auto MakeInputKeys() {
           keys.push_back({key.m_szKey, field, key.m_szUnit, key.m_name, key.m_choices});
         },
         key.m_field);
-    if (std::string_view(key.m_szKey) == "steel") keys.back().m_choices = kSteels2017;
+    if (std::string_view(key.m_szKey) == "steel") keys.back().m_choices = kGradeNames;
   }
   return keys;
 }
@@ -38,7 +38,7 @@ std::span<const CInputKey<CButtCase2017>> CButtCheck2017::InputKeys() {
 bool CButtCheck2017::IsRefused(const CButtCase2017& input) {
   CFaultList faults;
   ButtFieldFaults(input, faults);
-  faults.Within("steel", input.m_nSteel, 0, static_cast<int>(kSteelGrades) - 1);
+  faults.Within("steel", input.m_nSteel, 0, gb2017::kLastSteel);
   m_results = {};
   if (faults.IsEmpty()) {
     const auto weld = gb2017::Take(
@@ -71,7 +71,7 @@ bool CButtCheck2017::Run(const CButtCase2017& input) {
         judge({"折算应力", "reduced stress"}, "okReduced", j.m_dCombined, j.m_dCombinedLimit);
   }
   std::vector<CCaseWarning> notes;
-  if (SteelOf(input) == CSteelGrade::Q355) gb2017::NoteOfQ355(notes);
+  gb2017::NoteOf(ButtWeldStrengths(gb2017::kEdition, SteelOf(input), input.m_dThick), "steel", notes);
   Warn(std::move(notes));
   return true;
 }

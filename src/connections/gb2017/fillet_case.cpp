@@ -51,9 +51,9 @@ auto MakeInputKeys() {
           keys.push_back({key.m_szKey, field, key.m_szUnit, key.m_name, key.m_choices});
         },
         key.m_field);
-    if (std::string_view(key.m_szKey) == "steel") keys.back().m_choices = kSteels2017;
+    if (std::string_view(key.m_szKey) == "steel") keys.back().m_choices = kGradeNames;
   }
-  keys.push_back({"electrode", &C::m_nElectrode, "", {"焊条型号", "electrode"}, kElectrodes});
+  keys.push_back({"electrode", &C::m_nElectrode, "", {"焊条型号", "electrode"}, kElectrodeNames});
   keys.push_back({"joint", &C::m_nJoint, "", {"连接形式", "joint"}, kJoints});
   keys.push_back({"t1", &C::m_dT1, "mm", {"焊件厚度 t1（搭接焊缝所沿棱边）", "part t1"}});
   keys.push_back({"t2", &C::m_dT2, "mm", {"另一焊件厚度 t2", "part t2"}});
@@ -77,9 +77,6 @@ auto MakeResultKeys() {
 
 }  // namespace
 
-// In the order of CElectrode.
-const char* const kElectrodes[4] = {"E43", "E50", "E55", "E60"};
-
 std::span<const CInputKey<CFilletCase2017>> CFilletCheck2017::InputKeys() {
   static const auto kKeys = MakeInputKeys();
   return kKeys;
@@ -93,7 +90,7 @@ std::span<const CResultKey<CFilletResults2017>> CFilletCheck2017::ResultKeys() {
 bool CFilletCheck2017::IsRefused(const CFilletCase2017& input) {
   CFaultList faults;
   FilletFieldFaults(input, kFilletClauses2017, faults);
-  faults.Within("steel", input.m_nSteel, 0, static_cast<int>(kSteelGrades) - 1);
+  faults.Within("steel", input.m_nSteel, 0, gb2017::kLastSteel);
   faults.Within("electrode", input.m_nElectrode, -1, 3);
   AngleFaults(input, faults);
   JointFaults(input, faults);
@@ -147,7 +144,7 @@ void CFilletCheck2017::JudgeParts() {
 
 std::vector<CCaseWarning> CFilletCheck2017::Notes(const CFilletCase2017& input) const {
   std::vector<CCaseWarning> notes;
-  if (SteelOf(input) == CSteelGrade::Q355) gb2017::NoteOfQ355(notes);
+  gb2017::NoteOf(FilletWeldStrength(gb2017::kEdition, SteelOf(input)), "steel", notes);
   WarnOfBeta(input, m_figures, kFilletClauses2017, notes);
   if (input.m_dS != 0 && m_figures.m_bShear && IsShortFusion(input.m_nGroove)) {
     notes.push_back({"groove",

@@ -20,12 +20,6 @@ std::string Plain(const char* formula) {
 
 }  // namespace
 
-void NoteOfQ355(std::vector<CCaseWarning>& notes) {
-  notes.push_back({"steel",
-                   {"Q355 按 Q345 一栏取值（GB/T 1591 以 Q355 代替 Q345）。",
-                    "Q355 is taken from the column of Q345, which it has replaced in GB/T 1591."}});
-}
-
 void NoteOfDetails(std::span<const CDetail> details, std::vector<CCaseWarning>& notes) {
   for (const CDetail& detail : details) {
     if (detail.Utilisation() <= 1 + 1e-9) continue;
@@ -68,6 +62,16 @@ void NoteOfUnknownParts(const CFilletCase2017& input, std::vector<CCaseWarning>&
                    {hf + " 适用于" + holds.m_strChinese + "；给出 t1 与 t2 即可验算。",
                     hf + " is right for " + holds.m_strEnglish +
                         "; give t1 and t2 to have it checked."}});
+}
+
+void NoteOfThickParts(const char* key, double hf, std::vector<CCaseWarning>& notes) {
+  const double thickest = ThickestPart(hf);
+  if (thickest == 0 || !std::isfinite(thickest)) return;
+  const std::string is = "hf = " + PlainNumber(hf) + " mm";
+  const std::string most = PlainNumber(thickest) + " mm";
+  notes.push_back({key,
+                   {is + " 适用于厚度不大于 " + most + " 的焊件（表 11.3.5）。",
+                    is + " is right for parts up to " + most + " thick (Table 11.3.5)."}});
 }
 
 }  // namespace orv3::gb2017

@@ -10,11 +10,13 @@
 
 namespace orv3::gb2017 {
 
-void NoteOfQ355(std::vector<CCaseWarning>& notes);
 // Of each rule that is not kept, with its numbers.
 void NoteOfDetails(std::span<const CDetail> details, std::vector<CCaseWarning>& notes);
 
 // What the leg of a fillet weld is enough for when the parts are not given.
 void NoteOfUnknownParts(const CFilletCase2017& input, std::vector<CCaseWarning>& notes);
+
+// The same for a group of welds by its smallest leg.
+void NoteOfThickParts(const char* key, double hf, std::vector<CCaseWarning>& notes);
 
 }  // namespace orv3::gb2017

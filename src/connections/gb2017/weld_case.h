@@ -49,6 +49,4 @@ class ORV3CAL_API CButtCheck2017 : public CWeldCheck<CButtCase2017, CButtResults
   bool IsRefused(const CButtCase2017& input);
 };
 
-extern const char* const kElectrodes[4];
-
 }  // namespace orv3
