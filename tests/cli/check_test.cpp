@@ -9,7 +9,7 @@
 #include "cli/run_program.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
-#include "connections/report/connection_report.h"
+#include "reports/report_document.h"
 
 namespace {
 
