@@ -22,7 +22,7 @@
 #define ORV3CAL_C_H
 
 /* Raised whenever a function is added; functions never change or go. */
-#define ORV3_INTERFACE_VERSION 2
+#define ORV3_INTERFACE_VERSION 3
 
 #if defined(_WIN32)
 #define ORV3_CALL __stdcall
@@ -173,6 +173,16 @@ ORV3_API int ORV3_CALL orv3_pair_geometry(const orv3_char* table, const orv3_cha
 ORV3_API int ORV3_CALL orv3_check_bolt(const orv3_char* input, orv3_char* text, int size);
 ORV3_API int ORV3_CALL orv3_check_fillet(const orv3_char* input, orv3_char* text, int size);
 ORV3_API int ORV3_CALL orv3_check_butt(const orv3_char* input, orv3_char* text, int size);
+
+/* --- Checks by either edition of GB 50017 -------------------------------------------------------
+ */
+
+/* `kind` is "bolt", "fillet", "butt" or "weld-group"; `code` is "2017" (in force) or "2003"
+ * (withdrawn, for existing structures); null or empty takes the input's value "code", else 2017.
+ * Input and result as above; the welds of a group as x1;y1;x2;y2;hf of each in turn. The result
+ * begins with "code". */
+ORV3_API int ORV3_CALL orv3_check(const orv3_char* kind, const orv3_char* code,
+                                  const orv3_char* input, orv3_char* text, int size);
 
 /* --- Figures of GB 50017-2003, each of which returns 0 ------------------------------------------
  */

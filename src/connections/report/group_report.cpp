@@ -219,9 +219,13 @@ void CGroupReport::Stresses() {
        tx + " × " + ux + " + " + ty + " × " + uy, m_r.m_dTau, "N/mm²");
   Step({"平面内垂直于焊缝的应力", "Stress across the weld, in the plane"}, "σ_V",
        "τ_y u_x − τ_x u_y", ty + " × " + ux + " − " + tx + " × " + uy, m_r.m_dAcross, "N/mm²");
+  const std::string v = Put(m_r.m_dAcross);
+  const std::string n = Put(m_r.m_dOut);
+  const std::string across = "√(" + v + "^2 + " + n + "^2" +
+                             (m_input.m_dBetaF == 1 ? ")" : " + |" + v + " × " + n + "|)");
   Step({"垂直于焊缝的应力", "Stress across the weld"}, "σ_f",
-       "\\min(√(σ_V^2 + σ_N^2 + |σ_V σ_N|), β_f √(σ_V^2 + σ_N^2))", "", m_point.m_dSigma, "N/mm²",
-       Clause());
+       m_input.m_dBetaF == 1 ? "√(σ_V^2 + σ_N^2)" : "√(σ_V^2 + σ_N^2 + |σ_V σ_N|)", across,
+       m_point.m_dSigma, "N/mm²", Clause());
   Step({"综合应力", "Combined stress"}, "σ_{fs}", "√((σ_f / β_f)^2 + τ_f^2)",
        "√((" + PlainNumber(m_point.m_dSigma) + " / " + PlainNumber(m_input.m_dBetaF) + ")^2 + " +
            Put(m_r.m_dTau) + "^2)",

@@ -74,10 +74,10 @@ void FieldFaults(const CWeldGroupCase& input, CFaultList& faults) {
   faults.Finite("T", input.m_dT);
   faults.Finite("x", input.m_dX);
   faults.Finite("y", input.m_dY);
-  if (!(input.m_dBetaF >= 1 && input.m_dBetaF <= 1.22)) {
-    faults.NotPossible("betaF", PlainNumber(input.m_dBetaF),
-                       {"请给 1.0（动力荷载）至 1.22（静力荷载）",
-                        "give 1.0 (dynamic loads) to 1.22 (static loads)"});
+  if (input.m_dBetaF != 1 && input.m_dBetaF != 1.22) {
+    faults.NotPossible(
+        "betaF", PlainNumber(input.m_dBetaF),
+        {"请给 1.22（静力荷载）或 1（动力荷载）", "give 1.22 (static loads) or 1 (dynamic loads)"});
   }
 }
 

@@ -68,7 +68,7 @@ bool FindTension(const CCentroidLoads& loads, const CWeldGroupSums& sums,
 
 double AcrossSquared(double a, double b, double betaF) noexcept {
   const double resultant = a * a + b * b;
-  return std::min((resultant + std::fabs(a * b)) / (betaF * betaF), resultant);
+  return betaF == 1 ? resultant : (resultant + std::fabs(a * b)) / (betaF * betaF);
 }
 
 std::vector<CWeldPoint> WeldPoints(std::span<const CWeldLine> welds, const CCentroidLoads& loads,

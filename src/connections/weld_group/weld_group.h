@@ -80,9 +80,10 @@ struct CWeldPoint {
   double m_dCombined = 0;
 };
 
-// The stress across a weld from its parts in the plane and out of it, over beta-f, squared. Which
-// side of the weld the plate is on decides between a^2 - a b + b^2 and a^2 + a b + b^2: the greater
-// holds, and never more than their resultant without beta-f.
+// The stress across a weld from its parts in the plane and out of it, over beta-f, squared. By the
+// strength of the throat it is a^2 - a b + b^2 or a^2 + a b + b^2, over 1.22^2, by the side of the
+// weld that the plate is on: the greater holds. With beta-f 1 it is their resultant, which is never
+// less.
 double AcrossSquared(double a, double b, double betaF) noexcept;
 
 // Both ends of every weld, where the stress of a weld is greatest.
