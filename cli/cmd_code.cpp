@@ -100,8 +100,7 @@ void PrintFigure(const CCodeFigure& figure, bool bJson) {
         number != nullptr ? JsonNumber(*number) : CJson(std::get<std::string>(figure.m_value));
     CJson answer = {{"value", value}, {"unit", figure.m_szUnit}, {"source", figure.m_strSource}};
     if (!figure.m_strNote.empty()) answer["note"] = figure.m_strNote;
-    if (figure.m_nStatus != CFigureStatus::Table)
-      answer["status"] = kStatus[static_cast<std::size_t>(figure.m_nStatus)];
+    if (figure.m_status) answer["status"] = kStatus[static_cast<std::size_t>(*figure.m_status)];
     return PrintJson(answer);
   }
   std::string text =

@@ -30,7 +30,7 @@ CCodeFigure FigureOf(std::variant<double, std::string> value, const CCodeSource&
                      const char* unit) {
   CCodeFigure figure{std::move(value), unit, SourceText(source).m_strEnglish};
   if (source.m_pNote != nullptr) figure.m_strNote = source.m_pNote->m_szEnglish;
-  figure.m_nStatus = source.m_nStatus;
+  if (source.m_nEdition == CCodeEdition::Gb2017) figure.m_status = source.m_nStatus;
   return figure;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -24,8 +25,8 @@ struct CCodeFigure {
   std::variant<double, std::string> m_value;  // an infinity where the code prints one
   const char* m_szUnit;
   std::string m_strSource;
-  std::string m_strNote = {};  // what to know before relying on it
-  CFigureStatus m_nStatus = CFigureStatus::Table;
+  std::string m_strNote = {};                  // what to know before relying on it
+  std::optional<CFigureStatus> m_status = {};  // of the figures of 2017
 };
 
 // The figure of an answer; its refusal names the argument as the command does.

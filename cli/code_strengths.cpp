@@ -155,9 +155,9 @@ CCodeFigure FatigueFigure(const CCodeRequest& request) {
   if (parameter == 5) {
     const double n = Number(request, 2, "N", "a number of cycles, 1 and more");
     if (n < 1) RefuseArgument("N", request[2], "a number of cycles, 1 and more");
-    CCodeFigure figure = FigureOf(AllowableRange(category, n), answer.Source(), kStressUnit);
-    figure.m_nStatus = CFigureStatus::Derived;
-    return figure;
+    CCodeSource source = answer.Source();
+    source.m_nStatus = CFigureStatus::Derived;
+    return FigureOf(AllowableRange(category, n), source, kStressUnit);
   }
   const std::optional<double> printed[] = {category.m_range2e6, category.m_range5e6,
                                            category.m_cutOff};

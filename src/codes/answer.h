@@ -5,8 +5,8 @@
 #include <utility>
 #include <variant>
 
-#include "framework/export.h"
 #include "framework/bilingual_text.h"
+#include "framework/export.h"
 
 namespace orv3 {
 
