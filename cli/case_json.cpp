@@ -307,8 +307,8 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   int m_nKey = kNone;    // whose value comes next
   int m_nTwice = kNone;  // the key whose second value goes to the spare place
   bool m_bList = false;
-  bool m_bMember = false;  // within an object of a key's list
-  int m_nMember = kNone;   // whose number comes next
+  bool m_bMember = false;              // within an object of a key's list
+  int m_nMember = kNone;               // whose number comes next
   std::vector<std::string> m_arrText;  // what the values point to, by key
   std::vector<std::vector<double>> m_arrList;
 };

@@ -68,9 +68,8 @@ std::vector<CResultColumn> ColumnsOf() {
       auto at = std::find_if(columns.begin(), columns.end(), [&](const CResultColumn& column) {
         return std::string_view(column.m_szKey) == key.m_szKey;
       });
-      const bool bVerdict =
-          std::visit([](auto field) { return std::is_same_v<decltype(FieldOf(field)), bool>; },
-                     key.m_field);
+      const bool bVerdict = std::visit(
+          [](auto field) { return std::is_same_v<decltype(FieldOf(field)), bool>; }, key.m_field);
       if (at == columns.end())
         at = columns.insert(at, {key.m_szKey, key.m_name, key.m_szUnit, bVerdict, {-1, -1}});
       at->m_arrAt[static_cast<int>(edition)] = static_cast<int>(i);

@@ -26,9 +26,9 @@ CReportSheet SheetOf(const CCaseSchema& schema, const CCaseValues& values) {
 
 CCaseFault NotInEdition(const std::string& key, CCodeEdition edition) {
   const std::string name = Name(edition);
-  const std::string other = EditionFacts(edition == CCodeEdition::Gb2003 ? CCodeEdition::Gb2017
-                                                                         : CCodeEdition::Gb2003)
-                                .m_szYear;
+  const std::string other =
+      EditionFacts(edition == CCodeEdition::Gb2003 ? CCodeEdition::Gb2017 : CCodeEdition::Gb2003)
+          .m_szYear;
   return {key,
           {"按 " + name + " 不用", "has no place by " + name},
           {"请删去，或用 " + other + " 版", "leave it out, or take the " + other + " edition"}};

@@ -165,7 +165,8 @@ CText CCaseSchema::CRule::Right() const {
   if (!m_arrMember.empty()) {
     std::string members;
     for (const std::string& member : m_arrMember) members += (members.empty() ? "" : ", ") + member;
-    return {"请给出对象的数组，每个含 " + members, "give an array of objects, each with " + members};
+    return {"请给出对象的数组，每个含 " + members,
+            "give an array of objects, each with " + members};
   }
   CText words = m_bInteger ? CText{"请给出整数", "give a whole number"}
                            : CText{"请给出数值", "give a number"};

@@ -42,7 +42,7 @@ class CCaseSchema {
     std::vector<std::string> m_arrText;  // allowed texts
     std::vector<double> m_arrNumber;     // allowed numbers
     CRange m_range;
-    CRange m_items;       // of the numbers of an array
+    CRange m_items;  // of the numbers of an array
     // Of an array of objects: their keys and ranges. Its value is the objects' numbers, one object
     // after the other, in this order.
     std::vector<std::string> m_arrMember;

@@ -12,13 +12,13 @@
 
 namespace orv3::cli {
 
-// The editions that a text asks for: "2017", "2003", or "both" with the one in force first; those of
-// `otherwise` for any other text.
+// The editions that a text asks for: "2017", "2003", or "both" with the one in force first; those
+// of `otherwise` for any other text.
 std::span<const CCodeEdition> EditionsNamed(std::string_view text,
                                             std::span<const CCodeEdition> otherwise);
 
-// Those of --code, else of the variable ORV3CAL_CODE, else the one in force. Another text is refused
-// by name.
+// Those of --code, else of the variable ORV3CAL_CODE, else the one in force. Another text is
+// refused by name.
 std::vector<CCodeEdition> EditionsAsked(const std::string& option);
 
 // What is the same of a check by either edition.
@@ -103,10 +103,8 @@ class CEditionRun : public CAnyEditionRun {
   }
 
   CReportCase Report(int number, const CReportSheet& sheet, CLanguage language) const {
-    CReportCase each = {.m_nCase = number,
-                        .m_nEdition = m_nEdition,
-                        .m_strId = Id(),
-                        .m_sheet = sheet};
+    CReportCase each = {
+        .m_nCase = number, .m_nEdition = m_nEdition, .m_strId = Id(), .m_sheet = sheet};
     if (m_fault) {
       each.m_strRefused = m_fault->Line(language);
       return each;
@@ -137,8 +135,8 @@ std::string BothText(std::span<const CResultColumn> columns, const RUN2017& firs
     std::string a = first.ResultText(column.At(CCodeEdition::Gb2017));
     std::string b = second.ResultText(column.At(CCodeEdition::Gb2003));
     if (a.empty() && b.empty()) continue;
-    results.AddRow({column.m_name.In(language), column.m_szKey, std::move(a), std::move(b),
-                    column.m_szUnit});
+    results.AddRow(
+        {column.m_name.In(language), column.m_szKey, std::move(a), std::move(b), column.m_szUnit});
   }
   return results.Text() + first.Verdict() + second.Verdict();
 }
@@ -147,8 +145,8 @@ std::string BothText(std::span<const CResultColumn> columns, const RUN2017& firs
 template <class RUN2017, class RUN2003>
 CJson BothJson(const RUN2017& first, const RUN2003& second) {
   CJson json = {{"code", "both"}, {"pass", first.Pass() && second.Pass()}};
-  const bool bFirst = second.Fault() != nullptr ||
-                      (first.Fault() == nullptr && first.Worst() >= second.Worst());
+  const bool bFirst =
+      second.Fault() != nullptr || (first.Fault() == nullptr && first.Worst() >= second.Worst());
   const CJson worst = bFirst ? first.Json() : second.Json();
   for (const char* key : {"utilisation", "governs"})
     if (worst.contains(key)) json[key] = worst[key];

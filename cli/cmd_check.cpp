@@ -231,9 +231,9 @@ class CChecker {
   CEditionRun<CHECK2017> m_2017;
   const std::vector<CResultColumn> m_columns;
   CAnswers m_answers;
-  const int m_nCode;                            // the position of the key "code"
-  std::span<const CCodeEdition> m_arrEdition;   // of the case at hand
-  bool m_bOne = false;  // the file is one case, which is answered in full
+  const int m_nCode;                           // the position of the key "code"
+  std::span<const CCodeEdition> m_arrEdition;  // of the case at hand
+  bool m_bOne = false;                         // the file is one case, which is answered in full
   std::vector<CReportCase> m_arrReport;
   std::size_t m_nReported = 0;
   int m_nCases = 0;

@@ -216,8 +216,8 @@ CCodeEdition EditionOf(const std::string& code, CValues& values) {
   return *edition;
 }
 
-int CheckBy(const std::string& name, const std::string& code, const orv3_char* text,
-            orv3_char* out, int size) {
+int CheckBy(const std::string& name, const std::string& code, const orv3_char* text, orv3_char* out,
+            int size) {
   for (const CCheckKind& kind : kCheckKinds) {
     if (name != kind.m_szName) continue;
     CValues values = ReadValues(text);

@@ -167,12 +167,14 @@ class CReportWriter {
   std::string Basis(std::span<const CCodeEdition> editions) const {
     static constexpr CTextLiteral kNames[] = {
         {"《钢结构设计规范》GB 50017-2003", "GB 50017-2003, Code for design of steel structures"},
-        {"《钢结构设计标准》GB 50017-2017", "GB 50017-2017, Standard for design of steel structures"}};
+        {"《钢结构设计标准》GB 50017-2017",
+         "GB 50017-2017, Standard for design of steel structures"}};
     std::string basis;
     for (const CCodeEdition edition : editions) {
       const std::string name = Text(kNames[static_cast<int>(edition)]);
       const std::string status = Text(EditionFacts(edition).m_status);
-      const CText line = {"依据" + name + "（" + status + "）。", "By " + name + " (" + status + ")."};
+      const CText line = {"依据" + name + "（" + status + "）。",
+                          "By " + name + " (" + status + ")."};
       basis += (basis.empty() ? "" : " ") + line.In(m_nLanguage);
     }
     return basis;
@@ -217,9 +219,9 @@ class CReportWriter {
     Head(CommonSheet(), Text(kTitle), Editions());
     m_strHtml += std::string("<h1>") + Text(kTitle) + "</h1>\n" + Count() +
                  "<table class=\"verdicts summary\"><thead><tr>";
-    static constexpr CTextLiteral kHead[] = {{"序号", "Case"},      {"编号", "Id"},
-                                             {"版本", "Code"},      {"结论", "Verdict"},   {"利用率", "Utilisation"},
-                                             {"控制项", "Governs"}, {"警告", "Warnings"}};
+    static constexpr CTextLiteral kHead[] = {
+        {"序号", "Case"},          {"编号", "Id"},        {"版本", "Code"},    {"结论", "Verdict"},
+        {"利用率", "Utilisation"}, {"控制项", "Governs"}, {"警告", "Warnings"}};
     for (const CTextLiteral& head : kHead) m_strHtml += std::string("<th>") + Text(head) + "</th>";
     m_strHtml += "</tr></thead>\n";
     for (const CReportCase& each : m_arrCase) Line(each);
@@ -232,15 +234,16 @@ class CReportWriter {
     };
     const std::string all = std::to_string(m_arrCase.size());
     const bool bBoth = Editions().size() > 1;
-    const CTextLiteral what = bBoth ? CTextLiteral{" 项验算", " checks"}
-                                    : CTextLiteral{" 个算例", " cases"};
+    const CTextLiteral what =
+        bBoth ? CTextLiteral{" 项验算", " checks"} : CTextLiteral{" 个算例", " cases"};
     const std::string refused = count([](auto& each) { return !each.m_strRefused.empty(); });
     const std::string passes = count([](auto& each) { return each.m_bPass; });
     const std::string fails =
         count([](auto& each) { return each.m_strRefused.empty() && !each.m_bPass; });
-    const CText text = {
-        "共 " + all + what.m_szChinese + "：满足 " + passes + "，不满足 " + fails + "，拒绝 " + refused + "。",
-        all + what.m_szEnglish + ": " + passes + " pass, " + fails + " fail, " + refused + " refused."};
+    const CText text = {"共 " + all + what.m_szChinese + "：满足 " + passes + "，不满足 " + fails +
+                            "，拒绝 " + refused + "。",
+                        all + what.m_szEnglish + ": " + passes + " pass, " + fails + " fail, " +
+                            refused + " refused."};
     const bool bAll = all == passes;
     return std::string("<div class=\"box ") + (bAll ? "pass" : "fail") + "\">" +
            text.In(m_nLanguage) + "</div>\n";

@@ -80,8 +80,8 @@ TEST(Gb2017, BoltGroupsByHand) {
       {"N and M < 0 about the centroid",
        With(Friction(), [](C& c) { c.m_dN = 120, c.m_dM = -9600; }),
        400 / 6.0 / 111.6 + (20 + 9600 * 80 / sumY2) / 124, "passForces"},
-      {"a compression N takes nothing off the shear",
-       With(Friction(), [](C& c) { c.m_dN = -500; }), 400 / 6.0 / 111.6, "passForces"},
+      {"a compression N takes nothing off the shear", With(Friction(), [](C& c) { c.m_dN = -500; }),
+       400 / 6.0 / 111.6, "passForces"},
       {"11.4.3: threads in the shear plane unless said", Bearing(), 400 / 6.0 / (area * 310),
        "passForces"},
       {"and outside", With(Bearing(), [](C& c) { c.m_nThreads = 1; }),
@@ -104,15 +104,13 @@ TEST(Gb2017, BoltGroupsByHand) {
             }),
        7000 * 185.0 / (2 * (185.0 * 185 + 120.0 * 120)) / (area * 170), "passForces"},
       {"7.1.1: net section, d + 4 off for each hole, 0.7 fu",
-       With(Bearing(),
-            [](C& c) { c.m_nNv = 20, c.m_dSumT = 200, c.m_dThick = 10, c.m_dVx = 500; }),
+       With(Bearing(), [](C& c) { c.m_nNv = 20, c.m_dSumT = 200, c.m_dThick = 10, c.m_dVx = 500; }),
        500e3 / ((260 - 3 * 24) * 10) / (0.7 * 470), "passX"},
       {"the gross section against f",
        With(Friction(), [](C& c) { c.m_nNf = 20, c.m_dThick = 10, c.m_dVx = 700; }),
        700e3 / 2600 / 305, "passX"},
       {"slots of 37 mm across the force in the section",
-       With(Friction(),
-            [](C& c) { c.m_nNf = 20, c.m_dThick = 10, c.m_dVx = 700, c.m_nHole = 2; }),
+       With(Friction(), [](C& c) { c.m_nNf = 20, c.m_dThick = 10, c.m_dVx = 700, c.m_nHole = 2; }),
        0.75 * 700e3 / ((260 - 3 * 37) * 10) / (0.7 * 470), "passX"},
       {"3 d0", With(Friction(), [](C& c) { c.m_rowSpace.m_dUniform = 65; }), 66 / 65.0,
        "passSpacing"},
@@ -121,8 +119,8 @@ TEST(Gb2017, BoltGroupsByHand) {
       {"2 d0 of an oversize hole along the force",
        With(Friction(), [](C& c) { c.m_nHole = 1, c.m_dEx = 47, c.m_colSpace.m_dUniform = 75; }),
        48 / 47.0, "passSpacing"},
-      {"2 d0 across too under a torque",
-       With(Friction(), [](C& c) { c.m_dEy = 40, c.m_dT = 100; }), 44 / 40.0, "passSpacing"},
+      {"2 d0 across too under a torque", With(Friction(), [](C& c) { c.m_dEy = 40, c.m_dT = 100; }),
+       44 / 40.0, "passSpacing"},
       {"1.5 d0 across", With(Ordinary(), [](C& c) { c.m_dEy = 28; }), 32.25 / 28, "passSpacing"},
       {"1.2 d0 at rolled edges", With(Ordinary(), [](C& c) { c.m_dEy = 28, c.m_nEdges = 1; }),
        10 / (kPi / 4 * 0.4 * 140), "passForces"},
@@ -347,8 +345,8 @@ TEST(WeldGroup, RulesAndRefusals) {
   });
   CWeldGroupCheck later(CCodeEdition::Gb2017);
   ASSERT_TRUE(later.Run(lap));
-  EXPECT_NEAR(later.Worst().m_dUtilisation,
-              200e3 / (2 * 4.2 * 400) / 160 / (1.5 - 400 / 720.0), 1e-9);
+  EXPECT_NEAR(later.Worst().m_dUtilisation, 200e3 / (2 * 4.2 * 400) / 160 / (1.5 - 400 / 720.0),
+              1e-9);
   EXPECT_TRUE(later.Pass());
   CWeldGroupCheck earlier(CCodeEdition::Gb2003);
   ASSERT_TRUE(earlier.Run(lap));

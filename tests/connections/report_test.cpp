@@ -159,7 +159,8 @@ TEST(Report, EveryEvaluatedLineOfABoltGroupIsTrue) {
     if (input.m_nRows > 1) later.m_dM = kSigns[n / 4 % 3] * 2400.0;
     later.m_nSteel = std::array{0, 1, 2, 3}[static_cast<std::size_t>(n / 3 % 4)];
     later.m_nSurface = n % 3;
-    if (input.m_nType != kOrdinaryBolt) later.m_nHole = input.m_nType == kFrictionBolt ? n / 3 % 4 : 0;
+    if (input.m_nType != kOrdinaryBolt)
+      later.m_nHole = input.m_nType == kFrictionBolt ? n / 3 % 4 : 0;
     later.m_nThreads = n / 3 % 3 - 1;
     lines += ExpectTrueLines<CBoltCheck2017>(later, "group by 2017 " + std::to_string(n));
   }

@@ -14,8 +14,8 @@ void GroupFaults(const CBoltCase& input, CFaultList& faults);
 void GradeFaults(const CBoltCase& input, CFaultList& faults);
 // Loads that are no numbers, or that nothing resists.
 void LoadFaults(const CBoltCase& input, CFaultList& faults);
-// Spacings that are not as many as the lines need, and holes, so wide along x and along y (mm), that
-// run into one another or into an edge.
+// Spacings that are not as many as the lines need, and holes, so wide along x and along y (mm),
+// that run into one another or into an edge.
 void HoleFaults(const CBoltCase& input, double alongX, double alongY, CFaultList& faults);
 
 }  // namespace orv3

@@ -147,8 +147,8 @@ void FilletFieldFaults(const CFilletCase& input, const CFilletClauses& clauses,
   DroppedLoadFaults(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, faults);
 }
 
-void WarnOfBeta(const CFilletCase& input, const CWeldFigures& judged,
-                const CFilletClauses& clauses, std::vector<CCaseWarning>& warnings) {
+void WarnOfBeta(const CFilletCase& input, const CWeldFigures& judged, const CFilletClauses& clauses,
+                std::vector<CCaseWarning>& warnings) {
   const bool bTension = judged.m_dBetaTension < input.m_dBetaF && judged.m_dTension > 0;
   const bool bCompression = judged.m_dBetaCompression < input.m_dBetaF && judged.m_dCompression > 0;
   if (!bTension && !bCompression) return;

@@ -20,9 +20,9 @@ struct CBoltCase2017 : CBoltCase {
 
 // The results are the figures that the verdict is made by.
 struct CBoltResults2017 : CBoltResults {
-  double m_dFu = 0;        // plate
+  double m_dFu = 0;          // plate
   double m_dHoleFactor = 0;  // k
-  double m_dHoleOut = 0;   // what a hole takes out of the section, mm
+  double m_dHoleOut = 0;     // what a hole takes out of the section, mm
   bool m_bSpacing = false;
 };
 
@@ -67,6 +67,5 @@ class ORV3CAL_API CBoltCheck2017 : public CCaseAnswer {
   CBoltFigures m_figures;
   std::vector<CDetail> m_arrDetail;
 };
-
 
 }  // namespace orv3

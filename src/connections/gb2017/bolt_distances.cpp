@@ -37,33 +37,71 @@ void Pitches(const CDistances& distances, const CBoltSpacing& limits,
   const bool bRows = !distances.m_arrRow.empty();
   if (bRows) {
     const double row = least(distances.m_arrRow);
-    details.push_back({{"最小行距", "row spacing, least"}, "rowSpace", kTable, "s_r", "3 d_0", row,
-                       limits.m_dLeastPitch, false});
-    details.push_back({{"最大行距", "row spacing, most"}, "rowSpace", kTable, "s_r", kMostPitch,
-                       largest(distances.m_arrRow), limits.m_dMostPitch, true});
+    details.push_back({{"最小行距", "row spacing, least"},
+                       "rowSpace",
+                       kTable,
+                       "s_r",
+                       "3 d_0",
+                       row,
+                       limits.m_dLeastPitch,
+                       false});
+    details.push_back({{"最大行距", "row spacing, most"},
+                       "rowSpace",
+                       kTable,
+                       "s_r",
+                       kMostPitch,
+                       largest(distances.m_arrRow),
+                       limits.m_dMostPitch,
+                       true});
   }
   if (bColumns && !distances.m_bStaggered) {
-    details.push_back({{"最小列距", "column spacing, least"}, "colSpace", kTable, "s_c", "3 d_0",
-                       least(distances.m_arrCol), limits.m_dLeastPitch, false});
-    details.push_back({{"最大列距", "column spacing, most"}, "colSpace", kTable, "s_c", kMostPitch,
-                       largest(distances.m_arrCol), limits.m_dMostPitch, true});
+    details.push_back({{"最小列距", "column spacing, least"},
+                       "colSpace",
+                       kTable,
+                       "s_c",
+                       "3 d_0",
+                       least(distances.m_arrCol),
+                       limits.m_dLeastPitch,
+                       false});
+    details.push_back({{"最大列距", "column spacing, most"},
+                       "colSpace",
+                       kTable,
+                       "s_c",
+                       kMostPitch,
+                       largest(distances.m_arrCol),
+                       limits.m_dMostPitch,
+                       true});
   }
   if (bColumns && distances.m_bStaggered) {
-    const double nearest =
-        Nearest(distances, least(distances.m_arrCol), least(distances.m_arrRow));
-    details.push_back({{"错列最小孔距", "staggered holes, least"}, "colSpace", kTable, "s", "3 d_0",
-                       nearest, limits.m_dLeastPitch, false});
+    const double nearest = Nearest(distances, least(distances.m_arrCol), least(distances.m_arrRow));
+    details.push_back({{"错列最小孔距", "staggered holes, least"},
+                       "colSpace",
+                       kTable,
+                       "s",
+                       "3 d_0",
+                       nearest,
+                       limits.m_dLeastPitch,
+                       false});
     const double pair = LargestPair(distances.m_arrCol);
     if (pair > 0)
-      details.push_back({{"外排最大孔距", "outer row, most"}, "colSpace", kTable, "s", kMostPitch,
-                         pair, limits.m_dMostPitch, true});
+      details.push_back({{"外排最大孔距", "outer row, most"},
+                         "colSpace",
+                         kTable,
+                         "s",
+                         kMostPitch,
+                         pair,
+                         limits.m_dMostPitch,
+                         true});
   }
 }
 
 void Edge(const CTextLiteral& least, const CTextLiteral& most, const char* key, const char* symbol,
           double distance, bool bForce, const CBoltSpacing& limits, bool bRolled,
           std::vector<CDetail>& details) {
-  details.push_back({least, key, kTable, symbol, bForce ? "2 d_0" : bRolled ? "1.2 d_0" : "1.5 d_0",
+  details.push_back({least, key, kTable, symbol,
+                     bForce    ? "2 d_0"
+                     : bRolled ? "1.2 d_0"
+                               : "1.5 d_0",
                      distance, bForce ? limits.m_dLeastEnd : limits.m_dLeastSide, false});
   details.push_back(
       {most, key, kTable, symbol, "\\min(4 d_0, 8 t)", distance, limits.m_dMostEdge, true});

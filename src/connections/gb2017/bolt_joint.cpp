@@ -56,10 +56,9 @@ void Tension(bool bPreloaded, const CBoltLoads& loads, const CBoltShape& shape,
   const double least =
       IsZero(loads.m_dM)
           ? 0
-          : loads.m_dN / shape.Bolts() - std::fabs(loads.m_dM) *
-                                             (loads.m_dM > 0 ? shape.m_dYc
-                                                             : shape.m_dHeight - shape.m_dYc) /
-                                             shape.m_dSumY2;
+          : loads.m_dN / shape.Bolts() -
+                std::fabs(loads.m_dM) *
+                    (loads.m_dM > 0 ? shape.m_dYc : shape.m_dHeight - shape.m_dYc) / shape.m_dSumY2;
   if (bPreloaded || least >= 0)
     TurnAboutCentroid(loads, shape, figures);
   else

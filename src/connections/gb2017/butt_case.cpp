@@ -71,7 +71,8 @@ bool CButtCheck2017::Run(const CButtCase2017& input) {
         judge({"折算应力", "reduced stress"}, "okReduced", j.m_dCombined, j.m_dCombinedLimit);
   }
   std::vector<CCaseWarning> notes;
-  gb2017::NoteOf(ButtWeldStrengths(gb2017::kEdition, SteelOf(input), input.m_dThick), "steel", notes);
+  gb2017::NoteOf(ButtWeldStrengths(gb2017::kEdition, SteelOf(input), input.m_dThick), "steel",
+                 notes);
   Warn(std::move(notes));
   return true;
 }

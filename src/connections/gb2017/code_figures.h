@@ -29,8 +29,8 @@ template <class VALUE>
 void NoteOf(const CCodeAnswer<VALUE>& answer, const char* key, std::vector<CCaseWarning>& notes) {
   const CTextLiteral* note = answer.Source().m_pNote;
   if (note == nullptr) return;
-  notes.push_back({key,
-                   {std::string(note->m_szChinese) + "。", std::string(note->m_szEnglish) + "."}});
+  notes.push_back(
+      {key, {std::string(note->m_szChinese) + "。", std::string(note->m_szEnglish) + "."}});
 }
 
 }  // namespace orv3::gb2017

@@ -98,8 +98,8 @@ bool CFilletCheck2017::IsRefused(const CFilletCase2017& input) {
   if (faults.IsEmpty()) {
     std::optional<CElectrode> electrode;
     if (input.m_nElectrode >= 0) electrode = static_cast<CElectrode>(input.m_nElectrode);
-    m_results.m_dFfw = gb2017::Take(
-        FilletWeldStrength(gb2017::kEdition, SteelOf(input), electrode), "electrode", faults);
+    m_results.m_dFfw = gb2017::Take(FilletWeldStrength(gb2017::kEdition, SteelOf(input), electrode),
+                                    "electrode", faults);
   }
   return Refused(faults.Take());
 }
@@ -128,12 +128,11 @@ void CFilletCheck2017::JudgeParts() {
     return Parts().back().m_bPass;
   };
   r.m_bTau = r.m_bCombined = true;
-  r.m_bSigma =
-      judge({"正应力 σf", "stress across, σf"}, "okSigma", j.Across(), j.AcrossLimit());
+  r.m_bSigma = judge({"正应力 σf", "stress across, σf"}, "okSigma", j.Across(), j.AcrossLimit());
   if (j.m_bShear) {
     r.m_bTau = judge({"剪应力 τf", "stress along, τf"}, "okTau", j.m_dTau, j.m_dTauLimit);
-    r.m_bCombined = judge({"综合应力", "combined stress"}, "okCombined", j.m_dCombined,
-                          j.m_dCombinedLimit);
+    r.m_bCombined =
+        judge({"综合应力", "combined stress"}, "okCombined", j.m_dCombined, j.m_dCombinedLimit);
   }
   r.m_bSize = true;
   for (const CDetail& detail : m_arrDetail) {

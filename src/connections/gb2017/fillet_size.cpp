@@ -26,7 +26,8 @@ double Throat(const CFilletCase& input) noexcept {
     return input.m_dHf * std::cos(input.m_dAngle / 2 * std::numbers::pi / 180);
   }
   constexpr double kRounding = 1e-6;  // of an angle of 60 degrees
-  if (input.m_nGroove == 0) return input.m_dAngle >= 60 - kRounding ? input.m_dS : 0.75 * input.m_dS;
+  if (input.m_nGroove == 0)
+    return input.m_dAngle >= 60 - kRounding ? input.m_dS : 0.75 * input.m_dS;
   return input.m_nGroove <= 2 ? input.m_dS - 3 : input.m_dS;
 }
 
@@ -35,9 +36,9 @@ double LapFactor(double lw, double hf) noexcept {
 }
 
 double LeastLeg(double t) noexcept {
-  return std::find_if(std::begin(kLegs), std::end(kLegs), [t](const CLegRow& row) {
-           return t <= row.m_dMostT;
-         })->m_dLeastLeg;
+  return std::find_if(std::begin(kLegs), std::end(kLegs),
+                      [t](const CLegRow& row) { return t <= row.m_dMostT; })
+      ->m_dLeastLeg;
 }
 
 double ThickestPart(double hf) noexcept {
@@ -54,20 +55,36 @@ void FilletDetails(const CFilletCase2017& input, std::vector<CDetail>& details) 
   details.clear();
   if (input.m_dS != 0) return;
   const bool bLeg = input.m_dHf != 0;
-  details.push_back({{"焊缝最小长度", "weld length, least"}, "lw", "11.3.5", "l_w",
-                     bLeg ? "\\max(8 h_f, 40)" : "40", input.m_dLw,
-                     std::max(8 * input.m_dHf, 40.0), false});
+  details.push_back({{"焊缝最小长度", "weld length, least"},
+                     "lw",
+                     "11.3.5",
+                     "l_w",
+                     bLeg ? "\\max(8 h_f, 40)" : "40",
+                     input.m_dLw,
+                     std::max(8 * input.m_dHf, 40.0),
+                     false});
   if (!bLeg) return;
   // Whatever the parts, 3 mm is the least; no leg need be above the thinner part.
   const bool bParts = input.m_dT1 != 0;
   const double thin = std::min(input.m_dT1, input.m_dT2);
   const double least =
       bParts ? std::min(LeastLeg(std::max(input.m_dT1, input.m_dT2)), thin) : LeastLeg(0);
-  details.push_back({{"最小焊脚", "leg, least"}, "hf", "T 11.3.5", "h_f", "h_{f,min}", input.m_dHf,
-                     least, false});
+  details.push_back({{"最小焊脚", "leg, least"},
+                     "hf",
+                     "T 11.3.5",
+                     "h_f",
+                     "h_{f,min}",
+                     input.m_dHf,
+                     least,
+                     false});
   if (input.m_nJoint != 0 || !bParts) return;
-  details.push_back({{"最大焊脚", "leg, most"}, "hf", "11.3.6", "h_f",
-                     input.m_dT1 <= 6 ? "t_1" : "t_1 − 1", input.m_dHf, MostLapLeg(input.m_dT1),
+  details.push_back({{"最大焊脚", "leg, most"},
+                     "hf",
+                     "11.3.6",
+                     "h_f",
+                     input.m_dT1 <= 6 ? "t_1" : "t_1 − 1",
+                     input.m_dHf,
+                     MostLapLeg(input.m_dT1),
                      true});
 }
 

@@ -52,16 +52,17 @@ void NoteOfUnknownParts(const CFilletCase2017& input, std::vector<CCaseWarning>&
   }
   if (input.m_nJoint == 0) {
     const std::string least = PlainNumber(input.m_dHf <= 6 ? input.m_dHf : input.m_dHf + 1) + " mm";
-    holds.m_strChinese += (holds.m_strChinese.empty() ? "" : "，") + ("所沿棱边不薄于 " + least) + "（11.3.6 条）";
-    holds.m_strEnglish +=
-        (holds.m_strEnglish.empty() ? "" : " and ") + ("an edge of at least " + least) + " (11.3.6)";
+    holds.m_strChinese +=
+        (holds.m_strChinese.empty() ? "" : "，") + ("所沿棱边不薄于 " + least) + "（11.3.6 条）";
+    holds.m_strEnglish += (holds.m_strEnglish.empty() ? "" : " and ") +
+                          ("an edge of at least " + least) + " (11.3.6)";
   }
   if (holds.m_strEnglish.empty()) return;
   const std::string hf = "hf = " + PlainNumber(input.m_dHf) + " mm";
-  notes.push_back({"hf",
-                   {hf + " 适用于" + holds.m_strChinese + "；给出 t1 与 t2 即可验算。",
-                    hf + " is right for " + holds.m_strEnglish +
-                        "; give t1 and t2 to have it checked."}});
+  notes.push_back(
+      {"hf",
+       {hf + " 适用于" + holds.m_strChinese + "；给出 t1 与 t2 即可验算。",
+        hf + " is right for " + holds.m_strEnglish + "; give t1 and t2 to have it checked."}});
 }
 
 void NoteOfThickParts(const char* key, double hf, std::vector<CCaseWarning>& notes) {

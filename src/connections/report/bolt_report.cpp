@@ -1,5 +1,5 @@
-// The report of a bolt group: GB 50017-2003, 7.2.1 to 7.2.4 and 5.1.1; GB 50017-2017, 11.4, 11.5 and
-// 7.1.1.
+// The report of a bolt group: GB 50017-2003, 7.2.1 to 7.2.4 and 5.1.1; GB 50017-2017, 11.4, 11.5
+// and 7.1.1.
 #include <algorithm>
 #include <cmath>
 #include <span>
@@ -27,12 +27,12 @@ struct CBoltClauses {
   const char* m_szLong;
   const char* m_szSection;
 };
-constexpr CBoltClauses kClauses2003 = {
-    "8.3.2",     "T 3.4.1-1", "T 3.4.1-4", "T 7.2.2-1", "T 7.2.2-2", {"7.2.1", "7.2.2", "7.2.3"},
-    "7.2.4", "5.1.1"};
-constexpr CBoltClauses kClauses2017 = {
-    "11.5.1",      "T 4.4.1",     "T 4.4.6", "T 11.4.2-1", "T 11.4.2-2",
-    {"11.4.1", "11.4.2", "11.4.3"}, "11.4.5", "7.1.1"};
+constexpr CBoltClauses kClauses2003 = {"8.3.2",     "T 3.4.1-1", "T 3.4.1-4",
+                                       "T 7.2.2-1", "T 7.2.2-2", {"7.2.1", "7.2.2", "7.2.3"},
+                                       "7.2.4",     "5.1.1"};
+constexpr CBoltClauses kClauses2017 = {"11.5.1",     "T 4.4.1",    "T 4.4.6",
+                                       "T 11.4.2-1", "T 11.4.2-2", {"11.4.1", "11.4.2", "11.4.3"},
+                                       "11.4.5",     "7.1.1"};
 
 class CBoltReport {
  public:
@@ -203,8 +203,10 @@ CBoltReport::CSteps CBoltReport::Geometry() const {
         {"弯矩力臂平方和（绕形心）", "Sum of squared lever arms, about the centroid"},
         {"弯矩力臂平方和（绕末行螺栓）", "Sum of squared lever arms, about the last row"}};
     const bool bCentroid = m_judged.m_nTurn == CTurn::Centroid;
-    steps.push_back({kAbout[bCentroid ? 1 : m_input.m_dM < 0 ? 2 : 0], "", "Σl^2", "Σl_i^2", "",
-                     PlainNumber(m_judged.m_dSumArm2), "mm²"});
+    steps.push_back({kAbout[bCentroid          ? 1
+                            : m_input.m_dM < 0 ? 2
+                                               : 0],
+                     "", "Σl^2", "Σl_i^2", "", PlainNumber(m_judged.m_dSumArm2), "mm²"});
     steps.push_back({{"受力最大螺栓的力臂", "Lever arm of the farthest bolt"},
                      "",
                      "l_{max}",
@@ -270,17 +272,16 @@ CBoltReport::CSteps CBoltReport::Resistances() const {
   if (m_bFriction) {
     const std::string k =
         m_view.Is2017() ? Put(m_view.m_p2017->Results().m_dHoleFactor) + " × " : "";
-    return {
-        {kShear, clause, "N_v^b", m_view.Is2017() ? "0.9 k n_f μ P" : "0.9 n_f μ P",
-         "0.9 × " + k + std::to_string(m_input.m_nNf) + " × " + Put(m_r.m_dMu) + " × " + Put(m_r.m_nP),
-         PlainNumber(m_r.m_dNvb), "kN"},
-        {kTension, clause, "N_t^b", "0.8 P", "0.8 × " + Put(m_r.m_nP), PlainNumber(m_r.m_dNtb),
-         "kN"}};
+    return {{kShear, clause, "N_v^b", m_view.Is2017() ? "0.9 k n_f μ P" : "0.9 n_f μ P",
+             "0.9 × " + k + std::to_string(m_input.m_nNf) + " × " + Put(m_r.m_dMu) + " × " +
+                 Put(m_r.m_nP),
+             PlainNumber(m_r.m_dNvb), "kN"},
+            {kTension, clause, "N_t^b", "0.8 P", "0.8 × " + Put(m_r.m_nP), PlainNumber(m_r.m_dNtb),
+             "kN"}};
   }
   const std::string d = std::to_string(m_input.m_nD);
   const bool bThreads = m_view.Is2017() && m_view.m_p2017->Trace().m_bThreads;
-  return {{kShear, clause, "N_v^b",
-           bThreads ? "n_v (π d_e^2 / 4) f_v^b" : "n_v (π d^2 / 4) f_v^b",
+  return {{kShear, clause, "N_v^b", bThreads ? "n_v (π d_e^2 / 4) f_v^b" : "n_v (π d^2 / 4) f_v^b",
            std::to_string(m_input.m_nNv) + " × π × " + (bThreads ? Put(m_r.m_dDe) : d) +
                "^2 / 4 × " + Put(m_r.m_dFv) + " / 1000",
            PlainNumber(m_r.m_dNvb), "kN"},
@@ -355,8 +356,8 @@ void CBoltReport::Tension(CSteps& steps) const {
     steps.push_back({kMost, "", "N_t",
                      m_input.m_dM < 0 ? "\\max((|M| + N (h − y_c)) l_{max} / Σl^2, 0)"
                                       : "\\max((M + N y_c) l_{max} / Σl^2, 0)",
-                     "\\max((" + Put(M) + " + " + Put(m_input.m_dN) + " × " + Put(yc) +
-                         ") × " + arm + " / " + sum + ", 0)",
+                     "\\max((" + Put(M) + " + " + Put(m_input.m_dN) + " × " + Put(yc) + ") × " +
+                         arm + " / " + sum + ", 0)",
                      PlainNumber(m_judged.m_dNt), "kN"});
     return;
   }
@@ -370,8 +371,10 @@ void CBoltReport::Tension(CSteps& steps) const {
                    PlainNumber(shareN),
                    "kN"});
   if (bMoment) {
-    steps.push_back({kMoment[m_judged.m_nTurn == CTurn::Centroid ? 1 : m_input.m_dM < 0 ? 2 : 0], "", "N_{tM}",
-                     m_input.m_dM < 0 ? "|M| l_{max} / Σl^2" : "M l_{max} / Σl^2",
+    steps.push_back({kMoment[m_judged.m_nTurn == CTurn::Centroid ? 1
+                             : m_input.m_dM < 0                  ? 2
+                                                                 : 0],
+                     "", "N_{tM}", m_input.m_dM < 0 ? "|M| l_{max} / Σl^2" : "M l_{max} / Σl^2",
                      Put(M) + " × " + arm + " / " + sum, PlainNumber(shareM), "kN"});
   }
   steps.push_back({kMost, "", "N_t", "\\max(N_{tN} + N_{tM}, 0)",
@@ -384,8 +387,13 @@ CBoltReport::CSteps CBoltReport::LongJoint() const {
   const bool bShort = AtMost(m_r.m_dL1, 15 * d0);
   const bool bLong = !AtMost(m_r.m_dL1, 60 * d0);
   const std::string l1 = PlainNumber(m_r.m_dL1);
-  CSteps steps = {
-      {{"沿受力方向的连接长度", "Joint length along the force"}, m_clauses.m_szLong, "l_1", "", "", l1, "mm"}};
+  CSteps steps = {{{"沿受力方向的连接长度", "Joint length along the force"},
+                   m_clauses.m_szLong,
+                   "l_1",
+                   "",
+                   "",
+                   l1,
+                   "mm"}};
   const std::string limit = PlainNumber(15 * d0);
   const std::string far = PlainNumber(60 * d0);
   steps.push_back({{"承载力折减系数", "Reduction factor"},
@@ -417,7 +425,8 @@ void CBoltReport::Section(bool bX, CSteps& steps) const {
                      sign("(2 e_y + Σs_r) t", "(2 e_x + Σs_c) t"),
                      "(2 × " + Put(edge) + " + " + PlainNumber(sum) + ") × " + t,
                      PlainNumber(section.m_dGross), "mm²"});
-    steps.push_back({kStress, m_clauses.m_szSection, sign("σ_{x1}", "σ_{y1}"), sign("|V_x| / A_x", "|V_y| / A_y"),
+    steps.push_back({kStress, m_clauses.m_szSection, sign("σ_{x1}", "σ_{y1}"),
+                     sign("|V_x| / A_x", "|V_y| / A_y"),
                      V + " × 1000 / " + PlainNumber(section.m_dGross),
                      PlainNumber(section.m_dSigmaGross), "N/mm²"});
   }
@@ -434,21 +443,22 @@ void CBoltReport::Section(bool bX, CSteps& steps) const {
                      HoleOut(bX),
                      "mm"});
   }
-  steps.push_back({kLength[bX], m_clauses.m_szSection, sign("L_x", "L_y"), sign("2 e_y + Σs", "2 e_x + Σs"),
-                   "2 × " + Put(edge) + Legs(section, 2 * edge), PlainNumber(section.m_dLength),
-                   "mm"});
-  steps.push_back({kNet, m_clauses.m_szSection, sign("A_{nx}", "A_{ny}"),
-                   m_view.Is2017() ? sign("(L_x − n_1 d_c) t", "(L_y − n_1 d_c) t")
-                                   : sign("(L_x − n_1 d_0) t", "(L_y − n_1 d_0) t"),
-                   "(" + PlainNumber(section.m_dLength) + " − " + holes + " × " + HoleOut(bX) +
-                       ") × " + t,
-                   PlainNumber(section.m_dNet), "mm²"});
+  steps.push_back({kLength[bX], m_clauses.m_szSection, sign("L_x", "L_y"),
+                   sign("2 e_y + Σs", "2 e_x + Σs"), "2 × " + Put(edge) + Legs(section, 2 * edge),
+                   PlainNumber(section.m_dLength), "mm"});
+  steps.push_back(
+      {kNet, m_clauses.m_szSection, sign("A_{nx}", "A_{ny}"),
+       m_view.Is2017() ? sign("(L_x − n_1 d_c) t", "(L_y − n_1 d_c) t")
+                       : sign("(L_x − n_1 d_0) t", "(L_y − n_1 d_0) t"),
+       "(" + PlainNumber(section.m_dLength) + " − " + holes + " × " + HoleOut(bX) + ") × " + t,
+       PlainNumber(section.m_dNet), "mm²"});
   const std::string share = m_bFriction ? "(1 − 0.5 n_1 / n) " : "";
   const std::string shareNumbers =
       m_bFriction ? "(1 − 0.5 × " + holes + " / " + std::to_string(m_r.m_nBolts) + ") × " : "";
   const char* symbol =
       m_bFriction || m_view.Is2017() ? sign("σ_{x2}", "σ_{y2}") : sign("σ_x", "σ_y");
-  steps.push_back({kStress, m_clauses.m_szSection, symbol, share + sign("|V_x| / A_{nx}", "|V_y| / A_{ny}"),
+  steps.push_back({kStress, m_clauses.m_szSection, symbol,
+                   share + sign("|V_x| / A_{nx}", "|V_y| / A_{ny}"),
                    shareNumbers + V + " × 1000 / " + PlainNumber(section.m_dNet),
                    PlainNumber(section.m_dSigma), "N/mm²"});
 }
@@ -551,7 +561,8 @@ CBoltReport::CSteps CBoltReport::Sections() const {
 std::string CBoltReport::Write() {
   static constexpr CTextLiteral kTitle = {"螺栓连接验算", "Bolted connection"};
   const std::string id = m_input.m_strId.empty() ? "" : "　" + m_input.m_strId;
-  m_body.Title(m_body.Text(kTitle) + id, m_view.m_answer.Pass(), m_view.m_answer.Worst().m_dUtilisation);
+  m_body.Title(m_body.Text(kTitle) + id, m_view.m_answer.Pass(),
+               m_view.m_answer.Worst().m_dUtilisation);
   m_body.Warnings(m_view.m_answer.Warnings());
   m_body.Heading({"一、输入", "1  Input"});
   Inputs();

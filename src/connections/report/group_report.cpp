@@ -167,8 +167,8 @@ void CGroupReport::Group() {
        "mm⁴");
   Step({"惯性矩", "Moment of inertia"}, "I_y", "Σ 0.7 h_f l (x^2 + Δx^2 / 12)", "", m_r.m_dIy,
        "mm⁴");
-  Step({"惯性积", "Product of inertia"}, "I_{xy}", "Σ 0.7 h_f l (x y + Δx Δy / 12)", "",
-       m_r.m_dIxy, "mm⁴");
+  Step({"惯性积", "Product of inertia"}, "I_{xy}", "Σ 0.7 h_f l (x y + Δx Δy / 12)", "", m_r.m_dIxy,
+       "mm⁴");
   Step({"极惯性矩", "Polar moment"}, "J", "I_x + I_y",
        PlainNumber(m_r.m_dIx) + " + " + PlainNumber(m_r.m_dIy), m_r.m_dJ, "mm⁴");
 }
@@ -204,10 +204,9 @@ void CGroupReport::Stresses() {
        m_point.m_dTauY, "N/mm²");
   if (!IsZero(m_input.m_dN) || !IsZero(m_input.m_dM)) {
     const CTensionPlane& plane = m_check.Tension();
-    Step({"平面外应力", "Stress out of the plane"}, "σ_N",
-         "N / A + a (x − x_c) + b (y − y_c)",
-         PlainNumber(plane.m_dAt) + " + " + Put(plane.m_dX) + " × " + dx + " + " +
-             Put(plane.m_dY) + " × " + dy,
+    Step({"平面外应力", "Stress out of the plane"}, "σ_N", "N / A + a (x − x_c) + b (y − y_c)",
+         PlainNumber(plane.m_dAt) + " + " + Put(plane.m_dX) + " × " + dx + " + " + Put(plane.m_dY) +
+             " × " + dy,
          m_point.m_dOut, "N/mm²");
   }
   const CWeldLine& weld = m_check.Welds()[static_cast<std::size_t>(m_point.m_nWeld)];
@@ -221,8 +220,8 @@ void CGroupReport::Stresses() {
        "τ_y u_x − τ_x u_y", ty + " × " + ux + " − " + tx + " × " + uy, m_r.m_dAcross, "N/mm²");
   const std::string v = Put(m_r.m_dAcross);
   const std::string n = Put(m_r.m_dOut);
-  const std::string across = "√(" + v + "^2 + " + n + "^2" +
-                             (m_input.m_dBetaF == 1 ? ")" : " + |" + v + " × " + n + "|)");
+  const std::string across =
+      "√(" + v + "^2 + " + n + "^2" + (m_input.m_dBetaF == 1 ? ")" : " + |" + v + " × " + n + "|)");
   Step({"垂直于焊缝的应力", "Stress across the weld"}, "σ_f",
        m_input.m_dBetaF == 1 ? "√(σ_V^2 + σ_N^2)" : "√(σ_V^2 + σ_N^2 + |σ_V σ_N|)", across,
        m_point.m_dSigma, "N/mm²", Clause());
@@ -247,8 +246,10 @@ std::vector<CReportVerdict> CGroupReport::Verdicts() const {
 std::string CGroupReport::Write() {
   static constexpr CTextLiteral kTitle = {"角焊缝群验算", "Group of fillet welds"};
   static constexpr CTextLiteral kCaption = {
-      "焊缝群（按比例，mm）。点划线：形心轴；红点 1：受力最大点；圆圈：荷载作用点。N、M 垂直于图面。",
-      "The welds to scale, mm. Chain lines: centroidal axes; red point 1: the most stressed; circle: "
+      "焊缝群（按比例，mm）。点划线：形心轴；红点 1：受力最大点；圆圈：荷载作用点。N、M "
+      "垂直于图面。",
+      "The welds to scale, mm. Chain lines: centroidal axes; red point 1: the most stressed; "
+      "circle: "
       "where the loads act. N and M act out of the plane."};
   const std::string id = m_input.m_strId.empty() ? "" : "　" + m_input.m_strId;
   m_body.Title(m_body.Text(kTitle) + id, m_check.Pass(), m_check.Worst().m_dUtilisation);

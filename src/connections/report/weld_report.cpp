@@ -1,4 +1,5 @@
-// The reports of fillet and butt welds: GB 50017-2003, 7.1.1 to 7.1.5; GB 50017-2017, 11.2 and 11.3.
+// The reports of fillet and butt welds: GB 50017-2003, 7.1.1 to 7.1.5; GB 50017-2017, 11.2
+// and 11.3.
 #include <algorithm>
 #include <cmath>
 #include <type_traits>
@@ -144,8 +145,8 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r, const CWel
                      "",
                      "1 / " + std::to_string(input.m_nWelds)});
   }
-  StressSteps(OneWeld(input), r, kAcross, clauses.m_szRight, "σ_f", "h_e l_w", he + " × " + lw, r.m_dHe * input.m_dLw,
-              steps);
+  StressSteps(OneWeld(input), r, kAcross, clauses.m_szRight, "σ_f", "h_e l_w", he + " × " + lw,
+              r.m_dHe * input.m_dLw, steps);
   if (!TakesV(input.m_nLoadCase)) return steps;
   const bool bLong = judged.m_dShearLength < input.m_dLw;
   steps.push_back({{"沿焊缝的剪应力", "Shear stress along the weld"},
@@ -199,8 +200,8 @@ CVerdicts FilletVerdicts(const CHECK& check, const CFilletClauses& clauses, doub
   const std::string ffw = alphaF < 1 ? "α_f f_f^w" : "f_f^w";
   const std::string strength = bReduced ? "0.9 " + ffw : ffw;
   return WeldVerdicts(check, clauses.m_szRight,
-                      "|σ_f| ≤ β_f " + ffw + ",  β_f = " + PlainNumber(beta),
-                      "|τ_f| ≤ " + strength, "√((σ_f / β_f)^2 + τ_f^2) ≤ " + strength);
+                      "|σ_f| ≤ β_f " + ffw + ",  β_f = " + PlainNumber(beta), "|τ_f| ≤ " + strength,
+                      "√((σ_f / β_f)^2 + τ_f^2) ≤ " + strength);
 }
 
 CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigures& judged,
@@ -248,9 +249,8 @@ CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigur
 // `relation` of the reduced stress: the record of 2003 fails one that is equal to its limit.
 template <class CHECK>
 CVerdicts ButtVerdicts(const CHECK& check, const char* clause, const std::string& relation) {
-  return WeldVerdicts(check, clause,
-                      check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w", "|τ| ≤ f_v^w",
-                      "√(σ^2 + 3 τ^2) " + relation + " 1.1 f_t^w");
+  return WeldVerdicts(check, clause, check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w",
+                      "|τ| ≤ f_v^w", "√(σ^2 + 3 τ^2) " + relation + " 1.1 f_t^w");
 }
 
 template <class CHECK>
@@ -313,9 +313,9 @@ std::string CaseReport(const CFilletCase2017& input, const CFilletCheck2017& che
   body.Figure(FilletDrawing(input, r.m_dHe), body.Text(kCaption));
   CVerdicts verdicts = FilletVerdicts(check, kFilletClauses2017, r.m_dAlphaF);
   AddDetailVerdicts(check.Details(), std::span(check.Parts()).subspan(verdicts.size()), verdicts);
-  return Tail(
-      body,
-      FilletSteps(input, r, check.Figures(), kFilletClauses2017, "T 4.4.5", r.m_dAlphaF), verdicts);
+  return Tail(body,
+              FilletSteps(input, r, check.Figures(), kFilletClauses2017, "T 4.4.5", r.m_dAlphaF),
+              verdicts);
 }
 
 std::string CaseReport(const CButtCase& input, const CButtCheck& check, CLanguage language) {

@@ -181,12 +181,18 @@ void CWeldGroupCheck::FindWorst(const CWeldGroupCase& input) {
 void CWeldGroupCheck::FindDetails() {
   const bool b2017 = m_nEdition == CCodeEdition::Gb2017;
   m_arrDetail.clear();
-  CDetail least = {{"焊缝最小长度", "weld length, least"}, "welds", b2017 ? "11.3.5" : "8.2.7",
-                   "l_w", "\\max(8 h_f, 40)", 1, 0, false};
-  CDetail most = {{"焊缝最大计算长度", "weld length, most"}, "welds", "8.2.7", "l_w", "60 h_f", 0, 1,
-                  true};
+  CDetail least = {{"焊缝最小长度", "weld length, least"},
+                   "welds",
+                   b2017 ? "11.3.5" : "8.2.7",
+                   "l_w",
+                   "\\max(8 h_f, 40)",
+                   1,
+                   0,
+                   false};
+  CDetail most = {
+      {"焊缝最大计算长度", "weld length, most"}, "welds", "8.2.7", "l_w", "60 h_f", 0, 1, true};
   CDetail leg = {{"最小焊脚", "leg, least"}, "welds", "T 11.3.5", "h_f", "h_{f,min}", HUGE_VAL,
-                 gb2017::LeastLeg(0), false};
+                 gb2017::LeastLeg(0),        false};
   const auto worse = [](CDetail& detail, double size, double limit) {
     CDetail each = detail;
     each.m_dSize = size;

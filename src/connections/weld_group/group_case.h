@@ -19,7 +19,7 @@ struct CWeldGroupCase {
   int m_nSteel = 0;                    // as CSteelGrade
   int m_nElectrode = -1;               // as CElectrode; the lowest of the steel unless said
   int m_nJoint = -1;                   // 0 lap
-  double m_dBetaF = 1;  // or 1.22 under static loads
+  double m_dBetaF = 1;                 // or 1.22 under static loads
   double m_dN = 0;
   double m_dVx = 0;
   double m_dVy = 0;

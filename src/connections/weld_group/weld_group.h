@@ -71,12 +71,12 @@ struct CWeldPoint {
   int m_nWeld = 0;  // from 0
   double m_dX = 0;
   double m_dY = 0;
-  double m_dTauX = 0;      // in the plane, along x and y
+  double m_dTauX = 0;  // in the plane, along x and y
   double m_dTauY = 0;
-  double m_dAlong = 0;     // along the weld
-  double m_dAcross = 0;    // in the plane across it
-  double m_dOut = 0;       // out of the plane
-  double m_dSigma = 0;     // the stress across that beta-f divides
+  double m_dAlong = 0;   // along the weld
+  double m_dAcross = 0;  // in the plane across it
+  double m_dOut = 0;     // out of the plane
+  double m_dSigma = 0;   // the stress across that beta-f divides
   double m_dCombined = 0;
 };
 
