@@ -207,6 +207,29 @@ TEST(CChecks, GiveTheResultsByKey) {
   EXPECT_EQ(Values(TextFrom(orv3_check_butt, Joined(heavy).c_str())).at("pass"), "0");
 }
 
+TEST(CChecks, AreByTheEditionThatIsAskedFor) {
+  const auto answer = [](const char16_t* kind, const char16_t* code, const CText16& input) {
+    return Values(TextFrom([&](orv3_char* text, int size) {
+      return orv3_check(kind, code, input.c_str(), text, size);
+    }));
+  };
+  const CText16 bolts = Joined(kBolts);
+  auto later = answer(u"bolt", u"", bolts);
+  EXPECT_EQ(later["code"], "2017");
+  EXPECT_NEAR(std::stod(later["Nvb"]), 0.9 * 2 * 0.45 * 155, 1e-9);  // 11.4.2
+  EXPECT_EQ(later["f"], "305");
+  auto earlier = answer(u"bolt", nullptr, bolts + u"\ncode=2003");
+  EXPECT_EQ(earlier["code"], "2003");
+  EXPECT_NEAR(std::stod(earlier["Nvb"]), 0.9 * 2 * 0.5 * 155, 1e-9);
+  // Two side welds of 6 mm: 100 kN along them on 2 x 0.7 x 6 x 200.
+  auto group = answer(u"weld-group", u"2017",
+                      u"welds=0;0;200;0;6;0;100;200;100;6\nsteel=Q235\nN=0\nVx=100\nVy=0\nM=0\n"
+                      u"T=0\nx=100\ny=50");
+  EXPECT_NEAR(std::stod(group["tau"]), 100e3 / 1680, 1e-9);
+  EXPECT_EQ(orv3_check(u"rivet", u"", bolts.c_str(), nullptr, 0), -1);
+  EXPECT_EQ(orv3_check(u"bolt", u"1999", bolts.c_str(), nullptr, 0), -1);
+}
+
 TEST(CChecks, RefuseAnInputWithoutOneOfItsKeys) {
   const struct {
     int(ORV3_CALL* check)(const orv3_char*, orv3_char*, int);
