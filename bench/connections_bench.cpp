@@ -185,16 +185,22 @@ void CheckCommandCsv(benchmark::State& state) {
            << (input.m_nType == 0 ? "4.6" : "8.8") << ",C\n";
     }
   }
+  const std::string command = ORV3CAL_PROGRAM " check bolt connections_bench.csv --csv --code " +
+                              std::to_string(state.range(0)) + " > connections_out.csv";
   for (auto _ : state) {
-    const int status = std::system(ORV3CAL_PROGRAM
-                                   " check bolt connections_bench.csv --csv > connections_out.csv");
+    const int status = std::system(command.c_str());
     if (status == -1) state.SkipWithError("the command did not start");
   }
   std::remove("connections_bench.csv");
   std::remove("connections_out.csv");
   state.SetItemsProcessed(state.iterations() * kCases);
 }
-BENCHMARK(CheckCommandCsv)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(CheckCommandCsv)
+    ->ArgName("code")
+    ->Arg(2003)
+    ->Arg(2017)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 #endif
 
 }  // namespace

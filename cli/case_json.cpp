@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -93,15 +95,23 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   bool start_object(std::size_t) override {
     if (m_nDepth == 0) m_case.m_bSingle = true;
-    if (m_nDepth >= Field()) Other("{…}");
+    if (InObjects()) {
+      StartMember();
+    } else if (m_nDepth >= Field()) {
+      Other("{…}");
+    }
     ++m_nDepth;
     return true;
   }
   bool key(string_t& key) override {
     if (m_nDepth == Field()) FindKey(key);
+    if (m_bMember && m_nDepth == Field() + 2) FindMember(key);
     return true;
   }
-  bool end_object() override { return End(); }
+  bool end_object() override {
+    if (m_bMember && m_nDepth == Field() + 2) EndMember();
+    return End();
+  }
   bool start_array(std::size_t) override {
     if (m_nDepth == Field() && m_nKey != kNone) {
       m_bList = true;
@@ -124,11 +134,22 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     if (text != std::string::npos) what.erase(0, text + 2);
     const std::size_t quoted = what.find(token);
     if (quoted != std::string::npos) what.replace(quoted, token.size(), Excerpt(token));
-    m_file.Refuse({"不是 JSON：" + what, "is no JSON, " + what});
+    m_file.Refuse({"不是 JSON：" + Place(what) + "有语法错误，最后读到“" + Excerpt(token) + "”",
+                   "is no JSON, " + what});
   }
 
  private:
   static constexpr int kNone = -1;
+
+  // Of "parse error at line 1, column 2: ..." what other languages can say.
+  static std::string Place(const std::string& what) {
+    const std::size_t line = what.find("line "), column = what.find(", column ");
+    if (line == what.npos || column == what.npos) return {};
+    const auto number = [&](std::size_t at) {
+      return what.substr(at, what.find_first_not_of("0123456789", at) - at);
+    };
+    return "第 " + number(line + 5) + " 行第 " + number(column + 9) + " 列";
+  }
 
   // How many brackets are open where the keys of a case stand.
   int Field() const noexcept { return m_case.m_bSingle ? 1 : 2; }
@@ -171,8 +192,12 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
       }
       return true;
     }
-    if (m_bList && m_nDepth == Field() + 1) {
+    if (m_bList && m_nDepth == Field() + 1 && Rule().m_arrMember.empty()) {
       List().push_back(value);
+      return true;
+    }
+    if (m_bMember && m_nDepth == Field() + 2) {
+      SetMember(value);
       return true;
     }
     return Other(Excerpt(text));
@@ -222,12 +247,59 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     } else if (m_nDepth == Field() && m_nKey != kNone) {
       Fault({Rule().m_strKey, {text + " 不可用", text + " is not possible"}, Rule().Right()});
       m_nKey = kNone;
-    } else if (m_nDepth == Field() + 1 && m_bList) {
+    } else if (m_nDepth > Field() && m_bList) {
       Fault({Rule().m_strKey,
              {"数列中不能有 " + text, text + " is not possible in a list"},
              Rule().Right()});
     }
     return true;
+  }
+
+  // Whether the next object is one of a key's list.
+  bool InObjects() const {
+    return m_bList && m_nDepth == Field() + 1 && !Rule().m_arrMember.empty();
+  }
+
+  void StartMember() {
+    m_bMember = true;
+    m_nMember = kNone;
+    List().insert(List().end(), Rule().m_arrMember.size(), NAN);
+  }
+
+  void FindMember(const std::string& key) {
+    const auto& members = Rule().m_arrMember;
+    const auto at = std::find(members.begin(), members.end(), key);
+    m_nMember = at == members.end() ? kNone : static_cast<int>(at - members.begin());
+    if (m_nMember == kNone) {
+      const std::string name = Excerpt(key);
+      Fault({Rule().m_strKey, {name + " 不是此处的键", name + " is no key here"}, Rule().Right()});
+    }
+  }
+
+  void SetMember(double value) {
+    if (m_nMember == kNone) return;
+    const std::size_t count = Rule().m_arrMember.size();
+    double& cell = List()[List().size() - count + static_cast<std::size_t>(m_nMember)];
+    if (!std::isnan(cell)) {
+      const std::string& name = Rule().m_arrMember[static_cast<std::size_t>(m_nMember)];
+      Fault({Rule().m_strKey,
+             {name + " 出现两次", name + " stands twice"},
+             {"请只给一次", "give it once"}});
+    }
+    cell = value;
+  }
+
+  void EndMember() {
+    m_bMember = false;
+    const std::size_t count = Rule().m_arrMember.size();
+    for (std::size_t i = 0; i < count; ++i) {
+      if (!std::isnan(List()[List().size() - count + i])) continue;
+      const std::string which = std::to_string(List().size() / count);
+      const std::string& name = Rule().m_arrMember[i];
+      return Fault({Rule().m_strKey,
+                    {"第 " + which + " 个缺 " + name, name + " of number " + which + " is missing"},
+                    Rule().Right()});
+    }
   }
 
   bool End() {
@@ -246,6 +318,8 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   int m_nKey = kNone;    // whose value comes next
   int m_nTwice = kNone;  // the key whose second value goes to the spare place
   bool m_bList = false;
+  bool m_bMember = false;              // within an object of a key's list
+  int m_nMember = kNone;               // whose number comes next
   std::vector<std::string> m_arrText;  // what the values point to, by key
   std::vector<std::vector<double>> m_arrList;
 };

@@ -3,6 +3,18 @@
 #include <cmath>
 
 namespace orv3::cli {
+namespace {
+
+// "by GB 50017-2017, in force since 2018-07-01"
+std::string EditionLine(CCodeEdition edition, CLanguage language) {
+  static constexpr CTextLiteral kBy = {"依据 ", "by "};
+  static constexpr CTextLiteral kComma = {"，", ", "};
+  const CEditionFacts& facts = EditionFacts(edition);
+  return std::string(kBy.In(language)) + facts.m_szName + kComma.In(language) +
+         facts.m_status.In(language);
+}
+
+}  // namespace
 
 void AppendCsv(std::string& line, const std::string& text) {
   const bool padded = text.starts_with(' ') || text.ends_with(' ');  // which readers drop
@@ -33,18 +45,29 @@ const char* VerdictText(bool bPass, CLanguage language) {
   return (bPass ? kPass : kFail).In(language);
 }
 
-std::string VerdictLines(bool bPass, const CCasePart& worst, std::span<const CCaseWarning> warnings,
-                         CLanguage language) {
-  const std::string verdict = VerdictText(bPass, language);
+std::string VerdictLines(CCodeEdition edition, const CCaseAnswer& answer, CLanguage language) {
+  const CCasePart& worst = answer.Worst();
+  const std::string verdict = VerdictText(answer.Pass(), language);
   const std::string share = PercentText(worst.m_dUtilisation);
   const CText line = {
       "\n结论：" + verdict + "，利用率 " + share + "（" + worst.m_name.m_szChinese + "）\n",
       "\nverdict: " + verdict + ", utilisation " + share + " (" + worst.m_name.m_szEnglish + ")\n"};
   static constexpr CTextLiteral kLook = {"请注意 ", "look at "};
-  std::string text = line.In(language);
-  for (const CCaseWarning& warning : warnings)
+  std::string text = line.In(language) + EditionLine(edition, language) + '\n';
+  for (const CCaseWarning& warning : answer.Warnings())
     text += kLook.In(language) + warning.m_strKey + ": " + warning.m_text.In(language) + '\n';
   return text;
+}
+
+std::string RefusedLine(CCodeEdition edition, const std::string& fault, CLanguage language) {
+  static constexpr CTextLiteral kRefused = {"拒绝：", "refused: "};
+  return '\n' + (kRefused.In(language) + fault) + '\n' + EditionLine(edition, language) + '\n';
+}
+
+std::string CsvHead(std::span<const CResultColumn> columns) {
+  std::string line = "case,id,pass,utilisation,governs,code";
+  for (const CResultColumn& column : columns) line += std::string(",") + column.m_szKey;
+  return line + ",warnings,refused\n";
 }
 
 }  // namespace orv3::cli

@@ -1,14 +1,18 @@
 // One computed case as JSON, as a line of a CSV and as tables for people.
 #pragma once
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <string>
+#include <type_traits>
 #include <variant>
+#include <vector>
 
-#include "connections/cases/bolt_case.h"
-#include "connections/cases/weld_case.h"
+#include "codes/edition.h"
 #include "framework/plain_number.h"
 #include "output.h"
+#include "reports/case_answer.h"
 #include "text_table.h"
 
 namespace orv3::cli {
@@ -29,9 +33,14 @@ void AppendCsv(std::string& line, const std::string& text);
 std::string PercentText(double utilisation);
 std::string WarningLine(std::span<const CCaseWarning> warnings, CLanguage language);
 const char* VerdictText(bool bPass, CLanguage language);
-// The verdict with what governs it, and what to look at, a line each.
-std::string VerdictLines(bool bPass, const CCasePart& worst, std::span<const CCaseWarning> warnings,
-                         CLanguage language);
+// The verdict with what governs it, the edition, and what to look at, a line each.
+std::string VerdictLines(CCodeEdition edition, const CCaseAnswer& answer, CLanguage language);
+// Why an edition refuses the case.
+std::string RefusedLine(CCodeEdition edition, const std::string& fault, CLanguage language);
+
+// The type of a result.
+template <class RESULTS, class VALUE>
+VALUE FieldOf(VALUE RESULTS::*);
 
 template <class CHECK>
 bool HasResult(const CResultKey<typename CHECK::CResults>& key,
@@ -39,8 +48,41 @@ bool HasResult(const CResultKey<typename CHECK::CResults>& key,
   return (key.m_nKinds >> CHECK::Kind(input) & 1U) != 0;
 }
 
+// A result of a check by both editions.
+struct CResultColumn {
+  const char* m_szKey;
+  CTextLiteral m_name;
+  const char* m_szUnit;
+  bool m_bVerdict;
+  int m_arrAt[2];  // its position among the results of 2003 and of 2017, -1 for none
+  int At(CCodeEdition edition) const noexcept { return m_arrAt[static_cast<int>(edition)]; }
+};
+
+// The results of both editions, those of 2003 first.
+template <class CHECK2003, class CHECK2017>
+std::vector<CResultColumn> ColumnsOf() {
+  std::vector<CResultColumn> columns;
+  const auto add = [&](auto keys, CCodeEdition edition) {
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+      const auto& key = keys[i];
+      auto at = std::find_if(columns.begin(), columns.end(), [&](const CResultColumn& column) {
+        return std::string_view(column.m_szKey) == key.m_szKey;
+      });
+      const bool bVerdict = std::visit(
+          [](auto field) { return std::is_same_v<decltype(FieldOf(field)), bool>; }, key.m_field);
+      if (at == columns.end())
+        at = columns.insert(at, {key.m_szKey, key.m_name, key.m_szUnit, bVerdict, {-1, -1}});
+      at->m_arrAt[static_cast<int>(edition)] = static_cast<int>(i);
+    }
+  };
+  add(CHECK2003::ResultKeys(), CCodeEdition::Gb2003);
+  add(CHECK2017::ResultKeys(), CCodeEdition::Gb2017);
+  return columns;
+}
+
 template <class CHECK>
-CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check, CLanguage language) {
+CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check, CCodeEdition edition,
+               CLanguage language) {
   CJson results = CJson::object();
   for (const auto& key : CHECK::ResultKeys()) {
     if (!HasResult<CHECK>(key, input)) continue;
@@ -50,34 +92,37 @@ CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check, CLanguage
   CJson warnings = CJson::array();
   for (const CCaseWarning& warning : check.Warnings())
     warnings.push_back({{"key", warning.m_strKey}, {"text", warning.m_text.In(language)}});
-  return {{"pass", check.Pass()},
+  return {{"code", EditionFacts(edition).m_szYear},
+          {"pass", check.Pass()},
           {"results", std::move(results)},
           {"utilisation", JsonNumber(check.Worst().m_dUtilisation)},
           {"governs", check.Worst().m_name.In(language)},
           {"warnings", std::move(warnings)}};
 }
 
-template <class CHECK>
-std::string CsvHead() {
-  std::string line = "case,id,pass,utilisation,governs";
-  for (const auto& key : CHECK::ResultKeys()) line += std::string(",") + key.m_szKey;
-  return line + ",warnings,refused\n";
-}
+std::string CsvHead(std::span<const CResultColumn> columns);
 
 template <class CHECK>
 void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const CHECK& check,
+                   CCodeEdition edition, std::span<const CResultColumn> columns,
                    CLanguage language) {
   const auto cell = [&](auto value) {
     line += ',';
     AppendCsv(line, value);
   };
+  const CCasePart& worst = check.Worst();
   cell(check.Pass());
-  cell(check.Worst().m_dUtilisation);
+  cell(worst.m_dUtilisation);
   line += ',';
-  line += check.Worst().m_name.In(language);
-  for (const auto& key : CHECK::ResultKeys()) {
-    if (HasResult<CHECK>(key, input)) {
-      std::visit([&](auto field) { cell(check.Results().*field); }, key.m_field);
+  AppendCsv(line, worst.m_name.In(language));
+  line += ',';
+  line += EditionFacts(edition).m_szYear;
+  const auto keys = CHECK::ResultKeys();
+  for (const CResultColumn& column : columns) {
+    const int at = column.At(edition);
+    if (at >= 0 && HasResult<CHECK>(keys[static_cast<std::size_t>(at)], input)) {
+      std::visit([&](auto field) { cell(check.Results().*field); },
+                 keys[static_cast<std::size_t>(at)].m_field);
     } else {
       line += ',';
     }
@@ -90,7 +135,8 @@ void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const 
 // The results of one case with their units, the parts of the verdict, the verdict and what to look
 // at.
 template <class CHECK>
-std::string CaseText(const typename CHECK::CCase& input, const CHECK& check, CLanguage language) {
+std::string CaseText(const typename CHECK::CCase& input, const CHECK& check, CCodeEdition edition,
+                     CLanguage language) {
   CTextTable results({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left});
   for (const auto& key : CHECK::ResultKeys()) {
     if (!HasResult<CHECK>(key, input) ||
@@ -105,8 +151,7 @@ std::string CaseText(const typename CHECK::CCase& input, const CHECK& check, CLa
     parts.AddRow({part.m_name.In(language), PercentText(part.m_dUtilisation),
                   VerdictText(part.m_bPass, language)});
   }
-  return results.Text() + '\n' + parts.Text() +
-         VerdictLines(check.Pass(), check.Worst(), check.Warnings(), language);
+  return results.Text() + '\n' + parts.Text() + VerdictLines(edition, check, language);
 }
 
 }  // namespace orv3::cli

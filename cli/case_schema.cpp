@@ -37,6 +37,18 @@ void ReadType(const std::string& type, CCaseSchema::CRule& rule) {
   }
 }
 
+void ReadItems(const CJson& items, CCaseSchema::CRule& rule) {
+  if (items.at("type") != "object") return ReadRange(items, rule.m_items);
+  for (const auto& entry : items.at("properties").items()) {
+    if (entry.value().at("type") != "number") Outside(rule.m_strKey + ": " + entry.key());
+    rule.m_arrMember.push_back(entry.key());
+    ReadRange(entry.value(), rule.m_arrMemberRange.emplace_back());
+  }
+  if (items.at("required").size() != rule.m_arrMember.size() ||
+      items.at("additionalProperties") != false)
+    Outside(rule.m_strKey + ": objects that are not closed");
+}
+
 CCaseSchema::CRule ReadRule(const std::string& key, const CJson& json) {
   static constexpr const char* kWords[] = {
       "description",     "type", "enum", "items", "minimum", "exclusiveMinimum", "maximum",
@@ -59,7 +71,7 @@ CCaseSchema::CRule ReadRule(const std::string& key, const CJson& json) {
     if (value.is_number()) rule.m_arrNumber.push_back(value.get<double>());
   }
   ReadRange(json, rule.m_range);
-  if (json.contains("items")) ReadRange(json["items"], rule.m_items);
+  if (json.contains("items")) ReadItems(json["items"], rule);
   return rule;
 }
 
@@ -81,7 +93,7 @@ CText RangeWords(const CCaseSchema::CRange& range) {
     if (!bound) return;
     const bool bFirst = words.m_strEnglish.empty();
     const std::string number = PlainNumber(*bound);
-    Append(words, {(bFirst ? "，" : "且") + std::string(word.m_szChinese) + number,
+    Append(words, {(bFirst ? "，" : " 且") + std::string(word.m_szChinese) + number,
                    (bFirst ? " " : ", ") + std::string(word.m_szEnglish) + number});
   };
   add({"不小于 ", "of at least "}, range.m_minimum);
@@ -113,10 +125,18 @@ std::optional<CText> Wrong(const CCaseSchema::CRule& rule, const CKeyValue& valu
     return NotPossible(ValueText(value));
   }
   if (!rule.m_bArray) return CText{"不能给数列", "a list is not possible"};
-  for (const double each : std::get<std::span<const double>>(value)) {
-    if (Within(each, rule.m_items)) continue;
-    return CText{"数列中的 " + PlainNumber(each) + " 不可用",
-                 PlainNumber(each) + " in the list is not possible"};
+  const auto list = std::get<std::span<const double>>(value);
+  const std::size_t members = rule.m_arrMember.size();
+  if (members != 0 && (list.empty() || list.size() % members != 0)) {
+    const std::string count = std::to_string(list.size());
+    return CText{"有 " + count + " 个数", count + " numbers are given"};
+  }
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    const double each = list[i];
+    if (Within(each, members == 0 ? rule.m_items : rule.m_arrMemberRange[i % members])) continue;
+    const std::string name = members == 0 ? "" : rule.m_arrMember[i % members] + " = ";
+    return CText{"数列中的 " + name + PlainNumber(each) + " 不可用",
+                 name + PlainNumber(each) + " in the list is not possible"};
   }
   return std::nullopt;
 }
@@ -142,6 +162,12 @@ CText CCaseSchema::CRule::Right() const {
   }
   if (!right.empty()) return {"请给出下列之一：" + right, "give one of " + right};
   if (m_bText) return {"请给出文字", "give a text"};
+  if (!m_arrMember.empty()) {
+    std::string members;
+    for (const std::string& member : m_arrMember) members += (members.empty() ? "" : ", ") + member;
+    return {"请给出对象的数组，每个含 " + members,
+            "give an array of objects, each with " + members};
+  }
   CText words = m_bInteger ? CText{"请给出整数", "give a whole number"}
                            : CText{"请给出数值", "give a number"};
   Append(words, RangeWords(m_range));

@@ -1,7 +1,8 @@
 // What a JSON Schema (docs/schema) asks of a case, compiled once and asked case by case.
 //
 // Of JSON Schema it understands what those files use: type, enum, minimum, exclusiveMinimum,
-// maximum, exclusiveMaximum, items, required, additionalProperties, oneOf lists of required keys,
+// maximum, exclusiveMaximum, items (numbers, or closed objects of
+// numbers that are all required), required, additionalProperties, oneOf lists of required keys,
 // and allOf with if (const or minimum of one key) and then (required, and properties that are
 // false: keys that must not be there). Anything else is refused at the start, so that a schema
 // never promises what is not checked.
@@ -41,7 +42,11 @@ class CCaseSchema {
     std::vector<std::string> m_arrText;  // allowed texts
     std::vector<double> m_arrNumber;     // allowed numbers
     CRange m_range;
-    CRange m_items;       // of the numbers of an array
+    CRange m_items;  // of the numbers of an array
+    // Of an array of objects: their keys and ranges. Its value is the objects' numbers, one object
+    // after the other, in this order.
+    std::vector<std::string> m_arrMember;
+    std::vector<CRange> m_arrMemberRange;
     CText Right() const;  // what would be right, in words
   };
 

@@ -56,15 +56,17 @@ void CAnswers::Flush() {
 }
 
 void CAnswers::PrintTable() const {
-  static constexpr CTextLiteral kHead[] = {{"序号", "case"},      {"编号", "id"},
-                                           {"结论", "verdict"},   {"利用率", "utilisation"},
-                                           {"控制项", "governs"}, {"警告", "warnings"}};
-  CTextTable table(
-      {CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Right});
+  static constexpr CTextLiteral kHead[] = {
+      {"序号", "case"},          {"编号", "id"},        {"版本", "code"},    {"结论", "verdict"},
+      {"利用率", "utilisation"}, {"控制项", "governs"}, {"警告", "warnings"}};
+  CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left, CAlign::Right,
+                    CAlign::Left, CAlign::Right});
   std::vector<std::string> head;
   for (const CTextLiteral& text : kHead) head.emplace_back(text.In(m_nLanguage));
   table.AddRow(std::move(head));
-  for (const CAnswer& answer : m_arrAnswer) table.AddRow(answer.m_arrCell);
+  for (const CAnswer& answer : m_arrAnswer) {
+    for (const auto& row : answer.m_arrRow) table.AddRow(row);
+  }
   Print(table.Text());
 }
 

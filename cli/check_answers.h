@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/bilingual_text.h"
+#include "framework/language.h"
 #include "output.h"
 
 namespace orv3::cli {
@@ -20,8 +20,11 @@ class CAnswers {
 
   CAnswerForm Form() const noexcept { return m_nForm; }
   CLanguage Language() const noexcept { return m_nLanguage; }
-  // `worst` is what the answers are sorted by: the utilisation, infinite for a refused case.
-  void AddRow(double worst, std::vector<std::string> cells) { Add({worst, std::move(cells), ""}); }
+  // `worst` is what the answers are sorted by: the utilisation, infinite for a refused case. A case
+  // has a row or a line for each edition that it is checked by.
+  void AddRows(double worst, std::vector<std::vector<std::string>> rows) {
+    Add({worst, std::move(rows), ""});
+  }
   void AddLine(double worst, std::string line) { Add({worst, {}, std::move(line)}); }
   void AddJson(double worst, const CJson& json);
   void Finish();
@@ -29,7 +32,7 @@ class CAnswers {
  private:
   struct CAnswer {
     double m_dWorst;
-    std::vector<std::string> m_arrCell;
+    std::vector<std::vector<std::string>> m_arrRow;
     std::string m_strText;
   };
   void Add(CAnswer answer);

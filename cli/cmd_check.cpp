@@ -1,21 +1,24 @@
-// orv3cal check: bolt groups, fillet welds and butt welds by GB 50017-2003, one or many at once.
+// orv3cal check: bolt groups and welds by the editions of GB 50017, one or many at once.
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "case_output.h"
+#include "asked_language.h"
 #include "case_schema.h"
 #include "case_source.h"
 #include "check_answers.h"
+#include "check_editions.h"
 #include "commands.h"
 #include "connections/report/connection_report.h"
 #include "error.h"
 #include "framework/excerpt.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "progress.h"
 #include "reports/report_document.h"
@@ -34,90 +37,35 @@ struct COptions {
   bool sort = false;
   std::string report;
   std::string project;
-  std::string language;  // "zh", "en", or empty
+  std::string code;  // of --code
 
   // Of what is printed, and of the report.
-  CLanguage Language() const noexcept {
-    return language == "zh" ? CLanguage::Chinese : CLanguage::English;
-  }
-  CLanguage ReportLanguage() const noexcept {
-    return language == "en" ? CLanguage::English : CLanguage::Chinese;
-  }
+  CLanguage Language() const noexcept { return MessageLanguage(); }
+  CLanguage ReportLanguage() const { return AskedLanguage().value_or(CLanguage::Chinese); }
 };
 
-// Ties the schema's keys to the fields of a case and of its report's head.
-template <class CHECK>
-class CCaseReader {
- public:
-  explicit CCaseReader(const CCaseSchema& schema) : m_schema(schema) {
-    for (const auto& rule : schema.Rules()) {
-      const auto keys = CHECK::InputKeys();
-      const auto key = std::find_if(keys.begin(), keys.end(), [&](const auto& each) {
-        return rule.m_strKey == each.m_szKey;
-      });
-      m_arrKey.push_back(key == keys.end() ? nullptr : &*key);
-      if (key == keys.end() && SheetField(rule.m_strKey) == nullptr)
-        throw std::logic_error("schema: no field for " + rule.m_strKey);
-    }
-  }
-
-  // What the case tells for the head of its report.
-  CReportSheet Sheet(const CCaseValues& values) const {
-    CReportSheet sheet;
-    for (std::size_t i = 0; i < m_arrKey.size(); ++i) {
-      const auto* text = values[i] ? std::get_if<std::string_view>(&*values[i]) : nullptr;
-      if (m_arrKey[i] == nullptr && text != nullptr)
-        sheet.*SheetField(m_schema.Rules()[i].m_strKey) = *text;
-    }
-    return sheet;
-  }
-
-  // A refused case keeps its name.
-  std::optional<CCaseFault> Read(const CReadCase& read, typename CHECK::CCase& input) const {
-    const CCaseValues& values = read.m_arrValue;
-    input = {};
-    SetName(values, input);
-    if (read.m_fault) return read.m_fault;
-    if (auto fault = m_schema.Check(values)) return fault;
-    for (std::size_t i = 0; i < values.size(); ++i) {
-      if (values[i] && m_arrKey[i] != nullptr && !SetInput(input, *m_arrKey[i], *values[i])) {
-        const auto& rule = m_schema.Rules()[i];
-        return CCaseFault{rule.m_strKey, {"不可用", "is not possible"}, rule.Right()};
-      }
-    }
-    return std::nullopt;
-  }
-
- private:
-  static std::string CReportSheet::*SheetField(std::string_view name) noexcept {
-    for (const CSheetKey& key : kSheetKeys) {
-      if (name == key.m_szKey) return key.m_pField;
-    }
-    return nullptr;
-  }
-
-  void SetName(const CCaseValues& values, typename CHECK::CCase& input) const {
-    const int key = m_schema.Find("id");
-    if (key < 0 || !values[static_cast<std::size_t>(key)]) return;
-    SetInput(input, *m_arrKey[static_cast<std::size_t>(key)],
-             *values[static_cast<std::size_t>(key)]);
-  }
-
-  const CCaseSchema& m_schema;
-  std::vector<const CInputKey<typename CHECK::CCase>*> m_arrKey;  // null for the head's
-};
-
-template <class CHECK>
+// Both editions of one check.
+template <class CHECK2003, class CHECK2017>
 class CChecker {
  public:
   CChecker(const COptions& options, std::string_view schema)
       : m_options(options),
+        m_arrAsked(EditionsAsked(options.code)),
         m_schema(schema),
-        m_reader(m_schema),
+        m_2003(m_schema, CCodeEdition::Gb2003, options.Language()),
+        m_2017(m_schema, CCodeEdition::Gb2017, options.Language()),
+        m_columns(ColumnsOf<CHECK2003, CHECK2017>()),
         m_answers(options.csv    ? CAnswerForm::Csv
                   : options.json ? CAnswerForm::Json
                                  : CAnswerForm::Table,
-                  options.sort, options.Language(), options.csv ? CsvHead<CHECK>() : "") {}
+                  options.sort, options.Language(), options.csv ? CsvHead(m_columns) : ""),
+        m_nCode(m_schema.Find(kCodeKey)) {
+    for (const auto& rule : m_schema.Rules()) {
+      if (rule.m_strKey != kCodeKey && SheetField(rule.m_strKey) == nullptr &&
+          !HasKey<CHECK2003>(rule.m_strKey) && !HasKey<CHECK2017>(rule.m_strKey))
+        throw std::logic_error("schema: no field for " + rule.m_strKey);
+    }
+  }
 
   CExit Run() {
     {
@@ -130,7 +78,7 @@ class CChecker {
     if (m_nCases == 0) Refuse({"没有算例；请至少给一个", "holds no case; give one at least"});
     if (!m_bOne) m_answers.Finish();
     WriteReport();
-    if (m_bOne && m_fault) Refuse(m_fault->Text());
+    if (m_bOne && m_nRefused > 0) Refuse(m_firstFault);
     if (m_nRefused > 0) {
       const std::string refused = std::to_string(m_nRefused);
       const std::string cases = std::to_string(m_nCases);
@@ -147,148 +95,175 @@ class CChecker {
     cli::Refuse(Visible(m_options.file) + ": " + what.In(Language()));
   }
 
+  template <class CHECK>
+  static bool HasKey(const std::string& name) {
+    const auto keys = CHECK::InputKeys();
+    return std::any_of(keys.begin(), keys.end(),
+                       [&](const auto& key) { return name == key.m_szKey; });
+  }
+
+  // Calls `use` with what checks by the edition.
+  template <class USE>
+  auto With(CCodeEdition edition, USE use) {
+    return edition == CCodeEdition::Gb2003 ? use(m_2003) : use(m_2017);
+  }
+
+  // The editions of a case: its own, else those that were asked for.
+  std::span<const CCodeEdition> EditionsOf(const CReadCase& read) const {
+    const auto& value = read.m_arrValue[static_cast<std::size_t>(m_nCode)];
+    const auto* text = value ? std::get_if<std::string_view>(&*value) : nullptr;
+    return text == nullptr ? std::span(m_arrAsked) : EditionsNamed(*text, m_arrAsked);
+  }
+
   // Computes the case that was read, and answers it.
   void Check(const CReadCase& read) {
     ++m_nCases;
     m_bOne = read.m_bSingle && !m_options.csv;
-    m_fault = m_reader.Read(read, m_input);
-    if (!m_fault && !m_check.Run(m_input)) m_fault = m_check.Faults().front();
-    if (m_fault) {
-      CountFault();
-    } else if (!m_check.Pass()) {
+    m_arrEdition = EditionsOf(read);
+    const CCaseFault* fault = nullptr;
+    bool bPass = true;
+    for (const CCodeEdition edition : m_arrEdition) {
+      With(edition, [&](auto& run) {
+        run.Run(read);
+        if (fault == nullptr) fault = run.Fault();
+        bPass = bPass && run.Pass();
+      });
+    }
+    if (fault != nullptr) {
+      CountFault(*fault);
+    } else if (!bPass) {
       ++m_nFailed;
     }
     AddToReport(read);
     if (m_bOne) {
-      AnswerOne();
+      AnswerOne(fault != nullptr);
     } else {
       Answer();
     }
   }
 
-  void CountFault() {
+  void CountFault(const CCaseFault& fault) {
     if (m_nRefused++ > 0) return;
+    m_firstFault = fault.Text();
     const std::string number = std::to_string(m_nCases);
     const CText which = {"第 " + number + " 个，", "case " + number + ", "};
-    m_strFirstFault = which.In(Language()) + m_fault->Line(Language());
+    m_strFirstFault = which.In(Language()) + fault.Line(Language());
   }
 
-  void AnswerOne() {
-    if (m_fault) return;
-    if (m_options.json) {
-      PrintJson(CaseJson(m_input, m_check, Language()));
-    } else {
-      Print(CaseText(m_input, m_check, Language()));
-    }
+  bool IsBoth() const noexcept { return m_arrEdition.size() > 1; }
+
+  // One case in full. Refused by the one edition it is not answered; by one of both, the other is.
+  void AnswerOne(bool bRefused) {
+    if (bRefused && !IsBoth()) return;
+    if (m_options.json) return PrintJson(Json());
+    if (!IsBoth()) return With(m_arrEdition[0], [](auto& run) { Print(run.Text()); });
+    Print(BothText(m_columns, m_2017, m_2003, Language()));
   }
 
   void Answer() {
+    const double worst = Worst();
     switch (m_answers.Form()) {
-      case CAnswerForm::Csv:
-        return m_answers.AddLine(Worst(), CsvAnswer());
+      case CAnswerForm::Csv: {
+        std::string lines;
+        for (const CCodeEdition edition : m_arrEdition)
+          With(edition, [&](auto& run) { run.AppendCsv(m_nCases, m_columns, lines); });
+        return m_answers.AddLine(worst, std::move(lines));
+      }
       case CAnswerForm::Json:
-        return m_answers.AddJson(Worst(), JsonAnswer());
-      case CAnswerForm::Table:
-        return m_answers.AddRow(Worst(), TableAnswer());
+        return m_answers.AddJson(worst, CaseJson());
+      case CAnswerForm::Table: {
+        std::vector<std::vector<std::string>> rows;
+        for (const CCodeEdition edition : m_arrEdition)
+          With(edition, [&](auto& run) { rows.push_back(run.Row(m_nCases)); });
+        return m_answers.AddRows(worst, std::move(rows));
+      }
     }
   }
 
-  double Worst() const {
-    const double worst = m_fault ? HUGE_VAL : m_check.Worst().m_dUtilisation;
-    return std::isnan(worst) ? HUGE_VAL : worst;
+  double Worst() {
+    double worst = 0;
+    for (const CCodeEdition edition : m_arrEdition)
+      worst = std::max(worst, With(edition, [](auto& run) { return run.Worst(); }));
+    return worst;
   }
 
-  std::string CsvAnswer() const {
-    std::string line = std::to_string(m_nCases) + ',';
-    AppendCsv(line, m_input.m_strId);
-    if (!m_fault) {
-      AppendCsvLine(line, m_input, m_check, Language());
-      return line;
-    }
-    line.append(CHECK::ResultKeys().size() + 5, ',');
-    AppendCsv(line, m_fault->Line(Language()));
-    return line + '\n';
+  CJson Json() {
+    if (IsBoth()) return BothJson(m_2017, m_2003);
+    return With(m_arrEdition[0], [](auto& run) { return run.Json(); });
   }
 
-  CJson JsonAnswer() const {
+  CJson CaseJson() {
     CJson answer = {{"case", m_nCases}};
-    if (!m_input.m_strId.empty()) answer["id"] = m_input.m_strId;
-    if (m_fault) {
-      answer["refused"] = m_fault->Line(Language());
-    } else {
-      answer.update(CaseJson(m_input, m_check, Language()));
-    }
+    const std::string id = With(m_arrEdition[0], [](auto& run) { return run.Id(); });
+    if (!id.empty()) answer["id"] = id;
+    answer.update(Json());
     return answer;
-  }
-
-  std::vector<std::string> TableAnswer() const {
-    static constexpr CTextLiteral kRefused = {"拒绝", "refused"};
-    std::vector<std::string> row = {std::to_string(m_nCases), Excerpt(m_input.m_strId)};
-    if (m_fault) {
-      row.insert(row.end(), {kRefused.In(Language()), "", m_fault->Line(Language())});
-    } else {
-      const CCasePart& worst = m_check.Worst();
-      row.insert(row.end(),
-                 {VerdictText(m_check.Pass(), Language()), PercentText(worst.m_dUtilisation),
-                  worst.m_name.In(Language()), std::to_string(m_check.Warnings().size())});
-    }
-    return row;
   }
 
   void AddToReport(const CReadCase& read) {
     if (m_options.report.empty()) return;
-    if (m_arrReport.size() == kMostReports) {
+    if (m_nReported++ == kMostReports) {
       const std::string most = std::to_string(kMostReports);
       Refuse({"--report 至多写 " + most + " 个算例；请把文件分开",
               "--report takes at most " + most + " cases; give a file with fewer"});
     }
-    const CLanguage language = m_options.ReportLanguage();
-    CReportCase each = {.m_nCase = m_nCases,
-                        .m_strId = m_input.m_strId,
-                        .m_sheet = m_reader.Sheet(read.m_arrValue)};
-    if (each.m_sheet.m_strProject.empty()) each.m_sheet.m_strProject = m_options.project;
-    if (m_fault) {
-      each.m_strRefused = m_fault->Line(language);
-    } else {
-      each.m_bPass = m_check.Pass();
-      each.m_dUtilisation = m_check.Worst().m_dUtilisation;
-      each.m_strGoverns = m_check.Worst().m_name.In(language);
-      each.m_nWarnings = m_check.Warnings().size();
-      each.m_strBody = CaseReport(m_input, m_check, language);
+    CReportSheet sheet = SheetOf(m_schema, read.m_arrValue);
+    if (sheet.m_strProject.empty()) sheet.m_strProject = m_options.project;
+    for (const CCodeEdition edition : m_arrEdition) {
+      m_arrReport.push_back(With(edition, [&](auto& run) {
+        return run.Report(m_nCases, sheet, m_options.ReportLanguage());
+      }));
     }
-    m_arrReport.push_back(std::move(each));
+  }
+
+  // What the browser calls the report.
+  std::string Title() const {
+    static const std::map<std::string, CText> kTitles = {
+        {"bolt", {"螺栓连接验算", "Bolted connections"}},
+        {"fillet", {"角焊缝验算", "Fillet welds"}},
+        {"butt", {"对接焊缝验算", "Butt welds"}},
+        {"weld-group", {"角焊缝群验算", "Groups of fillet welds"}}};
+    return kTitles.at(m_options.kind).In(m_options.ReportLanguage());
   }
 
   void WriteReport() const {
     if (m_options.report.empty()) return;
-    const CReportTitle title = {"Orv3Cal " + m_options.kind, ORV3CAL_VERSION};
+    const CReportTitle title = {Title() + " — Orv3Cal", ORV3CAL_VERSION};
     WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.ReportLanguage()));
   }
 
   const COptions& m_options;
+  const std::vector<CCodeEdition> m_arrAsked;
   CCaseSchema m_schema;
-  CCaseReader<CHECK> m_reader;
+  CEditionRun<CHECK2003> m_2003;
+  CEditionRun<CHECK2017> m_2017;
+  const std::vector<CResultColumn> m_columns;
   CAnswers m_answers;
-  CHECK m_check;
-  typename CHECK::CCase m_input;
-  std::optional<CCaseFault> m_fault;
-  bool m_bOne = false;  // the file is one case, which is answered in full
+  const int m_nCode;                           // the position of the key "code"
+  std::span<const CCodeEdition> m_arrEdition;  // of the case at hand
+  bool m_bOne = false;                         // the file is one case, which is answered in full
   std::vector<CReportCase> m_arrReport;
+  std::size_t m_nReported = 0;
   int m_nCases = 0;
   int m_nFailed = 0;
   int m_nRefused = 0;
+  CText m_firstFault;
   std::string m_strFirstFault;
 };
 
 CExit RunCheck(const COptions& options) {
-  if (options.kind == "bolt") return CChecker<CBoltCheck>(options, kBoltSchema).Run();
-  if (options.kind == "fillet") return CChecker<CFilletCheck>(options, kFilletSchema).Run();
-  return CChecker<CButtCheck>(options, kButtSchema).Run();
+  if (options.kind == "bolt")
+    return CChecker<CBoltCheck, CBoltCheck2017>(options, kBoltSchema).Run();
+  if (options.kind == "fillet")
+    return CChecker<CFilletCheck, CFilletCheck2017>(options, kFilletSchema).Run();
+  if (options.kind == "weld-group")
+    return CChecker<CWeldGroupCheck2003, CWeldGroupCheck2017>(options, kWeldGroupSchema).Run();
+  return CChecker<CButtCheck, CButtCheck2017>(options, kButtSchema).Run();
 }
 
 // What is wrong with the name of a file.
 std::string FileName(const std::string& name) {
-  return name.empty() ? "is empty; give the name of a file" : "";
+  return name.empty() ? Say("为空；请给出文件名", "is empty; give the name of a file") : "";
 }
 
 }  // namespace
@@ -296,29 +271,46 @@ std::string FileName(const std::string& name) {
 void AddCheckCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "check", "Check bolt groups, fillet welds or butt welds; exit status 1 when one fails");
-  command->add_option("KIND", options->kind, "What to check")
+      "check", Say("验算螺栓群、角焊缝、对接焊缝或角焊缝群；有一个不满足时退出状态为 1",
+                   "Check bolt groups, fillet welds, butt welds or groups of fillet welds; exit "
+                   "status 1 when one fails"));
+  command->add_option("KIND", options->kind, Say("验算的种类", "What to check"))
       ->required()
-      ->check(CLI::IsMember({"bolt", "fillet", "butt"}));
+      ->check(CLI::IsMember({"bolt", "fillet", "butt", "weld-group"}));
   command
       ->add_option(
           "FILE", options->file,
-          "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input")
+          Say("JSON 的一个算例或算例数组，或 .csv；- 表示从标准输入读 JSON",
+              "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input"))
       ->required()
       ->check(FileName);
-  auto* json = command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
-  command->add_flag("--csv", options->csv, "As CSV, one line a case")->excludes(json);
-  command->add_flag("--sort", options->sort, "Of many cases, the greatest utilisation first");
-  command->add_option("--report", options->report, "Write a calculation report to print on A4")
+  auto* json = command->add_flag(
+      "--json", options->json,
+      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_flag("--csv", options->csv, Say("以 CSV 输出，每个算例一行", "As CSV, one line a case"))
+      ->excludes(json);
+  command->add_flag(
+      "--sort", options->sort,
+      Say("多个算例时，利用率大者在前", "Of many cases, the greatest utilisation first"));
+  command
+      ->add_option(
+          "--report", options->report,
+          Say("写入可按 A4 打印的计算书（不给 --lang 时为中文）",
+              "Write a calculation report to print on A4, in Chinese unless --lang is given"))
       ->check(FileName)
       ->type_name("FILE.html");
   command->add_option("--project", options->project,
-                      "The project in the head of the report, of cases that name none");
+                      Say("计算书表头的工程名称，用于没有给出工程的算例",
+                          "The project in the head of the report, of cases that name none"));
   command
-      ->add_option(
-          "--lang", options->language,
-          "Language of the answers (en unless given) and of the report (zh unless given): zh or en")
-      ->check(CLI::IsMember({"zh", "en"}));
+      ->add_option("--code", options->code,
+                   Say("算例没有 code 键时的 GB 50017 版本：2017（现行）、2003（已废止，用于既有"
+                       "结构）或 both（两版）；未给出时用变量 ORV3CAL_CODE，再则 2017",
+                       "The edition of GB 50017 for cases without the key code: 2017 (in force), "
+                       "2003 (withdrawn, for existing structures) or both; the variable "
+                       "ORV3CAL_CODE if it is not given, else 2017"))
+      ->type_name("YEAR");
   command->callback([options] {
     const CExit exit = RunCheck(*options);
     if (exit != CExit::Done) throw exit;

@@ -1,7 +1,9 @@
 # Puts the schemas of docs/schema into the command.
 set(schemas "#include \"schemas.h\"\n\nnamespace orv3::cli {\n\n")
-foreach(kind Bolt Fillet Butt Lattice)
-  string(TOLOWER ${kind} name)
+foreach(kind Bolt Fillet Butt WeldGroup Lattice)
+  # WeldGroup: weld-group
+  string(REGEX REPLACE "([a-z])([A-Z])" "\\1-\\2" name ${kind})
+  string(TOLOWER ${name} name)
   set(file ${PROJECT_SOURCE_DIR}/docs/schema/${name}.schema.json)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
   file(READ ${file} text)

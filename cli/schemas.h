@@ -8,6 +8,7 @@ namespace orv3::cli {
 extern const std::string_view kBoltSchema;
 extern const std::string_view kFilletSchema;
 extern const std::string_view kButtSchema;
+extern const std::string_view kWeldGroupSchema;
 extern const std::string_view kLatticeSchema;
 
 }  // namespace orv3::cli

@@ -1,9 +1,13 @@
-// The C interface: checks of bolt groups, fillet welds and butt welds as lists of values.
+// The C interface: checks of bolt groups and welds as lists of values.
 #include <map>
 #include <string_view>
 
+#include "codes/edition.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
+#include "connections/gb2017/bolt_case.h"
+#include "connections/gb2017/weld_case.h"
+#include "connections/weld_group/group_case.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "module/c_support.h"
@@ -21,7 +25,7 @@ struct CNeed {
   std::vector<const char*> m_arrNeeded;
 };
 
-const std::vector<CNeed>& NeedsOf(const CBoltCheck&) {
+const std::vector<CNeed>& NeedsOf(const CBoltCase&) {
   static const std::vector<CNeed> kNeeds = {
       {nullptr,
        nullptr,
@@ -34,7 +38,7 @@ const std::vector<CNeed>& NeedsOf(const CBoltCheck&) {
   return kNeeds;
 }
 
-const std::vector<CNeed>& NeedsOf(const CFilletCheck&) {
+const std::vector<CNeed>& NeedsOf(const CFilletCase&) {
   static const std::vector<CNeed> kNeeds = {
       {nullptr, nullptr, {"case", "steel", "lw", "N", "M", "V", "betaF"}},
       {"hf", nullptr, {"angle"}},
@@ -43,9 +47,16 @@ const std::vector<CNeed>& NeedsOf(const CFilletCheck&) {
   return kNeeds;
 }
 
-const std::vector<CNeed>& NeedsOf(const CButtCheck&) {
+const std::vector<CNeed>& NeedsOf(const CButtCase&) {
   static const std::vector<CNeed> kNeeds = {
       {nullptr, nullptr, {"case", "steel", "quality", "lw", "t", "N", "M", "V"}},
+  };
+  return kNeeds;
+}
+
+const std::vector<CNeed>& NeedsOf(const CWeldGroupCase&) {
+  static const std::vector<CNeed> kNeeds = {
+      {nullptr, nullptr, {"welds", "steel", "N", "Vx", "Vy", "M", "T", "x", "y"}},
   };
   return kNeeds;
 }
@@ -134,7 +145,7 @@ void CheckNeeds(const std::vector<CNeed>& needs, const CValues& values) {
 }
 
 template <class CHECK>
-typename CHECK::CCase CaseOf(const CHECK& check, const CValues& values) {
+typename CHECK::CCase CaseOf(const CValues& values) {
   typename CHECK::CCase input;
   for (const auto& [name, text] : values) {
     bool bKnown = false;
@@ -148,7 +159,7 @@ typename CHECK::CCase CaseOf(const CHECK& check, const CValues& values) {
     }
     if (!bKnown) throw CFailure(name + ": is no key of this check; the keys are " + known);
   }
-  CheckNeeds(NeedsOf(check), values);
+  CheckNeeds(NeedsOf(input), values);
   return input;
 }
 
@@ -157,9 +168,9 @@ CString ValueText(double value) { return FormatShortest(value); }
 CString ValueText(int value) { return FormatInt(value); }
 
 template <class CHECK>
-int Check(const orv3_char* text, orv3_char* out, int size) {
+std::vector<CString> Answer(const CValues& values) {
   CHECK check;
-  const auto input = CaseOf(check, ReadValues(text));
+  const auto input = CaseOf<CHECK>(values);
   if (!check.Run(input)) throw CFailure(check.Faults().front().Line(CLanguage::English));
   std::vector<CString> lines{L"pass=" + ValueText(check.Pass() ? 1 : 0),
                              L"utilisation=" + ValueText(check.Worst().m_dUtilisation)};
@@ -171,7 +182,51 @@ int Check(const orv3_char* text, orv3_char* out, int size) {
   }
   for (const CCaseWarning& warning : check.Warnings())
     lines.push_back(L"warning=" + FromUtf8(warning.m_text.m_strEnglish));
-  return GiveText(JoinLines(lines), out, size);
+  return lines;
+}
+
+template <class CHECK>
+int Check(const orv3_char* text, orv3_char* out, int size) {
+  return GiveText(JoinLines(Answer<CHECK>(ReadValues(text))), out, size);
+}
+
+using CAnswerOf = std::vector<CString> (*)(const CValues&);
+
+struct CCheckKind {
+  const char* m_szName;
+  CAnswerOf m_arrAnswer[2];  // by 2003 and by 2017
+};
+constexpr CCheckKind kCheckKinds[] = {
+    {"bolt", {Answer<CBoltCheck>, Answer<CBoltCheck2017>}},
+    {"fillet", {Answer<CFilletCheck>, Answer<CFilletCheck2017>}},
+    {"butt", {Answer<CButtCheck>, Answer<CButtCheck2017>}},
+    {"weld-group", {Answer<CWeldGroupCheck2003>, Answer<CWeldGroupCheck2017>}},
+};
+
+// The edition of a case: that of the call, else of its line "code", which goes, else the default.
+CCodeEdition EditionOf(const std::string& code, CValues& values) {
+  std::string year = code;
+  if (const auto line = values.find("code"); line != values.end()) {
+    if (year.empty()) year = line->second;
+    values.erase(line);
+  }
+  if (year.empty()) return kDefaultEdition;
+  const auto edition = EditionByYear(year);
+  if (!edition) throw CFailure(edition.Refusal().Text().m_strEnglish);
+  return *edition;
+}
+
+int CheckBy(const std::string& name, const std::string& code, const orv3_char* text, orv3_char* out,
+            int size) {
+  for (const CCheckKind& kind : kCheckKinds) {
+    if (name != kind.m_szName) continue;
+    CValues values = ReadValues(text);
+    const CCodeEdition edition = EditionOf(code, values);
+    std::vector<CString> lines = kind.m_arrAnswer[static_cast<std::size_t>(edition)](values);
+    lines.insert(lines.begin(), L"code=" + FromUtf8(EditionFacts(edition).m_szYear));
+    return GiveText(JoinLines(lines), out, size);
+  }
+  throw CFailure("kind: \"" + name + "\" is no check; give bolt, fillet, butt or weld-group");
 }
 
 }  // namespace
@@ -190,4 +245,12 @@ int ORV3_CALL orv3_check_fillet(const orv3_char* input, orv3_char* text, int siz
 
 int ORV3_CALL orv3_check_butt(const orv3_char* input, orv3_char* text, int size) {
   return Guarded([&] { return Check<CButtCheck>(input, text, size); });
+}
+
+int ORV3_CALL orv3_check(const orv3_char* kind, const orv3_char* code, const orv3_char* input,
+                         orv3_char* text, int size) {
+  return Guarded([&] {
+    return CheckBy(Utf8Of(kind, "kind"), code == nullptr ? "" : Utf8Of(code, "code"), input, text,
+                   size);
+  });
 }

@@ -174,6 +174,16 @@ ORV3_API int ORV3_CALL orv3_check_bolt(const orv3_char* input, orv3_char* text, 
 ORV3_API int ORV3_CALL orv3_check_fillet(const orv3_char* input, orv3_char* text, int size);
 ORV3_API int ORV3_CALL orv3_check_butt(const orv3_char* input, orv3_char* text, int size);
 
+/* --- Checks by either edition of GB 50017 -------------------------------------------------------
+ */
+
+/* `kind` is "bolt", "fillet", "butt" or "weld-group"; `code` is "2017" (in force) or "2003"
+ * (withdrawn, for existing structures); null or empty takes the input's value "code", else 2017.
+ * Input and result as above; the welds of a group as x1;y1;x2;y2;hf of each in turn. The result
+ * begins with "code". */
+ORV3_API int ORV3_CALL orv3_check(const orv3_char* kind, const orv3_char* code,
+                                  const orv3_char* input, orv3_char* text, int size);
+
 /* --- Figures of GB 50017-2003, each of which returns 0 ------------------------------------------
  */
 

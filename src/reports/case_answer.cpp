@@ -6,6 +6,7 @@ const CCasePart& WorstPart(std::span<const CCasePart> parts) {
   const CCasePart* worst = &parts.front();
   for (const CCasePart& part : parts) {
     if (std::isnan(worst->m_dUtilisation)) break;
+    if (part.m_bDetail && part.m_bPass) continue;
     if (!(part.m_dUtilisation <= worst->m_dUtilisation)) worst = &part;
   }
   return *worst;

@@ -19,9 +19,11 @@ struct CCasePart {
   const char* m_szKey;    // the result key of the verdict
   double m_dUtilisation;  // effect over resistance
   bool m_bPass;
+  bool m_bDetail = false;  // a rule of detailing, which governs only where it is not kept
 };
 
-// The worst of the parts: the greatest utilisation, a NaN before all.
+// The worst of the parts: the greatest utilisation, a NaN before all. A rule of detailing that is
+// kept is left out.
 ORV3CAL_API const CCasePart& WorstPart(std::span<const CCasePart> parts);
 
 class ORV3CAL_API CCaseAnswer {
@@ -55,6 +57,12 @@ class ORV3CAL_API CCaseAnswer {
     if (bPass) utilisation = std::min(utilisation, 1.0);
     if (!bPass && utilisation <= 1) utilisation = std::nextafter(1.0, 2.0);
     m_arrPart.push_back({name, key, utilisation, bPass});
+  }
+
+  // A rule of detailing: the verdict needs it, the utilisation leaves it out while it is kept.
+  void JudgeDetail(CTextLiteral name, const char* key, double utilisation) {
+    Judge(name, key, utilisation);
+    m_arrPart.back().m_bDetail = true;
   }
 
   void Warn(std::vector<CCaseWarning> warnings) { m_arrWarning = std::move(warnings); }

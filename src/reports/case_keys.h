@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "framework/bilingual_text.h"
+#include "framework/language.h"
 
 namespace orv3 {
 
@@ -24,7 +24,9 @@ using CKeyValue = std::variant<double, std::string_view, std::span<const double>
 template <class CASE>
 struct CInputKey {
   const char* m_szKey;
-  std::variant<int CASE::*, double CASE::*, CSpacing CASE::*, std::string CASE::*> m_field;
+  std::variant<int CASE::*, double CASE::*, CSpacing CASE::*, std::string CASE::*,
+               std::vector<double> CASE::*>
+      m_field;
   const char* m_szUnit;
   CTextLiteral m_name;
   // Texts that stand for 0, 1, 2, ... in an int field; empty where the field takes the number.
@@ -95,6 +97,12 @@ inline bool Set(std::string& field, std::span<const char* const>, const CKeyValu
   const auto* text = std::get_if<std::string_view>(&value);
   if (text != nullptr) field.assign(*text);
   return text != nullptr;
+}
+
+inline bool Set(std::vector<double>& field, std::span<const char* const>, const CKeyValue& value) {
+  const auto* each = std::get_if<std::span<const double>>(&value);
+  if (each != nullptr) field.assign(each->begin(), each->end());
+  return each != nullptr;
 }
 
 inline bool Set(CSpacing& field, std::span<const char* const>, const CKeyValue& value) {

@@ -113,15 +113,30 @@ class CReportWriter {
     static constexpr CTextLiteral kPage[] = {
         {"\"第 \" counter(page) \" 页　共 \" counter(pages) \" 页\"",
          "\"page \" counter(page) \" of \" counter(pages)"}};
-    m_strHtml += "@page { @bottom-left { content: " + CssText("GB 50017-2003 · " + Version()) +
+    m_strHtml += "@page { @bottom-left { content: " + CssText(CodeNames() + " · " + Version()) +
                  "; } @bottom-right { content: " + Text(kPage[0]) + "; } }\n";
     for (const CReportCase& each : m_arrCase) {
-      const std::string number = std::to_string(each.m_nCase);
-      m_strHtml += "@page case" + number +
+      const std::string number = PageName(each);
+      m_strHtml += "@page " + number +
                    " { @top-left { content: " + CssText(Excerpt(each.m_sheet.m_strProject)) +
                    "; } @top-right { content: " + CssText(CaseName(each, m_nLanguage)) +
-                   "; } }\n.case" + number + " { page: case" + number + "; }\n";
+                   "; } @bottom-left { content: " +
+                   CssText(EditionFacts(each.m_nEdition).m_szName + (" · " + Version())) +
+                   "; } }\n." + number + " { page: " + number + "; }\n";
     }
+  }
+
+  // "case3-2017"
+  static std::string PageName(const CReportCase& each) {
+    return "case" + std::to_string(each.m_nCase) + "-" + EditionFacts(each.m_nEdition).m_szYear;
+  }
+
+  // "GB 50017-2017, GB 50017-2003"
+  std::string CodeNames() const {
+    std::string names;
+    for (const CCodeEdition edition : Editions())
+      names += (names.empty() ? "" : ", ") + std::string(EditionFacts(edition).m_szName);
+    return names;
   }
 
   std::string Version() const { return "Orv3Cal " + m_title.m_strVersion; }
@@ -133,13 +148,8 @@ class CReportWriter {
   }
 
   // Project, case, date, version and the boxes to sign, then the code with its standing.
-  void Head(const CReportSheet& sheet, const std::string& name) {
-    static constexpr CTextLiteral kBasis = {
-        "依据《钢结构设计规范》GB 50017-2003。该版自 2018 年 7 月 1 日起由《钢结构设计标准》GB "
-        "50017-2017 代替，本计算未采用后者。",
-        "By GB 50017-2003, Code for design of steel structures. GB 50017-2017, Standard for design "
-        "of steel structures, has replaced it since 1 July 2018; this calculation does not follow "
-        "the newer one."};
+  void Head(const CReportSheet& sheet, const std::string& name,
+            std::span<const CCodeEdition> editions) {
     m_strHtml += "<table class=\"sheet\"><tr>";
     Cell({"工程", "Project"}, sheet.m_strProject, 3);
     Cell({"日期", "Date"}, sheet.m_strDate);
@@ -150,12 +160,40 @@ class CReportWriter {
     Cell({"计算", "Calculated"}, sheet.m_strCalculated);
     Cell({"校核", "Checked"}, sheet.m_strChecked);
     Cell({"审定", "Approved"}, sheet.m_strApproved);
-    m_strHtml += std::string("</tr></table>\n<p class=\"note\">") + Text(kBasis) + "</p>\n";
+    m_strHtml += "</tr></table>\n<p class=\"note\">" + Basis(editions) + "</p>\n";
+  }
+
+  // The editions with their standing, each once.
+  std::string Basis(std::span<const CCodeEdition> editions) const {
+    static constexpr CTextLiteral kNames[] = {
+        {"《钢结构设计规范》GB 50017-2003", "GB 50017-2003, Code for design of steel structures"},
+        {"《钢结构设计标准》GB 50017-2017",
+         "GB 50017-2017, Standard for design of steel structures"}};
+    std::string basis;
+    for (const CCodeEdition edition : editions) {
+      const std::string name = Text(kNames[static_cast<int>(edition)]);
+      const std::string status = Text(EditionFacts(edition).m_status);
+      const CText line = {"依据" + name + "（" + status + "）。",
+                          "By " + name + " (" + status + ")."};
+      basis += (basis.empty() ? "" : " ") + line.In(m_nLanguage);
+    }
+    return basis;
+  }
+
+  // Those of the cases, the one in force first.
+  std::vector<CCodeEdition> Editions() const {
+    std::vector<CCodeEdition> editions;
+    for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
+      if (std::any_of(m_arrCase.begin(), m_arrCase.end(),
+                      [edition](const auto& each) { return each.m_nEdition == edition; }))
+        editions.push_back(edition);
+    }
+    return editions;
   }
 
   void Sheet(const CReportCase& each) {
-    m_strHtml += "<article class=\"case" + std::to_string(each.m_nCase) + "\">\n";
-    Head(each.m_sheet, CaseName(each, m_nLanguage));
+    m_strHtml += "<article class=\"" + PageName(each) + "\">\n";
+    Head(each.m_sheet, CaseName(each, m_nLanguage), {&each.m_nEdition, 1});
     m_strHtml += each.m_strBody + "</article>\n";
   }
 
@@ -178,12 +216,12 @@ class CReportWriter {
   void Summary() {
     static constexpr CTextLiteral kTitle = {"验算汇总", "Summary"};
     m_strHtml += "<article>\n";
-    Head(CommonSheet(), Text(kTitle));
+    Head(CommonSheet(), Text(kTitle), Editions());
     m_strHtml += std::string("<h1>") + Text(kTitle) + "</h1>\n" + Count() +
                  "<table class=\"verdicts summary\"><thead><tr>";
-    static constexpr CTextLiteral kHead[] = {{"序号", "Case"},      {"编号", "Id"},
-                                             {"结论", "Verdict"},   {"利用率", "Utilisation"},
-                                             {"控制项", "Governs"}, {"警告", "Warnings"}};
+    static constexpr CTextLiteral kHead[] = {
+        {"序号", "Case"},          {"编号", "Id"},        {"版本", "Code"},    {"结论", "Verdict"},
+        {"利用率", "Utilisation"}, {"控制项", "Governs"}, {"警告", "Warnings"}};
     for (const CTextLiteral& head : kHead) m_strHtml += std::string("<th>") + Text(head) + "</th>";
     m_strHtml += "</tr></thead>\n";
     for (const CReportCase& each : m_arrCase) Line(each);
@@ -195,13 +233,17 @@ class CReportWriter {
       return std::to_string(std::count_if(m_arrCase.begin(), m_arrCase.end(), holds));
     };
     const std::string all = std::to_string(m_arrCase.size());
+    const bool bBoth = Editions().size() > 1;
+    const CTextLiteral what =
+        bBoth ? CTextLiteral{" 项验算", " checks"} : CTextLiteral{" 个算例", " cases"};
     const std::string refused = count([](auto& each) { return !each.m_strRefused.empty(); });
     const std::string passes = count([](auto& each) { return each.m_bPass; });
     const std::string fails =
         count([](auto& each) { return each.m_strRefused.empty() && !each.m_bPass; });
-    const CText text = {
-        "共 " + all + " 个算例：满足 " + passes + "，不满足 " + fails + "，拒绝 " + refused + "。",
-        all + " cases: " + passes + " pass, " + fails + " fail, " + refused + " refused."};
+    const CText text = {"共 " + all + what.m_szChinese + "：满足 " + passes + "，不满足 " + fails +
+                            "，拒绝 " + refused + "。",
+                        all + what.m_szEnglish + ": " + passes + " pass, " + fails + " fail, " +
+                            refused + " refused."};
     const bool bAll = all == passes;
     return std::string("<div class=\"box ") + (bAll ? "pass" : "fail") + "\">" +
            text.In(m_nLanguage) + "</div>\n";
@@ -210,7 +252,8 @@ class CReportWriter {
   void Line(const CReportCase& each) {
     static constexpr CTextLiteral kRefused = {"拒绝", "refused"};
     m_strHtml += "<tr><td class=\"num\">" + std::to_string(each.m_nCase) + "</td><td>" +
-                 Escaped(Excerpt(each.m_strId)) + "</td><td class=\"tick\">";
+                 Escaped(Excerpt(each.m_strId)) + "</td><td>" +
+                 EditionFacts(each.m_nEdition).m_szYear + "</td><td class=\"tick\">";
     if (!each.m_strRefused.empty()) {
       m_strHtml += std::string("<span class=\"fail\">") + Text(kRefused) +
                    "</span></td><td colspan=\"3\">" + Escaped(each.m_strRefused) + "</td></tr>\n";

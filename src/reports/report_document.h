@@ -5,8 +5,9 @@
 #include <span>
 #include <string>
 
-#include "framework/bilingual_text.h"
+#include "codes/edition.h"
 #include "framework/export.h"
+#include "framework/language.h"
 
 namespace orv3 {
 
@@ -33,6 +34,7 @@ inline constexpr CSheetKey kSheetKeys[] = {{"project", &CReportSheet::m_strProje
 // One case of a report.
 struct CReportCase {
   int m_nCase = 1;  // its place in the file, from 1
+  CCodeEdition m_nEdition = CCodeEdition::Gb2003;
   std::string m_strId = {};
   CReportSheet m_sheet = {};
   std::string m_strRefused = {};  // why it was not computed; empty when it was

@@ -126,7 +126,7 @@ std::string Formula(std::string_view text) {
 }
 
 std::string Put(double value) {
-  const std::string text = PlainNumber(value);
+  const std::string text = SubstitutedNumber(value);
   return value < 0 ? "(" + text + ")" : text;
 }
 
@@ -145,11 +145,15 @@ std::string InputText(double value, std::span<const char* const>) { return Plain
 
 std::string InputText(const std::string& value, std::span<const char* const>) { return value; }
 
-std::string InputText(const CSpacing& value, std::span<const char* const>) {
-  if (value.m_arrEach.empty()) return PlainNumber(value.m_dUniform);
+std::string InputText(const std::vector<double>& value, std::span<const char* const>) {
   std::string text;
-  for (const double each : value.m_arrEach) text += (text.empty() ? "" : ", ") + PlainNumber(each);
+  for (const double each : value) text += (text.empty() ? "" : ", ") + PlainNumber(each);
   return text;
+}
+
+std::string InputText(const CSpacing& value, std::span<const char* const> choices) {
+  return value.m_arrEach.empty() ? PlainNumber(value.m_dUniform)
+                                 : InputText(value.m_arrEach, choices);
 }
 
 std::string CReportBody::Clause(const std::string& clause) const {

@@ -86,6 +86,7 @@ std::string InputText(int value, std::span<const char* const> choices);
 std::string InputText(double value, std::span<const char* const>);
 std::string InputText(const std::string& value, std::span<const char* const>);
 std::string InputText(const CSpacing& value, std::span<const char* const>);
+std::string InputText(const std::vector<double>& value, std::span<const char* const>);
 
 template <class CASE>
 std::vector<CReportBody::CInputLine> InputLines(const CASE& input,

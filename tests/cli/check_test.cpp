@@ -2,13 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <sstream>
 
 #include "cli/run_program.h"
-#include "connections/cases/bolt_case.h"
-#include "connections/cases/weld_case.h"
+#include "connections/gb2017/bolt_case.h"
+#include "connections/gb2017/weld_case.h"
+#include "connections/weld_group/group_case.h"
 #include "framework/utf8.h"
 #include "platform/code_page.h"
 #include "reports/report_document.h"
@@ -28,33 +30,40 @@ CRunResult Check(const std::string& kind, const std::string& text, const std::st
   return RunProgram("check " + kind + " " + file.m_strPath + " " + options);
 }
 
-Json ExampleAnswer(const std::string& kind) {
-  return JsonOf("check " + kind + " \"" + kSource + "/examples/" + kind + ".json\"");
+Json ExampleAnswer(const std::string& kind, const std::string& options = "") {
+  return JsonOf("check " + kind + " \"" + kSource + "/examples/" + kind + ".json\" " + options);
 }
 
+// The keys of an edition, each of whose choices the schema has.
 template <class CHECK>
-void ExpectKeysOf(const std::string& kind) {
-  std::set<std::string> keys;
-  for (const auto& key : CHECK::InputKeys()) keys.insert(key.m_szKey);
-  for (const auto& key : orv3::kSheetKeys) keys.insert(key.m_szKey);
-  std::set<std::string> listed;
-  const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/" + kind + ".schema.json"));
-  for (const auto& [key, rule] : schema["properties"].items()) {
-    listed.insert(key);
-    for (const auto& each : CHECK::InputKeys()) {
-      if (key != each.m_szKey || each.m_choices.empty()) continue;
-      EXPECT_EQ(rule["enum"],
-                Json(std::vector<std::string>(each.m_choices.begin(), each.m_choices.end())))
-          << key;
-    }
+void AddKeysOf(const Json& properties, std::set<std::string>& keys) {
+  for (const auto& key : CHECK::InputKeys()) {
+    keys.insert(key.m_szKey);
+    const Json& rule = properties[key.m_szKey];
+    for (const std::string choice : key.m_choices)
+      EXPECT_NE(std::find(rule["enum"].begin(), rule["enum"].end(), Json(choice)),
+                rule["enum"].end())
+          << key.m_szKey << ' ' << choice;
   }
+}
+
+template <class CHECK2003, class CHECK2017>
+void ExpectKeysOf(const std::string& kind) {
+  const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/" + kind + ".schema.json"));
+  std::set<std::string> keys = {"code"};
+  for (const auto& key : orv3::kSheetKeys) keys.insert(key.m_szKey);
+  AddKeysOf<CHECK2003>(schema["properties"], keys);
+  AddKeysOf<CHECK2017>(schema["properties"], keys);
+  std::set<std::string> listed;
+  for (const auto& [key, rule] : schema["properties"].items()) listed.insert(key);
   EXPECT_EQ(listed, keys) << kind;
 }
 
 TEST(CheckCommand, TheSchemasListTheKeysOfTheChecks) {
-  ExpectKeysOf<orv3::CBoltCheck>("bolt");
-  ExpectKeysOf<orv3::CFilletCheck>("fillet");
-  ExpectKeysOf<orv3::CButtCheck>("butt");
+  ExpectKeysOf<orv3::CBoltCheck, orv3::CBoltCheck2017>("bolt");
+  ExpectKeysOf<orv3::CFilletCheck, orv3::CFilletCheck2017>("fillet");
+  ExpectKeysOf<orv3::CButtCheck, orv3::CButtCheck2017>("butt");
+  ExpectKeysOf<orv3::CWeldGroupCheck2003, orv3::CWeldGroupCheck2017>("weld-group");
 }
 
 TEST(CheckCommand, AnswersTheExamples) {
@@ -69,11 +78,16 @@ TEST(CheckCommand, AnswersTheExamples) {
       {"butt",
        {"ftw", "fcw", "fvw", "W", "sigma", "tau", "reduced", "okSigma", "okTau", "okReduced"}}};
   for (const auto& each : cases) {
-    const Json answer = ExampleAnswer(each.kind);
+    const Json answer = ExampleAnswer(each.kind, "--code 2003");
+    EXPECT_EQ(answer["code"], "2003");
     EXPECT_TRUE(answer["pass"]);
     std::set<std::string> results;
     for (const auto& [key, value] : answer["results"].items()) results.insert(key);
     EXPECT_EQ(results, each.results) << each.kind;
+    const Json later = ExampleAnswer(each.kind);
+    EXPECT_EQ(later["code"], "2017") << "unless said";
+    EXPECT_TRUE(later["pass"]);
+    for (const std::string& key : results) EXPECT_TRUE(later["results"].contains(key)) << key;
   }
   // The butt example: 600 kN on 300 x 20 is 100; 20 kN m on 20 x 300^2 / 6 is 66.67; tau 37.5.
   const Json butt = ExampleAnswer("butt")["results"];
@@ -133,7 +147,7 @@ TEST(CheckCommand, TellsAFailureByItsStatus) {
   EXPECT_FALSE(JsonOf("check bolt " + file.m_strPath, 1)["pass"]);
 }
 
-// Each passed, or failed where the code has it pass, by the record alone.
+// Each passed, or failed where the code of 2003 has it pass, by the record alone.
 TEST(CheckCommand, PassesOnlyWhatTheCodePasses) {
   const std::string bolts =
       R"({"layout":"grid","cols":2,"rows":3,"colSpace":70,"rowSpace":80,"d":20,"sumT":20,"nv":1,
@@ -187,7 +201,7 @@ TEST(CheckCommand, PassesOnlyWhatTheCodePasses) {
     SCOPED_TRACE(each.patch);
     Json input = Json::parse(std::string(each.kind) == "bolt" ? bolts : butt);
     input.merge_patch(Json::parse(each.patch));
-    const CRunResult run = Check(each.kind, input.dump(), "--json");
+    const CRunResult run = Check(each.kind, input.dump(), "--json --code 2003");
     ASSERT_EQ(run.m_nExit, each.exit) << run.m_strOut << run.m_strError;
     if (each.exit == 2) {
       ExpectHas(run.m_strError, each.told);

@@ -65,6 +65,7 @@ void Put(int& field, const CChange& change) { field = static_cast<int>(change.nu
 void Put(double& field, const CChange& change) { field = change.number; }
 void Put(CSpacing& field, const CChange& change) { field = {change.number, change.each}; }
 void Put(std::string&, const CChange&) {}
+void Put(std::vector<double>& field, const CChange& change) { field = change.each; }
 
 template <class CHECK>
 typename CHECK::CCase With(typename CHECK::CCase input, const std::vector<CChange>& changes) {

@@ -154,8 +154,17 @@ TEST(Report, EveryEvaluatedLineOfABoltGroupIsTrue) {
     input.m_dT *= input.m_nRows * input.m_nCols == 1 ? 0 : kSigns[n / 7 % 3];
     input.m_nSurface = n % 4;
     lines += ExpectTrueLines<CBoltCheck>(input, "group " + std::to_string(n));
+    CBoltCase2017 later;
+    static_cast<CBoltCase&>(later) = input;
+    if (input.m_nRows > 1) later.m_dM = kSigns[n / 4 % 3] * 2400.0;
+    later.m_nSteel = std::array{0, 1, 2, 3}[static_cast<std::size_t>(n / 3 % 4)];
+    later.m_nSurface = n % 3;
+    if (input.m_nType != kOrdinaryBolt)
+      later.m_nHole = input.m_nType == kFrictionBolt ? n / 3 % 4 : 0;
+    later.m_nThreads = n / 3 % 3 - 1;
+    lines += ExpectTrueLines<CBoltCheck2017>(later, "group by 2017 " + std::to_string(n));
   }
-  EXPECT_GT(lines, 108 * 10);
+  EXPECT_GT(lines, 216 * 10);
 }
 
 TEST(Report, EveryEvaluatedLineOfAWeldIsTrue) {
@@ -203,20 +212,22 @@ TEST(Report, MarksTheBoltThatIsJudged) {
       ASSERT_TRUE(check.Run(input));
       const NormalBoltData& group = check.Record();
       const CBoltFigures& judged = check.Figures();
-      const CStressedBolts stressed = MostStressedBolts(check);
+      const CBoltView view(input, check);
+      const CStressedBolts stressed = MostStressedBolts(view);
       ASSERT_EQ(stressed.m_arrBolt.size(), 1U);
-      const BoltPoint& bolt = group.m_PointArr[stressed.m_arrBolt[0]];
+      const CHole& bolt = view.m_shape.m_arrBolt[static_cast<std::size_t>(stressed.m_arrBolt[0])];
       const double turn = (stressed.m_bClockwise ? 1 : -1) * std::fabs(T) / group.m_dSumR2;
-      EXPECT_NEAR(std::hypot(group.m_dNvx + turn * bolt.dy, group.m_dNvy - turn * bolt.dx),
+      EXPECT_NEAR(std::hypot(group.m_dNvx + turn * (bolt.m_y - group.m_dYc),
+                             group.m_dNvy - turn * (bolt.m_x - group.m_dXc)),
                   judged.m_dNv, 1e-9);
-      EXPECT_NEAR(judged.m_dNtFirst + judged.m_dNtPerMm * bolt.y, judged.m_dNt, 1e-9);
-      EXPECT_EQ(bolt.y, 165) << "the moment pulls hardest at the far row";
+      EXPECT_NEAR(judged.m_dNtFirst + judged.m_dNtPerMm * bolt.m_y, judged.m_dNt, 1e-9);
+      EXPECT_EQ(bolt.m_y, 165) << "the moment pulls hardest at the far row";
     }
   }
   CBoltCase shear = Group(0, 0);
   shear.m_dT = shear.m_dM = 0;
   ASSERT_TRUE(check.Run(shear));
-  EXPECT_EQ(MostStressedBolts(check).m_arrBolt.size(), 15U) << "all are equal";
+  EXPECT_EQ(MostStressedBolts(CBoltView(shear, check)).m_arrBolt.size(), 15U) << "all are equal";
 }
 
 }  // namespace

@@ -6,8 +6,12 @@
 #include <map>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
+#include "catalogue/code_tables/thickness_group.h"
+#include "connections/bolt_group.h"
+#include "connections/butt_weld.h"
 #include "framework/utf8.h"
 #include "module/orv3cal_c.h"
 #include "platform/temp_folder.h"
@@ -203,6 +207,29 @@ TEST(CChecks, GiveTheResultsByKey) {
   EXPECT_EQ(Values(TextFrom(orv3_check_butt, Joined(heavy).c_str())).at("pass"), "0");
 }
 
+TEST(CChecks, AreByTheEditionThatIsAskedFor) {
+  const auto answer = [](const char16_t* kind, const char16_t* code, const CText16& input) {
+    return Values(TextFrom([&](orv3_char* text, int size) {
+      return orv3_check(kind, code, input.c_str(), text, size);
+    }));
+  };
+  const CText16 bolts = Joined(kBolts);
+  auto later = answer(u"bolt", u"", bolts);
+  EXPECT_EQ(later["code"], "2017");
+  EXPECT_NEAR(std::stod(later["Nvb"]), 0.9 * 2 * 0.45 * 155, 1e-9);  // 11.4.2
+  EXPECT_EQ(later["f"], "305");
+  auto earlier = answer(u"bolt", nullptr, bolts + u"\ncode=2003");
+  EXPECT_EQ(earlier["code"], "2003");
+  EXPECT_NEAR(std::stod(earlier["Nvb"]), 0.9 * 2 * 0.5 * 155, 1e-9);
+  // Two side welds of 6 mm: 100 kN along them on 2 x 0.7 x 6 x 200.
+  auto group = answer(u"weld-group", u"2017",
+                      u"welds=0;0;200;0;6;0;100;200;100;6\nsteel=Q235\nN=0\nVx=100\nVy=0\nM=0\n"
+                      u"T=0\nx=100\ny=50");
+  EXPECT_NEAR(std::stod(group["tau"]), 100e3 / 1680, 1e-9);
+  EXPECT_EQ(orv3_check(u"rivet", u"", bolts.c_str(), nullptr, 0), -1);
+  EXPECT_EQ(orv3_check(u"bolt", u"1999", bolts.c_str(), nullptr, 0), -1);
+}
+
 TEST(CChecks, RefuseAnInputWithoutOneOfItsKeys) {
   const struct {
     int(ORV3_CALL* check)(const orv3_char*, orv3_char*, int);
@@ -248,33 +275,91 @@ TEST(CChecks, RefuseByKeyWhatIsNoValue) {
 
 // --- Figures of the code -------------------------------------------------------------------------
 
-TEST(CCode, GivesThePrintedStrengths) {
+// Tables 3.4.1-1 and 3.4.1-3 through every door: a limit belongs to the thinner group.
+TEST(CCode, OneThicknessTableThroughEveryDoor) {
   const struct {
     const char16_t* steel;
-    double t;
-    const char16_t* kind;
-    double strength;
-  } steels[] = {{u"Q235", 16, u"f", 215},  {u"Q235", 16.5, u"f", 205}, {u"Q235", 60, u"fv", 115},
-                {u"Q345", 35, u"f", 295},  {u"Q345", 40, u"f", 265},   {u"Q390", 10, u"fce", 415},
-                {u"Q420", 100, u"fv", 185}},
-    welds[] = {{u"Q235", 20, u"ftw3", 175},
-               {u"Q345", 16, u"fcw", 310},
-               {u"Q345", 40, u"fcw", 265},
-               {u"Q390", 60, u"fvw", 170},
-               {u"Q345", 10, u"ffw", 200}};
+    double upTo[4];
+    int f[4], fv[4];
+  } grades[] = {{u"Q235", {16, 40, 60, 100}, {215, 205, 200, 190}, {125, 120, 115, 110}},
+                {u"Q345", {16, 35, 50, 100}, {310, 295, 265, 250}, {180, 170, 155, 145}},
+                {u"Q390", {16, 35, 50, 100}, {350, 335, 315, 295}, {205, 190, 180, 170}},
+                {u"Q420", {16, 35, 50, 100}, {380, 360, 340, 325}, {220, 210, 195, 185}}};
+  for (int grade = 0; grade < 4; ++grade) {
+    const auto& g = grades[grade];
+    for (int step = 0; step < 4; ++step) {
+      for (const double t : {g.upTo[step], step == 0 ? 3 : g.upTo[step - 1] + 0.01}) {
+        SCOPED_TRACE(Utf8(g.steel) + " " + std::to_string(t));
+        int whole = 0;
+        EXPECT_TRUE(CTableSearch::SearchSub1(grade, t, SUB1_F, whole));
+        EXPECT_EQ(whole, g.f[step]);
+        const int group = orv3::ThicknessGroup(grade, t);
+        EXPECT_TRUE(CTableSearch::SearchSub2(grade, group, SUB2_FVW, whole));
+        EXPECT_EQ(whole, g.fv[step]);
+        double value = 0;
+        EXPECT_EQ(orv3_steel_strength(g.steel, t, u"f", &value), 0) << LastError();
+        EXPECT_EQ(value, g.f[step]);
+        EXPECT_EQ(orv3_weld_strength(g.steel, t, u"fvw", &value), 0) << LastError();
+        EXPECT_EQ(value, g.fv[step]);
+        NormalBoltData plate;
+        plate.m_nSteel = grade;
+        plate.m_dThick = t;
+        plate.CalGangCaiQD();
+        EXPECT_DOUBLE_EQ(plate.m_dF, g.f[step] / 1000.0);
+        WQWeldingData weld;
+        weld.m_nSteel = grade;
+        weld.m_dT = t;
+        weld.CalWeldQD();
+        EXPECT_DOUBLE_EQ(weld.m_dFcw, g.f[step] / 1000.0);
+        EXPECT_DOUBLE_EQ(weld.m_dFvw, g.fv[step] / 1000.0);
+      }
+    }
+    double value = 0;
+    int whole = 0;
+    for (const double t : {100.01, std::nan("")}) {
+      EXPECT_FALSE(CTableSearch::SearchSub1(grade, t, SUB1_F, whole));
+      EXPECT_EQ(orv3_steel_strength(g.steel, t, u"f", &value), -1);
+      EXPECT_EQ(orv3_weld_strength(g.steel, t, u"fcw", &value), -1);
+    }
+  }
+}
+
+TEST(CCode, GivesThePrintedStrengths) {
   double value = 0;
-  for (const auto& c : steels) {
-    ASSERT_EQ(orv3_steel_strength(c.steel, c.t, c.kind, &value), 0) << LastError();
-    EXPECT_EQ(value, c.strength) << Utf8(c.steel) << " " << c.t;
+  EXPECT_EQ(orv3_steel_strength(u"Q390", 10, u"fce", &value), 0);
+  EXPECT_EQ(value, 415);
+  for (const auto& [steel, kind, strength] :
+       {std::tuple{u"Q235", u"ftw3", 175.0}, {u"Q345", u"fcw", 295.0}, {u"Q345", u"ffw", 200.0}}) {
+    ASSERT_EQ(orv3_weld_strength(steel, 20, kind, &value), 0) << LastError();
+    EXPECT_EQ(value, strength);
   }
-  for (const auto& c : welds) {
-    ASSERT_EQ(orv3_weld_strength(c.steel, c.t, c.kind, &value), 0) << LastError();
-    EXPECT_EQ(value, c.strength) << Utf8(c.steel) << " " << c.t;
-  }
-  EXPECT_EQ(orv3_steel_strength(u"Q235", 101, u"f", &value), -1);
-  EXPECT_EQ(orv3_steel_strength(u"Q235", NAN, u"f", &value), -1);
   EXPECT_EQ(orv3_steel_strength(u"Q460", 10, u"f", &value), -1);
   EXPECT_EQ(orv3_steel_strength(u"Q235", 10, u"f", nullptr), -1);
+}
+
+TEST(CCode, AnswersByEdition) {
+  double f = 0, weld = 0, bolt = 0, mu = 0, k = 0, P = 0;
+  ASSERT_EQ(orv3_code_steel(u"2017", u"Q345GJ", u"plate", 50, u"fy", &f), 0) << LastError();
+  ASSERT_EQ(orv3_code_weld(u"2017", u"Q460", 20, u"ffw", u"E60", &weld), 0) << LastError();
+  ASSERT_EQ(orv3_code_bolt(u"2017", u"AB", u"Q460", u"fc", &bolt), 0) << LastError();
+  ASSERT_EQ(orv3_code_slip(u"2017", 1, u"Q345", &mu), 0) << LastError();
+  ASSERT_EQ(orv3_code_hole(u"2017", u"slot-along", &k), 0) << LastError();
+  ASSERT_EQ(orv3_code_preload(u"2017", u"8.8", 30, &P), 0) << LastError();
+  EXPECT_EQ(f, 345);
+  EXPECT_EQ(weld, 240);
+  EXPECT_EQ(bolt, 595);
+  EXPECT_EQ(mu, 0.4);
+  EXPECT_EQ(k, 0.6);
+  EXPECT_EQ(P, 280);
+  ASSERT_EQ(orv3_code_slip(u"2003", 2, u"Q345", &mu), 0) << LastError();
+  ASSERT_EQ(orv3_code_weld(u"2003", u"Q390", 20, u"ffw", nullptr, &weld), 0) << LastError();
+  EXPECT_EQ(mu, 0.5);
+  EXPECT_EQ(weld, 220);
+  EXPECT_EQ(orv3_code_steel(u"2003", u"Q460", u"plate", 10, u"f", &f), -1);
+  EXPECT_NE(LastError().find("GB 50017-2003 has no Q460"), std::string::npos) << LastError();
+  EXPECT_EQ(orv3_code_slip(u"2010", 0, u"Q345", &mu), -1);
+  EXPECT_NE(LastError().find("2003, 2017"), std::string::npos) << LastError();
+  EXPECT_EQ(orv3_code_hole(nullptr, u"standard", &k), -1);
 }
 
 TEST(CCode, GivesThePrintedStabilityFactors) {

@@ -1,22 +1,17 @@
 // What refuses a bolt group, and what to look at in a result that stands.
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "catalogue/code_tables/thickness_group.h"
 #include "connections/cases/bolt_case.h"
+#include "connections/cases/bolt_group_rules.h"
 #include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
 #include "framework/number_text.h"
 
 namespace orv3 {
 namespace {
-
-constexpr int kMostBolts = 100000;
-
-bool IsTableDiameter(int d) {
-  return std::any_of(std::begin(NormalBoltData::m_strBolt), std::end(NormalBoltData::m_strBolt),
-                     [d](const auto& row) { return ToInt(row[0]) == d; });
-}
 
 double HoleDiameter(const CBoltCase& input) {
   NormalBoltData record;
@@ -26,88 +21,11 @@ double HoleDiameter(const CBoltCase& input) {
   return record.m_dD0;
 }
 
-void GroupFaults(const CBoltCase& input, CFaultList& faults) {
-  faults.Within("cols", input.m_nCols, 1, kMostBolts);
-  faults.Within("rows", input.m_nRows, 1, kMostBolts);
-  if (!faults.IsEmpty()) return;
-  if (static_cast<long long>(input.m_nCols) * input.m_nRows > kMostBolts) {
-    faults.Add("rows", {"螺栓多于 100000 个", "the group has more than 100000 bolts"},
-               {"请减少行数或列数", "give fewer rows or columns"});
-  }
-  if (input.m_nLayout == 1 && (input.m_nCols < 2 || input.m_nRows < 2)) {
-    faults.Add(input.m_nCols < 2 ? "cols" : "rows",
-               {"错列螺栓群只有一线螺栓", "a staggered group with one line of bolts"},
-               {"请至少给 2，或用 grid 排列", "give at least 2, or the layout grid"});
-  }
-}
-
-double Least(const CSpacing& spacing) {
-  const auto& each = spacing.m_arrEach;
-  return each.empty() ? spacing.m_dUniform : *std::min_element(each.begin(), each.end());
-}
-
-CText MoreThan(double least) {
-  const std::string number = PlainNumber(least) + " mm";
-  return {"请给大于 " + number, "give more than " + number};
-}
-
-// Smallest spacing of one direction that leaves the holes apart.
-void SpacingFaults(const char* key, CTextLiteral lines, const CSpacing& spacing, int count,
-                   double least, CFaultList& faults) {
-  const auto& each = spacing.m_arrEach;
-  if (!each.empty() && each.size() != static_cast<std::size_t>(count)) {
-    const std::string given = std::to_string(each.size());
-    const std::string needed = std::to_string(count);
-    const std::string all = std::to_string(count + 1);
-    faults.Add(
-        key,
-        {"给了 " + given + " 个间距，而有 " + all + " " + lines.m_szChinese,
-         given + " spacings for " + all + " " + lines.m_szEnglish},
-        {"请给 " + needed + " 个，或一个通用值", "give " + needed + ", or one number for all"});
-    return;
-  }
-  if (count == 0) return;
-  const double smallest = Least(spacing);
-  for (const double value : each) faults.Finite(key, value);
-  faults.Finite(key, spacing.m_dUniform);
-  if (smallest <= least) {
-    faults.Add(key,
-               {PlainNumber(smallest) + " mm 使孔相连",
-                PlainNumber(smallest) + " mm lets the holes run into one another"},
-               MoreThan(least));
-  }
-}
-
-void GradeFaults(const CBoltCase& input, CFaultList& faults) {
-  faults.Within("grade", input.m_nGrade, 0, 4);
-  if (!faults.IsEmpty()) return;
-  const std::string grade = kBoltGrades[input.m_nGrade];
-  const bool bHighStrength = input.m_nGrade >= 3;
-  if (input.m_nType != kOrdinaryBolt && !bHighStrength) {
-    faults.Add("grade",
-               {grade + " 不是高强度螺栓的等级", grade + " is no grade of high-strength bolts"},
-               {"请给 8.8 或 10.9", "give 8.8 or 10.9"});
-  } else if (input.m_nType == kOrdinaryBolt && input.m_nClass == 2 && input.m_nGrade > 1) {
-    faults.Add("grade", {grade + " 不是 C 级螺栓的等级", grade + " is no grade of class C bolts"},
-               {"请给 4.6 或 4.8", "give 4.6 or 4.8"});
-  } else if (input.m_nType == kOrdinaryBolt && input.m_nClass != 2 &&
-             (input.m_nGrade < 2 || input.m_nGrade > 3)) {
-    faults.Add("grade",
-               {grade + " 不是 A、B 级螺栓的等级", grade + " is no grade of class A and B bolts"},
-               {"请给 5.6 或 8.8", "give 5.6 or 8.8"});
-  }
-}
-
 void BoltFieldFaults(const CBoltCase& input, CFaultList& faults) {
   faults.Within("layout", input.m_nLayout, 0, 1);
   faults.Within("type", input.m_nType, 0, 2);
   faults.Within("steel", input.m_nSteel, 0, 3);
-  if (!IsTableDiameter(input.m_nD)) {
-    const std::string d = std::to_string(input.m_nD);
-    faults.Add("d", {d + " 不是表中的直径", d + " is no diameter of the table"},
-               {"请给 10、12、14、16、18、20、22、24、27、30 或表中更大的直径",
-                "give 10, 12, 14, 16, 18, 20, 22, 24, 27, 30 or a larger one that it has"});
-  }
+  DiameterFault(input.m_nD, faults);
   if (input.m_nType == kFrictionBolt) {
     if (input.m_nD < 16) {
       const std::string d = "M" + std::to_string(input.m_nD);
@@ -125,53 +43,12 @@ void BoltFieldFaults(const CBoltCase& input, CFaultList& faults) {
   if (input.m_dThick > kThickestPlate) TooThick("t", input.m_dThick, "3.4.1-1", faults);
 }
 
-void LoadFaults(const CBoltCase& input, CFaultList& faults) {
-  faults.Finite("N", input.m_dN);
-  faults.Finite("Vx", input.m_dVx);
-  faults.Finite("Vy", input.m_dVy);
-  faults.Finite("M", input.m_dM);
-  faults.Finite("T", input.m_dT);
+void MomentFaults(const CBoltCase& input, CFaultList& faults) {
   if (input.m_nType != kFrictionBolt && input.m_dM < 0 && !IsZero(input.m_dM)) {
     faults.Add("M", {PlainNumber(input.m_dM) + " 小于 0", PlainNumber(input.m_dM) + " is below 0"},
                {"请给 0 或正值：转动螺栓群，使第一行为受压一侧",
                 "give 0 or more: turn the group so that its first row is the one pressed on"});
   }
-  if (input.m_nRows == 1 && !IsZero(input.m_dM)) {
-    const std::string M = PlainNumber(input.m_dM) + " kN·mm";
-    faults.Add("M", {"单行螺栓对 " + M + " 没有力臂", "one row of bolts has no lever arm for " + M},
-               {"请给 0，或至少 2 行", "give 0, or 2 rows or more"});
-  }
-  if (input.m_nRows == 1 && input.m_nCols == 1 && !IsZero(input.m_dT)) {
-    const std::string T = PlainNumber(input.m_dT) + " kN·mm";
-    faults.Add("T", {"单个螺栓不能承受扭矩 " + T, "a single bolt carries no torque, here " + T},
-               {"请给 0，或至少 2 个螺栓", "give 0, or 2 bolts or more"});
-  }
-}
-
-// Neighbours of a staggered group stand half a row apart, those of one line two columns.
-void StaggerFault(const CBoltCase& input, double d0, CFaultList& faults) {
-  if (input.m_nLayout != 1) return;
-  double nearest = std::hypot(Least(input.m_colSpace), Least(input.m_rowSpace) / 2);
-  const auto& each = input.m_colSpace.m_arrEach;
-  if (each.empty() && input.m_nCols > 2)
-    nearest = std::min(nearest, 2 * input.m_colSpace.m_dUniform);
-  for (std::size_t i = 1; i < each.size(); ++i) nearest = std::min(nearest, each[i - 1] + each[i]);
-  if (nearest > d0) return;
-  const std::string is = PlainNumber(nearest) + " mm";
-  const std::string least = PlainNumber(d0) + " mm";
-  faults.Add("colSpace",
-             {"错列孔相距 " + is + "，孔相连",
-              "staggered holes stand " + is + " apart and run into one another"},
-             {"请给使孔距大于 " + least + " 的间距",
-              "give spacings that keep them more than " + least + " apart"});
-}
-
-void EdgeFault(const char* key, double distance, double d0, CFaultList& faults) {
-  if (std::isfinite(distance) && distance > d0 / 2) return;
-  faults.Add(key,
-             {PlainNumber(distance) + " mm 使孔切到边缘",
-              PlainNumber(distance) + " mm lets the holes cut the edge"},
-             MoreThan(d0 / 2));
 }
 
 // --- Warnings ----------------------------------------------------------------------------------
@@ -236,14 +113,14 @@ bool Differ(double a, double b) {
 }
 
 std::string Ratios(const NormalBoltData& record, const CBoltFigures& figures) {
-  return PlainNumber(record.m_dRatio) + " → " + PlainNumber(figures.m_dRatio);
+  const auto [was, is] = Apart(record.m_dRatio, figures.m_dRatio);
+  return was + " → " + is;
 }
 
 void ShearWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                    std::vector<CCaseWarning>& warnings) {
   if (!Differ(record.m_dNv, figures.m_dNv)) return;
-  const std::string was = PlainNumber(record.m_dNv);
-  const std::string is = PlainNumber(figures.m_dNv);
+  const auto [was, is] = Apart(record.m_dNv, figures.m_dNv);
   warnings.push_back(
       {"T",
        {"扭矩为负：记录值 Nv = " + was + " kN 把其分力与直接剪力相抵；按相加的 Nv = " + is +
@@ -262,8 +139,9 @@ void TensionWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                          "checked; the bolts are checked for what remains."}});
   }
   if (!Differ(record.m_dNt, figures.m_dNt)) return;
-  const std::string was = "Nt = " + PlainNumber(record.m_dNt) + " kN";
-  const std::string is = "Nt = " + PlainNumber(figures.m_dNt) + " kN";
+  const auto [before, judged] = Apart(record.m_dNt, figures.m_dNt);
+  const std::string was = "Nt = " + before + " kN";
+  const std::string is = "Nt = " + judged + " kN";
   static constexpr CTextLiteral kHow[] = {
       {"", ""},
       {"绕形心转动", "turning about the centroid"},
@@ -296,20 +174,24 @@ void BearingWarnings(const NormalBoltData& record, const CBoltFigures& figures,
 void SectionWarning(const char* key, double recorded, const CPlateSection& section, double f,
                     bool bFriction, std::vector<CCaseWarning>& warnings) {
   if (!Differ(std::fabs(recorded), section.Worst())) return;
-  const auto stress = [f](double sigma) {
-    return PlainNumber(sigma) + " N/mm² (" + PercentNumber(sigma / f) + " %)";
+  const auto stress = [f](const std::string& text, double sigma) {
+    return text + " N/mm² (" + PercentNumber(sigma / f) + " %)";
   };
+  const CComparedText text = Apart(recorded, section.Worst());
+  const std::string was = stress(text.m_strEffect, recorded);
+  const std::string is = stress(text.m_strLimit, section.Worst());
   const std::string number = std::to_string(section.Holes());
   const std::string area = PlainNumber(section.m_dNet) + " mm²";
   const std::string share =
       bFriction ? ", 1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
-  warnings.push_back({key,
-                      {std::string("记录的 ") + key + " 截面应力为 " + stress(recorded) +
-                           "；按 5.1.1 条最不利截面（" + number + " 孔，净面积 " + area + share +
-                           "）验算：" + stress(section.Worst()) + "。",
-                       std::string("The record's section stress from ") + key + " is " +
-                           stress(recorded) + "; judged by the worst section of 5.1.1 (" + number +
-                           " holes, net " + area + share + "): " + stress(section.Worst()) + "."}});
+  warnings.push_back(
+      {key,
+       {std::string("记录的 ") + key + " 截面应力为 " + was + "；按 5.1.1 条最不利截面（" + number +
+            " 孔，净面积 " + area + share + "）验算：" + is + "。",
+        std::string("The record's section stress from ") + key + " is " + was +
+            "; judged by the worst section of 5.1.1 (" + number +
+            (section.Holes() == 1 ? " hole, net " : " holes, net ") + area + share + "): " + is +
+            "."}});
 }
 
 }  // namespace
@@ -317,19 +199,13 @@ void SectionWarning(const char* key, double recorded, const CPlateSection& secti
 std::vector<CCaseFault> BoltFaults(const CBoltCase& input) {
   CFaultList faults;
   BoltFieldFaults(input, faults);
+  MomentFaults(input, faults);
   LoadFaults(input, faults);
   GroupFaults(input, faults);
   if (!faults.IsEmpty()) return faults.Take();
   GradeFaults(input, faults);
   const double d0 = HoleDiameter(input);
-  // The neighbouring columns of a staggered group share no row, so only the lines need be apart.
-  const double leastColumn = input.m_nLayout == 1 ? 0 : d0;
-  SpacingFaults("colSpace", {"列", "columns"}, input.m_colSpace, input.m_nCols - 1, leastColumn,
-                faults);
-  SpacingFaults("rowSpace", {"行", "rows"}, input.m_rowSpace, input.m_nRows - 1, d0, faults);
-  if (faults.IsEmpty()) StaggerFault(input, d0, faults);
-  EdgeFault("ex", input.m_dEx, d0, faults);
-  EdgeFault("ey", input.m_dEy, d0, faults);
+  HoleFaults(input, d0, d0, faults);
   return faults.Take();
 }
 

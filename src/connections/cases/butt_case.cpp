@@ -83,18 +83,22 @@ std::span<const CResultKey<CButtResults>> CButtCheck::ResultKeys() {
   return kKeys;
 }
 
-std::vector<CCaseFault> ButtFaults(const CButtCase& input) {
-  CFaultList faults;
+void ButtFieldFaults(const CButtCase& input, CFaultList& faults) {
   faults.Within("case", input.m_nLoadCase, 0, 5);
-  faults.Within("steel", input.m_nSteel, 0, 3);
   faults.Within("quality", input.m_nQuality, 1, 3);
   faults.Positive("lw", input.m_dLw, "mm");
   faults.Positive("t", input.m_dThick, "mm");
   faults.Finite("N", input.m_dN);
   faults.Finite("M", input.m_dM);
   faults.Finite("V", input.m_dV);
-  if (input.m_dThick > kThickestPlate) TooThick("t", input.m_dThick, "3.4.1-3", faults);
   DroppedLoadFaults(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, faults);
+}
+
+std::vector<CCaseFault> ButtFaults(const CButtCase& input) {
+  CFaultList faults;
+  faults.Within("steel", input.m_nSteel, 0, 3);
+  if (input.m_dThick > kThickestPlate) TooThick("t", input.m_dThick, "3.4.1-3", faults);
+  ButtFieldFaults(input, faults);
   return faults.Take();
 }
 

@@ -12,6 +12,10 @@ class NormalBoltData;
 
 namespace orv3 {
 
+struct CFilletCase;
+struct CButtCase;
+struct CWeldFigures;
+
 // Load cases 0 to 5 of both welds: which loads take part.
 constexpr bool TakesN(int loadCase) noexcept { return loadCase != 3; }
 constexpr bool TakesM(int loadCase) noexcept { return loadCase != 0; }
@@ -19,6 +23,23 @@ constexpr bool TakesV(int loadCase) noexcept { return loadCase >= 3; }
 
 // A load that the load case leaves out is refused.
 void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& faults);
+
+// Where an edition has the strength of fillet welds.
+struct CFilletClauses {
+  const char* m_szRight;     // between faces at a right angle
+  const char* m_szInclined;  // at another angle
+  const char* m_szGroove;    // partial-penetration groove welds
+};
+inline constexpr CFilletClauses kFilletClauses2003 = {"7.1.3", "7.1.4", "7.1.5"};
+inline constexpr CFilletClauses kFilletClauses2017 = {"11.2.2", "11.2.3", "11.2.4"};
+
+// What refuses a fillet weld by either edition; not the steel.
+void FilletFieldFaults(const CFilletCase& input, const CFilletClauses& clauses, CFaultList& faults);
+// The same for a butt weld.
+void ButtFieldFaults(const CButtCase& input, CFaultList& faults);
+// A beta-f that is more than the code gives.
+void WarnOfBeta(const CFilletCase& input, const CWeldFigures& judged, const CFilletClauses& clauses,
+                std::vector<CCaseWarning>& warnings);
 
 // What a weld is judged by where it is not the record's results: `what` names the figure.
 void WarnOfOther(const char* key, const CTextLiteral& what, double record, double judged,

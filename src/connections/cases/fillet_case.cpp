@@ -6,7 +6,8 @@
 namespace orv3 {
 namespace {
 
-void ThroatFaults(const CFilletCase& input, CFaultList& faults) {
+// `clause`: of groove welds.
+void ThroatFaults(const CFilletCase& input, const std::string& clause, CFaultList& faults) {
   const int given = (input.m_dHe != 0) + (input.m_dHf != 0) + (input.m_dS != 0);
   if (given != 1) {
     const CText what = given == 0 ? CText{"未给计算厚度", "no throat is given"}
@@ -40,28 +41,10 @@ void ThroatFaults(const CFilletCase& input, CFaultList& faults) {
   if ((input.m_nGroove == 1 || input.m_nGroove == 2) && input.m_dAngle < 40) {
     const std::string is = PlainNumber(input.m_dAngle) + "°";
     faults.Add("angle",
-               {is + "：7.1.5 条未给出小于 40° 的单边 V 形和 K 形坡口的计算厚度",
-                is + ": 7.1.5 gives no throat for bevel and K grooves below 40°"},
+               {is + "：" + clause + " 条未给出小于 40° 的单边 V 形和 K 形坡口的计算厚度",
+                is + ": " + clause + " gives no throat for bevel and K grooves below 40°"},
                {"请给 40° 或更大，或直接给 he", "give 40° or more, or the throat he"});
   }
-}
-
-void BetaWarnings(const CFilletCase& input, const CWeldFigures& judged,
-                  std::vector<CCaseWarning>& warnings) {
-  const bool bTension = judged.m_dBetaTension < input.m_dBetaF && judged.m_dTension > 0;
-  const bool bCompression = judged.m_dBetaCompression < input.m_dBetaF && judged.m_dCompression > 0;
-  if (!bTension && !bCompression) return;
-  const std::string is = PlainNumber(bTension ? judged.m_dBetaTension : judged.m_dBetaCompression);
-  const char* clause = input.m_dS != 0                 ? "7.1.5"
-                       : input.m_dHf != 0 && is == "1" ? "7.1.4"
-                                                       : "7.1.3";
-  warnings.push_back(
-      {"betaF",
-       {"βf = " + PlainNumber(input.m_dBetaF) + " 大于 " + clause + " 条所给之值；按 βf = " + is +
-            " 验算" + (input.m_dS != 0 ? "（1.22 仅用于受压）。" : "。"),
-        "βf = " + PlainNumber(input.m_dBetaF) + " is more than " + clause +
-            " gives; judged by βf = " + is +
-            (input.m_dS != 0 ? " (1.22 is for compression only)." : ".")}});
 }
 
 void StressWarnings(const CFilletCase& input, const CFilletResults& r, const CWeldFigures& judged,
@@ -100,6 +83,14 @@ void DetailingWarnings(const CFilletCase& input, std::vector<CCaseWarning>& warn
                          "lw = " + lw + " mm is below the detailing minimum " + PlainNumber(least) +
                              " mm (8 hf and 40 mm, 8.2.7)."}});
   }
+  if (input.m_dS != 0 && (input.m_nGroove == 1 || input.m_nGroove == 2) && input.m_dAngle > 50) {
+    warnings.push_back(
+        {"angle",
+         {"单边 V 形和 K 形坡口的 he = s − 3 适用于 α = 45° ± 5°（7.1.5 条），此处 α = " +
+              PlainNumber(input.m_dAngle) + "°；请核对。",
+          "he = s − 3 of bevel and K grooves is for α = 45° ± 5° (7.1.5), here α = " +
+              PlainNumber(input.m_dAngle) + "°. Check it."}});
+  }
   if (input.m_dHf != 0 && (input.m_dAngle < 60 || input.m_dAngle > 135)) {
     warnings.push_back({"angle",
                         {"夹角小于 60° 或大于 135° 的斜角角焊缝不宜用作受力焊缝（8.2.6 条）。",
@@ -130,6 +121,7 @@ std::span<const CInputKey<CFilletCase>> CFilletCheck::InputKeys() {
       {"s", &C::m_dS, "mm", {"坡口深度 s", "groove depth s"}},
       {"angle", &C::m_dAngle, "°", {"夹角 α", "angle α"}},
       {"groove", &C::m_nGroove, "", {"坡口形式", "kind of groove"}},
+      {"welds", &C::m_nWelds, "", {"相同焊缝条数", "equal welds"}},
   };
   return kKeys;
 }
@@ -150,24 +142,49 @@ std::span<const CResultKey<CFilletResults>> CFilletCheck::ResultKeys() {
   return kKeys;
 }
 
-std::vector<CCaseFault> FilletFaults(const CFilletCase& input) {
-  CFaultList faults;
+void FilletFieldFaults(const CFilletCase& input, const CFilletClauses& clauses,
+                       CFaultList& faults) {
   faults.Within("case", input.m_nLoadCase, 0, 5);
-  faults.Within("steel", input.m_nSteel, 0, 3);
   faults.Positive("lw", input.m_dLw, "mm");
   faults.Finite("N", input.m_dN);
   faults.Finite("M", input.m_dM);
   faults.Finite("V", input.m_dV);
   faults.Positive("betaF", input.m_dBetaF, "(1.22 static, 1.0 dynamic)");
-  ThroatFaults(input, faults);
+  faults.Within("welds", input.m_nWelds, 1, 100);
+  ThroatFaults(input, clauses.m_szGroove, faults);
   DroppedLoadFaults(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, faults);
+}
+
+void WarnOfBeta(const CFilletCase& input, const CWeldFigures& judged, const CFilletClauses& clauses,
+                std::vector<CCaseWarning>& warnings) {
+  const bool bTension = judged.m_dBetaTension < input.m_dBetaF && judged.m_dTension > 0;
+  const bool bCompression = judged.m_dBetaCompression < input.m_dBetaF && judged.m_dCompression > 0;
+  if (!bTension && !bCompression) return;
+  const std::string is = PlainNumber(bTension ? judged.m_dBetaTension : judged.m_dBetaCompression);
+  const std::string clause = input.m_dS != 0                 ? clauses.m_szGroove
+                             : input.m_dHf != 0 && is == "1" ? clauses.m_szInclined
+                                                             : clauses.m_szRight;
+  warnings.push_back(
+      {"betaF",
+       {"βf = " + PlainNumber(input.m_dBetaF) + " 大于 " + clause + " 条所给之值；按 βf = " + is +
+            " 验算" + (input.m_dS != 0 ? "（1.22 仅用于受压）。" : "。"),
+        "βf = " + PlainNumber(input.m_dBetaF) + " is more than " + clause +
+            " gives; judged by βf = " + is +
+            (input.m_dS != 0 ? " (1.22 is for compression only)." : ".")}});
+}
+
+std::vector<CCaseFault> FilletFaults(const CFilletCase& input) {
+  CFaultList faults;
+  faults.Within("steel", input.m_nSteel, 0, 3);
+  FilletFieldFaults(input, kFilletClauses2003, faults);
   return faults.Take();
 }
 
 bool CFilletCheck::Run(const CFilletCase& input) {
   if (Refused(FilletFaults(input))) return false;
-  AngleHanFData weld(0, input.m_nLoadCase, input.m_nSteel, input.m_dHe, input.m_dLw, input.m_dN,
-                     input.m_dM, input.m_dV, input.m_dBetaF);
+  AngleHanFData weld(0, input.m_nLoadCase, input.m_nSteel, input.m_dHe, input.m_dLw,
+                     input.m_dN / input.m_nWelds, input.m_dM / input.m_nWelds,
+                     input.m_dV / input.m_nWelds, input.m_dBetaF);
   if (input.m_dHf != 0) weld.CalHFLw(input.m_dHf, input.m_dAngle);
   if (input.m_dS != 0) weld.CalHFLw(input.m_dS, input.m_dAngle, input.m_nGroove);
   int okSigma = 0;
@@ -186,7 +203,7 @@ bool CFilletCheck::Run(const CFilletCase& input) {
   }
   std::vector<CCaseWarning> warnings;
   StressWarnings(input, r, j, warnings);
-  BetaWarnings(input, j, warnings);
+  WarnOfBeta(input, j, kFilletClauses2003, warnings);
   DetailingWarnings(input, warnings);
   Warn(std::move(warnings));
   return true;

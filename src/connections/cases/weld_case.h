@@ -28,9 +28,10 @@ struct CFilletCase {
   double m_dS = 0;
   double m_dAngle = 0;  // degrees: between the faces (hf), of the groove (s)
   int m_nGroove = 0;    // with s: 0 to 4, as in CalHFLw
+  int m_nWelds = 1;     // equal welds that share the loads; lengths are of one of them
 };
 
-// Lengths in mm, W in mm3, strengths and stresses in N/mm2.
+// Lengths in mm, W in mm3, strengths and stresses in N/mm2; of one of equal welds.
 struct CFilletResults {
   double m_dHe = 0;
   double m_dW = 0;
@@ -99,6 +100,7 @@ class ORV3CAL_API CButtCheck : public CWeldCheck<CButtCase, CButtResults> {
   bool Run(const CButtCase& input);
 };
 
+// By either edition; the steel is by its own.
 ORV3CAL_API std::vector<CCaseFault> FilletFaults(const CFilletCase& input);
 ORV3CAL_API std::vector<CCaseFault> ButtFaults(const CButtCase& input);
 

@@ -15,31 +15,35 @@ constexpr double kMostHeight = 240;  // of the plate on the page
 constexpr double kMargin = 66;       // around the plate: dimensions and loads
 
 // The interaction ratio of one bolt; sense +1 for a clockwise torque.
-double BoltRatio(const CBoltCheck& check, const BoltPoint& bolt, double sense) {
-  const NormalBoltData& group = check.Record();
-  const CBoltFigures& judged = check.Figures();
-  const double perMm = group.m_dSumR2 > 0 ? sense * std::fabs(group.m_dT) / group.m_dSumR2 : 0;
-  const double shear = std::hypot(group.m_dNvx + perMm * bolt.dy, group.m_dNvy - perMm * bolt.dx) /
-                       (group.m_dNvb * group.m_dBeta);
+double BoltRatio(const CBoltView& view, const CHole& bolt, double sense) {
+  const CBoltCase& input = view.m_input;
+  const CBoltResults& r = view.m_results;
+  const CBoltShape& shape = view.m_shape;
+  const bool bTorque = !IsZero(input.m_dT) && !IsZero(shape.SumR2());
+  const double perMm = bTorque ? sense * std::fabs(input.m_dT) / shape.SumR2() : 0;
+  const double x = input.m_dVx / r.m_nBolts + perMm * (bolt.m_y - shape.m_dYc);
+  const double y = input.m_dVy / r.m_nBolts - perMm * (bolt.m_x - shape.m_dXc);
+  const double shear = std::hypot(x, y) / (r.m_dNvb * r.m_dBeta);
   const double tension =
-      std::max(0.0, judged.m_dNtFirst + judged.m_dNtPerMm * bolt.y) / group.m_dNtb;
-  return group.m_nBoltType == kFrictionBolt ? shear + tension : std::hypot(shear, tension);
+      std::max(0.0, view.m_judged.m_dNtFirst + view.m_judged.m_dNtPerMm * bolt.m_y) / r.m_dNtb;
+  return input.m_nType == kFrictionBolt ? shear + tension : std::hypot(shear, tension);
 }
 
-double WorstRatio(const CBoltCheck& check, double sense) {
+double WorstRatio(const CBoltView& view, double sense) {
   double worst = 0;
-  for (const BoltPoint& bolt : check.Record().m_PointArr)
-    worst = std::max(worst, BoltRatio(check, bolt, sense));
+  for (const CHole& bolt : view.m_shape.m_arrBolt)
+    worst = std::max(worst, BoltRatio(view, bolt, sense));
   return worst;
 }
 
 class CBoltPainter {
  public:
-  explicit CBoltPainter(const CBoltCheck& check)
-      : m_check(check),
-        m_group(check.Record()),
-        m_dPlateWidth(m_group.m_dWidth + 2 * m_group.m_dEx),
-        m_dPlateHeight(m_group.m_dHeight + 2 * m_group.m_dEy),
+  explicit CBoltPainter(const CBoltView& view)
+      : m_view(view),
+        m_input(view.m_input),
+        m_shape(view.m_shape),
+        m_dPlateWidth(m_shape.m_dWidth + 2 * m_input.m_dEx),
+        m_dPlateHeight(m_shape.m_dHeight + 2 * m_input.m_dEy),
         m_dScale(std::min((kPageWidth - 2 * kMargin - 60) / m_dPlateWidth,
                           kMostHeight / m_dPlateHeight)),
         m_dLeft((kPageWidth - m_dScale * m_dPlateWidth) / 2),
@@ -59,24 +63,24 @@ class CBoltPainter {
  private:
   // Page position of a point of the group, mm from the first bolt.
   CPoint At(double x, double y) const {
-    return {m_dLeft + m_dScale * (x + m_group.m_dEx), kMargin + m_dScale * (y + m_group.m_dEy)};
+    return {m_dLeft + m_dScale * (x + m_input.m_dEx), kMargin + m_dScale * (y + m_input.m_dEy)};
   }
   double Right() const { return m_dLeft + m_dScale * m_dPlateWidth; }
   double Top() const { return kMargin + m_dScale * m_dPlateHeight; }
 
   void Axes() {
-    const CPoint centroid = At(m_group.m_dXc, m_group.m_dYc);
+    const CPoint centroid = At(m_shape.m_dXc, m_shape.m_dYc);
     m_drawing.AddLine(CLayer::CentroidAxis, {m_dLeft - 12, centroid.y}, {Right() + 12, centroid.y});
     m_drawing.AddLine(CLayer::CentroidAxis, {centroid.x, kMargin - 12}, {centroid.x, Top() + 12});
   }
 
   void Bolts() {
-    const double radius = std::max(1.0, m_dScale * m_group.m_dD0 / 2);
-    for (const BoltPoint& bolt : m_group.m_PointArr)
-      m_drawing.AddCircle(CLayer::Outline, At(bolt.x, bolt.y), radius);
-    for (const int index : MostStressedBolts(m_check).m_arrBolt) {
-      const BoltPoint& bolt = m_group.m_PointArr[index];
-      m_drawing.AddArea(CLayer::CentroidAxis, {CirclePath(At(bolt.x, bolt.y), 0.8 * radius)});
+    const double radius = std::max(1.0, m_dScale * m_view.m_results.m_dD0 / 2);
+    for (const CHole& bolt : m_shape.m_arrBolt)
+      m_drawing.AddCircle(CLayer::Outline, At(bolt.m_x, bolt.m_y), radius);
+    for (const int index : MostStressedBolts(m_view).m_arrBolt) {
+      const CHole& bolt = m_shape.m_arrBolt[static_cast<std::size_t>(index)];
+      m_drawing.AddArea(CLayer::CentroidAxis, {CirclePath(At(bolt.m_x, bolt.m_y), 0.8 * radius)});
     }
   }
 
@@ -100,12 +104,13 @@ class CBoltPainter {
   }
 
   void Cuts() {
-    Cut(m_check.Figures().m_x.m_arrHole, true, L"1");
-    Cut(m_check.Figures().m_y.m_arrHole, false, L"2");
+    Cut(m_view.m_judged.m_x.m_arrHole, true, L"1");
+    const bool bBoth = m_view.m_judged.m_x.Holes() > 0;
+    Cut(m_view.m_judged.m_y.m_arrHole, false, bBoth ? L"2" : L"1");
   }
 
   // Edge, spacings and edge along one side: one by one while there is room, else in sum.
-  void Chain(bool bVertical, double edge, const CArray<double, double>& spacings) {
+  void Chain(bool bVertical, double edge, const std::vector<double>& spacings) {
     const double start = bVertical ? kMargin : m_dLeft;
     double at = start;
     const auto add = [&](double length, const std::string& text) {
@@ -121,8 +126,8 @@ class CBoltPainter {
       m_drawing.AddDimension(dimension);
     };
     add(edge, PlainNumber(edge));
-    const double sum = Sum(spacings);
-    const int count = spacings.GetSize();
+    const double sum = bVertical ? m_shape.m_dHeight : m_shape.m_dWidth;
+    const std::size_t count = spacings.size();
     bool bRoom = true;
     for (const double space : spacings) bRoom = bRoom && m_dScale * space >= 24;
     if (bRoom) {
@@ -137,8 +142,8 @@ class CBoltPainter {
   }
 
   void Dimensions() {
-    Chain(false, m_group.m_dEx, m_group.m_EcArr);
-    Chain(true, m_group.m_dEy, m_group.m_ErArr);
+    Chain(false, m_input.m_dEx, m_view.m_arrCol);
+    Chain(true, m_input.m_dEy, m_view.m_arrRow);
   }
 
   void Force(CPoint tail, CPoint tip, CPoint label, const wchar_t* szName, CAnchor anchor) {
@@ -147,22 +152,22 @@ class CBoltPainter {
   }
 
   void Loads() {
-    const CPoint centroid = At(m_group.m_dXc, m_group.m_dYc);
-    if (!IsZero(m_group.m_dVx)) {
+    const CPoint centroid = At(m_shape.m_dXc, m_shape.m_dYc);
+    if (!IsZero(m_input.m_dVx)) {
       const double near = Right() + 26;
       const double far = near + 38;
-      const bool bRight = m_group.m_dVx > 0;
+      const bool bRight = m_input.m_dVx > 0;
       Force({bRight ? near : far, centroid.y}, {bRight ? far : near, centroid.y},
             {far + 5, centroid.y}, L"Vx", CAnchor::Left);
     }
-    if (!IsZero(m_group.m_dVy)) {
+    if (!IsZero(m_input.m_dVy)) {
       const double near = Top() + 20;
       const double far = Top() + 48;
-      const bool bUp = m_group.m_dVy > 0;
+      const bool bUp = m_input.m_dVy > 0;
       Force({centroid.x, bUp ? near : far}, {centroid.x, bUp ? far : near},
             {centroid.x + 6, far - 4}, L"Vy", CAnchor::Left);
     }
-    if (!IsZero(m_group.m_dT)) Torque(centroid, MostStressedBolts(m_check).m_bClockwise);
+    if (!IsZero(m_input.m_dT)) Torque(centroid, MostStressedBolts(m_view).m_bClockwise);
   }
 
   // An arc of three quarters about the centroid.
@@ -182,8 +187,9 @@ class CBoltPainter {
                         .m_nAnchor = side > 0 ? CAnchor::Left : CAnchor::Right});
   }
 
-  const CBoltCheck& m_check;
-  const NormalBoltData& m_group;
+  const CBoltView& m_view;
+  const CBoltCase& m_input;
+  const CBoltShape& m_shape;
   double m_dPlateWidth;
   double m_dPlateHeight;
   double m_dScale;
@@ -193,21 +199,20 @@ class CBoltPainter {
 
 }  // namespace
 
-CStressedBolts MostStressedBolts(const CBoltCheck& check) {
+CStressedBolts MostStressedBolts(const CBoltView& view) {
   CStressedBolts stressed;
-  const double clockwise = WorstRatio(check, 1);
-  const double counter = WorstRatio(check, -1);
+  const double clockwise = WorstRatio(view, 1);
+  const double counter = WorstRatio(view, -1);
   stressed.m_bClockwise = clockwise >= counter - 1e-9;
   const double sense = stressed.m_bClockwise ? 1 : -1;
   const double worst = std::max(clockwise, counter);
-  const NormalBoltData& group = check.Record();
-  for (int i = 0; i < group.m_PointArr.GetSize(); ++i) {
-    if (BoltRatio(check, group.m_PointArr[i], sense) >= worst * (1 - 1e-9) - 1e-12)
-      stressed.m_arrBolt.push_back(i);
+  for (int i = 0; i < view.m_shape.Bolts(); ++i) {
+    const CHole& bolt = view.m_shape.m_arrBolt[static_cast<std::size_t>(i)];
+    if (BoltRatio(view, bolt, sense) >= worst * (1 - 1e-9) - 1e-12) stressed.m_arrBolt.push_back(i);
   }
   return stressed;
 }
 
-CDrawing BoltGroupDrawing(const CBoltCheck& check) { return CBoltPainter(check).Draw(); }
+CDrawing BoltGroupDrawing(const CBoltView& view) { return CBoltPainter(view).Draw(); }
 
 }  // namespace orv3

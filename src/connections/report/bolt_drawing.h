@@ -3,24 +3,24 @@
 
 #include <vector>
 
-#include "connections/cases/bolt_case.h"
+#include "connections/report/bolt_view.h"
 #include "drawing/drawing.h"
 
 namespace orv3 {
 
-// Positions in m_PointArr of the bolts under the greatest interaction ratio. The torque acts in the
+// Positions in the shape of the bolts under the greatest interaction ratio. The torque acts in the
 // sense that the greater ratio comes from, since its share is added to the shear.
 struct CStressedBolts {
   std::vector<int> m_arrBolt;
   bool m_bClockwise = true;
 };
-CStressedBolts MostStressedBolts(const CBoltCheck& check);
+CStressedBolts MostStressedBolts(const CBoltView& view);
 
 // Groups of more bolts are not drawn.
 inline constexpr int kMostDrawnBolts = 1500;
 
 // Red: the most stressed bolts. Dashed: cut 1 against Vx and 2 against Vy, through the holes of the
 // sections that are judged.
-CDrawing BoltGroupDrawing(const CBoltCheck& check);
+CDrawing BoltGroupDrawing(const CBoltView& view);
 
 }  // namespace orv3

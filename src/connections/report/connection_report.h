@@ -5,6 +5,9 @@
 
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
+#include "connections/gb2017/bolt_case.h"
+#include "connections/gb2017/weld_case.h"
+#include "connections/weld_group/group_case.h"
 #include "framework/export.h"
 
 namespace orv3 {
@@ -15,6 +18,15 @@ ORV3CAL_API std::string CaseReport(const CBoltCase& input, const CBoltCheck& che
 ORV3CAL_API std::string CaseReport(const CFilletCase& input, const CFilletCheck& check,
                                    CLanguage language);
 ORV3CAL_API std::string CaseReport(const CButtCase& input, const CButtCheck& check,
+                                   CLanguage language);
+
+ORV3CAL_API std::string CaseReport(const CBoltCase2017& input, const CBoltCheck2017& check,
+                                   CLanguage language);
+ORV3CAL_API std::string CaseReport(const CFilletCase2017& input, const CFilletCheck2017& check,
+                                   CLanguage language);
+ORV3CAL_API std::string CaseReport(const CButtCase2017& input, const CButtCheck2017& check,
+                                   CLanguage language);
+ORV3CAL_API std::string CaseReport(const CWeldGroupCase& input, const CWeldGroupCheck& check,
                                    CLanguage language);
 
 }  // namespace orv3

@@ -1,10 +1,12 @@
-// The reports of fillet and butt welds: GB 50017-2003, 7.1.1 to 7.1.5.
+// The reports of fillet and butt welds: GB 50017-2003, 7.1.1 to 7.1.5; GB 50017-2017, 11.2
+// and 11.3.
 #include <algorithm>
 #include <cmath>
 #include <type_traits>
 
 #include "connections/cases/case_rules.h"
 #include "connections/report/connection_report.h"
+#include "connections/report/detail_verdicts.h"
 #include "connections/report/weld_drawing.h"
 #include "reports/report_page.h"
 
@@ -30,7 +32,7 @@ CStressTerms NormalStress(int loadCase, double N, double M, const std::string& a
     const bool bFirst = !TakesN(loadCase) && *sign == '+';
     const std::string plus = bFirst ? "" : " " + std::string(sign) + " ";
     terms.m_strFormula += plus + "M / W";
-    terms.m_strNumbers += plus + Put(M) + " × 1000 / " + PlainNumber(W);
+    terms.m_strNumbers += plus + Put(M) + " × 1000 / " + SubstitutedNumber(W);
   }
   return terms;
 }
@@ -65,7 +67,7 @@ void WeldInputs(CReportBody& body, const CASE& input, std::span<const CInputKey<
     const std::string key = keys[i].m_szKey;
     if (key == "id" || skip(key)) continue;
     if (key == "case") lines[i].m_strUnit = kLoadsOfCase[input.m_nLoadCase];
-    if constexpr (std::is_same_v<CASE, CFilletCase>) {
+    if constexpr (std::is_base_of_v<CFilletCase, CASE>) {
       if (key == "groove") lines[i].m_strUnit = body.Text(kGrooveNames[input.m_nGroove]);
     }
     used.push_back(lines[i]);
@@ -73,43 +75,60 @@ void WeldInputs(CReportBody& body, const CASE& input, std::span<const CInputKey<
   body.Inputs(used);
 }
 
-CReportStep Throat(const CFilletCase& input, const CFilletResults& r) {
+CReportStep Throat(const CFilletCase& input, const CFilletResults& r,
+                   const CFilletClauses& clauses) {
   const std::string he = PlainNumber(r.m_dHe);
   static constexpr CTextLiteral kName = {"焊缝计算厚度", "Effective throat"};
   if (input.m_dHe != 0) return {kName, "", "h_e", "", "", he, "mm"};
   if (input.m_dHf != 0) {
     const std::string hf = Put(input.m_dHf);
     if (std::fabs(input.m_dAngle - 90) < 1e-4)
-      return {kName, "7.1.3", "h_e", "0.7 h_f", "0.7 × " + hf, he, "mm"};
+      return {kName, clauses.m_szRight, "h_e", "0.7 h_f", "0.7 × " + hf, he, "mm"};
     return {kName,
-            "7.1.4",
+            clauses.m_szInclined,
             "h_e",
             "h_f \\cos(α / 2)",
-            hf + " × \\cos(" + PlainNumber(input.m_dAngle) + "° / 2)",
+            hf + " × \\cos(" + SubstitutedNumber(input.m_dAngle) + "° / 2)",
             he,
             "mm"};
   }
   const std::string s = Put(input.m_dS);
   if (input.m_nGroove == 1 || input.m_nGroove == 2)
-    return {kName, "7.1.5", "h_e", "s − 3", s + " − 3", he, "mm"};
+    return {kName, clauses.m_szGroove, "h_e", "s − 3", s + " − 3", he, "mm"};
   if (r.m_dHe != input.m_dS)
-    return {kName, "7.1.5", "h_e", "0.75 s  (α < 60°)", "0.75 × " + s, he, "mm"};
-  return {kName, "7.1.5", "h_e", "s", "", he, "mm"};
+    return {kName, clauses.m_szGroove, "h_e", "0.75 s  (α < 60°)", "0.75 × " + s, he, "mm"};
+  return {kName, clauses.m_szGroove, "h_e", "s", "", he, "mm"};
 }
 
-CSteps FilletSteps(const CFilletCase& input, const CFilletCheck& check) {
-  const CFilletResults& r = check.Results();
-  const CWeldFigures& judged = check.Figures();
+// The loads of one of equal welds.
+CFilletCase OneWeld(CFilletCase input) {
+  input.m_dN /= input.m_nWelds;
+  input.m_dM /= input.m_nWelds;
+  input.m_dV /= input.m_nWelds;
+  return input;
+}
+
+// `alphaF` below 1: of a long lap weld.
+CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r, const CWeldFigures& judged,
+                   const CFilletClauses& clauses, const char* table, double alphaF = 1) {
   const std::string he = Put(r.m_dHe);
   const std::string lw = Put(input.m_dLw);
-  CSteps steps = {Throat(input, r)};
+  CSteps steps = {Throat(input, r, clauses)};
   steps.push_back({{"角焊缝强度设计值", "Design strength of the fillet weld"},
-                   "T 3.4.1-3",
+                   table,
                    "f_f^w",
                    "",
                    "",
                    PlainNumber(r.m_dFfw),
                    "N/mm²"});
+  if (alphaF < 1) {
+    steps.push_back({{"搭接长焊缝折减", "Long lap weld"},
+                     "11.2.6",
+                     "α_f",
+                     "\\max(1.5 − l_w / (120 h_f), 0.5)",
+                     "\\max(1.5 − " + lw + " / (120 × " + Put(input.m_dHf) + "), 0.5)",
+                     PlainNumber(alphaF)});
+  }
   steps.push_back({{"焊缝截面模量", "Section modulus of the weld"},
                    "",
                    "W",
@@ -118,16 +137,24 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletCheck& check) {
                    PlainNumber(r.m_dW),
                    "mm³"});
   static constexpr CTextLiteral kAcross = {"垂直于焊缝的应力", "Stress across the weld"};
-  StressSteps(input, r, kAcross, "7.1.3", "σ_f", "h_e l_w", he + " × " + lw, r.m_dHe * input.m_dLw,
-              steps);
+  if (input.m_nWelds > 1) {
+    steps.push_back({{"每条焊缝分担", "Share of one weld"},
+                     "",
+                     "1 / n",
+                     "",
+                     "",
+                     "1 / " + std::to_string(input.m_nWelds)});
+  }
+  StressSteps(OneWeld(input), r, kAcross, clauses.m_szRight, "σ_f", "h_e l_w", he + " × " + lw,
+              r.m_dHe * input.m_dLw, steps);
   if (!TakesV(input.m_nLoadCase)) return steps;
   const bool bLong = judged.m_dShearLength < input.m_dLw;
   steps.push_back({{"沿焊缝的剪应力", "Shear stress along the weld"},
-                   bLong ? "7.1.3, 8.2.7" : "7.1.3",
+                   bLong ? "7.1.3, 8.2.7" : clauses.m_szRight,
                    "τ_f",
                    bLong ? "|V| / (h_e · 60 h_f)" : "|V| / (h_e l_w)",
-                   Put(std::fabs(input.m_dV)) + " × 1000 / (" + he + " × " +
-                       PlainNumber(judged.m_dShearLength) + ")",
+                   Put(std::fabs(input.m_dV / input.m_nWelds)) + " × 1000 / (" + he + " × " +
+                       SubstitutedNumber(judged.m_dShearLength) + ")",
                    PlainNumber(judged.m_dTau),
                    "N/mm²"});
   const bool bTension = judged.m_dTension / judged.m_dBetaTension >=
@@ -135,10 +162,10 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletCheck& check) {
   const double across = bTension ? judged.m_dTension : judged.m_dCompression;
   const double beta = bTension ? judged.m_dBetaTension : judged.m_dBetaCompression;
   steps.push_back({{"综合应力", "Combined stress"},
-                   "7.1.3",
+                   clauses.m_szRight,
                    "σ_{fs}",
                    "√((σ_f / β_f)^2 + τ_f^2)",
-                   "√((" + PlainNumber(across) + " / " + PlainNumber(beta) + ")^2 + " +
+                   "√((" + SubstitutedNumber(across) + " / " + SubstitutedNumber(beta) + ")^2 + " +
                        Put(judged.m_dTau) + "^2)",
                    PlainNumber(judged.m_dCombined),
                    "N/mm²"});
@@ -164,24 +191,27 @@ CVerdicts WeldVerdicts(const CHECK& check, const char* clause, const std::string
   return verdicts;
 }
 
-CVerdicts FilletVerdicts(const CFilletCheck& check) {
+template <class CHECK>
+CVerdicts FilletVerdicts(const CHECK& check, const CFilletClauses& clauses, double alphaF = 1) {
   const CWeldFigures& judged = check.Figures();
   const double beta = judged.TensionGoverns() ? judged.m_dBetaTension : judged.m_dBetaCompression;
-  const std::string strength =
-      judged.m_bShear && judged.m_dTauLimit < check.Results().m_dFfw ? "0.9 f_f^w" : "f_f^w";
-  return WeldVerdicts(check, "7.1.3", "|σ_f| ≤ β_f f_f^w,  β_f = " + PlainNumber(beta),
-                      "|τ_f| ≤ " + strength, "√((σ_f / β_f)^2 + τ_f^2) ≤ " + strength);
+  const bool bReduced =
+      judged.m_bShear && judged.m_dTauLimit < 0.95 * alphaF * check.Results().m_dFfw;
+  const std::string ffw = alphaF < 1 ? "α_f f_f^w" : "f_f^w";
+  const std::string strength = bReduced ? "0.9 " + ffw : ffw;
+  return WeldVerdicts(check, clauses.m_szRight,
+                      "|σ_f| ≤ β_f " + ffw + ",  β_f = " + PlainNumber(beta), "|τ_f| ≤ " + strength,
+                      "√((σ_f / β_f)^2 + τ_f^2) ≤ " + strength);
 }
 
-CSteps ButtSteps(const CButtCase& input, const CButtCheck& check) {
-  const CButtResults& r = check.Results();
-  const CWeldFigures& judged = check.Figures();
+CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigures& judged,
+                 const char* clause, const char* table) {
   const std::string t = Put(input.m_dThick);
   const std::string lw = Put(input.m_dLw);
   const std::string area = t + " × " + lw;
   CSteps steps;
   const auto strength = [&](CTextLiteral name, const char* symbol, double value) {
-    steps.push_back({name, "T 3.4.1-3", symbol, "", "", PlainNumber(value), "N/mm²"});
+    steps.push_back({name, table, symbol, "", "", PlainNumber(value), "N/mm²"});
   };
   strength({"焊缝抗拉强度", "Tensile strength of the weld"}, "f_t^w", r.m_dFtw);
   strength({"焊缝抗压强度", "Compressive strength of the weld"}, "f_c^w", r.m_dFcw);
@@ -196,17 +226,17 @@ CSteps ButtSteps(const CButtCase& input, const CButtCheck& check) {
                      "mm³"});
   }
   static constexpr CTextLiteral kNormal = {"正应力", "Normal stress"};
-  StressSteps(input, r, kNormal, "7.1.2", "σ", "t l_w", area, input.m_dThick * input.m_dLw, steps);
+  StressSteps(input, r, kNormal, clause, "σ", "t l_w", area, input.m_dThick * input.m_dLw, steps);
   if (!TakesV(input.m_nLoadCase)) return steps;
   steps.push_back({{"剪应力", "Shear stress"},
-                   "7.1.2",
+                   clause,
                    "τ",
                    "1.5 |V| / (t l_w)",
                    "1.5 × " + Put(std::fabs(input.m_dV)) + " × 1000 / (" + area + ")",
                    PlainNumber(judged.m_dTau),
                    "N/mm²"});
   steps.push_back({{"折算应力", "Reduced stress"},
-                   "7.1.2",
+                   clause,
                    "σ_{zs}",
                    "√(σ^2 + 3 τ^2)",
                    "√(" + Put(std::max(judged.m_dTension, judged.m_dCompression)) + "^2 + 3 × " +
@@ -216,10 +246,11 @@ CSteps ButtSteps(const CButtCase& input, const CButtCheck& check) {
   return steps;
 }
 
-CVerdicts ButtVerdicts(const CButtCheck& check) {
-  return WeldVerdicts(check, "7.1.2",
-                      check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w", "|τ| ≤ f_v^w",
-                      "√(σ^2 + 3 τ^2) < 1.1 f_t^w");
+// `relation` of the reduced stress: the record of 2003 fails one that is equal to its limit.
+template <class CHECK>
+CVerdicts ButtVerdicts(const CHECK& check, const char* clause, const std::string& relation) {
+  return WeldVerdicts(check, clause, check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w",
+                      "|τ| ≤ f_v^w", "√(σ^2 + 3 τ^2) " + relation + " 1.1 f_t^w");
 }
 
 template <class CHECK>
@@ -246,20 +277,45 @@ constexpr CTextLiteral kCaption = {
     "Left: section across the weld. Right: the weld's area with the loads that count (N across "
     "the weld, V along it)."};
 
+// Keys that the throat of the case does not use.
+bool IsUnused(const CFilletCase& input, const std::string& key) {
+  if (key == "he") return input.m_dHe == 0;
+  if (key == "hf") return input.m_dHf == 0;
+  if (key == "s" || key == "groove") return input.m_dS == 0;
+  if (key == "welds") return input.m_nWelds == 1;
+  return key == "angle" && input.m_dHe != 0;
+}
+
 }  // namespace
 
 std::string CaseReport(const CFilletCase& input, const CFilletCheck& check, CLanguage language) {
   CReportBody body(language);
   Head(body, {"角焊缝验算", "Fillet weld"}, input.m_strId, check);
-  const auto skip = [&](const std::string& key) {
-    if (key == "he") return input.m_dHe == 0;
-    if (key == "hf") return input.m_dHf == 0;
-    if (key == "s" || key == "groove") return input.m_dS == 0;
-    return key == "angle" && input.m_dHe != 0;
-  };
-  WeldInputs(body, input, CFilletCheck::InputKeys(), skip);
+  WeldInputs(body, input, CFilletCheck::InputKeys(),
+             [&](const std::string& key) { return IsUnused(input, key); });
   body.Figure(FilletDrawing(input, check.Results().m_dHe), body.Text(kCaption));
-  return Tail(body, FilletSteps(input, check), FilletVerdicts(check));
+  return Tail(body,
+              FilletSteps(input, check.Results(), check.Figures(), kFilletClauses2003, "T 3.4.1-3"),
+              FilletVerdicts(check, kFilletClauses2003));
+}
+
+std::string CaseReport(const CFilletCase2017& input, const CFilletCheck2017& check,
+                       CLanguage language) {
+  CReportBody body(language);
+  Head(body, {"角焊缝验算", "Fillet weld"}, input.m_strId, check);
+  WeldInputs(body, input, CFilletCheck2017::InputKeys(), [&](const std::string& key) {
+    if (key == "electrode") return input.m_nElectrode < 0;
+    if (key == "joint") return input.m_nJoint < 0;
+    if (key == "t1" || key == "t2") return input.m_dT1 == 0;
+    return IsUnused(input, key);
+  });
+  const CFilletResults2017& r = check.Results();
+  body.Figure(FilletDrawing(input, r.m_dHe), body.Text(kCaption));
+  CVerdicts verdicts = FilletVerdicts(check, kFilletClauses2017, r.m_dAlphaF);
+  AddDetailVerdicts(check.Details(), std::span(check.Parts()).subspan(verdicts.size()), verdicts);
+  return Tail(body,
+              FilletSteps(input, r, check.Figures(), kFilletClauses2017, "T 4.4.5", r.m_dAlphaF),
+              verdicts);
 }
 
 std::string CaseReport(const CButtCase& input, const CButtCheck& check, CLanguage language) {
@@ -267,7 +323,18 @@ std::string CaseReport(const CButtCase& input, const CButtCheck& check, CLanguag
   Head(body, {"对接焊缝验算", "Butt weld"}, input.m_strId, check);
   WeldInputs(body, input, CButtCheck::InputKeys(), [](const std::string&) { return false; });
   body.Figure(ButtDrawing(input), body.Text(kCaption));
-  return Tail(body, ButtSteps(input, check), ButtVerdicts(check));
+  return Tail(body, ButtSteps(input, check.Results(), check.Figures(), "7.1.2", "T 3.4.1-3"),
+              ButtVerdicts(check, "7.1.2", "<"));
+}
+
+std::string CaseReport(const CButtCase2017& input, const CButtCheck2017& check,
+                       CLanguage language) {
+  CReportBody body(language);
+  Head(body, {"对接焊缝验算", "Butt weld"}, input.m_strId, check);
+  WeldInputs(body, input, CButtCheck2017::InputKeys(), [](const std::string&) { return false; });
+  body.Figure(ButtDrawing(input), body.Text(kCaption));
+  return Tail(body, ButtSteps(input, check.Results(), check.Figures(), "11.2.1", "T 4.4.5"),
+              ButtVerdicts(check, "11.2.1", "≤"));
 }
 
 }  // namespace orv3

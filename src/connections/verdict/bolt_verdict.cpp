@@ -5,7 +5,6 @@
 
 #include "connections/cases/bolt_case.h"
 #include "connections/check_math.h"
-#include "connections/verdict/least_cut.h"
 
 namespace orv3 {
 namespace {
@@ -74,101 +73,18 @@ void Interaction(const NormalBoltData& record, CBoltFigures& figures) {
   figures.m_dBearing = record.m_dBeta * record.m_dNcb / (bReduced ? 1.2 : 1);
 }
 
-// The way of a cut: the gaps between the lines of holes that it meets, and where their holes are.
-struct CCutWay {
-  double m_dShear = 0;  // kN
-  double m_dEdges = 0;  // both edge distances, mm
-  std::vector<double> m_arrGap = {};
-  double m_dAcross = 0;               // from the even lines to the odd ones; 0 in a grid
-  std::vector<CHole> m_arrHole = {};  // of each line
-};
-
-int Smallest(const CArray<double, double>& spacings) {
-  return static_cast<int>(std::min_element(spacings.begin(), spacings.end()) - spacings.begin());
-}
-
-double Before(const CArray<double, double>& spacings, int index) {
-  double sum = 0;
-  for (int i = 0; i < index; ++i) sum += spacings[i];
-  return sum;
-}
-
-// Against Vx the cut runs along y: in a grid through the last column, in a staggered group through
-// the two columns that stand closest.
-CCutWay WayX(const NormalBoltData& record) {
-  CCutWay way{.m_dShear = record.m_dVx, .m_dEdges = 2 * record.m_dEy};
-  const bool bStaggered = record.m_nLayout == 1;
-  const int column = bStaggered ? Smallest(record.m_EcArr) : 0;
-  double even = Before(record.m_EcArr, bStaggered ? column : record.m_nCols - 1);
-  double odd = bStaggered ? even + record.m_EcArr[column] : even;
-  if (column % 2 != 0) std::swap(even, odd);
-  way.m_dAcross = std::fabs(odd - even);
-  double y = 0;
-  way.m_arrHole.push_back({even, y});
-  for (const double space : record.m_ErArr) {
-    if (bStaggered) {
-      way.m_arrGap.insert(way.m_arrGap.end(), {space / 2, space / 2});
-      way.m_arrHole.push_back({odd, y + space / 2});
-    } else {
-      way.m_arrGap.push_back(space);
-    }
-    y += space;
-    way.m_arrHole.push_back({even, y});
-  }
-  return way;
-}
-
-// Against Vy the cut runs along x: through the first row, in a staggered group of the two rows that
-// stand closest.
-CCutWay WayY(const NormalBoltData& record) {
-  CCutWay way{.m_dShear = record.m_dVy, .m_dEdges = 2 * record.m_dEx};
-  const bool bStaggered = record.m_nLayout == 1;
-  const int row = bStaggered ? Smallest(record.m_ErArr) : 0;
-  if (bStaggered) way.m_dAcross = record.m_ErArr[row] / 2;
-  const double y = Before(record.m_ErArr, row);
-  double x = 0;
-  for (int i = 0; i < record.m_nCols; ++i) {
-    if (i > 0) {
-      way.m_arrGap.push_back(record.m_EcArr[i - 1]);
-      x += record.m_EcArr[i - 1];
-    }
-    way.m_arrHole.push_back({x, i % 2 == 0 ? y : y + way.m_dAcross});
-  }
-  return way;
-}
-
-// The worst of all cuts. Holes apart from one another and from the edges leave something of each.
-// With friction-type bolts half of what the holes in the cut carry has been passed on in front of
-// them (5.1.1-2): the stress is (n - 0.5 n1) / (l - n1 d0), a quotient whose greatest value is that
-// of the least l - n1 (d0 - 0.5 / q) for q, the greatest value itself.
-CPlateSection WorstSection(const NormalBoltData& record, const CCutWay& way) {
-  CPlateSection section;
-  if (IsZero(way.m_dShear)) return section;
-  const bool bFriction = record.m_nBoltType == kFrictionBolt;
-  const double shear = 1000 * std::fabs(way.m_dShear);
-  double deduct = record.m_dD0;
-  for (int round = 0; round < 50; ++round) {
-    const CLeastCut cut = LeastCut(way.m_arrGap, way.m_dAcross, deduct);
-    const double length = way.m_dEdges + cut.m_dLength;
-    const double left = length - cut.Holes() * record.m_dD0;
-    const double share = bFriction ? 1 - 0.5 * cut.Holes() / record.m_nBoltNum : 1;
-    const double sigma = share * shear / (left * record.m_dThick);
-    if (round > 0 && !(sigma > section.m_dSigma * (1 + 1e-12))) break;
-    section.m_dLength = length;
-    section.m_dNet = left * record.m_dThick;
-    section.m_dShare = share;
-    section.m_dSigma = sigma;
-    section.m_arrHole.clear();
-    for (const int line : cut.m_arrLine)
-      section.m_arrHole.push_back(way.m_arrHole[static_cast<std::size_t>(line)]);
-    if (!bFriction) break;
-    deduct = record.m_dD0 - 0.5 * left / (share * record.m_nBoltNum);
-  }
-  double gross = way.m_dEdges;
-  for (const double gap : way.m_arrGap) gross += gap;
-  section.m_dGross = gross * record.m_dThick;
-  if (bFriction) section.m_dSigmaGross = shear / section.m_dGross;
-  return section;
+CPlateHoles HolesOf(const NormalBoltData& record) {
+  const auto spacings = [](const CArray<double, double>& each) {
+    return std::span(each.GetData(), static_cast<std::size_t>(each.GetSize()));
+  };
+  return {.m_bStaggered = record.m_nLayout == 1,
+          .m_nBolts = record.m_nBoltNum,
+          .m_arrCol = spacings(record.m_EcArr),
+          .m_arrRow = spacings(record.m_ErArr),
+          .m_dEx = record.m_dEx,
+          .m_dEy = record.m_dEy,
+          .m_dThick = record.m_dThick,
+          .m_bFriction = record.m_nBoltType == kFrictionBolt};
 }
 
 }  // namespace
@@ -178,8 +94,9 @@ CBoltFigures JudgedFigures(const NormalBoltData& record) {
   Shear(record, figures);
   Tension(record, figures);
   Interaction(record, figures);
-  figures.m_x = WorstSection(record, WayX(record));
-  figures.m_y = WorstSection(record, WayY(record));
+  const CPlateHoles holes = HolesOf(record);
+  figures.m_x = WorstSectionX(holes, record.m_dVx, record.m_dD0);
+  figures.m_y = WorstSectionY(holes, record.m_dVy, record.m_dD0);
   return figures;
 }
 

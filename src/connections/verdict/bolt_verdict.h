@@ -2,9 +2,8 @@
 // the unsafe side, or deducts what the code does not ask, the figures by GB 50017-2003.
 #pragma once
 
-#include <vector>
-
 #include "connections/bolt_group.h"
+#include "connections/verdict/plate_section.h"
 
 namespace orv3 {
 
@@ -13,25 +12,6 @@ enum class CTurn {
   FirstRow,       // N / n + M l / sum l^2 with l from the first row, as in the record
   Centroid,       // N / n + M l / sum l^2 with l from the centroid
   FirstRowWithN,  // (M + N yc) l / sum l^2 with l from the first row, which N lifts off as well
-};
-
-// A hole in the plate, mm from the first bolt.
-struct CHole {
-  double m_x;
-  double m_y;
-};
-
-// The section of the plate that resists one of the shears.
-struct CPlateSection {
-  double m_dGross = 0;           // mm2
-  double m_dLength = 0;          // of the cut from edge to edge, mm
-  double m_dNet = 0;             // mm2
-  double m_dShare = 1;           // of the shear in the net section: 1 - 0.5 n1 / n, friction type
-  double m_dSigma = 0;           // in the net section, N/mm2
-  double m_dSigmaGross = 0;      // friction type, N/mm2
-  std::vector<CHole> m_arrHole;  // along the cut; empty without shear
-  double Worst() const noexcept { return m_dSigma > m_dSigmaGross ? m_dSigma : m_dSigmaGross; }
-  int Holes() const noexcept { return static_cast<int>(m_arrHole.size()); }
 };
 
 // Forces in kN; all of them at least 0.

@@ -9,11 +9,12 @@
 namespace orv3 {
 namespace {
 
-// Both edges of a weld of `area` mm2 and `modulus` mm3.
+// Both edges of a weld of `area` mm2 and `modulus` mm3, one of `welds` that share the loads.
 template <class CASE>
-CWeldFigures Edges(const CASE& input, double area, double modulus) {
-  const double direct = TakesN(input.m_nLoadCase) ? 1000 * input.m_dN / area : 0;
-  const double bending = TakesM(input.m_nLoadCase) ? 1000 * std::fabs(input.m_dM) / modulus : 0;
+CWeldFigures Edges(const CASE& input, double area, double modulus, int welds = 1) {
+  const double direct = TakesN(input.m_nLoadCase) ? 1000 * (input.m_dN / welds) / area : 0;
+  const double bending =
+      TakesM(input.m_nLoadCase) ? 1000 * std::fabs(input.m_dM / welds) / modulus : 0;
   CWeldFigures figures;
   figures.m_dTension = std::max(0.0, direct + bending);
   figures.m_dCompression = std::max(0.0, bending - direct);
@@ -34,22 +35,29 @@ void Beta(const CFilletCase& input, CWeldFigures& figures) {
 
 }  // namespace
 
-CWeldFigures JudgedFigures(const CFilletCase& input, const CFilletResults& results) {
-  CWeldFigures figures = Edges(input, results.m_dHe * input.m_dLw, results.m_dW);
+CWeldFigures FilletFigures(const CFilletCase& input, const CFilletStrength& strength) {
+  CWeldFigures figures = Edges(input, strength.m_dHe * input.m_dLw, strength.m_dW, input.m_nWelds);
   Beta(input, figures);
-  figures.m_dTensionLimit = figures.m_dBetaTension * results.m_dFfw;
-  figures.m_dCompressionLimit = figures.m_dBetaCompression * results.m_dFfw;
+  figures.m_dTensionLimit = figures.m_dBetaTension * strength.m_dFfw;
+  figures.m_dCompressionLimit = figures.m_dBetaCompression * strength.m_dFfw;
   if (!figures.m_bShear) return figures;
-  // A side fillet weld counts to 60 hf (8.2.7). Where the line of fusion of a groove weld is about
-  // as short as its depth (bevel, K and J), the shear strength is 0.9 of the table's (7.1.5).
-  if (input.m_dHf != 0) figures.m_dShearLength = std::min(input.m_dLw, 60 * input.m_dHf);
+  // Where the line of fusion of a groove weld is about as short as its depth (bevel, K and J), the
+  // shear strength is 0.9 of the table's (7.1.5; 2017: 11.2.4).
+  figures.m_dShearLength = strength.m_dShearLength;
   const bool bShortFusion = input.m_dS != 0 && IsShortFusion(input.m_nGroove);
-  figures.m_dTauLimit = figures.m_dCombinedLimit = (bShortFusion ? 0.9 : 1) * results.m_dFfw;
-  figures.m_dTau = 1000 * std::fabs(input.m_dV) / (results.m_dHe * figures.m_dShearLength);
+  figures.m_dTauLimit = figures.m_dCombinedLimit = (bShortFusion ? 0.9 : 1) * strength.m_dFfw;
+  figures.m_dTau =
+      1000 * std::fabs(input.m_dV / input.m_nWelds) / (strength.m_dHe * figures.m_dShearLength);
   const double across = std::max(figures.m_dTension / figures.m_dBetaTension,
                                  figures.m_dCompression / figures.m_dBetaCompression);
   figures.m_dCombined = std::hypot(across, figures.m_dTau);
   return figures;
+}
+
+CWeldFigures JudgedFigures(const CFilletCase& input, const CFilletResults& results) {
+  // A side fillet weld counts to 60 hf (8.2.7).
+  const double length = input.m_dHf != 0 ? std::min(input.m_dLw, 60 * input.m_dHf) : input.m_dLw;
+  return FilletFigures(input, {results.m_dHe, results.m_dW, results.m_dFfw, length});
 }
 
 // Tension is held against ftw and compression against fcw, each at its own edge.

@@ -32,6 +32,15 @@ struct CWeldFigures {
   }
 };
 
+// What a fillet weld, or one of equal welds, is judged by.
+struct CFilletStrength {
+  double m_dHe;           // throat, mm
+  double m_dW;            // section modulus, mm3
+  double m_dFfw;          // N/mm2
+  double m_dShearLength;  // weld length that carries V, mm
+};
+CWeldFigures FilletFigures(const CFilletCase& input, const CFilletStrength& strength);
+
 CWeldFigures JudgedFigures(const CFilletCase& input, const CFilletResults& results);
 CWeldFigures JudgedFigures(const CButtCase& input, const CButtResults& results);
 

@@ -1,0 +1,49 @@
+#include "case_reader.h"
+
+namespace orv3::cli {
+namespace {
+
+std::string Name(CCodeEdition edition) { return EditionFacts(edition).m_szName; }
+
+}  // namespace
+
+std::string CReportSheet::*SheetField(std::string_view name) noexcept {
+  for (const CSheetKey& key : kSheetKeys) {
+    if (name == key.m_szKey) return key.m_pField;
+  }
+  return nullptr;
+}
+
+CReportSheet SheetOf(const CCaseSchema& schema, const CCaseValues& values) {
+  CReportSheet sheet;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const auto* text = values[i] ? std::get_if<std::string_view>(&*values[i]) : nullptr;
+    const auto field = SheetField(schema.Rules()[i].m_strKey);
+    if (field != nullptr && text != nullptr) sheet.*field = *text;
+  }
+  return sheet;
+}
+
+CCaseFault NotInEdition(const std::string& key, CCodeEdition edition) {
+  const std::string name = Name(edition);
+  const std::string other =
+      EditionFacts(edition == CCodeEdition::Gb2003 ? CCodeEdition::Gb2017 : CCodeEdition::Gb2003)
+          .m_szYear;
+  return {key,
+          {"按 " + name + " 不用", "has no place by " + name},
+          {"请删去，或用 " + other + " 版", "leave it out, or take the " + other + " edition"}};
+}
+
+CCaseFault NoChoice(const std::string& key, CCodeEdition edition, const CKeyValue& value,
+                    std::span<const char* const> choices) {
+  const std::string name = Name(edition);
+  const std::string is = ValueText(value);
+  std::string right;
+  for (const char* choice : choices)
+    right += std::string(right.empty() ? "\"" : ", \"") + choice + "\"";
+  return {key,
+          {name + " 无 " + is, name + " has no " + is},
+          {"请给出下列之一：" + right, "give one of " + right}};
+}
+
+}  // namespace orv3::cli

@@ -1,0 +1,78 @@
+#include "connections/gb2017/notes.h"
+
+#include <cmath>
+#include <string>
+
+#include "connections/gb2017/fillet_size.h"
+#include "framework/plain_number.h"
+
+namespace orv3::gb2017 {
+namespace {
+
+// A formula as plain text: "min(8 d0, 12 t)".
+std::string Plain(const char* formula) {
+  std::string text;
+  for (const char* at = formula; *at != 0; ++at) {
+    if (*at != '\\' && *at != '_' && *at != '{' && *at != '}') text += *at;
+  }
+  return text;
+}
+
+}  // namespace
+
+void NoteOfDetails(std::span<const CDetail> details, std::vector<CCaseWarning>& notes) {
+  for (const CDetail& detail : details) {
+    if (detail.Utilisation() <= 1 + 1e-9) continue;
+    const CComparedText text = detail.m_bMost ? Compared(detail.m_dSize, detail.m_dLimit)
+                                              : Compared(detail.m_dLimit, detail.m_dSize);
+    const std::string size = detail.m_bMost ? text.m_strEffect : text.m_strLimit;
+    const std::string limit = detail.m_bMost ? text.m_strLimit : text.m_strEffect;
+    const std::string is = Plain(detail.m_szSize) + " = " + size + " mm";
+    const std::string rule = Plain(detail.m_szLimit) + " = " + limit + " mm";
+    const bool bTable = detail.m_szClause[0] == 'T';
+    const std::string clause = bTable ? detail.m_szClause + 2 : detail.m_szClause;
+    notes.push_back({detail.m_szKey,
+                     {std::string(detail.m_name.m_szChinese) + "：" + is +
+                          (detail.m_bMost ? "，大于 " : "，小于 ") + rule +
+                          (bTable ? "（表 " + clause + "）。" : "（" + clause + " 条）。"),
+                      std::string(detail.m_name.m_szEnglish) + ": " + is +
+                          (detail.m_bMost ? " is above " : " is below ") + rule +
+                          (bTable ? " (Table " : " (") + clause + ")."}});
+  }
+}
+
+void NoteOfUnknownParts(const CFilletCase2017& input, std::vector<CCaseWarning>& notes) {
+  if (input.m_dHf == 0 || input.m_dT1 != 0) return;
+  const double thickest = ThickestPart(input.m_dHf);
+  CText holds;
+  if (thickest > 0 && std::isfinite(thickest)) {
+    const std::string most = PlainNumber(thickest) + " mm";
+    holds = {"两焊件均不厚于 " + most + "（表 11.3.5）",
+             "parts up to " + most + " thick (Table 11.3.5)"};
+  }
+  if (input.m_nJoint == 0) {
+    const std::string least = PlainNumber(input.m_dHf <= 6 ? input.m_dHf : input.m_dHf + 1) + " mm";
+    holds.m_strChinese +=
+        (holds.m_strChinese.empty() ? "" : "，") + ("所沿棱边不薄于 " + least) + "（11.3.6 条）";
+    holds.m_strEnglish += (holds.m_strEnglish.empty() ? "" : " and ") +
+                          ("an edge of at least " + least) + " (11.3.6)";
+  }
+  if (holds.m_strEnglish.empty()) return;
+  const std::string hf = "hf = " + PlainNumber(input.m_dHf) + " mm";
+  notes.push_back(
+      {"hf",
+       {hf + " 适用于" + holds.m_strChinese + "；给出 t1 与 t2 即可验算。",
+        hf + " is right for " + holds.m_strEnglish + "; give t1 and t2 to have it checked."}});
+}
+
+void NoteOfThickParts(const char* key, double hf, std::vector<CCaseWarning>& notes) {
+  const double thickest = ThickestPart(hf);
+  if (thickest == 0 || !std::isfinite(thickest)) return;
+  const std::string is = "hf = " + PlainNumber(hf) + " mm";
+  const std::string most = PlainNumber(thickest) + " mm";
+  notes.push_back({key,
+                   {is + " 适用于厚度不大于 " + most + " 的焊件（表 11.3.5）。",
+                    is + " is right for parts up to " + most + " thick (Table 11.3.5)."}});
+}
+
+}  // namespace orv3::gb2017
