@@ -11,6 +11,24 @@
 namespace orv3 {
 namespace {
 
+// Where a function, which gives its value and slope, passes from below 0 at `low` to above 0 at
+// `high`: Newton's steps, halving where they leave the bounds or close in slowly.
+template <class Function>
+double Root(double low, double high, Function f) {
+  double at = (low + high) / 2, last = std::fabs(high - low);
+  for (int i = 0; i < 200; ++i) {
+    const auto [value, slope] = f(at);
+    (value <= 0 ? low : high) = at;
+    const double newton = at - value / slope;
+    const bool inside = (newton - low) * (newton - high) < 0;
+    const double next = inside && std::fabs(newton - at) < last / 2 ? newton : (low + high) / 2;
+    last = std::fabs(next - at);
+    if (value == 0 || next == at || last < 1e-17) break;
+    at = next;
+  }
+  return at;
+}
+
 // A piece of the boundary that only rises or only falls.
 struct CPiece {
   CEdge m_edge;
@@ -19,9 +37,10 @@ struct CPiece {
   double m_one = 0, m_y = 0, m_yy = 0;  // integrals of 1, y, y^2 over dx
 };
 
-// Area, and its first moment downwards, of what lies below a height.
+// Area, its growth with the height, and its first moment downwards, of what lies below a height.
 struct CBelow {
   double area = 0;
+  double width = 0;
   double moment = 0;
 };
 
@@ -43,10 +62,12 @@ class CPieces {
       if (piece.m_bottom >= c) continue;
       if (piece.m_top <= c) {
         sum.area += c * piece.m_one - piece.m_y;
+        sum.width += piece.m_one;
         sum.moment += (piece.m_yy - 2 * c * piece.m_y + c * c * piece.m_one) / 2;
         continue;
       }
       const auto [a, b] = PartBelow(piece, c);
+      sum.width += piece.m_edge.At(b).x - piece.m_edge.At(a).x;
       sum.area +=
           Integrate(piece.m_edge, a, b, [&](CPoint p, CPoint d) { return (c - p.y) * d.x; });
       sum.moment += Integrate(piece.m_edge, a, b,
@@ -95,10 +116,9 @@ class CPieces {
       const double y = piece.m_edge.At(below).y;
       below += (above - below) * (c - y) / (piece.m_edge.At(above).y - y);
     } else {
-      for (int i = 0; i < 60 && below != above; ++i) {
-        const double middle = (below + above) / 2;
-        (piece.m_edge.At(middle).y <= c ? below : above) = middle;
-      }
+      below = Root(below, above, [&](double t) {
+        return std::pair{piece.m_edge.At(t).y - c, piece.m_edge.Derivative(t).y};
+      });
     }
     return low == piece.m_from ? std::pair{low, below} : std::pair{below, low};
   }
@@ -109,13 +129,10 @@ class CPieces {
 
 // Where the area below passes a value.
 double HeightOf(const CPieces& pieces, double area) {
-  double low = pieces.Bottom(), high = pieces.Top();
-  for (int i = 0; i < 100; ++i) {
-    const double middle = (low + high) / 2;
-    if (middle <= low || middle >= high) break;
-    (pieces.Below(middle).area < area ? low : high) = middle;
-  }
-  return (low + high) / 2;
+  return Root(pieces.Bottom(), pieces.Top(), [&](double c) {
+    const CBelow below = pieces.Below(c);
+    return std::pair{below.area - area, below.width};
+  });
 }
 
 }  // namespace
@@ -123,9 +140,13 @@ double HeightOf(const CPieces& pieces, double area) {
 CPlasticAxis PlasticAxisX(std::span<const CPath> loops) {
   const CPieces pieces(loops);
   const CBelow all = pieces.Below(pieces.Top());
-  const double rounding = 1e-13 * all.area;
-  const double at =
-      (HeightOf(pieces, all.area / 2 - rounding) + HeightOf(pieces, all.area / 2 + rounding)) / 2;
+  double at = HeightOf(pieces, all.area / 2);
+  // Within a gap every line halves the area.
+  if (pieces.Below(at).width * (pieces.Top() - pieces.Bottom()) < 1e-6 * all.area) {
+    const double rounding = 1e-13 * all.area;
+    const double low = HeightOf(pieces, all.area / 2 - rounding);
+    at = (low + HeightOf(pieces, all.area / 2 + rounding)) / 2;
+  }
   // The moment downwards about the line, and upwards: that of all, turned, and the part below.
   const CBelow below = pieces.Below(at);
   const double upwards = all.area * (pieces.Top() - at) - all.moment;

@@ -201,13 +201,15 @@ void CElimination::Eliminate(CFront front, CBorder& left) {
 MatrixXd CElimination::Solution() const {
   if (!m_positive) return {};
   MatrixXd solution = MatrixXd::Zero(static_cast<Eigen::Index>(m_sharing.size()), m_forces);
+  MatrixXd border;
   for (auto e = m_eliminated.rbegin(); e != m_eliminated.rend(); ++e) {
     const Eigen::Index inner = e->m_factor.cols();
     MatrixXd own = e->m_factor.bottomRows(m_forces).transpose();
-    for (std::size_t i = 0; i < e->m_outer.size(); ++i) {
-      own -= e->m_factor.row(inner + static_cast<Eigen::Index>(i)).transpose() *
-             solution.row(e->m_outer[i]);
-    }
+    const auto outer = static_cast<Eigen::Index>(e->m_outer.size());
+    border.resize(outer, m_forces);
+    for (Eigen::Index i = 0; i < outer; ++i)
+      border.row(i) = solution.row(e->m_outer[static_cast<std::size_t>(i)]);
+    own -= e->m_factor.middleRows(inner, outer).transpose().lazyProduct(border);
     for (Eigen::Index k = inner - 1; k >= 0; --k) {
       own.row(k) /= e->m_factor(k, k);
       own.topRows(k) -= e->m_factor.row(k).head(k).transpose() * own.row(k);
