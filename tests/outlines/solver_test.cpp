@@ -1,6 +1,7 @@
 // Torsion, warping and shear: closed solutions, another method, and what must not change.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <numbers>
