@@ -5,6 +5,7 @@
 
 #include "error.h"
 #include "framework/excerpt.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
@@ -23,13 +24,13 @@ void RefuseAs(const CCodeRefusal& refusal) {
       return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
     });
   }
-  Refuse(name + ": " + refusal.m_what.m_strEnglish + "; " + refusal.m_right.m_strEnglish);
+  Refuse(Say("{1}：{2}；{3}", "{1}: {2}; {3}", {name, Say(refusal.m_what), Say(refusal.m_right)}));
 }
 
 CCodeFigure FigureOf(std::variant<double, std::string> value, const CCodeSource& source,
                      const char* unit) {
-  CCodeFigure figure{std::move(value), unit, SourceText(source).m_strEnglish};
-  if (source.m_pNote != nullptr) figure.m_strNote = source.m_pNote->m_szEnglish;
+  CCodeFigure figure{std::move(value), unit, Say(SourceText(source))};
+  if (source.m_pNote != nullptr) figure.m_strNote = source.m_pNote->In(MessageLanguage());
   if (source.m_nEdition == CCodeEdition::Gb2017) figure.m_status = source.m_nStatus;
   return figure;
 }

@@ -1,6 +1,7 @@
 #include "edition_option.h"
 
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "platform/places.h"
 
@@ -31,9 +32,10 @@ CCodeEdition EditionAsked(const std::string& year) {
   if (asked.empty()) return kDefaultEdition;
   const CCodeAnswer<CCodeEdition> edition = EditionByYear(asked);
   if (edition) return *edition;
-  const char* place = year.empty() ? "the variable ORV3CAL_CODE: " : "--code: ";
   const CCodeRefusal& refusal = edition.Refusal();
-  Refuse(place + refusal.m_what.m_strEnglish + "; " + refusal.m_right.m_strEnglish);
+  const std::string place =
+      year.empty() ? Say("环境变量 ORV3CAL_CODE", "the variable ORV3CAL_CODE") : "--code";
+  Refuse(Say("{1}：{2}；{3}", "{1}: {2}; {3}", {place, Say(refusal.m_what), Say(refusal.m_right)}));
 }
 
 }  // namespace orv3::cli

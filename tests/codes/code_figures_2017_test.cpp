@@ -159,7 +159,6 @@ TEST(CodeFigures2017, SlipFactors) {
       EXPECT_EQ(mu ? *mu : 0, Cell(row, name)) << name << surface;
     }
   }
-  EXPECT_FALSE(SlipFactor(k2017, 0, CSteelGrade::Q345GJ));
 }
 
 // Resistance factors fy/f by grade, f rounded to 5 N/mm2; Q345GJ keeps the factors of its own

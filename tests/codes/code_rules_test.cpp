@@ -24,12 +24,30 @@ TEST(Codes, BucklingClassesOfBothEditions) {
     const char* x2017;
     const char* y2017;
   } cases[] = {
-      {RolledTube, 10, "a", "a", "a", "a"},      {RolledINarrow, 10, "a", "b", "a", "b"},
-      {RolledIWide, 39.9, "b", "b", "a*", "b*"}, {RolledIWide, 40, "b", "c", "b", "c"},
-      {RolledIWide, 79.9, "b", "c", "b", "c"},   {RolledIWide, 80, "c", "d", "c", "d"},
-      {WeldedIFlameCut, 20, "b", "b", "b", "b"}, {WeldedIRolled, 20, "b", "c", "b", "c"},
-      {WeldedIRolled, 40, "c", "d", "c", "d"},   {RolledEqualAngle, 10, "b", "b", "a*", "a*"},
-      {WeldedBox, 20, "b", "b", "b", "b"},       {WeldedBoxThick, 60, "c", "c", "c", "c"},
+      {RolledTube, 10, "a", "a", "a", "a"},
+      {WeldedTube, 10, "b", "b", "b", "b"},
+      {RolledT, 10, "b", "b", "b", "b"},
+      {WeldedTFlameCut, 10, "b", "b", "b", "b"},
+      {WeldedTRolled, 10, "b", "c", "b", "c"},
+      {RolledChannel, 10, "b", "b", "b", "b"},
+      {RolledUnequalAngle, 10, "b", "b", "a*", "a*"},
+      {WeldedBoxThick, 20, "c", "c", "c", "c"},
+      {RolledBox, 10, "b", "b", "b", "b"},
+      {Solid, 10, "b", "b", "b", "b"},
+      {Lattice, 10, "b", "b", "b", "b"},
+      {WeldedIFlameCut, 40, "b", "b", "b", "b"},
+      {WeldedBox, 40, "b", "b", "b", "b"},
+      {RolledINarrow, 10, "a", "b", "a", "b"},
+      {RolledIWide, 39.9, "b", "b", "a*", "b*"},
+      {RolledIWide, 40, "b", "c", "b", "c"},
+      {RolledIWide, 79.9, "b", "c", "b", "c"},
+      {RolledIWide, 80, "c", "d", "c", "d"},
+      {WeldedIFlameCut, 20, "b", "b", "b", "b"},
+      {WeldedIRolled, 20, "b", "c", "b", "c"},
+      {WeldedIRolled, 40, "c", "d", "c", "d"},
+      {RolledEqualAngle, 10, "b", "b", "a*", "a*"},
+      {WeldedBox, 20, "b", "b", "b", "b"},
+      {WeldedBoxThick, 60, "c", "c", "c", "c"},
   };
   for (const auto& c : cases) {
     const auto text = [&](CCodeEdition edition, CSectionAxis axis) {
@@ -82,8 +100,16 @@ TEST(Codes, PlasticFactors) {
   check(k2017, SlenderFlange, 1, 1);
   check(k2003, SlenderFlange, 1, 1.2);  // 4.1.1 takes gamma x alone
   check(k2003, Elastic, 1, 1);
-  EXPECT_EQ(PlasticFactors(k2017, CPlasticShape::TBox)->m_dXTip, 1.2);
-  EXPECT_EQ(PlasticFactors(k2017, CPlasticShape::Tube)->m_dX, 1.15);
+  constexpr double kItems[8][3] = {// gamma x, at a T's tip, gamma y
+                                   {1.05, 1.05, 1.2}, {1.05, 1.05, 1.05}, {1.05, 1.2, 1.2},
+                                   {1.05, 1.2, 1.05}, {1.2, 1.2, 1.2},    {1.15, 1.15, 1.15},
+                                   {1.0, 1.0, 1.05},  {1.0, 1.0, 1.0}};
+  for (int item = 0; item < 8; ++item) {
+    const auto factors = *PlasticFactors(k2017, static_cast<CPlasticShape>(item));
+    EXPECT_EQ(factors.m_dX, kItems[item][0]) << item;
+    EXPECT_EQ(factors.m_dXTip, kItems[item][1]) << item;
+    EXPECT_EQ(factors.m_dY, kItems[item][2]) << item;
+  }
 }
 
 // phi-b of C.0.1 is Mcr / (Wx fy) of a beam under uniform moment, with It = A t1^2 / 3.
@@ -116,6 +142,12 @@ TEST(Codes, EquivalentMomentFactors) {
   using enum CBeamLoad;
   EXPECT_DOUBLE_EQ(*BetaB(k2017, UniformUpper, 0, 1), 0.82);
   EXPECT_DOUBLE_EQ(*BetaB(k2017, PointLower, 0, 1), 1.95);
+  EXPECT_DOUBLE_EQ(*BetaB(k2017, UniformLower, 0, 1), 1.53);
+  EXPECT_EQ(*BetaB(k2017, UniformUpper, 0, 2.1), 0.95);
+  EXPECT_EQ(*BetaB(k2017, UniformLower, 0, 2.1), 1.33);
+  EXPECT_EQ(*BetaB(k2017, PointLower, 0, 2.1), 1.67);
+  EXPECT_EQ(*BetaB(k2017, UniformUpper, 1, 1), 1.15);
+  EXPECT_EQ(*BetaB(k2017, PointUpper, 2, 1), 1.20);
   EXPECT_DOUBLE_EQ(*BetaB(k2017, PointUpper, 0, 2.1), 1.09);
   EXPECT_DOUBLE_EQ(*BetaB(k2017, UniformUpper, 0, 1, 0.85), 0.82 * 0.95);
   EXPECT_DOUBLE_EQ(*BetaB(k2017, PointUpper, 0, 0.5, 0.85), 0.82 * 0.90);
@@ -141,6 +173,12 @@ TEST(Codes, PhiBOfTablesAndApproximations) {
   EXPECT_EQ(*UniformBendingPhiB(k2017, Q235, CUniformBendingShape::I, 40), 1);
   EXPECT_NEAR(*UniformBendingPhiB(k2017, Q345, CUniformBendingShape::TPlates, 80),
               1 - 0.0022 * 80 * std::sqrt(345.0 / 235), 1e-12);
+  EXPECT_NEAR(*UniformBendingPhiB(k2017, Q235, CUniformBendingShape::TAngles, 100), 0.83, 1e-12);
+  EXPECT_NEAR(*UniformBendingPhiB(k2003, Q235, CUniformBendingShape::TFlangeTension, 100), 0.95,
+              1e-12);
+  EXPECT_NEAR(*UniformBendingPhiB(k2017, Q235, CUniformBendingShape::ISingly, 100,
+                                  {1000, 100, 50000, 10, 0.7}),
+              1.07 - 50000 / (1.5 * 1000 * 100) * 1e4 / 14000, 1e-12);
   EXPECT_FALSE(UniformBendingPhiB(k2017, Q345, CUniformBendingShape::I, 100));
   EXPECT_TRUE(IsStableBox(Q235, 600, 100, 9500));
   EXPECT_FALSE(IsStableBox(Q345, 600, 100, 9500));
@@ -173,7 +211,10 @@ TEST(Codes, WidthLimits) {
   EXPECT_NEAR(*BeamColumnWidthLimit(k2017, WebI, Q235, {1, 60}), 70, 1e-9);
   EXPECT_EQ(*BeamColumnWidthLimit(k2003, Flange, Q235, {1, 60, true}), 15);
   EXPECT_NEAR(*BeamFlangeLimit(k2017, Q345, false), 13 * epsilon, 1e-9);
-  EXPECT_EQ(*SlendernessLimit(k2017, CMemberRole::TensionDynamic), 250);
+  constexpr double kLimits[] = {150, 200, 350, 250, 400};
+  for (int role = 0; role < 5; ++role)
+    EXPECT_EQ(*SlendernessLimit(k2017, static_cast<CMemberRole>(role)), kLimits[role]) << role;
+  EXPECT_NEAR(*StiffenerLimit(k2017, Q345), 80 * epsilon, 1e-9);
 }
 
 TEST(Codes, SpacingOfBolts) {
@@ -222,6 +263,7 @@ TEST(Codes, RefusalsNameWhatIsWrongAndWhatWouldBeRight) {
       {text(AnchorStrength(k2003, Q390)), {"Q390 anchor bolts", "Q235, Q345"}},
       {text(SlipFactor(k2017, 2, Q420)), {"\"-\"", "Q420", "0 or 1"}},
       {text(SlipFactor(k2017, 3, Q235)), {"3", "shot-blasted"}},
+      {text(SlipFactor(k2017, 0, Q345GJ)), {"Table 11.4.2-1", "Q345GJ", "Q460"}},
       {text(HoleFactor(k2003, CHoleKind::Oversize)), {"oversize", "standard"}},
       {text(Preload(k2017, CBoltGrade::G88, 18)), {"18", "16, 20"}},
       {text(HoleSize(k2017, CHoleKind::Standard, 18)), {"18", "12, 16"}},
