@@ -195,7 +195,12 @@ void CheckCommandCsv(benchmark::State& state) {
   std::remove("connections_out.csv");
   state.SetItemsProcessed(state.iterations() * kCases);
 }
-BENCHMARK(CheckCommandCsv)->ArgName("code")->Arg(2003)->Arg(2017)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(CheckCommandCsv)
+    ->ArgName("code")
+    ->Arg(2003)
+    ->Arg(2017)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 #endif
 
 }  // namespace
