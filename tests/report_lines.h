@@ -130,11 +130,10 @@ class CArithmetic {
     m_text.remove_prefix(text.size());
     const double value = std::stod(text);
     const double size = std::fabs(value);
-    // Whole numbers below 1000 that stand alone are counts and sizes, exact but for zeros cut off.
-    double half = 0.5 * std::pow(10, -static_cast<double>(found.length(2)));
-    if (found.length(3) != 0) half = 1e-5 * size;
-    if (found.length(3) == 0 && found.length(2) == 0 && size < 1000)
-      half = size >= 100 ? 0.05 : size >= 10 ? 0.005 : 0.0005;
+    // Zeros at the end are left out: "0.5" is 0.5000, "12" is 12.00.
+    const int printed = size >= 1000 ? 0 : size >= 100 ? 1 : size >= 10 ? 2 : size >= 1 ? 3 : 4;
+    const int decimals = std::max(printed, static_cast<int>(found.length(2)));
+    const double half = found.length(3) != 0 ? 1e-5 * size : 0.51 * std::pow(10, -decimals);
     const double turn = Take("°") ? std::numbers::pi / 180 : 1;
     return {turn * (value - half), turn * (value + half)};
   }

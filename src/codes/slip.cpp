@@ -58,6 +58,12 @@ CCodeRefusal NoFigure(int surface, CSteelGrade grade) {
       {"请给出 0 或 1（喷砂、抛丸）", "give 0 or 1 (blasted surfaces)"}};
 }
 
+CCodeRefusal NotInTable(CSteelGrade grade) {
+  const std::string steel = GradeName(grade);
+  return {
+      "grade", {"表 11.4.2-1 没有 " + steel, "Table 11.4.2-1 has no " + steel}, OneOf(kSlipGrades)};
+}
+
 CCodeAnswer<double> Slip2003(int surface, CSteelGrade grade) {
   static constexpr int kColumn[] = {0, 1, 1, 2};  // Q235; Q345 and Q390; Q420
   const int row = LegacyGrade(grade);
@@ -86,7 +92,7 @@ CCodeAnswer<double> SlipFactor(CCodeEdition edition, int surface, CSteelGrade gr
   if (surface < 0 || surface >= SurfaceCount(edition)) return UnknownSurface(edition, surface);
   if (edition == CCodeEdition::Gb2003) return Slip2003(surface, grade);
   const int column = SlipColumn(grade);
-  if (column < 0) return NotInEdition(edition, grade, kSlipGrades);
+  if (column < 0) return NotInTable(grade);
   const std::optional<double> mu = gb2017::kSlip[surface].m_arrMu[column];
   if (!mu) return NoFigure(surface, grade);
   return {*mu, OfGrade(grade, {edition, {"11.4.2 表 11.4.2-1", "11.4.2, Table 11.4.2-1"}})};

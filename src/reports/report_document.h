@@ -6,8 +6,8 @@
 #include <string>
 
 #include "codes/edition.h"
-#include "framework/bilingual_text.h"
 #include "framework/export.h"
+#include "framework/language.h"
 
 namespace orv3 {
 

@@ -274,23 +274,6 @@ TEST_F(Lattice, UpperReachOfTwoLimbs) {
   ExpectRow(row, e);
 }
 
-// Turning a whole column of four by a quarter exchanges its axes and takes each edge to the next.
-TEST_F(Lattice, TurningTheWholeColumn) {
-  CSteelItemGeGou row = RowOf({4, 600, 800, {{&kI20a, 0}, {&kC5, 90}, {&kL75, 180}, {&kC10, 90}}});
-  CSteelItemGeGou turned =
-      RowOf({4, 800, 600, {{&kC10, 180}, {&kI20a, 90}, {&kC5, 180}, {&kL75, 270}}});
-  ASSERT_EQ(row.CalSteelJMGeGou4(), 1);
-  ASSERT_EQ(turned.CalSteelJMGeGou4(), 1);
-  const wchar_t* const pairs[][2] = {{L"Ix(mm^4)", L"Iy(mm^4)"},   {L"Iy(mm^4)", L"Ix(mm^4)"},
-                                     {L"Wx1(mm^3)", L"WyL(mm^3)"}, {L"Wx2(mm^3)", L"WyR(mm^3)"},
-                                     {L"WyL(mm^3)", L"Wx2(mm^3)"}, {L"WyR(mm^3)", L"Wx1(mm^3)"},
-                                     {L"ixo(mm)", L"iyo(mm)"},     {L"xo(mm)", L"yo(mm)"}};
-  for (const auto& pair : pairs) {
-    EXPECT_NEAR(Cell(turned, pair[1]) / Cell(row, pair[0]), 1, 1e-5) << orv3::ToUtf8(pair[0]);
-  }
-  EXPECT_NEAR(Cell(turned, L"xo(mm)") / Cell(row, L"yo(mm)"), -1, 1e-5);
-}
-
 // What fails, and what is written by then.
 TEST_F(Lattice, Failures) {
   const CColumn column = {3, 600, 800, {{&kC10, 0}, {&kC10, 180}, {&kC10, 90}}};

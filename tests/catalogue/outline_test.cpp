@@ -185,18 +185,6 @@ TEST(RowOutline, IsEmptyForSizesThatBoundNoSection) {
   EXPECT_TRUE(RowOutline(CDataItem()).m_arrLoop.empty());
 }
 
-TEST(RowOutline, OfAUserDefinedRowIsItsStyles) {
-  CDataItem row = DefaultRow(L"自定义圆管");  // R = 100, r = 20
-  const orv3::COutlineMoments m = RowOutlineMoments(RowOutline(row).m_arrLoop);
-  const double pi = std::numbers::pi;
-  EXPECT_NEAR(m.m_dArea, pi * (100.0 * 100 - 20 * 20), 1e-8);
-  EXPECT_NEAR(m.m_dIx, pi / 4 * (std::pow(100, 4) - std::pow(20, 4)), 1e-4);
-  EXPECT_NEAR(m.m_dIy, m.m_dIx, 1e-4);
-  EXPECT_NEAR(m.m_centroid.x, 100, 1e-10);
-  row.m_arrCell.RemoveAt(2);
-  EXPECT_TRUE(RowOutline(row).m_arrLoop.empty());
-}
-
 // Arcs of every sweep and sense, far from the origin, against the same loop of many chords.
 TEST(RowOutlineMoments, AreThoseOfAFinePolygon) {
   const orv3::CPath loops[] = {

@@ -1,16 +1,24 @@
 // Every section table in every registry: what is known of a table beside its rows.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <iterator>
+#include <regex>
+#include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "catalogue/outline/outline_symmetry.h"
 #include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_outline.h"
+#include "catalogue/outline/row_spacing.h"
 #include "sections/catalogue_store.h"
 #include "sections/geometry_rows.h"
 #include "sections/section_kind.h"
+#include "sections/sketch/sketch.h"
 #include "sections/table_types.h"
 
 namespace {
@@ -122,6 +130,138 @@ TEST_F(SectionKinds, SymmetryIsThatOfTheOutline) {
     EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row) != 0,
               IsMirrored(outline, CMirrorLine::Vertical))
         << name;
+  }
+}
+
+// --- Sketches ------------------------------------------------------------------------------------
+
+// What tells the forms of sections apart, in a sketch as in an outline.
+struct CForm {
+  explicit CForm(const std::vector<CPath>& loops) : m_nLoops(loops.size()) {
+    const CBox box = PathBounds(loops);
+    COutline outline;
+    outline.m_dWidth = box.Width();
+    outline.m_dHeight = box.Height();
+    double back = 0;
+    for (const CPath& loop : loops) {
+      outline.m_arrLoop.push_back(Moved(loop, -box.left, -box.bottom));
+      const auto& v = loop.m_arrVertex;
+      for (std::size_t i = 0; i < v.size(); ++i) {
+        const CVertex& next = v[(i + 1) % v.size()];
+        if (v[i].bulge != 0) continue;
+        const bool bUpright = std::fabs(next.x - v[i].x) < 1e-9;
+        ++m_nLines;
+        m_nSlanted += !bUpright && std::fabs(next.y - v[i].y) > 1e-9;
+        if (bUpright && std::fabs(v[i].x - box.left) < 1e-9) back += std::fabs(next.y - v[i].y);
+      }
+    }
+    m_bBack = back > 0.75 * box.Height();
+    m_bLevel = IsMirrored(outline, CMirrorLine::Horizontal);
+    m_bUpright = IsMirrored(outline, CMirrorLine::Vertical);
+    m_dAspect = box.Width() / box.Height();
+  }
+  // Of a rolled section whose sizes are those of a row; of plates, which a sketch draws unequal
+  // and an outline with a corner where two of them meet.
+  bool IsRolled(const CForm& row) const {
+    return m_nLoops == row.m_nLoops && m_nLines == row.m_nLines && m_nSlanted == row.m_nSlanted &&
+           m_bLevel == row.m_bLevel && m_bUpright == row.m_bUpright;
+  }
+  bool IsOfPlates(const CForm& row) const {
+    return m_nLoops == row.m_nLoops && std::abs(m_nLines - row.m_nLines) <= 2 &&
+           m_nSlanted == row.m_nSlanted && m_bBack == row.m_bBack;
+  }
+
+  std::size_t m_nLoops;
+  int m_nLines = 0;
+  int m_nSlanted = 0;
+  bool m_bBack = false;  // a straight left side
+  bool m_bLevel, m_bUpright;
+  double m_dAspect;
+};
+
+using CLetters = std::set<std::string>;
+
+CLetters LettersOf(int sketch) {
+  static const std::regex kText(">([^<>]+)</text>");
+  const std::string svg = SketchSvg(sketch);
+  CLetters letters;
+  for (std::sregex_iterator text(svg.begin(), svg.end(), kText), end; text != end; ++text)
+    letters.insert((*text)[1]);
+  return letters;
+}
+
+// The sizes that a row begins with, "h" of "h(mm)": up to its figures or its base point.
+CLetters SizesOf(const CDataItem& row) {
+  CLetters sizes;
+  for (int i = 1; i < row.GetItemLength(); ++i) {
+    const std::string sign = ToUtf8(row.GetCellSign(i));
+    const std::string symbol = sign.substr(0, sign.find('('));
+    if (symbol == "A" || symbol == "x" || symbol == "P1Type") break;
+    sizes.insert(symbol);
+  }
+  return sizes;
+}
+
+// All sizes of the table are lettered and nothing else but axes and their distances; of a pair, the
+// gap and sizes of its part.
+bool HasLettersOf(const CSectionTable& table, const CDataItem& row, int sketch) {
+  CLetters may = {"x", "y", "x1", "y1", "xo", "yo", "zo", "Xo", "Yo", "Cx", "1", "2"};
+  CLetters must = SizesOf(row);
+  if (table.m_pPair) {
+    must.clear();
+    const std::string gap = ToUtf8(table.m_pPair->m_szGap);
+    if (!gap.empty()) must.insert(gap.substr(0, gap.find('(')));
+    may.merge(
+        SizesOf(CLoadDataTable::GetSysTemJMItem(CString(TableName(table.m_pPair->m_part)),
+                                                row[0].m_strValue.Mid(table.m_pPair->m_nMarker))));
+  }
+  const CLetters letters = LettersOf(sketch);
+  may.insert(must.begin(), must.end());
+  return std::includes(letters.begin(), letters.end(), must.begin(), must.end()) &&
+         std::includes(may.begin(), may.end(), letters.begin(), letters.end());
+}
+
+struct CDrawnTable {
+  const CSectionTable* table;
+  CDataItem row;
+  CForm form;
+  double narrowest, widest;  // of all rows, width over height
+};
+
+bool Fits(const CDrawnTable& drawn, int sketch) {
+  if (!HasLettersOf(*drawn.table, drawn.row, sketch)) return false;
+  const CForm form(SketchSteel(sketch));
+  if ((drawn.table->m_nType & TABLE_ROLLED) == 0)
+    return drawn.table->m_nLimbs > 0 || form.IsOfPlates(drawn.form);
+  constexpr double kDrawnFreely = 1.35;
+  return form.IsRolled(drawn.form) && form.m_dAspect > drawn.narrowest / kDrawnFreely &&
+         form.m_dAspect < drawn.widest * kDrawnFreely;
+}
+
+// Every sketch fits its tables, and of two sketches at most one fits in the other's place: a swap
+// is seen. The column of three limbs has the general sketch.
+TEST_F(SectionKinds, SketchesShowTheirSections) {
+  std::vector<CDrawnTable> tables;
+  for (const CSectionTable& table : SectionTables()) {
+    if (table.m_nSketch == kNoSketch) continue;
+    const bool rolled = (table.m_nType & TABLE_ROLLED) != 0;
+    const auto rows = rolled ? Rows(table.m_szName) : std::vector{DefaultRow(table.m_szName)};
+    double narrowest = 1e9, widest = 0;
+    for (const CDataItem& row : rows) {
+      const CForm form(RowOutline(WithPairSpacing(row, 8)).m_arrLoop);
+      narrowest = std::min(narrowest, form.m_dAspect);
+      widest = std::max(widest, form.m_dAspect);
+    }
+    const CForm form(RowOutline(WithPairSpacing(rows[0], 8)).m_arrLoop);
+    tables.push_back({&table, rows[0], form, narrowest, widest});
+  }
+  for (const CDrawnTable& one : tables) {
+    EXPECT_TRUE(Fits(one, one.table->m_nSketch)) << ToUtf8(one.table->m_szName);
+    for (const CDrawnTable& other : tables) {
+      if (one.table->m_nSketch >= other.table->m_nSketch) continue;
+      EXPECT_FALSE(Fits(one, other.table->m_nSketch) && Fits(other, one.table->m_nSketch))
+          << ToUtf8(one.table->m_szName) << " and " << ToUtf8(other.table->m_szName);
+    }
   }
 }
 

@@ -42,14 +42,12 @@ TEST(BoltSteps, EffectiveDiameterKeptWhenTheTableLacksIt) {
 
 constexpr double kKept = 0.777;  // stands for 777 that was there before
 
+// A limit within the checks' tolerance, a plate beyond the table, a grade that it lacks.
 TEST(BoltSteps, SteelStrength) {
   const struct {
     int steel;
     double t, f;
-  } cases[] = {{0, 16, 0.215}, {0, 16.0000005, 0.215}, {0, 16.001, 0.205}, {0, 40, 0.205},
-               {0, 60, 0.2},   {0, 61, 0.19},          {0, 200, 0.19},     {1, 35, 0.295},
-               {1, 40, 0.265}, {2, 50, 0.315},         {2, 51, 0.295},     {3, 16, 0.38},
-               {4, 16, kKept}};
+  } cases[] = {{0, 16.0000005, 0.215}, {0, 16.001, 0.205}, {0, 200, 0.19}, {4, 16, kKept}};
   for (const auto& c : cases) {
     NormalBoltData group = BoltGroup({.plate = {.t = c.t, .steel = c.steel}});
     group.m_dF = 777;

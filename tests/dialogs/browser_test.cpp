@@ -86,18 +86,6 @@ TEST_F(Browser, TreeHasEveryFamilyInOrder) {
   EXPECT_EQ(at, nodes.size());
 }
 
-TEST_F(Browser, OnlyTablesThatAreAskedFor) {
-  CStringArray names;
-  for (const wchar_t* name : {L"双肢格构柱", L"热轧窄翼缘H型钢", L"热轧普通工字钢", L"别的"}) {
-    names.Add(name);
-  }
-  std::string tables;
-  for (const CTreeNode& node : BrowserTree(names)) {
-    if (node.m_bTable) tables += ToUtf8(node.m_strText) + " ";
-  }
-  EXPECT_EQ(tables, "热轧普通工字钢 热轧窄翼缘H型钢 双肢格构柱 ");
-}
-
 // A mask of 0: no tables at all, and nothing to choose.
 TEST_F(Browser, WithoutTables) {
   CBrowserModel model(m_store.Path(), CStringArray(), CDataItem(), m_user);

@@ -6,8 +6,12 @@
 #include <map>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
+#include "catalogue/code_tables/thickness_group.h"
+#include "connections/bolt_group.h"
+#include "connections/butt_weld.h"
 #include "framework/utf8.h"
 #include "module/orv3cal_c.h"
 #include "platform/temp_folder.h"
@@ -271,31 +275,64 @@ TEST(CChecks, RefuseByKeyWhatIsNoValue) {
 
 // --- Figures of the code -------------------------------------------------------------------------
 
-TEST(CCode, GivesThePrintedStrengths) {
+// Tables 3.4.1-1 and 3.4.1-3 through every door: a limit belongs to the thinner group.
+TEST(CCode, OneThicknessTableThroughEveryDoor) {
   const struct {
     const char16_t* steel;
-    double t;
-    const char16_t* kind;
-    double strength;
-  } steels[] = {{u"Q235", 16, u"f", 215},  {u"Q235", 16.5, u"f", 205}, {u"Q235", 60, u"fv", 115},
-                {u"Q345", 35, u"f", 295},  {u"Q345", 40, u"f", 265},   {u"Q390", 10, u"fce", 415},
-                {u"Q420", 100, u"fv", 185}},
-    welds[] = {{u"Q235", 20, u"ftw3", 175},
-               {u"Q345", 16, u"fcw", 310},
-               {u"Q345", 40, u"fcw", 265},
-               {u"Q390", 60, u"fvw", 170},
-               {u"Q345", 10, u"ffw", 200}};
+    double upTo[4];
+    int f[4], fv[4];
+  } grades[] = {{u"Q235", {16, 40, 60, 100}, {215, 205, 200, 190}, {125, 120, 115, 110}},
+                {u"Q345", {16, 35, 50, 100}, {310, 295, 265, 250}, {180, 170, 155, 145}},
+                {u"Q390", {16, 35, 50, 100}, {350, 335, 315, 295}, {205, 190, 180, 170}},
+                {u"Q420", {16, 35, 50, 100}, {380, 360, 340, 325}, {220, 210, 195, 185}}};
+  for (int grade = 0; grade < 4; ++grade) {
+    const auto& g = grades[grade];
+    for (int step = 0; step < 4; ++step) {
+      for (const double t : {g.upTo[step], step == 0 ? 3 : g.upTo[step - 1] + 0.01}) {
+        SCOPED_TRACE(Utf8(g.steel) + " " + std::to_string(t));
+        int whole = 0;
+        EXPECT_TRUE(CTableSearch::SearchSub1(grade, t, SUB1_F, whole));
+        EXPECT_EQ(whole, g.f[step]);
+        const int group = orv3::ThicknessGroup(grade, t);
+        EXPECT_TRUE(CTableSearch::SearchSub2(grade, group, SUB2_FVW, whole));
+        EXPECT_EQ(whole, g.fv[step]);
+        double value = 0;
+        EXPECT_EQ(orv3_steel_strength(g.steel, t, u"f", &value), 0) << LastError();
+        EXPECT_EQ(value, g.f[step]);
+        EXPECT_EQ(orv3_weld_strength(g.steel, t, u"fvw", &value), 0) << LastError();
+        EXPECT_EQ(value, g.fv[step]);
+        NormalBoltData plate;
+        plate.m_nSteel = grade;
+        plate.m_dThick = t;
+        plate.CalGangCaiQD();
+        EXPECT_DOUBLE_EQ(plate.m_dF, g.f[step] / 1000.0);
+        WQWeldingData weld;
+        weld.m_nSteel = grade;
+        weld.m_dT = t;
+        weld.CalWeldQD();
+        EXPECT_DOUBLE_EQ(weld.m_dFcw, g.f[step] / 1000.0);
+        EXPECT_DOUBLE_EQ(weld.m_dFvw, g.fv[step] / 1000.0);
+      }
+    }
+    double value = 0;
+    int whole = 0;
+    for (const double t : {100.01, std::nan("")}) {
+      EXPECT_FALSE(CTableSearch::SearchSub1(grade, t, SUB1_F, whole));
+      EXPECT_EQ(orv3_steel_strength(g.steel, t, u"f", &value), -1);
+      EXPECT_EQ(orv3_weld_strength(g.steel, t, u"fcw", &value), -1);
+    }
+  }
+}
+
+TEST(CCode, GivesThePrintedStrengths) {
   double value = 0;
-  for (const auto& c : steels) {
-    ASSERT_EQ(orv3_steel_strength(c.steel, c.t, c.kind, &value), 0) << LastError();
-    EXPECT_EQ(value, c.strength) << Utf8(c.steel) << " " << c.t;
+  EXPECT_EQ(orv3_steel_strength(u"Q390", 10, u"fce", &value), 0);
+  EXPECT_EQ(value, 415);
+  for (const auto& [steel, kind, strength] :
+       {std::tuple{u"Q235", u"ftw3", 175.0}, {u"Q345", u"fcw", 295.0}, {u"Q345", u"ffw", 200.0}}) {
+    ASSERT_EQ(orv3_weld_strength(steel, 20, kind, &value), 0) << LastError();
+    EXPECT_EQ(value, strength);
   }
-  for (const auto& c : welds) {
-    ASSERT_EQ(orv3_weld_strength(c.steel, c.t, c.kind, &value), 0) << LastError();
-    EXPECT_EQ(value, c.strength) << Utf8(c.steel) << " " << c.t;
-  }
-  EXPECT_EQ(orv3_steel_strength(u"Q235", 101, u"f", &value), -1);
-  EXPECT_EQ(orv3_steel_strength(u"Q235", NAN, u"f", &value), -1);
   EXPECT_EQ(orv3_steel_strength(u"Q460", 10, u"f", &value), -1);
   EXPECT_EQ(orv3_steel_strength(u"Q235", 10, u"f", nullptr), -1);
 }

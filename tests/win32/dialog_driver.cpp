@@ -263,24 +263,6 @@ void CDialogProbe::Choose(int id, const std::wstring& text) const {
   SendMessageW(m_hWnd, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
 }
 
-std::vector<std::wstring> CDialogProbe::Choices(int id) const {
-  std::vector<std::wstring> choices;
-  const LRESULT count = SendMessageW(Control(id), CB_GETCOUNT, 0, 0);
-  for (LRESULT i = 0; i < count; ++i) {
-    wchar_t text[128] = {};
-    SendMessageW(Control(id), CB_GETLBTEXT, static_cast<WPARAM>(i), Pointer(text));
-    choices.emplace_back(text);
-  }
-  return choices;
-}
-
-void CDialogProbe::Check(int id, bool checked) const {
-  const HWND box = Control(id);
-  if ((SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED) != checked) {
-    SendMessageW(box, BM_CLICK, 0, 0);
-  }
-}
-
 // --- Trees --------------------------------------------------------------------------------------
 
 void CDialogProbe::SelectNode(int id, const std::wstring& text) const {
@@ -292,14 +274,6 @@ void CDialogProbe::SelectNode(int id, const std::wstring& text) const {
   const auto found = m_mapNode.find(text);
   if (found == m_mapNode.end()) throw std::runtime_error("no node \"" + Narrow(text) + "\"");
   SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(found->second));
-}
-
-std::vector<std::wstring> CDialogProbe::Nodes(int id) const {
-  const HWND tree = Control(id);
-  std::vector<std::wstring> texts;
-  Visit(tree, TreeView_GetRoot(tree),
-        [&](HTREEITEM item) { texts.push_back(NodeText(tree, item)); });
-  return texts;
 }
 
 // --- Lists --------------------------------------------------------------------------------------

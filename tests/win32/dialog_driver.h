@@ -40,12 +40,9 @@ class CDialogProbe {
   void Close() const;                    // as by Esc
 
   void Choose(int id, const std::wstring& text) const;  // in a drop-down list
-  std::vector<std::wstring> Choices(int id) const;
-  void Check(int id, bool checked) const;
 
   // Tree views: the first node with the text.
   void SelectNode(int id, const std::wstring& text) const;
-  std::vector<std::wstring> Nodes(int id) const;
 
   // List views
   int Count(int id) const;

@@ -16,7 +16,7 @@ std::filesystem::path Of(const CString& path) { return std::wstring(path.View())
 
 }  // namespace
 
-CStoreFolder::CStoreFolder(CStart start) {
+CStoreFolder::CStoreFolder() {
   static int number = 0;
   const auto* test = testing::UnitTest::GetInstance()->current_test_info();
   const auto folder = std::filesystem::temp_directory_path() /
@@ -24,10 +24,8 @@ CStoreFolder::CStoreFolder(CStart start) {
   std::filesystem::remove_all(folder);
   std::filesystem::create_directories(folder);
   m_strPath = CString(folder.wstring()) + L"\\";
-  if (start == CStart::Catalogue) {
-    // Another test may have the catalogue open.
-    PutBytes(m_strPath + kStore, Bytes(orv3::FromUtf8(ORV3CAL_CATALOGUE "/") + CString(kStore)));
-  }
+  // Another test may have the catalogue open.
+  PutBytes(m_strPath + kStore, Bytes(orv3::FromUtf8(ORV3CAL_CATALOGUE "/") + CString(kStore)));
 }
 
 CStoreFolder::~CStoreFolder() {

@@ -6,9 +6,7 @@
 
 class CStoreFolder {
  public:
-  enum class CStart { Empty, Catalogue };  // Catalogue: with a copy of the shipped system store
-
-  explicit CStoreFolder(CStart start = CStart::Catalogue);
+  CStoreFolder();  // with a copy of the shipped system store
   CStoreFolder(const CStoreFolder&) = delete;
   CStoreFolder& operator=(const CStoreFolder&) = delete;
   ~CStoreFolder();

@@ -17,7 +17,7 @@ constexpr CAxisLetters kColdZ{L"X1", L"Y1", L"X", L"Y"};
 constexpr struct {
   CSectionKind m_kind;
   CAxisLetters m_letters;
-} kTables[] = {
+} kRolled[] = {
     {K::OrdinaryI, kPlain},
     {K::LightI, kPlain},
     {K::WeldedH, kPlain},
@@ -45,32 +45,16 @@ constexpr struct {
     {K::OrdinaryToeToToe, kPlain},
     {K::LightBackToBack, kPlain},
     {K::LightToeToToe, kPlain},
-    {K::PlateH, kPlates},
-    {K::PlateGeneralH, kPlates},
-    {K::PlateBox, kPlates},
-    {K::PlateGeneralBox, kPlates},
-    {K::PlateT, kPlates},
-    {K::PlateChannel, kPlates},
-    {K::PlateZ, kPlates},
-    {K::SolidCircle, kPlates},
-    {K::PlateTube, kPlates},
-    {K::PlateL, kPlates},
-    {K::PlateCross, kPlates},
-    {K::FlangedCross, kPlates},
-    {K::SolidRectangle, kPlates},
-    {K::SolidHexagon, kPlates},
-    {K::SolidTriangle, kPlates},
-    {K::TwoLimbs, kPlain},
-    {K::FourLimbs, kPlain},
-    {K::ThreeLimbs, kPlain},
 };
-static_assert(std::size(kTables) == kSectionKinds && InKindOrder(kTables));
+static_assert(std::size(kRolled) == kRolledKinds && InKindOrder(kRolled));
 
 }  // namespace
 
 CAxisLetters RowAxisLetters(const CString& tableName) {
   const auto kind = FindSectionKind(tableName);
-  return kind ? kTables[IndexOf(*kind)].m_letters : kPlain;
+  if (!kind) return kPlain;
+  if (IndexOf(*kind) < kRolledKinds) return kRolled[IndexOf(*kind)].m_letters;
+  return TableOf(*kind).m_nLimbs > 0 ? kPlain : kPlates;
 }
 
 }  // namespace orv3

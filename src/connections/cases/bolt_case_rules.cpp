@@ -1,6 +1,7 @@
 // What refuses a bolt group, and what to look at in a result that stands.
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "catalogue/code_tables/thickness_group.h"
 #include "connections/cases/bolt_case.h"
@@ -112,14 +113,14 @@ bool Differ(double a, double b) {
 }
 
 std::string Ratios(const NormalBoltData& record, const CBoltFigures& figures) {
-  return PlainNumber(record.m_dRatio) + " → " + PlainNumber(figures.m_dRatio);
+  const auto [was, is] = Apart(record.m_dRatio, figures.m_dRatio);
+  return was + " → " + is;
 }
 
 void ShearWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                    std::vector<CCaseWarning>& warnings) {
   if (!Differ(record.m_dNv, figures.m_dNv)) return;
-  const std::string was = PlainNumber(record.m_dNv);
-  const std::string is = PlainNumber(figures.m_dNv);
+  const auto [was, is] = Apart(record.m_dNv, figures.m_dNv);
   warnings.push_back(
       {"T",
        {"扭矩为负：记录值 Nv = " + was + " kN 把其分力与直接剪力相抵；按相加的 Nv = " + is +
@@ -138,8 +139,9 @@ void TensionWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                          "checked; the bolts are checked for what remains."}});
   }
   if (!Differ(record.m_dNt, figures.m_dNt)) return;
-  const std::string was = "Nt = " + PlainNumber(record.m_dNt) + " kN";
-  const std::string is = "Nt = " + PlainNumber(figures.m_dNt) + " kN";
+  const auto [before, judged] = Apart(record.m_dNt, figures.m_dNt);
+  const std::string was = "Nt = " + before + " kN";
+  const std::string is = "Nt = " + judged + " kN";
   static constexpr CTextLiteral kHow[] = {
       {"", ""},
       {"绕形心转动", "turning about the centroid"},
@@ -172,20 +174,24 @@ void BearingWarnings(const NormalBoltData& record, const CBoltFigures& figures,
 void SectionWarning(const char* key, double recorded, const CPlateSection& section, double f,
                     bool bFriction, std::vector<CCaseWarning>& warnings) {
   if (!Differ(std::fabs(recorded), section.Worst())) return;
-  const auto stress = [f](double sigma) {
-    return PlainNumber(sigma) + " N/mm² (" + PercentNumber(sigma / f) + " %)";
+  const auto stress = [f](const std::string& text, double sigma) {
+    return text + " N/mm² (" + PercentNumber(sigma / f) + " %)";
   };
+  const CComparedText text = Apart(recorded, section.Worst());
+  const std::string was = stress(text.m_strEffect, recorded);
+  const std::string is = stress(text.m_strLimit, section.Worst());
   const std::string number = std::to_string(section.Holes());
   const std::string area = PlainNumber(section.m_dNet) + " mm²";
   const std::string share =
       bFriction ? ", 1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
-  warnings.push_back({key,
-                      {std::string("记录的 ") + key + " 截面应力为 " + stress(recorded) +
-                           "；按 5.1.1 条最不利截面（" + number + " 孔，净面积 " + area + share +
-                           "）验算：" + stress(section.Worst()) + "。",
-                       std::string("The record's section stress from ") + key + " is " +
-                           stress(recorded) + "; judged by the worst section of 5.1.1 (" + number +
-                           " holes, net " + area + share + "): " + stress(section.Worst()) + "."}});
+  warnings.push_back(
+      {key,
+       {std::string("记录的 ") + key + " 截面应力为 " + was + "；按 5.1.1 条最不利截面（" + number +
+            " 孔，净面积 " + area + share + "）验算：" + is + "。",
+        std::string("The record's section stress from ") + key + " is " + was +
+            "; judged by the worst section of 5.1.1 (" + number +
+            (section.Holes() == 1 ? " hole, net " : " holes, net ") + area + share + "): " + is +
+            "."}});
 }
 
 }  // namespace

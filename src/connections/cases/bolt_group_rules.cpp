@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "connections/bolt_thread.h"
 #include "connections/check_math.h"
@@ -30,11 +31,13 @@ void SpacingFaults(const char* key, CTextLiteral lines, const CSpacing& spacing,
     const std::string given = std::to_string(each.size());
     const std::string needed = std::to_string(count);
     const std::string all = std::to_string(count + 1);
-    faults.Add(
-        key,
-        {"给了 " + given + " 个间距，而有 " + all + " " + lines.m_szChinese,
-         given + " spacings for " + all + " " + lines.m_szEnglish},
-        {"请给 " + needed + " 个，或一个通用值", "give " + needed + ", or one number for all"});
+    faults.Add(key,
+               {"给了 " + given + " 个间距，而有 " + all + " " + lines.m_szChinese,
+                given + (given == "1" ? " spacing for " : " spacings for ") + all + " " +
+                    std::string(lines.m_szEnglish, std::strlen(lines.m_szEnglish) - (count == 0))},
+               count == 0 ? CText{"请不给此键", "leave the key out"}
+                          : CText{"请给 " + needed + " 个，或一个通用值",
+                                  "give " + needed + ", or one number for all"});
     return;
   }
   if (count == 0) return;

@@ -1,7 +1,7 @@
 // A rule of detailing that a connection is held to: a size and its limit.
 #pragma once
 
-#include "framework/bilingual_text.h"
+#include "framework/language.h"
 
 namespace orv3 {
 

@@ -32,7 +32,7 @@ CStressTerms NormalStress(int loadCase, double N, double M, const std::string& a
     const bool bFirst = !TakesN(loadCase) && *sign == '+';
     const std::string plus = bFirst ? "" : " " + std::string(sign) + " ";
     terms.m_strFormula += plus + "M / W";
-    terms.m_strNumbers += plus + Put(M) + " × 1000 / " + PlainNumber(W);
+    terms.m_strNumbers += plus + Put(M) + " × 1000 / " + SubstitutedNumber(W);
   }
   return terms;
 }
@@ -88,7 +88,7 @@ CReportStep Throat(const CFilletCase& input, const CFilletResults& r,
             clauses.m_szInclined,
             "h_e",
             "h_f \\cos(α / 2)",
-            hf + " × \\cos(" + PlainNumber(input.m_dAngle) + "° / 2)",
+            hf + " × \\cos(" + SubstitutedNumber(input.m_dAngle) + "° / 2)",
             he,
             "mm"};
   }
@@ -154,7 +154,7 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r, const CWel
                    "τ_f",
                    bLong ? "|V| / (h_e · 60 h_f)" : "|V| / (h_e l_w)",
                    Put(std::fabs(input.m_dV / input.m_nWelds)) + " × 1000 / (" + he + " × " +
-                       PlainNumber(judged.m_dShearLength) + ")",
+                       SubstitutedNumber(judged.m_dShearLength) + ")",
                    PlainNumber(judged.m_dTau),
                    "N/mm²"});
   const bool bTension = judged.m_dTension / judged.m_dBetaTension >=
@@ -165,7 +165,7 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r, const CWel
                    clauses.m_szRight,
                    "σ_{fs}",
                    "√((σ_f / β_f)^2 + τ_f^2)",
-                   "√((" + PlainNumber(across) + " / " + PlainNumber(beta) + ")^2 + " +
+                   "√((" + SubstitutedNumber(across) + " / " + SubstitutedNumber(beta) + ")^2 + " +
                        Put(judged.m_dTau) + "^2)",
                    PlainNumber(judged.m_dCombined),
                    "N/mm²"});

@@ -30,8 +30,6 @@ void AnglePair(CSketchPen& pen, double b, double h, double centroid, const wchar
 
 void Lacing(CSketchPen& pen, CPoint a, CPoint b) { pen.Line(a, b, CLayer::BaseAxis); }
 
-}  // namespace
-
 void EqualAnglePair(CSketchPen& pen) { AnglePair(pen, 58, 68, 22, L"b", L"b"); }
 void LongLegPair(CSketchPen& pen) { AnglePair(pen, 42, 84, 32, L"b", L"B"); }
 void ShortLegPair(CSketchPen& pen) { AnglePair(pen, 55, 46, 13, L"B", L"b"); }
@@ -117,5 +115,15 @@ void GeneralSection(CSketchPen& pen) {
   pen.Steel(outline);
   pen.Axes({92, 76}, {44, 36, 140, 114}, L"x", L"y");
 }
+
+constexpr CSketchEntry kSketches[] = {
+    {8023, EqualAnglePair}, {8024, LongLegPair},      {8025, ShortLegPair},
+    {8026, CrossAnglePair}, {8027, ChannelsToeToToe}, {8028, ChannelsBackToBack},
+    {8076, GeneralSection}, {8077, FourLimbs},        {8078, TwoLimbs},
+};
+
+}  // namespace
+
+std::span<const CSketchEntry> BuiltSketches() noexcept { return kSketches; }
 
 }  // namespace orv3::sketch

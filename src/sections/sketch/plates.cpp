@@ -11,8 +11,6 @@ using CTail = CSketchPen::CTail;
 
 CPath Polygon(const std::vector<CCorner>& corners) { return RoundedPath(corners); }
 
-}  // namespace
-
 void PlateH(CSketchPen& pen) {
   pen.Steel(Moved(IShape(76, 90, 9, 12), 56, 34));
   pen.Axes({94, 79}, {56, 34, 132, 124}, L"Xo", L"Yo");
@@ -198,5 +196,16 @@ void Triangle(CSketchPen& pen) {
   pen.Width(48, 136, 36, 18, L"b");
   pen.Height(36, 120, 92, 30, L"h");
 }
+
+constexpr CSketchEntry kSketches[] = {
+    {8035, Box},          {8036, PlateT},   {8037, Cross},     {8038, GeneralBox},
+    {8039, Hexagon},      {8040, Triangle}, {8041, Tube},      {8042, Circle},
+    {8043, GeneralH},     {8044, PlateL},   {8045, PlateZ},    {8046, PlateChannel},
+    {8047, FlangedCross}, {8048, PlateH},   {8049, Rectangle},
+};
+
+}  // namespace
+
+std::span<const CSketchEntry> PlateSketches() noexcept { return kSketches; }
 
 }  // namespace orv3::sketch

@@ -43,8 +43,6 @@ void ParallelH(CSketchPen& pen, CBox box) {
   pen.Leader({root.x - 10, root.y + 14}, root, L"r");
 }
 
-}  // namespace
-
 void RolledI(CSketchPen& pen) {
   const CBox box = BoxAt(58, 34, 68, 92);
   Put(pen, IShape(68, 92, 8, 12, kSloped), box);
@@ -215,5 +213,18 @@ void RoundTube(CSketchPen& pen) {
   pen.Axes(Middle(box), box, L"x", L"y");
   pen.ThicknessX(50, 58, 87, L"t");
 }
+
+constexpr CSketchEntry kSketches[] = {
+    {8008, EqualAngle},       {8009, UnequalAngle},      {8010, WideH},
+    {8011, NarrowH},          {8012, RolledChannel},     {8013, RolledI},
+    {8014, WeldedH},          {8015, ColdLippedAngle},   {8016, ColdAngle},
+    {8017, ColdChannel},      {8018, ColdLippedChannel}, {8019, ColdLippedZ},
+    {8020, ColdSlantLippedZ}, {8021, SquareTube},        {8022, RoundTube},
+    {8029, RolledT},
+};
+
+}  // namespace
+
+std::span<const CSketchEntry> RolledSketches() noexcept { return kSketches; }
 
 }  // namespace orv3::sketch

@@ -20,7 +20,10 @@ ORV3CAL_API int SketchResource(std::wstring_view tableName) noexcept;
 ORV3CAL_API CBitmap SketchBitmap(int resource, double scale = 1);
 ORV3CAL_API std::string SketchSvg(int resource);
 
-// The steel of the sketch alone, as large as a square of `size` pixels holds it with a white edge:
+// The steel of the sketch alone, in page units.
+std::vector<CPath> SketchSteel(int resource);
+
+// The same as large as a square of `size` pixels holds it with a white edge:
 // the picture in a tree or a list.
 ORV3CAL_API CBitmap SketchIcon(int resource, int size = 16);
 // The same of any steel.
