@@ -27,10 +27,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   static CMemoryFiles files;
   static const CCaseSchema bolt(kBoltSchema);
   static const CCaseSchema lattice(kLatticeSchema);
+  static const CCaseSchema welds(kWeldGroupSchema);
   for (const auto& [path, wide] : {std::pair{"a.json", L"a.json"}, {"a.csv", L"a.csv"}}) {
     files[wide] = std::string(reinterpret_cast<const char*>(data), size);
     ReadAll(path, bolt);
     ReadAll(path, lattice);
+    ReadAll(path, welds);
   }
   return 0;
 }
