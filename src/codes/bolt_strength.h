@@ -10,7 +10,10 @@ namespace orv3 {
 // Ordinary bolts of class C and of classes A and B; high-strength bolts in bearing.
 enum class CBoltKind { OrdinaryC, OrdinaryAB, Bearing };
 enum class CBoltGrade { G46, G48, G56, G88, G109 };
-ORV3CAL_API const char* BoltGradeName(CBoltGrade grade) noexcept;
+inline constexpr const char* kBoltGradeNames[] = {"4.6", "4.8", "5.6", "8.8", "10.9"};
+constexpr const char* BoltGradeName(CBoltGrade grade) noexcept {
+  return kBoltGradeNames[static_cast<std::size_t>(grade)];
+}
 
 struct CBoltStrengths {
   double m_dFt;

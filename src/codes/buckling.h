@@ -31,17 +31,33 @@ enum class CBucklingShape {
   Solid,           // rolled solid bars
   Lattice,
 };
-inline constexpr std::size_t kBucklingShapes = 17;
-
-ORV3CAL_API const char* BucklingShapeName(CBucklingShape shape) noexcept;  // "rolled-tube", ...
-ORV3CAL_API CTextLiteral BucklingShapeText(CBucklingShape shape) noexcept;
+inline constexpr const char* kBucklingShapeNames[] = {"rolled-tube",
+                                                      "welded-tube",
+                                                      "rolled-i-narrow",
+                                                      "rolled-i-wide",
+                                                      "welded-i-flame-cut",
+                                                      "welded-i-rolled",
+                                                      "rolled-t",
+                                                      "welded-t-flame-cut",
+                                                      "welded-t-rolled",
+                                                      "rolled-channel",
+                                                      "rolled-equal-angle",
+                                                      "rolled-unequal-angle",
+                                                      "welded-box",
+                                                      "welded-box-thick",
+                                                      "rolled-box",
+                                                      "solid",
+                                                      "lattice"};
+constexpr const char* BucklingShapeName(CBucklingShape shape) noexcept {
+  return kBucklingShapeNames[static_cast<std::size_t>(shape)];
+}
 
 // The class about an axis as the table prints it: a* (2017) is b for Q235 and a for higher grades,
 // b* is c for Q235 and b for higher grades.
 struct CPrintedClass {
   CBucklingClass m_nClass;  // of the higher grades
   bool m_bStar;
-  const char* Text() const noexcept;
+  ORV3CAL_API const char* Text() const noexcept;
   CBucklingClass For(CSteelGrade grade) const noexcept {
     return m_bStar && grade == CSteelGrade::Q235
                ? static_cast<CBucklingClass>(static_cast<int>(m_nClass) + 1)

@@ -9,7 +9,10 @@
 namespace orv3 {
 
 enum class CSectionClass { S1, S2, S3, S4, S5 };
-ORV3CAL_API const char* SectionClassName(CSectionClass sectionClass) noexcept;
+inline constexpr const char* kSectionClassNames[] = {"S1", "S2", "S3", "S4", "S5"};
+constexpr const char* SectionClassName(CSectionClass sectionClass) noexcept {
+  return kSectionClassNames[static_cast<std::size_t>(sectionClass)];
+}
 
 enum class CClassElement {
   FlangeOutstand,  // b/t of I and T

@@ -15,7 +15,10 @@ ORV3CAL_API CTextLiteral SurfaceName(CCodeEdition edition, int surface);
 ORV3CAL_API CCodeAnswer<double> SlipFactor(CCodeEdition edition, int surface, CSteelGrade grade);
 
 enum class CHoleKind { Standard, Oversize, SlotAcross, SlotAlong };  // slots by the force
-ORV3CAL_API const char* HoleName(CHoleKind kind) noexcept;  // "slot-across", as a user names it
+inline constexpr const char* kHoleNames[] = {"standard", "oversize", "slot-across", "slot-along"};
+constexpr const char* HoleName(CHoleKind kind) noexcept {
+  return kHoleNames[static_cast<std::size_t>(kind)];
+}
 
 // k of the slip resistance 0.9 k nf mu P. The 2003 edition has standard holes alone.
 ORV3CAL_API CCodeAnswer<double> HoleFactor(CCodeEdition edition, CHoleKind kind);

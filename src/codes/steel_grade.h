@@ -11,12 +11,15 @@ namespace orv3 {
 // Q355 is the name under which the product standard goes on with Q345: GB 50017-2017 is read in its
 // Q345 column, and every answer says so.
 enum class CSteelGrade { Q235, Q345, Q355, Q390, Q420, Q460, Q345GJ };
-inline constexpr std::size_t kSteelGrades = 7;
+inline constexpr const char* kGradeNames[] = {"Q235", "Q345", "Q355",  "Q390",
+                                              "Q420", "Q460", "Q345GJ"};
 
 inline constexpr double kElasticModulus = 206000;  // E, N/mm2: 4.4.8 (2003: 3.4.3)
 inline constexpr double kShearModulus = 79000;     // G, N/mm2
 
-ORV3CAL_API const char* GradeName(CSteelGrade grade) noexcept;
+constexpr const char* GradeName(CSteelGrade grade) noexcept {
+  return kGradeNames[static_cast<std::size_t>(grade)];
+}
 
 // The grades that an edition has.
 ORV3CAL_API std::span<const CSteelGrade> GradesOf(CCodeEdition edition) noexcept;

@@ -20,7 +20,10 @@ ORV3CAL_API CCodeAnswer<CButtWeldStrengths> ButtWeldStrengths(CCodeEdition editi
                                                               CSteelGrade grade, double t);
 
 enum class CElectrode { E43, E50, E55, E60 };
-ORV3CAL_API const char* ElectrodeName(CElectrode electrode) noexcept;
+inline constexpr const char* kElectrodeNames[] = {"E43", "E50", "E55", "E60"};
+constexpr const char* ElectrodeName(CElectrode electrode) noexcept {
+  return kElectrodeNames[static_cast<std::size_t>(electrode)];
+}
 
 // The electrodes that the code pairs with a grade, the default (lowest) first; empty for a grade
 // that the edition lacks.

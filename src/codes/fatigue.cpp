@@ -1,0 +1,58 @@
+#include "codes/fatigue.h"
+
+#include <cmath>
+
+#include "catalogue/code_tables/table_search.h"
+#include "codes/gb2017/tables.h"
+#include "codes/refusals.h"
+
+namespace orv3 {
+namespace {
+
+constexpr const char* kCategories2003[] = {"1", "2", "3", "4", "5", "6", "7", "8"};
+
+CCodeAnswer<CFatigueCategory> Category2003(std::string_view name) {
+  for (int i = 0; i < 8; ++i) {
+    if (name != kCategories2003[i]) continue;
+    CFatigueCategory category = {kCategories2003[i], 0, 0, {}, {}, {}};
+    CTableSearch::SearchSub7(0, i, category.m_dC);
+    CTableSearch::SearchSub7(1, i, category.m_dBeta);
+    category.m_dC *= 1e12;
+    return {category, {CCodeEdition::Gb2003, {"表 6.2.1-1", "Table 6.2.1-1"}}};
+  }
+  return NoneOf("category", name, kCategories2003);
+}
+
+bool IsShear(const CFatigueCategory& category) noexcept { return *category.m_szName == 'J'; }
+
+constexpr double kKnee = 5e6;    // cycles, from which on the slope of Z is beta + 2
+constexpr double kCutOff = 1e8;  // cycles, beyond which nothing more is lost
+
+}  // namespace
+
+CCodeAnswer<CFatigueCategory> FatigueCategory(CCodeEdition edition, std::string_view name) {
+  if (edition == CCodeEdition::Gb2003) return Category2003(name);
+  for (const gb2017::CFatigueRow& row : gb2017::kFatigue) {
+    if (name != row.m_szCategory) continue;
+    const CTextLiteral place = name.front() == 'J'
+                                   ? CTextLiteral{"16.2.1 表 16.2.1-2", "16.2.1, Table 16.2.1-2"}
+                                   : CTextLiteral{"16.2.1 表 16.2.1-1", "16.2.1, Table 16.2.1-1"};
+    return {{row.m_szCategory, row.m_dC, row.m_dBeta, row.m_range2e6, row.m_range5e6, row.m_cutOff},
+            {edition, place}};
+  }
+  CCodeRefusal refusal = NoneOf("category", name, {});
+  refusal.m_right = {"请给出 Z1 至 Z14（正应力）或 J1 至 J3（剪应力）",
+                     "give Z1 to Z14 (normal stress) or J1 to J3 (shear)"};
+  return refusal;
+}
+
+double AllowableRange(const CFatigueCategory& category, double n) noexcept {
+  const double C = category.m_dC;
+  const double beta = category.m_dBeta;
+  if (category.m_cutOff && n > kCutOff) return *category.m_cutOff;
+  if (!category.m_range5e6 || IsShear(category) || n <= kKnee) return std::pow(C / n, 1 / beta);
+  const double atKnee = *category.m_range5e6;
+  return std::pow(atKnee * atKnee * C / n, 1 / (beta + 2));
+}
+
+}  // namespace orv3
