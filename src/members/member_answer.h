@@ -70,6 +70,7 @@ enum class CMemberNote : std::uint8_t {
   Q355,
   NoSupportsAtEnds,
   BetweenLoadAndEnds,
+  HeavyTension,
   RolledITable,
   Stiffeners,
   EffectiveSection,
@@ -125,8 +126,8 @@ class ORV3CAL_API CMemberAnswer {
   const CMemberCheckPart* Find(CMemberCheckKind kind) const noexcept;
   double Ratio(CMemberCheckKind kind) const noexcept;  // NaN without the check
 
-  // "lambdax = lx / ix = 6000 / 129 = 46.5"
-  std::string StepText(const CMemberCheckPart& part, std::size_t step) const;
+  // "λx = l0x/ix = 6000/129 = 46.5": a step by its place among all, the given ones first.
+  std::string StepText(std::size_t index) const;
 
   CMemberResults m_results;
 

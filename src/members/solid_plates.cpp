@@ -71,22 +71,22 @@ double CSolidCheck::FlangeRatio() const {
 // Before every formula that asks gamma or an effective section.
 void CSolidCheck::Plasticity() {
   if (!HasMoment()) return;
-  bool bDevelops = !q.m_bDynamic;
+  bool bSlender = false;
   if (Is2017()) {
     ClassifyPlates();
-    bDevelops = bDevelops && !m_bBeyond && m_class.value_or(CSectionClass::S1) <= CSectionClass::S3;
+    bSlender = m_bBeyond || m_class.value_or(CSectionClass::S1) > CSectionClass::S3;
     if (m_class) r.m_szClass = SectionClassName(*m_class);
+  } else {
+    bSlender = HasFlanges(s.m_nShape) && FlangeRatio() > 13 * r.m_dEpsilonK;
   }
-  const CPlasticFactors gamma =
-      *PlasticFactors(m.m_nEdition, PlasticShapeOf(s.m_nShape), bDevelops);
+  const CPlasticUse use = q.m_bDynamic ? CPlasticUse::Elastic
+                          : bSlender   ? CPlasticUse::SlenderFlange
+                                       : CPlasticUse::Developed;
+  m_bGammaReduced = use != CPlasticUse::Developed;
+  const CPlasticFactors gamma = *PlasticFactors(m.m_nEdition, PlasticShapeOf(s.m_nShape), use);
   r.m_dGammaX = m_nSide == CSide::Top ? gamma.m_dX : gamma.m_dXTip;
   m_dGammaOther = m_nSide == CSide::Top ? gamma.m_dXTip : gamma.m_dX;
   r.m_dGammaY = gamma.m_dY;
-  m_bGammaReduced = q.m_bDynamic;
-  if (!Is2017() && HasFlanges(s.m_nShape) && FlangeRatio() > 13 * r.m_dEpsilonK) {
-    r.m_dGammaX = m_dGammaOther = 1;
-    m_bGammaReduced = true;
-  }
 }
 
 void CSolidCheck::ClassifyPlates() {
@@ -290,8 +290,8 @@ void CSolidCheck::MomentPlates2003() {
   };
   if (s.m_nShape == CMemberShape::Box) {
     Limit(CMemberCheckKind::Flange, bColumn ? "5.4.3" : "4.3.8", BoxFlangeRatio(), 40 * ek);
-    const double limit = bColumn ? std::max(0.8 * column(CWidthElement::WebI), 40 * ek) : 250;
-    Limit(CMemberCheckKind::Web, bColumn ? "5.4.3" : "4.3.2", h0tw, limit);
+    Limit(CMemberCheckKind::Web, bColumn ? "5.4.3" : "4.3.2", h0tw,
+          bColumn ? column(CWidthElement::BoxWall) : 250);
     return NoteStiffeners(h0tw);
   }
   if (const double flange = FlangeRatio(); flange > 0) {

@@ -287,6 +287,7 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
     const double* beta = Take("load", answer);
     if (beta == nullptr) return 1;
     load = *beta;
+    if (q.m_nSupports == 0 && section.m_dAlphaB < 0.5) a.Note(CMemberNote::HeavyTension);
     if (c.HasEnds()) a.Note(CMemberNote::BetweenLoadAndEnds);
   }
   return std::min(ends, load);
