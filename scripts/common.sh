@@ -44,5 +44,6 @@ wine_symbols() {
 }
 
 # The packages of a native build and its tests.
-NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libcli11-dev nlohmann-json3-dev
+NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libeigen3-dev libcli11-dev
+                 nlohmann-json3-dev
                  libbenchmark-dev libsqlite3-dev libxlsxwriter-dev clang-format python3"

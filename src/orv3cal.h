@@ -11,7 +11,7 @@
 #include "catalogue/lattice/lattice_picture.h"
 #include "catalogue/lattice/lattice_properties.h"
 #include "catalogue/lattice/steel_ge_gou.h"
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/outline/row_figures.h"
 #include "catalogue/outline/row_outline.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "sections/catalogue_store.h"

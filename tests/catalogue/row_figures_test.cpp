@@ -9,7 +9,7 @@
 #include <string>
 
 #include "catalogue/lattice/steel_ge_gou.h"
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/outline/row_outline.h"
 #include "sections/catalogue_store.h"

@@ -7,7 +7,7 @@
 #include <limits>
 #include <random>
 
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 #include "framework/number_text.h"
 #include "picture_check.h"
 #include "sections/section_picture.h"

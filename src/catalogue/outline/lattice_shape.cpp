@@ -2,7 +2,7 @@
 #include <utility>
 
 #include "catalogue/lattice/lattice_limbs.h"
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_figures.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "catalogue/lattice/lattice_limbs.h"
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 #include "catalogue/outline/outline_symmetry.h"
 #include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_outline.h"

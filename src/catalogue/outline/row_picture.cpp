@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "catalogue/outline/outline_moments.h"
+#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_dimensions.h"
 #include "catalogue/outline/row_outline.h"

@@ -1,0 +1,74 @@
+#include "outlines/geometric_figures.h"
+
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+#include "outlines/crossing.h"
+#include "outlines/edge.h"
+#include "outlines/outline_moments.h"
+#include "outlines/plastic.h"
+
+namespace orv3 {
+namespace {
+
+constexpr double kDensity = 7850e-9;  // kg/mm^3
+// Moments of inertia that differ by less are equal, and have no axis of their own.
+constexpr double kEqual = 1e-11;
+
+void SetPrincipal(CExactProperties& p) {
+  const double half = (p.Ix - p.Iy) / 2;
+  const double radius = std::hypot(half, p.Ixy);
+  const double middle = (p.Ix + p.Iy) / 2;
+  p.I1 = middle + radius;
+  // Of a slender section the small one is what the large ones' product leaves.
+  p.I2 = (p.Ix * p.Iy - p.Ixy * p.Ixy) / p.I1;
+  p.theta = 0;
+  if (radius <= kEqual * middle) return;
+  // Ixy below rounding would turn an axis that lies along the frame's.
+  const double product = std::fabs(p.Ixy) <= kEqual * middle ? 0 : p.Ixy;
+  p.theta = std::atan2(-product, half) * 90 / std::numbers::pi + 0.0;
+  if (p.theta <= -90) p.theta += 180;
+}
+
+}  // namespace
+
+CExactProperties GeometricFigures(std::span<const CPath> loops) {
+  CExactProperties p;
+  const COutlineMoments m = RowOutlineMoments(loops);
+  if (!(m.m_dArea > 0)) return p;
+  const CBox box = PathBounds(loops);
+  p.A = m.m_dArea;
+  p.xo = m.m_centroid.x - box.left;
+  p.yo = m.m_centroid.y - box.bottom;
+  p.Ix = m.m_dIx;
+  p.Iy = m.m_dIy;
+  p.Ixy = m.m_dIxy;
+  SetPrincipal(p);
+  p.ix = std::sqrt(p.Ix / p.A);
+  p.iy = std::sqrt(p.Iy / p.A);
+  p.i1 = std::sqrt(p.I1 / p.A);
+  p.i2 = std::sqrt(p.I2 / p.A);
+  p.Wx1 = p.Ix / (box.Height() - p.yo);
+  p.Wx2 = p.Ix / p.yo;
+  p.WyL = p.Iy / p.xo;
+  p.WyR = p.Iy / (box.Width() - p.xo);
+  std::vector<CPath> centered;
+  for (const CPath& loop : loops) centered.push_back(Moved(loop, -m.m_centroid.x, -m.m_centroid.y));
+  const CPlasticAxis x = PlasticAxisX(centered);
+  const CPlasticAxis y = PlasticAxisY(centered);
+  p.Wpx = x.m_dModulus;
+  p.Wpy = y.m_dModulus;
+  p.yp = p.yo + x.m_dAt;
+  p.xp = p.xo + y.m_dAt;
+  double length = 0;
+  for (const CPath& loop : loops) {
+    if (LoopArea(loop) <= 0) continue;
+    ForEachEdge(loop, [&](const CEdge& edge, std::size_t) { length += edge.Length(); });
+  }
+  p.surface = length / 1000;
+  p.mass = p.A * kDensity * 1000;
+  return p;
+}
+
+}  // namespace orv3

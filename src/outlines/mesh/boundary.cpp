@@ -1,0 +1,200 @@
+#include "outlines/mesh/boundary.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace orv3 {
+namespace {
+
+// Beyond so many edges the outline is taken as it is: it is fine enough, and the search for near
+// edges would not be done in time.
+constexpr std::size_t kGradedEdges = 2000;
+// Stretches at a corner are as long as the section is thick there, times this; away from it they
+// grow by kGrowth of the distance.
+constexpr double kAtCorner = 1.0;
+constexpr double kAtSharp = 0.5;
+constexpr double kGrowth = 1.0;
+constexpr double kArcStep = std::numbers::pi / 6;
+constexpr double kSagitta = 0.2;  // of an arc's stretch, by the thickness
+constexpr int kDeepest = 24;
+
+// Where two edges of the outline meet.
+struct CCornerPoint {
+  CPoint at;
+  std::size_t in = 0, out = 0;  // edges
+  double thick = 0;
+  double turn = 0;    // to the left positive
+  bool plain = false;  // the edges run on as one line or circle
+  double size = 0;  // of the stretches here
+};
+
+double Distance(CPoint a, CPoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
+
+// How far a point is from an edge, and whether it lies on its left.
+struct CNear {
+  double distance = 0;
+  bool left = false;
+};
+
+CNear Nearest(CPoint p, CPoint a, CPoint b) {
+  const double dx = b.x - a.x, dy = b.y - a.y;
+  const double square = dx * dx + dy * dy;
+  const double t = square > 0
+                       ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0)
+                       : 0.0;
+  const CPoint q{a.x + t * dx, a.y + t * dy};
+  return {Distance(p, q), dx * (p.y - a.y) - dy * (p.x - a.x) > 0};
+}
+
+CNear Nearest(CPoint p, const CEdge& edge) {
+  const CPoint a = edge.At(0), b = edge.At(1);
+  if (std::fabs(edge.Sweep()) < 1e-3) return Nearest(p, a, b);
+  const CPoint middle = edge.At(0.5), d = edge.Derivative(0.5);
+  const double radius = edge.Length() / edge.Sweep();
+  const CPoint center{middle.x - d.y / edge.Length() * radius,
+                      middle.y + d.x / edge.Length() * radius};
+  const CPoint u{p.x - center.x, p.y - center.y}, m{middle.x - center.x, middle.y - center.y};
+  const double away = std::hypot(u.x, u.y);
+  const double angle = std::atan2(m.x * u.y - m.y * u.x, m.x * u.x + m.y * u.y);
+  const bool left = (away < std::fabs(radius)) == (radius > 0);
+  if (2 * std::fabs(angle) <= std::fabs(edge.Sweep())) {
+    return {std::fabs(away - std::fabs(radius)), left};
+  }
+  return {std::min(Distance(p, a), Distance(p, b)), left};
+}
+
+class CCutter {
+ public:
+  CCutter(std::span<const CPath> loops, int arcs) : m_arcs(arcs) {
+    int number = 0;
+    for (const CPath& loop : loops) AddLoop(loop, number++);
+  }
+
+  CBoundary Cut() {
+    const bool graded = m_edges.size() <= kGradedEdges;
+    if (graded) FindThickness();
+    for (std::size_t e = 0; e < m_edges.size(); ++e) {
+      const CEdge& edge = m_edges[e];
+      const int pieces = edge.IsArc() ? ArcPieces(e) : 1;
+      for (int i = 0; i < pieces; ++i)
+        CutStretch(e, 1.0 * i / pieces, 1.0 * (i + 1) / pieces, graded ? 0 : kDeepest);
+    }
+    if (graded) AddInner();
+    m_out.m_arrEdge = std::move(m_edges);
+    return std::move(m_out);
+  }
+
+ private:
+  void AddLoop(const CPath& loop, int number) {
+    const std::size_t first = m_edges.size();
+    ForEachEdge(loop, [&](const CEdge& edge, std::size_t) {
+      if (edge.Length() == 0) return;
+      m_edges.push_back(edge);
+      m_loop.push_back(number);
+    });
+    const std::size_t count = m_edges.size() - first;
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::size_t in = first + (i + count - 1) % count, out = first + i;
+      const CPoint u = m_edges[in].Derivative(1), v = m_edges[out].Derivative(0);
+      CCornerPoint corner{m_edges[out].At(0), in, out};
+      corner.turn = std::atan2(u.x * v.y - u.y * v.x, u.x * v.x + u.y * v.y);
+      const double bend = m_edges[in].Sweep() / m_edges[in].Length() -
+                          m_edges[out].Sweep() / m_edges[out].Length();
+      corner.plain = std::fabs(corner.turn) < 1e-6 && std::fabs(bend) < 1e-6;
+      m_corners.push_back(corner);
+    }
+  }
+
+  // The distance from each corner to what lies across the material.
+  void FindThickness() {
+    for (CCornerPoint& c : m_corners) {
+      c.thick = 1;
+      for (std::size_t e = 0; e < m_edges.size(); ++e) {
+        const CEdge& edge = m_edges[e];
+        if (e == c.in || e == c.out) {
+          // An arc may bend back on its own end.
+          if (edge.IsArc()) c.thick = std::min(c.thick, Distance(edge.At(0), edge.At(0.5)));
+          continue;
+        }
+        const CNear near = Nearest(c.at, edge);
+        if (near.left) c.thick = std::min(c.thick, near.distance);
+      }
+      c.thick = std::max(c.thick, 1e-7);
+      c.size = c.plain ? 1 : c.thick * (IsSharp(c) ? kAtSharp : kAtCorner);
+    }
+  }
+
+  static bool IsSharp(const CCornerPoint& c) { return c.turn < -0.3; }
+
+  // Pieces whose bulge is small beside the thickness; thin rings need many.
+  int ArcPieces(std::size_t e) const {
+    const CEdge& edge = m_edges[e];
+    const double radius = edge.Length() / std::fabs(edge.Sweep());
+    double step = kArcStep;
+    for (const CCornerPoint& c : m_corners) {
+      if (c.in != e && c.out != e) continue;
+      step = std::min(step, std::sqrt(8 * kSagitta * std::max(c.thick, 1e-6) / radius));
+    }
+    step /= 1 << m_arcs;
+    return std::max(1, static_cast<int>(std::ceil(std::fabs(edge.Sweep()) / step - 1e-9)));
+  }
+
+  void CutStretch(std::size_t e, double from, double to, int depth) {
+    const CEdge& edge = m_edges[e];
+    const CPoint a = edge.At(from), b = edge.At(to);
+    if (depth < kDeepest && edge.Length() * (to - from) > 1.001 * SizeAlong(a, b)) {
+      const double middle = (from + to) / 2;
+      CutStretch(e, from, middle, depth + 1);
+      CutStretch(e, middle, to, depth + 1);
+      return;
+    }
+    m_out.m_arrStretch.push_back({m_loop[e], static_cast<int>(e), from, to});
+  }
+
+  double SizeAlong(CPoint a, CPoint b) const {
+    double size = 1;
+    for (const CCornerPoint& c : m_corners) {
+      if (c.size >= size) continue;
+      size = std::min(size, c.size + kGrowth * Nearest(c.at, a, b).distance);
+    }
+    return size;
+  }
+
+  // Around a sharp corner, points as far inside as the next ones lie on its edges.
+  void AddInner() {
+    std::vector<double> before(m_edges.size(), 0), after(m_edges.size(), 0);
+    for (const CStretch& s : m_out.m_arrStretch) {
+      const auto e = static_cast<std::size_t>(s.m_nEdge);
+      const double length = m_edges[e].Length() * (s.m_dTo - s.m_dFrom);
+      if (s.m_dFrom == 0) after[e] = length;
+      if (s.m_dTo == 1) before[e] = length;
+    }
+    for (const CCornerPoint& c : m_corners) {
+      if (!IsSharp(c)) continue;
+      m_out.m_arrCorner.push_back(c.at);
+      const double inside = std::numbers::pi - c.turn;
+      const CPoint d = m_edges[c.out].Derivative(0);
+      const double start = std::atan2(d.y, d.x);
+      const int rays = std::max(2, static_cast<int>(std::lround(inside / 1.4)));
+      for (int i = 1; i < rays; ++i) {
+        const double part = 1.0 * i / rays;
+        const double r = std::min(after[c.out] * (1 - part) + before[c.in] * part, c.thick * 0.7);
+        m_out.m_arrInner.push_back({c.at.x + r * std::cos(start + inside * part),
+                                    c.at.y + r * std::sin(start + inside * part)});
+      }
+    }
+  }
+
+  int m_arcs;
+  std::vector<CEdge> m_edges;
+  std::vector<int> m_loop;
+  std::vector<CCornerPoint> m_corners;
+  CBoundary m_out;
+};
+
+}  // namespace
+
+CBoundary CutBoundary(std::span<const CPath> loops, int arcs) { return CCutter(loops, arcs).Cut(); }
+
+}  // namespace orv3

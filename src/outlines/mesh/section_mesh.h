@@ -1,0 +1,47 @@
+// Triangles that fill a part of a section, their edges following its lines and arcs.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "drawing/path.h"
+#include "outlines/edge.h"
+
+namespace orv3 {
+
+// A stretch of an edge of the outline.
+struct CStretch {
+  int m_nLoop = 0;
+  int m_nEdge = 0;            // of CSectionMesh::m_arrEdge
+  double m_dFrom = 0, m_dTo = 1;  // of the edge's t, material to the left
+};
+
+struct CMeshTriangle {
+  std::array<int, 3> m_vertex{};
+  std::array<int, 3> m_stretch{-1, -1, -1};  // of the edge from vertex i to the next; -1 inside
+};
+
+struct CSectionMesh {
+  std::vector<CEdge> m_arrEdge;  // of the outline
+  std::vector<CPoint> m_arrVertex;
+  std::vector<CStretch> m_arrStretch;
+  std::vector<CMeshTriangle> m_arrTriangle;
+  std::vector<char> m_arrSharp;  // by vertex: a re-entrant corner
+
+  CPoint At(const CStretch& s, double part) const {
+    return m_arrEdge[static_cast<std::size_t>(s.m_nEdge)].At(s.m_dFrom +
+                                                             (s.m_dTo - s.m_dFrom) * part);
+  }
+};
+
+// The first mesh of a part: graded towards the ends of the edges by the local thickness. Loops of
+// size 1. More than one mesh when the part hangs together in points alone; none when its edges
+// cross.
+std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops);
+
+// The mesh with the marked triangles halved, and others as needed to keep it whole.
+CSectionMesh Refined(const CSectionMesh& mesh, std::span<const char> marked);
+
+}  // namespace orv3

@@ -1,0 +1,130 @@
+#include "outlines/solver/element.h"
+
+#include <cmath>
+
+namespace orv3 {
+namespace {
+
+// The shares of the edge functions of degree 2 to n in a curve, less its chord, of which the values
+// at the n - 1 inner points of CurvePoint are known.
+double CurvePoint(int i, int n) { return (1 - std::cos(M_PI * i / n)) / 2; }
+
+Eigen::MatrixXd CurveShares(int n) {
+  Eigen::MatrixXd values(n - 1, n - 1);
+  for (int i = 1; i < n; ++i) {
+    const double t = CurvePoint(i, n);
+    for (int d = 2; d <= n; ++d) values(i - 1, d - 2) = t * (1 - t) * EdgeKernel(d, 2 * t - 1).value;
+  }
+  return values.inverse();
+}
+
+}  // namespace
+
+CElement::CElement(const CSectionMesh& mesh, const CMeshTriangle& triangle,
+                   const CShapeFunctions& shape, int geometry)
+    : m_shape(shape),
+      m_x(Eigen::VectorXd::Zero(shape.m_nCount)),
+      m_y(Eigen::VectorXd::Zero(shape.m_nCount)) {
+  for (int i = 0; i < 3; ++i) {
+    const CPoint p = mesh.m_arrVertex[static_cast<std::size_t>(
+        triangle.m_vertex[static_cast<std::size_t>(i)])];
+    m_vertex[static_cast<std::size_t>(i)] = p;
+    m_x[i] = p.x;
+    m_y[i] = p.y;
+  }
+  const auto& [a, b, c] = m_vertex;
+  m_xXi = b.x - a.x;
+  m_xEta = c.x - a.x;
+  m_yXi = b.y - a.y;
+  m_yEta = c.y - a.y;
+  m_det = m_xXi * m_yEta - m_xEta * m_yXi;
+  m_xixi = (m_yEta * m_yEta + m_xEta * m_xEta) / m_det;
+  m_xieta = -(m_yEta * m_yXi + m_xEta * m_xXi) / m_det;
+  m_etaeta = (m_yXi * m_yXi + m_xXi * m_xXi) / m_det;
+  for (int i = 0; i < 3; ++i) Bend(mesh, triangle, i, geometry);
+  if (m_curved) Integrate();
+}
+
+void CElement::Bend(const CSectionMesh& mesh, const CMeshTriangle& triangle, int edge,
+                    int geometry) {
+  static const std::array<Eigen::MatrixXd, 5> kShares{Eigen::MatrixXd(), Eigen::MatrixXd(),
+                                                      CurveShares(2), CurveShares(3),
+                                                      CurveShares(4)};
+  const int s = triangle.m_stretch[static_cast<std::size_t>(edge)];
+  if (s < 0 || geometry < 2) return;
+  const CStretch& stretch = mesh.m_arrStretch[static_cast<std::size_t>(s)];
+  if (!mesh.m_arrEdge[static_cast<std::size_t>(stretch.m_nEdge)].IsArc()) return;
+  m_curved = true;
+  const CPoint a = Vertex(edge), b = Vertex((edge + 1) % 3);
+  Eigen::VectorXd dx(geometry - 1), dy(geometry - 1);
+  for (int i = 1; i < geometry; ++i) {
+    const double t = CurvePoint(i, geometry);
+    const CPoint p = mesh.At(stretch, t);
+    dx[i - 1] = p.x - (a.x * (1 - t) + b.x * t);
+    dy[i - 1] = p.y - (a.y * (1 - t) + b.y * t);
+  }
+  const Eigen::MatrixXd& shares = kShares[static_cast<std::size_t>(geometry)];
+  dx = shares * dx;
+  dy = shares * dy;
+  for (int d = 2; d <= geometry; ++d) {
+    m_x[CShapeFunctions::EdgeFunction(edge, d)] += dx[d - 2];
+    m_y[CShapeFunctions::EdgeFunction(edge, d)] += dy[d - 2];
+  }
+}
+
+void CElement::Integrate() {
+  const Eigen::VectorXd x = m_shape.m_value * m_x, y = m_shape.m_value * m_y;
+  const Eigen::ArrayXd xXi = m_shape.m_dxi * m_x, xEta = m_shape.m_deta * m_x;
+  const Eigen::ArrayXd yXi = m_shape.m_dxi * m_y, yEta = m_shape.m_deta * m_y;
+  const Eigen::ArrayXd det = xXi * yEta - xEta * yXi;
+  if (!(det.minCoeff() > 0)) {
+    m_sound = false;
+    return;
+  }
+  const Eigen::ArrayXd root = m_shape.m_weight.array().sqrt();
+  const auto rows = [&](const Eigen::ArrayXd& f, const Eigen::MatrixXd& of) {
+    return f.matrix().asDiagonal() * of;
+  };
+  const Eigen::ArrayXd scale = root / det.sqrt();
+  const Eigen::MatrixXd dx = rows(scale * yEta, m_shape.m_dxi) - rows(scale * yXi, m_shape.m_deta);
+  const Eigen::MatrixXd dy = rows(scale * xXi, m_shape.m_deta) - rows(scale * xEta, m_shape.m_dxi);
+  const Eigen::ArrayXd area = root * det.sqrt();
+  const Eigen::MatrixXd value = rows(area, m_shape.m_value);
+  m_stiffness = dx.transpose() * dx + dy.transpose() * dy;
+  m_mass = value.transpose() * value;
+  m_loads.resize(m_shape.m_nCount, kLoads);
+  const Eigen::VectorXd one = area.matrix();
+  const Eigen::VectorXd ax = (area * x.array()).matrix(), ay = (area * y.array()).matrix();
+  m_loads.col(kLoadOne) = value.transpose() * one;
+  m_loads.col(kLoadX) = value.transpose() * ax;
+  m_loads.col(kLoadY) = value.transpose() * ay;
+  m_loads.col(kLoadDx) = dx.transpose() * one;
+  m_loads.col(kLoadDy) = dy.transpose() * one;
+  m_loads.col(kLoadTwist) = dx.transpose() * ay - dy.transpose() * ax;
+}
+
+Eigen::MatrixXd CElement::Stiffness() const {
+  if (m_curved) return m_stiffness;
+  return m_xixi * m_shape.m_xixi + m_xieta * m_shape.m_xieta + m_etaeta * m_shape.m_etaeta;
+}
+
+double CElement::Energy(const Eigen::VectorXd& u) const { return u.dot(Stiffness() * u); }
+
+Eigen::MatrixXd CElement::Mass() const { return m_curved ? m_mass : m_det * m_shape.m_mass; }
+
+CLoadMatrix CElement::Loads() const {
+  if (m_curved) return m_loads;
+  CLoadMatrix loads(m_shape.m_nCount, kLoads);
+  const Eigen::Vector3d x = m_x.head(3), y = m_y.head(3), one(1, 1, 1);
+  const auto mass = m_shape.m_mass.leftCols(3);
+  loads.col(kLoadOne) = m_det * (mass * one);
+  loads.col(kLoadX) = m_det * (mass * x);
+  loads.col(kLoadY) = m_det * (mass * y);
+  loads.col(kLoadDx) = m_yEta * (m_shape.m_xi * one) - m_yXi * (m_shape.m_eta * one);
+  loads.col(kLoadDy) = m_xXi * (m_shape.m_eta * one) - m_xEta * (m_shape.m_xi * one);
+  loads.col(kLoadTwist) = m_yEta * (m_shape.m_xi * y) - m_yXi * (m_shape.m_eta * y) -
+                          m_xXi * (m_shape.m_eta * x) + m_xEta * (m_shape.m_xi * x);
+  return loads;
+}
+
+}  // namespace orv3

@@ -1,0 +1,50 @@
+// A triangle of the mesh as a finite element: its integrals in the shape functions of a degree.
+#pragma once
+
+#include <Eigen/Dense>
+#include <array>
+
+#include "outlines/mesh/section_mesh.h"
+#include "outlines/solver/shape_functions.h"
+
+namespace orv3 {
+
+// The columns of CElement::Loads: integrals of v, x v, y v, dv/dx, dv/dy and y dv/dx - x dv/dy with
+// each shape function v.
+enum CLoad { kLoadOne, kLoadX, kLoadY, kLoadDx, kLoadDy, kLoadTwist, kLoads };
+using CLoadMatrix = Eigen::Matrix<double, Eigen::Dynamic, kLoads>;
+
+// Curved edges are polynomials of the degree `geometry` through points of the arc, so that x and y
+// are themselves among the functions.
+class CElement {
+ public:
+  CElement(const CSectionMesh& mesh, const CMeshTriangle& triangle, const CShapeFunctions& shape,
+           int geometry);
+
+  bool IsSound() const { return m_sound; }
+  CPoint Vertex(int i) const { return m_vertex[static_cast<std::size_t>(i)]; }
+  Eigen::MatrixXd Stiffness() const;  // integrals of the products of gradients
+  double Energy(const Eigen::VectorXd& u) const;
+  Eigen::MatrixXd Mass() const;
+  CLoadMatrix Loads() const;
+  // x and y in the shape functions.
+  const Eigen::VectorXd& X() const { return m_x; }
+  const Eigen::VectorXd& Y() const { return m_y; }
+
+ private:
+  void Bend(const CSectionMesh& mesh, const CMeshTriangle& triangle, int edge, int geometry);
+  void Integrate();
+
+  const CShapeFunctions& m_shape;
+  std::array<CPoint, 3> m_vertex;
+  Eigen::VectorXd m_x, m_y;
+  bool m_curved = false, m_sound = true;
+  // Of a straight triangle.
+  double m_det = 0, m_xixi = 0, m_xieta = 0, m_etaeta = 0;
+  double m_xXi = 0, m_xEta = 0, m_yXi = 0, m_yEta = 0;
+  // Of a curved one.
+  Eigen::MatrixXd m_stiffness, m_mass;
+  CLoadMatrix m_loads;
+};
+
+}  // namespace orv3

@@ -1,0 +1,69 @@
+// The torsion and the two flexure problems of a part, by finite elements on a mesh.
+//
+// With x, y from the centroid, over the area and in shape functions of two degrees:
+//   warping  w: div grad w = 0, grad w + (-y, x) tangential to the boundary
+//   flexure  f: div grad f = -x (and -y), grad f tangential to the boundary
+#pragma once
+
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "outlines/solver/element.h"
+
+namespace orv3 {
+
+// Of a part, in the mesh's units and frame.
+struct CTorsionShear {
+  double It = 0, Iw = 0;
+  CPoint m_center;                    // shear center
+  double m_dFlexX = 0, m_dFlexY = 0;  // the reciprocals of the shear areas
+};
+
+// By element the shares of the shape functions: of the warping about the centroid, of the flexure
+// functions of x and of y.
+using CFields = std::vector<Eigen::Matrix<double, Eigen::Dynamic, 3>>;
+
+class CSaintVenant {
+ public:
+  // Of shape functions up to this degree; 2 or more.
+  CSaintVenant(CSectionMesh mesh, int degree);
+
+  // False when an arc cannot be followed by its triangle, or the equations cannot be solved.
+  bool IsSound() const { return m_sound; }
+  // Twice: with all functions, and with those of a lower degree. The true energies lie beyond the
+  // first on the side away from the second.
+  const CTorsionShear& Fine() const { return m_fine; }
+  const CTorsionShear& Coarse() const { return m_coarse; }
+
+  double Area() const { return m_area; }
+  const CSectionMesh& Mesh() const { return m_mesh; }
+  const CElement& Element(std::size_t i) const { return m_elements[i]; }
+  const CShapeFunctions& Shape() const { return *m_shape; }
+  CPoint Centroid() const { return m_centroid; }
+  const CFields& Fields() const { return m_fields; }
+  // By element: its share of the difference of the two solutions, in the energy of either problem.
+  std::vector<double> Shares() const;
+
+ private:
+  void MakeElements(int geometry);
+  void NumberEdges();
+  std::optional<CFields> Solve(int degree) const;
+  CTorsionShear Figures(const CFields& fields) const;
+  Eigen::MatrixXd Forces(std::size_t element) const;
+
+  CSectionMesh m_mesh;
+  int m_degree;
+  const CShapeFunctions* m_shape;
+  std::vector<CElement> m_elements;
+  std::vector<std::array<int, 3>> m_edges;  // of each element, numbered
+  int m_edgeCount = 0;
+  double m_area = 0;
+  CPoint m_centroid;
+  double m_Ix = 0, m_Iy = 0, m_Ixy = 0;
+  bool m_sound = false;
+  CFields m_fields, m_lower;
+  CTorsionShear m_fine, m_coarse;
+};
+
+}  // namespace orv3

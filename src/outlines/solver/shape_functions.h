@@ -1,0 +1,50 @@
+// Hierarchical shape functions of a triangle, and their integrals over the reference triangle
+// (0, 0), (1, 0), (0, 1).
+//
+// By rising degree: the 3 vertex functions; then of each degree d one function for each edge, and
+// d - 2 that vanish on all edges. The first (q + 1) (q + 2) / 2 span the polynomials of degree q.
+// The function of degree d of the edge a -> b is la lb P'_{d-1}(lb - la) with the barycentric la, lb
+// and Legendre's P, so it changes sign with the edge's direction when d is odd.
+#pragma once
+
+#include <Eigen/Dense>
+#include <vector>
+
+namespace orv3 {
+
+// Which functions of a degree stand on the boundary of the triangle, and which inside.
+struct CDegreeFunctions {
+  std::vector<int> m_arrSkeleton;  // vertices, edge 0 by degree, edge 1, edge 2
+  std::vector<int> m_arrInterior;
+};
+
+class CShapeFunctions {
+ public:
+  explicit CShapeFunctions(int degree);
+  // Tables made once for the degrees in use, 1 to 6.
+  static const CShapeFunctions& Of(int degree);
+
+  static constexpr int Count(int degree) { return (degree + 1) * (degree + 2) / 2; }
+  // The number of the function of degree d >= 2 of edge 0, 1 or 2.
+  static constexpr int EdgeFunction(int edge, int d) { return Count(d - 1) + edge; }
+  static CDegreeFunctions Functions(int degree);
+
+  // At (xi, eta): values, and derivatives by xi and eta.
+  void Evaluate(double xi, double eta, double* value, double* dxi, double* deta) const;
+
+  int m_nDegree = 0;
+  int m_nCount = 0;
+  // At the points of a quadrature that integrates degree 2 p exactly, a row each.
+  Eigen::MatrixXd m_value, m_dxi, m_deta;
+  Eigen::VectorXd m_weight;
+  // Integrals of products: of derivatives, of values, of a derivative and a vertex function.
+  Eigen::MatrixXd m_xixi, m_xieta, m_etaeta, m_mass, m_xi, m_eta;
+};
+
+// P'_{d-1} and its derivative at x.
+struct CKernel {
+  double value = 0, slope = 0;
+};
+CKernel EdgeKernel(int d, double x);
+
+}  // namespace orv3
