@@ -74,7 +74,12 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
 
   bool null() override { return Other("null"); }
-  bool boolean(bool value) override { return Other(value ? "true" : "false"); }
+  bool boolean(bool value) override {
+    if (m_nDepth != Field() || m_nKey == kNone || !Rule().m_bBoolean)
+      return Other(value ? "true" : "false");
+    Set(value ? 1.0 : 0.0);
+    return true;
+  }
   bool number_integer(number_integer_t value) override {
     return Number(static_cast<double>(value), std::to_string(value));
   }
@@ -93,7 +98,14 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   bool start_object(std::size_t) override {
     if (m_nDepth == 0) m_case.m_bSingle = true;
-    if (m_nDepth >= Field()) Other("{…}");
+    if (m_nDepth >= Field()) {
+      if (m_nDepth == Field() && m_bObjectNext) {
+        m_bInObject = true;
+      } else {
+        Other("{…}");
+      }
+    }
+    m_bObjectNext = false;
     ++m_nDepth;
     return true;
   }
@@ -130,8 +142,8 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
  private:
   static constexpr int kNone = -1;
 
-  // How many brackets are open where the keys of a case stand.
-  int Field() const noexcept { return m_case.m_bSingle ? 1 : 2; }
+  // How many brackets are open where the keys of a case, or of the object within it, stand.
+  int Field() const noexcept { return (m_case.m_bSingle ? 1 : 2) + (m_bInObject ? 1 : 0); }
   std::vector<double>& List() { return m_arrList[static_cast<std::size_t>(m_nKey)]; }
   const CCaseSchema::CRule& Rule() const {
     return m_arrRule[static_cast<std::size_t>(m_nKey == m_nSpare ? m_nTwice : m_nKey)];
@@ -141,6 +153,7 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     m_case.m_arrValue.assign(m_arrRule.size() + 1, std::nullopt);
     m_case.m_fault.reset();
     m_nKey = kNone;
+    m_bInObject = m_bObjectNext = false;
     m_bytes.StartCase();
   }
 
@@ -155,7 +168,14 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     if (!m_case.m_fault) m_case.m_fault = std::move(fault);
   }
 
-  void FindKey(const std::string& key) {
+  void FindKey(const std::string& name) {
+    m_bObjectNext = !m_bInObject && m_schema.IsObject(name);
+    if (m_bObjectNext) {
+      m_strObject = name;
+      m_nKey = kNone;
+      return;
+    }
+    const std::string key = m_bInObject ? m_strObject + '.' + name : name;
     m_nKey = m_schema.Find(key);
     if (m_nKey == kNone) return Fault(m_schema.Unknown(key));
     if (!m_case.m_arrValue[static_cast<std::size_t>(m_nKey)]) return;
@@ -210,6 +230,12 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   // What stands where it cannot: no object as a case, or a value that no key takes.
   bool Other(const std::string& text) {
+    if (std::exchange(m_bObjectNext, false)) {
+      Fault({m_strObject,
+             {text + " 不可用", text + " is not possible"},
+             {"请给出花括号内的键", "give its keys in braces"}});
+      return true;
+    }
     if (m_nDepth == 0) {
       m_file.Refuse({"没有算例；请给出一个对象或对象的数组",
                      "holds no case; give an object, or an array of them"});
@@ -231,7 +257,13 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
 
   bool End() {
-    if (--m_nDepth == Field() - 1 && m_nDepth > 0) HandOver();
+    if (--m_nDepth != Field() - 1) return true;
+    if (m_bInObject) {
+      m_bInObject = false;
+      m_nKey = kNone;
+    } else if (m_nDepth > 0) {
+      HandOver();
+    }
     return true;
   }
 
@@ -246,6 +278,9 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   int m_nKey = kNone;    // whose value comes next
   int m_nTwice = kNone;  // the key whose second value goes to the spare place
   bool m_bList = false;
+  std::string m_strObject;     // the object within the case that was named last
+  bool m_bObjectNext = false;  // its value comes next
+  bool m_bInObject = false;    // its keys are read
   std::vector<std::string> m_arrText;  // what the values point to, by key
   std::vector<std::vector<double>> m_arrList;
 };

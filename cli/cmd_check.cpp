@@ -12,6 +12,7 @@
 #include "case_schema.h"
 #include "case_source.h"
 #include "check_answers.h"
+#include "check_member.h"
 #include "commands.h"
 #include "connections/report/connection_report.h"
 #include "error.h"
@@ -34,6 +35,8 @@ struct COptions {
   std::string report;
   std::string project;
   std::string language;  // "zh", "en", or empty
+  std::string code;      // "2017", "2003", or empty
+  CStoreOptions store;
 
   // Of what is printed, and of the report.
   CLanguage Language() const noexcept {
@@ -279,7 +282,16 @@ class CChecker {
   std::string m_strFirstFault;
 };
 
+CExit RunMembers(const COptions& options) {
+  if (!options.report.empty() || !options.project.empty())
+    Refuse("--report: members have no report yet; right would be --json or --csv");
+  return CheckMembers({options.file, options.code, options.json, options.csv, options.sort,
+                       options.Language(), options.store});
+}
+
 CExit RunCheck(const COptions& options) {
+  if (options.kind == "member") return RunMembers(options);
+  if (!options.code.empty()) Refuse("--code: is for members; leave it out");
   if (options.kind == "bolt") return CChecker<CBoltCheck>(options, kBoltSchema).Run();
   if (options.kind == "fillet") return CChecker<CFilletCheck>(options, kFilletSchema).Run();
   return CChecker<CButtCheck>(options, kButtSchema).Run();
@@ -295,10 +307,10 @@ std::string FileName(const std::string& name) {
 void AddCheckCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "check", "Check bolt groups, fillet welds or butt welds; exit status 1 when one fails");
+      "check", "Check bolt groups, fillet welds, butt welds or members; exit status 1 when one fails");
   command->add_option("KIND", options->kind, "What to check")
       ->required()
-      ->check(CLI::IsMember({"bolt", "fillet", "butt"}));
+      ->check(CLI::IsMember({"bolt", "fillet", "butt", "member"}));
   command
       ->add_option(
           "FILE", options->file,
@@ -318,6 +330,9 @@ void AddCheckCommand(CLI::App& program) {
           "--lang", options->language,
           "Language of the answers (en unless given) and of the report (zh unless given): zh or en")
       ->check(CLI::IsMember({"zh", "en"}));
+  command->add_option("--code", options->code, "Edition of GB 50017 for members: 2017 or 2003")
+      ->type_name("YEAR");
+  AddStoreOptions(*command, options->store);
   command->callback([options] {
     const CExit exit = RunCheck(*options);
     if (exit != CExit::Done) throw exit;

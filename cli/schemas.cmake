@@ -1,6 +1,6 @@
 # Puts the schemas of docs/schema into the command.
 set(schemas "#include \"schemas.h\"\n\nnamespace orv3::cli {\n\n")
-foreach(kind Bolt Fillet Butt Lattice)
+foreach(kind Bolt Fillet Butt Lattice Member)
   string(TOLOWER ${kind} name)
   set(file ${PROJECT_SOURCE_DIR}/docs/schema/${name}.schema.json)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
