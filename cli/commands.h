@@ -15,6 +15,7 @@ void AddShowCommand(CLI::App& program);
 void AddLatticeCommand(CLI::App& program);
 void AddCodeCommand(CLI::App& program);
 void AddCheckCommand(CLI::App& program);
+void AddChooseCommand(CLI::App& program);
 void AddGaugeCommand(CLI::App& program);
 void AddStoreCommand(CLI::App& program);
 

@@ -20,13 +20,20 @@ struct CEffectiveSection {
   double m_dRho = 1;
   double m_dHc = 0;            // compressed height of the web
   double m_dLost = 0;          // height of the web that does not count
-  double m_dFlangeLost = 0;    // of each outstand
+  double m_dFlangeLost = 0;    // of each outstand, the greater of both flanges
+};
+
+// Which plates are reduced.
+struct CReducedPlates {
+  bool m_bWeb = false;
+  bool m_bFlange = false;       // the compressed one
+  bool m_bOtherFlange = false;  // compressed in part by a moment about y
 };
 
 // compressed: the edge with the greater compression; alpha0 >= 0 as in 3.5.1, above 1 where part
-// of the web is in tension. bWeb, bFlange: which of them are reduced.
+// of the web is in tension.
 ORV3CAL_API CEffectiveSection EffectiveSection(const CMemberSection& section, CSide compressed,
-                                               double alpha0, double epsilonK, bool bWeb,
-                                               bool bFlange) noexcept;
+                                               double alpha0, double epsilonK,
+                                               CReducedPlates reduced) noexcept;
 
 }  // namespace orv3

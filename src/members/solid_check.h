@@ -37,7 +37,7 @@ class CSolidCheck {
   void Classify(CClassElement element, double ratio, double alpha0);
   double Class4(CClassElement element, double alpha0) const;  // the limit of S4
   double Class5(CClassElement element) const;
-  void Reduce(const CWebStress& stress, bool bWeb, bool bFlange);
+  void Reduce(const CWebStress& stress, CReducedPlates reduced);
   double FlangeRatio() const;  // of the outstands that a moment compresses
   double BoxFlangeRatio() const;
   void Plates();

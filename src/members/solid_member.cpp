@@ -134,8 +134,11 @@ void CSolidCheck::TorsionalSlendernesses() {
   const bool bFlexuralTorsional =
       s.m_nShape == CMemberShape::T || s.m_nShape == CMemberShape::Channel ||
       (s.m_nShape == CMemberShape::I && !s.IsEqualFlanged());
-  if (bFlexuralTorsional || (s.m_nShape == CMemberShape::I && Is2017())) {
-    const double e = s.m_nShape == CMemberShape::Channel ? s.m_dXs : s.m_dYs;
+  const bool bTorsional = s.m_nShape == CMemberShape::I && Is2017() && !HasMoment();
+  if (bFlexuralTorsional || bTorsional) {
+    const double e = !bFlexuralTorsional                       ? 0
+                     : s.m_nShape == CMemberShape::Channel ? s.m_dXs
+                                                           : s.m_dYs;
     const double I0 = s.m_dIx + s.m_dIy + s.m_dA * e * e;
     r.m_dLambdaZ = TorsionalSlenderness(I0, s.m_dIt, s.m_dIw, q.m_dLz);
     a.Step("It", nullptr, s.m_dIt, "mm⁴");

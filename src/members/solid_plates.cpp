@@ -105,7 +105,7 @@ void CSolidCheck::ClassifyPlates() {
       Classify(flange, BoxFlangeRatio(), 2);
       Classify(web, s.m_dH0 / s.m_dTw, 2);
       if (s.m_dH0 / s.m_dTw > Class4(web, 2) && !q.m_x.IsZero() && q.m_y.IsZero())
-        Reduce(WebStress(m_dMx), true, false);
+        Reduce(WebStress(m_dMx), {.m_bWeb = true});
       return;
     }
     case CMemberShape::Tube:
@@ -129,15 +129,16 @@ void CSolidCheck::ClassifyOpen() {
   const bool bWebReduced = bWeb && h0tw > Class4(web, stress.m_dAlpha0);
   const bool bFlangeReduced = bFlange && m_dNc == 0 && s.m_nShape == CMemberShape::I &&
                               flange > Class4(CClassElement::FlangeOutstand, 2);
-  if (bWebReduced || bFlangeReduced) Reduce(stress, bWebReduced, bFlangeReduced);
+  if (bWebReduced || bFlangeReduced)
+    Reduce(stress, {bWebReduced, bFlangeReduced, bFlangeReduced && !q.m_y.IsZero()});
 }
 
-void CSolidCheck::Reduce(const CWebStress& stress, bool bWeb, bool bFlange) {
-  const CEffectiveSection e = EffectiveSection(s, m_nSide, stress.m_dAlpha0, r.m_dEpsilonK, bWeb,
-                                               bFlange);
+void CSolidCheck::Reduce(const CWebStress& stress, CReducedPlates reduced) {
+  const CEffectiveSection e =
+      EffectiveSection(s, m_nSide, stress.m_dAlpha0, r.m_dEpsilonK, reduced);
   m_effective = e;
   a.Note(CMemberNote::EffectiveSection);
-  if (bWeb) {
+  if (reduced.m_bWeb) {
     a.Step("α0", nullptr, stress.m_dAlpha0);
     a.Step("kσ", "16/(2 − {α0} + √((2 − {α0})² + 0.112·{α0}²))", e.m_dKSigma);
     a.Step("h0", nullptr, s.m_dH0, "mm");

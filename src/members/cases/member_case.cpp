@@ -361,7 +361,8 @@ bool NeedsTorsion(const CMemberSection& s, const CMemberSteel& steel,
     case CMemberShape::Channel:
       return true;
     case CMemberShape::I:
-      return !s.IsEqualFlanged() || steel.m_nEdition == CCodeEdition::Gb2017;
+      return !s.IsEqualFlanged() || (steel.m_nEdition == CCodeEdition::Gb2017 &&
+                                     loads.m_x.IsZero() && loads.m_y.IsZero());
     default:
       return false;
   }
