@@ -193,11 +193,12 @@ bool CMemberCheck::ReadClasses(const CMemberCase& input, const CMemberRow& secti
     return Refuse("edges", {"只用于焊接工字形和 T 形截面", "is for welded I and T sections alone"},
                   {"请删去", "leave it out"});
   }
-  const bool bRolled = input.m_strEdges == "rolled";
-  if (!bRolled && !input.m_strEdges.empty() && input.m_strEdges != "flame-cut") {
+  if (input.m_strEdges != "" && input.m_strEdges != "rolled" && input.m_strEdges != "flame-cut") {
     return Refuse("edges", {input.m_strEdges + " 不可用", input.m_strEdges + " is not possible"},
                   {"请给出 flame-cut 或 rolled", "give flame-cut or rolled"});
   }
+  if (!(input.m_dN < 0)) return true;  // classes are asked by compression alone
+  const bool bRolled = input.m_strEdges == "rolled";
   const CBucklingShape shape = bRolled ? section.m_nRolled : section.m_nFlameCut;
   const double t = section.m_dThickest;
   const CSteelGrade grade = m_steel.m_nGrade;

@@ -220,9 +220,12 @@ std::optional<CCaseFault> CRowReader::Angles(CSectionKind kind) {
                                          : CMemberShape::ShortLegPair;
   const CString no = m_row[0].m_strValue;
   const CDataItem part = CLoadDataTable::GetSysTemJMItem(TableOf(pair->m_part).m_szName,
-                                                         no.Mid(pair->m_nMarker - 1));
+                                                         no.Mid(pair->m_nMarker));
   Leg(part, bUnequal);
-  return std::nullopt;
+  if (s.m_dLeg > 0 && s.m_dLegShort > 0 && s.m_dLegThick > 0) return std::nullopt;
+  return CCaseFault{"section",
+                    {"库中没有组合的角钢 " + ToUtf8(no), "has no angle in the store for " + ToUtf8(no)},
+                    {"请在库中加入该角钢", "add it to the store"}};
 }
 
 std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
