@@ -278,9 +278,9 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   int m_nKey = kNone;    // whose value comes next
   int m_nTwice = kNone;  // the key whose second value goes to the spare place
   bool m_bList = false;
-  std::string m_strObject;     // the object within the case that was named last
-  bool m_bObjectNext = false;  // its value comes next
-  bool m_bInObject = false;    // its keys are read
+  std::string m_strObject;             // the object within the case that was named last
+  bool m_bObjectNext = false;          // its value comes next
+  bool m_bInObject = false;            // its keys are read
   std::vector<std::string> m_arrText;  // what the values point to, by key
   std::vector<std::vector<double>> m_arrList;
 };

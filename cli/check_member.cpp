@@ -45,9 +45,8 @@ class CMembers {
     if (m_bOne && m_fault) RefuseFile(m_fault->Text());
     if (m_nRefused > 0) {
       const std::string refused = std::to_string(m_nRefused), cases = std::to_string(m_nCases);
-      RefuseFile(
-          {cases + " 个算例中有 " + refused + " 个被拒绝，第一个：" + m_strFirstFault,
-           refused + " of " + cases + " cases refused, the first: " + m_strFirstFault});
+      RefuseFile({cases + " 个算例中有 " + refused + " 个被拒绝，第一个：" + m_strFirstFault,
+                  refused + " of " + cases + " cases refused, the first: " + m_strFirstFault});
     }
     return m_nFailed > 0 ? CExit::CheckFailed : CExit::Done;
   }

@@ -307,7 +307,8 @@ std::string FileName(const std::string& name) {
 void AddCheckCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "check", "Check bolt groups, fillet welds, butt welds or members; exit status 1 when one fails");
+      "check",
+      "Check bolt groups, fillet welds, butt welds or members; exit status 1 when one fails");
   command->add_option("KIND", options->kind, "What to check")
       ->required()
       ->check(CLI::IsMember({"bolt", "fillet", "butt", "member"}));

@@ -35,7 +35,8 @@ std::vector<CMemberCase> ReadMembers(const COptions& options) {
     CMemberCase input;
     auto fault = reader.Read(read, input);
     if (!fault && (!input.m_strTable.empty() || !input.m_strStyle.empty()))
-      fault = CCaseFault{"section", {"由本命令选取", "is what is chosen"}, {"请删去", "leave it out"}};
+      fault =
+          CCaseFault{"section", {"由本命令选取", "is what is chosen"}, {"请删去", "leave it out"}};
     if (fault) {
       Refuse(Visible(options.file) + ": case " + std::to_string(cases.size() + 1) + ", " +
              fault->Line(CLanguage::English));
@@ -58,8 +59,8 @@ std::vector<CMemberCandidate> Candidates(const COptions& options) {
   for (const CString& table : tables) {
     std::vector<CMemberCandidate> rows = MemberCandidates(table);
     if (rows.empty() && options.tables != "all") {
-      Refuse("--table: the store has no rows of \"" + ToUtf8(table) + "\"; the nearest are: " +
-             Nearest(ToUtf8(table), MemberTables()));
+      Refuse("--table: the store has no rows of \"" + ToUtf8(table) +
+             "\"; the nearest are: " + Nearest(ToUtf8(table), MemberTables()));
     }
     std::move(rows.begin(), rows.end(), std::back_inserter(candidates));
   }
@@ -83,8 +84,8 @@ CExit RunChoose(const COptions& options) {
   std::size_t shown = choice.m_arrChosen.size();
   if (options.top > 0) shown = std::min(shown, static_cast<std::size_t>(options.top));
   CJson rows = CJson::array();
-  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left,
-                    CAlign::Left});
+  CTextTable table(
+      {CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left, CAlign::Left});
   table.AddRow({"table", "no", "kg/m", "utilisation", "governs", "case"});
   std::string csv = "table,no,mass,ratio,governs,case\n";
   for (std::size_t i = 0; i < shown; ++i) {
@@ -125,10 +126,10 @@ CExit RunChoose(const COptions& options) {
   } else {
     Print((shown > 0 ? table.Text() + '\n' : "") + std::to_string(choice.m_arrChosen.size()) +
           " of " + std::to_string(choice.m_nTried) + " sections pass" +
-          (choice.m_nRefused > 0 ? ", " + std::to_string(choice.m_nRefused) +
-                                       " more are not covered, the first: " +
-                                       choice.m_fault->Line(CLanguage::English)
-                                 : "") +
+          (choice.m_nRefused > 0
+               ? ", " + std::to_string(choice.m_nRefused) +
+                     " more are not covered, the first: " + choice.m_fault->Line(CLanguage::English)
+               : "") +
           '\n');
   }
   return choice.m_arrChosen.empty() ? CExit::CheckFailed : CExit::Done;
@@ -140,7 +141,9 @@ void AddChooseCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
       "choose", "Find the lightest sections that pass a member's cases; exit status 1 for none");
-  command->add_option("FILE", options->file, "Cases of check member without a section; - is standard input")
+  command
+      ->add_option("FILE", options->file,
+                   "Cases of check member without a section; - is standard input")
       ->required();
   command->add_option("--table", options->tables, "Tables to choose from, joined by commas, or all")
       ->required()

@@ -21,7 +21,8 @@ void AddStoreCommand(CLI::App& program);
 
 // The commands in the order of the help; a new one is entered here.
 inline constexpr void (*kCommands[])(CLI::App&) = {
-    AddStylesCommand,  AddSectionCommand, AddTablesCommand, AddRowsCommand,  AddShowCommand,
-    AddLatticeCommand, AddCodeCommand,    AddCheckCommand,  AddChooseCommand, AddGaugeCommand, AddStoreCommand};
+    AddStylesCommand, AddSectionCommand, AddTablesCommand, AddRowsCommand,
+    AddShowCommand,   AddLatticeCommand, AddCodeCommand,   AddCheckCommand,
+    AddChooseCommand, AddGaugeCommand,   AddStoreCommand};
 
 }  // namespace orv3::cli

@@ -15,9 +15,8 @@ namespace orv3::cli {
 CMemberReader::CMemberReader() : m_schema(kMemberSchema) {
   for (const auto& rule : m_schema.Rules()) {
     const auto keys = MemberInputKeys();
-    const auto key = std::find_if(keys.begin(), keys.end(), [&](const auto& each) {
-      return rule.m_strKey == each.m_szKey;
-    });
+    const auto key = std::find_if(keys.begin(), keys.end(),
+                                  [&](const auto& each) { return rule.m_strKey == each.m_szKey; });
     if (key == keys.end()) throw std::logic_error("schema: no field for " + rule.m_strKey);
     m_arrKey.push_back(&*key);
   }

@@ -8,8 +8,8 @@
 namespace orv3 {
 
 // N'E = pi^2 E A / (1.1 lambda^2).
-ORV3CAL_API double EulerForce(double A, double lambda) noexcept;          // pi^2 E A / lambda^2
-ORV3CAL_API double ReducedEulerForce(double A, double lambda) noexcept;   // that by 1.1
+ORV3CAL_API double EulerForce(double A, double lambda) noexcept;         // pi^2 E A / lambda^2
+ORV3CAL_API double ReducedEulerForce(double A, double lambda) noexcept;  // that by 1.1
 // N / (phi A f).
 ORV3CAL_API double AxialTerm(double N, double phi, double A, double f) noexcept;
 // beta M / (gamma W (1 - share N / N'E) f): share 0.8, lattice 1.0, tension side 1.25.

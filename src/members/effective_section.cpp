@@ -29,7 +29,8 @@ CEffectiveSection EffectiveSection(const CMemberSection& s, CSide compressed, do
   CEffectiveSection e;
   CLost lost;
   if (reduced.m_bWeb) {
-    e.m_dKSigma = 16 / (2 - alpha0 + std::sqrt((2 - alpha0) * (2 - alpha0) + 0.112 * alpha0 * alpha0));
+    e.m_dKSigma =
+        16 / (2 - alpha0 + std::sqrt((2 - alpha0) * (2 - alpha0) + 0.112 * alpha0 * alpha0));
     e.m_dLambdaNp = s.m_dH0 / s.m_dTw / (28.1 * std::sqrt(e.m_dKSigma)) / epsilonK;
     if (e.m_dLambdaNp > 0.75) e.m_dRho = (1 - 0.19 / e.m_dLambdaNp) / e.m_dLambdaNp;
     e.m_dHc = alpha0 > 1 ? s.m_dH0 / alpha0 : s.m_dH0;

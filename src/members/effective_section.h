@@ -11,16 +11,16 @@ enum class CSide { Top, Bottom };
 
 struct CEffectiveSection {
   double m_dA = 0;
-  double m_dE = 0;             // shift of the centroid away from the compressed edge, mm
-  double m_dWCompressed = 0;   // of the compressed edge
-  double m_dWOther = 0;        // of the edge opposite
-  double m_dWSide = 0;         // about y
-  double m_dKSigma = 0;        // 0 where the web counts whole without asking
+  double m_dE = 0;            // shift of the centroid away from the compressed edge, mm
+  double m_dWCompressed = 0;  // of the compressed edge
+  double m_dWOther = 0;       // of the edge opposite
+  double m_dWSide = 0;        // about y
+  double m_dKSigma = 0;       // 0 where the web counts whole without asking
   double m_dLambdaNp = 0;
   double m_dRho = 1;
-  double m_dHc = 0;            // compressed height of the web
-  double m_dLost = 0;          // height of the web that does not count
-  double m_dFlangeLost = 0;    // of each outstand, the greater of both flanges
+  double m_dHc = 0;          // compressed height of the web
+  double m_dLost = 0;        // height of the web that does not count
+  double m_dFlangeLost = 0;  // of each outstand, the greater of both flanges
 };
 
 // Which plates are reduced.

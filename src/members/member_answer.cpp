@@ -41,9 +41,7 @@ struct CNoteText {
 };
 
 constexpr CNoteText kNotes[] = {
-    {CMemberNote::Q355,
-     "steel",
-     {"Q355 按 Q345 一栏取值", "Q355 is taken by the figures of Q345"}},
+    {CMemberNote::Q355, "steel", {"Q355 按 Q345 一栏取值", "Q355 is taken by the figures of Q345"}},
     {CMemberNote::NoSupportsAtEnds,
      "supports",
      {"M1、M2 按受压翼缘自由段两端的弯矩取用",
@@ -96,9 +94,7 @@ constexpr CNoteText kNotes[] = {
     {CMemberNote::HolesWithoutBolts,
      "net",
      {"受压：net 按没有螺栓的孔计", "compression: net is taken as holes without bolts"}},
-    {CMemberNote::RolledEdges,
-     "edges",
-     {"翼缘按焰切边", "flange edges are taken as flame-cut"}},
+    {CMemberNote::RolledEdges, "edges", {"翼缘按焰切边", "flange edges are taken as flame-cut"}},
     {CMemberNote::BattenStiffness,
      "lacing",
      {"假定同一截面处缀板的线刚度之和不小于柱分肢线刚度的 6 倍",

@@ -16,8 +16,7 @@ CTurns Turns(const CMomentCourse& c) noexcept {
   double at = 0.5;
   if (c.m_nLoad == CSpanLoad::Uniform)
     at = std::clamp(0.5 + (c.m_dM2 - c.m_dM1) / (8 * c.m_dMq), 0.0, 1.0);
-  const double load =
-      c.m_nLoad == CSpanLoad::Uniform ? 4 * c.m_dMq * at * (1 - at) : c.m_dMq;
+  const double load = c.m_nLoad == CSpanLoad::Uniform ? 4 * c.m_dMq * at * (1 - at) : c.m_dMq;
   return {c.m_dM1, c.m_dM2, c.m_dM1 + (c.m_dM2 - c.m_dM1) * at + load};
 }
 

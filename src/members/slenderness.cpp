@@ -9,8 +9,7 @@ double TorsionalSlenderness(double I0, double It, double Iw, double lw) noexcept
   return std::sqrt(I0 / (It / 25.7 + Iw / (lw * lw)));
 }
 
-double FlexuralTorsionalSlenderness(double lambda, double lambdaZ, double e,
-                                    double i02) noexcept {
+double FlexuralTorsionalSlenderness(double lambda, double lambdaZ, double e, double i02) noexcept {
   const double a = lambda * lambda, z = lambdaZ * lambdaZ;
   const double root = (a + z) * (a + z) - 4 * (1 - e * e / i02) * a * z;
   return std::sqrt((a + z + std::sqrt(std::max(0.0, root))) / 2);

@@ -91,9 +91,9 @@ class CSolidCheck {
   CMemberAnswer& a;
   CMemberResults& r;
 
-  double m_dNc = 0;  // compression, >= 0
-  double m_dMx = 0;  // the governing one, with its sign
-  double m_dMy = 0;  // in magnitude
+  double m_dNc = 0;            // compression, >= 0
+  double m_dMx = 0;            // the governing one, with its sign
+  double m_dMy = 0;            // in magnitude
   CSide m_nSide = CSide::Top;  // that Mx compresses
   double m_dLambdaMax = 0;     // of both axes, without torsion
   double m_dLambdaFx = 0;      // of flexure about x together with torsion (channels), else lambda x

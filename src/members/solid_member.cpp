@@ -66,35 +66,42 @@ void CSolidCheck::RefuseWhatIsNotCovered() {
   };
   const char* moment = !q.m_x.IsZero() ? "Mx" : "My";
   if (IsAngleShape(s.m_nShape) && (HasMoment() || q.m_dVx != 0 || q.m_dVy != 0)) {
-    return refuse(HasMoment() ? moment : q.m_dVy != 0 ? "Vy" : "Vx",
-                  {"单角钢和双角钢只验算轴心受力", "angles and pairs are checked for axial force alone"},
-                  {"请给 0，或选用其他截面", "give 0, or another section"});
+    return refuse(
+        HasMoment()    ? moment
+        : q.m_dVy != 0 ? "Vy"
+                       : "Vx",
+        {"单角钢和双角钢只验算轴心受力", "angles and pairs are checked for axial force alone"},
+        {"请给 0，或选用其他截面", "give 0, or another section"});
   }
   if (m_dNc > 0 && HasMoment() && s.m_nShape == CMemberShape::Channel) {
-    return refuse(moment,
-                  {"压弯槽钢不在验算范围内", "a channel under compression with moments is not covered"},
-                  {"请给 0，或选用工字形、箱形截面", "give 0, or an I or box section"});
+    return refuse(
+        moment,
+        {"压弯槽钢不在验算范围内", "a channel under compression with moments is not covered"},
+        {"请给 0，或选用工字形、箱形截面", "give 0, or an I or box section"});
   }
   if (m_dNc > 0 && HasMoment() && IsSolid(s.m_nShape)) {
-    return refuse(moment,
-                  {"压弯实心截面的稳定不在验算范围内",
-                   "the stability of a solid section under compression with moments is not covered"},
-                  {"请给 0，或选用其他截面", "give 0, or another section"});
+    return refuse(
+        moment,
+        {"压弯实心截面的稳定不在验算范围内",
+         "the stability of a solid section under compression with moments is not covered"},
+        {"请给 0，或选用其他截面", "give 0, or another section"});
   }
   if (m_dNc > 0 && !q.m_y.IsZero() && !s.IsDoublySymmetric()) {
-    return refuse("My",
-                  {"压力与绕 y 轴的弯矩：规范的公式只用于双轴对称截面",
-                   "compression with a moment about y: the code's formulas are for doubly symmetric "
-                   "sections"},
-                  {"请给 0，或选用双轴对称截面", "give 0, or a doubly symmetric section"});
+    return refuse(
+        "My",
+        {"压力与绕 y 轴的弯矩：规范的公式只用于双轴对称截面",
+         "compression with a moment about y: the code's formulas are for doubly symmetric "
+         "sections"},
+        {"请给 0，或选用双轴对称截面", "give 0, or a doubly symmetric section"});
   }
   const bool bStrongX = s.m_dIx > s.m_dIy * (1 + 1e-9), bStrongY = s.m_dIy > s.m_dIx * (1 + 1e-9);
   if (s.m_nShape == CMemberShape::SolidBar &&
       ((bStrongX && !q.m_x.IsZero()) || (bStrongY && !q.m_y.IsZero()))) {
-    return refuse(bStrongX ? "Mx" : "My",
-                  {"绕强轴受弯的实心截面，规范没有整体稳定公式",
-                   "the code has no lateral buckling of a solid section bent about its strong axis"},
-                  {"请绕弱轴受弯，或选用其他截面", "bend it about its weak axis, or take another section"});
+    return refuse(
+        bStrongX ? "Mx" : "My",
+        {"绕强轴受弯的实心截面，规范没有整体稳定公式",
+         "the code has no lateral buckling of a solid section bent about its strong axis"},
+        {"请绕弱轴受弯，或选用其他截面", "bend it about its weak axis, or take another section"});
   }
   if (s.m_nShape == CMemberShape::T && bStrongY && !q.m_y.IsZero()) {
     return refuse("My",
@@ -131,12 +138,12 @@ void CSolidCheck::Slenderness() {
 
 // With torsion, where the shape asks for it.
 void CSolidCheck::TorsionalSlendernesses() {
-  const bool bFlexuralTorsional =
-      s.m_nShape == CMemberShape::T || s.m_nShape == CMemberShape::Channel ||
-      (s.m_nShape == CMemberShape::I && !s.IsEqualFlanged());
+  const bool bFlexuralTorsional = s.m_nShape == CMemberShape::T ||
+                                  s.m_nShape == CMemberShape::Channel ||
+                                  (s.m_nShape == CMemberShape::I && !s.IsEqualFlanged());
   const bool bTorsional = s.m_nShape == CMemberShape::I && Is2017() && !HasMoment();
   if (bFlexuralTorsional || bTorsional) {
-    const double e = !bFlexuralTorsional                       ? 0
+    const double e = !bFlexuralTorsional                   ? 0
                      : s.m_nShape == CMemberShape::Channel ? s.m_dXs
                                                            : s.m_dYs;
     const double I0 = s.m_dIx + s.m_dIy + s.m_dA * e * e;
@@ -182,7 +189,8 @@ void CSolidCheck::TorsionalSlendernesses() {
         {5.1, 0.25, "5.1·{b}/{t}", "{λ>}·[1 + 0.25·({λ<}/{λ>})²]"},
         {3.7, 0.06, "3.7·{b}/{t}", "{λ>}·[1 + 0.06·({λ<}/{λ>})²]"},
     };
-    const CFactors& f = kFactors[static_cast<int>(s.m_nShape) - static_cast<int>(CMemberShape::Angle)];
+    const CFactors& f =
+        kFactors[static_cast<int>(s.m_nShape) - static_cast<int>(CMemberShape::Angle)];
     r.m_dLambdaZ = f.m_dZ * b / t;
     r.m_dLambdaYz = AngleSlenderness2017(r.m_dLambdaY, r.m_dLambdaZ, f.m_dShare);
     a.Step("λz", f.m_szZ, r.m_dLambdaZ);
@@ -194,8 +202,7 @@ void CSolidCheck::TorsionalSlendernesses() {
   if (s.m_nShape == CMemberShape::Angle) {
     if (bUnequal) return;
     // About the axis of symmetry, whose radius follows from the others: iu^2 + iv^2 = ix^2 + iy^2.
-    const double iu =
-        std::sqrt(s.m_dRx * s.m_dRx + s.m_dRy * s.m_dRy - s.m_dRmin * s.m_dRmin);
+    const double iu = std::sqrt(s.m_dRx * s.m_dRx + s.m_dRy * s.m_dRy - s.m_dRmin * s.m_dRmin);
     const double l = std::max(q.m_dLx, q.m_dLy);
     r.m_dLambdaYz = AngleSlenderness2003(kSingleAngle2003, l / iu, b, t, l);
     a.Step("iu", nullptr, iu, "mm");
@@ -227,12 +234,13 @@ void CSolidCheck::SlendernessCheck() {
     if (m_dNc > 0 && IsAngleShape(s.m_nShape)) {
       limit = 200;
     } else {
-      limit = *SlendernessLimit(m.m_nEdition, m_dNc > 0       ? CMemberRole::Compression
+      limit = *SlendernessLimit(m.m_nEdition, m_dNc > 0      ? CMemberRole::Compression
                                               : q.m_bDynamic ? CMemberRole::TensionDynamic
                                                              : CMemberRole::TensionStatic);
     }
   }
-  a.Open(CMemberCheckKind::Slenderness, m_dNc > 0 ? Clause("7.4.6", "5.3.8") : Clause("7.4.7", "5.3.9"));
+  a.Open(CMemberCheckKind::Slenderness,
+         m_dNc > 0 ? Clause("7.4.6", "5.3.8") : Clause("7.4.7", "5.3.9"));
   a.Step("λmax", nullptr, m_dLambdaMax);
   a.Step("[λ]", nullptr, limit);
   a.Close("{λmax}/{[λ]}", m_dLambdaMax / limit);

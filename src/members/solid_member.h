@@ -24,15 +24,15 @@ struct CMemberLoads {
   double m_dN = 0;  // tension positive
   CMomentCourse m_x, m_y;
   double m_dVx = 0, m_dVy = 0;
-  bool m_bUpper = true;    // the load acts on the upper flange
-  int m_nSupports = 0;     // lateral supports within the span; 2 is two and more
+  bool m_bUpper = true;  // the load acts on the upper flange
+  int m_nSupports = 0;   // lateral supports within the span; 2 is two and more
   bool m_bSway = false;
   double m_dLx = 0, m_dLy = 0, m_dLz = 0;  // effective lengths
   double m_dSpan = 0;                      // free span of the compression flange
   bool m_bNet = false;
   double m_dNetA = 1, m_dNetW = 1;  // shares of the gross that are left
   bool m_bDynamic = false;
-  double m_dLimit = 0;         // of slenderness; 0: the code's
+  double m_dLimit = 0;  // of slenderness; 0: the code's
   // An I with tapered flanges: of an ordinary one its number, the depth in cm, of a light one 0.
   bool m_bTapered = false;
   double m_dRolledNumber = 0;

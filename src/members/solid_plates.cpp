@@ -122,8 +122,7 @@ void CSolidCheck::ClassifyOpen() {
   if (s.m_nShape == CMemberShape::T) return;
   const CWebStress stress = WebStress(m_dMx);
   const bool bWeb = stress.m_dMax > 0;
-  const CClassElement web =
-      m_dNc > 0 ? CClassElement::WebCompressed : CClassElement::WebBending;
+  const CClassElement web = m_dNc > 0 ? CClassElement::WebCompressed : CClassElement::WebBending;
   const double h0tw = s.m_dH0 / s.m_dTw;
   if (bWeb) Classify(web, h0tw, stress.m_dAlpha0);
   const bool bWebReduced = bWeb && h0tw > Class4(web, stress.m_dAlpha0);
@@ -255,7 +254,7 @@ void CSolidCheck::ClosedPlates2017() {
                  Class4(CClassElement::Tube, 2));
   }
   const auto element = [&](const CMomentCourse& asFlange) {
-    return m_dNc > 0            ? CClassElement::BoxWall
+    return m_dNc > 0           ? CClassElement::BoxWall
            : asFlange.IsZero() ? CClassElement::WebBending
                                : CClassElement::BoxFlange;
   };

@@ -27,8 +27,7 @@ void CSolidCheck::Stability() {
   }
   const double lambdaX = m_dLambdaFx;
   const bool bChannel = s.m_nShape == CMemberShape::Channel;
-  const double lambdaY =
-      bChannel || std::isnan(r.m_dLambdaYz) ? r.m_dLambdaY : r.m_dLambdaYz;
+  const double lambdaY = bChannel || std::isnan(r.m_dLambdaYz) ? r.m_dLambdaY : r.m_dLambdaYz;
   r.m_dPhiX = Phi(lambdaX, bChannel ? m.m_nClassY : m.m_nClassX);
   r.m_dPhiY = Phi(lambdaY, m.m_nClassY);
   m_dPhiLeast = std::min(r.m_dPhiX, r.m_dPhiY);
@@ -85,8 +84,9 @@ void CSolidCheck::BeamColumns() {
 // About x in the plane of Mx, with what My adds.
 void CSolidCheck::BeamColumnX() {
   const bool bTwo = IsBiaxial() || q.m_x.IsZero();
-  a.Open(CMemberCheckKind::StabilityX,
-         bTwo ? Clause("8.2.5", "5.2.5") : m_effective ? "8.4.2" : Clause("8.2.1", "5.2.2"));
+  a.Open(CMemberCheckKind::StabilityX, bTwo          ? Clause("8.2.5", "5.2.5")
+                                       : m_effective ? "8.4.2"
+                                                     : Clause("8.2.1", "5.2.2"));
   const double NE = ReducedEulerForce(s.m_dA, r.m_dLambdaX);
   const double axial = AxialTerm(m_dNc, r.m_dPhiX, m_dAe, F());
   const double M = m_inX.m_dMoment + m_dNc * m_dShift;
@@ -123,8 +123,7 @@ void CSolidCheck::BeamColumnX() {
   const double W2 = m_effective ? m_effective->m_dWOther : WOther();
   const bool bSingly = s.m_nShape == CMemberShape::T || s.m_nShape == CMemberShape::I;
   if (bSingly && !s.IsDoublySymmetric() && !q.m_x.IsZero() && WOther() < WCompressed()) {
-    const double second =
-        AmplifiedTerm(m_inX.m_dMoment, m_dGammaOther * W2, 1.25, m_dNc, NE, F());
+    const double second = AmplifiedTerm(m_inX.m_dMoment, m_dGammaOther * W2, 1.25, m_dNc, NE, F());
     const double tension = std::fabs(m_dNc / (m_dAe * F()) - second);
     a.Step("W2x", nullptr, W2, "mm³");
     a.Step("γx2", nullptr, m_dGammaOther);
@@ -147,10 +146,8 @@ void CSolidCheck::BeamColumnY() {
   const double NE = ReducedEulerForce(s.m_dA, r.m_dLambdaY);
   const double axial = AxialTerm(m_dNc, r.m_dPhiY, m_dAe, F());
   const double M = m_outX.m_dMoment + m_dNc * m_dShift;
-  const double across =
-      q.m_x.IsZero() ? 0 : LateralTerm(m_dEta, M, r.m_dPhiB, m_dW1, F());
-  const double inPlane =
-      AmplifiedTerm(m_inY.m_dMoment, r.m_dGammaY * m_dWy, 0.8, m_dNc, NE, F());
+  const double across = q.m_x.IsZero() ? 0 : LateralTerm(m_dEta, M, r.m_dPhiB, m_dW1, F());
+  const double inPlane = AmplifiedTerm(m_inY.m_dMoment, r.m_dGammaY * m_dWy, 0.8, m_dNc, NE, F());
   a.Step("φy", nullptr, r.m_dPhiY);
   if (m_effective) a.Step("e", nullptr, m_dShift, "mm");
   a.Step("Ae", nullptr, m_dAe, "mm²");
@@ -174,7 +171,7 @@ void CSolidCheck::BeamColumnY() {
     a.Step("Wy", nullptr, m_dWy, "mm³");
     a.Step("bending", "{βmy}·{My}/({γy}·{Wy}·(1 − 0.8·{N}/{N′Ey})·{f})", inPlane);
   }
-  a.Close(!bMy               ? "{axial} + {across}"
+  a.Close(!bMy             ? "{axial} + {across}"
           : q.m_x.IsZero() ? "{axial} + {bending}"
                            : "{axial} + {bending} + {across}",
           axial + across + inPlane);
@@ -187,7 +184,9 @@ void CSolidCheck::TubeTwoMoments() {
   const double lambda = m_dLambdaMax;
   const double NE = EulerForce(s.m_dA, lambda);
   const double root = std::sqrt(m_dNc / NE);
-  const auto beta = [&](const CMomentCourse& c) { return 1 - 0.35 * root + 0.35 * root * c.EndRatio(); };
+  const auto beta = [&](const CMomentCourse& c) {
+    return 1 - 0.35 * root + 0.35 * root * c.EndRatio();
+  };
   const double M = bLoad ? std::hypot(m_dMx, m_dMy) : std::hypot(q.m_x.m_dM1, q.m_y.m_dM1);
   const double equivalent = bLoad ? 1 : beta(q.m_x) * beta(q.m_y);
   if (bLoad) a.Note(CMemberNote::TubeLoads);
@@ -224,10 +223,11 @@ template <class VALUE>
 const VALUE* CSolidCheck::Take(const char* key, const CCodeAnswer<VALUE>& answer) {
   if (answer) return &*answer;
   const CCodeRefusal& refusal = answer.Refusal();
-  a.Refuse(key,
-           {std::string("整体稳定系数 φb：") + refusal.m_szArgument + " " + refusal.m_what.m_strChinese,
-            std::string("no φb, ") + refusal.m_szArgument + " " + refusal.m_what.m_strEnglish},
-           refusal.m_right);
+  a.Refuse(
+      key,
+      {std::string("整体稳定系数 φb：") + refusal.m_szArgument + " " + refusal.m_what.m_strChinese,
+       std::string("no φb, ") + refusal.m_szArgument + " " + refusal.m_what.m_strEnglish},
+      refusal.m_right);
   return nullptr;
 }
 
@@ -248,8 +248,7 @@ double CSolidCheck::UniformPhiB(double lambdaY) {
       }
     }
   }
-  const auto answer =
-      UniformBendingPhiB(m.m_nEdition, m.m_nGrade, shape, lambdaY, BeamSection());
+  const auto answer = UniformBendingPhiB(m.m_nEdition, m.m_nGrade, shape, lambdaY, BeamSection());
   const double* phiB = Take("span", answer);
   return phiB != nullptr ? *phiB : 1;
 }
@@ -280,8 +279,9 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
     const CMemberFlange& flange = CompressedFlange();
     const double xi = q.m_dSpan * flange.m_dThick / (flange.m_dWidth * section.m_dH);
     const bool bPoint = c.m_nLoad == CSpanLoad::Midspan;
-    const CBeamLoad kind = bPoint ? (q.m_bUpper ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
-                                  : (q.m_bUpper ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
+    const CBeamLoad kind = bPoint
+                               ? (q.m_bUpper ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
+                               : (q.m_bUpper ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
     a.Step("ξ", nullptr, xi);
     const auto answer = BetaB(m.m_nEdition, kind, q.m_nSupports, xi, section.m_dAlphaB);
     const double* beta = Take("load", answer);
@@ -305,13 +305,13 @@ double CSolidCheck::BeamPhiB() {
   a.Step("λy", "{l1}/{iy}", lambdaY);
   if (s.m_nShape == CMemberShape::T) return UniformPhiB(lambdaY);
   if (q.m_dRolledNumber > 0 && c.HasLoad() && !c.HasEnds()) {
-    const CRolledILoad load = q.m_nSupports > 0 ? CRolledILoad::Supported
-                              : c.m_nLoad == CSpanLoad::Midspan
-                                  ? (q.m_bUpper ? CRolledILoad::PointUpper : CRolledILoad::PointLower)
-                                  : (q.m_bUpper ? CRolledILoad::UniformUpper
-                                                : CRolledILoad::UniformLower);
-    const auto answer = RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber,
-                                    q.m_dSpan / 1000);
+    const CRolledILoad load =
+        q.m_nSupports > 0 ? CRolledILoad::Supported
+        : c.m_nLoad == CSpanLoad::Midspan
+            ? (q.m_bUpper ? CRolledILoad::PointUpper : CRolledILoad::PointLower)
+            : (q.m_bUpper ? CRolledILoad::UniformUpper : CRolledILoad::UniformLower);
+    const auto answer =
+        RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber, q.m_dSpan / 1000);
     const CPhiB* phiB = Take("span", answer);
     return phiB != nullptr ? phiB->m_dPhiB : 1;
   }
@@ -358,8 +358,7 @@ void CSolidCheck::Lateral() {
   if (q.m_y.IsZero()) return a.Close("{Mx}/({φb}·{Wx}·{f})", first);
   a.Step("γy", nullptr, r.m_dGammaY);
   a.Step("Wy", nullptr, Wy, "mm³");
-  a.Close("{Mx}/({φb}·{Wx}·{f}) + {My}/({γy}·{Wy}·{f})",
-          first + m_dMy / (r.m_dGammaY * Wy * F()));
+  a.Close("{Mx}/({φb}·{Wx}·{f}) + {My}/({γy}·{Wy}·{f})", first + m_dMy / (r.m_dGammaY * Wy * F()));
 }
 
 // 6.2.4; 2003: 4.2.4. The code has no phi-b of a box beyond both limits, so they are what it is

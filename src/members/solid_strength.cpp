@@ -48,8 +48,8 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
   const double g2 = side == m_nSide ? m_dGammaOther : r.m_dGammaX;
   const double N = m_dNc > 0 ? m_dNc : -q.m_dN;  // compression positive
   const double M = std::fabs(Mx) + m_dNc * e;
-  const bool bRound = (s.m_nShape == CMemberShape::Tube && Is2017()) ||
-                      s.m_nShape == CMemberShape::SolidRound;
+  const bool bRound =
+      (s.m_nShape == CMemberShape::Tube && Is2017()) || s.m_nShape == CMemberShape::SolidRound;
   if (bRound) {
     const double resultant = std::hypot(Mx, m_dMy);
     const double ratio = (std::fabs(N) / A + resultant / (g1 * W1)) / F();

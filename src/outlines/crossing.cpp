@@ -12,9 +12,8 @@ double LoopArea(const CPath& loop) {
   double twice = 0;
   ForEachEdge(loop, [&](const CEdge& edge, std::size_t) {
     if (edge.IsArc()) {
-      twice += Integrate(edge, 0, 1, [&](CPoint p, CPoint d) {
-        return (p.x - o.x) * d.y - (p.y - o.y) * d.x;
-      });
+      twice += Integrate(edge, 0, 1,
+                         [&](CPoint p, CPoint d) { return (p.x - o.x) * d.y - (p.y - o.y) * d.x; });
     } else {
       const CPoint a = edge.At(0), b = edge.At(1);
       twice += (a.x - o.x) * (b.y - o.y) - (b.x - o.x) * (a.y - o.y);

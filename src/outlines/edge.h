@@ -18,7 +18,7 @@ class CEdge {
   CEdge(const CVertex& from, const CVertex& to);
 
   CPoint At(double t) const;
-  CPoint Derivative(double t) const;  // by t
+  CPoint Derivative(double t) const;                 // by t
   double Sweep() const noexcept { return m_sweep; }  // radians, positive counter-clockwise
   double Length() const noexcept { return m_length; }
   bool IsArc() const noexcept { return m_sweep != 0; }

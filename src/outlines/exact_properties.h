@@ -26,27 +26,27 @@ struct CExactProperties {
   static constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
 
   // Exact for straight edges and arcs, but for rounding.
-  double A = kUnknown;                                   // mm^2
-  double xo = kUnknown, yo = kUnknown;                   // mm, centroid
-  double Ix = kUnknown, Iy = kUnknown, Ixy = kUnknown;   // mm^4, about the centroid's axes
-  double I1 = kUnknown, I2 = kUnknown;                   // mm^4, principal, I1 >= I2
-  double theta = kUnknown;                               // degrees from x to axis 1, in (-90, 90]
-  double ix = kUnknown, iy = kUnknown;                   // mm, radii of gyration
-  double i1 = kUnknown, i2 = kUnknown;                   // mm
-  double Wx1 = kUnknown, Wx2 = kUnknown;                 // mm^3, to the top and the bottom
-  double WyL = kUnknown, WyR = kUnknown;                 // mm^3, to the left and the right
-  double Wpx = kUnknown, Wpy = kUnknown;                 // mm^3, plastic moduli
+  double A = kUnknown;                                  // mm^2
+  double xo = kUnknown, yo = kUnknown;                  // mm, centroid
+  double Ix = kUnknown, Iy = kUnknown, Ixy = kUnknown;  // mm^4, about the centroid's axes
+  double I1 = kUnknown, I2 = kUnknown;                  // mm^4, principal, I1 >= I2
+  double theta = kUnknown;                              // degrees from x to axis 1, in (-90, 90]
+  double ix = kUnknown, iy = kUnknown;                  // mm, radii of gyration
+  double i1 = kUnknown, i2 = kUnknown;                  // mm
+  double Wx1 = kUnknown, Wx2 = kUnknown;                // mm^3, to the top and the bottom
+  double WyL = kUnknown, WyR = kUnknown;                // mm^3, to the left and the right
+  double Wpx = kUnknown, Wpy = kUnknown;                // mm^3, plastic moduli
   double xp = kUnknown, yp = kUnknown;  // mm, the lines that halve the area; the middle of a gap
   double mass = kUnknown;               // kg/m at 7850 kg/m^3
   double surface = kUnknown;            // m^2/m of the outer outline
 
   // By the solver. Sections of parts that are not joined have It of the parts added, and no answer
   // (NaN) to the others.
-  double It = kUnknown;                        // mm^4
-  double Iw = kUnknown;                        // mm^6, about the shear center
-  double xs = kUnknown, ys = kUnknown;         // mm, shear center
-  double Asx = kUnknown, Asy = kUnknown;       // mm^2, for forces along x and y
-  double betax = kUnknown, betay = kUnknown;   // mm, constants of monosymmetry
+  double It = kUnknown;                       // mm^4
+  double Iw = kUnknown;                       // mm^6, about the shear center
+  double xs = kUnknown, ys = kUnknown;        // mm, shear center
+  double Asx = kUnknown, Asy = kUnknown;      // mm^2, for forces along x and y
+  double betax = kUnknown, betay = kUnknown;  // mm, constants of monosymmetry
 
   CExactErrors m_error;
   bool m_bJoined = false;  // one part

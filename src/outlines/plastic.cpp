@@ -14,7 +14,7 @@ namespace {
 // A piece of the boundary that only rises or only falls.
 struct CPiece {
   CEdge m_edge;
-  double m_from, m_to;              // of the edge's t
+  double m_from, m_to;  // of the edge's t
   double m_bottom, m_top;
   double m_one = 0, m_y = 0, m_yy = 0;  // integrals of 1, y, y^2 over dx
 };
@@ -47,10 +47,11 @@ class CPieces {
         continue;
       }
       const auto [a, b] = PartBelow(piece, c);
-      sum.area += Integrate(piece.m_edge, a, b, [&](CPoint p, CPoint d) { return (c - p.y) * d.x; });
-      sum.moment += Integrate(piece.m_edge, a, b, [&](CPoint p, CPoint d) {
-                      return (c - p.y) * (c - p.y) * d.x;
-                    }) / 2;
+      sum.area +=
+          Integrate(piece.m_edge, a, b, [&](CPoint p, CPoint d) { return (c - p.y) * d.x; });
+      sum.moment += Integrate(piece.m_edge, a, b,
+                              [&](CPoint p, CPoint d) { return (c - p.y) * (c - p.y) * d.x; }) /
+                    2;
     }
     return sum;
   }
@@ -123,8 +124,8 @@ CPlasticAxis PlasticAxisX(std::span<const CPath> loops) {
   const CPieces pieces(loops);
   const CBelow all = pieces.Below(pieces.Top());
   const double rounding = 1e-13 * all.area;
-  const double at = (HeightOf(pieces, all.area / 2 - rounding) +
-                     HeightOf(pieces, all.area / 2 + rounding)) / 2;
+  const double at =
+      (HeightOf(pieces, all.area / 2 - rounding) + HeightOf(pieces, all.area / 2 + rounding)) / 2;
   // The moment downwards about the line, and upwards: that of all, turned, and the part below.
   const CBelow below = pieces.Below(at);
   const double upwards = all.area * (pieces.Top() - at) - all.moment;

@@ -150,8 +150,9 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
   std::vector<CSectionMesh> meshes;
   std::size_t at = 0;
   for (const auto& part : *parts) {
-    const std::vector<std::size_t> own(order.begin() + static_cast<std::ptrdiff_t>(at),
-                                       order.begin() + static_cast<std::ptrdiff_t>(at + part.size()));
+    const std::vector<std::size_t> own(
+        order.begin() + static_cast<std::ptrdiff_t>(at),
+        order.begin() + static_cast<std::ptrdiff_t>(at + part.size()));
     at += part.size();
     auto found = MeshesOfPart(part);
     if (found.empty()) return;

@@ -37,8 +37,8 @@ class ORV3CAL_API CSectionSolver {
 
   const CExactProperties& Properties() const noexcept;
 
-  // Loop by loop along the boundary, closely enough to draw. Of parts that are not joined: Vx and Vy
-  // give no tau (NaN), the others act on the parts together. Empty when the figures are NaN.
+  // Loop by loop along the boundary, closely enough to draw. Of parts that are not joined: Vx and
+  // Vy give no tau (NaN), the others act on the parts together. Empty when the figures are NaN.
   std::vector<CBoundaryStress> Stresses(const CSectionForces& forces) const;
 
  private:

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
+#include "outlines/outline_moments.h"
 #include "sections/catalogue_store.h"
 #include "sections/geometry_rows.h"
 #include "sections/outline_integral.h"

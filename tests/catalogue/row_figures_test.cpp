@@ -9,9 +9,9 @@
 #include <string>
 
 #include "catalogue/lattice/steel_ge_gou.h"
-#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/outline/row_outline.h"
+#include "outlines/outline_moments.h"
 #include "sections/catalogue_store.h"
 #include "sections/geometry_rows.h"
 #include "sections/section_figures.h"

@@ -10,7 +10,9 @@ namespace orv3::test {
 
 class CMembers : public testing::Test {
  protected:
-  static void SetUpTestSuite() { CLoadDataTable::SetOrvoPrgPath(CString(L"" ORV3CAL_CATALOGUE "/")); }
+  static void SetUpTestSuite() {
+    CLoadDataTable::SetOrvoPrgPath(CString(L"" ORV3CAL_CATALOGUE "/"));
+  }
   static void TearDownTestSuite() { CLoadDataTable::SetOrvoPrgPath(L""); }
   CMemberCheck m_check;
 };

@@ -7,8 +7,8 @@
 #include <limits>
 #include <random>
 
-#include "outlines/outline_moments.h"
 #include "framework/number_text.h"
+#include "outlines/outline_moments.h"
 #include "picture_check.h"
 #include "sections/section_picture.h"
 #include "sections/section_style.h"

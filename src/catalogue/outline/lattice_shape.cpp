@@ -2,9 +2,9 @@
 #include <utility>
 
 #include "catalogue/lattice/lattice_limbs.h"
-#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
+#include "outlines/outline_moments.h"
 
 namespace orv3 {
 bool IsLatticeTable(const CString& tableName) { return LatticeLimbCount(tableName) > 0; }

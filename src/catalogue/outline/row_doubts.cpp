@@ -4,12 +4,12 @@
 #include <cmath>
 #include <utility>
 
-#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_figures.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "catalogue/outline/shapes.h"
 #include "framework/number_text.h"
+#include "outlines/outline_moments.h"
 #include "sections/geometry/families.h"
 
 namespace orv3 {

@@ -6,11 +6,11 @@
 #include <utility>
 
 #include "catalogue/lattice/lattice_limbs.h"
-#include "outlines/outline_moments.h"
 #include "catalogue/outline/outline_symmetry.h"
 #include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
+#include "outlines/outline_moments.h"
 #include "sections/geometry/families.h"
 #include "sections/geometry/row_values.h"
 #include "sections/section_figures.h"

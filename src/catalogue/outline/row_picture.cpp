@@ -3,12 +3,12 @@
 #include <cmath>
 #include <utility>
 
-#include "outlines/outline_moments.h"
 #include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_dimensions.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
 #include "framework/number_text.h"
+#include "outlines/outline_moments.h"
 #include "sections/geometry/row_values.h"
 #include "sections/outline_picture.h"
 #include "sections/section_style.h"

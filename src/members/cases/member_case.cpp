@@ -76,10 +76,10 @@ CDataItem TableRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
   if (std::isnan(input.m_dGap)) return row;
   if (PairSpacingSign(row.GetTableName()).IsEmpty() || input.m_dGap < 0 ||
       input.m_dGap != std::floor(input.m_dGap) || input.m_dGap > 1000) {
-    fault = CCaseFault{"section.gap",
-                       {"不可用", "is not possible"},
-                       {"请只给组合截面整数毫米的间距",
-                        "give the gap of a pair alone, in whole millimetres"}};
+    fault = CCaseFault{
+        "section.gap",
+        {"不可用", "is not possible"},
+        {"请只给组合截面整数毫米的间距", "give the gap of a pair alone, in whole millimetres"}};
     return row;
   }
   return WithPairSpacing(row, static_cast<int>(input.m_dGap));
@@ -130,8 +130,9 @@ CMemberRow* CMemberCheck::Section(const CMemberCase& input) {
   const bool bTable = !input.m_strTable.empty();
   const bool bSizes = !input.m_strStyle.empty();
   if (bTable == bSizes) {
-    Refuse("section", bTable ? CText{"给了不止一种", "is given in more than one way"}
-                             : CText{"缺失", "is missing"},
+    Refuse("section",
+           bTable ? CText{"给了不止一种", "is given in more than one way"}
+                  : CText{"缺失", "is missing"},
            {"请给出 table 与 no，或 style 与 sizes", "give table with no, or style with sizes"});
     return nullptr;
   }
@@ -170,7 +171,8 @@ bool CMemberCheck::ReadEdition(const CMemberCase& input) {
 
 bool CMemberCheck::ReadSteel(const CMemberCase& input, const CMemberRow& section) {
   if (input.m_strSteel.empty()) {
-    return Refuse("steel", {"缺失", "is missing"}, {"请给出钢材牌号", "give the grade of the steel"});
+    return Refuse("steel", {"缺失", "is missing"},
+                  {"请给出钢材牌号", "give the grade of the steel"});
   }
   const auto grade = GradeByName(m_nEdition, input.m_strSteel);
   if (!grade) return Refuse("steel", grade.Refusal().m_what, grade.Refusal().m_right);
@@ -258,7 +260,8 @@ bool CMemberCheck::ReadCourse(const char* key, const CSpacing& moment, const cha
 }
 
 bool CMemberCheck::ReadForces(const CMemberCase& input) {
-  for (const auto& [key, value] : {std::pair{"N", input.m_dN}, {"Vx", input.m_dVx}, {"Vy", input.m_dVy}}) {
+  for (const auto& [key, value] :
+       {std::pair{"N", input.m_dN}, {"Vx", input.m_dVx}, {"Vy", input.m_dVy}}) {
     if (std::isinf(value) || (std::isnan(value) && *key != 'N'))
       return Refuse(key, {"不是有限数", "is no finite number"}, {"请给出数值", "give a number"});
   }
@@ -278,7 +281,8 @@ bool CMemberCheck::ReadForces(const CMemberCase& input) {
   const bool bLoad = m_loads.m_x.HasLoad() || m_loads.m_y.HasLoad();
   const CText leave = {"请删去", "leave it out"};
   if (m_nLoad != CSpanLoad::None && !bMoment)
-    return Refuse("load", {"没有弯矩", "has no moment"}, {"请给出 Mx 或 My，或删去", "give Mx or My, or leave it out"});
+    return Refuse("load", {"没有弯矩", "has no moment"},
+                  {"请给出 Mx 或 My，或删去", "give Mx or My, or leave it out"});
   if (!input.m_strLoadFlange.empty() && !bLoad)
     return Refuse("loadFlange", {"没有荷载", "has no load"}, leave);
   if (!input.m_strLoadFlange.empty() && input.m_strLoadFlange != "upper" &&
@@ -291,18 +295,21 @@ bool CMemberCheck::ReadForces(const CMemberCase& input) {
   m_loads.m_nSupports = 0;
   if (!std::isnan(input.m_dSupports)) {
     if (input.m_dSupports != 0 && input.m_dSupports != 1 && input.m_dSupports != 2) {
-      return Refuse("supports", {PlainNumber(input.m_dSupports) + " 不可用", PlainNumber(input.m_dSupports) + " is not possible"},
+      return Refuse("supports",
+                    {PlainNumber(input.m_dSupports) + " 不可用",
+                     PlainNumber(input.m_dSupports) + " is not possible"},
                     {"请给出 0、1 或 2", "give 0, 1 or 2"});
     }
     if (!bMoment)
-      return Refuse("supports",
-                    {"没有荷载也没有端弯矩", "has neither a load nor end moments"}, leave);
+      return Refuse("supports", {"没有荷载也没有端弯矩", "has neither a load nor end moments"},
+                    leave);
     m_loads.m_nSupports = static_cast<int>(input.m_dSupports);
   }
   m_loads.m_bSway = input.m_dSway == 1;
   m_loads.m_bDynamic = input.m_dDynamic == 1;
   if (m_loads.m_dN == 0 && !bMoment && m_loads.m_dVx == 0 && m_loads.m_dVy == 0)
-    return Refuse("N", {"没有任何力", "stands with no force at all"}, {"请给出一个力", "give a force"});
+    return Refuse("N", {"没有任何力", "stands with no force at all"},
+                  {"请给出一个力", "give a force"});
   return true;
 }
 
@@ -310,19 +317,24 @@ bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& secti
   const auto positive = [this](const char* key, double value) {
     if (std::isfinite(value) && value > 0) return true;
     if (std::isnan(value)) {
-      return Refuse(key, {"缺失", "is missing"}, {"请给出大于 0 的长度 mm", "give a length above 0 mm"});
+      return Refuse(key, {"缺失", "is missing"},
+                    {"请给出大于 0 的长度 mm", "give a length above 0 mm"});
     }
     return Refuse(key, {PlainNumber(value) + " 不可用", PlainNumber(value) + " is not possible"},
                   {"请给出大于 0 的长度 mm", "give a length above 0 mm"});
   };
-  for (const auto& [key, value] : {std::pair{"lengths.x", input.m_dLx}, {"lengths.y", input.m_dLy}, {"lengths.z", input.m_dLz}, {"lengths.span", input.m_dSpan}}) {
+  for (const auto& [key, value] : {std::pair{"lengths.x", input.m_dLx},
+                                   {"lengths.y", input.m_dLy},
+                                   {"lengths.z", input.m_dLz},
+                                   {"lengths.span", input.m_dSpan}}) {
     if (!std::isnan(value) && !positive(key, value)) return false;
   }
   m_loads.m_dLx = input.m_dLx;
   m_loads.m_dLy = input.m_dLy;
   m_loads.m_dLz = std::isnan(input.m_dLz) ? input.m_dLy : input.m_dLz;
   m_loads.m_dSpan = std::isnan(input.m_dSpan) ? input.m_dLy : input.m_dSpan;
-  if (m_loads.m_dN != 0 && (!positive("lengths.x", input.m_dLx) || !positive("lengths.y", input.m_dLy)))
+  if (m_loads.m_dN != 0 &&
+      (!positive("lengths.x", input.m_dLx) || !positive("lengths.y", input.m_dLy)))
     return false;
   const CMemberShape shape = section.m_section.m_nShape;
   const bool bSpan = !m_loads.m_x.IsZero() && shape != CMemberShape::Tube && !IsSolid(shape);
@@ -330,7 +342,8 @@ bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& secti
   m_loads.m_dLimit = 0;
   if (std::isnan(input.m_dLimit)) return true;
   if (!(std::isfinite(input.m_dLimit) && input.m_dLimit > 0)) {
-    return Refuse("limit", {"不可用", "is not possible"}, {"请给出大于 0 的数", "give a number above 0"});
+    return Refuse("limit", {"不可用", "is not possible"},
+                  {"请给出大于 0 的数", "give a number above 0"});
   }
   m_loads.m_dLimit = input.m_dLimit;
   return true;
@@ -362,8 +375,8 @@ bool NeedsTorsion(const CMemberSection& s, const CMemberSteel& steel,
     case CMemberShape::Channel:
       return true;
     case CMemberShape::I:
-      return !s.IsEqualFlanged() || (steel.m_nEdition == CCodeEdition::Gb2017 &&
-                                     loads.m_x.IsZero() && loads.m_y.IsZero());
+      return !s.IsEqualFlanged() ||
+             (steel.m_nEdition == CCodeEdition::Gb2017 && loads.m_x.IsZero() && loads.m_y.IsZero());
     default:
       return false;
   }
@@ -382,9 +395,10 @@ bool CMemberCheck::Run(const CMemberCase& input, CMemberRow& section) {
   m_loads.m_bTapered = section.m_bTapered;
   m_loads.m_dRolledNumber = section.m_dRolledNumber;
   if (NeedsTorsion(section.m_section, m_steel, m_loads) && !AddTorsion(section)) {
-    return Refuse("section",
-                  {"扭转常数无法由轮廓算出", "has no torsion constant that follows from its outline"},
-                  {"请选用其他截面", "take another section"});
+    return Refuse(
+        "section",
+        {"扭转常数无法由轮廓算出", "has no torsion constant that follows from its outline"},
+        {"请选用其他截面", "take another section"});
   }
   CheckSolidMember(section.m_section, m_steel, m_loads, m_answer);
   if (m_answer.IsRefused()) return Refuse(*m_answer.Fault());

@@ -53,10 +53,10 @@ std::vector<CMemberCandidate> MemberCandidates(const CString& table) {
 std::vector<CString> MemberTables() {
   using K = CSectionKind;
   std::vector<CString> tables;
-  for (const K kind : {K::OrdinaryI, K::LightI, K::WeldedH, K::LightWeldedH, K::WideH, K::NarrowH,
-                       K::SquareTube, K::SplitT, K::OrdinaryChannel, K::LightChannel, K::RoundTube,
-                       K::EqualAngle, K::UnequalAngle, K::EqualAnglePair, K::LongLegPair,
-                       K::ShortLegPair}) {
+  for (const K kind :
+       {K::OrdinaryI, K::LightI, K::WeldedH, K::LightWeldedH, K::WideH, K::NarrowH, K::SquareTube,
+        K::SplitT, K::OrdinaryChannel, K::LightChannel, K::RoundTube, K::EqualAngle,
+        K::UnequalAngle, K::EqualAnglePair, K::LongLegPair, K::ShortLegPair}) {
     tables.emplace_back(TableOf(kind).m_szName);
   }
   return tables;

@@ -17,13 +17,15 @@ namespace {
 using K = CSectionKind;
 
 CCaseFault NotCovered(CText what) {
-  return {"section", std::move(what),
+  return {"section",
+          std::move(what),
           {"请选用工字形、H、T、槽钢、角钢及其组合、箱形、圆管或实心截面",
            "take an I, H, T, channel, angle, pair of angles, box, tube or solid section"}};
 }
 
 CCaseFault Unsymmetric() {
-  return NotCovered({"是不对称截面，不在验算范围内", "is an unsymmetric section, which is not covered"});
+  return NotCovered(
+      {"是不对称截面，不在验算范围内", "is an unsymmetric section, which is not covered"});
 }
 
 CCaseFault ThinWall(double t) {
@@ -41,7 +43,8 @@ constexpr double kFilletReach = 0.2234;  // of r
 
 class CRowReader {
  public:
-  CRowReader(const CDataItem& row, CMemberRow& member) : m_row(row), r(member), s(member.m_section) {}
+  CRowReader(const CDataItem& row, CMemberRow& member)
+      : m_row(row), r(member), s(member.m_section) {}
 
   std::optional<CCaseFault> Read();
 
@@ -204,7 +207,8 @@ void CRowReader::Leg(const CDataItem& part, bool bUnequal) {
 
 std::optional<CCaseFault> CRowReader::Angles(CSectionKind kind) {
   const CSectionPair* pair = TableOf(kind).m_pPair;
-  const bool bUnequal = kind == K::UnequalAngle || kind == K::LongLegPair || kind == K::ShortLegPair;
+  const bool bUnequal =
+      kind == K::UnequalAngle || kind == K::LongLegPair || kind == K::ShortLegPair;
   const CBucklingShape shape =
       bUnequal ? CBucklingShape::RolledUnequalAngle : CBucklingShape::RolledEqualAngle;
   Buckling(shape, shape);
@@ -219,13 +223,14 @@ std::optional<CCaseFault> CRowReader::Angles(CSectionKind kind) {
                : kind == K::LongLegPair  ? CMemberShape::LongLegPair
                                          : CMemberShape::ShortLegPair;
   const CString no = m_row[0].m_strValue;
-  const CDataItem part = CLoadDataTable::GetSysTemJMItem(TableOf(pair->m_part).m_szName,
-                                                         no.Mid(pair->m_nMarker));
+  const CDataItem part =
+      CLoadDataTable::GetSysTemJMItem(TableOf(pair->m_part).m_szName, no.Mid(pair->m_nMarker));
   Leg(part, bUnequal);
   if (s.m_dLeg > 0 && s.m_dLegShort > 0 && s.m_dLegThick > 0) return std::nullopt;
-  return CCaseFault{"section",
-                    {"库中没有组合的角钢 " + ToUtf8(no), "has no angle in the store for " + ToUtf8(no)},
-                    {"请在库中加入该角钢", "add it to the store"}};
+  return CCaseFault{
+      "section",
+      {"库中没有组合的角钢 " + ToUtf8(no), "has no angle in the store for " + ToUtf8(no)},
+      {"请在库中加入该角钢", "add it to the store"}};
 }
 
 std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
@@ -338,7 +343,8 @@ std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
       [[fallthrough]];
     default: {
       const std::string table = ToUtf8(CString(TableOf(kind).m_szName));
-      return NotCovered({table + " 的构件不在验算范围内", "members of " + table + " are not covered"});
+      return NotCovered(
+          {table + " 的构件不在验算范围内", "members of " + table + " are not covered"});
     }
   }
   if (s.m_nShape == CMemberShape::Box) {

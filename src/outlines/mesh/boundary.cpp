@@ -24,9 +24,9 @@ struct CCornerPoint {
   CPoint at;
   std::size_t in = 0, out = 0;  // edges
   double thick = 0;
-  double turn = 0;    // to the left positive
+  double turn = 0;     // to the left positive
   bool plain = false;  // the edges run on as one line or circle
-  double size = 0;  // of the stretches here
+  double size = 0;     // of the stretches here
 };
 
 double Distance(CPoint a, CPoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
@@ -40,9 +40,8 @@ struct CNear {
 CNear Nearest(CPoint p, CPoint a, CPoint b) {
   const double dx = b.x - a.x, dy = b.y - a.y;
   const double square = dx * dx + dy * dy;
-  const double t = square > 0
-                       ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0)
-                       : 0.0;
+  const double t =
+      square > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0) : 0.0;
   const CPoint q{a.x + t * dx, a.y + t * dy};
   return {Distance(p, q), dx * (p.y - a.y) - dy * (p.x - a.x) > 0};
 }
@@ -99,8 +98,8 @@ class CCutter {
       const CPoint u = m_edges[in].Derivative(1), v = m_edges[out].Derivative(0);
       CCornerPoint corner{m_edges[out].At(0), in, out};
       corner.turn = std::atan2(u.x * v.y - u.y * v.x, u.x * v.x + u.y * v.y);
-      const double bend = m_edges[in].Sweep() / m_edges[in].Length() -
-                          m_edges[out].Sweep() / m_edges[out].Length();
+      const double bend =
+          m_edges[in].Sweep() / m_edges[in].Length() - m_edges[out].Sweep() / m_edges[out].Length();
       corner.plain = std::fabs(corner.turn) < 1e-6 && std::fabs(bend) < 1e-6;
       m_corners.push_back(corner);
     }

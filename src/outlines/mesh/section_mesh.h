@@ -14,7 +14,7 @@ namespace orv3 {
 // A stretch of an edge of the outline.
 struct CStretch {
   int m_nLoop = 0;
-  int m_nEdge = 0;            // of CSectionMesh::m_arrEdge
+  int m_nEdge = 0;                // of CSectionMesh::m_arrEdge
   double m_dFrom = 0, m_dTo = 1;  // of the edge's t, material to the left
 };
 

@@ -26,8 +26,8 @@ bool InCircle(CGridPoint a, CGridPoint b, CGridPoint c, CGridPoint d) {
   const double ca = static_cast<double>(Side(d, c, a));
   const double ab = static_cast<double>(Side(d, a, b));
   const double sum = square(a) * bc + square(b) * ca + square(c) * ab;
-  const double size = square(a) * std::fabs(bc) + square(b) * std::fabs(ca) +
-                      square(c) * std::fabs(ab);
+  const double size =
+      square(a) * std::fabs(bc) + square(b) * std::fabs(ca) + square(c) * std::fabs(ab);
   return sum > 1e-14 * size;
 }
 
@@ -80,9 +80,7 @@ class CTriangulator {
     const auto& next = Cell(across).t.m_next;
     return next[0] == cell ? 0 : next[1] == cell ? 1 : 2;
   }
-  void Join(int cell, int edge, int other) {
-    Cell(cell).t.m_next[Index(edge)] = other;
-  }
+  void Join(int cell, int edge, int other) { Cell(cell).t.m_next[Index(edge)] = other; }
   void Repoint(int cell, int from, int to) {
     if (cell >= 0) Join(cell, EdgeTo(cell, from), to);
   }
@@ -209,11 +207,9 @@ void CTriangulator::Flip(int cell, int edge) {
   const int a = t.t.m_vertex[Index(edge)], b = t.t.m_vertex[Index(After(edge))];
   const int c = t.t.m_vertex[Index(Before(edge))], d = u.t.m_vertex[Index(other)];
   const auto at = [](const auto& list, int i) { return list[Index(i)]; };
-  Cell(cell) = {{{a, b, d},
-                 {at(u.t.m_next, After(other)), across, at(t.t.m_next, Before(edge))}},
+  Cell(cell) = {{{a, b, d}, {at(u.t.m_next, After(other)), across, at(t.t.m_next, Before(edge))}},
                 {at(u.laid, After(other)), 0, at(t.laid, Before(edge))}};
-  Cell(across) = {{{a, d, c},
-                   {at(u.t.m_next, Before(other)), at(t.t.m_next, After(edge)), cell}},
+  Cell(across) = {{{a, d, c}, {at(u.t.m_next, Before(other)), at(t.t.m_next, After(edge)), cell}},
                   {at(u.laid, Before(other)), at(t.laid, After(edge)), 0}};
   Repoint(at(u.t.m_next, After(other)), across, cell);
   Repoint(at(t.t.m_next, After(edge)), cell, across);
@@ -339,7 +335,8 @@ int CTriangulator::LayUpToVertex(int from, int to) {
     const int across = Cell(cell).t.m_next[Index(edge)];
     const int apex = Cell(cell).t.m_vertex[Index(edge)];
     const int far = Cell(across).t.m_vertex[Index(EdgeTo(across, cell))];
-    if (Side(Point(apex), Point(far), Point(b)) <= 0 || Side(Point(apex), Point(far), Point(a)) >= 0) {
+    if (Side(Point(apex), Point(far), Point(b)) <= 0 ||
+        Side(Point(apex), Point(far), Point(a)) >= 0) {
       // Not convex: `a -> b` has the apex on its left; later.
       crossed.push_back({a, b});
       continue;

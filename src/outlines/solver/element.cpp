@@ -13,7 +13,8 @@ Eigen::MatrixXd CurveShares(int n) {
   Eigen::MatrixXd values(n - 1, n - 1);
   for (int i = 1; i < n; ++i) {
     const double t = CurvePoint(i, n);
-    for (int d = 2; d <= n; ++d) values(i - 1, d - 2) = t * (1 - t) * EdgeKernel(d, 2 * t - 1).value;
+    for (int d = 2; d <= n; ++d)
+      values(i - 1, d - 2) = t * (1 - t) * EdgeKernel(d, 2 * t - 1).value;
   }
   return values.inverse();
 }
@@ -26,8 +27,8 @@ CElement::CElement(const CSectionMesh& mesh, const CMeshTriangle& triangle,
       m_x(Eigen::VectorXd::Zero(shape.m_nCount)),
       m_y(Eigen::VectorXd::Zero(shape.m_nCount)) {
   for (int i = 0; i < 3; ++i) {
-    const CPoint p = mesh.m_arrVertex[static_cast<std::size_t>(
-        triangle.m_vertex[static_cast<std::size_t>(i)])];
+    const CPoint p =
+        mesh.m_arrVertex[static_cast<std::size_t>(triangle.m_vertex[static_cast<std::size_t>(i)])];
     m_vertex[static_cast<std::size_t>(i)] = p;
     m_x[i] = p.x;
     m_y[i] = p.y;
@@ -47,9 +48,8 @@ CElement::CElement(const CSectionMesh& mesh, const CMeshTriangle& triangle,
 
 void CElement::Bend(const CSectionMesh& mesh, const CMeshTriangle& triangle, int edge,
                     int geometry) {
-  static const std::array<Eigen::MatrixXd, 5> kShares{Eigen::MatrixXd(), Eigen::MatrixXd(),
-                                                      CurveShares(2), CurveShares(3),
-                                                      CurveShares(4)};
+  static const std::array<Eigen::MatrixXd, 5> kShares{
+      Eigen::MatrixXd(), Eigen::MatrixXd(), CurveShares(2), CurveShares(3), CurveShares(4)};
   const int s = triangle.m_stretch[static_cast<std::size_t>(edge)];
   if (s < 0 || geometry < 2) return;
   const CStretch& stretch = mesh.m_arrStretch[static_cast<std::size_t>(s)];

@@ -126,8 +126,8 @@ void CSaintVenant::NumberEdges() {
 MatrixXd CSaintVenant::Forces(std::size_t element) const {
   const auto loads = m_elements[element].Loads();
   MatrixXd forces(loads.rows(), 3);
-  forces.col(0) = loads.col(kLoadTwist) - m_centroid.y * loads.col(kLoadDx) +
-                  m_centroid.x * loads.col(kLoadDy);
+  forces.col(0) =
+      loads.col(kLoadTwist) - m_centroid.y * loads.col(kLoadDx) + m_centroid.x * loads.col(kLoadDy);
   forces.col(1) = loads.col(kLoadX) - m_centroid.x * loads.col(kLoadOne);
   forces.col(2) = loads.col(kLoadY) - m_centroid.y * loads.col(kLoadOne);
   return forces;

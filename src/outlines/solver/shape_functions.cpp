@@ -120,9 +120,9 @@ CShapeFunctions::CShapeFunctions(int degree) : m_nDegree(degree), m_nCount(Count
 }
 
 const CShapeFunctions& CShapeFunctions::Of(int degree) {
-  static const std::array<CShapeFunctions, kMaxDegree> all{
-      CShapeFunctions(1), CShapeFunctions(2), CShapeFunctions(3),
-      CShapeFunctions(4), CShapeFunctions(5), CShapeFunctions(6)};
+  static const std::array<CShapeFunctions, kMaxDegree> all{CShapeFunctions(1), CShapeFunctions(2),
+                                                           CShapeFunctions(3), CShapeFunctions(4),
+                                                           CShapeFunctions(5), CShapeFunctions(6)};
   return all[static_cast<std::size_t>(degree - 1)];
 }
 

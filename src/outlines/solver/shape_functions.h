@@ -3,8 +3,8 @@
 //
 // By rising degree: the 3 vertex functions; then of each degree d one function for each edge, and
 // d - 2 that vanish on all edges. The first (q + 1) (q + 2) / 2 span the polynomials of degree q.
-// The function of degree d of the edge a -> b is la lb P'_{d-1}(lb - la) with the barycentric la, lb
-// and Legendre's P, so it changes sign with the edge's direction when d is odd.
+// The function of degree d of the edge a -> b is la lb P'_{d-1}(lb - la) with the barycentric la,
+// lb and Legendre's P, so it changes sign with the edge's direction when d is odd.
 #pragma once
 
 #include <Eigen/Dense>
