@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "catalogue/code_tables/table_search.h"
+#include "codes/slip.h"
+#include "codes/steel_strength.h"
 #include "connections/bolt_group.h"
 #include "connections/cases/bolt_case.h"
 
@@ -59,6 +61,27 @@ void LookUpSteel(benchmark::State& state) {
   }
 }
 BENCHMARK(LookUpSteel);
+
+void LookUpSteelByEdition(benchmark::State& state) {
+  int i = 0;
+  for (auto _ : state) {
+    const auto grade = static_cast<orv3::CSteelGrade>(i % 6);
+    benchmark::DoNotOptimize(
+        orv3::SteelStrengths(orv3::CCodeEdition::Gb2017, grade, 1.0 + (i & 63)));
+    ++i;
+  }
+}
+BENCHMARK(LookUpSteelByEdition);
+
+void LookUpSlipByEdition(benchmark::State& state) {
+  int i = 0;
+  for (auto _ : state) {
+    const auto grade = static_cast<orv3::CSteelGrade>(i % 6);
+    benchmark::DoNotOptimize(orv3::SlipFactor(orv3::CCodeEdition::Gb2017, i & 1, grade));
+    ++i;
+  }
+}
+BENCHMARK(LookUpSlipByEdition);
 
 void LookUpBolt(benchmark::State& state) {
   int strength = 0;

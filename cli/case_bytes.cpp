@@ -7,7 +7,7 @@
 
 #include "error.h"
 #include "framework/utf8.h"
-#include "output.h"
+#include "inputs_read.h"
 #include "platform/code_page.h"
 
 namespace orv3::cli {
@@ -83,7 +83,7 @@ std::size_t CCaseBytes::AddCharacters(std::string_view piece, bool last, std::st
   whole = AnsiCut(piece, piece.size());
   characters = piece.substr(0, whole);
   const CString wide = FromAnsi(characters);
-  if (wide.Find(L'\xFFFD') >= 0 || (last && whole < piece.size())) {
+  if (HasMeaningless(wide.View()) || (last && whole < piece.size())) {
     Refuse({"既不是 UTF-8 文本，也不是系统字符集的文本；请另存为 UTF-8",
             "is text neither of UTF-8 nor of the code page; save it as UTF-8"});
   }

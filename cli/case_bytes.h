@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "framework/language_text.h"
+#include "framework/bilingual_text.h"
 #include "platform/file_system.h"
 
 namespace orv3::cli {

@@ -6,8 +6,8 @@
 #include <variant>
 
 #include "connections/cases/bolt_case.h"
-#include "connections/cases/case_rules.h"
 #include "connections/cases/weld_case.h"
+#include "framework/plain_number.h"
 #include "output.h"
 #include "text_table.h"
 

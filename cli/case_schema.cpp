@@ -4,8 +4,8 @@
 #include <cmath>
 #include <stdexcept>
 
-#include "connections/cases/case_rules.h"
 #include "framework/excerpt.h"
+#include "framework/plain_number.h"
 
 namespace orv3::cli {
 namespace {

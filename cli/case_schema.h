@@ -13,8 +13,8 @@
 #include <string_view>
 #include <vector>
 
-#include "connections/cases/case_keys.h"
 #include "output.h"
+#include "reports/case_keys.h"
 
 namespace orv3::cli {
 

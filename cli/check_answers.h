@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/language_text.h"
+#include "framework/bilingual_text.h"
 #include "output.h"
 
 namespace orv3::cli {

@@ -19,6 +19,7 @@
 #include "framework/excerpt.h"
 #include "framework/utf8.h"
 #include "progress.h"
+#include "reports/report_document.h"
 #include "schemas.h"
 
 namespace orv3::cli {

@@ -7,7 +7,7 @@
 
 #include "error.h"
 #include "framework/utf8.h"
-#include "output.h"
+#include "inputs_read.h"
 #include "platform/whole_file.h"
 
 namespace orv3::cli {

@@ -96,7 +96,7 @@ std::string Bounded(const std::string& text, int argc, char** argv) {
 
 int Run(int argc, char** argv) {
   CLI::App program(
-      "Sections and connection checks of structural steel, by GB 50017-2003 (the 2003 edition)",
+      "Sections and connection checks of structural steel, by GB 50017 (editions of 2017 and 2003)",
       "orv3cal");
   program.set_version_flag("--version", "orv3cal " ORV3CAL_VERSION);
   program.allow_windows_style_options(false);  // "/folder/file" is a path on Windows too

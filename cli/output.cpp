@@ -9,6 +9,7 @@
 
 #include "error.h"
 #include "framework/utf8.h"
+#include "inputs_read.h"
 #include "platform/terminal.h"
 #include "platform/whole_file.h"
 #include "tables/file/store_check.h"
@@ -45,16 +46,11 @@ void WriteThrough(const std::filesystem::path& device, const std::string& path,
   NotWritten(path, WriteTrouble(errno == ENOSPC ? CFileError::Full : CFileError::Failed));
 }
 
-std::vector<std::filesystem::path>& Inputs() {
-  static std::vector<std::filesystem::path> inputs;
-  return inputs;
-}
-
 // A picture, report or list takes the place neither of what the command reads nor of a store.
 void KeepFromLoss(const std::filesystem::path& target, const std::string& path,
                   const std::string& bytes) {
   std::error_code error;
-  for (const auto& input : Inputs()) {
+  for (const auto& input : InputsRead()) {
     if (std::filesystem::equivalent(input, target, error))
       Refuse(path + ": is the file that is read; right would be another name");
   }
@@ -107,10 +103,6 @@ void PrintJson(const CJson& json) {
     }
   }
   PrintBytes(text + '\n');
-}
-
-void NoteInput(const std::string& path) {
-  Inputs().emplace_back(std::u8string(path.begin(), path.end()));
 }
 
 void PrintCsv(const std::string& text) {

@@ -25,9 +25,6 @@ void Print(const std::string& text);
 void PrintJson(const CJson& json);
 void PrintCsv(const std::string& text);
 
-// A file that the command reads, which WriteFile then refuses to replace.
-void NoteInput(const std::string& path);
-
 // Writes a file whole or not at all, and into the standard output or a device as into a pipe. A
 // link stays one: the file that it names is replaced. CCommandError with status 3 names the file
 // and the reason.

@@ -5,6 +5,7 @@
 
 #include "error.h"
 #include "framework/utf8.h"
+#include "inputs_read.h"
 #include "platform/file_system.h"
 #include "platform/places.h"
 #include "platform/store_error.h"

@@ -69,6 +69,11 @@ CText FromTo(double first, double last, const char* unit) {
   return {"请给出 " + from + " 至 " + to, "give " + from + " to " + to};
 }
 
+CText AboveZero(double last, const char* unit) {
+  const std::string to = CodeNumber(last) + (*unit == 0 ? "" : std::string(" ") + unit);
+  return {"请给出大于 0 且不大于 " + to + " 的数", "give a number above 0 and up to " + to};
+}
+
 CText ThicknessAbove(double over, double to) {
   const std::string from = CodeNumber(over);
   const std::string upTo = CodeNumber(to);

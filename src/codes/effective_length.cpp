@@ -45,10 +45,8 @@ CCodeAnswer<double> SingleSteppedMu2(CCodeEdition edition, CSteppedTop top, doub
   static constexpr CTextLiteral kByEquation = {
       "按表下公式；表中 η1 为 0.2 至 3.0，K1 为 0.06 至 0.8",
       "by the equation under the table, whose figures are for η1 0.2 to 3.0 and K1 0.06 to 0.8"};
-  static const CText kRight = {"请给出大于 0 且不大于 1000 的数",
-                               "give a number above 0 and up to 1000"};
-  if (!(eta1 > 0 && eta1 <= kLargest)) return NotPossible("eta1", eta1, kRight);
-  if (!(k1 > 0 && k1 <= kLargest)) return NotPossible("k1", k1, kRight);
+  if (!(eta1 > 0 && eta1 <= kLargest)) return NotPossible("eta1", eta1, AboveZero(kLargest));
+  if (!(k1 > 0 && k1 <= kLargest)) return NotPossible("k1", k1, AboveZero(kLargest));
   const bool bFree = top == CSteppedTop::Free;
   CCodeSource source = TableSource(edition, bFree ? 3 : 4);
   if (!IsWithinSingleStepped(eta1, k1)) {

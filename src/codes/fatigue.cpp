@@ -33,11 +33,14 @@ constexpr double kCutOff = 1e8;  // cycles, beyond which nothing more is lost
 CCodeAnswer<CFatigueCategory> FatigueCategory(CCodeEdition edition, std::string_view name) {
   if (edition == CCodeEdition::Gb2003) return Category2003(name);
   for (const gb2017::CFatigueRow& row : gb2017::kFatigue) {
-    if (name != row.m_szCategory) continue;
+    if (name.size() != row.m_strCategory.size() || name.back() != row.m_strCategory.back() ||
+        name != row.m_strCategory)
+      continue;
     const CTextLiteral place = name.front() == 'J'
                                    ? CTextLiteral{"16.2.1 表 16.2.1-2", "16.2.1, Table 16.2.1-2"}
                                    : CTextLiteral{"16.2.1 表 16.2.1-1", "16.2.1, Table 16.2.1-1"};
-    return {{row.m_szCategory, row.m_dC, row.m_dBeta, row.m_range2e6, row.m_range5e6, row.m_cutOff},
+    return {{row.m_strCategory.data(), row.m_dC, row.m_dBeta, row.m_range2e6, row.m_range5e6,
+             row.m_cutOff},
             {edition, place}};
   }
   CCodeRefusal refusal = NoneOf("category", name, {});

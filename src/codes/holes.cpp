@@ -35,8 +35,8 @@ CCodeAnswer<CHoleSize> HoleSize(CCodeEdition edition, CHoleKind kind, double d) 
 
 CCodeAnswer<CBoltSpacing> BoltSpacing(CCodeEdition edition, double d0, double t, CEdgeCut cut) {
   constexpr double kLargest = 1000;
-  if (!(d0 > 0 && d0 <= kLargest)) return NotPossible("d0", d0, FromTo(0, kLargest, "mm"));
-  if (!(t > 0 && t <= kLargest)) return NotPossible("t", t, FromTo(0, kLargest, "mm"));
+  if (!(d0 > 0 && d0 <= kLargest)) return NotPossible("d0", d0, AboveZero(kLargest, "mm"));
+  if (!(t > 0 && t <= kLargest)) return NotPossible("t", t, AboveZero(kLargest, "mm"));
   static constexpr CTextLiteral kTable2003 = {"8.3.4 表 8.3.4", "8.3.4, Table 8.3.4"};
   static constexpr CTextLiteral kTable2017 = {"11.5.2 表 11.5.2", "11.5.2, Table 11.5.2"};
   const CBoltSpacing spacing = {.m_dLeastPitch = 3 * d0,

@@ -68,7 +68,9 @@ constexpr CTextLiteral kCantilever = {
 CCodeAnswer<double> BetaB(CCodeEdition edition, CBeamLoad load, int supports, double xi,
                           double alphaB) {
   if (!IsMeasure(xi)) return NotAboveZero("xi", xi);
-  if (!(alphaB > 0 && alphaB < 1)) return NotPossible("alphab", alphaB, FromTo(0, 1));
+  if (!(alphaB > 0 && alphaB < 1))
+    return NotPossible("alphab", alphaB,
+                       {"请给出大于 0 且小于 1 的数", "give a number above 0 and below 1"});
   const CCodeSource source = {edition, TableB(edition)};
   switch (supports) {
     case 0: {
@@ -142,7 +144,7 @@ CCodeAnswer<CPhiB> RolledIPhiB(CCodeEdition edition, CSteelGrade grade, CRolledI
   double phiB = 0;
   if (!CTableSearch::SearchSub11_1(static_cast<int>(load) + 1, number, lengthM, phiB))
     return NotPossible(
-        "number", number,
+        "i-number", number,
         {"请给出表中的工字钢型号 10 至 63", "give an I number of the table, 10 to 63"});
   return {ReducedPhiB(phiB * EpsilonSquared(grade)),
           OfGrade(grade, {edition, Place(edition, {"C.0.2 表 C.0.2", "C.0.2, Table C.0.2"},

@@ -26,6 +26,8 @@ CText OneOf(std::span<const char* const> names);
 CText OneOf(std::span<const CSteelGrade> grades);
 // "give FIRST to LAST UNIT"
 CText FromTo(double first, double last, const char* unit = "");
+// "give a number above 0 and up to LAST UNIT"
+CText AboveZero(double last, const char* unit = "");
 // "give a thickness above OVER and up to UP TO mm"
 CText ThicknessAbove(double over, double to);
 

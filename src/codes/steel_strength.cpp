@@ -44,13 +44,16 @@ struct CSteelBand {
 };
 
 CSteelBand FindBand(CSteelGrade grade, double t, CSteelProduct product) noexcept {
+  const gb2017::CBandRange range =
+      gb2017::kSteelBands[static_cast<std::size_t>(grade)][static_cast<std::size_t>(product)];
   CSteelBand band;
-  for (const gb2017::CSteelRow& row : gb2017::kSteel) {
-    if (row.m_grade.m_nGrade != grade || row.m_product.m_nProduct != product) continue;
+  for (std::size_t i = range.m_nFirst; i < range.m_nEnd; ++i) {
+    const gb2017::CSteelRow& row = gb2017::kSteel[i];
     if (t > row.m_dOver && t <= row.m_dTo) band.m_pRow = &row;
-    if (band.m_dTo == 0) band.m_dOver = row.m_dOver;
-    band.m_dTo = row.m_dTo;
   }
+  if (range.m_nEnd == 0) return band;
+  band.m_dOver = gb2017::kSteel[range.m_nFirst].m_dOver;
+  band.m_dTo = gb2017::kSteel[range.m_nEnd - 1].m_dTo;
   return band;
 }
 
@@ -100,6 +103,22 @@ bool HasWord(std::string_view list, std::string_view word) noexcept {
   return false;
 }
 
+CSteelStrengths StrengthsOf(const gb2017::CSteelRow& row) noexcept {
+  return {row.m_dF, row.m_dFv, row.m_dFce, row.m_dFy, row.m_dFu};
+}
+
+CCodeAnswer<double> Strength2003(CSteelGrade grade, double t, CSteelStrength strength,
+                                 CSteelProduct product) {
+  if (strength == CSteelStrength::Fy || strength == CSteelStrength::Fu) {
+    const std::string column = kColumns[static_cast<std::size_t>(strength)];
+    return NotInEdition("strength", CCodeEdition::Gb2003, {" " + column, column},
+                        {"请给出其一：f、fv、fce", "give one of f, fv, fce"});
+  }
+  return Strengths2003(grade, t, product).Then([&](const CSteelStrengths& all) {
+    return Column(all, strength);
+  });
+}
+
 }  // namespace
 
 CCodeAnswer<CSteelStrengths> SteelStrengths(CCodeEdition edition, CSteelGrade grade, double t,
@@ -108,26 +127,18 @@ CCodeAnswer<CSteelStrengths> SteelStrengths(CCodeEdition edition, CSteelGrade gr
   const CSteelBand band = FindBand(ColumnGrade(grade), t, product);
   if (band.m_pRow == nullptr) return NoBand(grade, t, band);
   const gb2017::CSteelRow& row = *band.m_pRow;
-  return {{row.m_dF, row.m_dFv, row.m_dFce, row.m_dFy, row.m_dFu},
-          SourceOf(grade, row, !row.m_strDoubt.empty())};
+  return {StrengthsOf(row), SourceOf(grade, row, !row.m_strDoubt.empty())};
 }
 
 CCodeAnswer<double> SteelStrength(CCodeEdition edition, CSteelGrade grade, double t,
                                   CSteelStrength strength, CSteelProduct product) {
-  const CCodeAnswer<CSteelStrengths> all = SteelStrengths(edition, grade, t, product);
-  if (!all) return all.Refusal();
-  const double value = Column(*all, strength);
-  if (edition == CCodeEdition::Gb2017) {
-    const gb2017::CSteelRow& row = *FindBand(ColumnGrade(grade), t, product).m_pRow;
-    const char* column = kColumns[static_cast<std::size_t>(strength)];
-    return {value, SourceOf(grade, row, HasWord(row.m_strDoubt, column))};
-  }
-  if (strength == CSteelStrength::Fy || strength == CSteelStrength::Fu) {
-    const std::string column = kColumns[static_cast<std::size_t>(strength)];
-    return NotInEdition("strength", edition, {" " + column, column},
-                        {"请给出其一：f、fv、fce", "give one of f, fv, fce"});
-  }
-  return {value, all.Source()};
+  if (edition == CCodeEdition::Gb2003) return Strength2003(grade, t, strength, product);
+  const CSteelBand band = FindBand(ColumnGrade(grade), t, product);
+  if (band.m_pRow == nullptr) return NoBand(grade, t, band);
+  const gb2017::CSteelRow& row = *band.m_pRow;
+  const char* column = kColumns[static_cast<std::size_t>(strength)];
+  return {Column(StrengthsOf(row), strength),
+          SourceOf(grade, row, HasWord(row.m_strDoubt, column))};
 }
 
 }  // namespace orv3

@@ -22,7 +22,7 @@
 #define ORV3CAL_C_H
 
 /* Raised whenever a function is added; functions never change or go. */
-#define ORV3_INTERFACE_VERSION 2
+#define ORV3_INTERFACE_VERSION 3
 
 #if defined(_WIN32)
 #define ORV3_CALL __stdcall
@@ -188,6 +188,39 @@ ORV3_API int ORV3_CALL orv3_weld_strength(const orv3_char* steel, double thickne
  * 1000 N/mm^2; buckling class "a", "b", "c" or "d". Appendix C. */
 ORV3_API int ORV3_CALL orv3_phi(double slenderness, double yield, const orv3_char* buckling_class,
                                 double* value);
+
+/* --- Figures by edition, each of which returns 0
+ * --------------------------------------------------
+ *
+ * `code` is "2017" or "2003". A steel, a thickness, a hole or a surface for which the edition has
+ * no figure is refused by name. */
+
+/* Strength of a steel: "Q235", "Q345", "Q390", "Q420", in 2017 also "Q355" (read as Q345), "Q460"
+ * and "Q345GJ"; `product` is "plate" or "tube", `thickness` that of the plate or wall in mm; `kind`
+ * is "f", "fv", "fce", in 2017 also "fy" or "fu". 2017: Tables 4.4.1 to 4.4.3. */
+ORV3_API int ORV3_CALL orv3_code_steel(const orv3_char* code, const orv3_char* steel,
+                                       const orv3_char* product, double thickness,
+                                       const orv3_char* kind, double* value);
+/* Strength of a weld; `kind` as for orv3_weld_strength; "ffw" is that of the lowest electrode of
+ * the steel unless `electrode` ("E43", "E50", "E55", "E60") is given: null or empty otherwise.
+ * 2017: Table 4.4.5. */
+ORV3_API int ORV3_CALL orv3_code_weld(const orv3_char* code, const orv3_char* steel,
+                                      double thickness, const orv3_char* kind,
+                                      const orv3_char* electrode, double* value);
+/* Strength of a bolt; `bolt` is "C", "AB" or "bearing", `grade` "4.6" to "10.9"; `kind` is "ft" or
+ * "fv", or "fc" with the steel of the plate for `grade`. 2017: Table 4.4.6. */
+ORV3_API int ORV3_CALL orv3_code_bolt(const orv3_char* code, const orv3_char* bolt,
+                                      const orv3_char* grade, const orv3_char* kind, double* value);
+/* Slip factor; `surface` counts the treatments of the edition's table from 0: 0 to 2 in 2017 (Table
+ * 11.4.2-1), 0 to 4 in 2003. */
+ORV3_API int ORV3_CALL orv3_code_slip(const orv3_char* code, int surface, const orv3_char* steel,
+                                      double* value);
+/* Factor k of slip resistance; `hole` is "standard", "oversize", "slot-across" or "slot-along" the
+ * force. 2017: 11.4.2. */
+ORV3_API int ORV3_CALL orv3_code_hole(const orv3_char* code, const orv3_char* hole, double* value);
+/* Preload in kN of a bolt of "8.8" or "10.9" and a diameter in mm. 2017: Table 11.4.2-2. */
+ORV3_API int ORV3_CALL orv3_code_preload(const orv3_char* code, const orv3_char* grade,
+                                         double diameter, double* value);
 
 /* --- Windows ------------------------------------------------------------------------------------
  */

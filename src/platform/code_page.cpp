@@ -1,5 +1,6 @@
 #include "platform/code_page.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -160,6 +161,12 @@ CString FromAnsi(std::string_view bytes) {
     *end++ = character ? static_cast<wchar_t>(character) : kReplacement;
   }
   return CString(text.data(), static_cast<int>(end - text.data()));
+}
+
+bool HasMeaningless(std::wstring_view text) {
+  return std::any_of(text.begin(), text.end(), [](wchar_t ch) {
+    return ch == kReplacement || (ch >= 0xE000 && ch <= 0xF8FF);
+  });
 }
 
 std::size_t AnsiCut(std::string_view bytes, std::size_t limit) {

@@ -24,6 +24,9 @@ ORV3CAL_API bool SetAnsiCodePage(int codePage);
 ORV3CAL_API std::string ToAnsi(std::wstring_view text, bool* missing = nullptr);
 // Bytes as text. Half a character at the end is dropped; any other byte without meaning is U+FFFD.
 ORV3CAL_API CString FromAnsi(std::string_view bytes);
+// Whether characters of decoded bytes have no meaning: U+FFFD, or of the private area, which
+// Windows gives to bytes that a page leaves free.
+ORV3CAL_API bool HasMeaningless(std::wstring_view text);
 // How many of the first `limit` bytes are whole characters.
 ORV3CAL_API std::size_t AnsiCut(std::string_view bytes, std::size_t limit);
 

@@ -1,6 +1,6 @@
 #include "sections/section_picture.h"
 
-#include "sections/outline_picture.h"
+#include "sections/picture/outline_picture.h"
 
 namespace orv3 {
 

@@ -91,3 +91,11 @@ void ExpectHas(const std::string& text, const std::vector<std::string>& parts) {
   for (const std::string& part : parts)
     EXPECT_NE(text.find(part), std::string::npos) << part << " in " << text;
 }
+
+void SetVariable(const char* name, const std::string& value) {
+#ifdef _WIN32
+  _wputenv_s(orv3::FromUtf8(name).GetString(), orv3::FromUtf8(value).GetString());
+#else
+  setenv(name, value.c_str(), 1);
+#endif
+}

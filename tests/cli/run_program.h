@@ -22,6 +22,9 @@ inline const std::string kData = " --data \"" ORV3CAL_CATALOGUE "\"";
 // What a command prints with --json; an exit other than expected fails the test.
 Json JsonOf(const std::string& arguments, int exit = 0);
 
+// A variable of this process and of the programs that it runs.
+void SetVariable(const char* name, const std::string& value);
+
 struct CRefusal {
   std::string arguments;
   std::vector<std::string> names;  // what the message must name

@@ -15,14 +15,6 @@ namespace {
 
 const std::string kH = "自定义对称H型钢";
 
-void SetVariable(const char* name, const std::string& value) {
-#ifdef _WIN32
-  _wputenv_s(orv3::FromUtf8(name).GetString(), orv3::FromUtf8(value).GetString());
-#else
-  setenv(name, value.c_str(), 1);
-#endif
-}
-
 std::filesystem::path NativePath(const std::string& path) {
   return {std::u8string(path.begin(), path.end())};
 }

@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "connections/cases/case_rules.h"
 #include "connections/report/bolt_drawing.h"
 #include "connections/report/connection_report.h"
-#include "connections/report/report_page.h"
+#include "report_lines.h"
+#include "reports/report_document.h"
+#include "reports/report_page.h"
 #include "svg_check.h"
 
 namespace orv3 {
@@ -112,6 +115,81 @@ TEST(Report, HoldsEveryInputAndResultInBothLanguages) {
                                    .m_dM = M,
                                    .m_dV = V});
   }
+}
+
+// --- Lines -----------------------------------------------------------------------------------
+
+// How many lines of the report were held against their own arithmetic.
+template <class CHECK>
+int ExpectTrueLines(const typename CHECK::CCase& input, const std::string& what) {
+  SCOPED_TRACE(what);
+  CHECK check;
+  if (!check.Run(input)) {
+    ADD_FAILURE() << check.Faults().front().Line(CLanguage::English);
+    return 0;
+  }
+  const std::string html = CaseReport(input, check, CLanguage::English);
+  const int verdicts = report_lines::ExpectRelations(html);
+  EXPECT_EQ(verdicts, static_cast<int>(check.Parts().size()));
+  return report_lines::ExpectSteps(html);
+}
+
+// Loads of both signs and of none, groups of one bolt, one line and many, short and long ones.
+TEST(Report, EveryEvaluatedLineOfABoltGroupIsTrue) {
+  constexpr double kSigns[] = {1, -1, 0};
+  int lines = 0;
+  for (int n = 0; n < 108; ++n) {
+    CBoltCase input = Group(n % 3, n / 3 % 2);
+    input.m_nCols = std::array{1, 2, 5}[static_cast<std::size_t>(n / 6 % 3)];
+    input.m_nRows =
+        input.m_nLayout == 1 ? 4 : std::array{1, 3, 12}[static_cast<std::size_t>(n % 3)];
+    if (input.m_nLayout == 1) input.m_nCols = std::max(2, input.m_nCols);
+    input.m_rowSpace = {.m_dUniform = 77.5, .m_arrEach = {}};
+    input.m_colSpace.m_dUniform = n % 2 == 0 ? 90 : 245;
+    input.m_nD = n % 4 == 0 ? 24 : 20;
+    input.m_dN *= kSigns[n / 18 % 3];
+    input.m_dVx *= kSigns[n / 2 % 3] / (n % 5 + 1);
+    input.m_dVy *= kSigns[n / 5 % 3] * (n % 7 + 1);
+    input.m_dM *= input.m_nRows == 1 ? 0 : n % 4;
+    input.m_dT *= input.m_nRows * input.m_nCols == 1 ? 0 : kSigns[n / 7 % 3];
+    input.m_nSurface = n % 4;
+    lines += ExpectTrueLines<CBoltCheck>(input, "group " + std::to_string(n));
+  }
+  EXPECT_GT(lines, 108 * 10);
+}
+
+TEST(Report, EveryEvaluatedLineOfAWeldIsTrue) {
+  int lines = 0;
+  for (int n = 0; n < 72; ++n) {
+    const int loadCase = n % 6;
+    const double sign = n / 6 % 2 == 0 ? 1 : -1;
+    const double N = TakesN(loadCase) ? sign * 31.7 * (n % 5 + 1) : 0;
+    const double M = TakesM(loadCase) ? -1300.4 * (n / 12 % 3) : 0;
+    const double V = TakesV(loadCase) ? sign * 47.3 * (n % 4 + 1) : 0;
+    CFilletCase fillet = {.m_nLoadCase = loadCase,
+                          .m_nSteel = n % 4,
+                          .m_dLw = 217.5 + n,
+                          .m_dN = N,
+                          .m_dM = M,
+                          .m_dV = V,
+                          .m_dBetaF = n % 3 ? 1.22 : 1.0};
+    fillet.m_dAngle = n % 2 ? 90 : 75;
+    if (n / 6 % 3 == 0) fillet.m_dHf = 6 + n % 5;
+    if (n / 6 % 3 == 1) fillet.m_dHe = 7.35;
+    if (n / 6 % 3 == 2) fillet.m_dS = 12.6;
+    if (fillet.m_dS > 0) fillet.m_nGroove = n % 2 ? 0 : 3;
+    lines += ExpectTrueLines<CFilletCheck>(fillet, "fillet " + std::to_string(n));
+    lines += ExpectTrueLines<CButtCheck>({.m_nLoadCase = loadCase,
+                                          .m_nSteel = n % 4,
+                                          .m_nQuality = 1 + n % 3,
+                                          .m_dLw = 203.5 + n,
+                                          .m_dThick = 6.5 + n,
+                                          .m_dN = 4 * N,
+                                          .m_dM = 2 * M,
+                                          .m_dV = V},
+                                         "butt " + std::to_string(n));
+  }
+  EXPECT_GT(lines, 72 * 5);
 }
 
 // With a torque the most stressed bolt is a single corner, whose forces by statics are those

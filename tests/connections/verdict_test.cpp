@@ -6,10 +6,10 @@
 #include <cmath>
 
 #include "connections/cases/bolt_case.h"
-#include "connections/cases/case_rules.h"
 #include "connections/cases/weld_case.h"
 #include "connections/report/connection_report.h"
 #include "connections/verdict/least_cut.h"
+#include "framework/plain_number.h"
 
 namespace orv3 {
 namespace {

@@ -369,25 +369,4 @@ TEST_F(Browser, LeavesDeletedRowsOut) {
   EXPECT_EQ(model.ChosenRow()[0].m_strValue, L"I22a");
 }
 
-// As many rows as a table of two columns can have in a store, whose directory has 200 bytes for the
-// places of its blocks; with descending heights in groups of equal ones.
-TEST_F(Browser, LargeTable) {
-  m_store.AddMany(L"剖分T型钢", 1800);
-  CBrowserModel model = Open();
-  model.Open();
-  model.SelectNode(NodeOf(model, L"剖分T型钢"));
-  ASSERT_EQ(model.ItemCount(), 1800);
-  model.SortBy(1);
-  EXPECT_STREQ(model.ItemText(0, 0), L"T1790");
-  EXPECT_STREQ(model.ItemText(9, 0), L"T1799");
-  EXPECT_STREQ(model.ItemText(1799, 0), L"T9");
-  model.SortBy(1);
-  EXPECT_STREQ(model.ItemText(0, 0), L"T9");
-  EXPECT_STREQ(model.ItemText(1799, 0), L"T1790");
-  // T99, T199 to T1799 and T990 to T999, of which T999 counts twice: 18 + 10 - 1.
-  Search(model, L"No.", 0, L"99", false);
-  EXPECT_EQ(model.ItemCount(), 27);
-  EXPECT_EQ(model.CountText(), L"检索到 27 条记录，共 1800 条记录");
-}
-
 }  // namespace

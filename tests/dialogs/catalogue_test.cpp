@@ -29,27 +29,6 @@ class CatalogueBrowser : public testing::Test {
   std::unique_ptr<CBrowserModel> m_model;
 };
 
-// What a designer does: find the I20 sections in the tree, sort them, take I20a.
-TEST_F(CatalogueBrowser, ChoosesABeam) {
-  Select(L"热轧普通工字钢");
-  m_model->SetSearchColumn(1);
-  m_model->SetSearchValue(L"I20");
-  m_model->Search();
-  ASSERT_EQ(m_model->ItemCount(), 2);
-  int area = -1;
-  for (int i = 0; i < m_model->ColumnCount(); ++i) {
-    if (m_model->Column(i).m_strSign == L"A(cm^2)") area = i;
-  }
-  m_model->SortBy(area);
-  m_model->SortBy(area);
-  EXPECT_STREQ(m_model->ItemText(0, 0), L"I20b");
-  EXPECT_STREQ(m_model->ItemText(1, 0), L"I20a");
-  m_model->SelectItem(1);
-  ASSERT_TRUE(m_model->Ok());
-  // GB/T 706: 35.578 cm^2, printed as 35.5 in some tables.
-  EXPECT_NEAR(CLoadDataTable::GetDataItemArea(m_model->ChosenRow()), 3555, 10);
-}
-
 TEST_F(CatalogueBrowser, EveryRolledTableHasRows) {
   for (const CTreeNode& node : m_model->Tree()) {
     if (!node.m_bTable) continue;
@@ -77,17 +56,6 @@ TEST_F(CatalogueBrowser, DefaultSectionsCanBeAdded) {
     EXPECT_GT(CLoadDataTable::GetDataItemArea(m_model->ChosenRow()), 0) << ToUtf8(node.m_strText);
   }
   EXPECT_TRUE(m_user.TakeMessages().empty());
-}
-
-// The data files of the catalogue hold what the store holds.
-TEST_F(CatalogueBrowser, ImportingTheCatalogueAgainChangesNothing) {
-  const CDataTable before = m_store.Read(L"热轧等边角钢");
-  Select(L"热轧等边角钢");
-  m_user.m_arrOpen = {Shipped(L"DbData.kvb")};
-  m_user.m_arrAnswer = {CMessageAnswer::Yes};
-  m_model->Import();
-  EXPECT_EQ(m_user.TakeMessages().size(), 1U) << "the question alone";
-  EXPECT_EQ(m_model->ItemCount(), before.GetRealTableRowNum());
 }
 
 }  // namespace

@@ -149,32 +149,6 @@ TEST(Property, RefusedByTheCallerItStaysAsItWas) {
   EXPECT_EQ(model.Row()[0].m_strValue, L"changed");
 }
 
-TEST(Property, SpacingIsAListInBothModes) {
-  const CDialogStore store;
-  store.Fill();
-  struct CCase {
-    const wchar_t* table;
-    const wchar_t* number;
-    int choices;  // 0: no spacing
-  };
-  for (const CCase& c : {CCase{L"热轧等边角钢组合", L"2L30X3", 10},
-                         {L"热轧等边角钢十字组合", L"+L30X3", 5},
-                         {L"热轧普通槽钢][组合", L"2][10", 10},
-                         {L"热轧普通槽钢[]组合", L"2[]10", 0}}) {
-    for (const int mode : {0, 1}) {
-      const CDataItem row = WithSpacing(CLoadDataTable::GetSysTemJMItem(c.table, c.number), L"4");
-      ASSERT_FALSE(row.IsEmpty());
-      CPropertyModel model(row, c.table, mode);
-      const bool list = model.Grid().ModifyType(1, 1) == CModifyType::List;
-      ASSERT_EQ(list, c.choices > 0) << ToUtf8(c.table);
-      if (!list) continue;
-      EXPECT_EQ(model.Grid().Choices(1, 1).GetSize(), c.choices) << ToUtf8(c.table);
-      model.SetValue(1, L"8");
-      EXPECT_EQ(SpacingOf(model.Row()), L"8");
-    }
-  }
-}
-
 // Two channels [10 with their backs down and up, 600 apart and then 800. A = 2 x 1274 mm^2;
 // Ix = 2 x 25.6e4 + 2 x 1274 x (k/2)^2, since at 90 degrees Iy of the channel becomes Ix.
 TEST(Property, LatticeColumn) {

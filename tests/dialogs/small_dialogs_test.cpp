@@ -48,39 +48,6 @@ TEST(Spacing, EmptyTextKeepsTheDialogOpen) {
   EXPECT_EQ(model.Spacing(), L"8");
 }
 
-// The families by table name; the spacing's cell stands behind "No." and is an integer.
-TEST(Spacing, Families) {
-  struct CCase {
-    const wchar_t* table;
-    const wchar_t* sign;  // null: none
-    bool combined;
-  };
-  for (const CCase& c : {CCase{L"热轧等边角钢组合", L"a(mm)", true},
-                         {L"热轧不等边角钢长边组合", L"a(mm)", true},
-                         {L"热轧不等边角钢短边组合", L"a(mm)", true},
-                         {L"热轧等边角钢十字组合", L"δ(mm)", true},
-                         {L"热轧普通槽钢][组合", L"a(mm)", true},
-                         {L"热轧轻型槽钢][组合", L"a(mm)", true},
-                         {L"热轧普通槽钢[]组合", nullptr, true},
-                         {L"热轧轻型槽钢[]组合", nullptr, true},
-                         {L"热轧等边角钢", nullptr, false},
-                         {L"双肢格构柱", nullptr, false}}) {
-    const std::string name = ToUtf8(c.table);
-    CDataItem row;
-    row.m_strTableName = c.table;
-    row.m_arrCell.Add(CDataCell({L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1}, L"X"));
-    EXPECT_EQ(IsCombinedTable(c.table), c.combined) << name;
-    const CDataItem once = WithSpacing(row, L"6");
-    const CDataItem twice = WithSpacing(once, L"8");
-    ASSERT_EQ(twice.GetItemLength(), c.sign ? 2 : 1) << name;
-    if (!c.sign) continue;
-    int spacing = 0;
-    EXPECT_EQ(twice.GetCellValue(c.sign, spacing), 1) << name;
-    EXPECT_EQ(spacing, 8) << name;
-    EXPECT_EQ(SpacingOf(once), L"6") << name;
-  }
-}
-
 TEST(Sign, BlanksAtTheEndsGo) {
   CSignModel model(L"I20a");
   model.Ok(L"  I 20c \t");

@@ -22,6 +22,9 @@ using orv3::LastStoreError;
 
 namespace {
 
+// The system may spell the folder in another way than was asked for.
+const wchar_t* const kJournalName = L"库._KDB";
+
 class StoreFile : public testing::Test {
  protected:
   StoreFile() { orv3::SetBusyWait(std::chrono::milliseconds{20}); }
@@ -356,7 +359,7 @@ TEST_F(StoreFile, AJournalOfTheFirstFormatIsLeftToTheUser) {
     orv3::ClearStoreError();
     EXPECT_EQ(Seen(m_path), c.opens ? c.store : "?");
     EXPECT_EQ(Exists(JournalPath(m_path)), !c.opens);
-    EXPECT_EQ(LastStoreError().m_strText.Find(JournalPath(m_path).GetString()) >= 0, !c.opens);
+    EXPECT_EQ(LastStoreError().m_strText.Find(kJournalName) >= 0, !c.opens);
     EXPECT_EQ(Bytes(m_path), c.store);
   }
 }
@@ -367,7 +370,7 @@ TEST_F(StoreFile, ItsErrorsNameWhatFailed) {
   Files().MakeFolder(JournalPath(m_path));
   orv3::ClearStoreError();
   EXPECT_EQ(Seen(m_path), "?");
-  EXPECT_GE(LastStoreError().m_strText.Find(JournalPath(m_path).GetString()), 0);
+  EXPECT_GE(LastStoreError().m_strText.Find(kJournalName), 0);
 }
 
 TEST_F(StoreFile, AReadOnlyMarkIsClearedOnce) {

@@ -3,6 +3,8 @@
 
 #include <cstdlib>
 
+#include "dialogs/win32/dialog_help.h"
+#include "dialogs/win32/message_box.h"
 #include "dialogs/win32/resource.h"
 #include "framework/utf8.h"
 #include "platform/file_system.h"
@@ -84,40 +86,6 @@ TEST(Browser, SearchSortShowAndChoose) {
   EXPECT_NEAR(CLoadDataTable::GetDataItemArea(row), 3550, 10);
 }
 
-TEST(Browser, WithoutTables) {
-  CDataItem row;
-  row.m_strTableName = kBeams;
-  int result = -1;
-  Drive([&] { result = CLoadDataTable::VisitDataBase(Catalogue(), row, 0); },
-        [] {
-          const auto probe = CDialogProbe::WaitFor(kCaption);
-          Expect(probe.Count(IDC_LIST), 0, "rows");
-          Expect(probe.IsEnabled(IDC_ADD), FALSE, "adding");
-          const auto nodes = probe.Nodes(IDC_TREE);
-          Expect(static_cast<int>(nodes.size()), 2 + 9 + 10, "roots and families");
-          Expect(probe.IsEnabled(IDOK), FALSE, "OK without a row");
-          probe.Close();
-        });
-  EXPECT_EQ(result, 0);
-  EXPECT_TRUE(row.IsEmpty());
-}
-
-TEST(Browser, CancelLeavesTheRow) {
-  CDataItem row = CLoadDataTable::GetSysTemJMItem(kBeams, L"I20a");
-  CLoadDataTable::SetOrvoPrgPath(Catalogue());
-  row = CLoadDataTable::GetSysTemJMItem(kBeams, L"I20a");
-  int result = -1;
-  Drive([&] { result = CLoadDataTable::VisitDataBase(Catalogue(), row, kEverything); },
-        [] {
-          const auto probe = CDialogProbe::WaitFor(kCaption);
-          Expect(probe.Cell(IDC_LIST, probe.SelectedItem(IDC_LIST), 0), L"I20a");
-          probe.SelectItem(IDC_LIST, L"I22a");
-          probe.Press(IDC_LIST, VK_ESCAPE);
-        });
-  EXPECT_EQ(result, 0);
-  EXPECT_TRUE(row[L"No."].m_strValue == L"I20a");
-}
-
 TEST(Browser, EnterInTheSearchFieldSearches) {
   CDataItem row;
   Drive([&] { CLoadDataTable::VisitDataBase(Catalogue(), row, kEverything); },
@@ -148,6 +116,14 @@ TEST(Browser, ChosenColumnsAlone) {
           const auto columns = CDialogProbe::WaitFor(L"选择显示项");
           Expect(columns.Count(IDC_COLUMN_LIST), static_cast<int>(before.size()),
                  "columns offered");
+          columns.Click(IDC_HELP_BUTTON);
+          const auto help = CDialogProbe::WaitFor(L"帮助");
+          Expect(help.Message(), orv3::HelpOf(IDD_VIEW_COLUMNS).m_szText);
+          help.Answer(IDOK);
+          SendMessageW(columns.Control(IDC_NONE), BM_CLICK, 0, 0);
+          columns.Click(IDOK);  // refused: nothing is left
+          CDialogProbe::WaitFor(L"Orvo提醒您").Answer(IDOK);
+          SendMessageW(columns.Control(IDC_ALL), BM_CLICK, 0, 0);
           columns.SetMark(IDC_COLUMN_LIST, 1, false);
           columns.Click(IDOK);
           columns.WaitUntilClosed();

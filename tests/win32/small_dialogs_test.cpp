@@ -1,24 +1,15 @@
-// The property, number, spacing, column and table name dialogs.
+// The property and number dialogs, and the progress of what takes its time.
 #include <gtest/gtest.h>
 
-#include "dialogs/model/column_model.h"
-#include "dialogs/model/table_name_model.h"
-#include "dialogs/win32/dialog_help.h"
-#include "dialogs/win32/message_box.h"
 #include "dialogs/win32/property_dlg.h"
 #include "dialogs/win32/resource.h"
 #include "dialogs/win32/sect_sign_set.h"
-#include "dialogs/win32/sel_table_name_dlg.h"
-#include "dialogs/win32/steel_zhzj_dlg.h"
-#include "dialogs/win32/view_col_dlg.h"
 #include "dialogs/win32/windows_user.h"
 #include "sections/load_data_table.h"
-#include "tables/data_table.h"
 #include "win32/dialog_driver.h"
 
 namespace {
 
-constexpr wchar_t kSpacingCaption[] = L"型钢组合肢距输入";
 constexpr wchar_t kEditCaption[] = L"截面特性参数设置";
 constexpr wchar_t kShowCaption[] = L"截面特性参数查询";
 
@@ -47,26 +38,6 @@ TEST(SmallDialogs, NewNumberWithoutTheBlanksAroundIt) {
   Drive([&] { result = dialog.DoModal(); }, type(L"  H400X300 b \t", IDOK));
   EXPECT_EQ(result, IDOK);
   EXPECT_TRUE(dialog.m_strSign == L"H400X300 b");
-}
-
-TEST(SmallDialogs, ASpacingFromTheList) {
-  CSteelZHZJDlg dialog;
-  dialog.m_nKind = 1;
-  INT_PTR result = 0;
-  Drive([&] { result = dialog.DoModal(); },
-        [] {
-          const auto probe = CDialogProbe::WaitFor(kSpacingCaption);
-          Expect(probe.Text(IDC_SPACING_LABEL), L"肢距δ(mm)");
-          Expect(static_cast<int>(probe.Choices(IDC_SPACING).size()), 5, "choices");
-          Expect(probe.Text(IDC_SPACING), L"0");
-          SendMessageW(probe.Control(IDC_SPACING), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
-          SendMessageW(probe.Control(IDOK), BM_CLICK, 0, 0);
-          Expect(IsWindow(probe.Window()), TRUE, "dialog open without a spacing");
-          probe.Choose(IDC_SPACING, L"10");
-          probe.Click(IDOK);
-        });
-  EXPECT_EQ(result, IDOK);
-  EXPECT_TRUE(dialog.m_strSpacing == L"10");
 }
 
 TEST(SmallDialogs, EditedSizesAreInTheRowAndRecomputed) {
@@ -119,59 +90,6 @@ TEST(SmallDialogs, ShownRowsCannotBeChanged) {
           Expect(editor != nullptr, 0, "cell editor");
           probe.Click(IDCANCEL);
         });
-}
-
-CDataTableTitle ThreeColumns() {
-  CDataTable table;
-  table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_Value_Type(0), 1);
-  table.AddTableCol(L"高度", L"h(mm)", CDataTypeStruct::KVBT_Value_Type(4), 0);
-  table.AddTableCol(L"面积", L"A(cm^2)", CDataTypeStruct::KVBT_Value_Type(4), 0);
-  return table.m_Title;
-}
-
-TEST(SmallDialogs, ColumnsToShow) {
-  orv3::CColumnModel model(ThreeColumns(), L"");
-  const auto before = orv3::SetMessageHandler(orv3::ShowMessageBox);  // as the library's entry does
-  INT_PTR result = 0;
-  Drive([&] { result = CViewColDlg(model).DoModal(); },
-        [] {
-          const auto probe = CDialogProbe::WaitFor(L"选择显示项");
-          Expect(probe.Count(IDC_COLUMN_LIST), 3, "columns");
-          probe.Click(IDC_HELP_BUTTON);
-          const auto help = CDialogProbe::WaitFor(L"帮助");
-          Expect(help.Message(), orv3::HelpOf(IDD_VIEW_COLUMNS).m_szText);
-          help.Answer(IDOK);
-          SendMessageW(probe.Control(IDC_NONE), BM_CLICK, 0, 0);
-          probe.Click(IDOK);  // refused: nothing is left
-          CDialogProbe::WaitFor(L"Orvo提醒您").Answer(IDOK);
-          probe.SetMark(IDC_COLUMN_LIST, 2, true);
-          probe.SetMark(IDC_COLUMN_LIST, 0, true);
-          probe.Click(IDOK);
-        });
-  orv3::SetMessageHandler(before);
-  EXPECT_EQ(result, IDOK);
-  EXPECT_TRUE(model.View() == L"No.<<>>A(cm^2)");
-}
-
-TEST(SmallDialogs, AFilterKeepsTheMarksOfHiddenNames) {
-  CStringArray names;
-  for (const wchar_t* name : {L"热轧普通槽钢", L"热轧等边角钢", L"冷弯薄壁槽钢"}) names.Add(name);
-  orv3::CTableNameModel model(names, CStringArray());
-  INT_PTR result = 0;
-  Drive([&] { result = CSelTableNameDlg(model).DoModal(); },
-        [] {
-          const auto probe = CDialogProbe::WaitFor(L"选择截面表");
-          probe.SetMark(IDC_NAME_LIST, 1, true);
-          probe.SetText(IDC_FILTER, L"槽");
-          Expect(probe.Count(IDC_NAME_LIST), 2, "names with the filter");
-          Expect(probe.Cell(IDC_NAME_LIST, 1, 0), L"冷弯薄壁槽钢");
-          probe.SetMark(IDC_NAME_LIST, 1, true);
-          probe.Click(IDOK);
-        });
-  EXPECT_EQ(result, IDOK);
-  ASSERT_EQ(model.Chosen().GetSize(), 2);
-  EXPECT_TRUE(model.Chosen()[0] == L"热轧等边角钢");
-  EXPECT_TRUE(model.Chosen()[1] == L"冷弯薄壁槽钢");
 }
 
 // The window that owns it waits meanwhile.

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "framework/utf8.h"
-#include "platform/file_system.h"
+#include "platform/temp_folder.h"
 
 namespace {
 
@@ -25,8 +25,8 @@ CStoreFolder::CStoreFolder(CStart start) {
   std::filesystem::create_directories(folder);
   m_strPath = CString(folder.wstring()) + L"\\";
   if (start == CStart::Catalogue) {
-    std::filesystem::copy_file(Of(orv3::FromUtf8(ORV3CAL_CATALOGUE "/") + CString(kStore)),
-                               folder / kStore);
+    // Another test may have the catalogue open.
+    PutBytes(m_strPath + kStore, Bytes(orv3::FromUtf8(ORV3CAL_CATALOGUE "/") + CString(kStore)));
   }
 }
 

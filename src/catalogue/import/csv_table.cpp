@@ -53,7 +53,7 @@ bool MakeUtf8(std::string& text) {
   }
   if (IsUtf8(text)) return true;
   const CString wide = FromAnsi(text);
-  if (wide.Find(L'\xFFFD') >= 0 || AnsiCut(text, text.size()) != text.size()) return false;
+  if (HasMeaningless(wide.View()) || AnsiCut(text, text.size()) != text.size()) return false;
   text = ToUtf8(wide);
   return true;
 }

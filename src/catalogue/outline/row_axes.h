@@ -2,7 +2,7 @@
 #pragma once
 
 #include "framework/cstring.h"
-#include "sections/outline_picture.h"
+#include "sections/picture/outline_picture.h"
 
 namespace orv3 {
 

@@ -10,7 +10,7 @@
 #include "framework/number_text.h"
 #include "outlines/outline_moments.h"
 #include "sections/geometry/row_values.h"
-#include "sections/outline_picture.h"
+#include "sections/picture/outline_picture.h"
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <iterator>
 #include <optional>
 #include <string_view>
 
@@ -49,6 +50,11 @@ struct CSteelRow {
   std::string_view m_strDoubt;  // the columns that are doubtful
 };
 extern const CSteelRow kSteel[37];
+// Its bands of a grade and a product: rows m_nFirst up to but not including m_nEnd.
+struct CBandRange {
+  std::size_t m_nFirst, m_nEnd;
+};
+extern const CBandRange kSteelBands[std::size(kGradeNames)][2];
 
 // Table 4.4.5.
 struct CWeldRow {
@@ -113,7 +119,7 @@ extern const CClassRow kClasses[5];
 
 // Tables 16.2.1-1 and 16.2.1-2.
 struct CFatigueRow {
-  const char* m_szCategory;
+  std::string_view m_strCategory;
   double m_dC, m_dBeta;
   CCell m_range2e6, m_range5e6, m_cutOff;
 };

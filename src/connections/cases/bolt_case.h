@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "connections/bolt_group.h"
-#include "connections/cases/case_answer.h"
 #include "connections/verdict/bolt_verdict.h"
+#include "reports/case_answer.h"
 
 namespace orv3 {
 

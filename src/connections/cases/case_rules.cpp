@@ -2,72 +2,10 @@
 
 #include "catalogue/code_tables/thickness_group.h"
 #include "connections/check_math.h"
-#include "framework/number_text.h"
-#include "framework/utf8.h"
 
 namespace orv3 {
 
 const char* const kSteels[4] = {"Q235", "Q345", "Q390", "Q420"};
-
-std::string PlainNumber(double value) {
-  const double size = std::fabs(value);
-  if (!std::isfinite(value) || size >= 1e9 || (size != 0 && size < 1e-4))
-    return ToUtf8(FormatG(value));
-  const int decimals = size >= 1000 ? 0 : size >= 100 ? 1 : size >= 10 ? 2 : size >= 1 ? 3 : 4;
-  std::string text = ToUtf8(FormatFixed(value, decimals));
-  if (text.find('.') != std::string::npos) {
-    while (text.back() == '0') text.pop_back();
-    if (text.back() == '.') text.pop_back();
-  }
-  return text == "-0" ? "0" : text;
-}
-
-std::string PercentNumber(double utilisation) {
-  const double percent = 100 * std::fabs(utilisation);
-  std::string text = PlainNumber(std::round(10 * percent) / 10);
-  for (int digits = 2; percent > 100 && text == "100" && digits < 16; ++digits) {
-    const std::string longer = ToUtf8(FormatFixed(percent, digits));
-    if (longer.find_first_not_of("0", 4) != std::string::npos) text = longer;
-  }
-  return text;
-}
-
-CComparedText Compared(double effect, double limit) {
-  CComparedText text = {PlainNumber(effect), PlainNumber(limit)};
-  for (int digits = 1; effect > limit && text.m_strEffect == text.m_strLimit && digits < 16;
-       ++digits) {
-    text = {ToUtf8(FormatFixed(effect, digits)), ToUtf8(FormatFixed(limit, digits))};
-  }
-  return text;
-}
-
-const CCasePart& WorstPart(std::span<const CCasePart> parts) {
-  const CCasePart* worst = &parts.front();
-  for (const CCasePart& part : parts) {
-    if (std::isnan(worst->m_dUtilisation)) break;
-    if (!(part.m_dUtilisation <= worst->m_dUtilisation)) worst = &part;
-  }
-  return *worst;
-}
-
-void CFaultList::Positive(const char* key, double value, const char* unit) {
-  if (!std::isfinite(value)) {
-    Finite(key, value);
-  } else if (value <= 0) {
-    NotPossible(
-        key, PlainNumber(value),
-        {std::string("请给出大于 0 的数值 ") + unit, std::string("give more than 0 ") + unit});
-  }
-}
-
-void CFaultList::Within(const char* key, int value, int first, int last) {
-  if (value >= first && value <= last) return;
-  const std::string from = std::to_string(first);
-  const std::string to = std::to_string(last);
-  NotPossible(key, std::to_string(value),
-              {"请给出 " + from + " 至 " + to + " 的整数",
-               "give a whole number from " + from + " to " + to});
-}
 
 void TooThick(const char* key, double thickness, const std::string& table, CFaultList& faults) {
   const std::string is = PlainNumber(thickness) + " mm";

@@ -5,46 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "connections/cases/case_keys.h"
+#include "framework/plain_number.h"
+#include "reports/fault_list.h"
 
 class NormalBoltData;
 
 namespace orv3 {
-
-// A number as people write it: four significant digits at least, no exponent for everyday sizes.
-std::string PlainNumber(double value);
-
-// A utilisation in percent, to a tenth; above 1 with the digits that show it above 100.
-std::string PercentNumber(double utilisation);
-
-// An effect and its limit side by side, with the digits that tell them apart when it is above.
-struct CComparedText {
-  std::string m_strEffect;
-  std::string m_strLimit;
-};
-CComparedText Compared(double effect, double limit);
-
-// Collects the faults of one case.
-class CFaultList {
- public:
-  void Add(std::string key, CText what, CText right) {
-    m_arrFault.push_back({std::move(key), std::move(what), std::move(right)});
-  }
-  void NotPossible(std::string key, const std::string& number, CText right) {
-    Add(std::move(key), {number + " 不可用", number + " is not possible"}, std::move(right));
-  }
-  void Finite(const char* key, double value) {
-    if (!std::isfinite(value))
-      Add(key, {"不是有限数", "is no finite number"}, {"请给出数值", "give a number"});
-  }
-  void Positive(const char* key, double value, const char* unit);
-  void Within(const char* key, int value, int first, int last);
-  std::vector<CCaseFault> Take() { return std::move(m_arrFault); }
-  bool IsEmpty() const noexcept { return m_arrFault.empty(); }
-
- private:
-  std::vector<CCaseFault> m_arrFault;
-};
 
 // Load cases 0 to 5 of both welds: which loads take part.
 constexpr bool TakesN(int loadCase) noexcept { return loadCase != 3; }

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "connections/butt_weld.h"
-#include "connections/cases/case_answer.h"
 #include "connections/fillet_weld.h"
 #include "connections/verdict/weld_verdict.h"
+#include "reports/case_answer.h"
 
 namespace orv3 {
 

@@ -7,7 +7,7 @@
 #include "connections/check_math.h"
 #include "connections/report/bolt_drawing.h"
 #include "connections/report/connection_report.h"
-#include "connections/report/report_page.h"
+#include "reports/report_page.h"
 
 namespace orv3 {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "connections/cases/case_rules.h"
 #include "connections/report/connection_report.h"
-#include "connections/report/report_page.h"
 #include "connections/report/weld_drawing.h"
+#include "reports/report_page.h"
 
 namespace orv3 {
 namespace {

@@ -1,9 +1,9 @@
-#include "connections/report/report_page.h"
+#include "reports/report_page.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "connections/cases/case_rules.h"
+#include "framework/plain_number.h"
 #include "framework/utf8.h"
 
 namespace orv3 {

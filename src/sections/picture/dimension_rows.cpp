@@ -1,4 +1,4 @@
-#include "sections/dimension_rows.h"
+#include "sections/picture/dimension_rows.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,4 +1,4 @@
-// A text in both languages of the program, UTF-8.
+// A text in both languages of the system, UTF-8.
 #pragma once
 
 #include <string>

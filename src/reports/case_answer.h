@@ -5,12 +5,24 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <vector>
 
-#include "connections/cases/case_keys.h"
 #include "framework/export.h"
+#include "reports/case_keys.h"
 
 namespace orv3 {
+
+// One part of a verdict.
+struct CCasePart {
+  CTextLiteral m_name;
+  const char* m_szKey;    // the result key of the verdict
+  double m_dUtilisation;  // effect over resistance
+  bool m_bPass;
+};
+
+// The worst of the parts: the greatest utilisation, a NaN before all.
+ORV3CAL_API const CCasePart& WorstPart(std::span<const CCasePart> parts);
 
 class ORV3CAL_API CCaseAnswer {
  public:

@@ -8,8 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "framework/export.h"
-#include "framework/language_text.h"
+#include "framework/bilingual_text.h"
 
 namespace orv3 {
 
@@ -59,17 +58,6 @@ struct CCaseWarning {
   std::string m_strKey;
   CText m_text;
 };
-
-// One part of a verdict.
-struct CCasePart {
-  CTextLiteral m_name;
-  const char* m_szKey;    // the result key of the verdict
-  double m_dUtilisation;  // effect over resistance
-  bool m_bPass;
-};
-
-// The worst of the parts: the greatest utilisation, a NaN before all.
-ORV3CAL_API const CCasePart& WorstPart(std::span<const CCasePart> parts);
 
 // Writes `value` into the key's field; false when it is of another kind or no choice of the key.
 template <class CASE>

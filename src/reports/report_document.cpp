@@ -1,9 +1,10 @@
 // The pages of a report: the summary, and a sheet for every case.
+#include "reports/report_document.h"
+
 #include <algorithm>
 
-#include "connections/report/connection_report.h"
-#include "connections/report/report_page.h"
 #include "framework/excerpt.h"
+#include "reports/report_page.h"
 
 namespace orv3 {
 namespace {

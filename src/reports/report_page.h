@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "connections/cases/case_keys.h"
 #include "drawing/drawing.h"
+#include "reports/case_keys.h"
 
 namespace orv3 {
 

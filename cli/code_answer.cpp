@@ -1,0 +1,87 @@
+#include "code_answer.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "error.h"
+#include "framework/excerpt.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "output.h"
+
+namespace orv3::cli {
+
+const char* const kAxisNames[2] = {"x", "y"};
+
+// "t" of a look-up is T of the command.
+void RefuseAs(const CCodeRefusal& refusal) {
+  std::string name = refusal.m_szArgument;
+  if (name == "code") {
+    name = "--code";
+  } else {
+    std::transform(name.begin(), name.end(), name.begin(), [](char letter) {
+      return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+    });
+  }
+  Refuse(name + ": " + refusal.m_what.m_strEnglish + "; " + refusal.m_right.m_strEnglish);
+}
+
+CCodeFigure FigureOf(std::variant<double, std::string> value, const CCodeSource& source,
+                     const char* unit) {
+  CCodeFigure figure{std::move(value), unit, SourceText(source).m_strEnglish};
+  if (source.m_pNote != nullptr) figure.m_strNote = source.m_pNote->m_szEnglish;
+  if (source.m_nEdition == CCodeEdition::Gb2017) figure.m_status = source.m_nStatus;
+  return figure;
+}
+
+CCodeFigure FigureOf(const CCodeAnswer<double>& answer, const char* unit) {
+  const double value = Needed(answer);
+  return FigureOf(value, answer.Source(), unit);
+}
+
+void RefuseArgument(const char* name, const std::string& text, const std::string& right) {
+  Refuse(std::string(name) + ": \"" + Excerpt(text) + "\" is not possible; give " + right);
+}
+
+double Number(const CCodeRequest& request, std::size_t at, const char* name, const char* right) {
+  const CString text = FromUtf8(request[at]);
+  if (!IsNumber(text) || ToDouble(text) < 0) RefuseArgument(name, request[at], right);
+  return ToDouble(text);
+}
+
+int WordOf(const CCodeRequest& request, std::size_t at, const char* name, const char* const* words,
+           std::size_t count) {
+  std::string right = "one of";
+  for (std::size_t i = 0; i < count; ++i) {
+    if (request[at] == words[i]) return static_cast<int>(i);
+    right += std::string(i == 0 ? " " : ", ") + words[i];
+  }
+  RefuseArgument(name, request[at], right);
+}
+
+int NumberAmong(const CCodeRequest& request, std::size_t at, const char* name,
+                const std::vector<double>& numbers) {
+  std::string right = "one of";
+  for (std::size_t i = 0; i < numbers.size(); ++i)
+    right += (i == 0 ? " " : ", ") + NumberText(numbers[i]);
+  const double number = Number(request, at, name, right.c_str());
+  const auto found = std::find(numbers.begin(), numbers.end(), number);
+  if (found == numbers.end()) RefuseArgument(name, request[at], right);
+  return static_cast<int>(found - numbers.begin());
+}
+
+int Whole(const CCodeRequest& request, std::size_t at, const char* name, int first, int last,
+          const std::string& meanings) {
+  const std::string right = "a whole number from " + std::to_string(first) + " to " +
+                            std::to_string(last) + (meanings.empty() ? "" : ": " + meanings);
+  const double number = Number(request, at, name, right.c_str());
+  if (number != std::floor(number) || number < first || number > last)
+    RefuseArgument(name, request[at], right);
+  return static_cast<int>(number);
+}
+
+CSteelGrade Grade(const CCodeRequest& request, std::size_t at) {
+  return Needed(GradeByName(request.m_nEdition, request[at]));
+}
+
+}  // namespace orv3::cli

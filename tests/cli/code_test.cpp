@@ -1,0 +1,160 @@
+// orv3cal code, run as a user runs it.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "cli/run_program.h"
+
+namespace {
+
+TEST(CodeCommand, AnswersBy2003AsBefore) {
+  const struct {
+    const char* arguments;
+    Json value;
+  } cases[] = {
+      {"steel Q345 35", 295},
+      {"steel Q235 100 fce", 325},
+      {"weld Q345 40 fcw", 265},
+      {"weld Q235 40 ftw3", 175},
+      {"weld Q420 16 ffw", 220},
+      {"bolt C 4.8 fv", 140},
+      {"bolt bearing 10.9 ft", 500},
+      {"bolt bearing Q345 fc", 590},
+      {"bolt AB 5.6 ft", 210},
+      {"bolt anchor Q345 ft", 180},
+      {"preload 10.9 20", 155},
+      {"slip 4 Q420", 0.4},
+      {"area 20", 2.45},
+      {"area 30 gross", 7.069},
+      {"slender Q390 lower", 15.5},
+      {"mu nosway 10 10", 0.549},
+      {"mu sway 0 0", nullptr},
+      {"mu sway 0.04 0.02", nullptr},
+      {"mu sway 12 40", 1.03},
+      {"mu-step free 0.2 0.06", 2.0},
+      {"mu-step free 3 0.8", 10.24},
+      {"mu-taper 0.05 0.5", 0.644},
+      {"mu-taper 0.2 25", 0.969},
+      {"gamma 2 y", 1.2},
+      {"class 1 x", "a"},
+      {"class-thick 2 y", "d"},
+      {"fatigue 3 C", 3.26},
+      {"phib concentrated-upper 20 7", 0.58},
+      {"gamma 21 y", 1.0},
+      {"gamma 22 x", 1.0},
+  };
+  for (const auto& each : cases) {
+    const Json answer = JsonOf(std::string("code ") + each.arguments + " --code 2003");
+    EXPECT_EQ(answer["value"], each.value) << each.arguments;
+    EXPECT_TRUE(answer.contains("unit") && !answer["source"].get<std::string>().empty());
+    EXPECT_FALSE(answer.contains("status")) << "the shape is that of before";
+  }
+  ExpectHas(RunProgram("code mu sway 0 0 --code 2003").m_strOut, {"∞"});
+  // Appendix C, class b, lambda 50 sqrt(235/fy): the printed table C-2 has 0.856.
+  EXPECT_NEAR(JsonOf("code phi 50 235 b --code 2003")["value"].get<double>(), 0.856, 0.0005);
+  // Beyond the tables: eta1 K1 tan(pi/mu) tan(eta1 pi/mu) = 1, and above 0.6 (B.1-2).
+  const double mu = JsonOf("code mu-step free 5 1.5 --code 2003")["value"];
+  constexpr double kPi = 3.14159265358979;
+  EXPECT_NEAR(7.5 * std::tan(kPi / mu) * std::tan(5 * kPi / mu), 1, 1e-9);
+  EXPECT_NEAR(mu, 21.4, 0.05);
+  EXPECT_NEAR(JsonOf("code mu-step sliding 3.001 0.8 --code 2003")["value"].get<double>(), 4.61,
+              0.006);
+  EXPECT_DOUBLE_EQ(JsonOf("code phib concentrated-upper 20 2 --code 2003")["value"],
+                   1.07 - 0.282 / 2.0);
+  ExpectRefused({{"code gamma 23 x --code 2003", {"23", "solid bars", "T sections"}},
+                 {"code class 0 x --code 2003", {"rolled tube"}},
+                 {"code slip 5 Q235 --code 2003", {"wire brush"}},
+                 {"code mu-step free 0 1 --code 2003", {"above 0"}}});
+  for (const char* bad :
+       {"steel Q235 101", "steel Q236 10", "bolt C 8.8 ft", "preload 8.8 18", "weld Q235 10",
+        "phi 50 0 b", "mu-step2 free 0.1 0.2 0.1 0.2", "mu-taper 0.04 0.5", "steel Q235 1x"}) {
+    ExpectRefused({{std::string("code ") + bad + " --code 2003", {}}});
+  }
+}
+
+TEST(CodeCommand, AnswersBy2017UnlessTold) {
+  const struct {
+    const char* arguments;
+    Json value;
+    const char* source;
+  } cases[] = {
+      {"steel Q345 40", 295, "4.4.1, Table 4.4.1"},
+      {"steel Q345 40.01", 290, "4.4.1"},
+      {"steel Q460 63 fy", 420, "4.4.1"},
+      {"steel Q345GJ 16.01 fu", 490, "4.4.2, Table 4.4.2"},
+      {"steel Q345 30 --tube", 290, "4.4.3, Table 4.4.3"},
+      {"weld Q420 63.5 ftw3", 260, "4.4.5, Table 4.4.5"},
+      {"weld Q390 16 ffw", 200, "4.4.5"},
+      {"weld Q390 16 ffw E55", 220, "4.4.5"},
+      {"bolt bearing 10.9 fu", 1040, "4.4.6, Table 4.4.6"},
+      {"bolt anchor Q390 ft", 185, "4.4.6"},
+      {"bolt AB Q460 fc", 595, "4.4.6"},
+      {"preload 10.9 20", 155, "11.4.2, Table 11.4.2-2"},
+      {"slip 1 Q345", 0.4, "11.4.2, Table 11.4.2-1"},
+      {"hole slot-along", 0.6, "11.4.2"},
+      {"hole oversize 24", 30, "11.5.1, Table 11.5.1"},
+      {"spacing side-least-rolled 20 8", 24, "11.5.2, Table 11.5.2"},
+      {"eps Q235", 1, "2.2.4"},
+      {"section-class flange 12.5 Q235", "S3", "3.5.1, Table 3.5.1"},
+      {"section-class web-compressed 70.1 Q235 1", "S5", "3.5.1"},
+      {"section-class tube 101 Q235", "beyond S4", "3.5.1"},
+      {"class rolled-i-wide y", "b*", "7.2.1, Table 7.2.1-1"},
+      {"class rolled-i-wide y Q235", "c", "7.2.1"},
+      {"class-thick 2 y", "d", "7.2.1, Table 7.2.1-2"},
+      {"gamma 0 y", 1.2, "6.1.2"},
+      {"gamma 0 y S4", 1, "6.1.2"},
+      {"gamma 18 x", 1.15, "8.1.1, Table 8.1.1"},
+      {"mu sway 0 0", nullptr, "Appendix E, Table E.0.2"},
+      {"mu-step sliding 3 0.8", 4.61, "Appendix E, Table E.0.4"},
+      {"fatigue Z3 C", 3.91, "16.2.1, Table 16.2.1-1"},
+      {"fatigue Z3 2e6", 125, "16.2.1"},
+      {"fatigue J2 range 2e9", 46, "16.2.1, Table 16.2.1-2"},
+      {"phib concentrated-upper 20 7 Q345", 0.58 * 235 / 345, "C.0.2, Table C.0.2"},
+  };
+  for (const auto& each : cases) {
+    const Json answer = JsonOf(std::string("code ") + each.arguments);
+    if (each.value.is_number_float()) {
+      EXPECT_DOUBLE_EQ(answer["value"], each.value) << each.arguments;
+    } else {
+      EXPECT_EQ(answer["value"], each.value) << each.arguments;
+    }
+    ExpectHas(answer["source"], {"GB 50017-2017, ", each.source});
+  }
+  EXPECT_EQ(JsonOf("code steel Q355 20")["status"], "derived");
+  EXPECT_EQ(JsonOf("code steel Q460 40 --tube")["status"], "doubtful");
+  ExpectHas(RunProgram("code steel Q355 20").m_strOut, {"295 N/mm²", "Q345 column"});
+}
+
+TEST(CodeCommand, TheEditionIsAskedForByOptionOrVariable) {
+  SetVariable("ORV3CAL_CODE", "2003");
+  EXPECT_EQ(JsonOf("code steel Q345 16")["value"], 310);
+  EXPECT_EQ(JsonOf("code steel Q345 16 --code 2017")["value"], 305);
+  SetVariable("ORV3CAL_CODE", "1988");
+  ExpectRefused({{"code steel Q345 16", {"ORV3CAL_CODE", "1988", "2003, 2017"}}});
+  SetVariable("ORV3CAL_CODE", "");
+  EXPECT_EQ(JsonOf("code steel Q345 16")["value"], 305);
+}
+
+TEST(CodeCommand, RefusesWhatAnEditionLacks) {
+  ExpectRefused({{"code steel Q345 16 --code 2010", {"--code", "2010", "2003, 2017"}},
+                 {"code steel Q345 16 --code \"\"", {"2003, 2017"}},
+                 {"code steel Q460 16 --code 2003", {"GRADE", "GB 50017-2003", "Q460", "Q420"}},
+                 {"code steel Q345 100.5", {"T: 100.5", "100 mm"}},
+                 {"code steel Q345GJ 16", {"above 16"}},
+                 {"code steel Q345GJ 20 --tube", {"Q345GJ tubes"}},
+                 {"code weld Q235 10 ffw E50", {"ELECTRODE", "Q235", "E43"}},
+                 {"code weld Q235 10 fcw E43", {"ffw alone"}},
+                 {"code slip 2 Q460", {"SURFACE", "\"-\"", "Q460", "0 or 1"}},
+                 {"code slip 3 Q235", {"shot-blasted"}},
+                 {"code hole oversize --code 2003", {"oversize", "standard"}},
+                 {"code slender Q235 upper", {"--code", "2003"}},
+                 {"code section-class flange 10 Q235 --code 2003", {"section classes", "2017"}},
+                 {"code section-class web-compressed 10 Q235", {"ALPHA0"}},
+                 {"code fatigue 3 C", {"Z1 to Z14"}},
+                 {"code fatigue J1 5e6", {"range 5e6"}},
+                 {"code class 3 x", {"rolled-tube"}},
+                 {"code gamma 0 x S1 --code 2003", {"CLASS"}}});
+}
+
+}  // namespace
