@@ -5,6 +5,7 @@
 #include "case_output.h"
 #include "check_answers.h"
 #include "codes/edition.h"
+#include "edition_option.h"
 #include "framework/excerpt.h"
 #include "framework/utf8.h"
 #include "member_reader.h"
@@ -29,7 +30,7 @@ class CMembers {
                   : options.json ? CAnswerForm::Json
                                  : CAnswerForm::Table,
                   options.sort, options.language, options.csv ? CsvHead() : "") {
-    m_check.SetEdition(EditionNamed(options.code));
+    m_check.SetEdition(EditionAsked(options.code));
   }
 
   CExit Run() {

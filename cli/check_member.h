@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "connections/cases/case_keys.h"
 #include "error.h"
+#include "reports/case_keys.h"
 #include "store_place.h"
 
 namespace orv3::cli {

@@ -15,6 +15,7 @@
 #include "check_member.h"
 #include "commands.h"
 #include "connections/report/connection_report.h"
+#include "edition_option.h"
 #include "error.h"
 #include "framework/excerpt.h"
 #include "framework/utf8.h"
@@ -332,8 +333,7 @@ void AddCheckCommand(CLI::App& program) {
           "--lang", options->language,
           "Language of the answers (en unless given) and of the report (zh unless given): zh or en")
       ->check(CLI::IsMember({"zh", "en"}));
-  command->add_option("--code", options->code, "Edition of GB 50017 for members: 2017 or 2003")
-      ->type_name("YEAR");
+  AddEditionOption(*command, options->code);
   AddStoreOptions(*command, options->store);
   command->callback([options] {
     const CExit exit = RunCheck(*options);

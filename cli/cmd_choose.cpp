@@ -8,6 +8,7 @@
 #include "case_output.h"
 #include "codes/edition.h"
 #include "commands.h"
+#include "edition_option.h"
 #include "error.h"
 #include "framework/utf8.h"
 #include "member_reader.h"
@@ -74,7 +75,7 @@ std::string CaseName(const std::vector<CMemberCase>& cases, std::size_t index) {
 
 CExit RunChoose(const COptions& options) {
   StoreToRead(options.store);
-  const CCodeEdition edition = EditionNamed(options.code);
+  const CCodeEdition edition = EditionAsked(options.code);
   const std::vector<CMemberCase> cases = ReadMembers(options);
   std::vector<CMemberCandidate> candidates = Candidates(options);
   const CMemberChoice choice = ChooseMember(cases, candidates, edition);
@@ -149,8 +150,7 @@ void AddChooseCommand(CLI::App& program) {
       ->required()
       ->type_name("TABLE[,TABLE...]");
   command->add_option("--top", options->top, "Show this many at most")->check(CLI::PositiveNumber);
-  command->add_option("--code", options->code, "Edition of GB 50017: 2017 or 2003")
-      ->type_name("YEAR");
+  AddEditionOption(*command, options->code);
   auto* json = command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
   command->add_flag("--csv", options->csv, "As CSV, one line a section")->excludes(json);
   AddStoreOptions(*command, options->store);

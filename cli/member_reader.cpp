@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <stdexcept>
 
 #include "case_output.h"
@@ -36,18 +35,6 @@ std::optional<CCaseFault> CMemberReader::Read(const CReadCase& read, CMemberCase
     }
   }
   return std::nullopt;
-}
-
-CCodeEdition EditionNamed(const std::string& code) {
-  const char* variable = std::getenv("ORV3CAL_CODE");
-  const std::string year = !code.empty() ? code : variable != nullptr ? variable : "";
-  if (year.empty()) return kDefaultEdition;
-  const auto edition = EditionByYear(year);
-  if (!edition) {
-    Refuse(std::string(code.empty() ? "ORV3CAL_CODE" : "--code") + ": " +
-           edition.Refusal().m_what.m_strEnglish + "; " + edition.Refusal().m_right.m_strEnglish);
-  }
-  return *edition;
 }
 
 std::string ClauseText(CCodeEdition edition, const char* clause) {

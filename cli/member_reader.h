@@ -25,10 +25,6 @@ class CMemberReader {
   std::vector<const CInputKey<CMemberCase>*> m_arrKey;
 };
 
-// The edition that --code names, or the variable ORV3CAL_CODE when it is empty, or the one in
-// force. CCommandError for a name of none.
-CCodeEdition EditionNamed(const std::string& code);
-
 std::string ClauseText(CCodeEdition edition, const char* clause);  // "GB 50017-2017 8.2.1"
 
 struct CMemberResult {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string_view>
 
-#include "connections/cases/case_rules.h"
+#include "framework/plain_number.cpp"
 
 namespace orv3 {
 namespace {

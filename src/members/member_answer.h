@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "codes/section_class.h"
-#include "connections/cases/case_keys.h"
+#include "reports/case_keys.h"
 
 namespace orv3 {
 

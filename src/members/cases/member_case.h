@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "connections/cases/case_keys.h"
 #include "members/cases/member_row.h"
 #include "members/solid_member.h"
+#include "reports/case_keys.h"
 
 namespace orv3 {
 

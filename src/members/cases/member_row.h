@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "codes/buckling.h"
-#include "connections/cases/case_keys.h"
 #include "drawing/path.h"
 #include "members/member_section.h"
+#include "reports/case_keys.h"
 #include "tables/data_item.h"
 
 namespace orv3 {
