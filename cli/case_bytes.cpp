@@ -56,6 +56,9 @@ void CCaseBytes::OpenFile(const std::string& path) {
   if (error == CFileError::NotFound) {
     RefuseFile({"文件不存在；请给出算例文件", "is not there; give a file of cases"});
   }
+  if (Files().IsFolder(FromUtf8(path))) {
+    RefuseFile({"是文件夹；请给出算例文件", "is a folder; give a file of cases"});
+  }
   NoteInput(path);
   CFileStamp stamp;
   if (!m_pFile || !m_pFile->Stamp(stamp)) {

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "framework/bilingual_text.h"
+#include "framework/language.h"
 #include "platform/file_system.h"
 
 namespace orv3::cli {

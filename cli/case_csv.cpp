@@ -15,6 +15,8 @@ class CCsvCases {
           return file.More(text);
         }) {
     if (!m_csv.Next(m_arrCell)) Malformed();
+    if (IsBlank())
+      m_file.Refuse({"首行为空；首行应为各键", "has an empty first line; it holds the keys"});
     for (const std::string_view name : m_arrCell) AddColumn(name);
   }
 

@@ -83,7 +83,7 @@ CText RangeWords(const CCaseSchema::CRange& range) {
     if (!bound) return;
     const bool bFirst = words.m_strEnglish.empty();
     const std::string number = PlainNumber(*bound);
-    Append(words, {(bFirst ? "，" : "且") + std::string(word.m_szChinese) + number,
+    Append(words, {(bFirst ? "，" : " 且") + std::string(word.m_szChinese) + number,
                    (bFirst ? " " : ", ") + std::string(word.m_szEnglish) + number});
   };
   add({"不小于 ", "of at least "}, range.m_minimum);

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "framework/bilingual_text.h"
+#include "framework/language.h"
 #include "output.h"
 
 namespace orv3::cli {

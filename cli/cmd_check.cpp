@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "asked_language.h"
 #include "case_output.h"
 #include "case_schema.h"
 #include "case_source.h"
@@ -18,6 +20,7 @@
 #include "edition_option.h"
 #include "error.h"
 #include "framework/excerpt.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "progress.h"
 #include "reports/report_document.h"
@@ -36,17 +39,12 @@ struct COptions {
   bool sort = false;
   std::string report;
   std::string project;
-  std::string language;  // "zh", "en", or empty
-  std::string code;      // "2017", "2003", or empty
+  std::string code;  // "2017", "2003", or empty
   CStoreOptions store;
 
   // Of what is printed, and of the report.
-  CLanguage Language() const noexcept {
-    return language == "zh" ? CLanguage::Chinese : CLanguage::English;
-  }
-  CLanguage ReportLanguage() const noexcept {
-    return language == "en" ? CLanguage::English : CLanguage::Chinese;
-  }
+  CLanguage Language() const noexcept { return MessageLanguage(); }
+  CLanguage ReportLanguage() const { return AskedLanguage().value_or(CLanguage::Chinese); }
 };
 
 // Ties the schema's keys to the fields of a case and of its report's head.
@@ -263,9 +261,18 @@ class CChecker {
     m_arrReport.push_back(std::move(each));
   }
 
+  // What the browser calls the report.
+  std::string Title() const {
+    static const std::map<std::string, CText> kTitles = {
+        {"bolt", {"螺栓连接验算", "Bolted connections"}},
+        {"fillet", {"角焊缝验算", "Fillet welds"}},
+        {"butt", {"对接焊缝验算", "Butt welds"}}};
+    return kTitles.at(m_options.kind).In(m_options.ReportLanguage());
+  }
+
   void WriteReport() const {
     if (m_options.report.empty()) return;
-    const CReportTitle title = {"Orv3Cal " + m_options.kind, ORV3CAL_VERSION};
+    const CReportTitle title = {Title() + " — Orv3Cal", ORV3CAL_VERSION};
     WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.ReportLanguage()));
   }
 
@@ -301,7 +308,7 @@ CExit RunCheck(const COptions& options) {
 
 // What is wrong with the name of a file.
 std::string FileName(const std::string& name) {
-  return name.empty() ? "is empty; give the name of a file" : "";
+  return name.empty() ? Say("为空；请给出文件名", "is empty; give the name of a file") : "";
 }
 
 }  // namespace
@@ -310,29 +317,37 @@ void AddCheckCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
       "check",
-      "Check bolt groups, fillet welds, butt welds or members; exit status 1 when one fails");
-  command->add_option("KIND", options->kind, "What to check")
+      Say("验算螺栓群、角焊缝、对接焊缝或构件；有一个不满足时退出状态为 1",
+          "Check bolt groups, fillet welds, butt welds or members; exit status 1 when one fails"));
+  command->add_option("KIND", options->kind, Say("验算的种类", "What to check"))
       ->required()
       ->check(CLI::IsMember({"bolt", "fillet", "butt", "member"}));
   command
       ->add_option(
           "FILE", options->file,
-          "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input")
+          Say("JSON 的一个算例或算例数组，或 .csv；- 表示从标准输入读 JSON",
+              "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input"))
       ->required()
       ->check(FileName);
-  auto* json = command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
-  command->add_flag("--csv", options->csv, "As CSV, one line a case")->excludes(json);
-  command->add_flag("--sort", options->sort, "Of many cases, the greatest utilisation first");
-  command->add_option("--report", options->report, "Write a calculation report to print on A4")
+  auto* json = command->add_flag(
+      "--json", options->json,
+      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_flag("--csv", options->csv, Say("以 CSV 输出，每个算例一行", "As CSV, one line a case"))
+      ->excludes(json);
+  command->add_flag(
+      "--sort", options->sort,
+      Say("多个算例时，利用率大者在前", "Of many cases, the greatest utilisation first"));
+  command
+      ->add_option(
+          "--report", options->report,
+          Say("写入可按 A4 打印的计算书（不给 --lang 时为中文）",
+              "Write a calculation report to print on A4, in Chinese unless --lang is given"))
       ->check(FileName)
       ->type_name("FILE.html");
   command->add_option("--project", options->project,
-                      "The project in the head of the report, of cases that name none");
-  command
-      ->add_option(
-          "--lang", options->language,
-          "Language of the answers (en unless given) and of the report (zh unless given): zh or en")
-      ->check(CLI::IsMember({"zh", "en"}));
+                      Say("计算书表头的工程名称，用于没有给出工程的算例",
+                          "The project in the head of the report, of cases that name none"));
   AddEditionOption(*command, options->code);
   AddStoreOptions(*command, options->store);
   command->callback([options] {

@@ -10,6 +10,7 @@
 #include "commands.h"
 #include "edition_option.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "member_reader.h"
 #include "members/cases/member_choice.h"
@@ -32,7 +33,7 @@ struct COptions {
 std::vector<CMemberCase> ReadMembers(const COptions& options) {
   const CMemberReader reader;
   std::vector<CMemberCase> cases;
-  ReadCases(options.file, reader.Schema(), CLanguage::English, [&](const CReadCase& read) {
+  ReadCases(options.file, reader.Schema(), MessageLanguage(), [&](const CReadCase& read) {
     CMemberCase input;
     auto fault = reader.Read(read, input);
     if (!fault && (!input.m_strTable.empty() || !input.m_strStyle.empty()))
@@ -40,11 +41,13 @@ std::vector<CMemberCase> ReadMembers(const COptions& options) {
           CCaseFault{"section", {"由本命令选取", "is what is chosen"}, {"请删去", "leave it out"}};
     if (fault) {
       Refuse(Visible(options.file) + ": case " + std::to_string(cases.size() + 1) + ", " +
-             fault->Line(CLanguage::English));
+             fault->Line(MessageLanguage()));
     }
     cases.push_back(std::move(input));
   });
-  if (cases.empty()) Refuse(Visible(options.file) + ": holds no case; give one at least");
+  if (cases.empty())
+    Refuse(Visible(options.file) + ": " +
+           Say("没有算例；请至少给一个", "holds no case; give one at least"));
   return cases;
 }
 
@@ -81,7 +84,7 @@ CExit RunChoose(const COptions& options) {
   const CMemberChoice choice = ChooseMember(cases, candidates, edition);
   if (choice.m_nTried == 0)
     Refuse(Visible(options.file) + ": every section refused, the first: " +
-           candidates.front().m_strNo + ", " + choice.m_fault->Line(CLanguage::English));
+           candidates.front().m_strNo + ", " + choice.m_fault->Line(MessageLanguage()));
   std::size_t shown = choice.m_arrChosen.size();
   if (options.top > 0) shown = std::min(shown, static_cast<std::size_t>(options.top));
   CJson rows = CJson::array();
@@ -129,7 +132,7 @@ CExit RunChoose(const COptions& options) {
           " of " + std::to_string(choice.m_nTried) + " sections pass" +
           (choice.m_nRefused > 0
                ? ", " + std::to_string(choice.m_nRefused) +
-                     " more are not covered, the first: " + choice.m_fault->Line(CLanguage::English)
+                     " more are not covered, the first: " + choice.m_fault->Line(MessageLanguage())
                : "") +
           '\n');
   }
@@ -141,7 +144,9 @@ CExit RunChoose(const COptions& options) {
 void AddChooseCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "choose", "Find the lightest sections that pass a member's cases; exit status 1 for none");
+      "choose",
+      Say("选取通过构件全部算例的最轻截面；没有时退出状态为 1",
+          "Find the lightest sections that pass a member's cases; exit status 1 for none"));
   command
       ->add_option("FILE", options->file,
                    "Cases of check member without a section; - is standard input")

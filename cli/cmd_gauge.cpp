@@ -7,6 +7,7 @@
 #include "catalogue/spacing/section_spacing.h"
 #include "commands.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "nearest.h"
@@ -25,8 +26,6 @@ struct COptions {
   CStoreOptions store;
 };
 
-std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
-
 void CheckTable(const std::string& table) {
   std::string right;
   for (const CSectionKind kind : SpacedSections()) {
@@ -34,7 +33,9 @@ void CheckTable(const std::string& table) {
     if (name == table) return;
     right += (right.empty() ? "" : ", ") + name;
   }
-  Refuse("TABLE: no spacings are known for " + Quoted(table) + "; right would be one of " + right);
+  Refuse(Say("TABLE: “{1}”没有线距资料；应为下列之一：{2}",
+             "TABLE: no spacings are known for \"{1}\"; right would be one of {2}",
+             {table, right}));
 }
 
 // Angles go by the widths of their legs, so that a number alone would answer for any.
@@ -44,8 +45,8 @@ void CheckNumber(const COptions& options) {
   if (!CLoadDataTable::GetSysTemJMItem(table, FromUtf8(options.no)).IsEmpty()) return;
   CStringArray numbers;
   CLoadDataTable::GetSysTemItemNo(table, numbers);
-  Refuse("NO: " + options.table + " has no " + Quoted(options.no) +
-         "; the nearest are: " + Nearest(options.no, numbers));
+  Refuse(Say("NO: {1} 中没有“{2}”；相近的有：{3}", "NO: {1} has no \"{2}\"; the nearest are: {3}",
+             {options.table, options.no, Nearest(options.no, numbers)}));
 }
 
 std::vector<CSectionSpacing> SpacingsOf(const COptions& options) {
@@ -56,11 +57,13 @@ std::vector<CSectionSpacing> SpacingsOf(const COptions& options) {
   const std::vector<CString> numbers = SpacedNumbers(table);
   std::vector<CSectionSpacing> spacings = SectionSpacings(table, no);
   if (numbers.empty() && LegsOf(no).m_nLong == 0) {
-    Refuse("NO: " + Quoted(options.no) + " does not tell its legs; right would be such as L50X5");
+    Refuse(Say("NO: “{1}”不能说明肢宽；应为例如 L50X5",
+               "NO: \"{1}\" does not tell its legs; right would be such as L50X5", {options.no}));
   }
   if (!numbers.empty() && spacings.empty()) {
-    Refuse("NO: no spacings are known for " + options.table + " " + Quoted(options.no) +
-           "; the nearest are: " + Nearest(options.no, numbers));
+    Refuse(Say("NO: {1}“{2}”没有线距资料；相近的有：{3}",
+               "NO: no spacings are known for {1} \"{2}\"; the nearest are: {3}",
+               {options.table, options.no, Nearest(options.no, numbers)}));
   }
   return spacings;
 }
@@ -72,8 +75,9 @@ bool IsMisprint(const CString& cell) { return !IsNumber(cell) && !(cell == L"-")
 bool IsDerived(const CSectionSpacing& spacing) { return spacing.m_nTable > 3; }
 
 std::string Title(const CSectionSpacing& spacing) {
-  std::string title = spacing.m_szTitle;
-  if (spacing.m_nLeg > 0) title += ", leg of " + std::to_string(spacing.m_nLeg) + " mm";
+  std::string title = spacing.m_title.In(MessageLanguage());
+  if (spacing.m_nLeg > 0)
+    title += Say("，肢宽 {1} mm", ", leg of {1} mm", {std::to_string(spacing.m_nLeg)});
   return title;
 }
 
@@ -84,11 +88,11 @@ CJson SpacingJson(const CSectionSpacing& spacing) {
     values.push_back({{"key", spacing.m_arrColumn[i].m_szKey},
                       {"value", IsNumber(cell) ? JsonNumber(ToDouble(cell)) : CJson(nullptr)},
                       {"text", ToUtf8(cell)},
-                      {"meaning", spacing.m_arrColumn[i].m_szMeaning}});
+                      {"meaning", spacing.m_arrColumn[i].m_meaning.In(MessageLanguage())}});
   }
   CJson json = {{"source", "strSub" + std::to_string(spacing.m_nTable)},
                 {"derived", IsDerived(spacing)},
-                {"title", spacing.m_szTitle}};
+                {"title", spacing.m_title.In(MessageLanguage())}};
   if (spacing.m_nLeg > 0) json["leg"] = spacing.m_nLeg;
   json["values"] = std::move(values);
   return json;
@@ -96,7 +100,8 @@ CJson SpacingJson(const CSectionSpacing& spacing) {
 
 void PrintSpacings(const COptions& options, const std::vector<CSectionSpacing>& spacings) {
   Print(options.table + "  " + options.no + "\n");
-  if (spacings.empty()) Print("\nno bolt line is set out on legs of this width\n");
+  if (spacings.empty())
+    Print(Say("\n这样宽的肢上没有规定线距\n", "\nno bolt line is set out on legs of this width\n"));
   bool misprint = false;
   for (const CSectionSpacing& spacing : spacings) {
     CTextTable table({CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
@@ -105,14 +110,17 @@ void PrintSpacings(const COptions& options, const std::vector<CSectionSpacing>& 
       misprint = misprint || IsMisprint(cell);
       table.AddRow({"  " + std::string(spacing.m_arrColumn[i].m_szKey),
                     ToUtf8(cell) + (IsMisprint(cell) ? "(!)" : ""), cell == L"-" ? "" : "mm",
-                    spacing.m_arrColumn[i].m_szMeaning});
+                    spacing.m_arrColumn[i].m_meaning.In(MessageLanguage())});
     }
     Print("\n" + Title(spacing) + " (strSub" + std::to_string(spacing.m_nTable) + ")\n" +
           table.Text());
   }
-  if (misprint) Print("\n(!) printed with a letter in the place of a digit: look it up\n");
+  if (misprint)
+    Print(Say("\n(!) 原表中以字母代替了数字：请查原表\n",
+              "\n(!) printed with a letter in the place of a digit: look it up\n"));
   if (!spacings.empty() && IsDerived(spacings.front())) {
-    Print("\nderived from the section's dimensions; handbooks differ by some millimetres\n");
+    Print(Say("\n由截面尺寸推算；各手册相差数毫米\n",
+              "\nderived from the section's dimensions; handbooks differ by some millimetres\n"));
   }
 }
 
@@ -129,10 +137,13 @@ void RunGauge(const COptions& options) {
 void AddGaugeCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "gauge", "Bolt lines, largest holes, stiffeners and copes of a rolled I, channel or angle");
-  command->add_option("TABLE", options->table, "The section's table")->required();
-  command->add_option("NO", options->no, "The section's number")->required();
-  command->add_flag("--json", options->json, "As JSON, each figure with its meaning");
+      "gauge", Say("热轧工字钢、槽钢、角钢的线距、最大孔径、加劲肋和切口",
+                   "Bolt lines, largest holes, stiffeners and copes of a rolled I, channel or "
+                   "angle"));
+  command->add_option("TABLE", options->table, Say("截面表", "The section's table"))->required();
+  command->add_option("NO", options->no, Say("型号", "The section's number"))->required();
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，附各数的含义", "As JSON, each figure with its meaning"));
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunGauge(*options); });
 }

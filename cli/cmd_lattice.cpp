@@ -14,6 +14,7 @@
 #include "commands.h"
 #include "error.h"
 #include "framework/excerpt.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "nearest.h"
@@ -56,13 +57,17 @@ CSteelItemGeGou ColumnOf(const CCaseSchema& schema, const CCaseValues& values) {
 CSteelItemGeGou ReadColumn(const std::string& path) {
   const CCaseSchema schema(kLatticeSchema);
   std::optional<CSteelItemGeGou> column;
-  ReadCases(path, schema, CLanguage::English, [&](const CReadCase& read) {
-    if (!read.m_bSingle) Refuse(path + ": holds no single column; give one JSON object");
+  ReadCases(path, schema, MessageLanguage(), [&](const CReadCase& read) {
+    if (!read.m_bSingle)
+      Refuse(Say("{1}: 不是单个格构柱；请给一个 JSON 对象",
+                 "{1}: holds no single column; give one JSON object", {path}));
     const auto fault = read.m_fault ? read.m_fault : schema.Check(read.m_arrValue);
-    if (fault) Refuse(path + ": " + fault->Line(CLanguage::English));
+    if (fault) Refuse(path + ": " + fault->Line(MessageLanguage()));
     column = ColumnOf(schema, read.m_arrValue);
   });
-  if (!column) Refuse(path + ": holds no column; give one JSON object");
+  if (!column)
+    Refuse(Say("{1}: 没有格构柱；请给一个 JSON 对象", "{1}: holds no column; give one JSON object",
+               {path}));
   return *column;
 }
 
@@ -75,11 +80,13 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
   CStringArray numbers;
   const bool limb = CLoadDataTable::IsTableNameType(FromUtf8(type), kCatalogueTables) != 0;
   if (limb && CLoadDataTable::GetSysTemItemNo(FromUtf8(type), numbers) && !numbers.IsEmpty()) {
-    Refuse(ToUtf8(signs.m_szNo) + ": " + type + " has no \"" + no +
-           "\"; the nearest are: " + Nearest(no, numbers));
+    Refuse(Say("{1}: {2} 中没有“{3}”；相近的有：{4}",
+               "{1}: {2} has no \"{3}\"; the nearest are: {4}",
+               {ToUtf8(signs.m_szNo), type, no, Nearest(no, numbers)}));
   }
-  Refuse(ToUtf8(signs.m_szType) + ": the store has no table of rolled sections \"" + type +
-         "\"; the nearest are: " + Nearest(type, names));
+  Refuse(Say("{1}: 库中没有型钢表“{2}”；相近的有：{3}",
+             "{1}: the store has no table of rolled sections \"{2}\"; the nearest are: {3}",
+             {ToUtf8(signs.m_szType), type, Nearest(type, names)}));
 }
 
 CLatticeLimbs LimbsOf(const CSteelItemGeGou& column) {
@@ -91,16 +98,17 @@ CLatticeLimbs LimbsOf(const CSteelItemGeGou& column) {
       RefuseLimb(column, kLimbColumns[i]);
   }
   CLatticeLimbs limbs;
-  if (!limbs.Fetch(column)) Refuse("the column cannot be computed");
+  if (!limbs.Fetch(column)) Refuse(Say("格构柱不能计算", "the column cannot be computed"));
   if (limbs.PlaceTruly(column)) return limbs;
   for (int i = 0; i < count; ++i) {
     const CRowFigures f = RowFigures(limbs.m_arrLimb[static_cast<std::size_t>(i)].m_row);
     if (f.m_dArea > 0 && std::isfinite(f.m_dXc + f.m_dYc + f.m_dIx + f.m_dIy)) continue;
-    Refuse(ToUtf8(kLimbColumns[i].m_szNo) + ": the row of " + Cell(column, kLimbColumns[i].m_szNo) +
-           " in the store lacks its area, centroid or moments of inertia; right would be a section "
-           "of the catalogue");
+    Refuse(Say("{1}: 库中 {2} 的行缺少面积、重心或惯性矩；请用目录中的型钢",
+               "{1}: the row of {2} in the store lacks its area, centroid or moments of inertia; "
+               "right would be a section of the catalogue",
+               {ToUtf8(kLimbColumns[i].m_szNo), Cell(column, kLimbColumns[i].m_szNo)}));
   }
-  Refuse("the column cannot be computed");
+  Refuse(Say("格构柱不能计算", "the column cannot be computed"));
 }
 
 std::string Number(const CLatticeLimb& limb) { return ToUtf8(limb.m_row[0].m_strValue); }
@@ -128,7 +136,8 @@ CJson LatticeJson(const CSteelItemGeGou& column, const CLatticeLimbs& limbs) {
 void PrintLattice(const CSteelItemGeGou& column, const CLatticeLimbs& limbs) {
   CTextTable parts({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Right,
                     CAlign::Right, CAlign::Right});
-  parts.AddRow({"limb", "table", "no", "turned (°)", "A (mm²)", "x (mm)", "y (mm)"});
+  parts.AddRow({Say("肢", "limb"), Say("表", "table"), Say("型号", "no"),
+                Say("转角 (°)", "turned (°)"), "A (mm²)", "x (mm)", "y (mm)"});
   for (std::size_t i = 0; i < limbs.m_arrLimb.size(); ++i) {
     const CLatticeLimb& limb = limbs.m_arrLimb[i];
     parts.AddRow({std::to_string(i + 1), ToUtf8(limb.m_row.m_strTableName), Number(limb),
@@ -166,11 +175,19 @@ void RunLattice(const COptions& options) {
 void AddLatticeCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "lattice", "Compute a lattice column of two, three or four rolled limbs");
-  command->add_option("FILE", options->file, "The column, as docs/lattice.md tells (JSON)")
+      "lattice", Say("计算双肢、三肢或四肢格构柱",
+                     "Compute a lattice column of two, three or four rolled limbs"));
+  command
+      ->add_option(
+          "FILE", options->file,
+          Say("格构柱，见 docs/lattice.md（JSON）", "The column, as docs/lattice.md tells (JSON)"))
       ->required();
-  command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
-  command->add_option("--svg", options->svg, "Write a picture drawn to scale")->type_name("FILE");
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_option("--svg", options->svg,
+                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
+      ->type_name("FILE");
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunLattice(*options); });
 }

@@ -10,6 +10,7 @@
 #include "csv_output.h"
 #include "error.h"
 #include "figure_cells.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
@@ -46,9 +47,11 @@ void CheckPart(const CDataTable& table, const CSearchExpression::CPart& part, bo
   const bool pattern =
       wildcard && star && (part.m_strOperator == L"==" || part.m_strOperator == L"!=");
   if (ValueClassOf(column.m_nType) == CValueClass::Text || pattern || IsNumber(value)) return;
-  Refuse("--where: " + ToUtf8(sign) + " holds numbers, \"" + ToUtf8(value) +
-         "\" is none; right would be a number" +
-         (star && !wildcard ? ", or --wildcard for the \"*\"" : ""));
+  Refuse(Say("--where: {1} 为数值列，“{2}”不是数值；请给出数值",
+             "--where: {1} holds numbers, \"{2}\" is none; right would be a number",
+             {ToUtf8(sign), ToUtf8(value)}) +
+         (star && !wildcard ? Say("，或用 --wildcard 使“*”通配", ", or --wildcard for the \"*\"")
+                            : ""));
 }
 
 // The expression with the blanks around its signs and values taken away, which a search would take
@@ -56,20 +59,25 @@ void CheckPart(const CDataTable& table, const CSearchExpression::CPart& part, bo
 CString Checked(const CDataTable& table, const std::string& where, bool wildcard) {
   const CString given = FromUtf8(where);
   if (given.Find(L"VIEW") >= 0)
-    Refuse("--where: VIEW has no place here; right would be --columns for the columns to show");
+    Refuse(
+        Say("--where: 这里不能用 VIEW；请用 --columns 给出要显示的列",
+            "--where: VIEW has no place here; right would be --columns for the columns to show"));
   const CSearchExpression search(given);
   const CString joiner = search.m_bAnd ? L"&&" : L"||";
   CStringArray parts;
   CDataTable::TransStrToArray(given, joiner, parts);
   if (search.m_bAnd && given.Find(L"||") >= 0)
-    Refuse("--where: && and || cannot be mixed; right would be one of them");
+    Refuse(Say("--where: && 与 || 不能混用；请只用一种",
+               "--where: && and || cannot be mixed; right would be one of them"));
   CString text;
   for (std::size_t i = 0; i < search.m_arrPart.size(); ++i) {
     const CSearchExpression::CPart& part = search.m_arrPart[i];
     if (part.m_strOperator.IsEmpty()) {
-      Refuse("--where: \"" + ToUtf8(parts[static_cast<int>(i)].Trim()) +
-             "\" is no condition; right would be SIGN OPERATOR VALUE with one of ==, !=, >>, <<, "
-             ">=, <=");
+      Refuse(
+          Say("--where: “{1}”不是条件；应为 标识 运算符 值，运算符为 ==、!=、>>、<<、>=、<= 之一",
+              "--where: \"{1}\" is no condition; right would be SIGN OPERATOR VALUE with one of "
+              "==, !=, >>, <<, >=, <=",
+              {ToUtf8(parts[static_cast<int>(i)].Trim())}));
     }
     CheckPart(table, part, wildcard);
     if (i > 0) text += joiner;
@@ -84,7 +92,8 @@ void Sort(CDataTable& table, const std::string& sort) {
   const std::size_t colon = sort.rfind(':');
   const std::string order = colon == std::string::npos ? "asc" : sort.substr(colon + 1);
   if (order != "asc" && order != "desc") {
-    Refuse("--sort: \"" + order + "\" is no order; right would be desc, or asc");
+    Refuse(Say("--sort: “{1}”不是次序；应为 desc 或 asc",
+               "--sort: \"{1}\" is no order; right would be desc, or asc", {order}));
   }
   table.OrderTable(ColumnOf(table, "--sort", sort.substr(0, colon)), order == "asc" ? 1 : 0);
 }
@@ -134,7 +143,7 @@ bool HasCapacities(const CDataTable& table) {
 // The cells as they stand in the store, which is what programs and exports take.
 void PrintRowsJson(const COptions& options, const CDataTable& table) {
   CJson json = TableJson(options.table, table);
-  if (HasCapacities(table)) json["notes"] = {AngleCapacityBasis()};
+  if (HasCapacities(table)) json["notes"] = {AngleCapacityBasis().In(MessageLanguage())};
   PrintJson(json);
 }
 
@@ -161,11 +170,21 @@ void PrintRows(const COptions& options, const CDataTable& table) {
     lines.AddRow(RowCells(row));
     ++count;
   });
-  Print(lines.Text() + "\n" + options.table + ": " + std::to_string(count) +
-        (count == 1 ? " row" : " rows") + "\n");
-  if (count > 0 && HasCapacities(table)) Print(std::string(AngleCapacityBasis()) + "\n");
+  Print(lines.Text() + "\n" + options.table + ": " +
+        Say("{1} 行\n", count == 1 ? "{1} row\n" : "{1} rows\n", {std::to_string(count)}));
+  if (count > 0 && HasCapacities(table))
+    Print(std::string(AngleCapacityBasis().In(MessageLanguage())) + "\n");
   const bool star = options.where.find('*') != std::string::npos;
-  if (count == 0 && star && !options.wildcard) Print("with --wildcard a * stands for any text\n");
+  if (count == 0 && star && !options.wildcard)
+    Print(Say("加 --wildcard 后 * 代表任意文字\n", "with --wildcard a * stands for any text\n"));
+}
+
+// What is wrong with a condition or a sorting that says nothing, such as --where "$UNSET".
+std::string NotEmpty(const std::string& text) {
+  return text.find_first_not_of(' ') == text.npos
+             ? Say("为空；请给出内容，或不写此选项",
+                   "is empty; give what is meant, or leave the option out")
+             : "";
 }
 
 void RunRows(const COptions& options) {
@@ -180,24 +199,43 @@ void RunRows(const COptions& options) {
 
 void AddRowsCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
-  CLI::App* command = program.add_subcommand("rows", "List a table's rows, searched and sorted");
-  command->add_option("TABLE", options->table, "The table's name, as tables lists it")->required();
+  CLI::App* command = program.add_subcommand(
+      "rows", Say("列出表中各行，可检索和排序", "List a table's rows, searched and sorted"));
+  command
+      ->add_option("TABLE", options->table,
+                   Say("表名，见 tables", "The table's name, as tables lists it"))
+      ->required();
   command
       ->add_option("--where", options->where,
-                   "Conditions SIGN OPERATOR VALUE joined by && or by ||; operators ==, !=, >>, "
-                   "<<, >=, <=")
+                   Say("条件 标识 运算符 值，用 && 或 || 连接；运算符为 ==、!=、>>、<<、>=、<=",
+                       "Conditions SIGN OPERATOR VALUE joined by && or by ||; operators ==, !=, "
+                       ">>, <<, >=, <="))
+      ->check(NotEmpty)
       ->type_name("EXPR");
-  command->add_flag("--wildcard", options->wildcard,
-                    "Let * at an end of a value stand for any text");
-  command->add_option("--columns", options->columns, "The columns to show, in the table's order")
+  command->add_flag(
+      "--wildcard", options->wildcard,
+      Say("值首尾的 * 代表任意文字", "Let * at an end of a value stand for any text"));
+  command
+      ->add_option("--columns", options->columns,
+                   Say("要显示的列，按表中次序", "The columns to show, in the table's order"))
       ->type_name("SIGN,SIGN...")
       ->delimiter(',');
-  command->add_option("--sort", options->sort, "The column to sort by, ascending unless :desc")
+  command
+      ->add_option(
+          "--sort", options->sort,
+          Say("排序的列，升序；:desc 为降序", "The column to sort by, ascending unless :desc"))
+      ->check(NotEmpty)
       ->type_name("SIGN[:desc]");
-  CLI::Option* json = command->add_flag("--json", options->json, "As JSON, cells as text");
-  CLI::Option* csv = command->add_flag("--csv", options->csv, "As CSV that a spreadsheet opens");
+  CLI::Option* json = command->add_flag(
+      "--json", options->json, Say("以 JSON 输出，单元格为文字", "As JSON, cells as text"));
+  CLI::Option* csv =
+      command->add_flag("--csv", options->csv,
+                        Say("以 CSV 输出，可用电子表格打开", "As CSV that a spreadsheet opens"));
   csv->excludes(json);
-  command->add_flag("--guard", options->guard, "No cell of the CSV is a formula to a spreadsheet")
+  command
+      ->add_flag("--guard", options->guard,
+                 Say("CSV 的单元格不会被电子表格当作公式",
+                     "No cell of the CSV is a formula to a spreadsheet"))
       ->needs(csv);
   command->footer(
       "orv3cal rows 热轧普通工字钢 --where 'h(mm)>=200 && h(mm)<<300' --sort 'A(cm^2):desc'\n"

@@ -8,6 +8,7 @@
 
 #include "commands.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
@@ -39,21 +40,31 @@ const CSectionStyle& StyleOf(const std::string& text) {
   if (style == nullptr) style = FindSectionStyle(wide.View());
   if (style == nullptr && FormatInt(ToInt(wide)) == wide) style = FindSectionStyle(ToInt(wide));
   if (style == nullptr) {
-    Refuse("STYLE: \"" + text +
-           "\" is no section style; right would be a number 0 to 14, a table name or an alias that "
-           "orv3cal styles lists");
+    Refuse(
+        Say("STYLE: “{1}”不是截面种类；应为 0 至 14 的编号，或 orv3cal styles 列出的表名或别名",
+            "STYLE: \"{1}\" is no section style; right would be a number 0 to 14, a table name or "
+            "an alias that orv3cal styles lists",
+            {text}));
   }
   return *style;
 }
 
 // No section is a kilometre wide; beyond that the fourth powers would overflow some day.
 constexpr double kMaxLength = 1e6;
+// Nor is a plate thinner than a micrometre; below that they would vanish.
+constexpr double kMinLength = 1e-3;
 
 double LengthOf(const std::string& what, const std::string& text) {
   const CString wide = FromUtf8(text);
-  if (!IsNumber(wide)) Refuse(what + ": \"" + text + "\" is no number; right would be millimetres");
+  if (!IsNumber(wide)) {
+    Refuse(Say("{1}: “{2}”不是数值；应为毫米数",
+               "{1}: \"{2}\" is no number; right would be millimetres", {what, text}));
+  }
   const double value = ToDouble(wide);
-  if (std::fabs(value) > kMaxLength) Refuse(what + " = " + text + ": must be at most 1000000 mm");
+  if (std::fabs(value) > kMaxLength) {
+    Refuse(Say("{1} = {2}：不应大于 1000000 mm", "{1} = {2}: must be at most 1000000 mm",
+               {what, text}));
+  }
   return value;
 }
 
@@ -67,13 +78,21 @@ std::string SizeList(const CSectionStyle& style) {
 CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   std::vector<double> sizes;
   for (std::size_t i = 0; i < options.sizes.size(); ++i) {
-    const std::string sign = i < style.Sizes().size() ? ToUtf8(style.Sizes()[i].m_szSign)
-                                                      : "size " + std::to_string(i + 1);
+    const std::string sign = i < style.Sizes().size()
+                                 ? ToUtf8(style.Sizes()[i].m_szSign)
+                                 : Say("第 {1} 个尺寸", "size {1}", {std::to_string(i + 1)});
     sizes.push_back(LengthOf(sign, options.sizes[i]));
+    if (sizes.back() > 0 && sizes.back() < kMinLength) {
+      Refuse(Say("{1} = {2}：不应小于 0.001 mm", "{1} = {2}: must be at least 0.001 mm",
+                 {sign, options.sizes[i]}));
+    }
   }
   if (sizes.size() != style.Sizes().size()) {
-    Refuse(ToUtf8(style.TableName()) + " takes " + std::to_string(style.m_nSizes) + " sizes, " +
-           std::to_string(sizes.size()) + " were given; right would be:" + SizeList(style));
+    Refuse(Say("{1} 有 {2} 个尺寸，给出的是 {3} 个；应为：{4}",
+               sizes.size() == 1 ? "{1} takes {2} sizes, {3} was given; right would be:{4}"
+                                 : "{1} takes {2} sizes, {3} were given; right would be:{4}",
+               {ToUtf8(style.TableName()), std::to_string(style.m_nSizes),
+                std::to_string(sizes.size()), SizeList(style)}));
   }
   if (const auto fault = CheckSectionSizes(style, sizes)) Refuse(fault->m_strText);
   if (const std::string fault = CheckSectionName(FromUtf8(options.name)); !fault.empty()) {
@@ -111,14 +130,14 @@ std::string Unit(int power) {
 }
 
 void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
-  Print(ToUtf8(style.TableName()) + " (" + style.m_szShape + ")" +
+  Print(ToUtf8(style.TableName()) + Say({"", " (" + std::string(style.m_szShape) + ")"}) +
         (name.empty() ? "" : "  " + name) + "\n\n");
   CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
   for (int i = 0; i < style.m_nSizes; ++i) {
     const CSizeColumn& size = style.Sizes()[static_cast<std::size_t>(i)];
     const std::string sign = ToUtf8(size.m_szSign);
     table.AddRow({ToUtf8(size.m_szTitle), sign.substr(0, sign.find('(')),
-                  NumberText(record.m_dSize[i]), "mm", size.m_szMeaning});
+                  NumberText(record.m_dSize[i]), "mm", Say({"", size.m_szMeaning})});
   }
   table.AddRule();
   bool infinite = false, missing = false;
@@ -127,15 +146,21 @@ void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const 
     infinite = infinite || std::isinf(value);
     missing = missing || std::isnan(value);
     table.AddRow({ToUtf8(property.m_szTitle), property.m_szKey, NumberText(value),
-                  Unit(property.m_nPower), property.m_szMeaning});
+                  Unit(property.m_nPower), Say({"", property.m_szMeaning})});
   }
   table.AddRule();
   AddFurtherFigures(table, RowFigures(ExactRow(record)));
   Print(table.Text());
-  if (infinite) Print("\n∞: the base point lies on that edge of the section\n");
-  if (missing) Print("\n-: not computed for this style, or the base point lies outside\n");
+  if (infinite)
+    Print(
+        Say("\n∞：基点在截面的该边上\n", "\n∞: the base point lies on that edge of the section\n"));
+  if (missing)
+    Print(Say("\n-：该种截面不计算此项，或基点在截面之外\n",
+              "\n-: not computed for this style, or the base point lies outside\n"));
   constexpr int kHexagon = 4;
-  if (style.m_nStyle == kHexagon) Print("\nIxo = Iyo = 0.541 a⁴ as in tables; exact: 0.54127 a⁴\n");
+  if (style.m_nStyle == kHexagon)
+    Print(Say("\nIxo = Iyo = 0.541 a⁴，与用表一致；精确值为 0.54127 a⁴\n",
+              "\nIxo = Iyo = 0.541 a⁴ as in tables; exact: 0.54127 a⁴\n"));
 }
 
 void RunSection(const COptions& options) {
@@ -154,22 +179,35 @@ void RunSection(const COptions& options) {
 
 void AddSectionCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
-  CLI::App* command =
-      program.add_subcommand("section", "Compute a section's properties from its sizes in mm");
-  command->add_option("STYLE", options->style, "Style number 0 to 14, table name or alias")
+  CLI::App* command = program.add_subcommand(
+      "section",
+      Say("由尺寸（mm）计算截面特性", "Compute a section's properties from its sizes in mm"));
+  command
+      ->add_option("STYLE", options->style,
+                   Say("编号 0 至 14、表名或别名", "Style number 0 to 14, table name or alias"))
       ->required();
-  command->add_option("SIZE", options->sizes, "The style's sizes in mm, in the order of styles")
+  command
+      ->add_option("SIZE", options->sizes,
+                   Say("各尺寸（mm），按 styles 列出的次序",
+                       "The style's sizes in mm, in the order of styles"))
       ->type_name("NUMBER...");
   command
       ->add_option("--base", options->base,
-                   "Base point in mm from the lower-left corner, 0 0 if not given")
+                   Say("基点距左下角（mm），不给时为 0 0",
+                       "Base point in mm from the lower-left corner, 0 0 if not given"))
       ->type_name("X Y");
-  command->add_option("--name", options->name, "The section's name, at most 30 characters");
-  command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
-  command->add_option("--svg", options->svg, "Write a picture drawn to scale")->type_name("FILE");
+  command->add_option("--name", options->name,
+                      Say("截面名称，至多 30 个字符", "The section's name, at most 30 characters"));
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_option("--svg", options->svg,
+                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
+      ->type_name("FILE");
   command
       ->add_option("--dxf", options->dxf,
-                   "Write the outline for a drawing program: polylines with arcs, in mm")
+                   Say("为绘图程序写入轮廓：带圆弧的多段线，单位 mm",
+                       "Write the outline for a drawing program: polylines with arcs, in mm"))
       ->type_name("FILE");
   command->callback([options] { RunSection(*options); });
 }

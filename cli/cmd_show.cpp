@@ -9,6 +9,7 @@
 #include "commands.h"
 #include "drawing/dxf.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "nearest.h"
 #include "output.h"
@@ -34,8 +35,9 @@ struct COptions {
 [[noreturn]] void RefuseTable(const COptions& options, const CString& file) {
   CStringArray names;
   CDataTable::GetTableNameFromFile(file, names);
-  Refuse("TABLE: " + ToUtf8(file) + " has no table \"" + options.table +
-         "\"; the nearest are: " + Nearest(options.table, names));
+  Refuse(Say("TABLE: {1} 中没有表“{2}”；相近的有：{3}",
+             "TABLE: {1} has no table \"{2}\"; the nearest are: {3}",
+             {ToUtf8(file), options.table, Nearest(options.table, names)}));
 }
 
 CDataItem RowOf(const COptions& options) {
@@ -46,15 +48,19 @@ CDataItem RowOf(const COptions& options) {
   CStringArray numbers;
   if (CLoadDataTable::GetSysTemItemNo(table, numbers) == 0) RefuseTable(options, file);
   const std::string nearest = Nearest(options.no, numbers);
-  Refuse("NO: " + options.table + " has no \"" + options.no + "\"" +
-         (nearest.empty() ? ", it has no sections" : "; the nearest are: " + nearest));
+  Refuse(Say("NO: {1} 中没有“{2}”", "NO: {1} has no \"{2}\"", {options.table, options.no}) +
+         (nearest.empty() ? Say("，它没有截面", ", it has no sections")
+                          : Say("；相近的有：{1}", "; the nearest are: {1}", {nearest})));
 }
 
 CDataItem WithGap(const CDataItem& row, const COptions& options) {
-  if (!IsPairTable(row.GetTableName())) Refuse("--gap: " + options.table + " is no table of pairs");
+  if (!IsPairTable(row.GetTableName()))
+    Refuse(Say("--gap: {1} 不是组合截面表", "--gap: {1} is no table of pairs", {options.table}));
   if (PairSpacingSign(row.GetTableName()).IsEmpty()) {
-    Refuse("--gap: the channels of " + options.table +
-           " touch; right for channels apart would be a lattice column, 双肢格构柱");
+    Refuse(Say("--gap: {1} 的两槽钢相接；分开的槽钢请用 双肢格构柱",
+               "--gap: the channels of {1} touch; right for channels apart would be a lattice "
+               "column, 双肢格构柱",
+               {options.table}));
   }
   return WithPairSpacing(row, options.gap);
 }
@@ -62,7 +68,8 @@ CDataItem WithGap(const CDataItem& row, const COptions& options) {
 void WriteDxf(const COptions& options, const CDataItem& row) {
   const COutline outline = RowOutline(row, options.turn);
   if (outline.m_arrLoop.empty())
-    Refuse("--dxf: the sizes of " + options.table + " " + options.no + " bound no section");
+    Refuse(Say("--dxf: {1} {2} 的尺寸不能构成截面", "--dxf: the sizes of {1} {2} bound no section",
+               {options.table, options.no}));
   WriteFile(options.dxf, PathsDxf(outline.m_arrLoop));
 }
 
@@ -84,24 +91,37 @@ void RunShow(const COptions& options, bool spaced) {
 void AddShowCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "show", "Show a section of the catalogue or a store with its geometry in mm");
-  command->add_option("TABLE", options->table, "The section table, such as 热轧普通工字钢")
+      "show", Say("显示库中的截面及其几何特性（mm）",
+                  "Show a section of the catalogue or a store with its geometry in mm"));
+  command
+      ->add_option("TABLE", options->table,
+                   Say("截面表，例如 热轧普通工字钢", "The section table, such as 热轧普通工字钢"))
       ->required();
-  command->add_option("NO", options->no, "The section's number, such as I20a")->required();
-  command->add_option("--turn", options->turn, "Turn the section counter-clockwise, degrees")
+  command
+      ->add_option("NO", options->no, Say("型号，例如 I20a", "The section's number, such as I20a"))
+      ->required();
+  command
+      ->add_option("--turn", options->turn,
+                   Say("截面逆时针转动的角度", "Turn the section counter-clockwise, degrees"))
       ->check(CLI::IsMember({0, 90, 180, 270}));
   CLI::Option* gap =
       command
           ->add_option("--gap", options->gap,
-                       "Clear distance of a pair's two sections in whole mm, 0 if not given")
+                       Say("组合截面两肢的净距，整数 mm，不给时为 0",
+                           "Clear distance of a pair's two sections in whole mm, 0 if not given"))
           ->check(CLI::Range(0, 1000))
           ->type_name("MM");
   AddStoreOptions(*command, options->store);
-  command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
-  command->add_option("--svg", options->svg, "Write a picture drawn to scale")->type_name("FILE");
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_option("--svg", options->svg,
+                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
+      ->type_name("FILE");
   command
       ->add_option("--dxf", options->dxf,
-                   "Write the outline for a drawing program: polylines with arcs, in mm")
+                   Say("为绘图程序写入轮廓：带圆弧的多段线，单位 mm",
+                       "Write the outline for a drawing program: polylines with arcs, in mm"))
       ->type_name("FILE");
   command->callback([options, gap] { RunShow(*options, gap->count() > 0); });
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "commands.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "output.h"
 #include "section_view.h"
@@ -32,12 +33,15 @@ void PrintStyles() {
     CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left});
     for (const CSizeColumn& size : style.Sizes()) {
       const std::string sign = ToUtf8(size.m_szSign);
-      table.AddRow({" ", sign.substr(0, sign.find('(')), ToUtf8(size.m_szTitle), size.m_szMeaning});
+      table.AddRow({" ", sign.substr(0, sign.find('(')), ToUtf8(size.m_szTitle),
+                    Say({"", size.m_szMeaning})});
     }
     Print(std::to_string(style.m_nStyle) + "  " + style.m_szAlias + "  " +
-          ToUtf8(style.TableName()) + "  " + style.m_szShape + "\n" + table.Text() + "\n");
+          ToUtf8(style.TableName()) + Say({"", std::string("  ") + style.m_szShape}) + "\n" +
+          table.Text() + "\n");
   }
-  Print("all sizes in mm; orv3cal section ALIAS SIZE... takes them in this order\n");
+  Print(Say("尺寸单位均为 mm；orv3cal section ALIAS SIZE... 按此次序给出\n",
+            "all sizes in mm; orv3cal section ALIAS SIZE... takes them in this order\n"));
 }
 
 // The sample section of each style, in a file named by its alias. The samples' names are those that
@@ -56,12 +60,16 @@ void AddStylesCommand(CLI::App& program) {
     std::string folder;
   };
   auto options = std::make_shared<COptions>();
-  CLI::App* command =
-      program.add_subcommand("styles", "List the user-defined section styles and their sizes");
-  command->add_flag("--json", options->json, "As JSON, with the titles and meanings of the sizes");
+  CLI::App* command = program.add_subcommand(
+      "styles",
+      Say("列出自定义截面的种类和尺寸", "List the user-defined section styles and their sizes"));
+  command->add_flag("--json", options->json,
+                    Say("以 JSON 输出，附各尺寸的名称和含义",
+                        "As JSON, with the titles and meanings of the sizes"));
   command
       ->add_option("--svg", options->folder,
-                   "Write a picture of a sample of each style into a folder")
+                   Say("在文件夹中写入各种截面的图例",
+                       "Write a picture of a sample of each style into a folder"))
       ->type_name("FOLDER");
   command->callback([options] {
     if (!options->folder.empty()) WritePictures(options->folder);

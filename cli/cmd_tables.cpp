@@ -8,6 +8,7 @@
 #include "commands.h"
 #include "csv_output.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "output.h"
 #include "sections/load_data_table.h"
@@ -27,29 +28,30 @@ struct COptions {
 
 struct CFamily {
   std::int32_t m_nBit;
-  const char* m_szName;
+  CTextLiteral m_name;
 };
 constexpr CFamily kFamilies[] = {
-    {TABLE_FAMILY_I, "I and H"},
-    {TABLE_FAMILY_BOX, "box"},
-    {TABLE_FAMILY_T, "T"},
-    {TABLE_FAMILY_CHANNEL, "channel"},
-    {TABLE_FAMILY_Z, "Z"},
-    {TABLE_FAMILY_ROUND, "round"},
-    {TABLE_FAMILY_ANGLE, "angle"},
-    {TABLE_FAMILY_ANGLE_PAIR, "angle pair"},
-    {TABLE_FAMILY_CHANNEL_PAIR, "channel pair"},
-    {TABLE_FAMILY_CROSS, "cross"},
-    {TABLE_FAMILY_SOLID, "solid"},
-    {TABLE_FAMILY_LATTICE, "lattice"},
+    {TABLE_FAMILY_I, {"工字钢和H型钢", "I and H"}},
+    {TABLE_FAMILY_BOX, {"箱形", "box"}},
+    {TABLE_FAMILY_T, {"T形", "T"}},
+    {TABLE_FAMILY_CHANNEL, {"槽形", "channel"}},
+    {TABLE_FAMILY_Z, {"Z形", "Z"}},
+    {TABLE_FAMILY_ROUND, {"圆形", "round"}},
+    {TABLE_FAMILY_ANGLE, {"角钢", "angle"}},
+    {TABLE_FAMILY_ANGLE_PAIR, {"角钢组合", "angle pair"}},
+    {TABLE_FAMILY_CHANNEL_PAIR, {"槽钢组合", "channel pair"}},
+    {TABLE_FAMILY_CROSS, {"十字形", "cross"}},
+    {TABLE_FAMILY_SOLID, {"实心", "solid"}},
+    {TABLE_FAMILY_LATTICE, {"格构柱", "lattice"}},
 };
-constexpr CFamily kSources[] = {{TABLE_ROLLED, "rolled"}, {TABLE_CUSTOM, "user-defined"}};
+constexpr CFamily kSources[] = {{TABLE_ROLLED, {"热轧", "rolled"}},
+                                {TABLE_CUSTOM, {"自定义", "user-defined"}}};
 
 // One table as it is listed.
 struct CListed {
   std::string m_strName;
-  std::string m_strSource;  // empty, like the family, for a table that is of no mask
-  std::string m_strFamily;
+  CTextLiteral m_source{"", ""};  // empty, like the family, for a table that is of no mask
+  CTextLiteral m_family{"", ""};
   std::int32_t m_nMask = 0;
   int m_nRows = 0;
   int m_nColumns = 0;
@@ -62,9 +64,10 @@ std::int32_t MaskOf(const std::string& text) {
   std::uint32_t mask = 0;
   const auto read = std::from_chars(first, end, mask, hex ? 16 : 10);
   if (read.ec != std::errc() || read.ptr != end) {
-    Refuse("--mask: \"" + text +
-           "\" is no mask; right would be a number of 32 bits, "
-           "such as 0x01000001 for the rolled I and H sections");
+    Refuse(Say("--mask: “{1}”不是掩码；应为 32 位的数，例如热轧工字钢和 H 型钢为 0x01000001",
+               "--mask: \"{1}\" is no mask; right would be a number of 32 bits, such as 0x01000001 "
+               "for the rolled I and H sections",
+               {text}));
   }
   return static_cast<std::int32_t>(mask);
 }
@@ -78,8 +81,8 @@ CListed Listed(const CString& path, const CString& name) {
   for (const CFamily& source : kSources) {
     for (const CFamily& family : kFamilies) {
       if (!CLoadDataTable::IsTableNameType(name, source.m_nBit | family.m_nBit)) continue;
-      listed.m_strSource = source.m_szName;
-      listed.m_strFamily = family.m_szName;
+      listed.m_source = source.m_name;
+      listed.m_family = family.m_name;
       listed.m_nMask = source.m_nBit | family.m_nBit;
     }
   }
@@ -108,12 +111,14 @@ std::string Hex(std::int32_t mask) {
 void PrintListed(const std::vector<CListed>& list) {
   CTextTable table(
       {CAlign::Left, CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left});
-  table.AddRow({"table", "source", "family", "rows", "columns", "mask"});
+  table.AddRow({Say("表", "table"), Say("来源", "source"), Say("类别", "family"), Say("行", "rows"),
+                Say("列", "columns"), Say("掩码", "mask")});
   for (const CListed& each : list) {
-    table.AddRow({each.m_strName, each.m_strSource, each.m_strFamily, std::to_string(each.m_nRows),
+    table.AddRow({each.m_strName, each.m_source.In(MessageLanguage()),
+                  each.m_family.In(MessageLanguage()), std::to_string(each.m_nRows),
                   std::to_string(each.m_nColumns), Hex(each.m_nMask)});
   }
-  Print(list.empty() ? "no table\n" : table.Text());
+  Print(list.empty() ? Say("没有表\n", "no table\n") : table.Text());
 }
 
 void PrintListedCsv(const std::vector<CListed>& list) {
@@ -121,8 +126,8 @@ void PrintListedCsv(const std::vector<CListed>& list) {
   text += "table,source,family,rows,columns,mask\n";
   for (const CListed& each : list) {
     text +=
-        CsvLine({each.m_strName, each.m_strSource, each.m_strFamily, std::to_string(each.m_nRows),
-                 std::to_string(each.m_nColumns), Hex(each.m_nMask)});
+        CsvLine({each.m_strName, each.m_source.m_szEnglish, each.m_family.m_szEnglish,
+                 std::to_string(each.m_nRows), std::to_string(each.m_nColumns), Hex(each.m_nMask)});
   }
   PrintCsv(text);
 }
@@ -131,8 +136,8 @@ void PrintListedJson(const std::vector<CListed>& list) {
   CJson json = CJson::array();
   for (const CListed& each : list) {
     json.push_back({{"name", each.m_strName},
-                    {"source", each.m_strSource},
-                    {"family", each.m_strFamily},
+                    {"source", each.m_source.m_szEnglish},
+                    {"family", each.m_family.m_szEnglish},
                     {"rows", each.m_nRows},
                     {"columns", each.m_nColumns},
                     {"mask", each.m_nMask}});
@@ -149,7 +154,7 @@ void RunTables(const COptions& options) {
   }
   if (options.json) return PrintListedJson(list);
   if (options.csv) return PrintListedCsv(list);
-  Print("store: " + WhichStore(options.store) + "\n\n");
+  Print(Say("库：{1}\n\n", "store: {1}\n\n", {WhichStore(options.store)}));
   PrintListed(list);
 }
 
@@ -157,13 +162,19 @@ void RunTables(const COptions& options) {
 
 void AddTablesCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
-  CLI::App* command = program.add_subcommand("tables", "List the tables of the store");
+  CLI::App* command =
+      program.add_subcommand("tables", Say("列出库中各表", "List the tables of the store"));
   command
       ->add_option("--mask", options->mask,
-                   "Only tables whose source bit and family bit are both set, such as 0x01000001")
+                   Say("只列来源位和类别位都符合的表，例如 0x01000001",
+                       "Only tables whose source bit and family bit are both set, such as "
+                       "0x01000001"))
       ->type_name("M");
-  CLI::Option* json = command->add_flag("--json", options->json, "As JSON");
-  command->add_flag("--csv", options->csv, "As CSV that a spreadsheet opens")->excludes(json);
+  CLI::Option* json = command->add_flag("--json", options->json, Say("以 JSON 输出", "As JSON"));
+  command
+      ->add_flag("--csv", options->csv,
+                 Say("以 CSV 输出，可用电子表格打开", "As CSV that a spreadsheet opens"))
+      ->excludes(json);
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunTables(*options); });
 }

@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "inputs_read.h"
 #include "platform/whole_file.h"
@@ -19,7 +20,7 @@ std::filesystem::path NativePath(const std::string& path) {
   return {std::u8string(path.begin(), path.end())};
 }
 
-[[noreturn]] void NotRead(const std::string& path, const char* why) {
+[[noreturn]] void NotRead(const std::string& path, const std::string& why) {
   throw CCommandError(CExit::FileTrouble, path + ": " + why);
 }
 
@@ -47,22 +48,25 @@ std::string ReadInput(const std::string& path, std::uint64_t most) {
   if (path == kStandardInput) return ReadStream(std::cin, most);
   if (IsStream(path)) {
     std::ifstream stream(NativePath(path), std::ios::binary);
-    if (!stream) NotRead(path, "cannot be read");
+    if (!stream) NotRead(path, Say("不能读取", "cannot be read"));
     return ReadStream(stream, most);
   }
   NoteInput(path);
+  std::error_code ignored;
+  if (std::filesystem::is_directory(NativePath(path), ignored))
+    NotRead(path, Say("是文件夹，应为文件", "it is a folder; right would be a file"));
   std::string bytes;
   switch (ReadWholeFile(FromUtf8(path), bytes, most + 1)) {
     case CFileError::None:
       return bytes;
     case CFileError::NotFound:
-      NotRead(path, "not found");
+      NotRead(path, Say("文件不存在", "not found"));
     case CFileError::Busy:
-      NotRead(path, "another program has it open");
+      NotRead(path, Say("被其他程序打开", "another program has it open"));
     case CFileError::Denied:
-      NotRead(path, "it may not be read by this user");
+      NotRead(path, Say("当前用户没有读取权限", "it may not be read by this user"));
     default:
-      NotRead(path, "cannot be read");
+      NotRead(path, Say("不能读取", "cannot be read"));
   }
 }
 

@@ -9,16 +9,20 @@
 #include <string>
 #include <vector>
 
+#include "asked_language.h"
 #include "commands.h"
 #include "error.h"
 #include "framework/excerpt.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "option_errors.h"
 #include "output.h"
 #include "platform/command_line.h"
 
 namespace {
 
+using orv3::Say;
 using orv3::cli::CExit;
 
 int Fail(CExit exit, std::string text) {
@@ -51,7 +55,8 @@ void RefuseEmptyPaths(CLI::App& command) {
     const bool place = type.starts_with("FILE") || type == "FOLDER" || type == "DIR";
     if (!place && option->get_name(true) != "FILE") continue;
     option->check([](const std::string& path) {
-      return path.empty() ? "names nothing; right would be a path" : std::string();
+      return path.empty() ? Say("没有给出名称；应为路径", "names nothing; right would be a path")
+                          : std::string();
     });
   }
   for (CLI::App* each : command.get_subcommands({})) RefuseEmptyPaths(*each);
@@ -69,7 +74,8 @@ std::string UnknownCommand(const CLI::App* command, const std::vector<std::strin
       names += (names.empty() ? "" : ", ") + each->get_name();
     }
     if (!command)
-      return "\"" + orv3::Excerpt(*word) + "\" is no command; right would be one of " + names;
+      return Say("“{1}”不是命令；应为下列之一：{2}",
+                 "\"{1}\" is no command; right would be one of {2}", {orv3::Excerpt(*word), names});
   }
   return {};
 }
@@ -95,18 +101,22 @@ std::string Bounded(const std::string& text, int argc, char** argv) {
 }
 
 int Run(int argc, char** argv) {
-  CLI::App program(
-      "Sections and connection checks of structural steel, by GB 50017 (editions of 2017 and 2003)",
-      "orv3cal");
+  std::vector<std::string> arguments = ForParsing(argc, argv);
+  orv3::cli::TakeLanguage({arguments.rbegin(), arguments.rend()});
+  CLI::App program(Say("钢结构截面与连接计算，按 GB 50017-2003（2003 版）",
+                       "Sections and connection checks of structural steel, by GB 50017-2003 (the "
+                       "2003 edition)"),
+                   "orv3cal");
   program.set_version_flag("--version", "orv3cal " ORV3CAL_VERSION);
   program.allow_windows_style_options(false);  // "/folder/file" is a path on Windows too
   program.require_subcommand(1);
-  program.footer("orv3cal COMMAND --help tells what a command takes.");
+  program.footer(Say("各命令的用法见 orv3cal COMMAND --help。",
+                     "orv3cal COMMAND --help tells what a command takes."));
   for (const auto add : orv3::cli::kCommands) add(program);
   RefuseEmptyPaths(program);
-  std::vector<std::string> arguments = ForParsing(argc, argv);
+  orv3::cli::AddLanguageOption(program);
   if (!std::all_of(arguments.begin(), arguments.end(), orv3::IsUtf8)) {
-    return Fail(CExit::BadInput, "an argument is not UTF-8 text");
+    return Fail(CExit::BadInput, Say("有一个参数不是 UTF-8 文字", "an argument is not UTF-8 text"));
   }
   if (const std::string fault = UnknownCommand(&program, arguments); !fault.empty()) {
     return Fail(CExit::BadInput, fault);
@@ -121,8 +131,9 @@ int Run(int argc, char** argv) {
       used = used->get_subcommands().front();
       name += used->get_name() + " ";
     }
-    return Fail(CExit::BadInput, WithExcerpts(error.what(), ForParsing(argc, argv)) +
-                                     " (see orv3cal " + name + "--help)");
+    return Fail(CExit::BadInput,
+                WithExcerpts(orv3::cli::OptionErrorText(error), ForParsing(argc, argv)) +
+                    Say("（见 orv3cal {1}--help）", " (see orv3cal {1}--help)", {name}));
   }
   return static_cast<int>(CExit::Done);
 }
@@ -136,7 +147,8 @@ int RunGuarded(int argc, char** argv) {
   } catch (const orv3::cli::CCommandError& error) {
     return Fail(error.m_nExit, Bounded(error.what(), argc, argv));
   } catch (const std::bad_alloc&) {
-    return Fail(CExit::FileTrouble, "the memory of this machine does not suffice");
+    return Fail(CExit::FileTrouble,
+                Say("本机内存不足", "the memory of this machine does not suffice"));
   } catch (const std::exception& error) {
     return Fail(CExit::FileTrouble, error.what());
   }
@@ -150,8 +162,11 @@ int main(int argc, char** argv) {
   errno = 0;
   if (std::cout.flush() && std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
   const std::string& saved = orv3::cli::SavedNote();
-  return Fail(CExit::FileTrouble,
-              std::string("standard output cannot be written") +
-                  (errno == ENOSPC ? ", the disk is full" : ", is the disk full?") +
-                  (saved.empty() ? "" : "; saved before that: " + saved));
+  return Fail(
+      CExit::FileTrouble,
+      (errno == ENOSPC ? Say("标准输出不能写入，磁盘已满",
+                             "standard output cannot be written, the disk is full")
+                       : Say("标准输出不能写入，磁盘是否已满？",
+                             "standard output cannot be written, is the disk full?")) +
+          (saved.empty() ? "" : Say("；此前已保存：{1}", "; saved before that: {1}", {saved})));
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "inputs_read.h"
 #include "platform/terminal.h"
@@ -20,8 +21,9 @@ namespace {
 // From here on a number stands for a fibre distance of 0.
 constexpr double kInfinite = 1e100;
 
-[[noreturn]] void NotWritten(const std::string& path, const char* reason) {
-  throw CCommandError(CExit::FileTrouble, path + ": not written, " + reason);
+[[noreturn]] void NotWritten(const std::string& path, const std::string& reason) {
+  throw CCommandError(CExit::FileTrouble,
+                      Say("{1}: 没有写入，{2}", "{1}: not written, {2}", {path, reason}));
 }
 
 void PrintBytes(std::string_view bytes) { std::fwrite(bytes.data(), 1, bytes.size(), stdout); }
@@ -52,13 +54,15 @@ void KeepFromLoss(const std::filesystem::path& target, const std::string& path,
   std::error_code error;
   for (const auto& input : InputsRead()) {
     if (std::filesystem::equivalent(input, target, error))
-      Refuse(path + ": is the file that is read; right would be another name");
+      Refuse(Say("{1}: 正是所读的文件；请另给名称",
+                 "{1}: is the file that is read; right would be another name", {path}));
   }
   CStoreInfo store;
   const bool text = bytes.find('\0') == bytes.npos;
   if (text && std::filesystem::is_regular_file(target, error) &&
       ReadStoreInfo(FromUtf8(path), store)) {
-    Refuse(path + ": is a store of sections; right would be another name");
+    Refuse(Say("{1}: 是截面库；请另给名称",
+               "{1}: is a store of sections; right would be another name", {path}));
   }
 }
 
@@ -113,7 +117,7 @@ void WriteFile(const std::string& path, const std::string& bytes) {
   const std::filesystem::path native(std::u8string(path.begin(), path.end()));
   std::error_code ignored;
   const auto status = std::filesystem::status(native, ignored);
-  if (std::filesystem::is_directory(status)) NotWritten(path, "it is a folder");
+  if (std::filesystem::is_directory(status)) NotWritten(path, Say("是文件夹", "it is a folder"));
   if (IsStandardOutput(native)) return PrintBytes(bytes);
   KeepFromLoss(native, path, bytes);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
@@ -123,21 +127,22 @@ void WriteFile(const std::string& path, const std::string& bytes) {
   if (error != CFileError::None) NotWritten(path, WriteTrouble(error));
 }
 
-const char* WriteTrouble(CFileError error) {
+std::string WriteTrouble(CFileError error) {
   switch (error) {
     case CFileError::NotFound:
-      return "its folder is not there";
+      return Say("文件夹不存在", "its folder is not there");
     case CFileError::Busy:
-      return "another program has it open";
+      return Say("被其他程序打开", "another program has it open");
     case CFileError::Denied:
-      return "it is write-protected, or its folder is closed to this user";
+      return Say("文件只读，或当前用户不能使用其文件夹",
+                 "it is write-protected, or its folder is closed to this user");
     case CFileError::Full:
-      return "the disk is full";
+      return Say("磁盘已满", "the disk is full");
     case CFileError::None:
     case CFileError::Failed:
       break;
   }
-  return "the system refused";
+  return Say("系统拒绝写入", "the system refused");
 }
 
 void NoteSaved(const std::string& what) { Saved() = what; }

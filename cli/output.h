@@ -30,7 +30,7 @@ void PrintCsv(const std::string& text);
 // and the reason.
 void WriteFile(const std::string& path, const std::string& bytes);
 // The reason why a file could not be written, as half a sentence.
-const char* WriteTrouble(CFileError error);
+std::string WriteTrouble(CFileError error);
 
 // What a command has saved, for the error of one that cannot tell it on standard output any more.
 void NoteSaved(const std::string& what);

@@ -8,6 +8,7 @@
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/rolled/angle_capacity.h"
 #include "figure_cells.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "sections/section_figures.h"
@@ -81,12 +82,13 @@ void AddFigure(CTextTable& table, const CFigure& figure, const CRowFigures& figu
   const std::string letter = Letter(figures, figure.m_nAxis);
   table.AddRow({Named(figure.m_szTitle, letter), Named(figure.m_szSymbol, letter),
                 NumberText(figures.*figure.m_pField), figure.m_szUnit,
-                Named(figure.m_szMeaning, letter)});
+                Say({"", Named(figure.m_szMeaning, letter)})});
 }
 
 void AddSymmetry(CTextTable& table, const std::string& letter, const std::optional<bool>& value) {
-  table.AddRow({"对称于" + letter + "轴", "", value ? (*value ? "是 yes" : "否 no") : "-", "",
-                "symmetric about " + letter});
+  table.AddRow({"对称于" + letter + "轴", "",
+                value ? (*value ? Say("是", "是 yes") : Say("否", "否 no")) : "-", "",
+                Say({"", "symmetric about " + letter})});
 }
 
 CJson SymmetryJson(const std::optional<bool>& value) { return value ? CJson(*value) : nullptr; }
@@ -165,14 +167,18 @@ std::string LatticeNote(const CDataItem& row, const CRowFigures& figures) {
       {L"WyR(mm^3)", &F::m_dWRight}};
   if (LatticeLimbCount(row.m_strTableName.View()) == 0) return {};
   if (std::isnan(figures.m_dXc))
-    return "The limbs are not to be had; the figures are those that the row holds.";
+    return Say("库中没有各肢；所示为该行中的数值。",
+               "The limbs are not to be had; the figures are those that the row holds.");
   for (const auto& [sign, field] : kResults) {
     double told = 0;
     const double value = figures.*field;
     if (!row.GetCellValue(sign, told) || std::fabs(told - value) <= 1e-5 * value) continue;
-    return "The row's " + ToUtf8(CString(sign)) + " = " + NumberText(told) +
-           " differs from what its limbs give as they stand, " + NumberText(value) +
-           "; rows count a T's centroid at mid-height and limb 1's top k lower.";
+    return Say(
+        "该行的 {1} = {2} 与由各肢按实际位置所得的 {3} 不同；行中 T 型钢的重心取在半高，肢 1 "
+        "的顶部低 k。",
+        "The row's {1} = {2} differs from what its limbs give as they stand, {3}; rows count "
+        "a T's centroid at mid-height and limb 1's top k lower.",
+        {ToUtf8(CString(sign)), NumberText(told), NumberText(value)});
   }
   return {};
 }
@@ -181,10 +187,11 @@ std::string StaleNote(const CDataItem& row) {
   const auto record = SectionRecord(row);
   const int stale = record ? StaleColumn(row, *record) : -1;
   if (stale < 0) return {};
-  return "The stored " + ToUtf8(row.GetCellSign(stale)) + " = " + ToUtf8(row[stale].m_strValue) +
-         " is not that of the stored sizes, which give " +
-         ToUtf8(FormatG(ToDouble(ExactRow(*record)[stale].m_strValue))) +
-         "; what is shown follows from the sizes.";
+  return Say("库中的 {1} = {2} 与库中尺寸所得的 {3} 不符；所示由尺寸算得。",
+             "The stored {1} = {2} is not that of the stored sizes, which give {3}; what is shown "
+             "follows from the sizes.",
+             {ToUtf8(row.GetCellSign(stale)), ToUtf8(row[stale].m_strValue),
+              ToUtf8(FormatG(ToDouble(ExactRow(*record)[stale].m_strValue)))});
 }
 
 }  // namespace
@@ -259,18 +266,21 @@ std::vector<std::string> RowDoubtNotes(const CDataItem& row) {
   for (std::string note : {StaleNote(row), LatticeNote(row, RowFigures(row))})
     if (!note.empty()) notes.push_back(std::move(note));
   for (const CRowDoubt& doubt : RowDoubts(row)) {
-    notes.push_back(std::string(doubt.m_szKey) + " is doubtful: the row tells " +
-                    NumberText(doubt.m_dTold) + ", the outline of its sizes has " +
-                    NumberText(doubt.m_dOutline) + " (mm).");
+    notes.push_back(
+        Say("{1} 可疑：行中为 {2}，由尺寸的轮廓得 {3}（mm）。",
+            "{1} is doubtful: the row tells {2}, the outline of its sizes has {3} (mm).",
+            {doubt.m_szKey, NumberText(doubt.m_dTold), NumberText(doubt.m_dOutline)}));
   }
   return notes;
 }
 
 std::vector<std::string> RowNotes(const CDataItem& row) {
   std::vector<std::string> notes = RowDoubtNotes(row);
-  if (HasAngleCapacities(row.m_strTableName)) notes.emplace_back(AngleCapacityBasis());
+  if (HasAngleCapacities(row.m_strTableName))
+    notes.emplace_back(AngleCapacityBasis().In(MessageLanguage()));
   if (RowFigures(row).m_bAslant)
-    notes.emplace_back("X1 lies between the angles and Y1 through both, at 45° to their legs.");
+    notes.push_back(Say("X1 在两角钢之间，Y1 穿过两角钢，与肢成 45°。",
+                        "X1 lies between the angles and Y1 through both, at 45° to their legs."));
   return notes;
 }
 

@@ -7,6 +7,7 @@
 
 #include "catalogue/import/section_rows.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/message.h"
 #include "framework/utf8.h"
 #include "output.h"
@@ -42,11 +43,13 @@ constexpr long kPairs = TABLE_ROLLED | TABLE_FAMILY_ANGLE_PAIR | TABLE_FAMILY_CH
 void SetCell(const CDataTable& table, const std::string& set, CDataItem& row) {
   const std::size_t equals = set.find('=');
   if (equals == std::string::npos) {
-    Refuse("--set: \"" + set + "\" has no \"=\"; right would be SIGN=VALUE");
+    Refuse(Say("--set: “{1}”中没有“=”；应为 SIGN=VALUE",
+               "--set: \"{1}\" has no \"=\"; right would be SIGN=VALUE", {set}));
   }
   const int column = ColumnOf(table, "--set", set.substr(0, equals));
   if (column >= GivenColumns(table.GetTableName(), table.m_Title)) {
-    Refuse("--set: \"" + set.substr(0, equals) + "\" is computed from the columns before it");
+    Refuse(Say("--set: “{1}”由它前面的列计算，不能给出",
+               "--set: \"{1}\" is computed from the columns before it", {set.substr(0, equals)}));
   }
   row[column].m_strValue = FromUtf8(set.substr(equals + 1)).Trim(L" \t");
 }
@@ -71,7 +74,12 @@ class CRefusalCatcher {
   CRefusalCatcher(const CRefusalCatcher&) = delete;
   CRefusalCatcher& operator=(const CRefusalCatcher&) = delete;
 
-  [[noreturn]] void Throw() const { Refuse(ToUtf8(m_text)); }
+  // The library has its words in Chinese.
+  [[noreturn]] void Throw(const CDataItem& row) const {
+    Refuse(Say(
+        "{1}", "{2}: the table has a row \"{3}\" already; right would be another key",
+        {ToUtf8(m_text), ToUtf8(row.m_strTableName), ToUtf8(row.m_arrCell.GetAt(0).m_strValue)}));
+  }
 
  private:
   CMessageHandler m_previous;
@@ -87,15 +95,17 @@ void Save(CDataTable& table, CStoreToWrite& store) {
   store.Commit();
 }
 
-void Tell(const COptions& options, const CDataItem& row, const char* done,
+void Tell(const COptions& options, const CDataItem& row, CTextLiteral done,
           const std::vector<std::string>& notes = {}) {
   const std::string no = ToUtf8(row.m_arrCell.GetAt(0).m_strValue);
-  NoteSaved(options.table + " \"" + no + "\" " + done);
+  const std::string told = done.In(MessageLanguage());
+  NoteSaved(options.table + " \"" + no + "\" " + told);
   if (!options.json) {
-    Print(options.table + " \"" + no + "\": " + done + "\n");
+    Print(options.table + " \"" + no + "\": " + told + "\n");
     return PrintNotes(notes);
   }
-  CJson json = {{"table", options.table}, {"no", no}, {"done", done}, {"cells", RowCells(row)}};
+  CJson json = {
+      {"table", options.table}, {"no", no}, {"done", done.m_szEnglish}, {"cells", RowCells(row)}};
   if (!notes.empty()) json["notes"] = notes;
   PrintJson(json);
 }
@@ -106,9 +116,15 @@ CDataTable TableToAddTo(const CString& store, const CString& name) {
   table.SetTableName(name);
   CString line;
   if (table.GetTable(store, line)) return table;
-  const bool isNew = LastStoreError().m_nTrouble == CStoreTrouble::NoTable ||
-                     CStoreFile::OpenToRead(store)->Size() == 0;
+  const bool empty = CStoreFile::OpenToRead(store)->Size() == 0;
+  const bool isNew = empty || LastStoreError().m_nTrouble == CStoreTrouble::NoTable;
   if (isNew && KnownHeading(name, table.m_Title)) return table;
+  if (empty) {
+    Refuse(Say("TABLE: “{1}”不是截面表；新库中的其他表由 store import 建立",
+               "TABLE: \"{1}\" is no section table; other tables of a new store are made by store "
+               "import",
+               {ToUtf8(name)}));
+  }
   return StoreTable(store, name);  // which says why not
 }
 
@@ -116,11 +132,15 @@ CDataTable TableToAddTo(const CString& store, const CString& name) {
 int RowToChange(const CDataTable& table, const COptions& options) {
   const int position = table.IsHaveValue(0, FromUtf8(options.no), -1);
   if (position < 0) {
-    Refuse("NO: table " + options.table + " has no \"" + options.no +
-           "\"; right would be a number that orv3cal rows lists");
+    Refuse(Say("NO: 表 {1} 中没有“{2}”；应为 orv3cal rows 列出的型号",
+               "NO: table {1} has no \"{2}\"; right would be a number that orv3cal rows lists",
+               {options.table, options.no}));
   }
   if (IsProtected(table[position].m_nModifyType)) {
-    Refuse(options.table + " \"" + options.no + "\": 本数据记录不能删除和编辑!");
+    Refuse(Say("{1}“{2}”：本数据记录不能删除和编辑!",
+               "{1} \"{2}\": is a row of the catalogue, which nobody changes; right would be a row "
+               "of your own",
+               {options.table, options.no}));
   }
   return position;
 }
@@ -130,52 +150,59 @@ int RowToChange(const CDataTable& table, const COptions& options) {
 void RunAdd(const COptions& options) {
   CStoreToWrite store(options.store);
   const CString name = FromUtf8(options.table);
-  if (CLoadDataTable::IsTableNameType(name, kPairs)) Refuse("型钢组合不能进行复制");
+  if (CLoadDataTable::IsTableNameType(name, kPairs))
+    Refuse(Say("型钢组合不能进行复制",
+               "TABLE: pairs are made of single sections and take no rows of their own"));
   CDataTable table = TableToAddTo(store.Path(), name);
   AlignIndices(table);
   CDataItem row = EmptyRow(name, table.m_Title);
   SetCells(table, options, row);
   const CRefusalCatcher caught;
-  if (!table.AddTableItem(row, 1)) caught.Throw();
+  if (!table.AddTableItem(row, 1)) caught.Throw(row);
   Save(table, store);
-  Tell(options, row, "added", RowDoubtNotes(row));
+  Tell(options, row, {"已增加", "added"}, RowDoubtNotes(row));
 }
 
 void RunEdit(const COptions& options) {
-  CStoreToWrite store(options.store);
+  CStoreToWrite store(options.store, true);
   CDataTable table = StoreTable(store.Path(), FromUtf8(options.table));
   CDataItem row = std::as_const(table)[RowToChange(table, options)];
   SetCells(table, options, row);
   const CRefusalCatcher caught;
-  if (!table.ModifyTableItem(row.m_nIndex, row)) caught.Throw();
+  if (!table.ModifyTableItem(row.m_nIndex, row)) caught.Throw(row);
   Save(table, store);
-  Tell(options, row, "changed", RowDoubtNotes(row));
+  Tell(options, row, {"已修改", "changed"}, RowDoubtNotes(row));
 }
 
 void RunDelete(const COptions& options) {
-  CStoreToWrite store(options.store);
+  CStoreToWrite store(options.store, true);
   CDataTable table = StoreTable(store.Path(), FromUtf8(options.table));
   const CDataItem row = std::as_const(table)[RowToChange(table, options)];
   table.DeleteTableItem(row.m_nIndex);
   Save(table, store);
-  Tell(options, row, "deleted");
+  Tell(options, row, {"已删除", "deleted"});
 }
 
-CLI::App* Add(CLI::App& store, const char* name, const char* what, bool takesNo,
+CLI::App* Add(CLI::App& store, const char* name, const std::string& what, bool takesNo,
               void (*run)(const COptions&)) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = store.add_subcommand(name, what);
-  command->add_option("TABLE", options->table, "The table's name, as tables lists it")->required();
-  if (takesNo) command->add_option("NO", options->no, "The section's number")->required();
+  command
+      ->add_option("TABLE", options->table,
+                   Say("表名，见 tables", "The table's name, as tables lists it"))
+      ->required();
+  if (takesNo)
+    command->add_option("NO", options->no, Say("型号", "The section's number"))->required();
   if (run != RunDelete) {
     command
         ->add_option("--set", options->set,
-                     "A cell's value; once for each cell. What is computed follows from them")
+                     Say("单元格的值，每格给一次；计算所得的列由此得出",
+                         "A cell's value; once for each cell. What is computed follows from them"))
         ->type_name("SIGN=VALUE")
         ->allow_extra_args(false)
         ->required();
   }
-  command->add_flag("--json", options->json, "As JSON");
+  command->add_flag("--json", options->json, Say("以 JSON 输出", "As JSON"));
   AddStoreOptions(*command, options->store);
   command->callback([options, run] { run(*options); });
   return command;
@@ -184,9 +211,9 @@ CLI::App* Add(CLI::App& store, const char* name, const char* what, bool takesNo,
 }  // namespace
 
 void AddStoreEditCommands(CLI::App& store) {
-  Add(store, "add", "Add a row to a table", false, RunAdd);
-  Add(store, "edit", "Change cells of a row", true, RunEdit);
-  Add(store, "delete", "Delete a row", true, RunDelete);
+  Add(store, "add", Say("在表中增加一行", "Add a row to a table"), false, RunAdd);
+  Add(store, "edit", Say("修改一行的单元格", "Change cells of a row"), true, RunEdit);
+  Add(store, "delete", Say("删除一行", "Delete a row"), true, RunDelete);
 }
 
 }  // namespace orv3::cli

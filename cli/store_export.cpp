@@ -12,6 +12,7 @@
 #include "catalogue/import/section_rows.h"
 #include "csv_output.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "output.h"
 #include "platform/file_system.h"
@@ -72,8 +73,10 @@ std::vector<std::string> FirstLine(const CDataTable& table) {
 
 std::string CsvText(const std::vector<CDataTable>& tables, bool guard) {
   if (tables.size() != 1) {
-    Refuse("--to: a CSV file holds one table, the export has " + std::to_string(tables.size()) +
-           "; right would be one TABLE, or a file of another kind");
+    Refuse(Say("--to: CSV 文件只放一个表，要导出的有 {1} 个；请给一个 TABLE，或改用其他种类的文件",
+               "--to: a CSV file holds one table, the export has {1}; right would be one TABLE, or "
+               "a file of another kind",
+               {std::to_string(tables.size())}));
   }
   std::string text = kCsvMark + CsvLine(FirstLine(tables[0]));
   for (const CDataItem& row : tables[0].m_arrItem) {
@@ -106,7 +109,8 @@ std::string TableFileBytes(std::vector<CDataTable>& tables, int kind) {
   const auto file = CStoreFile::OpenToRead(place.Path());
   if (!file) Fail(LastStoreError().m_strText);
   std::string bytes(static_cast<std::size_t>(file->Size()), '\0');
-  if (!file->Read(0, bytes.data(), bytes.size())) Fail(place.Path() + L": cannot be read");
+  if (!file->Read(0, bytes.data(), bytes.size()))
+    Fail(Say(L"{1}: 不能读取", L"{1}: cannot be read", {place.Path()}));
   return bytes;
 }
 
@@ -129,7 +133,9 @@ std::vector<CDataTable> TablesOf(const CString& store, const COptions& options) 
   CStringArray names;
   for (const std::string& name : options.tables) names.Add(FromUtf8(name));
   if (names.IsEmpty()) names = StoreTableNames(store);
-  if (names.IsEmpty()) Refuse(ToUtf8(store) + ": the store has no table to export");
+  if (names.IsEmpty())
+    Refuse(
+        Say("{1}: 库中没有可以导出的表", "{1}: the store has no table to export", {ToUtf8(store)}));
   std::vector<CDataTable> tables;
   for (const CString& name : names) tables.push_back(Live(StoreTable(store, name)));
   return tables;
@@ -146,7 +152,8 @@ std::vector<CDataTable> TablesAtOnce(const CString& store, const COptions& optio
     Files().Stamp(store, after);
     if (before == after) return tables;
   }
-  Fail(store + L": changed by others all the time; try again later");
+  Fail(Say(L"{1}: 一直在被其他程序修改；请稍后再试",
+           L"{1}: changed by others all the time; try again later", {store}));
 }
 
 // The store that is read and the file that is written, by whatever names they go.
@@ -158,7 +165,8 @@ void RefuseOwnStore(const CString& store, const std::string& to) {
       from.m_nVolume != target.m_nVolume || from.m_nFile != target.m_nFile) {
     return;
   }
-  Refuse("--to: \"" + to + "\" is the store that is exported; right would be another file");
+  Refuse(Say("--to: “{1}”正是要导出的库；请另给文件",
+             "--to: \"{1}\" is the store that is exported; right would be another file", {to}));
 }
 
 std::string Content(const COptions& options, std::vector<CDataTable>& tables, int kind) {
@@ -174,7 +182,9 @@ void RunExport(const COptions& options) {
   static constexpr const char* kForms[] = {".kdb", ".csv", ".json", ".xlsx"};
   if (std::none_of(std::begin(kForms), std::end(kForms),
                    [&](const char* form) { return HasExtension(options.to, form); })) {
-    Refuse("--to: \"" + options.to + "\"; right would be a file named .KDB, .csv, .json or .xlsx");
+    Refuse(Say("--to: “{1}”；文件名应以 .KDB、.csv、.json 或 .xlsx 结尾",
+               "--to: \"{1}\"; right would be a file named .KDB, .csv, .json or .xlsx",
+               {options.to}));
   }
   SetBusyWait(std::chrono::seconds{5});
   const CString store = StoreToRead(options.store);
@@ -185,8 +195,11 @@ void RunExport(const COptions& options) {
   WriteFile(options.to, Content(options, tables, info.m_nKind));
   int rows = 0;
   for (const CDataTable& table : tables) rows += table.GetTableRowNum();
-  Print(options.to + ": " + std::to_string(tables.size()) +
-        (tables.size() == 1 ? " table, " : " tables, ") + std::to_string(rows) + " rows\n");
+  const std::string count = std::to_string(tables.size());
+  Print(options.to + ": " +
+        Say("{1} 个表，{2} 行\n", "{1} {3}, {2} {4}\n",
+            {count, std::to_string(rows), tables.size() == 1 ? "table" : "tables",
+             rows == 1 ? "row" : "rows"}));
 }
 
 CString TemporaryFolder() {
@@ -199,9 +212,10 @@ CString TemporaryFolder() {
 
 CTemporaryFile::CTemporaryFile() : CFreshFile(TemporaryFolder()) {
   if (Error() != CFileError::None) {
-    throw CCommandError(CExit::FileTrouble, ToUtf8(TemporaryFolder()) +
-                                                ": no temporary file can be made here, " +
-                                                WriteTrouble(Error()));
+    throw CCommandError(
+        CExit::FileTrouble,
+        Say("{1}: 不能在此建立临时文件，{2}", "{1}: no temporary file can be made here, {2}",
+            {ToUtf8(TemporaryFolder()), WriteTrouble(Error())}));
   }
   Close();
 }
@@ -209,12 +223,19 @@ CTemporaryFile::CTemporaryFile() : CFreshFile(TemporaryFolder()) {
 void AddStoreExportCommand(CLI::App& store) {
   auto options = std::make_shared<COptions>();
   CLI::App* command =
-      store.add_subcommand("export", "Write tables to a .KDB, .csv, .json or .xlsx file");
-  command->add_option("TABLE", options->tables, "The tables; all of the store if none is named");
-  command->add_option("--to", options->to, "The file, whose name tells the form")
+      store.add_subcommand("export", Say("把表写入 .KDB、.csv、.json 或 .xlsx 文件",
+                                         "Write tables to a .KDB, .csv, .json or .xlsx file"));
+  command->add_option(
+      "TABLE", options->tables,
+      Say("表名；不给时为库中全部", "The tables; all of the store if none is named"));
+  command
+      ->add_option("--to", options->to,
+                   Say("文件，由文件名决定格式", "The file, whose name tells the form"))
       ->type_name("FILE")
       ->required();
-  command->add_flag("--guard", options->guard, "No cell of a CSV is a formula to a spreadsheet");
+  command->add_flag(
+      "--guard", options->guard,
+      Say("CSV 的单元格不会被电子表格当作公式", "No cell of a CSV is a formula to a spreadsheet"));
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunExport(*options); });
 }

@@ -10,6 +10,7 @@
 #include "catalogue/import/section_rows.h"
 #include "catalogue/import/table_import.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "input.h"
 #include "output.h"
@@ -46,13 +47,17 @@ bool IsCsv(const std::string& file) {
 // The table that a CSV file is for: the one of --table, else the one that its name tells.
 CString CsvTableName(const std::string& file, const std::string& given) {
   if (!given.empty()) return FromUtf8(given);
-  if (IsStream(file)) Refuse(file + ": its name tells no table; right would be --table TABLE");
+  if (IsStream(file))
+    Refuse(Say("{1}: 文件名不能说明是哪个表；请给出 --table TABLE",
+               "{1}: its name tells no table; right would be --table TABLE", {file}));
   const std::size_t slash = file.find_last_of("/\\");
   const std::string name = file.substr(slash == std::string::npos ? 0 : slash + 1);
   const CString table = FromUtf8(name.substr(0, name.size() - 4));
   CDataTableTitle known;
   if (!KnownHeading(table, known)) {
-    Refuse(file + ": \"" + ToUtf8(table) + "\" is no section table; right would be --table TABLE");
+    Refuse(Say("{1}: “{2}”不是截面表；请给出 --table TABLE",
+               "{1}: \"{2}\" is no section table; right would be --table TABLE",
+               {file, ToUtf8(table)}));
   }
   return table;
 }
@@ -62,8 +67,9 @@ CImportTable ReadCsv(const std::string& file, const COptions& options, const CSt
   const CString name = CsvTableName(file, options.table);
   std::string text = ReadInput(file, kLargestCsv);
   if (text.size() > kLargestCsv) {
-    Refuse(file +
-           ": more than 64 MB; a table takes some 1,700 rows, right would be several tables");
+    Refuse(Say("{1}: 大于 64 MB；一个表约可放 1,700 行，请分为几个表",
+               "{1}: more than 64 MB; a table takes some 1,700 rows, right would be several tables",
+               {file}));
   }
   CDataTable stored;
   stored.SetTableName(name);
@@ -120,9 +126,10 @@ std::string SavedLine(const CImportReport& report) {
   std::string line;
   for (const CTableImport& table : report.m_arrTable) {
     if (table.m_nAdded + table.m_nReplaced == 0) continue;
-    line += (line.empty() ? "" : "; ") + ToUtf8(table.m_strTable) + ": " +
-            std::to_string(table.m_nAdded) + " added, " + std::to_string(table.m_nReplaced) +
-            " replaced";
+    line += (line.empty() ? "" : Say("；", "; ")) +
+            Say("{1}: 增加 {2} 行，替换 {3} 行", "{1}: {2} added, {3} replaced",
+                {ToUtf8(table.m_strTable), std::to_string(table.m_nAdded),
+                 std::to_string(table.m_nReplaced)});
   }
   return line;
 }
@@ -131,14 +138,17 @@ void PrintReport(const CImportReport& report) {
   for (const CTableImport& table : report.m_arrTable) {
     std::string text = ToUtf8(table.m_strTable) + ": ";
     if (!table.m_strWhy.IsEmpty()) {
-      text += "refused, " + ToUtf8(table.m_strWhy) + "\n";
+      text += Say("被拒绝，{1}", "refused, {1}", {ToUtf8(table.m_strWhy)}) + "\n";
     } else {
-      text += std::to_string(table.m_nAdded) + " added, " + std::to_string(table.m_nReplaced) +
-              " replaced, " + std::to_string(table.m_nUnchanged) + " unchanged, " +
-              std::to_string(table.m_arrRefused.size()) + " refused\n";
+      text += Say("增加 {1} 行，替换 {2} 行，不变 {3} 行，拒绝 {4} 行",
+                  "{1} added, {2} replaced, {3} unchanged, {4} refused",
+                  {std::to_string(table.m_nAdded), std::to_string(table.m_nReplaced),
+                   std::to_string(table.m_nUnchanged), std::to_string(table.m_arrRefused.size())}) +
+              "\n";
     }
     for (const CRefusedRow& row : table.m_arrRefused) {
-      text += "  refused \"" + ToUtf8(row.m_strNo) + "\": " + ToUtf8(row.m_strWhy) + "\n";
+      text += Say("  拒绝“{1}”：{2}\n", "  refused \"{1}\": {2}\n",
+                  {ToUtf8(row.m_strNo), ToUtf8(row.m_strWhy)});
     }
     Print(text);
   }
@@ -176,18 +186,32 @@ void RunImport(const COptions& options) {
 
 void AddStoreImportCommand(CLI::App& store) {
   auto options = std::make_shared<COptions>();
-  CLI::App* command =
-      store.add_subcommand("import", "Bring rows in from .kvb, .KDB and .csv files");
-  command->footer("Exit status 2 when a row or a table was refused; the others came in.");
+  CLI::App* command = store.add_subcommand(
+      "import",
+      Say("从 .kvb、.KDB 和 .csv 文件导入各行", "Bring rows in from .kvb, .KDB and .csv files"));
+  command->footer(Say("有行或表被拒绝时退出状态为 2；其余已导入。",
+                      "Exit status 2 when a row or a table was refused; the others came in."));
   command
       ->add_option("FILE", options->files,
-                   "Data files, table files or CSV files; - for CSV from standard input")
+                   Say("型钢数据文件、截面库文件或 CSV 文件；- 表示从标准输入读 CSV",
+                       "Data files, table files or CSV files; - for CSV from standard input"))
       ->required();
-  command->add_option("--table", options->table,
-                      "This table alone; for CSV the table that the rows are for");
+  command
+      ->add_option("--table", options->table,
+                   Say("只导入此表；CSV 时为各行所属的表",
+                       "This table alone; for CSV the table that the rows are for"))
+      ->check([](const std::string& table) {
+        const std::string length = std::to_string(FromUtf8(table).GetLength());
+        if (FromUtf8(table).GetLength() > CDataTable::kMaxTableName)
+          return Say("有 {1} 个字符；表名至多 64 个",
+                     "has {1} characters; a table's name has at most 64", {length});
+        return table.empty() ? Say("为空；请给出表名，或不写此选项",
+                                   "is empty; give a table's name, or leave the option out")
+                             : std::string();
+      });
   command->add_flag("--overwrite", options->overwrite,
-                    "Replace rows that are there with other values");
-  command->add_flag("--json", options->json, "Report as JSON");
+                    Say("替换已有而值不同的行", "Replace rows that are there with other values"));
+  command->add_flag("--json", options->json, Say("以 JSON 输出", "Report as JSON"));
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunImport(*options); });
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "output.h"
 #include "platform/store_error.h"
@@ -26,7 +27,8 @@ CStoreOptions Place(const COptions& options) {
   CStoreOptions place = options.store;
   if (options.file.empty()) return place;
   if (!place.store.empty()) {
-    Refuse("FILE and --store both name a file; right would be one");
+    Refuse(Say("FILE 与 --store 都给出了文件；请只给一个",
+               "FILE and --store both name a file; right would be one"));
   }
   place.store = options.file;
   return place;
@@ -59,16 +61,16 @@ CJson InfoJson(const CStoreOptions& place, const CStoreInfo& info) {
 }
 
 // What the edit states that rows have on file mean.
-const char* StateName(int state) {
+std::string StateName(int state) {
   switch (state) {
     case 0:
-      return "own";
+      return Say("自有", "own");
     case 4:
-      return "catalogue";
+      return Say("目录", "catalogue");
     case -1:
-      return "deleted";
+      return Say("已删除", "deleted");
     default:
-      return "other";
+      return Say("其他 ({1})", "other ({1})", {std::to_string(state)});
   }
 }
 
@@ -76,18 +78,23 @@ std::string States(const CStoreTable& table) {
   std::string text;
   for (const auto& [state, rows] : table.m_mapState) {
     text += (text.empty() ? "" : ", ") + std::to_string(rows) + " " + StateName(state);
-    if (StateName(state) == std::string("other")) text += " (" + std::to_string(state) + ")";
   }
   return text;
 }
 
 void PrintInfo(const CStoreOptions& place, const CStoreInfo& info) {
-  Print("store       " + WhichStore(place) + "\nkind        " +
-        std::string(KindName(info.m_nKind)) + "\ninformation " + ToUtf8(info.m_strLine) +
-        "\nroom for    " + std::to_string(info.m_nFreeTables) + " more tables\n\n");
+  static constexpr CTextLiteral kKinds[] = {
+      {"系统库", "system"}, {"用户库", "user"}, {"当前库", "current"}};
+  const bool known = info.m_nKind >= 0 && info.m_nKind < 3;
+  const std::string kind =
+      known ? kKinds[info.m_nKind].In(MessageLanguage()) : Say("不明", "unknown");
+  Print(Say("库      {1}\n种类    {2}\n信息行  {3}\n还可放  {4} 个表\n\n",
+            "store       {1}\nkind        {2}\ninformation {3}\nroom for    {4} more tables\n\n",
+            {WhichStore(place), kind, ToUtf8(info.m_strLine), std::to_string(info.m_nFreeTables)}));
   CTextTable table(
       {CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left, CAlign::Right, CAlign::Right});
-  table.AddRow({"table", "columns", "rows", "of which", "slot", "blocks"});
+  table.AddRow({Say("表", "table"), Say("列", "columns"), Say("行", "rows"),
+                Say("其中", "of which"), Say("槽长", "slot"), Say("块", "blocks")});
   table.AddRule();
   for (const CStoreTable& stored : info.m_arrTable) {
     table.AddRow({ToUtf8(stored.m_strName), std::to_string(stored.m_nColumns),
@@ -118,12 +125,15 @@ CJson FaultsJson(const std::vector<CStoreFault>& faults) {
   return list;
 }
 
-void PrintFaults(const char* kind, const std::vector<CStoreFault>& faults) {
+void PrintFaults(const std::string& kind, const std::vector<CStoreFault>& faults) {
   for (const CStoreFault& fault : faults) {
-    const std::string table =
-        fault.m_strTable.IsEmpty() ? "file" : "table " + ToUtf8(fault.m_strTable);
-    Print(kind + table + ", at " + std::to_string(fault.m_nOffset) + ": " +
-          ToUtf8(fault.m_strWhat) + "\n");
+    const std::string table = fault.m_strTable.IsEmpty()
+                                  ? Say("文件", "file")
+                                  : Say("表 {1}", "table {1}", {ToUtf8(fault.m_strTable)});
+    Print(kind +
+          Say("{1}，位于 {2}：{3}", "{1}, at {2}: {3}",
+              {table, std::to_string(fault.m_nOffset), ToUtf8(fault.m_strWhat)}) +
+          "\n");
   }
 }
 
@@ -135,19 +145,20 @@ void RunVerify(const COptions& options) {
     PrintJson(
         {{"ok", faults.empty()}, {"faults", FaultsJson(faults)}, {"notes", FaultsJson(notes)}});
   } else {
-    if (faults.empty()) Print("whole: no fault found\n");
+    if (faults.empty()) Print(Say("完好：没有发现错误\n", "whole: no fault found\n"));
     PrintFaults("", faults);
-    PrintFaults("note: ", notes);
+    PrintFaults(Say("注意：", "note: "), notes);
   }
   if (!faults.empty()) throw CExit::FileTrouble;
 }
 
-void Add(CLI::App& store, const char* name, const char* what, void (*run)(const COptions&)) {
+void Add(CLI::App& store, const char* name, const std::string& what, void (*run)(const COptions&)) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = store.add_subcommand(name, what);
   command->add_option("FILE", options->file,
-                      "A table file (.KDB); without one the store that other commands read");
-  command->add_flag("--json", options->json, "As JSON");
+                      Say("截面库文件（.KDB）；不给时为其他命令所读的库",
+                          "A table file (.KDB); without one the store that other commands read"));
+  command->add_flag("--json", options->json, Say("以 JSON 输出", "As JSON"));
   AddStoreOptions(*command, options->store);
   command->callback([options, run] { run(*options); });
 }
@@ -155,8 +166,11 @@ void Add(CLI::App& store, const char* name, const char* what, void (*run)(const 
 }  // namespace
 
 void AddStoreInfoCommands(CLI::App& store) {
-  Add(store, "info", "Tell what a table file holds", RunInfo);
-  Add(store, "verify", "Look for structural faults; exit status 3 when there is one", RunVerify);
+  Add(store, "info", Say("显示截面库文件的内容", "Tell what a table file holds"), RunInfo);
+  Add(store, "verify",
+      Say("检查文件的错误；有错误时退出状态为 3",
+          "Look for faults; exit status 3 when there is one"),
+      RunVerify);
 }
 
 }  // namespace orv3::cli

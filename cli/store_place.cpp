@@ -4,6 +4,7 @@
 #include <string>
 
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "inputs_read.h"
 #include "platform/file_system.h"
@@ -39,6 +40,11 @@ CString ShippedStore() {
   return program.IsEmpty() ? CString() : In(program + L"/share/orv3cal");
 }
 
+CString NotFound(const CString& store) {
+  return Say(L"{1}: 文件不存在；应为截面库文件（.KDB）",
+             L"{1}: not found; right would be a table file (.KDB)", {store});
+}
+
 // An empty file is one that a command about to save keeps to itself.
 bool HoldsTables(const CString& store) {
   CFileStamp stamp;
@@ -64,8 +70,11 @@ CString DataStore(const CStoreOptions& options) {
   const bool given = !options.data.empty();
   const CString folder = given ? FromUtf8(options.data) : Environment(kVariable);
   if (!Files().IsFolder(folder)) {
-    Fail(folder + L": " + (given ? L"--data" : L"the variable ORV3CAL_DATA") +
-         L" must name a folder that is there; it holds " + kSystemStore);
+    Fail(Say(L"{1}: {2}应为已有的文件夹，其中有 {3}",
+             L"{1}: {2} must name a folder that is there; it holds {3}",
+             {folder,
+              given ? CString(L"--data") : Say(L"变量 ORV3CAL_DATA ", L"the variable ORV3CAL_DATA"),
+              kSystemStore}));
   }
   return In(folder);
 }
@@ -87,15 +96,24 @@ CString Catalogue(const CStoreOptions& options) {
 
 CString OwnStore() {
   const CString user = UserStore();
-  if (user.IsEmpty()) Fail(L"no folder for your own store is known; name one with --store FILE");
-  if (!MakeFolders(FolderOf(user))) Fail(FolderOf(user) + L": this folder cannot be made");
+  if (user.IsEmpty())
+    Fail(Say(L"不知道您自己的库应放在哪个文件夹（没有变量 HOME）；请用 --store FILE 给出",
+             L"no folder for your own store is known, the variable HOME is not set; name a store "
+             L"with --store FILE"));
+  if (!MakeFolders(FolderOf(user)))
+    Fail(Say(L"{1}: 不能建立此文件夹", L"{1}: this folder cannot be made", {FolderOf(user)}));
   return user;
 }
 
-CString PathToWrite(const CStoreOptions& options) {
+CString PathToWrite(const CStoreOptions& options, bool bThere) {
   SetBusyWait(std::chrono::seconds{5});
-  if (!options.store.empty()) return FromUtf8(options.store);
-  return NamesFolder(options) ? DataStore(options) : OwnStore();
+  const bool named = !options.store.empty() || NamesFolder(options);
+  const CString path = !options.store.empty() ? FromUtf8(options.store)
+                       : named                ? DataStore(options)
+                                              : OwnStore();
+  const bool shipped = !named && HoldsTables(ShippedStore());
+  if (bThere && !shipped && !IsThere(path)) Fail(NotFound(path));
+  return path;
 }
 
 // The user's own store starts with the bytes of the shipped one, if there is one.
@@ -106,7 +124,8 @@ void StartFromShipped(const CString& user) {
   const auto from = CStoreFile::OpenToRead(shipped);
   if (!from) Fail(LastStoreError().m_strText);
   std::string bytes(static_cast<std::size_t>(from->Size()), '\0');
-  if (!from->Read(0, bytes.data(), bytes.size())) Fail(shipped + L": cannot be read");
+  if (!from->Read(0, bytes.data(), bytes.size()))
+    Fail(Say(L"{1}: 不能读取", L"{1}: cannot be read", {shipped}));
   if (!to->Write(0, bytes.data(), bytes.size()) || !to->Commit()) Fail(LastStoreError().m_strText);
 }
 
@@ -115,12 +134,14 @@ void StartFromShipped(const CString& user) {
 void AddStoreOptions(CLI::App& command, CStoreOptions& options) {
   command
       .add_option("--store", options.store,
-                  "The table file to work on, instead of your own or the shipped catalogue")
+                  Say("要使用的截面库文件，代替您自己的库或随程序提供的库",
+                      "The table file to work on, instead of your own or the shipped catalogue"))
       ->type_name("FILE");
   command
       .add_option("--data", options.data,
-                  "The program directory, which holds KvbSystemJmDataBase.KDB; the variable "
-                  "ORV3CAL_DATA if it is not given")
+                  Say("程序文件夹，其中有 KvbSystemJmDataBase.KDB；不给时按变量 ORV3CAL_DATA",
+                      "The program directory, which holds KvbSystemJmDataBase.KDB; the variable "
+                      "ORV3CAL_DATA if it is not given"))
       ->type_name("DIR");
 }
 
@@ -128,11 +149,11 @@ CString StoreToRead(const CStoreOptions& options) {
   const CString catalogue = Catalogue(options);
   const CString store = options.store.empty() ? catalogue : FromUtf8(options.store);
   if (store.IsEmpty()) {
-    Fail(
-        L"there is no catalogue beside the program or in your own folder; right would be "
-        L"--store FILE or --data DIR");
+    Fail(Say(L"程序旁和您自己的文件夹中都没有截面库；请给出 --store FILE 或 --data DIR",
+             L"there is no catalogue beside the program or in your own folder; right would be "
+             L"--store FILE or --data DIR"));
   }
-  if (!IsThere(store)) Fail(store + L": not found; right would be a table file (.KDB)");
+  if (!IsThere(store)) Fail(NotFound(store));
   UseFor(store, catalogue);
   NoteInput(ToUtf8(store));
   return store;
@@ -152,18 +173,20 @@ std::string WhichStore(const CStoreOptions& options) {
   const CJson which = WhichStoreJson(options);
   std::string origin = which["origin"];
   if (origin == "own") {
-    origin = HoldsTables(ShippedStore()) ? "your own copy, read instead of the shipped catalogue"
-                                         : "your own store";
+    origin = HoldsTables(ShippedStore())
+                 ? Say("您自己的副本，代替随程序提供的库",
+                       "your own copy, read instead of the shipped catalogue")
+                 : Say("您自己的库", "your own store");
   } else if (origin == "shipped") {
-    origin = "the shipped catalogue";
+    origin = Say("随程序提供的库", "the shipped catalogue");
   } else {
-    origin = "named by " + origin;
+    origin = Say("由 {1} 指定", "named by {1}", {origin});
   }
   return std::string(which["store"]) + " (" + origin + ")";
 }
 
-CStoreToWrite::CStoreToWrite(const CStoreOptions& options)
-    : m_strPath(PathToWrite(options)), m_batch(m_strPath) {
+CStoreToWrite::CStoreToWrite(const CStoreOptions& options, bool bThere)
+    : m_strPath(PathToWrite(options, bThere)), m_batch(m_strPath) {
   if (!m_batch.IsHeld()) Fail(LastStoreError().m_strText);
   if (options.store.empty() && !NamesFolder(options)) StartFromShipped(m_strPath);
   UseFor(m_strPath, options.store.empty() ? m_strPath : Catalogue(options));

@@ -39,7 +39,8 @@ CJson WhichStoreJson(const CStoreOptions& options);
 // CCommandError with status 3 when the store, busy for five seconds perhaps, cannot be had.
 class CStoreToWrite {
  public:
-  explicit CStoreToWrite(const CStoreOptions& options);
+  // With `bThere` the store must be there: it is a row of it that is to change.
+  explicit CStoreToWrite(const CStoreOptions& options, bool bThere = false);
   const CString& Path() const noexcept { return m_strPath; }
   void Commit();
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "nearest.h"
 #include "platform/store_error.h"
@@ -12,9 +13,11 @@ namespace {
 
 [[noreturn]] void NotRead(const CString& store) {
   const CStoreError& error = LastStoreError();
-  throw CCommandError(CExit::FileTrouble, error.m_strText.IsEmpty()
-                                              ? ToUtf8(store) + ": cannot be read as a store"
-                                              : ToUtf8(error.m_strText));
+  throw CCommandError(
+      CExit::FileTrouble,
+      error.m_strText.IsEmpty()
+          ? Say("{1}: 不能作为截面库读取", "{1}: cannot be read as a store", {ToUtf8(store)})
+          : ToUtf8(error.m_strText));
 }
 
 }  // namespace
@@ -33,9 +36,14 @@ CDataTable StoreTable(const CString& store, const CString& name) {
   if (table.GetTable(store, info)) return table;
   const CStringArray names = StoreTableNames(store);
   if (std::find(names.begin(), names.end(), name) != names.end()) NotRead(store);
-  Refuse("TABLE: the store has no table \"" + ToUtf8(name) +
-         (names.IsEmpty() ? "\", nor any other"
-                          : "\"; the nearest are: " + Nearest(ToUtf8(name), names)));
+  const std::string wanted = ToUtf8(name);
+  if (names.IsEmpty()) {
+    Refuse(Say("TABLE: 库中没有表“{1}”，也没有其他表",
+               "TABLE: the store has no table \"{1}\", nor any other", {wanted}));
+  }
+  Refuse(Say("TABLE: 库中没有表“{1}”；相近的有：{2}",
+             "TABLE: the store has no table \"{1}\"; the nearest are: {2}",
+             {wanted, Nearest(wanted, names)}));
 }
 
 int ColumnOf(const CDataTable& table, const std::string& what, const std::string& sign) {
@@ -43,8 +51,9 @@ int ColumnOf(const CDataTable& table, const std::string& what, const std::string
   if (column >= 0) return column;
   CStringArray signs;
   for (int i = 0; i < table.GetTableColNum(); ++i) signs.Add(table.m_Title[i].m_strSign);
-  Refuse(what + ": the table has no column \"" + sign +
-         "\"; the nearest are: " + Nearest(sign, signs));
+  Refuse(Say("{1}: 表中没有列“{2}”；相近的有：{3}",
+             "{1}: the table has no column \"{2}\"; the nearest are: {3}",
+             {what, sign, Nearest(sign, signs)}));
 }
 
 }  // namespace orv3::cli

@@ -1,5 +1,6 @@
 // Tables as a workbook (.xlsx), by libxlsxwriter where the program was built with it.
 #include "error.h"
+#include "framework/language.h"
 #include "store_export.h"
 
 #ifdef ORV3CAL_XLSX
@@ -48,8 +49,9 @@ void CheckSheetNames(const std::vector<CDataTable>& tables) {
     std::string folded = name;  // sheets' names differ in more than capitals
     for (char& ch : folded) ch = ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + 32) : ch;
     if (names.insert(folded).second) continue;
-    Refuse("two tables would have the sheet name \"" + name +
-           "\"; right would be to export them apart");
+    Refuse(Say("有两个表的工作表名都是“{1}”；请分别导出",
+               "two tables would have the sheet name \"{1}\"; right would be to export them apart",
+               {name}));
   }
 }
 
@@ -102,9 +104,11 @@ std::string WorkbookBytes(const std::string& file, const std::vector<CDataTable>
       ReadWholeFile(made.Path(), bytes) == CFileError::None) {
     return bytes;
   }
-  throw CCommandError(CExit::FileTrouble, file +
-                                              ": not written, the workbook could not be made at " +
-                                              ToUtf8(made.Path()) + "; is that disk full?");
+  throw CCommandError(CExit::FileTrouble,
+                      Say("{1}: 没有写入，不能在 {2} 建立工作簿；磁盘是否已满？",
+                          "{1}: not written, the workbook could not be made at "
+                          "{2}; is that disk full?",
+                          {file, ToUtf8(made.Path())}));
 }
 
 }  // namespace orv3::cli
@@ -114,9 +118,10 @@ std::string WorkbookBytes(const std::string& file, const std::vector<CDataTable>
 namespace orv3::cli {
 
 std::string WorkbookBytes(const std::string& file, const std::vector<CDataTable>&) {
-  Refuse(file +
-         ": this program was built without libxlsxwriter and writes no "
-         "workbooks; right would be a .csv, .json or .KDB file");
+  Refuse(Say("{1}: 本程序编译时没有 libxlsxwriter，不能写工作簿；请用 .csv、.json 或 .KDB 文件",
+             "{1}: this program was built without libxlsxwriter and writes no workbooks; right "
+             "would be a .csv, .json or .KDB file",
+             {file}));
 }
 
 }  // namespace orv3::cli

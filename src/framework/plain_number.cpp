@@ -1,5 +1,6 @@
 #include "framework/plain_number.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "framework/number_text.h"
@@ -30,11 +31,28 @@ std::string PercentNumber(double utilisation) {
   return text;
 }
 
+std::string SubstitutedNumber(double value) {
+  const double size = std::fabs(value);
+  if (!std::isfinite(value) || size >= 1e9 || size < 1e-4) return PlainNumber(value);
+  constexpr int kDigits = 8;
+  const int whole = static_cast<int>(std::floor(std::log10(size))) + 1;
+  std::string text = ToUtf8(FormatFixed(value, std::max(0, kDigits - whole)));
+  if (text.find('.') == std::string::npos) return text;
+  text.erase(text.find_last_not_of('0') + 1);
+  if (text.back() == '.') text.pop_back();
+  return text;
+}
+
 CComparedText Compared(double effect, double limit) {
-  CComparedText text = {PlainNumber(effect), PlainNumber(limit)};
-  for (int digits = 1; effect > limit && text.m_strEffect == text.m_strLimit && digits < 16;
+  return effect > limit ? Apart(effect, limit)
+                        : CComparedText{PlainNumber(effect), PlainNumber(limit)};
+}
+
+CComparedText Apart(double one, double other) {
+  CComparedText text = {PlainNumber(one), PlainNumber(other)};
+  for (int digits = 1; one != other && text.m_strEffect == text.m_strLimit && digits < 16;
        ++digits) {
-    text = {ToUtf8(FormatFixed(effect, digits)), ToUtf8(FormatFixed(limit, digits))};
+    text = {ToUtf8(FormatFixed(one, digits)), ToUtf8(FormatFixed(other, digits))};
   }
   return text;
 }

@@ -8,6 +8,10 @@ namespace orv3 {
 // A number as people write it: four significant digits at least, no exponent for everyday sizes.
 std::string PlainNumber(double value);
 
+// A number as it stands in a formula: with eight digits at most, so that the line is true to the
+// last digit of its result.
+std::string SubstitutedNumber(double value);
+
 // A utilisation in percent, to a tenth; above 1 with the digits that show it above 100.
 std::string PercentNumber(double utilisation);
 
@@ -17,5 +21,7 @@ struct CComparedText {
   std::string m_strLimit;
 };
 CComparedText Compared(double effect, double limit);
+// Two numbers with the digits that tell them apart.
+CComparedText Apart(double one, double other);
 
 }  // namespace orv3

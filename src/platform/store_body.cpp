@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "framework/language.h"
 #include "platform/store_error.h"
 
 namespace orv3 {
@@ -223,8 +224,10 @@ bool CStoreBody::ReadJournal(CStoreJournal& journal, bool& found) {
                                 : error == CFileError::Busy ? CStoreTrouble::Busy
                                                             : CStoreTrouble::Failed;
   SetStoreError(trouble, m_strPath,
-                path + L": the journal of an interrupted save cannot be read; " + m_strPath +
-                    L" can be opened once it can, or is removed");
+                Say(L"{1}: 中断的保存留下的日志不能读取；待其可读或删去之后才能打开 {2}",
+                    L"{1}: the journal of an interrupted save cannot be read; {2} can be opened "
+                    L"once it can, or is removed",
+                    {path, m_strPath}));
   return false;
 }
 
@@ -256,12 +259,16 @@ bool CStoreBody::Recover() {
 
 bool CStoreBody::Undecided() const {
   const CString journal = JournalPath(m_strPath);
-  return SetStoreError(CStoreTrouble::Damaged, m_strPath,
-                       m_strPath + L": beside it lies " + journal +
-                           L", written by an earlier version, which does not tell whether it "
-                           L"belongs to this file; open the file with that version to undo the "
-                           L"interrupted save, or remove the journal to keep the file as it is") !=
-         0;
+  return SetStoreError(
+             CStoreTrouble::Damaged, m_strPath,
+             Say(L"{1}: 旁边有早期版本写的日志 "
+                 L"{2}"
+                 L"，其中看不出是否属于本文件；请用该版本打开文件以撤销中断的保存，或删去日志以保留"
+                 L"文件现状",
+                 L"{1}: beside it lies {2}, written by an earlier version, which does not "
+                 L"tell whether it belongs to this file; open the file with that version to "
+                 L"undo the interrupted save, or remove the journal to keep the file as it is",
+                 {m_strPath, journal})) != 0;
 }
 
 // Undoes a save in the file, or finds that there is nothing to undo once the file is on the medium.

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "platform/per_thread.h"
 #include "platform/store_body.h"
@@ -48,22 +49,29 @@ void Explain(CFileError error, const CString& path) {
   const CString wait = FormatInt(BusyWait().count());
   switch (error) {
     case CFileError::NotFound:
-      SetStoreError(CStoreTrouble::NotFound, path, path + L": not found");
+      SetStoreError(CStoreTrouble::NotFound, path,
+                    Say(L"{1}: 文件不存在", L"{1}: not found", {path}));
       break;
     case CFileError::Busy:
-      SetStoreError(CStoreTrouble::Busy, path,
-                    path + L": in use elsewhere for more than " + wait + L" ms; try again later");
+      SetStoreError(
+          CStoreTrouble::Busy, path,
+          Say(L"{1}: 被其他程序占用已超过 {2} ms；请稍后再试",
+              L"{1}: in use elsewhere for more than {2} ms; try again later", {path, wait}));
       break;
     case CFileError::Denied:
-      SetStoreError(CStoreTrouble::Denied, path,
-                    path + L": access denied; the file and its folder must be open to this user");
+      SetStoreError(
+          CStoreTrouble::Denied, path,
+          Say(L"{1}: 没有访问权限；文件及其文件夹应对当前用户开放",
+              L"{1}: access denied; the file and its folder must be open to this user", {path}));
       break;
     case CFileError::Full:
-      SetStoreError(CStoreTrouble::Failed, path, path + L": not made, the disk is full");
+      SetStoreError(CStoreTrouble::Failed, path,
+                    Say(L"{1}: 没有建立，磁盘已满", L"{1}: not made, the disk is full", {path}));
       break;
     case CFileError::Failed:
     case CFileError::None:
-      SetStoreError(CStoreTrouble::Failed, path, path + L": cannot be opened or read");
+      SetStoreError(CStoreTrouble::Failed, path,
+                    Say(L"{1}: 不能打开或读取", L"{1}: cannot be opened or read", {path}));
       break;
   }
 }
@@ -91,12 +99,15 @@ std::shared_ptr<CStoreBody> OpenBodyToRead(const CString& path) {
 }
 
 bool NotWritten(const CStoreBody& body) {
-  CString text = body.Path() + L": writing failed";
-  if (body.Trouble() == CFileError::Full) text += L", the disk is full";
-  if (body.Trouble() == CFileError::Denied) text += L", its folder is read-only";
-  text += body.IsBroken() ? L"; whoever opens the store next finds it whole, as before the save "
-                            L"or, where all of it got through, as after it"
-                          : L"; the store is as it was before";
+  CString text = Say(L"{1}: 写入失败", L"{1}: writing failed", {body.Path()});
+  if (body.Trouble() == CFileError::Full) text += Say(L"，磁盘已满", L", the disk is full");
+  if (body.Trouble() == CFileError::Denied)
+    text += Say(L"，文件夹只读", L", its folder is read-only");
+  text += body.IsBroken()
+              ? Say(L"；下次打开时库是完整的，为保存之前的内容，或已全部写入时为保存之后的内容",
+                    L"; whoever opens the store next finds it whole, as before the "
+                    L"save or, where all of it got through, as after it")
+              : Say(L"；库没有改变", L"; the store is as it was before");
   return SetStoreError(CStoreTrouble::Failed, body.Path(), text) != 0;
 }
 

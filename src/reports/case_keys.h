@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "framework/bilingual_text.h"
+#include "framework/language.h"
 
 namespace orv3 {
 

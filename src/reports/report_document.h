@@ -5,8 +5,8 @@
 #include <span>
 #include <string>
 
-#include "framework/bilingual_text.h"
 #include "framework/export.h"
+#include "framework/language.h"
 
 namespace orv3 {
 

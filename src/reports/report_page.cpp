@@ -126,7 +126,7 @@ std::string Formula(std::string_view text) {
 }
 
 std::string Put(double value) {
-  const std::string text = PlainNumber(value);
+  const std::string text = SubstitutedNumber(value);
   return value < 0 ? "(" + text + ")" : text;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "framework/language.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "sections/section_style.h"
@@ -153,8 +154,10 @@ bool IsPlausible(const CStoreFile& file, int group, const FileInfo& info) {
 }
 
 int Damaged(const CStoreFile& file) {
-  return orv3::SetStoreError(CStoreTrouble::Damaged, file.Path(),
-                             file.Path() + L": its group headers contradict the file");
+  return orv3::SetStoreError(
+      CStoreTrouble::Damaged, file.Path(),
+      orv3::Say(L"{1}: 各组的头与文件不符", L"{1}: its group headers contradict the file",
+                {file.Path()}));
 }
 
 // Where each record of an array goes; -1 for one that is not written. `end` is the group's end on

@@ -26,8 +26,10 @@ const CString& Value(const CDataItem& item, int cell) {
   return item.m_arrCell.GetAt(cell).m_strValue;
 }
 
-CRowFault Fault(const CDataItem& item, int cell, const CString& what) {
-  return {cell, Caption(item, cell) + L"：" + what};
+CRowFault Fault(const CDataItem& item, int cell, const CSentence& what) {
+  return {cell,
+          {Caption(item, cell) + L"：" + what.m_strChinese,
+           item.GetCellSign(cell) + L": " + what.m_strEnglish}};
 }
 
 bool IsControl(wchar_t ch) { return ch < L' ' || ch == L'\x7f'; }
@@ -38,28 +40,40 @@ CFault CheckStored(const CDataItem& item, int cell) {
   const CString& value = Value(item, cell);
   if (value.GetLength() > kMaxStoredValue) {
     return Fault(item, cell,
-                 L"共" + FormatInt(value.GetLength()) + L"个字符，最多" +
-                     FormatInt(kMaxStoredValue) + L"个，请缩短。");
+                 Both(L"共{1}个字符，最多{2}个，请缩短。", L"has {1} characters; give at most {2}",
+                      {FormatInt(value.GetLength()), FormatInt(kMaxStoredValue)}));
   }
   const std::wstring_view text = value.View();
   if (std::any_of(text.begin(), text.end(), IsControl)) {
-    return Fault(item, cell, L"含有换行或控制字符，请删去。");
+    return Fault(
+        item, cell,
+        Both(L"含有换行或控制字符，请删去。", L"has a line end or control character; take it out"));
   }
   if (text.find(L',') != std::wstring_view::npos) {
-    return Fault(item, cell, L"“" + value + L"”含有逗号，逗号用于分隔数据，请改用其他字符。");
+    return Fault(
+        item, cell,
+        Both(L"“{1}”含有逗号，逗号用于分隔数据，请改用其他字符。",
+             L"\"{1}\" has a comma, which separates values; use another character", {value}));
   }
   bool missing = false;
   EncodeText(text, &missing);
-  if (missing) return Fault(item, cell, L"“" + value + L"”含有系统字符集以外的字符，请改写。");
+  if (missing)
+    return Fault(
+        item, cell,
+        Both(L"“{1}”含有系统字符集以外的字符，请改写。",
+             L"\"{1}\" has a character that the code page lacks; write it otherwise", {value}));
   return {};
 }
 
 CFault CheckNo(const CDataItem& item) {
   const CString& no = Value(item, 0);
   if (CString(no).Trim().IsEmpty()) {
-    return Fault(item, 0, L"不能为空，请输入型号，例如“H400X300”。");
+    return Fault(item, 0,
+                 Both(L"不能为空，请输入型号，例如“H400X300”。",
+                      L"is empty; give a number such as H400X300"));
   }
-  if (CString(no).Trim() != no) return Fault(item, 0, L"首尾不能有空格，请删去。");
+  if (CString(no).Trim() != no)
+    return Fault(item, 0, Both(L"首尾不能有空格，请删去。", L"has a space at an end; take it out"));
   return CheckStored(item, 0);
 }
 
@@ -67,9 +81,12 @@ CFault CheckNo(const CDataItem& item) {
 
 CFault CheckNumber(const CDataItem& item, int cell) {
   const CString& value = Value(item, cell);
-  if (CString(value).Trim().IsEmpty()) return Fault(item, cell, L"不能为空，请输入数值。");
+  if (CString(value).Trim().IsEmpty())
+    return Fault(item, cell, Both(L"不能为空，请输入数值。", L"is empty; give a number"));
   if (!IsNumber(value)) {
-    return Fault(item, cell, L"“" + value + L"”不是数值，请输入数字，例如“300”或“12.5”。");
+    return Fault(item, cell,
+                 Both(L"“{1}”不是数值，请输入数字，例如“300”或“12.5”。",
+                      L"\"{1}\" is no number; give one such as 300 or 12.5", {value}));
   }
   return CheckStored(item, cell);
 }
@@ -77,25 +94,31 @@ CFault CheckNumber(const CDataItem& item, int cell) {
 CFault CheckPositive(const CDataItem& item, int cell) {
   if (auto fault = CheckNumber(item, cell)) return fault;
   if (ToDouble(Value(item, cell)) > 0) return {};
-  return Fault(item, cell, Value(item, cell) + L"不可用，应大于0。");
+  return Fault(
+      item, cell,
+      Both(L"{1}不可用，应大于0。", L"{1} is not possible; give more than 0", {Value(item, cell)}));
 }
 
 // --- Sections of plates -------------------------------------------------------------------------
 
-CString Wanted(const CSectionFault& fault) {
+CSentence Wanted(const CSectionFault& fault) {
   switch (fault.m_nRule) {
     case CSizeRule::Positive:
-      return L"应大于0。";
+      return Both(L"应大于0。", L"; give more than 0");
     case CSizeRule::NotNegative:
-      return L"不应小于0。";
+      return Both(L"不应小于0。", L"; give 0 or more");
     case CSizeRule::Below:
-      return L"与其他尺寸不符，应小于" + FormatShortest(fault.m_dBound) + L"。";
+      return Both(L"与其他尺寸不符，应小于{1}。",
+                  L" does not go with the other sizes; give less than {1}",
+                  {FormatShortest(fault.m_dBound)});
     case CSizeRule::AtMost:
-      return L"与其他尺寸不符，不应大于" + FormatShortest(fault.m_dBound) + L"。";
+      return Both(L"与其他尺寸不符，不应大于{1}。",
+                  L" does not go with the other sizes; give at most {1}",
+                  {FormatShortest(fault.m_dBound)});
     case CSizeRule::Finite:
       break;
   }
-  return L"应为有限的数值。";
+  return Both(L"应为有限的数值。", L"; give a finite number");
 }
 
 CFault CheckSection(const CDataItem& item, const CSectionStyle& style) {
@@ -106,7 +129,10 @@ CFault CheckSection(const CDataItem& item, const CSectionStyle& style) {
   }
   if (const auto fault = CheckSectionSizes(style, sizes)) {
     const int cell = fault->m_nSize + 1;
-    return Fault(item, cell, Value(item, cell) + Wanted(*fault));
+    const CSentence wanted = Wanted(*fault);
+    return Fault(
+        item, cell,
+        {Value(item, cell) + wanted.m_strChinese, Value(item, cell) + wanted.m_strEnglish});
   }
   for (int cell = style.m_nSizes + 1; cell <= style.m_nSizes + 2; ++cell) {  // the base point
     if (auto fault = CheckNumber(item, cell)) return fault;
@@ -122,7 +148,9 @@ CFault CheckAngle(const CDataItem& item, int cell) {
   if (auto fault = CheckNumber(item, cell)) return fault;
   const double quarters = ToDouble(Value(item, cell)) / 90;
   if (quarters >= 0 && quarters < 4 && quarters == std::floor(quarters)) return {};
-  return Fault(item, cell, Value(item, cell) + L"不可用，应为0、90、180或270。");
+  return Fault(item, cell,
+               Both(L"{1}不可用，应为0、90、180或270。",
+                    L"{1} is not possible; give 0, 90, 180 or 270", {Value(item, cell)}));
 }
 
 CFault CheckLimb(const CDataItem& item, int limb) {
@@ -130,18 +158,22 @@ CFault CheckLimb(const CDataItem& item, int limb) {
   const int number = item.GetSignIndex(LimbSign(limb, L"No."));
   const int angle = item.GetSignIndex(LimbSign(limb, L"θ°"));
   if (number < 0 || angle < 0)
-    return CRowFault{-1, L"本行缺少第" + FormatInt(limb) + L"肢的数据。"};
+    return CRowFault{-1, Both(L"本行缺少第{1}肢的数据。", L"the row lacks the cells of limb {1}",
+                              {FormatInt(limb)})};
   for (const int cell : {type, number}) {
     if (auto fault = CheckStored(item, cell)) return fault;
   }
   if (!CLoadDataTable::IsTableNameType(Value(item, type), kCatalogueTables)) {
     return Fault(item, type,
-                 L"“" + Value(item, type) + L"”不是标准型钢表名，应为例如“热轧普通槽钢”。");
+                 Both(L"“{1}”不是标准型钢表名，应为例如“热轧普通槽钢”。",
+                      L"\"{1}\" is no table of rolled sections; give one such as 热轧普通槽钢",
+                      {Value(item, type)}));
   }
   if (CLoadDataTable::GetSysTemJMItem(Value(item, type), Value(item, number)).IsEmpty()) {
     return Fault(item, number,
-                 L"系统库的“" + Value(item, type) + L"”中没有“" + Value(item, number) +
-                     L"”，请选择库中已有的型号。");
+                 Both(L"系统库的“{1}”中没有“{2}”，请选择库中已有的型号。",
+                      L"the catalogue's {1} has no \"{2}\"; choose a number that it has",
+                      {Value(item, type), Value(item, number)}));
   }
   return CheckAngle(item, angle);
 }
@@ -176,11 +208,16 @@ CFault CheckFigure(const CDataItem& item, int cell) {
   const double value = ToDouble(Value(item, cell));
   const double most = length ? kMostLength : kMost;
   if (value > most) {
-    return Fault(item, cell, Value(item, cell) + L"不可用，不应大于" + FormatG(most) + L"。");
+    return Fault(item, cell,
+                 Both(L"{1}不可用，不应大于{2}。", L"{1} is not possible; give at most {2}",
+                      {Value(item, cell), FormatG(most)}));
   }
   if (value > 0 || (value == 0 && !size)) return {};
   return Fault(item, cell,
-               Value(item, cell) + (size ? L"不可用，应大于0。" : L"不可用，不应小于0。"));
+               size ? Both(L"{1}不可用，应大于0。", L"{1} is not possible; give more than 0",
+                           {Value(item, cell)})
+                    : Both(L"{1}不可用，不应小于0。", L"{1} is not possible; give 0 or more",
+                           {Value(item, cell)}));
 }
 
 CFault CheckCells(const CDataItem& item) {
@@ -202,7 +239,9 @@ CFault CheckCells(const CDataItem& item) {
 std::optional<CRowFault> CheckRow(const CDataItem& item) {
   const CSectionStyle* style = FindSectionStyle(item.m_strTableName.View());
   if (item.GetItemLength() < (style ? style->m_nSizes + 3 : 2)) {
-    return CRowFault{-1, L"本行数据不完整，应先按“" + item.m_strTableName + L"”的列填写。"};
+    return CRowFault{
+        -1, Both(L"本行数据不完整，应先按“{1}”的列填写。",
+                 L"the row is incomplete; fill in the columns of \"{1}\"", {item.m_strTableName})};
   }
   if (auto fault = CheckNo(item)) return fault;
   if (style) return CheckSection(item, *style);
@@ -214,6 +253,6 @@ std::optional<CRowFault> CheckRow(const CDataItem& item) {
 
 int CLoadDataTable::CheckCustomDataItem(const CDataItem& item) {
   const auto fault = orv3::CheckRow(item);
-  if (fault) orv3::ShowMessage(L"Orvo提醒您", fault->m_strText);
+  if (fault) orv3::ShowMessage(L"Orvo提醒您", fault->m_text.m_strChinese);
   return fault ? 0 : 1;
 }

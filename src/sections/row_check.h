@@ -3,16 +3,16 @@
 
 #include <optional>
 
-#include "framework/cstring.h"
 #include "framework/export.h"
+#include "framework/language.h"
 
 class CDataItem;
 
 namespace orv3 {
 
 struct CRowFault {
-  int m_nCell = -1;   // the cell at fault; -1 for the row
-  CString m_strText;  // Chinese, one line: what is wrong and what would be right
+  int m_nCell = -1;  // the cell at fault; -1 for the row
+  CSentence m_text;  // what is wrong and what would be right
 };
 
 // The first fault of a row in cell order; nothing when its table can take it. Every row needs a

@@ -16,7 +16,7 @@ struct CGridInput {
   double colSpace = 70, rowSpace = 80;
   std::vector<double> colSpaces = {}, rowSpaces = {};
 };
-struct CBoltKind {
+struct CBoltInputKind {
   int type = 0, d = 20;
   double sumT = 10;
   int nv = 1, nf = 1, surface = 0, grade = 0, boltClass = 0;
@@ -30,7 +30,7 @@ struct CPlateInput {
 };
 struct CBoltInput {
   CGridInput grid = {};
-  CBoltKind bolt = {};
+  CBoltInputKind bolt = {};
   CLoadInput load = {};
   CPlateInput plate = {};
 };

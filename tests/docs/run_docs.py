@@ -96,7 +96,7 @@ class Runner:
     def folder(self, root, files):
         folder = Path(tempfile.mkdtemp(dir=root))
         (folder / "home").mkdir()
-        work = folder / "work"
+        work = folder / "made"
         (work / "build").mkdir(parents=True)
         (work / "build" / "release").symlink_to(self.build)
         (work / "share").mkdir()
@@ -191,7 +191,7 @@ class Runner:
                 found = [f'"{block.language}" does not say what the block is; see run_docs.py']
             for text in found:
                 yield block.line, text
-        for picture in sorted(Path(root).glob("*/work/*.svg")):
+        for picture in sorted(Path(root).glob("*/made/*.svg")):
             kept = self.source / "docs" / "pictures" / picture.name
             if kept.exists() and kept.read_bytes() != picture.read_bytes():
                 yield 0, f"docs/pictures/{picture.name} is not what the command draws today"

@@ -277,6 +277,31 @@ TEST(CCode, GivesThePrintedStrengths) {
   EXPECT_EQ(orv3_steel_strength(u"Q235", 10, u"f", nullptr), -1);
 }
 
+TEST(CCode, AnswersByEdition) {
+  double f = 0, weld = 0, bolt = 0, mu = 0, k = 0, P = 0;
+  ASSERT_EQ(orv3_code_steel(u"2017", u"Q345GJ", u"plate", 50, u"fy", &f), 0) << LastError();
+  ASSERT_EQ(orv3_code_weld(u"2017", u"Q460", 20, u"ffw", u"E60", &weld), 0) << LastError();
+  ASSERT_EQ(orv3_code_bolt(u"2017", u"AB", u"Q460", u"fc", &bolt), 0) << LastError();
+  ASSERT_EQ(orv3_code_slip(u"2017", 1, u"Q345", &mu), 0) << LastError();
+  ASSERT_EQ(orv3_code_hole(u"2017", u"slot-along", &k), 0) << LastError();
+  ASSERT_EQ(orv3_code_preload(u"2017", u"8.8", 30, &P), 0) << LastError();
+  EXPECT_EQ(f, 345);
+  EXPECT_EQ(weld, 240);
+  EXPECT_EQ(bolt, 595);
+  EXPECT_EQ(mu, 0.4);
+  EXPECT_EQ(k, 0.6);
+  EXPECT_EQ(P, 280);
+  ASSERT_EQ(orv3_code_slip(u"2003", 2, u"Q345", &mu), 0) << LastError();
+  ASSERT_EQ(orv3_code_weld(u"2003", u"Q390", 20, u"ffw", nullptr, &weld), 0) << LastError();
+  EXPECT_EQ(mu, 0.5);
+  EXPECT_EQ(weld, 220);
+  EXPECT_EQ(orv3_code_steel(u"2003", u"Q460", u"plate", 10, u"f", &f), -1);
+  EXPECT_NE(LastError().find("GB 50017-2003 has no Q460"), std::string::npos) << LastError();
+  EXPECT_EQ(orv3_code_slip(u"2010", 0, u"Q345", &mu), -1);
+  EXPECT_NE(LastError().find("2003, 2017"), std::string::npos) << LastError();
+  EXPECT_EQ(orv3_code_hole(nullptr, u"standard", &k), -1);
+}
+
 TEST(CCode, GivesThePrintedStabilityFactors) {
   const struct {
     double lambda;

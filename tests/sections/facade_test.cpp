@@ -264,7 +264,7 @@ TEST_F(Facade, DefaultRows) {
     }
     EXPECT_EQ(cells, c.cells);
     if (plates) {
-      EXPECT_FALSE(orv3::CheckRow(row)) << orv3::CheckRow(row)->m_strText;
+      EXPECT_FALSE(orv3::CheckRow(row)) << orv3::CheckRow(row)->m_text.m_strChinese;
     }
   }
   CDataItem rolled;

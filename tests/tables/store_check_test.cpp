@@ -123,6 +123,10 @@ TEST_F(StoreCheck, EachFaultOfAFileIsNamedByItsPlace) {
       {"record text", with(kRecord, field("A\xFF,,,91,,,2,,,20100")), kRecord},
       {"row fields", with(kFirst + 291, golden::Field("1,,,0", 91)), kFirst + 291},
       {"row text", with(kFirst + 208, golden::Fake("\xFF")), kFirst + 200},
+      {"no number", with(kFirst + 200, golden::Field("0,,,0,,,a,,,1.5x", 91)), kFirst + 200},
+      {"same key",
+       with(kFirst + 200, golden::Field("0,,,0,,,a,,,1", 91) + golden::Field("1,,,0,,,a,,,2", 91)),
+       kFirst + 291},
   };
   for (const auto& c : kCases) {
     SCOPED_TRACE(c.name);

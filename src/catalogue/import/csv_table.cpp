@@ -10,11 +10,14 @@
 
 #include "catalogue/import/section_rows.h"
 #include "framework/csv.h"
+#include "framework/excerpt.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf16.h"
 #include "framework/utf8.h"
 #include "platform/code_page.h"
 #include "tables/edit_state.h"
+#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -29,7 +32,7 @@ bool Refuse(const CString& what, CString& why) {
   return false;
 }
 
-CString LineText(int line) { return L"line " + FormatInt(line) + L": "; }
+CString LineText(int line) { return Say(L"第 {1} 行：", L"line {1}: ", {FormatInt(line)}); }
 
 // --- The text ------------------------------------------------------------------------------------
 
@@ -81,7 +84,10 @@ struct CCsvColumn {
 bool ParseColumn(std::string_view text, CCsvColumn& column, CString& why) {
   const std::size_t first = text.find(':');
   column.m_strSign = FromUtf8(text.substr(0, first)).Trim();
-  if (column.m_strSign.IsEmpty()) return Refuse(L"line 1: a column without a sign", why);
+  if (column.m_strSign.IsEmpty())
+    return Refuse(LineText(1) + Say(L"有一列没有标识；每列应有标识",
+                                    L"a column without a sign; right would be one for each column"),
+                  why);
   if (first == std::string_view::npos) return true;
   std::string_view type = text.substr(first + 1);
   const std::size_t second = type.find(':');
@@ -89,10 +95,13 @@ bool ParseColumn(std::string_view text, CCsvColumn& column, CString& why) {
   type = type.substr(0, second);
   const auto* found = std::find(kTypes.begin(), kTypes.end(), type);
   if (found == kTypes.end() || (second != std::string_view::npos && key != "key")) {
-    return Refuse(L"line 1: \"" + FromUtf8(text) +
-                      L"\" is no column; right would be sign:type or sign:type:key with a type of "
-                      L"text, int, long, float, double, char",
-                  why);
+    return Refuse(
+        LineText(1) + Say(L"“{1}”不是列；应为 标识:类型 或 标识:类型:key，类型为 "
+                          L"text、int、long、float、double、char",
+                          L"\"{1}\" is no column; right would be sign:type or sign:type:key with a "
+                          L"type of text, int, long, float, double, char",
+                          {FromUtf8(Excerpt(text))}),
+        why);
   }
   column.m_bTyped = true;
   column.m_nType = static_cast<CDataTypeStruct::KVBT_Value_Type>(found - kTypes.begin());
@@ -144,32 +153,55 @@ class CCsvTable {
         ++at;
       }
       if (at == title.GetTableTitleNum()) {
-        return Refuse(
-            L"line 1: the table has no column \"" + column.m_strSign + L"\", or not twice", m_why);
+        const bool twice = title.GetColIndex(column.m_strSign) >= 0;
+        return Refuse(LineText(1) + (twice ? Twice(column) : Missing(column)), m_why);
       }
       if (column.m_bTyped && ValueClassOf(column.m_nType) != ValueClassOf(title[at].m_nType)) {
-        return Refuse(L"line 1: column \"" + column.m_strSign + L"\" is of type " +
-                          FromUtf8(ValueTypeName(title[at].m_nType)) + L" in the table",
-                      m_why);
+        return Refuse(
+            LineText(1) + Say(L"列“{1}”在表中的类型是 {2}；应与之相同",
+                              L"column \"{1}\" is of type {2} in the table; right would "
+                              L"be that one",
+                              {column.m_strSign, FromUtf8(ValueTypeName(title[at].m_nType))}),
+            m_why);
       }
       taken[static_cast<std::size_t>(at)] = true;
       m_arrColumn.push_back(at);
     }
     for (int i = 0; i < title.GetTableTitleNum(); ++i) {
       if (title[i].m_bKey == 0 || taken[static_cast<std::size_t>(i)]) continue;
-      return Refuse(L"line 1: the key column \"" + title[i].m_strSign + L"\" is missing", m_why);
+      return Refuse(LineText(1) + Say(L"缺少关键字列“{1}”", L"the key column \"{1}\" is missing",
+                                      {title[i].m_strSign}),
+                    m_why);
     }
     return true;
+  }
+
+  static CString Twice(const CCsvColumn& column) {
+    return Say(L"列“{1}”出现两次；请只给一次，或改用另一标识",
+               L"column \"{1}\" stands twice; give it once, or under another sign",
+               {column.m_strSign});
+  }
+
+  CString Missing(const CCsvColumn& column) const {
+    return Say(L"表“{1}”没有列“{2}”", L"table \"{1}\" has no column \"{2}\"",
+               {m_name, column.m_strSign});
   }
 
   // A table that nobody knows gets the columns of the first line.
   bool Start(const std::vector<CCsvColumn>& columns) {
     for (const CCsvColumn& column : columns) {
       if (!column.m_bTyped) {
-        return Refuse(L"line 1: the store has no table \"" + m_name + L"\" and column \"" +
-                          column.m_strSign + L"\" no type; right would be for example " +
-                          column.m_strSign + L":double, or :text:key for the key",
-                      m_why);
+        return Refuse(
+            LineText(1) + Say(L"库中没有表“{1}”，列“{2}”没有类型；例如可写为 "
+                              L"{2}:double，关键字列为 :text:key",
+                              L"the store has no table \"{1}\" and column \"{2}\" no type; "
+                              L"right would be for example {2}:double, or :text:key for "
+                              L"the key",
+                              {m_name, column.m_strSign}),
+            m_why);
+      }
+      if (m_table.m_table.m_Title.GetColIndex(column.m_strSign) >= 0) {
+        return Refuse(LineText(1) + Twice(column), m_why);
       }
       m_table.m_table.AddTableCol(column.m_strSign, column.m_strSign, column.m_nType,
                                   column.m_bKey ? 1 : 0);
@@ -184,27 +216,16 @@ class CCsvTable {
       if (i < m_arrColumn.size()) {
         row[m_arrColumn[i]].m_strValue = FromUtf8(cells[i]);
       } else if (!cells[i].empty()) {
-        return L"more cells than the first line names";
+        return Say(L"单元格多于首行的列", L"more cells than the first line names");
       }
     }
     if (cells.size() < m_arrColumn.size()) {
-      return FormatInt(static_cast<long long>(cells.size())) + L" cells, the first line names " +
-             FormatInt(static_cast<long long>(m_arrColumn.size()));
+      return Say(L"有 {1} 个单元格，首行有 {2} 列", L"{1} cells, the first line names {2}",
+                 {FormatInt(std::ssize(cells)), FormatInt(std::ssize(m_arrColumn))});
     }
-    return m_known ? CompleteRow(row) : CheckNumbers(row);
-  }
-
-  static CString CheckNumbers(const CDataItem& row) {
-    for (int i = 0; i < row.GetItemLength(); ++i) {
-      const CDataCell& cell = row[i];
-      if (ValueClassOf(cell.m_nType) == CValueClass::Text || cell.m_strValue.IsEmpty() ||
-          IsNumber(cell.m_strValue)) {
-        continue;
-      }
-      return L"column \"" + cell.m_strSign + L"\" takes numbers, \"" + cell.m_strValue +
-             L"\" is none";
-    }
-    return {};
+    if (m_known) return CompleteRow(row);
+    const int misfit = FindMisfit(row);
+    return misfit < 0 ? CString() : MisfitText(std::as_const(row)[misfit]).In(MessageLanguage());
   }
 
   const CString m_name;
@@ -224,8 +245,10 @@ const char* ValueTypeName(CDataTypeStruct::KVBT_Value_Type type) {
 bool ReadCsvTable(std::string text, const CString& name, const CDataTableTitle& stored,
                   CImportTable& table, CString& why, const std::function<void(double)>& progress) {
   if (!MakeUtf8(text)) {
-    return Refuse(L"neither UTF-8 nor text of the code page " + FormatInt(AnsiCodePage()) +
-                      L"; right would be CSV saved as UTF-8",
+    return Refuse(Say(L"既不是 UTF-8，也不是代码页 {1} 的文字；请把 CSV 存为 UTF-8",
+                      L"neither UTF-8 nor text of the code page {1}; right would be CSV saved as "
+                      L"UTF-8",
+                      {FormatInt(AnsiCodePage())}),
                   why);
   }
   CCsvReader reader(std::move(text));
@@ -233,7 +256,9 @@ bool ReadCsvTable(std::string text, const CString& name, const CDataTableTitle& 
   CCsvTable csv(name, table, why);
   if (reader.Next(cells)) DropEmptyEnd(cells);
   if (cells.empty() && !reader.IsMalformed()) {
-    return Refuse(L"empty; right would be a first line with the columns' signs", why);
+    return Refuse(Say(L"首行为空；应为各列的标识",
+                      L"the first line is empty; right would be the columns' signs"),
+                  why);
   }
   if (!reader.IsMalformed() && !csv.Head(cells, stored)) return false;
   for (int rows = 0; reader.Next(cells);) {
@@ -243,10 +268,13 @@ bool ReadCsvTable(std::string text, const CString& name, const CDataTableTitle& 
     if (progress) progress(reader.Done());
   }
   if (!reader.IsMalformed()) return true;
-  return Refuse(LineText(reader.Line()) +
-                    L"a cell in quotation marks is not closed, or goes on behind them; right would "
-                    L"be to close it before the separator and to double the marks within it",
-                why);
+  return Refuse(
+      LineText(reader.Line()) +
+          Say(L"有一个引号单元格没有结束，或其后还有文字；请在分隔符之前结束引号，其中的引号写两个",
+              L"a cell in quotation marks is not closed, or goes on behind them; right "
+              L"would be to close it before the separator and to double the marks within "
+              L"it"),
+      why);
 }
 
 }  // namespace orv3

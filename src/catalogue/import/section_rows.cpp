@@ -1,14 +1,18 @@
 #include "catalogue/import/section_rows.h"
 
+#include <utility>
+
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/rolled/rolled_style.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "sections/load_data_table.h"
 #include "sections/row_check.h"
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 #include "tables/data_table.h"
+#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -35,8 +39,9 @@ CString CheckDigits(const CDataItem& row, const CSectionStyle& style) {
     const double value = ToDouble(row[cell].m_strValue);
     const CString kept = FormatG(value);
     if (ToDouble(kept) == value) continue;
-    return row.GetCellSign(cell) + L" = " + row[cell].m_strValue +
-           L": a row keeps six digits; right would be " + kept;
+    return Say(L"{1} = {2}：行中只保留六位数字；可写为 {3}",
+               L"{1} = {2}: a row keeps six digits; right would be {3}",
+               {row.GetCellSign(cell), row[cell].m_strValue, kept});
   }
   return {};
 }
@@ -75,17 +80,21 @@ CDataItem EmptyRow(const CString& table, const CDataTableTitle& title) {
 }
 
 CString CompleteRow(CDataItem& row) {
-  if (const auto fault = CheckRow(row)) return fault->m_strText;
-  if (const auto fault = CheckRolledRow(row)) return fault->m_strText;
+  if (const auto fault = CheckRow(row)) return fault->m_text.In(MessageLanguage());
+  if (const auto fault = CheckRolledRow(row)) return fault->m_text.In(MessageLanguage());
   if (const CSectionStyle* style = FindSectionStyle(row.m_strTableName.View())) {
     CString digits = CheckDigits(row, *style);
     if (!digits.IsEmpty()) return digits;
     if (CLoadDataTable::CalSectCharacterStyle(row)) return {};
-    return L"the row has other cells than the columns of \"" + row.m_strTableName + L"\"";
+    return Say(L"行的单元格与“{1}”的列不符", L"the row has other cells than the columns of \"{1}\"",
+               {row.m_strTableName});
   }
+  const int misfit = FindMisfit(row);
+  if (misfit >= 0) return MisfitText(std::as_const(row)[misfit]).In(MessageLanguage());
   if (!IsLattice(row.m_strTableName)) return {};
   CSteelItemGeGou lattice(row);
-  if (!lattice.CalSteelJMGeGou()) return L"its properties cannot be computed from its limbs";
+  if (!lattice.CalSteelJMGeGou())
+    return Say(L"不能由各肢计算其特性", L"its properties cannot be computed from its limbs");
   row = lattice;
   return {};
 }

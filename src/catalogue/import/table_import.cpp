@@ -6,6 +6,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
@@ -13,6 +14,7 @@
 #include "tables/edit_state.h"
 #include "tables/file/check.h"
 #include "tables/file/table_store.h"
+#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -99,7 +101,8 @@ class CTableMerger {
     const int rows = table.GetTableRowNum();
     return rows < kUsual
                ? CString()
-               : L"; it would have " + FormatInt(rows) + L" rows, a table takes some 1,700";
+               : Say(L"；它将有 {1} 行，一个表约可放 1,700 行",
+                     L"; it would have {1} rows, a table takes some 1,700", {FormatInt(rows)});
   }
 
   CString OtherHeading() const {
@@ -110,12 +113,15 @@ class CTableMerger {
           have[i].m_strName == come[i].m_strName && have[i].m_bKey == come[i].m_bKey) {
         continue;
       }
-      return L"column " + FormatInt(i + 1) + L" is \"" + come[i].m_strSign + L"\" (" +
-             come[i].m_strName + L"), in the store \"" + have[i].m_strSign + L"\" (" +
-             have[i].m_strName + L"); names, signs, types and keys must agree";
+      return Say(
+          L"第 {1} 列是“{2}”（{3}），库中是“{4}”（{5}）；名称、标识、类型和关键字应相同",
+          L"column {1} is \"{2}\" ({3}), in the store \"{4}\" ({5}); names, signs, types and "
+          L"keys must agree",
+          {FormatInt(i + 1), come[i].m_strSign, come[i].m_strName, have[i].m_strSign,
+           have[i].m_strName});
     }
-    return L"it has " + FormatInt(come.GetTableTitleNum()) + L" columns, in the store " +
-           FormatInt(have.GetTableTitleNum());
+    return Say(L"它有 {1} 列，库中有 {2} 列", L"it has {1} columns, in the store {2}",
+               {FormatInt(come.GetTableTitleNum()), FormatInt(have.GetTableTitleNum())});
   }
 
   // What no table file holds: of the heading, which refuses the table, and of rows.
@@ -137,7 +143,11 @@ class CTableMerger {
   void Row(int position, const CDataItem& row) {
     const auto fault = m_mapFault.find(position);
     if (fault != m_mapFault.end()) return Refuse(row, fault->second);
-    if (m_hasKey && FirstCell(row).IsEmpty()) return Refuse(row, L"its first cell is empty");
+    if (m_hasKey && FirstCell(row).IsEmpty()) {
+      return Refuse(row, Say(L"第一个单元格为空", L"its first cell is empty"));
+    }
+    const int misfit = FindMisfit(row);
+    if (misfit >= 0) return Refuse(row, Misfit(position, row[misfit]));
     const int present = m_hasKey ? m_target.IsHaveValue(row, -1) : -1;
     if (present >= 0) return Present(std::as_const(m_target).m_arrItem[present], row);
     if (!m_hasKey && !m_known.insert(Values(row)).second) {
@@ -148,13 +158,21 @@ class CTableMerger {
     Bring(row);
   }
 
+  CString Misfit(int position, const CDataCell& cell) const {
+    return Say(L"表“{1}”第 {2} 行", L"table \"{1}\", row {2}, ",
+               {m_source.GetTableName(), FormatInt(position + 1)}) +
+           MisfitText(cell).In(MessageLanguage());
+  }
+
   void Present(const CDataItem& present, const CDataItem& row) {
     if (Values(present) == Values(row)) {
       ++m_result.m_nUnchanged;
     } else if (!m_overwrite) {
-      Refuse(row, L"the store has it with other values, which only overwriting replaces");
+      Refuse(row, Say(L"库中已有，但值不同，只有覆盖才能替换",
+                      L"the store has it with other values, which only overwriting replaces"));
     } else if (IsProtected(present.m_nModifyType) && !IsProtected(row.m_nModifyType)) {
-      Refuse(row, L"本数据记录不能删除和编辑!");
+      Refuse(row, Say(L"本数据记录不能删除和编辑!",
+                      L"it is a row of the catalogue, which nobody changes"));
     } else {
       ++m_result.m_nReplaced;
       Bring(row);
@@ -217,8 +235,9 @@ bool MergeAll(const std::vector<CImportTable>& tables, const CString& store,
 }  // namespace
 
 CString TooManyRows() {
-  return L"it has more than " + FormatInt(kMostTableRows) +
-         L" rows; a table takes some 1,700, right would be several tables";
+  return Say(L"行数超过 {1}；一个表约可放 1,700 行，请分为几个表",
+             L"it has more than {1} rows; a table takes some 1,700, right would be several tables",
+             {FormatInt(kMostTableRows)});
 }
 
 CImportReport ImportTables(const std::vector<CImportTable>& tables, const CString& store,
@@ -231,10 +250,13 @@ CImportReport ImportTables(const std::vector<CImportTable>& tables, const CStrin
     done = batch.IsHeld() && MergeAll(tables, store, options, report, changed) &&
            (!changed || batch.Commit());
   } catch (const CInvalidArgException&) {  // a row on file with more values than columns
-    SetStoreError(CStoreTrouble::Damaged, store, store + L": a row has more values than columns");
+    SetStoreError(
+        CStoreTrouble::Damaged, store,
+        Say(L"{1}: 有一行的值多于列", L"{1}: a row has more values than columns", {store}));
   }
   if (done && !options.m_strTable.IsEmpty() && report.m_arrTable.empty()) {
-    report.m_strWhy = L"the source has no table \"" + options.m_strTable + L"\"";
+    report.m_strWhy =
+        Say(L"文件中没有表“{1}”", L"the source has no table \"{1}\"", {options.m_strTable});
     return report;
   }
   report.m_bDone = done;

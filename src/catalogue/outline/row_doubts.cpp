@@ -45,19 +45,25 @@ bool IsNeeded(const CDataItem& row, int cell, const CFamily& family) {
   return !TellsAll(whole, family);
 }
 
-CRowFault Fault(const CDataItem& row, int cell, const wchar_t* what) {
-  return {cell, row.GetCellName(cell) + L" " + row.GetCellSign(cell) + L"：" + what};
+CRowFault Fault(const CDataItem& row, int cell, const CSentence& what) {
+  return {cell,
+          {row.GetCellName(cell) + L" " + row.GetCellSign(cell) + L"：" + what.m_strChinese,
+           row.GetCellSign(cell) + L": " + what.m_strEnglish}};
 }
 
 std::optional<CRowFault> CheckCell(const CDataItem& row, int cell) {
   const CString& value = row[cell].m_strValue;
   if (CString(value).Trim().IsEmpty())
-    return Fault(row, cell, L"不能为空，截面特性由它计算，请输入数值。");
+    return Fault(row, cell,
+                 Both(L"不能为空，截面特性由它计算，请输入数值。",
+                      L"is empty, and properties follow from it; give a number"));
   const CString sign = row.GetCellSign(cell);
   const bool radius = sign == L"r(mm)" || sign == L"r1(mm)";
   const double number = IsNumber(value) ? ToDouble(value) : -1;
   if (number > 0 || (radius && number == 0)) return {};
-  return Fault(row, cell, radius ? L"应为不小于0的数值。" : L"应为大于0的数值。");
+  return Fault(row, cell,
+               radius ? Both(L"应为不小于0的数值。", L"give a number of 0 or more")
+                      : Both(L"应为大于0的数值。", L"give a number above 0"));
 }
 
 // Why no section can be drawn: a size that is not there, or sizes that do not fit together.
@@ -66,7 +72,8 @@ CRowFault NoOutline(const CDataItem& row) {
     if (row.GetCellSign(cell).Right(4) != L"(mm)") continue;
     if (const auto fault = CheckCell(row, cell)) return *fault;
   }
-  return {-1, L"各尺寸不能构成截面，请检查高度、宽度、厚度和圆弧半径。"};
+  return {-1, Both(L"各尺寸不能构成截面，请检查高度、宽度、厚度和圆弧半径。",
+                   L"the sizes make no section; look at height, width, thicknesses and radii")};
 }
 
 }  // namespace

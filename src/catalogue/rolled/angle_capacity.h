@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "framework/export.h"
+#include "framework/language.h"
 #include "tables/data_item.h"
 
 namespace orv3 {
@@ -24,7 +25,7 @@ ORV3CAL_API bool HasAngleCapacities(const CString& tableName);
 // the tables of phi end (Appendix C).
 inline constexpr double kStrutSlenderness = 150, kBracingSlenderness = 200, kPhiSlenderness = 250;
 
-// What the figures are computed with, a line of Chinese and one of English, UTF-8.
-ORV3CAL_API const char* AngleCapacityBasis() noexcept;
+// What the figures are computed with.
+ORV3CAL_API CTextLiteral AngleCapacityBasis() noexcept;
 
 }  // namespace orv3

@@ -7,6 +7,7 @@
 
 #include "catalogue/rolled/rolled_record.h"
 #include "catalogue/rolled/rolled_style.h"
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf16.h"
 #include "platform/store_error.h"
@@ -19,7 +20,8 @@ namespace {
 CString FitsText(const CRolledStyle& style, std::wstring_view text) {
   const int most = style.m_nName - 1;
   if (ToUtf16(text).size() <= static_cast<std::size_t>(most)) return {};
-  return L"is too long; give at most " + FormatInt(most) + L" characters";
+  return Say(L"太长；至多 {1} 个字符", L"is too long; give at most {1} characters",
+             {FormatInt(most)});
 }
 
 CString FitsWhole(std::wstring_view text) {
@@ -27,7 +29,8 @@ CString FitsWhole(std::wstring_view text) {
   if (IsNumber(text) && value == std::trunc(value) &&
       std::abs(value) <= std::numeric_limits<std::int16_t>::max())
     return {};
-  return L"is no size; give a whole number of at most 32767";
+  return Say(L"不是尺寸；应为不大于 32767 的整数",
+             L"is no size; give a whole number of at most 32767");
 }
 
 // Empty when the cell can stand in a record, else what is wrong with it.
@@ -35,13 +38,13 @@ CString Fits(const CRolledStyle& style, int cell, std::wstring_view text) {
   const CFieldKind kind = cell == 0 ? CFieldKind::Text : style.Field(cell - 1).m_nKind;
   if (kind == CFieldKind::Text) return FitsText(style, text);
   if (kind == CFieldKind::Whole) return FitsWhole(text);
-  return IsNumber(text) ? CString() : CString(L"is no number; give one");
+  return IsNumber(text) ? CString() : Say(L"不是数值；请给出数值", L"is no number; give one");
 }
 
 CString Fault(const CRolledStyle& style, const CDataItem& row) {
   if (row.GetItemLength() != style.Columns() + 1)
-    return L"has " + FormatInt(row.GetItemLength()) + L" cells; give " +
-           FormatInt(style.Columns() + 1);
+    return Say(L"有 {1} 个单元格；应为 {2} 个", L"has {1} cells; give {2}",
+               {FormatInt(row.GetItemLength()), FormatInt(style.Columns() + 1)});
   for (int cell = 0; cell < row.GetItemLength(); ++cell) {
     const CString& text = row[cell].m_strValue;
     const CString fault = Fits(style, cell, text);
@@ -65,13 +68,15 @@ int WriteRolledFile(const CString& path, int number, const CDataTable& table) {
     const CString fault = Fault(style, row);
     if (!fault.IsEmpty()) {
       const CString no = row.IsEmpty() ? CString() : row[0].m_strValue;
-      return SetStoreError(CStoreTrouble::Refused, path, path + L": row \"" + no + L"\": " + fault);
+      return SetStoreError(CStoreTrouble::Refused, path,
+                           Say(L"{1}: 行“{2}”：{3}", L"{1}: row \"{2}\": {3}", {path, no, fault}));
     }
     bytes.resize(bytes.size() + size);
     FillRecord(style, row, bytes.data() + bytes.size() - size);
   }
   if (WriteWholeFile(path, bytes) == CFileError::None) return 1;
-  return SetStoreError(CStoreTrouble::Failed, path, path + L": cannot be written");
+  return SetStoreError(CStoreTrouble::Failed, path,
+                       Say(L"{1}: 不能写入", L"{1}: cannot be written", {path}));
 }
 
 }  // namespace orv3

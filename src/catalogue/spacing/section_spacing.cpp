@@ -9,48 +9,58 @@ namespace orv3 {
 namespace {
 
 constexpr int kAngleTables = 3;
-constexpr CSpacingColumn kAngle[] = {{"a", "bolt line, from the back of the other leg"},
-                                     {"hole", "largest bolt hole"}};
-constexpr CSpacingColumn kAngleLines[] = {{"a", "first bolt line, from the back of the other leg"},
-                                          {"b", "second bolt line, from the first"},
-                                          {"hole", "largest bolt hole"}};
+constexpr CSpacingColumn kAngle[] = {
+    {"a", {"线距，距另一肢背", "bolt line, from the back of the other leg"}},
+    {"hole", {"最大孔径", "largest bolt hole"}}};
+constexpr CSpacingColumn kAngleLines[] = {
+    {"a", {"第一排线距，距另一肢背", "first bolt line, from the back of the other leg"}},
+    {"b", {"第二排线距，距第一排", "second bolt line, from the first"}},
+    {"hole", {"最大孔径", "largest bolt hole"}}};
 constexpr CSpacingColumn kBeamLines[] = {
-    {"a", "between the two bolt lines of a flange"},
-    {"t", "thickness of the flange at the bolt line"},
-    {"hole", "largest bolt hole in the flange"},
-    {"c", "outermost bolt line of the web, from the outer face of the flange"},
-    {"h1", "straight height of the web between the fillets"},
-    {"webHole", "largest bolt hole in the web"}};
+    {"a", {"翼缘两排螺栓的间距", "between the two bolt lines of a flange"}},
+    {"t", {"线距处翼缘厚度", "thickness of the flange at the bolt line"}},
+    {"hole", {"翼缘最大孔径", "largest bolt hole in the flange"}},
+    {"c",
+     {"腹板最外排线距，距翼缘外侧",
+      "outermost bolt line of the web, from the outer face of the flange"}},
+    {"h1", {"腹板两圆弧间直段高度", "straight height of the web between the fillets"}},
+    {"webHole", {"腹板最大孔径", "largest bolt hole in the web"}}};
 constexpr CSpacingColumn kChannelLines[] = {
-    {"a", "bolt line of a flange, from the back of the channel"},
+    {"a", {"翼缘线距，距槽钢背", "bolt line of a flange, from the back of the channel"}},
     kBeamLines[1],
     kBeamLines[2],
     kBeamLines[3],
     kBeamLines[4],
     kBeamLines[5]};
 constexpr CSpacingColumn kStiffener[] = {
-    {"outer", "height of the stiffener at its outer edge"},
-    {"inner", "height of the stiffener at the web"},
-    {"width", "width of the stiffener"},
-    {"corner", "cut of its corners at the fillets"},
-    {"web", "its edge, from the middle of an I's web or the back of a channel"},
-    {"least", "least thickness of the stiffener"}};
+    {"outer", {"加劲肋外边高度", "height of the stiffener at its outer edge"}},
+    {"inner", {"加劲肋在腹板处高度", "height of the stiffener at the web"}},
+    {"width", {"加劲肋宽度", "width of the stiffener"}},
+    {"corner", {"圆弧处切角", "cut of its corners at the fillets"}},
+    {"web",
+     {"其边缘距工字钢腹板中线或槽钢背",
+      "its edge, from the middle of an I's web or the back of a channel"}},
+    {"least", {"加劲肋最小厚度", "least thickness of the stiffener"}}};
 constexpr CSpacingColumn kCope[] = {
-    {"left", "height of web left between the copes"},
-    {"length", "length of the cope"},
-    {"web", "end of the beam, from the middle of an I's web or the back of a channel"},
-    {"k", "depth of the cope at each flange"}};
+    {"left", {"切口之间所余腹板高度", "height of web left between the copes"}},
+    {"length", {"切口长度", "length of the cope"}},
+    {"web",
+     {"梁端距工字钢腹板中线或槽钢背",
+      "end of the beam, from the middle of an I's web or the back of a channel"}},
+    {"k", {"每一翼缘处切口深度", "depth of the cope at each flange"}}};
 
 struct CKind {
-  const char* m_szTitle;
+  CTextLiteral m_title;
   std::span<const CSpacingColumn> m_arrColumn;
 };
-constexpr CKind kAngleKinds[kAngleTables] = {{"one line of bolts", kAngle},
-                                             {"two staggered lines of bolts", kAngleLines},
-                                             {"two parallel lines of bolts", kAngleLines}};
-constexpr CKind kPlateKinds[] = {{"stiffener inside the flanges", std::span(kStiffener).first(5)},
-                                 {"stiffener flush with the flanges' edges", kStiffener},
-                                 {"cope of a beam that frames in", kCope}};
+constexpr CKind kAngleKinds[kAngleTables] = {
+    {{"单排螺栓", "one line of bolts"}, kAngle},
+    {{"双排错列螺栓", "two staggered lines of bolts"}, kAngleLines},
+    {{"双排并列螺栓", "two parallel lines of bolts"}, kAngleLines}};
+constexpr CKind kPlateKinds[] = {
+    {{"翼缘之间的加劲肋", "stiffener inside the flanges"}, std::span(kStiffener).first(5)},
+    {{"与翼缘边齐平的加劲肋", "stiffener flush with the flanges' edges"}, kStiffener},
+    {{"连接次梁的切口", "cope of a beam that frames in"}, kCope}};
 
 // The tables of a series, counted from 0: the gauge lines, then three in the order of kPlateKinds.
 struct CSeries {
@@ -77,7 +87,7 @@ std::size_t RowOf(const CSpacingTable& table, std::wstring_view key) {
 }
 
 CSectionSpacing RowAt(int table, std::size_t row, const CKind& kind) {
-  return {table + 1, kind.m_szTitle, 0, kind.m_arrColumn, SpacingTable(table)[row].subspan(1)};
+  return {table + 1, kind.m_title, 0, kind.m_arrColumn, SpacingTable(table)[row].subspan(1)};
 }
 
 void AddLeg(int leg, std::vector<CSectionSpacing>& found) {
@@ -100,7 +110,7 @@ std::vector<CSectionSpacing> SeriesSpacings(const CSeries& series, std::wstring_
   const std::size_t row = RowOf(SpacingTable(series.m_nPlates), no);
   if (row == SpacingTable(series.m_nPlates).Rows()) return {};
   std::vector<CSectionSpacing> found{
-      RowAt(series.m_nLines, row, {"bolt lines", series.m_arrLines})};
+      RowAt(series.m_nLines, row, {{"线距", "bolt lines"}, series.m_arrLines})};
   for (int i = 0; i < std::ssize(kPlateKinds); ++i) {
     found.push_back(RowAt(series.m_nPlates + i, row, kPlateKinds[i]));
   }

@@ -7,19 +7,20 @@
 
 #include "framework/cstring.h"
 #include "framework/export.h"
+#include "framework/language.h"
 #include "sections/section_kind.h"
 
 namespace orv3 {
 
 struct CSpacingColumn {
-  const char* m_szKey;      // short, different for each figure of a spacing
-  const char* m_szMeaning;  // English
+  const char* m_szKey;  // short, different for each figure of a spacing
+  CTextLiteral m_meaning;
 };
 
 // One row of a spacing table.
 struct CSectionSpacing {
   int m_nTable = 0;  // 1 to 19: strSub1 to strSub19
-  const char* m_szTitle = "";
+  CTextLiteral m_title{"", ""};
   int m_nLeg = 0;  // of an angle, mm; 0 otherwise
   std::span<const CSpacingColumn> m_arrColumn;
   std::span<const wchar_t* const> m_arrCell;  // one a column, mm; "-" where no value applies

@@ -1,6 +1,7 @@
 // What refuses a bolt group, and what to look at in a result that stands.
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 #include "catalogue/code_tables/thickness_group.h"
 #include "connections/cases/bolt_case.h"
@@ -59,11 +60,13 @@ void SpacingFaults(const char* key, CTextLiteral lines, const CSpacing& spacing,
     const std::string given = std::to_string(each.size());
     const std::string needed = std::to_string(count);
     const std::string all = std::to_string(count + 1);
-    faults.Add(
-        key,
-        {"给了 " + given + " 个间距，而有 " + all + " " + lines.m_szChinese,
-         given + " spacings for " + all + " " + lines.m_szEnglish},
-        {"请给 " + needed + " 个，或一个通用值", "give " + needed + ", or one number for all"});
+    faults.Add(key,
+               {"给了 " + given + " 个间距，而有 " + all + " " + lines.m_szChinese,
+                given + (given == "1" ? " spacing for " : " spacings for ") + all + " " +
+                    std::string(lines.m_szEnglish, std::strlen(lines.m_szEnglish) - (count == 0))},
+               count == 0 ? CText{"请不给此键", "leave the key out"}
+                          : CText{"请给 " + needed + " 个，或一个通用值",
+                                  "give " + needed + ", or one number for all"});
     return;
   }
   if (count == 0) return;
@@ -236,14 +239,14 @@ bool Differ(double a, double b) {
 }
 
 std::string Ratios(const NormalBoltData& record, const CBoltFigures& figures) {
-  return PlainNumber(record.m_dRatio) + " → " + PlainNumber(figures.m_dRatio);
+  const auto [was, is] = Apart(record.m_dRatio, figures.m_dRatio);
+  return was + " → " + is;
 }
 
 void ShearWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                    std::vector<CCaseWarning>& warnings) {
   if (!Differ(record.m_dNv, figures.m_dNv)) return;
-  const std::string was = PlainNumber(record.m_dNv);
-  const std::string is = PlainNumber(figures.m_dNv);
+  const auto [was, is] = Apart(record.m_dNv, figures.m_dNv);
   warnings.push_back(
       {"T",
        {"扭矩为负：记录值 Nv = " + was + " kN 把其分力与直接剪力相抵；按相加的 Nv = " + is +
@@ -262,8 +265,9 @@ void TensionWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                          "checked; the bolts are checked for what remains."}});
   }
   if (!Differ(record.m_dNt, figures.m_dNt)) return;
-  const std::string was = "Nt = " + PlainNumber(record.m_dNt) + " kN";
-  const std::string is = "Nt = " + PlainNumber(figures.m_dNt) + " kN";
+  const auto [before, judged] = Apart(record.m_dNt, figures.m_dNt);
+  const std::string was = "Nt = " + before + " kN";
+  const std::string is = "Nt = " + judged + " kN";
   static constexpr CTextLiteral kHow[] = {
       {"", ""},
       {"绕形心转动", "turning about the centroid"},
@@ -296,20 +300,24 @@ void BearingWarnings(const NormalBoltData& record, const CBoltFigures& figures,
 void SectionWarning(const char* key, double recorded, const CPlateSection& section, double f,
                     bool bFriction, std::vector<CCaseWarning>& warnings) {
   if (!Differ(std::fabs(recorded), section.Worst())) return;
-  const auto stress = [f](double sigma) {
-    return PlainNumber(sigma) + " N/mm² (" + PercentNumber(sigma / f) + " %)";
+  const auto stress = [f](const std::string& text, double sigma) {
+    return text + " N/mm² (" + PercentNumber(sigma / f) + " %)";
   };
+  const CComparedText text = Apart(recorded, section.Worst());
+  const std::string was = stress(text.m_strEffect, recorded);
+  const std::string is = stress(text.m_strLimit, section.Worst());
   const std::string number = std::to_string(section.Holes());
   const std::string area = PlainNumber(section.m_dNet) + " mm²";
   const std::string share =
       bFriction ? ", 1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
-  warnings.push_back({key,
-                      {std::string("记录的 ") + key + " 截面应力为 " + stress(recorded) +
-                           "；按 5.1.1 条最不利截面（" + number + " 孔，净面积 " + area + share +
-                           "）验算：" + stress(section.Worst()) + "。",
-                       std::string("The record's section stress from ") + key + " is " +
-                           stress(recorded) + "; judged by the worst section of 5.1.1 (" + number +
-                           " holes, net " + area + share + "): " + stress(section.Worst()) + "."}});
+  warnings.push_back(
+      {key,
+       {std::string("记录的 ") + key + " 截面应力为 " + was + "；按 5.1.1 条最不利截面（" + number +
+            " 孔，净面积 " + area + share + "）验算：" + is + "。",
+        std::string("The record's section stress from ") + key + " is " + was +
+            "; judged by the worst section of 5.1.1 (" + number +
+            (section.Holes() == 1 ? " hole, net " : " holes, net ") + area + share + "): " + is +
+            "."}});
 }
 
 }  // namespace

@@ -8,7 +8,8 @@ namespace orv3 {
 const char* const kSteels[4] = {"Q235", "Q345", "Q390", "Q420"};
 
 void TooThick(const char* key, double thickness, const std::string& table, CFaultList& faults) {
-  const std::string is = PlainNumber(thickness) + " mm";
+  const CComparedText text = Compared(thickness, kThickestPlate);
+  const std::string is = text.m_strEffect + " mm";
   const std::string most = PlainNumber(kThickestPlate) + " mm";
   faults.Add(key, {is + " 超出表 " + table, is + " is beyond Table " + table},
              {"请给不大于 " + most, "give at most " + most});
@@ -33,8 +34,7 @@ void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& f
 void WarnOfOther(const char* key, const CTextLiteral& what, double record, double judged,
                  const CTextLiteral& why, std::vector<CCaseWarning>& warnings) {
   if (std::fabs(record - judged) <= 1e-9 * std::fabs(judged)) return;
-  const std::string was = PlainNumber(record);
-  const std::string is = PlainNumber(judged);
+  const auto [was, is] = Apart(record, judged);
   warnings.push_back({key,
                       {std::string("记录的") + what.m_szChinese + "为 " + was + " N/mm²；按 " + is +
                            " N/mm² 验算：" + why.m_szChinese + "。",

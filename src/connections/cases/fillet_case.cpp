@@ -100,6 +100,14 @@ void DetailingWarnings(const CFilletCase& input, std::vector<CCaseWarning>& warn
                          "lw = " + lw + " mm is below the detailing minimum " + PlainNumber(least) +
                              " mm (8 hf and 40 mm, 8.2.7)."}});
   }
+  if (input.m_dS != 0 && (input.m_nGroove == 1 || input.m_nGroove == 2) && input.m_dAngle > 50) {
+    warnings.push_back(
+        {"angle",
+         {"单边 V 形和 K 形坡口的 he = s − 3 适用于 α = 45° ± 5°（7.1.5 条），此处 α = " +
+              PlainNumber(input.m_dAngle) + "°；请核对。",
+          "he = s − 3 of bevel and K grooves is for α = 45° ± 5° (7.1.5), here α = " +
+              PlainNumber(input.m_dAngle) + "°. Check it."}});
+  }
   if (input.m_dHf != 0 && (input.m_dAngle < 60 || input.m_dAngle > 135)) {
     warnings.push_back({"angle",
                         {"夹角小于 60° 或大于 135° 的斜角角焊缝不宜用作受力焊缝（8.2.6 条）。",

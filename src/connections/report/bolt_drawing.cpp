@@ -101,7 +101,8 @@ class CBoltPainter {
 
   void Cuts() {
     Cut(m_check.Figures().m_x.m_arrHole, true, L"1");
-    Cut(m_check.Figures().m_y.m_arrHole, false, L"2");
+    const bool bBoth = m_check.Figures().m_x.Holes() > 0;
+    Cut(m_check.Figures().m_y.m_arrHole, false, bBoth ? L"2" : L"1");
   }
 
   // Edge, spacings and edge along one side: one by one while there is room, else in sum.

@@ -80,6 +80,7 @@ void CBoltReport::Figure() {
       "The bolt group to scale, mm. Red: the most stressed bolts; chain lines: centroidal axes"};
   static constexpr CTextLiteral kCuts[] = {
       {"；虚线 1：抵抗 Vx 的最不利净截面", "; dashed 1: the worst net section for Vx"},
+      {"；虚线 1：抵抗 Vy 的最不利净截面", "; dashed 1: the worst net section for Vy"},
       {"；虚线 2：抵抗 Vy 的最不利净截面", "; dashed 2: the worst net section for Vy"}};
   static constexpr CTextLiteral kAcross = {"。N、M 垂直于图面。",
                                            ". N and M act out of the plane."};
@@ -89,7 +90,7 @@ void CBoltReport::Figure() {
   if (m_r.m_nBolts > kMostDrawnBolts) return m_body.Note(kTooMany);
   std::string caption = m_body.Text(kCaption);
   if (m_judged.m_x.Holes() > 0) caption += m_body.Text(kCuts[0]);
-  if (m_judged.m_y.Holes() > 0) caption += m_body.Text(kCuts[1]);
+  if (m_judged.m_y.Holes() > 0) caption += m_body.Text(kCuts[m_judged.m_x.Holes() > 0 ? 2 : 1]);
   const bool bAcross = !IsZero(m_input.m_dN) || !IsZero(m_input.m_dM);
   m_body.Figure(BoltGroupDrawing(m_check), caption + m_body.Text(bAcross ? kAcross : kEnd));
 }
@@ -157,7 +158,7 @@ void CBoltReport::Distances(CSteps& steps) const {
   if (m_r.m_nBolts < 2) return;
   const std::string n = std::to_string(m_r.m_nBolts);
   const auto mean = [&](CTextLiteral name, const char* symbol, const char* formula, double value) {
-    steps.push_back({name, "", symbol, formula, PlainNumber(value * m_r.m_nBolts) + " / " + n,
+    steps.push_back({name, "", symbol, formula, SubstitutedNumber(value * m_r.m_nBolts) + " / " + n,
                      PlainNumber(value), "mm"});
   };
   mean({"形心横坐标（自第一个螺栓）", "Centroid along x, from the first bolt"}, "x_c", "Σx / n",
@@ -233,8 +234,8 @@ CBoltReport::CSteps CBoltReport::Forces() const {
   const auto lever = [&](CTextLiteral name, const char* symbol, const char* formula, double load,
                          double arm, double sum, double result) {
     steps.push_back({name, "", symbol, formula,
-                     Put(load) + " × " + Put(arm) + " / " + PlainNumber(sum), PlainNumber(result),
-                     "kN"});
+                     Put(load) + " × " + Put(arm) + " / " + SubstitutedNumber(sum),
+                     PlainNumber(result), "kN"});
   };
   share({"Vx 分配的剪力", "Share of Vx"}, "N_{vx}", "|V_x|", std::fabs(m_input.m_dVx),
         m_judged.m_dNvx);
@@ -270,7 +271,7 @@ void CBoltReport::Tension(CSteps& steps) const {
   static constexpr CTextLiteral kMoment[] = {
       {"弯矩在最远螺栓的拉力（绕第一行）", "Moment, farthest bolt, about the first row"},
       {"弯矩在最远螺栓的拉力（绕形心）", "Moment, farthest bolt, about the centroid"}};
-  const std::string sum = PlainNumber(m_judged.m_dSumArm2);
+  const std::string sum = SubstitutedNumber(m_judged.m_dSumArm2);
   const std::string arm = Put(m_judged.m_dArm);
   const double M = std::fabs(m_input.m_dM);
   const bool bMoment = !IsZero(M);
@@ -315,7 +316,7 @@ CBoltReport::CSteps CBoltReport::LongJoint() const {
                    bShort  ? "1.0  (l_1 ≤ 15 d_0 = " + limit + ")"
                    : bLong ? "0.7  (l_1 > 60 d_0 = " + far + ")"
                            : "1.1 − l_1 / (150 d_0)",
-                   bShort || bLong ? "" : "1.1 − " + l1 + " / (150 × " + PlainNumber(d0) + ")",
+                   bShort || bLong ? "" : "1.1 − " + Put(m_r.m_dL1) + " / (150 × " + Put(d0) + ")",
                    PlainNumber(m_r.m_dBeta)});
   return steps;
 }
@@ -336,30 +337,32 @@ void CBoltReport::Section(bool bX, CSteps& steps) const {
                                               {"抵抗 Vx 的毛截面", "Gross section for Vx"}};
     steps.push_back({kGross[bX], "5.1.1", sign("A_x", "A_y"),
                      sign("(2 e_y + Σs_r) t", "(2 e_x + Σs_c) t"),
-                     "(2 × " + Put(edge) + " + " + PlainNumber(sum) + ") × " + t,
+                     "(2 × " + Put(edge) + " + " + SubstitutedNumber(sum) + ") × " + t,
                      PlainNumber(section.m_dGross), "mm²"});
     steps.push_back({kStress, "5.1.1", sign("σ_{x1}", "σ_{y1}"), sign("|V_x| / A_x", "|V_y| / A_y"),
-                     V + " × 1000 / " + PlainNumber(section.m_dGross),
+                     V + " × 1000 / " + SubstitutedNumber(section.m_dGross),
                      PlainNumber(section.m_dSigmaGross), "N/mm²"});
   }
   static constexpr CTextLiteral kLength[] = {
+      {"抵抗 Vy 的最不利截面（1）之长", "Length of the worst section for Vy (1)"},
       {"抵抗 Vy 的最不利截面（2）之长", "Length of the worst section for Vy (2)"},
       {"抵抗 Vx 的最不利截面（1）之长", "Length of the worst section for Vx (1)"}};
   static constexpr CTextLiteral kNet = {"其净面积", "Its net area"};
-  steps.push_back({kLength[bX], "5.1.1", sign("L_x", "L_y"), sign("2 e_y + Σs", "2 e_x + Σs"),
+  const int name = bX ? 2 : m_judged.m_x.Holes() > 0 ? 1 : 0;
+  steps.push_back({kLength[name], "5.1.1", sign("L_x", "L_y"), sign("2 e_y + Σs", "2 e_x + Σs"),
                    "2 × " + Put(edge) + Legs(section, 2 * edge), PlainNumber(section.m_dLength),
                    "mm"});
   steps.push_back({kNet, "5.1.1", sign("A_{nx}", "A_{ny}"),
                    sign("(L_x − n_1 d_0) t", "(L_y − n_1 d_0) t"),
-                   "(" + PlainNumber(section.m_dLength) + " − " + holes + " × " +
-                       PlainNumber(m_r.m_dD0) + ") × " + t,
+                   "(" + SubstitutedNumber(section.m_dLength) + " − " + holes + " × " +
+                       SubstitutedNumber(m_r.m_dD0) + ") × " + t,
                    PlainNumber(section.m_dNet), "mm²"});
   const std::string share = m_bFriction ? "(1 − 0.5 n_1 / n) " : "";
   const std::string shareNumbers =
       m_bFriction ? "(1 − 0.5 × " + holes + " / " + std::to_string(m_r.m_nBolts) + ") × " : "";
   const char* symbol = m_bFriction ? sign("σ_{x2}", "σ_{y2}") : sign("σ_x", "σ_y");
   steps.push_back({kStress, "5.1.1", symbol, share + sign("|V_x| / A_{nx}", "|V_y| / A_{ny}"),
-                   shareNumbers + V + " × 1000 / " + PlainNumber(section.m_dNet),
+                   shareNumbers + V + " × 1000 / " + SubstitutedNumber(section.m_dNet),
                    PlainNumber(section.m_dSigma), "N/mm²"});
 }
 
@@ -384,8 +387,8 @@ std::string CBoltReport::Legs(const CPlateSection& section, double edges) {
   }
   std::string text;
   for (const auto& [leg, count] : legs)
-    text += " + " + (count > 1 ? std::to_string(count) + " × " : "") + PlainNumber(leg);
-  if (rest > 1e-6) text += " + " + PlainNumber(rest);
+    text += " + " + (count > 1 ? std::to_string(count) + " × " : "") + SubstitutedNumber(leg);
+  if (rest > 1e-6) text += " + " + SubstitutedNumber(rest);
   return text;
 }
 

@@ -30,7 +30,7 @@ CStressTerms NormalStress(int loadCase, double N, double M, const std::string& a
     const bool bFirst = !TakesN(loadCase) && *sign == '+';
     const std::string plus = bFirst ? "" : " " + std::string(sign) + " ";
     terms.m_strFormula += plus + "M / W";
-    terms.m_strNumbers += plus + Put(M) + " × 1000 / " + PlainNumber(W);
+    terms.m_strNumbers += plus + Put(M) + " × 1000 / " + SubstitutedNumber(W);
   }
   return terms;
 }
@@ -85,7 +85,7 @@ CReportStep Throat(const CFilletCase& input, const CFilletResults& r) {
             "7.1.4",
             "h_e",
             "h_f \\cos(α / 2)",
-            hf + " × \\cos(" + PlainNumber(input.m_dAngle) + "° / 2)",
+            hf + " × \\cos(" + SubstitutedNumber(input.m_dAngle) + "° / 2)",
             he,
             "mm"};
   }
@@ -127,7 +127,7 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletCheck& check) {
                    "τ_f",
                    bLong ? "|V| / (h_e · 60 h_f)" : "|V| / (h_e l_w)",
                    Put(std::fabs(input.m_dV)) + " × 1000 / (" + he + " × " +
-                       PlainNumber(judged.m_dShearLength) + ")",
+                       SubstitutedNumber(judged.m_dShearLength) + ")",
                    PlainNumber(judged.m_dTau),
                    "N/mm²"});
   const bool bTension = judged.m_dTension / judged.m_dBetaTension >=
@@ -138,7 +138,7 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletCheck& check) {
                    "7.1.3",
                    "σ_{fs}",
                    "√((σ_f / β_f)^2 + τ_f^2)",
-                   "√((" + PlainNumber(across) + " / " + PlainNumber(beta) + ")^2 + " +
+                   "√((" + SubstitutedNumber(across) + " / " + SubstitutedNumber(beta) + ")^2 + " +
                        Put(judged.m_dTau) + "^2)",
                    PlainNumber(judged.m_dCombined),
                    "N/mm²"});

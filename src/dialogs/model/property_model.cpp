@@ -192,7 +192,7 @@ bool CPropertyModel::Compute() {
 bool CPropertyModel::Refuse(CDialogUser& user) {
   if (const auto fault = CheckRow(m_row)) {
     m_nFaultLine = fault->m_nCell;
-    user.Tell(fault->m_strText);
+    user.Tell(fault->m_text.m_strChinese);
     return true;
   }
   const bool lost = m_nSource == CSource::Plain && !RowOutline(m_before).m_arrLoop.empty() &&

@@ -8,6 +8,7 @@
 #include "dialogs/model/user_table_model.h"
 #include "framework/number_text.h"
 #include "sections/load_data_table.h"
+#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -77,24 +78,6 @@ const wchar_t* ColumnFault(const CDataTableTitle& title, int column) {
     return texts::kColumnComma;
   }
   return taken ? texts::kSignTaken : nullptr;
-}
-
-bool Fits(const CDataCell& cell) {
-  const CString& value = cell.m_strValue;
-  switch (cell.m_nType) {
-    case CDataTypeStruct::KVBT_STRING:
-      return true;
-    case CDataTypeStruct::KVBT_CHAR:
-      return value.GetLength() <= 1;
-    case CDataTypeStruct::KVBT_FLOAT:
-    case CDataTypeStruct::KVBT_DOUBLE:
-      return value.IsEmpty() || IsNumber(value);
-    case CDataTypeStruct::KVBT_INT:
-    case CDataTypeStruct::KVBT_LONG:
-    case CDataTypeStruct::KVBT_LONG_ALT:
-      return value.IsEmpty() || (IsNumber(value) && ToDouble(value) == ToInt(value));
-  }
-  return false;
 }
 
 // The first value that its column's type does not take; null when there is none.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "tables/data_table.h"
@@ -50,20 +51,23 @@ int RefuseSave(const CStoreFile& file, const CString& what) {
 
 int RefuseDamaged(const CStoreFile& file, const CString& table) {
   return SetStoreError(CStoreTrouble::Damaged, file.Path(),
-                       file.Path() + L": table \"" + table + L"\" on file is damaged");
+                       Say(L"{1}: 文件中的表“{2}”已损坏", L"{1}: table \"{2}\" on file is damaged",
+                           {file.Path(), table}));
 }
 
 int RefuseColumns(const CStoreFile& file, const CDataTable& table, int slotLength) {
-  return RefuseSave(file, L"table \"" + table.m_strTableName + L"\" has " +
-                              FormatInt(table.GetTableColNum()) + L" columns but rows of " +
-                              FormatInt(slotLength) +
-                              L" bytes on file, which are of other columns");
+  return RefuseSave(
+      file, Say(L"表“{1}”有 {2} 列，文件中每行 {3} 字节，是另外的列",
+                L"table \"{1}\" has {2} columns but rows of {3} bytes on file, "
+                L"which are of other columns",
+                {table.m_strTableName, FormatInt(table.GetTableColNum()), FormatInt(slotLength)}));
 }
 
 int ReadOrStart(const CStoreFile& file, CTableDirectory& directory) {
   if (file.Size() <= kUnusedHead || directory.Read(file)) return 1;
   return SetStoreError(CStoreTrouble::NotAStore, file.Path(),
-                       file.Path() + L": not a table file; nothing was written");
+                       Say(L"{1}: 不是截面库文件；没有写入",
+                           L"{1}: not a table file; nothing was written", {file.Path()}));
 }
 
 int WritePlan(CStoreFile& file, const CRecordPlan& plan) {
@@ -92,7 +96,8 @@ int CDataTable::PlanRecord(const orv3::CStoreFile& file, int storeKind,
   plan.m_bNewTable = record < 0;
   if (plan.m_bNewTable) {
     if (directory.IsFull()) {
-      return orv3::RefuseSave(file, L"no room for another table; a file holds 99");
+      return orv3::RefuseSave(file, orv3::Say(L"没有位置再放一个表；一个文件至多 99 个",
+                                              L"no room for another table; a file holds 99"));
     }
     record = directory.Count();
     plan.m_info.m_strTableName = m_strTableName;
@@ -108,12 +113,13 @@ int CDataTable::PlanRecord(const orv3::CStoreFile& file, int storeKind,
     plan.m_info.m_nRowNum = GetTableRowNum();
     const int missing = orv3::BlocksFor(GetTableRowNum()) - plan.m_info.m_arrBlockPos.GetSize();
     if (missing > 0 && !orv3::Reserve(missing, plan)) {
-      return orv3::RefuseSave(file, L"the store would exceed 2 GB");
+      return orv3::RefuseSave(file, orv3::Say(L"库将超过 2 GB", L"the store would exceed 2 GB"));
     }
     std::string field;
     CString why;
     if (!orv3::EncodeRecord(plan.m_info, field, why)) {
-      return orv3::RefuseSave(file, L"table \"" + m_strTableName + L"\": " + why);
+      return orv3::RefuseSave(
+          file, orv3::Say(L"表“{1}”：{2}", L"table \"{1}\": {2}", {m_strTableName, why}));
     }
     directory.SetRecord(record, field);
   }
@@ -131,5 +137,6 @@ int CDataTable::PlanHeading(const orv3::CStoreFile& file, orv3::CRecordPlan& pla
   }
   CString why;
   if (orv3::EncodeHeading(m_Title, plan.m_strHeading, why)) return 1;
-  return orv3::RefuseSave(file, L"table \"" + m_strTableName + L"\": " + why);
+  return orv3::RefuseSave(file,
+                          orv3::Say(L"表“{1}”：{2}", L"table \"{1}\": {2}", {m_strTableName, why}));
 }

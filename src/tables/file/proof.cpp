@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "tables/edit_state.h"
 #include "tables/file/directory.h"
@@ -13,9 +14,14 @@
 namespace orv3 {
 namespace {
 
-constexpr wchar_t kMissing[] = L"has a character that the code page lacks";
-constexpr wchar_t kSplit[] =
-    L"would part its text elsewhere: nothing holds \",,,\", and \",\" ends nothing but the last";
+CString Missing() {
+  return Say(L"含有系统字符集没有的字符", L"has a character that the code page lacks");
+}
+CString Split() {
+  return Say(L"会在别处断开：其中不能有“,,,”，除最后一个外末尾不能是“,”",
+             L"would part its text elsewhere: nothing holds \",,,\", and \",\" ends nothing but "
+             L"the last");
+}
 
 // The position of the first of the `kept` texts that does not come back from the bytes of a field,
 // -1 when all do. A field that is full has lost what stood behind its end.
@@ -36,19 +42,19 @@ bool Prove(const std::vector<std::wstring_view>& kept, std::string_view field, b
            int& lost, CString& why) {
   lost = -1;
   if (missing) {
-    why = kMissing;
+    why = Missing();
     return false;
   }
   lost = FirstLost(kept, field, FieldBytes(field).size() == field.size());
   if (lost < 0) return true;
-  why = kSplit;
+  why = Split();
   return false;
 }
 
 CString ColumnText(const CDataTableTitle& title, int column) {
   return column < 0 || column >= title.GetTableTitleNum()
              ? CString()
-             : L"column \"" + title[column].m_strSign + L"\" ";
+             : Say(L"列“{1}”", L"column \"{1}\" ", {title[column].m_strSign});
 }
 
 }  // namespace
@@ -59,17 +65,18 @@ bool EncodeRecord(const CDataFileInfo& info, std::string& field, CString& why) {
   const std::string bytes = EncodeText(form, &missing);
   field = EncodeField(form, kRecordSize);
   if (missing) {
-    why = L"its name " + CString(kMissing);
+    why = Say(L"表名{1}", L"its name {1}", {Missing()});
   } else if (bytes.size() >= kRecordSize) {
-    why = L"its name and the places of its " + FormatInt(info.m_arrBlockPos.GetSize()) +
-          L" blocks take " + FormatInt(std::ssize(bytes) + 1) +
-          L" bytes, but the file has room for 200: fewer rows or a shorter name fit";
+    why = Say(L"表名与 {1} 个块的位置共 {2} 字节，文件只有 200 字节的位置；请减少行数或缩短表名",
+              L"its name and the places of its {1} blocks take {2} bytes, but the file has room "
+              L"for 200: fewer rows or a shorter name fit",
+              {FormatInt(info.m_arrBlockPos.GetSize()), FormatInt(std::ssize(bytes) + 1)});
   } else if (const CDataFileInfo back = RecordOf(DecodeText(field));
              back.m_strTableName.IsEmpty() || back.m_strTableName != info.m_strTableName ||
              RecordForm(back) != form) {
-    why =
-        L"its name cannot be stored; a name is not empty, holds no line feed and no \",,,\" and "
-        L"does not end with \",\"";
+    why = Say(L"表名不能保存；表名不能为空，不能有换行或“,,,”，末尾不能是“,”",
+              L"its name cannot be stored; a name is not empty, holds no line feed and no \",,,\" "
+              L"and does not end with \",\"");
   } else {
     return true;
   }
@@ -84,7 +91,8 @@ bool EncodeHeading(const CDataTableTitle& title, std::string& area, CString& why
       EncodeField(HeadingForm(title), static_cast<std::size_t>(HeadingLength(columns)), &missing);
   int lost = -1;
   if (columns == 0 || Prove({fields.begin(), fields.end()}, area, missing, lost, why)) return true;
-  why = L"its heading " + ColumnText(title, lost < 0 ? -1 : lost / 4) + why;
+  why =
+      Say(L"表头{1}{2}", L"its heading {1}{2}", {ColumnText(title, lost < 0 ? -1 : lost / 4), why});
   return false;
 }
 
@@ -92,8 +100,9 @@ bool EncodeRow(const CDataItem& row, int state, const CDataTableTitle& title, st
                CString& why) {
   const int columns = title.GetTableTitleNum();
   if (row.GetItemLength() != columns) {
-    why = L"has " + FormatInt(row.GetItemLength()) + L" values; right would be one for each of " +
-          FormatInt(columns) + L" columns";
+    why = Say(L"有 {1} 个值；应为 {2} 列各一个",
+              L"has {1} values; right would be one for each of {2} columns",
+              {FormatInt(row.GetItemLength()), FormatInt(columns)});
     return false;
   }
   bool missing = false;

@@ -1,6 +1,7 @@
 // Reading tables from table files.
 #include <utility>
 
+#include "framework/language.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "tables/data_table.h"
@@ -16,13 +17,16 @@ using orv3::SetStoreError;
 namespace {
 
 int NotATableFile(const CString& path) {
-  return SetStoreError(
-      CStoreTrouble::NotAStore, path,
-      path + L": not a table file; one has \"" + orv3::kTableMagic + L"\" in its information line");
+  return SetStoreError(CStoreTrouble::NotAStore, path,
+                       orv3::Say(L"{1}: 不是截面库文件；其信息行中应有“{2}”",
+                                 L"{1}: not a table file; one has \"{2}\" in its information line",
+                                 {path, orv3::kTableMagic}));
 }
 
-int Damaged(const CString& path, const CString& table, const wchar_t* what) {
-  return SetStoreError(CStoreTrouble::Damaged, path, path + L": table \"" + table + L"\": " + what);
+int Damaged(const CString& path, const CString& table, const CString& what) {
+  return SetStoreError(
+      CStoreTrouble::Damaged, path,
+      orv3::Say(L"{1}: 表“{2}”：{3}", L"{1}: table \"{2}\": {3}", {path, table, what}));
 }
 
 }  // namespace
@@ -37,8 +41,9 @@ int FindRecord(const CStoreFile& file, const CString& table, CString& infoLine,
   infoLine = directory.InfoLine();
   const int record = directory.Find(table);
   if (record < 0) {
-    return SetStoreError(CStoreTrouble::NoTable, file.Path(),
-                         file.Path() + L": has no table \"" + table + L"\"");
+    return SetStoreError(
+        CStoreTrouble::NoTable, file.Path(),
+        Say(L"{1}: 没有表“{2}”", L"{1}: has no table \"{2}\"", {file.Path(), table}));
   }
   info = directory.Record(record);
   return 1;
@@ -73,17 +78,20 @@ int CDataTable::GetTable(const CString& path, CString& infoLine) {
   if (!ReadTableFileInfo(file.get(), line, info)) return 0;
   const std::int64_t end = static_cast<std::int64_t>(file->Size()) - orv3::kDirectorySize;
   if (orv3::BlocksOf(info, end).empty()) {
-    return Damaged(path, m_strTableName, L"its record names impossible slots, rows or blocks");
+    return Damaged(path, m_strTableName,
+                   orv3::Say(L"目录记录中的槽长、行数或块不可能",
+                             L"its record names impossible slots, rows or blocks"));
   }
 
   auto image = std::make_shared<orv3::CTableImage>();
   std::string heading;
   if (!orv3::ReadHeading(*file, info, heading) || !orv3::ReadSlots(*file, info, image->m_arrSlot)) {
-    return Damaged(path, m_strTableName, L"its rows cannot be read");
+    return Damaged(path, m_strTableName, orv3::Say(L"不能读取各行", L"its rows cannot be read"));
   }
   CDataTableTitle title;
   if (!orv3::StoredHeading(heading, title)) {
-    return Damaged(path, m_strTableName, L"its heading does not go with its rows");
+    return Damaged(path, m_strTableName,
+                   orv3::Say(L"表头与各行不符", L"its heading does not go with its rows"));
   }
   CDataItemArray rows;
   for (const std::string& slot : image->m_arrSlot) {
@@ -92,7 +100,7 @@ int CDataTable::GetTable(const CString& path, CString& infoLine) {
     row.m_strFileInfo = line;
     const bool cut = std::ssize(slot) == info.m_nItemLen;
     if (!orv3::RowOf(orv3::DecodeText(slot), title, cut, row)) {
-      return Damaged(path, m_strTableName, L"a row lacks values");
+      return Damaged(path, m_strTableName, orv3::Say(L"有一行缺少值", L"a row lacks values"));
     }
     image->m_arrIndex.push_back(row.m_nIndex);
     rows.Add(row);

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
@@ -12,6 +13,7 @@
 #include "tables/edit_state.h"
 #include "tables/file/directory.h"
 #include "tables/file/table_text.h"
+#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -40,24 +42,35 @@ class CVerify {
   void Run() {
     if (!m_directory.Read(m_file)) {
       return Add(L"", 0,
-                 L"no information line with \"" + CString(kTableMagic) + L"\" at end - 20100");
+                 Say(L"文件末尾前 20100 字节处没有含“{1}”的信息行",
+                     L"no information line with \"{1}\" at end - 20100", {kTableMagic}));
     }
     const std::int64_t end = static_cast<std::int64_t>(m_file.Size());
-    if (!m_directory.HasEndMark()) Add(L"", end - 1, L"the last byte is not \"#\"");
+    if (!m_directory.HasEndMark())
+      Add(L"", end - 1, Say(L"最后一个字节不是“#”", L"the last byte is not \"#\""));
     if (KindOf(m_directory.InfoLine()) < 0) {
-      Add(L"", m_directory.Offset(), L"the information line's store kind is not 0, 1 or 2");
+      Add(L"", m_directory.Offset(),
+          Say(L"信息行中库的种类不是 0、1 或 2",
+              L"the information line's store kind is not 0, 1 or 2"));
     }
     const int count = m_directory.Count();
     for (int i = 0; i < count; ++i) Record(i);
     for (int i = count; i < kMaxTables; ++i) {
       if (!FieldBytes(m_directory.RecordBytes(i)).empty()) {
-        Add(L"", RecordAt(i), L"a record behind the end of the records");
+        Add(L"", RecordAt(i),
+            Say(L"目录记录结束之后还有记录", L"a record behind the end of the records"));
       }
     }
     if (m_faults.empty()) Gaps();
   }
 
  private:
+  static CString Needs(int rows, int needed, int blocks) {
+    return Say(L"{1} 行需要 {2} 个块，目录记录中有 {3} 个",
+               L"{1} rows need {2} blocks, but the record names {3}",
+               {FormatInt(rows), FormatInt(needed), FormatInt(blocks)});
+  }
+
   // A save never gives a block back: bytes of no table are those of one whose record is lost.
   void Gaps() {
     std::sort(m_used.begin(), m_used.end(),
@@ -66,7 +79,9 @@ class CVerify {
     m_used.push_back({m_directory.Offset(), m_directory.Offset()});
     for (const CFileRange& used : m_used) {
       if (used.m_nBegin > at)
-        Note(L"", at, FormatInt(used.m_nBegin - at) + L" bytes belong to no table");
+        Note(L"", at,
+             Say(L"{1} 字节不属于任何表", L"{1} bytes belong to no table",
+                 {FormatInt(used.m_nBegin - at)}));
       at = std::max(at, used.m_nEnd);
     }
   }
@@ -81,7 +96,9 @@ class CVerify {
 
   void Text(const CString& table, std::int64_t offset, const CString& part, const CString& text) {
     if (text.Find(wchar_t{0xFFFD}) >= 0) {
-      Add(table, offset, part + L" has bytes that are no text of the code page");
+      Add(table, offset,
+          Say(L"{1}含有不是系统字符集文字的字节",
+              L"{1} has bytes that are no text of the code page", {part}));
     }
   }
 
@@ -93,25 +110,30 @@ class CVerify {
     const CDataFileInfo info = m_directory.Record(i);
     const CString& name = info.m_strTableName;
     const std::int64_t at = RecordAt(i);
-    if (!m_names.insert(name).second) Add(name, at, L"an earlier table has the same name");
+    if (!m_names.insert(name).second)
+      Add(name, at, Say(L"前面已有同名的表", L"an earlier table has the same name"));
     if (FieldBytes(m_directory.RecordBytes(i)).size() == kRecordSize) {
-      Add(name, at, L"the record fills its 200 bytes and may be cut");
+      Add(name, at,
+          Say(L"目录记录占满 200 字节，可能被截断",
+              L"the record fills its 200 bytes and may be cut"));
     }
-    Text(name, at, L"the record", DecodeText(m_directory.RecordBytes(i)));
+    Text(name, at, Say(L"目录记录", L"the record"), DecodeText(m_directory.RecordBytes(i)));
     if (!Numbers(i, info)) return;
     if (!IsSlotLength(info.m_nItemLen)) {
-      return Add(name, at, L"slot length " + FormatInt(info.m_nItemLen) + L" is not 33 n + 25");
+      return Add(name, at,
+                 Say(L"槽长 {1} 不是 33 n + 25", L"slot length {1} is not 33 n + 25",
+                     {FormatInt(info.m_nItemLen)}));
     }
-    if (info.m_nRowNum < 0) return Add(name, at, L"the row count is negative");
+    if (info.m_nRowNum < 0) return Add(name, at, Say(L"行数为负", L"the row count is negative"));
     const int blocks = info.m_arrBlockPos.GetSize();
     if (blocks < BlocksFor(info.m_nRowNum)) {
-      Add(name, at,
-          FormatInt(info.m_nRowNum) + L" rows need " + FormatInt(BlocksFor(info.m_nRowNum)) +
-              L" blocks, but the record names " + FormatInt(blocks));
+      Add(name, at, Needs(info.m_nRowNum, BlocksFor(info.m_nRowNum), blocks));
     }
     if (!Blocks(info, at) || BlocksOf(info, m_directory.Offset()).empty()) return;
+    const std::size_t faults = m_faults.size();
     Heading(info);
     Rows(info);
+    if (m_faults.size() == faults) Values(info);
     LeftOver(info, at);
   }
 
@@ -119,7 +141,8 @@ class CVerify {
   bool Numbers(int i, const CDataFileInfo& info) {
     const CString form = DecodeText(m_directory.RecordBytes(i));
     if (form == CString(RecordForm(info))) return true;
-    Add(info.m_strTableName, RecordAt(i), L"the record's numbers are none: \"" + form + L"\"");
+    Add(info.m_strTableName, RecordAt(i),
+        Say(L"目录记录中的数字不是数字：“{1}”", L"the record's numbers are none: \"{1}\"", {form}));
     return false;
   }
 
@@ -134,8 +157,10 @@ class CVerify {
       }
       if (!inside)
         Add(info.m_strTableName, recordAt,
-            L"a block at " + FormatInt(at) + L" lies outside the row area");
-      if (!free) Add(info.m_strTableName, at, L"a block overlaps another one");
+            Say(L"位于 {1} 的块在行区之外", L"a block at {1} lies outside the row area",
+                {FormatInt(at)}));
+      if (!free)
+        Add(info.m_strTableName, at, Say(L"有块与另一块重叠", L"a block overlaps another one"));
       if (inside) m_used.push_back({at, at + length});
       sound = sound && inside && free;
     }
@@ -149,15 +174,18 @@ class CVerify {
     const std::int64_t at = info.m_arrBlockPos[0];
     const auto wanted = 4 * static_cast<std::size_t>(ColumnsOf(info.m_nItemLen));
     const bool full = wanted > 0 && FieldBytes(stored).size() == stored.size();
-    if (full) Add(name, at, L"the heading fills its area and may be cut");
+    if (full)
+      Add(name, at,
+          Say(L"表头占满其区域，可能被截断", L"the heading fills its area and may be cut"));
     const CString form = DecodeText(stored);
-    Text(name, at, L"the heading", form);
+    Text(name, at, Say(L"表头", L"the heading"), form);
     const std::vector<std::wstring_view> fields = SplitStored(form, wanted, full);
     const std::size_t count = form.IsEmpty() ? 0 : fields.size();
     if (full ? count > wanted : count != wanted) {
       return Add(name, at,
-                 L"the heading has " + FormatInt(std::ssize(fields)) + L" fields instead of " +
-                     FormatInt(static_cast<int>(wanted)) + L", 4 for each column of the rows");
+                 Say(L"表头有 {1} 个字段，应为 {2} 个，各行的每列 4 个",
+                     L"the heading has {1} fields instead of {2}, 4 for each column of the rows",
+                     {FormatInt(std::ssize(fields)), FormatInt(static_cast<int>(wanted))}));
     }
     for (std::size_t i = 0; i + 4 <= count; i += 4) Column(name, at, &fields[i]);
   }
@@ -166,12 +194,16 @@ class CVerify {
     const auto isDigit = [](std::wstring_view text, wchar_t last) {
       return text.size() == 1 && text[0] >= L'0' && text[0] <= last;
     };
-    const CString column = L"column \"" + CString(fields[1]) + L"\": ";
+    const CString column = Say(L"列“{1}”：", L"column \"{1}\": ", {CString(fields[1])});
     if (!isDigit(fields[2], L'1')) {
-      Add(table, at, column + L"the key flag \"" + CString(fields[2]) + L"\" is not 0 or 1");
+      Add(table, at,
+          column + Say(L"关键字标志“{1}”不是 0 或 1", L"the key flag \"{1}\" is not 0 or 1",
+                       {CString(fields[2])}));
     }
     if (!isDigit(fields[3], L'6')) {
-      Add(table, at, column + L"the type \"" + CString(fields[3]) + L"\" is not 0 to 6");
+      Add(table, at,
+          column + Say(L"类型“{1}”不是 0 至 6", L"the type \"{1}\" is not 0 to 6",
+                       {CString(fields[3])}));
     }
   }
 
@@ -184,18 +216,66 @@ class CVerify {
       const CString form = DecodeText(slot);
       const std::size_t fields = SplitFields(form).size();
       const std::int64_t at = SlotOffset(info, i);
-      const CString row = L"row " + FormatInt(i + 1);
+      const CString row = Say(L"第 {1} 行", L"row {1}", {FormatInt(i + 1)});
       if (std::ssize(slot) == info.m_nItemLen) {
-        Add(info.m_strTableName, at, row + L" fills its slot and may be cut");
+        Add(info.m_strTableName, at,
+            Say(L"{1}占满其槽，可能被截断", L"{1} fills its slot and may be cut", {row}));
       }
       if (fields != wanted) {
         Add(info.m_strTableName, at,
-            row + L" has " + FormatInt(static_cast<int>(fields)) + L" fields instead of " +
-                FormatInt(static_cast<int>(wanted)));
+            Say(L"{1}有 {2} 个字段，应为 {3} 个", L"{1} has {2} fields instead of {3}",
+                {row, FormatInt(static_cast<int>(fields)), FormatInt(static_cast<int>(wanted))}));
       }
       Text(info.m_strTableName, at, row, form);
       State(info.m_strTableName, at, row, form);
     }
+  }
+
+  // What sound rows say. Deleted ones are read by nobody.
+  void Values(const CDataFileInfo& info) {
+    std::string heading;
+    std::vector<std::string> slots;
+    CDataTable table;
+    if (!ReadHeading(m_file, info, heading) || !ReadSlots(m_file, info, slots) ||
+        !StoredHeading(heading, table.m_Title)) {
+      return;
+    }
+    for (const std::string& slot : slots) {
+      CDataItem row;
+      if (!RowOf(DecodeText(slot), table.m_Title, false, row)) return;
+      row.m_nIndex = table.m_arrItem.GetSize();
+      table.m_arrItem.Add(row);
+    }
+    for (int i = 0; i < table.GetTableRowNum(); ++i) {
+      if (!IsDeleted(std::as_const(table)[i].m_nModifyType)) Values(info, table, i);
+    }
+  }
+
+  void Values(const CDataFileInfo& info, const CDataTable& table, int position) {
+    const CDataItem& row = table[position];
+    const CString place = Say(L"第 {1} 行", L"row {1}, ", {FormatInt(position + 1)});
+    for (int i = 0; i < row.GetItemLength(); ++i) {
+      if (Fits(row[i])) continue;
+      Value(info, position, place + MisfitText(row[i]).In(MessageLanguage()));
+    }
+    const int same = table.IsHaveValue(row, position);
+    if (same < 0 || same > position) return;
+    Value(info, position,
+          Say(L"第 {1} 行的关键字“{2}”与第 {3} 行相同，查找时只能得到前一行",
+              L"row {1} has the key \"{2}\" of row {3}, which is all that look-ups find",
+              {FormatInt(position + 1), KeyText(table, row), FormatInt(same + 1)}));
+  }
+
+  void Value(const CDataFileInfo& info, int position, const CString& what) {
+    m_faults.push_back({info.m_strTableName, SlotOffset(info, position), what, true});
+  }
+
+  static CString KeyText(const CDataTable& table, const CDataItem& row) {
+    CArray<int, int> keys;
+    table.m_Title.GetDataTableKeyIndex(keys);
+    CString text;
+    for (const int key : keys) text += (text.IsEmpty() ? L"" : L", ") + row[key].m_strValue;
+    return text;
   }
 
   // The states that a save writes, and those of rows that were never marked as saved.
@@ -204,7 +284,9 @@ class CVerify {
     if (fields.size() < 2) return;
     const int state = ToInt(fields[1]);
     if (FormatInt(state) == CString(fields[1]) && state >= -2 && state <= 4) return;
-    Add(table, at, row + L": the state \"" + CString(fields[1]) + L"\" is not -2 to 4");
+    Add(table, at,
+        Say(L"{1}：状态“{2}”不是 -2 至 4", L"{1}: the state \"{2}\" is not -2 to 4",
+            {row, CString(fields[1])}));
   }
 
   // What a save of fewer rows leaves behind, and what is left of rows whose count was lost.
@@ -214,9 +296,7 @@ class CVerify {
     const int blocks = info.m_arrBlockPos.GetSize();
     const int needed = BlocksFor(rows);
     if (blocks > needed) {
-      Note(name, recordAt,
-           FormatInt(rows) + L" rows need " + FormatInt(needed) +
-               L" blocks, but the record names " + FormatInt(blocks));
+      Note(name, recordAt, Needs(rows, needed, blocks));
     }
     info.m_nRowNum = FirstRowOf(blocks);
     std::vector<std::string> slots;
@@ -226,8 +306,9 @@ class CVerify {
     const auto first = std::find_if(behind, slots.end(), isUsed);
     if (first == slots.end()) return;
     Note(name, SlotOffset(info, static_cast<int>(first - slots.begin())),
-         FormatInt(std::count_if(first, slots.end(), isUsed)) +
-             L" rows lie behind the record's count of " + FormatInt(rows));
+         Say(L"在目录记录的行数 {2} 之后还有 {1} 行",
+             L"{1} rows lie behind the record's count of {2}",
+             {FormatInt(std::count_if(first, slots.end(), isUsed)), FormatInt(rows)}));
   }
 
   const CStoreFile& m_file;
@@ -264,7 +345,8 @@ bool ReadStoreInfo(const CString& path, CStoreInfo& info) {
   if (!file) return false;
   CTableDirectory directory;
   if (!directory.Read(*file)) {
-    SetStoreError(CStoreTrouble::NotAStore, path, path + L": not a table file");
+    SetStoreError(CStoreTrouble::NotAStore, path,
+                  Say(L"{1}: 不是截面库文件", L"{1}: not a table file", {path}));
     return false;
   }
   info.m_strLine = directory.InfoLine();

@@ -34,11 +34,13 @@ struct CStoreFault {
   CString m_strTable;          // empty for a fault of the file
   std::int64_t m_nOffset = 0;  // in the file
   CString m_strWhat;
+  bool m_bValue = false;  // of what a row says; the table can be read
 };
 
-// Every structural fault of a table file, and, as notes, what harms nothing: rows behind a table's
-// count of them and blocks that it does not need, as a save of fewer rows leaves them. False, with
-// LastStoreError set, when the file cannot be read.
+// Every fault of a table file: of its structure, and of rows whose values read as something else (a
+// number that is none) or that no look-up finds (a key that an earlier row has). As notes, what
+// harms nothing: rows behind a table's count of them and blocks that it does not need, as a save of
+// fewer rows leaves them. False, with LastStoreError set, when the file cannot be read.
 ORV3CAL_API bool VerifyStore(const CString& path, std::vector<CStoreFault>& faults,
                              std::vector<CStoreFault>* notes = nullptr);
 

@@ -3,6 +3,7 @@
 #include <mutex>
 #include <vector>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
@@ -105,7 +106,8 @@ int CDataTable::WriteUserJmTable(const wchar_t* fileName) {
   if (name.IsEmpty()) {
     orv3::ClearStoreError();
     return orv3::SetStoreError(orv3::CStoreTrouble::Refused, folder,
-                               folder + L": a user table needs the name of a file");
+                               orv3::Say(L"{1}: 用户表应给出文件名",
+                                         L"{1}: a user table needs the name of a file", {folder}));
   }
   orv3::Files().MakeFolder(folder);
   return WriteTable(folder + name, orv3::kUserKind, 0);

@@ -3,6 +3,7 @@
 #include <set>
 #include <utility>
 
+#include "framework/language.h"
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
@@ -195,8 +196,9 @@ int CDataTable::CollectRows(const CStoreFile& file, bool all,
     CString why;
     if (!orv3::EncodeRow(row, orv3::StateOnFile(row.m_nModifyType), m_Title, write.m_strSlot,
                          why)) {
-      return orv3::RefuseSave(
-          file, L"table \"" + m_strTableName + L"\", row " + orv3::FormatInt(i + 1) + L": " + why);
+      return orv3::RefuseSave(file,
+                              orv3::Say(L"表“{1}”第 {2} 行：{3}", L"table \"{1}\", row {2}: {3}",
+                                        {m_strTableName, orv3::FormatInt(i + 1), why}));
     }
     writes.push_back(std::move(write));
   }

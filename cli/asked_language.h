@@ -1,0 +1,23 @@
+// The language that a command is asked to answer in: --lang, else the variable ORV3CAL_LANG.
+#pragma once
+
+#include <CLI/App.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "framework/language.h"
+
+namespace orv3::cli {
+
+// Takes the language from the arguments as typed, or from the variable, and makes it that of
+// messages. CCommandError for a variable that names none; of --lang the parser tells.
+void TakeLanguage(const std::vector<std::string>& arguments);
+
+// What was asked for; none when nothing was: answers are in English then, reports in Chinese.
+std::optional<CLanguage> AskedLanguage();
+
+// Adds --lang to a command and to those below it.
+void AddLanguageOption(CLI::App& command);
+
+}  // namespace orv3::cli

@@ -1,0 +1,107 @@
+// Every command answers and refuses in one language, the one that is asked for.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <regex>
+
+#include "cli/run_program.h"
+
+namespace {
+
+bool HasChinese(const std::string& text) {
+  return std::regex_search(text, std::regex("[\xE4-\xE9][\x80-\xBF][\x80-\xBF]"));
+}
+
+// Words in a row, commands and JSON apart.
+bool HasEnglish(const std::string& text) {
+  const std::string words = std::regex_replace(text, std::regex("orv3cal[ a-z]*|\"[^\"]*\""), "");
+  return std::regex_search(words, std::regex("[a-z]{2,} [a-z]{2,}"));
+}
+
+TEST(Language, HoldsForEveryRefusal) {
+  const COwnFile csv("language.csv", "No.:text:key,n:int\na,1\nb,1.5\n");
+  const COwnFile twice("twice.csv", "No.:text:key,n:int,n:int\na,1,2\n");
+  const COwnFile blank("blank.csv", "\nd\n");
+  const COwnFile json("language.json", "{\"d\" 1}");
+  const COwnFile key("key.json", "{\"nothing\": 1}");
+  const COwnFile store("language.KDB");
+  const std::string on = " --store " + store.m_strPath;
+  const std::string commands[] = {
+      "nothing",
+      "rows",
+      "rows T --bogus",
+      "rows T --json --csv",
+      "rows T --guard",
+      "rows T --where \"\"",
+      "rows T --store missing.KDB",
+      "show T x --turn 45",
+      "show T x --gap 2000",
+      "show T",
+      "section nothing",
+      "section circle 0",
+      "section circle 1e-200",
+      "section circle x",
+      "section circle 1 --base 1",
+      "section circle 1 --name \"a,b\"",
+      "section circle 1 --svg missing/x.svg",
+      "tables --mask x",
+      "lattice missing.json",
+      "lattice " + json.m_strPath,
+      "lattice " + key.m_strPath,
+      "gauge T",
+      "check bolt missing.json",
+      "check bolt " + json.m_strPath,
+      "check bolt " + key.m_strPath,
+      "check bolt " + blank.m_strPath,
+      "check nothing x.json",
+      "store",
+      "store info missing.KDB",
+      "store verify " + csv.m_strPath,
+      "store import missing.kvb" + on,
+      "store import missing.csv --table T" + on,
+      "store import " + blank.m_strPath + " --table T" + on,
+      "store import " + twice.m_strPath + " --table T" + on,
+      "store import " + csv.m_strPath + " --table T" + on,  // one row comes in
+      "store import " + csv.m_strPath + " --table T" + on,
+      "store add T --set No.=a" + on,
+      "store add T --set No.=c --set n=1.5" + on,
+      "store edit T b --set n=2" + on,
+      "store edit T a --set n=99999999999" + on,
+      "store edit T a --set n=2 --store missing.KDB",
+      "store delete T x" + on,
+      "store export T --to x.txt" + on,
+      "store export T --to " + store.m_strPath + on,
+  };
+  for (const std::string& command : commands) {
+    SCOPED_TRACE(command);
+    const CRunResult english = RunProgram(command + " --lang en");
+    const CRunResult chinese = RunProgram(command + " --lang zh");
+    EXPECT_NE(english.m_nExit, 0);
+    EXPECT_EQ(english.m_nExit, chinese.m_nExit);
+    EXPECT_FALSE(HasChinese(english.m_strOut + english.m_strError))
+        << english.m_strOut << english.m_strError;
+    EXPECT_TRUE(HasChinese(chinese.m_strOut + chinese.m_strError));
+    EXPECT_FALSE(HasEnglish(chinese.m_strOut + chinese.m_strError))
+        << chinese.m_strOut << chinese.m_strError;
+  }
+}
+
+TEST(Language, IsTheVariablesUnlessTheCommandSays) {
+  const auto set = [](const char* value) {
+#ifdef _WIN32
+    _putenv_s("ORV3CAL_LANG", value);
+#else
+    setenv("ORV3CAL_LANG", value, 1);
+#endif
+  };
+  set("zh");
+  EXPECT_TRUE(HasChinese(RunProgram("rows").m_strError));
+  EXPECT_TRUE(HasEnglish(RunProgram("rows --lang en").m_strError));
+  set("fr");
+  ExpectRefused({{"rows", {"ORV3CAL_LANG", "fr", "zh or en"}}});
+  set("");
+  EXPECT_TRUE(HasEnglish(RunProgram("rows").m_strError));
+}
+
+}  // namespace
