@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string_view>
 
-#include "framework/plain_number.cpp"
+#include "framework/plain_number.h"
 
 namespace orv3 {
 namespace {

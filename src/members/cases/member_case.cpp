@@ -6,7 +6,7 @@
 #include "codes/edition.h"
 #include "codes/steel_strength.h"
 #include "framework/number_text.h"
-#include "framework/plain_number.cpp"
+#include "framework/plain_number.h"
 #include "framework/utf8.h"
 #include "sections/load_data_table.h"
 #include "sections/section_check.h"
