@@ -76,7 +76,12 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
 
   bool null() override { return Other("null"); }
-  bool boolean(bool value) override { return Other(value ? "true" : "false"); }
+  bool boolean(bool value) override {
+    if (m_nDepth != Field() || m_nKey == kNone || !Rule().m_bBoolean)
+      return Other(value ? "true" : "false");
+    Set(value ? 1.0 : 0.0);
+    return true;
+  }
   bool number_integer(number_integer_t value) override {
     return Number(static_cast<double>(value), std::to_string(value));
   }
@@ -97,9 +102,12 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     if (m_nDepth == 0) m_case.m_bSingle = true;
     if (InObjects()) {
       StartMember();
+    } else if (m_nDepth == Field() && m_bObjectNext) {
+      m_bInObject = true;
     } else if (m_nDepth >= Field()) {
       Other("{…}");
     }
+    m_bObjectNext = false;
     ++m_nDepth;
     return true;
   }
@@ -151,8 +159,8 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     return "第 " + number(line + 5) + " 行第 " + number(column + 9) + " 列";
   }
 
-  // How many brackets are open where the keys of a case stand.
-  int Field() const noexcept { return m_case.m_bSingle ? 1 : 2; }
+  // How many brackets are open where the keys of a case, or of the object within it, stand.
+  int Field() const noexcept { return (m_case.m_bSingle ? 1 : 2) + (m_bInObject ? 1 : 0); }
   std::vector<double>& List() { return m_arrList[static_cast<std::size_t>(m_nKey)]; }
   const CCaseSchema::CRule& Rule() const {
     return m_arrRule[static_cast<std::size_t>(m_nKey == m_nSpare ? m_nTwice : m_nKey)];
@@ -162,6 +170,7 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     m_case.m_arrValue.assign(m_arrRule.size() + 1, std::nullopt);
     m_case.m_fault.reset();
     m_nKey = kNone;
+    m_bInObject = m_bObjectNext = false;
     m_bytes.StartCase();
   }
 
@@ -176,7 +185,14 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     if (!m_case.m_fault) m_case.m_fault = std::move(fault);
   }
 
-  void FindKey(const std::string& key) {
+  void FindKey(const std::string& name) {
+    m_bObjectNext = !m_bInObject && m_schema.IsObject(name);
+    if (m_bObjectNext) {
+      m_strObject = name;
+      m_nKey = kNone;
+      return;
+    }
+    const std::string key = m_bInObject ? m_strObject + '.' + name : name;
     m_nKey = m_schema.Find(key);
     if (m_nKey == kNone) return Fault(m_schema.Unknown(key));
     if (!m_case.m_arrValue[static_cast<std::size_t>(m_nKey)]) return;
@@ -235,6 +251,12 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   // What stands where it cannot: no object as a case, or a value that no key takes.
   bool Other(const std::string& text) {
+    if (std::exchange(m_bObjectNext, false)) {
+      Fault({m_strObject,
+             {text + " 不可用", text + " is not possible"},
+             {"请给出花括号内的键", "give its keys in braces"}});
+      return true;
+    }
     if (m_nDepth == 0) {
       m_file.Refuse({"没有算例；请给出一个对象或对象的数组",
                      "holds no case; give an object, or an array of them"});
@@ -303,7 +325,13 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
 
   bool End() {
-    if (--m_nDepth == Field() - 1 && m_nDepth > 0) HandOver();
+    if (--m_nDepth != Field() - 1) return true;
+    if (m_bInObject) {
+      m_bInObject = false;
+      m_nKey = kNone;
+    } else if (m_nDepth > 0) {
+      HandOver();
+    }
     return true;
   }
 
@@ -320,6 +348,9 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   bool m_bList = false;
   bool m_bMember = false;              // within an object of a key's list
   int m_nMember = kNone;               // whose number comes next
+  std::string m_strObject;             // the object within the case that was named last
+  bool m_bObjectNext = false;          // its value comes next
+  bool m_bInObject = false;            // its keys are read
   std::vector<std::string> m_arrText;  // what the values point to, by key
   std::vector<std::vector<double>> m_arrList;
 };

@@ -32,6 +32,8 @@ void ReadType(const std::string& type, CCaseSchema::CRule& rule) {
     rule.m_bText = true;
   } else if (type == "array") {
     rule.m_bArray = true;
+  } else if (type == "boolean") {
+    rule.m_bBoolean = true;
   } else {
     Outside("type " + type);
   }
@@ -119,6 +121,7 @@ std::optional<CText> Wrong(const CCaseSchema::CRule& rule, const CKeyValue& valu
     return NotPossible(ValueText(value));
   }
   if (const auto* number = std::get_if<double>(&value)) {
+    if (rule.m_bBoolean && (*number == 0 || *number == 1)) return std::nullopt;
     const bool bKind = rule.m_bNumber && !(rule.m_bInteger && *number != std::floor(*number));
     if (bKind && Within(*number, rule.m_range) && Among(rule.m_arrNumber, *number))
       return std::nullopt;
@@ -168,6 +171,7 @@ CText CCaseSchema::CRule::Right() const {
     return {"请给出对象的数组，每个含 " + members,
             "give an array of objects, each with " + members};
   }
+  if (m_bBoolean) return {"请给出 true 或 false", "give true or false"};
   CText words = m_bInteger ? CText{"请给出整数", "give a whole number"}
                            : CText{"请给出数值", "give a number"};
   Append(words, RangeWords(m_range));
@@ -186,8 +190,13 @@ CCaseSchema::CCaseSchema(std::string_view text) {
   }
   if (json.at("type") != "object" || json.at("additionalProperties") != false)
     Outside("a schema of anything but one closed object");
-  for (const auto& entry : json.at("properties").items())
-    m_arrRule.push_back(ReadRule(entry.key(), entry.value()));
+  for (const auto& entry : json.at("properties").items()) {
+    if (entry.value().value("type", CJson()) == "object") {
+      AddObject(entry.key(), entry.value());
+    } else {
+      m_arrRule.push_back(ReadRule(entry.key(), entry.value()));
+    }
+  }
   CNeed always;
   always.m_arrKey = Positions(json.at("required"));
   m_arrNeed.push_back(always);
@@ -195,6 +204,23 @@ CCaseSchema::CCaseSchema(std::string_view text) {
     m_arrNeed.push_back(Condition(each));
   for (const CJson& each : json.value("oneOf", CJson::array()))
     m_arrAlternative.push_back(Positions(each.at("required")));
+}
+
+void CCaseSchema::AddObject(const std::string& key, const CJson& json) {
+  for (const auto& entry : json.items()) {
+    static constexpr const char* kWords[] = {"description", "type", "properties",
+                                             "additionalProperties"};
+    if (std::find(std::begin(kWords), std::end(kWords), entry.key()) == std::end(kWords))
+      Outside(key + ": " + entry.key());
+  }
+  if (json.at("additionalProperties") != false) Outside(key + ": an open object");
+  m_arrObject.push_back(key);
+  for (const auto& entry : json.at("properties").items())
+    m_arrRule.push_back(ReadRule(key + "." + entry.key(), entry.value()));
+}
+
+bool CCaseSchema::IsObject(std::string_view key) const noexcept {
+  return std::find(m_arrObject.begin(), m_arrObject.end(), key) != m_arrObject.end();
 }
 
 std::vector<int> CCaseSchema::Positions(const CJson& keys) const {

@@ -1,8 +1,9 @@
 // What a JSON Schema (docs/schema) asks of a case, compiled once and asked case by case.
 //
-// Of JSON Schema it understands what those files use: type, enum, minimum, exclusiveMinimum,
-// maximum, exclusiveMaximum, items (numbers, or closed objects of
-// numbers that are all required), required, additionalProperties, oneOf lists of required keys,
+// Of JSON Schema it understands what those files use: closed objects within the object, whose keys
+// are "outer.inner" from here on, type, enum, minimum, exclusiveMinimum, maximum, exclusiveMaximum,
+// items (numbers, or closed objects of numbers that are all required), required,
+// additionalProperties, oneOf lists of required keys,
 // and allOf with if (const or minimum of one key) and then (required, and properties that are
 // false: keys that must not be there). Anything else is refused at the start, so that a schema
 // never promises what is not checked.
@@ -39,6 +40,7 @@ class CCaseSchema {
     bool m_bInteger = false;
     bool m_bText = false;
     bool m_bArray = false;
+    bool m_bBoolean = false;             // 1 or 0 as a value
     std::vector<std::string> m_arrText;  // allowed texts
     std::vector<double> m_arrNumber;     // allowed numbers
     CRange m_range;
@@ -53,6 +55,8 @@ class CCaseSchema {
   const std::vector<CRule>& Rules() const noexcept { return m_arrRule; }
   // The position of a key, -1 for an unknown one.
   int Find(std::string_view key) const noexcept;
+  // Whether an object stands at this key, with keys of its own.
+  bool IsObject(std::string_view key) const noexcept;
   // The fault of an unknown key, which names the known ones.
   CCaseFault Unknown(std::string_view key) const;
   // The first thing wrong with a case.
@@ -71,8 +75,10 @@ class CCaseSchema {
   std::optional<CCaseFault> CheckAlternatives(const CCaseValues& values) const;
   CNeed Condition(const CJson& json) const;
   std::vector<int> Positions(const CJson& keys) const;
+  void AddObject(const std::string& key, const CJson& json);
 
   std::vector<CRule> m_arrRule;
+  std::vector<std::string> m_arrObject;
   std::vector<CNeed> m_arrNeed;
   std::vector<std::vector<int>> m_arrAlternative;
 };

@@ -14,8 +14,10 @@
 #include "case_source.h"
 #include "check_answers.h"
 #include "check_editions.h"
+#include "check_member.h"
 #include "commands.h"
 #include "connections/report/connection_report.h"
+#include "edition_option.h"
 #include "error.h"
 #include "framework/excerpt.h"
 #include "framework/language.h"
@@ -38,6 +40,7 @@ struct COptions {
   std::string report;
   std::string project;
   std::string code;  // of --code
+  CStoreOptions store;
 
   // Of what is printed, and of the report.
   CLanguage Language() const noexcept { return MessageLanguage(); }
@@ -251,7 +254,16 @@ class CChecker {
   std::string m_strFirstFault;
 };
 
+CExit RunMembers(const COptions& options) {
+  if (!options.report.empty() || !options.project.empty())
+    Refuse({"--report：构件尚无计算书；请用 --json 或 --csv",
+            "--report: members have no report yet; right would be --json or --csv"});
+  return CheckMembers({options.file, options.code, options.json, options.csv, options.sort,
+                       options.Language(), options.store});
+}
+
 CExit RunCheck(const COptions& options) {
+  if (options.kind == "member") return RunMembers(options);
   if (options.kind == "bolt")
     return CChecker<CBoltCheck, CBoltCheck2017>(options, kBoltSchema).Run();
   if (options.kind == "fillet")
@@ -271,12 +283,12 @@ std::string FileName(const std::string& name) {
 void AddCheckCommand(CLI::App& program) {
   auto options = std::make_shared<COptions>();
   CLI::App* command = program.add_subcommand(
-      "check", Say("验算螺栓群、角焊缝、对接焊缝或角焊缝群；有一个不满足时退出状态为 1",
-                   "Check bolt groups, fillet welds, butt welds or groups of fillet welds; exit "
-                   "status 1 when one fails"));
+      "check", Say("验算螺栓群、角焊缝、对接焊缝、角焊缝群或构件；有一个不满足时退出状态为 1",
+                   "Check bolt groups, fillet welds, butt welds, groups of fillet welds or "
+                   "members; exit status 1 when one fails"));
   command->add_option("KIND", options->kind, Say("验算的种类", "What to check"))
       ->required()
-      ->check(CLI::IsMember({"bolt", "fillet", "butt", "weld-group"}));
+      ->check(CLI::IsMember({"bolt", "fillet", "butt", "weld-group", "member"}));
   command
       ->add_option(
           "FILE", options->file,
@@ -311,6 +323,7 @@ void AddCheckCommand(CLI::App& program) {
                        "2003 (withdrawn, for existing structures) or both; the variable "
                        "ORV3CAL_CODE if it is not given, else 2017"))
       ->type_name("YEAR");
+  AddStoreOptions(*command, options->store);
   command->callback([options] {
     const CExit exit = RunCheck(*options);
     if (exit != CExit::Done) throw exit;

@@ -17,6 +17,7 @@ void AddOutlineCommand(CLI::App& program);
 void AddLatticeCommand(CLI::App& program);
 void AddCodeCommand(CLI::App& program);
 void AddCheckCommand(CLI::App& program);
+void AddChooseCommand(CLI::App& program);
 void AddGaugeCommand(CLI::App& program);
 void AddStoreCommand(CLI::App& program);
 
@@ -24,6 +25,6 @@ void AddStoreCommand(CLI::App& program);
 inline constexpr void (*kCommands[])(CLI::App&) = {
     AddStylesCommand, AddSectionCommand, AddTablesCommand,  AddRowsCommand,
     AddShowCommand,   AddOutlineCommand, AddLatticeCommand, AddCodeCommand,
-    AddCheckCommand,  AddGaugeCommand,   AddStoreCommand};
+    AddCheckCommand,  AddChooseCommand,  AddGaugeCommand,   AddStoreCommand};
 
 }  // namespace orv3::cli

@@ -1,6 +1,6 @@
 # Puts the schemas of docs/schema into the command.
 set(schemas "#include \"schemas.h\"\n\nnamespace orv3::cli {\n\n")
-foreach(kind Bolt Fillet Butt WeldGroup Lattice)
+foreach(kind Bolt Fillet Butt WeldGroup Lattice Member)
   # WeldGroup: weld-group
   string(REGEX REPLACE "([a-z])([A-Z])" "\\1-\\2" name ${kind})
   string(TOLOWER ${name} name)

@@ -10,5 +10,6 @@ extern const std::string_view kFilletSchema;
 extern const std::string_view kButtSchema;
 extern const std::string_view kWeldGroupSchema;
 extern const std::string_view kLatticeSchema;
+extern const std::string_view kMemberSchema;
 
 }  // namespace orv3::cli

@@ -1,0 +1,411 @@
+#include "members/cases/member_case.h"
+
+#include <cmath>
+
+#include "catalogue/outline/row_spacing.h"
+#include "codes/edition.h"
+#include "codes/steel_strength.h"
+#include "framework/number_text.h"
+#include "framework/plain_number.h"
+#include "framework/utf8.h"
+#include "sections/load_data_table.h"
+#include "sections/section_check.h"
+#include "sections/section_figures.h"
+#include "sections/section_style.h"
+
+namespace orv3 {
+
+std::span<const CInputKey<CMemberCase>> MemberInputKeys() {
+  using C = CMemberCase;
+  static const CInputKey<C> kKeys[] = {
+      {"id", &C::m_strId, "", {"编号", "name of the case"}},
+      {"code", &C::m_strCode, "", {"规范版本", "edition of the code"}},
+      {"section.table", &C::m_strTable, "", {"截面表", "table of the section"}},
+      {"section.no", &C::m_strNo, "", {"截面型号", "number of the section"}},
+      {"section.gap", &C::m_dGap, "mm", {"组合间距", "gap of a pair"}},
+      {"section.style", &C::m_strStyle, "", {"截面类型", "style of the section"}},
+      {"section.sizes", &C::m_sizes, "mm", {"截面尺寸", "sizes of the section"}},
+      {"steel", &C::m_strSteel, "", {"钢材", "steel"}},
+      {"edges", &C::m_strEdges, "", {"翼缘边", "flange edges"}},
+      {"N", &C::m_dN, "kN", {"轴力 N", "axial force N"}},
+      {"Mx", &C::m_Mx, "kN·mm", {"弯矩 Mx", "moment Mx"}},
+      {"My", &C::m_My, "kN·mm", {"弯矩 My", "moment My"}},
+      {"Mqx", &C::m_dMqx, "kN·mm", {"荷载弯矩 Mqx", "moment of the load Mqx"}},
+      {"Mqy", &C::m_dMqy, "kN·mm", {"荷载弯矩 Mqy", "moment of the load Mqy"}},
+      {"Vx", &C::m_dVx, "kN", {"剪力 Vx", "shear Vx"}},
+      {"Vy", &C::m_dVy, "kN", {"剪力 Vy", "shear Vy"}},
+      {"load", &C::m_strLoad, "", {"横向荷载", "transverse load"}},
+      {"loadFlange", &C::m_strLoadFlange, "", {"荷载作用翼缘", "flange of the load"}},
+      {"supports", &C::m_dSupports, "", {"跨中侧向支承", "lateral supports in the span"}},
+      {"sway", &C::m_dSway, "", {"有侧移", "sway"}},
+      {"lengths.x", &C::m_dLx, "mm", {"计算长度 x", "effective length x"}},
+      {"lengths.y", &C::m_dLy, "mm", {"计算长度 y", "effective length y"}},
+      {"lengths.z", &C::m_dLz, "mm", {"扭转计算长度", "effective length of torsion"}},
+      {"lengths.span", &C::m_dSpan, "mm", {"受压翼缘自由长度", "free span of the flange"}},
+      {"net.A", &C::m_dNetA, "", {"净截面比", "net share of the area"}},
+      {"net.W", &C::m_dNetW, "", {"净截面模量比", "net share of the modulus"}},
+      {"dynamic", &C::m_dDynamic, "", {"直接动力荷载", "direct dynamic load"}},
+      {"limit", &C::m_dLimit, "", {"容许长细比", "slenderness limit"}},
+  };
+  return kKeys;
+}
+
+bool CMemberCheck::Refuse(CCaseFault fault) {
+  m_fault = std::move(fault);
+  return false;
+}
+
+bool CMemberCheck::Refuse(const char* key, CText what, CText right) {
+  return Refuse(CCaseFault{key, std::move(what), std::move(right)});
+}
+
+// --- The section ---------------------------------------------------------------------------------
+
+namespace {
+
+CDataItem TableRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
+  const CString table = FromUtf8(input.m_strTable);
+  CDataItem row = CLoadDataTable::GetSysTemJMItem(table, FromUtf8(input.m_strNo));
+  if (row.IsEmpty()) {
+    const std::string named = input.m_strTable + " " + input.m_strNo;
+    fault = CCaseFault{"section",
+                       {"库中没有 " + named, "the store has no " + named},
+                       {"请给出库中的表和型号", "give a table and a number of the store"}};
+    return row;
+  }
+  if (std::isnan(input.m_dGap)) return row;
+  if (PairSpacingSign(row.GetTableName()).IsEmpty() || input.m_dGap < 0 ||
+      input.m_dGap != std::floor(input.m_dGap) || input.m_dGap > 1000) {
+    fault = CCaseFault{
+        "section.gap",
+        {"不可用", "is not possible"},
+        {"请只给组合截面整数毫米的间距", "give the gap of a pair alone, in whole millimetres"}};
+    return row;
+  }
+  return WithPairSpacing(row, static_cast<int>(input.m_dGap));
+}
+
+const CSectionStyle* StyleNamed(const std::string& name) {
+  if (const auto* style = FindSectionAlias(name)) return style;
+  const CString text = FromUtf8(name);
+  if (const auto* style = FindSectionStyle(std::wstring_view(text.GetString()))) return style;
+  return IsNumber(text) ? FindSectionStyle(ToInt(text)) : nullptr;
+}
+
+CDataItem StyleRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
+  const CSectionStyle* style = StyleNamed(input.m_strStyle);
+  if (style == nullptr) {
+    fault = CCaseFault{"section.style",
+                       {input.m_strStyle + " 不是截面类型", input.m_strStyle + " is no style"},
+                       {"请给出类型号 0 至 14、表名或别名",
+                        "give a style number 0 to 14, its table or its alias"}};
+    return {};
+  }
+  std::vector<double> sizes = input.m_sizes.m_arrEach;
+  if (sizes.empty() && input.m_sizes.m_dUniform != 0) sizes = {input.m_sizes.m_dUniform};
+  if (static_cast<int>(sizes.size()) != style->m_nSizes) {
+    const std::string count = std::to_string(style->m_nSizes);
+    fault = CCaseFault{"section.sizes",
+                       {"尺寸个数不对", "has another number of sizes"},
+                       {"请给出 " + count + " 个尺寸", "give " + count + " sizes"}};
+    return {};
+  }
+  if (const auto wrong = CheckSectionSizes(*style, sizes)) {
+    fault = CCaseFault{"section.sizes",
+                       {"围不成截面：" + wrong->m_strText, "bound no section: " + wrong->m_strText},
+                       {"请改正尺寸", "give sizes that do"}};
+    return {};
+  }
+  CSteelJMData record;
+  CArray<double, double> values;
+  for (const double size : sizes) values.Add(size);
+  record.SetSectSize(style->m_nStyle, values);
+  CSteelJMData::CalSectCharacterStyle(record);
+  return ExactRow(record);
+}
+
+}  // namespace
+
+CMemberRow* CMemberCheck::Section(const CMemberCase& input) {
+  const bool bTable = !input.m_strTable.empty();
+  const bool bSizes = !input.m_strStyle.empty();
+  if (bTable == bSizes) {
+    Refuse("section",
+           bTable ? CText{"给了不止一种", "is given in more than one way"}
+                  : CText{"缺失", "is missing"},
+           {"请给出 table 与 no，或 style 与 sizes", "give table with no, or style with sizes"});
+    return nullptr;
+  }
+  std::string name = bTable ? input.m_strTable + '\n' + input.m_strNo : input.m_strStyle;
+  const auto add = [&name](double value) { name += '\n' + ToUtf8(FormatShortest(value)); };
+  if (bTable) {
+    add(input.m_dGap);
+  } else {
+    add(input.m_sizes.m_dUniform);
+    for (const double size : input.m_sizes.m_arrEach) add(size);
+  }
+  auto& found = m_mapSection[name];
+  if (!found) {
+    found = std::make_unique<CFound>();
+    const CDataItem row =
+        bTable ? TableRow(input, found->m_fault) : StyleRow(input, found->m_fault);
+    if (!found->m_fault) found->m_fault = ReadMemberRow(row, found->m_row);
+  }
+  if (found->m_fault) {
+    Refuse(*found->m_fault);
+    return nullptr;
+  }
+  return &found->m_row;
+}
+
+// --- Edition and steel ---------------------------------------------------------------------------
+
+bool CMemberCheck::ReadEdition(const CMemberCase& input) {
+  m_nEdition = m_nDefault;
+  if (input.m_strCode.empty()) return true;
+  const auto edition = EditionByYear(input.m_strCode);
+  if (!edition) return Refuse("code", edition.Refusal().m_what, edition.Refusal().m_right);
+  m_nEdition = *edition;
+  return true;
+}
+
+bool CMemberCheck::ReadSteel(const CMemberCase& input, const CMemberRow& section) {
+  if (input.m_strSteel.empty()) {
+    return Refuse("steel", {"缺失", "is missing"},
+                  {"请给出钢材牌号", "give the grade of the steel"});
+  }
+  const auto grade = GradeByName(m_nEdition, input.m_strSteel);
+  if (!grade) return Refuse("steel", grade.Refusal().m_what, grade.Refusal().m_right);
+  const CSteelProduct product = section.m_bTube ? CSteelProduct::Tube : CSteelProduct::Plate;
+  const auto thick = SteelStrengths(m_nEdition, *grade, section.m_dThickest, product);
+  if (!thick) return Refuse("steel", thick.Refusal().m_what, thick.Refusal().m_right);
+  const auto web = SteelStrengths(m_nEdition, *grade, section.m_dWebThick, product);
+  if (!web) return Refuse("steel", web.Refusal().m_what, web.Refusal().m_right);
+  m_steel.m_nEdition = m_nEdition;
+  m_steel.m_nGrade = *grade;
+  m_steel.m_dF = thick->m_dF;
+  m_steel.m_dFv = web->m_dFv;
+  m_steel.m_dFu = thick->m_dFu.value_or(0);
+  m_steel.m_dFy = thick->m_dFy;
+  return true;
+}
+
+bool CMemberCheck::ReadClasses(const CMemberCase& input, const CMemberRow& section) {
+  if (!input.m_strEdges.empty() && !section.HasEdges()) {
+    return Refuse("edges", {"只用于焊接工字形和 T 形截面", "is for welded I and T sections alone"},
+                  {"请删去", "leave it out"});
+  }
+  if (input.m_strEdges != "" && input.m_strEdges != "rolled" && input.m_strEdges != "flame-cut") {
+    return Refuse("edges", {input.m_strEdges + " 不可用", input.m_strEdges + " is not possible"},
+                  {"请给出 flame-cut 或 rolled", "give flame-cut or rolled"});
+  }
+  if (!(input.m_dN < 0)) return true;  // classes are asked by compression alone
+  const bool bRolled = input.m_strEdges == "rolled";
+  const CBucklingShape shape = bRolled ? section.m_nRolled : section.m_nFlameCut;
+  const double t = section.m_dThickest;
+  const CSteelGrade grade = m_steel.m_nGrade;
+  const auto x = BucklingClass(m_nEdition, shape, CSectionAxis::X, t, grade);
+  const auto y = BucklingClass(m_nEdition, shape, CSectionAxis::Y, t, grade);
+  if (!x || !y) {
+    const CCodeRefusal& refusal = !x ? x.Refusal() : y.Refusal();
+    return Refuse("section", refusal.m_what, refusal.m_right);
+  }
+  m_steel.m_nClassX = *x;
+  m_steel.m_nClassY = *y;
+  return true;
+}
+
+// --- Forces --------------------------------------------------------------------------------------
+
+bool CMemberCheck::ReadCourse(const char* key, const CSpacing& moment, const char* loadKey,
+                              double Mq, CMomentCourse& course) {
+  course = {};
+  course.m_nLoad = m_nLoad;
+  const bool bLoad = m_nLoad != CSpanLoad::None;
+  if (moment.m_arrEach.empty()) {
+    if (!std::isnan(Mq)) {
+      return Refuse(loadKey,
+                    {std::string("只与 ") + key + " 的两个端弯矩一起使用",
+                     std::string("goes with two end moments at ") + key + " alone"},
+                    {"请删去", "leave it out"});
+    }
+    const double M = 1000 * moment.m_dUniform;
+    if (bLoad) {
+      course.m_dMq = M;
+    } else {
+      course.m_dM1 = course.m_dM2 = M;
+    }
+    return true;
+  }
+  if (moment.m_arrEach.size() != 2) {
+    return Refuse(key, {"应为一个弯矩或两个端弯矩", "is neither one moment nor two end moments"},
+                  {"请给出 M 或 [M1, M2]", "give M or [M1, M2]"});
+  }
+  const double first = moment.m_arrEach[0], second = moment.m_arrEach[1];
+  const bool bFirst = std::fabs(first) >= std::fabs(second);
+  course.m_dM1 = 1000 * (bFirst ? first : second);
+  course.m_dM2 = 1000 * (bFirst ? second : first);
+  if (!bLoad) {
+    if (std::isnan(Mq)) return true;
+    return Refuse(loadKey, {"没有荷载", "has no load"},
+                  {"请给出 load，或删去", "give load, or leave it out"});
+  }
+  if (std::isnan(Mq)) {
+    return Refuse(loadKey, {"缺失", "is missing"},
+                  {"请给出荷载在简支跨度上的最大弯矩",
+                   "give the greatest moment of the load on a simple span"});
+  }
+  course.m_dMq = 1000 * Mq;
+  return true;
+}
+
+bool CMemberCheck::ReadForces(const CMemberCase& input) {
+  for (const auto& [key, value] :
+       {std::pair{"N", input.m_dN}, {"Vx", input.m_dVx}, {"Vy", input.m_dVy}}) {
+    if (std::isinf(value) || (std::isnan(value) && *key != 'N'))
+      return Refuse(key, {"不是有限数", "is no finite number"}, {"请给出数值", "give a number"});
+  }
+  m_loads.m_dN = std::isnan(input.m_dN) ? 0 : 1000 * input.m_dN;
+  m_loads.m_dVx = 1000 * input.m_dVx;
+  m_loads.m_dVy = 1000 * input.m_dVy;
+  m_nLoad = input.m_strLoad == "uniform"   ? CSpanLoad::Uniform
+            : input.m_strLoad == "midspan" ? CSpanLoad::Midspan
+                                           : CSpanLoad::None;
+  if (m_nLoad == CSpanLoad::None && !input.m_strLoad.empty() && input.m_strLoad != "none") {
+    return Refuse("load", {input.m_strLoad + " 不可用", input.m_strLoad + " is not possible"},
+                  {"请给出 none、uniform 或 midspan", "give none, uniform or midspan"});
+  }
+  if (!ReadCourse("Mx", input.m_Mx, "Mqx", input.m_dMqx, m_loads.m_x)) return false;
+  if (!ReadCourse("My", input.m_My, "Mqy", input.m_dMqy, m_loads.m_y)) return false;
+  const bool bMoment = !m_loads.m_x.IsZero() || !m_loads.m_y.IsZero();
+  const bool bLoad = m_loads.m_x.HasLoad() || m_loads.m_y.HasLoad();
+  const CText leave = {"请删去", "leave it out"};
+  if (m_nLoad != CSpanLoad::None && !bMoment)
+    return Refuse("load", {"没有弯矩", "has no moment"},
+                  {"请给出 Mx 或 My，或删去", "give Mx or My, or leave it out"});
+  if (!input.m_strLoadFlange.empty() && !bLoad)
+    return Refuse("loadFlange", {"没有荷载", "has no load"}, leave);
+  if (!input.m_strLoadFlange.empty() && input.m_strLoadFlange != "upper" &&
+      input.m_strLoadFlange != "lower") {
+    return Refuse("loadFlange",
+                  {input.m_strLoadFlange + " 不可用", input.m_strLoadFlange + " is not possible"},
+                  {"请给出 upper 或 lower", "give upper or lower"});
+  }
+  m_loads.m_bUpper = input.m_strLoadFlange != "lower";
+  m_loads.m_nSupports = 0;
+  if (!std::isnan(input.m_dSupports)) {
+    if (input.m_dSupports != 0 && input.m_dSupports != 1 && input.m_dSupports != 2) {
+      return Refuse("supports",
+                    {PlainNumber(input.m_dSupports) + " 不可用",
+                     PlainNumber(input.m_dSupports) + " is not possible"},
+                    {"请给出 0、1 或 2", "give 0, 1 or 2"});
+    }
+    if (!bMoment)
+      return Refuse("supports", {"没有荷载也没有端弯矩", "has neither a load nor end moments"},
+                    leave);
+    m_loads.m_nSupports = static_cast<int>(input.m_dSupports);
+  }
+  m_loads.m_bSway = input.m_dSway == 1;
+  m_loads.m_bDynamic = input.m_dDynamic == 1;
+  if (m_loads.m_dN == 0 && !bMoment && m_loads.m_dVx == 0 && m_loads.m_dVy == 0)
+    return Refuse("N", {"没有任何力", "stands with no force at all"},
+                  {"请给出一个力", "give a force"});
+  return true;
+}
+
+bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& section) {
+  const auto positive = [this](const char* key, double value) {
+    if (std::isfinite(value) && value > 0) return true;
+    if (std::isnan(value)) {
+      return Refuse(key, {"缺失", "is missing"},
+                    {"请给出大于 0 的长度 mm", "give a length above 0 mm"});
+    }
+    return Refuse(key, {PlainNumber(value) + " 不可用", PlainNumber(value) + " is not possible"},
+                  {"请给出大于 0 的长度 mm", "give a length above 0 mm"});
+  };
+  for (const auto& [key, value] : {std::pair{"lengths.x", input.m_dLx},
+                                   {"lengths.y", input.m_dLy},
+                                   {"lengths.z", input.m_dLz},
+                                   {"lengths.span", input.m_dSpan}}) {
+    if (!std::isnan(value) && !positive(key, value)) return false;
+  }
+  m_loads.m_dLx = input.m_dLx;
+  m_loads.m_dLy = input.m_dLy;
+  m_loads.m_dLz = std::isnan(input.m_dLz) ? input.m_dLy : input.m_dLz;
+  m_loads.m_dSpan = std::isnan(input.m_dSpan) ? input.m_dLy : input.m_dSpan;
+  if (m_loads.m_dN != 0 &&
+      (!positive("lengths.x", input.m_dLx) || !positive("lengths.y", input.m_dLy)))
+    return false;
+  const CMemberShape shape = section.m_section.m_nShape;
+  const bool bSpan = !m_loads.m_x.IsZero() && shape != CMemberShape::Tube && !IsSolid(shape);
+  if (bSpan && !positive("lengths.span", m_loads.m_dSpan)) return false;
+  m_loads.m_dLimit = 0;
+  if (std::isnan(input.m_dLimit)) return true;
+  if (!(std::isfinite(input.m_dLimit) && input.m_dLimit > 0)) {
+    return Refuse("limit", {"不可用", "is not possible"},
+                  {"请给出大于 0 的数", "give a number above 0"});
+  }
+  m_loads.m_dLimit = input.m_dLimit;
+  return true;
+}
+
+bool CMemberCheck::ReadNet(const CMemberCase& input) {
+  const auto share = [this](const char* key, double value, double& to) {
+    to = 1;
+    if (std::isnan(value)) return true;
+    if (!(value > 0 && value <= 1)) {
+      return Refuse(key, {PlainNumber(value) + " 不可用", PlainNumber(value) + " is not possible"},
+                    {"请给出大于 0 且不大于 1 的比值", "give a share above 0 and at most 1"});
+    }
+    to = value;
+    return true;
+  };
+  m_loads.m_bNet = !std::isnan(input.m_dNetA) || !std::isnan(input.m_dNetW);
+  return share("net.A", input.m_dNetA, m_loads.m_dNetA) &&
+         share("net.W", input.m_dNetW, m_loads.m_dNetW);
+}
+
+// --- The check -----------------------------------------------------------------------------------
+
+bool NeedsTorsion(const CMemberSection& s, const CMemberSteel& steel,
+                  const CMemberLoads& loads) noexcept {
+  if (!(loads.m_dN < 0)) return false;
+  switch (s.m_nShape) {
+    case CMemberShape::T:
+    case CMemberShape::Channel:
+      return true;
+    case CMemberShape::I:
+      return !s.IsEqualFlanged() ||
+             (steel.m_nEdition == CCodeEdition::Gb2017 && loads.m_x.IsZero() && loads.m_y.IsZero());
+    default:
+      return false;
+  }
+}
+
+bool CMemberCheck::Run(const CMemberCase& input) {
+  CMemberRow* section = Section(input);
+  return section != nullptr && Run(input, *section);
+}
+
+bool CMemberCheck::Run(const CMemberCase& input, CMemberRow& section) {
+  m_fault.reset();
+  if (!ReadEdition(input) || !ReadSteel(input, section) || !ReadClasses(input, section) ||
+      !ReadForces(input) || !ReadLengths(input, section) || !ReadNet(input))
+    return false;
+  m_loads.m_bTapered = section.m_bTapered;
+  m_loads.m_dRolledNumber = section.m_dRolledNumber;
+  if (NeedsTorsion(section.m_section, m_steel, m_loads) && !AddTorsion(section)) {
+    return Refuse(
+        "section",
+        {"扭转常数无法由轮廓算出", "has no torsion constant that follows from its outline"},
+        {"请选用其他截面", "take another section"});
+  }
+  CheckSolidMember(section.m_section, m_steel, m_loads, m_answer);
+  if (m_answer.IsRefused()) return Refuse(*m_answer.Fault());
+  if (m_steel.m_nGrade == CSteelGrade::Q355) m_answer.Note(CMemberNote::Q355);
+  if (section.HasEdges() && input.m_strEdges.empty() && m_loads.m_dN < 0)
+    m_answer.Note(CMemberNote::RolledEdges);
+  return true;
+}
+
+}  // namespace orv3

@@ -1,0 +1,401 @@
+#include "members/cases/member_row.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "catalogue/outline/row_figures.h"
+#include "catalogue/outline/row_outline.h"
+#include "framework/number_text.h"
+#include "framework/utf8.h"
+#include "outlines/exact_properties.h"
+#include "sections/load_data_table.h"
+#include "sections/section_kind.h"
+
+namespace orv3 {
+namespace {
+
+using K = CSectionKind;
+
+CCaseFault NotCovered(CText what) {
+  return {"section",
+          std::move(what),
+          {"请选用工字形、H、T、槽钢、角钢及其组合、箱形、圆管或实心截面",
+           "take an I, H, T, channel, angle, pair of angles, box, tube or solid section"}};
+}
+
+CCaseFault Unsymmetric() {
+  return NotCovered(
+      {"是不对称截面，不在验算范围内", "is an unsymmetric section, which is not covered"});
+}
+
+CCaseFault ThinWall(double t) {
+  const std::string is = ToUtf8(FormatShortest(t));
+  return {"section",
+          {"壁厚 " + is + " mm 的冷弯截面属冷弯薄壁型钢规范",
+           "a cold-formed section with a wall of " + is +
+               " mm belongs to the code of thin-walled sections"},
+          {"请给壁厚不小于 6 mm 的截面", "take a section with walls of at least 6 mm"}};
+}
+
+// Area and height above the inner edge of a flange of two root fillets of radius r, as shares.
+constexpr double kFilletArea = 0.4292;   // (2 - pi/2) r^2
+constexpr double kFilletReach = 0.2234;  // of r
+
+class CRowReader {
+ public:
+  CRowReader(const CDataItem& row, CMemberRow& member)
+      : m_row(row), r(member), s(member.m_section) {}
+
+  std::optional<CCaseFault> Read();
+
+ private:
+  double Cell(const wchar_t* sign) const {
+    const int index = m_row.GetSignIndex(sign);
+    return index < 0 ? 0 : ToDouble(m_row[index].m_strValue);
+  }
+  void Figures(const CRowFigures& f);
+  std::optional<CCaseFault> Plates(CSectionKind kind);
+  void H(double b, double h, double tw, double tf, double root);
+  void GeneralI(CMemberFlange top, CMemberFlange bottom, double h, double tw, double root);
+  void Tee(double b, double h, double tw, double tf, double root);
+  void Channel(double b, double h, double tw, double t, double root);
+  void BoxOf(double b, double h, double top, double bottom, double left, double right);
+  void TubeOf(double d, double t);
+  std::optional<CCaseFault> Angles(CSectionKind kind);
+  void Leg(const CDataItem& part, bool bUnequal);
+  void Solid(CSectionKind kind);
+  void Buckling(CBucklingShape flameCut, CBucklingShape rolled) {
+    r.m_nFlameCut = flameCut;
+    r.m_nRolled = rolled;
+  }
+  void Web(double h0, double t) {
+    s.m_dH0 = h0;
+    s.m_dTw = r.m_dWebThick = t;
+  }
+
+  const CDataItem& m_row;
+  CMemberRow& r;
+  CMemberSection& s;
+  CRowFigures m_figures;
+};
+
+void CRowReader::Figures(const CRowFigures& f) {
+  s.m_dHeight = f.m_dHeight;
+  s.m_dWidth = f.m_dWidth;
+  s.m_dA = f.m_dArea;
+  s.m_dIx = f.m_dIx;
+  s.m_dIy = f.m_dIy;
+  s.m_dRx = f.m_dRx;
+  s.m_dRy = f.m_dRy;
+  s.m_dRmin = f.m_dRleast;
+  s.m_dWTop = f.m_dWTop;
+  s.m_dWBottom = f.m_dWBottom;
+  s.m_dWSide = std::min(f.m_dWLeft, f.m_dWRight);
+  r.m_dThickest = r.m_dWebThick = f.m_dThickest;
+}
+
+// First moments of the flanges and the root fillets, and of the whole half.
+void CRowReader::GeneralI(CMemberFlange top, CMemberFlange bottom, double h, double tw,
+                          double root) {
+  s.m_nShape = CMemberShape::I;
+  s.m_top = top;
+  s.m_bottom = bottom;
+  Web(h - top.m_dThick - bottom.m_dThick - 2 * root, tw);
+  const double up = s.m_dIx / s.m_dWTop, down = h - up;
+  const auto beyond = [&](const CMemberFlange& f, double edge) {
+    const double inner = edge - f.m_dThick;
+    return f.m_dWidth * f.m_dThick * (edge - f.m_dThick / 2) + tw * root * (inner - root / 2) +
+           kFilletArea * root * root * (inner - kFilletReach * root);
+  };
+  s.m_dWebTop = up - top.m_dThick - root;
+  s.m_dWebBottom = down - bottom.m_dThick - root;
+  s.m_dSTop = beyond(top, up);
+  s.m_dSBottom = beyond(bottom, down);
+  s.m_cutY = {std::max(s.m_dSTop + tw * s.m_dWebTop * s.m_dWebTop / 2,
+                       s.m_dSBottom + tw * s.m_dWebBottom * s.m_dWebBottom / 2),
+              tw};
+  if (const double printed = Cell(L"Sx(cm^3)"); printed > 0) s.m_cutY.m_dS = 1000 * printed;
+  // The flanges carry Vx, cut in their middle.
+  const auto half = [](const CMemberFlange& f) { return f.m_dThick * f.m_dWidth * f.m_dWidth / 8; };
+  s.m_cutX = {half(top) + half(bottom), top.m_dThick + bottom.m_dThick};
+}
+
+void CRowReader::H(double b, double h, double tw, double tf, double root) {
+  const CMemberFlange flange = {b, tf, (b - tw) / 2 - root};
+  GeneralI(flange, flange, h, tw, root);
+}
+
+void CRowReader::Tee(double b, double h, double tw, double tf, double root) {
+  s.m_nShape = CMemberShape::T;
+  s.m_top = {b, tf, (b - tw) / 2 - root};
+  Web(h - tf - root, tw);
+  const double up = s.m_dIx / s.m_dWTop, down = h - up;
+  s.m_dWebTop = up - tf - root;
+  s.m_dWebBottom = down;
+  s.m_dSTop = b * tf * (up - tf / 2) + tw * root * (up - tf - root / 2) +
+              kFilletArea * root * root * (up - tf - kFilletReach * root);
+  s.m_cutY = {tw * down * down / 2, tw};
+  s.m_cutX = {tf * b * b / 8, tf};
+}
+
+void CRowReader::Channel(double b, double h, double tw, double t, double root) {
+  s.m_nShape = CMemberShape::Channel;
+  s.m_top = s.m_bottom = {b, t, b - tw - root};
+  Web(h - 2 * t - 2 * root, tw);
+  s.m_dWebTop = s.m_dWebBottom = s.m_dH0 / 2;
+  const double inner = h / 2 - t;
+  s.m_dSTop = s.m_dSBottom = b * t * (h - t) / 2 + tw * root * (inner - root / 2) +
+                             kFilletArea / 2 * root * root * (inner - kFilletReach * root);
+  s.m_cutY = {s.m_dSTop + tw * s.m_dWebTop * s.m_dWebTop / 2, tw};
+  if (const double printed = Cell(L"Sx(cm^3)"); printed > 0) s.m_cutY.m_dS = 1000 * printed;
+  const double beyond = b - m_figures.m_dXc;
+  s.m_cutX = {t * beyond * beyond, 2 * t};
+}
+
+void CRowReader::BoxOf(double b, double h, double top, double bottom, double left, double right) {
+  s.m_nShape = CMemberShape::Box;
+  s.m_nWebs = 2;
+  s.m_top = {b, top, 0};
+  s.m_bottom = {b, bottom, 0};
+  s.m_dB0 = b - left - right;
+  Web(h - top - bottom, std::min(left, right));
+  r.m_dWebThick = std::max(left, right);
+  const double up = s.m_dIx / s.m_dWTop, down = h - up, both = left + right;
+  s.m_dWebTop = up - top;
+  s.m_dWebBottom = down - bottom;
+  s.m_dSTop = b * top * (up - top / 2);
+  s.m_dSBottom = b * bottom * (down - bottom / 2);
+  s.m_cutY = {s.m_dSTop + both * s.m_dWebTop * s.m_dWebTop / 2, both};
+  const double x = m_figures.m_dXc;
+  const double inner = std::max(0.0, x - left);
+  s.m_cutX = {h * left * (x - left / 2) + (top + bottom) * inner * inner / 2, top + bottom};
+}
+
+void CRowReader::TubeOf(double d, double t) {
+  s.m_nShape = CMemberShape::Tube;
+  s.m_dDiameter = d;
+  s.m_dWall = r.m_dThickest = r.m_dWebThick = t;
+  const double inner = d - 2 * t;
+  s.m_cutY = s.m_cutX = {(d * d * d - inner * inner * inner) / 12, 2 * t};
+  r.m_bTube = true;
+}
+
+void CRowReader::Solid(CSectionKind kind) {
+  const bool bRound = kind == K::SolidCircle;
+  s.m_nShape = bRound ? CMemberShape::SolidRound : CMemberShape::SolidBar;
+  const double d = s.m_dHeight;
+  if (bRound) {
+    s.m_cutY = s.m_cutX = {d * d * d / 12, d};
+  } else {  // 1.5 V / A: exact for rectangle and triangle, above the hexagon's
+    s.m_cutY = {1.5 * s.m_dIx / s.m_dA, 1};
+    s.m_cutX = {1.5 * s.m_dIy / s.m_dA, 1};
+  }
+  r.m_dThickest = r.m_dWebThick = std::min(s.m_dHeight, s.m_dWidth);
+  Buckling(CBucklingShape::Solid, CBucklingShape::Solid);
+}
+
+void CRowReader::Leg(const CDataItem& part, bool bUnequal) {
+  const auto cell = [&part](const wchar_t* sign) {
+    const int index = part.GetSignIndex(sign);
+    return index < 0 ? 0 : ToDouble(part[index].m_strValue);
+  };
+  s.m_dLegShort = cell(L"b(mm)");
+  s.m_dLeg = bUnequal ? cell(L"B(mm)") : s.m_dLegShort;
+  s.m_dLegThick = cell(L"t(mm)");
+  s.m_dLegRoot = cell(L"r(mm)");
+}
+
+std::optional<CCaseFault> CRowReader::Angles(CSectionKind kind) {
+  const CSectionPair* pair = TableOf(kind).m_pPair;
+  const bool bUnequal =
+      kind == K::UnequalAngle || kind == K::LongLegPair || kind == K::ShortLegPair;
+  const CBucklingShape shape =
+      bUnequal ? CBucklingShape::RolledUnequalAngle : CBucklingShape::RolledEqualAngle;
+  Buckling(shape, shape);
+  if (pair == nullptr) {
+    s.m_nShape = CMemberShape::Angle;
+    Leg(m_row, bUnequal);
+    return std::nullopt;
+  }
+  // A pair's class is that of a T of angles: b about both axes.
+  Buckling(CBucklingShape::RolledT, CBucklingShape::RolledT);
+  s.m_nShape = kind == K::EqualAnglePair ? CMemberShape::EqualPair
+               : kind == K::LongLegPair  ? CMemberShape::LongLegPair
+                                         : CMemberShape::ShortLegPair;
+  const CString no = m_row[0].m_strValue;
+  const CDataItem part =
+      CLoadDataTable::GetSysTemJMItem(TableOf(pair->m_part).m_szName, no.Mid(pair->m_nMarker));
+  Leg(part, bUnequal);
+  if (s.m_dLeg > 0 && s.m_dLegShort > 0 && s.m_dLegThick > 0) return std::nullopt;
+  return CCaseFault{
+      "section",
+      {"库中没有组合的角钢 " + ToUtf8(no), "has no angle in the store for " + ToUtf8(no)},
+      {"请在库中加入该角钢", "add it to the store"}};
+}
+
+std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
+  using B = CBucklingShape;
+  switch (kind) {
+    case K::OrdinaryI:
+    case K::LightI:
+      H(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"t(mm)"), Cell(L"r(mm)"));
+      r.m_bTapered = true;
+      if (kind == K::OrdinaryI) r.m_dRolledNumber = Cell(L"h(mm)") / 10;
+      break;
+    case K::WideH:
+    case K::NarrowH:
+      H(Cell(L"B(mm)"), Cell(L"H(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), Cell(L"r(mm)"));
+      break;
+    case K::WeldedH:
+    case K::LightWeldedH:
+      H(Cell(L"B(mm)"), Cell(L"H(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), 0);
+      s.m_bRolled = false;
+      Buckling(B::WeldedIFlameCut, B::WeldedIRolled);
+      return std::nullopt;
+    case K::PlateH:
+      H(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), 0);
+      s.m_bRolled = false;
+      Buckling(B::WeldedIFlameCut, B::WeldedIRolled);
+      return std::nullopt;
+    case K::PlateGeneralH: {
+      const double tw = Cell(L"b(mm)"), top = Cell(L"bf1(mm)"), bottom = Cell(L"bf3(mm)");
+      if (top != Cell(L"bf2(mm)") || bottom != Cell(L"bf4(mm)")) return Unsymmetric();
+      if (!(top > 0 && bottom > 0 && tw > 0)) return Unsymmetric();
+      GeneralI({2 * top + tw, Cell(L"bh2(mm)"), top}, {2 * bottom + tw, Cell(L"bh1(mm)"), bottom},
+               Cell(L"h(mm)"), tw, 0);
+      s.m_bRolled = false;
+      Buckling(B::WeldedIFlameCut, B::WeldedIRolled);
+      return std::nullopt;
+    }
+    case K::SplitT:
+      Tee(Cell(L"B(mm)"), Cell(L"h(mm)"), Cell(L"t1(mm)"), Cell(L"t2(mm)"), Cell(L"r(mm)"));
+      Buckling(B::RolledT, B::RolledT);
+      return std::nullopt;
+    case K::PlateT: {
+      const double tw = Cell(L"b(mm)"), out = Cell(L"bf1(mm)");
+      if (out != Cell(L"bf2(mm)")) return Unsymmetric();
+      Tee(2 * out + tw, Cell(L"h(mm)"), tw, Cell(L"bh(mm)"), 0);
+      s.m_bRolled = false;
+      Buckling(B::WeldedTFlameCut, B::WeldedTRolled);
+      return std::nullopt;
+    }
+    case K::OrdinaryChannel:
+    case K::LightChannel:
+      Channel(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"t(mm)"), Cell(L"r(mm)"));
+      Buckling(B::RolledChannel, B::RolledChannel);
+      return std::nullopt;
+    case K::PlateChannel: {
+      const double tw = Cell(L"b(mm)"), out = Cell(L"bf1(mm)"), t = Cell(L"bh1(mm)");
+      if (out != Cell(L"bf2(mm)") || t != Cell(L"bh2(mm)")) return Unsymmetric();
+      Channel(out + tw, Cell(L"h(mm)"), tw, t, 0);
+      s.m_bRolled = false;
+      Buckling(B::RolledChannel, B::RolledChannel);
+      return std::nullopt;
+    }
+    case K::SquareTube: {
+      const double h = Cell(L"h(mm)"), t = Cell(L"t(mm)");
+      if (t < 6) return ThinWall(t);
+      BoxOf(h, h, t, t, t, t);
+      Buckling(B::RolledBox, B::RolledBox);
+      return std::nullopt;
+    }
+    case K::PlateBox: {
+      const double t = Cell(L"t(mm)");
+      BoxOf(Cell(L"b(mm)"), Cell(L"h(mm)"), t, t, t, t);
+      break;
+    }
+    case K::PlateGeneralBox:
+      BoxOf(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"t1(mm)"), Cell(L"t2(mm)"), Cell(L"t3(mm)"),
+            Cell(L"t4(mm)"));
+      if (Cell(L"t1(mm)") != Cell(L"t2(mm)") || Cell(L"t3(mm)") != Cell(L"t4(mm)"))
+        return Unsymmetric();
+      break;
+    case K::RoundTube: {
+      const double t = Cell(L"t(mm)");
+      if (t < 6) return ThinWall(t);
+      TubeOf(Cell(L"d(mm)"), t);
+      Buckling(B::WeldedTube, B::WeldedTube);
+      return std::nullopt;
+    }
+    case K::PlateTube:
+      TubeOf(2 * Cell(L"R(mm)"), Cell(L"R(mm)") - Cell(L"r(mm)"));
+      Buckling(B::WeldedTube, B::WeldedTube);
+      return std::nullopt;
+    case K::EqualAngle:
+    case K::UnequalAngle:
+    case K::EqualAnglePair:
+    case K::LongLegPair:
+    case K::ShortLegPair:
+      return Angles(kind);
+    case K::SolidCircle:
+    case K::SolidRectangle:
+    case K::SolidHexagon:
+    case K::SolidTriangle:
+      Solid(kind);
+      return std::nullopt;
+    case K::ColdChannel:
+    case K::LippedChannel:
+    case K::LippedZ:
+    case K::SlantLippedZ:
+    case K::ColdAngle:
+    case K::LippedAngle:
+      if (Cell(L"t(mm)") < 6) return ThinWall(Cell(L"t(mm)"));
+      [[fallthrough]];
+    default: {
+      const std::string table = ToUtf8(CString(TableOf(kind).m_szName));
+      return NotCovered(
+          {table + " 的构件不在验算范围内", "members of " + table + " are not covered"});
+    }
+  }
+  if (s.m_nShape == CMemberShape::Box) {
+    // The worse of the walls.
+    s.m_bRolled = false;
+    const double flange = s.m_dB0 / std::min(s.m_top.m_dThick, s.m_bottom.m_dThick);
+    const CBucklingShape shape = std::min(flange, s.m_dH0 / s.m_dTw) > 20
+                                     ? CBucklingShape::WeldedBox
+                                     : CBucklingShape::WeldedBoxThick;
+    Buckling(shape, shape);
+  } else {
+    const CBucklingShape shape =
+        s.m_top.m_dWidth / s.m_dHeight <= 0.8 ? B::RolledINarrow : B::RolledIWide;
+    Buckling(shape, shape);
+  }
+  return std::nullopt;
+}
+
+std::optional<CCaseFault> CRowReader::Read() {
+  const auto kind = FindSectionKind(m_row.GetTableName().GetString());
+  r = {};
+  if (!kind) return NotCovered({"不是截面表的行", "is no row of a section table"});
+  m_figures = RowFigures(m_row);
+  Figures(m_figures);
+  if (auto fault = Plates(*kind)) return fault;
+  const double all = s.m_dA + s.m_dIx + s.m_dIy + s.m_dRx + s.m_dRy;
+  if (!(std::isfinite(all) && s.m_dA > 0 && s.m_dIx > 0 && s.m_dIy > 0)) {
+    return CCaseFault{"section",
+                      {"缺少面积或惯性矩", "lacks its area or moments of inertia"},
+                      {"请给出完整的截面", "give a whole section"}};
+  }
+  r.m_arrLoop = RowOutline(m_row).m_arrLoop;
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member) {
+  return CRowReader(row, member).Read();
+}
+
+bool AddTorsion(CMemberRow& member) {
+  if (member.m_bExact) return true;
+  const CExactProperties exact = ExactProperties(member.m_arrLoop);
+  CMemberSection& s = member.m_section;
+  s.m_dIt = exact.It;
+  s.m_dIw = exact.Iw;
+  s.m_dXs = exact.xs - exact.xo;
+  s.m_dYs = exact.ys - exact.yo;
+  member.m_bExact = std::isfinite(s.m_dIt + s.m_dIw + s.m_dXs + s.m_dYs);
+  return member.m_bExact;
+}
+
+}  // namespace orv3

@@ -1,0 +1,37 @@
+// The section of a member from a row of a section table: plates from its sizes, figures as they are
+// printed, and what the row does not tell from its outline.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "codes/buckling.h"
+#include "drawing/path.h"
+#include "members/member_section.h"
+#include "reports/case_keys.h"
+#include "tables/data_item.h"
+
+namespace orv3 {
+
+struct CMemberRow {
+  CMemberSection m_section;
+  CBucklingShape m_nFlameCut = CBucklingShape::Solid;  // the shape in the tables of classes
+  CBucklingShape m_nRolled = CBucklingShape::Solid;    // with rolled or sheared edges
+  double m_dThickest = 0, m_dWebThick = 0;             // mm
+  bool m_bTube = false;                                // strengths by the table of tubes
+  bool m_bTapered = false;                             // I with tapered flanges
+  double m_dRolledNumber = 0;                          // of an ordinary rolled I
+  bool m_bExact = false;                               // It, Iw and the shear centre are there
+  std::vector<CPath> m_arrLoop;                        // the outline that they follow from
+
+  bool HasEdges() const noexcept { return m_nFlameCut != m_nRolled; }
+};
+
+// The fault names "section".
+ORV3CAL_API std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member);
+
+// Adds what torsion asks: It, Iw and the shear centre of the outline, once. False when they cannot
+// be computed.
+ORV3CAL_API bool AddTorsion(CMemberRow& member);
+
+}  // namespace orv3

@@ -1,0 +1,219 @@
+#include "members/member_answer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+#include "framework/plain_number.h"
+
+namespace orv3 {
+namespace {
+
+struct CKindText {
+  const char* m_szName;
+  CTextLiteral m_title;
+};
+
+constexpr CKindText kKinds[] = {
+    {"strength", {"强度", "strength"}},
+    {"net", {"净截面", "net section"}},
+    {"shear", {"抗剪", "shear"}},
+    {"combined", {"折算应力", "combined stress"}},
+    {"stability-x", {"绕 x 轴稳定", "stability about x"}},
+    {"stability-y", {"绕 y 轴稳定", "stability about y"}},
+    {"stability-z", {"扭转稳定", "torsional stability"}},
+    {"lateral", {"整体稳定", "lateral buckling"}},
+    {"slenderness", {"长细比", "slenderness"}},
+    {"flange", {"翼缘宽厚比", "flange"}},
+    {"web", {"腹板高厚比", "web"}},
+    {"wall", {"壁板宽厚比", "wall"}},
+    {"limbs", {"分肢", "limbs"}},
+    {"lacing", {"缀材", "lacing"}},
+};
+static_assert(std::size(kKinds) == kMemberCheckKinds);
+
+const CKindText& TextOf(CMemberCheckKind kind) { return kKinds[static_cast<std::size_t>(kind)]; }
+
+struct CNoteText {
+  CMemberNote m_nNote;
+  const char* m_szKey;
+  CTextLiteral m_text;
+};
+
+constexpr CNoteText kNotes[] = {
+    {CMemberNote::Q355, "steel", {"Q355 按 Q345 一栏取值", "Q355 is taken by the figures of Q345"}},
+    {CMemberNote::NoSupportsAtEnds,
+     "supports",
+     {"M1、M2 按受压翼缘自由段两端的弯矩取用",
+      "M1 and M2 are taken as the moments at the ends of the free span of the compression flange"}},
+    {CMemberNote::BetweenLoadAndEnds,
+     "load",
+     {"端弯矩与横向荷载同时作用：βb 取两者单独作用时的较小值",
+      "end moments together with a load: βb is the lesser of those of either alone"}},
+    {CMemberNote::HeavyTension,
+     "section",
+     {"βb：规范的表 C.0.1（2003：B.1）第 1 至 4 项不含加强受拉翼缘的截面",
+      "βb: items 1 to 4 of Table C.0.1 (2003: B.1) leave out sections with the heavier flange in "
+      "tension"}},
+    {CMemberNote::RolledITable,
+     "section",
+     {"仅端弯矩作用或轻型工字钢：φb 按 C.0.1（2003：B.1）由截面自身数值计算",
+      "end moments, or a light rolled I: φb by C.0.1 (2003: B.1) with the section's own figures"}},
+    {CMemberNote::Stiffeners,
+     "section",
+     {"腹板高厚比大于 80εk：应配置横向加劲肋，其局部稳定未在此验算",
+      "the web is over 80 εk: it needs stiffeners, whose panels are not checked here"}},
+    {CMemberNote::EffectiveSection,
+     "section",
+     {"板件为 S5 级：按有效截面计算", "a plate of class S5: taken with its effective section"}},
+    {CMemberNote::ShearCentre,
+     "section",
+     {"假定荷载通过剪心，不计扭转", "loads are taken through the shear centre, without torsion"}},
+    {CMemberNote::BoxBeyond,
+     "lengths",
+     {"超出免验整体稳定的限值，规范没有箱形截面的 φb：判为不通过",
+      "beyond the limits within which a box needs no check of lateral buckling; the code has no φb "
+      "of it: judged as failing"}},
+    {CMemberNote::TWebByAxial,
+     "section",
+     {"表 3.5.1 没有 T 形截面腹板：按 7.3.1 的限值",
+      "Table 3.5.1 has no web of a T: taken by the limit of 7.3.1"}},
+    {CMemberNote::AngleLengths,
+     "lengths",
+     {"单角钢绕最小轴失稳：取两个计算长度的较大值",
+      "a single angle buckles about its least axis: the greater of both lengths is taken"}},
+    {CMemberNote::TubeLoads,
+     "load",
+     {"有横向荷载的圆管：取最大合弯矩，β = 1",
+      "a tube with a load in the span: the greatest resultant moment, β = 1"}},
+    {CMemberNote::SwayWithLoad,
+     "sway",
+     {"有侧移：βm = 1 − 0.36N/Ncr；柱脚铰接的单层框架柱和多层框架底层柱有横向荷载时规范取 1.0",
+      "sway: βm = 1 − 0.36 N/Ncr; the code has 1.0 for loaded columns with pinned bases of "
+      "single-storey frames and of ground storeys"}},
+    {CMemberNote::HolesWithoutBolts,
+     "net",
+     {"受压：net 按没有螺栓的孔计", "compression: net is taken as holes without bolts"}},
+    {CMemberNote::RolledEdges, "edges", {"翼缘按焰切边", "flange edges are taken as flame-cut"}},
+    {CMemberNote::BattenStiffness,
+     "lacing",
+     {"假定同一截面处缀板的线刚度之和不小于柱分肢线刚度的 6 倍",
+      "the battens of one place are taken to be six times as stiff as a limb"}},
+    {CMemberNote::LimbMoment,
+     "Mx",
+     {"分肢按所分得的轴力作为轴心受压构件验算",
+      "limbs are checked for their share of the forces as struts"}},
+};
+
+const CNoteText& TextOf(CMemberNote note) {
+  return *std::find_if(std::begin(kNotes), std::end(kNotes),
+                       [note](const CNoteText& each) { return each.m_nNote == note; });
+}
+
+// The value of a symbol before the step `end`: the nearest above it, in the check or the given.
+const double* ValueOf(std::span<const CMemberStep> steps, std::string_view symbol) {
+  for (std::size_t i = steps.size(); i-- > 0;) {
+    if (symbol == steps[i].m_szSymbol) return &steps[i].m_dValue;
+  }
+  return nullptr;
+}
+
+// The formula with its symbols, and with their values.
+struct CFormulaText {
+  std::string m_strSymbols, m_strNumbers;
+};
+
+CFormulaText FormulaText(std::string_view formula, std::span<const CMemberStep> given,
+                         std::span<const CMemberStep> before) {
+  CFormulaText text;
+  while (!formula.empty()) {
+    const std::size_t open = formula.find('{');
+    text.m_strSymbols += formula.substr(0, open);
+    text.m_strNumbers += formula.substr(0, open);
+    if (open == std::string_view::npos) break;
+    const std::size_t close = formula.find('}', open);
+    const std::string_view symbol = formula.substr(open + 1, close - open - 1);
+    formula.remove_prefix(close + 1);
+    const double* value = ValueOf(before, symbol);
+    if (value == nullptr) value = ValueOf(given, symbol);
+    text.m_strSymbols += symbol;
+    text.m_strNumbers += value != nullptr ? PlainNumber(*value) : std::string(symbol);
+  }
+  return text;
+}
+
+}  // namespace
+
+const char* MemberCheckName(CMemberCheckKind kind) noexcept { return TextOf(kind).m_szName; }
+CTextLiteral MemberCheckTitle(CMemberCheckKind kind) noexcept { return TextOf(kind).m_title; }
+CTextLiteral MemberNoteText(CMemberNote note) noexcept { return TextOf(note).m_text; }
+const char* MemberNoteKey(CMemberNote note) noexcept { return TextOf(note).m_szKey; }
+
+void CMemberAnswer::Clear() {
+  m_results = {};
+  m_arrStep.clear();
+  m_arrPart.clear();
+  m_arrNote.clear();
+  m_fault.reset();
+}
+
+void CMemberAnswer::Close(const char* formula, double ratio) {
+  constexpr double kLastDigits = 1e-9;
+  CMemberCheckPart& part = m_arrPart.back();
+  part.m_bPass = ratio <= 1 + kLastDigits;
+  part.m_dRatio = part.m_bPass ? std::min(ratio, 1.0) : ratio;
+  Step("ratio", formula, part.m_dRatio);
+  part.m_nEnd = m_arrStep.size();
+}
+
+void CMemberAnswer::Note(CMemberNote note) {
+  if (std::find(m_arrNote.begin(), m_arrNote.end(), note) == m_arrNote.end())
+    m_arrNote.push_back(note);
+}
+
+bool CMemberAnswer::Pass() const noexcept {
+  return !m_arrPart.empty() && std::all_of(m_arrPart.begin(), m_arrPart.end(),
+                                           [](const CMemberCheckPart& p) { return p.m_bPass; });
+}
+
+const CMemberCheckPart& CMemberAnswer::Worst() const noexcept {
+  const CMemberCheckPart* worst = &m_arrPart.front();
+  for (const CMemberCheckPart& part : m_arrPart) {
+    if (std::isnan(worst->m_dRatio)) break;
+    if (!(part.m_dRatio <= worst->m_dRatio)) worst = &part;
+  }
+  return *worst;
+}
+
+const CMemberCheckPart* CMemberAnswer::Find(CMemberCheckKind kind) const noexcept {
+  for (const CMemberCheckPart& part : m_arrPart) {
+    if (part.m_nKind == kind) return &part;
+  }
+  return nullptr;
+}
+
+double CMemberAnswer::Ratio(CMemberCheckKind kind) const noexcept {
+  const CMemberCheckPart* part = Find(kind);
+  return part != nullptr ? part->m_dRatio : CMemberResults::kNone;
+}
+
+std::string CMemberAnswer::StepText(std::size_t index) const {
+  const CMemberStep& step = m_arrStep[index];
+  std::size_t first = 0;
+  for (const CMemberCheckPart& part : m_arrPart) {
+    if (part.m_nFirst <= index) first = part.m_nFirst;
+  }
+  std::string text = step.m_szSymbol;
+  if (step.m_szFormula != nullptr) {
+    const std::span all(m_arrStep);
+    const CFormulaText formula =
+        FormulaText(step.m_szFormula, Given(), all.subspan(first, index - first));
+    text += " = " + formula.m_strSymbols;
+    if (formula.m_strNumbers != formula.m_strSymbols) text += " = " + formula.m_strNumbers;
+  }
+  text += " = " + PlainNumber(step.m_dValue);
+  if (*step.m_szUnit != 0) text += std::string(" ") + step.m_szUnit;
+  return text;
+}
+
+}  // namespace orv3

@@ -1,0 +1,111 @@
+// One check of a solid-web member in its parts: what the strength, the stability and the plates of
+// a member share. Only solid_*.cpp include it.
+#pragma once
+
+#include <optional>
+
+#include "codes/lateral_buckling.h"
+#include "members/effective_section.h"
+#include "members/solid_member.h"
+
+namespace orv3 {
+
+class CSolidCheck {
+ public:
+  CSolidCheck(const CMemberSection& section, const CMemberSteel& steel, const CMemberLoads& loads,
+              CMemberAnswer& answer);
+  void Run();
+
+ private:
+  // --- solid_member.cpp
+  void Give();
+  void RefuseWhatIsNotCovered();
+  void Slenderness();
+  void TorsionalSlendernesses();
+  void SlendernessCheck();
+  void Net();
+  // --- solid_plates.cpp: classes and plasticity come before everything that asks gamma
+  struct CWebStress {
+    double m_dMax = 0;  // greatest compression at an end of the web
+    double m_dAlpha0 = 2;
+    CSide m_nSide = CSide::Top;  // where it is
+  };
+  CWebStress WebStress(double Mx) const;
+  void Plasticity();
+  void ClassifyPlates();
+  void ClassifyOpen();
+  void Classify(CClassElement element, double ratio, double alpha0);
+  double Class4(CClassElement element, double alpha0) const;  // the limit of S4
+  double Class5(CClassElement element) const;
+  void Reduce(const CWebStress& stress, CReducedPlates reduced);
+  double FlangeRatio() const;  // of the outstands that a moment compresses
+  double BoxFlangeRatio() const;
+  void Plates();
+  void AxialPlates();
+  void MomentPlates();
+  void MomentPlates2003();
+  void OpenPlates2017();
+  void ClosedPlates2017();
+  void NoteStiffeners(double h0tw);
+  void Limit(CMemberCheckKind kind, const char* clause, double value, double limit);
+  // --- solid_strength.cpp
+  void Strength();
+  double StrengthRatio(double Mx, bool bSteps);
+  void Shear();
+  void Combined();
+  // --- solid_stability.cpp
+  double Phi(double lambda, CBucklingClass bucklingClass) const;
+  void Stability();
+  void AxialStability(CMemberCheckKind kind, double lambda, double phi);
+  void BeamColumns();
+  void BeamColumnX();
+  void BeamColumnY();
+  void TubeTwoMoments();
+  CBeamSection BeamSection() const;
+  template <class VALUE>
+  const VALUE* Take(const char* key, const CCodeAnswer<VALUE>& answer);
+  double UniformPhiB(double lambdaY);
+  double BeamColumnPhiB();
+  double BeamBetaB(const CBeamSection& section);
+  double BeamPhiB();
+  void Lateral();
+  void LateralBox();
+
+  double F() const noexcept { return m.m_dF; }
+  bool Is2017() const noexcept { return m.m_nEdition == CCodeEdition::Gb2017; }
+  bool HasMoment() const noexcept { return !q.m_x.IsZero() || !q.m_y.IsZero(); }
+  bool IsBiaxial() const noexcept { return !q.m_x.IsZero() && !q.m_y.IsZero(); }
+  const CMemberFlange& CompressedFlange() const noexcept {
+    return m_nSide == CSide::Top ? s.m_top : s.m_bottom;
+  }
+  const char* Clause(const char* in2017, const char* in2003) const noexcept {
+    return Is2017() ? in2017 : in2003;
+  }
+  // Modulus of the edge that Mx compresses, and of the other.
+  double WCompressed() const noexcept { return m_nSide == CSide::Top ? s.m_dWTop : s.m_dWBottom; }
+  double WOther() const noexcept { return m_nSide == CSide::Top ? s.m_dWBottom : s.m_dWTop; }
+
+  const CMemberSection& s;
+  const CMemberSteel& m;
+  const CMemberLoads& q;
+  CMemberAnswer& a;
+  CMemberResults& r;
+
+  double m_dNc = 0;            // compression, >= 0
+  double m_dMx = 0;            // the governing one, with its sign
+  double m_dMy = 0;            // in magnitude
+  CSide m_nSide = CSide::Top;  // that Mx compresses
+  double m_dLambdaMax = 0;     // of both axes, without torsion
+  double m_dLambdaFx = 0;      // of flexure about x together with torsion (channels), else lambda x
+  double m_dPhiLeast = 1;
+  bool m_bGammaReduced = false;  // gamma x 1.0 for a flange beyond the limit of plasticity
+  double m_dGammaOther = 1;      // at the edge that Mx does not compress
+  std::optional<CSectionClass> m_class;
+  bool m_bBeyond = false;  // a plate beyond the last class
+  std::optional<CEffectiveSection> m_effective;
+  // Of a beam-column.
+  double m_dAe = 0, m_dShift = 0, m_dW1 = 0, m_dWy = 0, m_dEta = 1;
+  CEquivalentMoment m_inX, m_inY, m_outX, m_outY;
+};
+
+}  // namespace orv3

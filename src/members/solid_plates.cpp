@@ -1,0 +1,313 @@
+// Plates of a solid-web member: classes, plasticity and local stability. GB 50017-2017, 3.5.1,
+// 6.1.1, 6.1.2, 7.3, 8.4; GB 50017-2003, 4.1.1, 4.3, 5.4.
+#include <algorithm>
+#include <cmath>
+
+#include "codes/plasticity.h"
+#include "codes/width_limits.h"
+#include "members/solid_check.h"
+
+namespace orv3 {
+namespace {
+
+double Outstand(const CMemberFlange& flange) {
+  return flange.m_dThick > 0 ? flange.m_dOutstand / flange.m_dThick : 0;
+}
+
+CPlasticShape PlasticShapeOf(CMemberShape shape) {
+  switch (shape) {
+    case CMemberShape::T:
+      return CPlasticShape::T;
+    case CMemberShape::Box:
+      return CPlasticShape::Box;
+    case CMemberShape::Tube:
+      return CPlasticShape::Tube;
+    case CMemberShape::SolidRound:
+    case CMemberShape::SolidBar:
+      return CPlasticShape::SolidBar;
+    default:
+      return CPlasticShape::I;
+  }
+}
+
+bool HasFlanges(CMemberShape shape) {
+  return shape == CMemberShape::I || shape == CMemberShape::Channel || shape == CMemberShape::T;
+}
+
+}  // namespace
+
+// Stresses at the ends of the web, compression positive, Mx compressing the top when positive.
+CSolidCheck::CWebStress CSolidCheck::WebStress(double Mx) const {
+  const double axial = -q.m_dN / s.m_dA;
+  const double top = axial + Mx * s.m_dWebTop / s.m_dIx;
+  const double bottom = axial - Mx * s.m_dWebBottom / s.m_dIx;
+  const double greatest = std::max(top, bottom);
+  const double alpha0 = greatest > 0 ? (greatest - std::min(top, bottom)) / greatest : 2;
+  return {greatest, alpha0, top >= bottom ? CSide::Top : CSide::Bottom};
+}
+
+// --- Classes of 2017 -----------------------------------------------------------------------------
+
+void CSolidCheck::Classify(CClassElement element, double ratio, double alpha0) {
+  const auto found =
+      ClassLimits(m.m_nEdition, element, m.m_nGrade, std::min(alpha0, 2.0))->ClassOf(ratio);
+  if (!found) m_bBeyond = true;
+  m_class = std::max(m_class.value_or(CSectionClass::S1), found.value_or(CSectionClass::S5));
+}
+
+double CSolidCheck::Class4(CClassElement element, double alpha0) const {
+  return *ClassLimits(m.m_nEdition, element, m.m_nGrade, std::min(alpha0, 2.0))->m_arrLimit[3];
+}
+
+double CSolidCheck::Class5(CClassElement element) const {
+  return *ClassLimits(m.m_nEdition, element, m.m_nGrade)->m_arrLimit[4];
+}
+
+double CSolidCheck::FlangeRatio() const {
+  if (!q.m_y.IsZero()) return std::max(Outstand(s.m_top), Outstand(s.m_bottom));
+  return Outstand(CompressedFlange());
+}
+
+// Before every formula that asks gamma or an effective section.
+void CSolidCheck::Plasticity() {
+  if (!HasMoment()) return;
+  bool bSlender = false;
+  if (Is2017()) {
+    ClassifyPlates();
+    bSlender = m_bBeyond || m_class.value_or(CSectionClass::S1) > CSectionClass::S3;
+    if (m_class) r.m_szClass = SectionClassName(*m_class);
+  } else {
+    bSlender = HasFlanges(s.m_nShape) && FlangeRatio() > 13 * r.m_dEpsilonK;
+  }
+  const CPlasticUse use = q.m_bDynamic ? CPlasticUse::Elastic
+                          : bSlender   ? CPlasticUse::SlenderFlange
+                                       : CPlasticUse::Developed;
+  m_bGammaReduced = use != CPlasticUse::Developed;
+  const CPlasticFactors gamma = *PlasticFactors(m.m_nEdition, PlasticShapeOf(s.m_nShape), use);
+  r.m_dGammaX = m_nSide == CSide::Top ? gamma.m_dX : gamma.m_dXTip;
+  m_dGammaOther = m_nSide == CSide::Top ? gamma.m_dXTip : gamma.m_dX;
+  r.m_dGammaY = gamma.m_dY;
+}
+
+void CSolidCheck::ClassifyPlates() {
+  switch (s.m_nShape) {
+    case CMemberShape::I:
+    case CMemberShape::Channel:
+    case CMemberShape::T:
+      return ClassifyOpen();
+    case CMemberShape::Box: {
+      const CClassElement flange = m_dNc > 0         ? CClassElement::BoxWall
+                                   : !q.m_x.IsZero() ? CClassElement::BoxFlange
+                                                     : CClassElement::WebBending;
+      const CClassElement web = m_dNc > 0         ? CClassElement::BoxWall
+                                : !q.m_y.IsZero() ? CClassElement::BoxFlange
+                                                  : CClassElement::WebBending;
+      Classify(flange, BoxFlangeRatio(), 2);
+      Classify(web, s.m_dH0 / s.m_dTw, 2);
+      if (s.m_dH0 / s.m_dTw > Class4(web, 2) && !q.m_x.IsZero() && q.m_y.IsZero())
+        Reduce(WebStress(m_dMx), {.m_bWeb = true});
+      return;
+    }
+    case CMemberShape::Tube:
+      return Classify(CClassElement::Tube, s.m_dDiameter / s.m_dWall, 2);
+    default:
+      return;
+  }
+}
+
+void CSolidCheck::ClassifyOpen() {
+  const double flange = FlangeRatio();
+  const bool bFlange = CompressedFlange().m_dThick > 0 || !q.m_y.IsZero();
+  if (bFlange) Classify(CClassElement::FlangeOutstand, flange, 2);
+  if (s.m_nShape == CMemberShape::T) return;
+  const CWebStress stress = WebStress(m_dMx);
+  const bool bWeb = stress.m_dMax > 0;
+  const CClassElement web = m_dNc > 0 ? CClassElement::WebCompressed : CClassElement::WebBending;
+  const double h0tw = s.m_dH0 / s.m_dTw;
+  if (bWeb) Classify(web, h0tw, stress.m_dAlpha0);
+  const bool bWebReduced = bWeb && h0tw > Class4(web, stress.m_dAlpha0);
+  const bool bFlangeReduced = bFlange && m_dNc == 0 && s.m_nShape == CMemberShape::I &&
+                              flange > Class4(CClassElement::FlangeOutstand, 2);
+  if (bWebReduced || bFlangeReduced)
+    Reduce(stress, {bWebReduced, bFlangeReduced, bFlangeReduced && !q.m_y.IsZero()});
+}
+
+void CSolidCheck::Reduce(const CWebStress& stress, CReducedPlates reduced) {
+  const CEffectiveSection e =
+      EffectiveSection(s, m_nSide, stress.m_dAlpha0, r.m_dEpsilonK, reduced);
+  m_effective = e;
+  a.Note(CMemberNote::EffectiveSection);
+  if (reduced.m_bWeb) {
+    a.Step("α0", nullptr, stress.m_dAlpha0);
+    a.Step("kσ", "16/(2 − {α0} + √((2 − {α0})² + 0.112·{α0}²))", e.m_dKSigma);
+    a.Step("h0", nullptr, s.m_dH0, "mm");
+    a.Step("tw", nullptr, s.m_dTw, "mm");
+    a.Step("λn,p", "{h0}/{tw}/(28.1·√{kσ})/{εk}", e.m_dLambdaNp);
+    a.Step("ρ", e.m_dRho < 1 ? "(1 − 0.19/{λn,p})/{λn,p}" : nullptr, e.m_dRho);
+    a.Step("hc", nullptr, e.m_dHc, "mm");
+  }
+  a.Step("Ae", nullptr, e.m_dA, "mm²");
+  a.Step("e", nullptr, e.m_dE, "mm");
+  a.Step("We1x", nullptr, e.m_dWCompressed, "mm³");
+}
+
+// --- Local stability -----------------------------------------------------------------------------
+
+void CSolidCheck::Limit(CMemberCheckKind kind, const char* clause, double value, double limit) {
+  a.Open(kind, clause);
+  a.Step("b/t", nullptr, value);
+  a.Step("[b/t]", nullptr, limit);
+  a.Close("{b/t}/{[b/t]}", value / limit);
+}
+
+void CSolidCheck::Plates() {
+  if (HasMoment()) {
+    MomentPlates();
+  } else if (m_dNc > 0) {
+    AxialPlates();
+  }
+}
+
+double CSolidCheck::BoxFlangeRatio() const {
+  return s.m_dB0 / std::min(s.m_top.m_dThick, s.m_bottom.m_dThick);
+}
+
+// 7.3.1 and 7.3.2; 2003: 5.4.1 to 5.4.5.
+void CSolidCheck::AxialPlates() {
+  const double share = Is2017() ? std::sqrt(m_dPhiLeast * s.m_dA * F() / m_dNc) : 1;
+  const auto hold = [&](CMemberCheckKind kind, CWidthElement element, double value,
+                        const char* clause2003) {
+    const double limit = *AxialWidthLimit(m.m_nEdition, element, m.m_nGrade, m_dLambdaMax);
+    a.Open(kind, Clause("7.3.1", clause2003));
+    a.Step("b/t", nullptr, value);
+    a.Step("[b/t]", nullptr, limit);
+    if (share <= 1) return a.Close("{b/t}/{[b/t]}", value / limit);
+    a.Step("φ", nullptr, m_dPhiLeast);
+    a.Step("α", "√({φ}·{A}·{f}/{N})", share);
+    a.Close("{b/t}/({α}·{[b/t]})", value / (share * limit));
+  };
+  const double flange = std::max(Outstand(s.m_top), Outstand(s.m_bottom));
+  const CWidthElement stem = s.m_bRolled ? CWidthElement::WebTRolled : CWidthElement::WebTWelded;
+  switch (s.m_nShape) {
+    case CMemberShape::I:
+    case CMemberShape::Channel:
+      hold(CMemberCheckKind::Flange, CWidthElement::Flange, flange, "5.4.1");
+      return hold(CMemberCheckKind::Web, CWidthElement::WebI, s.m_dH0 / s.m_dTw, "5.4.2");
+    case CMemberShape::T:
+      hold(CMemberCheckKind::Flange, CWidthElement::Flange, flange, "5.4.1");
+      return hold(CMemberCheckKind::Web, stem, s.m_dH0 / s.m_dTw, "5.4.4");
+    case CMemberShape::Box:
+      return hold(CMemberCheckKind::Wall, CWidthElement::BoxWall,
+                  std::max(BoxFlangeRatio(), s.m_dH0 / s.m_dTw), "5.4.3");
+    case CMemberShape::Tube:
+      return hold(CMemberCheckKind::Wall, CWidthElement::Tube, s.m_dDiameter / s.m_dWall, "5.4.5");
+    case CMemberShape::SolidRound:
+    case CMemberShape::SolidBar:
+      return;
+    default: {
+      const double t = s.m_dLegThick;
+      const double w = Is2017() ? s.m_dLeg - 2 * t : s.m_dLeg - t - s.m_dLegRoot;
+      return hold(CMemberCheckKind::Wall, CWidthElement::AngleLeg, w / t, "5.4.1");
+    }
+  }
+}
+
+void CSolidCheck::MomentPlates() {
+  if (!Is2017()) return MomentPlates2003();
+  if (HasFlanges(s.m_nShape)) return OpenPlates2017();
+  if (IsClosed(s.m_nShape)) return ClosedPlates2017();
+}
+
+void CSolidCheck::OpenPlates2017() {
+  const bool bCompression = m_dNc > 0;
+  const char* clause = bCompression ? "8.4.1" : "3.5.1";
+  const double flange = FlangeRatio();
+  if (flange > 0) {
+    const double class4 = Class4(CClassElement::FlangeOutstand, 2);
+    const bool bReduced = m_effective && m_effective->m_dFlangeLost > 0;
+    Limit(CMemberCheckKind::Flange, bReduced ? "6.1.1" : clause, flange,
+          bReduced ? Class5(CClassElement::FlangeOutstand) : class4);
+  }
+  const CWebStress stress = WebStress(m_dMx);
+  if (stress.m_dMax <= 0) return;
+  const double web = s.m_dH0 / s.m_dTw;
+  if (s.m_nShape == CMemberShape::T) {
+    if (!bCompression && stress.m_nSide == CSide::Top) return;
+    a.Note(CMemberNote::TWebByAxial);
+    const CWidthElement stem = s.m_bRolled ? CWidthElement::WebTRolled : CWidthElement::WebTWelded;
+    return Limit(CMemberCheckKind::Web, "7.3.1", web,
+                 *AxialWidthLimit(m.m_nEdition, stem, m.m_nGrade, m_dLambdaMax));
+  }
+  const CClassElement element =
+      bCompression ? CClassElement::WebCompressed : CClassElement::WebBending;
+  const double class4 = Class4(element, stress.m_dAlpha0);
+  const bool bReduced = web > class4;
+  Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
+        bReduced ? Class5(element) : class4);
+  NoteStiffeners(web);
+}
+
+void CSolidCheck::ClosedPlates2017() {
+  const char* clause = m_dNc > 0 ? "8.4.1" : "3.5.1";
+  if (s.m_nShape == CMemberShape::Tube) {
+    return Limit(CMemberCheckKind::Wall, clause, s.m_dDiameter / s.m_dWall,
+                 Class4(CClassElement::Tube, 2));
+  }
+  const auto element = [&](const CMomentCourse& asFlange) {
+    return m_dNc > 0           ? CClassElement::BoxWall
+           : asFlange.IsZero() ? CClassElement::WebBending
+                               : CClassElement::BoxFlange;
+  };
+  const double web = s.m_dH0 / s.m_dTw;
+  Limit(CMemberCheckKind::Flange, clause, BoxFlangeRatio(), Class4(element(q.m_x), 2));
+  const bool bReduced = m_effective.has_value();
+  Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
+        bReduced ? 250 : Class4(element(q.m_y), 2));
+  NoteStiffeners(web);
+}
+
+// 6.3.2; 2003: 4.3.2. Of beams.
+void CSolidCheck::NoteStiffeners(double h0tw) {
+  if (m_dNc == 0 && !q.m_x.IsZero() && h0tw > *StiffenerLimit(m.m_nEdition, m.m_nGrade))
+    a.Note(CMemberNote::Stiffeners);
+}
+
+// 4.3.2, 4.3.8, 5.4.1 to 5.4.5.
+void CSolidCheck::MomentPlates2003() {
+  const bool bColumn = m_dNc > 0;
+  const double ek = r.m_dEpsilonK;
+  if (s.m_nShape == CMemberShape::Tube) {
+    return Limit(CMemberCheckKind::Wall, "5.4.5", s.m_dDiameter / s.m_dWall, 100 * ek * ek);
+  }
+  if (IsSolid(s.m_nShape)) return;
+  const CWebStress stress = WebStress(m_dMx);
+  const CBeamColumnWeb web = {std::min(stress.m_dAlpha0, 2.0),
+                              q.m_x.IsZero() ? r.m_dLambdaY : r.m_dLambdaX, m_bGammaReduced,
+                              stress.m_nSide == CSide::Bottom};
+  const double h0tw = s.m_dH0 / s.m_dTw;
+  const auto column = [&](CWidthElement element) {
+    return *BeamColumnWidthLimit(m.m_nEdition, element, m.m_nGrade, web);
+  };
+  if (s.m_nShape == CMemberShape::Box) {
+    Limit(CMemberCheckKind::Flange, bColumn ? "5.4.3" : "4.3.8", BoxFlangeRatio(), 40 * ek);
+    Limit(CMemberCheckKind::Web, bColumn ? "5.4.3" : "4.3.2", h0tw,
+          bColumn ? column(CWidthElement::BoxWall) : 250);
+    return NoteStiffeners(h0tw);
+  }
+  if (const double flange = FlangeRatio(); flange > 0) {
+    Limit(CMemberCheckKind::Flange, bColumn ? "5.4.1" : "4.3.8", flange,
+          bColumn ? column(CWidthElement::Flange)
+                  : *BeamFlangeLimit(m.m_nEdition, m.m_nGrade, m_bGammaReduced));
+  }
+  if (stress.m_dMax <= 0) return;
+  if (s.m_nShape == CMemberShape::T) {
+    if (!bColumn && stress.m_nSide == CSide::Top) return;
+    const CWidthElement stem = s.m_bRolled ? CWidthElement::WebTRolled : CWidthElement::WebTWelded;
+    return Limit(CMemberCheckKind::Web, "5.4.4", h0tw, column(stem));
+  }
+  Limit(CMemberCheckKind::Web, bColumn ? "5.4.2" : "4.3.2", h0tw,
+        bColumn ? column(CWidthElement::WebI) : 250);
+  NoteStiffeners(h0tw);
+}
+
+}  // namespace orv3

@@ -1,0 +1,158 @@
+// Strength of a solid-web member: GB 50017-2017, 6.1, 7.1, 8.1; GB 50017-2003, 4.1, 5.1, 5.2.1.
+#include <algorithm>
+#include <cmath>
+
+#include "members/beam_column.h"
+#include "members/solid_check.h"
+
+namespace orv3 {
+
+void CSolidCheck::Strength() {
+  if (!HasMoment()) {
+    if (q.m_dN == 0) return;
+    a.Open(CMemberCheckKind::Strength,
+           m_dNc > 0 ? Clause("7.1.2", "5.1.1") : Clause("7.1.1", "5.1.1"));
+    a.Close("{N}/({A}·{f})", std::fabs(q.m_dN) / (s.m_dA * F()));
+    return;
+  }
+  a.Open(CMemberCheckKind::Strength,
+         q.m_dN == 0 ? Clause("6.1.1", "4.1.1") : Clause("8.1.1", "5.2.1"));
+  // The moment of the governing sense and the one of the other, along the same member.
+  const double other = m_dMx >= 0 ? q.m_x.Least() : q.m_x.Most();
+  const double first = StrengthRatio(m_dMx, false);
+  const double second = other == 0 ? 0 : StrengthRatio(other, false);
+  StrengthRatio(first >= second ? m_dMx : other, true);
+}
+
+// Of the worse edge. The moments about y are taken with the sign that adds.
+double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
+  const CSide side = Mx >= 0 ? CSide::Top : CSide::Bottom;
+  // The effective section is that of the governing sense; a weaker one of the other sense has its
+  // web compressed at the other end.
+  const bool bEffective = m_effective.has_value() && side == m_nSide;
+  double A = s.m_dA, W1 = side == CSide::Top ? s.m_dWTop : s.m_dWBottom;
+  double W2 = side == CSide::Top ? s.m_dWBottom : s.m_dWTop;
+  double Wy = s.m_dWSide, e = 0;
+  if (bEffective) {
+    A = m_effective->m_dA;
+    W1 = m_effective->m_dWCompressed;
+    W2 = m_effective->m_dWOther;
+    Wy = m_effective->m_dWSide;
+    e = m_dNc > 0 ? m_effective->m_dE : 0;
+  }
+  A *= q.m_dNetA;
+  W1 *= q.m_dNetW;
+  W2 *= q.m_dNetW;
+  Wy *= q.m_dNetW;
+  const double g1 = side == m_nSide ? r.m_dGammaX : m_dGammaOther;
+  const double g2 = side == m_nSide ? m_dGammaOther : r.m_dGammaX;
+  const double N = m_dNc > 0 ? m_dNc : -q.m_dN;  // compression positive
+  const double M = std::fabs(Mx) + m_dNc * e;
+  const bool bRound =
+      (s.m_nShape == CMemberShape::Tube && Is2017()) || s.m_nShape == CMemberShape::SolidRound;
+  if (bRound) {
+    const double resultant = std::hypot(Mx, m_dMy);
+    const double ratio = (std::fabs(N) / A + resultant / (g1 * W1)) / F();
+    if (!bSteps) return ratio;
+    a.Step("An", nullptr, A, "mm²");
+    a.Step("Wn", nullptr, W1, "mm³");
+    a.Step("γm", nullptr, g1);
+    a.Step("M", "resultant of Mx and My", resultant, "N·mm");
+    a.Close("({N}/{An} + {M}/({γm}·{Wn}))/{f}", ratio);
+    return ratio;
+  }
+  const double my = m_dMy == 0 ? 0 : m_dMy / (r.m_dGammaY * Wy);
+  const double compressed = std::fabs(N / A + M / (g1 * W1));
+  const double stretched = std::fabs(N / A - M / (g2 * W2));
+  const bool bFirst = compressed >= stretched;
+  const double ratio = (std::max(compressed, stretched) + my) / F();
+  if (!bSteps) return ratio;
+  a.Step("An", nullptr, A, "mm²");
+  const bool bAdds = bFirst == (N >= 0);
+  if (Mx != 0) {
+    if (bEffective) a.Step("e", nullptr, e, "mm");
+    a.Step("Mx", nullptr, std::fabs(Mx), "N·mm");
+    a.Step("γx", nullptr, bFirst ? g1 : g2);
+    a.Step("Wnx", nullptr, bFirst ? W1 : W2, "mm³");
+  }
+  if (m_dMy != 0) {
+    a.Step("γy", nullptr, r.m_dGammaY);
+    a.Step("Wny", nullptr, Wy, "mm³");
+  }
+  const char* formula = "({N}/{An} + {Mx}/({γx}·{Wnx}) + {My}/({γy}·{Wny}))/{f}";
+  if (bEffective && Mx != 0) {
+    formula = m_dMy == 0 ? "({N}/{An} ± ({Mx} + {N}·{e})/({γx}·{Wnx}))/{f}"
+                         : "({N}/{An} ± ({Mx} + {N}·{e})/({γx}·{Wnx}) + {My}/({γy}·{Wny}))/{f}";
+  } else if (Mx == 0) {
+    formula = "({N}/{An} + {My}/({γy}·{Wny}))/{f}";
+  } else if (m_dMy == 0) {
+    formula = bAdds || N == 0 ? "({N}/{An} + {Mx}/({γx}·{Wnx}))/{f}"
+                              : "|{N}/{An} − {Mx}/({γx}·{Wnx})|/{f}";
+  } else if (!bAdds && N != 0) {
+    formula = "(|{N}/{An} − {Mx}/({γx}·{Wnx})| + {My}/({γy}·{Wny}))/{f}";
+  }
+  a.Close(formula, ratio);
+  return ratio;
+}
+
+// 6.1.3; 2003: 4.1.2.
+void CSolidCheck::Shear() {
+  if (q.m_dVx == 0 && q.m_dVy == 0) return;
+  a.Open(CMemberCheckKind::Shear, Clause("6.1.3", "4.1.2"));
+  const bool bRound = s.m_nShape == CMemberShape::Tube || s.m_nShape == CMemberShape::SolidRound;
+  const double Vy = bRound ? std::hypot(q.m_dVx, q.m_dVy) : std::fabs(q.m_dVy);
+  const double Vx = bRound ? 0 : std::fabs(q.m_dVx);
+  const double tauY = Vy == 0 ? 0 : Vy * s.m_cutY.m_dS / (s.m_dIx * s.m_cutY.m_dT);
+  const double tauX = Vx == 0 ? 0 : Vx * s.m_cutX.m_dS / (s.m_dIy * s.m_cutX.m_dT);
+  // In a solid bar both act on the same fibres; elsewhere on plates of their own.
+  if (s.m_nShape == CMemberShape::SolidBar && Vx > 0 && Vy > 0) {
+    a.Step("τx", "Vx·Sy/(Iy·t)", tauX, "N/mm²");
+    a.Step("τy", "Vy·Sx/(Ix·t)", tauY, "N/mm²");
+    return a.Close("√({τx}² + {τy}²)/{fv}", std::hypot(tauX, tauY) / m.m_dFv);
+  }
+  const bool bY = tauY >= tauX;
+  const CShearCut& cut = bY ? s.m_cutY : s.m_cutX;
+  a.Step("V", nullptr, bY ? Vy : Vx, "N");
+  a.Step("S", nullptr, cut.m_dS, "mm³");
+  a.Step("t", nullptr, cut.m_dT, "mm");
+  if (s.m_nShape == CMemberShape::Channel) a.Note(CMemberNote::ShearCentre);
+  a.Close(bY ? "{V}·{S}/({Ix}·{t}·{fv})" : "{V}·{S}/({Iy}·{t}·{fv})",
+          std::max(tauX, tauY) / m.m_dFv);
+}
+
+// 6.1.5 at the worse end of the web, without sigma-c; 2003: 4.1.4.
+void CSolidCheck::Combined() {
+  const bool bWeb = s.m_nShape == CMemberShape::I || s.m_nShape == CMemberShape::Channel ||
+                    s.m_nShape == CMemberShape::T || s.m_nShape == CMemberShape::Box;
+  if (!bWeb || m_dMx == 0 || q.m_dVy == 0) return;
+  const double An = q.m_dNetA * s.m_dA, In = q.m_dNetW * s.m_dIx;
+  const double t = s.m_nWebs * s.m_dTw;
+  double worst = -1, sigma = 0, tau = 0, y = 0, S = 0;
+  for (const bool bTop : {true, false}) {
+    const double at = bTop ? s.m_dWebTop : s.m_dWebBottom;
+    const double first = bTop ? s.m_dSTop : s.m_dSBottom;
+    // The moment's greatest magnitude, with the sign that adds to N.
+    const double normal = std::fabs(q.m_dN) / An + std::fabs(m_dMx) * at / In;
+    const double shear = std::fabs(q.m_dVy) * first / (s.m_dIx * t);
+    const double both = CombinedStress(normal, shear);
+    if (both <= worst) continue;
+    worst = both;
+    sigma = normal;
+    tau = shear;
+    y = at;
+    S = first;
+  }
+  a.Open(CMemberCheckKind::Combined, Clause("6.1.5", "4.1.4"));
+  a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
+  a.Step("y1", nullptr, y, "mm");
+  a.Step("An", nullptr, An, "mm²");
+  a.Step("In", nullptr, In, "mm⁴");
+  a.Step("σ", "{N}/{An} + {Mx}·{y1}/{In}", sigma, "N/mm²");
+  a.Step("Vy", nullptr, std::fabs(q.m_dVy), "N");
+  a.Step("S1", nullptr, S, "mm³");
+  a.Step("tw", nullptr, t, "mm");
+  a.Step("τ", "{Vy}·{S1}/({Ix}·{tw})", tau, "N/mm²");
+  a.Close("√({σ}² + 3·{τ}²)/(1.1·{f})", worst / (1.1 * F()));
+}
+
+}  // namespace orv3
