@@ -46,15 +46,19 @@ const char* VerdictText(bool bPass, CLanguage language) {
 }
 
 std::string VerdictLines(CCodeEdition edition, const CCaseAnswer& answer, CLanguage language) {
-  const CCasePart& worst = answer.Worst();
-  const std::string verdict = VerdictText(answer.Pass(), language);
+  return VerdictLines(edition, answer.Pass(), answer.Worst(), answer.Warnings(), language);
+}
+
+std::string VerdictLines(CCodeEdition edition, bool bPass, const CCasePart& worst,
+                         std::span<const CCaseWarning> warnings, CLanguage language) {
+  const std::string verdict = VerdictText(bPass, language);
   const std::string share = PercentText(worst.m_dUtilisation);
   const CText line = {
       "\n结论：" + verdict + "，利用率 " + share + "（" + worst.m_name.m_szChinese + "）\n",
       "\nverdict: " + verdict + ", utilisation " + share + " (" + worst.m_name.m_szEnglish + ")\n"};
   static constexpr CTextLiteral kLook = {"请注意 ", "look at "};
   std::string text = line.In(language) + EditionLine(edition, language) + '\n';
-  for (const CCaseWarning& warning : answer.Warnings())
+  for (const CCaseWarning& warning : warnings)
     text += kLook.In(language) + warning.m_strKey + ": " + warning.m_text.In(language) + '\n';
   return text;
 }

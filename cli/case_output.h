@@ -35,6 +35,8 @@ std::string WarningLine(std::span<const CCaseWarning> warnings, CLanguage langua
 const char* VerdictText(bool bPass, CLanguage language);
 // The verdict with what governs it, the edition, and what to look at, a line each.
 std::string VerdictLines(CCodeEdition edition, const CCaseAnswer& answer, CLanguage language);
+std::string VerdictLines(CCodeEdition edition, bool bPass, const CCasePart& worst,
+                         std::span<const CCaseWarning> warnings, CLanguage language);
 // Why an edition refuses the case.
 std::string RefusedLine(CCodeEdition edition, const std::string& fault, CLanguage language);
 

@@ -74,7 +74,7 @@ class CMembers {
       case CAnswerForm::Json:
         return m_answers.AddJson(Worst(), Json());
       case CAnswerForm::Table:
-        return m_answers.AddRow(Worst(), Row());
+        return m_answers.AddRows(Worst(), {Row()});
     }
   }
 
@@ -139,7 +139,8 @@ class CMembers {
 
   std::vector<std::string> Row() const {
     static constexpr CTextLiteral kRefused = {"拒绝", "refused"};
-    std::vector<std::string> row = {std::to_string(m_nCases), Excerpt(m_input.m_strId)};
+    const std::string year = m_fault ? "" : EditionFacts(m_check.Edition()).m_szYear;
+    std::vector<std::string> row = {std::to_string(m_nCases), Excerpt(m_input.m_strId), year};
     if (m_fault) {
       row.insert(row.end(),
                  {kRefused.In(m_options.language), "", m_fault->Line(m_options.language)});

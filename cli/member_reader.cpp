@@ -146,7 +146,7 @@ std::string MemberText(const CMemberCheck& check, CLanguage language) {
     warnings.push_back({MemberNoteKey(note), {words.m_szChinese, words.m_szEnglish}});
   }
   const CMemberCheckPart& worst = answer.Worst();
-  return text + VerdictLines(check.Pass(),
+  return text + VerdictLines(check.Edition(), check.Pass(),
                              {MemberCheckTitle(worst.m_nKind), MemberCheckName(worst.m_nKind),
                               worst.m_dRatio, worst.m_bPass},
                              warnings, language);
