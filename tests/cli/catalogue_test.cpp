@@ -91,7 +91,7 @@ TEST(RowsCommand, RefusesInOneLineThatNamesTheFault) {
       {beams + " --where \"No.==a && No.==b || No.==c\"", {"&&", "||"}},
       {beams + " --where \"No.==a VIEW No.\"", {"VIEW", "--columns"}},
       {beams + " --columns \"No.,H(mm)\"", {"--columns", "H(mm)", "h(mm)"}},
-      {beams + " --sort A", {"--sort", "\"A\"", "A(cm^2)"}},
+      {beams + " --sort G", {"--sort", "\"G\"", "G(kg/m)"}},
       {beams + " --sort No.:up", {"--sort", "up", "desc"}},
       {beams + " --json --csv", {"--json", "--csv"}},
       {"tables --mask 0xG" + kData, {"--mask", "0xG"}},

@@ -120,7 +120,7 @@ TEST(ExactColumns, AreFilteredSortedAndExported) {
   }
   // A pair has no Iw: neither below nor above any number is it found by one.
   const std::string pairs = "rows 热轧等边角钢组合" + kData + " --columns No.,Iw --where ";
-  EXPECT_EQ(JsonOf(pairs + "Iw<<1e99")["rows"].size(), 0U);
+  EXPECT_EQ(JsonOf(pairs + "\"Iw<<1e99\"")["rows"].size(), 0U);
   EXPECT_EQ(JsonOf(pairs + "\"Iw!=5 || No.==2L100X10\"")["rows"].size(), 1U);
   const COwnFile csv("exact.csv");
   EXPECT_EQ(RunProgram("store export " + table + " --exact --to " + csv.m_strPath).m_nExit, 0);
