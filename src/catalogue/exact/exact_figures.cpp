@@ -179,7 +179,7 @@ std::optional<std::vector<CExactRecord>> ReadExactFile(std::string_view bytes) {
       Number(bytes, 16) != Checksum(bytes.substr(kHeader)))
     return std::nullopt;
   std::vector<CExactRecord> records;
-  records.reserve(count);
+  records.reserve(static_cast<std::size_t>(count));
   for (std::size_t at = kHeader; at < bytes.size(); at += kRecord) {
     records.push_back(RecordAt(bytes, at));
     if (records.size() > 1 && !(records[records.size() - 2].m_key < records.back().m_key))
