@@ -2,12 +2,14 @@
 // process has changed since, and the rows that stand in their slots already.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "framework/cstring.h"
 #include "platform/file_system.h"
 #include "tables/data_item_array.h"
+#include "tables/data_type.h"
 
 namespace orv3 {
 
@@ -17,6 +19,13 @@ struct CTableImage {
   CFileStamp m_stamp;                  // of the file at that time
   std::vector<std::string> m_arrSlot;  // the rows' stored bytes
   std::vector<int> m_arrIndex;         // the rows' stable indices
+  // After a save: the heading that was proven then, with the table's blocks. Until the file changes
+  // neither is looked at again.
+  std::optional<CDataTableTitle> m_title;
+
+  bool IsProven(const CString& path, const CFileStamp& stamp, const CString& table) const {
+    return m_title && m_strPath == path && m_stamp == stamp && m_strTable == table;
+  }
 };
 
 // For each row the slot that holds it, -1 for a row that has none. No slot is given twice.

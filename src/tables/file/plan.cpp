@@ -6,6 +6,7 @@
 #include "framework/number_text.h"
 #include "platform/store_error.h"
 #include "tables/data_table.h"
+#include "tables/file/image.h"
 #include "tables/file/layout.h"
 #include "tables/file/proof.h"
 #include "tables/file/table_text.h"
@@ -41,6 +42,11 @@ bool OwnsItsBlocks(const CTableDirectory& directory, int record, const CDataFile
     }
   }
   return true;
+}
+
+// Whether the table's last save looked at the file as it is.
+bool IsProven(const CTableImage* image, const CStoreFile& file, const CString& table) {
+  return image != nullptr && image->IsProven(file.Path(), file.Stamp(), table);
 }
 
 }  // namespace
@@ -123,12 +129,15 @@ int CDataTable::PlanRecord(const orv3::CStoreFile& file, int storeKind,
     }
     directory.SetRecord(record, field);
   }
-  return orv3::OwnsItsBlocks(directory, record, plan.m_info)
+  const bool bProven = !plan.m_bChanged && orv3::IsProven(m_pImage.get(), file, m_strTableName);
+  return bProven || orv3::OwnsItsBlocks(directory, record, plan.m_info)
              ? 1
              : orv3::RefuseDamaged(file, m_strTableName);
 }
 
 int CDataTable::PlanHeading(const orv3::CStoreFile& file, orv3::CRecordPlan& plan) const {
+  if (orv3::IsProven(m_pImage.get(), file, m_strTableName) && m_Title.IsEqualOf(*m_pImage->m_title))
+    return 1;
   if (!plan.m_bNewTable) {
     std::string stored;
     CDataTableTitle title;

@@ -214,6 +214,7 @@ void CDataTable::MarkSaved(const CStoreFile& file, const std::vector<CRowWrite>&
   m_pImage->m_strPath = file.Path();
   m_pImage->m_strTable = m_strTableName;
   m_pImage->m_stamp = file.Stamp();
+  m_pImage->m_title = m_Title;
   const auto count = static_cast<std::size_t>(GetTableRowNum());
   m_pImage->m_arrSlot.resize(count);
   m_pImage->m_arrIndex.resize(count);
