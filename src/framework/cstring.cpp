@@ -57,6 +57,7 @@ CString::CString(wchar_t ch, int repeat) {
 }
 
 CString& CString::operator=(const CString& other) noexcept {
+  if (m_pData == other.m_pData) return *this;
   CString copy(other);
   return *this = static_cast<CString&&>(copy);
 }

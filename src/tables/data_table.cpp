@@ -74,8 +74,8 @@ int CDataTable::SetParentTable(CDataTable* parent) {
 }
 
 void CDataTable::SetTableFileInfo(const CString& info) {
-  m_strFileInfo = info;
-  for (int i = 0; i < GetTableRowNum(); ++i) m_arrItem.Own(i).m_strFileInfo = info;
+  if (m_strFileInfo != info) m_strFileInfo = info;  // else rows keep the text that they share
+  for (int i = 0; i < GetTableRowNum(); ++i) m_arrItem.Own(i).m_strFileInfo = m_strFileInfo;
 }
 
 void CDataTable::ClearTable() {
