@@ -16,7 +16,7 @@ std::string EditionLine(CCodeEdition edition, CLanguage language) {
 
 }  // namespace
 
-void AppendCsv(std::string& line, const std::string& text) {
+void AppendCsv(std::string& line, std::string_view text) {
   const bool padded = text.starts_with(' ') || text.ends_with(' ');  // which readers drop
   if (!padded && text.find_first_of(",;\t\"\r\n") == std::string::npos) {
     line += text;

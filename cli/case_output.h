@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <concepts>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <variant>
 #include <vector>
@@ -26,9 +28,13 @@ inline void AppendCsv(std::string& line, double value) {
   if (std::isfinite(value)) line.append(text, std::to_chars(text, text + sizeof text, value).ptr);
 }
 inline void AppendCsv(std::string& line, int value) { line += std::to_string(value); }
-inline void AppendCsv(std::string& line, bool value) { line += value ? "true" : "false"; }
+// Of a bool alone: a plain text would rather turn into a bool than into a string_view.
+template <std::same_as<bool> BOOL>
+void AppendCsv(std::string& line, BOOL value) {
+  line += value ? "true" : "false";
+}
 // A text, quoted where it must be.
-void AppendCsv(std::string& line, const std::string& text);
+void AppendCsv(std::string& line, std::string_view text);
 
 std::string PercentText(double utilisation);
 std::string WarningLine(std::span<const CCaseWarning> warnings, CLanguage language);

@@ -160,8 +160,10 @@ std::string ValueText(const CKeyValue& value) {
 CText CCaseSchema::CRule::Right() const {
   std::string right;
   for (const std::string& text : m_arrText) right += (right.empty() ? "\"" : ", \"") + text + "\"";
-  for (const double number : m_arrNumber) {
-    right += (right.empty() ? "" : ", ") + PlainNumber(number);
+  for (const double each : m_arrNumber) {
+    const std::string number = PlainNumber(each);
+    const bool bAsText = std::find(m_arrText.begin(), m_arrText.end(), number) != m_arrText.end();
+    if (!bAsText) right += (right.empty() ? "" : ", ") + number;
   }
   if (!right.empty()) return {"请给出下列之一：" + right, "give one of " + right};
   if (m_bText) return {"请给出文字", "give a text"};

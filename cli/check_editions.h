@@ -3,6 +3,7 @@
 
 #include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "case_output.h"
@@ -20,6 +21,24 @@ std::span<const CCodeEdition> EditionsNamed(std::string_view text,
 // Those of --code, else of the variable ORV3CAL_CODE, else the one in force. Another text is
 // refused by name.
 std::vector<CCodeEdition> EditionsAsked(const std::string& option);
+
+// What a case by both editions says once for both: `surface` in the order of the 2017 table, read
+// by 2003 as its own treatment of the same name. Refused where it has none.
+std::optional<CCaseFault> ReadByBoth(CBoltCase& input);
+template <class CASE>
+std::optional<CCaseFault> ReadByBoth(CASE&) {
+  return std::nullopt;
+}
+
+// "surface 1: shot-blasted (sand-blasted)" of a friction-type group, whose numbers stand for other
+// treatments by the other edition; empty otherwise.
+std::string SurfaceText(const CBoltCase& input, CCodeEdition edition, CLanguage language);
+template <class CASE>
+std::string SurfaceText(const CASE& input, CCodeEdition edition, CLanguage language) {
+  if constexpr (std::is_base_of_v<CBoltCase, CASE>)
+    return SurfaceText(static_cast<const CBoltCase&>(input), edition, language);
+  return "";
+}
 
 // What is the same of a check by either edition.
 class CAnyEditionRun {
@@ -43,8 +62,10 @@ class CEditionRun : public CAnyEditionRun {
   CEditionRun(const CCaseSchema& schema, CCodeEdition edition, CLanguage language)
       : CAnyEditionRun(edition, language), m_reader(schema, edition) {}
 
-  void Run(const CReadCase& read) {
+  // `bBoth`: the other edition computes the case too.
+  void Run(const CReadCase& read, bool bBoth) {
     m_fault = m_reader.Read(read, m_input);
+    if (!m_fault && bBoth) m_fault = ReadByBoth(m_input);
     if (!m_fault && !m_check.Run(m_input)) m_fault = m_check.Faults().front();
   }
 
@@ -66,14 +87,21 @@ class CEditionRun : public CAnyEditionRun {
         [&](auto field) { return static_cast<double>(m_check.Results().*field); }, result.m_field));
   }
 
-  std::string Text() const { return CaseText(m_input, m_check, m_nEdition, m_nLanguage); }
+  std::string Text() const {
+    return CaseText(m_input, m_check, m_nEdition, m_nLanguage) + SurfaceLine();
+  }
   std::string Verdict() const {
-    if (!m_fault) return VerdictLines(m_nEdition, m_check, m_nLanguage);
+    if (!m_fault) return VerdictLines(m_nEdition, m_check, m_nLanguage) + SurfaceLine();
     return RefusedLine(m_nEdition, m_fault->Line(m_nLanguage), m_nLanguage);
   }
 
   CJson Json() const {
-    if (!m_fault) return CaseJson(m_input, m_check, m_nEdition, m_nLanguage);
+    if (!m_fault) {
+      CJson json = CaseJson(m_input, m_check, m_nEdition, m_nLanguage);
+      const std::string surface = SurfaceText(m_input, m_nEdition, m_nLanguage);
+      if (!surface.empty()) json["surface"] = surface;
+      return json;
+    }
     return {{"code", Year()}, {"refused", m_fault->Line(m_nLanguage)}};
   }
 
@@ -118,6 +146,11 @@ class CEditionRun : public CAnyEditionRun {
   }
 
  private:
+  std::string SurfaceLine() const {
+    const std::string text = SurfaceText(m_input, m_nEdition, m_nLanguage);
+    return text.empty() ? "" : text + '\n';
+  }
+
   CCaseReader<CHECK> m_reader;
   CHECK m_check;
   typename CHECK::CCase m_input;

@@ -127,7 +127,7 @@ class CChecker {
     bool bPass = true;
     for (const CCodeEdition edition : m_arrEdition) {
       With(edition, [&](auto& run) {
-        run.Run(read);
+        run.Run(read, IsBoth());
         if (fault == nullptr) fault = run.Fault();
         bPass = bPass && run.Pass();
       });

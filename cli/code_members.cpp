@@ -12,6 +12,7 @@
 #include "codes/plasticity.h"
 #include "codes/section_class.h"
 #include "error.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "output.h"
 
@@ -46,7 +47,7 @@ std::string LimitText(const CClassLimits& limits) {
   std::string text;
   for (std::size_t i = 0; i < limits.m_arrLimit.size(); ++i) {
     if (!limits.m_arrLimit[i]) continue;
-    text += (text.empty() ? "limits " : ", ") + std::string(kSectionClassNames[i]) + " " +
+    text += (text.empty() ? "" : ", ") + std::string(kSectionClassNames[i]) + " " +
             NumberText(*limits.m_arrLimit[i]);
   }
   return text;
@@ -54,8 +55,8 @@ std::string LimitText(const CClassLimits& limits) {
 
 std::string LastClass(const CClassLimits& limits) { return limits.m_arrLimit.back() ? "S5" : "S4"; }
 
-void AddNote(CCodeFigure& figure, const std::string& note) {
-  figure.m_strNote += (figure.m_strNote.empty() ? "" : "; ") + note;
+void AddNote(CCodeFigure& figure, const CText& note) {
+  figure.m_strNote += (figure.m_strNote.empty() ? "" : Say({"；", "; "})) + Say(note);
 }
 
 // The pictures of Tables 5.2.1 and 8.1.1 by item.
@@ -94,7 +95,8 @@ CCodeFigure SectionClassFigure(const CCodeRequest& request) {
   const std::optional<CSectionClass> found = limits.ClassOf(ratio);
   CCodeFigure figure = FigureOf(found ? SectionClassName(*found) : "beyond " + LastClass(limits),
                                 answer.Source(), "");
-  AddNote(figure, LimitText(limits));
+  const std::string list = LimitText(limits);
+  AddNote(figure, {"限值 " + list, "limits " + list});
   return figure;
 }
 
@@ -108,9 +110,10 @@ CCodeFigure ClassFigure(const CCodeRequest& request) {
   if (request.Count() < 3) {
     CCodeFigure figure = FigureOf(Needed(printed).Text(), printed.Source(), "");
     if (printed->m_bStar) {
-      AddNote(figure, printed->m_nClass == CBucklingClass::A
-                          ? "b for Q235 and a for higher grades"
-                          : "c for Q235 and b for higher grades");
+      AddNote(figure,
+              printed->m_nClass == CBucklingClass::A
+                  ? CText{"Q235 为 b 类，更高牌号为 a 类", "b for Q235 and a for higher grades"}
+                  : CText{"Q235 为 c 类，更高牌号为 b 类", "c for Q235 and b for higher grades"});
     }
     return figure;
   }
@@ -136,9 +139,10 @@ CCodeFigure GammaFigure(const CCodeRequest& request) {
   const CPlasticFactors& factors = Needed(answer);
   CCodeFigure figure = FigureOf(bX ? factors.m_dX : factors.m_dY, answer.Source(), "");
   if (bX && factors.m_dXTip != factors.m_dX)
-    figure.m_strNote = "at the flange; 1.2 at the web's tip";
+    AddNote(figure, {"翼缘处；腹板边缘处 1.2", "at the flange; 1.2 at the web's tip"});
   if (request.m_nEdition == CCodeEdition::Gb2017 && request.Count() < 3)
-    AddNote(figure, "of classes S1 to S3; 1.0 for S4 and S5 and under fatigue");
+    AddNote(figure, {"S1 至 S3 级；S4、S5 级及需验算疲劳时取 1.0",
+                     "of classes S1 to S3; 1.0 for S4 and S5 and under fatigue"});
   return figure;
 }
 
@@ -165,12 +169,17 @@ CCodeFigure PhiBFigure(const CCodeRequest& request) {
   const std::string factor = b2003 ? "235/fy" : "εk²";
   const bool bReduced = phi.m_dElastic > 0.6;
   if (bReduced) figure.m_strSource += b2003 ? " with (B.1-2)" : " with (C.0.1-7)";
-  if (!bReduced && !bGrade) AddNote(figure, "for Q235; × " + factor + " for others");
+  if (!bReduced && !bGrade) {
+    AddNote(figure, {"Q235；其他钢材 × " + factor, "for Q235; × " + factor + " for others"});
+  }
   if (!bReduced) return figure;
-  AddNote(figure, (bGrade ? "φb × " + factor + " = " : "for Q235; the table's φb = ") +
-                      NumberText(phi.m_dElastic) +
-                      " is above 0.6, so φb' = 1.07 − 0.282/φb, at most 1, takes its place" +
-                      (bGrade ? "" : "; other steels: φb × " + factor + " before that"));
+  const std::string elastic = NumberText(phi.m_dElastic);
+  AddNote(figure, {(bGrade ? "φb × " + factor + " = " : "Q235；表中 φb = ") + elastic +
+                       " 大于 0.6，以 φb' = 1.07 − 0.282/φb（不大于 1）代替" +
+                       (bGrade ? "" : "；其他钢材先取 φb × " + factor),
+                   (bGrade ? "φb × " + factor + " = " : "for Q235; the table's φb = ") + elastic +
+                       " is above 0.6, so φb' = 1.07 − 0.282/φb, at most 1, takes its place" +
+                       (bGrade ? "" : "; other steels: φb × " + factor + " before that")});
   return figure;
 }
 

@@ -9,6 +9,7 @@
 #include "codes/steel_strength.h"
 #include "codes/weld_strength.h"
 #include "error.h"
+#include "framework/language.h"
 #include "output.h"
 
 namespace orv3::cli {
@@ -111,7 +112,8 @@ CCodeFigure HoleFigure(const CCodeRequest& request) {
   const CHoleSize& size = Needed(answer);
   CCodeFigure figure = FigureOf(size.m_dWidth, answer.Source(), "mm");
   if (size.m_dLength != size.m_dWidth)
-    figure.m_strNote = "the width; the slot is " + NumberText(size.m_dLength) + " mm long";
+    figure.m_strNote = Say({"槽孔宽度；长 " + NumberText(size.m_dLength) + " mm",
+                            "the width; the slot is " + NumberText(size.m_dLength) + " mm long"});
   return figure;
 }
 
@@ -128,8 +130,14 @@ CCodeFigure SpacingFigure(const CCodeRequest& request) {
   const double values[] = {spacing.m_dLeastPitch, spacing.m_dMostPitch, spacing.m_dLeastEnd,
                            spacing.m_dLeastSide,  spacing.m_dLeastSide, spacing.m_dMostEdge};
   CCodeFigure figure = FigureOf(values[what], answer.Source(), "mm");
-  if (what == 1) figure.m_strNote = "of outer rows; middle rows may stand farther apart";
-  if (bRolled) figure.m_strNote = "rolled or machine-cut edges, ordinary bolts";
+  if (what == 1) {
+    figure.m_strNote =
+        Say({"外排；中间排可更大", "of outer rows; middle rows may stand farther apart"});
+  }
+  if (bRolled) {
+    figure.m_strNote =
+        Say({"轧制边、自动气割或锯割边，普通螺栓", "rolled or machine-cut edges, ordinary bolts"});
+  }
   return figure;
 }
 
@@ -140,7 +148,7 @@ CCodeFigure AreaFigure(const CCodeRequest& request) {
   double area = 0;
   CTableSearch::SearchSub23(NumberAmong(request, 0, "D", kDiameters),
                             request.Count() > 1 ? Choice(request, 1, "KIND", kKinds) : 1, area);
-  return {area, "cm²", "stress areas of coarse metric threads"};
+  return {area, "cm²", Say({"粗牙普通螺纹的应力面积", "stress areas of coarse metric threads"})};
 }
 
 CCodeFigure FatigueFigure(const CCodeRequest& request) {

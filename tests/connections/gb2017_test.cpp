@@ -77,6 +77,9 @@ TEST(Gb2017, BoltGroupsByHand) {
       {"which a torque turns: k 0.6",
        With(Friction(), [](C& c) { c.m_nHole = 2, c.m_dVx = 0, c.m_dT = -6000; }),
        std::hypot(80, 35) * 6000 / sumR2 / (0.9 * 0.6 * 2 * 0.40 * 155), "passForces"},
+      {"which two shears pull askew: k 0.6",
+       With(Friction(), [](C& c) { c.m_nHole = 2, c.m_dVx = 60, c.m_dVy = 80; }),
+       100 / 6.0 / (0.9 * 0.6 * 2 * 0.40 * 155), "passForces"},
       {"N and M < 0 about the centroid",
        With(Friction(), [](C& c) { c.m_dN = 120, c.m_dM = -9600; }),
        400 / 6.0 / 111.6 + (20 + 9600 * 80 / sumY2) / 124, "passForces"},
@@ -96,6 +99,13 @@ TEST(Gb2017, BoltGroupsByHand) {
               c.m_nSurface = 0, c.m_dVx = 150;
             }),
        30 / (kPi / 4 * 0.4 * 140) / (1.1 - 400 / (150 * 21.5)), "passForces"},
+      {"and under a torque alone",
+       With(Ordinary(),
+            [](C& c) {
+              c.m_nCols = 5, c.m_colSpace.m_dUniform = 100, c.m_nRows = 1, c.m_dEy = 80;
+              c.m_dVx = 0, c.m_dT = 10000;
+            }),
+       20 / (kPi / 4 * 0.4 * 140) / (1.1 - 400 / (150 * 21.5)), "passForces"},
       {"M < 0 presses on the last row: 185 and 120 mm from it",
        With(Ordinary(),
             [](C& c) {
@@ -229,6 +239,17 @@ TEST(Gb2017, FilletWeldsByHand) {
        1e3 / (3.5 * 240) / 1.22 / 200},
       {"11.3.6: t - 1 along an edge",
        With(Fillet(), [](C& c) { c.m_nJoint = 0, c.m_dT1 = 8, c.m_dT2 = 12; }), 8 / 7.0},
+      {"8 he where no leg is given",
+       With(Fillet(), [](C& c) { c.m_dHf = 0, c.m_dHe = 8, c.m_dLw = 60, c.m_dN = c.m_dV = 1; }),
+       64 / 60.0},
+      {"40 mm of a groove weld",
+       With(Fillet(),
+            [](C& c) {
+              c.m_dHf = 0, c.m_dS = 5, c.m_dAngle = 70, c.m_dLw = 30, c.m_dN = c.m_dV = 1;
+            }),
+       40 / 30.0},
+      {"0.7 of 3 mm", With(Fillet(), [](C& c) { c.m_dHf = 0, c.m_dHe = 2, c.m_dN = c.m_dV = 1; }),
+       2.1 / 2},
       {"8 hf", With(Fillet(), [](C& c) { c.m_dLw = 60, c.m_dN = c.m_dV = 1; }), 64 / 60.0},
   };
   CFilletCheck2017 check;
@@ -244,6 +265,8 @@ TEST(Gb2017, FilletWeldsByHand) {
     C input;
   } refused[] = {
       {"angle", With(Fillet(), [](C& c) { c.m_dAngle = 59; })},
+      {"angle",
+       With(Fillet(), [](C& c) { c.m_dHf = 0, c.m_dS = 10, c.m_dAngle = 60, c.m_nGroove = 1; })},
       {"hf", With(Fillet(), [](C& c) { c.m_dHf = 0, c.m_dHe = 5, c.m_nJoint = 0; })},
       {"t2", With(Fillet(), [](C& c) { c.m_dT1 = 8; })},
       {"electrode", With(Fillet(), [](C& c) { c.m_nElectrode = 0; })},
@@ -268,11 +291,15 @@ TEST(Gb2017, ButtWeldsByHand) {
   CButtCheck2017 check;
   ASSERT_TRUE(check.Run(input));
   // -100 and 150 at the edges: 50 pulled against ftw 330, 250 pressed against fcw 390.
+  EXPECT_NEAR(check.Results().m_dSigma, 50, 1e-12) << "N/A + M/W";
+  ASSERT_EQ(check.Warnings().size(), 1U) << "the other edge decides";
+  EXPECT_EQ(check.Warnings()[0].m_strKey, "M");
   EXPECT_NEAR(check.Parts()[0].m_dUtilisation, 250 / 390.0, 1e-12);
   EXPECT_NEAR(check.Parts()[1].m_dUtilisation, 75 / 225.0, 1e-12);
   EXPECT_NEAR(check.Parts()[2].m_dUtilisation, std::sqrt(250 * 250 + 3 * 75 * 75) / 363, 1e-12);
   input.m_dN = 600;
   ASSERT_TRUE(check.Run(input));
+  EXPECT_TRUE(check.Warnings().empty());
   EXPECT_NEAR(check.Parts()[0].m_dUtilisation, 250 / 330.0, 1e-12);
   input.m_nSteel = kQ345GJ;
   input.m_dThick = 16;
@@ -354,6 +381,9 @@ TEST(WeldGroup, RulesAndRefusals) {
   EXPECT_FALSE(earlier.Pass());
   ASSERT_TRUE(later.Run(With(Bracket(), [](C& c) { c.m_arrWeld[3] = 39, c.m_dVy = 0; })));
   EXPECT_FALSE(later.Pass()) << "39 mm is below 8 hf";
+  EXPECT_TRUE(later.Run(With(Bracket(), [](C& c) {
+    c.m_arrWeld.insert(c.m_arrWeld.end(), {0, 200, 0, 300, 6, -50, 100, 50, 100, 6});
+  }))) << "ends that meet, and a weld that crosses";
   const struct {
     const char* key;
     C input;
@@ -362,6 +392,14 @@ TEST(WeldGroup, RulesAndRefusals) {
       {"welds", With(Bracket(), [](C& c) { c.m_arrWeld.clear(); })},
       {"welds", With(Bracket(), [](C& c) { c.m_arrWeld[3] = 0; })},
       {"welds", With(Bracket(), [](C& c) { c.m_arrWeld[4] = 0; })},
+      {"welds", With(Bracket(),
+                     [](C& c) {
+                       c.m_arrWeld.insert(c.m_arrWeld.end(), {0, 0, 0, 200, 6});
+                     })},
+      {"welds", With(Bracket(),
+                     [](C& c) {
+                       c.m_arrWeld.insert(c.m_arrWeld.end(), {0, 250, 0, 150, 6});
+                     })},
       {"betaF", With(Bracket(), [](C& c) { c.m_dBetaF = 1.1; })},
       {"M", With(Bracket(), [](C& c) { c.m_arrWeld.resize(5), c.m_dX = 1, c.m_dN = 30; })},
       {"steel", With(Bracket(), [](C& c) { c.m_nSteel = kQ460; })},

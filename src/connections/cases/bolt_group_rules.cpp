@@ -44,7 +44,9 @@ void SpacingFaults(const char* key, CTextLiteral lines, const CSpacing& spacing,
   const double smallest = Least(spacing);
   for (const double value : each) faults.Finite(key, value);
   faults.Finite(key, spacing.m_dUniform);
-  if (smallest <= least) {
+  if (each.empty() && smallest == 0) {
+    faults.Add(key, {"没有间距", "no spacing is given"}, MoreThan(least));
+  } else if (smallest <= least) {
     faults.Add(key,
                {PlainNumber(smallest) + " mm 使孔相连",
                 PlainNumber(smallest) + " mm lets the holes run into one another"},

@@ -40,11 +40,16 @@ bool IsSlot(CHoleKind kind) noexcept {
   return kind == CHoleKind::SlotAcross || kind == CHoleKind::SlotAlong;
 }
 
-// Across the force means across that of every bolt, which a torque turns: some then bear along
-// their slots.
+// All bolts pull along x, or all along y.
+bool IsOneWay(const CBoltCase2017& input) noexcept {
+  return IsZero(input.m_dT) && (IsZero(input.m_dVx) || IsZero(input.m_dVy));
+}
+
+// Across the force means across that of every bolt, which a torque turns and two shears set askew:
+// some then bear along their slots.
 CHoleKind JudgedHole(const CBoltCase2017& input) noexcept {
   const CHoleKind kind = HoleOf(input);
-  return kind == CHoleKind::SlotAcross && !IsZero(input.m_dT) ? CHoleKind::SlotAlong : kind;
+  return kind == CHoleKind::SlotAcross && !IsOneWay(input) ? CHoleKind::SlotAlong : kind;
 }
 
 // 11.5.1: class C 1 mm, above M16 1.5 mm, classes A and B 0.5 mm more than the bolt.
@@ -189,8 +194,9 @@ void CBoltCheck2017::LookUp(const CBoltCase2017& input, CFaultList& faults) {
   r.m_dFu = steel.m_dFu.value_or(0);
   CHoleSize hole = {OrdinaryHole(input), OrdinaryHole(input)};
   if (input.m_nType != kOrdinaryBolt) {
-    hole = Take(HoleSize(kEdition, HoleOf(input), input.m_nD), "d", faults);
+    // The preloads first: they have fewer diameters than the holes.
     r.m_nP = static_cast<int>(Take(Preload(kEdition, GradeOf(input), input.m_nD), "d", faults));
+    hole = Take(HoleSize(kEdition, HoleOf(input), input.m_nD), "d", faults);
   }
   if (input.m_nType == kFrictionBolt) {
     r.m_dMu = Take(SlipFactor(kEdition, input.m_nSurface, SteelOf(input)), "surface", faults);
@@ -204,8 +210,10 @@ void CBoltCheck2017::LookUp(const CBoltCase2017& input, CFaultList& faults) {
   r.m_dD0 = hole.m_dWidth;
   r.m_dDe = EffectiveDiameter(input.m_nD);
   const CHoleRoom room = RoomOf(input, hole);
-  m_trace.m_dHoleX = HoleDeduction(kEdition, room.m_dY, input.m_nD);
-  m_trace.m_dHoleY = HoleDeduction(kEdition, room.m_dX, input.m_nD);
+  m_trace.m_dRoomX = room.m_dY;
+  m_trace.m_dRoomY = room.m_dX;
+  m_trace.m_dHoleX = HoleDeduction(kEdition, m_trace.m_dRoomX, input.m_nD);
+  m_trace.m_dHoleY = HoleDeduction(kEdition, m_trace.m_dRoomY, input.m_nD);
 }
 
 void CBoltCheck2017::Compute(const CBoltCase2017& input) {
@@ -221,11 +229,10 @@ void CBoltCheck2017::Compute(const CBoltCase2017& input) {
       bFriction ? gb2017::FrictionResistance(r.m_dHoleFactor, input.m_nNf, r.m_dMu, r.m_nP)
                 : gb2017::ShankResistance(input.m_nNv, m_trace.m_dShearDiameter, input.m_nD,
                                           r.m_dDe, input.m_dSumT, r.m_dFv, r.m_dFc, r.m_dFt);
-  m_figures = gb2017::ForcesOnBolts(input.m_nType != kOrdinaryBolt,
-                                    {input.m_dN, input.m_dVx, input.m_dVy, input.m_dM, input.m_dT},
-                                    m_shape);
+  const gb2017::CBoltLoads loads = {input.m_dN, input.m_dVx, input.m_dVy, input.m_dM, input.m_dT};
+  m_figures = gb2017::ForcesOnBolts(input.m_nType != kOrdinaryBolt, loads, m_shape);
   r.m_nBolts = m_shape.Bolts();
-  r.m_dL1 = gb2017::JointLength(m_shape, input.m_dVx, input.m_dVy);
+  r.m_dL1 = gb2017::JointLength(m_shape, loads);
   r.m_dBeta = gb2017::LongJointFactor(r.m_dL1, r.m_dD0);
   gb2017::Interaction(input.m_nType, resistance, r.m_dBeta, m_figures);
   r.m_dNvb = resistance.m_dShear;
@@ -297,9 +304,9 @@ std::vector<CCaseWarning> CBoltCheck2017::Notes(const CBoltCase2017& input) cons
   }
   if (JudgedHole(input) != HoleOf(input)) {
     notes.push_back({"hole",
-                     {"有扭矩时部分螺栓沿槽孔长向受力，按 k = 0.6 验算（11.4.2 条）。",
-                      "Under a torque some bolts bear along their slots: judged by k = 0.6 "
-                      "(11.4.2)."}});
+                     {"有扭矩或两向剪力时螺栓也沿槽孔长向受力，按 k = 0.6 验算（11.4.2 条）。",
+                      "Under a torque or two shears bolts bear along their slots too: judged by "
+                      "k = 0.6 (11.4.2)."}});
   }
   return notes;
 }

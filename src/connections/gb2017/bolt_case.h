@@ -32,6 +32,9 @@ struct CBoltTrace2017 {
   bool m_bThreads = false;      // threads in them
   double m_dHoleX = 0;          // width that a hole takes out of a section across x, and across y
   double m_dHoleY = 0;
+  double m_dRoomX = 0;  // what a hole measures there: its diameter, or width or length of the slot
+  double m_dRoomY = 0;
+  double HoleRoom(bool bX) const noexcept { return bX ? m_dRoomX : m_dRoomY; }
 };
 
 class ORV3CAL_API CBoltCheck2017 : public CCaseAnswer {

@@ -83,9 +83,11 @@ double LongJointFactor(double l1, double d0) noexcept {
   return AtMost(l1, 60 * d0) ? std::min(1.0, 1.1 - l1 / (150 * d0)) : 0.7;
 }
 
-double JointLength(const CBoltShape& shape, double Vx, double Vy) noexcept {
-  const double x = IsZero(Vx) ? 0 : shape.m_dWidth;
-  const double y = IsZero(Vy) ? 0 : shape.m_dHeight;
+double JointLength(const CBoltShape& shape, const CBoltLoads& loads) noexcept {
+  // A torque pushes bolts along both axes.
+  const bool bTorque = !IsZero(loads.m_dT);
+  const double x = bTorque || !IsZero(loads.m_dVx) ? shape.m_dWidth : 0;
+  const double y = bTorque || !IsZero(loads.m_dVy) ? shape.m_dHeight : 0;
   return std::max(x, y);
 }
 

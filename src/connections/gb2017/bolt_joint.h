@@ -31,8 +31,8 @@ CBoltResistance FrictionResistance(double k, int surfaces, double mu, double pre
 
 // 11.4.5: 1.1 - l1 / (150 d0) beyond 15 d0, 0.7 beyond 60 d0.
 double LongJointFactor(double l1, double d0) noexcept;
-// The length of the joint along its shears.
-double JointLength(const CBoltShape& shape, double Vx, double Vy) noexcept;
+// The length of the joint along its forces: those of a torque along both axes.
+double JointLength(const CBoltShape& shape, const CBoltLoads& loads) noexcept;
 
 // Forces on the most stressed bolt, all at least 0. The torque adds to the shears at the farthest
 // bolt. The tension: preloaded bolts turn about the centroid; ordinary ones about the centroid

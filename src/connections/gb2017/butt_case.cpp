@@ -56,7 +56,7 @@ bool CButtCheck2017::Run(const CButtCase2017& input) {
   CButtResults& r = m_results;
   if (input.m_nLoadCase != 0) r.m_dW = input.m_dThick * input.m_dLw * input.m_dLw / 6;
   const CWeldFigures j = m_figures = JudgedFigures(static_cast<const CButtCase&>(input), r);
-  r.m_dSigma = j.Across();
+  r.m_dSigma = j.m_dSigma;
   r.m_dTau = j.m_dTau;
   r.m_dReduced = j.m_dCombined;
   const auto judge = [&](CTextLiteral name, const char* key, double effect, double limit) {
@@ -73,6 +73,7 @@ bool CButtCheck2017::Run(const CButtCase2017& input) {
   std::vector<CCaseWarning> notes;
   gb2017::NoteOf(ButtWeldStrengths(gb2017::kEdition, SteelOf(input), input.m_dThick), "steel",
                  notes);
+  gb2017::NoteOfEdge(j, notes);
   Warn(std::move(notes));
   return true;
 }

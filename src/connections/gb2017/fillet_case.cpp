@@ -29,6 +29,17 @@ void AngleFaults(const CFilletCase2017& input, CFaultList& faults) {
              {"请给 60° 至 135°，或直接给 he", "give 60 to 135°, or the throat he"});
 }
 
+// Below 40 degrees they are refused by either edition.
+void GrooveFaults(const CFilletCase2017& input, CFaultList& faults) {
+  if (input.m_dS == 0 || (input.m_nGroove != 1 && input.m_nGroove != 2) || input.m_dAngle <= 50)
+    return;
+  const std::string is = PlainNumber(input.m_dAngle) + "°";
+  faults.Add("angle",
+             {is + "：11.2.4 条单边 V 形和 K 形坡口的计算厚度 he = s − 3 适用于 45° ± 5°",
+              is + ": 11.2.4 gives he = s − 3 of bevel and K grooves for 45° ± 5°"},
+             {"请给 40° 至 50°，或直接给 he", "give 40° to 50°, or the throat he"});
+}
+
 void JointFaults(const CFilletCase2017& input, CFaultList& faults) {
   faults.Within("joint", input.m_nJoint, -1, 0);
   if (IsLap(input) && input.m_dHf == 0) {
@@ -38,8 +49,13 @@ void JointFaults(const CFilletCase2017& input, CFaultList& faults) {
                {"请给 hf 与 angle", "give hf and angle"});
   }
   if (input.m_dT1 == 0 && input.m_dT2 == 0) return;
-  faults.Positive("t1", input.m_dT1, "mm");
-  faults.Positive("t2", input.m_dT2, "mm");
+  const auto part = [&](const char* key, double t) {
+    if (t != 0) return faults.Positive(key, t, "mm");
+    faults.Add(key, {"未给", "is missing"},
+               {"请同时给 t1 与 t2，或都不给", "give both t1 and t2, or neither"});
+  };
+  part("t1", input.m_dT1);
+  part("t2", input.m_dT2);
 }
 
 auto MakeInputKeys() {
@@ -93,6 +109,7 @@ bool CFilletCheck2017::IsRefused(const CFilletCase2017& input) {
   faults.Within("steel", input.m_nSteel, 0, gb2017::kLastSteel);
   faults.Within("electrode", input.m_nElectrode, -1, 3);
   AngleFaults(input, faults);
+  GrooveFaults(input, faults);
   JointFaults(input, faults);
   m_results = {};
   if (faults.IsEmpty()) {
@@ -111,7 +128,7 @@ bool CFilletCheck2017::Run(const CFilletCase2017& input) {
   r.m_dW = r.m_dHe * input.m_dLw * input.m_dLw / 6;
   if (IsLap(input)) r.m_dAlphaF = gb2017::LapFactor(input.m_dLw, input.m_dHf);
   m_figures = FilletFigures(input, {r.m_dHe, r.m_dW, r.m_dAlphaF * r.m_dFfw, input.m_dLw});
-  r.m_dSigma = m_figures.Across();
+  r.m_dSigma = m_figures.m_dSigma;
   r.m_dTau = m_figures.m_dTau;
   r.m_dCombined = m_figures.m_dCombined;
   gb2017::FilletDetails(input, m_arrDetail);
@@ -144,6 +161,7 @@ void CFilletCheck2017::JudgeParts() {
 std::vector<CCaseWarning> CFilletCheck2017::Notes(const CFilletCase2017& input) const {
   std::vector<CCaseWarning> notes;
   gb2017::NoteOf(FilletWeldStrength(gb2017::kEdition, SteelOf(input)), "steel", notes);
+  gb2017::NoteOfEdge(m_figures, notes);
   WarnOfBeta(input, m_figures, kFilletClauses2017, notes);
   if (input.m_dS != 0 && m_figures.m_bShear && IsShortFusion(input.m_nGroove)) {
     notes.push_back({"groove",

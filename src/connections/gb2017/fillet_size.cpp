@@ -53,17 +53,28 @@ double MostLapLeg(double t) noexcept { return t <= 6 ? t : t - 1; }
 
 void FilletDetails(const CFilletCase2017& input, std::vector<CDetail>& details) {
   details.clear();
-  if (input.m_dS != 0) return;
+  // Of a weld without a leg the throat stands in its place.
   const bool bLeg = input.m_dHf != 0;
+  const double he = Throat(input);
   details.push_back({{"焊缝最小长度", "weld length, least"},
                      "lw",
                      "11.3.5",
                      "l_w",
-                     bLeg ? "\\max(8 h_f, 40)" : "40",
+                     bLeg ? "\\max(8 h_f, 40)" : "\\max(8 h_e, 40)",
                      input.m_dLw,
-                     std::max(8 * input.m_dHf, 40.0),
+                     std::max(8 * (bLeg ? input.m_dHf : he), 40.0),
                      false});
-  if (!bLeg) return;
+  if (!bLeg) {
+    details.push_back({{"最小计算厚度", "throat, least"},
+                       input.m_dS != 0 ? "s" : "he",
+                       "T 11.3.5",
+                       "h_e",
+                       "0.7 h_{f,min}",
+                       he,
+                       0.7 * LeastLeg(0),
+                       false});
+    return;
+  }
   // Whatever the parts, 3 mm is the least; no leg need be above the thinner part.
   const bool bParts = input.m_dT1 != 0;
   const double thin = std::min(input.m_dT1, input.m_dT2);

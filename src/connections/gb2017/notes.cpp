@@ -65,6 +65,18 @@ void NoteOfUnknownParts(const CFilletCase2017& input, std::vector<CCaseWarning>&
         hf + " is right for " + holds.m_strEnglish + "; give t1 and t2 to have it checked."}});
 }
 
+void NoteOfEdge(const CWeldFigures& judged, std::vector<CCaseWarning>& notes) {
+  const double stress = judged.TensionGoverns() ? judged.m_dTension : -judged.m_dCompression;
+  if (std::fabs(stress - judged.m_dSigma) <= 1e-9 * std::fabs(stress)) return;
+  const std::string is = PlainNumber(stress) + " N/mm²";
+  const std::string one = PlainNumber(judged.m_dSigma) + " N/mm²";
+  notes.push_back(
+      {"M",
+       {"σ = N/A + M/W = " + one + " 之外的另一边缘起控制作用：N/A − M/W = " + is + "。",
+        "The edge opposite to that of σ = N/A + M/W = " + one + " governs: N/A − M/W = " + is +
+            "."}});
+}
+
 void NoteOfThickParts(const char* key, double hf, std::vector<CCaseWarning>& notes) {
   const double thickest = ThickestPart(hf);
   if (thickest == 0 || !std::isfinite(thickest)) return;

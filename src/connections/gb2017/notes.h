@@ -16,7 +16,10 @@ void NoteOfDetails(std::span<const CDetail> details, std::vector<CCaseWarning>& 
 // What the leg of a fillet weld is enough for when the parts are not given.
 void NoteOfUnknownParts(const CFilletCase2017& input, std::vector<CCaseWarning>& notes);
 
-// The same for a group of welds by its smallest leg.
+// Of the edge that decides where it is not the one that `sigma` is of.
+void NoteOfEdge(const CWeldFigures& judged, std::vector<CCaseWarning>& notes);
+
+// As NoteOfUnknownParts, for a group of welds by its smallest leg.
 void NoteOfThickParts(const char* key, double hf, std::vector<CCaseWarning>& notes);
 
 }  // namespace orv3::gb2017

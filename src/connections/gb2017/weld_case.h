@@ -14,7 +14,8 @@ struct CFilletCase2017 : CFilletCase {
   double m_dT2 = 0;       // lap weld runs along
 };
 
-// The results are the figures that the verdict is made by.
+// The results are the figures that the verdict is made by, but for sigma: that is N/A + M/W, and
+// Figures() have the edge that decides.
 struct CFilletResults2017 : CFilletResults {
   double m_dAlphaF = 1;  // of a lap weld over 60 hf
   bool m_bSize = false;

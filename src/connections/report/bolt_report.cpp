@@ -109,13 +109,24 @@ void CBoltReport::Inputs() {
   };
   for (auto& [key, line] : lines) {
     if (unused(key)) continue;
+    static constexpr CTextLiteral kHoles[] = {
+        {"标准孔", "standard"},
+        {"大圆孔", "oversize"},
+        {"槽孔（内力与槽孔长向垂直）", "slots across the force"},
+        {"槽孔（内力与槽孔长向平行）", "slots along the force"}};
+    static constexpr CTextLiteral kThreads[] = {{"不在剪切面", "outside the shear plane"},
+                                                {"在剪切面", "in the shear plane"}};
+    static constexpr CTextLiteral kEdges[] = {
+        {"剪切边或手工切割边", "sheared or cut by hand"},
+        {"轧制边、自动气割或锯割边", "rolled, sawn or machine-cut"}};
     static constexpr CTextLiteral kLayoutNames[] = {{"并列", "grid"}, {"错列", "staggered"}};
     if (key == "layout") line.m_strValue = m_body.Text(kLayoutNames[m_input.m_nLayout]);
     if (key == "type") line.m_strValue = m_body.Text(kBoltTypeNames[m_input.m_nType]);
     if (key == "surface") line.m_strValue = m_body.Text(SurfaceText());
-    if (key == "hole") line.m_strValue = HoleName(Hole());
-    if (key == "threads") line.m_strValue = m_view.m_p2017->Trace().m_bThreads ? "in" : "out";
-    if (key == "edges") line.m_strValue = m_view.m_pInput2017->m_nEdges == 1 ? "rolled" : "sheared";
+    if (key == "hole") line.m_strValue = m_body.Text(kHoles[static_cast<std::size_t>(Hole())]);
+    if (key == "threads")
+      line.m_strValue = m_body.Text(kThreads[m_view.m_p2017->Trace().m_bThreads]);
+    if (key == "edges") line.m_strValue = m_body.Text(kEdges[m_view.m_pInput2017->m_nEdges == 1]);
     used.push_back(line);
   }
   m_body.Inputs(used);
@@ -437,11 +448,14 @@ void CBoltReport::Section(bool bX, CSteps& steps) const {
       {"抵抗 Vx 的最不利截面（1）之长", "Length of the worst section for Vx (1)"}};
   static constexpr CTextLiteral kNet = {"其净面积", "Its net area"};
   if (m_view.Is2017()) {
+    const CBoltTrace2017& trace = m_view.m_p2017->Trace();
+    const bool bSlot = trace.HoleRoom(bX) > m_r.m_dD0;  // the slot's length lies in the section
     steps.push_back({{"孔的削弱宽度", "What a hole takes out"},
                      "11.5.2",
                      "d_c",
-                     "\\max(d_0, d + 4)",
-                     "",
+                     bSlot ? "\\max(l_0, d + 4)" : "\\max(d_0, d + 4)",
+                     "\\max(" + SubstitutedNumber(trace.HoleRoom(bX)) + ", " +
+                         std::to_string(m_input.m_nD) + " + 4)",
                      HoleOut(bX),
                      "mm"});
   }

@@ -140,6 +140,7 @@ void CGroupReport::Inputs() {
     const std::string key = keys[i].m_szKey;
     if (key == "id" || (key == "electrode" && m_input.m_nElectrode < 0)) continue;
     if (key == "joint" && m_input.m_nJoint < 0) continue;
+    if (key == "joint") lines[i].m_strValue = m_body.Text({"搭接", "lap"});
     if (key == "welds") {
       lines[i].m_strValue = std::to_string(m_check.Welds().size());
       lines[i].m_strUnit = "";

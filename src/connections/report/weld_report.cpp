@@ -70,6 +70,7 @@ void WeldInputs(CReportBody& body, const CASE& input, std::span<const CInputKey<
     if constexpr (std::is_base_of_v<CFilletCase, CASE>) {
       if (key == "groove") lines[i].m_strUnit = body.Text(kGrooveNames[input.m_nGroove]);
     }
+    if (key == "joint") lines[i].m_strValue = body.Text({"搭接", "lap"});
     used.push_back(lines[i]);
   }
   body.Inputs(used);

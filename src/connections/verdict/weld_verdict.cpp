@@ -13,9 +13,10 @@ namespace {
 template <class CASE>
 CWeldFigures Edges(const CASE& input, double area, double modulus, int welds = 1) {
   const double direct = TakesN(input.m_nLoadCase) ? 1000 * (input.m_dN / welds) / area : 0;
-  const double bending =
-      TakesM(input.m_nLoadCase) ? 1000 * std::fabs(input.m_dM / welds) / modulus : 0;
+  const double turned = TakesM(input.m_nLoadCase) ? 1000 * (input.m_dM / welds) / modulus : 0;
+  const double bending = std::fabs(turned);
   CWeldFigures figures;
+  figures.m_dSigma = direct + turned;
   figures.m_dTension = std::max(0.0, direct + bending);
   figures.m_dCompression = std::max(0.0, bending - direct);
   figures.m_bShear = TakesV(input.m_nLoadCase);

@@ -8,9 +8,10 @@ struct CFilletResults;
 struct CButtCase;
 struct CButtResults;
 
-// Stresses and limits in N/mm2, stresses at least 0. M pulls one edge of the weld and presses the
-// other, so both edges are looked at whatever the signs of N and M.
+// Stresses and limits in N/mm2, stresses at least 0 but for m_dSigma. M pulls one edge of the weld
+// and presses the other, so both edges are looked at whatever the signs of N and M.
 struct CWeldFigures {
+  double m_dSigma = 0;        // N/A + M/W with their signs
   double m_dTension = 0;      // at the edge that is pulled most; 0 when none is
   double m_dCompression = 0;  // at the edge that is pressed most
   double m_dTensionLimit = 0;

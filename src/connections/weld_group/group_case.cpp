@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <optional>
 
 #include "codes/weld_strength.h"
@@ -26,6 +27,52 @@ std::vector<CWeldLine> WeldsOf(const CWeldGroupCase& input) {
     welds.push_back({each[0], each[1], each[2], each[3], each[4]});
   }
   return welds;
+}
+
+// Both welds run over the same stretch of one line. Ends that meet and welds that cross do not.
+bool IsOver(const CWeldLine& a, const CWeldLine& b) noexcept {
+  const CWeldLine& line = a.Length() >= b.Length() ? a : b;
+  const CWeldLine& other = a.Length() >= b.Length() ? b : a;
+  const double length = line.Length();
+  const double tolerance = std::min(0.1, other.Length() / 1000);  // mm
+  const double x = (line.m_dX2 - line.m_dX1) / length;
+  const double y = (line.m_dY2 - line.m_dY1) / length;
+  const auto along = [&](double px, double py) {
+    return (px - line.m_dX1) * x + (py - line.m_dY1) * y;
+  };
+  const auto across = [&](double px, double py) {
+    return std::fabs((py - line.m_dY1) * x - (px - line.m_dX1) * y);
+  };
+  if (across(other.m_dX1, other.m_dY1) > tolerance || across(other.m_dX2, other.m_dY2) > tolerance)
+    return false;
+  const double from = along(other.m_dX1, other.m_dY1);
+  const double to = along(other.m_dX2, other.m_dY2);
+  return std::min(length, std::max(from, to)) - std::max(0.0, std::min(from, to)) > tolerance;
+}
+
+// The throat of a stretch that is given twice would count twice.
+void OverlapFault(const std::vector<CWeldLine>& welds, CFaultList& faults) {
+  const auto left = [&](std::size_t i) { return std::min(welds[i].m_dX1, welds[i].m_dX2); };
+  std::vector<std::size_t> order(welds.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::stable_sort(order.begin(), order.end(),
+                   [&](std::size_t a, std::size_t b) { return left(a) < left(b); });
+  constexpr double kNear = 0.1;  // mm
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    const CWeldLine& weld = welds[order[i]];
+    const double right = std::max(weld.m_dX1, weld.m_dX2) + kNear;
+    for (std::size_t j = i + 1; j < order.size() && left(order[j]) <= right; ++j) {
+      if (!IsOver(weld, welds[order[j]])) continue;
+      const auto [first, second] = std::minmax(order[i], order[j]);
+      const std::string a = std::to_string(first + 1);
+      const std::string b = std::to_string(second + 1);
+      faults.Add("welds",
+                 {"第 " + a + " 条与第 " + b + " 条焊缝重叠，重叠处会计两次",
+                  "welds " + a + " and " + b + " lie on one another and would count twice there"},
+                 {"请只给一次", "give each stretch of weld once"});
+      return;
+    }
+  }
 }
 
 void WeldFaults(const CWeldGroupCase& input, CFaultList& faults) {
@@ -57,6 +104,7 @@ void WeldFaults(const CWeldGroupCase& input, CFaultList& faults) {
     }
     if (!faults.IsEmpty()) return;
   }
+  OverlapFault(welds, faults);
 }
 
 CWeldGroupLoads LoadsOf(const CWeldGroupCase& input) noexcept {
