@@ -1,6 +1,5 @@
 #include "codes/fatigue.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "catalogue/code_tables/table_search.h"
@@ -53,9 +52,7 @@ CCodeAnswer<CFatigueCategory> FatigueCategory(CCodeEdition edition, std::string_
 double AllowableRange(const CFatigueCategory& category, double n) noexcept {
   const double C = category.m_dC;
   const double beta = category.m_dBeta;
-  // The printed cut-off is rounded, and may lie above the curve's end: no range grows with n.
-  if (category.m_cutOff && n > kCutOff)
-    return std::min(*category.m_cutOff, AllowableRange(category, kCutOff));
+  if (category.m_cutOff && n > kCutOff) return *category.m_cutOff;
   if (!category.m_range5e6 || IsShear(category) || n <= kKnee) return std::pow(C / n, 1 / beta);
   const double atKnee = *category.m_range5e6;
   return std::pow(atKnee * atKnee * C / n, 1 / (beta + 2));
