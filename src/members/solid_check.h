@@ -38,7 +38,8 @@ class CSolidCheck {
   double Class4(CClassElement element, double alpha0) const;  // the limit of S4
   double Class5(CClassElement element) const;
   void Reduce(const CWebStress& stress, CReducedPlates reduced);
-  double FlangeRatio() const;  // of the outstands that a moment compresses
+  bool IsFlangeCompressed(CSide side) const;
+  double FlangeRatio() const;  // of the outstands in compression, 0 without any
   double BoxFlangeRatio() const;
   void Plates();
   void AxialPlates();

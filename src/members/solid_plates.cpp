@@ -63,9 +63,16 @@ double CSolidCheck::Class5(CClassElement element) const {
   return *ClassLimits(m.m_nEdition, element, m.m_nGrade)->m_arrLimit[4];
 }
 
+// By the axial force and the moments along the member, My with the sign that adds.
+bool CSolidCheck::IsFlangeCompressed(CSide side) const {
+  const double most = side == CSide::Top ? q.m_x.Most() : -q.m_x.Least();
+  const double W = side == CSide::Top ? s.m_dWTop : s.m_dWBottom;
+  return -q.m_dN / s.m_dA + most / W + m_dMy / s.m_dWSide > 0;
+}
+
 double CSolidCheck::FlangeRatio() const {
-  if (!q.m_y.IsZero()) return std::max(Outstand(s.m_top), Outstand(s.m_bottom));
-  return Outstand(CompressedFlange());
+  return std::max(IsFlangeCompressed(CSide::Top) ? Outstand(s.m_top) : 0.0,
+                  IsFlangeCompressed(CSide::Bottom) ? Outstand(s.m_bottom) : 0.0);
 }
 
 // Before every formula that asks gamma or an effective section.
@@ -117,7 +124,7 @@ void CSolidCheck::ClassifyPlates() {
 
 void CSolidCheck::ClassifyOpen() {
   const double flange = FlangeRatio();
-  const bool bFlange = CompressedFlange().m_dThick > 0 || !q.m_y.IsZero();
+  const bool bFlange = flange > 0;
   if (bFlange) Classify(CClassElement::FlangeOutstand, flange, 2);
   if (s.m_nShape == CMemberShape::T) return;
   const CWebStress stress = WebStress(m_dMx);
@@ -128,8 +135,9 @@ void CSolidCheck::ClassifyOpen() {
   const bool bWebReduced = bWeb && h0tw > Class4(web, stress.m_dAlpha0);
   const bool bFlangeReduced = bFlange && m_dNc == 0 && s.m_nShape == CMemberShape::I &&
                               flange > Class4(CClassElement::FlangeOutstand, 2);
+  const CSide other = m_nSide == CSide::Top ? CSide::Bottom : CSide::Top;
   if (bWebReduced || bFlangeReduced)
-    Reduce(stress, {bWebReduced, bFlangeReduced, bFlangeReduced && !q.m_y.IsZero()});
+    Reduce(stress, {bWebReduced, bFlangeReduced, bFlangeReduced && IsFlangeCompressed(other)});
 }
 
 void CSolidCheck::Reduce(const CWebStress& stress, CReducedPlates reduced) {
