@@ -115,9 +115,12 @@ void CRowReader::GeneralI(CMemberFlange top, CMemberFlange bottom, double h, dou
                        s.m_dSBottom + tw * s.m_dWebBottom * s.m_dWebBottom / 2),
               tw};
   if (const double printed = Cell(L"Sx(cm^3)"); printed > 0) s.m_cutY.m_dS = 1000 * printed;
-  // The flanges carry Vx, cut in their middle.
-  const auto half = [](const CMemberFlange& f) { return f.m_dThick * f.m_dWidth * f.m_dWidth / 8; };
-  s.m_cutX = {half(top) + half(bottom), top.m_dThick + bottom.m_dThick};
+  // The flanges carry Vx, each its share by b^3 t, and are cut in their middle: V S / (Iy t) with
+  // the figures of one flange, greatest in the wider.
+  const bool bTop = top.m_dWidth != bottom.m_dWidth ? top.m_dWidth > bottom.m_dWidth
+                                                    : top.m_dThick >= bottom.m_dThick;
+  const CMemberFlange& wider = bTop ? top : bottom;
+  s.m_cutX = {wider.m_dThick * wider.m_dWidth * wider.m_dWidth / 8, wider.m_dThick};
 }
 
 void CRowReader::H(double b, double h, double tw, double tf, double root) {
