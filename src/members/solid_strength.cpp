@@ -110,14 +110,15 @@ void CSolidCheck::Shear() {
     a.Step("τy", "Vy·Sx/(Ix·t)", tauY, "N/mm²");
     return a.Close("√({τx}² + {τy}²)/{fv}", std::hypot(tauX, tauY) / m.m_dFv);
   }
-  const bool bY = tauY >= tauX;
+  const bool bY = tauY / m.m_dFv >= tauX / m.m_dFvX;
   const CShearCut& cut = bY ? s.m_cutY : s.m_cutX;
   a.Step("V", nullptr, bY ? Vy : Vx, "N");
   a.Step("S", nullptr, cut.m_dS, "mm³");
   a.Step("t", nullptr, cut.m_dT, "mm");
+  if (!bY) a.Step("fv", nullptr, m.m_dFvX, "N/mm²");
   if (s.m_nShape == CMemberShape::Channel) a.Note(CMemberNote::ShearCentre);
   a.Close(bY ? "{V}·{S}/({Ix}·{t}·{fv})" : "{V}·{S}/({Iy}·{t}·{fv})",
-          std::max(tauX, tauY) / m.m_dFv);
+          bY ? tauY / m.m_dFv : tauX / m.m_dFvX);
 }
 
 // 6.1.5 at the worse end of the web, without sigma-c; 2003: 4.1.4.

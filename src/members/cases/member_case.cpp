@@ -181,10 +181,13 @@ bool CMemberCheck::ReadSteel(const CMemberCase& input, const CMemberRow& section
   if (!thick) return Refuse("steel", thick.Refusal().m_what, thick.Refusal().m_right);
   const auto web = SteelStrengths(m_nEdition, *grade, section.m_dWebThick, product);
   if (!web) return Refuse("steel", web.Refusal().m_what, web.Refusal().m_right);
+  const auto flange = SteelStrengths(m_nEdition, *grade, section.m_dFlangeThick, product);
+  if (!flange) return Refuse("steel", flange.Refusal().m_what, flange.Refusal().m_right);
   m_steel.m_nEdition = m_nEdition;
   m_steel.m_nGrade = *grade;
   m_steel.m_dF = thick->m_dF;
   m_steel.m_dFv = web->m_dFv;
+  m_steel.m_dFvX = flange->m_dFv;
   m_steel.m_dFu = thick->m_dFu.value_or(0);
   m_steel.m_dFy = thick->m_dFy;
   return true;
