@@ -76,6 +76,9 @@ class CSolidCheck {
   bool Is2017() const noexcept { return m.m_nEdition == CCodeEdition::Gb2017; }
   bool HasMoment() const noexcept { return !q.m_x.IsZero() || !q.m_y.IsZero(); }
   bool IsBiaxial() const noexcept { return !q.m_x.IsZero() && !q.m_y.IsZero(); }
+  // The row "upper flange" of the tables: a load with Mx below 0 acts upwards, so that on the upper
+  // flange it draws away from the centroid.
+  bool IsLoadTowardsCentroid() const noexcept { return q.m_bUpper == (q.m_x.m_dMq > 0); }
   const CMemberFlange& CompressedFlange() const noexcept {
     return m_nSide == CSide::Top ? s.m_top : s.m_bottom;
   }

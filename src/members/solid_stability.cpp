@@ -280,8 +280,8 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
     const double xi = q.m_dSpan * flange.m_dThick / (flange.m_dWidth * section.m_dH);
     const bool bPoint = c.m_nLoad == CSpanLoad::Midspan;
     const CBeamLoad kind = bPoint
-                               ? (q.m_bUpper ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
-                               : (q.m_bUpper ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
+                               ? (IsLoadTowardsCentroid() ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
+                               : (IsLoadTowardsCentroid() ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
     a.Step("ξ", nullptr, xi);
     const auto answer = BetaB(m.m_nEdition, kind, q.m_nSupports, xi, section.m_dAlphaB);
     const double* beta = Take("load", answer);
@@ -308,8 +308,8 @@ double CSolidCheck::BeamPhiB() {
     const CRolledILoad load =
         q.m_nSupports > 0 ? CRolledILoad::Supported
         : c.m_nLoad == CSpanLoad::Midspan
-            ? (q.m_bUpper ? CRolledILoad::PointUpper : CRolledILoad::PointLower)
-            : (q.m_bUpper ? CRolledILoad::UniformUpper : CRolledILoad::UniformLower);
+            ? (IsLoadTowardsCentroid() ? CRolledILoad::PointUpper : CRolledILoad::PointLower)
+            : (IsLoadTowardsCentroid() ? CRolledILoad::UniformUpper : CRolledILoad::UniformLower);
     const auto answer =
         RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber, q.m_dSpan / 1000);
     const CPhiB* phiB = Take("span", answer);
