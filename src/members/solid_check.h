@@ -31,6 +31,8 @@ class CSolidCheck {
     CSide m_nSide = CSide::Top;  // where it is
   };
   CWebStress WebStress(double Mx) const;
+  double WebStressOfMy() const;
+  CClassElement WebElement() const;
   void Plasticity();
   void ClassifyPlates();
   void ClassifyOpen();

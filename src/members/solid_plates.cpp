@@ -38,12 +38,23 @@ bool HasFlanges(CMemberShape shape) {
 
 // Stresses at the ends of the web, compression positive, Mx compressing the top when positive.
 CSolidCheck::CWebStress CSolidCheck::WebStress(double Mx) const {
-  const double axial = -q.m_dN / s.m_dA;
+  const double axial = -q.m_dN / s.m_dA + WebStressOfMy();
   const double top = axial + Mx * s.m_dWebTop / s.m_dIx;
   const double bottom = axial - Mx * s.m_dWebBottom / s.m_dIx;
   const double greatest = std::max(top, bottom);
   const double alpha0 = greatest > 0 ? (greatest - std::min(top, bottom)) / greatest : 2;
   return {greatest, alpha0, top >= bottom ? CSide::Top : CSide::Bottom};
+}
+
+// A channel's web lies beside its axis y: My presses it evenly, with the sign that adds.
+double CSolidCheck::WebStressOfMy() const {
+  if (s.m_nShape != CMemberShape::Channel) return 0;
+  return m_dMy * (s.m_dWidth - s.m_dIy / s.m_dWSide) / s.m_dIy;
+}
+
+CClassElement CSolidCheck::WebElement() const {
+  return m_dNc > 0 || WebStressOfMy() > 0 ? CClassElement::WebCompressed
+                                          : CClassElement::WebBending;
 }
 
 // --- Classes of 2017 -----------------------------------------------------------------------------
@@ -129,10 +140,11 @@ void CSolidCheck::ClassifyOpen() {
   if (s.m_nShape == CMemberShape::T) return;
   const CWebStress stress = WebStress(m_dMx);
   const bool bWeb = stress.m_dMax > 0;
-  const CClassElement web = m_dNc > 0 ? CClassElement::WebCompressed : CClassElement::WebBending;
+  const CClassElement web = WebElement();
   const double h0tw = s.m_dH0 / s.m_dTw;
   if (bWeb) Classify(web, h0tw, stress.m_dAlpha0);
-  const bool bWebReduced = bWeb && h0tw > Class4(web, stress.m_dAlpha0);
+  // The effective section is of webs on the axis y.
+  const bool bWebReduced = bWeb && WebStressOfMy() == 0 && h0tw > Class4(web, stress.m_dAlpha0);
   const bool bFlangeReduced = bFlange && m_dNc == 0 && s.m_nShape == CMemberShape::I &&
                               flange > Class4(CClassElement::FlangeOutstand, 2);
   const CSide other = m_nSide == CSide::Top ? CSide::Bottom : CSide::Top;
@@ -246,10 +258,9 @@ void CSolidCheck::OpenPlates2017() {
     return Limit(CMemberCheckKind::Web, "7.3.1", web,
                  *AxialWidthLimit(m.m_nEdition, stem, m.m_nGrade, m_dLambdaMax));
   }
-  const CClassElement element =
-      bCompression ? CClassElement::WebCompressed : CClassElement::WebBending;
+  const CClassElement element = WebElement();
   const double class4 = Class4(element, stress.m_dAlpha0);
-  const bool bReduced = web > class4;
+  const bool bReduced = web > class4 && WebStressOfMy() == 0;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
         bReduced ? Class5(element) : class4);
   NoteStiffeners(web);
@@ -290,7 +301,10 @@ void CSolidCheck::MomentPlates2003() {
   if (IsSolid(s.m_nShape)) return;
   const CWebStress stress = WebStress(m_dMx);
   const CBeamColumnWeb web = {std::min(stress.m_dAlpha0, 2.0),
-                              q.m_x.IsZero() ? r.m_dLambdaY : r.m_dLambdaX, m_bGammaReduced,
+                              !bColumn         ? 0
+                              : q.m_x.IsZero() ? r.m_dLambdaY
+                                               : r.m_dLambdaX,
+                              m_bGammaReduced,
                               stress.m_nSide == CSide::Bottom};
   const double h0tw = s.m_dH0 / s.m_dTw;
   const auto column = [&](CWidthElement element) {
@@ -313,8 +327,9 @@ void CSolidCheck::MomentPlates2003() {
     const CWidthElement stem = s.m_bRolled ? CWidthElement::WebTRolled : CWidthElement::WebTWelded;
     return Limit(CMemberCheckKind::Web, "5.4.4", h0tw, column(stem));
   }
-  Limit(CMemberCheckKind::Web, bColumn ? "5.4.2" : "4.3.2", h0tw,
-        bColumn ? column(CWidthElement::WebI) : 250);
+  const bool bPressed = bColumn || WebStressOfMy() > 0;
+  Limit(CMemberCheckKind::Web, bPressed ? "5.4.2" : "4.3.2", h0tw,
+        bPressed ? column(CWidthElement::WebI) : 250);
   NoteStiffeners(h0tw);
 }
 
