@@ -31,7 +31,12 @@ void CSolidCheck::Stability() {
   r.m_dPhiX = Phi(lambdaX, bChannel ? m.m_nClassY : m.m_nClassX);
   r.m_dPhiY = Phi(lambdaY, m.m_nClassY);
   m_dPhiLeast = std::min(r.m_dPhiX, r.m_dPhiY);
-  if (HasMoment()) return BeamColumns();
+  if (HasMoment()) {
+    BeamColumns();
+    // The moment by itself: compression is no help against lateral buckling.
+    if (!a.IsRefused()) Lateral();
+    return;
+  }
   AxialStability(CMemberCheckKind::StabilityX, lambdaX, r.m_dPhiX);
   AxialStability(CMemberCheckKind::StabilityY, lambdaY, r.m_dPhiY);
   if (Is2017() && s.m_nShape == CMemberShape::I && s.IsEqualFlanged()) {
@@ -330,7 +335,7 @@ double CSolidCheck::BeamPhiB() {
   return phiB->m_dPhiB;
 }
 
-// 6.2.2, 6.2.3; 2003: 4.2.2, 4.2.3. Of members without compression.
+// 6.2.2, 6.2.3; 2003: 4.2.2, 4.2.3. Of the moments alone.
 void CSolidCheck::Lateral() {
   if (q.m_x.IsZero()) return;
   switch (s.m_nShape) {
@@ -347,14 +352,15 @@ void CSolidCheck::Lateral() {
          q.m_y.IsZero() ? Clause("6.2.2", "4.2.2") : Clause("6.2.3", "4.2.3"));
   a.Step("l1", nullptr, q.m_dSpan, "mm");
   a.Step("iy", nullptr, s.m_dRy, "mm");
-  r.m_dPhiB = BeamPhiB();
+  const double phiB = BeamPhiB();
   if (a.IsRefused()) return;
+  if (m_dNc == 0) r.m_dPhiB = phiB;  // else that of the beam-column
   const double W = m_effective ? m_effective->m_dWCompressed : WCompressed();
   const double Wy = m_effective ? m_effective->m_dWSide : s.m_dWSide;
-  a.Step("φb", nullptr, r.m_dPhiB);
+  a.Step("φb", nullptr, phiB);
   a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
   a.Step("Wx", nullptr, W, "mm³");
-  const double first = LateralTerm(1, std::fabs(m_dMx), r.m_dPhiB, W, F());
+  const double first = LateralTerm(1, std::fabs(m_dMx), phiB, W, F());
   if (q.m_y.IsZero()) return a.Close("{Mx}/({φb}·{Wx}·{f})", first);
   a.Step("γy", nullptr, r.m_dGammaY);
   a.Step("Wy", nullptr, Wy, "mm³");
