@@ -72,6 +72,7 @@ enum class CMemberNote : std::uint8_t {
   BetweenLoadAndEnds,
   HeavyTension,
   RolledITable,
+  RolledIShort,
   Stiffeners,
   EffectiveSection,
   ShearCentre,

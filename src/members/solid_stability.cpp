@@ -254,7 +254,7 @@ double CSolidCheck::UniformPhiB(double lambdaY) {
     }
   }
   const auto answer = UniformBendingPhiB(m.m_nEdition, m.m_nGrade, shape, lambdaY, BeamSection());
-  const double* phiB = Take("span", answer);
+  const double* phiB = Take("lengths.span", answer);
   return phiB != nullptr ? *phiB : 1;
 }
 
@@ -303,7 +303,7 @@ double CSolidCheck::BeamPhiB() {
   if (s.m_nShape == CMemberShape::Channel) {
     const auto answer = ChannelPhiB(m.m_nEdition, m.m_nGrade, s.m_dHeight, s.m_top.m_dWidth,
                                     s.m_top.m_dThick, q.m_dSpan);
-    const CPhiB* phiB = Take("span", answer);
+    const CPhiB* phiB = Take("lengths.span", answer);
     return phiB != nullptr ? phiB->m_dPhiB : 1;
   }
   const double lambdaY = q.m_dSpan / s.m_dRy;
@@ -315,9 +315,11 @@ double CSolidCheck::BeamPhiB() {
         : c.m_nLoad == CSpanLoad::Midspan
             ? (IsLoadTowardsCentroid() ? CRolledILoad::PointUpper : CRolledILoad::PointLower)
             : (IsLoadTowardsCentroid() ? CRolledILoad::UniformUpper : CRolledILoad::UniformLower);
-    const auto answer =
-        RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber, q.m_dSpan / 1000);
-    const CPhiB* phiB = Take("span", answer);
+    constexpr double kShortest = 2;  // m; shorter spans have a greater phi-b
+    const double span = std::max(kShortest, q.m_dSpan / 1000);
+    if (q.m_dSpan < 1000 * kShortest) a.Note(CMemberNote::RolledIShort);
+    const auto answer = RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber, span);
+    const CPhiB* phiB = Take("lengths.span", answer);
     return phiB != nullptr ? phiB->m_dPhiB : 1;
   }
   if (q.m_bTapered) a.Note(CMemberNote::RolledITable);
@@ -329,7 +331,7 @@ double CSolidCheck::BeamPhiB() {
   a.Step("t1", nullptr, section.m_dT1, "mm");
   a.Step("αb", nullptr, section.m_dAlphaB);
   const auto answer = WeldedIPhiB(m.m_nEdition, m.m_nGrade, section, lambdaY, beta);
-  const CPhiB* phiB = Take("span", answer);
+  const CPhiB* phiB = Take("lengths.span", answer);
   if (phiB == nullptr) return 1;
   a.Step("φb (elastic)", nullptr, phiB->m_dElastic);
   return phiB->m_dPhiB;
