@@ -1,5 +1,6 @@
 #include "members/cases/member_case.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "catalogue/outline/row_spacing.h"
@@ -262,12 +263,27 @@ bool CMemberCheck::ReadCourse(const char* key, const CSpacing& moment, const cha
   return true;
 }
 
+bool CMemberCheck::IsPossible(const char* key, std::span<const double> values) {
+  constexpr double kMost = 1e15;  // kN, kN mm: what no member is asked, and no formula overflows by
+  if (std::all_of(values.begin(), values.end(), [](double v) { return std::fabs(v) <= kMost; }))
+    return true;
+  return Refuse(key, {"太大或不是有限数", "is too great or no finite number"},
+                {"请给出绝对值不大于 1e15 的数", "give a number of at most 1e15 in magnitude"});
+}
+
 bool CMemberCheck::ReadForces(const CMemberCase& input) {
-  for (const auto& [key, value] :
-       {std::pair{"N", input.m_dN}, {"Vx", input.m_dVx}, {"Vy", input.m_dVy}}) {
-    if (std::isinf(value) || (std::isnan(value) && *key != 'N'))
-      return Refuse(key, {"不是有限数", "is no finite number"}, {"请给出数值", "give a number"});
+  const auto given = [](double value) { return std::isnan(value) ? 0 : value; };
+  for (const auto& [key, value] : {std::pair{"N", given(input.m_dN)},
+                                   {"Vx", input.m_dVx},
+                                   {"Vy", input.m_dVy},
+                                   {"Mx", input.m_Mx.m_dUniform},
+                                   {"My", input.m_My.m_dUniform},
+                                   {"Mqx", given(input.m_dMqx)},
+                                   {"Mqy", given(input.m_dMqy)}}) {
+    if (!IsPossible(key, std::span(&value, 1))) return false;
   }
+  if (!IsPossible("Mx", input.m_Mx.m_arrEach) || !IsPossible("My", input.m_My.m_arrEach))
+    return false;
   m_loads.m_dN = std::isnan(input.m_dN) ? 0 : 1000 * input.m_dN;
   m_loads.m_dVx = 1000 * input.m_dVx;
   m_loads.m_dVy = 1000 * input.m_dVy;

@@ -66,6 +66,7 @@ class ORV3CAL_API CMemberCheck {
   bool ReadEdition(const CMemberCase& input);
   bool ReadSteel(const CMemberCase& input, const CMemberRow& section);
   bool ReadClasses(const CMemberCase& input, const CMemberRow& section);
+  bool IsPossible(const char* key, std::span<const double> values);
   bool ReadForces(const CMemberCase& input);
   bool ReadCourse(const char* key, const CSpacing& moment, const char* loadKey, double Mq,
                   CMomentCourse& course);
