@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "codes/lateral_buckling.h"
 #include "members/effective_section.h"
@@ -55,7 +56,15 @@ class CSolidCheck {
   void Strength();
   double StrengthRatio(double Mx, bool bSteps);
   void Shear();
+  // A place that carries a shear: its distances from the centroid, the first moment beyond it and
+  // the thickness there.
+  struct CPlace {
+    bool m_bVx;
+    double m_dY, m_dX, m_dS, m_dT;
+  };
+  std::vector<CPlace> ShearedPlaces() const;
   void Combined();
+  void CombinedRound();
   // --- solid_stability.cpp
   double Phi(double lambda, CBucklingClass bucklingClass) const;
   void Stability();
