@@ -40,6 +40,8 @@ class CSolidCheck {
   void Classify(CClassElement element, double ratio, double alpha0);
   double Class4(CClassElement element, double alpha0) const;  // the limit of S4
   double Class5(CClassElement element) const;
+  void ReduceBoxFlange();
+  void GiveEffective(double alpha0, bool bWeb, double h0, double tw);
   void Reduce(const CWebStress& stress, CReducedPlates reduced);
   bool IsFlangeCompressed(CSide side) const;
   double FlangeRatio() const;  // of the outstands in compression, 0 without any
@@ -118,8 +120,9 @@ class CSolidCheck {
   std::optional<CSectionClass> m_class;
   bool m_bBeyond = false;  // a plate beyond the last class
   std::optional<CEffectiveSection> m_effective;
+  bool m_bTurned = false;  // its web is a flange of a box, compressed by My
   // Of a beam-column.
-  double m_dAe = 0, m_dShift = 0, m_dW1 = 0, m_dWy = 0, m_dEta = 1;
+  double m_dAe = 0, m_dShiftX = 0, m_dShiftY = 0, m_dW1 = 0, m_dWy = 0, m_dEta = 1;
   CEquivalentMoment m_inX, m_inY, m_outX, m_outY;
 };
 

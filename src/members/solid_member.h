@@ -29,7 +29,8 @@ struct CMemberLoads {
   int m_nSupports = 0;   // lateral supports within the span; 2 is two and more
   bool m_bSway = false;
   double m_dLx = 0, m_dLy = 0, m_dLz = 0;  // effective lengths
-  double m_dSpan = 0;                      // free span of the compression flange
+  double m_dSpan = 0;                      // free span of the compression flange, of Mx
+  double m_dSpanY = 0;                     // of My, for a box
   bool m_bNet = false;
   double m_dNetA = 1, m_dNetW = 1;  // shares of the gross that are left
   bool m_bDynamic = false;

@@ -2,6 +2,7 @@
 // 6.1.1, 6.1.2, 7.3, 8.4; GB 50017-2003, 4.1.1, 4.3, 5.4.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "codes/plasticity.h"
 #include "codes/width_limits.h"
@@ -124,6 +125,7 @@ void CSolidCheck::ClassifyPlates() {
       Classify(web, s.m_dH0 / s.m_dTw, 2);
       if (s.m_dH0 / s.m_dTw > Class4(web, 2) && !q.m_x.IsZero() && q.m_y.IsZero())
         Reduce(WebStress(m_dMx), {.m_bWeb = true});
+      if (BoxFlangeRatio() > Class4(flange, 2) && q.m_x.IsZero()) ReduceBoxFlange();
       return;
     }
     case CMemberShape::Tube:
@@ -152,22 +154,51 @@ void CSolidCheck::ClassifyOpen() {
     Reduce(stress, {bWebReduced, bFlangeReduced, bFlangeReduced && IsFlangeCompressed(other)});
 }
 
-void CSolidCheck::Reduce(const CWebStress& stress, CReducedPlates reduced) {
-  const CEffectiveSection e =
-      EffectiveSection(s, m_nSide, stress.m_dAlpha0, r.m_dEpsilonK, reduced);
+// A box bent about y has its flanges for webs: the box turned by a right angle.
+void CSolidCheck::ReduceBoxFlange() {
+  CMemberSection turned = s;
+  std::swap(turned.m_dHeight, turned.m_dWidth);
+  std::swap(turned.m_dIx, turned.m_dIy);
+  turned.m_dWTop = turned.m_dWBottom = s.m_dWSide;
+  turned.m_dWSide = std::min(s.m_dWTop, s.m_dWBottom);
+  turned.m_top = turned.m_bottom = {s.m_dHeight, s.m_dTw, 0};
+  turned.m_dH0 = s.m_dB0;
+  turned.m_dB0 = s.m_dH0;
+  turned.m_dTw = std::min(s.m_top.m_dThick, s.m_bottom.m_dThick);
+  turned.m_dWebTop = turned.m_dWebBottom = s.m_dB0 / 2;
+  const double axial = -q.m_dN / s.m_dA, bending = m_dMy * turned.m_dWebTop / s.m_dIy;
+  const double greatest = axial + bending;
+  if (greatest <= 0) return;
+  const double alpha0 = 2 * bending / greatest;
+  CEffectiveSection e =
+      EffectiveSection(turned, CSide::Top, alpha0, r.m_dEpsilonK, {.m_bWeb = true});
+  std::swap(e.m_dWCompressed, e.m_dWSide);
+  e.m_dWOther = e.m_dWCompressed;
   m_effective = e;
+  m_bTurned = true;
+  GiveEffective(alpha0, true, turned.m_dH0, turned.m_dTw);
+}
+
+void CSolidCheck::Reduce(const CWebStress& stress, CReducedPlates reduced) {
+  m_effective = EffectiveSection(s, m_nSide, stress.m_dAlpha0, r.m_dEpsilonK, reduced);
+  GiveEffective(stress.m_dAlpha0, reduced.m_bWeb, s.m_dH0, s.m_dTw);
+}
+
+void CSolidCheck::GiveEffective(double alpha0, bool bWeb, double h0, double tw) {
+  const CEffectiveSection& e = *m_effective;
   a.Note(CMemberNote::EffectiveSection);
-  if (reduced.m_bWeb) {
-    a.Step("α0", nullptr, stress.m_dAlpha0);
+  if (bWeb) {
+    a.Step("α0", nullptr, alpha0);
     a.Step("kσ", "16/(2 − {α0} + √((2 − {α0})² + 0.112·{α0}²))", e.m_dKSigma);
-    a.Step("h0", nullptr, s.m_dH0, "mm");
-    a.Step("tw", nullptr, s.m_dTw, "mm");
+    a.Step("h0", nullptr, h0, "mm");
+    a.Step("tw", nullptr, tw, "mm");
     a.Step("λn,p", "{h0}/{tw}/(28.1·√{kσ})/{εk}", e.m_dLambdaNp);
     a.Step("ρ", e.m_dRho < 1 ? "(1 − 0.19/{λn,p})/{λn,p}" : nullptr, e.m_dRho);
     a.Step("hc", nullptr, e.m_dHc, "mm");
   }
   a.Step("Ae", nullptr, e.m_dA, "mm²");
   a.Step("e", nullptr, e.m_dE, "mm");
+  if (m_bTurned) return a.Step("We1y", nullptr, e.m_dWSide, "mm³");
   a.Step("We1x", nullptr, e.m_dWCompressed, "mm³");
 }
 
@@ -278,8 +309,9 @@ void CSolidCheck::ClosedPlates2017() {
                                : CClassElement::BoxFlange;
   };
   const double web = s.m_dH0 / s.m_dTw;
-  Limit(CMemberCheckKind::Flange, clause, BoxFlangeRatio(), Class4(element(q.m_x), 2));
-  const bool bReduced = m_effective.has_value();
+  Limit(CMemberCheckKind::Flange, m_bTurned ? "8.4.2" : clause, BoxFlangeRatio(),
+        m_bTurned ? 250 : Class4(element(q.m_x), 2));
+  const bool bReduced = m_effective && !m_bTurned;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
         bReduced ? 250 : Class4(element(q.m_y), 2));
   NoteStiffeners(web);

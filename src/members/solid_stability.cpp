@@ -60,7 +60,7 @@ void CSolidCheck::BeamColumns() {
   if (Is2017() && s.m_nShape == CMemberShape::Tube && IsBiaxial()) return TubeTwoMoments();
   // What the formulas take of the section: with a plate of class S5 its effective part.
   m_dAe = m_effective ? m_effective->m_dA : s.m_dA;
-  m_dShift = m_effective ? m_effective->m_dE : 0;
+  (m_bTurned ? m_dShiftY : m_dShiftX) = m_effective ? m_effective->m_dE : 0;
   m_dW1 = m_effective ? m_effective->m_dWCompressed : WCompressed();
   m_dWy = m_effective ? m_effective->m_dWSide : s.m_dWSide;
   const bool bClosed = IsClosed(s.m_nShape);
@@ -94,12 +94,13 @@ void CSolidCheck::BeamColumnX() {
                                                      : Clause("8.2.1", "5.2.2"));
   const double NE = ReducedEulerForce(s.m_dA, r.m_dLambdaX);
   const double axial = AxialTerm(m_dNc, r.m_dPhiX, m_dAe, F());
-  const double M = m_inX.m_dMoment + m_dNc * m_dShift;
+  const double M = m_inX.m_dMoment + m_dNc * m_dShiftX;
   const double inPlane =
       q.m_x.IsZero() ? 0 : AmplifiedTerm(M, r.m_dGammaX * m_dW1, 0.8, m_dNc, NE, F());
-  const double across = LateralTerm(m_dEta, m_outY.m_dMoment, 1, m_dWy, F());
+  const double across =
+      LateralTerm(m_dEta, m_outY.m_dMoment + m_dNc * m_dShiftY, 1, m_dWy, F());
   a.Step("φx", nullptr, r.m_dPhiX);
-  if (m_effective) a.Step("e", nullptr, m_dShift, "mm");
+  if (m_effective) a.Step("e", nullptr, m_dShiftX + m_dShiftY, "mm");
   a.Step("Ae", nullptr, m_dAe, "mm²");
   a.Step("axial", "{N}/({φx}·{Ae}·{f})", axial);
   double ratio = axial + inPlane + across;
@@ -119,7 +120,8 @@ void CSolidCheck::BeamColumnX() {
     a.Step("βty", nullptr, m_outY.m_dBeta);
     a.Step("My", nullptr, m_outY.m_dM, "N·mm");
     a.Step("Wy", nullptr, m_dWy, "mm³");
-    a.Step("across", "{η}·{βty}·{My}/({Wy}·{f})", across);
+    a.Step("across", m_dShiftY > 0 ? "{η}·({βty}·{My} + {N}·{e})/({Wy}·{f})" : "{η}·{βty}·{My}/({Wy}·{f})",
+           across);
   }
   const char* formula = q.m_y.IsZero()   ? "{axial} + {bending}"
                         : q.m_x.IsZero() ? "{axial} + {across}"
@@ -150,11 +152,12 @@ void CSolidCheck::BeamColumnY() {
                                                               : Clause("8.2.1", "5.2.2"));
   const double NE = ReducedEulerForce(s.m_dA, r.m_dLambdaY);
   const double axial = AxialTerm(m_dNc, r.m_dPhiY, m_dAe, F());
-  const double M = m_outX.m_dMoment + m_dNc * m_dShift;
+  const double M = m_outX.m_dMoment + m_dNc * m_dShiftX;
   const double across = q.m_x.IsZero() ? 0 : LateralTerm(m_dEta, M, r.m_dPhiB, m_dW1, F());
-  const double inPlane = AmplifiedTerm(m_inY.m_dMoment, r.m_dGammaY * m_dWy, 0.8, m_dNc, NE, F());
+  const double inPlane =
+      AmplifiedTerm(m_inY.m_dMoment + m_dNc * m_dShiftY, r.m_dGammaY * m_dWy, 0.8, m_dNc, NE, F());
   a.Step("φy", nullptr, r.m_dPhiY);
-  if (m_effective) a.Step("e", nullptr, m_dShift, "mm");
+  if (m_effective) a.Step("e", nullptr, m_dShiftX + m_dShiftY, "mm");
   a.Step("Ae", nullptr, m_dAe, "mm²");
   a.Step("axial", "{N}/({φy}·{Ae}·{f})", axial);
   if (!q.m_x.IsZero()) {
@@ -174,7 +177,10 @@ void CSolidCheck::BeamColumnY() {
     a.Step("My", nullptr, m_inY.m_dM, "N·mm");
     a.Step("γy", nullptr, r.m_dGammaY);
     a.Step("Wy", nullptr, m_dWy, "mm³");
-    a.Step("bending", "{βmy}·{My}/({γy}·{Wy}·(1 − 0.8·{N}/{N′Ey})·{f})", inPlane);
+    a.Step("bending",
+           m_dShiftY > 0 ? "({βmy}·{My} + {N}·{e})/({γy}·{Wy}·(1 − 0.8·{N}/{N′Ey})·{f})"
+                         : "{βmy}·{My}/({γy}·{Wy}·(1 − 0.8·{N}/{N′Ey})·{f})",
+           inPlane);
   }
   a.Close(!bMy             ? "{axial} + {across}"
           : q.m_x.IsZero() ? "{axial} + {bending}"
@@ -339,10 +345,9 @@ double CSolidCheck::BeamPhiB() {
 
 // 6.2.2, 6.2.3; 2003: 4.2.2, 4.2.3. Of the moments alone.
 void CSolidCheck::Lateral() {
+  if (s.m_nShape == CMemberShape::Box) return LateralBox();
   if (q.m_x.IsZero()) return;
   switch (s.m_nShape) {
-    case CMemberShape::Box:
-      return LateralBox();
     case CMemberShape::I:
     case CMemberShape::Channel:
     case CMemberShape::T:
@@ -369,17 +374,26 @@ void CSolidCheck::Lateral() {
   a.Close("{Mx}/({φb}·{Wx}·{f}) + {My}/({γy}·{Wy}·{f})", first + m_dMy / (r.m_dGammaY * Wy * F()));
 }
 
-// 6.2.4; 2003: 4.2.4. The code has no phi-b of a box beyond both limits, so they are what it is
-// judged by.
+// 6.2.4; 2003: 4.2.4, about the strong axis. The code has no phi-b of a box beyond both limits, so
+// they are what it is judged by.
 void CSolidCheck::LateralBox() {
   const double ek2 = r.m_dEpsilonK * r.m_dEpsilonK;
-  const double depth = s.m_dHeight / s.m_dB0 / 6, length = q.m_dSpan / s.m_dB0 / (95 * ek2);
+  const bool bX = !q.m_x.IsZero() && s.IsStrong(CMemberAxis::X);
+  const bool bY = !q.m_y.IsZero() && s.IsStrong(CMemberAxis::Y);
+  if (!bX && !bY) return;
+  const auto worse = [ek2](double h, double b0, double l1) {
+    return std::max(h / b0 / 6, l1 / b0 / (95 * ek2));
+  };
+  const double x = bX ? worse(s.m_dHeight, s.m_dB0, q.m_dSpan) : 0;
+  const double y = bY ? worse(s.m_dWidth, s.m_dH0, q.m_dSpanY) : 0;
+  const double h = x >= y ? s.m_dHeight : s.m_dWidth, b0 = x >= y ? s.m_dB0 : s.m_dH0;
+  const double l1 = x >= y ? q.m_dSpan : q.m_dSpanY, worst = std::max(x, y);
   a.Open(CMemberCheckKind::Lateral, Clause("6.2.4", "4.2.4"));
-  a.Step("h", nullptr, s.m_dHeight, "mm");
-  a.Step("b0", nullptr, s.m_dB0, "mm");
-  a.Step("l1", nullptr, q.m_dSpan, "mm");
-  if (std::max(depth, length) > 1) a.Note(CMemberNote::BoxBeyond);
-  a.Close(depth >= length ? "{h}/{b0}/6" : "{l1}/{b0}/(95·{εk}²)", std::max(depth, length));
+  a.Step("h", nullptr, h, "mm");
+  a.Step("b0", nullptr, b0, "mm");
+  a.Step("l1", nullptr, l1, "mm");
+  if (worst > 1) a.Note(CMemberNote::BoxBeyond);
+  a.Close(h / b0 / 6 >= l1 / b0 / (95 * ek2) ? "{h}/{b0}/6" : "{l1}/{b0}/(95·{εk}²)", worst);
 }
 
 }  // namespace orv3

@@ -34,13 +34,13 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
   const bool bEffective = m_effective.has_value() && side == m_nSide;
   double A = s.m_dA, W1 = side == CSide::Top ? s.m_dWTop : s.m_dWBottom;
   double W2 = side == CSide::Top ? s.m_dWBottom : s.m_dWTop;
-  double Wy = s.m_dWSide, e = 0;
+  double Wy = s.m_dWSide, e = 0, eY = 0;
   if (bEffective) {
     A = m_effective->m_dA;
     W1 = m_effective->m_dWCompressed;
     W2 = m_effective->m_dWOther;
     Wy = m_effective->m_dWSide;
-    e = m_dNc > 0 ? m_effective->m_dE : 0;
+    (m_bTurned ? eY : e) = m_dNc > 0 ? m_effective->m_dE : 0;
   }
   A *= q.m_dNetA;
   W1 *= q.m_dNetW;
@@ -63,7 +63,7 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
     a.Close("({N}/{An} + {M}/({γm}·{Wn}))/{f}", ratio);
     return ratio;
   }
-  const double my = m_dMy == 0 ? 0 : m_dMy / (r.m_dGammaY * Wy);
+  const double my = m_dMy == 0 ? 0 : (m_dMy + m_dNc * eY) / (r.m_dGammaY * Wy);
   const double compressed = std::fabs(N / A + M / (g1 * W1));
   const double stretched = std::fabs(N / A - M / (g2 * W2));
   const bool bFirst = compressed >= stretched;
@@ -78,6 +78,7 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
     a.Step("Wnx", nullptr, bFirst ? W1 : W2, "mm³");
   }
   if (m_dMy != 0) {
+    if (eY > 0) a.Step("e", nullptr, eY, "mm");
     a.Step("γy", nullptr, r.m_dGammaY);
     a.Step("Wny", nullptr, Wy, "mm³");
   }
@@ -86,7 +87,8 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
     formula = m_dMy == 0 ? "({N}/{An} ± ({Mx} + {N}·{e})/({γx}·{Wnx}))/{f}"
                          : "({N}/{An} ± ({Mx} + {N}·{e})/({γx}·{Wnx}) + {My}/({γy}·{Wny}))/{f}";
   } else if (Mx == 0) {
-    formula = "({N}/{An} + {My}/({γy}·{Wny}))/{f}";
+    formula = eY > 0 ? "({N}/{An} + ({My} + {N}·{e})/({γy}·{Wny}))/{f}"
+                     : "({N}/{An} + {My}/({γy}·{Wny}))/{f}";
   } else if (m_dMy == 0) {
     formula = bAdds || N == 0 ? "({N}/{An} + {Mx}/({γx}·{Wnx}))/{f}"
                               : "|{N}/{An} − {Mx}/({γx}·{Wnx})|/{f}";
@@ -175,7 +177,7 @@ void CSolidCheck::Combined() {
   const std::vector<CPlace> places = ShearedPlaces();
   const CPlace& p =
       *std::max_element(places.begin(), places.end(),
-                        [&](const CPlace& a, const CPlace& b) { return both(a) < both(b); });
+                        [&](const CPlace& left, const CPlace& right) { return both(left) < both(right); });
   if (both(p) < 0) return;
   a.Open(CMemberCheckKind::Combined, Clause("6.1.5", "4.1.4"));
   a.Step("An", nullptr, An, "mm²");

@@ -356,8 +356,15 @@ bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& secti
       (!positive("lengths.x", input.m_dLx) || !positive("lengths.y", input.m_dLy)))
     return false;
   const CMemberShape shape = section.m_section.m_nShape;
-  const bool bSpan = !m_loads.m_x.IsZero() && shape != CMemberShape::Tube && !IsSolid(shape);
-  if (bSpan && !positive("lengths.span", m_loads.m_dSpan)) return false;
+  const bool bBox = shape == CMemberShape::Box;
+  const bool bSpanX = !m_loads.m_x.IsZero() && shape != CMemberShape::Tube && !IsSolid(shape) &&
+                      (!bBox || section.m_section.IsStrong(CMemberAxis::X));
+  const bool bSpanY =
+      !m_loads.m_y.IsZero() && bBox && section.m_section.IsStrong(CMemberAxis::Y);
+  m_loads.m_dSpanY = std::isnan(input.m_dSpan) ? input.m_dLx : input.m_dSpan;
+  if ((bSpanX && !positive("lengths.span", m_loads.m_dSpan)) ||
+      (bSpanY && !positive("lengths.span", m_loads.m_dSpanY)))
+    return false;
   m_loads.m_dLimit = 0;
   if (std::isnan(input.m_dLimit)) return true;
   if (!(std::isfinite(input.m_dLimit) && input.m_dLimit > 0)) {
