@@ -107,6 +107,23 @@ constexpr CNoteText kNotes[] = {
      "Mx",
      {"分肢按所分得的轴力作为轴心受压构件验算",
       "limbs are checked for their share of the forces as struts"}},
+    {CMemberNote::PairWithoutGap,
+     "section.gap",
+     {"未给组合间距：按该行自身的间距取值", "no gap is given: the pair has that of its row"}},
+    {CMemberNote::LoadWithoutShear,
+     "load",
+     {"有横向荷载而未给其剪力：抗剪和折算应力未验算",
+      "a load without its shear force: shear and combined stress are not checked"}},
+    {CMemberNote::UnusedLengthZ,
+     "lengths.z",
+     {"未用到：该截面和荷载不计扭转", "is not used: this section under these loads asks no torsion"}},
+    {CMemberNote::UnusedSpan,
+     "lengths.span",
+     {"未用到：没有需验算整体稳定的弯矩",
+      "is not used: there is no moment to check lateral buckling by"}},
+    {CMemberNote::UnusedSway, "sway", {"未用到：没有压力和弯矩", "is not used: it takes compression with a moment"}},
+    {CMemberNote::UnusedLoadFlange, "loadFlange", {"未用到：没有 Mx 的荷载", "is not used: Mx has no load"}},
+    {CMemberNote::UnusedSupports, "supports", {"未用到：没有 Mx", "is not used: there is no Mx"}},
 };
 
 const CNoteText& TextOf(CMemberNote note) {

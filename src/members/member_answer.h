@@ -85,6 +85,13 @@ enum class CMemberNote : std::uint8_t {
   RolledEdges,
   BattenStiffness,
   LimbMoment,
+  PairWithoutGap,
+  LoadWithoutShear,
+  UnusedLengthZ,
+  UnusedSpan,
+  UnusedSway,
+  UnusedLoadFlange,
+  UnusedSupports,
 };
 ORV3CAL_API CTextLiteral MemberNoteText(CMemberNote note) noexcept;
 ORV3CAL_API const char* MemberNoteKey(CMemberNote note) noexcept;

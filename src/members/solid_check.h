@@ -52,7 +52,7 @@ class CSolidCheck {
   void MomentPlates2003();
   void OpenPlates2017();
   void ClosedPlates2017();
-  void NoteStiffeners(double h0tw);
+  void NoteStiffeners();
   void Limit(CMemberCheckKind kind, const char* clause, double value, double limit);
   // --- solid_strength.cpp
   void Strength();

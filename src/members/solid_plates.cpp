@@ -212,6 +212,7 @@ void CSolidCheck::Limit(CMemberCheckKind kind, const char* clause, double value,
 }
 
 void CSolidCheck::Plates() {
+  NoteStiffeners();
   if (HasMoment()) {
     MomentPlates();
   } else if (m_dNc > 0) {
@@ -294,7 +295,6 @@ void CSolidCheck::OpenPlates2017() {
   const bool bReduced = web > class4 && WebStressOfMy() == 0;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
         bReduced ? Class5(element) : class4);
-  NoteStiffeners(web);
 }
 
 void CSolidCheck::ClosedPlates2017() {
@@ -314,12 +314,12 @@ void CSolidCheck::ClosedPlates2017() {
   const bool bReduced = m_effective && !m_bTurned;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
         bReduced ? 250 : Class4(element(q.m_y), 2));
-  NoteStiffeners(web);
 }
 
-// 6.3.2; 2003: 4.3.2. Of beams.
-void CSolidCheck::NoteStiffeners(double h0tw) {
-  if (m_dNc == 0 && !q.m_x.IsZero() && h0tw > *StiffenerLimit(m.m_nEdition, m.m_nGrade))
+// 6.3.2; 2003: 4.3.2. Of webs in bending or shear.
+void CSolidCheck::NoteStiffeners() {
+  if (s.m_dTw <= 0 || s.m_nShape == CMemberShape::T || (q.m_x.IsZero() && q.m_dVy == 0)) return;
+  if (s.m_dH0 / s.m_dTw > *StiffenerLimit(m.m_nEdition, m.m_nGrade))
     a.Note(CMemberNote::Stiffeners);
 }
 
@@ -346,7 +346,7 @@ void CSolidCheck::MomentPlates2003() {
     Limit(CMemberCheckKind::Flange, bColumn ? "5.4.3" : "4.3.8", BoxFlangeRatio(), 40 * ek);
     Limit(CMemberCheckKind::Web, bColumn ? "5.4.3" : "4.3.2", h0tw,
           bColumn ? column(CWidthElement::BoxWall) : 250);
-    return NoteStiffeners(h0tw);
+    return;
   }
   if (const double flange = FlangeRatio(); flange > 0) {
     Limit(CMemberCheckKind::Flange, bColumn ? "5.4.1" : "4.3.8", flange,
@@ -362,7 +362,6 @@ void CSolidCheck::MomentPlates2003() {
   const bool bPressed = bColumn || WebStressOfMy() > 0;
   Limit(CMemberCheckKind::Web, bPressed ? "5.4.2" : "4.3.2", h0tw,
         bPressed ? column(CWidthElement::WebI) : 250);
-  NoteStiffeners(h0tw);
 }
 
 }  // namespace orv3

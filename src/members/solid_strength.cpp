@@ -101,6 +101,9 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
 
 // 6.1.3; 2003: 4.1.2.
 void CSolidCheck::Shear() {
+  if (s.m_nShape == CMemberShape::Channel &&
+      (q.m_dVx != 0 || q.m_dVy != 0 || q.m_x.HasLoad() || !q.m_y.IsZero()))
+    a.Note(CMemberNote::ShearCentre);
   if (q.m_dVx == 0 && q.m_dVy == 0) return;
   a.Open(CMemberCheckKind::Shear, Clause("6.1.3", "4.1.2"));
   const bool bRound = s.m_nShape == CMemberShape::Tube || s.m_nShape == CMemberShape::SolidRound;
@@ -120,7 +123,6 @@ void CSolidCheck::Shear() {
   a.Step("S", nullptr, cut.m_dS, "mm³");
   a.Step("t", nullptr, cut.m_dT, "mm");
   if (!bY) a.Step("fv", nullptr, m.m_dFvX, "N/mm²");
-  if (s.m_nShape == CMemberShape::Channel) a.Note(CMemberNote::ShearCentre);
   a.Close(bY ? "{V}·{S}/({Ix}·{t}·{fv})" : "{V}·{S}/({Iy}·{t}·{fv})",
           bY ? tauY / m.m_dFv : tauX / m.m_dFvX);
 }

@@ -408,6 +408,27 @@ bool NeedsTorsion(const CMemberSection& s, const CMemberSteel& steel,
   }
 }
 
+// What was left out, and what was given for nothing.
+void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) {
+  using N = CMemberNote;
+  const CMemberLoads& q = m_loads;
+  const bool bMoment = !q.m_x.IsZero() || !q.m_y.IsZero();
+  const bool bSpan = (!q.m_x.IsZero() && s.m_nShape != CMemberShape::Tube && !IsSolid(s.m_nShape)) ||
+                     (!q.m_y.IsZero() && s.m_nShape == CMemberShape::Box);
+  const std::pair<bool, N> notes[] = {
+      {IsAnglePair(s.m_nShape) && std::isnan(input.m_dGap), N::PairWithoutGap},
+      {(q.m_x.HasLoad() && q.m_dVy == 0) || (q.m_y.HasLoad() && q.m_dVx == 0), N::LoadWithoutShear},
+      {!std::isnan(input.m_dLz) && !NeedsTorsion(s, m_steel, q), N::UnusedLengthZ},
+      {!std::isnan(input.m_dSpan) && !bSpan, N::UnusedSpan},
+      {q.m_bSway && !(q.m_dN < 0 && bMoment), N::UnusedSway},
+      {!input.m_strLoadFlange.empty() && !q.m_x.HasLoad(), N::UnusedLoadFlange},
+      {!std::isnan(input.m_dSupports) && q.m_x.IsZero(), N::UnusedSupports},
+  };
+  for (const auto& [bApplies, note] : notes) {
+    if (bApplies) m_answer.Note(note);
+  }
+}
+
 bool CMemberCheck::Run(const CMemberCase& input) {
   CMemberRow* section = Section(input);
   return section != nullptr && Run(input, *section);
@@ -428,6 +449,7 @@ bool CMemberCheck::Run(const CMemberCase& input, CMemberRow& section) {
   }
   CheckSolidMember(section.m_section, m_steel, m_loads, m_answer);
   if (m_answer.IsRefused()) return Refuse(*m_answer.Fault());
+  NoteGiven(input, section.m_section);
   if (m_steel.m_nGrade == CSteelGrade::Q355) m_answer.Note(CMemberNote::Q355);
   if (section.HasEdges() && input.m_strEdges.empty() && m_loads.m_dN < 0)
     m_answer.Note(CMemberNote::RolledEdges);

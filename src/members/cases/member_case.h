@@ -71,6 +71,7 @@ class ORV3CAL_API CMemberCheck {
   bool ReadCourse(const char* key, const CSpacing& moment, const char* loadKey, double Mq,
                   CMomentCourse& course);
   bool ReadLengths(const CMemberCase& input, const CMemberRow& section);
+  void NoteGiven(const CMemberCase& input, const CMemberSection& s);
   bool ReadNet(const CMemberCase& input);
 
   CCodeEdition m_nDefault = CCodeEdition::Gb2017;
