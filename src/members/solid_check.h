@@ -2,6 +2,8 @@
 // a member share. Only solid_*.cpp include it.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -89,6 +91,12 @@ class CSolidCheck {
   bool Is2017() const noexcept { return m.m_nEdition == CCodeEdition::Gb2017; }
   bool HasMoment() const noexcept { return !q.m_x.IsZero() || !q.m_y.IsZero(); }
   bool IsBiaxial() const noexcept { return !q.m_x.IsZero() && !q.m_y.IsZero(); }
+  bool HasLoad() const noexcept { return q.m_x.HasLoad() || q.m_y.HasLoad(); }
+  // The greater resultant of one end: the greatest of both axes without a load.
+  double EndResultant() const noexcept {
+    return std::max(std::hypot(q.m_x.AtStart(), q.m_y.AtStart()),
+                    std::hypot(q.m_x.AtEnd(), q.m_y.AtEnd()));
+  }
   // The row "upper flange" of the tables: a load with Mx below 0 acts upwards, so that on the upper
   // flange it draws away from the centroid.
   bool IsLoadTowardsCentroid() const noexcept { return q.m_bUpper == (q.m_x.m_dMq > 0); }

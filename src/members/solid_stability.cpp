@@ -198,7 +198,7 @@ void CSolidCheck::TubeTwoMoments() {
   const auto beta = [&](const CMomentCourse& c) {
     return 1 - 0.35 * root + 0.35 * root * c.EndRatio();
   };
-  const double M = bLoad ? std::hypot(m_dMx, m_dMy) : std::hypot(q.m_x.m_dM1, q.m_y.m_dM1);
+  const double M = bLoad ? std::hypot(m_dMx, m_dMy) : EndResultant();
   const double equivalent = bLoad ? 1 : beta(q.m_x) * beta(q.m_y);
   if (bLoad) a.Note(CMemberNote::TubeLoads);
   const double NEr = ReducedEulerForce(s.m_dA, lambda);

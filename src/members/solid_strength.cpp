@@ -53,7 +53,7 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
   const bool bRound =
       (s.m_nShape == CMemberShape::Tube && Is2017()) || s.m_nShape == CMemberShape::SolidRound;
   if (bRound) {
-    const double resultant = std::hypot(Mx, m_dMy);
+    const double resultant = HasLoad() ? std::hypot(Mx, m_dMy) : EndResultant();
     const double ratio = (std::fabs(N) / A + resultant / (g1 * W1)) / F();
     if (!bSteps) return ratio;
     a.Step("An", nullptr, A, "mm²");

@@ -249,6 +249,7 @@ bool CMemberCheck::ReadCourse(const char* key, const CSpacing& moment, const cha
   const bool bFirst = std::fabs(first) >= std::fabs(second);
   course.m_dM1 = 1000 * (bFirst ? first : second);
   course.m_dM2 = 1000 * (bFirst ? second : first);
+  course.m_bFar = !bFirst;
   if (!bLoad) {
     if (std::isnan(Mq)) return true;
     return Refuse(loadKey, {"没有荷载", "has no load"},
