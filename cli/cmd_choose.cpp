@@ -1,5 +1,6 @@
 // orv3cal choose: the lightest sections of tables that pass a member's cases.
 
+#include <algorithm>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -57,7 +58,12 @@ std::vector<CMemberCandidate> Candidates(const COptions& options) {
     tables = MemberTables();
   } else {
     std::istringstream names(options.tables);
-    for (std::string name; std::getline(names, name, ',');) tables.push_back(FromUtf8(name));
+    for (std::string name; std::getline(names, name, ',');) {
+      const CString table = FromUtf8(name);
+      if (std::find(tables.begin(), tables.end(), table) != tables.end())
+        Refuse("--table: names \"" + name + "\" twice; give each table once");
+      tables.push_back(table);
+    }
   }
   std::vector<CMemberCandidate> candidates;
   for (const CString& table : tables) {
