@@ -90,7 +90,8 @@ CExit RunChoose(const COptions& options) {
   const CMemberChoice choice = ChooseMember(cases, candidates, edition);
   if (choice.m_nTried == 0)
     Refuse(Visible(options.file) + ": every section refused, the first: " +
-           candidates.front().m_strNo + ", " + choice.m_fault->Line(MessageLanguage()));
+           candidates.front().m_strNo + ", " +
+           choice.m_arrRefused.front().m_fault.Line(MessageLanguage()));
   std::size_t shown = choice.m_arrChosen.size();
   if (options.top > 0) shown = std::min(shown, static_cast<std::size_t>(options.top));
   CJson rows = CJson::array();
@@ -126,9 +127,18 @@ CExit RunChoose(const COptions& options) {
                   PercentText(chosen.m_dRatio), governs, name});
   }
   if (options.json) {
+    CJson refusals = CJson::array();
+    for (const CRefusedMember& refused : choice.m_arrRefused) {
+      const CMemberCandidate& row = candidates[refused.m_nCandidate];
+      refusals.push_back({{"table", row.m_strTable},
+                          {"no", row.m_strNo},
+                          {"rows", refused.m_nRows},
+                          {"reason", refused.m_fault.Line(MessageLanguage())}});
+    }
     PrintJson({{"code", EditionFacts(edition).m_szYear},
                {"tried", choice.m_nTried},
                {"refused", choice.m_nRefused},
+               {"refusals", std::move(refusals)},
                {"passing", choice.m_arrChosen.size()},
                {"rows", std::move(rows)}});
   } else if (options.csv) {
@@ -138,7 +148,8 @@ CExit RunChoose(const COptions& options) {
           " of " + std::to_string(choice.m_nTried) + " sections pass" +
           (choice.m_nRefused > 0
                ? ", " + std::to_string(choice.m_nRefused) +
-                     " more are not covered, the first: " + choice.m_fault->Line(MessageLanguage())
+                     " more are not covered, the first: " +
+                     choice.m_arrRefused.front().m_fault.Line(MessageLanguage())
                : "") +
           '\n');
   }
