@@ -89,8 +89,8 @@ CExit RunChoose(const COptions& options) {
   std::vector<CMemberCandidate> candidates = Candidates(options);
   const CMemberChoice choice = ChooseMember(cases, candidates, edition);
   if (choice.m_nTried == 0)
-    Refuse(Visible(options.file) + ": every section refused, the first: " +
-           candidates.front().m_strNo + ", " +
+    Refuse(Visible(options.file) +
+           ": every section refused, the first: " + candidates.front().m_strNo + ", " +
            choice.m_arrRefused.front().m_fault.Line(MessageLanguage()));
   std::size_t shown = choice.m_arrChosen.size();
   if (options.top > 0) shown = std::min(shown, static_cast<std::size_t>(options.top));
@@ -147,8 +147,7 @@ CExit RunChoose(const COptions& options) {
     Print((shown > 0 ? table.Text() + '\n' : "") + std::to_string(choice.m_arrChosen.size()) +
           " of " + std::to_string(choice.m_nTried) + " sections pass" +
           (choice.m_nRefused > 0
-               ? ", " + std::to_string(choice.m_nRefused) +
-                     " more are not covered, the first: " +
+               ? ", " + std::to_string(choice.m_nRefused) + " more are not covered, the first: " +
                      choice.m_arrRefused.front().m_fault.Line(MessageLanguage())
                : "") +
           '\n');

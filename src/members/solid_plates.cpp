@@ -336,8 +336,7 @@ void CSolidCheck::MomentPlates2003() {
                               !bColumn         ? 0
                               : q.m_x.IsZero() ? r.m_dLambdaY
                                                : r.m_dLambdaX,
-                              m_bGammaReduced,
-                              stress.m_nSide == CSide::Bottom};
+                              m_bGammaReduced, stress.m_nSide == CSide::Bottom};
   const double h0tw = s.m_dH0 / s.m_dTw;
   const auto column = [&](CWidthElement element) {
     return *BeamColumnWidthLimit(m.m_nEdition, element, m.m_nGrade, web);

@@ -97,8 +97,7 @@ void CSolidCheck::BeamColumnX() {
   const double M = m_inX.m_dMoment + m_dNc * m_dShiftX;
   const double inPlane =
       q.m_x.IsZero() ? 0 : AmplifiedTerm(M, r.m_dGammaX * m_dW1, 0.8, m_dNc, NE, F());
-  const double across =
-      LateralTerm(m_dEta, m_outY.m_dMoment + m_dNc * m_dShiftY, 1, m_dWy, F());
+  const double across = LateralTerm(m_dEta, m_outY.m_dMoment + m_dNc * m_dShiftY, 1, m_dWy, F());
   a.Step("φx", nullptr, r.m_dPhiX);
   if (m_effective) a.Step("e", nullptr, m_dShiftX + m_dShiftY, "mm");
   a.Step("Ae", nullptr, m_dAe, "mm²");
@@ -120,7 +119,8 @@ void CSolidCheck::BeamColumnX() {
     a.Step("βty", nullptr, m_outY.m_dBeta);
     a.Step("My", nullptr, m_outY.m_dM, "N·mm");
     a.Step("Wy", nullptr, m_dWy, "mm³");
-    a.Step("across", m_dShiftY > 0 ? "{η}·({βty}·{My} + {N}·{e})/({Wy}·{f})" : "{η}·{βty}·{My}/({Wy}·{f})",
+    a.Step("across",
+           m_dShiftY > 0 ? "{η}·({βty}·{My} + {N}·{e})/({Wy}·{f})" : "{η}·{βty}·{My}/({Wy}·{f})",
            across);
   }
   const char* formula = q.m_y.IsZero()   ? "{axial} + {bending}"
@@ -290,9 +290,9 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
     const CMemberFlange& flange = CompressedFlange();
     const double xi = q.m_dSpan * flange.m_dThick / (flange.m_dWidth * section.m_dH);
     const bool bPoint = c.m_nLoad == CSpanLoad::Midspan;
-    const CBeamLoad kind = bPoint
-                               ? (IsLoadTowardsCentroid() ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
-                               : (IsLoadTowardsCentroid() ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
+    const CBeamLoad kind =
+        bPoint ? (IsLoadTowardsCentroid() ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
+               : (IsLoadTowardsCentroid() ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
     a.Step("ξ", nullptr, xi);
     const auto answer = BetaB(m.m_nEdition, kind, q.m_nSupports, xi, section.m_dAlphaB);
     const double* beta = Take("load", answer);

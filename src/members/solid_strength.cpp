@@ -177,9 +177,9 @@ void CSolidCheck::Combined() {
     return normal(p) == 0 ? -1 : CombinedStress(normal(p), shear(p));  // shear alone is 6.1.3
   };
   const std::vector<CPlace> places = ShearedPlaces();
-  const CPlace& p =
-      *std::max_element(places.begin(), places.end(),
-                        [&](const CPlace& left, const CPlace& right) { return both(left) < both(right); });
+  const CPlace& p = *std::max_element(
+      places.begin(), places.end(),
+      [&](const CPlace& left, const CPlace& right) { return both(left) < both(right); });
   if (both(p) < 0) return;
   a.Open(CMemberCheckKind::Combined, Clause("6.1.5", "4.1.4"));
   a.Step("An", nullptr, An, "mm²");
@@ -215,8 +215,7 @@ void CSolidCheck::CombinedRound() {
   for (int degree = 0; degree <= 90; ++degree) {
     const double rad = degree * std::numbers::pi / 180;
     const double up = degree == 0 ? 0 : std::sin(rad), along = degree == 90 ? 0 : std::cos(rad);
-    const double normal =
-        std::fabs(q.m_dN) / An + (std::fabs(m_dMx) * up + m_dMy * along) / Wn;
+    const double normal = std::fabs(q.m_dN) / An + (std::fabs(m_dMx) * up + m_dMy * along) / Wn;
     const double shear = unit * (std::fabs(q.m_dVy) * along + std::fabs(q.m_dVx) * up);
     const double both = CombinedStress(normal, shear);
     if (both <= worst) continue;

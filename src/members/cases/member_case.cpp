@@ -360,8 +360,7 @@ bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& secti
   const bool bBox = shape == CMemberShape::Box;
   const bool bSpanX = !m_loads.m_x.IsZero() && shape != CMemberShape::Tube && !IsSolid(shape) &&
                       (!bBox || section.m_section.IsStrong(CMemberAxis::X));
-  const bool bSpanY =
-      !m_loads.m_y.IsZero() && bBox && section.m_section.IsStrong(CMemberAxis::Y);
+  const bool bSpanY = !m_loads.m_y.IsZero() && bBox && section.m_section.IsStrong(CMemberAxis::Y);
   m_loads.m_dSpanY = std::isnan(input.m_dSpan) ? input.m_dLx : input.m_dSpan;
   if ((bSpanX && !positive("lengths.span", m_loads.m_dSpan)) ||
       (bSpanY && !positive("lengths.span", m_loads.m_dSpanY)))
@@ -414,8 +413,9 @@ void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) 
   using N = CMemberNote;
   const CMemberLoads& q = m_loads;
   const bool bMoment = !q.m_x.IsZero() || !q.m_y.IsZero();
-  const bool bSpan = (!q.m_x.IsZero() && s.m_nShape != CMemberShape::Tube && !IsSolid(s.m_nShape)) ||
-                     (!q.m_y.IsZero() && s.m_nShape == CMemberShape::Box);
+  const bool bSpan =
+      (!q.m_x.IsZero() && s.m_nShape != CMemberShape::Tube && !IsSolid(s.m_nShape)) ||
+      (!q.m_y.IsZero() && s.m_nShape == CMemberShape::Box);
   const std::pair<bool, N> notes[] = {
       {IsAnglePair(s.m_nShape) && std::isnan(input.m_dGap), N::PairWithoutGap},
       {(q.m_x.HasLoad() && q.m_dVy == 0) || (q.m_y.HasLoad() && q.m_dVx == 0), N::LoadWithoutShear},
