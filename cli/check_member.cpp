@@ -30,6 +30,10 @@ class CMembers {
                   : options.json ? CAnswerForm::Json
                                  : CAnswerForm::Table,
                   options.sort, options.language, options.csv ? CsvHead() : "") {
+    if (YearAsked(options.code) == "both")
+      Refuse(CText{"--code：both 不用于构件；请给出 2017 或 2003，一次一个版本",
+                   "--code: both is not for members; give 2017 or 2003, one at a time"}
+                 .In(options.language));
     m_check.SetEdition(EditionAsked(options.code));
   }
 

@@ -1,5 +1,6 @@
 // orv3cal choose: the lightest sections of tables that pass a member's cases.
 
+#include <algorithm>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -57,7 +58,12 @@ std::vector<CMemberCandidate> Candidates(const COptions& options) {
     tables = MemberTables();
   } else {
     std::istringstream names(options.tables);
-    for (std::string name; std::getline(names, name, ',');) tables.push_back(FromUtf8(name));
+    for (std::string name; std::getline(names, name, ',');) {
+      const CString table = FromUtf8(name);
+      if (std::find(tables.begin(), tables.end(), table) != tables.end())
+        Refuse("--table: names \"" + name + "\" twice; give each table once");
+      tables.push_back(table);
+    }
   }
   std::vector<CMemberCandidate> candidates;
   for (const CString& table : tables) {
@@ -83,8 +89,9 @@ CExit RunChoose(const COptions& options) {
   std::vector<CMemberCandidate> candidates = Candidates(options);
   const CMemberChoice choice = ChooseMember(cases, candidates, edition);
   if (choice.m_nTried == 0)
-    Refuse(Visible(options.file) + ": every section refused, the first: " +
-           candidates.front().m_strNo + ", " + choice.m_fault->Line(MessageLanguage()));
+    Refuse(Visible(options.file) +
+           ": every section refused, the first: " + candidates.front().m_strNo + ", " +
+           choice.m_arrRefused.front().m_fault.Line(MessageLanguage()));
   std::size_t shown = choice.m_arrChosen.size();
   if (options.top > 0) shown = std::min(shown, static_cast<std::size_t>(options.top));
   CJson rows = CJson::array();
@@ -120,9 +127,18 @@ CExit RunChoose(const COptions& options) {
                   PercentText(chosen.m_dRatio), governs, name});
   }
   if (options.json) {
+    CJson refusals = CJson::array();
+    for (const CRefusedMember& refused : choice.m_arrRefused) {
+      const CMemberCandidate& row = candidates[refused.m_nCandidate];
+      refusals.push_back({{"table", row.m_strTable},
+                          {"no", row.m_strNo},
+                          {"rows", refused.m_nRows},
+                          {"reason", refused.m_fault.Line(MessageLanguage())}});
+    }
     PrintJson({{"code", EditionFacts(edition).m_szYear},
                {"tried", choice.m_nTried},
                {"refused", choice.m_nRefused},
+               {"refusals", std::move(refusals)},
                {"passing", choice.m_arrChosen.size()},
                {"rows", std::move(rows)}});
   } else if (options.csv) {
@@ -131,8 +147,8 @@ CExit RunChoose(const COptions& options) {
     Print((shown > 0 ? table.Text() + '\n' : "") + std::to_string(choice.m_arrChosen.size()) +
           " of " + std::to_string(choice.m_nTried) + " sections pass" +
           (choice.m_nRefused > 0
-               ? ", " + std::to_string(choice.m_nRefused) +
-                     " more are not covered, the first: " + choice.m_fault->Line(MessageLanguage())
+               ? ", " + std::to_string(choice.m_nRefused) + " more are not covered, the first: " +
+                     choice.m_arrRefused.front().m_fault.Line(MessageLanguage())
                : "") +
           '\n');
   }

@@ -27,7 +27,7 @@ struct CEffectiveSection {
 struct CReducedPlates {
   bool m_bWeb = false;
   bool m_bFlange = false;       // the compressed one
-  bool m_bOtherFlange = false;  // compressed in part by a moment about y
+  bool m_bOtherFlange = false;  // compressed too, by a moment about y or of the other sense
 };
 
 // compressed: the edge with the greater compression; alpha0 >= 0 as in 3.5.1, above 1 where part

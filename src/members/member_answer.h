@@ -72,6 +72,7 @@ enum class CMemberNote : std::uint8_t {
   BetweenLoadAndEnds,
   HeavyTension,
   RolledITable,
+  RolledIShort,
   Stiffeners,
   EffectiveSection,
   ShearCentre,
@@ -84,6 +85,13 @@ enum class CMemberNote : std::uint8_t {
   RolledEdges,
   BattenStiffness,
   LimbMoment,
+  PairWithoutGap,
+  LoadWithoutShear,
+  UnusedLengthZ,
+  UnusedSpan,
+  UnusedSway,
+  UnusedLoadFlange,
+  UnusedSupports,
 };
 ORV3CAL_API CTextLiteral MemberNoteText(CMemberNote note) noexcept;
 ORV3CAL_API const char* MemberNoteKey(CMemberNote note) noexcept;

@@ -33,6 +33,8 @@ constexpr bool IsSolid(CMemberShape shape) noexcept {
   return shape == CMemberShape::SolidRound || shape == CMemberShape::SolidBar;
 }
 
+enum class CMemberAxis : std::uint8_t { X, Y };
+
 struct CMemberFlange {
   double m_dWidth = 0;
   double m_dThick = 0;     // mean where it tapers
@@ -68,6 +70,12 @@ struct CMemberSection {
   double m_dLeg = 0, m_dLegShort = 0, m_dLegThick = 0, m_dLegRoot = 0;  // of an angle
   double m_dDiameter = 0, m_dWall = 0;                                  // of a tube
 
+  // Not the weaker of both: bending about it may end in lateral buckling.
+  bool IsStrong(CMemberAxis axis) const noexcept {
+    constexpr double kLastDigits = 1e-9;
+    const bool bX = axis == CMemberAxis::X;
+    return (bX ? m_dIx : m_dIy) >= (bX ? m_dIy : m_dIx) * (1 - kLastDigits);
+  }
   bool IsEqualFlanged() const noexcept {
     return m_top.m_dWidth == m_bottom.m_dWidth && m_top.m_dThick == m_bottom.m_dThick;
   }

@@ -16,7 +16,10 @@ struct CMomentCourse {
   double m_dM2 = 0;
   double m_dMq = 0;  // greatest moment of the load
   CSpanLoad m_nLoad = CSpanLoad::None;
+  bool m_bFar = false;  // M1 is at the second end of the member
 
+  double AtStart() const noexcept { return m_bFar ? m_dM2 : m_dM1; }
+  double AtEnd() const noexcept { return m_bFar ? m_dM1 : m_dM2; }
   bool IsZero() const noexcept { return m_dM1 == 0 && m_dMq == 0; }
   bool HasEnds() const noexcept { return m_dM1 != 0; }
   bool HasLoad() const noexcept { return m_dMq != 0; }

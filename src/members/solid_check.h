@@ -2,7 +2,10 @@
 // a member share. Only solid_*.cpp include it.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <optional>
+#include <vector>
 
 #include "codes/lateral_buckling.h"
 #include "members/effective_section.h"
@@ -31,14 +34,19 @@ class CSolidCheck {
     CSide m_nSide = CSide::Top;  // where it is
   };
   CWebStress WebStress(double Mx) const;
+  double WebStressOfMy() const;
+  CClassElement WebElement() const;
   void Plasticity();
   void ClassifyPlates();
   void ClassifyOpen();
   void Classify(CClassElement element, double ratio, double alpha0);
   double Class4(CClassElement element, double alpha0) const;  // the limit of S4
   double Class5(CClassElement element) const;
+  void ReduceBoxFlange();
+  void GiveEffective(double alpha0, bool bWeb, double h0, double tw);
   void Reduce(const CWebStress& stress, CReducedPlates reduced);
-  double FlangeRatio() const;  // of the outstands that a moment compresses
+  bool IsFlangeCompressed(CSide side) const;
+  double FlangeRatio() const;  // of the outstands in compression, 0 without any
   double BoxFlangeRatio() const;
   void Plates();
   void AxialPlates();
@@ -46,13 +54,21 @@ class CSolidCheck {
   void MomentPlates2003();
   void OpenPlates2017();
   void ClosedPlates2017();
-  void NoteStiffeners(double h0tw);
+  void NoteStiffeners();
   void Limit(CMemberCheckKind kind, const char* clause, double value, double limit);
   // --- solid_strength.cpp
   void Strength();
   double StrengthRatio(double Mx, bool bSteps);
   void Shear();
+  // A place that carries a shear: its distances from the centroid, the first moment beyond it and
+  // the thickness there.
+  struct CPlace {
+    bool m_bVx;
+    double m_dY, m_dX, m_dS, m_dT;
+  };
+  std::vector<CPlace> ShearedPlaces() const;
   void Combined();
+  void CombinedRound();
   // --- solid_stability.cpp
   double Phi(double lambda, CBucklingClass bucklingClass) const;
   void Stability();
@@ -75,6 +91,15 @@ class CSolidCheck {
   bool Is2017() const noexcept { return m.m_nEdition == CCodeEdition::Gb2017; }
   bool HasMoment() const noexcept { return !q.m_x.IsZero() || !q.m_y.IsZero(); }
   bool IsBiaxial() const noexcept { return !q.m_x.IsZero() && !q.m_y.IsZero(); }
+  bool HasLoad() const noexcept { return q.m_x.HasLoad() || q.m_y.HasLoad(); }
+  // The greater resultant of one end: the greatest of both axes without a load.
+  double EndResultant() const noexcept {
+    return std::max(std::hypot(q.m_x.AtStart(), q.m_y.AtStart()),
+                    std::hypot(q.m_x.AtEnd(), q.m_y.AtEnd()));
+  }
+  // The row "upper flange" of the tables: a load with Mx below 0 acts upwards, so that on the upper
+  // flange it draws away from the centroid.
+  bool IsLoadTowardsCentroid() const noexcept { return q.m_bUpper == (q.m_x.m_dMq > 0); }
   const CMemberFlange& CompressedFlange() const noexcept {
     return m_nSide == CSide::Top ? s.m_top : s.m_bottom;
   }
@@ -103,8 +128,9 @@ class CSolidCheck {
   std::optional<CSectionClass> m_class;
   bool m_bBeyond = false;  // a plate beyond the last class
   std::optional<CEffectiveSection> m_effective;
+  bool m_bTurned = false;  // its web is a flange of a box, compressed by My
   // Of a beam-column.
-  double m_dAe = 0, m_dShift = 0, m_dW1 = 0, m_dWy = 0, m_dEta = 1;
+  double m_dAe = 0, m_dShiftX = 0, m_dShiftY = 0, m_dW1 = 0, m_dWy = 0, m_dEta = 1;
   CEquivalentMoment m_inX, m_inY, m_outX, m_outY;
 };
 

@@ -14,6 +14,7 @@ struct CMemberSteel {
   CCodeEdition m_nEdition = CCodeEdition::Gb2017;
   CSteelGrade m_nGrade = CSteelGrade::Q235;
   double m_dF = 0, m_dFv = 0;  // N/mm2
+  double m_dFvX = 0;           // of the plates that carry Vx
   double m_dFu = 0;            // 2003: none
   double m_dFy = 0;            // of the thickness
   CBucklingClass m_nClassX = CBucklingClass::B, m_nClassY = CBucklingClass::B;
@@ -28,7 +29,8 @@ struct CMemberLoads {
   int m_nSupports = 0;   // lateral supports within the span; 2 is two and more
   bool m_bSway = false;
   double m_dLx = 0, m_dLy = 0, m_dLz = 0;  // effective lengths
-  double m_dSpan = 0;                      // free span of the compression flange
+  double m_dSpan = 0;                      // free span of the compression flange, of Mx
+  double m_dSpanY = 0;                     // of My, for a box
   bool m_bNet = false;
   double m_dNetA = 1, m_dNetW = 1;  // shares of the gross that are left
   bool m_bDynamic = false;

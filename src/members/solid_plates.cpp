@@ -2,6 +2,7 @@
 // 6.1.1, 6.1.2, 7.3, 8.4; GB 50017-2003, 4.1.1, 4.3, 5.4.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "codes/plasticity.h"
 #include "codes/width_limits.h"
@@ -38,12 +39,23 @@ bool HasFlanges(CMemberShape shape) {
 
 // Stresses at the ends of the web, compression positive, Mx compressing the top when positive.
 CSolidCheck::CWebStress CSolidCheck::WebStress(double Mx) const {
-  const double axial = -q.m_dN / s.m_dA;
+  const double axial = -q.m_dN / s.m_dA + WebStressOfMy();
   const double top = axial + Mx * s.m_dWebTop / s.m_dIx;
   const double bottom = axial - Mx * s.m_dWebBottom / s.m_dIx;
   const double greatest = std::max(top, bottom);
   const double alpha0 = greatest > 0 ? (greatest - std::min(top, bottom)) / greatest : 2;
   return {greatest, alpha0, top >= bottom ? CSide::Top : CSide::Bottom};
+}
+
+// A channel's web lies beside its axis y: My presses it evenly, with the sign that adds.
+double CSolidCheck::WebStressOfMy() const {
+  if (s.m_nShape != CMemberShape::Channel) return 0;
+  return m_dMy * (s.m_dWidth - s.m_dIy / s.m_dWSide) / s.m_dIy;
+}
+
+CClassElement CSolidCheck::WebElement() const {
+  return m_dNc > 0 || WebStressOfMy() > 0 ? CClassElement::WebCompressed
+                                          : CClassElement::WebBending;
 }
 
 // --- Classes of 2017 -----------------------------------------------------------------------------
@@ -63,9 +75,16 @@ double CSolidCheck::Class5(CClassElement element) const {
   return *ClassLimits(m.m_nEdition, element, m.m_nGrade)->m_arrLimit[4];
 }
 
+// By the axial force and the moments along the member, My with the sign that adds.
+bool CSolidCheck::IsFlangeCompressed(CSide side) const {
+  const double most = side == CSide::Top ? q.m_x.Most() : -q.m_x.Least();
+  const double W = side == CSide::Top ? s.m_dWTop : s.m_dWBottom;
+  return -q.m_dN / s.m_dA + most / W + m_dMy / s.m_dWSide > 0;
+}
+
 double CSolidCheck::FlangeRatio() const {
-  if (!q.m_y.IsZero()) return std::max(Outstand(s.m_top), Outstand(s.m_bottom));
-  return Outstand(CompressedFlange());
+  return std::max(IsFlangeCompressed(CSide::Top) ? Outstand(s.m_top) : 0.0,
+                  IsFlangeCompressed(CSide::Bottom) ? Outstand(s.m_bottom) : 0.0);
 }
 
 // Before every formula that asks gamma or an effective section.
@@ -106,6 +125,7 @@ void CSolidCheck::ClassifyPlates() {
       Classify(web, s.m_dH0 / s.m_dTw, 2);
       if (s.m_dH0 / s.m_dTw > Class4(web, 2) && !q.m_x.IsZero() && q.m_y.IsZero())
         Reduce(WebStress(m_dMx), {.m_bWeb = true});
+      if (BoxFlangeRatio() > Class4(flange, 2) && q.m_x.IsZero()) ReduceBoxFlange();
       return;
     }
     case CMemberShape::Tube:
@@ -117,37 +137,68 @@ void CSolidCheck::ClassifyPlates() {
 
 void CSolidCheck::ClassifyOpen() {
   const double flange = FlangeRatio();
-  const bool bFlange = CompressedFlange().m_dThick > 0 || !q.m_y.IsZero();
+  const bool bFlange = flange > 0;
   if (bFlange) Classify(CClassElement::FlangeOutstand, flange, 2);
   if (s.m_nShape == CMemberShape::T) return;
   const CWebStress stress = WebStress(m_dMx);
   const bool bWeb = stress.m_dMax > 0;
-  const CClassElement web = m_dNc > 0 ? CClassElement::WebCompressed : CClassElement::WebBending;
+  const CClassElement web = WebElement();
   const double h0tw = s.m_dH0 / s.m_dTw;
   if (bWeb) Classify(web, h0tw, stress.m_dAlpha0);
-  const bool bWebReduced = bWeb && h0tw > Class4(web, stress.m_dAlpha0);
+  // The effective section is of webs on the axis y.
+  const bool bWebReduced = bWeb && WebStressOfMy() == 0 && h0tw > Class4(web, stress.m_dAlpha0);
   const bool bFlangeReduced = bFlange && m_dNc == 0 && s.m_nShape == CMemberShape::I &&
                               flange > Class4(CClassElement::FlangeOutstand, 2);
+  const CSide other = m_nSide == CSide::Top ? CSide::Bottom : CSide::Top;
   if (bWebReduced || bFlangeReduced)
-    Reduce(stress, {bWebReduced, bFlangeReduced, bFlangeReduced && !q.m_y.IsZero()});
+    Reduce(stress, {bWebReduced, bFlangeReduced, bFlangeReduced && IsFlangeCompressed(other)});
+}
+
+// A box bent about y has its flanges for webs: the box turned by a right angle.
+void CSolidCheck::ReduceBoxFlange() {
+  CMemberSection turned = s;
+  std::swap(turned.m_dHeight, turned.m_dWidth);
+  std::swap(turned.m_dIx, turned.m_dIy);
+  turned.m_dWTop = turned.m_dWBottom = s.m_dWSide;
+  turned.m_dWSide = std::min(s.m_dWTop, s.m_dWBottom);
+  turned.m_top = turned.m_bottom = {s.m_dHeight, s.m_dTw, 0};
+  turned.m_dH0 = s.m_dB0;
+  turned.m_dB0 = s.m_dH0;
+  turned.m_dTw = std::min(s.m_top.m_dThick, s.m_bottom.m_dThick);
+  turned.m_dWebTop = turned.m_dWebBottom = s.m_dB0 / 2;
+  const double axial = -q.m_dN / s.m_dA, bending = m_dMy * turned.m_dWebTop / s.m_dIy;
+  const double greatest = axial + bending;
+  if (greatest <= 0) return;
+  const double alpha0 = 2 * bending / greatest;
+  CEffectiveSection e =
+      EffectiveSection(turned, CSide::Top, alpha0, r.m_dEpsilonK, {.m_bWeb = true});
+  std::swap(e.m_dWCompressed, e.m_dWSide);
+  e.m_dWOther = e.m_dWCompressed;
+  m_effective = e;
+  m_bTurned = true;
+  GiveEffective(alpha0, true, turned.m_dH0, turned.m_dTw);
 }
 
 void CSolidCheck::Reduce(const CWebStress& stress, CReducedPlates reduced) {
-  const CEffectiveSection e =
-      EffectiveSection(s, m_nSide, stress.m_dAlpha0, r.m_dEpsilonK, reduced);
-  m_effective = e;
+  m_effective = EffectiveSection(s, m_nSide, stress.m_dAlpha0, r.m_dEpsilonK, reduced);
+  GiveEffective(stress.m_dAlpha0, reduced.m_bWeb, s.m_dH0, s.m_dTw);
+}
+
+void CSolidCheck::GiveEffective(double alpha0, bool bWeb, double h0, double tw) {
+  const CEffectiveSection& e = *m_effective;
   a.Note(CMemberNote::EffectiveSection);
-  if (reduced.m_bWeb) {
-    a.Step("α0", nullptr, stress.m_dAlpha0);
+  if (bWeb) {
+    a.Step("α0", nullptr, alpha0);
     a.Step("kσ", "16/(2 − {α0} + √((2 − {α0})² + 0.112·{α0}²))", e.m_dKSigma);
-    a.Step("h0", nullptr, s.m_dH0, "mm");
-    a.Step("tw", nullptr, s.m_dTw, "mm");
+    a.Step("h0", nullptr, h0, "mm");
+    a.Step("tw", nullptr, tw, "mm");
     a.Step("λn,p", "{h0}/{tw}/(28.1·√{kσ})/{εk}", e.m_dLambdaNp);
     a.Step("ρ", e.m_dRho < 1 ? "(1 − 0.19/{λn,p})/{λn,p}" : nullptr, e.m_dRho);
     a.Step("hc", nullptr, e.m_dHc, "mm");
   }
   a.Step("Ae", nullptr, e.m_dA, "mm²");
   a.Step("e", nullptr, e.m_dE, "mm");
+  if (m_bTurned) return a.Step("We1y", nullptr, e.m_dWSide, "mm³");
   a.Step("We1x", nullptr, e.m_dWCompressed, "mm³");
 }
 
@@ -161,6 +212,7 @@ void CSolidCheck::Limit(CMemberCheckKind kind, const char* clause, double value,
 }
 
 void CSolidCheck::Plates() {
+  NoteStiffeners();
   if (HasMoment()) {
     MomentPlates();
   } else if (m_dNc > 0) {
@@ -238,13 +290,11 @@ void CSolidCheck::OpenPlates2017() {
     return Limit(CMemberCheckKind::Web, "7.3.1", web,
                  *AxialWidthLimit(m.m_nEdition, stem, m.m_nGrade, m_dLambdaMax));
   }
-  const CClassElement element =
-      bCompression ? CClassElement::WebCompressed : CClassElement::WebBending;
+  const CClassElement element = WebElement();
   const double class4 = Class4(element, stress.m_dAlpha0);
-  const bool bReduced = web > class4;
+  const bool bReduced = web > class4 && WebStressOfMy() == 0;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
         bReduced ? Class5(element) : class4);
-  NoteStiffeners(web);
 }
 
 void CSolidCheck::ClosedPlates2017() {
@@ -259,16 +309,17 @@ void CSolidCheck::ClosedPlates2017() {
                                : CClassElement::BoxFlange;
   };
   const double web = s.m_dH0 / s.m_dTw;
-  Limit(CMemberCheckKind::Flange, clause, BoxFlangeRatio(), Class4(element(q.m_x), 2));
-  const bool bReduced = m_effective.has_value();
+  Limit(CMemberCheckKind::Flange, m_bTurned ? "8.4.2" : clause, BoxFlangeRatio(),
+        m_bTurned ? 250 : Class4(element(q.m_x), 2));
+  const bool bReduced = m_effective && !m_bTurned;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
         bReduced ? 250 : Class4(element(q.m_y), 2));
-  NoteStiffeners(web);
 }
 
-// 6.3.2; 2003: 4.3.2. Of beams.
-void CSolidCheck::NoteStiffeners(double h0tw) {
-  if (m_dNc == 0 && !q.m_x.IsZero() && h0tw > *StiffenerLimit(m.m_nEdition, m.m_nGrade))
+// 6.3.2; 2003: 4.3.2. Of webs in bending or shear.
+void CSolidCheck::NoteStiffeners() {
+  if (s.m_dTw <= 0 || s.m_nShape == CMemberShape::T || (q.m_x.IsZero() && q.m_dVy == 0)) return;
+  if (s.m_dH0 / s.m_dTw > *StiffenerLimit(m.m_nEdition, m.m_nGrade))
     a.Note(CMemberNote::Stiffeners);
 }
 
@@ -282,8 +333,10 @@ void CSolidCheck::MomentPlates2003() {
   if (IsSolid(s.m_nShape)) return;
   const CWebStress stress = WebStress(m_dMx);
   const CBeamColumnWeb web = {std::min(stress.m_dAlpha0, 2.0),
-                              q.m_x.IsZero() ? r.m_dLambdaY : r.m_dLambdaX, m_bGammaReduced,
-                              stress.m_nSide == CSide::Bottom};
+                              !bColumn         ? 0
+                              : q.m_x.IsZero() ? r.m_dLambdaY
+                                               : r.m_dLambdaX,
+                              m_bGammaReduced, stress.m_nSide == CSide::Bottom};
   const double h0tw = s.m_dH0 / s.m_dTw;
   const auto column = [&](CWidthElement element) {
     return *BeamColumnWidthLimit(m.m_nEdition, element, m.m_nGrade, web);
@@ -292,7 +345,7 @@ void CSolidCheck::MomentPlates2003() {
     Limit(CMemberCheckKind::Flange, bColumn ? "5.4.3" : "4.3.8", BoxFlangeRatio(), 40 * ek);
     Limit(CMemberCheckKind::Web, bColumn ? "5.4.3" : "4.3.2", h0tw,
           bColumn ? column(CWidthElement::BoxWall) : 250);
-    return NoteStiffeners(h0tw);
+    return;
   }
   if (const double flange = FlangeRatio(); flange > 0) {
     Limit(CMemberCheckKind::Flange, bColumn ? "5.4.1" : "4.3.8", flange,
@@ -305,9 +358,9 @@ void CSolidCheck::MomentPlates2003() {
     const CWidthElement stem = s.m_bRolled ? CWidthElement::WebTRolled : CWidthElement::WebTWelded;
     return Limit(CMemberCheckKind::Web, "5.4.4", h0tw, column(stem));
   }
-  Limit(CMemberCheckKind::Web, bColumn ? "5.4.2" : "4.3.2", h0tw,
-        bColumn ? column(CWidthElement::WebI) : 250);
-  NoteStiffeners(h0tw);
+  const bool bPressed = bColumn || WebStressOfMy() > 0;
+  Limit(CMemberCheckKind::Web, bPressed ? "5.4.2" : "4.3.2", h0tw,
+        bPressed ? column(CWidthElement::WebI) : 250);
 }
 
 }  // namespace orv3

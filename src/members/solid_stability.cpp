@@ -31,7 +31,12 @@ void CSolidCheck::Stability() {
   r.m_dPhiX = Phi(lambdaX, bChannel ? m.m_nClassY : m.m_nClassX);
   r.m_dPhiY = Phi(lambdaY, m.m_nClassY);
   m_dPhiLeast = std::min(r.m_dPhiX, r.m_dPhiY);
-  if (HasMoment()) return BeamColumns();
+  if (HasMoment()) {
+    BeamColumns();
+    // The moment by itself: compression is no help against lateral buckling.
+    if (!a.IsRefused()) Lateral();
+    return;
+  }
   AxialStability(CMemberCheckKind::StabilityX, lambdaX, r.m_dPhiX);
   AxialStability(CMemberCheckKind::StabilityY, lambdaY, r.m_dPhiY);
   if (Is2017() && s.m_nShape == CMemberShape::I && s.IsEqualFlanged()) {
@@ -55,7 +60,7 @@ void CSolidCheck::BeamColumns() {
   if (Is2017() && s.m_nShape == CMemberShape::Tube && IsBiaxial()) return TubeTwoMoments();
   // What the formulas take of the section: with a plate of class S5 its effective part.
   m_dAe = m_effective ? m_effective->m_dA : s.m_dA;
-  m_dShift = m_effective ? m_effective->m_dE : 0;
+  (m_bTurned ? m_dShiftY : m_dShiftX) = m_effective ? m_effective->m_dE : 0;
   m_dW1 = m_effective ? m_effective->m_dWCompressed : WCompressed();
   m_dWy = m_effective ? m_effective->m_dWSide : s.m_dWSide;
   const bool bClosed = IsClosed(s.m_nShape);
@@ -89,12 +94,12 @@ void CSolidCheck::BeamColumnX() {
                                                      : Clause("8.2.1", "5.2.2"));
   const double NE = ReducedEulerForce(s.m_dA, r.m_dLambdaX);
   const double axial = AxialTerm(m_dNc, r.m_dPhiX, m_dAe, F());
-  const double M = m_inX.m_dMoment + m_dNc * m_dShift;
+  const double M = m_inX.m_dMoment + m_dNc * m_dShiftX;
   const double inPlane =
       q.m_x.IsZero() ? 0 : AmplifiedTerm(M, r.m_dGammaX * m_dW1, 0.8, m_dNc, NE, F());
-  const double across = LateralTerm(m_dEta, m_outY.m_dMoment, 1, m_dWy, F());
+  const double across = LateralTerm(m_dEta, m_outY.m_dMoment + m_dNc * m_dShiftY, 1, m_dWy, F());
   a.Step("φx", nullptr, r.m_dPhiX);
-  if (m_effective) a.Step("e", nullptr, m_dShift, "mm");
+  if (m_effective) a.Step("e", nullptr, m_dShiftX + m_dShiftY, "mm");
   a.Step("Ae", nullptr, m_dAe, "mm²");
   a.Step("axial", "{N}/({φx}·{Ae}·{f})", axial);
   double ratio = axial + inPlane + across;
@@ -114,7 +119,9 @@ void CSolidCheck::BeamColumnX() {
     a.Step("βty", nullptr, m_outY.m_dBeta);
     a.Step("My", nullptr, m_outY.m_dM, "N·mm");
     a.Step("Wy", nullptr, m_dWy, "mm³");
-    a.Step("across", "{η}·{βty}·{My}/({Wy}·{f})", across);
+    a.Step("across",
+           m_dShiftY > 0 ? "{η}·({βty}·{My} + {N}·{e})/({Wy}·{f})" : "{η}·{βty}·{My}/({Wy}·{f})",
+           across);
   }
   const char* formula = q.m_y.IsZero()   ? "{axial} + {bending}"
                         : q.m_x.IsZero() ? "{axial} + {across}"
@@ -145,11 +152,12 @@ void CSolidCheck::BeamColumnY() {
                                                               : Clause("8.2.1", "5.2.2"));
   const double NE = ReducedEulerForce(s.m_dA, r.m_dLambdaY);
   const double axial = AxialTerm(m_dNc, r.m_dPhiY, m_dAe, F());
-  const double M = m_outX.m_dMoment + m_dNc * m_dShift;
+  const double M = m_outX.m_dMoment + m_dNc * m_dShiftX;
   const double across = q.m_x.IsZero() ? 0 : LateralTerm(m_dEta, M, r.m_dPhiB, m_dW1, F());
-  const double inPlane = AmplifiedTerm(m_inY.m_dMoment, r.m_dGammaY * m_dWy, 0.8, m_dNc, NE, F());
+  const double inPlane =
+      AmplifiedTerm(m_inY.m_dMoment + m_dNc * m_dShiftY, r.m_dGammaY * m_dWy, 0.8, m_dNc, NE, F());
   a.Step("φy", nullptr, r.m_dPhiY);
-  if (m_effective) a.Step("e", nullptr, m_dShift, "mm");
+  if (m_effective) a.Step("e", nullptr, m_dShiftX + m_dShiftY, "mm");
   a.Step("Ae", nullptr, m_dAe, "mm²");
   a.Step("axial", "{N}/({φy}·{Ae}·{f})", axial);
   if (!q.m_x.IsZero()) {
@@ -169,7 +177,10 @@ void CSolidCheck::BeamColumnY() {
     a.Step("My", nullptr, m_inY.m_dM, "N·mm");
     a.Step("γy", nullptr, r.m_dGammaY);
     a.Step("Wy", nullptr, m_dWy, "mm³");
-    a.Step("bending", "{βmy}·{My}/({γy}·{Wy}·(1 − 0.8·{N}/{N′Ey})·{f})", inPlane);
+    a.Step("bending",
+           m_dShiftY > 0 ? "({βmy}·{My} + {N}·{e})/({γy}·{Wy}·(1 − 0.8·{N}/{N′Ey})·{f})"
+                         : "{βmy}·{My}/({γy}·{Wy}·(1 − 0.8·{N}/{N′Ey})·{f})",
+           inPlane);
   }
   a.Close(!bMy             ? "{axial} + {across}"
           : q.m_x.IsZero() ? "{axial} + {bending}"
@@ -187,7 +198,7 @@ void CSolidCheck::TubeTwoMoments() {
   const auto beta = [&](const CMomentCourse& c) {
     return 1 - 0.35 * root + 0.35 * root * c.EndRatio();
   };
-  const double M = bLoad ? std::hypot(m_dMx, m_dMy) : std::hypot(q.m_x.m_dM1, q.m_y.m_dM1);
+  const double M = bLoad ? std::hypot(m_dMx, m_dMy) : EndResultant();
   const double equivalent = bLoad ? 1 : beta(q.m_x) * beta(q.m_y);
   if (bLoad) a.Note(CMemberNote::TubeLoads);
   const double NEr = ReducedEulerForce(s.m_dA, lambda);
@@ -249,7 +260,7 @@ double CSolidCheck::UniformPhiB(double lambdaY) {
     }
   }
   const auto answer = UniformBendingPhiB(m.m_nEdition, m.m_nGrade, shape, lambdaY, BeamSection());
-  const double* phiB = Take("span", answer);
+  const double* phiB = Take("lengths.span", answer);
   return phiB != nullptr ? *phiB : 1;
 }
 
@@ -279,9 +290,9 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
     const CMemberFlange& flange = CompressedFlange();
     const double xi = q.m_dSpan * flange.m_dThick / (flange.m_dWidth * section.m_dH);
     const bool bPoint = c.m_nLoad == CSpanLoad::Midspan;
-    const CBeamLoad kind = bPoint
-                               ? (q.m_bUpper ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
-                               : (q.m_bUpper ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
+    const CBeamLoad kind =
+        bPoint ? (IsLoadTowardsCentroid() ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
+               : (IsLoadTowardsCentroid() ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
     a.Step("ξ", nullptr, xi);
     const auto answer = BetaB(m.m_nEdition, kind, q.m_nSupports, xi, section.m_dAlphaB);
     const double* beta = Take("load", answer);
@@ -298,7 +309,7 @@ double CSolidCheck::BeamPhiB() {
   if (s.m_nShape == CMemberShape::Channel) {
     const auto answer = ChannelPhiB(m.m_nEdition, m.m_nGrade, s.m_dHeight, s.m_top.m_dWidth,
                                     s.m_top.m_dThick, q.m_dSpan);
-    const CPhiB* phiB = Take("span", answer);
+    const CPhiB* phiB = Take("lengths.span", answer);
     return phiB != nullptr ? phiB->m_dPhiB : 1;
   }
   const double lambdaY = q.m_dSpan / s.m_dRy;
@@ -308,11 +319,13 @@ double CSolidCheck::BeamPhiB() {
     const CRolledILoad load =
         q.m_nSupports > 0 ? CRolledILoad::Supported
         : c.m_nLoad == CSpanLoad::Midspan
-            ? (q.m_bUpper ? CRolledILoad::PointUpper : CRolledILoad::PointLower)
-            : (q.m_bUpper ? CRolledILoad::UniformUpper : CRolledILoad::UniformLower);
-    const auto answer =
-        RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber, q.m_dSpan / 1000);
-    const CPhiB* phiB = Take("span", answer);
+            ? (IsLoadTowardsCentroid() ? CRolledILoad::PointUpper : CRolledILoad::PointLower)
+            : (IsLoadTowardsCentroid() ? CRolledILoad::UniformUpper : CRolledILoad::UniformLower);
+    constexpr double kShortest = 2;  // m; shorter spans have a greater phi-b
+    const double span = std::max(kShortest, q.m_dSpan / 1000);
+    if (q.m_dSpan < 1000 * kShortest) a.Note(CMemberNote::RolledIShort);
+    const auto answer = RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber, span);
+    const CPhiB* phiB = Take("lengths.span", answer);
     return phiB != nullptr ? phiB->m_dPhiB : 1;
   }
   if (q.m_bTapered) a.Note(CMemberNote::RolledITable);
@@ -324,18 +337,17 @@ double CSolidCheck::BeamPhiB() {
   a.Step("t1", nullptr, section.m_dT1, "mm");
   a.Step("αb", nullptr, section.m_dAlphaB);
   const auto answer = WeldedIPhiB(m.m_nEdition, m.m_nGrade, section, lambdaY, beta);
-  const CPhiB* phiB = Take("span", answer);
+  const CPhiB* phiB = Take("lengths.span", answer);
   if (phiB == nullptr) return 1;
   a.Step("φb (elastic)", nullptr, phiB->m_dElastic);
   return phiB->m_dPhiB;
 }
 
-// 6.2.2, 6.2.3; 2003: 4.2.2, 4.2.3. Of members without compression.
+// 6.2.2, 6.2.3; 2003: 4.2.2, 4.2.3. Of the moments alone.
 void CSolidCheck::Lateral() {
+  if (s.m_nShape == CMemberShape::Box) return LateralBox();
   if (q.m_x.IsZero()) return;
   switch (s.m_nShape) {
-    case CMemberShape::Box:
-      return LateralBox();
     case CMemberShape::I:
     case CMemberShape::Channel:
     case CMemberShape::T:
@@ -347,31 +359,41 @@ void CSolidCheck::Lateral() {
          q.m_y.IsZero() ? Clause("6.2.2", "4.2.2") : Clause("6.2.3", "4.2.3"));
   a.Step("l1", nullptr, q.m_dSpan, "mm");
   a.Step("iy", nullptr, s.m_dRy, "mm");
-  r.m_dPhiB = BeamPhiB();
+  const double phiB = BeamPhiB();
   if (a.IsRefused()) return;
+  if (m_dNc == 0) r.m_dPhiB = phiB;  // else that of the beam-column
   const double W = m_effective ? m_effective->m_dWCompressed : WCompressed();
   const double Wy = m_effective ? m_effective->m_dWSide : s.m_dWSide;
-  a.Step("φb", nullptr, r.m_dPhiB);
+  a.Step("φb", nullptr, phiB);
   a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
   a.Step("Wx", nullptr, W, "mm³");
-  const double first = LateralTerm(1, std::fabs(m_dMx), r.m_dPhiB, W, F());
+  const double first = LateralTerm(1, std::fabs(m_dMx), phiB, W, F());
   if (q.m_y.IsZero()) return a.Close("{Mx}/({φb}·{Wx}·{f})", first);
   a.Step("γy", nullptr, r.m_dGammaY);
   a.Step("Wy", nullptr, Wy, "mm³");
   a.Close("{Mx}/({φb}·{Wx}·{f}) + {My}/({γy}·{Wy}·{f})", first + m_dMy / (r.m_dGammaY * Wy * F()));
 }
 
-// 6.2.4; 2003: 4.2.4. The code has no phi-b of a box beyond both limits, so they are what it is
-// judged by.
+// 6.2.4; 2003: 4.2.4, about the strong axis. The code has no phi-b of a box beyond both limits, so
+// they are what it is judged by.
 void CSolidCheck::LateralBox() {
   const double ek2 = r.m_dEpsilonK * r.m_dEpsilonK;
-  const double depth = s.m_dHeight / s.m_dB0 / 6, length = q.m_dSpan / s.m_dB0 / (95 * ek2);
+  const bool bX = !q.m_x.IsZero() && s.IsStrong(CMemberAxis::X);
+  const bool bY = !q.m_y.IsZero() && s.IsStrong(CMemberAxis::Y);
+  if (!bX && !bY) return;
+  const auto worse = [ek2](double h, double b0, double l1) {
+    return std::max(h / b0 / 6, l1 / b0 / (95 * ek2));
+  };
+  const double x = bX ? worse(s.m_dHeight, s.m_dB0, q.m_dSpan) : 0;
+  const double y = bY ? worse(s.m_dWidth, s.m_dH0, q.m_dSpanY) : 0;
+  const double h = x >= y ? s.m_dHeight : s.m_dWidth, b0 = x >= y ? s.m_dB0 : s.m_dH0;
+  const double l1 = x >= y ? q.m_dSpan : q.m_dSpanY, worst = std::max(x, y);
   a.Open(CMemberCheckKind::Lateral, Clause("6.2.4", "4.2.4"));
-  a.Step("h", nullptr, s.m_dHeight, "mm");
-  a.Step("b0", nullptr, s.m_dB0, "mm");
-  a.Step("l1", nullptr, q.m_dSpan, "mm");
-  if (std::max(depth, length) > 1) a.Note(CMemberNote::BoxBeyond);
-  a.Close(depth >= length ? "{h}/{b0}/6" : "{l1}/{b0}/(95·{εk}²)", std::max(depth, length));
+  a.Step("h", nullptr, h, "mm");
+  a.Step("b0", nullptr, b0, "mm");
+  a.Step("l1", nullptr, l1, "mm");
+  if (worst > 1) a.Note(CMemberNote::BoxBeyond);
+  a.Close(h / b0 / 6 >= l1 / b0 / (95 * ek2) ? "{h}/{b0}/6" : "{l1}/{b0}/(95·{εk}²)", worst);
 }
 
 }  // namespace orv3

@@ -1,6 +1,8 @@
 // Strength of a solid-web member: GB 50017-2017, 6.1, 7.1, 8.1; GB 50017-2003, 4.1, 5.1, 5.2.1.
 #include <algorithm>
 #include <cmath>
+#include <numbers>
+#include <vector>
 
 #include "members/beam_column.h"
 #include "members/solid_check.h"
@@ -32,13 +34,13 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
   const bool bEffective = m_effective.has_value() && side == m_nSide;
   double A = s.m_dA, W1 = side == CSide::Top ? s.m_dWTop : s.m_dWBottom;
   double W2 = side == CSide::Top ? s.m_dWBottom : s.m_dWTop;
-  double Wy = s.m_dWSide, e = 0;
+  double Wy = s.m_dWSide, e = 0, eY = 0;
   if (bEffective) {
     A = m_effective->m_dA;
     W1 = m_effective->m_dWCompressed;
     W2 = m_effective->m_dWOther;
     Wy = m_effective->m_dWSide;
-    e = m_dNc > 0 ? m_effective->m_dE : 0;
+    (m_bTurned ? eY : e) = m_dNc > 0 ? m_effective->m_dE : 0;
   }
   A *= q.m_dNetA;
   W1 *= q.m_dNetW;
@@ -51,7 +53,7 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
   const bool bRound =
       (s.m_nShape == CMemberShape::Tube && Is2017()) || s.m_nShape == CMemberShape::SolidRound;
   if (bRound) {
-    const double resultant = std::hypot(Mx, m_dMy);
+    const double resultant = HasLoad() ? std::hypot(Mx, m_dMy) : EndResultant();
     const double ratio = (std::fabs(N) / A + resultant / (g1 * W1)) / F();
     if (!bSteps) return ratio;
     a.Step("An", nullptr, A, "mm²");
@@ -61,7 +63,7 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
     a.Close("({N}/{An} + {M}/({γm}·{Wn}))/{f}", ratio);
     return ratio;
   }
-  const double my = m_dMy == 0 ? 0 : m_dMy / (r.m_dGammaY * Wy);
+  const double my = m_dMy == 0 ? 0 : (m_dMy + m_dNc * eY) / (r.m_dGammaY * Wy);
   const double compressed = std::fabs(N / A + M / (g1 * W1));
   const double stretched = std::fabs(N / A - M / (g2 * W2));
   const bool bFirst = compressed >= stretched;
@@ -76,6 +78,7 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
     a.Step("Wnx", nullptr, bFirst ? W1 : W2, "mm³");
   }
   if (m_dMy != 0) {
+    if (eY > 0) a.Step("e", nullptr, eY, "mm");
     a.Step("γy", nullptr, r.m_dGammaY);
     a.Step("Wny", nullptr, Wy, "mm³");
   }
@@ -84,7 +87,8 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
     formula = m_dMy == 0 ? "({N}/{An} ± ({Mx} + {N}·{e})/({γx}·{Wnx}))/{f}"
                          : "({N}/{An} ± ({Mx} + {N}·{e})/({γx}·{Wnx}) + {My}/({γy}·{Wny}))/{f}";
   } else if (Mx == 0) {
-    formula = "({N}/{An} + {My}/({γy}·{Wny}))/{f}";
+    formula = eY > 0 ? "({N}/{An} + ({My} + {N}·{e})/({γy}·{Wny}))/{f}"
+                     : "({N}/{An} + {My}/({γy}·{Wny}))/{f}";
   } else if (m_dMy == 0) {
     formula = bAdds || N == 0 ? "({N}/{An} + {Mx}/({γx}·{Wnx}))/{f}"
                               : "|{N}/{An} − {Mx}/({γx}·{Wnx})|/{f}";
@@ -97,6 +101,9 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
 
 // 6.1.3; 2003: 4.1.2.
 void CSolidCheck::Shear() {
+  if (s.m_nShape == CMemberShape::Channel &&
+      (q.m_dVx != 0 || q.m_dVy != 0 || q.m_x.HasLoad() || !q.m_y.IsZero()))
+    a.Note(CMemberNote::ShearCentre);
   if (q.m_dVx == 0 && q.m_dVy == 0) return;
   a.Open(CMemberCheckKind::Shear, Clause("6.1.3", "4.1.2"));
   const bool bRound = s.m_nShape == CMemberShape::Tube || s.m_nShape == CMemberShape::SolidRound;
@@ -110,48 +117,119 @@ void CSolidCheck::Shear() {
     a.Step("τy", "Vy·Sx/(Ix·t)", tauY, "N/mm²");
     return a.Close("√({τx}² + {τy}²)/{fv}", std::hypot(tauX, tauY) / m.m_dFv);
   }
-  const bool bY = tauY >= tauX;
+  const bool bY = tauY / m.m_dFv >= tauX / m.m_dFvX;
   const CShearCut& cut = bY ? s.m_cutY : s.m_cutX;
   a.Step("V", nullptr, bY ? Vy : Vx, "N");
   a.Step("S", nullptr, cut.m_dS, "mm³");
   a.Step("t", nullptr, cut.m_dT, "mm");
-  if (s.m_nShape == CMemberShape::Channel) a.Note(CMemberNote::ShearCentre);
+  if (!bY) a.Step("fv", nullptr, m.m_dFvX, "N/mm²");
   a.Close(bY ? "{V}·{S}/({Ix}·{t}·{fv})" : "{V}·{S}/({Iy}·{t}·{fv})",
-          std::max(tauX, tauY) / m.m_dFv);
+          bY ? tauY / m.m_dFv : tauX / m.m_dFvX);
 }
 
-// 6.1.5 at the worse end of the web, without sigma-c; 2003: 4.1.4.
+// The ends of the webs and of the flanges that carry a shear, and the cuts where it is greatest.
+// The moments have their greatest magnitude and the sign that adds to N.
+std::vector<CSolidCheck::CPlace> CSolidCheck::ShearedPlaces() const {
+  std::vector<CPlace> places;
+  const double Vx = std::fabs(q.m_dVx), Vy = std::fabs(q.m_dVy);
+  const bool bBox = s.m_nShape == CMemberShape::Box;
+  const double edge = std::max(s.m_dIx / s.m_dWTop, s.m_dIx / s.m_dWBottom);
+  const double side = s.m_dIy / s.m_dWSide;
+  if (Vy > 0) {
+    // My in the web: the outer face of a box, the back of a channel; I and T have it on the axis y.
+    const double x = bBox                                   ? side
+                     : s.m_nShape == CMemberShape::Channel  ? s.m_dWidth - side
+                     : s.m_nShape == CMemberShape::SolidBar ? side
+                                                            : 0;
+    if (s.m_dTw > 0) {
+      const double t = s.m_nWebs * s.m_dTw;
+      places.push_back({false, s.m_dWebTop, x, s.m_dSTop, t});
+      places.push_back({false, s.m_dWebBottom, x, s.m_dSBottom, t});
+    }
+    places.push_back({false, 0, x, s.m_cutY.m_dS, s.m_cutY.m_dT});
+  }
+  if (Vx > 0) {
+    if (bBox) {
+      const double wall = (s.m_dWidth - s.m_dB0) / 2;
+      places.push_back({true, edge, s.m_dB0 / 2, s.m_dHeight * wall * (s.m_dWidth - wall) / 2,
+                        s.m_top.m_dThick + s.m_bottom.m_dThick});
+    }
+    places.push_back({true, edge, 0, s.m_cutX.m_dS, s.m_cutX.m_dT});
+  }
+  return places;
+}
+
+// 6.1.5 without sigma-c at the worst place that carries a shear; 2003: 4.1.4.
 void CSolidCheck::Combined() {
-  const bool bWeb = s.m_nShape == CMemberShape::I || s.m_nShape == CMemberShape::Channel ||
-                    s.m_nShape == CMemberShape::T || s.m_nShape == CMemberShape::Box;
-  if (!bWeb || m_dMx == 0 || q.m_dVy == 0) return;
-  const double An = q.m_dNetA * s.m_dA, In = q.m_dNetW * s.m_dIx;
-  const double t = s.m_nWebs * s.m_dTw;
-  double worst = -1, sigma = 0, tau = 0, y = 0, S = 0;
-  for (const bool bTop : {true, false}) {
-    const double at = bTop ? s.m_dWebTop : s.m_dWebBottom;
-    const double first = bTop ? s.m_dSTop : s.m_dSBottom;
-    // The moment's greatest magnitude, with the sign that adds to N.
-    const double normal = std::fabs(q.m_dN) / An + std::fabs(m_dMx) * at / In;
-    const double shear = std::fabs(q.m_dVy) * first / (s.m_dIx * t);
+  if ((q.m_dVx == 0 && q.m_dVy == 0) || (q.m_dN == 0 && !HasMoment())) return;
+  if (s.m_nShape == CMemberShape::Tube || s.m_nShape == CMemberShape::SolidRound)
+    return CombinedRound();
+  const double An = q.m_dNetA * s.m_dA, Inx = q.m_dNetW * s.m_dIx, Iny = q.m_dNetW * s.m_dIy;
+  const double N = std::fabs(q.m_dN), Mx = std::fabs(m_dMx);
+  const auto normal = [&](const CPlace& p) {
+    return N / An + Mx * p.m_dY / Inx + m_dMy * p.m_dX / Iny;
+  };
+  const auto shear = [&](const CPlace& p) {
+    return p.m_bVx ? std::fabs(q.m_dVx) * p.m_dS / (s.m_dIy * p.m_dT)
+                   : std::fabs(q.m_dVy) * p.m_dS / (s.m_dIx * p.m_dT);
+  };
+  const auto both = [&](const CPlace& p) {
+    return normal(p) == 0 ? -1 : CombinedStress(normal(p), shear(p));  // shear alone is 6.1.3
+  };
+  const std::vector<CPlace> places = ShearedPlaces();
+  const CPlace& p = *std::max_element(
+      places.begin(), places.end(),
+      [&](const CPlace& left, const CPlace& right) { return both(left) < both(right); });
+  if (both(p) < 0) return;
+  a.Open(CMemberCheckKind::Combined, Clause("6.1.5", "4.1.4"));
+  a.Step("An", nullptr, An, "mm²");
+  const bool bMx = Mx * p.m_dY != 0, bMy = m_dMy * p.m_dX != 0;
+  if (bMx) {
+    a.Step("Mx", nullptr, Mx, "N·mm");
+    a.Step("y1", nullptr, p.m_dY, "mm");
+    a.Step("Inx", nullptr, Inx, "mm⁴");
+  }
+  if (bMy) {
+    a.Step("My", nullptr, m_dMy, "N·mm");
+    a.Step("x1", nullptr, p.m_dX, "mm");
+    a.Step("Iny", nullptr, Iny, "mm⁴");
+  }
+  a.Step("σ",
+         bMx && bMy ? "{N}/{An} + {Mx}·{y1}/{Inx} + {My}·{x1}/{Iny}"
+         : bMx      ? "{N}/{An} + {Mx}·{y1}/{Inx}"
+         : bMy      ? "{N}/{An} + {My}·{x1}/{Iny}"
+                    : "{N}/{An}",
+         normal(p), "N/mm²");
+  a.Step(p.m_bVx ? "Vx" : "Vy", nullptr, std::fabs(p.m_bVx ? q.m_dVx : q.m_dVy), "N");
+  a.Step("S1", nullptr, p.m_dS, "mm³");
+  a.Step("t", nullptr, p.m_dT, "mm");
+  a.Step("τ", p.m_bVx ? "{Vx}·{S1}/({Iy}·{t})" : "{Vy}·{S1}/({Ix}·{t})", shear(p), "N/mm²");
+  a.Close("√({σ}² + 3·{τ}²)/(1.1·{f})", both(p) / (1.1 * F()));
+}
+
+// A round section at every degree of its circumference, all signs adding.
+void CSolidCheck::CombinedRound() {
+  const double An = q.m_dNetA * s.m_dA, Wn = q.m_dNetW * s.m_dWTop;
+  const double unit = s.m_cutY.m_dS / (s.m_dIx * s.m_cutY.m_dT);
+  double worst = -1, angle = 0, sigma = 0, tau = 0;
+  for (int degree = 0; degree <= 90; ++degree) {
+    const double rad = degree * std::numbers::pi / 180;
+    const double up = degree == 0 ? 0 : std::sin(rad), along = degree == 90 ? 0 : std::cos(rad);
+    const double normal = std::fabs(q.m_dN) / An + (std::fabs(m_dMx) * up + m_dMy * along) / Wn;
+    const double shear = unit * (std::fabs(q.m_dVy) * along + std::fabs(q.m_dVx) * up);
     const double both = CombinedStress(normal, shear);
     if (both <= worst) continue;
     worst = both;
+    angle = degree;
     sigma = normal;
     tau = shear;
-    y = at;
-    S = first;
   }
   a.Open(CMemberCheckKind::Combined, Clause("6.1.5", "4.1.4"));
-  a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
-  a.Step("y1", nullptr, y, "mm");
   a.Step("An", nullptr, An, "mm²");
-  a.Step("In", nullptr, In, "mm⁴");
-  a.Step("σ", "{N}/{An} + {Mx}·{y1}/{In}", sigma, "N/mm²");
-  a.Step("Vy", nullptr, std::fabs(q.m_dVy), "N");
-  a.Step("S1", nullptr, S, "mm³");
-  a.Step("tw", nullptr, t, "mm");
-  a.Step("τ", "{Vy}·{S1}/({Ix}·{tw})", tau, "N/mm²");
+  a.Step("Wn", nullptr, Wn, "mm³");
+  a.Step("θ", nullptr, angle, "°");
+  a.Step("σ", "N/An + (Mx·sin θ + My·cos θ)/Wn", sigma, "N/mm²");
+  a.Step("τ", "(Vy·cos θ + Vx·sin θ)·S/(I·t)", tau, "N/mm²");
   a.Close("√({σ}² + 3·{τ}²)/(1.1·{f})", worst / (1.1 * F()));
 }
 

@@ -79,6 +79,16 @@ CMemberCase SlenderWeb() {
   return With(Sizes("h", {300, 1200, 16, 6}, "Q345", 8000, 3000), -500, {600000, {}});
 }
 
+CMemberCase FlangeShear() {
+  CMemberCase c = Sizes("general-h", {8, 400, 10, 20, 46, 46, 146, 146}, "Q235", 3000, 3000);
+  c.m_dVx = 50;
+  return c;
+}
+CMemberCase HeavyTop() {
+  return With(Sizes("general-h", {8, 400, 10, 20, 46, 46, 146, 146}, "Q235", 3000, 3000), -500,
+              {10000, {}});
+}
+
 // The figures in the comments are A, I, W and i as printed, or those of the plates.
 const CExample kExamples[] = {
     // Wx 1190e3; 150e6/(1.05 1190e3 215)
@@ -143,6 +153,10 @@ const CExample kExamples[] = {
     {"slender web", SlenderWeb(), K::StabilityX, 0.45928, kNone},
     {"slender web", SlenderWeb(), K::StabilityY, 0.47888, kNone},
     {"slender web", SlenderWeb(), K::Web, 194.6667 / 250, 194.6667 / (63.57205 * 0.825323)},
+    // Flanges 300 x 10 and 100 x 20: Iy 22.5e6 + 1.6667e6 + 370 8^3/12; tau 50e3 300^2/(8 Iy)
+    {"Vx in the wider flange", FlangeShear(), K::Shear, 0.18609, 0.18609},
+    // The lower flange, compressed by N over Mx, juts 146/10
+    {"both flanges compressed", HeavyTop(), K::Flange, 14.6 / 15, kNone},
 };
 
 TEST_F(CMembers, ByHand) {
@@ -205,6 +219,9 @@ const CRefusal kRefusals[] = {
     {"load", Change(WideH(), [](CMemberCase& c) { c.m_strLoad = "uniform"; })},
     {"Mqx", WeldedH({0, {100, 50}}, "uniform")},
     {"Mx", With(Angle(), -80, {100, {}})},
+    {"Mx", With(WideH(), -80, {1e308, {}})},
+    {"lengths.span", With(Row("热轧普通工字钢", "I20a", "Q235", 12000, 12000), kNone, {20000, {}},
+                          {0, {}}, "uniform")},
     {"Mx", With(Row("热轧普通槽钢", "[20a", "Q235", 3000, 1500), -80, {100, {}})},
     {"My", With(Tee(), -80, {0, {}}, {100, {}})},
     {"edges", Change(WideH(), [](CMemberCase& c) { c.m_strEdges = "rolled"; })},

@@ -82,12 +82,40 @@ TEST_F(CMembers, SignsOfMomentsDoNotMatterToSymmetricSections) {
     EXPECT_DOUBLE_EQ(a.m_arrRatio[i], b.m_arrRatio[i]);
 }
 
+// N of one newton hides nothing that fails without it.
+TEST_F(CMembers, ALittleCompressionHidesNothing) {
+  const auto beam = [](CMemberCase c, double Mx, double My, double Vx, double Vy) {
+    c.m_Mx.m_dUniform = Mx;
+    c.m_My.m_dUniform = My;
+    c.m_dVx = Vx;
+    c.m_dVy = Vy;
+    return c;
+  };
+  const CMemberCase cases[] = {
+      beam(Sizes("h", {200, 400, 16, 10}, "Q235", 9000, 9000), 60000, 0, 0, 50),
+      beam(Sizes("box", {100, 300, 10}, "Q235", 14000, 14000), 60000, 0, 0, 50),
+      beam(Sizes("box", {300, 100, 10}, "Q235", 14000, 14000), 0, 60000, 50, 0),
+      beam(Sizes("tube", {100, 92}, "Q235", 4000, 4000), 10000, 0, 30, 40),
+  };
+  for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
+    m_check.SetEdition(edition);
+    for (CMemberCase c : cases) {
+      const CRatios without = RatiosOf(m_check, c);
+      c.m_dN = -0.001;
+      ExpectNoLess(RatiosOf(m_check, c), without, c.m_strStyle.c_str());
+      EXPECT_GT(m_check.Answer().Ratio(K::Combined), 0) << c.m_strStyle;
+    }
+  }
+}
+
 TEST_F(CMembers, ATurnedBoxHasExchangedChecks) {
   constexpr std::pair<K, K> kExchanged[] = {{K::StabilityX, K::StabilityY},
                                             {K::StabilityY, K::StabilityX},
                                             {K::Flange, K::Web},
                                             {K::Web, K::Flange},
                                             {K::Strength, K::Strength},
+                                            {K::Lateral, K::Lateral},
+                                            {K::Combined, K::Combined},
                                             {K::Wall, K::Wall},
                                             {K::Slenderness, K::Slenderness}};
   struct CLoads {
@@ -98,10 +126,12 @@ TEST_F(CMembers, ATurnedBoxHasExchangedChecks) {
     upright.m_dN = loads.m_dN;
     upright.m_Mx.m_dUniform = loads.m_dMx;
     upright.m_My.m_dUniform = loads.m_dMy;
+    upright.m_dVy = 30;
     CMemberCase turned = Sizes("box", {300, 200, 12}, "Q345", 4000, 6000);
     turned.m_dN = loads.m_dN;
     turned.m_Mx.m_dUniform = loads.m_dMy;
     turned.m_My.m_dUniform = loads.m_dMx;
+    turned.m_dVx = 30;
     for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
       m_check.SetEdition(edition);
       const CRatios a = RatiosOf(m_check, upright), b = RatiosOf(m_check, turned);

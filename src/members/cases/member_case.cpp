@@ -1,5 +1,6 @@
 #include "members/cases/member_case.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "catalogue/outline/row_spacing.h"
@@ -181,10 +182,13 @@ bool CMemberCheck::ReadSteel(const CMemberCase& input, const CMemberRow& section
   if (!thick) return Refuse("steel", thick.Refusal().m_what, thick.Refusal().m_right);
   const auto web = SteelStrengths(m_nEdition, *grade, section.m_dWebThick, product);
   if (!web) return Refuse("steel", web.Refusal().m_what, web.Refusal().m_right);
+  const auto flange = SteelStrengths(m_nEdition, *grade, section.m_dFlangeThick, product);
+  if (!flange) return Refuse("steel", flange.Refusal().m_what, flange.Refusal().m_right);
   m_steel.m_nEdition = m_nEdition;
   m_steel.m_nGrade = *grade;
   m_steel.m_dF = thick->m_dF;
   m_steel.m_dFv = web->m_dFv;
+  m_steel.m_dFvX = flange->m_dFv;
   m_steel.m_dFu = thick->m_dFu.value_or(0);
   m_steel.m_dFy = thick->m_dFy;
   return true;
@@ -245,6 +249,7 @@ bool CMemberCheck::ReadCourse(const char* key, const CSpacing& moment, const cha
   const bool bFirst = std::fabs(first) >= std::fabs(second);
   course.m_dM1 = 1000 * (bFirst ? first : second);
   course.m_dM2 = 1000 * (bFirst ? second : first);
+  course.m_bFar = !bFirst;
   if (!bLoad) {
     if (std::isnan(Mq)) return true;
     return Refuse(loadKey, {"没有荷载", "has no load"},
@@ -259,12 +264,27 @@ bool CMemberCheck::ReadCourse(const char* key, const CSpacing& moment, const cha
   return true;
 }
 
+bool CMemberCheck::IsPossible(const char* key, std::span<const double> values) {
+  constexpr double kMost = 1e15;  // kN, kN mm: what no member is asked, and no formula overflows by
+  if (std::all_of(values.begin(), values.end(), [](double v) { return std::fabs(v) <= kMost; }))
+    return true;
+  return Refuse(key, {"太大或不是有限数", "is too great or no finite number"},
+                {"请给出绝对值不大于 1e15 的数", "give a number of at most 1e15 in magnitude"});
+}
+
 bool CMemberCheck::ReadForces(const CMemberCase& input) {
-  for (const auto& [key, value] :
-       {std::pair{"N", input.m_dN}, {"Vx", input.m_dVx}, {"Vy", input.m_dVy}}) {
-    if (std::isinf(value) || (std::isnan(value) && *key != 'N'))
-      return Refuse(key, {"不是有限数", "is no finite number"}, {"请给出数值", "give a number"});
+  const auto given = [](double value) { return std::isnan(value) ? 0 : value; };
+  for (const auto& [key, value] : {std::pair{"N", given(input.m_dN)},
+                                   {"Vx", input.m_dVx},
+                                   {"Vy", input.m_dVy},
+                                   {"Mx", input.m_Mx.m_dUniform},
+                                   {"My", input.m_My.m_dUniform},
+                                   {"Mqx", given(input.m_dMqx)},
+                                   {"Mqy", given(input.m_dMqy)}}) {
+    if (!IsPossible(key, std::span(&value, 1))) return false;
   }
+  if (!IsPossible("Mx", input.m_Mx.m_arrEach) || !IsPossible("My", input.m_My.m_arrEach))
+    return false;
   m_loads.m_dN = std::isnan(input.m_dN) ? 0 : 1000 * input.m_dN;
   m_loads.m_dVx = 1000 * input.m_dVx;
   m_loads.m_dVy = 1000 * input.m_dVy;
@@ -337,8 +357,14 @@ bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& secti
       (!positive("lengths.x", input.m_dLx) || !positive("lengths.y", input.m_dLy)))
     return false;
   const CMemberShape shape = section.m_section.m_nShape;
-  const bool bSpan = !m_loads.m_x.IsZero() && shape != CMemberShape::Tube && !IsSolid(shape);
-  if (bSpan && !positive("lengths.span", m_loads.m_dSpan)) return false;
+  const bool bBox = shape == CMemberShape::Box;
+  const bool bSpanX = !m_loads.m_x.IsZero() && shape != CMemberShape::Tube && !IsSolid(shape) &&
+                      (!bBox || section.m_section.IsStrong(CMemberAxis::X));
+  const bool bSpanY = !m_loads.m_y.IsZero() && bBox && section.m_section.IsStrong(CMemberAxis::Y);
+  m_loads.m_dSpanY = std::isnan(input.m_dSpan) ? input.m_dLx : input.m_dSpan;
+  if ((bSpanX && !positive("lengths.span", m_loads.m_dSpan)) ||
+      (bSpanY && !positive("lengths.span", m_loads.m_dSpanY)))
+    return false;
   m_loads.m_dLimit = 0;
   if (std::isnan(input.m_dLimit)) return true;
   if (!(std::isfinite(input.m_dLimit) && input.m_dLimit > 0)) {
@@ -382,6 +408,28 @@ bool NeedsTorsion(const CMemberSection& s, const CMemberSteel& steel,
   }
 }
 
+// What was left out, and what was given for nothing.
+void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) {
+  using N = CMemberNote;
+  const CMemberLoads& q = m_loads;
+  const bool bMoment = !q.m_x.IsZero() || !q.m_y.IsZero();
+  const bool bSpan =
+      (!q.m_x.IsZero() && s.m_nShape != CMemberShape::Tube && !IsSolid(s.m_nShape)) ||
+      (!q.m_y.IsZero() && s.m_nShape == CMemberShape::Box);
+  const std::pair<bool, N> notes[] = {
+      {IsAnglePair(s.m_nShape) && std::isnan(input.m_dGap), N::PairWithoutGap},
+      {(q.m_x.HasLoad() && q.m_dVy == 0) || (q.m_y.HasLoad() && q.m_dVx == 0), N::LoadWithoutShear},
+      {!std::isnan(input.m_dLz) && !NeedsTorsion(s, m_steel, q), N::UnusedLengthZ},
+      {!std::isnan(input.m_dSpan) && !bSpan, N::UnusedSpan},
+      {q.m_bSway && !(q.m_dN < 0 && bMoment), N::UnusedSway},
+      {!input.m_strLoadFlange.empty() && !q.m_x.HasLoad(), N::UnusedLoadFlange},
+      {!std::isnan(input.m_dSupports) && q.m_x.IsZero(), N::UnusedSupports},
+  };
+  for (const auto& [bApplies, note] : notes) {
+    if (bApplies) m_answer.Note(note);
+  }
+}
+
 bool CMemberCheck::Run(const CMemberCase& input) {
   CMemberRow* section = Section(input);
   return section != nullptr && Run(input, *section);
@@ -402,6 +450,7 @@ bool CMemberCheck::Run(const CMemberCase& input, CMemberRow& section) {
   }
   CheckSolidMember(section.m_section, m_steel, m_loads, m_answer);
   if (m_answer.IsRefused()) return Refuse(*m_answer.Fault());
+  NoteGiven(input, section.m_section);
   if (m_steel.m_nGrade == CSteelGrade::Q355) m_answer.Note(CMemberNote::Q355);
   if (section.HasEdges() && input.m_strEdges.empty() && m_loads.m_dN < 0)
     m_answer.Note(CMemberNote::RolledEdges);

@@ -66,10 +66,12 @@ class ORV3CAL_API CMemberCheck {
   bool ReadEdition(const CMemberCase& input);
   bool ReadSteel(const CMemberCase& input, const CMemberRow& section);
   bool ReadClasses(const CMemberCase& input, const CMemberRow& section);
+  bool IsPossible(const char* key, std::span<const double> values);
   bool ReadForces(const CMemberCase& input);
   bool ReadCourse(const char* key, const CSpacing& moment, const char* loadKey, double Mq,
                   CMomentCourse& course);
   bool ReadLengths(const CMemberCase& input, const CMemberRow& section);
+  void NoteGiven(const CMemberCase& input, const CMemberSection& s);
   bool ReadNet(const CMemberCase& input);
 
   CCodeEdition m_nDefault = CCodeEdition::Gb2017;

@@ -73,7 +73,11 @@ CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
     auto worst = candidate.m_fault ? std::nullopt : Worst(check, cases, candidate, bPass);
     if (!worst) {
       ++choice.m_nRefused;
-      if (!choice.m_fault) choice.m_fault = candidate.m_fault ? *candidate.m_fault : check.Fault();
+      auto& refused = choice.m_arrRefused;
+      if (refused.empty() ||
+          candidates[refused.back().m_nCandidate].m_strTable != candidate.m_strTable)
+        refused.push_back({i, candidate.m_fault ? *candidate.m_fault : check.Fault(), 0});
+      ++refused.back().m_nRows;
       continue;
     }
     ++choice.m_nTried;

@@ -29,12 +29,19 @@ struct CChosenMember {
   std::size_t m_nCase;  // that has it
 };
 
+// The first row of a table that could not be checked, and how many there are of it.
+struct CRefusedMember {
+  std::size_t m_nCandidate;
+  CCaseFault m_fault;
+  std::size_t m_nRows;
+};
+
 struct CMemberChoice {
   std::size_t m_nTried = 0;    // candidates that could be checked for every case
   std::size_t m_nRefused = 0;  // those that could not
   // Those that pass, lightest first, the smaller ratio first among equals.
   std::vector<CChosenMember> m_arrChosen;
-  std::optional<CCaseFault> m_fault;  // of the first one refused
+  std::vector<CRefusedMember> m_arrRefused;  // one of each table
 };
 
 ORV3CAL_API CMemberChoice ChooseMember(std::span<const CMemberCase> cases,

@@ -91,7 +91,7 @@ void CRowReader::Figures(const CRowFigures& f) {
   s.m_dWTop = f.m_dWTop;
   s.m_dWBottom = f.m_dWBottom;
   s.m_dWSide = std::min(f.m_dWLeft, f.m_dWRight);
-  r.m_dThickest = r.m_dWebThick = f.m_dThickest;
+  r.m_dThickest = r.m_dWebThick = r.m_dFlangeThick = f.m_dThickest;
 }
 
 // First moments of the flanges and the root fillets, and of the whole half.
@@ -115,9 +115,13 @@ void CRowReader::GeneralI(CMemberFlange top, CMemberFlange bottom, double h, dou
                        s.m_dSBottom + tw * s.m_dWebBottom * s.m_dWebBottom / 2),
               tw};
   if (const double printed = Cell(L"Sx(cm^3)"); printed > 0) s.m_cutY.m_dS = 1000 * printed;
-  // The flanges carry Vx, cut in their middle.
-  const auto half = [](const CMemberFlange& f) { return f.m_dThick * f.m_dWidth * f.m_dWidth / 8; };
-  s.m_cutX = {half(top) + half(bottom), top.m_dThick + bottom.m_dThick};
+  // The flanges carry Vx, each its share by b^3 t, and are cut in their middle: V S / (Iy t) with
+  // the figures of one flange, greatest in the wider.
+  const bool bTop = top.m_dWidth != bottom.m_dWidth ? top.m_dWidth > bottom.m_dWidth
+                                                    : top.m_dThick >= bottom.m_dThick;
+  const CMemberFlange& wider = bTop ? top : bottom;
+  s.m_cutX = {wider.m_dThick * wider.m_dWidth * wider.m_dWidth / 8, wider.m_dThick};
+  r.m_dFlangeThick = wider.m_dThick;
 }
 
 void CRowReader::H(double b, double h, double tw, double tf, double root) {
@@ -136,6 +140,7 @@ void CRowReader::Tee(double b, double h, double tw, double tf, double root) {
               kFilletArea * root * root * (up - tf - kFilletReach * root);
   s.m_cutY = {tw * down * down / 2, tw};
   s.m_cutX = {tf * b * b / 8, tf};
+  r.m_dFlangeThick = tf;
 }
 
 void CRowReader::Channel(double b, double h, double tw, double t, double root) {
@@ -150,6 +155,7 @@ void CRowReader::Channel(double b, double h, double tw, double t, double root) {
   if (const double printed = Cell(L"Sx(cm^3)"); printed > 0) s.m_cutY.m_dS = 1000 * printed;
   const double beyond = b - m_figures.m_dXc;
   s.m_cutX = {t * beyond * beyond, 2 * t};
+  r.m_dFlangeThick = t;
 }
 
 void CRowReader::BoxOf(double b, double h, double top, double bottom, double left, double right) {
@@ -160,6 +166,7 @@ void CRowReader::BoxOf(double b, double h, double top, double bottom, double lef
   s.m_dB0 = b - left - right;
   Web(h - top - bottom, std::min(left, right));
   r.m_dWebThick = std::max(left, right);
+  r.m_dFlangeThick = std::max(top, bottom);
   const double up = s.m_dIx / s.m_dWTop, down = h - up, both = left + right;
   s.m_dWebTop = up - top;
   s.m_dWebBottom = down - bottom;
@@ -174,7 +181,7 @@ void CRowReader::BoxOf(double b, double h, double top, double bottom, double lef
 void CRowReader::TubeOf(double d, double t) {
   s.m_nShape = CMemberShape::Tube;
   s.m_dDiameter = d;
-  s.m_dWall = r.m_dThickest = r.m_dWebThick = t;
+  s.m_dWall = r.m_dThickest = r.m_dWebThick = r.m_dFlangeThick = t;
   const double inner = d - 2 * t;
   s.m_cutY = s.m_cutX = {(d * d * d - inner * inner * inner) / 12, 2 * t};
   r.m_bTube = true;
@@ -190,7 +197,7 @@ void CRowReader::Solid(CSectionKind kind) {
     s.m_cutY = {1.5 * s.m_dIx / s.m_dA, 1};
     s.m_cutX = {1.5 * s.m_dIy / s.m_dA, 1};
   }
-  r.m_dThickest = r.m_dWebThick = std::min(s.m_dHeight, s.m_dWidth);
+  r.m_dThickest = r.m_dWebThick = r.m_dFlangeThick = std::min(s.m_dHeight, s.m_dWidth);
   Buckling(CBucklingShape::Solid, CBucklingShape::Solid);
 }
 

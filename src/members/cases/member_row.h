@@ -18,6 +18,7 @@ struct CMemberRow {
   CBucklingShape m_nFlameCut = CBucklingShape::Solid;  // the shape in the tables of classes
   CBucklingShape m_nRolled = CBucklingShape::Solid;    // with rolled or sheared edges
   double m_dThickest = 0, m_dWebThick = 0;             // mm
+  double m_dFlangeThick = 0;                           // of the flange that Vx is held by
   bool m_bTube = false;                                // strengths by the table of tubes
   bool m_bTapered = false;                             // I with tapered flanges
   double m_dRolledNumber = 0;                          // of an ordinary rolled I
