@@ -256,8 +256,8 @@ class CChecker {
 
 CExit RunMembers(const COptions& options) {
   if (!options.report.empty() || !options.project.empty())
-    Refuse({"--report：构件尚无计算书；请用 --json 或 --csv",
-            "--report: members have no report yet; right would be --json or --csv"});
+    Refuse(Say("--report：构件尚无计算书；请用 --json 或 --csv",
+               "--report: members have no report yet; right would be --json or --csv"));
   return CheckMembers({options.file, options.code, options.json, options.csv, options.sort,
                        options.Language(), options.store});
 }
