@@ -138,6 +138,12 @@ std::vector<CDataTable> TablesOf(const CString& store, const COptions& options) 
   if (names.IsEmpty())
     Refuse(
         Say("{1}: 库中没有可以导出的表", "{1}: the store has no table to export", {ToUtf8(store)}));
+  for (int i = 0; i < names.GetSize(); ++i) {
+    if (std::find(names.begin(), names.begin() + i, names[i]) == names.begin() + i) continue;
+    Refuse(Say("TABLE: “{1}”给出了两次；每个表只能给一次",
+               "TABLE: \"{1}\" is given twice; right would be each table once",
+               {ToUtf8(names[i])}));
+  }
   std::vector<CDataTable> tables;
   for (const CString& name : names) tables.push_back(Live(StoreTable(store, name)));
   return tables;
@@ -198,6 +204,11 @@ void RunExport(const COptions& options) {
                "--to: \"{1}\"; right would be a file named .KDB, .csv, .json or .xlsx",
                {options.to}));
   }
+  if (options.guard && !HasExtension(options.to, ".csv")) {
+    Refuse(Say("--guard：只用于 .csv 文件；请改用 .csv 或不写此选项",
+               "--guard: is for .csv files alone; right would be such a file, or leave the option "
+               "out"));
+  }
   SetBusyWait(std::chrono::seconds{5});
   const CString store = StoreToRead(options.store);
   RefuseOwnStore(store, options.to);
@@ -238,9 +249,10 @@ void AddStoreExportCommand(CLI::App& store) {
   CLI::App* command =
       store.add_subcommand("export", Say("把表写入 .KDB、.csv、.json 或 .xlsx 文件",
                                          "Write tables to a .KDB, .csv, .json or .xlsx file"));
-  command->add_option(
-      "TABLE", options->tables,
-      Say("表名；不给时为库中全部", "The tables; all of the store if none is named"));
+  command
+      ->add_option("TABLE", options->tables,
+                   Say("表名；不给时为库中全部", "The tables; all of the store if none is named"))
+      ->allow_extra_args(false);  // which would take "[a]" for a list
   command
       ->add_option("--to", options->to,
                    Say("文件，由文件名决定格式", "The file, whose name tells the form"))
