@@ -249,10 +249,9 @@ void AddStoreExportCommand(CLI::App& store) {
   CLI::App* command =
       store.add_subcommand("export", Say("把表写入 .KDB、.csv、.json 或 .xlsx 文件",
                                          "Write tables to a .KDB, .csv, .json or .xlsx file"));
-  command
-      ->add_option("TABLE", options->tables,
-                   Say("表名；不给时为库中全部", "The tables; all of the store if none is named"))
-      ->allow_extra_args(false);  // which would take "[a]" for a list
+  command->add_option(
+      "TABLE", options->tables,
+      Say("表名；不给时为库中全部", "The tables; all of the store if none is named"));
   command
       ->add_option("--to", options->to,
                    Say("文件，由文件名决定格式", "The file, whose name tells the form"))
