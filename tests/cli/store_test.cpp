@@ -221,6 +221,9 @@ TEST_F(StoreCommand, ImportsCsvAndTellsWhatBecameOfEachRow) {
   EXPECT_EQ(Import(Quoted(name), 2)[0]["unchanged"], 2);
   EXPECT_TRUE(FileBytes(m_store) == bytes);
 
+  Put(name, "No.,b(mm),h(mm),tf(mm),tw(mm)\nT,300,500,12,10\nT,300,600,12,10\n");
+  ExpectHas(Import("--overwrite " + Quoted(name), 2)[0]["refused"][0]["why"], {"an earlier line"});
+  ASSERT_EQ(Run("delete " + kH + " T").m_nExit, 0);
   Put(name, "No.,b(mm),h(mm),tf(mm),tw(mm),A(mm^2)\nA,300,500,12,10,1\n");
   EXPECT_EQ(Import(Quoted(name), 2)[0]["refused"][0]["no"], "A");
   EXPECT_EQ(Import("--overwrite " + Quoted(name), 0)[0]["replaced"], 1);
