@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/import/section_rows.h"
 #include "catalogue/rolled/angle_capacity.h"
 #include "commands.h"
 #include "csv_output.h"
@@ -121,7 +122,8 @@ CDataTable Selected(const CDataTable& all, const COptions& options) {
     if (!search.m_bEverything) RemoveUnknown(table, search, options.wildcard);
   }
   if (!options.sort.empty()) Sort(table, options.sort);
-  if (!options.json) ShowFigures(table);
+  CDataTableTitle known;  // elsewhere a large number is one, and no mark of a section's figures
+  if (!options.json && KnownHeading(all.GetTableName(), known)) ShowFigures(table);
   if (options.columns.empty()) return table;
   CString signs;
   std::vector<std::string> shown = options.columns;

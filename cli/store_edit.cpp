@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <memory>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "catalogue/import/section_rows.h"
@@ -39,8 +41,9 @@ constexpr long kPairs = TABLE_ROLLED | TABLE_FAMILY_ANGLE_PAIR | TABLE_FAMILY_CH
 
 // --- Cells ---------------------------------------------------------------------------------------
 
-// Puts SIGN=VALUE into the row. Signs hold no "=", so that the first one parts them.
-void SetCell(const CDataTable& table, const std::string& set, CDataItem& row) {
+// Puts SIGN=VALUE into the row and returns its column. Signs hold no "=", so that the first one
+// parts them.
+int SetCell(const CDataTable& table, const std::string& set, CDataItem& row) {
   const std::size_t equals = set.find('=');
   if (equals == std::string::npos) {
     Refuse(Say("--set: “{1}”中没有“=”；应为 SIGN=VALUE",
@@ -52,15 +55,52 @@ void SetCell(const CDataTable& table, const std::string& set, CDataItem& row) {
                "--set: \"{1}\" is computed from the columns before it", {set.substr(0, equals)}));
   }
   row[column].m_strValue = FromUtf8(set.substr(equals + 1)).Trim(L" \t");
+  return column;
 }
 
-void SetCells(const CDataTable& table, const COptions& options, CDataItem& row) {
-  for (const std::string& set : options.set) SetCell(table, set, row);
+// The columns that --set names.
+std::set<int> SetCells(const CDataTable& table, const COptions& options, CDataItem& row) {
+  std::set<int> columns;
+  for (const std::string& set : options.set) {
+    if (columns.insert(SetCell(table, set, row)).second) continue;
+    Refuse(Say("--set: “{1}”给出了两次；每个单元格只能给一次",
+               "--set: \"{1}\" is given twice; right would be one value for each cell",
+               {set.substr(0, set.find('='))}));
+  }
+  return columns;
+}
+
+void Complete(const COptions& options, CDataItem& row) {
   const CString why = CompleteRow(row);
   if (!why.IsEmpty()) Refuse(options.table + ": " + ToUtf8(why));
 }
 
+// Completes a row of which these columns were changed. A text that an import has brought in need
+// not be one that can be typed, and stays; nothing is computed from it.
+void CompleteChanged(const COptions& options, const std::set<int>& changed, CDataItem& row) {
+  CDataTableTitle known;
+  const bool isSection = KnownHeading(row.m_strTableName, known);
+  CDataItem complete = row;
+  std::vector<int> kept;
+  for (int i = 0; i < row.GetItemLength(); ++i) {
+    const bool text = ValueClassOf(std::as_const(row)[i].m_nType) == CValueClass::Text;
+    if (!text || changed.contains(i) || (isSection && i > 0)) continue;
+    kept.push_back(i);
+    complete[i].m_strValue = L"x";
+  }
+  Complete(options, complete);
+  for (const int i : kept) complete[i].m_strValue = std::as_const(row)[i].m_strValue;
+  row = complete;
+}
+
 // --- The store -----------------------------------------------------------------------------------
+
+// The column that rows are known by: the first of the key, without one the first of all.
+int KeyColumn(const CDataTable& table) {
+  CArray<int, int> keys;
+  table.m_Title.GetDataTableKeyIndex(keys);
+  return keys.IsEmpty() ? 0 : keys[0];
+}
 
 // What a table says instead of taking a row becomes the command's error.
 class CRefusalCatcher {
@@ -95,9 +135,9 @@ void Save(CDataTable& table, CStoreToWrite& store) {
   store.Commit();
 }
 
-void Tell(const COptions& options, const CDataItem& row, CTextLiteral done,
+void Tell(const COptions& options, const CDataTable& table, const CDataItem& row, CTextLiteral done,
           const std::vector<std::string>& notes = {}) {
-  const std::string no = ToUtf8(row.m_arrCell.GetAt(0).m_strValue);
+  const std::string no = ToUtf8(row[KeyColumn(table)].m_strValue);
   const std::string told = done.In(MessageLanguage());
   NoteSaved(options.table + " \"" + no + "\" " + told);
   if (!options.json) {
@@ -128,14 +168,34 @@ CDataTable TableToAddTo(const CString& store, const CString& name) {
   return StoreTable(store, name);  // which says why not
 }
 
-// The position of a live row that may be changed.
-int RowToChange(const CDataTable& table, const COptions& options) {
-  const int position = table.IsHaveValue(0, FromUtf8(options.no), -1);
+// The position of the live row that NO names by its key column.
+int PositionOf(const CDataTable& table, const COptions& options) {
+  const int column = KeyColumn(table);
+  const CString no = FromUtf8(options.no);
+  int position = -1;
+  std::string rows;
+  for (int i = 0; i < table.GetTableRowNum(); ++i) {
+    const CDataItem& row = table[i];
+    if (IsDeleted(row.m_nModifyType) || row[column].m_strValue != no) continue;
+    rows += (rows.empty() ? "" : ", ") + std::to_string(i + 1);
+    if (position >= 0) position = table.GetTableRowNum();  // more than one
+    if (position < 0) position = i;
+  }
   if (position < 0) {
     Refuse(Say("NO: 表 {1} 中没有“{2}”；应为 orv3cal rows 列出的型号",
                "NO: table {1} has no \"{2}\"; right would be a number that orv3cal rows lists",
                {options.table, options.no}));
   }
+  if (position < table.GetTableRowNum()) return position;
+  Refuse(Say("NO: 表 {1} 中第 {3} 行的“{4}”都是“{2}”；应为只有一行具有的值",
+             "NO: table {1} has \"{2}\" as {4} in rows {3}; right would be a value that one row "
+             "alone has",
+             {options.table, options.no, rows, ToUtf8(table.m_Title[column].m_strSign)}));
+}
+
+// The position of a live row that may be changed.
+int RowToChange(const CDataTable& table, const COptions& options) {
+  const int position = PositionOf(table, options);
   if (IsProtected(table[position].m_nModifyType)) {
     Refuse(Say("{1}“{2}”：本数据记录不能删除和编辑!",
                "{1} \"{2}\": is a row of the catalogue, which nobody changes; right would be a row "
@@ -143,6 +203,12 @@ int RowToChange(const CDataTable& table, const COptions& options) {
                {options.table, options.no}));
   }
   return position;
+}
+
+// The row at a position, under a stable index that leads to it: files may hold an index twice.
+CDataItem RowAt(CDataTable& table, int position) {
+  if (table.GetTableIndex(std::as_const(table)[position].m_nIndex) != position) AlignIndices(table);
+  return std::as_const(table)[position];
 }
 
 // --- Commands ------------------------------------------------------------------------------------
@@ -157,30 +223,31 @@ void RunAdd(const COptions& options) {
   AlignIndices(table);
   CDataItem row = EmptyRow(name, table.m_Title);
   SetCells(table, options, row);
+  Complete(options, row);
   const CRefusalCatcher caught;
   if (!table.AddTableItem(row, 1)) caught.Throw(row);
   Save(table, store);
-  Tell(options, row, {"已增加", "added"}, RowDoubtNotes(row));
+  Tell(options, table, row, {"已增加", "added"}, RowDoubtNotes(row));
 }
 
 void RunEdit(const COptions& options) {
   CStoreToWrite store(options.store, true);
   CDataTable table = StoreTable(store.Path(), FromUtf8(options.table));
-  CDataItem row = std::as_const(table)[RowToChange(table, options)];
-  SetCells(table, options, row);
+  CDataItem row = RowAt(table, RowToChange(table, options));
+  CompleteChanged(options, SetCells(table, options, row), row);
   const CRefusalCatcher caught;
   if (!table.ModifyTableItem(row.m_nIndex, row)) caught.Throw(row);
   Save(table, store);
-  Tell(options, row, {"已修改", "changed"}, RowDoubtNotes(row));
+  Tell(options, table, row, {"已修改", "changed"}, RowDoubtNotes(row));
 }
 
 void RunDelete(const COptions& options) {
   CStoreToWrite store(options.store, true);
   CDataTable table = StoreTable(store.Path(), FromUtf8(options.table));
-  const CDataItem row = std::as_const(table)[RowToChange(table, options)];
+  const CDataItem row = RowAt(table, RowToChange(table, options));
   table.DeleteTableItem(row.m_nIndex);
   Save(table, store);
-  Tell(options, row, {"已删除", "deleted"});
+  Tell(options, table, row, {"已删除", "deleted"});
 }
 
 CLI::App* Add(CLI::App& store, const char* name, const std::string& what, bool takesNo,

@@ -138,6 +138,12 @@ std::vector<CDataTable> TablesOf(const CString& store, const COptions& options) 
   if (names.IsEmpty())
     Refuse(
         Say("{1}: 库中没有可以导出的表", "{1}: the store has no table to export", {ToUtf8(store)}));
+  for (int i = 0; i < names.GetSize(); ++i) {
+    if (std::find(names.begin(), names.begin() + i, names[i]) == names.begin() + i) continue;
+    Refuse(Say("TABLE: “{1}”给出了两次；每个表只能给一次",
+               "TABLE: \"{1}\" is given twice; right would be each table once",
+               {ToUtf8(names[i])}));
+  }
   std::vector<CDataTable> tables;
   for (const CString& name : names) tables.push_back(Live(StoreTable(store, name)));
   return tables;
@@ -197,6 +203,11 @@ void RunExport(const COptions& options) {
     Refuse(Say("--to: “{1}”；文件名应以 .KDB、.csv、.json 或 .xlsx 结尾",
                "--to: \"{1}\"; right would be a file named .KDB, .csv, .json or .xlsx",
                {options.to}));
+  }
+  if (options.guard && !HasExtension(options.to, ".csv")) {
+    Refuse(Say("--guard：只用于 .csv 文件；请改用 .csv 或不写此选项",
+               "--guard: is for .csv files alone; right would be such a file, or leave the option "
+               "out"));
   }
   SetBusyWait(std::chrono::seconds{5});
   const CString store = StoreToRead(options.store);

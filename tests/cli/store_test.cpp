@@ -154,6 +154,37 @@ TEST_F(StoreCommand, ANewRowTakesADeletedRowsPlaceAndNoOther) {
   EXPECT_EQ(JsonOf("store info \"" + m_store + "\"")["tables"][0]["deleted"], 0);
 }
 
+// Files of others may hold a stable index twice, and a key that is not the first column.
+TEST_F(StoreCommand, ChangesTheRowThatTheKeyNames) {
+  {
+    CDataTable table;
+    table.SetTableName(L"我的");
+    table.AddTableCol(L"注", L"note", CDataTypeStruct::KVBT_STRING, 0);
+    table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
+    for (const wchar_t* row : {L"B,A", L"A,B", L"x,C", L"x,D"})
+      ASSERT_EQ(table.AddTableItem(row, 1), 1);
+    for (int i = 0; i < 4; ++i) table[i].m_nIndex = 0;
+    table[0][0].m_strValue = L"p,q";
+    ASSERT_EQ(table.WriteTable(orv3::FromUtf8(m_store), 0, 0), 1);
+  }
+  ASSERT_EQ(Run("edit 我的 C --set note=y").m_nExit, 0);
+  ASSERT_EQ(Run("delete 我的 B").m_nExit, 0);
+  ASSERT_EQ(Run("edit 我的 A --set No.=E").m_nExit, 0);  // beside a text that cannot be typed
+  const Json rows = Rows("我的")["rows"];
+  ASSERT_EQ(rows.size(), 3U);
+  EXPECT_EQ(rows[0]["cells"], Json::array({"p,q", "E"}));
+  EXPECT_EQ(rows[1]["cells"], Json::array({"y", "C"}));
+  EXPECT_EQ(rows[2]["cells"], Json::array({"x", "D"}));
+
+  Put(L"own.csv", "a:text,b:double\nx,1\nx,1e300\n");  // without a key
+  ASSERT_EQ(Run("import --table 无 " + Quoted(L"own.csv")).m_nExit, 0);
+  ExpectHas(RunProgram("rows 无 --csv --store \"" + m_store + "\"").m_strOut, {"x,1e300"});
+  ExpectRefused({{On("delete 无 x"), {"in rows 1, 2"}},
+                 {On("edit 我的 C --set note=a --set note=b"), {"\"note\" is given twice"}},
+                 {On("export 我的 我的 --to " + Quoted(L"o.json")), {"is given twice"}},
+                 {On("export --guard --to " + Quoted(L"o.json")), {"for .csv files alone"}}});
+}
+
 TEST_F(StoreCommand, RefusesAHundredthTableAndARecordThatDoesNotFit) {
   {
     orv3::CStoreBatch batch(orv3::FromUtf8(m_store));
@@ -190,6 +221,9 @@ TEST_F(StoreCommand, ImportsCsvAndTellsWhatBecameOfEachRow) {
   EXPECT_EQ(Import(Quoted(name), 2)[0]["unchanged"], 2);
   EXPECT_TRUE(FileBytes(m_store) == bytes);
 
+  Put(name, "No.,b(mm),h(mm),tf(mm),tw(mm)\nT,300,500,12,10\nT,300,600,12,10\n");
+  ExpectHas(Import("--overwrite " + Quoted(name), 2)[0]["refused"][0]["why"], {"an earlier line"});
+  ASSERT_EQ(Run("delete " + kH + " T").m_nExit, 0);
   Put(name, "No.,b(mm),h(mm),tf(mm),tw(mm),A(mm^2)\nA,300,500,12,10,1\n");
   EXPECT_EQ(Import(Quoted(name), 2)[0]["refused"][0]["no"], "A");
   EXPECT_EQ(Import("--overwrite " + Quoted(name), 0)[0]["replaced"], 1);

@@ -124,6 +124,14 @@ TEST_F(StoreCheck, EachFaultOfAFileIsNamedByItsPlace) {
       {"row fields", with(kFirst + 291, golden::Field("1,,,0", 91)), kFirst + 291},
       {"row text", with(kFirst + 208, golden::Fake("\xFF")), kFirst + 200},
       {"no number", with(kFirst + 200, golden::Field("0,,,0,,,a,,,1.5x", 91)), kFirst + 200},
+      {"index", with(kFirst + 200, golden::Field("-3,,,0,,,a,,,1", 91)), kFirst + 200},
+      {"unsaved state", with(kFirst + 200, golden::Field("0,,,2,,,a,,,1", 91)), kFirst + 200},
+      {"long value",
+       with(kFirst + 200, golden::Field("0,,,0,,," + std::string(31, 'a') + ",,,1", 91)),
+       kFirst + 200},
+      {"carriage return", with(kFirst + 200, golden::Field("0,,,0,,,a\r,,,1", 91)), kFirst + 200},
+      {"cut", with(kFirst + 200, golden::Field("0,,,0,,," + std::string(83, 'a'), 91)),
+       kFirst + 200, 3},
       {"same key",
        with(kFirst + 200, golden::Field("0,,,0,,,a,,,1", 91) + golden::Field("1,,,0,,,a,,,2", 91)),
        kFirst + 291},
@@ -136,6 +144,23 @@ TEST_F(StoreCheck, EachFaultOfAFileIsNamedByItsPlace) {
     ASSERT_EQ(faults.size(), c.faults);
     EXPECT_EQ(faults[0].m_nOffset, c.offset) << faults[0].m_strWhat;
   }
+}
+
+TEST_F(StoreCheck, AFullRowIsWholeAndCanBeDeleted) {
+  CDataTable table = SectionTable(L"A");
+  table.m_Title[1].m_nType = CDataTypeStruct::KVBT_STRING;
+  AddRow(table, CString(L'型', 30), CString(L'高', 10));  // 8 + 60 + 3 + 20 = 91 bytes
+  std::vector<orv3::CStoreFault> faults;
+  std::vector<orv3::CStoreFault> notes;
+  ASSERT_EQ(Save(table), 1);
+  EXPECT_TRUE(orv3::VerifyStore(m_path, faults, &notes));
+  EXPECT_TRUE(faults.empty());
+  EXPECT_EQ(notes.size(), 1U);
+  table.DeleteTableItem(0);
+  EXPECT_TRUE(orv3::SaveFaults(table, m_path).empty());
+  ASSERT_EQ(Save(table), 1);
+  EXPECT_TRUE(orv3::VerifyStore(m_path, faults, &notes));
+  EXPECT_TRUE(faults.empty() && notes.empty());
 }
 
 TEST_F(StoreCheck, WhatAForcedSaveOfFewerRowsLeavesIsNoted) {

@@ -30,6 +30,8 @@ class CCheck {
 
   void Row(int position) {
     const CDataItem& row = m_table.m_arrItem[position];
+    // Nobody reads what is cut of a deleted row: one that fills its slot can be deleted too.
+    if (IsDeleted(row.m_nModifyType)) return;
     for (int i = 0; i < row.GetItemLength(); ++i) {
       const bool last = i + 1 == row.GetItemLength();
       Text(position, i, {"值", "value"}, row[i].m_strValue, kMaxStoredValue, last);
@@ -39,7 +41,7 @@ class CCheck {
           Say(L"有 {1} 个值，文件只能放 {2} 个", L"{1} values, but the file has room for {2}",
               {FormatInt(row.GetItemLength()), FormatInt(m_table.GetTableColNum())}));
     }
-    Size(position, RowForm(row, row.m_nModifyType), m_table.GetTableItemLen());
+    Size(position, RowForm(row, StateOnFile(row.m_nModifyType)), m_table.GetTableItemLen());
   }
 
   std::vector<CSaveFault> m_arrFault;
@@ -78,6 +80,10 @@ class CCheck {
     if (text.find(L'\n') != text.npos) {
       Add(row, column,
           Say(L"{1}含有换行，会在该处结束", L"{1} has a line feed, which would end it", {part}));
+    }
+    if (text.find(L'\r') != text.npos) {
+      Add(row, column,
+          Say(L"{1}含有回车，应删去", L"{1} has a carriage return; take it out", {part}));
     }
     if (text.find(L'\0') != text.npos) {
       Add(row, column,

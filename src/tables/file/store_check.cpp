@@ -130,10 +130,12 @@ class CVerify {
       Add(name, at, Needs(info.m_nRowNum, BlocksFor(info.m_nRowNum), blocks));
     }
     if (!Blocks(info, at) || BlocksOf(info, m_directory.Offset()).empty()) return;
-    const std::size_t faults = m_faults.size();
+    const std::ptrdiff_t faults = std::ssize(m_faults);
     Heading(info);
     Rows(info);
-    if (m_faults.size() == faults) Values(info);
+    const bool sound = std::all_of(m_faults.begin() + faults, m_faults.end(),
+                                   [](const CStoreFault& fault) { return fault.m_bValue; });
+    if (sound) Values(info);
     LeftOver(info, at);
   }
 
@@ -210,25 +212,68 @@ class CVerify {
   void Rows(const CDataFileInfo& info) {
     std::vector<std::string> slots;
     if (!ReadSlots(m_file, info, slots)) return;
-    const auto wanted = static_cast<std::size_t>(ColumnsOf(info.m_nItemLen)) + 2;
+    std::set<int> indices;
+    int shared = 0;
+    int first = 0;
     for (int i = 0; i < info.m_nRowNum; ++i) {
       const std::string& slot = slots[static_cast<std::size_t>(i)];
       const CString form = DecodeText(slot);
-      const std::size_t fields = SplitFields(form).size();
-      const std::int64_t at = SlotOffset(info, i);
+      const std::vector<std::wstring_view> fields = SplitFields(form);
       const CString row = Say(L"第 {1} 行", L"row {1}", {FormatInt(i + 1)});
-      if (std::ssize(slot) == info.m_nItemLen) {
-        Add(info.m_strTableName, at,
-            Say(L"{1}占满其槽，可能被截断", L"{1} fills its slot and may be cut", {row}));
-      }
-      if (fields != wanted) {
-        Add(info.m_strTableName, at,
-            Say(L"{1}有 {2} 个字段，应为 {3} 个", L"{1} has {2} fields instead of {3}",
-                {row, FormatInt(static_cast<int>(fields)), FormatInt(static_cast<int>(wanted))}));
-      }
-      Text(info.m_strTableName, at, row, form);
-      State(info.m_strTableName, at, row, form);
+      Slot(info, i, row, slot, fields);
+      Text(info.m_strTableName, SlotOffset(info, i), row, form);
+      if (fields.size() < 2) continue;
+      State(info, i, row, fields);
+      if (!Index(info, i, row, fields) || indices.insert(ToInt(fields[0])).second) continue;
+      if (shared++ == 0) first = i;
     }
+    if (shared == 0) return;
+    Note(info.m_strTableName, SlotOffset(info, first),
+         Say(L"固定序号与前面的行相同的有 {1} 行，其中第一个是第 {2} 行",
+             L"stable indices that an earlier row has: {1}, the first in row {2}",
+             {FormatInt(shared), FormatInt(first + 1)}));
+  }
+
+  // Whether a slot has all fields of its row. Nobody reads what is cut of a deleted one.
+  void Slot(const CDataFileInfo& info, int position, const CString& row, const std::string& slot,
+            const std::vector<std::wstring_view>& fields) {
+    const auto wanted = static_cast<std::size_t>(ColumnsOf(info.m_nItemLen)) + 2;
+    const std::int64_t at = SlotOffset(info, position);
+    const bool full = std::ssize(slot) == info.m_nItemLen;
+    const bool deleted = fields.size() > 1 && IsDeleted(ToInt(fields[1]));
+    if (full && deleted && fields.size() <= wanted) return;
+    const bool half = EncodeText(DecodeText(slot)).size() != slot.size();  // of a character
+    if (full && (half || fields.size() < wanted)) {
+      Add(info.m_strTableName, at,
+          Say(L"{1}占满其槽，已被截断", L"{1} fills its slot and may be cut", {row}));
+    } else if (full) {
+      Note(info.m_strTableName, at,
+           Say(L"{1}占满其槽；各值齐全", L"{1} fills its slot with all its values", {row}));
+    }
+    if (fields.size() != wanted) {
+      Add(info.m_strTableName, at,
+          Say(L"{1}有 {2} 个字段，应为 {3} 个", L"{1} has {2} fields instead of {3}",
+              {row, FormatInt(std::ssize(fields)), FormatInt(static_cast<int>(wanted))}));
+    }
+    for (std::size_t i = 2; !deleted && i < fields.size(); ++i) {
+      if (std::ssize(fields[i]) <= kMaxStoredValue) continue;
+      Add(info.m_strTableName, at,
+          Say(L"{1}：第 {2} 个值有 {3} 个字符，只读取前 30 个",
+              L"{1}: value {2} has {3} characters, of which 30 are read",
+              {row, FormatInt(static_cast<int>(i) - 1), FormatInt(std::ssize(fields[i]))}));
+    }
+  }
+
+  // Whether a row's stable index is one.
+  bool Index(const CDataFileInfo& info, int position, const CString& row,
+             const std::vector<std::wstring_view>& fields) {
+    const int index = ToInt(fields[0]);
+    if (index >= 0 && FormatInt(index) == CString(fields[0])) return true;
+    Value(info, position,
+          Say(L"{1}：固定序号“{2}”不是 0 或正整数",
+              L"{1}: the stable index \"{2}\" is no whole number from 0 on",
+              {row, CString(fields[0])}));
+    return false;
   }
 
   // What sound rows say. Deleted ones are read by nobody.
@@ -242,7 +287,8 @@ class CVerify {
     }
     for (const std::string& slot : slots) {
       CDataItem row;
-      if (!RowOf(DecodeText(slot), table.m_Title, false, row)) return;
+      const bool full = std::ssize(slot) == info.m_nItemLen;
+      if (!RowOf(DecodeText(slot), table.m_Title, full, row)) return;
       row.m_nIndex = table.m_arrItem.GetSize();
       table.m_arrItem.Add(row);
     }
@@ -255,6 +301,12 @@ class CVerify {
     const CDataItem& row = table[position];
     const CString place = Say(L"第 {1} 行", L"row {1}, ", {FormatInt(position + 1)});
     for (int i = 0; i < row.GetItemLength(); ++i) {
+      if (row[i].m_strValue.Find(L'\r') >= 0) {
+        Value(
+            info, position,
+            place + Say(L"列“{1}”：值含有回车", L"column \"{1}\": the value has a carriage return",
+                        {row.GetCellSign(i)}));
+      }
       if (Fits(row[i])) continue;
       Value(info, position, place + MisfitText(row[i]).In(MessageLanguage()));
     }
@@ -278,15 +330,17 @@ class CVerify {
     return text;
   }
 
-  // The states that a save writes, and those of rows that were never marked as saved.
-  void State(const CString& table, std::int64_t at, const CString& row, const CString& form) {
-    const std::vector<std::wstring_view> fields = SplitFields(form);
-    if (fields.size() < 2) return;
+  // A save writes 0, 4 and -1. The others that the library knows are of rows never marked as saved,
+  // which can be read.
+  void State(const CDataFileInfo& info, int position, const CString& row,
+             const std::vector<std::wstring_view>& fields) {
     const int state = ToInt(fields[1]);
-    if (FormatInt(state) == CString(fields[1]) && state >= -2 && state <= 4) return;
-    Add(table, at,
-        Say(L"{1}：状态“{2}”不是 -2 至 4", L"{1}: the state \"{2}\" is not -2 to 4",
-            {row, CString(fields[1])}));
+    const bool known = FormatInt(state) == CString(fields[1]) && state >= -2 && state <= 4;
+    if (known && StateOnFile(state) == state) return;
+    const CString what =
+        Say(L"{1}：状态“{2}”不是 0、4 或 -1", L"{1}: the state \"{2}\" is not 0, 4 or -1",
+            {row, CString(fields[1])});
+    m_faults.push_back({info.m_strTableName, SlotOffset(info, position), what, known});
   }
 
   // What a save of fewer rows leaves behind, and what is left of rows whose count was lost.
