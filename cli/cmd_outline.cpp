@@ -88,10 +88,13 @@ CAnswer Solve(const COptions& options) {
   const CSectionSolver solver(answer.loops);
   answer.exact = solver.Properties();
   if (std::isnan(answer.exact.It)) {
-    Refuse(options.file + ": " +
-           Say("无法求解这个轮廓",
-               "this outline is beyond the solver; right would be one with "
-               "fewer or less slender edges"));
+    Refuse(
+        options.file + ": " +
+        Say("无法求解这个轮廓：圆弧旁的壁厚远小于圆弧半径，或有小于外形尺寸 10⁻⁸ 的边、壁或间隙；"
+            "请去掉这些细节",
+            "no figures for this outline, a wall beside an arc is far thinner than its radius, "
+            "or an edge, wall or gap is below 1e-8 of the outline's size; right would be one "
+            "without them"));
   }
   if (!options.stress.empty()) answer.stress = solver.Stresses(answer.forces);
   return answer;
@@ -109,9 +112,10 @@ struct CStressRow {
 constexpr CStressRow kStresses[] = {
     {"sigma", "最大正应力", "greatest normal stress", &CGreatestStress::m_pSigma,
      &CBoundaryStress::sigma},
-    {"tau", "最大剪应力", "greatest shear stress", &CGreatestStress::m_pTau, &CBoundaryStress::tau},
-    {"mises", "最大折算应力", "greatest equivalent stress (von Mises)", &CGreatestStress::m_pMises,
-     &CBoundaryStress::mises},
+    {"tau", "轮廓上最大剪应力", "greatest shear stress on the outline", &CGreatestStress::m_pTau,
+     &CBoundaryStress::tau},
+    {"mises", "轮廓上最大折算应力", "greatest equivalent stress (von Mises) on the outline",
+     &CGreatestStress::m_pMises, &CBoundaryStress::mises},
 };
 
 CJson StressJson(const CAnswer& answer) {
@@ -164,8 +168,8 @@ void PrintOutlineJson(const CAnswer& answer, bool stresses) {
                 {"loops", answer.loops.size()},
                 {"holes", answer.Holes()},
                 {"points", answer.Points()},
-                {"origin", {JsonNumber(answer.corner.x), JsonNumber(answer.corner.y)}},
-                {"exact", ExactJson(answer.exact)}};
+                {"origin", {JsonNumber(answer.corner.x), JsonNumber(answer.corner.y)}}};
+  AddExactJson(json, answer.exact);
   if (stresses) json["stress"] = StressJson(answer);
   PrintJson(json);
 }
@@ -199,6 +203,7 @@ void RunOutline(const COptions& options) {
                                 MessageLanguage()};
     WriteFile(options.svg, DrawingSvg(ExactPictureDrawing(picture), FromUtf8(options.file)));
   }
+  if (options.json || options.csv) WarnInaccurate(options.file, answer.exact);
   if (options.json) return PrintOutlineJson(answer, !options.stress.empty());
   if (options.csv) return PrintOutlineCsv(answer);
   PrintOutline(answer, options);

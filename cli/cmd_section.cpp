@@ -122,14 +122,15 @@ CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const 
   for (const CSectionProperty& property : SectionProperties().subspan(2)) {
     properties[property.m_szKey] = JsonNumber(PropertyFigure(record, property));
   }
-  return {{"style", style.m_nStyle},
-          {"table", ToUtf8(style.TableName())},
-          {"name", name},
-          {"sizes", sizes},
-          {"base", {JsonNumber(record.m_dX), JsonNumber(record.m_dY)}},
-          {"properties", properties},
-          {"geometry", FiguresJson(RowFigures(ExactRow(record)))},
-          {"exact", ExactJson(ExactOf(record))}};
+  CJson json = {{"style", style.m_nStyle},
+                {"table", ToUtf8(style.TableName())},
+                {"name", name},
+                {"sizes", sizes},
+                {"base", {JsonNumber(record.m_dX), JsonNumber(record.m_dY)}},
+                {"properties", properties},
+                {"geometry", FiguresJson(RowFigures(ExactRow(record)))}};
+  AddExactJson(json, ExactOf(record));
+  return json;
 }
 
 std::string Unit(int power) {

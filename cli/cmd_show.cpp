@@ -84,7 +84,7 @@ void RunShow(const COptions& options, bool spaced) {
   const CExactProperties exact = ExactProperties(row);
   if (options.json) {
     CJson json = RowJson(row, figures);
-    json["exact"] = ExactJson(exact);
+    AddExactJson(json, exact);
     PrintJson(json);
   } else {
     PrintRow(row, figures);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "catalogue/exact/row_exact.h"
+#include "exact_view.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "outlines/exact_keys.h"
@@ -25,6 +26,7 @@ void AddColumns(CDataTable& table, const CKeys& keys) {
   for (int i = 0; i < table.GetTableRowNum(); ++i) {
     CDataItem& row = table.m_arrItem.Own(i);
     const CExactProperties exact = ExactProperties(std::as_const(row));
+    WarnInaccurate(ToUtf8(row.m_strTableName) + " " + ToUtf8(row[0].m_strValue), exact);
     for (const CExactKey* key : keys) {
       const double value = exact.*key->m_pField;
       row.m_arrCell.Add(

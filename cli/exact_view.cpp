@@ -1,13 +1,32 @@
 #include "exact_view.h"
 
 #include <cmath>
+#include <cstdio>
 
 #include "framework/language.h"
+#include "framework/utf8.h"
 #include "outlines/exact_keys.h"
 #include "text_table.h"
 
 namespace orv3::cli {
 namespace {
+
+std::string InaccurateNote() {
+  return Say("求解未达到精度要求：It、Iw、剪心、受剪面积和 β 为所达到的值",
+             "The solver's limits of error were not reached: It, Iw, shear centre, shear areas "
+             "and β are what was reached");
+}
+
+// The solver's own estimate of how far its figures may be off.
+std::string ErrorsLine(const CExactErrors& e) {
+  const auto percent = [](double part) { return NumberText(std::round(part * 1e6) / 1e4) + " %"; };
+  if (std::isnan(e.Iw)) return Say("误差估计：It {1}", "Estimated errors: It {1}", {percent(e.It)});
+  return Say(
+      "误差估计：It {1}，Iw {2}，受剪面积 {3}，剪心 {4} mm，β {5} mm",
+      "Estimated errors: It {1}, Iw {2}, shear areas {3}, shear centre {4} mm, β {5} mm",
+      {percent(e.It), percent(e.Iw), percent(e.As), NumberText(std::round(e.center * 1e6) / 1e6),
+       NumberText(std::round(e.center * 2e6) / 1e6)});
+}
 
 // Why figures are missing, or less than they are elsewhere.
 std::vector<std::string> ExactNotes(const CExactProperties& exact) {
@@ -15,17 +34,15 @@ std::vector<std::string> ExactNotes(const CExactProperties& exact) {
     return {Say("-：没有轮廓，或板件重叠、仅在一线相接，轮廓不能确定",
                 "-: there is no outline, or its plates overlap or meet in an edge without width")};
   }
+  std::vector<std::string> notes{ErrorsLine(exact.m_error)};
+  if (!exact.m_bAccurate) notes.push_back(InaccurateNote());
   if (!exact.m_bJoined) {
-    return {Say("各部分沿长度方向不相连：It 为各部分之和，-：无此量",
-                "The parts are not joined along their length: It is the sum of theirs, -: there is "
-                "no such figure")};
+    notes.push_back(Say(
+        "各部分沿长度方向不相连：It 为各部分之和，-：无此量",
+        "The parts are not joined along their length: It is the sum of theirs, -: there is no such "
+        "figure"));
   }
-  if (!exact.m_bAccurate) {
-    return {Say("求解未达到精度要求：It、Iw、剪心、受剪面积和 β 为所达到的值",
-                "The solver's limits of error were not reached: It, Iw, shear centre, shear areas "
-                "and β are what was reached")};
-  }
-  return {};
+  return notes;
 }
 
 // Figures that rounding keeps from 0 are 0 to a reader.
@@ -37,12 +54,32 @@ double Shown(const CExactProperties& exact, const CExactKey& key) {
   return beta && std::fabs(value) < 1e-9 * exact.i1 ? 0 : value;
 }
 
-}  // namespace
+CJson ErrorsJson(const CExactProperties& exact) {
+  const CExactErrors& e = exact.m_error;
+  return {{"It", JsonNumber(e.It)},
+          {"Iw", JsonNumber(e.Iw)},
+          {"As", JsonNumber(e.As)},
+          {"center", JsonNumber(e.center)},
+          {"betas", JsonNumber(2 * e.center)}};
+}
 
 CJson ExactJson(const CExactProperties& exact) {
   CJson json = CJson::object();
   for (const CExactKey& key : ExactKeys()) json[key.m_szKey] = JsonNumber(exact.*key.m_pField);
   return json;
+}
+
+}  // namespace
+
+void AddExactJson(CJson& json, const CExactProperties& exact) {
+  json["exact"] = ExactJson(exact);
+  json["accurate"] = exact.m_bAccurate;
+  json["errors"] = ErrorsJson(exact);
+}
+
+void WarnInaccurate(const std::string& what, const CExactProperties& exact) {
+  if (std::isnan(exact.It) || exact.m_bAccurate) return;
+  std::fprintf(stderr, "orv3cal: %s: %s\n", Visible(what).c_str(), InaccurateNote().c_str());
 }
 
 void PrintExact(const CExactProperties& exact) {

@@ -9,8 +9,12 @@
 
 namespace orv3::cli {
 
-// All keys in their order, null where there is no answer.
-CJson ExactJson(const CExactProperties& exact);
+// "exact": all keys in their order, null where there is no answer; "accurate"; "errors": the
+// solver's estimates, of "It", "Iw" and "As" relative, of "center" and "betas" in mm.
+void AddExactJson(CJson& json, const CExactProperties& exact);
+
+// Tells on standard error that the figures of `what` are not within their limits of error.
+void WarnInaccurate(const std::string& what, const CExactProperties& exact);
 
 // The block with its heading, and below it what a reader should know of the figures.
 void PrintExact(const CExactProperties& exact);

@@ -199,7 +199,7 @@ class CDxfReader {
     while (ReadEntity(entity)) {
       if (entity.m_strKind == "ENDSEC") return;
       if (entity.m_strKind == "ENTITIES" || entity.m_strKind == "SEQEND") continue;
-      const bool wanted = m_strLayer.empty() || entity.m_strLayer == m_strLayer;
+      const bool wanted = IsDrawn(entity) && IsOnLayer(entity);
       if (entity.m_strKind == "POLYLINE") {
         ReadPolyline(entity, wanted);
       } else if (wanted) {
@@ -208,6 +208,21 @@ class CDxfReader {
     }
     Fail("文件中断，缺少 ENTITIES 段的结尾",
          "breaks off in the section ENTITIES; right would be the whole file");
+  }
+
+  // In the model, not on a sheet of paper, and visible.
+  static bool IsDrawn(const CEntity& entity) {
+    return entity.Value(67) == 0 && entity.Value(60) == 0;
+  }
+
+  static char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+
+  // The case of a layer's name does not count.
+  bool IsOnLayer(const CEntity& entity) const {
+    const auto same = [](char a, char b) { return Lower(a) == Lower(b); };
+    return m_strLayer.empty() ||
+           std::equal(m_strLayer.begin(), m_strLayer.end(), entity.m_strLayer.begin(),
+                      entity.m_strLayer.end(), same);
   }
 
   void Take(const CEntity& entity) {

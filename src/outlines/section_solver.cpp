@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <compare>
+#include <iterator>
 #include <optional>
 #include <vector>
 
@@ -65,15 +66,54 @@ std::vector<char> Worst(const std::vector<double>& shares) {
   return marked;
 }
 
-std::optional<CSaintVenant> SolvePart(CSectionMesh mesh, double depth, bool joined) {
+// The last solution that a sound mesh gives; `stopped` when the next mesh is not sound.
+std::optional<CSaintVenant> SolveMesh(CSectionMesh mesh, double depth, bool joined, bool& stopped) {
+  std::optional<CSaintVenant> best;
   for (int round = 0;; ++round) {
     const std::size_t triangles = mesh.m_arrTriangle.size();
-    CSaintVenant solved(mesh, DegreeFor(triangles));
-    if (!solved.IsSound()) return std::nullopt;
-    const bool enough = Excess(ErrorsOf(solved), depth, joined) <= 1;
-    if (enough || round == kRounds || triangles > kRefinedTriangles) return solved;
-    mesh = Refined(mesh, Worst(solved.Shares()));
+    CSaintVenant solved(std::move(mesh), DegreeFor(triangles));
+    if (!solved.IsSound()) break;
+    best = std::move(solved);
+    const bool enough = Excess(ErrorsOf(*best), depth, joined) <= 1;
+    if (enough || round == kRounds || triangles > kRefinedTriangles) return best;
+    auto refined = Refined(best->Mesh(), Worst(best->Shares()));
+    if (!refined) break;
+    mesh = std::move(*refined);
   }
+  stopped = true;
+  return best;
+}
+
+// A part's first meshes, and how often its arcs are halved in them.
+struct CPartMeshes {
+  std::vector<CSectionMesh> m_arrMesh;
+  int m_nArcs = 0;
+};
+
+// The best solution of each mesh; meshes that cannot be refined give way to ones of shorter arcs.
+std::vector<CSaintVenant> SolvePart(std::span<const CPath> loops, CPartMeshes meshes, double depth,
+                                    bool joined) {
+  std::vector<CSaintVenant> best;
+  double least = HUGE_VAL;
+  const std::size_t count = meshes.m_arrMesh.size();
+  while (meshes.m_arrMesh.size() == count) {
+    std::vector<CSaintVenant> solved;
+    bool stopped = false;
+    double excess = 0;
+    for (CSectionMesh& mesh : meshes.m_arrMesh) {
+      auto one = SolveMesh(std::move(mesh), depth, joined, stopped);
+      if (!one) break;
+      excess = std::max(excess, Excess(ErrorsOf(*one), depth, joined));
+      solved.push_back(std::move(*one));
+    }
+    if (solved.size() == count && excess < least) {
+      best = std::move(solved);
+      least = excess;
+    }
+    if (!stopped || least <= 1) break;
+    meshes.m_arrMesh = MeshesOfPart(loops, ++meshes.m_nArcs);
+  }
+  return best;
 }
 
 // Outer loops, each with its holes; nothing when a hole lies in none.
@@ -152,28 +192,26 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
   const auto parts = PartsOf(scaled, order);
   if (!parts) return;
   const double depth = std::max(box.Width(), box.Height()) / m_scale;
-  std::vector<CSectionMesh> meshes;
+  std::vector<CPartMeshes> meshes;
   std::size_t at = 0;
   for (const auto& part : *parts) {
     const std::vector<std::size_t> own(
         order.begin() + static_cast<std::ptrdiff_t>(at),
         order.begin() + static_cast<std::ptrdiff_t>(at + part.size()));
     at += part.size();
-    auto found = MeshesOfPart(part);
-    if (found.empty()) return;
-    for (CSectionMesh& mesh : found) {
-      meshes.push_back(std::move(mesh));
-      m_loops.push_back(own);
-    }
+    CPartMeshes& found = meshes.emplace_back();
+    found.m_arrMesh = MeshesOfPart(part, found.m_nArcs);
+    if (found.m_arrMesh.empty()) return;
+    m_loops.insert(m_loops.end(), found.m_arrMesh.size(), own);
   }
-  m_properties.m_bJoined = meshes.size() == 1;
-  for (CSectionMesh& mesh : meshes) {
-    auto solved = SolvePart(std::move(mesh), depth, m_properties.m_bJoined);
-    if (!solved) {
+  m_properties.m_bJoined = m_loops.size() == 1;
+  for (std::size_t i = 0; i < meshes.size(); ++i) {
+    auto solved = SolvePart((*parts)[i], std::move(meshes[i]), depth, m_properties.m_bJoined);
+    if (solved.empty()) {
       m_parts.clear();
       return;
     }
-    m_parts.push_back(std::move(*solved));
+    std::move(solved.begin(), solved.end(), std::back_inserter(m_parts));
   }
   TakeFigures(depth);
   if (std::isnan(m_properties.Iw)) return;

@@ -135,6 +135,8 @@ TEST(DxfOutline, ReadsWhatPathsAreWrittenAs) {
   EXPECT_NEAR(LoopArea(read[1]), LoopArea(drawn[1]), 1e-12);
   EXPECT_EQ(Fault(ReadDxfOutline(PathsDxf(drawn), "0", read)), "");  // another layer
   EXPECT_TRUE(read.empty());
+  EXPECT_EQ(Fault(ReadDxfOutline(PathsDxf(drawn), "section", read)), "");  // in another case
+  EXPECT_EQ(read.size(), 2U);
   const std::string whole = PathsDxf(drawn);
   const std::size_t entities = whole.rfind("LWPOLYLINE");
   const std::string broken = Fault(ReadDxfOutline(whole.substr(0, entities + 40), "", read));
@@ -162,6 +164,8 @@ TEST(DxfOutline, JoinsLinesAndArcs) {
       {"inches", Dxf(arc + Line("-5 0 5 0"), "1"), half * 25.4 * 25.4, ""},
       {"seen from below", Dxf(below), half, ""},
       {"a text beside", Dxf(arc + Line("-5 0 5 0") + "0\nTEXT\n1\nH300\n"), half, ""},
+      {"on paper, hidden", Dxf(arc + Line("-5 0 5 0") + "0\nLINE\n67\n1\n0\nSPLINE\n60\n1\n"), half,
+       ""},
       {"miles", Dxf(arc, "3"), 0, "$INSUNITS 3 is not taken"},
       {"a gap", Dxf(arc + Line("-5 0 4.9 0")), 0, "open at (4.9, 0)"},
       {"a line too many", Dxf(arc + Line("-5 0 5 0") + Line("5 0 9 9")), 0, "more than two edges"},

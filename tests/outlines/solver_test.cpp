@@ -6,6 +6,7 @@
 #include <functional>
 #include <numbers>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "outlines/crossing.h"
@@ -218,6 +219,34 @@ TEST(SectionSolver, MeetsFiniteDifferences) {
     EXPECT_NEAR(p.ys, g.ys, 0.005 * c.height);
     EXPECT_NEAR(p.Asx, g.Asx, 0.01 * g.Asx);
     EXPECT_NEAR(p.Asy, g.Asy, 0.01 * g.Asy);
+  }
+}
+
+// Round holes of every size anywhere in plates, the rest beside them down to d / 20. It lies
+// between that of the plate and that of the greatest plate beside the hole.
+TEST(SectionSolver, AnswersPlatesWithARoundHole) {
+  const auto rectangleIt = [](double a, double b) {
+    return RectangleIt(std::max(a, b), std::min(a, b));
+  };
+  for (const auto& [b, h] : {std::pair{60.0, 400.0}, {300.0, 400.0}, {250.0, 250.0}}) {
+    for (double size : {0.05, 0.17, 0.33, 0.85}) {
+      const double d = size * b;
+      for (double along : {0.0, 0.13, 0.45}) {
+        for (double up : {0.0, 0.01, 0.3}) {
+          const double near = 0.55 * d, x = near + along * (b - 2 * near),
+                       y = near + up * (h - 2 * near);
+          SCOPED_TRACE(testing::Message()
+                       << b << " x " << h << ", " << d << " at " << x << ", " << y);
+          const CExactProperties p =
+              ExactProperties(CLoops{RectPath(0, 0, b, h), Reversed(CirclePath({x, y}, d / 2))});
+          EXPECT_TRUE(p.m_bAccurate);
+          EXPECT_NEAR(p.A, b * h - kPi * d * d / 4, 1e-9 * p.A);
+          EXPECT_LT(p.It, rectangleIt(b, h));
+          EXPECT_GT(p.It, std::max(rectangleIt(b, h - y - d / 2), rectangleIt(b - x - d / 2, h)));
+          EXPECT_LE(p.m_error.It, 1e-3);
+        }
+      }
+    }
   }
 }
 

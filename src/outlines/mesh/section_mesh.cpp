@@ -60,19 +60,38 @@ double Cross(CPoint a, CPoint b, CPoint c) {
   return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
 }
 
+// How an arc on an edge changes its triangle.
+struct CBend {
+  double bulge = 0;   // how far it reaches into the triangle, by the triangle's height
+  double corner = 1;  // the least of the mapping's determinants at its ends, by the triangle's own
+};
+
+CBend BendOf(const CSectionMesh& mesh, const CMeshTriangle& t, int i) {
+  const int s = t.m_stretch[Index(i)];
+  if (s < 0) return {};
+  const CStretch& stretch = mesh.m_arrStretch[Index(s)];
+  const CEdge& edge = mesh.m_arrEdge[Index(stretch.m_nEdge)];
+  if (!edge.IsArc()) return {};
+  const CPoint a = mesh.m_arrVertex[Index(t.m_vertex[Index(i)])];
+  const CPoint b = mesh.m_arrVertex[Index(t.m_vertex[Index((i + 1) % 3)])];
+  const CPoint c = mesh.m_arrVertex[Index(t.m_vertex[Index((i + 2) % 3)])];
+  const double twice = Cross(a, b, c), length = stretch.m_dTo - stretch.m_dFrom;
+  const auto corner = [&](CPoint end, double at) {
+    const CPoint d = edge.Derivative(at);
+    return length * (d.x * (c.y - end.y) - d.y * (c.x - end.x)) / twice;
+  };
+  return {Cross(a, b, mesh.At(stretch, 0.5)) / twice,
+          std::min(corner(a, stretch.m_dFrom), corner(b, stretch.m_dTo))};
+}
+
 // An arc takes no more of its triangle than leaves the mapping sound.
 bool IsSound(const CSectionMesh& mesh) {
   for (const CMeshTriangle& t : mesh.m_arrTriangle) {
+    const auto v = [&](int i) { return mesh.m_arrVertex[Index(t.m_vertex[Index(i)])]; };
+    if (!(Cross(v(0), v(1), v(2)) > 0)) return false;
     for (int i = 0; i < 3; ++i) {
-      const CPoint a = mesh.m_arrVertex[Index(t.m_vertex[Index(i)])];
-      const CPoint b = mesh.m_arrVertex[Index(t.m_vertex[Index((i + 1) % 3)])];
-      const CPoint c = mesh.m_arrVertex[Index(t.m_vertex[Index((i + 2) % 3)])];
-      const double twice = Cross(a, b, c);
-      if (!(twice > 0)) return false;
-      const int s = t.m_stretch[Index(i)];
-      if (s < 0 || !mesh.m_arrEdge[Index(mesh.m_arrStretch[Index(s)].m_nEdge)].IsArc()) continue;
-      const double bulge = Cross(a, b, mesh.At(mesh.m_arrStretch[Index(s)], 0.5)) / twice;
-      if (bulge > 0.35 || bulge < -2) return false;
+      const CBend bend = BendOf(mesh, t, i);
+      if (bend.bulge > 0.35 || bend.bulge < -2 || bend.corner < 0.1) return false;
     }
   }
   return true;
@@ -201,11 +220,22 @@ class CRefiner {
       todo.pop_back();
       const int longest = Longest(t);
       const auto key = EdgeKey(t, longest);
+      HalveArcs(t);
       if (m_middle.contains(key)) continue;
       AddMiddle(t, longest, key);
       for (int other : beside[key]) {
         if (other >= 0) todo.push_back(other);
       }
+    }
+  }
+
+  // An arc that stays whole reaches twice as far into the half of its triangle.
+  void HalveArcs(const CMeshTriangle& t) {
+    for (int i = 0; i < 3; ++i) {
+      const auto key = EdgeKey(t, i);
+      const CBend bend = BendOf(m_mesh, t, i);
+      const bool strong = std::fabs(bend.bulge) > 0.1 || bend.corner < 0.7;
+      if (strong && !m_middle.contains(key)) AddMiddle(t, i, key);
     }
   }
 
@@ -249,16 +279,18 @@ class CRefiner {
 
 }  // namespace
 
-std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops) {
-  for (int arcs = 0; arcs < kArcTrials; ++arcs) {
+std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs) {
+  for (; arcs < kArcTrials; ++arcs) {
     auto meshes = TryMeshes(loops, arcs);
     if (!meshes.empty()) return meshes;
   }
   return {};
 }
 
-CSectionMesh Refined(const CSectionMesh& mesh, std::span<const char> marked) {
-  return CRefiner(mesh).Refine(marked);
+std::optional<CSectionMesh> Refined(const CSectionMesh& mesh, std::span<const char> marked) {
+  CSectionMesh refined = CRefiner(mesh).Refine(marked);
+  if (!IsSound(refined)) return std::nullopt;
+  return refined;
 }
 
 }  // namespace orv3

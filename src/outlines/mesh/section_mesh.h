@@ -38,10 +38,12 @@ struct CSectionMesh {
 
 // The first mesh of a part: graded towards the ends of the edges by the local thickness. Loops of
 // size 1. More than one mesh when the part hangs together in points alone; none when its edges
-// cross.
-std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops);
+// cross. Arcs are halved at least `arcs` times, and more often where triangles ask for it: how
+// often is left there.
+std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs);
 
-// The mesh with the marked triangles halved, and others as needed to keep it whole.
-CSectionMesh Refined(const CSectionMesh& mesh, std::span<const char> marked);
+// The mesh with the marked triangles halved, and others as needed to keep it whole; none when an
+// arc would cut through a triangle.
+std::optional<CSectionMesh> Refined(const CSectionMesh& mesh, std::span<const char> marked);
 
 }  // namespace orv3
