@@ -16,7 +16,7 @@ target_compile_definitions(orv3cal_dll
                                    ORV3CAL_HOST_API_VERSION=${ORV3CAL_HOST_API_VERSION}
                            INTERFACE ORV3CAL_USE_DLL)
 target_include_directories(orv3cal_dll PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
-target_include_directories(orv3cal_dll SYSTEM PRIVATE ${EIGEN_INCLUDE})
+orv3cal_eigen(orv3cal_dll)
 get_target_property(libraries orv3cal LINK_LIBRARIES)
 if(libraries)
   target_link_libraries(orv3cal_dll PRIVATE ${libraries})
