@@ -5,6 +5,7 @@
 #include "dialogs/win32/resource.h"
 #include "dialogs/win32/sect_sign_set.h"
 #include "dialogs/win32/windows_user.h"
+#include "outlines/exact_keys.h"
 #include "sections/load_data_table.h"
 #include "win32/dialog_driver.h"
 
@@ -51,7 +52,8 @@ TEST(SmallDialogs, EditedSizesAreInTheRowAndRecomputed) {
         [&] {
           const auto probe = CDialogProbe::WaitFor(kEditCaption);
           Expect(probe.Text(IDCANCEL), L"取消");
-          Expect(probe.Count(IDC_PROPERTY_GRID), dialog.m_item.GetItemLength(), "lines");
+          const int exact = 1 + static_cast<int>(orv3::kExactKeys);  // their heading and they
+          Expect(probe.Count(IDC_PROPERTY_GRID), dialog.m_item.GetItemLength() + exact, "lines");
           Expect(probe.Titles(IDC_PROPERTY_GRID)[0], L"参数名称");
           Expect(probe.Titles(IDC_PROPERTY_GRID)[1], L"参数值");
           Expect(probe.Cell(IDC_PROPERTY_GRID, height, 1), L"400");
