@@ -1,5 +1,6 @@
 #include "outlines/loop_chain.h"
 
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <iterator>
@@ -34,8 +35,8 @@ class CEnds {
   std::vector<std::size_t> Others(std::size_t end) const {
     const CPoint p = Point(end);
     std::vector<std::size_t> others;
-    for (std::int64_t dx = -1; dx <= 1; ++dx) {
-      for (std::int64_t dy = -1; dy <= 1; ++dy) {
+    for (const int dx : {-1, 0, 1}) {
+      for (const int dy : {-1, 0, 1}) {
         const auto [first, last] = m_mapCell.equal_range(Key(Cell(p.x) + dx, Cell(p.y) + dy));
         for (auto each = first; each != last && others.size() < 2; ++each) {
           const CPoint q = Point(each->second);
@@ -48,11 +49,11 @@ class CEnds {
   }
 
  private:
-  std::int64_t Cell(double value) const {
-    return static_cast<std::int64_t>(std::floor(value / m_dTolerance));
-  }
-  static std::uint64_t Key(std::int64_t x, std::int64_t y) {
-    return static_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15U ^ static_cast<std::uint64_t>(y);
+  // A whole number as a double: a file's coordinates may lie beyond every integer. The sum makes a
+  // negative zero a positive one.
+  double Cell(double value) const { return std::floor(value / m_dTolerance) + 0.0; }
+  static std::uint64_t Key(double x, double y) {
+    return std::bit_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15U ^ std::bit_cast<std::uint64_t>(y);
   }
 
   const std::vector<CPath>& m_arrPath;
