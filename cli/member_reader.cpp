@@ -11,7 +11,7 @@
 
 namespace orv3::cli {
 
-CMemberReader::CMemberReader() : m_schema(kMemberSchema) {
+CMemberReader::CMemberReader() : m_schema(SchemaOf("member")) {
   for (const auto& rule : m_schema.Rules()) {
     const auto keys = MemberInputKeys();
     const auto key = std::find_if(keys.begin(), keys.end(),
