@@ -25,7 +25,9 @@ inline CJson ResultJson(bool value) { return value; }
 
 inline void AppendCsv(std::string& line, double value) {
   char text[32];
-  if (std::isfinite(value)) line.append(text, std::to_chars(text, text + sizeof text, value).ptr);
+  if (!std::isfinite(value)) return;
+  const char* end = std::to_chars(text, text + sizeof text, value).ptr;
+  line.append(text, static_cast<std::size_t>(end - text));
 }
 inline void AppendCsv(std::string& line, int value) { line += std::to_string(value); }
 // Of a bool alone: a plain text would rather turn into a bool than into a string_view.
@@ -108,7 +110,10 @@ CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check, CCodeEdit
           {"warnings", std::move(warnings)}};
 }
 
-std::string CsvHead(std::span<const CResultColumn> columns);
+// `bSurface`: the lines end with the treatment of the friction surfaces.
+std::string CsvHead(std::span<const CResultColumn> columns, bool bSurface);
+
+// All of a line behind its id but that.
 
 template <class CHECK>
 void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const CHECK& check,
@@ -137,7 +142,7 @@ void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const 
   }
   line += ',';
   if (!check.Warnings().empty()) AppendCsv(line, WarningLine(check.Warnings(), language));
-  line += ",\n";
+  line += ',';
 }
 
 // The results of one case with their units, the parts of the verdict, the verdict and what to look
