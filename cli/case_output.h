@@ -24,9 +24,14 @@ inline CJson ResultJson(int value) { return value; }
 inline CJson ResultJson(bool value) { return value; }
 
 inline void AppendCsv(std::string& line, double value) {
-  char text[32];
   if (!std::isfinite(value)) return;
-  const char* end = std::to_chars(text, text + sizeof text, value).ptr;
+  char text[32];
+  // Small whole numbers, many as they are, have the same text as an int, in a tenth of the time.
+  const bool bSmall = std::fabs(value) < 1e5 && !(value == 0 && std::signbit(value));
+  const int whole = bSmall ? static_cast<int>(value) : 0;
+  const bool bWhole = bSmall && whole == value;
+  const char* end = bWhole ? std::to_chars(text, text + sizeof text, whole).ptr
+                           : std::to_chars(text, text + sizeof text, value).ptr;
   line.append(text, static_cast<std::size_t>(end - text));
 }
 inline void AppendCsv(std::string& line, int value) { line += std::to_string(value); }

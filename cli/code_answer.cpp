@@ -56,17 +56,17 @@ int WordOf(const CCodeRequest& request, std::size_t at, const char* name, const 
   std::string list;
   for (std::size_t i = 0; i < count; ++i) {
     if (request[at] == words[i]) return static_cast<int>(i);
-    list += std::string(i == 0 ? " " : ", ") + words[i];
+    list += std::string(i == 0 ? "" : ", ") + words[i];
   }
-  RefuseArgument(name, request[at], {"下列之一：" + list, "one of" + list});
+  RefuseArgument(name, request[at], {"下列之一：" + list, "one of " + list});
 }
 
 int NumberAmong(const CCodeRequest& request, std::size_t at, const char* name,
                 const std::vector<double>& numbers) {
   std::string list;
   for (std::size_t i = 0; i < numbers.size(); ++i)
-    list += (i == 0 ? " " : ", ") + NumberText(numbers[i]);
-  const CText right = {"下列之一：" + list, "one of" + list};
+    list += (i == 0 ? "" : ", ") + NumberText(numbers[i]);
+  const CText right = {"下列之一：" + list, "one of " + list};
   const double number = Number(request, at, name, right);
   const auto found = std::find(numbers.begin(), numbers.end(), number);
   if (found == numbers.end()) RefuseArgument(name, request[at], right);

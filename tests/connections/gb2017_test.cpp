@@ -63,6 +63,9 @@ TEST(Gb2017, BoltGroupsByHand) {
   using C = CBoltCase2017;
   const double area = kPi / 4 * 17.65 * 17.65 / 1000;
   const double sumY2 = 4 * 80.0 * 80;
+  const double uneven = (65 + 185) / 3.0;
+  const double unevenY2 =
+      2 * (uneven * uneven + std::pow(uneven - 65, 2) + std::pow(185 - uneven, 2));
   const double sumR2 = sumY2 + 6 * 35.0 * 35;
   const struct {
     const char* what;
@@ -83,6 +86,18 @@ TEST(Gb2017, BoltGroupsByHand) {
       {"N and M < 0 about the centroid",
        With(Friction(), [](C& c) { c.m_dN = 120, c.m_dM = -9600; }),
        400 / 6.0 / 111.6 + (20 + 9600 * 80 / sumY2) / 124, "passForces"},
+      {"rows at 0, 65 and 185 mm: M > 0 pulls the last, 101.7 mm from the centroid",
+       With(Friction(),
+            [](C& c) {
+              c.m_rowSpace = {0, {65, 120}}, c.m_dM = 7000;
+            }),
+       400 / 6.0 / 111.6 + 7000 * (185 - uneven) / unevenY2 / 124, "passForces"},
+      {"and M < 0 the first, 83.3 mm from it",
+       With(Bearing(),
+            [](C& c) {
+              c.m_rowSpace = {0, {65, 120}}, c.m_dVx = 0, c.m_dM = -7000;
+            }),
+       7000 * uneven / unevenY2 / (area * 500), "passForces"},
       {"a compression N takes nothing off the shear", With(Friction(), [](C& c) { c.m_dN = -500; }),
        400 / 6.0 / 111.6, "passForces"},
       {"11.4.3: threads in the shear plane unless said", Bearing(), 400 / 6.0 / (area * 310),
