@@ -30,6 +30,7 @@ namespace orv3::cli {
 namespace {
 
 constexpr std::size_t kMostReports = 500;
+constexpr std::size_t kCsvLine = 500;  // most lines are shorter
 
 struct COptions {
   std::string kind;
@@ -61,7 +62,8 @@ class CChecker {
         m_answers(options.csv    ? CAnswerForm::Csv
                   : options.json ? CAnswerForm::Json
                                  : CAnswerForm::Table,
-                  options.sort, options.Language(), options.csv ? CsvHead(m_columns) : ""),
+                  options.sort, options.Language(),
+                  options.csv ? CsvHead(m_columns, kHasSurface<typename CHECK2003::CCase>) : ""),
         m_nCode(m_schema.Find(kCodeKey)) {
     for (const auto& rule : m_schema.Rules()) {
       if (rule.m_strKey != kCodeKey && SheetField(rule.m_strKey) == nullptr &&
@@ -168,6 +170,7 @@ class CChecker {
     switch (m_answers.Form()) {
       case CAnswerForm::Csv: {
         std::string lines;
+        lines.reserve(kCsvLine);
         for (const CCodeEdition edition : m_arrEdition)
           With(edition, [&](auto& run) { run.AppendCsv(m_nCases, m_columns, lines); });
         return m_answers.AddLine(worst, std::move(lines));

@@ -258,9 +258,11 @@ std::vector<CCaseWarning> CWeldGroupCheck::Notes(const CWeldGroupCase& input) co
   gb2017::NoteOf(FilletWeldStrength(m_nEdition, steel), "steel", notes);
   gb2017::NoteOfDetails(m_arrDetail, notes);
   if (m_nEdition == CCodeEdition::Gb2017) {
-    double hf = HUGE_VAL;
-    for (const CWeldLine& weld : m_arrWeld) hf = std::min(hf, weld.m_dHf);
-    gb2017::NoteOfThickParts("welds", hf, notes);
+    const auto [least, most] = std::minmax_element(
+        m_arrWeld.begin(), m_arrWeld.end(),
+        [](const CWeldLine& a, const CWeldLine& b) { return a.m_dHf < b.m_dHf; });
+    gb2017::NoteOfUnknownParts({"welds", least->m_dHf, most->m_dHf, input.m_nJoint == 0},
+                               {"焊件厚度未验算", "the parts' thicknesses are not checked"}, notes);
   }
   return notes;
 }
