@@ -13,7 +13,7 @@ constexpr std::size_t kGradedEdges = 2000;
 // Stretches at a corner are as long as the section is thick there, times this; away from it they
 // grow by kGrowth of the distance.
 constexpr double kAtCorner = 1.5;
-constexpr double kAtSharp = 0.5;
+constexpr double kAtSharp = 0.35;
 constexpr double kGrowth = 1.5;
 constexpr double kArcStep = std::numbers::pi / 6;
 constexpr double kSagitta = 0.2;  // of an arc's stretch, by the thickness
