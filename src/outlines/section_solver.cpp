@@ -217,8 +217,9 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
   if (std::isnan(m_properties.Iw)) return;
   CExactProperties& p = m_properties;
   const CThirdMoments third = ThirdMoments(loops, {m_origin.x + p.xo, m_origin.y + p.yo});
-  p.betax = third.forX / p.Ix - 2 * (p.ys - p.yo);
-  p.betay = third.forY / p.Iy - 2 * (p.xs - p.xo);
+  const auto beyondRounding = [&](double beta) { return std::fabs(beta) < 1e-9 * p.i1 ? 0 : beta; };
+  p.betax = beyondRounding(third.forX / p.Ix - 2 * (p.ys - p.yo));
+  p.betay = beyondRounding(third.forY / p.Iy - 2 * (p.xs - p.xo));
 }
 
 void CSectionSolver::CState::TakeFigures(double depth) {
