@@ -3,6 +3,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "catalogue/exact/row_exact.h"
 #include "drawing/dxf.h"
 #include "framework/utf8.h"
 #include "outlines/geometric_figures.h"

@@ -123,6 +123,7 @@ class CExactLayout {
     const auto& points = m_picture.m_arrStress;
     std::array<std::vector<CPath>, kScale.size()> bands;
     for (std::size_t i = 0, first = 0; i < points.size(); ++i) {
+      if (points[i].m_nLoop == CBoundaryStress::kInside) continue;
       if (points[i].m_nLoop != points[first].m_nLoop) first = i;
       const bool last = i + 1 == points.size() || points[i + 1].m_nLoop != points[i].m_nLoop;
       const CBoundaryStress& to = last ? points[first] : points[i + 1];

@@ -11,6 +11,7 @@
 
 #include "outlines/crossing.h"
 #include "outlines/difference_grid.h"
+#include "outlines/exact_picture.h"
 #include "outlines/exact_properties.h"
 #include "outlines/section_solver.h"
 
@@ -384,6 +385,18 @@ TEST(SectionSolver, GivesStressesAtTheBoundary) {
     EXPECT_NEAR(sigma, c.sigma, 1e-9 * c.sigma);
     EXPECT_NEAR(tau, c.tau, 5e-3 * c.tau + 1e-9);
   }
+}
+
+// Of a round bar the shear is half as great again in its middle as on average, by which it exceeds
+// that on its boundary by half.
+TEST(SectionSolver, GivesStressesInsideUnderShear) {
+  const CSectionSolver bar(CLoops{CirclePath({20, 20}, 20)});
+  EXPECT_TRUE(bar.StressesInside({.N = 1e3, .Mx = 1e6, .T = 1e6}).empty());
+  const CGreatestStress inside = GreatestStress(bar.StressesInside({.Vy = 12e3}));
+  const double mean = 12e3 / (kPi * 400);
+  EXPECT_NEAR(inside.m_pTau->tau, 1.5 * mean, 5e-3 * mean);
+  EXPECT_NEAR(std::hypot(inside.m_pTau->m_point.x - 20, inside.m_pTau->m_point.y - 20), 0, 2);
+  EXPECT_NEAR(GreatestStress(bar.Stresses({.Vy = 12e3})).m_pTau->tau, mean, 5e-3 * mean);
 }
 
 }  // namespace

@@ -210,6 +210,35 @@ CEdgeTraction CSaintVenant::Traction(std::size_t element, int edge, double t) co
           (m_Iy * gradient[2] - m_Ixy * gradient[1]) / det};
 }
 
+std::vector<CInnerTraction> CSaintVenant::Inside(std::size_t element) const {
+  constexpr int kSteps = 12;
+  const CElement& e = m_elements[element];
+  const CElementFields& u = m_fields[element];
+  const double det = m_Ix * m_Iy - m_Ixy * m_Ixy;
+  CElementVector value(m_shape->m_nCount), dxi(value), deta(value);
+  std::vector<CInnerTraction> tractions;
+  for (int i = 0; i <= kSteps; ++i) {
+    for (int j = 0; i + j <= kSteps; ++j) {
+      m_shape->Evaluate(1.0 * i / kSteps, 1.0 * j / kSteps, value.data(), dxi.data(), deta.data());
+      const double xXi = dxi.dot(e.X()), xEta = deta.dot(e.X());
+      const double yXi = dxi.dot(e.Y()), yEta = deta.dot(e.Y());
+      const double area = xXi * yEta - xEta * yXi;
+      const Eigen::RowVector3d byXi = dxi.transpose().lazyProduct(u);
+      const Eigen::RowVector3d byEta = deta.transpose().lazyProduct(u);
+      const Eigen::RowVector3d gx = (yEta * byXi - yXi * byEta) / area;
+      const Eigen::RowVector3d gy = (xXi * byEta - xEta * byXi) / area;
+      const CPoint p{value.dot(e.X()), value.dot(e.Y())};
+      const auto forX = [&](const auto& g) { return (m_Ix * g[1] - m_Ixy * g[2]) / det; };
+      const auto forY = [&](const auto& g) { return (m_Iy * g[2] - m_Ixy * g[1]) / det; };
+      tractions.push_back({p,
+                           {gx[0] + m_centroid.y - p.y, gy[0] + p.x - m_centroid.x},
+                           {forX(gx), forX(gy)},
+                           {forY(gx), forY(gy)}});
+    }
+  }
+  return tractions;
+}
+
 std::vector<double> CSaintVenant::Shares() const {
   // By the energies that the limits are about.
   const double twist = 1 / m_fine.It;

@@ -31,8 +31,8 @@ struct COutlinePicture {
   CAxisLetters m_axes{L"X0", L"Y0"};
   CAxisLetters m_baseAxes{};
   double m_dStrongAngle = 0;  // of the strong axis, radians
-  std::optional<CPoint> m_shearCenter;
-  std::optional<CPoint> m_plastic;  // where the plastic axes cross
+  std::optional<CPoint> m_shearCenter{};
+  std::optional<CPoint> m_plastic{};  // where the plastic axes cross
 };
 
 // A base point or shear center farther from the section than half its greater side is given in
