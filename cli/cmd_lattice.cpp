@@ -55,7 +55,7 @@ CSteelItemGeGou ColumnOf(const CCaseSchema& schema, const CCaseValues& values) {
 
 // The column of the file.
 CSteelItemGeGou ReadColumn(const std::string& path) {
-  const CCaseSchema schema(kLatticeSchema);
+  const CCaseSchema schema(SchemaOf("lattice"));
   std::optional<CSteelItemGeGou> column;
   ReadCases(path, schema, MessageLanguage(), [&](const CReadCase& read) {
     if (!read.m_bSingle)
