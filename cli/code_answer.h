@@ -70,7 +70,7 @@ int Whole(const CCodeRequest& request, std::size_t at, const char* name, int fir
 // A steel that the edition has.
 CSteelGrade Grade(const CCodeRequest& request, std::size_t at);
 
-// --- Who answers ---------------------------------------------------------------------------------
+// --- Who answers --------------------------------------------------------------------------------
 
 inline constexpr const char* kStressUnit = "N/mm²";
 extern const char* const kAxisNames[2];

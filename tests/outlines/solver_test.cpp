@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
-#include "outlines/crossing.h"
 #include "outlines/difference_grid.h"
 #include "outlines/exact_properties.h"
+#include "outlines/loops.h"
 #include "outlines/section_solver.h"
 
 namespace orv3 {

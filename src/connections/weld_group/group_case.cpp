@@ -107,10 +107,6 @@ void WeldFaults(const CWeldGroupCase& input, CFaultList& faults) {
   OverlapFault(welds, faults);
 }
 
-CWeldGroupLoads LoadsOf(const CWeldGroupCase& input) noexcept {
-  return {input.m_dN, input.m_dVx, input.m_dVy, input.m_dM, input.m_dT, input.m_dX, input.m_dY};
-}
-
 void FieldFaults(const CWeldGroupCase& input, CFaultList& faults) {
   faults.Within("steel", input.m_nSteel, 0, gb2017::kLastSteel);
   faults.Within("electrode", input.m_nElectrode, -1, 3);
@@ -193,7 +189,7 @@ bool CWeldGroupCheck::IsRefused(const CWeldGroupCase& input) {
   m_results.m_dFfw = gb2017::Take(strength, bSteel ? "steel" : "electrode", faults);
   m_arrWeld = WeldsOf(input);
   m_sums = SumsOf(m_arrWeld);
-  m_loads = AtCentroid(LoadsOf(input), m_sums);
+  m_loads = AtCentroid(input, m_sums);
   if (!FindTension(m_loads, m_sums, m_tension)) {
     const std::string M = PlainNumber(std::hypot(m_loads.m_dMx, m_loads.m_dMy) / 1000) + " kN·mm";
     faults.Add("M",
