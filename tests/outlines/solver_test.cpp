@@ -393,10 +393,11 @@ TEST(SectionSolver, GivesStressesInsideUnderShear) {
   const CSectionSolver bar(CLoops{CirclePath({20, 20}, 20)});
   EXPECT_TRUE(bar.StressesInside({.N = 1e3, .Mx = 1e6, .T = 1e6}).empty());
   const CGreatestStress inside = GreatestStress(bar.StressesInside({.Vy = 12e3}));
+  const auto boundary = bar.Stresses({.Vy = 12e3});
   const double mean = 12e3 / (kPi * 400);
   EXPECT_NEAR(inside.m_pTau->tau, 1.5 * mean, 5e-3 * mean);
   EXPECT_NEAR(std::hypot(inside.m_pTau->m_point.x - 20, inside.m_pTau->m_point.y - 20), 0, 2);
-  EXPECT_NEAR(GreatestStress(bar.Stresses({.Vy = 12e3})).m_pTau->tau, mean, 5e-3 * mean);
+  EXPECT_NEAR(std::fabs(GreatestStress(boundary).m_pTau->tau), mean, 5e-3 * mean);
 }
 
 }  // namespace
