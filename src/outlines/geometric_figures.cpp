@@ -4,8 +4,8 @@
 #include <numbers>
 #include <vector>
 
-#include "outlines/crossing.h"
 #include "outlines/edge.h"
+#include "outlines/loops.h"
 #include "outlines/outline_moments.h"
 #include "outlines/plastic.h"
 

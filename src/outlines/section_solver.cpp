@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-#include "outlines/crossing.h"
 #include "outlines/geometric_figures.h"
+#include "outlines/loops.h"
 #include "outlines/outline_moments.h"
 #include "outlines/solver/saint_venant.h"
 

@@ -1,5 +1,4 @@
-// The exact properties of rows: kept beside the store, never those of other sizes, and near to an
-// independent solution.
+// The exact properties of rows: kept beside the store, never those of other sizes, and accurate.
 #include "catalogue/exact/row_exact.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +15,6 @@
 #include "catalogue/quadratic_section.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "outlines/crossing.h"
 #include "outlines/edge.h"
 #include "outlines/exact_keys.h"
 #include "outlines/outline_check.h"

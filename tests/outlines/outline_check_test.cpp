@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "drawing/dxf.h"
-#include "outlines/crossing.h"
 #include "outlines/dxf_outline.h"
 #include "outlines/loop_nesting.h"
+#include "outlines/loops.h"
 
 namespace orv3 {
 namespace {

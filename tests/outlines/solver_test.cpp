@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
-#include "outlines/crossing.h"
 #include "outlines/difference_grid.h"
 #include "outlines/exact_picture.h"
 #include "outlines/exact_properties.h"
+#include "outlines/loops.h"
 #include "outlines/section_solver.h"
 
 namespace orv3 {
