@@ -41,40 +41,7 @@ std::string ClauseText(CCodeEdition edition, const char* clause) {
   return std::string(EditionFacts(edition).m_szName) + " " + clause;
 }
 
-std::span<const CMemberResult> MemberResultKeys() {
-  using R = CMemberResults;
-  static constexpr CMemberResult kKeys[] = {
-      {"f", &R::m_dF, "N/mm²"},
-      {"fv", &R::m_dFv, "N/mm²"},
-      {"fy", &R::m_dFy, "N/mm²"},
-      {"epsilonK", &R::m_dEpsilonK, ""},
-      {"A", &R::m_dA, "mm²"},
-      {"lambdax", &R::m_dLambdaX, ""},
-      {"lambday", &R::m_dLambdaY, ""},
-      {"lambdaz", &R::m_dLambdaZ, ""},
-      {"lambdayz", &R::m_dLambdaYz, ""},
-      {"phix", &R::m_dPhiX, ""},
-      {"phiy", &R::m_dPhiY, ""},
-      {"phiz", &R::m_dPhiZ, ""},
-      {"phib", &R::m_dPhiB, ""},
-      {"gammax", &R::m_dGammaX, ""},
-      {"gammay", &R::m_dGammaY, ""},
-      {"betamx", &R::m_dBetaMx, ""},
-      {"betatx", &R::m_dBetaTx, ""},
-      {"betamy", &R::m_dBetaMy, ""},
-      {"betaty", &R::m_dBetaTy, ""},
-  };
-  return kKeys;
-}
-
 namespace {
-
-constexpr struct {
-  const char* m_szKey;
-  const char* CMemberResults::*m_pField;
-} kTexts[] = {{"class", &CMemberResults::m_szClass},
-              {"classx", &CMemberResults::m_szClassX},
-              {"classy", &CMemberResults::m_szClassY}};
 
 CJson StepsJson(const CMemberAnswer& answer, std::size_t first, std::size_t end) {
   CJson steps = CJson::array();
@@ -91,7 +58,7 @@ CJson MemberJson(const CMemberCheck& check, CLanguage language) {
     const double value = answer.m_results.*key.m_pField;
     if (!std::isnan(value)) results[key.m_szKey] = JsonNumber(value);
   }
-  for (const auto& key : kTexts) {
+  for (const CMemberText& key : MemberTextKeys()) {
     const char* text = answer.m_results.*key.m_pField;
     if (*text != 0) results[key.m_szKey] = text;
   }

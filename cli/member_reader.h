@@ -8,6 +8,7 @@
 #include "case_schema.h"
 #include "case_source.h"
 #include "members/cases/member_case.h"
+#include "members/cases/member_results.h"
 #include "output.h"
 
 namespace orv3::cli {
@@ -26,13 +27,6 @@ class CMemberReader {
 };
 
 std::string ClauseText(CCodeEdition edition, const char* clause);  // "GB 50017-2017 8.2.1"
-
-struct CMemberResult {
-  const char* m_szKey;
-  double CMemberResults::*m_pField;
-  const char* m_szUnit;
-};
-std::span<const CMemberResult> MemberResultKeys();
 
 CJson MemberJson(const CMemberCheck& check, CLanguage language);
 std::string MemberText(const CMemberCheck& check, CLanguage language);
