@@ -15,7 +15,8 @@ A line of a calculation is
 with the symbols of earlier lines, · × − ^ √ π and the functions below; a line "NAME(A, B) = ..."
 defines a function. Figures are [place in the command's JSON answer, expression], with the tolerance
 and its reason behind them where the chapter's do not hold; in place of "run" and "figures" a case may have
-"rows", [arguments, expression], of commands that answer one value. A place names keys and positions with
+"rows", [arguments, expression], of commands that answer one value. "{code}" in the arguments is the edition
+that stands before a figure's place, as in "2003: results.A". A place names keys and positions with
 points between; an object within a list goes by its "name".
 """
 
@@ -146,7 +147,7 @@ def difference_text(value):
 
 def quoted(words):
     """The words of a command as a shell takes them."""
-    return " ".join(f"'{word}'" if re.search(r"[\[\]*]", word) else word for word in words)
+    return " ".join(f"'{word}'" if re.search(r"[\[\]*]", word) else word for word in words.split())
 
 
 class Manual:
@@ -209,11 +210,13 @@ class Manual:
         lines = [f"## {name} {case['zh']}", "", case["en"], "", f"- 依据 Source: {case['source']}"]
         runs = [(row[0], "value", (*row[0].split(), "--json"), *row[1:]) for row in case.get("rows", [])]
         if "run" in case:
-            words = case["run"].replace("{input}", f"docs/verification/cases/{file}").split()
-            runs += [(figure[0], figure[0], (*words, "--json"), *figure[1:]) for figure in case["figures"]]
+            command = case["run"].replace("{input}", f"docs/verification/cases/{file}")
+            for label, *rest in case["figures"]:
+                year, _, place = label.rpartition(": ")
+                runs.append((label, place, (*command.replace("{code}", year).split(), "--json"), *rest))
             if "{input}" in case["run"]:
                 lines.append(f"- 输入 Input: [cases/{file}](cases/{file})")
-            lines.append(f"- 命令 Command: `orv3cal {quoted(words)} --json`")
+            lines.append(f"- 命令 Command: `orv3cal {quoted(command.replace('{code}', '2017|2003'))} --json`")
         else:
             lines.append("- 命令 Command: `orv3cal` 后接各行 followed by each line, `--json`")
         lines.append("")
