@@ -122,13 +122,13 @@ class Calculation:
 def found(answer, place):
     """What stands at a place of the answer."""
     for key in place.split("."):
-        if isinstance(answer, list):
-            named = [each for each in answer if isinstance(each, dict) and each.get("name") == key]
-            answer = named[0] if named else answer[int(key)]
-        elif key in answer:
-            answer = answer[key]
-        else:
-            raise Wrong(f"{place}: the answer has no {key}")
+        try:
+            if isinstance(answer, list) and not key.isdigit():
+                answer = next(each for each in answer if each["name"] == key)
+            else:
+                answer = answer[int(key) if isinstance(answer, list) else key]
+        except (KeyError, IndexError, StopIteration) as error:
+            raise Wrong(f"{place}: the answer has no {key}") from error
     return answer
 
 
