@@ -5,7 +5,7 @@
 With --check nothing is written: the exit status is 1 when the manual in the tree is not what the run
 writes. It is 1 too when a figure is not within its tolerance.
 
-A chapter is a TOML file beside this one: its titles, the tolerance of its figures with the reason, and
+A chapter is a TOML file in docs/verification/chapters: its titles, the tolerance of its figures with the reason, and
 its cases. A case has an id, titles, its source, the arguments of the command ("{input}" stands for
 its input file, written to docs/verification/cases), a hand calculation and the figures to compare.
 A line of a calculation is
@@ -216,7 +216,10 @@ class Manual:
                 runs.append((label, place, (*command.replace("{code}", year).split(), "--json"), *rest))
             if "{input}" in case["run"]:
                 lines.append(f"- 输入 Input: [cases/{file}](cases/{file})")
-            lines.append(f"- 命令 Command: `orv3cal {quoted(command.replace('{code}', '2017|2003'))} --json`")
+            years = sorted({label[:4] for label, *_ in runs}, reverse=True) if "{code}" in command else [""]
+            shown = f"`orv3cal {quoted(command.replace('{code}', years[0]))} --json`"
+            also = "".join(f", 及 and `--code {year}`" for year in years[1:])
+            lines.append(f"- 命令 Command: {shown}{also}")
         else:
             lines.append("- 命令 Command: `orv3cal` 后接各行 followed by each line, `--json`")
         lines.append("")
@@ -260,16 +263,17 @@ class Manual:
         self.put("README.md", "\n".join(lines) + "\n")
 
     def write(self):
-        here = Path(__file__).resolve().parent
-        chapters = [self.chapter(path) for path in sorted(here.glob("[0-9]*.toml"))]
-        self.index(tomllib.loads((here / "manual.toml").read_text("utf-8")), chapters)
+        sources = self.folder / "chapters"
+        chapters = [self.chapter(path) for path in sorted(sources.glob("[0-9]*.toml"))]
+        self.index(tomllib.loads((sources / "manual.toml").read_text("utf-8")), chapters)
         names = [row[0] for row in self.rows]
         self.faults += [f"{name}: stands twice" for name in set(names) if names.count(name) > 1]
         self.compare()
 
     def compare(self):
         """The tree against what was written: nothing else, nothing missing, nothing old."""
-        kept = {str(path.relative_to(self.folder)) for path in self.folder.rglob("*") if path.is_file()}
+        kept = {path.relative_to(self.folder).as_posix() for path in self.folder.rglob("*.*")
+                if path.parent.name != "chapters"}
         for path in sorted(kept - self.files.keys()):
             if self.check:
                 self.faults.append(f"docs/verification/{path}: is of no case; run scripts/verify")
