@@ -4,6 +4,7 @@
 
 #include "framework/utf8.h"
 #include "members/cases/member_choice.h"
+#include "members/cases/member_envelope.h"
 #include "members/cases/member_results.h"
 #include "module/c_values.h"
 #include "sections/load_data_table.h"
@@ -36,24 +37,50 @@ CString Line(const char* key, double value) { return FromUtf8(key) + L"=" + Valu
 
 // --- One member ----------------------------------------------------------------------------------
 
-std::vector<CString> MemberLines(const CMemberCheck& check) {
-  const CMemberAnswer& answer = check.Answer();
-  std::vector<CString> lines = {Line("code", EditionFacts(check.Edition()).m_szYear),
-                                Line("pass", check.Pass() ? 1 : 0),
-                                Line("ratio", answer.Worst().m_dRatio),
-                                Line("governs", MemberCheckName(answer.Worst().m_nKind))};
-  for (const CMemberCheckPart& part : answer.Parts())
-    lines.push_back(Line(MemberCheckName(part.m_nKind), part.m_dRatio));
+// A member, or with combinations behind it one of each, which takes what it does not give from it.
+std::vector<CValues> CombinationsOf(std::vector<CValues> lists) {
+  if (lists.size() == 1) return lists;
+  const CValues member = std::move(lists.front());
+  lists.erase(lists.begin());
+  for (CValues& values : lists) {
+    for (const auto& [key, text] : member) {
+      if (key == "id") continue;
+      const bool bGiven = !values.emplace(key, text).second;
+      if (bGiven && key != "load" && key != "loadFlange")
+        throw CFailure(key + ": stands beside combinations that give it; give it in one place");
+    }
+  }
+  return lists;
+}
+
+// What is told of one answer, without its checks.
+void AddResults(const CMemberResults& results, std::vector<CString>& lines) {
   for (const CMemberResult& key : MemberResultKeys()) {
-    const double value = answer.m_results.*key.m_pField;
+    const double value = results.*key.m_pField;
     if (!std::isnan(value)) lines.push_back(Line(key.m_szKey, value));
   }
   for (const CMemberText& key : MemberTextKeys()) {
-    const char* text = answer.m_results.*key.m_pField;
+    const char* text = results.*key.m_pField;
     if (*text != 0) lines.push_back(Line(key.m_szKey, text));
   }
-  for (const CMemberNote note : answer.Notes())
-    lines.push_back(Line("warning", MemberNoteText(note).In(CLanguage::English)));
+}
+
+// `names`: of the combinations; empty for a member without any.
+std::vector<CString> MemberLines(const CMemberEnvelope& envelope, CCodeEdition edition,
+                                 const std::vector<std::string>& names) {
+  const CMemberCheckPart& worst = envelope.Worst().Worst();
+  std::vector<CString> lines = {
+      Line("code", EditionFacts(edition).m_szYear), Line("pass", envelope.Pass() ? 1 : 0),
+      Line("ratio", worst.m_dRatio), Line("governs", MemberCheckName(worst.m_nKind))};
+  if (!names.empty()) lines.push_back(Line("case", names[envelope.WorstCase()]));
+  for (const CMemberEnvelope::CPart& part : envelope.Parts()) {
+    const std::string name = MemberCheckName(part.m_pPart->m_nKind);
+    lines.push_back(Line(name.c_str(), part.m_pPart->m_dRatio));
+    if (!names.empty()) lines.push_back(Line((name + ".case").c_str(), names[part.m_nCase]));
+  }
+  AddResults(envelope.Worst().m_results, lines);
+  for (const CMemberEnvelope::CNoted& noted : envelope.Notes())
+    lines.push_back(Line("warning", MemberNoteText(noted.m_nNote).In(CLanguage::English)));
   return lines;
 }
 
@@ -141,13 +168,24 @@ using namespace orv3::c_interface;
 int ORV3_CALL orv3_check_member(const orv3_char* code, const orv3_char* input, orv3_char* text,
                                 int size) {
   return Guarded([&] {
-    CValues values = ReadValues(input);
-    const CCodeEdition edition = EditionOf(CodeOf(code), values);
-    NeedDataFor(values.contains("section.table"));
+    std::vector<CValues> lists = ReadValueLists(input);
+    const CCodeEdition edition = EditionOf(CodeOf(code), lists.front());
+    NeedDataFor(lists.front().contains("section.table"));
+    const bool bOne = lists.size() == 1;
     CMemberCheck check;
-    if (!check.Run(MemberOf(std::move(values), edition)))
-      throw CFailure(check.Fault().Line(CLanguage::English));
-    return GiveText(JoinLines(MemberLines(check)), text, size);
+    CMemberEnvelope envelope;
+    std::vector<std::string> names;
+    for (CValues& values : CombinationsOf(std::move(lists))) {
+      const CMemberCase member = MemberOf(std::move(values), edition);
+      if (!bOne)
+        names.push_back(member.m_strId.empty() ? std::to_string(names.size() + 1) : member.m_strId);
+      if (!check.Run(member)) {
+        throw CFailure((bOne ? "" : "case " + names.back() + ", ") +
+                       check.Fault().Line(CLanguage::English));
+      }
+      envelope.Add(check.Answer());
+    }
+    return GiveText(JoinLines(MemberLines(envelope, edition, names)), text, size);
   });
 }
 

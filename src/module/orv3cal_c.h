@@ -246,9 +246,12 @@ ORV3_API int ORV3_CALL orv3_check(const orv3_char* kind, const orv3_char* code,
 
 /* A member. Keys as in the command line's case files (docs/members.md), those of an inner object
  * behind a point ("section.table", "lengths.x"), two end moments as M1;M2; "sway" and "dynamic" are
- * 1 or 0. A section of a table is looked up in the opened data. `code` as above. The result: "code",
- * "pass" (1 or 0), "ratio" and "governs" of the worst check, the ratio of each check by its name,
- * the results, and one line "warning" for each warning (English). */
+ * 1 or 0. A section of a table is looked up in the opened data. `code` as above. Combinations of
+ * forces may follow, an empty line in front of each, with what is not the same for all of them. The
+ * result: "code", "pass" (1 or 0), "ratio" and "governs" of the worst check, the ratio of each
+ * check by its name, the results, and one line "warning" for each warning (English). Of
+ * combinations each ratio is the greatest; its combination stands behind it, as in "strength.case",
+ * that of the worst check as "case", by its "id" or its number. */
 ORV3_API int ORV3_CALL orv3_check_member(const orv3_char* code, const orv3_char* input,
                                          orv3_char* text, int size);
 

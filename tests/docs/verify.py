@@ -47,7 +47,8 @@ FUNCTIONS |= {"root": root, "abs": abs, "min": min, "max": max, "sum": sum, "ran
 SPELLED = {"·": "*", "×": "*", "−": "-", "^": "**", "√(": "sqrt(",
            "≤": "<=", "≥": ">="}
 SUPERSCRIPT = str.maketrans("-0123456789", "⁻⁰¹²³⁴⁵⁶⁷⁸⁹")
-NAME = re.compile(r"[^\W\d]\w*")
+SYMBOL = re.compile(r"(?<![\w.])[^\W\d]\w*")
+CALL = re.compile(r"([^\W\d]\w*)\(([^()]*)\)")
 LINE = re.compile(r"(?P<name>[^\W\d]\w*)(?P<parameters>\([^)]*\))?(?: \[(?P<unit>[^\]]*)\])? = "
                   r"(?P<formula>.*?)(?: ; (?P<remark>.*))?")
 
@@ -56,13 +57,18 @@ class Wrong(Exception):
     """A chapter or an answer that is not as it must be."""
 
 
-def number(value):
-    """Seven significant digits, with a power of ten where they would be hard to read."""
+def plain(value):
+    """Seven significant digits, as a formula takes them."""
+    return re.sub(r"e([+-])0*", lambda match: "e" + match[1].strip("+"), f"{value:.7g}").replace("-", "−")
+
+
+def number(value, digits=7):
+    """For reading: with a power of ten where the digits would be hard to count."""
     if value is None:
         return "-"
     if isinstance(value, (str, bool)):
         return str(value)
-    text = f"{value:.7g}"
+    text = f"{value:.{digits}g}"
     mantissa, exponent, power = text.partition("e")
     if not exponent:
         return text.replace("-", "−")
@@ -86,13 +92,16 @@ class Calculation:
             raise Wrong(f"{formula}: {error}") from error
 
     def numbers(self, formula):
-        """The formula with the symbols' numbers in their places; the same when it has none."""
-        def put(match):
+        """The formula with numbers in the places of its symbols and of the calls of its functions."""
+        def call(match):
+            return plain(self.value(match[0])) if match[1] not in FUNCTIONS else match[0]
+
+        def symbol(match):
             value = self.names.get(match[0])
-            if match[0] in FUNCTIONS or callable(value) or not isinstance(value, (int, float)):
+            if not isinstance(value, (int, float)) or match[0] in FUNCTIONS:
                 return match[0]
-            return f"({number(value)})" if value < 0 else number(value)
-        return NAME.sub(put, formula)
+            return f"({plain(value)})" if value < 0 else plain(value)
+        return SYMBOL.sub(symbol, CALL.sub(call, formula))
 
     def add(self, line):
         match = LINE.fullmatch(line)
@@ -192,7 +201,8 @@ class Manual:
             apart = difference(expected, obtained)
             if not apart <= within:
                 self.faults.append(f"{case['id']}: {label} is {obtained}, expected {expected}")
-            lines.append(f"| `{label}` | {number(expected)} | {number(obtained)} | "
+            digits = 7 if within < 1e-5 else 5  # a numerical solution's last ones are its own
+            lines.append(f"| `{label}` | {number(expected, digits)} | {number(obtained, digits)} | "
                          f"{difference_text(apart)}{'' if apart <= within else ' **✗**'} | "
                          f"{number(within)} |")
             if reason not in reasons:

@@ -299,6 +299,26 @@ TEST(CMembers, AreCheckedByEitherEdition) {
   EXPECT_EQ(earlier["betamx"], "1");
 }
 
+// The greatest of each check over the combinations, as they are one by one.
+TEST(CMembers, TakeTheWorstOfTheirCombinations) {
+  const CText16 member =
+      u"section.style=h\nsection.sizes=300;400;20;10\nsteel=Q345\nlengths.x=6000\nlengths.y=3000\n";
+  const CText16 heavy = u"id=heavy\nN=-1500\n", bent = u"id=bent\nN=-300\nMx=400000\n";
+  auto both = Values(Member(u"2017", member + u"\n" + heavy + u"\n" + bent));
+  auto first = Values(Member(u"2017", member + heavy));
+  auto second = Values(Member(u"2017", member + bent));
+  EXPECT_EQ(both["stability-y"], std::stod(first["stability-y"]) > std::stod(second["stability-y"])
+                                     ? first["stability-y"]
+                                     : second["stability-y"]);
+  EXPECT_EQ(both["strength"], second["strength"]);
+  EXPECT_EQ(both["strength.case"], "bent");
+  EXPECT_EQ(both["stability-z"], first["stability-z"]);
+  EXPECT_EQ(both["stability-z.case"], "heavy");
+  EXPECT_EQ(both["case"], both[both["governs"] + ".case"]);
+  EXPECT_EQ(orv3_check_member(nullptr, (member + u"N=1\n\nN=2").c_str(), nullptr, 0), -1);
+  EXPECT_NE(LastError().find("N: stands beside"), std::string::npos) << LastError();
+}
+
 TEST(CMembers, AreRefusedByKey) {
   const struct {
     CText16 input;

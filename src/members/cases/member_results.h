@@ -11,7 +11,6 @@ namespace orv3 {
 struct CMemberResult {
   const char* m_szKey;
   double CMemberResults::*m_pField;
-  const char* m_szUnit;
 };
 ORV3CAL_API std::span<const CMemberResult> MemberResultKeys() noexcept;
 
