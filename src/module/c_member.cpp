@@ -1,6 +1,7 @@
 // The C interface: checks of members, and the lightest sections that pass.
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "framework/utf8.h"
 #include "members/cases/member_choice.h"
