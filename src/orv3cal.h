@@ -68,6 +68,7 @@
 #include "framework/utf8.h"
 #include "members/cases/member_case.h"
 #include "members/cases/member_choice.h"
+#include "members/cases/member_results.h"
 #include "members/lattice_member.h"
 #include "outlines/dxf_outline.h"
 #include "outlines/exact_keys.h"

@@ -16,7 +16,7 @@
 
 namespace {
 
-using orv3::CVertex, orv3::RowOutline, orv3::RowOutlineMoments;
+using orv3::CPoint, orv3::CVertex, orv3::RowOutline, orv3::RowOutlineMoments;
 
 // --- Form ----------------------------------------------------------------------------------------
 
