@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <deque>
 #include <iterator>
 #include <utility>
 
@@ -100,7 +101,9 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   bool start_object(std::size_t) override {
     if (m_nDepth == 0) m_case.m_bSingle = true;
-    if (InObjects()) {
+    if (InParts() && m_nDepth == Field() + 1) {
+      StartPart();
+    } else if (InObjects()) {
       StartMember();
     } else if (m_nDepth == Field() && m_bObjectNext) {
       m_bInObject = true;
@@ -117,13 +120,19 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     return true;
   }
   bool end_object() override {
+    if (m_bInPart && m_nDepth == Field()) return EndPart();
     if (m_bMember && m_nDepth == Field() + 2) EndMember();
     return End();
   }
   bool start_array(std::size_t) override {
     if (m_nDepth == Field() && m_nKey != kNone) {
-      m_bList = true;
-      List().clear();
+      if (m_bInPart || Rule().m_arrPartKey.empty()) {
+        m_bList = true;
+        StartList();
+      } else {
+        m_nParts = m_nKey;
+        m_case.m_arrPart.clear();
+      }
     } else if (m_nDepth > 0) {
       Other("[…]");
     }
@@ -132,6 +141,7 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
   bool end_array() override {
     if (m_nDepth == Field() + 1 && m_bList) EndList();
+    if (m_nDepth == Field() + 1 && InParts()) EndParts();
     return End();
   }
 
@@ -160,8 +170,17 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
 
   // How many brackets are open where the keys of a case, or of the object within it, stand.
-  int Field() const noexcept { return (m_case.m_bSingle ? 1 : 2) + (m_bInObject ? 1 : 0); }
-  std::vector<double>& List() { return m_arrList[static_cast<std::size_t>(m_nKey)]; }
+  int Field() const noexcept {
+    return (m_case.m_bSingle ? 1 : 2) + (m_bInObject ? 1 : 0) + (m_bInPart ? 2 : 0);
+  }
+  std::vector<double>& List() {
+    return m_bInPart ? m_arrPartList.back() : m_arrList[static_cast<std::size_t>(m_nKey)];
+  }
+  void StartList() {
+    if (m_bInPart) m_arrPartList.emplace_back();
+    List().clear();
+  }
+  CCaseValues& Values() { return m_bInPart ? m_case.m_arrPart.back() : m_case.m_arrValue; }
   const CCaseSchema::CRule& Rule() const {
     return m_arrRule[static_cast<std::size_t>(m_nKey == m_nSpare ? m_nTwice : m_nKey)];
   }
@@ -170,12 +189,17 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     m_case.m_arrValue.assign(m_arrRule.size() + 1, std::nullopt);
     m_case.m_fault.reset();
     m_nKey = kNone;
-    m_bInObject = m_bObjectNext = false;
+    m_bInObject = m_bObjectNext = m_bInPart = false;
+    m_nParts = kNone;
+    m_case.m_arrPart.clear();
+    m_arrPartText.clear();
+    m_arrPartList.clear();
     m_bytes.StartCase();
   }
 
   void HandOver() {
     m_case.m_arrValue.pop_back();
+    for (CCaseValues& part : m_case.m_arrPart) part.pop_back();
     m_case.m_dDone = m_file.Done();
     m_take(m_case);
     StartCase();
@@ -186,6 +210,7 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
 
   void FindKey(const std::string& name) {
+    if (m_bInPart) return FindPartKey(name);
     m_bObjectNext = !m_bInObject && m_schema.IsObject(name);
     if (m_bObjectNext) {
       m_strObject = name;
@@ -195,8 +220,42 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     const std::string key = m_bInObject ? m_strObject + '.' + name : name;
     m_nKey = m_schema.Find(key);
     if (m_nKey == kNone) return Fault(m_schema.Unknown(key));
-    if (!m_case.m_arrValue[static_cast<std::size_t>(m_nKey)]) return;
-    m_nTwice = std::exchange(m_nKey, m_nSpare);
+    Spare();
+  }
+
+  void FindPartKey(const std::string& name) {
+    const auto& parts = m_arrRule[static_cast<std::size_t>(m_nParts)];
+    const auto& keys = parts.m_arrPartKey;
+    m_nKey = m_schema.Find(name);
+    if (std::find(keys.begin(), keys.end(), m_nKey) != keys.end()) return Spare();
+    m_nKey = kNone;
+    Fault(m_schema.Unknown(name, parts));
+  }
+
+  // The second value of a key is kept apart.
+  void Spare() {
+    if (Values()[static_cast<std::size_t>(m_nKey)]) m_nTwice = std::exchange(m_nKey, m_nSpare);
+  }
+
+  // Among the parts of a case, and not in one of them.
+  bool InParts() const noexcept { return m_nParts != kNone && !m_bInPart; }
+
+  void EndParts() {
+    m_nParts = kNone;
+    Set(std::span<const double>());
+  }
+
+  void StartPart() {
+    m_case.m_arrPart.emplace_back(m_arrRule.size() + 1);
+    m_bInPart = true;
+    m_nKey = kNone;
+  }
+
+  bool EndPart() {
+    m_bInPart = false;
+    m_nKey = m_nParts;
+    --m_nDepth;
+    return true;
   }
 
   bool Number(double value, const std::string& text) {
@@ -220,7 +279,8 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
 
   void SetText(const std::string& text) {
-    std::string& kept = m_arrText[static_cast<std::size_t>(m_nKey)];
+    std::string& kept =
+        m_bInPart ? m_arrPartText.emplace_back() : m_arrText[static_cast<std::size_t>(m_nKey)];
     kept = text;
     Set(std::string_view(kept));
   }
@@ -232,10 +292,10 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   // The value of the key at hand; the second one of a key is a fault that names both.
   void Set(const CKeyValue& value) {
-    auto& kept = m_case.m_arrValue[static_cast<std::size_t>(m_nKey)];
+    auto& kept = Values()[static_cast<std::size_t>(m_nKey)];
     kept = value;
     if (m_nKey == m_nSpare) {
-      Fault(Twice(Rule().m_strKey, *m_case.m_arrValue[static_cast<std::size_t>(m_nTwice)], value));
+      Fault(Twice(Rule().m_strKey, *Values()[static_cast<std::size_t>(m_nTwice)], value));
       kept.reset();
     }
     m_nKey = kNone;
@@ -269,7 +329,7 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     } else if (m_nDepth == Field() && m_nKey != kNone) {
       Fault({Rule().m_strKey, {text + " 不可用", text + " is not possible"}, Rule().Right()});
       m_nKey = kNone;
-    } else if (m_nDepth > Field() && m_bList) {
+    } else if (m_nDepth > Field() && (m_bList || InParts())) {
       Fault({Rule().m_strKey,
              {"数列中不能有 " + text, text + " is not possible in a list"},
              Rule().Right()});
@@ -353,6 +413,10 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   bool m_bInObject = false;            // its keys are read
   std::vector<std::string> m_arrText;  // what the values point to, by key
   std::vector<std::vector<double>> m_arrList;
+  int m_nParts = kNone;    // the key whose parts are read
+  bool m_bInPart = false;  // within one of them
+  std::deque<std::string> m_arrPartText;
+  std::deque<std::vector<double>> m_arrPartList;
 };
 
 }  // namespace

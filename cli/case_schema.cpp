@@ -41,13 +41,14 @@ void ReadType(const std::string& type, CCaseSchema::CRule& rule) {
 
 void ReadItems(const CJson& items, CCaseSchema::CRule& rule) {
   if (items.at("type") != "object") return ReadRange(items, rule.m_items);
+  if (items.at("additionalProperties") != false) Outside(rule.m_strKey + ": open objects");
+  if (!items.contains("required")) return;  // parts, whose keys are those of the case
   for (const auto& entry : items.at("properties").items()) {
     if (entry.value().at("type") != "number") Outside(rule.m_strKey + ": " + entry.key());
     rule.m_arrMember.push_back(entry.key());
     ReadRange(entry.value(), rule.m_arrMemberRange.emplace_back());
   }
-  if (items.at("required").size() != rule.m_arrMember.size() ||
-      items.at("additionalProperties") != false)
+  if (items.at("required").size() != rule.m_arrMember.size())
     Outside(rule.m_strKey + ": objects that are not closed");
 }
 
@@ -167,6 +168,7 @@ CText CCaseSchema::CRule::Right() const {
   }
   if (!right.empty()) return {"请给出下列之一：" + right, "give one of " + right};
   if (m_bText) return {"请给出文字", "give a text"};
+  if (!m_arrPartKey.empty()) return {"请给出对象的数组", "give an array of objects"};
   if (!m_arrMember.empty()) {
     std::string members;
     for (const std::string& member : m_arrMember) members += (members.empty() ? "" : ", ") + member;
@@ -199,6 +201,7 @@ CCaseSchema::CCaseSchema(std::string_view text) {
       m_arrRule.push_back(ReadRule(entry.key(), entry.value()));
     }
   }
+  AddPartKeys(json["properties"]);
   CNeed always;
   always.m_arrKey = Positions(json.at("required"));
   m_arrNeed.push_back(always);
@@ -219,6 +222,19 @@ void CCaseSchema::AddObject(const std::string& key, const CJson& json) {
   m_arrObject.push_back(key);
   for (const auto& entry : json.at("properties").items())
     m_arrRule.push_back(ReadRule(key + "." + entry.key(), entry.value()));
+}
+
+// A part's keys mean what they mean outside.
+void CCaseSchema::AddPartKeys(const CJson& properties) {
+  for (CRule& rule : m_arrRule) {
+    if (!rule.m_bArray || rule.m_bNumber || !rule.m_arrMember.empty()) continue;
+    const CJson& keys = properties.at(rule.m_strKey).at("items").at("properties");
+    for (const auto& entry : keys.items()) {
+      if (Find(entry.key()) < 0 || entry.value() != properties.at(entry.key()))
+        Outside(rule.m_strKey + ": the key " + entry.key());
+      rule.m_arrPartKey.push_back(Find(entry.key()));
+    }
+  }
 }
 
 bool CCaseSchema::IsObject(std::string_view key) const noexcept {
@@ -268,6 +284,15 @@ CCaseFault CCaseSchema::Unknown(std::string_view key) const {
   std::string known;
   for (const CRule& rule : m_arrRule) known += (known.empty() ? "" : ", ") + rule.m_strKey;
   return {Excerpt(key),
+          {"不是此处的键", "is no key here"},
+          {"可用的键为 " + known, "the keys are " + known}};
+}
+
+CCaseFault CCaseSchema::Unknown(std::string_view key, const CRule& parts) const {
+  std::string known;
+  for (const int at : parts.m_arrPartKey)
+    known += (known.empty() ? "" : ", ") + m_arrRule[static_cast<std::size_t>(at)].m_strKey;
+  return {parts.m_strKey + '.' + Excerpt(key),
           {"不是此处的键", "is no key here"},
           {"可用的键为 " + known, "the keys are " + known}};
 }

@@ -2,8 +2,8 @@
 //
 // Of JSON Schema it understands what those files use: closed objects within the object, whose keys
 // are "outer.inner" from here on, type, enum, minimum, exclusiveMinimum, maximum, exclusiveMaximum,
-// items (numbers, or closed objects of numbers that are all required), required,
-// additionalProperties, oneOf lists of required keys,
+// items (numbers, closed objects of numbers that are all required, or closed objects of keys of the
+// case itself: its parts), required, additionalProperties, oneOf lists of required keys,
 // and allOf with if (const or minimum of one key) and then (required, and properties that are
 // false: keys that must not be there). Anything else is refused at the start, so that a schema
 // never promises what is not checked.
@@ -49,6 +49,8 @@ class CCaseSchema {
     // after the other, in this order.
     std::vector<std::string> m_arrMember;
     std::vector<CRange> m_arrMemberRange;
+    // Of an array of parts: the keys of the case that a part may give.
+    std::vector<int> m_arrPartKey = {};
     CText Right() const;  // what would be right, in words
   };
 
@@ -57,8 +59,9 @@ class CCaseSchema {
   int Find(std::string_view key) const noexcept;
   // Whether an object stands at this key, with keys of its own.
   bool IsObject(std::string_view key) const noexcept;
-  // The fault of an unknown key, which names the known ones.
+  // The fault of an unknown key, which names the known ones; in a part of a case those of `parts`.
   CCaseFault Unknown(std::string_view key) const;
+  CCaseFault Unknown(std::string_view key, const CRule& parts) const;
   // The first thing wrong with a case.
   std::optional<CCaseFault> Check(const CCaseValues& values) const;
 
@@ -76,6 +79,7 @@ class CCaseSchema {
   CNeed Condition(const CJson& json) const;
   std::vector<int> Positions(const CJson& keys) const;
   void AddObject(const std::string& key, const CJson& json);
+  void AddPartKeys(const CJson& properties);
 
   std::vector<CRule> m_arrRule;
   std::vector<std::string> m_arrObject;

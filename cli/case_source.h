@@ -11,10 +11,11 @@
 namespace orv3::cli {
 
 struct CReadCase {
-  CCaseValues m_arrValue;             // by the keys of the schema
-  std::optional<CCaseFault> m_fault;  // why it could not be read
-  bool m_bSingle = false;             // the file is this one JSON object
-  double m_dDone = 0;                 // share of the file that has been read
+  CCaseValues m_arrValue;                   // by the keys of the schema
+  std::vector<CCaseValues> m_arrPart = {};  // of a key that takes parts, each by the same keys
+  std::optional<CCaseFault> m_fault;        // why it could not be read
+  bool m_bSingle = false;                   // the file is this one JSON object
+  double m_dDone = 0;                       // share of the file that has been read
 };
 // Takes a case, whose values point into the reader until the call returns.
 using CTakeCase = std::function<void(const CReadCase&)>;

@@ -1,41 +1,27 @@
 #include "check_member.h"
 
-#include <cmath>
+#include <algorithm>
 
-#include "case_output.h"
 #include "check_answers.h"
-#include "codes/edition.h"
-#include "edition_option.h"
-#include "framework/excerpt.h"
+#include "check_editions.h"
 #include "framework/utf8.h"
-#include "member_reader.h"
+#include "member_run.h"
 #include "progress.h"
 
 namespace orv3::cli {
 namespace {
 
-std::string CsvHead() {
-  std::string line = "case,id,code,pass,ratio,governs";
-  for (std::size_t i = 0; i < kMemberCheckKinds; ++i)
-    line += std::string(",") + MemberCheckName(static_cast<CMemberCheckKind>(i));
-  for (const CMemberResult& key : MemberResultKeys()) line += std::string(",") + key.m_szKey;
-  return line + ",warnings,refused\n";
-}
-
 class CMembers {
  public:
   explicit CMembers(const CMemberOptions& options)
       : m_options(options),
+        m_arrAsked(EditionsAsked(options.code)),
+        m_2017(CCodeEdition::Gb2017, options.language),
+        m_2003(CCodeEdition::Gb2003, options.language),
         m_answers(options.csv    ? CAnswerForm::Csv
                   : options.json ? CAnswerForm::Json
                                  : CAnswerForm::Table,
-                  options.sort, options.language, options.csv ? CsvHead() : "") {
-    if (YearAsked(options.code) == "both")
-      Refuse(CText{"--code：both 不用于构件；请给出 2017 或 2003，一次一个版本",
-                   "--code: both is not for members; give 2017 or 2003, one at a time"}
-                 .In(options.language));
-    m_check.SetEdition(EditionAsked(options.code));
-  }
+                  options.sort, options.language, options.csv ? CMemberRun::CsvHead() : "") {}
 
   CExit Run() {
     {
@@ -47,7 +33,7 @@ class CMembers {
     }
     if (m_nCases == 0) RefuseFile({"没有算例；请至少给一个", "holds no case; give one at least"});
     if (!m_bOne) m_answers.Finish();
-    if (m_bOne && m_fault) RefuseFile(m_fault->Text());
+    if (m_bOne && m_nRefused > 0) RefuseFile(m_firstFault.Text());
     if (m_nRefused > 0) {
       const std::string refused = std::to_string(m_nRefused), cases = std::to_string(m_nCases);
       RefuseFile({cases + " 个算例中有 " + refused + " 个被拒绝，第一个：" + m_strFirstFault,
@@ -64,108 +50,93 @@ class CMembers {
   void Check(const CReadCase& read) {
     ++m_nCases;
     m_bOne = read.m_bSingle && !m_options.csv;
-    m_fault = m_reader.Read(read, m_input);
-    if (!m_fault && !m_check.Run(m_input)) m_fault = m_check.Fault();
-    if (m_fault) {
-      CountFault();
-    } else if (!m_check.Pass()) {
+    const auto fault = m_reader.Read(read, m_member);
+    const auto editions = EditionsNamed(m_member.m_strCode, m_arrAsked);
+    m_arrRun.clear();
+    for (const CCodeEdition edition : editions)
+      m_arrRun.push_back(edition == CCodeEdition::Gb2017 ? &m_2017 : &m_2003);
+    if (m_member.m_strCode == "both") {
+      for (CMemberCase& each : m_member.m_arrCase) each.m_strCode.clear();
+    }
+    for (CMemberRun* run : m_arrRun) run->Run(m_member, fault);
+    Count();
+    Answer();
+  }
+
+  void Count() {
+    const auto refused =
+        std::find_if(m_arrRun.begin(), m_arrRun.end(), [](auto* run) { return run->Fault(); });
+    if (refused != m_arrRun.end()) {
+      if (m_nRefused++ > 0) return;
+      m_firstFault = *(*refused)->Fault();
+      const std::string number = std::to_string(m_nCases);
+      const CText which = {"第 " + number + " 个，", "case " + number + ", "};
+      m_strFirstFault = which.In(m_options.language) + m_firstFault.Line(m_options.language);
+    } else if (!AllPass()) {
       ++m_nFailed;
     }
-    if (m_bOne) return AnswerOne();
+  }
+
+  bool AllPass() const {
+    return std::all_of(m_arrRun.begin(), m_arrRun.end(), [](auto* run) { return run->Pass(); });
+  }
+  // The one of the greater ratio.
+  const CMemberRun& WorstRun() const {
+    return **std::max_element(m_arrRun.begin(), m_arrRun.end(), [](auto* left, auto* right) {
+      return left->Worst() < right->Worst();
+    });
+  }
+
+  void Answer() {
+    if (m_bOne) {
+      // Refused by the one edition it is not answered; by one of both, the other is.
+      if (m_arrRun.size() == 1 && m_arrRun[0]->Fault() != nullptr) return;
+      if (m_options.json) return PrintJson(Json());
+      for (const CMemberRun* run : m_arrRun) Print((run == m_arrRun[0] ? "" : "\n") + run->Text());
+      return;
+    }
+    const double worst = WorstRun().Worst();
     switch (m_answers.Form()) {
-      case CAnswerForm::Csv:
-        return m_answers.AddLine(Worst(), Csv());
-      case CAnswerForm::Json:
-        return m_answers.AddJson(Worst(), Json());
-      case CAnswerForm::Table:
-        return m_answers.AddRows(Worst(), {Row()});
+      case CAnswerForm::Csv: {
+        std::string lines;
+        for (const CMemberRun* run : m_arrRun) run->AppendCsv(m_nCases, lines);
+        return m_answers.AddLine(worst, std::move(lines));
+      }
+      case CAnswerForm::Json: {
+        CJson answer = {{"case", m_nCases}};
+        if (!m_member.m_strId.empty()) answer["id"] = m_member.m_strId;
+        answer.update(Json());
+        return m_answers.AddJson(worst, answer);
+      }
+      case CAnswerForm::Table: {
+        std::vector<std::vector<std::string>> rows;
+        for (const CMemberRun* run : m_arrRun) rows.push_back(run->Row(m_nCases));
+        return m_answers.AddRows(worst, std::move(rows));
+      }
     }
   }
 
-  void CountFault() {
-    if (m_nRefused++ > 0) return;
-    const std::string number = std::to_string(m_nCases);
-    const CText which = {"第 " + number + " 个，", "case " + number + ", "};
-    m_strFirstFault = which.In(m_options.language) + m_fault->Line(m_options.language);
-  }
-
-  void AnswerOne() const {
-    if (m_fault) return;
-    if (m_options.json) {
-      PrintJson(MemberJson(m_check, m_options.language));
-    } else {
-      Print(MemberText(m_check, m_options.language));
-    }
-  }
-
-  double Worst() const {
-    const double worst = m_fault ? HUGE_VAL : m_check.Answer().Worst().m_dRatio;
-    return std::isnan(worst) ? HUGE_VAL : worst;
-  }
-
-  std::string Csv() const {
-    std::string line = std::to_string(m_nCases) + ',';
-    AppendCsv(line, m_input.m_strId);
-    if (m_fault) {
-      line.append(kMemberCheckKinds + MemberResultKeys().size() + 6, ',');
-      AppendCsv(line, m_fault->Line(m_options.language));
-      return line + '\n';
-    }
-    const CMemberAnswer& answer = m_check.Answer();
-    line += std::string(",") + EditionFacts(m_check.Edition()).m_szYear + ',';
-    AppendCsv(line, m_check.Pass());
-    line += ',';
-    AppendCsv(line, answer.Worst().m_dRatio);
-    line += std::string(",") + MemberCheckName(answer.Worst().m_nKind);
-    for (std::size_t i = 0; i < kMemberCheckKinds; ++i) {
-      line += ',';
-      AppendCsv(line, answer.Ratio(static_cast<CMemberCheckKind>(i)));
-    }
-    for (const CMemberResult& key : MemberResultKeys()) {
-      line += ',';
-      AppendCsv(line, answer.m_results.*key.m_pField);
-    }
-    line += ',';
-    AppendCsv(line, NoteLine(answer, m_options.language));
-    return line + ",\n";
-  }
-
+  // Of both editions: both pass, and the greater ratio.
   CJson Json() const {
-    CJson answer = {{"case", m_nCases}};
-    if (!m_input.m_strId.empty()) answer["id"] = m_input.m_strId;
-    if (m_fault) {
-      answer["refused"] = m_fault->Line(m_options.language);
-    } else {
-      answer.update(MemberJson(m_check, m_options.language));
-    }
-    return answer;
-  }
-
-  std::vector<std::string> Row() const {
-    static constexpr CTextLiteral kRefused = {"拒绝", "refused"};
-    const std::string year = m_fault ? "" : EditionFacts(m_check.Edition()).m_szYear;
-    std::vector<std::string> row = {std::to_string(m_nCases), Excerpt(m_input.m_strId), year};
-    if (m_fault) {
-      row.insert(row.end(),
-                 {kRefused.In(m_options.language), "", m_fault->Line(m_options.language)});
-      return row;
-    }
-    const CMemberCheckPart& worst = m_check.Answer().Worst();
-    row.insert(row.end(),
-               {VerdictText(m_check.Pass(), m_options.language), PercentText(worst.m_dRatio),
-                MemberCheckTitle(worst.m_nKind).In(m_options.language),
-                std::to_string(m_check.Answer().Notes().size())});
-    return row;
+    if (m_arrRun.size() == 1) return m_arrRun[0]->Json();
+    CJson json = {{"code", "both"}, {"pass", AllPass()}};
+    const CJson worst = WorstRun().Json();
+    for (const char* key : {"ratio", "governs"})
+      if (worst.contains(key)) json[key] = worst[key];
+    for (const CMemberRun* run : m_arrRun) json["editions"].push_back(run->Json());
+    return json;
   }
 
   const CMemberOptions& m_options;
+  const std::vector<CCodeEdition> m_arrAsked;
   CMemberReader m_reader;
+  CMemberRun m_2017, m_2003;
+  std::vector<CMemberRun*> m_arrRun;  // of the member at hand
   CAnswers m_answers;
-  CMemberCheck m_check;
-  CMemberCase m_input;
-  std::optional<CCaseFault> m_fault;
-  bool m_bOne = false;
+  CReadMember m_member;
+  bool m_bOne = false;  // the file is one member, which is answered in full
   int m_nCases = 0, m_nFailed = 0, m_nRefused = 0;
+  CCaseFault m_firstFault;
   std::string m_strFirstFault;
 };
 

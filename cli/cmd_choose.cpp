@@ -31,20 +31,33 @@ struct COptions {
   CStoreOptions store;
 };
 
+bool HasSection(const CMemberCase& input) {
+  return !input.m_strTable.empty() || !input.m_strStyle.empty();
+}
+
+// Every case of the file, a member's combinations one after another.
 std::vector<CMemberCase> ReadMembers(const COptions& options) {
   const CMemberReader reader;
   std::vector<CMemberCase> cases;
+  std::size_t count = 0;
   ReadCases(options.file, reader.Schema(), MessageLanguage(), [&](const CReadCase& read) {
-    CMemberCase input;
-    auto fault = reader.Read(read, input);
-    if (!fault && (!input.m_strTable.empty() || !input.m_strStyle.empty()))
+    CReadMember member;
+    auto fault = reader.Read(read, member);
+    ++count;
+    if (!fault && std::any_of(member.m_arrCase.begin(), member.m_arrCase.end(), HasSection))
       fault =
           CCaseFault{"section", {"由本命令选取", "is what is chosen"}, {"请删去", "leave it out"}};
     if (fault) {
-      Refuse(Visible(options.file) + ": case " + std::to_string(cases.size() + 1) + ", " +
+      const std::string number = std::to_string(count);
+      Refuse(Visible(options.file) + Say("：第 {1} 个，", ": case {1}, ", {number}) +
              fault->Line(MessageLanguage()));
     }
-    cases.push_back(std::move(input));
+    for (CMemberCase& each : member.m_arrCase) {
+      if (member.m_bEnvelope)
+        each.m_strId =
+            (member.m_strId.empty() ? std::to_string(count) : member.m_strId) + '/' + each.m_strId;
+      cases.push_back(std::move(each));
+    }
   });
   if (cases.empty())
     Refuse(Visible(options.file) + ": " +

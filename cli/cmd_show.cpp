@@ -91,11 +91,11 @@ void WriteIfc(const COptions& options, const CDataItem& row) {
 void RunShow(const COptions& options, bool spaced) {
   CDataItem row = RowOf(options);
   if (spaced) row = WithGap(row, options);
-  if (!options.svg.empty()) WriteFile(options.svg, RowPictureSvg(row, options.turn));
+  const CExactProperties exact = ExactProperties(row);
+  if (!options.svg.empty()) WriteFile(options.svg, RowPictureSvg(row, options.turn, &exact));
   if (!options.dxf.empty()) WriteDxf(options, row);
   if (!options.ifc.empty()) WriteIfc(options, row);
   const CRowFigures figures = RowFigures(row, options.turn);
-  const CExactProperties exact = ExactProperties(row);
   if (options.json) {
     CJson json = RowJson(row, figures);
     AddExactJson(json, exact);

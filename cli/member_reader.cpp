@@ -1,155 +1,102 @@
 #include "member_reader.h"
 
 #include <algorithm>
-#include <cmath>
 #include <stdexcept>
 
-#include "case_output.h"
-#include "codes/edition.h"
-#include "error.h"
+#include "case_reader.h"
+#include "framework/excerpt.h"
 #include "schemas.h"
 
 namespace orv3::cli {
+namespace {
 
-CMemberReader::CMemberReader() : m_schema(kMemberSchema) {
+// What a combination may share with the others, of the keys that it may give.
+bool IsShared(std::string_view key) { return key == "id" || key == "load" || key == "loadFlange"; }
+
+}  // namespace
+
+CMemberReader::CMemberReader() : m_schema(SchemaOf("member")) {
   for (const auto& rule : m_schema.Rules()) {
     const auto keys = MemberInputKeys();
     const auto key = std::find_if(keys.begin(), keys.end(),
                                   [&](const auto& each) { return rule.m_strKey == each.m_szKey; });
-    if (key == keys.end()) throw std::logic_error("schema: no field for " + rule.m_strKey);
-    m_arrKey.push_back(&*key);
+    if (!rule.m_arrPartKey.empty()) m_pParts = &rule;
+    if (key == keys.end() && rule.m_arrPartKey.empty() && SheetField(rule.m_strKey) == nullptr)
+      throw std::logic_error("schema: no field for " + rule.m_strKey);
+    m_arrKey.push_back(key == keys.end() ? nullptr : &*key);
   }
 }
 
-std::optional<CCaseFault> CMemberReader::Read(const CReadCase& read, CMemberCase& input) const {
-  input = {};
+std::string CMemberReader::TextAt(const CCaseValues& values, std::string_view key) const {
+  const auto& value = values[static_cast<std::size_t>(m_schema.Find(key))];
+  const auto* text = value ? std::get_if<std::string_view>(&*value) : nullptr;
+  return text != nullptr ? std::string(*text) : "";
+}
+
+std::optional<CCaseFault> CMemberReader::Read(const CReadCase& read, CReadMember& member) const {
   const CCaseValues& values = read.m_arrValue;
-  const auto id = static_cast<std::size_t>(m_schema.Find("id"));
-  if (values[id]) SetInput(input, *m_arrKey[id], *values[id]);
+  member.m_strId = TextAt(values, "id");
+  member.m_strCode = TextAt(values, kCodeKey);
+  member.m_sheet = SheetOf(m_schema, values);
+  member.m_arrCase.clear();
+  member.m_bEnvelope =
+      values[static_cast<std::size_t>(m_schema.Find(m_pParts->m_strKey))].has_value();
   if (read.m_fault) return read.m_fault;
   if (auto fault = m_schema.Check(values)) return fault;
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    if (values[i] && !SetInput(input, *m_arrKey[i], *values[i])) {
-      const auto& rule = m_schema.Rules()[i];
-      return CCaseFault{rule.m_strKey, {"不可用", "is not possible"}, rule.Right()};
+  if (member.m_bEnvelope) return ReadCombinations(read, member);
+  return ReadCase(values, member.m_arrCase.emplace_back());
+}
+
+std::optional<CCaseFault> CMemberReader::ReadCombinations(const CReadCase& read,
+                                                          CReadMember& member) const {
+  const std::string& cases = m_pParts->m_strKey;
+  if (read.m_arrPart.empty())
+    return CCaseFault{
+        cases, {"没有组合", "holds no combination"}, {"请至少给一个", "give one at least"}};
+  for (const int key : m_pParts->m_arrPartKey) {
+    const std::string& name = m_schema.Rules()[static_cast<std::size_t>(key)].m_strKey;
+    if (read.m_arrValue[static_cast<std::size_t>(key)] && !IsShared(name)) {
+      return CCaseFault{name,
+                        {"与 cases 同给", "stands beside cases"},
+                        {"请在 cases 的各组合中给出", "give it in each of the cases"}};
     }
+  }
+  for (const CCaseValues& part : read.m_arrPart) {
+    CCaseValues values = read.m_arrValue;
+    for (const int key : m_pParts->m_arrPartKey) {
+      const auto at = static_cast<std::size_t>(key);
+      if (part[at]) values[at] = part[at];
+    }
+    std::string name = TextAt(part, "id");
+    if (name.empty()) name = std::to_string(member.m_arrCase.size() + 1);
+    if (std::any_of(member.m_arrCase.begin(), member.m_arrCase.end(),
+                    [&](const CMemberCase& each) { return each.m_strId == name; })) {
+      return OfCombination(name, {"id",
+                                  {"出现两次", "stands twice"},
+                                  {"请给各组合不同的编号", "give each combination its own"}});
+    }
+    auto fault = m_schema.Check(values);
+    CMemberCase& input = member.m_arrCase.emplace_back();
+    if (!fault) fault = ReadCase(values, input);
+    if (fault) return OfCombination(name, std::move(*fault));
+    input.m_strId = name;
   }
   return std::nullopt;
 }
 
-std::string ClauseText(CCodeEdition edition, const char* clause) {
-  return std::string(EditionFacts(edition).m_szName) + " " + clause;
+std::optional<CCaseFault> CMemberReader::ReadCase(const CCaseValues& values,
+                                                  CMemberCase& input) const {
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    if (!values[i] || m_arrKey[i] == nullptr || SetInput(input, *m_arrKey[i], *values[i])) continue;
+    const auto& rule = m_schema.Rules()[i];
+    return CCaseFault{rule.m_strKey, {"不可用", "is not possible"}, rule.Right()};
+  }
+  return std::nullopt;
 }
 
-std::span<const CMemberResult> MemberResultKeys() {
-  using R = CMemberResults;
-  static constexpr CMemberResult kKeys[] = {
-      {"f", &R::m_dF, "N/mm²"},
-      {"fv", &R::m_dFv, "N/mm²"},
-      {"fy", &R::m_dFy, "N/mm²"},
-      {"epsilonK", &R::m_dEpsilonK, ""},
-      {"A", &R::m_dA, "mm²"},
-      {"lambdax", &R::m_dLambdaX, ""},
-      {"lambday", &R::m_dLambdaY, ""},
-      {"lambdaz", &R::m_dLambdaZ, ""},
-      {"lambdayz", &R::m_dLambdaYz, ""},
-      {"phix", &R::m_dPhiX, ""},
-      {"phiy", &R::m_dPhiY, ""},
-      {"phiz", &R::m_dPhiZ, ""},
-      {"phib", &R::m_dPhiB, ""},
-      {"gammax", &R::m_dGammaX, ""},
-      {"gammay", &R::m_dGammaY, ""},
-      {"betamx", &R::m_dBetaMx, ""},
-      {"betatx", &R::m_dBetaTx, ""},
-      {"betamy", &R::m_dBetaMy, ""},
-      {"betaty", &R::m_dBetaTy, ""},
-  };
-  return kKeys;
-}
-
-namespace {
-
-constexpr struct {
-  const char* m_szKey;
-  const char* CMemberResults::*m_pField;
-} kTexts[] = {{"class", &CMemberResults::m_szClass},
-              {"classx", &CMemberResults::m_szClassX},
-              {"classy", &CMemberResults::m_szClassY}};
-
-CJson StepsJson(const CMemberAnswer& answer, std::size_t first, std::size_t end) {
-  CJson steps = CJson::array();
-  for (std::size_t i = first; i < end; ++i) steps.push_back(answer.StepText(i));
-  return steps;
-}
-
-}  // namespace
-
-CJson MemberJson(const CMemberCheck& check, CLanguage language) {
-  const CMemberAnswer& answer = check.Answer();
-  CJson results = CJson::object();
-  for (const CMemberResult& key : MemberResultKeys()) {
-    const double value = answer.m_results.*key.m_pField;
-    if (!std::isnan(value)) results[key.m_szKey] = JsonNumber(value);
-  }
-  for (const auto& key : kTexts) {
-    const char* text = answer.m_results.*key.m_pField;
-    if (*text != 0) results[key.m_szKey] = text;
-  }
-  CJson checks = CJson::array();
-  for (const CMemberCheckPart& part : answer.Parts()) {
-    checks.push_back({{"name", MemberCheckName(part.m_nKind)},
-                      {"clause", ClauseText(check.Edition(), part.m_szClause)},
-                      {"ratio", JsonNumber(part.m_dRatio)},
-                      {"pass", part.m_bPass},
-                      {"steps", StepsJson(answer, part.m_nFirst, part.m_nEnd)}});
-  }
-  CJson warnings = CJson::array();
-  for (const CMemberNote note : answer.Notes())
-    warnings.push_back({{"key", MemberNoteKey(note)}, {"text", MemberNoteText(note).In(language)}});
-  return {{"code", EditionFacts(check.Edition()).m_szYear},
-          {"pass", check.Pass()},
-          {"ratio", JsonNumber(answer.Worst().m_dRatio)},
-          {"governs", MemberCheckName(answer.Worst().m_nKind)},
-          {"results", std::move(results)},
-          {"given", StepsJson(answer, 0, answer.Given().size())},
-          {"checks", std::move(checks)},
-          {"warnings", std::move(warnings)}};
-}
-
-std::string NoteLine(const CMemberAnswer& answer, CLanguage language) {
-  std::string line;
-  for (const CMemberNote note : answer.Notes())
-    line += (line.empty() ? "" : " | ") + std::string(MemberNoteText(note).In(language));
-  return line;
-}
-
-std::string MemberText(const CMemberCheck& check, CLanguage language) {
-  const CMemberAnswer& answer = check.Answer();
-  std::string text = std::string(EditionFacts(check.Edition()).m_szName) + " (" +
-                     EditionFacts(check.Edition()).m_status.In(language) + ")\n\n";
-  for (std::size_t i = 0; i < answer.Given().size(); ++i) text += answer.StepText(i) + '\n';
-  for (const CMemberCheckPart& part : answer.Parts()) {
-    text += '\n' + std::string(MemberCheckTitle(part.m_nKind).In(language)) + " (" +
-            MemberCheckName(part.m_nKind) + "), " + part.m_szClause + '\n';
-    for (std::size_t i = part.m_nFirst; i < part.m_nEnd; ++i)
-      text += "  " + answer.StepText(i) + '\n';
-  }
-  CTextTable parts({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left});
-  for (const CMemberCheckPart& part : answer.Parts()) {
-    parts.AddRow({MemberCheckTitle(part.m_nKind).In(language), part.m_szClause,
-                  PercentText(part.m_dRatio), VerdictText(part.m_bPass, language)});
-  }
-  text += '\n' + parts.Text();
-  std::vector<CCaseWarning> warnings;
-  for (const CMemberNote note : answer.Notes()) {
-    const CTextLiteral words = MemberNoteText(note);
-    warnings.push_back({MemberNoteKey(note), {words.m_szChinese, words.m_szEnglish}});
-  }
-  const CMemberCheckPart& worst = answer.Worst();
-  return text + VerdictLines(check.Edition(), check.Pass(),
-                             {MemberCheckTitle(worst.m_nKind), MemberCheckName(worst.m_nKind),
-                              worst.m_dRatio, worst.m_bPass},
-                             warnings, language);
+CCaseFault OfCombination(const std::string& name, CCaseFault fault) {
+  fault.m_strKey = "cases[" + Excerpt(name) + "]." + fault.m_strKey;
+  return fault;
 }
 
 }  // namespace orv3::cli

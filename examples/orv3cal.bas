@@ -8,7 +8,9 @@ Attribute VB_Name = "Orv3Cal"
 '   =OrvPairGeometry(B1, B2, 10, "Iy")            mm^4, of a pair whose parts stand 10 mm apart
 '   =OrvSteel("Q345", 20, "f")                    N/mm^2
 '   =OrvPhi(100, 235, "b")
-'   =OrvCheckBolt(D1:E19)                         keys in D, values in E; two columns of results
+'   =OrvCheck("bolt", D1:E19)                     keys in D, values in E; two columns of results
+'   =OrvCheck("fillet", D1:E11, "2003")           by the edition before, for existing structures
+'   =OrvCheckBolt(D1:E19)                         the same by 2003
 '   OrvPick                                       a macro: opens the browser
 '
 ' What a function cannot do is shown in its cell as a text that begins with "#".
@@ -44,6 +46,9 @@ Private Declare PtrSafe Function orv3_geometry Lib "Orv3CalDll.dll" ( _
 Private Declare PtrSafe Function orv3_pair_geometry Lib "Orv3CalDll.dll" ( _
     ByVal table As LongPtr, ByVal number As LongPtr, ByVal spacing As Double, _
     ByVal turn As Double, ByRef values As Double, ByVal room As Long) As Long
+Private Declare PtrSafe Function orv3_check Lib "Orv3CalDll.dll" ( _
+    ByVal kind As LongPtr, ByVal code As LongPtr, ByVal given As LongPtr, _
+    ByVal text As LongPtr, ByVal size As Long) As Long
 Private Declare PtrSafe Function orv3_check_bolt Lib "Orv3CalDll.dll" ( _
     ByVal given As LongPtr, ByVal text As LongPtr, ByVal size As Long) As Long
 Private Declare PtrSafe Function orv3_check_fillet Lib "Orv3CalDll.dll" ( _
@@ -143,6 +148,16 @@ Public Function OrvNumbers(table As String) As Variant
     text = String$(length + 1, vbNullChar)
     length = orv3_list_numbers(StrPtr(table), StrPtr(text), length + 1)
     OrvNumbers = Application.Transpose(Split(Left$(text, length), vbLf))
+End Function
+
+' kind: bolt, fillet, butt or weld-group; code: 2017 (in force, unless said) or 2003.
+Public Function OrvCheck(kind As String, given As Range, Optional code As String = "") As Variant
+    Dim text As String, list As String, length As Long
+    LoadOnce
+    list = KeysAndValues(given)
+    text = String$(8192, vbNullChar)
+    length = orv3_check(StrPtr(kind), StrPtr(code), StrPtr(list), StrPtr(text), 8192)
+    OrvCheck = Results(length, text)
 End Function
 
 Public Function OrvCheckBolt(given As Range) As Variant

@@ -117,6 +117,13 @@ class Orv3Cal:
                 results[key] = bool(int(value)) if key == "pass" else float(value)
         return results
 
+    def check(self, kind, code="", **case):
+        """kind: bolt, fillet, butt or weld-group; code: 2017 (in force, unless said) or 2003."""
+        def by_edition(*arguments):
+            return self._library.orv3_check(self._text(kind), self._text(code), *arguments)
+
+        return self._case(by_edition, case)
+
     def check_bolt(self, **case):
         return self._case(self._library.orv3_check_bolt, case)
 
@@ -161,11 +168,13 @@ def main():
     print(f"Q345, 20 mm: f = {orv3.steel_strength('Q345', 20):.0f} N/mm2; "
           f"class b at 100: phi = {orv3.phi(100, 235, 'b'):.3f}")
 
-    bolts = orv3.check_bolt(layout="grid", type="friction", cols=2, rows=4, colSpace=80,
-                            rowSpace=[70, 70, 80], d=20, nf=2, N=60, Vx=40, Vy=250, M=3000,
-                            T=15000, ex=50, ey=50, t=16, steel="Q345", surface=0, grade="10.9")
-    print(f"bolts: {'pass' if bolts['pass'] else 'FAIL'}, Nv = {bolts['Nv']:.1f} kN "
-          f"of Nvb = {bolts['Nvb']:.1f} kN")
+    group = dict(layout="grid", type="friction", cols=2, rows=4, colSpace=80,
+                 rowSpace=[70, 70, 80], d=20, nf=2, N=60, Vx=40, Vy=250, M=3000, T=15000, ex=50,
+                 ey=50, t=16, steel="Q345", surface=0, grade="10.9")
+    for code in ("2017", "2003"):
+        bolts = orv3.check("bolt", code, **group)
+        print(f"bolts by {code}: {'pass' if bolts['pass'] else 'FAIL'}, Nv = {bolts['Nv']:.1f} kN "
+              f"of Nvb = {bolts['Nvb']:.2f} kN")
     try:
         orv3.section("h", [300, 400, 10])
     except Orv3Error as error:

@@ -191,7 +191,8 @@ void CLatticeCheck::Lacing(double V) {
   const double reduction = std::min(1.0, 0.6 + 0.0015 * std::max(20.0, lambda));
   const double phi = Phi(lambda, CBucklingClass::B);
   const double area = s.m_dA1 / s.m_nPlanes;
-  a.Step("Nd", "V1 / sin θ", force, "N");
+  a.Step("θ", nullptr, s.m_dAngle, "°");
+  a.Step("Nd", "{V1}/sin({θ}°)", force, "N");
   a.Step("λd", nullptr, lambda);
   a.Step("φd", nullptr, phi);
   a.Step("η", nullptr, reduction);

@@ -76,11 +76,15 @@ class CSolidCheck {
   void BeamColumns();
   void BeamColumnX();
   void BeamColumnY();
+  void GiveBetaM(const char* symbol, const CMomentCourse& course, double beta, double Ncr);
+  void GiveBetaT(const char* symbol, const CMomentCourse& course, double beta);
   void TubeTwoMoments();
   CBeamSection BeamSection() const;
   template <class VALUE>
   const VALUE* Take(const char* key, const CCodeAnswer<VALUE>& answer);
   double UniformPhiB(double lambdaY);
+  double GiveWeldedIPhiB(const CBeamSection& section, double lambdaY, double beta);
+  double GivePhiB(const CPhiB& phiB, const char* elastic);
   double BeamColumnPhiB();
   double BeamBetaB(const CBeamSection& section);
   double BeamPhiB();
@@ -92,10 +96,15 @@ class CSolidCheck {
   bool HasMoment() const noexcept { return !q.m_x.IsZero() || !q.m_y.IsZero(); }
   bool IsBiaxial() const noexcept { return !q.m_x.IsZero() && !q.m_y.IsZero(); }
   bool HasLoad() const noexcept { return q.m_x.HasLoad() || q.m_y.HasLoad(); }
-  // The greater resultant of one end: the greatest of both axes without a load.
-  double EndResultant() const noexcept {
-    return std::max(std::hypot(q.m_x.AtStart(), q.m_y.AtStart()),
-                    std::hypot(q.m_x.AtEnd(), q.m_y.AtEnd()));
+  // Those of the end with the greater resultant.
+  struct CEndMoments {
+    double m_dX, m_dY;  // in magnitude
+    double Resultant() const noexcept { return std::hypot(m_dX, m_dY); }
+  };
+  CEndMoments EndMoments() const noexcept {
+    const CEndMoments start = {std::fabs(q.m_x.AtStart()), std::fabs(q.m_y.AtStart())};
+    const CEndMoments end = {std::fabs(q.m_x.AtEnd()), std::fabs(q.m_y.AtEnd())};
+    return start.Resultant() >= end.Resultant() ? start : end;
   }
   // The row "upper flange" of the tables: a load with Mx below 0 acts upwards, so that on the upper
   // flange it draws away from the centroid.

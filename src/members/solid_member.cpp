@@ -160,11 +160,11 @@ void CSolidCheck::TorsionalSlendernesses() {
     if (s.m_nShape == CMemberShape::Channel) {
       m_dLambdaFx = FlexuralTorsionalSlenderness(r.m_dLambdaX, r.m_dLambdaZ, e, i02);
       r.m_dLambdaYz = m_dLambdaFx;
-      a.Step("λxz", "√(½[({λx}² + {λz}²) + √(({λx}² + {λz}²)² − 4(1 − {e}²/{i0²})·{λx}²·{λz}²)])",
+      a.Step("λxz", "√(({λx}² + {λz}² + √(({λx}² + {λz}²)² − 4·(1 − {e}²/{i0²})·{λx}²·{λz}²))/2)",
              m_dLambdaFx);
     } else {
       r.m_dLambdaYz = FlexuralTorsionalSlenderness(r.m_dLambdaY, r.m_dLambdaZ, e, i02);
-      a.Step("λyz", "√(½[({λy}² + {λz}²) + √(({λy}² + {λz}²)² − 4(1 − {e}²/{i0²})·{λy}²·{λz}²)])",
+      a.Step("λyz", "√(({λy}² + {λz}² + √(({λy}² + {λz}²)² − 4·(1 − {e}²/{i0²})·{λy}²·{λz}²))/2)",
              r.m_dLambdaYz);
     }
     return;
@@ -184,18 +184,18 @@ void CSolidCheck::TorsionalSlendernesses() {
       const char* m_szForm;
     };
     static constexpr CFactors kFactors[] = {
-        {4.21, 0.25, "4.21·{b}/{t}", "{λ>}·[1 + 0.25·({λ<}/{λ>})²]"},
-        {3.9, 0.16, "3.9·{b}/{t}", "{λ>}·[1 + 0.16·({λ<}/{λ>})²]"},
-        {5.1, 0.25, "5.1·{b}/{t}", "{λ>}·[1 + 0.25·({λ<}/{λ>})²]"},
-        {3.7, 0.06, "3.7·{b}/{t}", "{λ>}·[1 + 0.06·({λ<}/{λ>})²]"},
+        {4.21, 0.25, "4.21·{b}/{t}", "{λ>}·(1 + 0.25·({λ<}/{λ>})²)"},
+        {3.9, 0.16, "3.9·{b}/{t}", "{λ>}·(1 + 0.16·({λ<}/{λ>})²)"},
+        {5.1, 0.25, "5.1·{b}/{t}", "{λ>}·(1 + 0.25·({λ<}/{λ>})²)"},
+        {3.7, 0.06, "3.7·{b}/{t}", "{λ>}·(1 + 0.06·({λ<}/{λ>})²)"},
     };
     const CFactors& f =
         kFactors[static_cast<int>(s.m_nShape) - static_cast<int>(CMemberShape::Angle)];
     r.m_dLambdaZ = f.m_dZ * b / t;
     r.m_dLambdaYz = AngleSlenderness2017(r.m_dLambdaY, r.m_dLambdaZ, f.m_dShare);
     a.Step("λz", f.m_szZ, r.m_dLambdaZ);
-    a.Step("λ>", nullptr, std::max(r.m_dLambdaY, r.m_dLambdaZ));
-    a.Step("λ<", nullptr, std::min(r.m_dLambdaY, r.m_dLambdaZ));
+    a.Step("λ>", "max({λy}, {λz})", std::max(r.m_dLambdaY, r.m_dLambdaZ));
+    a.Step("λ<", "min({λy}, {λz})", std::min(r.m_dLambdaY, r.m_dLambdaZ));
     a.Step("λyz", f.m_szForm, r.m_dLambdaYz);
     return;
   }
@@ -206,7 +206,12 @@ void CSolidCheck::TorsionalSlendernesses() {
     const double l = std::max(q.m_dLx, q.m_dLy);
     r.m_dLambdaYz = AngleSlenderness2003(kSingleAngle2003, l / iu, b, t, l);
     a.Step("iu", nullptr, iu, "mm");
-    a.Step("λuz", "{l0}/{iu}, {b}, {t} (5.1.2)", r.m_dLambdaYz);
+    a.Step("λu", "{l0}/{iu}", l / iu);
+    const bool bSlender = b / t <= kSingleAngle2003.m_dLimit * l / b;
+    a.Step("λuz",
+           bSlender ? "{λu}·(1 + 0.85·{b}⁴/({l0}²·{t}²))"
+                    : "4.78·{b}/{t}·(1 + {l0}²·{t}²/(13.5·{b}⁴))",
+           r.m_dLambdaYz);
     return;
   }
   const CAngleFactors2003& f = s.m_nShape == CMemberShape::EqualPair     ? kEqualPair2003

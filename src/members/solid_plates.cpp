@@ -192,7 +192,7 @@ void CSolidCheck::GiveEffective(double alpha0, bool bWeb, double h0, double tw) 
     a.Step("kσ", "16/(2 − {α0} + √((2 − {α0})² + 0.112·{α0}²))", e.m_dKSigma);
     a.Step("h0", nullptr, h0, "mm");
     a.Step("tw", nullptr, tw, "mm");
-    a.Step("λn,p", "{h0}/{tw}/(28.1·√{kσ})/{εk}", e.m_dLambdaNp);
+    a.Step("λn,p", "{h0}/{tw}/(28.1·√({kσ}))/{εk}", e.m_dLambdaNp);
     a.Step("ρ", e.m_dRho < 1 ? "(1 − 0.19/{λn,p})/{λn,p}" : nullptr, e.m_dRho);
     a.Step("hc", nullptr, e.m_dHc, "mm");
   }

@@ -65,8 +65,6 @@ void CSolidCheck::BeamColumns() {
   m_dWy = m_effective ? m_effective->m_dWSide : s.m_dWSide;
   const bool bClosed = IsClosed(s.m_nShape);
   m_dEta = bClosed ? 0.7 : 1;
-  r.m_dPhiB = bClosed || q.m_x.IsZero() ? 1 : BeamColumnPhiB();
-  if (a.IsRefused()) return;
   const double NcrX = EulerForce(s.m_dA, r.m_dLambdaX), NcrY = EulerForce(s.m_dA, r.m_dLambdaY);
   m_inX = InPlaneMoment(m.m_nEdition, q.m_x, m_dNc, NcrX, q.m_bSway);
   m_inY = InPlaneMoment(m.m_nEdition, q.m_y, m_dNc, NcrY, q.m_bSway);
@@ -84,6 +82,38 @@ void CSolidCheck::BeamColumns() {
     a.Note(CMemberNote::SwayWithLoad);
   BeamColumnX();
   BeamColumnY();
+}
+
+// beta-m or beta-t with the end moments or the force that they follow from.
+void CSolidCheck::GiveBetaM(const char* symbol, const CMomentCourse& c, double beta, double Ncr) {
+  if (Is2017() && q.m_bSway) {
+    a.Step("Ncr", nullptr, Ncr, "N");
+    return a.Step(symbol, "1 − 0.36·{N}/{Ncr}", beta);
+  }
+  if (!q.m_bSway && c.HasEnds() && !c.HasLoad()) {
+    a.Step("k", nullptr, c.EndRatio());
+    return a.Step(symbol, Is2017() ? "0.6 + 0.4·{k}" : "0.65 + 0.35·{k}", beta);
+  }
+  if (!Is2017() || !c.HasLoad()) return a.Step(symbol, nullptr, beta);
+  const bool bPoint = c.m_nLoad == CSpanLoad::Midspan;
+  a.Step("Ncr", nullptr, Ncr, "N");
+  if (!c.HasEnds())
+    return a.Step(symbol, bPoint ? "1 − 0.36·{N}/{Ncr}" : "1 − 0.18·{N}/{Ncr}", beta);
+  const double share = m_dNc / Ncr;
+  a.Step("βmq", bPoint ? "1 − 0.36·{N}/{Ncr}" : "1 − 0.18·{N}/{Ncr}",
+         1 - (bPoint ? 0.36 : 0.18) * share);
+  a.Step("k", nullptr, c.EndRatio());
+  a.Step("βm1", "0.6 + 0.4·{k}", 0.6 + 0.4 * c.EndRatio());
+  a.Step("Mq", nullptr, c.m_dMq, "N·mm");
+  a.Step("M1", nullptr, c.m_dM1, "N·mm");
+  a.Step("M", nullptr, std::fabs(c.Governing()), "N·mm");
+  a.Step(symbol, c.Governing() == 0 ? nullptr : "|{βmq}·{Mq} + {βm1}·{M1}|/{M}", beta);
+}
+
+void CSolidCheck::GiveBetaT(const char* symbol, const CMomentCourse& c, double beta) {
+  if (c.HasLoad() || !c.HasEnds()) return a.Step(symbol, nullptr, beta);
+  a.Step("k", nullptr, c.EndRatio());
+  a.Step(symbol, "0.65 + 0.35·{k}", beta);
 }
 
 // About x in the plane of Mx, with what My adds.
@@ -105,7 +135,7 @@ void CSolidCheck::BeamColumnX() {
   double ratio = axial + inPlane + across;
   if (!q.m_x.IsZero()) {
     a.Step("N′Ex", "π²·206000·{A}/(1.1·{λx}²)", NE, "N");
-    a.Step("βmx", nullptr, m_inX.m_dBeta);
+    GiveBetaM("βmx", q.m_x, m_inX.m_dBeta, 1.1 * NE);
     a.Step("Mx", nullptr, m_inX.m_dM, "N·mm");
     a.Step("γx", nullptr, r.m_dGammaX);
     a.Step("W1x", nullptr, m_dW1, "mm³");
@@ -116,7 +146,7 @@ void CSolidCheck::BeamColumnX() {
   }
   if (!q.m_y.IsZero()) {
     a.Step("η", nullptr, m_dEta);
-    a.Step("βty", nullptr, m_outY.m_dBeta);
+    GiveBetaT("βty", q.m_y, m_outY.m_dBeta);
     a.Step("My", nullptr, m_outY.m_dM, "N·mm");
     a.Step("Wy", nullptr, m_dWy, "mm³");
     a.Step("across",
@@ -150,6 +180,8 @@ void CSolidCheck::BeamColumnY() {
   a.Open(CMemberCheckKind::StabilityY, bMy && !q.m_x.IsZero() ? Clause("8.2.5", "5.2.5")
                                        : m_effective          ? "8.4.2"
                                                               : Clause("8.2.1", "5.2.2"));
+  r.m_dPhiB = IsClosed(s.m_nShape) || q.m_x.IsZero() ? 1 : BeamColumnPhiB();
+  if (a.IsRefused()) return;
   const double NE = ReducedEulerForce(s.m_dA, r.m_dLambdaY);
   const double axial = AxialTerm(m_dNc, r.m_dPhiY, m_dAe, F());
   const double M = m_outX.m_dMoment + m_dNc * m_dShiftX;
@@ -162,9 +194,9 @@ void CSolidCheck::BeamColumnY() {
   a.Step("axial", "{N}/({φy}·{Ae}·{f})", axial);
   if (!q.m_x.IsZero()) {
     a.Step("η", nullptr, m_dEta);
-    a.Step("βtx", nullptr, m_outX.m_dBeta);
+    GiveBetaT("βtx", q.m_x, m_outX.m_dBeta);
     a.Step("Mx", nullptr, m_outX.m_dM, "N·mm");
-    a.Step("φb", nullptr, r.m_dPhiB);
+    if (IsClosed(s.m_nShape)) a.Step("φb", nullptr, r.m_dPhiB);
     a.Step("W1x", nullptr, m_dW1, "mm³");
     a.Step("across",
            m_effective ? "{η}·({βtx}·{Mx} + {N}·{e})/({φb}·{W1x}·{f})"
@@ -173,7 +205,7 @@ void CSolidCheck::BeamColumnY() {
   }
   if (bMy) {
     a.Step("N′Ey", "π²·206000·{A}/(1.1·{λy}²)", NE, "N");
-    a.Step("βmy", nullptr, m_inY.m_dBeta);
+    GiveBetaM("βmy", q.m_y, m_inY.m_dBeta, 1.1 * NE);
     a.Step("My", nullptr, m_inY.m_dM, "N·mm");
     a.Step("γy", nullptr, r.m_dGammaY);
     a.Step("Wy", nullptr, m_dWy, "mm³");
@@ -198,7 +230,8 @@ void CSolidCheck::TubeTwoMoments() {
   const auto beta = [&](const CMomentCourse& c) {
     return 1 - 0.35 * root + 0.35 * root * c.EndRatio();
   };
-  const double M = bLoad ? std::hypot(m_dMx, m_dMy) : EndResultant();
+  const CEndMoments end = bLoad ? CEndMoments{std::fabs(m_dMx), m_dMy} : EndMoments();
+  const double M = end.Resultant();
   const double equivalent = bLoad ? 1 : beta(q.m_x) * beta(q.m_y);
   if (bLoad) a.Note(CMemberNote::TubeLoads);
   const double NEr = ReducedEulerForce(s.m_dA, lambda);
@@ -210,8 +243,18 @@ void CSolidCheck::TubeTwoMoments() {
   a.Step("λ", nullptr, lambda);
   a.Step("NE", "π²·206000·{A}/{λ}²", NE, "N");
   a.Step("N′E", "{NE}/1.1", NEr, "N");
-  a.Step("β", bLoad ? nullptr : "βx·βy", equivalent);
-  a.Step("M", nullptr, M, "N·mm");
+  if (bLoad) {
+    a.Step("β", nullptr, equivalent);
+  } else {
+    a.Step("kx", nullptr, q.m_x.EndRatio());
+    a.Step("ky", nullptr, q.m_y.EndRatio());
+    a.Step("βx", "1 − 0.35·√({N}/{NE}) + 0.35·√({N}/{NE})·{kx}", beta(q.m_x));
+    a.Step("βy", "1 − 0.35·√({N}/{NE}) + 0.35·√({N}/{NE})·{ky}", beta(q.m_y));
+    a.Step("β", "{βx}·{βy}", equivalent);
+  }
+  a.Step("Mx", nullptr, end.m_dX, "N·mm");
+  a.Step("My", nullptr, end.m_dY, "N·mm");
+  a.Step("M", "√({Mx}² + {My}²)", M, "N·mm");
   a.Step("γm", nullptr, r.m_dGammaX);
   a.Step("W", nullptr, s.m_dWTop, "mm³");
   a.Close("{N}/({φ}·{A}·{f}) + {β}·{M}/({γm}·{W}·(1 − 0.8·{N}/{N′E})·{f})", axial + bending);
@@ -259,9 +302,48 @@ double CSolidCheck::UniformPhiB(double lambdaY) {
       }
     }
   }
-  const auto answer = UniformBendingPhiB(m.m_nEdition, m.m_nGrade, shape, lambdaY, BeamSection());
+  const CBeamSection section = BeamSection();
+  const auto answer = UniformBendingPhiB(m.m_nEdition, m.m_nGrade, shape, lambdaY, section);
   const double* phiB = Take("lengths.span", answer);
-  return phiB != nullptr ? *phiB : 1;
+  if (phiB == nullptr) return 1;
+  const char* form = "min(1, 1.07 − {λ1y}²/(44000·{εk}²))";
+  if (shape == CUniformBendingShape::ISingly) {
+    a.Step("αb", nullptr, section.m_dAlphaB);
+    a.Step("h", nullptr, section.m_dH, "mm");
+    a.Step("W1x", nullptr, section.m_dWx, "mm³");
+    form = "min(1, 1.07 − {W1x}/((2·{αb} + 0.1)·{A}·{h})·{λ1y}²/(14000·{εk}²))";
+  } else if (shape == CUniformBendingShape::TPlates) {
+    form = "1 − 0.0022·{λ1y}/{εk}";
+  } else if (shape == CUniformBendingShape::TFlangeTension) {
+    form = "1 − 0.0005·{λ1y}/{εk}";
+  }
+  a.Step("φb", form, *phiB);
+  return *phiB;
+}
+
+// C.0.1, its steps; those of beta-b stand before.
+double CSolidCheck::GiveWeldedIPhiB(const CBeamSection& section, double lambdaY, double beta) {
+  const auto answer = WeldedIPhiB(m.m_nEdition, m.m_nGrade, section, lambdaY, beta);
+  const CPhiB* phiB = Take("lengths.span", answer);
+  if (phiB == nullptr) return 1;
+  const double alpha = section.m_dAlphaB;
+  a.Step("βb", nullptr, beta);
+  a.Step("h", nullptr, section.m_dH, "mm");
+  a.Step("t1", nullptr, section.m_dT1, "mm");
+  a.Step("W1x", nullptr, section.m_dWx, "mm³");
+  a.Step("αb", nullptr, alpha);
+  a.Step("ηb", alpha > 0.5 ? "0.8·(2·{αb} − 1)" : "2·{αb} − 1",
+         (alpha > 0.5 ? 0.8 : 1.0) * (2 * alpha - 1));
+  return GivePhiB(*phiB,
+                  "{βb}·4320/{λ1y}²·{A}·{h}/{W1x}·(√(1 + ({λ1y}·{t1}/(4.4·{h}))²) + {ηb})·{εk}²");
+}
+
+// The elastic phi-b, and what is used of it.
+double CSolidCheck::GivePhiB(const CPhiB& phiB, const char* elastic) {
+  const bool bReduced = phiB.m_dPhiB != phiB.m_dElastic;
+  a.Step(bReduced ? "φb0" : "φb", elastic, phiB.m_dElastic);
+  if (bReduced) a.Step("φb", "min(1, 1.07 − 0.282/{φb0})", phiB.m_dPhiB);
+  return phiB.m_dPhiB;
 }
 
 // C.0.5 where it applies, else C.0.1 with beta-b 1.
@@ -269,13 +351,8 @@ double CSolidCheck::BeamColumnPhiB() {
   const double lambdaY = q.m_dSpan / s.m_dRy;
   a.Step("l1", nullptr, q.m_dSpan, "mm");
   a.Step("λ1y", "{l1}/{iy}", lambdaY);
-  double phiB = 1;
-  if (s.m_nShape == CMemberShape::T || lambdaY <= 120 * r.m_dEpsilonK) {
-    phiB = UniformPhiB(lambdaY);
-  } else {
-    phiB = WeldedIPhiB(m.m_nEdition, m.m_nGrade, BeamSection(), lambdaY, 1)->m_dPhiB;
-  }
-  return phiB;
+  if (s.m_nShape == CMemberShape::T || lambdaY <= 120 * r.m_dEpsilonK) return UniformPhiB(lambdaY);
+  return GiveWeldedIPhiB(BeamSection(), lambdaY, 1);
 }
 
 // beta-b: by the load, by the end moments, or the lesser of both.
@@ -293,7 +370,10 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
     const CBeamLoad kind =
         bPoint ? (IsLoadTowardsCentroid() ? CBeamLoad::PointUpper : CBeamLoad::PointLower)
                : (IsLoadTowardsCentroid() ? CBeamLoad::UniformUpper : CBeamLoad::UniformLower);
-    a.Step("ξ", nullptr, xi);
+    a.Step("b1", nullptr, flange.m_dWidth, "mm");
+    a.Step("t1", nullptr, flange.m_dThick, "mm");
+    a.Step("h", nullptr, section.m_dH, "mm");
+    a.Step("ξ", "{l1}·{t1}/({b1}·{h})", xi);
     const auto answer = BetaB(m.m_nEdition, kind, q.m_nSupports, xi, section.m_dAlphaB);
     const double* beta = Take("load", answer);
     if (beta == nullptr) return 1;
@@ -310,10 +390,14 @@ double CSolidCheck::BeamPhiB() {
     const auto answer = ChannelPhiB(m.m_nEdition, m.m_nGrade, s.m_dHeight, s.m_top.m_dWidth,
                                     s.m_top.m_dThick, q.m_dSpan);
     const CPhiB* phiB = Take("lengths.span", answer);
-    return phiB != nullptr ? phiB->m_dPhiB : 1;
+    if (phiB == nullptr) return 1;
+    a.Step("h", nullptr, s.m_dHeight, "mm");
+    a.Step("b", nullptr, s.m_top.m_dWidth, "mm");
+    a.Step("t", nullptr, s.m_top.m_dThick, "mm");
+    return GivePhiB(*phiB, "570·{b}·{t}/({l1}·{h})·{εk}²");
   }
   const double lambdaY = q.m_dSpan / s.m_dRy;
-  a.Step("λy", "{l1}/{iy}", lambdaY);
+  a.Step("λ1y", "{l1}/{iy}", lambdaY);
   if (s.m_nShape == CMemberShape::T) return UniformPhiB(lambdaY);
   if (q.m_dRolledNumber > 0 && c.HasLoad() && !c.HasEnds()) {
     const CRolledILoad load =
@@ -326,21 +410,13 @@ double CSolidCheck::BeamPhiB() {
     if (q.m_dSpan < 1000 * kShortest) a.Note(CMemberNote::RolledIShort);
     const auto answer = RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber, span);
     const CPhiB* phiB = Take("lengths.span", answer);
-    return phiB != nullptr ? phiB->m_dPhiB : 1;
+    return phiB != nullptr ? GivePhiB(*phiB, nullptr) : 1;
   }
   if (q.m_bTapered) a.Note(CMemberNote::RolledITable);
   const CBeamSection section = BeamSection();
   const double beta = BeamBetaB(section);
   if (a.IsRefused()) return 1;
-  a.Step("βb", nullptr, beta);
-  a.Step("h", nullptr, section.m_dH, "mm");
-  a.Step("t1", nullptr, section.m_dT1, "mm");
-  a.Step("αb", nullptr, section.m_dAlphaB);
-  const auto answer = WeldedIPhiB(m.m_nEdition, m.m_nGrade, section, lambdaY, beta);
-  const CPhiB* phiB = Take("lengths.span", answer);
-  if (phiB == nullptr) return 1;
-  a.Step("φb (elastic)", nullptr, phiB->m_dElastic);
-  return phiB->m_dPhiB;
+  return GiveWeldedIPhiB(section, lambdaY, beta);
 }
 
 // 6.2.2, 6.2.3; 2003: 4.2.2, 4.2.3. Of the moments alone.
@@ -364,7 +440,6 @@ void CSolidCheck::Lateral() {
   if (m_dNc == 0) r.m_dPhiB = phiB;  // else that of the beam-column
   const double W = m_effective ? m_effective->m_dWCompressed : WCompressed();
   const double Wy = m_effective ? m_effective->m_dWSide : s.m_dWSide;
-  a.Step("φb", nullptr, phiB);
   a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
   a.Step("Wx", nullptr, W, "mm³");
   const double first = LateralTerm(1, std::fabs(m_dMx), phiB, W, F());

@@ -53,13 +53,16 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
   const bool bRound =
       (s.m_nShape == CMemberShape::Tube && Is2017()) || s.m_nShape == CMemberShape::SolidRound;
   if (bRound) {
-    const double resultant = HasLoad() ? std::hypot(Mx, m_dMy) : EndResultant();
+    const CEndMoments end = HasLoad() ? CEndMoments{std::fabs(Mx), m_dMy} : EndMoments();
+    const double resultant = end.Resultant();
     const double ratio = (std::fabs(N) / A + resultant / (g1 * W1)) / F();
     if (!bSteps) return ratio;
     a.Step("An", nullptr, A, "mm²");
     a.Step("Wn", nullptr, W1, "mm³");
     a.Step("γm", nullptr, g1);
-    a.Step("M", "resultant of Mx and My", resultant, "N·mm");
+    a.Step("Mx", nullptr, end.m_dX, "N·mm");
+    a.Step("My", nullptr, end.m_dY, "N·mm");
+    a.Step("M", "√({Mx}² + {My}²)", resultant, "N·mm");
     a.Close("({N}/{An} + {M}/({γm}·{Wn}))/{f}", ratio);
     return ratio;
   }
@@ -84,8 +87,12 @@ double CSolidCheck::StrengthRatio(double Mx, bool bSteps) {
   }
   const char* formula = "({N}/{An} + {Mx}/({γx}·{Wnx}) + {My}/({γy}·{Wny}))/{f}";
   if (bEffective && Mx != 0) {
-    formula = m_dMy == 0 ? "({N}/{An} ± ({Mx} + {N}·{e})/({γx}·{Wnx}))/{f}"
-                         : "({N}/{An} ± ({Mx} + {N}·{e})/({γx}·{Wnx}) + {My}/({γy}·{Wny}))/{f}";
+    formula =
+        bAdds || N == 0
+            ? (m_dMy == 0 ? "({N}/{An} + ({Mx} + {N}·{e})/({γx}·{Wnx}))/{f}"
+                          : "({N}/{An} + ({Mx} + {N}·{e})/({γx}·{Wnx}) + {My}/({γy}·{Wny}))/{f}")
+            : (m_dMy == 0 ? "|{N}/{An} − ({Mx} + {N}·{e})/({γx}·{Wnx})|/{f}"
+                          : "(|{N}/{An} − ({Mx} + {N}·{e})/({γx}·{Wnx})| + {My}/({γy}·{Wny}))/{f}");
   } else if (Mx == 0) {
     formula = eY > 0 ? "({N}/{An} + ({My} + {N}·{e})/({γy}·{Wny}))/{f}"
                      : "({N}/{An} + {My}/({γy}·{Wny}))/{f}";
@@ -113,8 +120,10 @@ void CSolidCheck::Shear() {
   const double tauX = Vx == 0 ? 0 : Vx * s.m_cutX.m_dS / (s.m_dIy * s.m_cutX.m_dT);
   // In a solid bar both act on the same fibres; elsewhere on plates of their own.
   if (s.m_nShape == CMemberShape::SolidBar && Vx > 0 && Vy > 0) {
-    a.Step("τx", "Vx·Sy/(Iy·t)", tauX, "N/mm²");
-    a.Step("τy", "Vy·Sx/(Ix·t)", tauY, "N/mm²");
+    a.Step("Vx", nullptr, Vx, "N");
+    a.Step("Vy", nullptr, Vy, "N");
+    a.Step("τx", "1.5·{Vx}/{A}", tauX, "N/mm²");
+    a.Step("τy", "1.5·{Vy}/{A}", tauY, "N/mm²");
     return a.Close("√({τx}² + {τy}²)/{fv}", std::hypot(tauX, tauY) / m.m_dFv);
   }
   const bool bY = tauY / m.m_dFv >= tauX / m.m_dFvX;
@@ -227,9 +236,15 @@ void CSolidCheck::CombinedRound() {
   a.Open(CMemberCheckKind::Combined, Clause("6.1.5", "4.1.4"));
   a.Step("An", nullptr, An, "mm²");
   a.Step("Wn", nullptr, Wn, "mm³");
+  a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
+  a.Step("My", nullptr, m_dMy, "N·mm");
   a.Step("θ", nullptr, angle, "°");
-  a.Step("σ", "N/An + (Mx·sin θ + My·cos θ)/Wn", sigma, "N/mm²");
-  a.Step("τ", "(Vy·cos θ + Vx·sin θ)·S/(I·t)", tau, "N/mm²");
+  a.Step("σ", "{N}/{An} + ({Mx}·sin({θ}°) + {My}·cos({θ}°))/{Wn}", sigma, "N/mm²");
+  a.Step("Vx", nullptr, std::fabs(q.m_dVx), "N");
+  a.Step("Vy", nullptr, std::fabs(q.m_dVy), "N");
+  a.Step("S", nullptr, s.m_cutY.m_dS, "mm³");
+  a.Step("t", nullptr, s.m_cutY.m_dT, "mm");
+  a.Step("τ", "({Vy}·cos({θ}°) + {Vx}·sin({θ}°))·{S}/({Ix}·{t})", tau, "N/mm²");
   a.Close("√({σ}² + 3·{τ}²)/(1.1·{f})", worst / (1.1 * F()));
 }
 

@@ -48,7 +48,7 @@ class ORV3CAL_API CMemberCheck {
   using CCase = CMemberCase;
 
   // The edition of cases that name none.
-  void SetEdition(CCodeEdition edition) noexcept { m_nDefault = edition; }
+  void SetEdition(CCodeEdition edition) noexcept { m_nDefault = m_nEdition = edition; }
   // False when the case is refused.
   bool Run(const CMemberCase& input);
   // The same with a section that is at hand, whatever the case names.

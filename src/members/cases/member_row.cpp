@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "catalogue/exact/exact_figures.h"
 #include "catalogue/outline/row_figures.h"
 #include "catalogue/outline/row_outline.h"
 #include "framework/number_text.h"
@@ -395,7 +396,8 @@ std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member
 
 bool AddTorsion(CMemberRow& member) {
   if (member.m_bExact) return true;
-  const CExactProperties exact = ExactProperties(member.m_arrLoop);
+  const auto found = FindExact(member.m_arrLoop);
+  const CExactProperties exact = found ? *found : ExactProperties(member.m_arrLoop);
   CMemberSection& s = member.m_section;
   s.m_dIt = exact.It;
   s.m_dIw = exact.Iw;

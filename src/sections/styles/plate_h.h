@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <span>
 
 namespace orv3 {
 
@@ -36,9 +35,5 @@ struct CPlateH {
            std::max({0.0, m_dTopRight, m_dBottomRight});
   }
 };
-
-// The H of styles 0, 8, 9, 10, 11, 12 and 13 (the bar of a cross is the web, its arms are flanges
-// that stand back) from the style's eight sizes.
-CPlateH PlateHOf(int style, std::span<const double, 8> sizes) noexcept;
 
 }  // namespace orv3
