@@ -10,8 +10,14 @@
 #include <vector>
 
 #include "catalogue/code_tables/table_search.h"
+#include "codes/buckling.h"
+#include "codes/fatigue.h"
+#include "codes/holes.h"
+#include "codes/section_class.h"
 #include "codes/slip.h"
 #include "codes/steel_strength.h"
+#include "codes/weld_strength.h"
+#include "codes/width_limits.h"
 #include "connections/bolt_group.h"
 #include "connections/cases/bolt_case.h"
 
@@ -62,26 +68,38 @@ void LookUpSteel(benchmark::State& state) {
 }
 BENCHMARK(LookUpSteel);
 
-void LookUpSteelByEdition(benchmark::State& state) {
-  int i = 0;
-  for (auto _ : state) {
-    const auto grade = static_cast<orv3::CSteelGrade>(i % 6);
-    benchmark::DoNotOptimize(
-        orv3::SteelStrengths(orv3::CCodeEdition::Gb2017, grade, 1.0 + (i & 63)));
-    ++i;
-  }
-}
-BENCHMARK(LookUpSteelByEdition);
+// The look-ups by edition, each with the arguments of its i-th call.
+constexpr orv3::CCodeEdition k2017 = orv3::CCodeEdition::Gb2017;
+orv3::CSteelGrade GradeOf(int i) { return static_cast<orv3::CSteelGrade>(i % 6); }
 
-void LookUpSlipByEdition(benchmark::State& state) {
+template <class ASK>
+void LookUp2017(benchmark::State& state, ASK ask) {
   int i = 0;
-  for (auto _ : state) {
-    const auto grade = static_cast<orv3::CSteelGrade>(i % 6);
-    benchmark::DoNotOptimize(orv3::SlipFactor(orv3::CCodeEdition::Gb2017, i & 1, grade));
-    ++i;
-  }
+  for (auto _ : state) benchmark::DoNotOptimize(ask(i++));
 }
-BENCHMARK(LookUpSlipByEdition);
+BENCHMARK_CAPTURE(LookUp2017, steel,
+                  [](int i) { return orv3::SteelStrengths(k2017, GradeOf(i), 1.0 + (i & 63)); });
+BENCHMARK_CAPTURE(LookUp2017, butt_weld, [](int i) {
+  return orv3::ButtWeldStrengths(k2017, GradeOf(i), 20.0 + (i & 63));
+});
+BENCHMARK_CAPTURE(LookUp2017, slip,
+                  [](int i) { return orv3::SlipFactor(k2017, i & 1, GradeOf(i)); });
+BENCHMARK_CAPTURE(LookUp2017, hole, [](int i) {
+  return orv3::HoleSize(k2017, static_cast<orv3::CHoleKind>(i & 3), 20 + 2 * (i % 3));
+});
+BENCHMARK_CAPTURE(LookUp2017, section_class_of_a_web, [](int i) {
+  return orv3::ClassLimits(k2017, orv3::CClassElement::WebCompressed, GradeOf(i), 0.01 * (i % 200));
+});
+BENCHMARK_CAPTURE(LookUp2017, width_limit, [](int i) {
+  return orv3::AxialWidthLimit(k2017, static_cast<orv3::CWidthElement>(i % 7), GradeOf(i), i & 127);
+});
+BENCHMARK_CAPTURE(LookUp2017, fatigue_category, [](int i) {
+  static constexpr const char* kNames[] = {"Z1", "Z4", "Z9", "Z14", "J1", "J3"};
+  return orv3::FatigueCategory(k2017, kNames[i % 6]);
+});
+BENCHMARK_CAPTURE(LookUp2017, stability_factor, [](int i) {
+  return orv3::StabilityFactor(k2017, i & 255, 345, static_cast<orv3::CBucklingClass>(i & 3));
+});
 
 void LookUpBolt(benchmark::State& state) {
   int strength = 0;
@@ -169,21 +187,18 @@ void ManyCases(benchmark::State& state) {
 BENCHMARK(ManyCases);
 
 #ifdef ORV3CAL_PROGRAM
-// 100,000 cases of a CSV through the command, its start and its output file included.
+// 100,000 cases of a CSV through the command, its start and its output file included: the lines of
+// examples/bolts.csv over and over.
 void CheckCommandCsv(benchmark::State& state) {
   constexpr int kCases = 100000;
-  static constexpr const char* kTypes[] = {"ordinary", "friction", "bearing"};
   {
+    std::ifstream example(ORV3CAL_EXAMPLES "/bolts.csv");
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(example, line);) lines.push_back(line);
+    if (lines.size() < 2) return state.SkipWithError("examples/bolts.csv cannot be read");
     std::ofstream file("connections_bench.csv");
-    file << "id,layout,type,cols,rows,colSpace,rowSpace,d,sumT,nv,nf,N,Vx,Vy,M,T,ex,ey,t,steel,"
-            "surface,grade,class\n";
-    for (int i = 0; i < kCases; ++i) {
-      const orv3::CBoltCase input = Case(i);
-      file << 'J' << i << ",grid," << kTypes[input.m_nType] << ',' << input.m_nCols << ','
-           << input.m_nRows << ',' << input.m_colSpace.m_dUniform << ",80," << input.m_nD
-           << ",12,2,2,10," << input.m_dVx << ',' << input.m_dVy << ",500,1000,60,60,12,Q345,0,"
-           << (input.m_nType == 0 ? "4.6" : "8.8") << ",C\n";
-    }
+    file << lines[0] << '\n';
+    for (std::size_t i = 0; i < kCases; ++i) file << lines[1 + i % (lines.size() - 1)] << '\n';
   }
   const std::string command = ORV3CAL_PROGRAM " check bolt connections_bench.csv --csv --code " +
                               std::to_string(state.range(0)) + " > connections_out.csv";

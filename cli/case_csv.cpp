@@ -89,10 +89,14 @@ class CCsvCases {
                     {"请为多出的单元格给出键", "give each a key"}};
   }
 
+  // At most so many numbers stand in the lists of the case at hand.
   std::size_t CountNumbers() const {
-    std::size_t count = m_arrCell.size();
-    for (const std::string_view cell : m_arrCell)
-      count += static_cast<std::size_t>(std::count(cell.begin(), cell.end(), ';'));
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < std::min(m_arrCell.size(), m_arrColumn.size()); ++i) {
+      if (!m_schema.Rules()[static_cast<std::size_t>(m_arrColumn[i])].m_bArray) continue;
+      count +=
+          1 + static_cast<std::size_t>(std::count(m_arrCell[i].begin(), m_arrCell[i].end(), ';'));
+    }
     return count;
   }
 

@@ -1,5 +1,6 @@
 #include "case_output.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace orv3::cli {
@@ -18,7 +19,10 @@ std::string EditionLine(CCodeEdition edition, CLanguage language) {
 
 void AppendCsv(std::string& line, std::string_view text) {
   const bool padded = text.starts_with(' ') || text.ends_with(' ');  // which readers drop
-  if (!padded && text.find_first_of(",;\t\"\r\n") == std::string::npos) {
+  const bool plain = std::none_of(text.begin(), text.end(), [](char ch) {
+    return ch == ',' || ch == ';' || ch == '\t' || ch == '"' || ch == '\r' || ch == '\n';
+  });
+  if (!padded && plain) {
     line += text;
     return;
   }
@@ -74,10 +78,10 @@ std::string RefusedLine(CCodeEdition edition, const std::string& fault, CLanguag
   return '\n' + (kRefused.In(language) + fault) + '\n' + EditionLine(edition, language) + '\n';
 }
 
-std::string CsvHead(std::span<const CResultColumn> columns) {
+std::string CsvHead(std::span<const CResultColumn> columns, bool bSurface) {
   std::string line = "case,id,pass,utilisation,governs,code";
   for (const CResultColumn& column : columns) line += std::string(",") + column.m_szKey;
-  return line + ",warnings,refused\n";
+  return line + ",warnings,refused" + (bSurface ? ",surface\n" : "\n");
 }
 
 }  // namespace orv3::cli

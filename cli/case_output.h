@@ -24,8 +24,15 @@ inline CJson ResultJson(int value) { return value; }
 inline CJson ResultJson(bool value) { return value; }
 
 inline void AppendCsv(std::string& line, double value) {
+  if (!std::isfinite(value)) return;
   char text[32];
-  if (std::isfinite(value)) line.append(text, std::to_chars(text, text + sizeof text, value).ptr);
+  // Small whole numbers, many as they are, have the same text as an int, in a tenth of the time.
+  const bool bSmall = std::fabs(value) < 1e5 && !(value == 0 && std::signbit(value));
+  const int whole = bSmall ? static_cast<int>(value) : 0;
+  const bool bWhole = bSmall && whole == value;
+  const char* end = bWhole ? std::to_chars(text, text + sizeof text, whole).ptr
+                           : std::to_chars(text, text + sizeof text, value).ptr;
+  line.append(text, static_cast<std::size_t>(end - text));
 }
 inline void AppendCsv(std::string& line, int value) { line += std::to_string(value); }
 // Of a bool alone: a plain text would rather turn into a bool than into a string_view.
@@ -111,7 +118,10 @@ CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check, CCodeEdit
           {"warnings", std::move(warnings)}};
 }
 
-std::string CsvHead(std::span<const CResultColumn> columns);
+// `bSurface`: the lines end with the treatment of the friction surfaces.
+std::string CsvHead(std::span<const CResultColumn> columns, bool bSurface);
+
+// All of a line behind its id but that.
 
 template <class CHECK>
 void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const CHECK& check,
@@ -140,7 +150,7 @@ void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const 
   }
   line += ',';
   if (!check.Warnings().empty()) AppendCsv(line, WarningLine(check.Warnings(), language));
-  line += ",\n";
+  line += ',';
 }
 
 // The results of one case with their units, the parts of the verdict, the verdict and what to look

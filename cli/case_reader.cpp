@@ -1,5 +1,8 @@
 #include "case_reader.h"
 
+#include "codes/slip.h"
+#include "codes/weld_strength.h"
+
 namespace orv3::cli {
 namespace {
 
@@ -22,6 +25,24 @@ CReportSheet SheetOf(const CCaseSchema& schema, const CCaseValues& values) {
     if (field != nullptr && text != nullptr) sheet.*field = *text;
   }
   return sheet;
+}
+
+bool MayLeaveOut(const std::string& key, const CKeyValue& value, const CKeyValue* steel) {
+  const auto* text = std::get_if<std::string_view>(&value);
+  if (key == "hole") return text != nullptr && *text == HoleName(CHoleKind::Standard);
+  if (key != "electrode") return true;
+  const auto* name = steel == nullptr ? nullptr : std::get_if<std::string_view>(steel);
+  if (text == nullptr || name == nullptr) return false;
+  const auto grade = GradeByName(CCodeEdition::Gb2003, *name);
+  if (!grade) return true;  // which is refused by name
+  const auto electrodes = ElectrodesOf(CCodeEdition::Gb2003, *grade);
+  return std::any_of(electrodes.begin(), electrodes.end(),
+                     [&](CElectrode each) { return *text == ElectrodeName(each); });
+}
+
+CCaseWarning LeftOut(const std::string& key, CCodeEdition edition) {
+  const std::string name = Name(edition);
+  return {key, {name + " 没有此项，计算中未用。", "Left out: " + name + " does not have it."}};
 }
 
 CCaseFault NotInEdition(const std::string& key, CCodeEdition edition) {

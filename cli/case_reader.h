@@ -28,6 +28,11 @@ CCaseFault NotInEdition(const std::string& key, CCodeEdition edition);
 CCaseFault NoChoice(const std::string& key, CCodeEdition edition, const CKeyValue& value,
                     std::span<const char* const> choices);
 
+// Whether 2003, asked beside 2017, may leave out a key that it lacks: not where the key makes
+// another joint of it, a hole that 2003 does not have or weld metal other than its own.
+bool MayLeaveOut(const std::string& key, const CKeyValue& value, const CKeyValue* steel);
+CCaseWarning LeftOut(const std::string& key, CCodeEdition edition);
+
 // One check of one edition; a schema has the keys of both.
 template <class CHECK>
 class CCaseReader {
@@ -43,8 +48,10 @@ class CCaseReader {
     }
   }
 
-  // A refused case keeps its name.
-  std::optional<CCaseFault> Read(const CReadCase& read, typename CHECK::CCase& input) const {
+  // A refused case keeps its name. A key that only the other edition has is refused; with
+  // `leftOut`, for both editions side by side, it is named there.
+  std::optional<CCaseFault> Read(const CReadCase& read, typename CHECK::CCase& input,
+                                 std::vector<CCaseWarning>* leftOut = nullptr) const {
     const CCaseValues& values = read.m_arrValue;
     input = {};
     SetName(values, input);
@@ -52,6 +59,12 @@ class CCaseReader {
     if (auto fault = m_schema.Check(values)) return fault;
     for (std::size_t i = 0; i < values.size(); ++i) {
       if (!values[i]) continue;
+      const std::string& name = m_schema.Rules()[i].m_strKey;
+      if (leftOut != nullptr && IsForeign(name, m_arrKey[i]) &&
+          MayLeaveOut(name, *values[i], ValueOf("steel", values))) {
+        leftOut->push_back(LeftOut(name, m_nEdition));
+        continue;
+      }
       if (auto fault = Set(m_schema.Rules()[i], m_arrKey[i], *values[i], input)) return fault;
     }
     return std::nullopt;
@@ -62,13 +75,22 @@ class CCaseReader {
 
   std::optional<CCaseFault> Set(const CCaseSchema::CRule& rule, const CKey* key,
                                 const CKeyValue& value, typename CHECK::CCase& input) const {
-    if (key == nullptr) {
-      if (rule.m_strKey == kCodeKey || SheetField(rule.m_strKey) != nullptr) return std::nullopt;
-      return NotInEdition(rule.m_strKey, m_nEdition);
-    }
+    if (IsForeign(rule.m_strKey, key)) return NotInEdition(rule.m_strKey, m_nEdition);
+    if (key == nullptr) return std::nullopt;
     if (SetInput(input, *key, value)) return std::nullopt;
     if (!key->m_choices.empty()) return NoChoice(rule.m_strKey, m_nEdition, value, key->m_choices);
     return CCaseFault{rule.m_strKey, {"不可用", "is not possible"}, rule.Right()};
+  }
+
+  // A key of the check by the other edition alone.
+  static bool IsForeign(const std::string& name, const CKey* key) {
+    return key == nullptr && name != kCodeKey && SheetField(name) == nullptr;
+  }
+
+  const CKeyValue* ValueOf(const char* name, const CCaseValues& values) const {
+    const int at = m_schema.Find(name);
+    if (at < 0 || !values[static_cast<std::size_t>(at)]) return nullptr;
+    return &*values[static_cast<std::size_t>(at)];
   }
 
   void SetName(const CCaseValues& values, typename CHECK::CCase& input) const {

@@ -1,6 +1,7 @@
 #include "check_answers.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "text_table.h"
@@ -56,16 +57,27 @@ void CAnswers::Flush() {
 }
 
 void CAnswers::PrintTable() const {
-  static constexpr CTextLiteral kHead[] = {
-      {"序号", "case"},          {"编号", "id"},        {"版本", "code"},    {"结论", "verdict"},
-      {"利用率", "utilisation"}, {"控制项", "governs"}, {"警告", "warnings"}};
+  static constexpr CTextLiteral kHead[] = {{"序号", "case"},          {"编号", "id"},
+                                           {"版本", "code"},          {"结论", "verdict"},
+                                           {"利用率", "utilisation"}, {"控制项", "governs"},
+                                           {"警告", "warnings"},      {"摩擦面", "surface"}};
+  constexpr std::size_t kSurface = std::size(kHead) - 1;
   CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left, CAlign::Right,
-                    CAlign::Left, CAlign::Right});
+                    CAlign::Left, CAlign::Right, CAlign::Left});
+  bool bSurface = false;  // of any case at hand
+  for (const CAnswer& answer : m_arrAnswer) {
+    for (const auto& row : answer.m_arrRow)
+      bSurface = bSurface || (row.size() > kSurface && !row[kSurface].empty());
+  }
+  const auto add = [&](std::vector<std::string> row) {
+    if (!bSurface && row.size() > kSurface) row.resize(kSurface);
+    table.AddRow(std::move(row));
+  };
   std::vector<std::string> head;
   for (const CTextLiteral& text : kHead) head.emplace_back(text.In(m_nLanguage));
-  table.AddRow(std::move(head));
+  add(std::move(head));
   for (const CAnswer& answer : m_arrAnswer) {
-    for (const auto& row : answer.m_arrRow) table.AddRow(row);
+    for (const auto& row : answer.m_arrRow) add(row);
   }
   Print(table.Text());
 }

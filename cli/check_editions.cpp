@@ -26,8 +26,10 @@ std::vector<CCodeEdition> EditionsAsked(const std::string& option) {
   const std::string asked = YearAsked(option);
   const auto editions = EditionsNamed(asked.empty() ? "2017" : asked, {});
   if (editions.empty()) {
-    const std::string place = option.empty() ? "the variable ORV3CAL_CODE" : "--code";
-    Refuse(place + ": \"" + Excerpt(asked) + "\" is not possible; give 2017, 2003 or both");
+    const std::string place =
+        option.empty() ? Say("环境变量 ORV3CAL_CODE", "the variable ORV3CAL_CODE") : "--code";
+    Refuse(Say("{1}：\"{2}\" 不可用；请给出 2017、2003 或 both",
+               "{1}: \"{2}\" is not possible; give 2017, 2003 or both", {place, Excerpt(asked)}));
   }
   return {editions.begin(), editions.end()};
 }
@@ -51,6 +53,10 @@ std::optional<CCaseFault> ReadByBoth(CBoltCase& input) {
       {number + "（" + name.m_szChinese + "）在 2003 版中没有",
        number + " (" + name.m_szEnglish + ") is no treatment of the 2003 edition"},
       {"请给 1 或 2，或分版本计算", "give 1 or 2, or compute the editions one by one"}};
+}
+
+const char* SurfaceOf(const CBoltCase& input, CCodeEdition edition, CLanguage language) {
+  return input.m_nType == kFrictionBolt ? SurfaceName(edition, input.m_nSurface).In(language) : "";
 }
 
 std::string SurfaceText(const CBoltCase& input, CCodeEdition edition, CLanguage language) {

@@ -40,6 +40,11 @@ std::string SurfaceText(const CASE& input, CCodeEdition edition, CLanguage langu
   return "";
 }
 
+// The treatment alone, for a column of many cases; none of the other checks has one.
+const char* SurfaceOf(const CBoltCase& input, CCodeEdition edition, CLanguage language);
+template <class CASE>
+inline constexpr bool kHasSurface = std::is_base_of_v<CBoltCase, CASE>;
+
 // What is the same of a check by either edition.
 class CAnyEditionRun {
  public:
@@ -64,9 +69,12 @@ class CEditionRun : public CAnyEditionRun {
 
   // `bBoth`: the other edition computes the case too.
   void Run(const CReadCase& read, bool bBoth) {
-    m_fault = m_reader.Read(read, m_input);
+    m_arrLeftOut.clear();
+    m_fault = m_reader.Read(read, m_input, bBoth ? &m_arrLeftOut : nullptr);
     if (!m_fault && bBoth) m_fault = ReadByBoth(m_input);
     if (!m_fault && !m_check.Run(m_input)) m_fault = m_check.Faults().front();
+    if (m_fault) return;
+    for (CCaseWarning& warning : m_arrLeftOut) m_check.AddWarning(std::move(warning));
   }
 
   bool Pass() const { return !m_fault && m_check.Pass(); }
@@ -108,12 +116,16 @@ class CEditionRun : public CAnyEditionRun {
   void AppendCsv(int number, std::span<const CResultColumn> columns, std::string& lines) const {
     lines += std::to_string(number) + ',';
     cli::AppendCsv(lines, m_input.m_strId);
-    if (!m_fault) {
+    if (m_fault) {
+      lines.append(4, ',').append(Year()).append(columns.size() + 2, ',');
+      cli::AppendCsv(lines, m_fault->Line(m_nLanguage));
+    } else {
       AppendCsvLine(lines, m_input, m_check, m_nEdition, columns, m_nLanguage);
-      return;
     }
-    lines.append(4, ',').append(Year()).append(columns.size() + 2, ',');
-    cli::AppendCsv(lines, m_fault->Line(m_nLanguage));
+    if constexpr (kHasSurface<typename CHECK::CCase>) {
+      lines += ',';
+      if (!m_fault) cli::AppendCsv(lines, SurfaceOf(m_input, m_nEdition, m_nLanguage));
+    }
     lines += '\n';
   }
 
@@ -121,13 +133,16 @@ class CEditionRun : public CAnyEditionRun {
     const std::string first = std::to_string(number);
     if (m_fault) return RefusedRow(first, Id());
     const CCasePart& worst = m_check.Worst();
-    return {first,
-            Excerpt(Id()),
-            Year(),
-            VerdictText(m_check.Pass(), m_nLanguage),
-            PercentText(worst.m_dUtilisation),
-            worst.m_name.In(m_nLanguage),
-            std::to_string(m_check.Warnings().size())};
+    std::vector<std::string> row = {first,
+                                    Excerpt(Id()),
+                                    Year(),
+                                    VerdictText(m_check.Pass(), m_nLanguage),
+                                    PercentText(worst.m_dUtilisation),
+                                    worst.m_name.In(m_nLanguage),
+                                    std::to_string(m_check.Warnings().size())};
+    if constexpr (kHasSurface<typename CHECK::CCase>)
+      row.emplace_back(SurfaceOf(m_input, m_nEdition, m_nLanguage));
+    return row;
   }
 
   CReportCase Report(int number, const CReportSheet& sheet, CLanguage language) const {
@@ -154,6 +169,7 @@ class CEditionRun : public CAnyEditionRun {
   CCaseReader<CHECK> m_reader;
   CHECK m_check;
   typename CHECK::CCase m_input;
+  std::vector<CCaseWarning> m_arrLeftOut;  // keys that the edition, asked beside the other, lacks
 };
 
 // One case by both editions: the results side by side, then both verdicts.

@@ -29,6 +29,8 @@
 namespace orv3::cli {
 namespace {
 
+constexpr std::size_t kCsvLine = 500;  // most lines are shorter
+
 struct COptions {
   std::string kind;
   std::string file;
@@ -49,17 +51,18 @@ struct COptions {
 template <class CHECK2003, class CHECK2017>
 class CChecker {
  public:
-  CChecker(const COptions& options, std::string_view schema)
+  explicit CChecker(const COptions& options)
       : m_options(options),
         m_arrAsked(EditionsAsked(options.code)),
-        m_schema(schema),
+        m_schema(SchemaOf(options.kind)),
         m_2003(m_schema, CCodeEdition::Gb2003, options.Language()),
         m_2017(m_schema, CCodeEdition::Gb2017, options.Language()),
         m_columns(ColumnsOf<CHECK2003, CHECK2017>()),
         m_answers(options.csv    ? CAnswerForm::Csv
                   : options.json ? CAnswerForm::Json
                                  : CAnswerForm::Table,
-                  options.sort, options.Language(), options.csv ? CsvHead(m_columns) : ""),
+                  options.sort, options.Language(),
+                  options.csv ? CsvHead(m_columns, kHasSurface<typename CHECK2003::CCase>) : ""),
         m_nCode(m_schema.Find(kCodeKey)) {
     for (const auto& rule : m_schema.Rules()) {
       if (rule.m_strKey != kCodeKey && SheetField(rule.m_strKey) == nullptr &&
@@ -166,6 +169,7 @@ class CChecker {
     switch (m_answers.Form()) {
       case CAnswerForm::Csv: {
         std::string lines;
+        lines.reserve(kCsvLine);
         for (const CCodeEdition edition : m_arrEdition)
           With(edition, [&](auto& run) { run.AppendCsv(m_nCases, m_columns, lines); });
         return m_answers.AddLine(worst, std::move(lines));
@@ -258,13 +262,11 @@ CExit RunMembers(const COptions& options) {
 
 CExit RunCheck(const COptions& options) {
   if (options.kind == "member") return RunMembers(options);
-  if (options.kind == "bolt")
-    return CChecker<CBoltCheck, CBoltCheck2017>(options, kBoltSchema).Run();
-  if (options.kind == "fillet")
-    return CChecker<CFilletCheck, CFilletCheck2017>(options, kFilletSchema).Run();
+  if (options.kind == "bolt") return CChecker<CBoltCheck, CBoltCheck2017>(options).Run();
+  if (options.kind == "fillet") return CChecker<CFilletCheck, CFilletCheck2017>(options).Run();
   if (options.kind == "weld-group")
-    return CChecker<CWeldGroupCheck2003, CWeldGroupCheck2017>(options, kWeldGroupSchema).Run();
-  return CChecker<CButtCheck, CButtCheck2017>(options, kButtSchema).Run();
+    return CChecker<CWeldGroupCheck2003, CWeldGroupCheck2017>(options).Run();
+  return CChecker<CButtCheck, CButtCheck2017>(options).Run();
 }
 
 // What is wrong with the name of a file.

@@ -55,7 +55,7 @@ CSteelItemGeGou ColumnOf(const CCaseSchema& schema, const CCaseValues& values) {
 
 // The column of the file.
 CSteelItemGeGou ReadColumn(const std::string& path) {
-  const CCaseSchema schema(kLatticeSchema);
+  const CCaseSchema schema(SchemaOf("lattice"));
   std::optional<CSteelItemGeGou> column;
   ReadCases(path, schema, MessageLanguage(), [&](const CReadCase& read) {
     if (!read.m_bSingle)
@@ -146,10 +146,11 @@ void PrintLattice(const CSteelItemGeGou& column, const CLatticeLimbs& limbs) {
   }
   static constexpr const char* kUnits[] = {"", "mm", "mm²", "mm³", "mm⁴"};
   const CLatticeProperties values = limbs.Properties();
-  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left});
+  CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
   for (const CLatticeProperty& property : LatticePropertyColumns()) {
     table.AddRow({ToUtf8(property.m_szTitle), property.m_szKey,
-                  NumberText(values.*property.m_pField), kUnits[property.m_nPower]});
+                  NumberText(values.*property.m_pField), kUnits[property.m_nPower],
+                  Say({"", property.m_szMeaning})});
   }
   Print(ToUtf8(column.m_strTableName) + "  " + Cell(column, L"No.") + "\n\n" + parts.Text() + "\n" +
         table.Text());

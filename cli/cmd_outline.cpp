@@ -14,9 +14,9 @@
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "outline_input.h"
-#include "outlines/crossing.h"
 #include "outlines/exact_keys.h"
 #include "outlines/exact_picture.h"
+#include "outlines/loops.h"
 #include "outlines/section_solver.h"
 #include "output.h"
 #include "text_table.h"
@@ -96,7 +96,11 @@ CAnswer Solve(const COptions& options) {
             "or an edge, wall or gap is below 1e-8 of the outline's size; right would be one "
             "without them"));
   }
-  if (!options.stress.empty()) answer.stress = solver.Stresses(answer.forces);
+  if (!options.stress.empty()) {
+    answer.stress = solver.Stresses(answer.forces);
+    const std::vector<CBoundaryStress> inside = solver.StressesInside(answer.forces);
+    answer.stress.insert(answer.stress.end(), inside.begin(), inside.end());
+  }
   return answer;
 }
 
@@ -104,18 +108,23 @@ CAnswer Solve(const COptions& options) {
 
 struct CStressRow {
   const char* m_szKey;
-  const char* m_szTitle;
-  const char* m_szMeaning;
+  CTextLiteral m_text;
   const CBoundaryStress* CGreatestStress::*m_pPoint;
   double CBoundaryStress::*m_pValue;
 };
 constexpr CStressRow kStresses[] = {
-    {"sigma", "最大正应力", "greatest normal stress", &CGreatestStress::m_pSigma,
+    {"sigma",
+     {"最大正应力", "greatest normal stress"},
+     &CGreatestStress::m_pSigma,
      &CBoundaryStress::sigma},
-    {"tau", "轮廓上最大剪应力", "greatest shear stress on the outline", &CGreatestStress::m_pTau,
+    {"tau",
+     {"最大剪应力", "greatest shear stress"},
+     &CGreatestStress::m_pTau,
      &CBoundaryStress::tau},
-    {"mises", "轮廓上最大折算应力", "greatest equivalent stress (von Mises) on the outline",
-     &CGreatestStress::m_pMises, &CBoundaryStress::mises},
+    {"mises",
+     {"最大折算应力", "greatest equivalent stress (von Mises)"},
+     &CGreatestStress::m_pMises,
+     &CBoundaryStress::mises},
 };
 
 CJson StressJson(const CAnswer& answer) {
@@ -146,11 +155,12 @@ void PrintStresses(const CAnswer& answer) {
   for (const CStressRow& row : kStresses) {
     const CBoundaryStress* point = greatest.*row.m_pPoint;
     if (point == nullptr) {
-      table.AddRow({row.m_szTitle, row.m_szKey, "-", "", Say({"", row.m_szMeaning})});
+      table.AddRow(
+          {row.m_text.m_szChinese, row.m_szKey, "-", "", Say({"", row.m_text.m_szEnglish})});
       continue;
     }
-    table.AddRow({row.m_szTitle, row.m_szKey, NumberText(point->*row.m_pValue), "N/mm²",
-                  Say({"", row.m_szMeaning}),
+    table.AddRow({row.m_text.m_szChinese, row.m_szKey, NumberText(point->*row.m_pValue), "N/mm²",
+                  Say({"", row.m_text.m_szEnglish}),
                   "x = " + NumberText(point->m_point.x) + ", y = " + NumberText(point->m_point.y)});
   }
   Print(table.Text());

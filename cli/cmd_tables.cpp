@@ -169,6 +169,11 @@ void AddTablesCommand(CLI::App& program) {
                    Say("只列来源位和类别位都符合的表，例如 0x01000001",
                        "Only tables whose source bit and family bit are both set, such as "
                        "0x01000001"))
+      ->check([](const std::string& mask) {
+        return mask.empty() ? Say("为空；请给出掩码，或不写此选项",
+                                  "is empty; give a mask, or leave the option out")
+                            : std::string();
+      })
       ->type_name("M");
   CLI::Option* json = command->add_flag("--json", options->json, Say("以 JSON 输出", "As JSON"));
   command

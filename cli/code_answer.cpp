@@ -40,11 +40,12 @@ CCodeFigure FigureOf(const CCodeAnswer<double>& answer, const char* unit) {
   return FigureOf(value, answer.Source(), unit);
 }
 
-void RefuseArgument(const char* name, const std::string& text, const std::string& right) {
-  Refuse(std::string(name) + ": \"" + Excerpt(text) + "\" is not possible; give " + right);
+void RefuseArgument(const char* name, const std::string& text, const CText& right) {
+  Refuse(Say("{1}：\"{2}\" 不可用；请给出{3}", "{1}: \"{2}\" is not possible; give {3}",
+             {name, Excerpt(text), Say(right)}));
 }
 
-double Number(const CCodeRequest& request, std::size_t at, const char* name, const char* right) {
+double Number(const CCodeRequest& request, std::size_t at, const char* name, const CText& right) {
   const CString text = FromUtf8(request[at]);
   if (!IsNumber(text) || ToDouble(text) < 0) RefuseArgument(name, request[at], right);
   return ToDouble(text);
@@ -52,30 +53,36 @@ double Number(const CCodeRequest& request, std::size_t at, const char* name, con
 
 int WordOf(const CCodeRequest& request, std::size_t at, const char* name, const char* const* words,
            std::size_t count) {
-  std::string right = "one of";
+  std::string list;
   for (std::size_t i = 0; i < count; ++i) {
     if (request[at] == words[i]) return static_cast<int>(i);
-    right += std::string(i == 0 ? " " : ", ") + words[i];
+    list += std::string(i == 0 ? "" : ", ") + words[i];
   }
-  RefuseArgument(name, request[at], right);
+  RefuseArgument(name, request[at], {"下列之一：" + list, "one of " + list});
 }
 
 int NumberAmong(const CCodeRequest& request, std::size_t at, const char* name,
                 const std::vector<double>& numbers) {
-  std::string right = "one of";
+  std::string list;
   for (std::size_t i = 0; i < numbers.size(); ++i)
-    right += (i == 0 ? " " : ", ") + NumberText(numbers[i]);
-  const double number = Number(request, at, name, right.c_str());
+    list += (i == 0 ? "" : ", ") + NumberText(numbers[i]);
+  const CText right = {"下列之一：" + list, "one of " + list};
+  const double number = Number(request, at, name, right);
   const auto found = std::find(numbers.begin(), numbers.end(), number);
   if (found == numbers.end()) RefuseArgument(name, request[at], right);
   return static_cast<int>(found - numbers.begin());
 }
 
 int Whole(const CCodeRequest& request, std::size_t at, const char* name, int first, int last,
-          const std::string& meanings) {
-  const std::string right = "a whole number from " + std::to_string(first) + " to " +
-                            std::to_string(last) + (meanings.empty() ? "" : ": " + meanings);
-  const double number = Number(request, at, name, right.c_str());
+          const CText& meanings) {
+  const std::string from = std::to_string(first);
+  const std::string to = std::to_string(last);
+  CText right = {" " + from + " 至 " + to + " 的整数", "a whole number from " + from + " to " + to};
+  if (!meanings.m_strEnglish.empty()) {
+    right.m_strChinese += "：" + meanings.m_strChinese;
+    right.m_strEnglish += ": " + meanings.m_strEnglish;
+  }
+  const double number = Number(request, at, name, right);
   if (number != std::floor(number) || number < first || number > last)
     RefuseArgument(name, request[at], right);
   return static_cast<int>(number);

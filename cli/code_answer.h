@@ -44,11 +44,11 @@ const VALUE& Needed(const CCodeAnswer<VALUE>& answer) {
 
 // --- Arguments, each refused by the name that the help gives it ----------------------------------
 
-[[noreturn]] void RefuseArgument(const char* name, const std::string& text,
-                                 const std::string& right);
+// "NAME: "TEXT" is not possible; give RIGHT"
+[[noreturn]] void RefuseArgument(const char* name, const std::string& text, const CText& right);
 
 // A number not below 0.
-double Number(const CCodeRequest& request, std::size_t at, const char* name, const char* right);
+double Number(const CCodeRequest& request, std::size_t at, const char* name, const CText& right);
 
 // The position of an argument among the words that it may be.
 int WordOf(const CCodeRequest& request, std::size_t at, const char* name, const char* const* words,
@@ -65,13 +65,12 @@ int NumberAmong(const CCodeRequest& request, std::size_t at, const char* name,
 
 // `meanings` tells what the numbers stand for.
 int Whole(const CCodeRequest& request, std::size_t at, const char* name, int first, int last,
-          const std::string& meanings = "");
+          const CText& meanings = {});
 
 // A steel that the edition has.
 CSteelGrade Grade(const CCodeRequest& request, std::size_t at);
 
-// --- Who answers
-// -----------------------------------------------------------------------------------
+// --- Who answers --------------------------------------------------------------------------------
 
 inline constexpr const char* kStressUnit = "N/mm²";
 extern const char* const kAxisNames[2];
@@ -95,6 +94,10 @@ CCodeFigure ThickClassFigure(const CCodeRequest& request);
 CCodeFigure GammaFigure(const CCodeRequest& request);
 CCodeFigure PhiFigure(const CCodeRequest& request);
 CCodeFigure PhiBFigure(const CCodeRequest& request);
+CCodeFigure WidthFigure(const CCodeRequest& request);
+CCodeFigure WidthMomentsFigure(const CCodeRequest& request);
+CCodeFigure WidthBeamFigure(const CCodeRequest& request);
+CCodeFigure SlendernessFigure(const CCodeRequest& request);
 CCodeFigure SlenderFigure(const CCodeRequest& request);
 CCodeFigure MuFigure(const CCodeRequest& request);
 CCodeFigure MuStepFigure(const CCodeRequest& request);

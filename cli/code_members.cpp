@@ -11,6 +11,8 @@
 #include "codes/lateral_buckling.h"
 #include "codes/plasticity.h"
 #include "codes/section_class.h"
+#include "codes/slenderness_limits.h"
+#include "codes/width_limits.h"
 #include "error.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
@@ -19,8 +21,12 @@
 namespace orv3::cli {
 namespace {
 
-constexpr const char* kRatio = "a number not below 0";
+const CText kRatio = {"不小于 0 的数值", "a number not below 0"};
+const CText kAlpha0 = {" 0 至 2", "0 to 2"};
+const CText kLambda = {" 0 至 1000 的长细比", "a slenderness of 0 to 1000"};
 constexpr const char* kTops[] = {"free", "sliding"};
+
+CText TextOf(const CTextLiteral& text) { return {text.m_szChinese, text.m_szEnglish}; }
 
 CSteppedTop Top(const CCodeRequest& request) {
   return Choice(request, 0, "TOP", kTops) == 0 ? CSteppedTop::Free : CSteppedTop::Sliding;
@@ -33,7 +39,7 @@ CSectionAxis Axis(const CCodeRequest& request) {
 // A kind by the number of its picture in Table 5.1.2-1.
 CCodeFigure ClassByPicture(const CCodeRequest& request) {
   CString name;
-  CTableSearch::SearchSub5(Whole(request, 0, "KIND", 1, 30, kClassKinds),
+  CTableSearch::SearchSub5(Whole(request, 0, "KIND", 1, 30, TextOf(kClassKinds)),
                            Choice(request, 1, "AXIS", kAxisNames), name);
   return {ToUtf8(name), "", "GB 50017-2003, Table 5.1.2-1"};
 }
@@ -70,7 +76,8 @@ CPlasticShape PlasticShape(int kind) {
 CPlasticUse PlasticUse(const CCodeRequest& request) {
   if (request.Count() < 3) return CPlasticUse::Developed;
   if (request.m_nEdition == CCodeEdition::Gb2003)
-    Refuse("CLASS: GB 50017-2003 has no section classes; leave it out");
+    Refuse(Say("CLASS：GB 50017-2003 没有截面板件宽厚比等级；请删去",
+               "CLASS: GB 50017-2003 has no section classes; leave it out"));
   return Choice(request, 2, "CLASS", kSectionClassNames) >= static_cast<int>(CSectionClass::S4)
              ? CPlasticUse::SlenderFlange
              : CPlasticUse::Developed;
@@ -87,14 +94,16 @@ CCodeFigure SectionClassFigure(const CCodeRequest& request) {
   const double ratio = Number(request, 1, "RATIO", kRatio);
   const bool bWeb = element == CClassElement::WebCompressed;
   if (bWeb != (request.Count() == 4))
-    Refuse("ALPHA0: goes with web-compressed, and with it alone; give 0 to 2");
-  const double alpha0 = bWeb ? Number(request, 3, "ALPHA0", "0 to 2") : 2;
+    Refuse(Say("ALPHA0：与 web-compressed 同给，也仅与它同给；请给出 0 至 2",
+               "ALPHA0: goes with web-compressed, and with it alone; give 0 to 2"));
+  const double alpha0 = bWeb ? Number(request, 3, "ALPHA0", kAlpha0) : 2;
   const CCodeAnswer<CClassLimits> answer =
       ClassLimits(request.m_nEdition, element, Grade(request, 2), alpha0);
   const CClassLimits& limits = Needed(answer);
   const std::optional<CSectionClass> found = limits.ClassOf(ratio);
-  CCodeFigure figure = FigureOf(found ? SectionClassName(*found) : "beyond " + LastClass(limits),
-                                answer.Source(), "");
+  const std::string name =
+      found ? SectionClassName(*found) : Say("超出 {1}", "beyond {1}", {LastClass(limits)});
+  CCodeFigure figure = FigureOf(name, answer.Source(), "");
   const std::string list = LimitText(limits);
   AddNote(figure, {"限值 " + list, "limits " + list});
   return figure;
@@ -125,14 +134,14 @@ CCodeFigure ThickClassFigure(const CCodeRequest& request) {
   using enum CBucklingShape;
   static constexpr CBucklingShape kRows[] = {RolledIWide,   RolledIWide, WeldedIFlameCut,
                                              WeldedIRolled, WeldedBox,   WeldedBoxThick};
-  const int row = Whole(request, 0, "ROW", 1, 6, kThickRows);
+  const int row = Whole(request, 0, "ROW", 1, 6, TextOf(kThickRows));
   const double t = row == 2 ? 80 : 40;
   const auto answer = PrintedBucklingClass(request.m_nEdition, kRows[row - 1], Axis(request), t);
   return FigureOf(Needed(answer).Text(), answer.Source(), "");
 }
 
 CCodeFigure GammaFigure(const CCodeRequest& request) {
-  const int kind = Whole(request, 0, "KIND", 0, 22, kGammaKinds);
+  const int kind = Whole(request, 0, "KIND", 0, 22, TextOf(kGammaKinds));
   const bool bX = Axis(request) == CSectionAxis::X;
   const CCodeAnswer<CPlasticFactors> answer =
       PlasticFactors(request.m_nEdition, PlasticShape(kind), PlasticUse(request));
@@ -148,8 +157,9 @@ CCodeFigure GammaFigure(const CCodeRequest& request) {
 
 CCodeFigure PhiFigure(const CCodeRequest& request) {
   static constexpr const char* kClasses[] = {"a", "b", "c", "d"};
-  const double lambda = Number(request, 0, "LAMBDA", "a slenderness of 0 to 1000");
-  const double fy = Number(request, 1, "FY", "a yield strength of 100 to 1000 N/mm²");
+  const double lambda = Number(request, 0, "LAMBDA", kLambda);
+  const double fy = Number(
+      request, 1, "FY", {" 100 至 1000 N/mm² 的屈服强度", "a yield strength of 100 to 1000 N/mm²"});
   const auto bucklingClass = static_cast<CBucklingClass>(Choice(request, 2, "CLASS", kClasses));
   return FigureOf(StabilityFactor(request.m_nEdition, lambda, fy, bucklingClass), "");
 }
@@ -158,8 +168,10 @@ CCodeFigure PhiBFigure(const CCodeRequest& request) {
   static constexpr const char* kCases[] = {"concentrated-upper", "concentrated-lower",
                                            "uniform-upper", "uniform-lower", "braced"};
   const auto load = static_cast<CRolledILoad>(Choice(request, 0, "CASE", kCases));
-  const double number = Number(request, 1, "I-NUMBER", "an I number, 10 to 63");
-  const double length = Number(request, 2, "LENGTH", "a free length of 2 to 10 m");
+  const double number =
+      Number(request, 1, "I-NUMBER", {"工字钢型号 10 至 63", "an I number, 10 to 63"});
+  const double length =
+      Number(request, 2, "LENGTH", {" 2 至 10 m 的自由长度", "a free length of 2 to 10 m"});
   const bool bGrade = request.Count() > 3;
   const bool b2003 = request.m_nEdition == CCodeEdition::Gb2003;
   const CSteelGrade grade = bGrade ? Grade(request, 3) : CSteelGrade::Q235;
@@ -183,12 +195,59 @@ CCodeFigure PhiBFigure(const CCodeRequest& request) {
   return figure;
 }
 
+CCodeFigure WidthFigure(const CCodeRequest& request) {
+  const auto element = static_cast<CWidthElement>(Choice(request, 0, "ELEMENT", kWidthElements));
+  const double lambda = Number(request, 2, "LAMBDA", kLambda);
+  return FigureOf(AxialWidthLimit(request.m_nEdition, element, Grade(request, 1), lambda), "");
+}
+
+// LAMBDA is read by the webs of 2003 alone.
+CCodeFigure WidthMomentsFigure(const CCodeRequest& request) {
+  const auto element = static_cast<CWidthElement>(Choice(request, 0, "ELEMENT", kWidthElements));
+  CBeamColumnWeb web = {.m_dAlpha0 = Number(request, 2, "ALPHA0", kAlpha0), .m_dLambda = 0};
+  if (web.m_dAlpha0 > 2) RefuseArgument("ALPHA0", request[2], kAlpha0);
+  using enum CWidthElement;
+  const bool bSlenderness =
+      request.m_nEdition == CCodeEdition::Gb2003 &&
+      (element == WebI || element == BoxWall || element == WebTRolled || element == WebTWelded);
+  if (bSlenderness && request.Count() < 4) {
+    Refuse(
+        Say("LAMBDA：2003 版腹板限值与弯矩作用平面内的长细比有关；请给出 0 至 1000",
+            "LAMBDA: the 2003 edition's limits of webs go by the slenderness in the plane of the "
+            "moment; give 0 to 1000"));
+  }
+  if (!bSlenderness && request.Count() > 3) {
+    Refuse(Say("LAMBDA：仅 2003 版的腹板用到；请删去",
+               "LAMBDA: goes with webs of the 2003 edition alone; leave it out"));
+  }
+  if (bSlenderness) web.m_dLambda = Number(request, 3, "LAMBDA", kLambda);
+  return FigureOf(BeamColumnWidthLimit(request.m_nEdition, element, Grade(request, 1), web), "");
+}
+
+CCodeFigure WidthBeamFigure(const CCodeRequest& request) {
+  static constexpr const char* kElements[] = {"flange", "flange-elastic", "web-stiffeners"};
+  const int element = Choice(request, 0, "ELEMENT", kElements);
+  const CSteelGrade grade = Grade(request, 1);
+  if (element == 2) return FigureOf(StiffenerLimit(request.m_nEdition, grade), "");
+  return FigureOf(BeamFlangeLimit(request.m_nEdition, grade, element == 1), "");
+}
+
+CCodeFigure SlendernessFigure(const CCodeRequest& request) {
+  static constexpr const char* kRoles[] = {"compression", "compression-bracing", "tension",
+                                           "tension-dynamic", "tension-bracing"};
+  return FigureOf(SlendernessLimit(request.m_nEdition,
+                                   static_cast<CMemberRole>(Choice(request, 0, "ROLE", kRoles))),
+                  "");
+}
+
 CCodeFigure SlenderFigure(const CCodeRequest& request) {
   static constexpr const char* kCases[] = {"upper", "lower", "braced"};
   if (request.m_nEdition != CCodeEdition::Gb2003)
     Refuse(
-        "--code: GB 50017-2017 has no table of largest l1/b1; give 2003, or check φb by 6.2.2 "
-        "(code phib)");
+        Say("--code：GB 50017-2017 没有 l1/b1 最大值表；请给出 2003，或按 6.2.2 条验算 φb（code "
+            "phib）",
+            "--code: GB 50017-2017 has no table of largest l1/b1; give 2003, or check φb by 6.2.2 "
+            "(code phib)"));
   const CSteelGrade grade = Grade(request, 0);
   constexpr CSteelGrade kRows[] = {CSteelGrade::Q235, CSteelGrade::Q345, CSteelGrade::Q390,
                                    CSteelGrade::Q420};
@@ -208,7 +267,7 @@ CCodeFigure MuFigure(const CCodeRequest& request) {
 }
 
 CCodeFigure MuStepFigure(const CCodeRequest& request) {
-  constexpr const char* kRange = "a number above 0 and up to 1000";
+  const CText kRange = {"大于 0、不大于 1000 的数值", "a number above 0 and up to 1000"};
   const double eta1 = Number(request, 1, "ETA1", kRange);
   const double k1 = Number(request, 2, "K1", kRange);
   return FigureOf(SingleSteppedMu2(request.m_nEdition, Top(request), eta1, k1), "");

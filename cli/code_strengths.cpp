@@ -15,8 +15,8 @@
 namespace orv3::cli {
 namespace {
 
-constexpr const char* kThickness = "a thickness above 0 and up to 100 mm";
-constexpr const char* kLength = "a length in mm, above 0";
+const CText kThickness = {"大于 0、不大于 100 mm 的厚度", "a thickness above 0 and up to 100 mm"};
+const CText kLength = {"大于 0 的长度 mm", "a length in mm, above 0"};
 
 constexpr const char* kHighStrength[] = {"8.8", "10.9"};
 constexpr CBoltGrade kHighStrengthGrades[] = {CBoltGrade::G88, CBoltGrade::G109};
@@ -29,7 +29,9 @@ CCodeFigure BoltPart(const CCodeRequest& request, CBoltKind kind, const char* pa
   if (part == std::string("fu")) {
     if (!strengths.m_dFu)
       Refuse(
-          "STRENGTH: fu stands for high-strength bolts of the 2017 edition alone; give ft or fv");
+          Say("STRENGTH：fu 仅用于 2017 版的高强度螺栓；请给出 ft 或 fv",
+              "STRENGTH: fu stands for high-strength bolts of the 2017 edition alone; give ft or "
+              "fv"));
     return FigureOf(*strengths.m_dFu, answer.Source(), kStressUnit);
   }
   return FigureOf(part == std::string("ft") ? strengths.m_dFt : strengths.m_dFv, answer.Source(),
@@ -61,7 +63,8 @@ CCodeFigure WeldFigure(const CCodeRequest& request) {
   const int kind = Choice(request, 2, "STRENGTH", kKinds);
   const CCodeAnswer<CButtWeldStrengths> butt = ButtWeldStrengths(request.m_nEdition, grade, t);
   if (kind < 4 && request.Count() > 3)
-    Refuse("ELECTRODE: butt welds do not go by it; give it with ffw alone");
+    Refuse(Say("ELECTRODE：对接焊缝不按焊条取值；请仅与 ffw 同给",
+               "ELECTRODE: butt welds do not go by it; give it with ffw alone"));
   if (kind < 4) return ButtWeld(butt, kind);
   Needed(butt);  // a thickness beyond the table
   std::optional<CElectrode> electrode;
@@ -77,7 +80,9 @@ CCodeFigure BoltFigure(const CCodeRequest& request) {
   const int kind = Choice(request, 0, "KIND", kKinds);
   const char* part = kParts[Choice(request, 2, "STRENGTH", kParts)];
   if (kind == kAnchor) {
-    if (part != std::string("ft")) Refuse("STRENGTH: anchor bolts have ft alone; give ft");
+    if (part != std::string("ft"))
+      Refuse(
+          Say("STRENGTH：锚栓只有 ft；请给出 ft", "STRENGTH: anchor bolts have ft alone; give ft"));
     return FigureOf(AnchorStrength(request.m_nEdition, Grade(request, 1)), kStressUnit);
   }
   if (part != std::string("fc")) return BoltPart(request, static_cast<CBoltKind>(kind), part);
@@ -88,16 +93,19 @@ CCodeFigure BoltFigure(const CCodeRequest& request) {
 
 CCodeFigure PreloadFigure(const CCodeRequest& request) {
   const CBoltGrade grade = kHighStrengthGrades[Choice(request, 0, "GRADE", kHighStrength)];
-  const double d = Number(request, 1, "D", "one of 16, 20, 22, 24, 27, 30");
+  const double d = Number(request, 1, "D",
+                          {"下列之一：16, 20, 22, 24, 27, 30", "one of 16, 20, 22, 24, 27, 30"});
   return FigureOf(Preload(request.m_nEdition, grade, d), "kN");
 }
 
 CCodeFigure SlipFigure(const CCodeRequest& request) {
   const int last = SurfaceCount(request.m_nEdition) - 1;
-  std::string meanings;
+  CText meanings;
   for (int i = 0; i <= last; ++i) {
-    meanings += (i == 0 ? "" : ", ") + std::to_string(i) + " " +
-                SurfaceName(request.m_nEdition, i).m_szEnglish;
+    const CTextLiteral name = SurfaceName(request.m_nEdition, i);
+    const std::string number = std::to_string(i) + " ";
+    meanings.m_strChinese += (i == 0 ? "" : "、") + number + name.m_szChinese;
+    meanings.m_strEnglish += (i == 0 ? "" : ", ") + number + name.m_szEnglish;
   }
   const int surface = Whole(request, 0, "SURFACE", 0, last, meanings);
   return FigureOf(SlipFactor(request.m_nEdition, surface, Grade(request, 1)), "");
@@ -157,12 +165,14 @@ CCodeFigure FatigueFigure(const CCodeRequest& request) {
   const CFatigueCategory& category = Needed(answer);
   const int parameter = Choice(request, 1, "PARAMETER", kParameters);
   if ((parameter == 5) != (request.Count() == 3))
-    Refuse("N: the number of cycles goes with range, and with range alone");
+    Refuse(Say("N：循环次数与 range 同给，也仅与 range 同给",
+               "N: the number of cycles goes with range, and with range alone"));
   if (parameter == 0) return FigureOf(category.m_dC / 1e12, answer.Source(), "×10¹²");
   if (parameter == 1) return FigureOf(category.m_dBeta, answer.Source(), "");
   if (parameter == 5) {
-    const double n = Number(request, 2, "N", "a number of cycles, 1 and more");
-    if (n < 1) RefuseArgument("N", request[2], "a number of cycles, 1 and more");
+    const CText right = {"不小于 1 的循环次数", "a number of cycles, 1 and more"};
+    const double n = Number(request, 2, "N", right);
+    if (n < 1) RefuseArgument("N", request[2], right);
     CCodeSource source = answer.Source();
     source.m_nStatus = CFigureStatus::Derived;
     return FigureOf(AllowableRange(category, n), source, kStressUnit);
@@ -171,8 +181,9 @@ CCodeFigure FatigueFigure(const CCodeRequest& request) {
                                            category.m_cutOff};
   const std::optional<double> range = printed[parameter - 2];
   if (!range)
-    Refuse(std::string("PARAMETER: the table has no figure at ") + kParameters[parameter] +
-           " for this category; give range " + kParameters[parameter]);
+    Refuse(Say("PARAMETER：表中该类别没有 {1} 的数值；请给出 range {1}",
+               "PARAMETER: the table has no figure at {1} for this category; give range {1}",
+               {kParameters[parameter]}));
   return FigureOf(*range, answer.Source(), kStressUnit);
 }
 

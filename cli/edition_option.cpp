@@ -14,12 +14,17 @@ constexpr const char* kVariable = "ORV3CAL_CODE";
 
 void AddEditionOption(CLI::App& command, std::string& year) {
   command
-      .add_option("--code", year,
-                  "The edition of GB 50017: 2017 (in force) or 2003 (withdrawn, for existing "
-                  "structures); the variable ORV3CAL_CODE if it is not given, else 2017")
+      .add_option(
+          "--code", year,
+          Say("GB 50017 的版本：2017（现行）或 2003（已废止，用于既有结构）；未给出时用变量 "
+              "ORV3CAL_CODE，再则 2017",
+              "The edition of GB 50017: 2017 (in force) or 2003 (withdrawn, for existing "
+              "structures); the variable ORV3CAL_CODE if it is not given, else 2017"))
       ->type_name("YEAR")
       ->check([](const std::string& text) {
-        return text.empty() ? "names no edition; give one of 2003, 2017" : std::string();
+        return text.empty() ? Say("没有给出版本；请给出下列之一：2003, 2017",
+                                  "names no edition; give one of 2003, 2017")
+                            : std::string();
       });
 }
 

@@ -16,6 +16,7 @@
 #include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "help_words.h"
 #include "option_errors.h"
 #include "output.h"
 #include "platform/command_line.h"
@@ -24,6 +25,10 @@ namespace {
 
 using orv3::Say;
 using orv3::cli::CExit;
+
+// CLI11 takes "[a,b]" for a list; with a mark behind it, which every option takes off again, it is
+// a name like any other.
+constexpr char kMark = '\x01';
 
 int Fail(CExit exit, std::string text) {
   std::replace(text.begin(), text.end(), '\n', ' ');
@@ -38,10 +43,31 @@ void SpellOut(std::string& argument) {
   }
 }
 
+bool IsMarked(const std::string& text) {
+  return text.starts_with('[') && text.ends_with(std::string("]") + kMark);
+}
+
+void Mark(std::string& argument) {
+  if (argument.starts_with('[') && argument.ends_with(']')) argument += kMark;
+}
+
+std::string Unmarked(std::string argument) {
+  if (IsMarked(argument)) argument.pop_back();
+  return argument;
+}
+
+void TakeMarksOff(CLI::App& command) {
+  for (CLI::Option* option : command.get_options()) {
+    option->transform(Unmarked);
+  }
+  for (CLI::App* each : command.get_subcommands({})) TakeMarksOff(*each);
+}
+
 // CLI11 takes the arguments in reverse, without the program's name.
 std::vector<std::string> ForParsing(int argc, char** argv) {
   std::vector<std::string> arguments = orv3::CommandLineUtf8(argc, argv);
   std::for_each(arguments.begin(), arguments.end(), SpellOut);
+  std::for_each(arguments.begin(), arguments.end(), Mark);
   std::reverse(arguments.begin(), arguments.end());
   if (!arguments.empty()) arguments.pop_back();
   return arguments;
@@ -62,11 +88,20 @@ void RefuseEmptyPaths(CLI::App& command) {
   for (CLI::App* each : command.get_subcommands({})) RefuseEmptyPaths(*each);
 }
 
-// What is wrong when a word that must be a command is none; empty when it is one, or an option.
+// What is wrong with the words up to the last command's name: a command that is none, or an option
+// that a command with commands of its own does not have. Empty when nothing is.
 std::string UnknownCommand(const CLI::App* command, const std::vector<std::string>& arguments) {
   for (auto word = arguments.rbegin(); word != arguments.rend(); ++word) {
     const auto commands = command->get_subcommands({});
-    if (commands.empty() || word->starts_with('-')) return {};
+    if (commands.empty()) return {};
+    if (word->starts_with('-')) {
+      const std::size_t equals = word->find('=');
+      const CLI::Option* option = command->get_option_no_throw(word->substr(0, equals));
+      if (!option) return Say("没有这样的选项：{1}", "no such option: {1}", {orv3::Excerpt(*word)});
+      const bool value = option->get_items_expected_max() > 0 && equals == word->npos;
+      if (value && std::next(word) != arguments.rend()) ++word;
+      continue;
+    }
     std::string names;
     command = nullptr;
     for (const CLI::App* each : commands) {
@@ -75,7 +110,8 @@ std::string UnknownCommand(const CLI::App* command, const std::vector<std::strin
     }
     if (!command)
       return Say("“{1}”不是命令；应为下列之一：{2}",
-                 "\"{1}\" is no command; right would be one of {2}", {orv3::Excerpt(*word), names});
+                 "\"{1}\" is no command; right would be one of {2}",
+                 {orv3::Excerpt(Unmarked(*word)), names});
   }
   return {};
 }
@@ -83,7 +119,7 @@ std::string UnknownCommand(const CLI::App* command, const std::vector<std::strin
 // An error's text in which no argument is quoted whole that is too long for it.
 std::string WithExcerpts(std::string text, const std::vector<std::string>& arguments) {
   for (const std::string& argument : arguments) {
-    const std::string excerpt = orv3::Excerpt(argument);
+    const std::string excerpt = orv3::Excerpt(Unmarked(argument));
     const std::size_t at = excerpt == argument ? text.npos : text.find(argument);
     if (at != text.npos) text.replace(at, argument.size(), excerpt);
   }
@@ -107,7 +143,8 @@ int Run(int argc, char** argv) {
                        "Sections and connection checks of structural steel, by GB 50017 (editions "
                        "of 2017 and 2003)"),
                    "orv3cal");
-  program.set_version_flag("--version", "orv3cal " ORV3CAL_VERSION);
+  program.set_version_flag("--version", "orv3cal " ORV3CAL_VERSION,
+                           Say("显示版本", "Display program version information and exit"));
   program.allow_windows_style_options(false);  // "/folder/file" is a path on Windows too
   program.require_subcommand(1);
   program.footer(Say("各命令的用法见 orv3cal COMMAND --help。",
@@ -115,6 +152,8 @@ int Run(int argc, char** argv) {
   for (const auto add : orv3::cli::kCommands) add(program);
   RefuseEmptyPaths(program);
   orv3::cli::AddLanguageOption(program);
+  orv3::cli::SayHelpWords(program);
+  TakeMarksOff(program);
   if (!std::all_of(arguments.begin(), arguments.end(), orv3::IsUtf8)) {
     return Fail(CExit::BadInput, Say("有一个参数不是 UTF-8 文字", "an argument is not UTF-8 text"));
   }

@@ -15,7 +15,7 @@ bool IsShared(std::string_view key) { return key == "id" || key == "load" || key
 
 }  // namespace
 
-CMemberReader::CMemberReader() : m_schema(kMemberSchema) {
+CMemberReader::CMemberReader() : m_schema(SchemaOf("member")) {
   for (const auto& rule : m_schema.Rules()) {
     const auto keys = MemberInputKeys();
     const auto key = std::find_if(keys.begin(), keys.end(),

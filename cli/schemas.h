@@ -5,11 +5,7 @@
 
 namespace orv3::cli {
 
-extern const std::string_view kBoltSchema;
-extern const std::string_view kFilletSchema;
-extern const std::string_view kButtSchema;
-extern const std::string_view kWeldGroupSchema;
-extern const std::string_view kLatticeSchema;
-extern const std::string_view kMemberSchema;
+// Of a kind of input: "bolt" for bolt.schema.json. Empty for a kind without one.
+std::string_view SchemaOf(std::string_view kind) noexcept;
 
 }  // namespace orv3::cli

@@ -32,6 +32,7 @@ namespace {
 struct COptions {
   std::string table;
   std::string no;
+  std::vector<std::string> key;
   std::vector<std::string> set;
   bool json = false;
   CStoreOptions store;
@@ -41,20 +42,27 @@ constexpr long kPairs = TABLE_ROLLED | TABLE_FAMILY_ANGLE_PAIR | TABLE_FAMILY_CH
 
 // --- Cells ---------------------------------------------------------------------------------------
 
-// Puts SIGN=VALUE into the row and returns its column. Signs hold no "=", so that the first one
-// parts them.
-int SetCell(const CDataTable& table, const std::string& set, CDataItem& row) {
-  const std::size_t equals = set.find('=');
+// SIGN=VALUE of an option: the column and the value. Signs hold no "=", so that the first one parts
+// them.
+std::pair<int, CString> CellOf(const CDataTable& table, const char* option,
+                               const std::string& given) {
+  const std::size_t equals = given.find('=');
   if (equals == std::string::npos) {
-    Refuse(Say("--set: “{1}”中没有“=”；应为 SIGN=VALUE",
-               "--set: \"{1}\" has no \"=\"; right would be SIGN=VALUE", {set}));
+    Refuse(Say("{1}: “{2}”中没有“=”；应为 SIGN=VALUE",
+               "{1}: \"{2}\" has no \"=\"; right would be SIGN=VALUE", {option, given}));
   }
-  const int column = ColumnOf(table, "--set", set.substr(0, equals));
+  return {ColumnOf(table, option, given.substr(0, equals)), FromUtf8(given.substr(equals + 1))};
+}
+
+// Puts a cell of --set into the row and returns its column.
+int SetCell(const CDataTable& table, const std::string& set, CDataItem& row) {
+  const auto [column, value] = CellOf(table, "--set", set);
   if (column >= GivenColumns(table.GetTableName(), table.m_Title)) {
     Refuse(Say("--set: “{1}”由它前面的列计算，不能给出",
-               "--set: \"{1}\" is computed from the columns before it", {set.substr(0, equals)}));
+               "--set: \"{1}\" is computed from the columns before it",
+               {ToUtf8(table.m_Title[column].m_strSign)}));
   }
-  row[column].m_strValue = FromUtf8(set.substr(equals + 1)).Trim(L" \t");
+  row[column].m_strValue = value;
   return column;
 }
 
@@ -75,22 +83,17 @@ void Complete(const COptions& options, CDataItem& row) {
   if (!why.IsEmpty()) Refuse(options.table + ": " + ToUtf8(why));
 }
 
-// Completes a row of which these columns were changed. A text that an import has brought in need
-// not be one that can be typed, and stays; nothing is computed from it.
+// Completes a row of which these columns were changed. The number of a section that an import has
+// brought in need not be one that can be typed, and stays; nothing is computed from it.
 void CompleteChanged(const COptions& options, const std::set<int>& changed, CDataItem& row) {
   CDataTableTitle known;
-  const bool isSection = KnownHeading(row.m_strTableName, known);
-  CDataItem complete = row;
-  std::vector<int> kept;
-  for (int i = 0; i < row.GetItemLength(); ++i) {
-    const bool text = ValueClassOf(std::as_const(row)[i].m_nType) == CValueClass::Text;
-    if (!text || changed.contains(i) || (isSection && i > 0)) continue;
-    kept.push_back(i);
-    complete[i].m_strValue = L"x";
+  if (changed.contains(0) || !KnownHeading(row.m_strTableName, known)) {
+    return Complete(options, row);
   }
-  Complete(options, complete);
-  for (const int i : kept) complete[i].m_strValue = std::as_const(row)[i].m_strValue;
-  row = complete;
+  const CString no = std::as_const(row)[0].m_strValue;
+  row[0].m_strValue = L"x";
+  Complete(options, row);
+  row[0].m_strValue = no;
 }
 
 // --- The store -----------------------------------------------------------------------------------
@@ -168,29 +171,51 @@ CDataTable TableToAddTo(const CString& store, const CString& name) {
   return StoreTable(store, name);  // which says why not
 }
 
-// The position of the live row that NO names by its key column.
-int PositionOf(const CDataTable& table, const COptions& options) {
-  const int column = KeyColumn(table);
-  const CString no = FromUtf8(options.no);
-  int position = -1;
-  std::string rows;
+// The positions of the live rows that NO names by the key column, and --key by further ones.
+std::vector<int> RowsNamed(const CDataTable& table, const COptions& options) {
+  std::vector<std::pair<int, CString>> wanted = {{KeyColumn(table), FromUtf8(options.no)}};
+  for (const std::string& key : options.key) wanted.push_back(CellOf(table, "--key", key));
+  std::vector<int> positions;
   for (int i = 0; i < table.GetTableRowNum(); ++i) {
     const CDataItem& row = table[i];
-    if (IsDeleted(row.m_nModifyType) || row[column].m_strValue != no) continue;
-    rows += (rows.empty() ? "" : ", ") + std::to_string(i + 1);
-    if (position >= 0) position = table.GetTableRowNum();  // more than one
-    if (position < 0) position = i;
+    const bool named = std::all_of(wanted.begin(), wanted.end(), [&row](const auto& cell) {
+      return row[cell.first].m_strValue == cell.second;
+    });
+    if (named && !IsDeleted(row.m_nModifyType)) positions.push_back(i);
   }
-  if (position < 0) {
+  return positions;
+}
+
+// The first column in which rows differ, -1 when they are equal.
+int DifferentColumn(const CDataTable& table, const std::vector<int>& positions) {
+  for (int column = 0; column < table.GetTableColNum(); ++column) {
+    const CString& first = table[positions.front()][column].m_strValue;
+    for (const int position : positions) {
+      if (table[position][column].m_strValue != first) return column;
+    }
+  }
+  return -1;
+}
+
+// The position of the one row that is named; of rows that are equal, of the first.
+int PositionOf(const CDataTable& table, const COptions& options) {
+  const std::vector<int> positions = RowsNamed(table, options);
+  std::string named = options.no;
+  for (const std::string& key : options.key) named += ", " + key;
+  if (positions.empty()) {
     Refuse(Say("NO: 表 {1} 中没有“{2}”；应为 orv3cal rows 列出的型号",
                "NO: table {1} has no \"{2}\"; right would be a number that orv3cal rows lists",
-               {options.table, options.no}));
+               {options.table, named}));
   }
-  if (position < table.GetTableRowNum()) return position;
-  Refuse(Say("NO: 表 {1} 中第 {3} 行的“{4}”都是“{2}”；应为只有一行具有的值",
-             "NO: table {1} has \"{2}\" as {4} in rows {3}; right would be a value that one row "
-             "alone has",
-             {options.table, options.no, rows, ToUtf8(table.m_Title[column].m_strSign)}));
+  const int different = DifferentColumn(table, positions);
+  if (different < 0) return positions.front();
+  const CDataItem& row = table[positions.front()];
+  Refuse(
+      Say("NO: 表 {1} 中有 {2} 行“{3}”；请用 --key 再给出其中一行的单元格，例如 --key \"{4}={5}\"",
+          "NO: table {1} has {2} rows \"{3}\"; right would be a cell of one of them as well, "
+          "such as --key \"{4}={5}\"",
+          {options.table, std::to_string(positions.size()), named,
+           ToUtf8(table.m_Title[different].m_strSign), ToUtf8(row[different].m_strValue)}));
 }
 
 // The position of a live row that may be changed.
@@ -258,8 +283,21 @@ CLI::App* Add(CLI::App& store, const char* name, const std::string& what, bool t
       ->add_option("TABLE", options->table,
                    Say("表名，见 tables", "The table's name, as tables lists it"))
       ->required();
-  if (takesNo)
-    command->add_option("NO", options->no, Say("型号", "The section's number"))->required();
+  if (takesNo) {
+    command
+        ->add_option("NO", options->no,
+                     Say("型号：关键字列的值，没有关键字时为第一列的值",
+                         "The section's number: the cell of the key column, without a key of the "
+                         "first"))
+        ->required();
+    command
+        ->add_option("--key", options->key,
+                     Say("有几行为此型号时，所指一行的另一单元格；可给几次",
+                         "Another cell of the row that is meant, where several have that number; "
+                         "once for each cell"))
+        ->type_name("SIGN=VALUE")
+        ->allow_extra_args(false);
+  }
   if (run != RunDelete) {
     command
         ->add_option("--set", options->set,

@@ -1,7 +1,6 @@
 // orv3cal store import: rows from data files, table files and CSV into a store.
 
 #include <algorithm>
-#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -20,7 +19,6 @@
 #include "store_commands.h"
 #include "store_place.h"
 #include "table_json.h"
-#include "tables/value_fit.h"
 
 namespace orv3::cli {
 namespace {
@@ -65,29 +63,6 @@ CString CsvTableName(const std::string& file, const std::string& given) {
   return table;
 }
 
-// Takes out the rows whose key an earlier row of the file has with other values: which of the two
-// is meant nobody knows.
-void RefuseRepeated(CImportTable& source) {
-  CDataItemArray& rows = source.m_table.m_arrItem;
-  CArray<int, int> keys;
-  source.m_table.m_Title.GetDataTableKeyIndex(keys);
-  std::map<std::vector<std::string>, std::vector<std::string>> known;
-  for (int i = 0; !keys.IsEmpty() && i < rows.GetSize(); ++i) {
-    const CDataItem& row = std::as_const(rows)[i];
-    if (FindMisfit(row) >= 0) continue;  // refused by itself
-    const std::vector<std::string> cells = RowCells(row);
-    std::vector<std::string> key;
-    for (const int column : keys) key.push_back(cells[static_cast<std::size_t>(column)]);
-    const auto [earlier, isNew] = known.try_emplace(std::move(key), cells);
-    if (isNew || earlier->second == cells) continue;
-    source.m_arrRefused.push_back(
-        {FromUtf8(cells[0]), FromUtf8(Say("文件中前面的一行已有此关键字，而值不同；请只留一行",
-                                          "an earlier line of the file has its key with other "
-                                          "values; right would be one line for each"))});
-    rows.RemoveAt(i--);
-  }
-}
-
 CImportTable ReadCsv(const std::string& file, const COptions& options, const CString& store,
                      CProgress& progress) {
   const CString name = CsvTableName(file, options.table);
@@ -107,7 +82,6 @@ CImportTable ReadCsv(const std::string& file, const COptions& options, const CSt
   if (!ReadCsvTable(std::move(text), name, stored.m_Title, table, why, tell)) {
     Refuse(file + ": " + ToUtf8(why));
   }
-  RefuseRepeated(table);
   return table;
 }
 

@@ -1,6 +1,7 @@
 #include "codes/fatigue.h"
 
 #include <cmath>
+#include <iterator>
 
 #include "catalogue/code_tables/table_search.h"
 #include "codes/gb2017/tables.h"
@@ -23,6 +24,21 @@ CCodeAnswer<CFatigueCategory> Category2003(std::string_view name) {
   return NoneOf("category", name, kCategories2003);
 }
 
+// The row of "Z1" to "Z14", "J1" to "J3"; null for another name. The rows of Z stand first.
+const gb2017::CFatigueRow* Row2017(std::string_view name) noexcept {
+  constexpr std::size_t kNormal = 14;
+  constexpr std::size_t kShear = std::size(gb2017::kFatigue) - kNormal;
+  if (name.size() < 2 || name.size() > 3 || (name[0] != 'Z' && name[0] != 'J')) return nullptr;
+  std::size_t number = 0;
+  for (const char digit : name.substr(1)) {
+    if (digit < '0' || digit > '9') return nullptr;
+    number = 10 * number + static_cast<std::size_t>(digit - '0');
+  }
+  const bool bShear = name[0] == 'J';
+  if (name[1] == '0' || number > (bShear ? kShear : kNormal)) return nullptr;
+  return &gb2017::kFatigue[(bShear ? kNormal : 0) + number - 1];
+}
+
 bool IsShear(const CFatigueCategory& category) noexcept { return *category.m_szName == 'J'; }
 
 constexpr double kKnee = 5e6;    // cycles, from which on the slope of Z is beta + 2
@@ -32,15 +48,12 @@ constexpr double kCutOff = 1e8;  // cycles, beyond which nothing more is lost
 
 CCodeAnswer<CFatigueCategory> FatigueCategory(CCodeEdition edition, std::string_view name) {
   if (edition == CCodeEdition::Gb2003) return Category2003(name);
-  for (const gb2017::CFatigueRow& row : gb2017::kFatigue) {
-    if (name.size() != row.m_strCategory.size() || name.back() != row.m_strCategory.back() ||
-        name != row.m_strCategory)
-      continue;
+  if (const gb2017::CFatigueRow* row = Row2017(name)) {
     const CTextLiteral place = name.front() == 'J'
                                    ? CTextLiteral{"16.2.1 表 16.2.1-2", "16.2.1, Table 16.2.1-2"}
                                    : CTextLiteral{"16.2.1 表 16.2.1-1", "16.2.1, Table 16.2.1-1"};
-    return {{row.m_strCategory.data(), row.m_dC, row.m_dBeta, row.m_range2e6, row.m_range5e6,
-             row.m_cutOff},
+    return {{row->m_strCategory.data(), row->m_dC, row->m_dBeta, row->m_range2e6, row->m_range5e6,
+             row->m_cutOff},
             {edition, place}};
   }
   CCodeRefusal refusal = NoneOf("category", name, {});

@@ -1,5 +1,7 @@
 #include "framework/csv.h"
 
+#include <algorithm>
+
 namespace orv3 {
 namespace {
 
@@ -80,15 +82,19 @@ void CCsvReader::EndLine(char end) {
   ++m_nNextLine;
 }
 
-bool CCsvReader::AtEndOfCell() {
-  if (IsEnd(m_nAt)) return true;
-  const char ch = m_strBytes[m_nAt];
-  return ch == m_chSeparator || ch == '\n' || ch == '\r';
+void CCsvReader::PassCell() {
+  const auto ends = [separator = m_chSeparator](char ch) {
+    return ch == separator || ch == '\n' || ch == '\r';
+  };
+  do {
+    const auto rest = std::string_view(m_strBytes).substr(m_nAt);
+    m_nAt += static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), ends) - rest.begin());
+  } while (m_nAt == m_strBytes.size() && !IsEnd(m_nAt));
 }
 
 CCsvReader::CCell CCsvReader::PlainCell() {
   CCell cell{m_nAt, m_nAt};
-  while (!AtEndOfCell()) ++m_nAt;
+  PassCell();
   cell.m_nEnd = m_nAt;
   while (cell.m_nFirst < cell.m_nEnd && m_strBytes[cell.m_nFirst] == ' ') ++cell.m_nFirst;
   while (cell.m_nFirst < cell.m_nEnd && m_strBytes[cell.m_nEnd - 1] == ' ') --cell.m_nEnd;

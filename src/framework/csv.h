@@ -46,7 +46,7 @@ class ORV3CAL_API CCsvReader {
   void Start();
   char FindSeparator();
   bool IsEnd(std::size_t at);  // reads more where the text at hand ends
-  bool AtEndOfCell();
+  void PassCell();             // to what ends the cell at hand
   CCell PlainCell();
   CCell QuotedCell();
   void EndLine(char end);

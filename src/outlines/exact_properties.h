@@ -57,8 +57,8 @@ struct CExactProperties {
 };
 
 // Loops that run counter-clockwise bound material, clockwise ones holes; several outer loops are
-// parts. The loops are closed, do not cross themselves or each other (see outlines/crossing.h), and
-// a hole lies inside its outer loop; of others the figures are NaN.
+// parts. The loops are closed, do not cross themselves or each other (see
+// outlines/outline_check.h), and a hole lies inside its outer loop; of others the figures are NaN.
 ORV3CAL_API CExactProperties ExactProperties(std::span<const CPath> loops);
 
 }  // namespace orv3

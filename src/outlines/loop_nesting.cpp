@@ -5,7 +5,7 @@
 #include <map>
 #include <utility>
 
-#include "outlines/crossing.h"
+#include "outlines/loops.h"
 #include "outlines/piece_tree.h"
 
 namespace orv3 {

@@ -5,8 +5,8 @@
 
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "outlines/crossing.h"
 #include "outlines/loop_nesting.h"
+#include "outlines/loops.h"
 #include "outlines/piece_tree.h"
 
 namespace orv3 {

@@ -1,6 +1,7 @@
 #include "platform/store_journal.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 namespace orv3 {
@@ -20,7 +21,13 @@ void Put(std::string& out, std::uint64_t value) {
 
 std::uint64_t Take(std::string_view bytes, std::size_t at) {
   std::uint64_t value = 0;
-  for (std::size_t i = 8; i-- > 0;) value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
+  if constexpr (std::endian::native == std::endian::little) {
+    std::memcpy(&value, bytes.data() + at, sizeof value);
+  } else {
+    for (std::size_t i = 8; i-- > 0;) {
+      value = value << 8 | static_cast<unsigned char>(bytes[at + i]);
+    }
+  }
   return value;
 }
 

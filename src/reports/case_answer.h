@@ -31,6 +31,8 @@ class ORV3CAL_API CCaseAnswer {
   const std::vector<CCaseFault>& Faults() const noexcept { return m_arrFault; }
   const std::vector<CCaseWarning>& Warnings() const noexcept { return m_arrWarning; }
   const std::vector<CCasePart>& Parts() const noexcept { return m_arrPart; }
+  // What the caller has to add to look at.
+  void AddWarning(CCaseWarning warning) { m_arrWarning.push_back(std::move(warning)); }
   // Every part passes; false also of a refused case.
   bool Pass() const noexcept {
     return !m_arrPart.empty() && std::all_of(m_arrPart.begin(), m_arrPart.end(),

@@ -37,6 +37,8 @@ td.unit { white-space: nowrap; } td.res + td.unit { border-left: none; padding-l
       vertical-align: bottom; }
 table.steps { table-layout: fixed; }
 table.verdicts { break-inside: avoid; }
+table.summary { table-layout: fixed; break-inside: auto; }
+.summary td { white-space: normal; overflow-wrap: anywhere; }
 td.tick { white-space: nowrap; }
 .eq { display: grid; grid-template-columns: 4.2em 1fr; column-gap: 0.4em; }
 .eq > .sym { text-align: right; } .eq > .rhs { overflow-wrap: anywhere; }
@@ -219,10 +221,17 @@ class CReportWriter {
     Head(CommonSheet(), Text(kTitle), Editions());
     m_strHtml += std::string("<h1>") + Text(kTitle) + "</h1>\n" + Count() +
                  "<table class=\"verdicts summary\"><thead><tr>";
-    static constexpr CTextLiteral kHead[] = {
-        {"序号", "Case"},          {"编号", "Id"},        {"版本", "Code"},    {"结论", "Verdict"},
-        {"利用率", "Utilisation"}, {"控制项", "Governs"}, {"警告", "Warnings"}};
-    for (const CTextLiteral& head : kHead) m_strHtml += std::string("<th>") + Text(head) + "</th>";
+    static constexpr struct {
+      CTextLiteral m_name;
+      const char* m_szWidth;
+    } kColumns[] = {{{"序号", "Case"}, "8%"},           {{"编号", "Id"}, "23%"},
+                    {{"版本", "Code"}, "8%"},           {{"结论", "Verdict"}, "12%"},
+                    {{"利用率", "Utilisation"}, "13%"}, {{"控制项", "Governs"}, "25%"},
+                    {{"警告", "Warnings"}, "11%"}};
+    for (const auto& column : kColumns) {
+      m_strHtml += std::string("<th style=\"width:") + column.m_szWidth + "\">" +
+                   Text(column.m_name) + "</th>";
+    }
     m_strHtml += "</tr></thead>\n";
     for (const CReportCase& each : m_arrCase) Line(each);
     m_strHtml += "</table>\n</article>\n";

@@ -16,7 +16,7 @@
 
 namespace {
 
-using orv3::CVertex, orv3::RowOutline, orv3::RowOutlineMoments;
+using orv3::CPoint, orv3::CVertex, orv3::RowOutline, orv3::RowOutlineMoments;
 
 // --- Form ----------------------------------------------------------------------------------------
 
@@ -183,29 +183,6 @@ TEST(RowOutline, IsEmptyForSizesThatBoundNoSection) {
   EXPECT_TRUE(RowOutline(unknown).m_arrLoop.empty());
   EXPECT_TRUE(RowOutline(RowOf(L"热轧普通工字钢", L"I20a", {})).m_arrLoop.empty());
   EXPECT_TRUE(RowOutline(CDataItem()).m_arrLoop.empty());
-}
-
-// Arcs of every sweep and sense, far from the origin, against the same loop of many chords.
-TEST(RowOutlineMoments, AreThoseOfAFinePolygon) {
-  const orv3::CPath loops[] = {
-      {{{0, 0, 0.2}, {50, 0, -0.4}, {60, 40, 0}, {30, 80, 2.5}, {0, 60, -0.1}}, true},
-      {{{0, 0, 1}, {10, 0, 0}}, true},
-      {{{0, 0, 0.01}, {100, 0, 0}, {100, 90, -0.02}, {0, 90, 0}}, true},
-  };
-  for (const orv3::CPath& shape : loops) {
-    for (const orv3::CPath& loop :
-         {shape, Moved(Turned(shape, 33), 5000, -3000), MirroredX(shape)}) {
-      const orv3::COutlineMoments exact = RowOutlineMoments({&loop, 1});
-      const CIntegrals fine = Central(Polygons({{loop}}, 0, 2000));
-      EXPECT_NEAR(exact.m_dArea, fine.A, 2e-6 * fine.A);
-      EXPECT_NEAR(exact.m_centroid.x, fine.x, 1e-4);
-      EXPECT_NEAR(exact.m_centroid.y, fine.y, 1e-4);
-      EXPECT_NEAR(exact.m_dIx, fine.yy, 2e-6 * fine.yy);
-      EXPECT_NEAR(exact.m_dIy, fine.xx, 2e-6 * fine.xx);
-      EXPECT_NEAR(exact.m_dIxy, fine.xy, 2e-6 * fine.yy);
-    }
-  }
-  EXPECT_EQ(RowOutlineMoments({}).m_dArea, 0);
 }
 
 }  // namespace

@@ -1,24 +1,21 @@
-// The exact properties of rows: kept beside the store, never those of other sizes, and near to an
-// independent solution.
+// The exact properties of rows: kept beside the store, never those of other sizes, and accurate.
 #include "catalogue/exact/row_exact.h"
 
 #include <gtest/gtest.h>
 
-#include <Eigen/Sparse>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <numbers>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "catalogue/exact/exact_figures.h"
 #include "catalogue/outline/row_outline.h"
+#include "catalogue/quadratic_section.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "outlines/crossing.h"
+#include "outlines/edge.h"
 #include "outlines/exact_keys.h"
 #include "outlines/outline_check.h"
 #include "platform/whole_file.h"
@@ -176,131 +173,47 @@ TEST(RowExact, ToldDeviationsOfPrintedFigures) {
 
 // --- An independent solution ---------------------------------------------------------------------
 
-// It by the membrane over a section of plates: Prandtl's stress function in bilinear elements whose
-// lines follow the plates' edges, a hole as a rigid lid. The library solves for the warping
-// instead: one is below the true figure, the other above.
-class CMembrane {
- public:
-  CMembrane(const std::vector<CPath>& loops, int cells) {
-    std::set<double> xs, ys;
-    for (const CPath& loop : loops) {
-      for (const CVertex& v : loop.m_arrVertex) {
-        xs.insert(v.x);
-        ys.insert(v.y);
-      }
-    }
-    m_x = Lines(xs, cells);
-    m_y = Lines(ys, cells);
-    for (std::size_t j = 0; j + 1 < m_y.size(); ++j) {
-      for (std::size_t i = 0; i + 1 < m_x.size(); ++i) m_cell.push_back(KindAt(loops, i, j));
-    }
-  }
-
-  double It() {
-    Number();
-    const auto count = static_cast<Eigen::Index>(m_nFree);
-    std::vector<Eigen::Triplet<double>> entries;
-    Eigen::VectorXd load = Eigen::VectorXd::Zero(count);
-    EachCell([&](const std::array<int, 4>& node, double a, double b, double stiffness) {
-      for (int p = 0; p < 4; ++p) {
-        if (node[static_cast<std::size_t>(p)] < 0) continue;
-        load[node[static_cast<std::size_t>(p)]] += a * b / 2;
-        for (int q = 0; q < 4; ++q) {
-          if (node[static_cast<std::size_t>(q)] < 0) continue;
-          const bool sameX = (p & 1) == (q & 1), sameY = (p & 2) == (q & 2);
-          const double kx = b / a * (sameX ? 1 : -1) * (sameY ? 2 : 1) / 6;
-          const double ky = a / b * (sameY ? 1 : -1) * (sameX ? 2 : 1) / 6;
-          entries.emplace_back(node[static_cast<std::size_t>(p)], node[static_cast<std::size_t>(q)],
-                               stiffness * (kx + ky));
-        }
-      }
-    });
-    Eigen::SparseMatrix<double> matrix(count, count);
-    matrix.setFromTriplets(entries.begin(), entries.end());
-    const Eigen::SimplicialLDLT<Eigen::SparseMatrix<double>> solver(matrix);
-    const Eigen::VectorXd phi = solver.solve(load);
-    return load.dot(phi);  // twice the integral of phi, which the load holds
-  }
-
- private:
-  enum CKind : char { kOutside, kSteel, kHole };
-
-  // Lines closer together towards the plates' edges, where the stress is steep.
-  static std::vector<double> Lines(const std::set<double>& edges, int cells) {
-    std::vector<double> lines;
-    double last = 0;
-    for (const double edge : edges) {
-      if (!lines.empty() && edge - last < 1e-9) continue;
-      for (int i = 1; !lines.empty() && i < cells; ++i)
-        lines.push_back(last + (edge - last) * (1 - std::cos(std::numbers::pi * i / cells)) / 2);
-      lines.push_back(edge);
-      last = edge;
-    }
-    return lines;
-  }
-
-  CKind KindAt(const std::vector<CPath>& loops, std::size_t i, std::size_t j) const {
-    const CPoint middle{(m_x[i] + m_x[i + 1]) / 2, (m_y[j] + m_y[j + 1]) / 2};
-    int around = 0;
-    for (const CPath& loop : loops) around += Encloses(loop, middle) ? 1 : 0;
-    return around == 0 ? kOutside : around == 1 ? kSteel : kHole;
-  }
-
-  CKind Cell(std::size_t i, std::size_t j) const {
-    const bool within = i + 1 < m_x.size() && j + 1 < m_y.size();
-    return within ? m_cell[j * (m_x.size() - 1) + i] : kOutside;
-  }
-
-  void Number() {
-    m_nFree = 0;
-    m_node.assign(m_x.size() * m_y.size(), -1);
-    for (std::size_t j = 1; j < m_y.size(); ++j) {
-      for (std::size_t i = 1; i < m_x.size(); ++i) {
-        const bool inside = Cell(i, j) != kOutside && Cell(i - 1, j) != kOutside &&
-                            Cell(i, j - 1) != kOutside && Cell(i - 1, j - 1) != kOutside;
-        if (inside) m_node[j * m_x.size() + i] = m_nFree++;
-      }
-    }
-  }
-
-  template <class VISIT>
-  void EachCell(const VISIT& visit) const {
-    for (std::size_t j = 0; j + 1 < m_y.size(); ++j) {
-      for (std::size_t i = 0; i + 1 < m_x.size(); ++i) {
-        if (Cell(i, j) == kOutside) continue;
-        const std::size_t at = j * m_x.size() + i;
-        visit({m_node[at], m_node[at + 1], m_node[at + m_x.size()], m_node[at + m_x.size() + 1]},
-              m_x[i + 1] - m_x[i], m_y[j + 1] - m_y[j], Cell(i, j) == kHole ? 1e6 : 1.0);
-      }
-    }
-  }
-
-  std::vector<double> m_x, m_y;
-  std::vector<CKind> m_cell;
-  std::vector<int> m_node;
-  int m_nFree = 0;
-};
-
-// Between two grids the error falls as the square of the cells.
-double MembraneIt(const std::vector<CPath>& loops) {
-  const double coarse = CMembrane(loops, 6).It();
-  const double fine = CMembrane(loops, 12).It();
-  return fine + (fine - coarse) / 3;
+// All figures by quadratic triangles, two to a wall. The torsion constant by the stress function is
+// below the true one, the library's above.
+void MeetCoarseFigures(const std::vector<CPath>& loops, const CExactProperties& exact,
+                       const std::string& name) {
+  SCOPED_TRACE(name);
+  const CBox box = PathBounds(loops);
+  double length = 0;
+  for (const CPath& loop : loops)
+    ForEachEdge(loop, [&](const CEdge& edge, std::size_t) { length += edge.Length(); });
+  const auto mesh = test::RasterTriangles(loops, std::min(0.65 * exact.A / length, exact.i2 / 3));
+  const test::CCoarseFigures coarse = test::QuadraticFigures(mesh);
+  const double depth = std::max(box.Width(), box.Height());
+  EXPECT_NEAR(exact.It, coarse.It, 0.01 * exact.It);
+  EXPECT_NEAR(exact.Iw, coarse.Iw, 0.01 * std::max(exact.Iw, 0.01 * exact.It * depth * depth));
+  EXPECT_NEAR(exact.xs, coarse.xs, 0.005 * depth);
+  EXPECT_NEAR(exact.ys, coarse.ys, 0.005 * depth);
+  EXPECT_NEAR(exact.Asx, coarse.Asx, 0.01 * exact.Asx);
+  EXPECT_NEAR(exact.Asy, coarse.Asy, 0.01 * exact.Asy);
 }
 
-bool IsOfPlates(const std::vector<CPath>& loops) {
-  for (const CPath& loop : loops) {
-    for (std::size_t i = 0; i < loop.m_arrVertex.size(); ++i) {
-      const CVertex& a = loop.m_arrVertex[i];
-      const CVertex& b = loop.m_arrVertex[(i + 1) % loop.m_arrVertex.size()];
-      if (a.bulge != 0 || (a.x != b.x && a.y != b.y)) return false;
-    }
+// Every `step`-th row that is one part.
+void MeetCoarseRows(std::size_t step) {
+  const std::vector<CDataItem> rows = AllRows();
+  std::size_t met = 0;
+  for (std::size_t i = 0; i < rows.size(); i += step) {
+    const CExactProperties exact = ExactProperties(rows[i]);
+    if (!exact.m_bJoined) continue;
+    MeetCoarseFigures(RowOutline(rows[i]).m_arrLoop, exact, NameOf(rows[i]));
+    ++met;
   }
-  return true;
+  EXPECT_GT(met * step, 500U);
 }
 
-// A hundred sections of each style, their sizes around those of its sample.
-TEST(RowExact, HoldsForUserSections) {
+TEST(RowExact, MeetsAnotherMethod) { MeetCoarseRows(23); }
+
+// A minute's work; as docs/section-solver.md tells.
+TEST(RowExact, DISABLED_MeetsAnotherMethodInEveryRow) { MeetCoarseRows(1); }
+
+// A hundred sections of each style, their sizes around those of its sample; every `step`-th by the
+// other method too.
+void HoldForUserSections(int step) {
   std::uint64_t seed = 20'241'001;
   const auto random = [&] {
     seed = seed * 6364136223846793005U + 1442695040888963407U;
@@ -319,11 +232,13 @@ TEST(RowExact, HoldsForUserSections) {
       std::string name = style.m_szAlias;
       for (const double size : given) name += " " + std::to_string(size);
       EXPECT_TRUE(exact.m_bAccurate) << name;
-      if (made % 10 != 0 || !IsOfPlates(outline.m_arrLoop)) continue;
-      EXPECT_NEAR(exact.It, MembraneIt(outline.m_arrLoop), 0.01 * exact.It) << name;
+      if (made % step == 0) MeetCoarseFigures(outline.m_arrLoop, exact, name);
     }
   }
 }
+
+TEST(RowExact, HoldsForUserSections) { HoldForUserSections(25); }
+TEST(RowExact, DISABLED_HoldsForUserSectionsOneByOne) { HoldForUserSections(1); }
 
 }  // namespace
 }  // namespace orv3

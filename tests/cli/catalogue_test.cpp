@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <tuple>
 #include <utility>
 
 #include "cli/run_program.h"
@@ -141,27 +140,6 @@ TEST(LatticeCommand, ComputesTheExample) {
                                     {"x", 300.0},
                                     {"y", 400.0}}));
   ExpectHas(OnCatalogue(lattice).m_strOut, {"X轴惯性矩      Ix   1239884400  mm⁴\n"});
-}
-
-// Two TW100X200 (GB/T 11263-1998: 185 cm4, centroid 1.73 cm below the flange's face) 600 mm apart,
-// flanges outwards and inwards.
-TEST(LatticeCommand, TakesATAtItsCentroid) {
-  for (const auto& [first, second, fibre] : {std::tuple(180, 0, 17.3), std::tuple(0, 180, 82.7)}) {
-    const COwnFile column("ts.json", Json({{"table", "双肢格构柱"},
-                                           {"No.", "G"},
-                                           {"k(mm)", 600},
-                                           {"P1Type", "剖分T型钢"},
-                                           {"P1No.", "TW100X200"},
-                                           {"P1θ°", first},
-                                           {"P2Type", "剖分T型钢"},
-                                           {"P2No.", "TW100X200"},
-                                           {"P2θ°", second}})
-                                         .dump());
-    const Json p = CatalogueJson("lattice " + column.m_strPath)["properties"];
-    const double ix = 2 * (185e4 + 3214.0 * 300 * 300);
-    EXPECT_NEAR(p["Wx1"], ix / (300 + fibre), 1e-6 * ix / 300);
-    EXPECT_NEAR(p["Wx2"], ix / (300 + fibre), 1e-6 * ix / 300);
-  }
 }
 
 TEST(LatticeCommand, DrawsItsLimbs) {

@@ -12,6 +12,7 @@
 #include "connections/gb2017/weld_case.h"
 #include "connections/weld_group/group_case.h"
 #include "framework/utf8.h"
+#include "members/cases/member_case.h"
 #include "platform/code_page.h"
 #include "reports/report_document.h"
 
@@ -64,6 +65,29 @@ TEST(CheckCommand, TheSchemasListTheKeysOfTheChecks) {
   ExpectKeysOf<orv3::CFilletCheck, orv3::CFilletCheck2017>("fillet");
   ExpectKeysOf<orv3::CButtCheck, orv3::CButtCheck2017>("butt");
   ExpectKeysOf<orv3::CWeldGroupCheck2003, orv3::CWeldGroupCheck2017>("weld-group");
+}
+
+// The other way round the command refuses to start.
+TEST(CheckCommand, TheSchemaOfMembersListsItsKeys) {
+  const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/member.schema.json"));
+  for (const auto& key : orv3::MemberInputKeys()) {
+    Json at = schema;
+    std::istringstream path(key.m_szKey);
+    for (std::string name; std::getline(path, name, '.');) at = at["properties"][name];
+    EXPECT_FALSE(at.is_null()) << key.m_szKey;
+  }
+}
+
+TEST(CheckCommand, AnswersTheExamplesOfMembers) {
+  const Json one = ExampleAnswer("member");
+  EXPECT_EQ(one["pass"], true);
+  for (const Json& check : one["checks"]) {
+    if (check["name"] != "strength") continue;
+    EXPECT_NEAR(check["ratio"].get<double>(), 0.37882, 1e-5);  // 800e3/A + 150e6/(1.05 W)
+  }
+  const Json many = JsonOf("check member \"" + kSource + "/examples/members.csv\" --json");
+  ASSERT_EQ(many.size(), 4U);
+  for (const Json& each : many) EXPECT_EQ(each.value("pass", false), true) << each;
 }
 
 TEST(CheckCommand, AnswersTheExamples) {
@@ -212,6 +236,40 @@ TEST(CheckCommand, PassesOnlyWhatTheCodePasses) {
     EXPECT_NEAR(answer["utilisation"].get<double>(), each.utilisation, 5e-5);
     ExpectHas(answer["warnings"].dump(), each.told);
   }
+}
+
+// By both editions side by side 2003 leaves out what it does not have and says so, but not a hole
+// or an electrode that it has no figures for.
+TEST(CheckCommand, BothEditionsNameWhatOneLacks) {
+  const std::string bolt =
+      R"({"layout":"grid","type":"friction","cols":2,"rows":3,"colSpace":70,"rowSpace":80,"d":20,
+          "nf":2,"surface":1,"grade":"10.9","N":0,"Vx":100,"Vy":0,"M":0,"T":0,"ex":50,"ey":50,
+          "t":16,"steel":"Q345"})";
+  const std::string fillet =
+      R"({"case":3,"steel":"Q390","lw":200,"N":0,"M":0,"V":90,"betaF":1,"hf":6,"angle":90,
+          "joint":"lap","t1":10,"t2":12})";
+  const struct {
+    const char* kind;
+    const char* patch;
+    std::vector<std::string> leftOut;
+    bool bRefused;
+  } cases[] = {{"bolt", R"({"hole":"standard"})", {"hole"}, false},
+               {"bolt", R"({"hole":"oversize"})", {"hole"}, true},
+               {"fillet", R"({"electrode":"E55"})", {"joint", "t1", "t2", "electrode"}, false},
+               {"fillet", R"({"electrode":"E50"})", {"electrode"}, true}};
+  for (const auto& each : cases) {
+    SCOPED_TRACE(each.patch);
+    Json input = Json::parse(std::string(each.kind) == "bolt" ? bolt : fillet);
+    input.merge_patch(Json::parse(each.patch));
+    const CRunResult run = Check(each.kind, input.dump(), "--json --code both");
+    EXPECT_EQ(run.m_nExit, each.bRefused ? 2 : 0) << run.m_strError;
+    const Json earlier = Json::parse(run.m_strOut)["editions"][1];
+    const std::string told = earlier[each.bRefused ? "refused" : "warnings"].dump();
+    ExpectHas(told, each.leftOut);
+    ExpectHas(told, {each.bRefused ? "has no place by GB 50017-2003" : "GB 50017-2003 does not"});
+  }
+  const CRunResult table = Check("bolt", "[" + bolt + "]", "--code both");
+  ExpectHas(table.m_strOut, {"surface", "shot-blasted (sand-blasted)", "sand- or shot-blasted"});
 }
 
 TEST(CheckCommand, AnswersManyCasesOfACsv) {

@@ -46,6 +46,9 @@ TEST(Language, HoldsForEveryRefusal) {
       "section circle 1 --name \"a,b\"",
       "section circle 1 --svg missing/x.svg",
       "tables --mask x",
+      "tables --mask \"\"",
+      "--bogus rows T",
+      "store --bogus=1 add",
       "lattice missing.json",
       "lattice " + json.m_strPath,
       "lattice " + key.m_strPath,
@@ -84,6 +87,21 @@ TEST(Language, HoldsForEveryRefusal) {
     EXPECT_TRUE(HasChinese(chinese.m_strOut + chinese.m_strError));
     EXPECT_FALSE(HasEnglish(chinese.m_strOut + chinese.m_strError))
         << chinese.m_strOut << chinese.m_strError;
+  }
+}
+
+// The options are named by English words in either language.
+TEST(Language, HoldsForEveryHelp) {
+  for (const std::string command :
+       {"",           "styles",      "section",      "tables",       "rows",         "show",
+        "lattice",    "outline",     "gauge",        "check",        "check bolt",   "check member",
+        "store",      "store info",  "store verify", "store import", "store export", "store add",
+        "store edit", "store delete"}) {
+    SCOPED_TRACE(command);
+    const std::string text = RunProgram(command + " --help --lang zh").m_strOut;
+    EXPECT_TRUE(HasChinese(text));
+    EXPECT_FALSE(HasEnglish(std::regex_replace(text, std::regex("--[a-z]+|[A-Z]+|orv3cal .*"), "")))
+        << text;
   }
 }
 

@@ -104,12 +104,6 @@ TEST(SectionCommand, WritesAnOutline) {
   EXPECT_EQ(loops, 2) << "the rim and the hole";
 }
 
-TEST(SectionCommand, AlignsItsColumns) {
-  ExpectHas(RunProgram("section rect 200 400").m_strOut,
-            {"截面面积        A            80000  mm²  area\n",
-             "X0轴抵抗矩(上)  Wxo1       5333333  mm³  modulus about X0, top\n", "∞"});
-}
-
 TEST(StylesCommand, ListsAllFifteen) {
   ExpectHas(RunProgram("styles").m_strOut,
             {"自定义Z形截面", "bf1  上翼缘宽度  top flange overhang left of the web\n"});

@@ -121,8 +121,9 @@ TEST_F(StoreCommand, RefusesWhatCannotBeKeptAndLeavesTheStore) {
       {On("add 不存在 --set No.=a"), {"has no table \"不存在\""}},
       {On("edit 我的表 I20a --set a=" + wide + " --set b=" + wide),
        {"bytes, but the file has room"}},
-      {On("add 我的表 --set No.=x --set a=,,,"), {"has a comma"}},
-      {On("edit 我的表 I20a --set \"a=7\n\""), {"has a line end"}},
+      {On("add 我的表 --set No.=x --set a=,,,"), {"has \",,,\""}},
+      {On("add 我的表 --set a=x"), {"first cell is empty"}},
+      {On("edit 我的表 I20a --set \"a=7\n\""), {"has a line feed"}},
       {On("import " + Quoted(L"none.kvb")), {"not found"}, 3},
       // A refused row starts no store.
       {"store add " + kH + " --set No.=a --store " + Quoted(L"new.KDB") + kData, {}},
@@ -169,20 +170,33 @@ TEST_F(StoreCommand, ChangesTheRowThatTheKeyNames) {
   }
   ASSERT_EQ(Run("edit 我的 C --set note=y").m_nExit, 0);
   ASSERT_EQ(Run("delete 我的 B").m_nExit, 0);
-  ASSERT_EQ(Run("edit 我的 A --set No.=E").m_nExit, 0);  // beside a text that cannot be typed
+  ASSERT_EQ(Run("edit 我的 A --set No.=E --set note=p,q").m_nExit, 0);  // as imports bring it
   const Json rows = Rows("我的")["rows"];
   ASSERT_EQ(rows.size(), 3U);
   EXPECT_EQ(rows[0]["cells"], Json::array({"p,q", "E"}));
   EXPECT_EQ(rows[1]["cells"], Json::array({"y", "C"}));
   EXPECT_EQ(rows[2]["cells"], Json::array({"x", "D"}));
 
-  Put(L"own.csv", "a:text,b:double\nx,1\nx,1e300\n");  // without a key
-  ASSERT_EQ(Run("import --table 无 " + Quoted(L"own.csv")).m_nExit, 0);
+  // Without a key rows may be equal, and come in once.
+  Put(L"own.csv", "a:text,b:double\nx,1\nx,1e300\nx,1\n");
+  EXPECT_EQ(Import("--table 无 " + Quoted(L"own.csv"), 0)[0]["added"], 3);
+  EXPECT_EQ(Import("--table 无 " + Quoted(L"own.csv"), 0)[0]["unchanged"], 3);
   ExpectHas(RunProgram("rows 无 --csv --store \"" + m_store + "\"").m_strOut, {"x,1e300"});
-  ExpectRefused({{On("delete 无 x"), {"in rows 1, 2"}},
+  ExpectRefused({{On("delete 无 x"), {"3 rows \"x\"", "--key \"b=1\""}},
+                 {On("delete 无 x --key b=2"), {"no \"x, b=2\""}},
                  {On("edit 我的 C --set note=a --set note=b"), {"\"note\" is given twice"}},
                  {On("export 我的 我的 --to " + Quoted(L"o.json")), {"is given twice"}},
                  {On("export --guard --to " + Quoted(L"o.json")), {"for .csv files alone"}}});
+  for (int rows = 2; rows > 0; --rows) {  // one of two that are equal, then the other
+    ASSERT_EQ(Run("delete 无 x --key b=1").m_nExit, 0);
+    EXPECT_EQ(Rows("无")["rows"].size(), static_cast<std::size_t>(rows));
+  }
+  Put(L"own.csv", "a:text:key,b:int:key,c:text\nx,1,p\nx,2,q\n");
+  ASSERT_EQ(Run("import --table [二,三] " + Quoted(L"own.csv")).m_nExit, 0);
+  ASSERT_EQ(Run("edit [二,三] x --key b=2 --set c=r").m_nExit, 0);
+  ASSERT_EQ(Run("delete [二,三] x --key b=1").m_nExit, 0);
+  ASSERT_EQ(Run("export [二,三] --to " + Quoted(L"out.csv")).m_nExit, 0);
+  ExpectHas(FileBytes(File(L"out.csv")), {"key,c:text\nx,2,r\n"});
 }
 
 TEST_F(StoreCommand, RefusesAHundredthTableAndARecordThatDoesNotFit) {
@@ -222,7 +236,8 @@ TEST_F(StoreCommand, ImportsCsvAndTellsWhatBecameOfEachRow) {
   EXPECT_TRUE(FileBytes(m_store) == bytes);
 
   Put(name, "No.,b(mm),h(mm),tf(mm),tw(mm)\nT,300,500,12,10\nT,300,600,12,10\n");
-  ExpectHas(Import("--overwrite " + Quoted(name), 2)[0]["refused"][0]["why"], {"an earlier line"});
+  ExpectHas(Import("--overwrite " + Quoted(name), 2)[0]["refused"][0]["why"],
+            {"line 3: line 2 has its key"});
   ASSERT_EQ(Run("delete " + kH + " T").m_nExit, 0);
   Put(name, "No.,b(mm),h(mm),tf(mm),tw(mm),A(mm^2)\nA,300,500,12,10,1\n");
   EXPECT_EQ(Import(Quoted(name), 2)[0]["refused"][0]["no"], "A");
@@ -317,7 +332,11 @@ TEST_F(StoreCommand, ExportsComeBackAsTheyWere) {
   } else {
     ExpectHas(book.m_strError, {"built without libxlsxwriter"});
   }
+  ASSERT_EQ(Run("export " + kH + " --to " + Quoted(L"h.ifc")).m_nExit, 0);
+  ExpectHas(FileBytes(File(L"h.ifc")), {"FILE_SCHEMA(('IFC4'))", "=IFCISHAPEPROFILEDEF("});
   ExpectRefused({{On("export --to " + Quoted(L"all.csv")), {}},
+                 {On("export --to " + Quoted(L"all.ifc")), {"我的"}},
+                 {On("export --exact " + kH + " --to " + Quoted(L"h.ifc")), {"--exact"}},
                  {On("export 无 --to " + Quoted(L"all.json")), {}},
                  {On("export --to " + Quoted(L"all.txt")), {}},
                  {On("export --to " + Quoted(L"none/all.json")), {}, 3}});

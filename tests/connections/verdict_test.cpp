@@ -5,8 +5,7 @@
 
 #include <cmath>
 
-#include "connections/cases/bolt_case.h"
-#include "connections/cases/weld_case.h"
+#include "connections/case_changes.h"
 #include "connections/report/connection_report.h"
 #include "connections/verdict/least_cut.h"
 #include "framework/plain_number.h"
@@ -31,44 +30,12 @@ CBoltCase Ordinary(int cols, int rows, double colSpace, double rowSpace) {
           .m_nClass = 2};
 }
 
-struct CLoads {
-  double N = 0, Vx = 0, Vy = 0, M = 0, T = 0;
-};
-
-CBoltCase Under(CBoltCase group, const CLoads& loads) {
-  group.m_dN = loads.N;
-  group.m_dVx = loads.Vx;
-  group.m_dVy = loads.Vy;
-  group.m_dM = loads.M;
-  group.m_dT = loads.T;
-  return group;
-}
-
-CBoltCase As(CBoltCase group, int type) {
-  group.m_nType = type;
-  group.m_nGrade = 4;
-  return group;
-}
-
-CBoltCase Staggered(CBoltCase group, int planes) {
-  group.m_nLayout = 1;
-  group.m_nNv = planes;
-  return group;
-}
-
 // The utilisation that governs, by hand; the record's verdict beside it.
 TEST(Verdict, BoltGroupsAreJudgedByTheCode) {
-  // Two friction faces, Q345: 300 mm wide, three holes of 22 mm.
-  CBoltCase splice = As(Ordinary(3, 3, 70, 50), kFrictionBolt);
-  splice.m_nNf = 2;
-  splice.m_nSteel = 1;
-  splice.m_dEy = 100;
-  CBoltCase bearing = As(Ordinary(2, 3, 70, 80), kBearingBolt);
-  bearing.m_dSumT = 10;
-  bearing.m_dThick = 16;
   const double Ntb = std::acos(-1.0) / 4 * 17.65 * 17.65 * 0.170;
   const double Nvb = std::acos(-1.0) / 4 * 20 * 20 * 0.140;
-  const CBoltCase turned = Ordinary(2, 3, 70, 80);
+  const CBoltCase bearing =
+      With(Ordinary(2, 3, 70, 80), {{"type", kBearingBolt}, {"grade", 4}, {"sumT", 10}, {"t", 16}});
   const double sumR2 = 6 * 35 * 35 + 4 * 80 * 80;
   const struct {
     const char* what;
@@ -77,29 +44,38 @@ TEST(Verdict, BoltGroupsAreJudgedByTheCode) {
     bool bRecord;
   } cases[] = {
       {"bearing type with M turns about the centroid",
-       Under(As(Ordinary(2, 8, 100, 100), kBearingBolt), {.M = 350000}),
+       With(Ordinary(2, 8, 100, 100), {{"type", kBearingBolt}, {"grade", 4}, {"M", 350000}}),
        350000.0 * 350 / (4 * (50 * 50 + 150 * 150 + 250 * 250 + 350 * 350)) / (Ntb * 500 / 170),
        true},
       {"all bolts stay in tension: about the centroid",
-       Under(Ordinary(2, 5, 100, 80), {.N = 212, .M = 16960}), (21.2 + 21.2) / Ntb, true},
-      {"N lifts off the first row as well", Under(Ordinary(2, 5, 100, 80), {.N = 100, .M = 20000}),
+       With(Ordinary(2, 5, 100, 80), {{"N", 212}, {"M", 16960}}), (21.2 + 21.2) / Ntb, true},
+      {"N lifts off the first row as well",
+       With(Ordinary(2, 5, 100, 80), {{"N", 100}, {"M", 20000}}),
        (20000 + 100 * 160) * 320.0 / 384000 / Ntb, true},
       {"M < 0 on preloaded bolts",
-       Under(As(Ordinary(2, 3, 70, 80), kFrictionBolt), {.Vx = 60, .M = -9000}),
+       With(Ordinary(2, 3, 70, 80),
+            {{"type", kFrictionBolt}, {"grade", 4}, {"Vx", 60}, {"M", -9000}}),
        10 / (0.9 * 0.45 * 155) + 9000.0 * 80 / (4 * 80 * 80) / 124, true},
-      {"T < 0", Under(turned, {.Vx = 60, .T = -6000}),
+      {"T < 0", With(Ordinary(2, 3, 70, 80), {{"Vx", 60}, {"T", -6000}}),
        std::hypot(10 + 80 * 6000 / sumR2, 35 * 6000 / sumR2) / Nvb, true},
       {"a staggered group's zigzag against Vy takes five holes",
-       Under(Staggered(Ordinary(5, 3, 60, 60), 2), {.Vy = 580}),
+       With(Ordinary(5, 3, 60, 60), {{"layout", 1}, {"nv", 2}, {"Vy", 580}}),
        580e3 / ((100 + 4 * std::hypot(60, 30) - 5 * 21.5) * 10) / 215, true},
-      {"and its straight cut three", Under(Staggered(Ordinary(5, 3, 60, 80), 2), {.Vy = 580}),
+      {"and its straight cut three",
+       With(Ordinary(5, 3, 60, 80), {{"layout", 1}, {"nv", 2}, {"Vy", 580}}),
        580e3 / ((340 - 3 * 21.5) * 10) / 215, true},
       {"against Vx as well, the columns 25 mm apart",
-       Under(Staggered(Ordinary(4, 3, 25, 90), 2), {.Vx = -400}),
+       With(Ordinary(4, 3, 25, 90), {{"layout", 1}, {"nv", 2}, {"Vx", -400}}),
        400e3 / ((100 + 4 * std::hypot(25, 45) - 5 * 21.5) * 10) / 215, true},
-      {"Ncb / 1.2 only together with tension", Under(bearing, {.Vx = 500.1}), 83.35 / 94, false},
-      {"and with it", Under(bearing, {.N = 1, .Vx = 500.1}), 83.35 * 1.2 / 94, false},
-      {"three of nine preloaded bolts in the cut", Under(splice, {.Vx = 730}),
+      {"Ncb / 1.2 only together with tension", With(bearing, {{"Vx", 500.1}}), 83.35 / 94, false},
+      {"and with it", With(bearing, {{"N", 1}, {"Vx", 500.1}}), 83.35 * 1.2 / 94, false},
+      {"three of nine preloaded bolts in the cut: 300 mm of Q345, two faces",
+       With(Ordinary(3, 3, 70, 50), {{"type", kFrictionBolt},
+                                     {"grade", 4},
+                                     {"nf", 2},
+                                     {"steel", 1},
+                                     {"ey", 100},
+                                     {"Vx", 730}}),
        (1 - 0.5 * 3 / 9) * 730e3 / ((300 - 3 * 22) * 10) / 310, false},
   };
   CBoltCheck check;
@@ -150,27 +126,20 @@ TEST(Verdict, TheLeastCutIsTheLeastOfAllChains) {
 
 TEST(Verdict, WeldsAreJudgedAtBothEdges) {
   const CButtCase butt{.m_nLoadCase = 1, .m_nQuality = 3, .m_dLw = 300, .m_dThick = 10};
-  const auto with = [](auto weld, double N, double M, double V) {
-    weld.m_dN = N;
-    weld.m_dM = M;
-    weld.m_dV = V;
-    return weld;
-  };
-  const auto loadCase = [](auto weld, int number) {
-    weld.m_nLoadCase = number;
-    return weld;
-  };
   const struct {
     const char* what;
     CButtCase input;
     double utilisation;
   } butts[] = {
       // W = 150000 mm3, A = 3000 mm2; ftw 185, fcw 215.
-      {"M pulls the other edge", with(butt, -15, -31000, 0), (31000.0 / 150 - 5) / 185},
-      {"N and M of opposite signs", with(butt, 60, -20000, 0), (20 + 20000.0 / 150) / 185},
-      {"compression up to fcw", with(butt, -600, 0, 0), 200.0 / 215},
-      {"tension up to ftw", with(butt, 600, 0, 0), 200.0 / 185},
-      {"the reduced stress at the worse edge", with(loadCase(butt, 4), 30, -24000, -150),
+      {"M pulls the other edge", With(butt, {{"N", -15}, {"M", -31000}}),
+       (31000.0 / 150 - 5) / 185},
+      {"N and M of opposite signs", With(butt, {{"N", 60}, {"M", -20000}}),
+       (20 + 20000.0 / 150) / 185},
+      {"compression up to fcw", With(butt, {{"N", -600}}), 200.0 / 215},
+      {"tension up to ftw", With(butt, {{"N", 600}}), 200.0 / 185},
+      {"the reduced stress at the worse edge",
+       With(butt, {{"case", 4}, {"N", 30}, {"M", -24000}, {"V", -150}}),
        std::hypot(10 + 160, std::sqrt(3.0) * 75) / (1.1 * 185)},
   };
   CButtCheck butted;
@@ -182,34 +151,21 @@ TEST(Verdict, WeldsAreJudgedAtBothEdges) {
   }
   // he 5 mm, lw 200: A = 1000 mm2, W = 33333 mm3; ffw 160.
   const CFilletCase he{.m_nLoadCase = 1, .m_dLw = 200, .m_dBetaF = 1.22, .m_dHe = 5};
-  CFilletCase steep = he;
-  steep.m_dHe = 0;
-  steep.m_dHf = 5 / 0.5;
-  steep.m_dAngle = 120;
-  CFilletCase groove = he;
-  groove.m_dHe = 0;
-  groove.m_dS = 8;
-  groove.m_nGroove = 1;
-  groove.m_dAngle = 45;
-  CFilletCase side = he;
-  side.m_dHe = 0;
-  side.m_dHf = 10 / 1.4;
-  side.m_dAngle = 90;
-  side.m_dLw = 600;
-  CFilletCase generous = he;
-  generous.m_dBetaF = 1.5;
+  const CFilletCase steep = With(he, {{"he", 0}, {"hf", 5 / 0.5}, {"angle", 120}});
+  const CFilletCase groove = With(he, {{"he", 0}, {"s", 8}, {"groove", 1}, {"angle", 45}});
+  const CFilletCase side = With(he, {{"he", 0}, {"hf", 10 / 1.4}, {"angle", 90}, {"lw", 600}});
   const struct {
     const char* what;
     CFilletCase input;
     double utilisation;
   } fillets[] = {
-      {"N and M of opposite signs", with(he, 60, -3000, 0), (60 + 90) / (1.22 * 160)},
-      {"beta-f at most 1.22", with(generous, 180, 0, 0), 180 / (1.22 * 160)},
-      {"1.0 between inclined faces", with(steep, 150, 0, 0), 150.0 / 160},
-      {"1.0 in a groove under tension", with(groove, 150, 0, 0), 150.0 / 160},
-      {"1.22 under compression", with(groove, -150, 0, 0), 150 / (1.22 * 160)},
-      {"a bevel groove in shear", with(loadCase(groove, 3), 0, 0, -130), 130 / (0.9 * 160)},
-      {"a side weld counts to 60 hf", with(loadCase(side, 3), 0, 0, 300),
+      {"N and M of opposite signs", With(he, {{"N", 60}, {"M", -3000}}), (60 + 90) / (1.22 * 160)},
+      {"beta-f at most 1.22", With(he, {{"betaF", 1.5}, {"N", 180}}), 180 / (1.22 * 160)},
+      {"1.0 between inclined faces", With(steep, {{"N", 150}}), 150.0 / 160},
+      {"1.0 in a groove under tension", With(groove, {{"N", 150}}), 150.0 / 160},
+      {"1.22 under compression", With(groove, {{"N", -150}}), 150 / (1.22 * 160)},
+      {"a bevel groove in shear", With(groove, {{"case", 3}, {"V", -130}}), 130 / (0.9 * 160)},
+      {"a side weld counts to 60 hf", With(side, {{"case", 3}, {"V", 300}}),
        300e3 / (5 * 60 * (10 / 1.4)) / 160},
   };
   CFilletCheck filleted;

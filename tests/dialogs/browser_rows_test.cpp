@@ -61,16 +61,6 @@ class BrowserRows : public testing::Test {
 
 // --- OK -----------------------------------------------------------------------------------------
 
-TEST_F(BrowserRows, HandsBackTheSelectedRow) {
-  auto model = Open(kI, L"I20b");
-  EXPECT_TRUE(model->Ok());
-  const CDataItem& row = model->ChosenRow();
-  EXPECT_EQ(row.m_strTableName, kI);
-  ASSERT_EQ(row.GetItemLength(), 4);
-  EXPECT_EQ(row[L"A(cm^2)"].m_strValue, L"39.5");
-  EXPECT_EQ(CLoadDataTable::GetDataItemArea(row), 3950);
-}
-
 TEST_F(BrowserRows, AsksForTheSpacing) {
   struct CCase {
     const wchar_t* table;
@@ -563,13 +553,6 @@ TEST_F(BrowserImport, TellsRowsThatStayOut) {
   ASSERT_EQ(messages.size(), 2U);
   EXPECT_EQ(messages[1], "以下内容未能导入：\nown.KDB，热轧普通工字钢：1 条记录（I22a）");
   EXPECT_STREQ(model->ItemText(2, 1), L"220");
-}
-
-TEST_F(BrowserImport, CancelledAsksNothing) {
-  auto model = Open(kI, L"I20a");
-  m_user.m_arrOpen.clear();
-  EXPECT_EQ(model->Import(), CListChange::None);
-  EXPECT_TRUE(m_user.m_arrMessage.empty());
 }
 
 // Sections named by their sizes stand behind those of the HK series, each group in its order.

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "drawing/dxf.h"
-#include "outlines/crossing.h"
 #include "outlines/dxf_outline.h"
 #include "outlines/loop_nesting.h"
+#include "outlines/loops.h"
 
 namespace orv3 {
 namespace {
@@ -169,7 +169,15 @@ TEST(DxfOutline, JoinsLinesAndArcs) {
       {"miles", Dxf(arc, "3"), 0, "$INSUNITS 3 is not taken"},
       {"a gap", Dxf(arc + Line("-5 0 4.9 0")), 0, "open at (4.9, 0)"},
       {"a line too many", Dxf(arc + Line("-5 0 5 0") + Line("5 0 9 9")), 0, "more than two edges"},
-      {"a line twice", Dxf(Line("-5 0 5 0") + arc + Line("-5 0 5 0")), 0, "more than two edges"},
+      {"a line twice", Dxf(Line("-5 0 5 0") + arc + Line("5 0 -5 0")), half, ""},
+      {"an arc twice", Dxf(arc + Line("-5 0 5 0") + arc), half, ""},
+      {"a line without length", Dxf(Line("5 0 5 0") + arc + Line("-5 0 5 0")), half, ""},
+      {"a line that overlaps another", Dxf(Line("-5 0 5 0") + arc + Line("-5 0 1 0")), 0,
+       "more than two edges"},
+      {"points of a polyline repeated",
+       Dxf("0\nLWPOLYLINE\n90\n4\n70\n1\n10\n-5\n20\n0\n10\n-5\n20\n0\n10\n5\n20\n0\n42\n1\n"
+           "10\n-5\n20\n0\n"),
+       half, ""},
       {"a spline", Dxf("0\nSPLINE\n8\nA\n"), 0, "line 16: SPLINE is no line or arc"},
       {"no radius", Dxf("0\nCIRCLE\n10\n0\n20\n0\n40\n-1\n"), 0, "its radius must be above 0"},
       {"no number", Dxf("0\nCIRCLE\n10\nleft\n40\n1\n"), 0, "\"left\" is no number"},

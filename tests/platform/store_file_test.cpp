@@ -192,29 +192,6 @@ TEST_F(StoreFile, AFaultAtAnyOperationLeavesTheOldOrTheNewStore) {
   EXPECT_GT(points, 100);
 }
 
-TEST_F(StoreFile, AReaderInAReadOnlyFolderSeesTheOldStore) {
-  for (const CCase& c : Cases()) {
-    for (int at = 1;; ++at) {
-      SCOPED_TRACE(std::string(c.name) + " operation " + std::to_string(at));
-      Files().Remove(m_path);
-      if (!c.old.empty()) PutBytes(m_path, c.old);
-      bool met = false;
-      {
-        CFaultyFiles faulty(CFault::Short, at, true);
-        Save(m_path, c.offset, c.added);
-        met = faulty.Met();
-      }
-      if (!met) break;
-      if (!Exists(m_path)) continue;
-      CFaultyFiles readOnly;
-      readOnly.SetReadOnly(true);
-      const std::string seen = Seen(m_path);
-      ASSERT_TRUE(seen == c.old || seen == c.fresh) << seen.size();
-    }
-    Seen(m_path);
-  }
-}
-
 // What `at` operations of a save leave when the process ends at the next one: the file, and its
 // journal if there is one. False when the save got through.
 bool Interrupt(const CString& path, const CCase& c, int at) {

@@ -1,5 +1,5 @@
-// The geometry of every row of the catalogue, and of the default user-defined and lattice rows,
-// against an integration of the row's true outline: fillets, slopes, rounded toes and bends.
+// The geometry of every row of the catalogue, and of the default user-defined rows, against an
+// integration of the row's true outline: fillets, slopes, rounded toes and bends.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <string>
 
-#include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "sections/catalogue_store.h"
@@ -72,7 +71,6 @@ struct CDeviations {
 void Compare(const CDataItem& row, CDeviations& d) {
   const CString table = row.m_strTableName;
   const bool cross = table == L"热轧等边角钢十字组合";
-  const bool lattice = CLoadDataTable::IsTableNameType(table, 0x2000800) != 0;
   const CIntegrated flat = IntegrateRow(row);
   const CIntegrated own = cross ? IntegrateRow(row, 45) : flat;
   const double A = own.about.A, Ix = own.about.yy, Iy = own.about.xx;
@@ -81,8 +79,8 @@ void Compare(const CDataItem& row, CDeviations& d) {
   const CTwo rect = RectOf(row), center = CenterOf(row), io = InertiaOf(row);
   d.Add(Rect, rect.first, flat.width);
   d.Add(Rect, rect.second, flat.height);
-  if (!lattice) d.Add(Center, center.first, flat.about.x, flat.width);
-  if (!lattice && table != L"剖分T型钢") d.Add(Center, center.second, flat.about.y, flat.height);
+  d.Add(Center, center.first, flat.about.x, flat.width);
+  if (table != L"剖分T型钢") d.Add(Center, center.second, flat.about.y, flat.height);
   d.Add(Area, CLoadDataTable::GetDataItemArea(row), A);
   d.Add(Io, io.first, Ix);
   d.Add(Io, io.second, Iy);
@@ -183,17 +181,6 @@ TEST_F(GeometryCatalogue, UserDefinedRowsAgreeWithTheirOutline) {
     // The record's moment of inertia of a hexagon is 0.541 a^4, 0.06 % low.
     const bool hexagon = row.m_strTableName == L"六边形截面";
     ExpectClose(orv3::ToUtf8(CString(c.table)), d, hexagon ? Same(0.07) : kComputed);
-  }
-}
-
-// The limbs' places and moments come from figures with two or three digits.
-TEST_F(GeometryCatalogue, LatticeRowsAgreeWithTheirOutline) {
-  for (const wchar_t* table : {L"双肢格构柱", L"三肢格构柱", L"四肢格构柱"}) {
-    CSteelItemGeGou column(DefaultRow(table));
-    ASSERT_EQ(column.CalSteelJMGeGou(), 1);
-    CDeviations d;
-    Compare(column, d);
-    ExpectClose(orv3::ToUtf8(CString(table)), d, Same(0.05));
   }
 }
 

@@ -1,7 +1,6 @@
 // What the tests of interrupted and simultaneous saves run in processes of their own.
 //
 //   store_worker save FILE SCENARIO K          one save that is killed at its K-th file operation
-//   store_worker records FILE SCENARIO K       the same of records
 //   store_worker add FILE TABLE NAME COUNT HOW  COUNT saves of one more row each; HOW is "stale",
 //                                              "fresh" or "locked"
 #include <cstdio>
@@ -9,7 +8,6 @@
 #include <string>
 
 #include "platform/store_file.h"
-#include "sections/record_store_scenarios.h"
 #include "tables/table_file_scenarios.h"
 
 namespace {
@@ -23,12 +21,6 @@ int Save(const CString& path, int scenario, int at) {
   CDataTable table = scenarios::Start(path, scenario);
   CFaultyFiles files(CFault::Kill, at, false);
   return table.WriteTable(path, 0, 0) ? 0 : Fail("save");
-}
-
-int SaveRecords(const CString& path, int scenario, int at) {
-  const CArray<CSteelJMData> records = scenarios::StartRecords(path, scenario);
-  CFaultyFiles files(CFault::Kill, at, false);
-  return CSteelJMData::WriteTable(records, scenario, path) ? 0 : Fail("save records");
 }
 
 // One more row, and the one before it changed.
@@ -67,9 +59,6 @@ int Add(const CString& path, const CString& tableName, const CString& name, int 
 
 int main(int count, char** values) {
   const auto text = [values](int i) { return orv3::FromUtf8(values[i]); };
-  if (count == 5 && std::string(values[1]) == "records") {
-    return SaveRecords(text(2), std::atoi(values[3]), std::atoi(values[4]));
-  }
   if (count == 5) return Save(text(2), std::atoi(values[3]), std::atoi(values[4]));
   if (count == 7) return Add(text(2), text(3), text(4), std::atoi(values[5]), values[6]);
   return 2;

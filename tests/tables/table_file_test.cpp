@@ -126,24 +126,6 @@ TEST_F(TableFile, ADeletedRowStaysOnFileUntilItIsReused) {
   EXPECT_EQ(Bytes(m_path), golden::File({golden}, kOneBlock));
 }
 
-// A writer that rewrites the table without its deleted rows, one that sorted it, and one that saves
-// unchanged rows into another file: the file then holds the table as it is.
-TEST_F(TableFile, RowsThatMovedAreWrittenWhereTheyAre) {
-  CDataTable table = SectionTable();
-  for (int i = 0; i < 4; ++i) AddRow(table, Name(i), Name(9 - i).Mid(1));
-  ASSERT_EQ(Save(table), 1);
-  ASSERT_EQ(table.OrderTable(1, 1), 1);
-  ASSERT_EQ(table.DeleteTableItem(2), 1);
-  ASSERT_EQ(Save(table), 1);
-  EXPECT_EQ(Rows(Loaded(m_path)), (std::vector<std::string>{"I3=6", "-I2=7", "I1=8", "I0=9"}));
-  table.m_arrItem.RemoveAt(1);
-  ASSERT_EQ(Save(table), 1);
-  EXPECT_EQ(Rows(Loaded(m_path)), (std::vector<std::string>{"I3=6", "I1=8", "I0=9"}));
-  const CString other = m_folder.Path(L"b.KDB");
-  ASSERT_EQ(table.WriteTable(other, 2, 0), 1);
-  EXPECT_EQ(Rows(Loaded(other)), Rows(table));
-}
-
 // The text of each part, every byte 10 lower, as hosts read and write it.
 TEST_F(TableFile, TextFormsAndTransform) {
   CDataTypeStruct column(L"型", L"No.", CDataTypeStruct::KVBT_LONG, 1);
@@ -218,35 +200,6 @@ TEST_F(TableFile, ACutNeverShowsHalfACharacter) {
     const CDataTable read = Loaded(m_path);
     EXPECT_EQ(read[0][1].m_strValue, CString(L'号', std::min(size, 20) / 2));
     EXPECT_EQ(read[1][0].m_strValue, L"I1");
-  }
-}
-
-// Slots of three columns, 124 bytes, cut by bytes: within a character or a separator too.
-TEST_F(TableFile, ValuesBeyondACutAreEmpty) {
-  for (int first = 20; first <= 30; ++first) {
-    for (int second = 20; second <= 30; ++second) {
-      for (const int index : {3, 45, 345, 3456}) {
-        orv3::SystemFiles().Remove(m_path);
-        CDataTable table;
-        table.SetTableName(L"T");
-        for (int i = 0; i < 3; ++i) table.AddTableCol(L"c", Name(i), {}, 0);
-        CDataItem row;
-        row.SetItemTitle(table.m_Title);
-        row.m_nIndex = index;
-        row.m_nModifyType = 1;
-        row[0].m_strValue = CString(L'号', first);
-        row[1].m_strValue = CString(L'号', second);
-        row[2].m_strValue = L"a,bc";
-        table.AddTableItem(row, 1, 1);
-        ASSERT_EQ(Save(table), 1);
-        const CDataTable read = Loaded(m_path, L"T");
-        ASSERT_EQ(read.GetTableRowNum(), 1);
-        EXPECT_EQ(read[0][0].m_strValue, row[0].m_strValue);
-        const int room = 124 - static_cast<int>(std::to_string(index).size()) - 7 - 2 * first - 3;
-        EXPECT_EQ(read[0][1].m_strValue, CString(L'号', std::min(second, room / 2)));
-        EXPECT_EQ(read[0][2].m_strValue, CString(L"a,bc").Left(std::max(0, room - 2 * second - 3)));
-      }
-    }
   }
 }
 

@@ -12,7 +12,6 @@
 namespace {
 
 constexpr wchar_t kEditCaption[] = L"截面特性参数设置";
-constexpr wchar_t kShowCaption[] = L"截面特性参数查询";
 
 CDataItem DefaultRow(const wchar_t* table) {
   CDataItem row;
@@ -74,24 +73,6 @@ TEST(SmallDialogs, EditedSizesAreInTheRowAndRecomputed) {
   EXPECT_TRUE(dialog.m_item[L"No."].m_strValue == L"H500X300");
   // Two flanges 300 x 10 and a web (500 - 20) x 10.
   EXPECT_NEAR(CLoadDataTable::GetDataItemArea(dialog.m_item), 2 * 300 * 10 + 480 * 10, 1e-6);
-}
-
-TEST(SmallDialogs, ShownRowsCannotBeChanged) {
-  CPropertyDlg dialog;
-  dialog.m_item = DefaultRow(L"自定义圆管");
-  dialog.m_strTableName = L"自定义圆管";
-  Drive([&] { dialog.DoModal(); },
-        [] {
-          const auto probe = CDialogProbe::WaitFor(kShowCaption);
-          Expect(probe.Text(IDCANCEL), L"退出");
-          Expect(IsWindowVisible(probe.Control(IDOK)), FALSE, "OK button shown");
-          probe.SelectItem(IDC_PROPERTY_GRID, 1);
-          SendMessageW(probe.Control(IDC_PROPERTY_GRID), WM_KEYDOWN, VK_F2, 1);
-          const HWND editor =
-              FindWindowExW(probe.Control(IDC_PROPERTY_GRID), nullptr, WC_EDITW, nullptr);
-          Expect(editor != nullptr, 0, "cell editor");
-          probe.Click(IDCANCEL);
-        });
 }
 
 // The window that owns it waits meanwhile.

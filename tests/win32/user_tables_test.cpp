@@ -65,22 +65,4 @@ TEST(UserTables, MakeFillUndoSaveAndChoose) {
   EXPECT_TRUE(row.m_strTableName == kUserH);
 }
 
-TEST(UserTables, ChangesAreAskedForBeforeTheyAreLost) {
-  const CStoreFolder folder;
-  CDataItem row;
-  int result = -1;
-  Drive([&] { result = CLoadDataTable::VisitSelJMDlg(folder.Path(), row, kEverything); },
-        [&] {
-          const auto probe = CDialogProbe::WaitFor(kCaption);
-          NewTable(probe, kUserH);
-          probe.Close();
-          CDialogProbe::WaitFor(L"Orvo提醒您").Answer(IDCANCEL);
-          Expect(IsWindow(probe.Window()), 1, "editor open");
-          probe.Close();
-          CDialogProbe::WaitFor(L"Orvo提醒您").Answer(IDNO);
-        });
-  EXPECT_EQ(result, 0);
-  EXPECT_EQ(FilesOf(folder).GetSize(), 0);
-}
-
 }  // namespace

@@ -17,7 +17,6 @@
 #include "framework/utf8.h"
 #include "platform/code_page.h"
 #include "tables/edit_state.h"
-#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -123,17 +122,19 @@ class CCsvTable {
     }
     CDataTableTitle& title = m_table.m_table.m_Title;
     title = stored;
-    m_known = KnownHeading(m_name, title);
+    KnownHeading(m_name, title);
     if (stored.GetTableTitleNum() > 0) title = stored;
     return title.GetTableTitleNum() > 0 ? Match(columns) : Start(columns);
   }
 
   void Row(const CCells& cells, int line) {
     CDataItem row = EmptyRow(m_name, m_table.m_table.m_Title);
-    const CString why = Fill(cells, row);
+    CString why = Fill(cells, row);
+    if (why.IsEmpty()) why = Repeated(row);
     if (why.IsEmpty()) {
       row.m_nModifyType = kAdded;
       m_table.m_table.AddTableItem(row, 1, 1);
+      m_arrLine.push_back(line);
       return;
     }
     const CString no = row.IsEmpty() ? CString() : row[0].m_strValue;
@@ -223,16 +224,29 @@ class CCsvTable {
       return Say(L"有 {1} 个单元格，首行有 {2} 列", L"{1} cells, the first line names {2}",
                  {FormatInt(std::ssize(cells)), FormatInt(std::ssize(m_arrColumn))});
     }
-    if (m_known) return CompleteRow(row);
-    const int misfit = FindMisfit(row);
-    return misfit < 0 ? CString() : MisfitText(std::as_const(row)[misfit]).In(MessageLanguage());
+    return CompleteRow(row);
+  }
+
+  // What is wrong with a row whose key an earlier line has with other values: which of the two is
+  // meant nobody knows.
+  CString Repeated(const CDataItem& row) const {
+    const int earlier = m_table.m_table.IsHaveValue(row, -1);
+    if (earlier < 0) return {};
+    const CDataItem& other = std::as_const(m_table.m_table)[earlier];
+    for (int i = 0; i < row.GetItemLength(); ++i) {
+      if (row[i].m_strValue == other[i].m_strValue) continue;
+      return Say(L"第 {1} 行已有此关键字，而值不同；请只留一行",
+                 L"line {1} has its key with other values; right would be one line for each",
+                 {FormatInt(m_arrLine[static_cast<std::size_t>(earlier)])});
+    }
+    return {};
   }
 
   const CString m_name;
   CImportTable& m_table;
   CString& m_why;
-  bool m_known = false;
   std::vector<int> m_arrColumn;  // of the table, by the columns of the text
+  std::vector<int> m_arrLine;    // of the text, by the rows of the table
 };
 
 }  // namespace

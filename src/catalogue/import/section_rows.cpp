@@ -1,5 +1,6 @@
 #include "catalogue/import/section_rows.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "catalogue/lattice/steel_ge_gou.h"
@@ -79,7 +80,20 @@ CDataItem EmptyRow(const CString& table, const CDataTableTitle& title) {
   return row;
 }
 
+CString RowMisfit(const CDataItem& row) {
+  const auto& cells = row.m_arrCell;
+  const bool keyed = std::any_of(cells.begin(), cells.end(),
+                                 [](const CDataCell& cell) { return cell.m_bKey != 0; });
+  if (keyed && cells[0].m_strValue.IsEmpty()) {
+    return Say(L"第一个单元格为空", L"its first cell is empty");
+  }
+  const int misfit = FindMisfit(row);
+  return misfit < 0 ? CString() : MisfitText(row[misfit]).In(MessageLanguage());
+}
+
 CString CompleteRow(CDataItem& row) {
+  CDataTableTitle known;
+  if (!KnownHeading(row.m_strTableName, known)) return RowMisfit(row);
   if (const auto fault = CheckRow(row)) return fault->m_text.In(MessageLanguage());
   if (const auto fault = CheckRolledRow(row)) return fault->m_text.In(MessageLanguage());
   if (const CSectionStyle* style = FindSectionStyle(row.m_strTableName.View())) {
@@ -89,9 +103,8 @@ CString CompleteRow(CDataItem& row) {
     return Say(L"行的单元格与“{1}”的列不符", L"the row has other cells than the columns of \"{1}\"",
                {row.m_strTableName});
   }
-  const int misfit = FindMisfit(row);
-  if (misfit >= 0) return MisfitText(std::as_const(row)[misfit]).In(MessageLanguage());
-  if (!IsLattice(row.m_strTableName)) return {};
+  CString misfit = RowMisfit(row);
+  if (!misfit.IsEmpty() || !IsLattice(row.m_strTableName)) return misfit;
   CSteelItemGeGou lattice(row);
   if (!lattice.CalSteelJMGeGou())
     return Say(L"不能由各肢计算其特性", L"its properties cannot be computed from its limbs");

@@ -18,8 +18,13 @@ ORV3CAL_API int GivenColumns(const CString& table, const CDataTableTitle& title)
 // A row of a table with nothing in it but 0 for the base point of a user-defined section.
 ORV3CAL_API CDataItem EmptyRow(const CString& table, const CDataTableTitle& title);
 
-// Checks a row that was typed in and computes what is computed of it. What is wrong and what would
-// be right otherwise; empty when the row is complete.
+// Why no table takes a row, whoever brings it in: a value that its column cannot hold, or an empty
+// first cell in a table with a key. Empty when one does.
+ORV3CAL_API CString RowMisfit(const CDataItem& row);
+
+// Checks a row that was typed in and computes what is computed of it; of a table that is no section
+// table, only whether it takes the row. What is wrong and what would be right otherwise; empty when
+// the row is complete.
 ORV3CAL_API CString CompleteRow(CDataItem& row);
 
 }  // namespace orv3

@@ -3,9 +3,10 @@
 #include <map>
 #include <set>
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
 #include <utility>
 
+#include "catalogue/import/section_rows.h"
 #include "framework/language.h"
 #include "framework/number_text.h"
 #include "platform/store_error.h"
@@ -14,7 +15,6 @@
 #include "tables/edit_state.h"
 #include "tables/file/check.h"
 #include "tables/file/table_store.h"
-#include "tables/value_fit.h"
 
 namespace orv3 {
 namespace {
@@ -83,7 +83,7 @@ class CTableMerger {
     m_hasKey = HasKey();
     if (!m_hasKey) {
       for (const CDataItem& row : std::as_const(m_target).m_arrItem) {
-        if (!IsDeleted(row.m_nModifyType)) m_known.insert(Values(row));
+        if (!IsDeleted(row.m_nModifyType)) ++m_known[Values(row)];
       }
     }
     return true;
@@ -143,14 +143,11 @@ class CTableMerger {
   void Row(int position, const CDataItem& row) {
     const auto fault = m_mapFault.find(position);
     if (fault != m_mapFault.end()) return Refuse(row, fault->second);
-    if (m_hasKey && FirstCell(row).IsEmpty()) {
-      return Refuse(row, Say(L"第一个单元格为空", L"its first cell is empty"));
-    }
-    const int misfit = FindMisfit(row);
-    if (misfit >= 0) return Refuse(row, Misfit(position, row[misfit]));
+    const CString misfit = RowMisfit(row);
+    if (!misfit.IsEmpty()) return Refuse(row, Misfit(position, misfit));
     const int present = m_hasKey ? m_target.IsHaveValue(row, -1) : -1;
     if (present >= 0) return Present(std::as_const(m_target).m_arrItem[present], row);
-    if (!m_hasKey && !m_known.insert(Values(row)).second) {
+    if (!m_hasKey && IsKnown(row)) {
       ++m_result.m_nUnchanged;
       return;
     }
@@ -158,10 +155,15 @@ class CTableMerger {
     Bring(row);
   }
 
-  CString Misfit(int position, const CDataCell& cell) const {
-    return Say(L"表“{1}”第 {2} 行", L"table \"{1}\", row {2}, ",
-               {m_source.GetTableName(), FormatInt(position + 1)}) +
-           MisfitText(cell).In(MessageLanguage());
+  CString Misfit(int position, const CString& why) const {
+    return Say(L"表“{1}”第 {2} 行：{3}", L"table \"{1}\", row {2}: {3}",
+               {m_source.GetTableName(), FormatInt(position + 1), why});
+  }
+
+  // Without a key rows may be equal: each of the source stands for one of the store.
+  bool IsKnown(const CDataItem& row) {
+    const auto known = m_known.find(Values(row));
+    return known != m_known.end() && known->second-- > 0;
   }
 
   void Present(const CDataItem& present, const CDataItem& row) {
@@ -192,7 +194,7 @@ class CTableMerger {
   CDataTable m_target;
   bool m_hasKey = false;
   bool m_changed = false;
-  std::unordered_set<std::wstring> m_known;
+  std::unordered_map<std::wstring, int> m_known;  // rows without a key that are left to be met
   std::map<int, CString> m_mapFault;
   CTableImport m_result;
 };

@@ -1,7 +1,8 @@
 // Bringing tables from elsewhere into a store: from table files (".KDB"), from rolled-section data
 // files (".kvb") and from tables in memory.
 //
-// Rows are told apart by the key columns of their table, where it has none by all their values. A
+// Rows are told apart by the key columns of their table, where it has none by all their values, of
+// which the store then gets as many equal ones as the source has. A
 // row that the store lacks is added. One that it has with the same values is left alone, so that
 // importing a file twice changes nothing. One that it has with other values is replaced only with
 // `m_bOverwrite`, and a row of the catalogue (edit state 3 or more) only by one of the catalogue.

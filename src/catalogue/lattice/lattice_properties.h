@@ -20,6 +20,7 @@ struct CLatticeProperties {
 struct CLatticeProperty {
   const wchar_t* m_szSign;   // of the column, "A(mm^2)"
   const wchar_t* m_szTitle;  // of the column
+  const char* m_szMeaning;   // the title in English
   const char* m_szKey;       // the symbol alone
   int m_nPower;              // unit: mm to this power
   double CLatticeProperties::*m_pField;

@@ -15,17 +15,22 @@ constexpr const wchar_t* kOrdinals[] = {L"一", L"二", L"三", L"四"};
 using orv3::CLatticeProperties;
 
 constexpr orv3::CLatticeProperty kResults[] = {
-    {L"A(mm^2)", L"截面面积", "A", 2, &CLatticeProperties::m_dA},
-    {L"xo(mm)", L"重心X坐标", "xo", 1, &CLatticeProperties::m_dXo},
-    {L"yo(mm)", L"重心Y坐标", "yo", 1, &CLatticeProperties::m_dYo},
-    {L"Ix(mm^4)", L"X轴惯性矩", "Ix", 4, &CLatticeProperties::m_dIx},
-    {L"Iy(mm^4)", L"Y轴惯性矩", "Iy", 4, &CLatticeProperties::m_dIy},
-    {L"Wx1(mm^3)", L"X轴抵抗矩(上)", "Wx1", 3, &CLatticeProperties::m_dWx1},
-    {L"Wx2(mm^3)", L"X轴抵抗矩(下)", "Wx2", 3, &CLatticeProperties::m_dWx2},
-    {L"WyL(mm^3)", L"Y轴抵抗矩(左)", "WyL", 3, &CLatticeProperties::m_dWyL},
-    {L"WyR(mm^3)", L"Y轴抵抗矩(右)", "WyR", 3, &CLatticeProperties::m_dWyR},
-    {L"ixo(mm)", L"X轴回转半径", "ixo", 1, &CLatticeProperties::m_dixo},
-    {L"iyo(mm)", L"Y轴回转半径", "iyo", 1, &CLatticeProperties::m_diyo},
+    {L"A(mm^2)", L"截面面积", "area", "A", 2, &CLatticeProperties::m_dA},
+    {L"xo(mm)", L"重心X坐标", "centroid x", "xo", 1, &CLatticeProperties::m_dXo},
+    {L"yo(mm)", L"重心Y坐标", "centroid y", "yo", 1, &CLatticeProperties::m_dYo},
+    {L"Ix(mm^4)", L"X轴惯性矩", "moment of inertia about X", "Ix", 4, &CLatticeProperties::m_dIx},
+    {L"Iy(mm^4)", L"Y轴惯性矩", "moment of inertia about Y", "Iy", 4, &CLatticeProperties::m_dIy},
+    {L"Wx1(mm^3)", L"X轴抵抗矩(上)", "modulus about X, top", "Wx1", 3, &CLatticeProperties::m_dWx1},
+    {L"Wx2(mm^3)", L"X轴抵抗矩(下)", "modulus about X, bottom", "Wx2", 3,
+     &CLatticeProperties::m_dWx2},
+    {L"WyL(mm^3)", L"Y轴抵抗矩(左)", "modulus about Y, left", "WyL", 3,
+     &CLatticeProperties::m_dWyL},
+    {L"WyR(mm^3)", L"Y轴抵抗矩(右)", "modulus about Y, right", "WyR", 3,
+     &CLatticeProperties::m_dWyR},
+    {L"ixo(mm)", L"X轴回转半径", "radius of gyration about X", "ixo", 1,
+     &CLatticeProperties::m_dixo},
+    {L"iyo(mm)", L"Y轴回转半径", "radius of gyration about Y", "iyo", 1,
+     &CLatticeProperties::m_diyo},
 };
 
 void AddSpacings(CDataTable& table, int limbs) {

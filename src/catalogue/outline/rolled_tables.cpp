@@ -2,8 +2,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "catalogue/outline/dimension_sides.h"
 #include "catalogue/outline/shapes.h"
+#include "sections/dimension_sides.h"
 #include "sections/kind_array.h"
 
 namespace orv3 {

@@ -3,8 +3,8 @@
 #include <array>
 
 #include "catalogue/lattice/lattice_limbs.h"
-#include "catalogue/outline/dimension_sides.h"
 #include "catalogue/outline/shapes.h"
+#include "sections/dimension_sides.h"
 #include "sections/section_style.h"
 
 namespace orv3 {

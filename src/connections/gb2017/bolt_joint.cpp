@@ -21,17 +21,17 @@ void Shear(const CBoltLoads& loads, const CBoltShape& shape, CBoltFigures& figur
   figures.m_dNv = std::hypot(figures.m_dNvx + figures.m_dNTx, figures.m_dNvy + figures.m_dNTy);
 }
 
-// About the centroid; M may act in either sense.
+// About the centroid; of uneven rows the arm is that of the row that M pulls.
 void TurnAboutCentroid(const CBoltLoads& loads, const CBoltShape& shape,
                        CBoltFigures& figures) noexcept {
   const double perMm = IsZero(loads.m_dM) ? 0 : loads.m_dM / shape.m_dSumY2;
   const double direct = loads.m_dN / shape.Bolts();
   figures.m_nTurn = CTurn::Centroid;
-  figures.m_dArm = shape.m_dYMax;
+  figures.m_dArm = loads.m_dM < 0 ? shape.m_dYc : shape.m_dHeight - shape.m_dYc;
   figures.m_dSumArm2 = shape.m_dSumY2;
   figures.m_dNtPerMm = perMm;
   figures.m_dNtFirst = direct - perMm * shape.m_dYc;
-  figures.m_dNt = direct + std::fabs(perMm) * shape.m_dYMax;
+  figures.m_dNt = direct + std::fabs(perMm) * figures.m_dArm;
 }
 
 // About the row that M presses on. N below 0 takes no more than N / n off each bolt.

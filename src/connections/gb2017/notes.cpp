@@ -41,28 +41,26 @@ void NoteOfDetails(std::span<const CDetail> details, std::vector<CCaseWarning>& 
   }
 }
 
-void NoteOfUnknownParts(const CFilletCase2017& input, std::vector<CCaseWarning>& notes) {
-  if (input.m_dHf == 0 || input.m_dT1 != 0) return;
-  const double thickest = ThickestPart(input.m_dHf);
-  CText holds;
+void NoteOfUnknownParts(const CLegs& legs, const CTextLiteral& remedy,
+                        std::vector<CCaseWarning>& notes) {
+  const auto note = [&](double hf, const CText& holds) {
+    const std::string is = "hf = " + PlainNumber(hf) + " mm";
+    notes.push_back(
+        {legs.m_szKey,
+         {is + " 适用于" + holds.m_strChinese + "；" + remedy.m_szChinese + "。",
+          is + " is right for " + holds.m_strEnglish + "; " + remedy.m_szEnglish + "."}});
+  };
+  const double thickest = ThickestPart(legs.m_dLeast);
   if (thickest > 0 && std::isfinite(thickest)) {
     const std::string most = PlainNumber(thickest) + " mm";
-    holds = {"两焊件均不厚于 " + most + "（表 11.3.5）",
-             "parts up to " + most + " thick (Table 11.3.5)"};
+    note(legs.m_dLeast, {"不厚于 " + most + " 的焊件（表 11.3.5）",
+                         "parts up to " + most + " thick (Table 11.3.5)"});
   }
-  if (input.m_nJoint == 0) {
-    const std::string least = PlainNumber(input.m_dHf <= 6 ? input.m_dHf : input.m_dHf + 1) + " mm";
-    holds.m_strChinese +=
-        (holds.m_strChinese.empty() ? "" : "，") + ("所沿棱边不薄于 " + least) + "（11.3.6 条）";
-    holds.m_strEnglish += (holds.m_strEnglish.empty() ? "" : " and ") +
-                          ("an edge of at least " + least) + " (11.3.6)";
-  }
-  if (holds.m_strEnglish.empty()) return;
-  const std::string hf = "hf = " + PlainNumber(input.m_dHf) + " mm";
-  notes.push_back(
-      {"hf",
-       {hf + " 适用于" + holds.m_strChinese + "；给出 t1 与 t2 即可验算。",
-        hf + " is right for " + holds.m_strEnglish + "; give t1 and t2 to have it checked."}});
+  if (!legs.m_bLap) return;
+  const double hf = legs.m_dMost;
+  const std::string least = PlainNumber(hf <= 6 ? hf : hf + 1) + " mm";
+  note(hf, {"不薄于 " + least + " 的所沿棱边（11.3.6 条）",
+            "an edge of at least " + least + " (11.3.6)"});
 }
 
 void NoteOfEdge(const CWeldFigures& judged, std::vector<CCaseWarning>& notes) {
@@ -75,16 +73,6 @@ void NoteOfEdge(const CWeldFigures& judged, std::vector<CCaseWarning>& notes) {
        {"σ = N/A + M/W = " + one + " 之外的另一边缘起控制作用：N/A − M/W = " + is + "。",
         "The edge opposite to that of σ = N/A + M/W = " + one + " governs: N/A − M/W = " + is +
             "."}});
-}
-
-void NoteOfThickParts(const char* key, double hf, std::vector<CCaseWarning>& notes) {
-  const double thickest = ThickestPart(hf);
-  if (thickest == 0 || !std::isfinite(thickest)) return;
-  const std::string is = "hf = " + PlainNumber(hf) + " mm";
-  const std::string most = PlainNumber(thickest) + " mm";
-  notes.push_back({key,
-                   {is + " 适用于厚度不大于 " + most + " 的焊件（表 11.3.5）。",
-                    is + " is right for parts up to " + most + " thick (Table 11.3.5)."}});
 }
 
 }  // namespace orv3::gb2017

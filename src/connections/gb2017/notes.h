@@ -13,13 +13,18 @@ namespace orv3::gb2017 {
 // Of each rule that is not kept, with its numbers.
 void NoteOfDetails(std::span<const CDetail> details, std::vector<CCaseWarning>& notes);
 
-// What the leg of a fillet weld is enough for when the parts are not given.
-void NoteOfUnknownParts(const CFilletCase2017& input, std::vector<CCaseWarning>& notes);
+// What the legs of fillet welds, the smallest and the largest, are right for when the parts are not
+// given.
+struct CLegs {
+  const char* m_szKey;  // of the case
+  double m_dLeast;      // mm
+  double m_dMost;
+  bool m_bLap;
+};
+void NoteOfUnknownParts(const CLegs& legs, const CTextLiteral& remedy,
+                        std::vector<CCaseWarning>& notes);
 
 // Of the edge that decides where it is not the one that `sigma` is of.
 void NoteOfEdge(const CWeldFigures& judged, std::vector<CCaseWarning>& notes);
-
-// As NoteOfUnknownParts, for a group of welds by its smallest leg.
-void NoteOfThickParts(const char* key, double hf, std::vector<CCaseWarning>& notes);
 
 }  // namespace orv3::gb2017

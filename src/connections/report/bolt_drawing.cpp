@@ -76,12 +76,38 @@ class CBoltPainter {
 
   void Bolts() {
     const double radius = std::max(1.0, m_dScale * m_view.m_results.m_dD0 / 2);
-    for (const CHole& bolt : m_shape.m_arrBolt)
-      m_drawing.AddCircle(CLayer::Outline, At(bolt.m_x, bolt.m_y), radius);
+    const CPoint slot = SlotHalf();
+    for (const CHole& bolt : m_shape.m_arrBolt) {
+      if (slot.x > 0 || slot.y > 0)
+        m_drawing.AddPath(CLayer::Outline, SlotPath(At(bolt.m_x, bolt.m_y), slot, radius));
+      else
+        m_drawing.AddCircle(CLayer::Outline, At(bolt.m_x, bolt.m_y), radius);
+    }
     for (const int index : MostStressedBolts(m_view).m_arrBolt) {
       const CHole& bolt = m_shape.m_arrBolt[static_cast<std::size_t>(index)];
       m_drawing.AddArea(CLayer::CentroidAxis, {CirclePath(At(bolt.m_x, bolt.m_y), 0.8 * radius)});
     }
+  }
+
+  // From the middle of a slot to the centre of one round end, on the page; 0 for round holes, and
+  // where the loads leave open which way the slots lie.
+  CPoint SlotHalf() const {
+    if (!m_view.Is2017()) return {0, 0};
+    const CBoltTrace2017& trace = m_view.m_p2017->Trace();
+    const double width = m_view.m_results.m_dD0;
+    const double alongX = m_dScale * (trace.HoleRoom(false) - width) / 2;
+    const double alongY = m_dScale * (trace.HoleRoom(true) - width) / 2;
+    const bool bKnown = alongX <= 0 || alongY <= 0;
+    return bKnown ? CPoint{std::max(0.0, alongX), std::max(0.0, alongY)} : CPoint{0, 0};
+  }
+
+  static CPath SlotPath(CPoint at, CPoint half, double radius) {
+    const CPoint side = half.x > 0 ? CPoint{0, radius} : CPoint{-radius, 0};
+    return {{{at.x - half.x - side.x, at.y - half.y - side.y, 0},
+             {at.x + half.x - side.x, at.y + half.y - side.y, 1},
+             {at.x + half.x + side.x, at.y + half.y + side.y, 0},
+             {at.x - half.x + side.x, at.y - half.y + side.y, 1}},
+            true};
   }
 
   // A cut from edge to edge through the given holes, named at its far end.

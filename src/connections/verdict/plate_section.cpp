@@ -93,7 +93,7 @@ CPlateSection WorstSection(const CPlateHoles& holes, const CCutWay& way, double 
     section.m_arrHole.clear();
     for (const int line : cut.m_arrLine)
       section.m_arrHole.push_back(way.m_arrHole[static_cast<std::size_t>(line)]);
-    if (!holes.m_bFriction) break;
+    if (!holes.m_bFriction || way.m_dAcross == 0) break;  // a grid has one cut
     deduct = hole - 0.5 * left / (share * holes.m_nBolts);
   }
   double gross = way.m_dEdges;

@@ -107,10 +107,6 @@ void WeldFaults(const CWeldGroupCase& input, CFaultList& faults) {
   OverlapFault(welds, faults);
 }
 
-CWeldGroupLoads LoadsOf(const CWeldGroupCase& input) noexcept {
-  return {input.m_dN, input.m_dVx, input.m_dVy, input.m_dM, input.m_dT, input.m_dX, input.m_dY};
-}
-
 void FieldFaults(const CWeldGroupCase& input, CFaultList& faults) {
   faults.Within("steel", input.m_nSteel, 0, gb2017::kLastSteel);
   faults.Within("electrode", input.m_nElectrode, -1, 3);
@@ -193,7 +189,7 @@ bool CWeldGroupCheck::IsRefused(const CWeldGroupCase& input) {
   m_results.m_dFfw = gb2017::Take(strength, bSteel ? "steel" : "electrode", faults);
   m_arrWeld = WeldsOf(input);
   m_sums = SumsOf(m_arrWeld);
-  m_loads = AtCentroid(LoadsOf(input), m_sums);
+  m_loads = AtCentroid(input, m_sums);
   if (!FindTension(m_loads, m_sums, m_tension)) {
     const std::string M = PlainNumber(std::hypot(m_loads.m_dMx, m_loads.m_dMy) / 1000) + " kN·mm";
     faults.Add("M",
@@ -262,9 +258,11 @@ std::vector<CCaseWarning> CWeldGroupCheck::Notes(const CWeldGroupCase& input) co
   gb2017::NoteOf(FilletWeldStrength(m_nEdition, steel), "steel", notes);
   gb2017::NoteOfDetails(m_arrDetail, notes);
   if (m_nEdition == CCodeEdition::Gb2017) {
-    double hf = HUGE_VAL;
-    for (const CWeldLine& weld : m_arrWeld) hf = std::min(hf, weld.m_dHf);
-    gb2017::NoteOfThickParts("welds", hf, notes);
+    const auto [least, most] = std::minmax_element(
+        m_arrWeld.begin(), m_arrWeld.end(),
+        [](const CWeldLine& a, const CWeldLine& b) { return a.m_dHf < b.m_dHf; });
+    gb2017::NoteOfUnknownParts({"welds", least->m_dHf, most->m_dHf, input.m_nJoint == 0},
+                               {"焊件厚度未验算", "the parts' thicknesses are not checked"}, notes);
   }
   return notes;
 }

@@ -12,21 +12,14 @@
 
 namespace orv3 {
 
-// mm, kN, kN mm; the loads as in CWeldGroupLoads.
-struct CWeldGroupCase {
+// mm, kN, kN mm.
+struct CWeldGroupCase : CWeldGroupLoads {
   std::string m_strId = {};
   std::vector<double> m_arrWeld = {};  // x1, y1, x2, y2, hf of each weld in turn
   int m_nSteel = 0;                    // as CSteelGrade
   int m_nElectrode = -1;               // as CElectrode; the lowest of the steel unless said
   int m_nJoint = -1;                   // 0 lap
   double m_dBetaF = 1;                 // or 1.22 under static loads
-  double m_dN = 0;
-  double m_dVx = 0;
-  double m_dVy = 0;
-  double m_dM = 0;
-  double m_dT = 0;
-  double m_dX = 0;
-  double m_dY = 0;
 };
 
 // Stresses of the most stressed point; mm, mm2, mm4, kN mm, N/mm2.

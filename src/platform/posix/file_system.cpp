@@ -136,12 +136,12 @@ int OpenOrCreate(const std::string& path, CFileMode mode, bool& created) {
   if (mode == CFileMode::Read || mode == CFileMode::ReadShared) {
     return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   }
-  for (int attempt = 0; attempt < 100; ++attempt) {
-    int handle = ::open(path.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
-    if (handle >= 0 || errno != ENOENT) return handle;
-    handle = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (handle >= 0) created = true;
-    if (handle >= 0 || errno != EEXIST) return handle;
+  bool make = mode == CFileMode::Replace;  // which a file is rarely there for
+  for (int attempt = 0; attempt < 200; ++attempt, make = !make) {
+    const int how = make ? O_CREAT | O_EXCL : O_NONBLOCK;
+    const int handle = ::open(path.c_str(), O_RDWR | O_CLOEXEC | how, 0666);
+    created = make && handle >= 0;
+    if (handle >= 0 || errno != (make ? EEXIST : ENOENT)) return handle;
   }
   return -1;
 }
@@ -220,8 +220,9 @@ class CPosixFileSystem final : public CFileSystem {
   bool SyncFolder(const CString& path) override {
     const int handle = ::open(FolderOf(Native(path)).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0) return false;
-    // Some file systems keep no folders to write back and say so by EINVAL.
-    const bool done = ::fsync(handle) == 0 || errno == EINVAL;
+    // The entries alone, not the folder's times. Some file systems keep no folders to write back
+    // and say so by EINVAL.
+    const bool done = ::fdatasync(handle) == 0 || errno == EINVAL;
     ::close(handle);
     return done;
   }

@@ -17,7 +17,4 @@ struct CPlateWarping {
 // missing or the table is none of sections of plates.
 std::optional<CPlateWarping> PlateWarpingOf(const CDataItem& row);
 
-// A box b wide and h high outside, its plates at the top, bottom, left and right.
-CSectorial BoxSectorial(double b, double h, double top, double bottom, double left, double right);
-
 }  // namespace orv3

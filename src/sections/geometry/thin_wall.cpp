@@ -110,4 +110,15 @@ CSectorial SectorialProperties(std::span<const CWall> walls, CWallForm form) {
   return CSectorialSum(walls, form).Result();
 }
 
+CSectorial BoxSectorial(double b, double h, double top, double bottom, double left, double right) {
+  const double x1 = left / 2, x2 = b - right / 2, y1 = bottom / 2, y2 = h - top / 2;
+  const CWall walls[] = {
+      {x1, y1, x2, y1, bottom},
+      {x2, y1, x2, y2, right, 0},
+      {x2, y2, x1, y2, top, 1},
+      {x1, y2, x1, y1, left, 2},
+  };
+  return SectorialProperties(walls, CWallForm::Loop);
+}
+
 }  // namespace orv3

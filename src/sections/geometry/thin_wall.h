@@ -29,4 +29,7 @@ struct CSectorial {
 // walls.
 CSectorial SectorialProperties(std::span<const CWall> walls, CWallForm form);
 
+// A box b wide and h high outside, its plates at the top, bottom, left and right.
+CSectorial BoxSectorial(double b, double h, double top, double bottom, double left, double right);
+
 }  // namespace orv3

@@ -69,8 +69,10 @@ int RefuseColumns(const CStoreFile& file, const CDataTable& table, int slotLengt
                 {table.m_strTableName, FormatInt(table.GetTableColNum()), FormatInt(slotLength)}));
 }
 
+bool IsTooShort(const CStoreFile& file) { return file.Size() <= kUnusedHead; }
+
 int ReadOrStart(const CStoreFile& file, CTableDirectory& directory) {
-  if (file.Size() <= kUnusedHead || directory.Read(file)) return 1;
+  if (IsTooShort(file) || directory.Read(file)) return 1;
   return SetStoreError(CStoreTrouble::NotAStore, file.Path(),
                        Say(L"{1}: 不是截面库文件；没有写入",
                            L"{1}: not a table file; nothing was written", {file.Path()}));
@@ -96,7 +98,9 @@ int WritePlan(CStoreFile& file, const CRecordPlan& plan) {
 int CDataTable::PlanRecord(const orv3::CStoreFile& file, int storeKind,
                            orv3::CRecordPlan& plan) const {
   orv3::CTableDirectory& directory = plan.m_directory;
-  directory = orv3::CTableDirectory(orv3::NewInfoLine(storeKind));
+  if (orv3::IsTooShort(file)) {
+    directory = orv3::CTableDirectory(orv3::NewInfoLine(storeKind));
+  }
   if (!orv3::ReadOrStart(file, directory)) return 0;
   int record = directory.Find(m_strTableName);
   plan.m_bNewTable = record < 0;

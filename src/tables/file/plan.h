@@ -22,6 +22,8 @@ struct CRecordPlan {
   std::string m_strHeading;      // the heading area; empty when it stays
 };
 
+// Whether a file is begun anew, since it is too short to have a directory.
+bool IsTooShort(const CStoreFile& file);
 // The file's directory; `directory` as it is for a file too short to have one. 0, like all here,
 // with LastStoreError set.
 int ReadOrStart(const CStoreFile& file, CTableDirectory& directory);

@@ -52,7 +52,7 @@ int FindRecord(const CStoreFile& file, const CString& table, CString& infoLine,
 }  // namespace orv3
 
 int CDataTable::ReadTableFileInfo(CStoreFile* file, CString& infoLine, CDataFileInfo& info) const {
-  if (m_strTableName.IsEmpty() || !file) return 0;
+  if (!file) return 0;
   return orv3::FindRecord(*file, m_strTableName, infoLine, info);
 }
 
