@@ -6,8 +6,8 @@
 #include "case_output.h"
 #include "codes/edition.h"
 #include "framework/excerpt.h"
-#include "members/report/member_report.h"
 #include "members/cases/member_results.h"
+#include "members/report/member_report.h"
 
 namespace orv3::cli {
 namespace {
