@@ -8,13 +8,21 @@
 #include <cstdlib>
 #include <vector>
 
+#include "catalogue/exact/row_exact.h"
 #include "catalogue/outline/row_outline.h"
 #include "framework/utf8.h"
+#include "outlines/edge.h"
 #include "outlines/exact_properties.h"
 #include "platform/code_page.h"
 #include "sections/load_data_table.h"
 #include "sections/section_kind.h"
 #include "tables/data_table.h"
+
+#ifdef ORV3CAL_BENCH_GMSH
+#include <gmsh.h>
+
+#include "gmsh_triangles.h"
+#endif
 
 namespace {
 
@@ -63,6 +71,43 @@ void Solve(benchmark::State& state, const CLoops& loops) {
   worst.Tell(state);
 }
 
+// The peer: Gmsh's mesh, two triangles to a wall, and quadratic elements. The counters tell how far
+// its figures are from ours, in percent: the mesh is as coarse as takes It to 1 %.
+#ifdef ORV3CAL_BENCH_GMSH
+void Peer(benchmark::State& state, const CLoops& loops) {
+  gmsh::initialize();
+  gmsh::option::setNumber("General.Terminal", 0);
+  const orv3::CExactProperties p = orv3::ExactProperties(loops);
+  double length = 0;
+  for (const orv3::CPath& loop : loops) {
+    orv3::ForEachEdge(loop, [&](const orv3::CEdge& edge, std::size_t) { length += edge.Length(); });
+  }
+  orv3::test::CSectionTriangles mesh;
+  orv3::test::CCoarseFigures coarse;
+  for (auto _ : state) {
+    mesh = orv3::GmshTriangles(loops, p.A / length);
+    coarse = orv3::test::QuadraticFigures(mesh);
+  }
+  const auto percent = [](double peer, double own) { return 100 * std::fabs(peer / own - 1); };
+  state.counters["triangles"] = static_cast<double>(mesh.m_arrTriangle.size());
+  state.counters["It%"] = percent(coarse.It, p.It);
+  state.counters["Iw%"] = percent(coarse.Iw, p.Iw);
+  state.counters["As%"] = std::max(percent(coarse.Asx, p.Asx), percent(coarse.Asy, p.Asy));
+  gmsh::finalize();
+}
+BENCHMARK_CAPTURE(Peer, rolled_I_with_radii, RolledI())->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Peer, welded_H, Style(0, {300, 400, 20, 10}))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Peer, flanged_cross, Style(2, {400, 400, 200, 200, 10, 16}))
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Peer, box, Style(1, {300, 400, 12}))->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Peer, angle, Style(10, {10, 100, 10, 90}))->Unit(benchmark::kMillisecond);
+#else
+void Peer(benchmark::State& state) {
+  state.SkipWithError("built without Gmsh: libgmsh-dev is not installed");
+}
+BENCHMARK(Peer);
+#endif
+
 BENCHMARK_CAPTURE(Solve, rolled_I_with_radii, RolledI())->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Solve, welded_H, Style(0, {300, 400, 20, 10}))->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Solve, general_H, Style(9, {10, 400, 16, 20, 140, 140, 95, 95}))
@@ -77,6 +122,15 @@ BENCHMARK_CAPTURE(Solve, channel, Style(12, {8, 200, 11, 11, 67, 67}))
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Solve, rectangle, Style(3, {200, 400}))->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Solve, circular_tube, Style(7, {100, 92}))->Unit(benchmark::kMillisecond);
+
+// A shipped row's figures, kept beside the store.
+void LookUp(benchmark::State& state) {
+  orv3::SetAnsiCodePage(936);
+  CLoadDataTable::SetOrvoPrgPath(CString(orv3::FromUtf8(ORV3CAL_CATALOGUE)) + L"/");
+  const CDataItem row = CLoadDataTable::GetSysTemJMItem(L"热轧普通工字钢", L"I20a");
+  for (auto _ : state) benchmark::DoNotOptimize(orv3::ExactProperties(row));
+}
+BENCHMARK(LookUp)->Unit(benchmark::kMicrosecond);
 
 // Every row of the shipped store.
 void AllRows(benchmark::State& state) {

@@ -96,7 +96,11 @@ CAnswer Solve(const COptions& options) {
             "or an edge, wall or gap is below 1e-8 of the outline's size; right would be one "
             "without them"));
   }
-  if (!options.stress.empty()) answer.stress = solver.Stresses(answer.forces);
+  if (!options.stress.empty()) {
+    answer.stress = solver.Stresses(answer.forces);
+    const std::vector<CBoundaryStress> inside = solver.StressesInside(answer.forces);
+    answer.stress.insert(answer.stress.end(), inside.begin(), inside.end());
+  }
   return answer;
 }
 
@@ -114,11 +118,11 @@ constexpr CStressRow kStresses[] = {
      &CGreatestStress::m_pSigma,
      &CBoundaryStress::sigma},
     {"tau",
-     {"轮廓上最大剪应力", "greatest shear stress on the outline"},
+     {"最大剪应力", "greatest shear stress"},
      &CGreatestStress::m_pTau,
      &CBoundaryStress::tau},
     {"mises",
-     {"轮廓上最大折算应力", "greatest equivalent stress (von Mises) on the outline"},
+     {"最大折算应力", "greatest equivalent stress (von Mises)"},
      &CGreatestStress::m_pMises,
      &CBoundaryStress::mises},
 };

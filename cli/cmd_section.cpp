@@ -111,10 +111,6 @@ CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   return record;
 }
 
-CExactProperties ExactOf(const CSteelJMData& record) {
-  return ExactProperties(SectionOutline(record.m_nStyle, record.m_dSize));
-}
-
 CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
   CJson sizes = CJson::array();
   for (int i = 0; i < style.m_nSizes; ++i) sizes.push_back(JsonNumber(record.m_dSize[i]));

@@ -45,15 +45,6 @@ std::vector<std::string> ExactNotes(const CExactProperties& exact) {
   return notes;
 }
 
-// Figures that rounding keeps from 0 are 0 to a reader.
-double Shown(const CExactProperties& exact, const CExactKey& key) {
-  const double value = exact.*key.m_pField;
-  if (key.m_pField == &CExactProperties::Ixy && std::fabs(value) < 1e-9 * exact.I1) return 0;
-  const bool beta =
-      key.m_pField == &CExactProperties::betax || key.m_pField == &CExactProperties::betay;
-  return beta && std::fabs(value) < 1e-9 * exact.i1 ? 0 : value;
-}
-
 CJson ErrorsJson(const CExactProperties& exact) {
   const CExactErrors& e = exact.m_error;
   return {{"It", JsonNumber(e.It)},
@@ -87,7 +78,7 @@ void PrintExact(const CExactProperties& exact) {
             "\nExact, from the outline itself (origin at the lower left corner of its box)\n\n"));
   CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
   for (const CExactKey& key : ExactKeys()) {
-    table.AddRow({key.m_szTitle, key.m_szKey, NumberText(Shown(exact, key)), key.m_szUnit,
+    table.AddRow({key.m_szTitle, key.m_szKey, NumberText(exact.*key.m_pField), key.m_szUnit,
                   Say({"", key.m_szMeaning})});
   }
   Print(table.Text());

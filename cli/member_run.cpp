@@ -6,41 +6,11 @@
 #include "case_output.h"
 #include "codes/edition.h"
 #include "framework/excerpt.h"
+#include "members/cases/member_results.h"
+#include "members/report/member_report.h"
 
 namespace orv3::cli {
 namespace {
-
-constexpr struct {
-  const char* m_szKey;
-  double CMemberResults::*m_pField;
-} kNumbers[] = {
-    {"f", &CMemberResults::m_dF},
-    {"fv", &CMemberResults::m_dFv},
-    {"fy", &CMemberResults::m_dFy},
-    {"epsilonK", &CMemberResults::m_dEpsilonK},
-    {"A", &CMemberResults::m_dA},
-    {"lambdax", &CMemberResults::m_dLambdaX},
-    {"lambday", &CMemberResults::m_dLambdaY},
-    {"lambdaz", &CMemberResults::m_dLambdaZ},
-    {"lambdayz", &CMemberResults::m_dLambdaYz},
-    {"phix", &CMemberResults::m_dPhiX},
-    {"phiy", &CMemberResults::m_dPhiY},
-    {"phiz", &CMemberResults::m_dPhiZ},
-    {"phib", &CMemberResults::m_dPhiB},
-    {"gammax", &CMemberResults::m_dGammaX},
-    {"gammay", &CMemberResults::m_dGammaY},
-    {"betamx", &CMemberResults::m_dBetaMx},
-    {"betatx", &CMemberResults::m_dBetaTx},
-    {"betamy", &CMemberResults::m_dBetaMy},
-    {"betaty", &CMemberResults::m_dBetaTy},
-};
-
-constexpr struct {
-  const char* m_szKey;
-  const char* CMemberResults::*m_pField;
-} kTexts[] = {{"class", &CMemberResults::m_szClass},
-              {"classx", &CMemberResults::m_szClassX},
-              {"classy", &CMemberResults::m_szClassY}};
 
 CJson StepsJson(const CMemberAnswer& answer, std::size_t first, std::size_t end) {
   CJson steps = CJson::array();
@@ -50,11 +20,11 @@ CJson StepsJson(const CMemberAnswer& answer, std::size_t first, std::size_t end)
 
 CJson ResultsJson(const CMemberResults& r) {
   CJson results = CJson::object();
-  for (const auto& key : kNumbers) {
+  for (const CMemberResult& key : MemberResultKeys()) {
     const double value = r.*key.m_pField;
     if (!std::isnan(value)) results[key.m_szKey] = JsonNumber(value);
   }
-  for (const auto& key : kTexts) {
+  for (const CMemberText& key : MemberTextKeys()) {
     const char* text = r.*key.m_pField;
     if (*text != 0) results[key.m_szKey] = text;
   }
@@ -132,7 +102,7 @@ std::string CMemberRun::CsvHead() {
   std::string line = "case,id,code,pass,ratio,governs";
   for (std::size_t i = 0; i < kMemberCheckKinds; ++i)
     line += std::string(",") + MemberCheckName(static_cast<CMemberCheckKind>(i));
-  for (const auto& key : kNumbers) line += std::string(",") + key.m_szKey;
+  for (const CMemberResult& key : MemberResultKeys()) line += std::string(",") + key.m_szKey;
   return line + ",combinations,warnings,refused\n";
 }
 
@@ -140,7 +110,7 @@ void CMemberRun::AppendCsv(int number, std::string& line) const {
   line += std::to_string(number) + ',';
   cli::AppendCsv(line, m_pMember->m_strId);
   if (m_fault) {
-    line.append(kMemberCheckKinds + std::size(kNumbers) + 7, ',');
+    line.append(kMemberCheckKinds + MemberResultKeys().size() + 7, ',');
     cli::AppendCsv(line, m_fault->Line(m_nLanguage));
     line += '\n';
     return;
@@ -159,7 +129,7 @@ void CMemberRun::AppendCsv(int number, std::string& line) const {
     line += ',';
     cli::AppendCsv(line, ratio);
   }
-  for (const auto& key : kNumbers) {
+  for (const CMemberResult& key : MemberResultKeys()) {
     line += ',';
     cli::AppendCsv(line, answer.m_results.*key.m_pField);
   }
@@ -257,6 +227,26 @@ std::string CMemberRun::Text() const {
                               part.m_dRatio,
                               part.m_bPass},
                              warnings, m_nLanguage);
+}
+
+CReportCase CMemberRun::Report(int number, CLanguage language) const {
+  CReportCase each = {.m_nCase = number,
+                      .m_nEdition = m_check.Edition(),
+                      .m_strId = m_pMember->m_strId,
+                      .m_sheet = m_pMember->m_sheet};
+  if (m_fault) {
+    each.m_strRefused = m_fault->Line(language);
+    return each;
+  }
+  const CMemberCheckPart& worst = Answer().Worst();
+  each.m_bPass = Pass();
+  each.m_dUtilisation = worst.m_dRatio;
+  each.m_strGoverns = Governs(MemberCheckTitle(worst.m_nKind).In(language));
+  each.m_nWarnings = m_envelope.Notes().size();
+  each.m_strBody = CaseReport(
+      {m_pMember->m_strId, m_pMember->m_arrCase, m_pMember->m_bEnvelope, m_check, m_envelope},
+      language);
+  return each;
 }
 
 std::vector<std::string> CMemberRun::Row(int number) const {

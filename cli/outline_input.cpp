@@ -133,6 +133,11 @@ class COutlineJson : public nlohmann::json_sax<CJson> {
       Fault(Say("没有轮廓；请给出 {\"unit\": \"mm\", \"loops\": [...]}",
                 "holds no outline; right would be {\"unit\": \"mm\", \"loops\": [...]}"));
     }
+    if (m_nDepth == 1 && m_strKey == "unit") {
+      Fault(Say("\"unit\"：{1} 不可用；请用 \"mm\"、\"cm\"、\"m\" 或 \"in\"",
+                "\"unit\": {1} is no unit; right would be \"mm\", \"cm\", \"m\" or \"in\"",
+                {what}));
+    }
     const std::string place = m_nDepth == 1 ? "\"" + m_strKey + "\"" : Place();
     Fault(Say("{1}：{2} 不可用；每点为 [x, y] 或 [x, y, 凸度]",
               "{1}: {2} is not possible; right would be points [x, y] or [x, y, bulge]",

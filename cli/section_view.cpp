@@ -1,7 +1,12 @@
 #include "section_view.h"
 
+#include <cmath>
+#include <numbers>
+
+#include "catalogue/exact/row_exact.h"
 #include "drawing/dxf.h"
 #include "framework/utf8.h"
+#include "outlines/geometric_figures.h"
 #include "sections/outline.h"
 #include "sections/section_picture.h"
 
@@ -17,6 +22,17 @@ CSteelJMData SampleSection(const CSectionStyle& style) {
   return record;
 }
 
+namespace {
+
+// As precise as anyone draws.
+double Hundredths(double mm) { return std::round(mm * 100) / 100; }
+
+}  // namespace
+
+CExactProperties ExactOf(const CSteelJMData& record) {
+  return ExactProperties(SectionOutline(record.m_nStyle, record.m_dSize));
+}
+
 std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
                        const std::string& name) {
   CSectionPicture picture;
@@ -26,6 +42,12 @@ std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
   }
   picture.m_base = {record.m_dX, record.m_dY};
   picture.m_centroid = {record.m_dXo, record.m_dYo};
+  const CExactProperties exact = ExactOf(record);
+  if (std::isfinite(exact.xs))
+    picture.m_shearCenter = CPoint{Hundredths(exact.xs), Hundredths(exact.ys)};
+  if (std::isfinite(exact.xp))
+    picture.m_plastic = CPoint{Hundredths(exact.xp), Hundredths(exact.yp)};
+  if (HasSlantAxes(exact)) picture.m_dStrongAngle = exact.theta * std::numbers::pi / 180;
   picture.m_strTitle = style.TableName();
   picture.m_strName = FromUtf8(name);
   return SectionPictureSvg(picture);

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "outlines/exact_properties.h"
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 
@@ -11,7 +12,10 @@ namespace orv3::cli {
 // The sample section of a style, computed.
 CSteelJMData SampleSection(const CSectionStyle& style);
 
-// The picture of a computed record, drawn to scale; `name` is UTF-8.
+CExactProperties ExactOf(const CSteelJMData& record);
+
+// The picture of a computed record, drawn to scale with what its exact properties mark; `name` is
+// UTF-8.
 std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
                        const std::string& name);
 

@@ -10,6 +10,8 @@ Attribute VB_Name = "Orv3Cal"
 '   =OrvPhi(100, 235, "b")
 '   =OrvCheck("bolt", D1:E19)                     keys in D, values in E; two columns of results
 '   =OrvCheck("fillet", D1:E11, "2003")           by the edition before, for existing structures
+'   =OrvCheckMember(D1:E19)                       the same of a member ("section.table", "lengths.x")
+'   =OrvChoose(B1, D1:E12)                        the lightest rows of a table that pass; six columns
 '   =OrvCheckBolt(D1:E19)                         the same by 2003
 '   OrvPick                                       a macro: opens the browser
 '
@@ -55,6 +57,12 @@ Private Declare PtrSafe Function orv3_check_fillet Lib "Orv3CalDll.dll" ( _
     ByVal given As LongPtr, ByVal text As LongPtr, ByVal size As Long) As Long
 Private Declare PtrSafe Function orv3_check_butt Lib "Orv3CalDll.dll" ( _
     ByVal given As LongPtr, ByVal text As LongPtr, ByVal size As Long) As Long
+Private Declare PtrSafe Function orv3_check_member Lib "Orv3CalDll.dll" ( _
+    ByVal code As LongPtr, ByVal given As LongPtr, ByVal text As LongPtr, _
+    ByVal size As Long) As Long
+Private Declare PtrSafe Function orv3_choose Lib "Orv3CalDll.dll" ( _
+    ByVal tables As LongPtr, ByVal code As LongPtr, ByVal given As LongPtr, ByVal top As Long, _
+    ByVal text As LongPtr, ByVal size As Long) As Long
 Private Declare PtrSafe Function orv3_steel_strength Lib "Orv3CalDll.dll" ( _
     ByVal steel As LongPtr, ByVal thickness As Double, ByVal kind As LongPtr, _
     ByRef value As Double) As Long
@@ -187,6 +195,45 @@ Public Function OrvCheckButt(given As Range) As Variant
     OrvCheckButt = Results(length, text)
 End Function
 
+' By "2017" or "2003"; by the line "code", else by the edition in force, when it is left out.
+Public Function OrvCheckMember(given As Range, Optional code As String = "") As Variant
+    Dim text As String, list As String, length As Long
+    OpenOnce
+    list = KeysAndValues(given)
+    text = String$(8192, vbNullChar)
+    length = orv3_check_member(StrPtr(code), StrPtr(list), StrPtr(text), 8192)
+    OrvCheckMember = Results(length, text)
+End Function
+
+' Tables joined by commas, or "all". An empty row between two members: each chosen row passes both.
+Public Function OrvChoose(tables As String, given As Range, Optional code As String = "", _
+                          Optional top As Long = 10) As Variant
+    Dim text As String, list As String, length As Long, lines() As String, cells() As String
+    Dim table() As Variant, i As Long, j As Long, count As Long
+    OpenOnce
+    list = KeysAndValues(given)
+    text = String$(65536, vbNullChar)
+    length = orv3_choose(StrPtr(tables), StrPtr(code), StrPtr(list), top, StrPtr(text), 65536)
+    If length < 0 Then
+        OrvChoose = Failure()
+        Exit Function
+    End If
+    lines = Filter(Split(Left$(text, length), vbLf), "row=")
+    count = UBound(lines) + 1
+    If count = 0 Then
+        OrvChoose = "#no section passes"
+        Exit Function
+    End If
+    ReDim table(1 To count, 1 To 6)
+    For i = 1 To count
+        cells = Split(Mid$(lines(i - 1), 5), ";")
+        For j = 1 To 6
+            table(i, j) = Value(cells(j - 1))
+        Next j
+    Next i
+    OrvChoose = table
+End Function
+
 ' Opens the browser and writes the chosen row, a key and a value a line, from the active cell down.
 Public Sub OrvPick()
     Dim text As String, length As Long, row As Variant
@@ -255,7 +302,8 @@ Private Function KeysAndValues(given As Range) As String
     For i = 1 To given.Rows.Count
         cell = given.Cells(i, 2).Value
         If VarType(cell) = vbDouble Then cell = Trim$(Str$(cell))
-        list = list & given.Cells(i, 1).Value & "=" & cell & vbLf
+        If given.Cells(i, 1).Value <> "" Then list = list & given.Cells(i, 1).Value & "=" & cell
+        list = list & vbLf
     Next i
     KeysAndValues = list
 End Function

@@ -103,19 +103,36 @@ class Orv3Cal:
 
     # --- Checks: keyword arguments in, a dictionary out ----------------------------------------------
 
-    def _case(self, function, case):
-        def line(key, value):
-            several = isinstance(value, (list, tuple))
-            return f"{key}=" + (";".join(map(str, value)) if several else str(value))
+    @staticmethod
+    def _lines(case):
+        """Lines key=value: dictionaries within it with a point, lists with semicolons."""
+        lines = []
+        for key, value in case.items():
+            if isinstance(value, dict):
+                lines += [f"{key}.{line}" for line in Orv3Cal._lines(value)]
+            elif isinstance(value, (list, tuple)):
+                lines.append(f"{key}=" + ";".join(map(str, value)))
+            else:
+                lines.append(f"{key}={int(value) if isinstance(value, bool) else value}")
+        return lines
 
-        lines = self._read(function, self._text("\n".join(line(*item) for item in case.items())))
+    @staticmethod
+    def _results(text):
         results = {"warnings": []}
-        for key, _, value in (each.partition("=") for each in lines.split("\n")):
+        for key, _, value in (each.partition("=") for each in text.split("\n")):
             if key == "warning":
                 results["warnings"].append(value)
+            elif key == "pass":
+                results[key] = value == "1"
             else:
-                results[key] = bool(int(value)) if key == "pass" else float(value)
+                try:
+                    results[key] = float(value)
+                except ValueError:  # the name of a check, a class
+                    results[key] = value
         return results
+
+    def _case(self, function, case):
+        return self._results(self._read(function, self._text("\n".join(self._lines(case)))))
 
     def check(self, kind, code="", **case):
         """kind: bolt, fillet, butt or weld-group; code: 2017 (in force, unless said) or 2003."""
@@ -132,6 +149,19 @@ class Orv3Cal:
 
     def check_butt(self, **case):
         return self._case(self._library.orv3_check_butt, case)
+
+    # --- Members: cases as in the command's files, by the edition of GB 50017 in force unless said ---
+
+    def check_member(self, case, code=""):
+        text = self._text("\n".join(self._lines(case)))
+        return self._results(self._read(self._library.orv3_check_member, self._text(code), text))
+
+    def choose(self, tables, cases, code="", top=0):
+        """The lightest rows that pass every case: (table, number, kg/m, ratio, governs, case)."""
+        text = "\n\n".join("\n".join(self._lines(case)) for case in cases)
+        lines = self._read(self._library.orv3_choose, self._text(",".join(tables)), self._text(code),
+                           self._text(text), top).split("\n")
+        return [tuple(line[4:].split(";", 5)) for line in lines if line.startswith("row=")]
 
     # --- Figures of GB 50017-2003 ------------------------------------------------------------------
 
@@ -180,8 +210,18 @@ def main():
     except Orv3Error as error:
         print(f"refused: {error}")
 
+    column = orv3.check_member({"section": {"style": "h", "sizes": [300, 400, 20, 10]},
+                                "steel": "Q345", "N": -800, "Mx": [-75000, 150000],
+                                "lengths": {"x": 6000, "y": 3000}})
+    print(f"column: {'pass' if column['pass'] else 'FAIL'}, {column['ratio']:.1%} "
+          f"({column['governs']}), about y {column['stability-y']:.4f}")
+
     if len(sys.argv) == 3:
         orv3.open(sys.argv[2])
+        brace = {"steel": "Q235", "lengths": {"x": 2000, "y": 2000}}
+        angles = orv3.choose(["热轧等边角钢"], [brace | {"id": "wind", "N": -60},
+                                                brace | {"id": "snow", "N": 150}], top=1)
+        print("lightest angle:", *angles[0])
         table = "热轧普通工字钢"
         i20a = orv3.geometry(table, "I20a")
         print(f"I20a of {len(orv3.numbers(table))} in {len(orv3.tables())} tables: "

@@ -1,21 +1,16 @@
 // The C interface: checks of bolt groups and welds as lists of values.
-#include <map>
 #include <string_view>
 
-#include "codes/edition.h"
 #include "connections/cases/bolt_case.h"
 #include "connections/cases/weld_case.h"
 #include "connections/gb2017/bolt_case.h"
 #include "connections/gb2017/weld_case.h"
 #include "connections/weld_group/group_case.h"
-#include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "module/c_support.h"
+#include "module/c_values.h"
 
 namespace orv3::c_interface {
 namespace {
-
-using CValues = std::map<std::string, std::string, std::less<>>;
 
 // A case with m_szKey given (as m_szValue, when there is one) must give m_arrNeeded too. What a
 // check refuses by itself, such as a spacing of 0, is not repeated here.
@@ -61,76 +56,6 @@ const std::vector<CNeed>& NeedsOf(const CWeldGroupCase&) {
   return kNeeds;
 }
 
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kSpace = " \t\r";
-  const std::size_t first = text.find_first_not_of(kSpace);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kSpace) - first + 1);
-}
-
-// A line without a value leaves its key out: an empty cell of a spreadsheet.
-CValues ReadValues(const orv3_char* input) {
-  const std::string text = Utf8Of(input, "input");
-  CValues values;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = std::min(text.find('\n', at), text.size());
-    const std::string_view line = Trimmed(std::string_view(text).substr(at, end - at));
-    at = end + 1;
-    if (line.empty()) continue;
-    const std::size_t equals = line.find('=');
-    if (equals == std::string_view::npos)
-      throw CFailure("input: \"" + std::string(line) + "\" has no \"=\"; give lines key=value");
-    const std::string_view value = Trimmed(line.substr(equals + 1));
-    if (value.empty()) continue;
-    const std::string key(Trimmed(line.substr(0, equals)));
-    if (!values.emplace(key, value).second) throw CFailure(key + ": stands twice; give it once");
-  }
-  return values;
-}
-
-double NumberOf(const std::string& key, std::string_view text) {
-  const CString wide = FromUtf8(Trimmed(text));
-  if (!IsNumber(wide))
-    throw CFailure(key + ": \"" + std::string(text) + "\" is no number; give one");
-  return ToDouble(wide);
-}
-
-std::vector<double> NumbersOf(const std::string& key, std::string_view text) {
-  std::vector<double> numbers;
-  for (std::size_t at = 0; at <= text.size();) {
-    const std::size_t end = std::min(text.find(';', at), text.size());
-    numbers.push_back(NumberOf(key, text.substr(at, end - at)));
-    at = end + 1;
-  }
-  return numbers;
-}
-
-std::string Choices(std::span<const char* const> choices) {
-  std::string text = choices.empty() ? "give a whole number" : "give one of";
-  for (std::size_t i = 0; i < choices.size(); ++i)
-    text += std::string(i == 0 ? " " : ", ") + choices[i];
-  return text;
-}
-
-template <class CASE>
-void SetValue(CASE& target, const CInputKey<CASE>& key, const std::string& text) {
-  const bool bText =
-      !key.m_choices.empty() || std::holds_alternative<std::string CASE::*>(key.m_field);
-  bool bSet = false;
-  if (bText) {
-    bSet = SetInput(target, key, std::string_view(text));
-  } else if (text.find(';') == std::string::npos) {
-    bSet = SetInput(target, key, NumberOf(key.m_szKey, text));
-  } else {
-    const std::vector<double> numbers = NumbersOf(key.m_szKey, text);
-    bSet = SetInput(target, key, std::span<const double>(numbers));
-  }
-  if (!bSet) {
-    throw CFailure(std::string(key.m_szKey) + ": \"" + text + "\" is not possible; " +
-                   Choices(key.m_choices));
-  }
-}
-
 void CheckNeeds(const std::vector<CNeed>& needs, const CValues& values) {
   for (const CNeed& need : needs) {
     if (need.m_szKey != nullptr) {
@@ -147,25 +72,10 @@ void CheckNeeds(const std::vector<CNeed>& needs, const CValues& values) {
 template <class CHECK>
 typename CHECK::CCase CaseOf(const CValues& values) {
   typename CHECK::CCase input;
-  for (const auto& [name, text] : values) {
-    bool bKnown = false;
-    std::string known;
-    for (const auto& key : CHECK::InputKeys()) {
-      known += known.empty() ? "" : ", ";
-      known += key.m_szKey;
-      if (name != key.m_szKey) continue;
-      SetValue(input, key, text);
-      bKnown = true;
-    }
-    if (!bKnown) throw CFailure(name + ": is no key of this check; the keys are " + known);
-  }
+  SetValues(input, CHECK::InputKeys(), values);
   CheckNeeds(NeedsOf(input), values);
   return input;
 }
-
-// A whole number, a double, or a verdict as 1 or 0.
-CString ValueText(double value) { return FormatShortest(value); }
-CString ValueText(int value) { return FormatInt(value); }
 
 template <class CHECK>
 std::vector<CString> Answer(const CValues& values) {
@@ -202,19 +112,6 @@ constexpr CCheckKind kCheckKinds[] = {
     {"butt", {Answer<CButtCheck>, Answer<CButtCheck2017>}},
     {"weld-group", {Answer<CWeldGroupCheck2003>, Answer<CWeldGroupCheck2017>}},
 };
-
-// The edition of a case: that of the call, else of its line "code", which goes, else the default.
-CCodeEdition EditionOf(const std::string& code, CValues& values) {
-  std::string year = code;
-  if (const auto line = values.find("code"); line != values.end()) {
-    if (year.empty()) year = line->second;
-    values.erase(line);
-  }
-  if (year.empty()) return kDefaultEdition;
-  const auto edition = EditionByYear(year);
-  if (!edition) throw CFailure(edition.Refusal().Text().m_strEnglish);
-  return *edition;
-}
 
 int CheckBy(const std::string& name, const std::string& code, const orv3_char* text, orv3_char* out,
             int size) {

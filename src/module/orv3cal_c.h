@@ -22,7 +22,7 @@
 #define ORV3CAL_C_H
 
 /* Raised whenever a function is added; functions never change or go. */
-#define ORV3_INTERFACE_VERSION 3
+#define ORV3_INTERFACE_VERSION 4
 
 #if defined(_WIN32)
 #define ORV3_CALL __stdcall
@@ -243,6 +243,27 @@ ORV3_API int ORV3_CALL orv3_check_butt(const orv3_char* input, orv3_char* text, 
  * begins with "code". */
 ORV3_API int ORV3_CALL orv3_check(const orv3_char* kind, const orv3_char* code,
                                   const orv3_char* input, orv3_char* text, int size);
+
+/* A member. Keys as in the command line's case files (docs/members.md), those of an inner object
+ * behind a point ("section.table", "lengths.x"), two end moments as M1;M2; "sway" and "dynamic" are
+ * 1 or 0. A section of a table is looked up in the opened data. `code` as above. Combinations of
+ * forces may follow, an empty line in front of each, with what is not the same for all of them. The
+ * result: "code", "pass" (1 or 0), "ratio" and "governs" of the worst check, the ratio of each
+ * check by its name, the results, and one line "warning" for each warning (English). Of
+ * combinations each ratio is the greatest; its combination stands behind it, as in "strength.case",
+ * that of the worst check as "case", by its "id" or its number. */
+ORV3_API int ORV3_CALL orv3_check_member(const orv3_char* code, const orv3_char* input,
+                                         orv3_char* text, int size);
+
+/* The lightest rows of the opened data that pass: `tables` are names joined by commas, or "all";
+ * `input` is a member without its section, or several with an empty line between each and the next,
+ * all of which must pass. The result: "code", how many rows were "tried", are "passing" and were
+ * "refused", for each of the first `top` (0: all) that pass, lightest first, a line
+ * "row=table;number;kg/m;ratio;governing check;case", and for each table with refused rows
+ * "refusal=table;how many;first number;reason". None that passes is no failure; a failure when
+ * every row is refused. */
+ORV3_API int ORV3_CALL orv3_choose(const orv3_char* tables, const orv3_char* code,
+                                   const orv3_char* input, int top, orv3_char* text, int size);
 
 /* --- Figures of GB 50017-2003, each of which returns 0 ------------------------------------------
  */

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <set>
 #include <utility>
 
 #include "framework/excerpt.h"
@@ -144,8 +145,9 @@ class CDxfReader {
            "is no DXF file, or has no section ENTITIES; right would be an ASCII DXF");
     }
     for (auto* paths : {&m_arrClosed, &m_arrOpen}) {
-      for (CPath& path : *paths) Scale(path);
+      for (CPath& path : *paths) Clean(path);
     }
+    DropCopies(m_arrOpen);
     if (const auto fault = JoinLoops(m_arrOpen, kJoin, m_arrClosed)) throw CDxfFault{*fault};
     return std::move(m_arrClosed);
   }
@@ -167,16 +169,40 @@ class CDxfReader {
                "14 (dm)");
   }
 
-  // Coordinates in mm.
-  void Scale(CPath& path) const {
-    for (CVertex& v : path.m_arrVertex) v = {v.x * m_dMm, v.y * m_dMm, v.bulge};
-    auto& vertices = path.m_arrVertex;
+  // Coordinates in mm, and no edge without length: a repeated point counts once.
+  void Clean(CPath& path) const {
     const auto same = [](const CVertex& a, const CVertex& b) {
       return std::hypot(a.x - b.x, a.y - b.y) <= kJoin;
     };
-    // A closed polyline whose last point repeats the first.
-    if (path.m_bClosed && vertices.size() > 2 && same(vertices.front(), vertices.back()))
-      vertices.pop_back();
+    std::vector<CVertex> kept;
+    for (const CVertex& v : path.m_arrVertex) {
+      const CVertex mm{v.x * m_dMm, v.y * m_dMm, v.bulge};
+      if (!kept.empty() && same(kept.back(), mm)) {
+        kept.back().bulge = v.bulge;
+      } else {
+        kept.push_back(mm);
+      }
+    }
+    if (path.m_bClosed && kept.size() > 2 && same(kept.front(), kept.back())) kept.pop_back();
+    path.m_arrVertex = std::move(kept);
+  }
+
+  // Lines without length, and lines and arcs drawn over each other, whichever way they run.
+  static void DropCopies(std::vector<CPath>& paths) {
+    std::set<std::vector<double>> seen;
+    const auto key = [](const CPath& path) {
+      std::vector<double> numbers;
+      for (const CVertex& v : path.m_arrVertex) {
+        const bool last = &v == &path.m_arrVertex.back();
+        for (const double x : {v.x / kJoin, v.y / kJoin, last ? 0 : v.bulge * 1e6})
+          numbers.push_back(std::round(x));
+      }
+      return numbers;
+    };
+    std::erase_if(paths, [&](const CPath& path) {
+      if (path.m_arrVertex.size() < 2) return true;
+      return !seen.insert(std::min(key(path), key(Reversed(path)))).second;
+    });
   }
 
   bool ReadEntity(CEntity& entity) {

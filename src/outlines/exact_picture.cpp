@@ -7,6 +7,7 @@
 
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "outlines/geometric_figures.h"
 
 namespace orv3 {
 namespace {
@@ -70,10 +71,6 @@ class CExactLayout {
 
  private:
   bool Stressed() const { return m_pGreatest != nullptr; }
-  bool IsSlant() const {
-    const double off = std::fabs(std::remainder(m_exact.theta, 90));
-    return off > 1e-4 && m_exact.I1 - m_exact.I2 > 1e-9 * m_exact.I1;
-  }
   CString In(const char* chinese, const char* english) const {
     return FromUtf8(m_picture.m_nLanguage == CLanguage::Chinese ? chinese : english);
   }
@@ -88,7 +85,7 @@ class CExactLayout {
     if (std::isfinite(m_exact.xs))
       point(In("剪心 S", "shear centre S"), L"xs", m_exact.xs, L"ys", m_exact.ys);
     point(In("塑性中和轴", "plastic axes"), L"xp", m_exact.xp, L"yp", m_exact.yp);
-    if (IsSlant())
+    if (HasSlantAxes(m_exact))
       m_arrNote.push_back(In("主轴1倾角", "principal axis 1 at") + L" " + Value(m_exact.theta) +
                           L"°");
     m_pGreatest = GreatestStress(m_picture.m_arrStress).m_pMises;
@@ -126,6 +123,7 @@ class CExactLayout {
     const auto& points = m_picture.m_arrStress;
     std::array<std::vector<CPath>, kScale.size()> bands;
     for (std::size_t i = 0, first = 0; i < points.size(); ++i) {
+      if (points[i].m_nLoop == CBoundaryStress::kInside) continue;
       if (points[i].m_nLoop != points[first].m_nLoop) first = i;
       const bool last = i + 1 == points.size() || points[i + 1].m_nLoop != points[i].m_nLoop;
       const CBoundaryStress& to = last ? points[first] : points[i + 1];
@@ -185,7 +183,7 @@ class CExactLayout {
     const CPoint o{m_exact.xo, m_exact.yo};
     DrawAxis(drawing, CLayer::CentroidAxis, o, 0, L"x");
     DrawAxis(drawing, CLayer::CentroidAxis, o, 90, L"y");
-    if (IsSlant()) {
+    if (HasSlantAxes(m_exact)) {
       DrawAxis(drawing, CLayer::CentroidAxis, o, m_exact.theta, L"1");
       DrawAxis(drawing, CLayer::CentroidAxis, o, m_exact.theta + 90, L"2");
     }

@@ -17,7 +17,8 @@ struct CExactPicture {
   std::vector<CPath> m_arrLoop;
   CExactProperties m_exact;
   CString m_strTitle;
-  std::vector<CBoundaryStress> m_arrStress;  // none: without stresses
+  // On the boundary, then inside; none: without stresses.
+  std::vector<CBoundaryStress> m_arrStress;
   CLanguage m_nLanguage = CLanguage::English;
 };
 

@@ -20,14 +20,14 @@ void SetPrincipal(CExactProperties& p) {
   const double half = (p.Ix - p.Iy) / 2;
   const double radius = std::hypot(half, p.Ixy);
   const double middle = (p.Ix + p.Iy) / 2;
+  // Rounding would turn an axis that lies along the frame's.
+  if (std::fabs(p.Ixy) <= kEqual * middle) p.Ixy = 0;
   p.I1 = middle + radius;
   // Of a slender section the small one is what the large ones' product leaves.
   p.I2 = (p.Ix * p.Iy - p.Ixy * p.Ixy) / p.I1;
   p.theta = 0;
   if (radius <= kEqual * middle) return;
-  // Ixy below rounding would turn an axis that lies along the frame's.
-  const double product = std::fabs(p.Ixy) <= kEqual * middle ? 0 : p.Ixy;
-  p.theta = std::atan2(-product, half) * 90 / std::numbers::pi + 0.0;
+  p.theta = std::atan2(-p.Ixy, half) * 90 / std::numbers::pi + 0.0;
   if (p.theta <= -90) p.theta += 180;
 }
 
@@ -69,6 +69,11 @@ CExactProperties GeometricFigures(std::span<const CPath> loops) {
   p.surface = length / 1000;
   p.mass = p.A * kDensity * 1000;
   return p;
+}
+
+bool HasSlantAxes(const CExactProperties& exact) {
+  const double off = std::fabs(std::remainder(exact.theta, 90));
+  return off > 1e-4 && exact.I1 - exact.I2 > 1e-9 * exact.I1;
 }
 
 CThirdMoments ThirdMoments(std::span<const CPath> loops, CPoint centroid) {

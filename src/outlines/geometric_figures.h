@@ -3,12 +3,16 @@
 
 #include <span>
 
+#include "framework/export.h"
 #include "outlines/exact_properties.h"
 
 namespace orv3 {
 
 // A to surface; all NaN when the loops enclose no area.
 CExactProperties GeometricFigures(std::span<const CPath> loops);
+
+// Whether the principal axes are others than x and y.
+ORV3CAL_API bool HasSlantAxes(const CExactProperties& exact);
 
 // The integrals of y (x^2 + y^2) and x (x^2 + y^2) over the area, the first for
 // betax, from the centroid.

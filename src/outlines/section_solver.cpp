@@ -166,6 +166,8 @@ struct CSectionSolver::CState {
   void TakeFigures(double depth);
   void AddStresses(std::size_t part, const CSectionForces& forces,
                    std::vector<CBoundaryStress>& to) const;
+  void AddStressesInside(std::size_t part, const CSectionForces& forces,
+                         std::vector<CBoundaryStress>& to) const;
   double Sigma(CPoint p, const CSectionForces& forces) const;
 };
 
@@ -217,8 +219,9 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
   if (std::isnan(m_properties.Iw)) return;
   CExactProperties& p = m_properties;
   const CThirdMoments third = ThirdMoments(loops, {m_origin.x + p.xo, m_origin.y + p.yo});
-  p.betax = third.forX / p.Ix - 2 * (p.ys - p.yo);
-  p.betay = third.forY / p.Iy - 2 * (p.xs - p.xo);
+  const auto beyondRounding = [&](double beta) { return std::fabs(beta) < 1e-9 * p.i1 ? 0 : beta; };
+  p.betax = beyondRounding(third.forX / p.Ix - 2 * (p.ys - p.yo));
+  p.betay = beyondRounding(third.forY / p.Iy - 2 * (p.xs - p.xo));
 }
 
 void CSectionSolver::CState::TakeFigures(double depth) {
@@ -305,6 +308,30 @@ void CSectionSolver::CState::AddStresses(std::size_t part, const CSectionForces&
   }
 }
 
+void CSectionSolver::CState::AddStressesInside(std::size_t part, const CSectionForces& f,
+                                               std::vector<CBoundaryStress>& to) const {
+  const CSectionMesh& mesh = m_parts[part].Mesh();
+  const double square = m_scale * m_scale;
+  const double twist = f.T == 0 ? 0 : f.T / m_properties.It * m_scale;
+  for (std::size_t i = 0; i < mesh.m_arrTriangle.size(); ++i) {
+    const auto& corners = mesh.m_arrTriangle[i].m_vertex;
+    if (std::any_of(corners.begin(), corners.end(),
+                    [&](int v) { return mesh.m_arrSharp[static_cast<std::size_t>(v)] != 0; }))
+      continue;
+    for (const CInnerTraction& t : m_parts[part].Inside(i)) {
+      CBoundaryStress stress;
+      stress.m_nLoop = CBoundaryStress::kInside;
+      const CPoint at{t.m_point.x * m_scale, t.m_point.y * m_scale};
+      stress.m_point = {m_origin.x + at.x, m_origin.y + at.y};
+      stress.sigma = Sigma({at.x - m_properties.xo, at.y - m_properties.yo}, f);
+      stress.tau = std::hypot(twist * t.m_twist.x + (f.Vx * t.m_x.x + f.Vy * t.m_y.x) / square,
+                              twist * t.m_twist.y + (f.Vx * t.m_x.y + f.Vy * t.m_y.y) / square);
+      stress.mises = std::sqrt(stress.sigma * stress.sigma + 3 * stress.tau * stress.tau);
+      to.push_back(stress);
+    }
+  }
+}
+
 CSectionSolver::CSectionSolver(std::span<const CPath> loops) : m_state(new CState) {
   m_state->Solve(loops);
 }
@@ -320,6 +347,13 @@ std::vector<CBoundaryStress> CSectionSolver::Stresses(const CSectionForces& forc
   std::vector<CBoundaryStress> stresses;
   for (std::size_t i = 0; i < m_state->m_parts.size(); ++i)
     m_state->AddStresses(i, forces, stresses);
+  return stresses;
+}
+
+std::vector<CBoundaryStress> CSectionSolver::StressesInside(const CSectionForces& forces) const {
+  std::vector<CBoundaryStress> stresses;
+  if (m_state->m_parts.size() != 1 || (forces.Vx == 0 && forces.Vy == 0)) return stresses;
+  m_state->AddStressesInside(0, forces, stresses);
   return stresses;
 }
 

@@ -17,12 +17,14 @@ struct CSectionForces {
   double N = 0, Mx = 0, My = 0, Vx = 0, Vy = 0, T = 0;
 };
 
-// N/mm^2 at a point of the boundary, in the frame of the loops.
+// N/mm^2 at a point of the boundary or inside, in the frame of the loops.
 struct CBoundaryStress {
-  std::size_t m_nLoop = 0;  // which loop
+  static constexpr std::size_t kInside = static_cast<std::size_t>(-1);
+
+  std::size_t m_nLoop = 0;  // which loop; kInside
   CPoint m_point;
   double sigma = 0;       // along the bar, tension positive
-  double tau = 0;         // resultant shear, along the boundary in the loop's sense
+  double tau = 0;         // resultant shear, along the boundary in the loop's sense; inside >= 0
   double mises = 0;       // sqrt(sigma^2 + 3 tau^2)
   bool m_bSharp = false;  // at a sharp re-entrant corner, where theory has no bound for tau
 };
@@ -40,6 +42,10 @@ class ORV3CAL_API CSectionSolver {
   // Loop by loop along the boundary, closely enough to draw. Of parts that are not joined: Vx and
   // Vy give no tau (NaN), the others act on the parts together. Empty when the figures are NaN.
   std::vector<CBoundaryStress> Stresses(const CSectionForces& forces) const;
+
+  // At points inside, where Vx or Vy act: the shear of N, Mx, My and T alone, and so the equivalent
+  // stress, is greatest on the boundary. Triangles at sharp re-entrant corners are left out.
+  std::vector<CBoundaryStress> StressesInside(const CSectionForces& forces) const;
 
  private:
   struct CState;

@@ -9,9 +9,17 @@ CDrawing SectionPictureDrawing(const CSectionPicture& picture) {
   const auto sizes = SizeDimensions(picture.m_nStyle, picture.m_arrSize);
   const CString gap = picture.m_strName.IsEmpty() ? L"" : L"  ";
   const CString title = picture.m_strTitle + gap + picture.m_strName;
-  if (!outline.m_arrLoop.empty())
-    return OutlinePictureDrawing(
-        {outline, sizes, picture.m_centroid, picture.m_base, title, {L"X0", L"Y0"}});
+  if (!outline.m_arrLoop.empty()) {
+    COutlinePicture drawn{outline, sizes, picture.m_centroid, picture.m_base, title};
+    drawn.m_shearCenter = picture.m_shearCenter;
+    drawn.m_plastic = picture.m_plastic;
+    if (picture.m_dStrongAngle) {
+      drawn.m_axes.m_szStrong = L"1";
+      drawn.m_axes.m_szWeak = L"2";
+      drawn.m_dStrongAngle = *picture.m_dStrongAngle;
+    }
+    return OutlinePictureDrawing(drawn);
+  }
   std::vector<CString> lines{title, L"这些尺寸不能构成截面"};
   for (const CSizeDimension& size : sizes) lines.push_back(SizeText(size));
   return TextPictureDrawing(lines);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "drawing/drawing.h"
@@ -19,6 +20,9 @@ struct CSectionPicture {
   CPoint m_centroid;   // axes X0, Y0
   CString m_strTitle;  // name of the style
   CString m_strName;   // name of the section
+  std::optional<CPoint> m_shearCenter{};
+  std::optional<CPoint> m_plastic{};       // where the plastic axes cross
+  std::optional<double> m_dStrongAngle{};  // of the strong axis where it stands aslant, radians
 };
 
 // The section's outline, centroid and base point, both pairs of axes and a dimension for each size

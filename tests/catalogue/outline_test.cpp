@@ -12,10 +12,11 @@
 #include "outlines/outline_moments.h"
 #include "sections/catalogue_store.h"
 #include "sections/geometry_rows.h"
+#include "sections/outline_integral.h"
 
 namespace {
 
-using orv3::CVertex, orv3::RowOutline, orv3::RowOutlineMoments;
+using orv3::CPoint, orv3::CVertex, orv3::RowOutline, orv3::RowOutlineMoments;
 
 // --- Form ----------------------------------------------------------------------------------------
 

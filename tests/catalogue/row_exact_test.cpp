@@ -12,8 +12,10 @@
 
 #include "catalogue/exact/exact_figures.h"
 #include "catalogue/outline/row_outline.h"
+#include "catalogue/quadratic_section.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "outlines/edge.h"
 #include "outlines/exact_keys.h"
 #include "outlines/outline_check.h"
 #include "platform/whole_file.h"
@@ -169,10 +171,49 @@ TEST(RowExact, ToldDeviationsOfPrintedFigures) {
   }
 }
 
-// --- User-defined sections ----------------------------------------------------------------------
+// --- An independent solution ---------------------------------------------------------------------
 
-// A hundred sections of each style, their sizes around those of its sample.
-TEST(RowExact, HoldsForUserSections) {
+// All figures by quadratic triangles, two to a wall. The torsion constant by the stress function is
+// below the true one, the library's above.
+void MeetCoarseFigures(const std::vector<CPath>& loops, const CExactProperties& exact,
+                       const std::string& name) {
+  SCOPED_TRACE(name);
+  const CBox box = PathBounds(loops);
+  double length = 0;
+  for (const CPath& loop : loops)
+    ForEachEdge(loop, [&](const CEdge& edge, std::size_t) { length += edge.Length(); });
+  const auto mesh = test::RasterTriangles(loops, std::min(0.65 * exact.A / length, exact.i2 / 3));
+  const test::CCoarseFigures coarse = test::QuadraticFigures(mesh);
+  const double depth = std::max(box.Width(), box.Height());
+  EXPECT_NEAR(exact.It, coarse.It, 0.01 * exact.It);
+  EXPECT_NEAR(exact.Iw, coarse.Iw, 0.01 * std::max(exact.Iw, 0.01 * exact.It * depth * depth));
+  EXPECT_NEAR(exact.xs, coarse.xs, 0.005 * depth);
+  EXPECT_NEAR(exact.ys, coarse.ys, 0.005 * depth);
+  EXPECT_NEAR(exact.Asx, coarse.Asx, 0.01 * exact.Asx);
+  EXPECT_NEAR(exact.Asy, coarse.Asy, 0.01 * exact.Asy);
+}
+
+// Every `step`-th row that is one part.
+void MeetCoarseRows(std::size_t step) {
+  const std::vector<CDataItem> rows = AllRows();
+  std::size_t met = 0;
+  for (std::size_t i = 0; i < rows.size(); i += step) {
+    const CExactProperties exact = ExactProperties(rows[i]);
+    if (!exact.m_bJoined) continue;
+    MeetCoarseFigures(RowOutline(rows[i]).m_arrLoop, exact, NameOf(rows[i]));
+    ++met;
+  }
+  EXPECT_GT(met * step, 500U);
+}
+
+TEST(RowExact, MeetsAnotherMethod) { MeetCoarseRows(23); }
+
+// A minute's work; as docs/section-solver.md tells.
+TEST(RowExact, DISABLED_MeetsAnotherMethodInEveryRow) { MeetCoarseRows(1); }
+
+// A hundred sections of each style, their sizes around those of its sample; every `step`-th by the
+// other method too.
+void HoldForUserSections(int step) {
   std::uint64_t seed = 20'241'001;
   const auto random = [&] {
     seed = seed * 6364136223846793005U + 1442695040888963407U;
@@ -191,9 +232,13 @@ TEST(RowExact, HoldsForUserSections) {
       std::string name = style.m_szAlias;
       for (const double size : given) name += " " + std::to_string(size);
       EXPECT_TRUE(exact.m_bAccurate) << name;
+      if (made % step == 0) MeetCoarseFigures(outline.m_arrLoop, exact, name);
     }
   }
 }
+
+TEST(RowExact, HoldsForUserSections) { HoldForUserSections(25); }
+TEST(RowExact, DISABLED_HoldsForUserSectionsOneByOne) { HoldForUserSections(1); }
 
 }  // namespace
 }  // namespace orv3

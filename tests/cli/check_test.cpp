@@ -12,6 +12,7 @@
 #include "connections/gb2017/weld_case.h"
 #include "connections/weld_group/group_case.h"
 #include "framework/utf8.h"
+#include "members/cases/member_case.h"
 #include "platform/code_page.h"
 #include "reports/report_document.h"
 
@@ -64,6 +65,29 @@ TEST(CheckCommand, TheSchemasListTheKeysOfTheChecks) {
   ExpectKeysOf<orv3::CFilletCheck, orv3::CFilletCheck2017>("fillet");
   ExpectKeysOf<orv3::CButtCheck, orv3::CButtCheck2017>("butt");
   ExpectKeysOf<orv3::CWeldGroupCheck2003, orv3::CWeldGroupCheck2017>("weld-group");
+}
+
+// The other way round the command refuses to start.
+TEST(CheckCommand, TheSchemaOfMembersListsItsKeys) {
+  const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/member.schema.json"));
+  for (const auto& key : orv3::MemberInputKeys()) {
+    Json at = schema;
+    std::istringstream path(key.m_szKey);
+    for (std::string name; std::getline(path, name, '.');) at = at["properties"][name];
+    EXPECT_FALSE(at.is_null()) << key.m_szKey;
+  }
+}
+
+TEST(CheckCommand, AnswersTheExamplesOfMembers) {
+  const Json one = ExampleAnswer("member");
+  EXPECT_EQ(one["pass"], true);
+  for (const Json& check : one["checks"]) {
+    if (check["name"] != "strength") continue;
+    EXPECT_NEAR(check["ratio"].get<double>(), 0.37882, 1e-5);  // 800e3/A + 150e6/(1.05 W)
+  }
+  const Json many = JsonOf("check member \"" + kSource + "/examples/members.csv\" --json");
+  ASSERT_EQ(many.size(), 4U);
+  for (const Json& each : many) EXPECT_EQ(each.value("pass", false), true) << each;
 }
 
 TEST(CheckCommand, AnswersTheExamples) {

@@ -2,6 +2,7 @@
 // printed values of GB 50017-2003.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>
@@ -271,6 +272,115 @@ TEST(CChecks, RefuseByKeyWhatIsNoValue) {
   twice.push_back(u"d=24");
   EXPECT_EQ(orv3_check_bolt(Joined(twice).c_str(), nullptr, 0), -1);
   EXPECT_NE(LastError().find("d: stands twice"), std::string::npos);
+}
+
+// --- Members -------------------------------------------------------------------------------------
+
+CText16 Member(const char16_t* code, const CText16& input) {
+  return TextFrom([&](orv3_char* text, int size) {
+    return orv3_check_member(code, input.c_str(), text, size);
+  });
+}
+
+const CText16 kColumn =
+    u"section.style=h\nsection.sizes=300;400;20;10\nsteel=Q345\nN=-800\nMx=150000\nload=uniform\n"
+    u"lengths.x=6000\nlengths.y=3000\nVy=100\nsway=0\n";
+
+TEST(CMembers, AreCheckedByEitherEdition) {
+  auto later = Values(Member(nullptr, kColumn));
+  EXPECT_EQ(later["code"], "2017");
+  EXPECT_EQ(later["pass"], "1");
+  EXPECT_EQ(later["f"], "295");
+  // 800e3/(15600 295) + 150e6/(1.05 2362400 295)
+  EXPECT_NEAR(std::stod(later["strength"]), 0.37882, 1e-5);
+  EXPECT_EQ(later["ratio"], later[later["governs"]]);
+  auto earlier = Values(Member(u"", kColumn + u"code=2003"));
+  EXPECT_EQ(earlier["code"], "2003");
+  EXPECT_EQ(earlier["betamx"], "1");
+}
+
+// The greatest of each check over the combinations, as they are one by one.
+TEST(CMembers, TakeTheWorstOfTheirCombinations) {
+  const CText16 member =
+      u"section.style=h\nsection.sizes=300;400;20;10\nsteel=Q345\nlengths.x=6000\nlengths.y=3000\n";
+  const CText16 heavy = u"id=heavy\nN=-1500\n", bent = u"id=bent\nN=-300\nMx=400000\n";
+  auto both = Values(Member(u"2017", member + u"\n" + heavy + u"\n" + bent));
+  auto first = Values(Member(u"2017", member + heavy));
+  auto second = Values(Member(u"2017", member + bent));
+  EXPECT_EQ(both["stability-y"], std::stod(first["stability-y"]) > std::stod(second["stability-y"])
+                                     ? first["stability-y"]
+                                     : second["stability-y"]);
+  EXPECT_EQ(both["strength"], second["strength"]);
+  EXPECT_EQ(both["strength.case"], "bent");
+  EXPECT_EQ(both["stability-z"], first["stability-z"]);
+  EXPECT_EQ(both["stability-z.case"], "heavy");
+  EXPECT_EQ(both["case"], both[both["governs"] + ".case"]);
+  EXPECT_EQ(orv3_check_member(nullptr, (member + u"N=1\n\nN=2").c_str(), nullptr, 0), -1);
+  EXPECT_NE(LastError().find("N: stands beside"), std::string::npos) << LastError();
+}
+
+TEST(CMembers, AreRefusedByKey) {
+  const struct {
+    CText16 input;
+    const char* named;
+  } cases[] = {{kColumn + u"net.A=1.2", "net.A: "},
+               {kColumn + u"sway=2", "sway: stands twice"},
+               {kColumn + u"dynamic=2", "dynamic: "},
+               {kColumn + u"length=3", "length: is no key"},
+               {kColumn + u"Mqx=3", "Mqx: "},
+               {kColumn + u"code=1999", "2003, 2017"},
+               {u"steel=Q235\nN=3", "section: is missing"}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(orv3_check_member(nullptr, c.input.c_str(), nullptr, 0), -1) << c.named;
+    EXPECT_NE(LastError().find(c.named), std::string::npos) << c.named << " / " << LastError();
+  }
+}
+
+// The rows that are chosen are those that pass one by one, under both cases.
+TEST(CMembers, TheLightestPass) {
+  ASSERT_EQ(orv3_open_data(Utf16(orv3::FromUtf8(ORV3CAL_CATALOGUE)).c_str()), 0) << LastError();
+  const CText16 table = u"热轧等边角钢";
+  const CText16 forces[] = {u"steel=Q235\nlengths.x=2000\nlengths.y=2000\nN=-60\nid=down",
+                            u"steel=Q235\nlengths.x=2000\nlengths.y=2000\nN=150\nid=up"};
+  const CText16 both = forces[0] + u"\n \n" + forces[1] + u"\n\n";
+  const auto choose = [&](const char16_t* tables, const CText16& input, int top) {
+    return TextFrom([&](orv3_char* text, int size) {
+      return orv3_choose(tables, u"2017", input.c_str(), top, text, size);
+    });
+  };
+  std::map<std::string, double> passing;
+  for (const std::string& number : Lines(TextFrom(orv3_list_numbers, table.c_str()))) {
+    double worst = 0;
+    bool bPass = true;
+    for (const CText16& force : forces) {
+      auto answer = Values(Member(u"2017", force + u"\nsection.table=" + table + u"\nsection.no=" +
+                                               Utf16(orv3::FromUtf8(number))));
+      bPass = bPass && answer["pass"] == "1";
+      worst = std::max(worst, std::stod(answer["ratio"]));
+    }
+    if (bPass) passing[number] = worst;
+  }
+  double lightest = 0;
+  std::size_t rows = 0;
+  for (const std::string& line : Lines(choose(table.c_str(), both, 0))) {
+    if (!line.starts_with("row=")) continue;
+    std::vector<std::string> cells(1);
+    for (const char ch : line.substr(4)) ch == ';' ? cells.emplace_back() : cells.back() += ch;
+    ASSERT_EQ(cells.size(), 6U) << line;
+    ASSERT_TRUE(passing.contains(cells[1])) << line;
+    EXPECT_EQ(std::stod(cells[3]), passing[cells[1]]) << line;
+    EXPECT_TRUE(cells[5] == "down" || cells[5] == "up") << line;
+    EXPECT_GE(std::stod(cells[2]), lightest) << line;
+    lightest = std::stod(cells[2]);
+    ++rows;
+  }
+  EXPECT_GT(rows, 10U);
+  EXPECT_EQ(rows, passing.size());
+  EXPECT_EQ(Values(choose(table.c_str(), both, 1))["passing"], std::to_string(rows));
+  EXPECT_EQ(orv3_choose(u"热轧", nullptr, both.c_str(), 0, nullptr, 0), -1);
+  EXPECT_NE(LastError().find("no rows of \"热轧\""), std::string::npos) << LastError();
+  EXPECT_EQ(orv3_choose(table.c_str(), nullptr, kColumn.c_str(), 0, nullptr, 0), -1);
+  EXPECT_NE(LastError().find("section.style: is what is chosen"), std::string::npos);
 }
 
 // --- Figures of the code -------------------------------------------------------------------------

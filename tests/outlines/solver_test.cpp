@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "outlines/difference_grid.h"
+#include "outlines/exact_picture.h"
 #include "outlines/exact_properties.h"
 #include "outlines/loops.h"
 #include "outlines/section_solver.h"
@@ -222,7 +223,8 @@ TEST(SectionSolver, MeetsFiniteDifferences) {
   }
 }
 
-// Round holes of every size anywhere in plates, the rest beside them down to d / 20. It lies
+// Round holes of every size anywhere in plates, the wall beside one down to d / 100,000, two walls
+// to d / 1,000. It lies
 // between that of the plate and that of the greatest plate beside the hole.
 TEST(SectionSolver, AnswersPlatesWithARoundHole) {
   const auto rectangleIt = [](double a, double b) {
@@ -233,8 +235,9 @@ TEST(SectionSolver, AnswersPlatesWithARoundHole) {
       const double d = size * b;
       for (double along : {0.0, 0.13, 0.45}) {
         for (double up : {0.0, 0.01, 0.3}) {
-          const double near = 0.55 * d, x = near + along * (b - 2 * near),
-                       y = near + up * (h - 2 * near);
+          const double wall = up > 0 ? 0.05 : along > 0 ? 1e-5 : 1e-3;
+          const double near = (0.5 + wall) * d;
+          const double x = near + along * (b - 2 * near), y = near + up * (h - 2 * near);
           SCOPED_TRACE(testing::Message()
                        << b << " x " << h << ", " << d << " at " << x << ", " << y);
           const CExactProperties p =
@@ -381,6 +384,20 @@ TEST(SectionSolver, GivesStressesAtTheBoundary) {
     EXPECT_NEAR(sigma, c.sigma, 1e-9 * c.sigma);
     EXPECT_NEAR(tau, c.tau, 5e-3 * c.tau + 1e-9);
   }
+}
+
+// Of a round bar the shear is half as great again in its middle as on average, by which it exceeds
+// that on its boundary by half.
+TEST(SectionSolver, GivesStressesInsideUnderShear) {
+  const CSectionSolver bar(CLoops{CirclePath({20, 20}, 20)});
+  EXPECT_TRUE(bar.StressesInside({.N = 1e3, .Mx = 1e6, .T = 1e6}).empty());
+  const auto within = bar.StressesInside({.Vy = 12e3});
+  const CGreatestStress inside = GreatestStress(within);
+  const auto boundary = bar.Stresses({.Vy = 12e3});
+  const double mean = 12e3 / (kPi * 400);
+  EXPECT_NEAR(inside.m_pTau->tau, 1.5 * mean, 5e-3 * mean);
+  EXPECT_NEAR(std::hypot(inside.m_pTau->m_point.x - 20, inside.m_pTau->m_point.y - 20), 0, 2);
+  EXPECT_NEAR(std::fabs(GreatestStress(boundary).m_pTau->tau), mean, 5e-3 * mean);
 }
 
 }  // namespace

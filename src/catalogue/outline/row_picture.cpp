@@ -8,6 +8,7 @@
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
 #include "framework/number_text.h"
+#include "outlines/geometric_figures.h"
 #include "outlines/outline_moments.h"
 #include "sections/geometry/row_values.h"
 #include "sections/picture/outline_picture.h"
@@ -37,7 +38,7 @@ std::optional<CPoint> BasePoint(const CDataItem& row) {
 
 }  // namespace
 
-CDrawing RowPictureDrawing(const CDataItem& row, double angle) {
+CDrawing RowPictureDrawing(const CDataItem& row, double angle, const CExactProperties* exact) {
   const int quarters = QuarterTurns(angle);
   const COutline upright = RowOutline(row);
   const CString title = Title(row, quarters);
@@ -57,12 +58,25 @@ CDrawing RowPictureDrawing(const CDataItem& row, double angle) {
   picture.m_dStrongAngle = std::atan2(-2 * m.m_dIxy, m.m_dIx - m.m_dIy) / 2;
   if (const auto base = BasePoint(row))
     picture.m_base = QuarterTurned(*base, quarters, width, height);
+  if (exact != nullptr) {
+    const auto turned = [&](double x, double y) -> std::optional<CPoint> {
+      if (!std::isfinite(x) || !std::isfinite(y)) return std::nullopt;
+      const CPoint p = QuarterTurned(CPoint{x, y}, quarters, width, height);
+      return CPoint{Hundredths(p.x), Hundredths(p.y)};
+    };
+    picture.m_shearCenter = turned(exact->xs, exact->ys);
+    picture.m_plastic = turned(exact->xp, exact->yp);
+    if (HasSlantAxes(*exact) && picture.m_axes.m_szStrong == nullptr) {
+      picture.m_axes.m_szStrong = L"1";
+      picture.m_axes.m_szWeak = L"2";
+    }
+  }
   picture.m_strTitle = title;
   return OutlinePictureDrawing(picture);
 }
 
-std::string RowPictureSvg(const CDataItem& row, double angle) {
-  return DrawingSvg(RowPictureDrawing(row, angle), Title(row, QuarterTurns(angle)));
+std::string RowPictureSvg(const CDataItem& row, double angle, const CExactProperties* exact) {
+  return DrawingSvg(RowPictureDrawing(row, angle, exact), Title(row, QuarterTurns(angle)));
 }
 
 }  // namespace orv3

@@ -13,8 +13,12 @@ constexpr std::size_t kGradedEdges = 2000;
 // Stretches at a corner are as long as the section is thick there, times this; away from it they
 // grow by kGrowth of the distance.
 constexpr double kAtCorner = 1.5;
-constexpr double kAtSharp = 0.5;
+constexpr double kAtSharp = 0.35;
 constexpr double kGrowth = 1.5;
+// The same where an arc comes near another edge, closer than kNarrow of its radius: the wall there
+// thickens with the square of the distance.
+constexpr double kNarrow = 0.2;
+constexpr double kNarrowGrowth = 0.8;
 constexpr double kArcStep = std::numbers::pi / 6;
 constexpr double kSagitta = 0.2;  // of an arc's stretch, by the thickness
 constexpr int kDeepest = 24;
@@ -29,6 +33,12 @@ struct CCornerPoint {
   double size = 0;     // of the stretches here
 };
 
+// Where an arc comes near another edge.
+struct CNarrow {
+  CPoint at;
+  double size = 0;  // of the stretches here
+};
+
 double Distance(CPoint a, CPoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
 
 // How far a point is from an edge, and whether it lies on its left.
@@ -37,29 +47,47 @@ struct CNear {
   bool left = false;
 };
 
-CNear Nearest(CPoint p, CPoint a, CPoint b) {
+// Of an arc.
+struct CCircle {
+  CPoint center;
+  double radius = 0;
+};
+
+CCircle CircleOf(const CEdge& arc) {
+  const CPoint middle = arc.At(0.5), d = arc.Derivative(0.5);
+  const double radius = arc.Length() / arc.Sweep();
+  return {{middle.x - d.y / arc.Length() * radius, middle.y + d.x / arc.Length() * radius},
+          std::fabs(radius)};
+}
+
+// Whether the line from the center through a point meets the arc.
+bool IsBeside(CPoint p, const CEdge& arc, const CCircle& circle) {
+  const CPoint middle = arc.At(0.5);
+  const CPoint u{p.x - circle.center.x, p.y - circle.center.y};
+  const CPoint m{middle.x - circle.center.x, middle.y - circle.center.y};
+  const double angle = std::atan2(m.x * u.y - m.y * u.x, m.x * u.x + m.y * u.y);
+  return 2 * std::fabs(angle) <= std::fabs(arc.Sweep());
+}
+
+CPoint Foot(CPoint p, CPoint a, CPoint b) {
   const double dx = b.x - a.x, dy = b.y - a.y;
   const double square = dx * dx + dy * dy;
   const double t =
       square > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / square, 0.0, 1.0) : 0.0;
-  const CPoint q{a.x + t * dx, a.y + t * dy};
-  return {Distance(p, q), dx * (p.y - a.y) - dy * (p.x - a.x) > 0};
+  return {a.x + t * dx, a.y + t * dy};
+}
+
+CNear Nearest(CPoint p, CPoint a, CPoint b) {
+  return {Distance(p, Foot(p, a, b)), (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x) > 0};
 }
 
 CNear Nearest(CPoint p, const CEdge& edge) {
   const CPoint a = edge.At(0), b = edge.At(1);
   if (std::fabs(edge.Sweep()) < 1e-3) return Nearest(p, a, b);
-  const CPoint middle = edge.At(0.5), d = edge.Derivative(0.5);
-  const double radius = edge.Length() / edge.Sweep();
-  const CPoint center{middle.x - d.y / edge.Length() * radius,
-                      middle.y + d.x / edge.Length() * radius};
-  const CPoint u{p.x - center.x, p.y - center.y}, m{middle.x - center.x, middle.y - center.y};
-  const double away = std::hypot(u.x, u.y);
-  const double angle = std::atan2(m.x * u.y - m.y * u.x, m.x * u.x + m.y * u.y);
-  const bool left = (away < std::fabs(radius)) == (radius > 0);
-  if (2 * std::fabs(angle) <= std::fabs(edge.Sweep())) {
-    return {std::fabs(away - std::fabs(radius)), left};
-  }
+  const CCircle circle = CircleOf(edge);
+  const double away = Distance(p, circle.center);
+  const bool left = (away < circle.radius) == (edge.Sweep() > 0);
+  if (IsBeside(p, edge, circle)) return {std::fabs(away - circle.radius), left};
   return {std::min(Distance(p, a), Distance(p, b)), left};
 }
 
@@ -72,7 +100,10 @@ class CCutter {
 
   CBoundary Cut() {
     const bool graded = m_edges.size() <= kGradedEdges;
-    if (graded) FindThickness();
+    if (graded) {
+      FindThickness();
+      FindNarrows();
+    }
     for (std::size_t e = 0; e < m_edges.size(); ++e) {
       const CEdge& edge = m_edges[e];
       const int pieces = edge.IsArc() ? ArcPieces(e) : 1;
@@ -124,6 +155,36 @@ class CCutter {
     }
   }
 
+  // Where an arc comes nearest to another edge across the material, between the corners of both.
+  void FindNarrows() {
+    for (std::size_t e = 0; e < m_edges.size(); ++e) {
+      if (!m_edges[e].IsArc()) continue;
+      for (std::size_t other = 0; other < m_edges.size(); ++other) {
+        if (other != e) AddNarrow(m_edges[e], m_edges[other]);
+      }
+    }
+  }
+
+  void AddNarrow(const CEdge& arc, const CEdge& other) {
+    // On the line through the center that meets the other edge at a right angle.
+    const CCircle circle = CircleOf(arc);
+    const CPoint to =
+        other.IsArc() ? CircleOf(other).center : Foot(circle.center, other.At(0), other.At(1));
+    const double away = Distance(circle.center, to);
+    if (!(away > 0)) return;
+    for (const double by : {circle.radius / away, -circle.radius / away}) {
+      const CPoint on{circle.center.x + by * (to.x - circle.center.x),
+                      circle.center.y + by * (to.y - circle.center.y)};
+      if (!IsBeside(on, arc, circle)) continue;
+      const CNear near = Nearest(on, other);
+      // At its ends the corners tell.
+      const double end = std::min(Distance(on, arc.At(0)), Distance(on, arc.At(1)));
+      if (end <= 2 * near.distance + 1e-6) continue;
+      if (near.left && near.distance < kNarrow * circle.radius)
+        m_narrows.push_back({on, std::max(near.distance, 1e-7) * kAtCorner});
+    }
+  }
+
   static bool IsSharp(const CCornerPoint& c) { return c.turn < -0.3; }
 
   // Pieces whose bulge is small beside the thickness; thin rings need many.
@@ -157,6 +218,10 @@ class CCutter {
       if (c.size >= size) continue;
       size = std::min(size, c.size + kGrowth * Nearest(c.at, a, b).distance);
     }
+    for (const CNarrow& n : m_narrows) {
+      if (n.size >= size) continue;
+      size = std::min(size, n.size + kNarrowGrowth * Nearest(n.at, a, b).distance);
+    }
     return size;
   }
 
@@ -189,6 +254,7 @@ class CCutter {
   std::vector<CEdge> m_edges;
   std::vector<int> m_loop;
   std::vector<CCornerPoint> m_corners;
+  std::vector<CNarrow> m_narrows;
   CBoundary m_out;
 };
 

@@ -40,11 +40,12 @@ CElement::CElement(const CSectionMesh& mesh, const CMeshTriangle& triangle,
   m_yXi = b.y - a.y;
   m_yEta = c.y - a.y;
   m_det = m_xXi * m_yEta - m_xEta * m_yXi;
-  m_xixi = (m_yEta * m_yEta + m_xEta * m_xEta) / m_det;
-  m_xieta = -(m_yEta * m_yXi + m_xEta * m_xXi) / m_det;
-  m_etaeta = (m_yXi * m_yXi + m_xXi * m_xXi) / m_det;
   for (int i = 0; i < 3; ++i) Bend(mesh, triangle, i, geometry);
-  if (m_curved) Integrate();
+  if (m_curved) {
+    Integrate();
+  } else {
+    IntegrateStraight();
+  }
 }
 
 void CElement::Bend(const CSectionMesh& mesh, const CMeshTriangle& triangle, int edge,
@@ -105,16 +106,8 @@ void CElement::Integrate() {
       gradient.topRows(points).transpose() * ay - gradient.bottomRows(points).transpose() * ax;
 }
 
-CElementMatrix CElement::Stiffness() const {
-  if (m_curved) return m_stiffness;
-  return m_xixi * m_shape.m_xixi + m_xieta * m_shape.m_xieta + m_etaeta * m_shape.m_etaeta;
-}
-
 double CElement::Energy(const CElementVector& u) const {
-  const auto product = [&u](const auto& matrix) { return u.dot(CElementVector(matrix * u)); };
-  if (m_curved) return product(m_stiffness);
-  return m_xixi * product(m_shape.m_xixi) + m_xieta * product(m_shape.m_xieta) +
-         m_etaeta * product(m_shape.m_etaeta);
+  return u.dot(CElementVector(m_stiffness * u));
 }
 
 double CElement::Square(const CElementVector& u) const {
@@ -122,9 +115,13 @@ double CElement::Square(const CElementVector& u) const {
   return m_det * u.dot(CElementVector(m_shape.m_mass * u));
 }
 
-CLoadMatrix CElement::Loads() const {
-  if (m_curved) return m_loads;
-  CLoadMatrix loads(m_shape.m_nCount, kLoads);
+void CElement::IntegrateStraight() {
+  const double xixi = (m_yEta * m_yEta + m_xEta * m_xEta) / m_det;
+  const double xieta = -(m_yEta * m_yXi + m_xEta * m_xXi) / m_det;
+  const double etaeta = (m_yXi * m_yXi + m_xXi * m_xXi) / m_det;
+  m_stiffness = xixi * m_shape.m_xixi + xieta * m_shape.m_xieta + etaeta * m_shape.m_etaeta;
+  CLoadMatrix& loads = m_loads;
+  loads.resize(m_shape.m_nCount, kLoads);
   const Eigen::Vector3d x = m_x.head(3), y = m_y.head(3), one(1, 1, 1);
   const auto mass = m_shape.m_mass.leftCols(3);
   loads.col(kLoadOne) = m_det * (mass * one);
@@ -134,7 +131,6 @@ CLoadMatrix CElement::Loads() const {
   loads.col(kLoadDy) = m_xXi * (m_shape.m_eta * one) - m_xEta * (m_shape.m_xi * one);
   loads.col(kLoadTwist) = m_yEta * (m_shape.m_xi * y) - m_yXi * (m_shape.m_eta * y) -
                           m_xXi * (m_shape.m_eta * x) + m_xEta * (m_shape.m_xi * x);
-  return loads;
 }
 
 }  // namespace orv3

@@ -23,10 +23,11 @@ class CElement {
 
   bool IsSound() const { return m_sound; }
   CPoint Vertex(int i) const { return m_vertex[static_cast<std::size_t>(i)]; }
-  CElementMatrix Stiffness() const;  // integrals of the products of gradients
+  // Integrals of the products of gradients.
+  const Eigen::MatrixXd& Stiffness() const { return m_stiffness; }
   double Energy(const CElementVector& u) const;
   double Square(const CElementVector& u) const;  // integral of u^2
-  CLoadMatrix Loads() const;
+  const CLoadMatrix& Loads() const { return m_loads; }
   // x and y in the shape functions.
   const CElementVector& X() const { return m_x; }
   const CElementVector& Y() const { return m_y; }
@@ -34,18 +35,17 @@ class CElement {
  private:
   void Bend(const CSectionMesh& mesh, const CMeshTriangle& triangle, int edge, int geometry);
   void Integrate();
+  void IntegrateStraight();
 
   const CShapeFunctions& m_shape;
   std::array<CPoint, 3> m_vertex;
   CElementVector m_x, m_y;
   bool m_curved = false, m_sound = true;
-  // Of a straight triangle.
-  double m_det = 0, m_xixi = 0, m_xieta = 0, m_etaeta = 0;
-  double m_xXi = 0, m_xEta = 0, m_yXi = 0, m_yEta = 0;
-  // Of a curved one.
   Eigen::MatrixXd m_stiffness;
-  Eigen::VectorXd m_area;  // by quadrature point
   CLoadMatrix m_loads;
+  // Of a straight triangle.
+  double m_det = 0, m_xXi = 0, m_xEta = 0, m_yXi = 0, m_yEta = 0;
+  Eigen::VectorXd m_area;  // of a curved one, by quadrature point
 };
 
 }  // namespace orv3

@@ -115,107 +115,134 @@ CElimination::CElimination(std::vector<int> sharing, std::size_t elements)
   m_eliminated.reserve(2 * elements);
 }
 
-void CElimination::Add(std::size_t element, const std::vector<int>& unknowns,
-                       const MatrixXd& matrix, const MatrixXd& force) {
-  std::vector<std::pair<int, Eigen::Index>> rows;
-  for (std::size_t i = 0; i < unknowns.size(); ++i) {
-    if (unknowns[i] >= 0) rows.push_back({unknowns[i], static_cast<Eigen::Index>(i)});
+void CElimination::PrepareFront() {
+  CFront& front = m_front;
+  front.m_place.clear();
+  front.m_inner = std::count_if(front.m_all.begin(), front.m_all.end(),
+                                [&](int unknown) { return m_sharing[Index(unknown)] == 1; });
+  Eigen::Index nextInner = 0, nextOuter = front.m_inner;
+  for (int unknown : front.m_all)
+    front.m_place.push_back(m_sharing[Index(unknown)] == 1 ? nextInner++ : nextOuter++);
+  const std::size_t size = front.m_all.size();
+  front.m_lower.assign((size + kForces) * size, 0);
+}
+
+void CElimination::Add(std::size_t element, std::span<const CRow> rows, const MatrixXd& matrix,
+                       const CElementFields& force) {
+  m_rows.clear();
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (rows[i].unknown >= 0) m_rows.push_back(static_cast<Eigen::Index>(i));
   }
-  std::sort(rows.begin(), rows.end());
-  m_forces = force.cols();
-  std::vector<int> all;
-  for (const auto& [unknown, row] : rows) all.push_back(unknown);
-  CFront front = FrontOf(all);
-  for (std::size_t j = 0; j < rows.size(); ++j) {
-    const Eigen::Index column = front.m_place[j];
-    for (std::size_t i = 0; i < rows.size(); ++i)
-      front.m_lower(front.m_place[i], column) = matrix(rows[i].second, rows[j].second);
-    front.m_lower.col(column).tail(m_forces) = force.row(rows[j].second).transpose();
+  const auto row = [&](Eigen::Index i) { return rows[static_cast<std::size_t>(i)]; };
+  std::sort(m_rows.begin(), m_rows.end(),
+            [&](Eigen::Index a, Eigen::Index b) { return row(a).unknown < row(b).unknown; });
+  m_front.m_all.clear();
+  for (Eigen::Index i : m_rows) m_front.m_all.push_back(row(i).unknown);
+  PrepareFront();
+  auto lower = m_front.Lower();
+  for (std::size_t j = 0; j < m_rows.size(); ++j) {
+    const Eigen::Index column = m_front.m_place[j];
+    const double sign = row(m_rows[j]).sign;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+      if (m_front.m_place[i] < column) continue;
+      lower(m_front.m_place[i], column) = sign * row(m_rows[i]).sign * matrix(m_rows[i], m_rows[j]);
+    }
+    lower.col(column).tail<kForces>() = sign * force.row(m_rows[j]).transpose();
   }
-  Eliminate(std::move(front), m_borders[element]);
+  EliminateFront(m_borders[element]);
 }
 
 void CElimination::Join(std::size_t a, std::size_t b) {
   const CBorder one = std::move(m_borders[a]), other = std::move(m_borders[b]);
   m_borders[b] = {};
-  std::vector<int> all, both;
+  m_front.m_all.clear();
   std::set_union(one.unknowns.begin(), one.unknowns.end(), other.unknowns.begin(),
-                 other.unknowns.end(), std::back_inserter(all));
-  std::set_intersection(one.unknowns.begin(), one.unknowns.end(), other.unknowns.begin(),
-                        other.unknowns.end(), std::back_inserter(both));
-  for (int unknown : both) --m_sharing[Index(unknown)];
-  CFront front = FrontOf(all);
-  for (const CBorder* part : {&one, &other}) {
-    std::vector<Eigen::Index> rows;
-    std::size_t at = 0;
-    for (int unknown : part->unknowns) {
-      while (all[at] != unknown) ++at;
-      rows.push_back(front.m_place[at]);
+                 other.unknowns.end(), std::back_inserter(m_front.m_all));
+  auto with = other.unknowns.begin();
+  for (int unknown : one.unknowns) {
+    while (with != other.unknowns.end() && *with < unknown) ++with;
+    if (with != other.unknowns.end() && *with == unknown) --m_sharing[Index(unknown)];
+  }
+  PrepareFront();
+  AddBorder(one);
+  AddBorder(other);
+  EliminateFront(m_borders[a]);
+}
+
+void CElimination::AddBorder(const CBorder& border) {
+  m_rows.clear();
+  std::size_t at = 0;
+  for (int unknown : border.unknowns) {
+    while (m_front.m_all[at] != unknown) ++at;
+    m_rows.push_back(m_front.m_place[at]);
+  }
+  auto lower = m_front.Lower();
+  // Places rise with the unknowns, but for those that are eliminated now and stand first.
+  const auto count = static_cast<Eigen::Index>(m_rows.size());
+  for (Eigen::Index j = 0; j < count; ++j) {
+    const Eigen::Index column = m_rows[static_cast<std::size_t>(j)];
+    for (Eigen::Index i = j; i < count; ++i) {
+      const Eigen::Index row = m_rows[static_cast<std::size_t>(i)];
+      lower(std::max(row, column), std::min(row, column)) += border.m_lower(i, j);
     }
-    // Places rise with the unknowns, but for those that are eliminated now and stand first.
-    const auto count = static_cast<Eigen::Index>(rows.size());
-    for (Eigen::Index j = 0; j < count; ++j) {
-      const Eigen::Index column = rows[static_cast<std::size_t>(j)];
-      for (Eigen::Index i = j; i < count; ++i) {
-        const Eigen::Index row = rows[static_cast<std::size_t>(i)];
-        front.m_lower(std::max(row, column), std::min(row, column)) += part->m_lower(i, j);
+    lower.col(column).tail<kForces>() += border.m_lower.col(j).tail<kForces>();
+  }
+}
+
+// The factor's columns of the inner unknowns; what is left is the border's. Columns are eliminated
+// four at a time, so that the rest is read and written a quarter as often.
+void CElimination::EliminateFront(CBorder& left) {
+  auto a = m_front.Lower();
+  const Eigen::Index inner = m_front.m_inner, rows = a.rows(), columns = a.cols();
+  for (Eigen::Index from = 0; from < inner; from += 4) {
+    const Eigen::Index to = std::min(from + 4, inner);
+    for (Eigen::Index k = from; k < to; ++k) {
+      m_positive = m_positive && a(k, k) > 0;
+      a.col(k).tail(rows - k) /= std::sqrt(a(k, k));
+      for (Eigen::Index j = k + 1; j < to; ++j)
+        a.col(j).tail(rows - j) -= a(j, k) * a.col(k).tail(rows - j);
+    }
+    for (Eigen::Index j = to; j < columns; ++j) {
+      auto rest = a.col(j).tail(rows - j);
+      const auto term = [&](Eigen::Index k) { return a(j, k) * a.col(k).tail(rows - j); };
+      if (to - from == 4) {
+        rest -= term(from) + term(from + 1) + term(from + 2) + term(from + 3);
+      } else {
+        for (Eigen::Index k = from; k < to; ++k) rest -= term(k);
       }
-      front.m_lower.col(column).tail(m_forces) += part->m_lower.col(j).tail(m_forces);
     }
   }
-  Eliminate(std::move(front), m_borders[a]);
-}
-
-CElimination::CFront CElimination::FrontOf(const std::vector<int>& all) const {
-  CFront front;
-  for (int unknown : all) {
-    (m_sharing[Index(unknown)] == 1 ? front.m_inner : front.m_outer).push_back(unknown);
-  }
-  const auto inner = static_cast<Eigen::Index>(front.m_inner.size());
-  Eigen::Index nextInner = 0, nextOuter = inner;
-  for (int unknown : all)
-    front.m_place.push_back(m_sharing[Index(unknown)] == 1 ? nextInner++ : nextOuter++);
-  const auto size = static_cast<Eigen::Index>(all.size());
-  front.m_lower = MatrixXd::Zero(size + m_forces, size);
-  return front;
-}
-
-// The factor's columns of the inner unknowns; what is left is the border's.
-void CElimination::Eliminate(CFront front, CBorder& left) {
-  MatrixXd& a = front.m_lower;
-  const auto inner = static_cast<Eigen::Index>(front.m_inner.size());
-  const Eigen::Index rows = a.rows(), columns = a.cols();
-  for (Eigen::Index k = 0; k < inner; ++k) {
-    m_positive = m_positive && a(k, k) > 0;
-    const double root = std::sqrt(a(k, k));
-    a.col(k).tail(rows - k) /= root;
-    for (Eigen::Index j = k + 1; j < columns; ++j)
-      a.col(j).tail(rows - j) -= a(j, k) * a.col(k).tail(rows - j);
-  }
-  left.unknowns = front.m_outer;
   left.m_lower = a.bottomRightCorner(rows - inner, columns - inner);
+  CEliminated done;
+  done.m_inner.reserve(static_cast<std::size_t>(inner));
+  left.unknowns.clear();
+  left.unknowns.reserve(static_cast<std::size_t>(columns - inner));
+  for (int unknown : m_front.m_all)
+    (m_sharing[Index(unknown)] == 1 ? done.m_inner : left.unknowns).push_back(unknown);
   if (inner == 0) return;
-  m_eliminated.push_back({std::move(front.m_inner), std::move(front.m_outer), a.leftCols(inner)});
+  done.m_outer = left.unknowns;
+  done.m_factor = a.leftCols(inner);
+  m_eliminated.push_back(std::move(done));
 }
 
-MatrixXd CElimination::Solution() const {
+Eigen::Matrix3Xd CElimination::Solution() const {
   if (!m_positive) return {};
-  MatrixXd solution = MatrixXd::Zero(static_cast<Eigen::Index>(m_sharing.size()), m_forces);
-  MatrixXd border;
+  Eigen::Matrix3Xd solution(kForces, m_sharing.size());
+  Eigen::Matrix3Xd border;
   for (auto e = m_eliminated.rbegin(); e != m_eliminated.rend(); ++e) {
-    const Eigen::Index inner = e->m_factor.cols();
-    MatrixXd own = e->m_factor.bottomRows(m_forces).transpose();
     const auto outer = static_cast<Eigen::Index>(e->m_outer.size());
-    border.resize(outer, m_forces);
+    border.resize(kForces, outer);
     for (Eigen::Index i = 0; i < outer; ++i)
-      border.row(i) = solution.row(e->m_outer[static_cast<std::size_t>(i)]);
-    own -= e->m_factor.middleRows(inner, outer).transpose().lazyProduct(border);
+      border.col(i) = solution.col(e->m_outer[static_cast<std::size_t>(i)]);
+    const Eigen::Index inner = e->m_factor.cols();
     for (Eigen::Index k = inner - 1; k >= 0; --k) {
-      own.row(k) /= e->m_factor(k, k);
-      own.topRows(k) -= e->m_factor.row(k).head(k).transpose() * own.row(k);
+      const auto factor = e->m_factor.col(k);
+      Eigen::Vector3d value = factor.tail<kForces>();
+      for (Eigen::Index i = 0; i < outer; ++i) value -= factor[inner + i] * border.col(i);
+      for (Eigen::Index i = k + 1; i < inner; ++i)
+        value -= factor[i] * solution.col(e->m_inner[static_cast<std::size_t>(i)]);
+      solution.col(e->m_inner[static_cast<std::size_t>(k)]) = value / factor[k];
     }
-    for (Eigen::Index k = 0; k < inner; ++k)
-      solution.row(e->m_inner[static_cast<std::size_t>(k)]) = own.row(k);
   }
   return solution;
 }

@@ -6,10 +6,12 @@
 #pragma once
 
 #include <Eigen/Dense>
+#include <span>
 #include <utility>
 #include <vector>
 
 #include "outlines/mesh/section_mesh.h"
+#include "outlines/solver/shape_functions.h"
 
 namespace orv3 {
 
@@ -18,15 +20,21 @@ std::vector<std::pair<int, int>> JoiningOrder(const CSectionMesh& mesh);
 
 class CElimination {
  public:
+  static constexpr Eigen::Index kForces = CElementFields::ColsAtCompileTime;
+
   // sharing: by unknown, how many elements have it.
   CElimination(std::vector<int> sharing, std::size_t elements);
 
-  // unknowns: by row of the matrix; -1 for one that is held at 0.
-  void Add(std::size_t element, const std::vector<int>& unknowns, const Eigen::MatrixXd& matrix,
-           const Eigen::MatrixXd& force);
+  // By row of the matrix: the unknown, -1 for one that is held at 0, and the sign it counts with.
+  struct CRow {
+    int unknown = -1;
+    double sign = 1;
+  };
+  void Add(std::size_t element, std::span<const CRow> rows, const Eigen::MatrixXd& matrix,
+           const CElementFields& force);
   void Join(std::size_t a, std::size_t b);
-  // A row for each unknown; empty when the matrix is not positive.
-  Eigen::MatrixXd Solution() const;
+  // A column for each unknown; empty when the matrix is not positive.
+  Eigen::Matrix3Xd Solution() const;
 
  private:
   // The equations of the unknowns that a union shares with others, in rising order: the lower
@@ -35,23 +43,32 @@ class CElimination {
     std::vector<int> unknowns;
     Eigen::MatrixXd m_lower;
   };
-  // The same of all unknowns of a union, those that it does not share first.
+  // The same of all unknowns of a union, those that it does not share first; one at a time.
   struct CFront {
-    std::vector<int> m_inner, m_outer;
-    std::vector<Eigen::Index> m_place;  // of all in rising order
-    Eigen::MatrixXd m_lower;
+    std::vector<int> m_all;             // in rising order
+    std::vector<Eigen::Index> m_place;  // of each of them
+    Eigen::Index m_inner = 0;
+    std::vector<double> m_lower;
+
+    Eigen::Map<Eigen::MatrixXd> Lower() {
+      const auto size = static_cast<Eigen::Index>(m_all.size());
+      return {m_lower.data(), size + kForces, size};
+    }
   };
   struct CEliminated {
     std::vector<int> m_inner, m_outer;
     Eigen::MatrixXd m_factor;
   };
-  CFront FrontOf(const std::vector<int>& all) const;
-  void Eliminate(CFront front, CBorder& left);
+  // Of m_front.m_all, with all numbers 0.
+  void PrepareFront();
+  void AddBorder(const CBorder& border);
+  void EliminateFront(CBorder& left);
 
   std::vector<int> m_sharing;
   std::vector<CBorder> m_borders;
   std::vector<CEliminated> m_eliminated;
-  Eigen::Index m_forces = 0;
+  CFront m_front;
+  std::vector<Eigen::Index> m_rows;
   bool m_positive = true;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <utility>
 
 #include "outlines/solver/elimination.h"
@@ -9,16 +10,11 @@
 namespace orv3 {
 namespace {
 
-using Eigen::MatrixXd;
-
 std::size_t Index(int i) { return static_cast<std::size_t>(i); }
 
 // The unknowns of an element's shape functions up to a degree, with their signs. Vertex 0 of the
 // mesh is held: a constant is added to a solution freely.
-struct CNumbers {
-  std::vector<int> m_arrOf;
-  std::vector<double> m_arrSign;
-};
+using CNumbers = std::array<CElimination::CRow, kMaxFunctions>;
 
 // Numbered by vertices, then edges, then triangles.
 CNumbers NumbersOf(const CSectionMesh& mesh, std::size_t element, const std::array<int, 3>& edges,
@@ -26,20 +22,17 @@ CNumbers NumbersOf(const CSectionMesh& mesh, std::size_t element, const std::arr
   const int vertices = static_cast<int>(mesh.m_arrVertex.size());
   const CMeshTriangle& t = mesh.m_arrTriangle[element];
   CNumbers numbers;
-  for (int v : t.m_vertex) numbers.m_arrOf.push_back(v - 1);
-  numbers.m_arrSign.assign(3, 1);
+  std::size_t at = 0;
+  for (int v : t.m_vertex) numbers[at++].unknown = v - 1;
   const int inner = CShapeFunctions::Count(degree) - 3 * degree;
   int next = vertices - 1 + edgeCount * (degree - 1) + static_cast<int>(element) * inner;
   for (int d = 2; d <= degree; ++d) {
     for (int e = 0; e < 3; ++e) {
       const bool backwards = t.m_vertex[Index(e)] > t.m_vertex[Index((e + 1) % 3)];
-      numbers.m_arrOf.push_back(vertices - 1 + edges[Index(e)] * (degree - 1) + d - 2);
-      numbers.m_arrSign.push_back(backwards && d % 2 == 1 ? -1 : 1);
+      numbers[at++] = {vertices - 1 + edges[Index(e)] * (degree - 1) + d - 2,
+                       backwards && d % 2 == 1 ? -1.0 : 1.0};
     }
-    for (int i = 0; i <= d - 3; ++i) {
-      numbers.m_arrOf.push_back(next++);
-      numbers.m_arrSign.push_back(1);
-    }
+    for (int i = 0; i <= d - 3; ++i) numbers[at++].unknown = next++;
   }
   return numbers;
 }
@@ -71,14 +64,15 @@ void CSaintVenant::MakeElements(int geometry) {
     m_elements.emplace_back(m_mesh, t, *m_shape, geometry);
     m_sound = m_sound && m_elements.back().IsSound();
     if (!m_sound) return;
-    const auto loads = m_elements.back().Loads();
+    const CLoadMatrix& loads = m_elements.back().Loads();
     m_area += loads.col(kLoadOne).head(3).sum();
     x += loads.col(kLoadX).head(3).sum();
     y += loads.col(kLoadY).head(3).sum();
   }
   m_centroid = {x / m_area, y / m_area};
+  m_forces.reserve(m_elements.size());
   for (const CElement& element : m_elements) {
-    const auto loads = element.Loads();
+    const CLoadMatrix& loads = element.Loads();
     CElementVector dx = element.X(), dy = element.Y();
     dx.head(3).array() -= m_centroid.x;
     dy.head(3).array() -= m_centroid.y;
@@ -113,36 +107,35 @@ void CSaintVenant::NumberEdges() {
 }
 
 std::optional<CFields> CSaintVenant::Solve(int degree) const {
-  const int functions = CShapeFunctions::Count(degree);
+  const auto functions = static_cast<std::size_t>(CShapeFunctions::Count(degree));
   std::vector<CNumbers> numbers;
+  numbers.reserve(m_elements.size());
   std::vector<int> sharing;
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     numbers.push_back(NumbersOf(m_mesh, i, m_edges[i], m_edgeCount, degree));
-    for (int of : numbers.back().m_arrOf) {
+    for (std::size_t k = 0; k < functions; ++k) {
+      const int of = numbers[i][k].unknown;
       if (of < 0) continue;
       if (Index(of) >= sharing.size()) sharing.resize(Index(of) + 1, 0);
       ++sharing[Index(of)];
     }
   }
   CElimination elimination(std::move(sharing), m_elements.size());
-  MatrixXd matrix, force;
+  // The functions of a degree come first.
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
-    // The functions of a degree come first.
-    const Eigen::Map<const Eigen::VectorXd> sign(numbers[i].m_arrSign.data(), functions);
-    matrix = m_elements[i].Stiffness().topLeftCorner(functions, functions);
-    matrix = sign.asDiagonal() * matrix * sign.asDiagonal();
-    force = sign.asDiagonal() * m_forces[i].topRows(functions);
-    elimination.Add(i, numbers[i].m_arrOf, matrix, force);
+    elimination.Add(i, std::span(numbers[i]).first(functions), m_elements[i].Stiffness(),
+                    m_forces[i]);
   }
   for (const auto& [a, b] : m_order) elimination.Join(Index(a), Index(b));
-  const MatrixXd solution = elimination.Solution();
+  const Eigen::Matrix3Xd solution = elimination.Solution();
   if (solution.size() == 0 || !solution.allFinite()) return std::nullopt;
   CFields fields(m_elements.size());
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     fields[i].setZero(m_shape->m_nCount, 3);
-    for (int k = 0; k < functions; ++k) {
-      const int of = numbers[i].m_arrOf[Index(k)];
-      if (of >= 0) fields[i].row(k) = numbers[i].m_arrSign[Index(k)] * solution.row(of);
+    for (std::size_t k = 0; k < functions; ++k) {
+      const auto& [of, sign] = numbers[i][k];
+      if (of >= 0)
+        fields[i].row(static_cast<Eigen::Index>(k)) = sign * solution.col(of).transpose();
     }
   }
   return fields;
@@ -154,7 +147,7 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
   Eigen::Matrix2d flexure = Eigen::Matrix2d::Zero();
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     const CElement& element = m_elements[i];
-    const auto loads = element.Loads();
+    const CLoadMatrix& loads = element.Loads();
     const auto& u = fields[i];
     const auto& forces = m_forces[i];
     wx += u.col(0).dot(forces.col(1));
@@ -215,6 +208,35 @@ CEdgeTraction CSaintVenant::Traction(std::size_t element, int edge, double t) co
   return {p, gradient[0] + ((m_centroid.y - p.y) * d.x + (p.x - m_centroid.x) * d.y) / length,
           (m_Ix * gradient[1] - m_Ixy * gradient[2]) / det,
           (m_Iy * gradient[2] - m_Ixy * gradient[1]) / det};
+}
+
+std::vector<CInnerTraction> CSaintVenant::Inside(std::size_t element) const {
+  constexpr int kSteps = 12;
+  const CElement& e = m_elements[element];
+  const CElementFields& u = m_fields[element];
+  const double det = m_Ix * m_Iy - m_Ixy * m_Ixy;
+  CElementVector value(m_shape->m_nCount), dxi(value), deta(value);
+  std::vector<CInnerTraction> tractions;
+  for (int i = 0; i <= kSteps; ++i) {
+    for (int j = 0; i + j <= kSteps; ++j) {
+      m_shape->Evaluate(1.0 * i / kSteps, 1.0 * j / kSteps, value.data(), dxi.data(), deta.data());
+      const double xXi = dxi.dot(e.X()), xEta = deta.dot(e.X());
+      const double yXi = dxi.dot(e.Y()), yEta = deta.dot(e.Y());
+      const double area = xXi * yEta - xEta * yXi;
+      const Eigen::RowVector3d byXi = dxi.transpose().lazyProduct(u);
+      const Eigen::RowVector3d byEta = deta.transpose().lazyProduct(u);
+      const Eigen::RowVector3d gx = (yEta * byXi - yXi * byEta) / area;
+      const Eigen::RowVector3d gy = (xXi * byEta - xEta * byXi) / area;
+      const CPoint p{value.dot(e.X()), value.dot(e.Y())};
+      const auto forX = [&](const auto& g) { return (m_Ix * g[1] - m_Ixy * g[2]) / det; };
+      const auto forY = [&](const auto& g) { return (m_Iy * g[2] - m_Ixy * g[1]) / det; };
+      tractions.push_back({p,
+                           {gx[0] + m_centroid.y - p.y, gy[0] + p.x - m_centroid.x},
+                           {forX(gx), forX(gy)},
+                           {forY(gx), forY(gy)}});
+    }
+  }
+  return tractions;
 }
 
 std::vector<double> CSaintVenant::Shares() const {

@@ -28,6 +28,12 @@ struct CEdgeTraction {
   double m_dTwist = 0, m_dX = 0, m_dY = 0;
 };
 
+// The same at a point of the material, as vectors.
+struct CInnerTraction {
+  CPoint m_point;
+  CPoint m_twist, m_x, m_y;
+};
+
 // By element the shares of the shape functions: of the warping about the centroid, of the flexure
 // functions of x and of y.
 using CFields = std::vector<CElementFields>;
@@ -48,6 +54,8 @@ class CSaintVenant {
   const CSectionMesh& Mesh() const { return m_mesh; }
   // On an edge of an element that is part of the boundary, t from 0 to 1 along it.
   CEdgeTraction Traction(std::size_t element, int edge, double t) const;
+  // At a lattice of points of an element, its edges included.
+  std::vector<CInnerTraction> Inside(std::size_t element) const;
   // By element: its share of the difference of the two solutions, in the energy of either problem.
   std::vector<double> Shares() const;
 

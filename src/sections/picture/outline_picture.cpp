@@ -66,6 +66,12 @@ class CPictureDrawing {
       DrawAxisLetters(CLayer::CentroidAxis, c, o, m_picture.m_axes.m_szX, m_picture.m_axes.m_szY,
                       m_layout.ShowsBase());
     }
+    if (m_picture.m_plastic) {
+      DrawPlasticAxes(Page(*m_picture.m_plastic),
+                      {m_origin.x, m_origin.y, m_origin.x + m_outline.m_dWidth * m_layout.Scale(),
+                       m_origin.y + m_outline.m_dHeight * m_layout.Scale()});
+    }
+    if (m_layout.ShowsShearCenter()) DrawShearMark(Page(*m_picture.m_shearCenter));
     const CAxisLetters& base = m_picture.m_baseAxes;
     if (m_layout.ShowsBase())
       DrawAxisLetters(CLayer::BaseAxis, o, m_layout.ShowsCentroid() ? c : o, base.m_szX, base.m_szY,
@@ -175,6 +181,24 @@ class CPictureDrawing {
     m_drawing.AddArea(CLayer::BaseAxis, {CirclePath(at, 1.8)});
   }
 
+  // A ring with a cross through it.
+  void DrawShearMark(CPoint at) {
+    m_drawing.AddCircle(CLayer::Dimension, at, 4.5);
+    m_drawing.AddLine(CLayer::Dimension, {at.x - 7, at.y}, {at.x + 7, at.y});
+    m_drawing.AddLine(CLayer::Dimension, {at.x, at.y - 7}, {at.x, at.y + 7});
+  }
+
+  // Lines over the section that end in bars.
+  void DrawPlasticAxes(CPoint at, const CBox& over) {
+    constexpr double kBar = 4;
+    m_drawing.AddLine(CLayer::Dimension, {over.left, at.y}, {over.right, at.y});
+    m_drawing.AddLine(CLayer::Dimension, {at.x, over.bottom}, {at.x, over.top});
+    for (const double x : {over.left, over.right})
+      m_drawing.AddLine(CLayer::Dimension, {x, at.y - kBar}, {x, at.y + kBar});
+    for (const double y : {over.bottom, over.top})
+      m_drawing.AddLine(CLayer::Dimension, {at.x - kBar, y}, {at.x + kBar, y});
+  }
+
   void DrawSide(const CSide& side, CDimensionSide where) {
     const bool vertical = where == CDimensionSide::Left;
     const double text = vertical ? m_origin.y : m_origin.x;
@@ -279,11 +303,16 @@ class CPictureDrawing {
     m_drawing.AddLabel(
         {CLayer::Text, {text, y}, m_layout.CentroidText(), kTextSize, CAnchor::Left, false});
     DrawCentroidMark({kMargin + 6, y});
-    if (!m_picture.m_base) return;
-    y -= kLineHeight;
-    m_drawing.AddLabel(
-        {CLayer::Text, {text, y}, m_layout.BaseText(), kTextSize, CAnchor::Left, false});
-    DrawBaseMark({kMargin + 6, y});
+    const auto next = [&](const CString& line) {
+      y -= kLineHeight;
+      m_drawing.AddLabel({CLayer::Text, {text, y}, line, kTextSize, CAnchor::Left, false});
+      return CPoint{kMargin + 6, y};
+    };
+    if (m_picture.m_base) DrawBaseMark(next(m_layout.BaseText()));
+    if (m_picture.m_shearCenter) DrawShearMark(next(m_layout.ShearCenterText()));
+    if (!m_picture.m_plastic) return;
+    const CPoint at = next(m_layout.PlasticText());
+    DrawPlasticAxes(at, {at.x - 7, at.y - 7, at.x + 7, at.y + 7});
   }
 
   const COutlinePicture& m_picture;

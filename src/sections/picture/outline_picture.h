@@ -31,9 +31,12 @@ struct COutlinePicture {
   CAxisLetters m_axes{L"X0", L"Y0"};
   CAxisLetters m_baseAxes{};
   double m_dStrongAngle = 0;  // of the strong axis, radians
+  std::optional<CPoint> m_shearCenter{};
+  std::optional<CPoint> m_plastic{};  // where the plastic axes cross
 };
 
-// A base point farther from the section than half its greater side is given in writing only.
+// A base point or shear center farther from the section than half its greater side is given in
+// writing only.
 ORV3CAL_API CDrawing OutlinePictureDrawing(const COutlinePicture& picture);
 
 // Lines of text in place of a picture, the first as its title.

@@ -53,6 +53,8 @@ void CPictureLayout::FindFrame() {
   m_bCentroid = IsNear(section, m_picture.m_centroid);
   if (m_bBase) Include(box, *m_picture.m_base);
   if (m_bCentroid) Include(box, m_picture.m_centroid);
+  m_bShearCenter = m_picture.m_shearCenter && IsNear(section, *m_picture.m_shearCenter);
+  if (m_bShearCenter) Include(box, *m_picture.m_shearCenter);
   for (const CSizeDimension& size : m_sizes) {
     if (size.m_nSide == CDimensionSide::Leader) continue;
     Include(box, size.m_from);
@@ -116,6 +118,8 @@ void CPictureLayout::FindPage() {
   double text = std::max(TextWidth(m_picture.m_strTitle, kTitleSize),
                          TextWidth(CentroidText(), kTextSize) + 20);
   if (m_picture.m_base) text = std::max(text, TextWidth(BaseText(), kTextSize) + 20);
+  if (m_picture.m_shearCenter) text = std::max(text, TextWidth(ShearCenterText(), kTextSize) + 20);
+  if (m_picture.m_plastic) text = std::max(text, TextWidth(PlasticText(), kTextSize) + 20);
   m_dPageWidth = std::ceil(std::max(right - left, text + 2 * kMargin));
   m_dPageHeight = std::ceil(top - bottom);
   m_origin = {-left + (m_dPageWidth - (right - left)) / 2, -bottom};
@@ -127,6 +131,14 @@ CString CPictureLayout::CentroidText() const {
 
 CString CPictureLayout::BaseText() const {
   return PointText(L"基点", L"x", L"y", *m_picture.m_base, m_bBase);
+}
+
+CString CPictureLayout::ShearCenterText() const {
+  return PointText(L"剪心", L"xs", L"ys", *m_picture.m_shearCenter, m_bShearCenter);
+}
+
+CString CPictureLayout::PlasticText() const {
+  return PointText(L"塑性中和轴", L"xp", L"yp", *m_picture.m_plastic, true);
 }
 
 CPoint CPictureLayout::LeaderEnd(const CSizeDimension& size) const {

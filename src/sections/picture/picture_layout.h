@@ -58,6 +58,7 @@ class CPictureLayout {
   // Whether the point is near enough to be drawn.
   bool ShowsBase() const noexcept { return m_bBase; }
   bool ShowsCentroid() const noexcept { return m_bCentroid; }
+  bool ShowsShearCenter() const noexcept { return m_bShearCenter; }
   const CSide& Side(CDimensionSide side) const noexcept {
     return side == CDimensionSide::Top ? m_top : side == CDimensionSide::Left ? m_left : m_bottom;
   }
@@ -68,9 +69,14 @@ class CPictureLayout {
   // Where a leader's text begins; clear of the axes.
   CPoint LeaderEnd(const CSizeDimension& size) const;
 
-  int Footers() const { return m_picture.m_base ? 2 : 1; }
+  int Footers() const {
+    return 1 + (m_picture.m_base ? 1 : 0) + (m_picture.m_shearCenter ? 1 : 0) +
+           (m_picture.m_plastic ? 1 : 0);
+  }
   CString CentroidText() const;
   CString BaseText() const;
+  CString ShearCenterText() const;
+  CString PlasticText() const;
 
   double PageWidth() const noexcept { return m_dPageWidth; }
   double PageHeight() const noexcept { return m_dPageHeight; }
@@ -90,6 +96,7 @@ class CPictureLayout {
   double m_dScale = 1;
   bool m_bBase = false;
   bool m_bCentroid = false;
+  bool m_bShearCenter = false;
   CSide m_top;
   CSide m_bottom;
   CSide m_left;
