@@ -31,6 +31,12 @@ void AppendCsv(std::string& line, std::string_view text) {
   line += '"';
 }
 
+CText TooManyReports() {
+  const std::string most = std::to_string(kMostReports);
+  return {"--report 至多写 " + most + " 个算例；请把文件分开",
+          "--report takes at most " + most + " cases; give a file with fewer"};
+}
+
 std::string PercentText(double utilisation) {
   if (!std::isfinite(utilisation)) return "∞";
   return PercentNumber(utilisation) + " %";

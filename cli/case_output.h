@@ -43,6 +43,9 @@ void AppendCsv(std::string& line, BOOL value) {
 // A text, quoted where it must be.
 void AppendCsv(std::string& line, std::string_view text);
 
+inline constexpr std::size_t kMostReports = 500;  // cases of one report
+CText TooManyReports();
+
 std::string PercentText(double utilisation);
 std::string WarningLine(std::span<const CCaseWarning> warnings, CLanguage language);
 const char* VerdictText(bool bPass, CLanguage language);

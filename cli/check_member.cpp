@@ -33,6 +33,7 @@ class CMembers {
     }
     if (m_nCases == 0) RefuseFile({"没有算例；请至少给一个", "holds no case; give one at least"});
     if (!m_bOne) m_answers.Finish();
+    WriteReport();
     if (m_bOne && m_nRefused > 0) RefuseFile(m_firstFault.Text());
     if (m_nRefused > 0) {
       const std::string refused = std::to_string(m_nRefused), cases = std::to_string(m_nCases);
@@ -60,6 +61,7 @@ class CMembers {
     }
     for (CMemberRun* run : m_arrRun) run->Run(m_member, fault);
     Count();
+    AddToReport();
     Answer();
   }
 
@@ -85,6 +87,22 @@ class CMembers {
     return **std::max_element(m_arrRun.begin(), m_arrRun.end(), [](auto* left, auto* right) {
       return left->Worst() < right->Worst();
     });
+  }
+
+  void AddToReport() {
+    if (m_options.report.empty()) return;
+    if (m_nReported++ == kMostReports) RefuseFile(TooManyReports());
+    if (m_member.m_sheet.m_strProject.empty()) m_member.m_sheet.m_strProject = m_options.project;
+    for (const CMemberRun* run : m_arrRun)
+      m_arrReport.push_back(run->Report(m_nCases, m_options.reportLanguage));
+  }
+
+  void WriteReport() const {
+    if (m_options.report.empty()) return;
+    static constexpr CTextLiteral kTitle = {"构件验算", "Members"};
+    const CReportTitle title = {std::string(kTitle.In(m_options.reportLanguage)) + " — Orv3Cal",
+                                ORV3CAL_VERSION};
+    WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.reportLanguage));
   }
 
   void Answer() {
@@ -134,6 +152,8 @@ class CMembers {
   std::vector<CMemberRun*> m_arrRun;  // of the member at hand
   CAnswers m_answers;
   CReadMember m_member;
+  std::vector<CReportCase> m_arrReport;
+  std::size_t m_nReported = 0;
   bool m_bOne = false;  // the file is one member, which is answered in full
   int m_nCases = 0, m_nFailed = 0, m_nRefused = 0;
   CCaseFault m_firstFault;

@@ -15,7 +15,10 @@ struct CMemberOptions {
   bool json = false;
   bool csv = false;
   bool sort = false;
+  std::string report;
+  std::string project;
   CLanguage language = CLanguage::English;
+  CLanguage reportLanguage = CLanguage::Chinese;
   CStoreOptions store;
 };
 

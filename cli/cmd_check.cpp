@@ -29,7 +29,6 @@
 namespace orv3::cli {
 namespace {
 
-constexpr std::size_t kMostReports = 500;
 constexpr std::size_t kCsvLine = 500;  // most lines are shorter
 
 struct COptions {
@@ -209,9 +208,7 @@ class CChecker {
   void AddToReport(const CReadCase& read) {
     if (m_options.report.empty()) return;
     if (m_nReported++ == kMostReports) {
-      const std::string most = std::to_string(kMostReports);
-      Refuse({"--report 至多写 " + most + " 个算例；请把文件分开",
-              "--report takes at most " + most + " cases; give a file with fewer"});
+      Refuse(TooManyReports());
     }
     CReportSheet sheet = SheetOf(m_schema, read.m_arrValue);
     if (sheet.m_strProject.empty()) sheet.m_strProject = m_options.project;
@@ -258,11 +255,9 @@ class CChecker {
 };
 
 CExit RunMembers(const COptions& options) {
-  if (!options.report.empty() || !options.project.empty())
-    Refuse(Say("--report：构件尚无计算书；请用 --json 或 --csv",
-               "--report: members have no report yet; right would be --json or --csv"));
   return CheckMembers({options.file, options.code, options.json, options.csv, options.sort,
-                       options.Language(), options.store});
+                       options.report, options.project, options.Language(),
+                       options.ReportLanguage(), options.store});
 }
 
 CExit RunCheck(const COptions& options) {

@@ -98,7 +98,7 @@ std::string UnknownCommand(const CLI::App* command, const std::vector<std::strin
       const std::size_t equals = word->find('=');
       const CLI::Option* option = command->get_option_no_throw(word->substr(0, equals));
       if (!option) return Say("没有这样的选项：{1}", "no such option: {1}", {orv3::Excerpt(*word)});
-      const bool value = option->get_type_size() > 0 && equals == word->npos;
+      const bool value = option->get_items_expected_max() > 0 && equals == word->npos;
       if (value && std::next(word) != arguments.rend()) ++word;
       continue;
     }

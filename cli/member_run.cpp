@@ -7,6 +7,7 @@
 #include "codes/edition.h"
 #include "framework/excerpt.h"
 #include "members/cases/member_results.h"
+#include "members/report/member_report.h"
 
 namespace orv3::cli {
 namespace {
@@ -226,6 +227,26 @@ std::string CMemberRun::Text() const {
                               part.m_dRatio,
                               part.m_bPass},
                              warnings, m_nLanguage);
+}
+
+CReportCase CMemberRun::Report(int number, CLanguage language) const {
+  CReportCase each = {.m_nCase = number,
+                      .m_nEdition = m_check.Edition(),
+                      .m_strId = m_pMember->m_strId,
+                      .m_sheet = m_pMember->m_sheet};
+  if (m_fault) {
+    each.m_strRefused = m_fault->Line(language);
+    return each;
+  }
+  const CMemberCheckPart& worst = Answer().Worst();
+  each.m_bPass = Pass();
+  each.m_dUtilisation = worst.m_dRatio;
+  each.m_strGoverns = Governs(MemberCheckTitle(worst.m_nKind).In(language));
+  each.m_nWarnings = m_envelope.Notes().size();
+  each.m_strBody = CaseReport(
+      {m_pMember->m_strId, m_pMember->m_arrCase, m_pMember->m_bEnvelope, m_check, m_envelope},
+      language);
+  return each;
 }
 
 std::vector<std::string> CMemberRun::Row(int number) const {

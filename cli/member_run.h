@@ -29,6 +29,7 @@ class CMemberRun {
   CJson Json() const;
   std::string Text() const;
   std::vector<std::string> Row(int number) const;
+  CReportCase Report(int number, CLanguage language) const;
 
  private:
   const CMemberAnswer& Answer() const { return m_envelope.Worst(); }

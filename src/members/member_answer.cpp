@@ -149,9 +149,9 @@ struct CFormulaText {
   std::string m_strSymbols, m_strNumbers;
 };
 
-CFormulaText FormulaText(std::string_view formula, std::span<const CMemberStep> given,
-                         std::span<const CMemberStep> before) {
+CFormulaText FormulaText(const CMemberAnswer& answer, std::size_t index) {
   CFormulaText text;
+  std::string_view formula = answer.Step(index).m_szFormula;
   while (!formula.empty()) {
     const std::size_t open = formula.find('{');
     text.m_strSymbols += formula.substr(0, open);
@@ -160,8 +160,7 @@ CFormulaText FormulaText(std::string_view formula, std::span<const CMemberStep> 
     const std::size_t close = formula.find('}', open);
     const std::string_view symbol = formula.substr(open + 1, close - open - 1);
     formula.remove_prefix(close + 1);
-    const double* value = ValueOf(before, symbol);
-    if (value == nullptr) value = ValueOf(given, symbol);
+    const double* value = answer.ValueBefore(index, symbol);
     text.m_strSymbols += symbol;
     text.m_strNumbers += value != nullptr ? PlainNumber(*value) : std::string(symbol);
   }
@@ -180,6 +179,7 @@ void CMemberAnswer::Clear() {
   m_arrStep.clear();
   m_arrPart.clear();
   m_arrNote.clear();
+  m_arrPlate.clear();
   m_fault.reset();
 }
 
@@ -223,17 +223,22 @@ double CMemberAnswer::Ratio(CMemberCheckKind kind) const noexcept {
   return part != nullptr ? part->m_dRatio : CMemberResults::kNone;
 }
 
-std::string CMemberAnswer::StepText(std::size_t index) const {
-  const CMemberStep& step = m_arrStep[index];
+const double* CMemberAnswer::ValueBefore(std::size_t index,
+                                         std::string_view symbol) const noexcept {
   std::size_t first = 0;
   for (const CMemberCheckPart& part : m_arrPart) {
     if (part.m_nFirst <= index) first = part.m_nFirst;
   }
+  const auto before = std::span(m_arrStep).subspan(first, index - first);
+  const double* value = ValueOf(before, symbol);
+  return value != nullptr ? value : ValueOf(Given(), symbol);
+}
+
+std::string CMemberAnswer::StepText(std::size_t index) const {
+  const CMemberStep& step = m_arrStep[index];
   std::string text = step.m_szSymbol;
   if (step.m_szFormula != nullptr) {
-    const std::span all(m_arrStep);
-    const CFormulaText formula =
-        FormulaText(step.m_szFormula, Given(), all.subspan(first, index - first));
+    const CFormulaText formula = FormulaText(*this, index);
     text += " = " + formula.m_strSymbols;
     if (formula.m_strNumbers != formula.m_strSymbols) text += " = " + formula.m_strNumbers;
   }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "codes/section_class.h"
@@ -49,6 +50,14 @@ struct CMemberCheckPart {
   std::size_t m_nFirst, m_nEnd;  // its steps, the last the ratio
   double m_dRatio;
   bool m_bPass;
+};
+
+// A plate with its class; none beyond the last limit.
+struct CMemberPlate {
+  CClassElement m_nElement;
+  double m_dRatio;
+  double m_dAlpha0;
+  std::optional<CSectionClass> m_class;
 };
 
 // What stands in the answer when it applies; NaN otherwise. N, mm and N/mm2.
@@ -110,6 +119,7 @@ class ORV3CAL_API CMemberAnswer {
   // but for the last digits of a double.
   void Close(const char* formula, double ratio);
   void Note(CMemberNote note);
+  void Plate(const CMemberPlate& plate) { m_arrPlate.push_back(plate); }
   // What is not covered, by the key that asks for it.
   void Refuse(const char* key, CText what, CText right) {
     if (!m_fault) m_fault = CCaseFault{key, std::move(what), std::move(right)};
@@ -127,6 +137,7 @@ class ORV3CAL_API CMemberAnswer {
     return std::span(m_arrStep).subspan(part.m_nFirst, part.m_nEnd - part.m_nFirst);
   }
   std::span<const CMemberNote> Notes() const noexcept { return m_arrNote; }
+  std::span<const CMemberPlate> Plates() const noexcept { return m_arrPlate; }
   // Every part passes, and there is one at least.
   bool Pass() const noexcept;
   // The part of the greatest ratio; a NaN counts as the greatest. Only of an answer with parts.
@@ -136,6 +147,10 @@ class ORV3CAL_API CMemberAnswer {
 
   // "λx = l0x/ix = 6000/129 = 46.5": a step by its place among all, the given ones first.
   std::string StepText(std::size_t index) const;
+  const CMemberStep& Step(std::size_t index) const noexcept { return m_arrStep[index]; }
+  // The value of a symbol where the step stands: the nearest above it in its check, else the given
+  // one; null for none.
+  const double* ValueBefore(std::size_t index, std::string_view symbol) const noexcept;
 
   CMemberResults m_results;
 
@@ -143,6 +158,7 @@ class ORV3CAL_API CMemberAnswer {
   std::vector<CMemberStep> m_arrStep;
   std::vector<CMemberCheckPart> m_arrPart;
   std::vector<CMemberNote> m_arrNote;
+  std::vector<CMemberPlate> m_arrPlate;
   std::optional<CCaseFault> m_fault;
 };
 

@@ -64,6 +64,7 @@ void CSolidCheck::Classify(CClassElement element, double ratio, double alpha0) {
   const auto found =
       ClassLimits(m.m_nEdition, element, m.m_nGrade, std::min(alpha0, 2.0))->ClassOf(ratio);
   if (!found) m_bBeyond = true;
+  a.Plate({element, ratio, std::min(alpha0, 2.0), found});
   m_class = std::max(m_class.value_or(CSectionClass::S1), found.value_or(CSectionClass::S5));
 }
 

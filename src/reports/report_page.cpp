@@ -201,6 +201,19 @@ void CReportBody::Inputs(std::span<const CInputLine> lines) {
   m_strHtml += "</table>\n";
 }
 
+void CReportBody::Table(std::span<const std::string> head,
+                        std::span<const std::vector<std::string>> rows) {
+  m_strHtml += "<table class=\"list\"><thead><tr>";
+  for (const std::string& name : head) m_strHtml += "<th>" + Escaped(name) + "</th>";
+  m_strHtml += "</tr></thead>\n";
+  for (const auto& row : rows) {
+    m_strHtml += "<tr>";
+    for (const std::string& cell : row) m_strHtml += "<td>" + cell + "</td>";
+    m_strHtml += "</tr>\n";
+  }
+  m_strHtml += "</table>\n";
+}
+
 void CReportBody::Figure(const CDrawing& drawing, const std::string& caption) {
   std::string svg = DrawingSvg(drawing);
   svg.erase(0, std::min(svg.find("<svg"), svg.size()));

@@ -62,6 +62,8 @@ class CReportBody {
     std::string m_strUnit;
   };
   void Inputs(std::span<const CInputLine> lines);
+  // Heads as text, cells as HTML.
+  void Table(std::span<const std::string> head, std::span<const std::vector<std::string>> rows);
   void Figure(const CDrawing& drawing, const std::string& caption);
   void Steps(std::span<const CReportStep> steps);
   void Verdicts(std::span<const CReportVerdict> verdicts);

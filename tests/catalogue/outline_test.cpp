@@ -12,6 +12,7 @@
 #include "outlines/outline_moments.h"
 #include "sections/catalogue_store.h"
 #include "sections/geometry_rows.h"
+#include "sections/outline_integral.h"
 
 namespace {
 

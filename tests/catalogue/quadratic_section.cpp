@@ -8,8 +8,8 @@
 #include <numbers>
 #include <utility>
 
-#include "outlines/crossing.h"
 #include "outlines/edge.h"
+#include "outlines/loops.h"
 #include "outlines/mesh/triangulation.h"
 
 namespace orv3::test {

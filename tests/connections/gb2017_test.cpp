@@ -51,18 +51,11 @@ CBoltCase2017 Ordinary() {
   return input;
 }
 
-CBoltCase2017 Uneven(CBoltCase2017 input) {
-  input.m_rowSpace = {0, {65, 120}};
-  return input;
-}
-
 TEST(Gb2017, BoltGroupsByHand) {
   using C = CBoltCase2017;
   const double area = kPi / 4 * 17.65 * 17.65 / 1000;
   const double sumY2 = 4 * 80.0 * 80;
-  const double uneven = (65 + 185) / 3.0;
-  const double unevenY2 =
-      2 * (uneven * uneven + std::pow(uneven - 65, 2) + std::pow(185 - uneven, 2));
+  const double unevenY2 = 2 * (85.0 * 85 + 15.0 * 15 + 100.0 * 100);
   const double sumR2 = sumY2 + 6 * 35.0 * 35;
   const struct {
     const char* what;
@@ -80,11 +73,12 @@ TEST(Gb2017, BoltGroupsByHand) {
        100 / 6.0 / (0.9 * 0.6 * 2 * 0.40 * 155), "passForces"},
       {"N and M < 0 about the centroid", With(Friction(), {{"N", 120}, {"M", -9600}}),
        400 / 6.0 / 111.6 + (20 + 9600 * 80 / sumY2) / 124, "passForces"},
-      {"rows at 0, 65 and 185 mm: M > 0 pulls the last, 101.7 mm from the centroid",
-       With(Uneven(Friction()), {{"M", 7000}}),
-       400 / 6.0 / 111.6 + 7000 * (185 - uneven) / unevenY2 / 124, "passForces"},
-      {"and M < 0 the first, 83.3 mm from it", With(Uneven(Bearing()), {{"Vx", 0}, {"M", -7000}}),
-       7000 * uneven / unevenY2 / (area * 500), "passForces"},
+      {"rows at 0, 70 and 185 mm: M > 0 pulls the last, 100 mm from the centroid",
+       With(Friction(), {{"rowSpace", 0, {70, 115}}, {"M", 7000}}),
+       400 / 6.0 / 111.6 + 7000 * 100 / unevenY2 / 124, "passForces"},
+      {"and M < 0 the first, 85 mm from it",
+       With(Bearing(), {{"rowSpace", 0, {70, 115}}, {"Vx", 0}, {"M", -7000}}),
+       7000 * 85 / unevenY2 / (area * 500), "passForces"},
       {"a compression N takes nothing off the shear", With(Friction(), {{"N", -500}}),
        400 / 6.0 / 111.6, "passForces"},
       {"11.4.3: threads in the shear plane unless said", Bearing(), 400 / 6.0 / (area * 310),

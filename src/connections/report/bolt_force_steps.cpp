@@ -12,9 +12,9 @@ using CSteps = std::vector<CReportStep>;
 void Tension(const CBoltFacts& b, CSteps& steps) {
   static constexpr CTextLiteral kMost = {"受力最大螺栓的拉力", "Tension on the most stressed bolt"};
   static constexpr CTextLiteral kMoment[] = {
-      {"弯矩在最远螺栓的拉力（绕第一行）", "Moment, farthest bolt, about the first row"},
-      {"弯矩在最远螺栓的拉力（绕形心）", "Moment, farthest bolt, about the centroid"},
-      {"弯矩在最远螺栓的拉力（绕末行）", "Moment, farthest bolt, about the last row"}};
+      {"弯矩在受力最大螺栓的拉力（绕第一行）", "Moment, bolt pulled hardest, about the first row"},
+      {"弯矩在受力最大螺栓的拉力（绕形心）", "Moment, bolt pulled hardest, about the centroid"},
+      {"弯矩在受力最大螺栓的拉力（绕末行）", "Moment, bolt pulled hardest, about the last row"}};
   const std::string sum = SubstitutedNumber(b.m_judged.m_dSumArm2);
   const std::string arm = Put(b.m_judged.m_dArm);
   const double M = std::fabs(b.m_input.m_dM);

@@ -1,4 +1,5 @@
 // The geometry of a bolt group in its report, and the strengths it is judged by.
+#include <algorithm>
 #include <cmath>
 
 #include "connections/report/bolt_steps.h"
@@ -56,6 +57,17 @@ std::vector<CReportStep> BoltGeometry(const CBoltFacts& b) {
                    bTable ? "" : "d + " + clearance,
                    bTable ? "" : std::to_string(b.m_input.m_nD) + " + " + clearance,
                    PlainNumber(b.m_r.m_dD0), "mm"});
+  if (bSlot) {
+    const CBoltTrace2017& trace = b.m_view.m_p2017->Trace();
+    const double length = std::max(trace.HoleRoom(true), trace.HoleRoom(false));
+    steps.push_back({{"槽孔长向尺寸", "Length of the slot"},
+                     "T 11.5.1",
+                     "l_0",
+                     "",
+                     "",
+                     PlainNumber(length),
+                     "mm"});
+  }
   if (!b.m_bFriction) {
     steps.push_back({{"螺纹处有效直径（粗牙，查表）", "Effective diameter (coarse thread, table)"},
                      "",
@@ -85,7 +97,7 @@ std::vector<CReportStep> BoltGeometry(const CBoltFacts& b) {
                             : b.m_input.m_dM < 0 ? 2
                                                  : 0],
                      "", "Σl^2", "Σl_i^2", "", PlainNumber(b.m_judged.m_dSumArm2), "mm²"});
-    steps.push_back({{"受力最大螺栓的力臂", "Lever arm of the farthest bolt"},
+    steps.push_back({{"受力最大螺栓的力臂", "Lever arm of the bolt pulled hardest"},
                      "",
                      "l_{max}",
                      "",

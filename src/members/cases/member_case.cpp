@@ -148,14 +148,14 @@ CMemberRow* CMemberCheck::Section(const CMemberCase& input) {
   auto& found = m_mapSection[name];
   if (!found) {
     found = std::make_unique<CFound>();
-    const CDataItem row =
-        bTable ? TableRow(input, found->m_fault) : StyleRow(input, found->m_fault);
-    if (!found->m_fault) found->m_fault = ReadMemberRow(row, found->m_row);
+    found->m_item = bTable ? TableRow(input, found->m_fault) : StyleRow(input, found->m_fault);
+    if (!found->m_fault) found->m_fault = ReadMemberRow(found->m_item, found->m_row);
   }
   if (found->m_fault) {
     Refuse(*found->m_fault);
     return nullptr;
   }
+  m_pFound = found.get();
   return &found->m_row;
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "members/cases/member_row.h"
+#include "members/cases/section_sources.h"
 #include "members/solid_member.h"
 #include "reports/case_keys.h"
 
@@ -57,6 +58,11 @@ class ORV3CAL_API CMemberCheck {
   const CCaseFault& Fault() const noexcept { return *m_fault; }
   CCodeEdition Edition() const noexcept { return m_nEdition; }
   const CMemberAnswer& Answer() const noexcept { return m_answer; }
+  // The section of the last case that named its own: its row, and what the checks take of it.
+  const CDataItem& SectionRow() const noexcept { return m_pFound->m_item; }
+  std::vector<CUsedProperty> UsedProperties() const {
+    return SectionSources(SectionRow(), m_pFound->m_row);
+  }
   bool Pass() const noexcept { return m_answer.Pass(); }
 
  private:
@@ -83,9 +89,11 @@ class ORV3CAL_API CMemberCheck {
   CSpanLoad m_nLoad = CSpanLoad::None;
   // By what names them; a fault in place of a section that cannot be.
   struct CFound {
+    CDataItem m_item;
     CMemberRow m_row;
     std::optional<CCaseFault> m_fault;
   };
+  const CFound* m_pFound = nullptr;
   std::map<std::string, std::unique_ptr<CFound>> m_mapSection;
 };
 

@@ -220,8 +220,9 @@ class CPosixFileSystem final : public CFileSystem {
   bool SyncFolder(const CString& path) override {
     const int handle = ::open(FolderOf(Native(path)).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (handle < 0) return false;
-    // Some file systems keep no folders to write back and say so by EINVAL.
-    const bool done = ::fsync(handle) == 0 || errno == EINVAL;
+    // The entries alone, not the folder's times. Some file systems keep no folders to write back
+    // and say so by EINVAL.
+    const bool done = ::fdatasync(handle) == 0 || errno == EINVAL;
     ::close(handle);
     return done;
   }

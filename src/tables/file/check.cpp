@@ -16,6 +16,23 @@
 namespace orv3 {
 namespace {
 
+// Of characters that every code page has and that end or part nothing.
+bool IsPlain(std::wstring_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](wchar_t ch) { return ch >= L' ' && ch < L'\x7f' && ch != L','; });
+}
+
+// What a row can take at the most in any code page.
+std::int64_t MostBytes(const CDataItem& row) {
+  constexpr std::int64_t kSeparator = std::ssize(kFieldSeparator) - 1, kNumber = 11, kCharacter = 4;
+  std::int64_t most = 2 * kNumber + kSeparator;
+  for (const CDataCell& cell : row.m_arrCell) {
+    const std::wstring_view text = cell.m_strValue.View();
+    most += kSeparator + std::ssize(text) * (IsPlain(text) ? 1 : kCharacter);
+  }
+  return most;
+}
+
 class CCheck {
  public:
   explicit CCheck(const CDataTable& table) : m_table(table) {}
@@ -41,7 +58,8 @@ class CCheck {
           Say(L"有 {1} 个值，文件只能放 {2} 个", L"{1} values, but the file has room for {2}",
               {FormatInt(row.GetItemLength()), FormatInt(m_table.GetTableColNum())}));
     }
-    Size(position, RowForm(row, StateOnFile(row.m_nModifyType)), m_table.GetTableItemLen());
+    if (MostBytes(row) > m_table.GetTableItemLen())
+      Size(position, RowForm(row, StateOnFile(row.m_nModifyType)), m_table.GetTableItemLen());
   }
 
   std::vector<CSaveFault> m_arrFault;
@@ -62,6 +80,7 @@ class CCheck {
   }
 
   void Text(int row, int column, CTextLiteral name, std::wstring_view text, int limit, bool last) {
+    if (std::ssize(text) <= limit && IsPlain(text)) return;
     const CString part = FromUtf8(name.In(MessageLanguage()));
     if (std::ssize(text) > limit) {
       Add(row, column,
