@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "catalogue/exact/row_exact.h"
 #include "catalogue/outline/row_outline.h"
@@ -13,6 +14,7 @@
 #include "exact_view.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
+#include "ifc_output.h"
 #include "nearest.h"
 #include "output.h"
 #include "sections/load_data_table.h"
@@ -31,6 +33,7 @@ struct COptions {
   bool json = false;
   std::string svg;
   std::string dxf;
+  std::string ifc;
   CStoreOptions store;
 };
 
@@ -75,12 +78,23 @@ void WriteDxf(const COptions& options, const CDataItem& row) {
   WriteFile(options.dxf, PathsDxf(outline.m_arrLoop));
 }
 
+// A model turns the profile where it is used.
+void WriteIfc(const COptions& options, const CDataItem& row) {
+  if (options.turn != 0) {
+    Refuse(Say("--ifc：型材由模型转动；请不写 --turn",
+               "--ifc: a profile is turned by the model that uses it; right would be without "
+               "--turn"));
+  }
+  WriteFile(options.ifc, IfcText(std::vector<CDataItem>{row}, "Orv3Cal"));
+}
+
 void RunShow(const COptions& options, bool spaced) {
   CDataItem row = RowOf(options);
   if (spaced) row = WithGap(row, options);
   const CExactProperties exact = ExactProperties(row);
   if (!options.svg.empty()) WriteFile(options.svg, RowPictureSvg(row, options.turn, &exact));
   if (!options.dxf.empty()) WriteDxf(options, row);
+  if (!options.ifc.empty()) WriteIfc(options, row);
   const CRowFigures figures = RowFigures(row, options.turn);
   if (options.json) {
     CJson json = RowJson(row, figures);
@@ -128,6 +142,11 @@ void AddShowCommand(CLI::App& program) {
       ->add_option("--dxf", options->dxf,
                    Say("为绘图程序写入轮廓：带圆弧的多段线，单位 mm",
                        "Write the outline for a drawing program: polylines with arcs, in mm"))
+      ->type_name("FILE");
+  command
+      ->add_option(
+          "--ifc", options->ifc,
+          Say("为建筑信息模型写入 IFC4 型材库", "Write the profile for building models, IFC4"))
       ->type_name("FILE");
   command->callback([options, gap] { RunShow(*options, gap->count() > 0); });
 }

@@ -1,4 +1,4 @@
-// orv3cal store export: tables of a store as a table file, CSV, JSON or a workbook.
+// orv3cal store export: tables of a store as a table file, CSV, JSON, a workbook or IFC.
 
 #include "store_export.h"
 
@@ -15,6 +15,7 @@
 #include "exact_columns.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
+#include "ifc_output.h"
 #include "output.h"
 #include "platform/file_system.h"
 #include "platform/store_error.h"
@@ -184,12 +185,18 @@ void AddExactFigures(std::vector<CDataTable>& tables, const std::string& to) {
                "--exact: a .KDB file keeps the table's own columns; right would be .xlsx, .csv or "
                ".json"));
   }
+  if (HasExtension(to, ".ifc")) {
+    Refuse(
+        Say("--exact：.ifc 文件本来就含这些量；请不写此选项",
+            "--exact: an .ifc file has these figures anyway; right would be without the option"));
+  }
   for (CDataTable& table : tables) AddExactColumns(table);
 }
 
 std::string Content(const COptions& options, std::vector<CDataTable>& tables, int kind) {
   if (HasExtension(options.to, ".csv")) return CsvText(tables, options.guard);
   if (HasExtension(options.to, ".json")) return JsonText(tables);
+  if (HasExtension(options.to, ".ifc")) return IfcText(tables, "Orv3Cal");
   if (HasExtension(options.to, ".xlsx")) return WorkbookBytes(options.to, tables);
   // An interrupted save of a store that was here before has no say in the new one.
   if (!IsThere(options.to)) RemoveJournal(FromUtf8(options.to));
@@ -197,11 +204,11 @@ std::string Content(const COptions& options, std::vector<CDataTable>& tables, in
 }
 
 void RunExport(const COptions& options) {
-  static constexpr const char* kForms[] = {".kdb", ".csv", ".json", ".xlsx"};
+  static constexpr const char* kForms[] = {".kdb", ".csv", ".json", ".xlsx", ".ifc"};
   if (std::none_of(std::begin(kForms), std::end(kForms),
                    [&](const char* form) { return HasExtension(options.to, form); })) {
-    Refuse(Say("--to: “{1}”；文件名应以 .KDB、.csv、.json 或 .xlsx 结尾",
-               "--to: \"{1}\"; right would be a file named .KDB, .csv, .json or .xlsx",
+    Refuse(Say("--to: “{1}”；文件名应以 .KDB、.csv、.json、.xlsx 或 .ifc 结尾",
+               "--to: \"{1}\"; right would be a file named .KDB, .csv, .json, .xlsx or .ifc",
                {options.to}));
   }
   if (options.guard && !HasExtension(options.to, ".csv")) {
@@ -246,9 +253,9 @@ CTemporaryFile::CTemporaryFile() : CFreshFile(TemporaryFolder()) {
 
 void AddStoreExportCommand(CLI::App& store) {
   auto options = std::make_shared<COptions>();
-  CLI::App* command =
-      store.add_subcommand("export", Say("把表写入 .KDB、.csv、.json 或 .xlsx 文件",
-                                         "Write tables to a .KDB, .csv, .json or .xlsx file"));
+  CLI::App* command = store.add_subcommand(
+      "export", Say("把表写入 .KDB、.csv、.json、.xlsx 或 .ifc 文件",
+                    "Write tables to a .KDB, .csv, .json, .xlsx or .ifc file"));
   command->add_option(
       "TABLE", options->tables,
       Say("表名；不给时为库中全部", "The tables; all of the store if none is named"));

@@ -6,6 +6,7 @@
 #include "catalogue/code_tables/table_search.h"
 #include "catalogue/exact/exact_figures.h"
 #include "catalogue/exact/row_exact.h"
+#include "catalogue/ifc/ifc_library.h"
 #include "catalogue/import/csv_table.h"
 #include "catalogue/import/section_rows.h"
 #include "catalogue/import/table_import.h"

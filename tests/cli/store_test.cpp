@@ -332,7 +332,11 @@ TEST_F(StoreCommand, ExportsComeBackAsTheyWere) {
   } else {
     ExpectHas(book.m_strError, {"built without libxlsxwriter"});
   }
+  ASSERT_EQ(Run("export " + kH + " --to " + Quoted(L"h.ifc")).m_nExit, 0);
+  ExpectHas(FileBytes(File(L"h.ifc")), {"FILE_SCHEMA(('IFC4'))", "=IFCISHAPEPROFILEDEF("});
   ExpectRefused({{On("export --to " + Quoted(L"all.csv")), {}},
+                 {On("export --to " + Quoted(L"all.ifc")), {"我的"}},
+                 {On("export --exact " + kH + " --to " + Quoted(L"h.ifc")), {"--exact"}},
                  {On("export 无 --to " + Quoted(L"all.json")), {}},
                  {On("export --to " + Quoted(L"all.txt")), {}},
                  {On("export --to " + Quoted(L"none/all.json")), {}, 3}});

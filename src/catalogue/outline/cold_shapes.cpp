@@ -9,9 +9,6 @@
 namespace orv3 {
 namespace {
 
-constexpr double kInnerBend = 2;  // radius of a bend's inner face, in thicknesses
-constexpr double kOuterBend = 3;
-
 // A strip along its mid-line. The lengths left straight between bends must not be negative.
 COutline Strip(CRowSizes& sizes, const std::vector<CPoint>& middle, double t, CPoint extent) {
   return sizes.IsWhole() ? COutline{{StripShape(middle, t, kInnerBend * t)}, extent.x, extent.y}

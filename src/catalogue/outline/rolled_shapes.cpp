@@ -7,12 +7,6 @@
 namespace orv3 {
 namespace {
 
-// Fall of the inner flange faces: GB/T 706-1988 draws 1:6, YB 163-63 12 %; the channels of
-// GB/T 707-1988 and YB 164-63 have 10 %.
-constexpr double kOrdinarySlope = 1.0 / 6;
-constexpr double kLightSlope = 0.12;
-constexpr double kChannelSlope = 0.1;
-
 // What a flange of thickness t midway on its outstand, and the web beyond it, leave for the radii.
 void NeedFlange(CRowSizes& sizes, double outstand, double t, double web, const CFlangeForm& form) {
   const double fall = form.m_dSlope * outstand / 2;
@@ -30,10 +24,9 @@ COutline TaperedI(CRowSizes& sizes, double slope) {
   return {{IShape(b, h, tw, t, form)}, b, h};
 }
 
-// The toes of a leg are rounded by a third of its thickness (GB/T 9787-1988, GB/T 9788-1988).
 COutline RolledAngle(CRowSizes& sizes, double width, double height) {
   const double t = sizes.Size(L"t(mm)");
-  const CFlangeForm form{sizes.Radius(L"r(mm)"), t / 3, 0};
+  const CFlangeForm form{sizes.Radius(L"r(mm)"), kLegToe * t, 0};
   sizes.Needs({std::min(width, height) - t - form.m_dRoot - form.m_dToe});
   return {{AngleShape(width, height, t, form)}, width, height};
 }

@@ -10,6 +10,17 @@
 
 namespace orv3 {
 
+// Fall of the inner flange faces: GB/T 706-1988 draws 1:6, YB 163-63 12 %; the channels of
+// GB/T 707-1988 and YB 164-63 have 10 %.
+inline constexpr double kOrdinarySlope = 1.0 / 6;
+inline constexpr double kLightSlope = 0.12;
+inline constexpr double kChannelSlope = 0.1;
+// The toes of a leg are rounded by a third of its thickness (GB/T 9787-1988, GB/T 9788-1988).
+inline constexpr double kLegToe = 1.0 / 3;
+// Radii of the faces of a cold-formed bend, in thicknesses (GB 50018-2002, Appendix B).
+inline constexpr double kInnerBend = 2;
+inline constexpr double kOuterBend = 3;
+
 // Each reads its sizes and answers the outline with the origin at the enclosing rectangle's
 // lower-left corner. What is drawn counts only when the sizes were whole.
 
