@@ -45,7 +45,7 @@ test::CSectionTriangles GmshTriangles(std::span<const CPath> loops, double size)
   gmsh::model::geo::addPlaneSurface(wires);
   gmsh::model::geo::synchronize();
   gmsh::model::mesh::generate(2);
-  std::vector<std::size_t> tags, corners;
+  std::vector<std::size_t> tags, elements, corners;
   std::vector<double> places, parameters;
   gmsh::model::mesh::getNodes(tags, places, parameters);
   test::CSectionTriangles mesh;
@@ -55,7 +55,7 @@ test::CSectionTriangles GmshTriangles(std::span<const CPath> loops, double size)
     mesh.m_arrPoint.push_back({places[3 * i], places[3 * i + 1]});
   }
   constexpr int kTriangle = 2;
-  gmsh::model::mesh::getElementsByType(kTriangle, tags, corners);
+  gmsh::model::mesh::getElementsByType(kTriangle, elements, corners);
   for (std::size_t i = 0; i < corners.size(); i += 3) {
     const int a = of[corners[i]], b = of[corners[i + 1]], c = of[corners[i + 2]];
     const auto p = [&](int k) { return mesh.m_arrPoint[static_cast<std::size_t>(k)]; };

@@ -25,9 +25,9 @@ void ReadAll(const char* path, const CCaseSchema& schema) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   static CMemoryFiles files;
-  static const CCaseSchema bolt(kBoltSchema);
-  static const CCaseSchema lattice(kLatticeSchema);
-  static const CCaseSchema welds(kWeldGroupSchema);
+  static const CCaseSchema bolt(SchemaOf("bolt"));
+  static const CCaseSchema lattice(SchemaOf("lattice"));
+  static const CCaseSchema welds(SchemaOf("weld-group"));
   for (const auto& [path, wide] : {std::pair{"a.json", L"a.json"}, {"a.csv", L"a.csv"}}) {
     files[wide] = std::string(reinterpret_cast<const char*>(data), size);
     ReadAll(path, bolt);

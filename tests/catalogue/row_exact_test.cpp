@@ -206,7 +206,7 @@ void MeetCoarseRows(std::size_t step) {
   EXPECT_GT(met * step, 500U);
 }
 
-TEST(RowExact, MeetsAnotherMethod) { MeetCoarseRows(23); }
+TEST(RowExact, MeetsAnotherMethod) { MeetCoarseRows(41); }
 
 // A minute's work; as docs/section-solver.md tells.
 TEST(RowExact, DISABLED_MeetsAnotherMethodInEveryRow) { MeetCoarseRows(1); }

@@ -139,7 +139,8 @@ TEST(LatticeCommand, ComputesTheExample) {
                                     {"area", 1926.1},
                                     {"x", 300.0},
                                     {"y", 400.0}}));
-  ExpectHas(OnCatalogue(lattice).m_strOut, {"X轴惯性矩      Ix   1239884400  mm⁴\n"});
+  ExpectHas(OnCatalogue(lattice).m_strOut,
+            {"X轴惯性矩      Ix   1239884400  mm⁴  moment of inertia about X\n"});
 }
 
 TEST(LatticeCommand, DrawsItsLimbs) {
