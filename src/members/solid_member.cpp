@@ -49,9 +49,9 @@ void CSolidCheck::Give() {
   r.m_dA = s.m_dA;
   a.Step("f", nullptr, m.m_dF, "N/mm²");
   a.Step("fv", nullptr, m.m_dFv, "N/mm²");
-  a.Step("fy", nullptr, NominalYield(m.m_nGrade), "N/mm²");
+  a.Step("fyk", nullptr, NominalYield(m.m_nGrade), "N/mm²");
   if (m.m_dFu > 0) a.Step("fu", nullptr, m.m_dFu, "N/mm²");
-  a.Step("εk", "√(235/{fy})", r.m_dEpsilonK);
+  a.Step("εk", "√(235/{fyk})", r.m_dEpsilonK);
   a.Step("A", nullptr, s.m_dA, "mm²");
   a.Step("Ix", nullptr, s.m_dIx, "mm⁴");
   a.Step("Iy", nullptr, s.m_dIy, "mm⁴");

@@ -196,8 +196,7 @@ std::string SectionName(const CMemberCase& input) {
   std::string name;
   const auto add = [&name](const std::string& text) { name += text + '\n'; };
   const auto addNumber = [&name](double value) {
-    if (!std::isnan(value)) name += ToUtf8(FormatShortest(value));
-    name += '\n';
+    name.append(reinterpret_cast<const char*>(&value), sizeof value);
   };
   add(input.m_strTable);
   add(input.m_strNo);
