@@ -128,6 +128,17 @@ constexpr CNoteText kNotes[] = {
     {CMemberNote::UnusedLoadFlange,
      "loadFlange",
      {"未用到：没有 Mx 的荷载", "is not used: Mx has no load"}},
+    {CMemberNote::LimbLength,
+     "section.lacing.l1",
+     {"未给：按无横缀条的单缀条节间长度取值",
+      "is not given: the panel of single lacing without cross bars"}},
+    {CMemberNote::BondJoints,
+     "section.lacing",
+     {"缀材与分肢的连接未在此验算", "the joints of the bond with the limbs are not checked here"}},
+    {CMemberNote::LatticeShear,
+     "load",
+     {"有横向荷载而未给其剪力：缀材按 7.2.7 的剪力验算",
+      "a load without its shear force: the bond is checked for that of 7.2.7 (2003: 5.1.6) alone"}},
     {CMemberNote::UnusedSupports, "supports", {"未用到：没有 Mx", "is not used: there is no Mx"}},
 };
 

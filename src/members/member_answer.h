@@ -101,6 +101,9 @@ enum class CMemberNote : std::uint8_t {
   UnusedSway,
   UnusedLoadFlange,
   UnusedSupports,
+  LimbLength,
+  BondJoints,
+  LatticeShear,
 };
 ORV3CAL_API CTextLiteral MemberNoteText(CMemberNote note) noexcept;
 ORV3CAL_API const char* MemberNoteKey(CMemberNote note) noexcept;

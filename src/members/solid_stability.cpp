@@ -130,8 +130,8 @@ void CSolidCheck::BeamColumnX() {
   const double across = LateralTerm(m_dEta, m_outY.m_dMoment + m_dNc * m_dShiftY, 1, m_dWy, F());
   a.Step("φx", nullptr, r.m_dPhiX);
   if (m_effective) a.Step("e", nullptr, m_dShiftX + m_dShiftY, "mm");
-  a.Step("Ae", nullptr, m_dAe, "mm²");
-  a.Step("axial", "{N}/({φx}·{Ae}·{f})", axial);
+  if (m_effective) a.Step("Ae", nullptr, m_dAe, "mm²");
+  a.Step("axial", m_effective ? "{N}/({φx}·{Ae}·{f})" : "{N}/({φx}·{A}·{f})", axial);
   double ratio = axial + inPlane + across;
   if (!q.m_x.IsZero()) {
     a.Step("N′Ex", "π²·206000·{A}/(1.1·{λx}²)", NE, "N");
@@ -164,7 +164,9 @@ void CSolidCheck::BeamColumnX() {
     const double tension = std::fabs(m_dNc / (m_dAe * F()) - second);
     a.Step("W2x", nullptr, W2, "mm³");
     a.Step("γx2", nullptr, m_dGammaOther);
-    a.Step("tension side", "|{N}/({Ae}·{f}) − {βmx}·{Mx}/({γx2}·{W2x}·(1 − 1.25·{N}/{N′Ex})·{f})|",
+    a.Step("tension side",
+           m_effective ? "|{N}/({Ae}·{f}) − {βmx}·{Mx}/({γx2}·{W2x}·(1 − 1.25·{N}/{N′Ex})·{f})|"
+                       : "|{N}/({A}·{f}) − {βmx}·{Mx}/({γx2}·{W2x}·(1 − 1.25·{N}/{N′Ex})·{f})|",
            tension);
     if (tension > ratio) {
       ratio = tension;
@@ -190,8 +192,8 @@ void CSolidCheck::BeamColumnY() {
       AmplifiedTerm(m_inY.m_dMoment + m_dNc * m_dShiftY, r.m_dGammaY * m_dWy, 0.8, m_dNc, NE, F());
   a.Step("φy", nullptr, r.m_dPhiY);
   if (m_effective) a.Step("e", nullptr, m_dShiftX + m_dShiftY, "mm");
-  a.Step("Ae", nullptr, m_dAe, "mm²");
-  a.Step("axial", "{N}/({φy}·{Ae}·{f})", axial);
+  if (m_effective) a.Step("Ae", nullptr, m_dAe, "mm²");
+  a.Step("axial", m_effective ? "{N}/({φy}·{Ae}·{f})" : "{N}/({φy}·{A}·{f})", axial);
   if (!q.m_x.IsZero()) {
     a.Step("η", nullptr, m_dEta);
     GiveBetaT("βtx", q.m_x, m_outX.m_dBeta);
