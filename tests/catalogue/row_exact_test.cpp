@@ -215,7 +215,7 @@ void MeetCoarseFigures(const std::vector<CPath>& loops, const CExactProperties& 
   double length = 0;
   for (const CPath& loop : loops)
     ForEachEdge(loop, [&](const CEdge& edge, std::size_t) { length += edge.Length(); });
-  const auto mesh = test::RasterTriangles(loops, std::min(0.55 * exact.A / length, exact.i2 / 3));
+  const auto mesh = test::RasterTriangles(loops, std::min(0.65 * exact.A / length, exact.i2 / 3));
   const test::CCoarseFigures coarse = test::QuadraticFigures(mesh);
   const double depth = std::max(box.Width(), box.Height());
   EXPECT_NEAR(exact.It, coarse.It, 0.01 * exact.It);

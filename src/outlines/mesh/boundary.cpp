@@ -14,7 +14,7 @@ constexpr std::size_t kGradedEdges = 2000;
 // grow by kGrowth of the distance.
 constexpr double kAtCorner = 1.5;
 constexpr double kAtSharp = 0.35;
-constexpr double kGrowth = 2;
+constexpr double kGrowth = 1.5;
 // The same where an arc comes near another edge, closer than kNarrow of its radius: the wall there
 // thickens with the square of the distance.
 constexpr double kNarrow = 0.2;
@@ -204,19 +204,12 @@ class CCutter {
     const CEdge& edge = m_edges[e];
     const CPoint a = edge.At(from), b = edge.At(to);
     if (depth < kDeepest && edge.Length() * (to - from) > 1.001 * SizeAlong(a, b)) {
-      const double cut = from + (to - from) * CutBetween(a, b);
-      CutStretch(e, from, cut, depth + 1);
-      CutStretch(e, cut, to, depth + 1);
+      const double middle = (from + to) / 2;
+      CutStretch(e, from, middle, depth + 1);
+      CutStretch(e, middle, to, depth + 1);
       return;
     }
     m_out.m_arrStretch.push_back({m_loop[e], static_cast<int>(e), from, to});
-  }
-
-  // The share of a stretch that is cut off: a third at the end that is to be much finer.
-  double CutBetween(CPoint a, CPoint b) const {
-    const double first = SizeAlong(a, a), last = SizeAlong(b, b);
-    if (first < 0.5 * last) return 1.0 / 3;
-    return last < 0.5 * first ? 2.0 / 3 : 0.5;
   }
 
   double SizeAlong(CPoint a, CPoint b) const {

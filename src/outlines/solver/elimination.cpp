@@ -139,22 +139,15 @@ void CElimination::Add(std::size_t element, std::span<const CRow> rows, const Ma
   m_front.m_all.clear();
   for (Eigen::Index i : m_rows) m_front.m_all.push_back(row(i).unknown);
   PrepareFront();
-  // The matrix's rows by their places in the front.
-  const auto size = static_cast<Eigen::Index>(m_rows.size());
-  std::array<Eigen::Index, kMaxFunctions> from{};
-  std::array<double, kMaxFunctions> signs{};
-  for (std::size_t i = 0; i < m_rows.size(); ++i) {
-    from[static_cast<std::size_t>(m_front.m_place[i])] = m_rows[i];
-    signs[static_cast<std::size_t>(m_front.m_place[i])] = row(m_rows[i]).sign;
-  }
   auto lower = m_front.Lower();
-  for (Eigen::Index j = 0; j < size; ++j) {
-    const auto column = static_cast<std::size_t>(j);
-    for (Eigen::Index i = j; i < size; ++i) {
-      const auto at = static_cast<std::size_t>(i);
-      lower(i, j) = signs[column] * signs[at] * matrix(from[at], from[column]);
+  for (std::size_t j = 0; j < m_rows.size(); ++j) {
+    const Eigen::Index column = m_front.m_place[j];
+    const double sign = row(m_rows[j]).sign;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+      if (m_front.m_place[i] < column) continue;
+      lower(m_front.m_place[i], column) = sign * row(m_rows[i]).sign * matrix(m_rows[i], m_rows[j]);
     }
-    lower.col(j).tail<kForces>() = signs[column] * force.row(from[column]).transpose();
+    lower.col(column).tail<kForces>() = sign * force.row(m_rows[j]).transpose();
   }
   EliminateFront(m_borders[element]);
 }
