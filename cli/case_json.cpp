@@ -106,7 +106,8 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     } else if (InObjects()) {
       StartMember();
     } else if (m_nDepth == Field() && m_bObjectNext) {
-      m_bInObject = true;
+      ++m_nObjects;
+      m_strObject = m_strNext + '.';
     } else if (m_nDepth >= Field()) {
       Other("{…}");
     }
@@ -171,7 +172,7 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   // How many brackets are open where the keys of a case, or of the object within it, stand.
   int Field() const noexcept {
-    return (m_case.m_bSingle ? 1 : 2) + (m_bInObject ? 1 : 0) + (m_bInPart ? 2 : 0);
+    return (m_case.m_bSingle ? 1 : 2) + m_nObjects + (m_bInPart ? 2 : 0);
   }
   std::vector<double>& List() {
     return m_bInPart ? m_arrPartList.back() : m_arrList[static_cast<std::size_t>(m_nKey)];
@@ -189,7 +190,9 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
     m_case.m_arrValue.assign(m_arrRule.size() + 1, std::nullopt);
     m_case.m_fault.reset();
     m_nKey = kNone;
-    m_bInObject = m_bObjectNext = m_bInPart = false;
+    m_nObjects = 0;
+    m_strObject.clear();
+    m_bObjectNext = m_bInPart = false;
     m_nParts = kNone;
     m_case.m_arrPart.clear();
     m_arrPartText.clear();
@@ -211,13 +214,13 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   void FindKey(const std::string& name) {
     if (m_bInPart) return FindPartKey(name);
-    m_bObjectNext = !m_bInObject && m_schema.IsObject(name);
+    const std::string key = m_strObject + name;
+    m_bObjectNext = m_schema.IsObject(key);
     if (m_bObjectNext) {
-      m_strObject = name;
+      m_strNext = key;
       m_nKey = kNone;
       return;
     }
-    const std::string key = m_bInObject ? m_strObject + '.' + name : name;
     m_nKey = m_schema.Find(key);
     if (m_nKey == kNone) return Fault(m_schema.Unknown(key));
     Spare();
@@ -312,7 +315,7 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   // What stands where it cannot: no object as a case, or a value that no key takes.
   bool Other(const std::string& text) {
     if (std::exchange(m_bObjectNext, false)) {
-      Fault({m_strObject,
+      Fault({m_strNext,
              {text + " 不可用", text + " is not possible"},
              {"请给出花括号内的键", "give its keys in braces"}});
       return true;
@@ -386,8 +389,10 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   bool End() {
     if (--m_nDepth != Field() - 1) return true;
-    if (m_bInObject) {
-      m_bInObject = false;
+    if (m_nObjects > 0) {
+      --m_nObjects;
+      m_strObject.pop_back();
+      m_strObject.erase(m_strObject.rfind('.') + 1);  // of npos: all of it
       m_nKey = kNone;
     } else if (m_nDepth > 0) {
       HandOver();
@@ -408,9 +413,10 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   bool m_bList = false;
   bool m_bMember = false;              // within an object of a key's list
   int m_nMember = kNone;               // whose number comes next
-  std::string m_strObject;             // the object within the case that was named last
-  bool m_bObjectNext = false;          // its value comes next
-  bool m_bInObject = false;            // its keys are read
+  int m_nObjects = 0;                  // objects within the case whose keys are read
+  std::string m_strObject;             // before the keys of the innermost: "section.lattice."
+  bool m_bObjectNext = false;          // the value of an object comes next
+  std::string m_strNext;               // its key
   std::vector<std::string> m_arrText;  // what the values point to, by key
   std::vector<std::vector<double>> m_arrList;
   int m_nParts = kNone;    // the key whose parts are read

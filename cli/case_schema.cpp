@@ -220,8 +220,14 @@ void CCaseSchema::AddObject(const std::string& key, const CJson& json) {
   }
   if (json.at("additionalProperties") != false) Outside(key + ": an open object");
   m_arrObject.push_back(key);
-  for (const auto& entry : json.at("properties").items())
-    m_arrRule.push_back(ReadRule(key + "." + entry.key(), entry.value()));
+  for (const auto& entry : json.at("properties").items()) {
+    const std::string name = key + "." + entry.key();
+    if (entry.value().value("type", CJson()) == "object") {
+      AddObject(name, entry.value());
+    } else {
+      m_arrRule.push_back(ReadRule(name, entry.value()));
+    }
+  }
 }
 
 // A part's keys mean what they mean outside.

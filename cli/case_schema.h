@@ -1,6 +1,6 @@
 // What a JSON Schema (docs/schema) asks of a case, compiled once and asked case by case.
 //
-// Of JSON Schema it understands what those files use: closed objects within the object, whose keys
+// Of JSON Schema it understands what those files use: closed objects within objects, whose keys
 // are "outer.inner" from here on, type, enum, minimum, exclusiveMinimum, maximum, exclusiveMaximum,
 // items (numbers, closed objects of numbers that are all required, or closed objects of keys of the
 // case itself: its parts), required, additionalProperties, oneOf lists of required keys,

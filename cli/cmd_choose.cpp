@@ -32,7 +32,7 @@ struct COptions {
 };
 
 bool HasSection(const CMemberCase& input) {
-  return !input.m_strTable.empty() || !input.m_strStyle.empty();
+  return !input.m_strTable.empty() || !input.m_strStyle.empty() || !input.m_strLattice.empty();
 }
 
 // Every case of the file, a member's combinations one after another.

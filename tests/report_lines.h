@@ -86,6 +86,7 @@ class CArithmetic {
 
   CInterval Power() {
     const CInterval a = Factor();
+    if (Take("^4")) return {a.low * a.low * a.low * a.low, a.high * a.high * a.high * a.high};
     if (!Take("^2")) return a;
     const CInterval ends = Bounds({a.low * a.low, a.high * a.high});
     return {a.low < 0 && a.high > 0 ? 0 : ends.low, ends.high};
@@ -105,6 +106,21 @@ class CArithmetic {
       Need(",");
       const CInterval b = Closed(")");
       return {std::max(a.low, b.low), std::max(a.high, b.high)};
+    }
+    if (Take("min(")) {
+      const CInterval a = Sum();
+      Need(",");
+      const CInterval b = Closed(")");
+      return {std::min(a.low, b.low), std::min(a.high, b.high)};
+    }
+    if (Take("|")) {
+      const CInterval a = Closed("|");
+      const CInterval ends = Bounds({std::fabs(a.low), std::fabs(a.high)});
+      return {a.low < 0 && a.high > 0 ? 0 : ends.low, ends.high};
+    }
+    if (Take("sin(")) {
+      const CInterval a = Closed(")");
+      return Bounds({std::sin(a.low), std::sin(a.high)});
     }
     if (Take("cos(")) {
       const CInterval a = Closed(")");

@@ -16,21 +16,30 @@ class CLatticeCheck {
                 const CLatticeLoads& loads, CMemberAnswer& answer)
       : s(section), m(steel), q(loads), a(answer), r(answer.m_results) {
     m_dN = std::max(0.0, -q.m_dN);
-    m_dM = std::fabs(q.m_y.Governing());
+    m_dM = std::fabs(q.m_x.Governing());
   }
   void Run();
 
  private:
   void Give();
+  void RefuseWhatIsNotCovered();
   void Slenderness();
+  void Laced();
+  void Battened();
   void Whole();
+  void MomentInPlane();
+  void SlendernessCheck();
   void Limbs();
   void LimbSlenderness();
   void Bond();
+  double PlaneShear(double V);
   void Lacing(double V);
   void Battens(double V);
   bool Is2017() const noexcept { return m.m_nEdition == CCodeEdition::Gb2017; }
   bool IsLaced() const noexcept { return s.m_nBond == CLatticeBond::Lacing; }
+  bool IsOpenY() const noexcept { return s.m_nLimbs > 2; }
+  double LambdaX() const noexcept { return m_dLambda0x; }
+  double LambdaY() const noexcept { return IsOpenY() ? m_dLambda0y : r.m_dLambdaY; }
   const char* Clause(const char* in2017, const char* in2003) const noexcept {
     return Is2017() ? in2017 : in2003;
   }
@@ -44,22 +53,46 @@ class CLatticeCheck {
   CMemberAnswer& a;
   CMemberResults& r;
   double m_dN = 0, m_dM = 0;
-  double m_dLambda0 = 0;  // about the open axis, with the bond's yielding
-  double m_dLambda1 = 0;  // of a limb
+  double m_dLambda0x = 0, m_dLambda0y = 0;  // with the bond's yielding
+  double m_dLambda1 = 0;                    // of a limb
 };
 
 void CLatticeCheck::Run() {
+  RefuseWhatIsNotCovered();
+  if (a.IsRefused()) return;
+  Give();
+  Slenderness();
+  Whole();
+  Limbs();
+  SlendernessCheck();
+  LimbSlenderness();
+  Bond();
+}
+
+void CLatticeCheck::RefuseWhatIsNotCovered() {
   if (m_dN == 0) {
     return a.Refuse("N",
                     {"格构柱只验算受压", "a lattice column is checked under compression alone"},
                     {"请给出压力（负值）", "give a compression, below 0"});
   }
-  Give();
-  Slenderness();
-  Whole();
-  Limbs();
-  LimbSlenderness();
-  Bond();
+  if (s.m_nLimbs == 3 && !IsLaced()) {
+    return a.Refuse("section.lacing",
+                    {"三肢柱没有缀板的公式", "the code has no battens for three limbs"},
+                    {"请用缀条", "take lacing"});
+  }
+  if (m_dM == 0) return;
+  if (s.m_nLimbs != 2) {
+    return a.Refuse(
+        "Mx",
+        {"三肢和四肢柱只验算轴心受压", "three and four limbs are checked for axial force alone"},
+        {"请给 0，或用双肢柱", "give 0, or take two limbs"});
+  }
+  if (!IsLaced()) {
+    a.Refuse("Mx",
+             {"压弯缀板柱分肢的局部弯矩不在验算范围内",
+              "the local bending of limbs with battens under a moment is not covered"},
+             {"请给 0，或用缀条", "give 0, or take lacing"});
+  }
 }
 
 void CLatticeCheck::Give() {
@@ -68,75 +101,115 @@ void CLatticeCheck::Give() {
   r.m_dFy = m.m_dFy;
   r.m_dEpsilonK = EpsilonK(m.m_nGrade);
   r.m_dA = s.m_dA;
+  r.m_szClassX = r.m_szClassY = "b";
   a.Step("f", nullptr, m.m_dF, "N/mm²");
   a.Step("fv", nullptr, m.m_dFv, "N/mm²");
-  a.Step("εk", nullptr, r.m_dEpsilonK);
+  a.Step("fyk", nullptr, NominalYield(m.m_nGrade), "N/mm²");
+  a.Step("εk", "√(235/{fyk})", r.m_dEpsilonK);
   a.Step("A", nullptr, s.m_dA, "mm²");
   a.Step("N", nullptr, m_dN, "N");
-  if (m_dM > 0) a.Step("My", nullptr, m_dM, "N·mm");
+  if (m_dM > 0) a.Step("Mx", nullptr, m_dM, "N·mm");
 }
 
-// 7.2.3; 2003: 5.1.3. lambda-1 of battens runs between their clear edges, as l1 is given.
+// 7.2.3; 2003: 5.1.3. l1 of battens runs between their clear edges.
 void CLatticeCheck::Slenderness() {
   r.m_dLambdaX = q.m_dLx / s.m_dRx;
   r.m_dLambdaY = q.m_dLy / s.m_dRy;
   m_dLambda1 = s.m_dL1 / s.m_dLimbR1;
-  a.Step("λx", nullptr, r.m_dLambdaX);
-  a.Step("λy", nullptr, r.m_dLambdaY);
-  a.Step("λ1", nullptr, m_dLambda1);
+  a.Step("l0x", nullptr, q.m_dLx, "mm");
+  a.Step("l0y", nullptr, q.m_dLy, "mm");
+  a.Step("ix", nullptr, s.m_dRx, "mm");
+  a.Step("iy", nullptr, s.m_dRy, "mm");
+  a.Step("λx", "{l0x}/{ix}", r.m_dLambdaX);
+  a.Step("λy", "{l0y}/{iy}", r.m_dLambdaY);
+  a.Step("l1", nullptr, s.m_dL1, "mm");
+  a.Step("i1", nullptr, s.m_dLimbR1, "mm");
+  a.Step("λ1", "{l1}/{i1}", m_dLambda1);
   if (IsLaced()) {
-    m_dLambda0 = LacedSlenderness(r.m_dLambdaY, 27, s.m_dA, s.m_dA1);
-    a.Step("A1", nullptr, s.m_dA1, "mm²");
-    a.Step("λ0y", "√({λy}² + 27·{A}/{A1})", m_dLambda0);
+    Laced();
   } else {
-    m_dLambda0 = BattenedSlenderness(r.m_dLambdaY, m_dLambda1);
-    a.Note(CMemberNote::BattenStiffness);
-    a.Step("λ0y", "√({λy}² + {λ1}²)", m_dLambda0);
+    Battened();
   }
-  r.m_dPhiX = Phi(r.m_dLambdaX, m.m_nClassX);
-  r.m_dPhiY = Phi(m_dLambda0, m.m_nClassY);
+  r.m_dPhiX = Phi(LambdaX(), m.m_nClassX);
+  r.m_dPhiY = Phi(LambdaY(), m.m_nClassY);
 }
 
-// 7.2.1 about the solid axis; about the open one 7.2.1, or 8.2.2 with a moment: out of its plane
-// the limbs are checked in place of the whole.
+void CLatticeCheck::Laced() {
+  a.Step("Ad", nullptr, s.m_dBarA, "mm²");
+  if (s.m_nLimbs == 3) {
+    const double A1 = 3 * s.m_dBarA;
+    const double cosine = std::cos(s.m_dPlaneAngle * std::numbers::pi / 180);
+    a.Step("A1", "3·{Ad}", A1, "mm²");
+    a.Step("θ", nullptr, s.m_dPlaneAngle, "°");
+    m_dLambda0x = LacedSlenderness(r.m_dLambdaX, 42 / (1.5 - cosine * cosine), s.m_dA, A1);
+    m_dLambda0y = LacedSlenderness(r.m_dLambdaY, 42 / (cosine * cosine), s.m_dA, A1);
+    a.Step("λ0x", "√({λx}² + 42·{A}/({A1}·(1.5 − cos({θ}°)²)))", m_dLambda0x);
+    a.Step("λ0y", "√({λy}² + 42·{A}/({A1}·cos({θ}°)²))", m_dLambda0y);
+    return;
+  }
+  const double A1 = 2 * s.m_dBarA, factor = s.m_nLimbs == 2 ? 27 : 40;
+  a.Step("A1", "2·{Ad}", A1, "mm²");
+  m_dLambda0x = LacedSlenderness(r.m_dLambdaX, factor, s.m_dA, A1);
+  a.Step("λ0x", s.m_nLimbs == 2 ? "√({λx}² + 27·{A}/{A1})" : "√({λx}² + 40·{A}/{A1})", m_dLambda0x);
+  if (!IsOpenY()) return;
+  m_dLambda0y = LacedSlenderness(r.m_dLambdaY, factor, s.m_dA, A1);
+  a.Step("λ0y", "√({λy}² + 40·{A}/{A1})", m_dLambda0y);
+}
+
+void CLatticeCheck::Battened() {
+  a.Note(CMemberNote::BattenStiffness);
+  m_dLambda0x = BattenedSlenderness(r.m_dLambdaX, m_dLambda1);
+  a.Step("λ0x", "√({λx}² + {λ1}²)", m_dLambda0x);
+  if (!IsOpenY()) return;
+  m_dLambda0y = BattenedSlenderness(r.m_dLambdaY, m_dLambda1);
+  a.Step("λ0y", "√({λy}² + {λ1}²)", m_dLambda0y);
+}
+
+// 7.2.1; with a moment 8.2.2 about the open axis, and out of its plane the limbs in place of the
+// whole.
 void CLatticeCheck::Whole() {
   const double f = m.m_dF;
-  const double W = s.m_dWy;
   a.Open(CMemberCheckKind::Strength,
          m_dM > 0 ? Clause("8.1.1", "5.2.1") : Clause("7.1.2", "5.1.1"));
   if (m_dM > 0) {
-    a.Step("Wy", nullptr, W, "mm³");
-    a.Close("({N}/{A} + {My}/(1.0·{Wy}))/{f}", (m_dN / s.m_dA + m_dM / W) / f);
-  } else {
-    a.Close("{N}/({A}·{f})", m_dN / (s.m_dA * f));
+    a.Step("Wx", nullptr, s.m_dWx, "mm³");
+    a.Close("({N}/{A} + {Mx}/{Wx})/{f}", (m_dN / s.m_dA + m_dM / s.m_dWx) / f);
+    return MomentInPlane();
   }
-  if (m_dM == 0) {
-    a.Open(CMemberCheckKind::StabilityX, Clause("7.2.1", "5.1.2"));
-    a.Step("φx", nullptr, r.m_dPhiX);
-    a.Close("{N}/({φx}·{A}·{f})", AxialTerm(m_dN, r.m_dPhiX, s.m_dA, f));
-    a.Open(CMemberCheckKind::StabilityY, Clause("7.2.1", "5.1.2"));
-    a.Step("φy", nullptr, r.m_dPhiY);
-    a.Close("{N}/({φy}·{A}·{f})", AxialTerm(m_dN, r.m_dPhiY, s.m_dA, f));
-  } else {
-    const double NE = ReducedEulerForce(s.m_dA, m_dLambda0);
-    const CEquivalentMoment M = InPlaneMoment(m.m_nEdition, q.m_y, m_dN, 1.1 * NE, q.m_bSway);
-    r.m_dBetaMy = M.m_dBeta;
-    a.Open(CMemberCheckKind::StabilityY, Clause("8.2.2", "5.2.3"));
-    a.Step("φy", nullptr, r.m_dPhiY);
-    a.Step("N′Ey", "π²·206000·{A}/(1.1·{λ0y}²)", NE, "N");
-    a.Step("βmy", nullptr, M.m_dBeta);
-    a.Step("M", nullptr, M.m_dM, "N·mm");
-    a.Step("Wy", nullptr, W, "mm³");
-    // 2003: phi multiplies N / N'E.
-    const double share = Is2017() ? 1 : r.m_dPhiY;
-    a.Step("k", nullptr, share);
-    a.Close(
-        "{N}/({φy}·{A}·{f}) + {βmy}·{M}/({Wy}·(1 − {k}·{N}/{N′Ey})·{f})",
-        AxialTerm(m_dN, r.m_dPhiY, s.m_dA, f) + AmplifiedTerm(M.m_dMoment, W, share, m_dN, NE, f));
-  }
+  a.Close("{N}/({A}·{f})", m_dN / (s.m_dA * f));
+  a.Open(CMemberCheckKind::StabilityX, Clause("7.2.1", "5.1.2"));
+  a.Step("φx", nullptr, r.m_dPhiX);
+  a.Close("{N}/({φx}·{A}·{f})", AxialTerm(m_dN, r.m_dPhiX, s.m_dA, f));
+  a.Open(CMemberCheckKind::StabilityY, Clause("7.2.1", "5.1.2"));
+  a.Step("φy", nullptr, r.m_dPhiY);
+  a.Close("{N}/({φy}·{A}·{f})", AxialTerm(m_dN, r.m_dPhiY, s.m_dA, f));
+}
+
+void CLatticeCheck::MomentInPlane() {
+  const double f = m.m_dF, NE = ReducedEulerForce(s.m_dA, m_dLambda0x);
+  const CEquivalentMoment M = InPlaneMoment(m.m_nEdition, q.m_x, m_dN, 1.1 * NE, q.m_bSway);
+  r.m_dBetaMx = M.m_dBeta;
+  a.Open(CMemberCheckKind::StabilityX, Clause("8.2.2", "5.2.3"));
+  a.Step("φx", nullptr, r.m_dPhiX);
+  a.Step("N′Ex", "π²·206000·{A}/(1.1·{λ0x}²)", NE, "N");
+  a.Step("βmx", nullptr, M.m_dBeta);
+  a.Step("M", nullptr, M.m_dM, "N·mm");
+  a.Step("Wx", nullptr, s.m_dWx, "mm³");
+  // 2003: phi multiplies N / N'E.
+  const double ratio = AxialTerm(m_dN, r.m_dPhiX, s.m_dA, f) +
+                       AmplifiedTerm(M.m_dMoment, s.m_dWx, Is2017() ? 1 : r.m_dPhiX, m_dN, NE, f);
+  a.Close(Is2017() ? "{N}/({φx}·{A}·{f}) + {βmx}·{M}/({Wx}·(1 − {N}/{N′Ex})·{f})"
+                   : "{N}/({φx}·{A}·{f}) + {βmx}·{M}/({Wx}·(1 − {φx}·{N}/{N′Ex})·{f})",
+          ratio);
+}
+
+// 7.4.6: lacing bars have the column's limit.
+void CLatticeCheck::SlendernessCheck() {
   const double limit = q.m_dLimit > 0 ? q.m_dLimit : 150;
-  const double lambda = std::max(r.m_dLambdaX, m_dLambda0);
+  const double bar = IsLaced() ? s.m_dBarLength / s.m_dBarR : 0;
+  const double lambda = std::max({LambdaX(), LambdaY(), bar});
   a.Open(CMemberCheckKind::Slenderness, Clause("7.4.6", "5.3.8"));
+  if (IsLaced()) a.Step("λd", nullptr, bar);
   a.Step("λmax", nullptr, lambda);
   a.Step("[λ]", nullptr, limit);
   a.Close("{λmax}/{[λ]}", lambda / limit);
@@ -146,20 +219,20 @@ void CLatticeCheck::Whole() {
 void CLatticeCheck::Limbs() {
   if (m_dM == 0) return;
   const double share = m_dN / 2 + m_dM / s.m_dSpacing;
-  const double lambda = std::max(m_dLambda1, r.m_dLambdaX);
-  const double phi = Phi(lambda, m.m_nClassX);
+  const double lambda = std::max(m_dLambda1, r.m_dLambdaY);
+  const double phi = Phi(lambda, m.m_nClassY);
   a.Note(CMemberNote::LimbMoment);
-  a.Open(CMemberCheckKind::StabilityX, Clause("8.2.2", "5.2.3"));
+  a.Open(CMemberCheckKind::StabilityY, Clause("8.2.2", "5.2.3"));
   a.Step("a", nullptr, s.m_dSpacing, "mm");
-  a.Step("N1", "{N}/2 + {My}/{a}", share, "N");
-  a.Step("λ", "max({λ1}, {λx})", lambda);
+  a.Step("N1", "{N}/2 + {Mx}/{a}", share, "N");
+  a.Step("λ", "max({λ1}, {λy})", lambda);
   a.Step("φ", nullptr, phi);
   a.Close("{N1}/({φ}·{A}/2·{f})", AxialTerm(share, phi, s.m_dA / 2, m.m_dF));
 }
 
 // 7.2.4 and 7.2.5; 2003: 5.1.4.
 void CLatticeCheck::LimbSlenderness() {
-  const double greatest = std::max(r.m_dLambdaX, m_dLambda0);
+  const double greatest = std::max(LambdaX(), LambdaY());
   double limit = 0.7 * greatest;
   if (!IsLaced()) {
     const double most = Is2017() ? 40 * r.m_dEpsilonK : 40;
@@ -173,15 +246,29 @@ void CLatticeCheck::LimbSlenderness() {
 // 7.2.7; 2003: 5.1.6.
 void CLatticeCheck::Bond() {
   const double code = s.m_dA * m.m_dF / (85 * r.m_dEpsilonK);
-  const double V = std::max(code, std::fabs(q.m_dVx)) / s.m_nPlanes;
   a.Open(CMemberCheckKind::Lacing, Clause("7.2.7", "5.1.6"));
   a.Step("V", "{A}·{f}/(85·{εk})", code, "N");
-  a.Step("V1", nullptr, V, "N");
+  if (q.m_dV > code) a.Step("V", nullptr, q.m_dV, "N");
+  const double V = PlaneShear(std::max(code, q.m_dV));
   if (IsLaced()) {
     Lacing(V);
   } else {
     Battens(V);
   }
+}
+
+// Of one plane: half, but of three limbs the greater of an inclined plane under V along y and of
+// the plane along x, which shares V along x with both others.
+double CLatticeCheck::PlaneShear(double V) {
+  if (s.m_nLimbs != 3) {
+    a.Step("V1", "{V}/2", V / 2, "N");
+    return V / 2;
+  }
+  const double angle = s.m_dPlaneAngle * std::numbers::pi / 180;
+  const double sine = std::sin(angle), cosine = std::cos(angle);
+  const double V1 = std::max(V / (2 * sine), V / (1 + 2 * cosine * cosine));
+  a.Step("V1", "max({V}/(2·sin({θ}°)), {V}/(1 + 2·cos({θ}°)²))", V1, "N");
+  return V1;
 }
 
 // A bar of one angle on one leg: f times 0.6 + 0.0015 lambda (7.6.1; 2003: 3.4.2), at most 1.
@@ -190,26 +277,25 @@ void CLatticeCheck::Lacing(double V) {
   const double lambda = s.m_dBarLength / s.m_dBarR;
   const double reduction = std::min(1.0, 0.6 + 0.0015 * std::max(20.0, lambda));
   const double phi = Phi(lambda, CBucklingClass::B);
-  const double area = s.m_dA1 / s.m_nPlanes;
-  a.Step("θ", nullptr, s.m_dAngle, "°");
-  a.Step("Nd", "{V1}/sin({θ}°)", force, "N");
+  const double area = s.m_dBarA;
+  a.Step("θd", nullptr, s.m_dAngle, "°");
+  a.Step("Nd", "{V1}/sin({θd}°)", force, "N");
   a.Step("λd", nullptr, lambda);
   a.Step("φd", nullptr, phi);
   a.Step("η", nullptr, reduction);
-  a.Step("Ad", nullptr, area, "mm²");
   a.Close("{Nd}/({η}·{φd}·{Ad}·{f})", force / (reduction * phi * area * m.m_dF));
 }
 
 // A batten is bent and sheared by the column's shear: T = V1 l/a at its middle, M = V1 l/2 at the
 // limb, l between the battens' centres.
 void CLatticeCheck::Battens(double V) {
-  const double T = V * s.m_dBattenPitch / s.m_dSpacing;
+  const double T = V * s.m_dBattenPitch / s.m_dBattenSpan;
   const double M = V * s.m_dBattenPitch / 2;
   const double W = s.m_dBattenT * s.m_dBattenWidth * s.m_dBattenWidth / 6;
   const double bending = M / (W * m.m_dF);
   const double shear = 1.5 * T / (s.m_dBattenWidth * s.m_dBattenT * m.m_dFv);
   a.Step("l", nullptr, s.m_dBattenPitch, "mm");
-  a.Step("a", nullptr, s.m_dSpacing, "mm");
+  a.Step("a", nullptr, s.m_dBattenSpan, "mm");
   a.Step("T", "{V1}·{l}/{a}", T, "N");
   a.Step("M", "{V1}·{l}/2", M, "N·mm");
   a.Step("Wb", nullptr, W, "mm³");

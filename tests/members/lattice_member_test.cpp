@@ -8,15 +8,15 @@ namespace {
 
 using K = CMemberCheckKind;
 
-// Two channels of 4003 mm2 and 2.18e6 mm4 about their own axis, 240 mm apart: iy 122.248, i1
-// 23.336; ix 109. f 215, fv 125.
+// Two channels of 4003 mm2 and 2.18e6 mm4 about their own axis, one 240 mm above the other: ix
+// 122.248, i1 23.336; iy 109. f 215, fv 125.
 CLatticeSection Channels() {
   CLatticeSection s;
   s.m_dA = 8006;
-  s.m_dRx = 109;
-  s.m_dRy = 122.2480738;
-  s.m_dWy = 997053.333;
-  s.m_dSpacing = 240;
+  s.m_dRx = 122.2480738;
+  s.m_dRy = 109;
+  s.m_dWx = 997053.333;
+  s.m_dSpacing = s.m_dBattenSpan = 240;
   s.m_dLimbR1 = 23.3364855;
   return s;
 }
@@ -24,9 +24,18 @@ CLatticeSection Channels() {
 CLatticeSection Laced() {
   CLatticeSection s = Channels();
   s.m_dL1 = 480;
-  s.m_dA1 = 698;
+  s.m_dBarA = 349;
   s.m_dBarLength = 340;
   s.m_dBarR = 8.9;
+  return s;
+}
+
+// The same area in more limbs, both radii 200 mm.
+CLatticeSection Corners(int limbs) {
+  CLatticeSection s = Laced();
+  s.m_nLimbs = limbs;
+  s.m_dRx = s.m_dRy = 200;
+  s.m_dPlaneAngle = 60;
   return s;
 }
 
@@ -49,20 +58,28 @@ struct CExample {
 };
 
 const CExample kExamples[] = {
-    // lambda-x 55.046; lambda-y 49.081, lambda-0y sqrt(49.081^2 + 27 8006/698) = 52.140
-    {"laced", Laced(), -1400, 0, K::StabilityX, 0.97699, 0.97699},
-    {"laced", Laced(), -1400, 0, K::StabilityY, 0.96090, 0.96090},
+    // lambda-y 55.046; lambda-x 49.081, lambda-0x sqrt(49.081^2 + 27 8006/698) = 52.140
+    {"laced", Laced(), -1400, 0, K::StabilityY, 0.97699, 0.97699},
+    {"laced", Laced(), -1400, 0, K::StabilityX, 0.96090, 0.96090},
     // 480/23.336 against 0.7 55.046
     {"laced", Laced(), -1400, 0, K::Limbs, 0.53381, 0.53381},
     // V = 8006 215/85 = 20250 N, Nd = V/2/sin 45; lambda 38.2, 0.6 + 0.0015 lambda = 0.6573
     {"laced", Laced(), -1400, 0, K::Lacing, 0.32056, 0.32056},
     // N/(phi A f) + M/(W (1 - N/N'E) f), 2003 with phi N/N'E
-    {"laced, moment", Laced(), -900, 40000, K::StabilityY, 0.84128, 0.83468},
+    {"laced, moment", Laced(), -900, 40000, K::StabilityX, 0.84128, 0.83468},
     // the limb: 900/2 + 40000/240 = 616.67 kN, lambda 55.046
-    {"laced, moment", Laced(), -900, 40000, K::StabilityX, 0.86068, 0.86068},
+    {"laced, moment", Laced(), -900, 40000, K::StabilityY, 0.86068, 0.86068},
     {"laced, moment", Laced(), -900, 40000, K::Strength, 0.70946, 0.70946},
-    // lambda-1 29.996, lambda-0y sqrt(49.081^2 + 29.996^2) = 57.521
-    {"battened", Battened(), -1400, 0, K::StabilityY, 0.99172, 0.99172},
+    // lambda 30, lambda-0 sqrt(900 + 40 8006/698) = 36.862, phi 0.91083
+    {"four limbs", Corners(4), -1400, 0, K::StabilityX, 0.89297, 0.89297},
+    // A1 1047: lambda-0x sqrt(900 + 42 8006/(1047 1.25)) = 34.014, lambda-0y sqrt(900 + 42
+    // 8006/(1047 0.25)) = 46.740
+    {"three limbs", Corners(3), -1400, 0, K::StabilityX, 0.88264, 0.88264},
+    {"three limbs", Corners(3), -1400, 0, K::StabilityY, 0.93402, 0.93402},
+    // V1 the greater of 20250/(2 sin 60) = 11691 and 20250/1.5 = 13500
+    {"three limbs", Corners(3), -1400, 0, K::Lacing, 0.42741, 0.42741},
+    // lambda-1 29.996, lambda-0x sqrt(49.081^2 + 29.996^2) = 57.521
+    {"battened", Battened(), -1400, 0, K::StabilityX, 0.99172, 0.99172},
     // against half of 57.521
     {"battened", Battened(), -1400, 0, K::Limbs, 1.04296, 1.04296},
     // M = 10125 880/2, W = 8 180^2/6
@@ -77,7 +94,7 @@ TEST(LatticeMember, ByHand) {
       CLatticeLoads loads;
       loads.m_dN = 1000 * example.m_dN;
       loads.m_dLx = loads.m_dLy = 6000;
-      loads.m_y.m_dM1 = loads.m_y.m_dM2 = 1000 * example.m_dMy;
+      loads.m_x.m_dM1 = loads.m_x.m_dM2 = 1000 * example.m_dMy;
       CheckLatticeMember(example.m_section, steel, loads, answer);
       ASSERT_FALSE(answer.IsRefused());
       EXPECT_NEAR(answer.Ratio(example.m_nKind),

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/outline/row_spacing.h"
 #include "codes/edition.h"
 #include "codes/steel_strength.h"
@@ -12,6 +13,7 @@
 #include "sections/load_data_table.h"
 #include "sections/section_check.h"
 #include "sections/section_figures.h"
+#include "sections/section_kind.h"
 #include "sections/section_style.h"
 
 namespace orv3 {
@@ -26,6 +28,30 @@ std::span<const CInputKey<CMemberCase>> MemberInputKeys() {
       {"section.gap", &C::m_dGap, "mm", {"组合间距", "gap of a pair"}},
       {"section.style", &C::m_strStyle, "", {"截面类型", "style of the section"}},
       {"section.sizes", &C::m_sizes, "mm", {"截面尺寸", "sizes of the section"}},
+      {"section.lattice.table", &C::m_strLattice, "", {"格构柱表", "table of the lattice column"}},
+      {"section.lattice.k(mm)", &C::m_dK, "mm", {"肢距", "spacing of the limbs"}},
+      {"section.lattice.kx(mm)", &C::m_dKx, "mm", {"x 向肢距", "spacing along x"}},
+      {"section.lattice.ky(mm)", &C::m_dKy, "mm", {"y 向肢距", "spacing along y"}},
+      {"section.lattice.P1Type", &C::m_strLimb1, "", {"分肢 1 的表", "table of limb 1"}},
+      {"section.lattice.P1No.", &C::m_strNo1, "", {"分肢 1 的型号", "number of limb 1"}},
+      {"section.lattice.P1θ°", &C::m_dTurn1, "°", {"分肢 1 的转角", "turn of limb 1"}},
+      {"section.lattice.P2Type", &C::m_strLimb2, "", {"分肢 2 的表", "table of limb 2"}},
+      {"section.lattice.P2No.", &C::m_strNo2, "", {"分肢 2 的型号", "number of limb 2"}},
+      {"section.lattice.P2θ°", &C::m_dTurn2, "°", {"分肢 2 的转角", "turn of limb 2"}},
+      {"section.lattice.P3Type", &C::m_strLimb3, "", {"分肢 3 的表", "table of limb 3"}},
+      {"section.lattice.P3No.", &C::m_strNo3, "", {"分肢 3 的型号", "number of limb 3"}},
+      {"section.lattice.P3θ°", &C::m_dTurn3, "°", {"分肢 3 的转角", "turn of limb 3"}},
+      {"section.lattice.P4Type", &C::m_strLimb4, "", {"分肢 4 的表", "table of limb 4"}},
+      {"section.lattice.P4No.", &C::m_strNo4, "", {"分肢 4 的型号", "number of limb 4"}},
+      {"section.lattice.P4θ°", &C::m_dTurn4, "°", {"分肢 4 的转角", "turn of limb 4"}},
+      {"section.lacing.type", &C::m_strBond, "", {"缀材", "bond of the limbs"}},
+      {"section.lacing.table", &C::m_strBar, "", {"缀条的表", "table of a bar"}},
+      {"section.lacing.no", &C::m_strBarNo, "", {"缀条型号", "number of a bar"}},
+      {"section.lacing.angle", &C::m_dBarAngle, "°", {"缀条与柱轴线的夹角", "angle of a bar"}},
+      {"section.lacing.width", &C::m_dBattenWidth, "mm", {"缀板宽度", "width of a batten"}},
+      {"section.lacing.thick", &C::m_dBattenThick, "mm", {"缀板厚度", "thickness of a batten"}},
+      {"section.lacing.pitch", &C::m_dBattenPitch, "mm", {"缀板中心距", "distance of battens"}},
+      {"section.lacing.l1", &C::m_dLimbLength, "mm", {"分肢自由长度", "free length of a limb"}},
       {"steel", &C::m_strSteel, "", {"钢材", "steel"}},
       {"edges", &C::m_strEdges, "", {"翼缘边", "flange edges"}},
       {"N", &C::m_dN, "kN", {"轴力 N", "axial force N"}},
@@ -125,38 +151,110 @@ CDataItem StyleRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
   return ExactRow(record);
 }
 
+// The row of a lattice column as the case gives it.
+CDataItem LatticeRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
+  const int limbs = LatticeLimbCount(FromUtf8(input.m_strLattice).GetString());
+  if (limbs == 0) {
+    fault = CCaseFault{
+        "section.lattice.table",
+        {input.m_strLattice + " 不是格构柱表",
+         input.m_strLattice + " is no table of lattice columns"},
+        {"请给出双肢格构柱、三肢格构柱或四肢格构柱", "give 双肢格构柱, 三肢格构柱 or 四肢格构柱"}};
+    return {};
+  }
+  CSteelItemGeGou row(limbs);
+  const auto number = [](double value) {
+    return std::isnan(value) ? CString() : FormatShortest(value);
+  };
+  const auto set = [&row](const wchar_t* sign, const CString& value) {
+    const int at = row.GetSignIndex(sign);
+    if (at >= 0) row.m_arrCell.Own(at).m_strValue = value;
+  };
+  set(L"k(mm)", number(input.m_dK));
+  set(L"kx(mm)", number(input.m_dKx));
+  set(L"ky(mm)", number(input.m_dKy));
+  const std::string* types[] = {&input.m_strLimb1, &input.m_strLimb2, &input.m_strLimb3,
+                                &input.m_strLimb4};
+  const std::string* numbers[] = {&input.m_strNo1, &input.m_strNo2, &input.m_strNo3,
+                                  &input.m_strNo4};
+  const double turns[] = {input.m_dTurn1, input.m_dTurn2, input.m_dTurn3, input.m_dTurn4};
+  for (std::size_t i = 0; i < static_cast<std::size_t>(limbs); ++i) {
+    set(kLimbColumns[i].m_szType, FromUtf8(*types[i]));
+    set(kLimbColumns[i].m_szNo, FromUtf8(*numbers[i]));
+    set(kLimbColumns[i].m_szAngle, number(turns[i]));
+  }
+  return row;
+}
+
+CLacingInput LacingOf(const CMemberCase& input) {
+  return {input.m_strBond,      input.m_strBar,       input.m_strBarNo,     input.m_dBarAngle,
+          input.m_dBattenWidth, input.m_dBattenThick, input.m_dBattenPitch, input.m_dLimbLength};
+}
+
+// What names the section of a case, told apart from every other.
+std::string SectionName(const CMemberCase& input) {
+  std::string name;
+  const auto add = [&name](const std::string& text) { name += text + '\n'; };
+  const auto addNumber = [&name](double value) {
+    name.append(reinterpret_cast<const char*>(&value), sizeof value);
+  };
+  add(input.m_strTable);
+  add(input.m_strNo);
+  addNumber(input.m_dGap);
+  add(input.m_strStyle);
+  addNumber(input.m_sizes.m_dUniform);
+  for (const double size : input.m_sizes.m_arrEach) addNumber(size);
+  if (input.m_strLattice.empty() && input.m_strBond.empty()) return name;
+  for (const auto& key : MemberInputKeys()) {
+    const std::string_view sign = key.m_szKey;
+    if (!sign.starts_with("section.la")) continue;
+    if (const auto* text = std::get_if<std::string CMemberCase::*>(&key.m_field)) {
+      add(input.**text);
+    } else if (const auto* number = std::get_if<double CMemberCase::*>(&key.m_field)) {
+      addNumber(input.**number);
+    }
+  }
+  return name;
+}
+
 }  // namespace
 
-CMemberRow* CMemberCheck::Section(const CMemberCase& input) {
-  const bool bTable = !input.m_strTable.empty();
-  const bool bSizes = !input.m_strStyle.empty();
-  if (bTable == bSizes) {
+CMemberCheck::CFound* CMemberCheck::Section(const CMemberCase& input) {
+  const bool bTable = !input.m_strTable.empty(), bSizes = !input.m_strStyle.empty();
+  const bool bLattice = !input.m_strLattice.empty();
+  const int ways = int{bTable} + int{bSizes} + int{bLattice};
+  if (ways != 1) {
     Refuse("section",
-           bTable ? CText{"给了不止一种", "is given in more than one way"}
-                  : CText{"缺失", "is missing"},
-           {"请给出 table 与 no，或 style 与 sizes", "give table with no, or style with sizes"});
+           ways > 1 ? CText{"给了不止一种", "is given in more than one way"}
+                    : CText{"缺失", "is missing"},
+           {"请给出 table 与 no、style 与 sizes，或 lattice 与 lacing",
+            "give table with no, style with sizes, or lattice with lacing"});
     return nullptr;
   }
-  std::string name = bTable ? input.m_strTable + '\n' + input.m_strNo : input.m_strStyle;
-  const auto add = [&name](double value) { name += '\n' + ToUtf8(FormatShortest(value)); };
-  if (bTable) {
-    add(input.m_dGap);
-  } else {
-    add(input.m_sizes.m_dUniform);
-    for (const double size : input.m_sizes.m_arrEach) add(size);
-  }
-  auto& found = m_mapSection[name];
+  auto& found = m_mapSection[SectionName(input)];
   if (!found) {
     found = std::make_unique<CFound>();
-    found->m_item = bTable ? TableRow(input, found->m_fault) : StyleRow(input, found->m_fault);
-    if (!found->m_fault) found->m_fault = ReadMemberRow(found->m_item, found->m_row);
+    auto& fault = found->m_fault;
+    found->m_item = bTable   ? TableRow(input, fault)
+                    : bSizes ? StyleRow(input, fault)
+                             : LatticeRow(input, fault);
+    if (!fault && LatticeLimbCount(found->m_item.GetTableName().GetString()) > 0) {
+      found->m_lattice.emplace();
+      fault = ReadMemberLattice(found->m_item, LacingOf(input), *found->m_lattice);
+    } else if (!fault) {
+      fault = ReadMemberRow(found->m_item, found->m_row);
+    }
+    if (!fault && !found->m_lattice && !input.m_strBond.empty())
+      fault = CCaseFault{"section.lacing",
+                         {"只用于格构柱", "is for lattice columns alone"},
+                         {"请删去", "leave it out"}};
   }
   if (found->m_fault) {
     Refuse(*found->m_fault);
     return nullptr;
   }
   m_pFound = found.get();
-  return &found->m_row;
+  return found.get();
 }
 
 // --- Edition and steel ---------------------------------------------------------------------------
@@ -431,8 +529,48 @@ void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) 
 }
 
 bool CMemberCheck::Run(const CMemberCase& input) {
-  CMemberRow* section = Section(input);
-  return section != nullptr && Run(input, *section);
+  CFound* found = Section(input);
+  if (found == nullptr) return false;
+  return found->m_lattice ? RunLattice(input, *found->m_lattice) : Run(input, found->m_row);
+}
+
+bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& lattice) {
+  m_fault.reset();
+  CMemberRow row;  // what the steel asks of it
+  row.m_dThickest = lattice.m_dThickest;
+  row.m_dWebThick = row.m_dFlangeThick = lattice.m_dWebThick;
+  row.m_bTube = lattice.m_bTubes;
+  if (!ReadEdition(input) || !ReadSteel(input, row) || !ReadForces(input)) return false;
+  const auto refuse = [this](const char* key) {
+    return Refuse(key, {"格构柱不用", "has no place for a lattice column"},
+                  {"请删去", "leave it out"});
+  };
+  if (!m_loads.m_y.IsZero()) return refuse("My");
+  if (!input.m_strEdges.empty()) return refuse("edges");
+  if (!std::isnan(input.m_dNetA)) return refuse("net.A");
+  if (!std::isnan(input.m_dNetW)) return refuse("net.W");
+  if (!std::isnan(input.m_dLz)) return refuse("lengths.z");
+  if (!std::isnan(input.m_dSpan)) return refuse("lengths.span");
+  if (!std::isnan(input.m_dSupports)) return refuse("supports");
+  if (m_loads.m_bDynamic) return refuse("dynamic");
+  if (lattice.m_section.m_nLimbs == 2 && m_loads.m_dVx != 0) return refuse("Vx");
+  if (!ReadLengths(input, row)) return false;
+  CLatticeLoads loads;
+  loads.m_dN = m_loads.m_dN;
+  loads.m_x = m_loads.m_x;
+  loads.m_dV = std::max(std::fabs(m_loads.m_dVx), std::fabs(m_loads.m_dVy));
+  loads.m_dLx = m_loads.m_dLx;
+  loads.m_dLy = m_loads.m_dLy;
+  loads.m_bSway = m_loads.m_bSway;
+  loads.m_dLimit = m_loads.m_dLimit;
+  m_steel.m_nClassX = m_steel.m_nClassY = CBucklingClass::B;
+  CheckLatticeMember(lattice.m_section, m_steel, loads, m_answer);
+  if (m_answer.IsRefused()) return Refuse(*m_answer.Fault());
+  if (lattice.m_bL1Assumed) m_answer.Note(CMemberNote::LimbLength);
+  m_answer.Note(CMemberNote::BondJoints);
+  if (m_loads.m_x.HasLoad() && m_loads.m_dVy == 0) m_answer.Note(CMemberNote::LatticeShear);
+  if (m_steel.m_nGrade == CSteelGrade::Q355) m_answer.Note(CMemberNote::Q355);
+  return true;
 }
 
 bool CMemberCheck::Run(const CMemberCase& input, CMemberRow& section) {

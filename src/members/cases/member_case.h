@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "members/cases/member_lattice.h"
 #include "members/cases/member_row.h"
 #include "members/cases/section_sources.h"
 #include "members/solid_member.h"
@@ -25,6 +26,15 @@ struct CMemberCase {
   double m_dGap = kNone;        // of a pair
   std::string m_strStyle = {};  // number, table or alias of a user-defined style
   CSpacing m_sizes = {};
+  // A lattice column by the signs of its table's columns, and what joins its limbs.
+  std::string m_strLattice = {};  // its table
+  double m_dK = kNone, m_dKx = kNone, m_dKy = kNone;
+  std::string m_strLimb1 = {}, m_strLimb2 = {}, m_strLimb3 = {}, m_strLimb4 = {};  // tables
+  std::string m_strNo1 = {}, m_strNo2 = {}, m_strNo3 = {}, m_strNo4 = {};
+  double m_dTurn1 = kNone, m_dTurn2 = kNone, m_dTurn3 = kNone, m_dTurn4 = kNone;
+  std::string m_strBond = {}, m_strBar = {}, m_strBarNo = {};
+  double m_dBarAngle = kNone, m_dBattenWidth = kNone, m_dBattenThick = kNone;
+  double m_dBattenPitch = kNone, m_dLimbLength = kNone;
   std::string m_strSteel = {};
   std::string m_strEdges = {};  // "flame-cut", "rolled", or empty
   double m_dN = kNone;
@@ -61,14 +71,24 @@ class ORV3CAL_API CMemberCheck {
   // The section of the last case that named its own: its row, and what the checks take of it.
   const CDataItem& SectionRow() const noexcept { return m_pFound->m_item; }
   std::vector<CUsedProperty> UsedProperties() const {
+    if (m_pFound->m_lattice) return m_pFound->m_lattice->m_arrUsed;
     return SectionSources(SectionRow(), m_pFound->m_row);
   }
   bool Pass() const noexcept { return m_answer.Pass(); }
 
  private:
+  // By what names them; a fault in place of a section that cannot be.
+  struct CFound {
+    CDataItem m_item;
+    CMemberRow m_row;
+    std::optional<CMemberLattice> m_lattice;
+    std::optional<CCaseFault> m_fault;
+  };
+
   bool Refuse(CCaseFault fault);
   bool Refuse(const char* key, CText what, CText right);
-  CMemberRow* Section(const CMemberCase& input);
+  CFound* Section(const CMemberCase& input);
+  bool RunLattice(const CMemberCase& input, const CMemberLattice& lattice);
   bool ReadEdition(const CMemberCase& input);
   bool ReadSteel(const CMemberCase& input, const CMemberRow& section);
   bool ReadClasses(const CMemberCase& input, const CMemberRow& section);
@@ -87,12 +107,6 @@ class ORV3CAL_API CMemberCheck {
   CMemberAnswer m_answer;
   std::optional<CCaseFault> m_fault;
   CSpanLoad m_nLoad = CSpanLoad::None;
-  // By what names them; a fault in place of a section that cannot be.
-  struct CFound {
-    CDataItem m_item;
-    CMemberRow m_row;
-    std::optional<CCaseFault> m_fault;
-  };
   const CFound* m_pFound = nullptr;
   std::map<std::string, std::unique_ptr<CFound>> m_mapSection;
 };

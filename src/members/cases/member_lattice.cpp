@@ -1,0 +1,192 @@
+#include "members/cases/member_lattice.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "catalogue/lattice/lattice_limbs.h"
+#include "catalogue/outline/row_figures.h"
+#include "framework/utf8.h"
+#include "sections/geometry/row_values.h"
+#include "sections/load_data_table.h"
+#include "sections/section_kind.h"
+
+namespace orv3 {
+namespace {
+
+CCaseFault Missing(const char* key, CText right) {
+  return {key, {"缺失", "is missing"}, std::move(right)};
+}
+
+class CLatticeReader {
+ public:
+  CLatticeReader(const CDataItem& row, const CLacingInput& lacing, CMemberLattice& lattice)
+      : m_column(row), m_lacing(lacing), m_lattice(lattice), s(lattice.m_section) {}
+
+  std::optional<CCaseFault> Read() {
+    m_lattice = {};
+    if (auto fault = Limbs()) return fault;
+    const bool bLacing = m_lacing.m_strType == "lacing";
+    if (!bLacing && m_lacing.m_strType != "battens") {
+      return CCaseFault{
+          "section.lacing.type",
+          {m_lacing.m_strType.empty() ? "缺失" : m_lacing.m_strType + " 不可用",
+           m_lacing.m_strType.empty() ? "is missing" : m_lacing.m_strType + " is not possible"},
+          {"请给出 lacing 或 battens", "give lacing or battens"}};
+    }
+    if (auto fault = bLacing ? Bars() : Battens()) return fault;
+    Use();
+    return std::nullopt;
+  }
+
+ private:
+  std::optional<CCaseFault> Limbs() {
+    if (!m_limbs.Fetch(m_column) || !m_limbs.PlaceTruly(m_column)) {
+      return CCaseFault{"section.lattice",
+                        {"的分肢不在库中，或缺少间距或转角",
+                         "has a limb that is not in the store, or lacks a spacing or an angle"},
+                        {"请给出库中的型钢表和型号、间距和转角",
+                         "give tables and numbers of the store, the spacings and the angles"}};
+    }
+    const CLatticeProperties p = m_limbs.Properties();
+    s.m_nLimbs = static_cast<int>(m_limbs.m_arrLimb.size());
+    s.m_dA = p.m_dA;
+    s.m_dRx = p.m_dixo;
+    s.m_dRy = p.m_diyo;
+    s.m_dWx = std::min(p.m_dWx1, p.m_dWx2);
+    s.m_dSpacing = m_limbs.m_dKy;
+    s.m_dBattenSpan = std::max(m_limbs.m_dKx, m_limbs.m_dKy);
+    s.m_dPlaneAngle = 90;
+    if (s.m_nLimbs == 3)
+      s.m_dPlaneAngle = std::atan2(m_limbs.m_dKy, m_limbs.m_dKx / 2) * 180 / std::numbers::pi;
+    s.m_dLimbR1 = HUGE_VAL;
+    int tubes = 0;
+    for (const CLatticeLimb& limb : m_limbs.m_arrLimb) {
+      if (auto fault = ThinWalled(limb.m_row)) {
+        fault->m_strKey = "section.lattice";
+        return fault;
+      }
+      const auto kind = FindSectionKind(limb.m_row.GetTableName().GetString());
+      if (kind == CSectionKind::RoundTube || kind == CSectionKind::PlateTube) ++tubes;
+      s.m_dLimbR1 = std::min(s.m_dLimbR1, RowFigures(limb.m_row).m_dRleast);
+      m_lattice.m_dThickest = std::max(m_lattice.m_dThickest, ThickestPlate(limb.m_row));
+    }
+    m_lattice.m_dWebThick = m_lattice.m_dThickest;
+    m_lattice.m_bTubes = tubes > 0;
+    if (tubes > 0 && tubes < s.m_nLimbs) {
+      return CCaseFault{"section.lattice",
+                        {"有的分肢是圆管，有的不是，不在验算范围内",
+                         "has tubes for some of its limbs, which is not covered"},
+                        {"请全部选用或不用圆管", "take tubes for all limbs, or for none"}};
+    }
+    if (!(std::isfinite(s.m_dLimbR1) && s.m_dLimbR1 > 0)) {
+      return CCaseFault{"section.lattice",
+                        {"的分肢缺少最小回转半径", "has a limb without its least radius"},
+                        {"请选用其他分肢", "take another limb"}};
+    }
+    if (s.m_nLimbs == 2 && m_limbs.m_arrLimb[0].m_dArea != m_limbs.m_arrLimb[1].m_dArea) {
+      return CCaseFault{
+          "section.lattice",
+          {"的两肢不同，不在验算范围内", "has two unequal limbs, which is not covered"},
+          {"请给相同的分肢", "give equal limbs"}};
+    }
+    return std::nullopt;
+  }
+
+  static bool IsPositive(double value) { return std::isfinite(value) && value > 0; }
+
+  std::optional<CCaseFault> Bars() {
+    s.m_nBond = CLatticeBond::Lacing;
+    if (m_lacing.m_strBarTable.empty() || m_lacing.m_strNo.empty())
+      return Missing("section.lacing.table", {"请给出缀条的表和型号 no（等边角钢）",
+                                              "give the bar's table and no, an equal angle"});
+    const CString table = FromUtf8(m_lacing.m_strBarTable);
+    const auto kind = FindSectionKind(table.GetString());
+    const CDataItem bar = CLoadDataTable::GetSysTemJMItem(table, FromUtf8(m_lacing.m_strNo));
+    if (kind != CSectionKind::EqualAngle || bar.IsEmpty()) {
+      const std::string name = m_lacing.m_strBarTable + " " + m_lacing.m_strNo;
+      return CCaseFault{"section.lacing.table",
+                        {name + " 不是库中的等边角钢", name + " is no equal angle of the store"},
+                        {"请给出热轧等边角钢的型号", "give a number of 热轧等边角钢"}};
+    }
+    s.m_dAngle = std::isnan(m_lacing.m_dAngle) ? 45 : m_lacing.m_dAngle;
+    if (!(s.m_dAngle >= 40 && s.m_dAngle <= 70)) {
+      return CCaseFault{"section.lacing.angle",
+                        {"不在 40° 至 70° 之间", "is not from 40 to 70 degrees"},
+                        {"请给出 40 至 70", "give 40 to 70"}};
+    }
+    const CRowFigures f = RowFigures(bar);
+    s.m_dBarA = f.m_dArea;
+    s.m_dBarR = f.m_dRleast;
+    const double angle = s.m_dAngle * std::numbers::pi / 180;
+    s.m_dBarLength = PlaneWidth() / std::sin(angle);
+    s.m_dL1 = m_lacing.m_dL1;
+    m_lattice.m_bL1Assumed = std::isnan(s.m_dL1);
+    if (m_lattice.m_bL1Assumed) s.m_dL1 = 2 * PlaneWidth() / std::tan(angle);
+    return LimbLength();
+  }
+
+  // The widest plane of the bond, between the limbs' centroids.
+  double PlaneWidth() const {
+    if (s.m_nLimbs != 3) return s.m_dBattenSpan;
+    return std::max(m_limbs.m_dKx, std::hypot(m_limbs.m_dKx / 2, m_limbs.m_dKy));
+  }
+
+  std::optional<CCaseFault> Battens() {
+    s.m_nBond = CLatticeBond::Battens;
+    for (const auto& [key, value] : {std::pair{"section.lacing.width", m_lacing.m_dWidth},
+                                     {"section.lacing.thick", m_lacing.m_dThick},
+                                     {"section.lacing.pitch", m_lacing.m_dPitch}}) {
+      if (!IsPositive(value))
+        return Missing(key, {"请给出大于 0 的数 mm", "give a number above 0 mm"});
+    }
+    s.m_dBattenWidth = m_lacing.m_dWidth;
+    s.m_dBattenT = m_lacing.m_dThick;
+    s.m_dBattenPitch = m_lacing.m_dPitch;
+    if (s.m_dBattenPitch <= s.m_dBattenWidth) {
+      return CCaseFault{"section.lacing.pitch",
+                        {"不大于缀板宽度", "is not above the width of the battens"},
+                        {"请给出缀板中心距", "give the distance of their centres"}};
+    }
+    s.m_dL1 = std::isnan(m_lacing.m_dL1) ? s.m_dBattenPitch - s.m_dBattenWidth : m_lacing.m_dL1;
+    return LimbLength();
+  }
+
+  std::optional<CCaseFault> LimbLength() const {
+    if (IsPositive(s.m_dL1)) return std::nullopt;
+    return CCaseFault{"section.lacing.l1",
+                      {"不可用", "is not possible"},
+                      {"请给出大于 0 的长度 mm", "give a length above 0 mm"}};
+  }
+
+  void Use() {
+    const CText limbs = {"由各肢的表列值按平行轴定理", "of the limbs' cells, by parallel axes"};
+    const CText cell = {"分肢的最小回转半径", "the least radius of the limbs"};
+    const CText bar = {"缀条的表列值", "of the bar's cells"};
+    m_lattice.m_arrUsed = {
+        {"A", {"面积", "area"}, s.m_dA, "mm²", limbs},
+        {"i_x", {"回转半径", "radius of gyration"}, s.m_dRx, "mm", limbs},
+        {"i_y", {"回转半径", "radius of gyration"}, s.m_dRy, "mm", limbs},
+        {"W_x", {"截面模量（较小侧）", "modulus, the lesser of both sides"}, s.m_dWx, "mm³", limbs},
+        {"i_1", {"分肢回转半径", "radius of a limb"}, s.m_dLimbR1, "mm", cell}};
+    if (s.m_nBond != CLatticeBond::Lacing) return;
+    m_lattice.m_arrUsed.push_back({"A_d", {"缀条面积", "area of a bar"}, s.m_dBarA, "mm²", bar});
+    m_lattice.m_arrUsed.push_back(
+        {"i_d", {"缀条最小回转半径", "least radius of a bar"}, s.m_dBarR, "mm", bar});
+  }
+
+  const CSteelItemGeGou m_column;
+  const CLacingInput& m_lacing;
+  CMemberLattice& m_lattice;
+  CLatticeSection& s;
+  CLatticeLimbs m_limbs;
+};
+
+}  // namespace
+
+std::optional<CCaseFault> ReadMemberLattice(const CDataItem& row, const CLacingInput& lacing,
+                                            CMemberLattice& lattice) {
+  return CLatticeReader(row, lacing, lattice).Read();
+}
+
+}  // namespace orv3

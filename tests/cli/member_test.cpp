@@ -1,0 +1,95 @@
+// orv3cal check member and choose, run as a user runs them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "cli/run_program.h"
+
+namespace {
+
+const std::string kBody =
+    R"("section": {"style": "h", "sizes": [300, 400, 20, 10]}, "steel": "Q345",)"
+    R"( "lengths": {"x": 6000, "y": 3000})";
+
+CRunResult Check(const std::string& text, const std::string& options = "") {
+  const COwnFile file("member.json", text);
+  return RunProgram("check member " + file.m_strPath + " " + options + kData);
+}
+
+TEST(Member, EnvelopeNamesTheCombinationOfEachCheck) {
+  const std::string cases = "{" + kBody +
+                            R"(, "cases": [{"id": "A", "N": -1500},)"
+                            R"( {"id": "B", "N": -100, "Mx": [200000, 0]}]})";
+  const Json envelope = Json::parse(Check(cases, "--json").m_strOut);
+  double worst = 0;
+  for (const Json& check : envelope["checks"]) {
+    double greatest = 0;
+    std::string of;
+    for (const char* forces : {R"("N": -1500)", R"("N": -100, "Mx": [200000, 0])"}) {
+      const Json one = Json::parse(Check("{" + kBody + ", " + forces + "}", "--json").m_strOut);
+      for (const Json& each : one["checks"]) {
+        if (each["name"] != check["name"] || each["ratio"].get<double>() <= greatest) continue;
+        greatest = each["ratio"].get<double>();
+        of = std::string(forces).find("Mx") == std::string::npos ? "A" : "B";
+        EXPECT_TRUE(check["case"] != of || each["steps"] == check["steps"]);
+      }
+    }
+    EXPECT_EQ(check["ratio"].get<double>(), greatest) << check["name"];
+    EXPECT_EQ(check["case"], of) << check["name"];
+    worst = std::max(worst, greatest);
+  }
+  EXPECT_EQ(envelope["ratio"].get<double>(), worst);
+  ExpectHas(Check(cases, "--csv").m_strOut, {"lateral: B", "stability-z: A"});
+}
+
+TEST(Member, BothEditionsAndReport) {
+  const COwnFile report("member.html");
+  const std::string text = "[{" + kBody + R"(, "id": "<C1>", "N": -800}, {"N": 1}])";
+  const CRunResult run = Check(text, "--code both --lang en --json --report " + report.m_strPath);
+  EXPECT_EQ(run.m_nExit, 2);
+  const Json answer = Json::parse(run.m_strOut);
+  EXPECT_EQ(answer[0]["editions"][0]["code"], "2017");
+  EXPECT_EQ(answer[0]["editions"][1]["code"], "2003");
+  ExpectHas(report.Bytes(), {"2 pass", "2 refused", "&lt;C1&gt;", "D.0.5"});
+}
+
+TEST(Member, LatticeColumn) {
+  const std::string column =
+      R"x({"section": {"lattice": {"table": "双肢格构柱", "k(mm)": 300, "P1Type": "热轧普通槽钢",)x"
+      R"x( "P1No.": "[20a", "P1θ°": 90, "P2Type": "热轧普通槽钢", "P2No.": "[20a", "P2θ°": 270},)x"
+      R"x( "lacing": {"type": "lacing", "table": "热轧等边角钢", "no": "L45X5"}}, "steel": "Q235",)x"
+      R"x( "N": -600, "Mx": 20000, "lengths": {"x": 6000, "y": 6000}})x";
+  const Json answer = Json::parse(Check(column, "--json").m_strOut);
+  EXPECT_EQ(answer["checks"].back()["name"], "lacing");
+  EXPECT_NEAR(answer["results"]["A"].get<double>(), 5767.4, 1e-6);
+}
+
+TEST(Member, RefusedByName) {
+  struct CBad {
+    std::string text;
+    const char* told;
+  };
+  const CBad bad[] = {
+      {"{" + kBody + R"(, "cases": []})", "cases: holds no combination"},
+      {"{" + kBody + R"(, "cases": [5]})", "cases: 5 is not possible in a list"},
+      {"{" + kBody + R"(, "cases": [{"steel": "Q235"}]})", "cases.steel: is no key here"},
+      {"{" + kBody + R"(, "N": 5, "cases": [{"N": 1}]})", "N: stands beside cases"},
+      {"{" + kBody + R"(, "cases": [{"N": 1, "N": 2}]})", "N: stands twice"},
+      {"{" + kBody + R"(, "cases": [{"id": "a", "N": 1}, {"id": "a", "N": 2}]})",
+       "cases[a].id: stands twice"},
+      {"{" + kBody + R"(, "cases": [{}]})", "cases[1].N: stands with no force"},
+      {R"({"section": {"lattice": {"table": "x"}}, "steel": "Q235", "N": -1})",
+       "section.lattice.table"},
+      {R"({"section": {"style": "h", "sizes": [300, 400, 20, 10], "lacing": {"type": "lacing"}},)"
+       R"( "steel": "Q235", "N": 1, "lengths": {"x": 1, "y": 1}})",
+       "section.lacing: is for lattice columns"},
+  };
+  for (const CBad& each : bad) {
+    const CRunResult run = Check(each.text);
+    EXPECT_EQ(run.m_nExit, 2) << each.text;
+    EXPECT_EQ(run.m_strOut, "") << each.text;
+    ExpectHas(run.m_strError, {each.told});
+  }
+}
+
+}  // namespace
