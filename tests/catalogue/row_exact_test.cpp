@@ -241,6 +241,32 @@ void MeetCoarseRows(std::size_t step) {
 
 TEST(RowExact, MeetsAnotherMethod) { MeetCoarseRows(41); }
 
+// What no row and no style has: cells that share a wall, a hole to one side, a slit.
+TEST(RowExact, MeetsAnotherMethodInCells) {
+  const auto box = [](double left, double bottom, double right, double top) {
+    return Reversed(RectPath(left, bottom, right - left, top - bottom));
+  };
+  const std::vector<CPath> sections[] = {
+      {RectPath(0, 0, 80, 50), box(6, 6, 36, 44), box(40, 6, 74, 44)},
+      {RectPath(0, 0, 60, 40), box(30, 12, 50, 28)},
+      {CPath{{{0, 0, 0},
+              {60, 0, 0},
+              {60, 24, 0},
+              {54, 24, 0},
+              {54, 6, 0},
+              {6, 6, 0},
+              {6, 54, 0},
+              {54, 54, 0},
+              {54, 26, 0},
+              {60, 26, 0},
+              {60, 60, 0},
+              {0, 60, 0}},
+             true}},
+  };
+  for (const auto& loops : sections)
+    MeetCoarseFigures(loops, ExactProperties(loops), std::to_string(loops.size()));
+}
+
 // A minute's work; as docs/section-solver.md tells.
 TEST(RowExact, DISABLED_MeetsAnotherMethodInEveryRow) { MeetCoarseRows(1); }
 
