@@ -59,18 +59,18 @@ class CGroupPainter {
   }
 
  private:
-  // At the middle of each weld, as many as can be told apart.
+  // At a third of each weld, since the axes pass its middle; as many as can be told apart.
   void Numbers() {
     const std::vector<CWeldLine>& welds = m_check.Welds();
     if (welds.size() > kMostNumbered) return;
     for (std::size_t i = 0; i < welds.size(); ++i) {
       const CWeldLine& weld = welds[i];
-      const CPoint middle = At((weld.m_dX1 + weld.m_dX2) / 2, (weld.m_dY1 + weld.m_dY2) / 2);
+      const CPoint at = At((2 * weld.m_dX1 + weld.m_dX2) / 3, (2 * weld.m_dY1 + weld.m_dY2) / 3);
       // Beside the weld, above it where it lies flat.
       const double x = -(weld.m_dY2 - weld.m_dY1) / weld.Length();
       const double y = (weld.m_dX2 - weld.m_dX1) / weld.Length();
       const double sense = y < -1e-9 || (y <= 1e-9 && x < 0) ? -12 : 12;
-      m_drawing.AddLabel({.m_at = {middle.x + sense * x, middle.y + sense * y},
+      m_drawing.AddLabel({.m_at = {at.x + sense * x, at.y + sense * y},
                           .m_strText = FromUtf8(std::to_string(i + 1)),
                           .m_nAnchor = CAnchor::Middle});
     }
