@@ -104,8 +104,8 @@ void CLatticeCheck::Give() {
   r.m_szClassX = r.m_szClassY = "b";
   a.Step("f", nullptr, m.m_dF, "N/mm²");
   a.Step("fv", nullptr, m.m_dFv, "N/mm²");
-  a.Step("fy", nullptr, NominalYield(m.m_nGrade), "N/mm²");
-  a.Step("εk", "√(235/{fy})", r.m_dEpsilonK);
+  a.Step("fyk", nullptr, NominalYield(m.m_nGrade), "N/mm²");
+  a.Step("εk", "√(235/{fyk})", r.m_dEpsilonK);
   a.Step("A", nullptr, s.m_dA, "mm²");
   a.Step("N", nullptr, m_dN, "N");
   if (m_dM > 0) a.Step("Mx", nullptr, m_dM, "N·mm");

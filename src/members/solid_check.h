@@ -60,13 +60,20 @@ class CSolidCheck {
   void Strength();
   double StrengthRatio(double Mx, bool bSteps);
   void Shear();
-  // A place that carries a shear: its distances from the centroid, the first moment beyond it and
-  // the thickness there.
+  // A place that carries a shear: its distances from the centroid, and the cuts of Vy and Vx there;
+  // one without a first moment carries none.
   struct CPlace {
-    bool m_bVx;
-    double m_dY, m_dX, m_dS, m_dT;
+    double m_dY, m_dX;
+    CShearCut m_vy, m_vx;
+  };
+  struct CPlaceStress {
+    double m_dSigma, m_dTauX, m_dTauY, m_dTau;  // N/mm2
   };
   std::vector<CPlace> ShearedPlaces() const;
+  void AddWebPlaces(std::vector<CPlace>& places) const;
+  void AddFlangePlaces(std::vector<CPlace>& places) const;
+  CPlaceStress StressAt(const CPlace& place) const;
+  void GivePlace(const CPlace& place);
   void Combined();
   void CombinedRound();
   // --- solid_stability.cpp

@@ -18,10 +18,29 @@ CSolidCheck::CSolidCheck(const CMemberSection& section, const CMemberSteel& stee
   m_nSide = m_dMx >= 0 ? CSide::Top : CSide::Bottom;
 }
 
+namespace {
+
+// A section whose edges differ, which Mx bends in one sense and in the other: the lesser moment may
+// compress the weaker edge.
+bool IsBentBothWays(const CMemberSection& s, const CMomentCourse& course) {
+  const bool bUnequal =
+      s.m_nShape == CMemberShape::T || (s.m_nShape == CMemberShape::I && !s.IsEqualFlanged());
+  return bUnequal && course.IsReversed();
+}
+
+}  // namespace
+
 void CheckSolidMember(const CMemberSection& section, const CMemberSteel& steel,
                       const CMemberLoads& loads, CMemberAnswer& answer) {
   answer.Clear();
   CSolidCheck(section, steel, loads, answer).Run();
+  if (answer.IsRefused() || !IsBentBothWays(section, loads.m_x)) return;
+  CMemberLoads turned = loads;
+  turned.m_x.m_bOther = true;
+  CMemberAnswer other;
+  CSolidCheck(section, steel, turned, other).Run();
+  answer.TakeWorse(other);
+  answer.Note(CMemberNote::OppositeMoment);
 }
 
 void CSolidCheck::Run() {
@@ -49,9 +68,9 @@ void CSolidCheck::Give() {
   r.m_dA = s.m_dA;
   a.Step("f", nullptr, m.m_dF, "N/mm²");
   a.Step("fv", nullptr, m.m_dFv, "N/mm²");
-  a.Step("fy", nullptr, NominalYield(m.m_nGrade), "N/mm²");
+  a.Step("fyk", nullptr, NominalYield(m.m_nGrade), "N/mm²");
   if (m.m_dFu > 0) a.Step("fu", nullptr, m.m_dFu, "N/mm²");
-  a.Step("εk", "√(235/{fy})", r.m_dEpsilonK);
+  a.Step("εk", "√(235/{fyk})", r.m_dEpsilonK);
   a.Step("A", nullptr, s.m_dA, "mm²");
   a.Step("Ix", nullptr, s.m_dIx, "mm⁴");
   a.Step("Iy", nullptr, s.m_dIy, "mm⁴");

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 #include <vector>
 
 #include "members/beam_column.h"
@@ -136,36 +137,84 @@ void CSolidCheck::Shear() {
           bY ? tauY / m.m_dFv : tauX / m.m_dFvX);
 }
 
-// The ends of the webs and of the flanges that carry a shear, and the cuts where it is greatest.
-// The moments have their greatest magnitude and the sign that adds to N.
+// Where a shear is greatest or meets the normal stress of a corner. The moments have their greatest
+// magnitude and the sign that adds to N; so have the flows of both shears.
 std::vector<CSolidCheck::CPlace> CSolidCheck::ShearedPlaces() const {
   std::vector<CPlace> places;
-  const double Vx = std::fabs(q.m_dVx), Vy = std::fabs(q.m_dVy);
-  const bool bBox = s.m_nShape == CMemberShape::Box;
-  const double edge = std::max(s.m_dIx / s.m_dWTop, s.m_dIx / s.m_dWBottom);
-  const double side = s.m_dIy / s.m_dWSide;
-  if (Vy > 0) {
-    // My in the web: the outer face of a box, the back of a channel; I and T have it on the axis y.
-    const double x = bBox                                   ? side
-                     : s.m_nShape == CMemberShape::Channel  ? s.m_dWidth - side
-                     : s.m_nShape == CMemberShape::SolidBar ? side
-                                                            : 0;
-    if (s.m_dTw > 0) {
-      const double t = s.m_nWebs * s.m_dTw;
-      places.push_back({false, s.m_dWebTop, x, s.m_dSTop, t});
-      places.push_back({false, s.m_dWebBottom, x, s.m_dSBottom, t});
-    }
-    places.push_back({false, 0, x, s.m_cutY.m_dS, s.m_cutY.m_dT});
-  }
-  if (Vx > 0) {
-    if (bBox) {
-      const double wall = (s.m_dWidth - s.m_dB0) / 2;
-      places.push_back({true, edge, s.m_dB0 / 2, s.m_dHeight * wall * (s.m_dWidth - wall) / 2,
-                        s.m_top.m_dThick + s.m_bottom.m_dThick});
-    }
-    places.push_back({true, edge, 0, s.m_cutX.m_dS, s.m_cutX.m_dT});
-  }
+  if (q.m_dVy != 0) AddWebPlaces(places);
+  if (q.m_dVx != 0) AddFlangePlaces(places);
+  if (q.m_dVx != 0 && q.m_dVy != 0 && s.m_nShape == CMemberShape::SolidBar)
+    places.push_back({0, 0, s.m_cutY, s.m_cutX});
   return places;
+}
+
+// The ends of the web and the cut of the greatest Vy.
+void CSolidCheck::AddWebPlaces(std::vector<CPlace>& places) const {
+  const double side = s.m_dIy / s.m_dWSide, back = s.m_dWidth - side;
+  const double web = s.m_dH0 * s.m_dTw;
+  double x = 0;  // I and T have their web on the axis y
+  CShearCut vx;  // through both ends of a web
+  if (s.m_nShape == CMemberShape::Box) {
+    x = side;
+    vx = {web * (s.m_dWidth - s.m_dTw) / 2, 2 * s.m_dTw};
+  } else if (s.m_nShape == CMemberShape::Channel) {
+    x = back;
+    vx = {web * (back - s.m_dTw / 2), 2 * s.m_dTw};
+  } else if (s.m_nShape == CMemberShape::SolidBar) {
+    x = side;
+  }
+  if (s.m_dTw > 0) {
+    const double t = s.m_nWebs * s.m_dTw;
+    places.push_back({s.m_dWebTop, x, {s.m_dSTop, t}, vx});
+    places.push_back({s.m_dWebBottom, x, {s.m_dSBottom, t}, vx});
+  }
+  places.push_back({0, x, s.m_cutY, {}});
+}
+
+// The cuts of the greatest Vx and, of a box, the ends of its flanges; with Vy, the flow of the
+// flange's part beyond.
+void CSolidCheck::AddFlangePlaces(std::vector<CPlace>& places) const {
+  const double top = s.m_dIx / s.m_dWTop, bottom = s.m_dIx / s.m_dWBottom;
+  const auto add = [&](const CMemberFlange& f, double y, double beyond, double x, CShearCut vx) {
+    const double S = beyond * f.m_dThick * (y - f.m_dThick / 2);
+    places.push_back({y, x, {S, f.m_dThick}, vx});
+  };
+  switch (s.m_nShape) {
+    case CMemberShape::Box: {
+      const double wall = (s.m_dWidth - s.m_dB0) / 2;
+      const double S = s.m_dHeight * wall * (s.m_dWidth - wall) / 2;
+      const double thick = s.m_top.m_dThick + s.m_bottom.m_dThick;
+      add(s.m_top, top, s.m_dB0 / 2, s.m_dB0 / 2, {S, thick});
+      return add(s.m_top, top, 0, 0, s.m_cutX);
+    }
+    case CMemberShape::I:
+    case CMemberShape::T:
+      for (const auto& [f, y] : {std::pair{s.m_top, top}, {s.m_bottom, bottom}}) {
+        const double S = f.m_dThick * f.m_dWidth * f.m_dWidth / 8;
+        if (S > 0) add(f, y, f.m_dWidth / 2, 0, {S, f.m_dThick});
+      }
+      return;
+    case CMemberShape::Channel:
+      return add(s.m_top, top, s.m_dIy / s.m_dWSide, 0, s.m_cutX);
+    default:
+      places.push_back({std::max(top, bottom), 0, {}, s.m_cutX});
+  }
+}
+
+CSolidCheck::CPlaceStress CSolidCheck::StressAt(const CPlace& p) const {
+  const auto flow = [](double V, const CShearCut& cut, double I) {
+    return V == 0 || cut.m_dS == 0 ? 0 : std::fabs(V) * cut.m_dS / (I * cut.m_dT);
+  };
+  CPlaceStress stress;
+  stress.m_dSigma = std::fabs(q.m_dN) / (q.m_dNetA * s.m_dA) +
+                    std::fabs(m_dMx) * p.m_dY / (q.m_dNetW * s.m_dIx) +
+                    m_dMy * p.m_dX / (q.m_dNetW * s.m_dIy);
+  stress.m_dTauX = flow(q.m_dVx, p.m_vx, s.m_dIy);
+  stress.m_dTauY = flow(q.m_dVy, p.m_vy, s.m_dIx);
+  // Along a wall they add; in a solid bar they are at right angles.
+  stress.m_dTau = s.m_nShape == CMemberShape::SolidBar ? std::hypot(stress.m_dTauX, stress.m_dTauY)
+                                                       : stress.m_dTauX + stress.m_dTauY;
+  return stress;
 }
 
 // 6.1.5 without sigma-c at the worst place that carries a shear; 2003: 4.1.4.
@@ -173,47 +222,59 @@ void CSolidCheck::Combined() {
   if ((q.m_dVx == 0 && q.m_dVy == 0) || (q.m_dN == 0 && !HasMoment())) return;
   if (s.m_nShape == CMemberShape::Tube || s.m_nShape == CMemberShape::SolidRound)
     return CombinedRound();
-  const double An = q.m_dNetA * s.m_dA, Inx = q.m_dNetW * s.m_dIx, Iny = q.m_dNetW * s.m_dIy;
-  const double N = std::fabs(q.m_dN), Mx = std::fabs(m_dMx);
-  const auto normal = [&](const CPlace& p) {
-    return N / An + Mx * p.m_dY / Inx + m_dMy * p.m_dX / Iny;
-  };
-  const auto shear = [&](const CPlace& p) {
-    return p.m_bVx ? std::fabs(q.m_dVx) * p.m_dS / (s.m_dIy * p.m_dT)
-                   : std::fabs(q.m_dVy) * p.m_dS / (s.m_dIx * p.m_dT);
-  };
-  const auto both = [&](const CPlace& p) {
-    return normal(p) == 0 ? -1 : CombinedStress(normal(p), shear(p));  // shear alone is 6.1.3
-  };
   const std::vector<CPlace> places = ShearedPlaces();
-  const CPlace& p = *std::max_element(
-      places.begin(), places.end(),
-      [&](const CPlace& left, const CPlace& right) { return both(left) < both(right); });
-  if (both(p) < 0) return;
+  const CPlace* worst = nullptr;
+  double most = 0;
+  for (const CPlace& place : places) {
+    const CPlaceStress stress = StressAt(place);
+    if (stress.m_dSigma == 0) continue;  // shear alone is 6.1.3
+    const double both = CombinedStress(stress.m_dSigma, stress.m_dTau);
+    if (worst != nullptr && both <= most) continue;
+    worst = &place;
+    most = both;
+  }
+  if (worst == nullptr) return;
   a.Open(CMemberCheckKind::Combined, Clause("6.1.5", "4.1.4"));
-  a.Step("An", nullptr, An, "mm²");
-  const bool bMx = Mx * p.m_dY != 0, bMy = m_dMy * p.m_dX != 0;
+  GivePlace(*worst);
+  a.Close("√({σ}² + 3·{τ}²)/(1.1·{f})", most / (1.1 * F()));
+}
+
+void CSolidCheck::GivePlace(const CPlace& p) {
+  const CPlaceStress stress = StressAt(p);
+  a.Step("An", nullptr, q.m_dNetA * s.m_dA, "mm²");
+  const bool bMx = m_dMx * p.m_dY != 0, bMy = m_dMy * p.m_dX != 0;
   if (bMx) {
-    a.Step("Mx", nullptr, Mx, "N·mm");
+    a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
     a.Step("y1", nullptr, p.m_dY, "mm");
-    a.Step("Inx", nullptr, Inx, "mm⁴");
+    a.Step("Inx", nullptr, q.m_dNetW * s.m_dIx, "mm⁴");
   }
   if (bMy) {
     a.Step("My", nullptr, m_dMy, "N·mm");
     a.Step("x1", nullptr, p.m_dX, "mm");
-    a.Step("Iny", nullptr, Iny, "mm⁴");
+    a.Step("Iny", nullptr, q.m_dNetW * s.m_dIy, "mm⁴");
   }
   a.Step("σ",
          bMx && bMy ? "{N}/{An} + {Mx}·{y1}/{Inx} + {My}·{x1}/{Iny}"
          : bMx      ? "{N}/{An} + {Mx}·{y1}/{Inx}"
          : bMy      ? "{N}/{An} + {My}·{x1}/{Iny}"
                     : "{N}/{An}",
-         normal(p), "N/mm²");
-  a.Step(p.m_bVx ? "Vx" : "Vy", nullptr, std::fabs(p.m_bVx ? q.m_dVx : q.m_dVy), "N");
-  a.Step("S1", nullptr, p.m_dS, "mm³");
-  a.Step("t", nullptr, p.m_dT, "mm");
-  a.Step("τ", p.m_bVx ? "{Vx}·{S1}/({Iy}·{t})" : "{Vy}·{S1}/({Ix}·{t})", shear(p), "N/mm²");
-  a.Close("√({σ}² + 3·{τ}²)/(1.1·{f})", both(p) / (1.1 * F()));
+         stress.m_dSigma, "N/mm²");
+  const bool bX = stress.m_dTauX > 0, bY = stress.m_dTauY > 0;
+  if (bX) {
+    a.Step("Vx", nullptr, std::fabs(q.m_dVx), "N");
+    a.Step("S1x", nullptr, p.m_vx.m_dS, "mm³");
+    a.Step("tx", nullptr, p.m_vx.m_dT, "mm");
+    a.Step(bY ? "τx" : "τ", "{Vx}·{S1x}/({Iy}·{tx})", stress.m_dTauX, "N/mm²");
+  }
+  if (bY) {
+    a.Step("Vy", nullptr, std::fabs(q.m_dVy), "N");
+    a.Step("S1y", nullptr, p.m_vy.m_dS, "mm³");
+    a.Step("ty", nullptr, p.m_vy.m_dT, "mm");
+    a.Step(bX ? "τy" : "τ", "{Vy}·{S1y}/({Ix}·{ty})", stress.m_dTauY, "N/mm²");
+  }
+  if (bX && bY)
+    a.Step("τ", s.m_nShape == CMemberShape::SolidBar ? "√({τx}² + {τy}²)" : "{τx} + {τy}",
+           stress.m_dTau, "N/mm²");
 }
 
 // A round section at every degree of its circumference, all signs adding.

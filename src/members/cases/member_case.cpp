@@ -172,8 +172,7 @@ std::string SectionName(const CMemberCase& input) {
   std::string name;
   const auto add = [&name](const std::string& text) { name += text + '\n'; };
   const auto addNumber = [&name](double value) {
-    if (!std::isnan(value)) name += ToUtf8(FormatShortest(value));
-    name += '\n';
+    name.append(reinterpret_cast<const char*>(&value), sizeof value);
   };
   add(input.m_strTable);
   add(input.m_strNo);
@@ -516,6 +515,7 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
   CMemberRow row;  // what the steel asks of it
   row.m_dThickest = lattice.m_dThickest;
   row.m_dWebThick = row.m_dFlangeThick = lattice.m_dWebThick;
+  row.m_bTube = lattice.m_bTubes;
   if (!ReadEdition(input) || !ReadSteel(input, row) || !ReadForces(input)) return false;
   const auto refuse = [this](const char* key) {
     return Refuse(key, {"格构柱不用", "has no place for a lattice column"},

@@ -1,0 +1,95 @@
+// Members checked one after another: the formulas alone, cases with their sections by name, and a
+// CSV through the command. No library to measure beside was found.
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "framework/utf8.h"
+#include "members/cases/member_case.h"
+#include "sections/load_data_table.h"
+
+namespace {
+
+// Beam-columns of rolled and welded H, each with forces of its own.
+std::vector<orv3::CMemberCase> Columns(std::size_t count) {
+  static constexpr const char* kRolled[] = {"HW300X300", "HW350X350", "HW400X400", "HW250X250"};
+  std::vector<orv3::CMemberCase> cases(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    orv3::CMemberCase& c = cases[i];
+    if (i % 2 == 0) {
+      c.m_strTable = "热轧宽翼缘H型钢";
+      c.m_strNo = kRolled[i / 2 % 4];
+    } else {
+      c.m_strStyle = "h";
+      c.m_sizes.m_arrEach = {300, 400 + 10.0 * static_cast<double>(i / 2 % 8), 20, 10};
+      c.m_strEdges = "flame-cut";
+    }
+    c.m_strSteel = i % 3 == 0 ? "Q235" : "Q345";
+    c.m_dN = -400 - static_cast<double>(i % 400);
+    c.m_Mx.m_dUniform = 50000 + 100 * static_cast<double>(i % 500);
+    c.m_dVy = 60;
+    c.m_strLoad = "uniform";
+    c.m_dLx = 6000;
+    c.m_dLy = 3000 + static_cast<double>(i % 1000);
+  }
+  return cases;
+}
+
+void CheckCases(benchmark::State& state) {
+  CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
+  const auto cases = Columns(static_cast<std::size_t>(state.range(0)));
+  orv3::CMemberCheck check;
+  for (auto _ : state) {
+    for (const auto& each : cases) {
+      if (!check.Run(each)) {
+        std::fprintf(stderr, "members_bench: a case was refused\n");
+        std::exit(1);
+      }
+      benchmark::DoNotOptimize(check.Pass());
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+  state.SetComplexityN(state.range(0));
+}
+BENCHMARK(CheckCases)->RangeMultiplier(10)->Range(100, 100000)->Complexity(benchmark::oN);
+
+#ifdef ORV3CAL_PROGRAM
+// 100,000 cases of a CSV through the command, its start and its output file included: the lines of
+// examples/members.csv over and over.
+void CheckCommandCsv(benchmark::State& state) {
+  const auto count = static_cast<std::size_t>(state.range(1));
+  {
+    std::ifstream example(ORV3CAL_EXAMPLES "/members.csv");
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(example, line);) lines.push_back(line);
+    if (lines.size() < 2) return state.SkipWithError("examples/members.csv cannot be read");
+    std::ofstream file("members_bench.csv");
+    file << lines[0] << '\n';
+    for (std::size_t i = 0; i < count; ++i) file << lines[1 + i % (lines.size() - 1)] << '\n';
+  }
+  const std::string command = ORV3CAL_PROGRAM " check member members_bench.csv --csv --code " +
+                              std::to_string(state.range(0)) + " > members_out.csv";
+  for (auto _ : state) {
+    const int status = std::system(command.c_str());
+    if (status == -1) state.SkipWithError("the command did not start");
+  }
+  std::remove("members_bench.csv");
+  std::remove("members_out.csv");
+  state.SetItemsProcessed(state.iterations() * state.range(1));
+}
+BENCHMARK(CheckCommandCsv)
+    ->ArgNames({"code", "cases"})
+    ->ArgsProduct({{2003, 2017}, {10000, 100000}})
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime();
+#endif
+
+}  // namespace
+
+BENCHMARK_MAIN();
