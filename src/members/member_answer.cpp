@@ -139,6 +139,11 @@ constexpr CNoteText kNotes[] = {
      "load",
      {"有横向荷载而未给其剪力：缀材按 7.2.7 的剪力验算",
       "a load without its shear force: the bond is checked for that of 7.2.7 (2003: 5.1.6) alone"}},
+    {CMemberNote::OppositeMoment,
+     "Mx",
+     {"弯矩变号而截面两边不同：反号的最大弯矩按沿全长均匀分布另行验算，偏于安全，取较不利者",
+      "Mx changes its sense and the edges differ: the greatest of the other sense is checked too, "
+      "as if uniform, which is safe; the worse is shown"}},
     {CMemberNote::UnusedSupports, "supports", {"未用到：没有 Mx", "is not used: there is no Mx"}},
 };
 
@@ -206,6 +211,51 @@ void CMemberAnswer::Close(const char* formula, double ratio) {
 void CMemberAnswer::Note(CMemberNote note) {
   if (std::find(m_arrNote.begin(), m_arrNote.end(), note) == m_arrNote.end())
     m_arrNote.push_back(note);
+}
+
+void CMemberAnswer::TakeWorse(const CMemberAnswer& other) {
+  if (other.m_fault) {
+    m_fault = other.m_fault;
+    return;
+  }
+  const char* worse =
+      std::max(std::string_view(m_results.m_szClass), std::string_view(other.m_results.m_szClass))
+          .data();
+  if (other.Worst().m_dRatio > Worst().m_dRatio) m_results = other.m_results;
+  m_results.m_szClass = worse;
+  std::vector<CMemberStep> steps(Given().begin(), Given().end());
+  std::vector<CMemberCheckPart> parts;
+  const auto take = [&](const CMemberAnswer& from, CMemberCheckPart part) {
+    const auto own = from.Steps(part);
+    part.m_nFirst = steps.size();
+    steps.insert(steps.end(), own.begin(), own.end());
+    part.m_nEnd = steps.size();
+    parts.push_back(part);
+  };
+  for (const CMemberCheckPart& part : m_arrPart) {
+    const CMemberCheckPart* same = other.Find(part.m_nKind);
+    const bool bOther = same != nullptr && !(same->m_dRatio <= part.m_dRatio);
+    take(bOther ? other : *this, bOther ? *same : part);
+  }
+  for (const CMemberCheckPart& part : other.m_arrPart) {
+    if (Find(part.m_nKind) == nullptr) take(other, part);
+  }
+  m_arrStep = std::move(steps);
+  m_arrPart = std::move(parts);
+  for (const CMemberNote note : other.m_arrNote) Note(note);
+  const auto beyond = [](const CMemberPlate& plate) {
+    return plate.m_class ? static_cast<int>(*plate.m_class) : std::numeric_limits<int>::max();
+  };
+  for (const CMemberPlate& plate : other.m_arrPlate) {
+    const auto same = std::find_if(m_arrPlate.begin(), m_arrPlate.end(), [&](const auto& each) {
+      return each.m_nElement == plate.m_nElement;
+    });
+    if (same == m_arrPlate.end()) {
+      m_arrPlate.push_back(plate);
+    } else if (beyond(plate) > beyond(*same)) {
+      *same = plate;
+    }
+  }
 }
 
 bool CMemberAnswer::Pass() const noexcept {

@@ -104,6 +104,7 @@ enum class CMemberNote : std::uint8_t {
   LimbLength,
   BondJoints,
   LatticeShear,
+  OppositeMoment,
 };
 ORV3CAL_API CTextLiteral MemberNoteText(CMemberNote note) noexcept;
 ORV3CAL_API const char* MemberNoteKey(CMemberNote note) noexcept;
@@ -122,6 +123,9 @@ class ORV3CAL_API CMemberAnswer {
   // but for the last digits of a double.
   void Close(const char* formula, double ratio);
   void Note(CMemberNote note);
+  // Of each check and each plate the worse one of both answers, of the figures those of the one
+  // that governs. The steps of a check name figures of its own or those given alike in both.
+  void TakeWorse(const CMemberAnswer& other);
   void Plate(const CMemberPlate& plate) { m_arrPlate.push_back(plate); }
   // What is not covered, by the key that asks for it.
   void Refuse(const char* key, CText what, CText right) {

@@ -18,10 +18,32 @@ CSolidCheck::CSolidCheck(const CMemberSection& section, const CMemberSteel& stee
   m_nSide = m_dMx >= 0 ? CSide::Top : CSide::Bottom;
 }
 
+namespace {
+
+// Of a section whose edges differ, the extreme of Mx that bends it in the other sense than the
+// governing one; 0 for none.
+double OppositeMoment(const CMemberSection& s, const CMomentCourse& course) {
+  const bool bUnequal =
+      s.m_nShape == CMemberShape::T || (s.m_nShape == CMemberShape::I && !s.IsEqualFlanged());
+  const double most = course.Most(), least = course.Least();
+  if (!bUnequal || most <= 0 || least >= 0) return 0;
+  return course.Governing() > 0 ? least : most;
+}
+
+}  // namespace
+
 void CheckSolidMember(const CMemberSection& section, const CMemberSteel& steel,
                       const CMemberLoads& loads, CMemberAnswer& answer) {
   answer.Clear();
   CSolidCheck(section, steel, loads, answer).Run();
+  const double opposite = OppositeMoment(section, loads.m_x);
+  if (answer.IsRefused() || opposite == 0) return;
+  CMemberLoads turned = loads;
+  turned.m_x = {opposite, opposite};
+  CMemberAnswer other;
+  CSolidCheck(section, steel, turned, other).Run();
+  answer.TakeWorse(other);
+  answer.Note(CMemberNote::OppositeMoment);
 }
 
 void CSolidCheck::Run() {

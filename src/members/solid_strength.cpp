@@ -212,9 +212,8 @@ CSolidCheck::CPlaceStress CSolidCheck::StressAt(const CPlace& p) const {
   stress.m_dTauX = flow(q.m_dVx, p.m_vx, s.m_dIy);
   stress.m_dTauY = flow(q.m_dVy, p.m_vy, s.m_dIx);
   // Along a wall they add; in a solid bar they are at right angles.
-  stress.m_dTau = s.m_nShape == CMemberShape::SolidBar
-                      ? std::hypot(stress.m_dTauX, stress.m_dTauY)
-                      : stress.m_dTauX + stress.m_dTauY;
+  stress.m_dTau = s.m_nShape == CMemberShape::SolidBar ? std::hypot(stress.m_dTauX, stress.m_dTauY)
+                                                       : stress.m_dTauX + stress.m_dTauY;
   return stress;
 }
 

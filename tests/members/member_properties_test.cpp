@@ -45,6 +45,7 @@ CMemberCase Column() {
   c.m_Mx.m_dUniform = 100000;
   c.m_My.m_dUniform = 20000;
   c.m_dVy = 80;
+  c.m_dVx = 30;
   return c;
 }
 
@@ -54,6 +55,7 @@ TEST_F(CMembers, RatiosGrowWithForcesAndLengths) {
       [](CMemberCase& c) { c.m_Mx.m_dUniform *= 1.1; },
       [](CMemberCase& c) { c.m_My.m_dUniform *= 1.1; },
       [](CMemberCase& c) { c.m_dVy *= 1.1; },
+      [](CMemberCase& c) { c.m_dVx *= 1.1; },
       [](CMemberCase& c) { c.m_dLx *= 1.1; },
       [](CMemberCase& c) { c.m_dLy *= 1.1; },
   };
@@ -77,6 +79,7 @@ TEST_F(CMembers, SignsOfMomentsDoNotMatterToSymmetricSections) {
   mirrored.m_Mx.m_dUniform *= -1;
   mirrored.m_My.m_dUniform *= -1;
   mirrored.m_dVy *= -1;
+  mirrored.m_dVx *= -1;
   const CRatios a = RatiosOf(m_check, Column()), b = RatiosOf(m_check, mirrored);
   for (std::size_t i = 0; i < kMemberCheckKinds; ++i)
     EXPECT_DOUBLE_EQ(a.m_arrRatio[i], b.m_arrRatio[i]);
@@ -108,6 +111,24 @@ TEST_F(CMembers, ALittleCompressionHidesNothing) {
   }
 }
 
+// Where the edges differ, moments of both senses are held as each of them by itself would be.
+TEST_F(CMembers, BothSensesOfAMomentAreHeld) {
+  CMemberCase tee = Row("剖分T型钢", "TW150X305", "Q235", 3000, 3000);
+  tee.m_Mx.m_arrEach = {30000, -25000};
+  CMemberCase hogging = tee;
+  hogging.m_Mx = {-25000, {}};
+  for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
+    m_check.SetEdition(edition);
+    const CRatios both = RatiosOf(m_check, tee);
+    EXPECT_EQ(std::ranges::count(m_check.Answer().Notes(), CMemberNote::OppositeMoment), 1);
+    const CRatios alone = RatiosOf(m_check, hogging);
+    ExpectNoLess(both, alone, "both senses");
+    EXPECT_GE(both.m_arrRatio[static_cast<std::size_t>(K::Web)],
+              alone.m_arrRatio[static_cast<std::size_t>(K::Web)]);
+    EXPECT_GT(alone.m_arrRatio[static_cast<std::size_t>(K::Web)], 0);
+  }
+}
+
 TEST_F(CMembers, ATurnedBoxHasExchangedChecks) {
   constexpr std::pair<K, K> kExchanged[] = {{K::StabilityX, K::StabilityY},
                                             {K::StabilityY, K::StabilityX},
@@ -132,6 +153,7 @@ TEST_F(CMembers, ATurnedBoxHasExchangedChecks) {
     turned.m_Mx.m_dUniform = loads.m_dMy;
     turned.m_My.m_dUniform = loads.m_dMx;
     turned.m_dVx = 30;
+    upright.m_dVx = turned.m_dVy = loads.m_dMy / 500;
     for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
       m_check.SetEdition(edition);
       const CRatios a = RatiosOf(m_check, upright), b = RatiosOf(m_check, turned);

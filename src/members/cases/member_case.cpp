@@ -539,6 +539,7 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
   CMemberRow row;  // what the steel asks of it
   row.m_dThickest = lattice.m_dThickest;
   row.m_dWebThick = row.m_dFlangeThick = lattice.m_dWebThick;
+  row.m_bTube = lattice.m_bTubes;
   if (!ReadEdition(input) || !ReadSteel(input, row) || !ReadForces(input)) return false;
   const auto refuse = [this](const char* key) {
     return Refuse(key, {"格构柱不用", "has no place for a lattice column"},

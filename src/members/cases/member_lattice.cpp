@@ -60,11 +60,25 @@ class CLatticeReader {
     if (s.m_nLimbs == 3)
       s.m_dPlaneAngle = std::atan2(m_limbs.m_dKy, m_limbs.m_dKx / 2) * 180 / std::numbers::pi;
     s.m_dLimbR1 = HUGE_VAL;
+    int tubes = 0;
     for (const CLatticeLimb& limb : m_limbs.m_arrLimb) {
+      if (auto fault = ThinWalled(limb.m_row)) {
+        fault->m_strKey = "section.lattice";
+        return fault;
+      }
+      const auto kind = FindSectionKind(limb.m_row.GetTableName().GetString());
+      if (kind == CSectionKind::RoundTube || kind == CSectionKind::PlateTube) ++tubes;
       s.m_dLimbR1 = std::min(s.m_dLimbR1, RowFigures(limb.m_row).m_dRleast);
       m_lattice.m_dThickest = std::max(m_lattice.m_dThickest, ThickestPlate(limb.m_row));
     }
     m_lattice.m_dWebThick = m_lattice.m_dThickest;
+    m_lattice.m_bTubes = tubes > 0;
+    if (tubes > 0 && tubes < s.m_nLimbs) {
+      return CCaseFault{"section.lattice",
+                        {"有的分肢是圆管，有的不是，不在验算范围内",
+                         "has tubes for some of its limbs, which is not covered"},
+                        {"请全部选用或不用圆管", "take tubes for all limbs, or for none"}};
+    }
     if (!(std::isfinite(s.m_dLimbR1) && s.m_dLimbR1 > 0)) {
       return CCaseFault{"section.lattice",
                         {"的分肢缺少最小回转半径", "has a limb without its least radius"},

@@ -29,13 +29,20 @@ CCaseFault Unsymmetric() {
       {"是不对称截面，不在验算范围内", "is an unsymmetric section, which is not covered"});
 }
 
-CCaseFault ThinWall(double t) {
-  const std::string is = ToUtf8(FormatShortest(t));
-  return {"section",
-          {"壁厚 " + is + " mm 的冷弯截面属冷弯薄壁型钢规范",
-           "a cold-formed section with a wall of " + is +
-               " mm belongs to the code of thin-walled sections"},
-          {"请给壁厚不小于 6 mm 的截面", "take a section with walls of at least 6 mm"}};
+bool IsColdFormed(CSectionKind kind) {
+  switch (kind) {
+    case K::SquareTube:
+    case K::RoundTube:
+    case K::ColdChannel:
+    case K::LippedChannel:
+    case K::LippedZ:
+    case K::SlantLippedZ:
+    case K::ColdAngle:
+    case K::LippedAngle:
+      return true;
+    default:
+      return false;
+  }
 }
 
 // Area and height above the inner edge of a flange of two root fillets of radius r, as shares.
@@ -302,7 +309,6 @@ std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
     }
     case K::SquareTube: {
       const double h = Cell(L"h(mm)"), t = Cell(L"t(mm)");
-      if (t < 6) return ThinWall(t);
       BoxOf(h, h, t, t, t, t);
       Buckling(B::RolledBox, B::RolledBox);
       return std::nullopt;
@@ -318,13 +324,10 @@ std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
       if (Cell(L"t1(mm)") != Cell(L"t2(mm)") || Cell(L"t3(mm)") != Cell(L"t4(mm)"))
         return Unsymmetric();
       break;
-    case K::RoundTube: {
-      const double t = Cell(L"t(mm)");
-      if (t < 6) return ThinWall(t);
-      TubeOf(Cell(L"d(mm)"), t);
+    case K::RoundTube:
+      TubeOf(Cell(L"d(mm)"), Cell(L"t(mm)"));
       Buckling(B::WeldedTube, B::WeldedTube);
       return std::nullopt;
-    }
     case K::PlateTube:
       TubeOf(2 * Cell(L"R(mm)"), Cell(L"R(mm)") - Cell(L"r(mm)"));
       Buckling(B::WeldedTube, B::WeldedTube);
@@ -341,14 +344,6 @@ std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
     case K::SolidTriangle:
       Solid(kind);
       return std::nullopt;
-    case K::ColdChannel:
-    case K::LippedChannel:
-    case K::LippedZ:
-    case K::SlantLippedZ:
-    case K::ColdAngle:
-    case K::LippedAngle:
-      if (Cell(L"t(mm)") < 6) return ThinWall(Cell(L"t(mm)"));
-      [[fallthrough]];
     default: {
       const std::string table = ToUtf8(CString(TableOf(kind).m_szName));
       return NotCovered(
@@ -377,6 +372,7 @@ std::optional<CCaseFault> CRowReader::Read() {
   if (!kind) return NotCovered({"不是截面表的行", "is no row of a section table"});
   m_figures = RowFigures(m_row);
   Figures(m_figures);
+  if (auto fault = ThinWalled(m_row)) return fault;
   if (auto fault = Plates(*kind)) return fault;
   const double all = s.m_dA + s.m_dIx + s.m_dIy + s.m_dRx + s.m_dRy;
   if (!(std::isfinite(all) && s.m_dA > 0 && s.m_dIx > 0 && s.m_dIy > 0)) {
@@ -392,6 +388,20 @@ std::optional<CCaseFault> CRowReader::Read() {
 
 std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member) {
   return CRowReader(row, member).Read();
+}
+
+std::optional<CCaseFault> ThinWalled(const CDataItem& row) {
+  const auto kind = FindSectionKind(row.GetTableName().GetString());
+  const int index = row.GetSignIndex(L"t(mm)");
+  if (!kind || !IsColdFormed(*kind) || index < 0) return std::nullopt;
+  const double t = ToDouble(row[index].m_strValue);
+  if (t >= 6) return std::nullopt;
+  const std::string is = ToUtf8(FormatShortest(t));
+  return CCaseFault{"section",
+                    {"壁厚 " + is + " mm 的冷弯截面属冷弯薄壁型钢规范",
+                     "a cold-formed section with a wall of " + is +
+                         " mm belongs to the code of thin-walled sections"},
+                    {"请给壁厚不小于 6 mm 的截面", "take a section with walls of at least 6 mm"}};
 }
 
 bool AddTorsion(CMemberRow& member) {

@@ -31,6 +31,9 @@ struct CMemberRow {
 // The fault names "section".
 ORV3CAL_API std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member);
 
+// Refuses a cold-formed section with walls under 6 mm, as a member or as a limb of one.
+std::optional<CCaseFault> ThinWalled(const CDataItem& row);
+
 // Adds what torsion asks: It, Iw and the shear centre of the outline, once. False when they cannot
 // be computed.
 ORV3CAL_API bool AddTorsion(CMemberRow& member);
