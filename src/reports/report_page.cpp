@@ -227,10 +227,10 @@ void CReportBody::Steps(std::span<const CReportStep> steps) {
   static constexpr CTextLiteral kFormula = {"公式与代入", "Formula and numbers"};
   static constexpr CTextLiteral kResult = {"结果", "Result"};
   static constexpr CTextLiteral kClause = {"条文", "Clause"};
-  m_strHtml += std::string("<table class=\"steps\"><thead><tr><th style=\"width:24%\">") +
+  m_strHtml += std::string("<table class=\"steps\"><thead><tr><th style=\"width:22%\">") +
                Text(kStep) + "</th><th>" + Text(kFormula) +
-               "</th><th class=\"num\" style=\"width:11%\">" + Text(kResult) +
-               "</th><th style=\"width:9%\"></th><th style=\"width:13%\">" + Text(kClause) +
+               "</th><th class=\"num\" style=\"width:14%\">" + Text(kResult) +
+               "</th><th style=\"width:8%\"></th><th style=\"width:13%\">" + Text(kClause) +
                "</th></tr></thead>\n";
   for (const CReportStep& step : steps) {
     m_strHtml += std::string("<tr><td>") + Text(step.m_name) + "</td><td>" + Equation(step) +
