@@ -90,6 +90,9 @@ constexpr CNoteText kNotes[] = {
      "load",
      {"有横向荷载的圆管：取最大合弯矩，β = 1",
       "a tube with a load in the span: the greatest resultant moment, β = 1"}},
+    {CMemberNote::TubeSway,
+     "sway",
+     {"有侧移的双向压弯圆管：β = 1", "a tube that sways under both moments: β = 1"}},
     {CMemberNote::SwayWithLoad,
      "sway",
      {"有侧移：βm = 1 − 0.36N/Ncr；柱脚铰接的单层框架柱和多层框架底层柱有横向荷载时规范取 1.0",
@@ -155,9 +158,9 @@ constexpr CNoteText kNotes[] = {
      {"未给：按 45°", "is not given: 45 degrees are taken"}},
     {CMemberNote::OppositeMoment,
      "Mx",
-     {"弯矩变号而截面两边不同：反号的最大弯矩按沿全长均匀分布另行验算，偏于安全，取较不利者",
-      "Mx changes its sense and the edges differ: the greatest of the other sense is checked too, "
-      "as if uniform, which is safe; the worse is shown"}},
+     {"弯矩变号而截面两边不同：反号的最大弯矩另行验算，取较不利者",
+      "Mx changes its sense and the edges differ: the greatest of the other sense is checked too; "
+      "the worse is shown"}},
     {CMemberNote::UnusedSupports, "supports", {"未用到：没有 Mx", "is not used: there is no Mx"}},
 };
 

@@ -89,6 +89,7 @@ enum class CMemberNote : std::uint8_t {
   TWebByAxial,
   AngleLengths,
   TubeLoads,
+  TubeSway,
   SwayWithLoad,
   HolesWithoutBolts,
   RolledEdges,

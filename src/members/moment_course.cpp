@@ -42,12 +42,13 @@ CEquivalentMoment InPlaneMoment(CCodeEdition edition, const CMomentCourse& cours
   const double greatest = course.Governing();
   if (edition == CCodeEdition::Gb2003) {
     if (bSway) return Times(1, greatest);
-    if (!course.HasLoad()) return Times(0.65 + 0.35 * course.EndRatio(), course.m_dM1);
+    if (!course.HasLoad()) return Times(0.65 + 0.35 * course.EndRatio(), greatest);
     return Times(course.IsSingleCurvature() ? 1 : 0.85, greatest);
   }
   if (bSway) return Times(1 - 0.36 * N / Ncr, greatest);
   const double ends = 0.6 + 0.4 * course.EndRatio();
-  if (!course.HasLoad()) return Times(ends, course.m_dM1);
+  if (!course.HasLoad()) return Times(ends, greatest);
+  if (course.m_bOther) return Times(1, greatest);
   const double load = 1 - (course.m_nLoad == CSpanLoad::Midspan ? 0.36 : 0.18) * N / Ncr;
   if (!course.HasEnds()) return Times(load, course.m_dMq);
   const double sum = load * course.m_dMq + ends * course.m_dM1;
@@ -56,7 +57,7 @@ CEquivalentMoment InPlaneMoment(CCodeEdition edition, const CMomentCourse& cours
 
 CEquivalentMoment OutOfPlaneMoment(const CMomentCourse& course) noexcept {
   if (course.IsZero()) return {};
-  if (!course.HasLoad()) return Times(0.65 + 0.35 * course.EndRatio(), course.m_dM1);
+  if (!course.HasLoad()) return Times(0.65 + 0.35 * course.EndRatio(), course.Governing());
   if (!course.HasEnds()) return Times(1, course.m_dMq);
   return Times(course.IsSingleCurvature() ? 1 : 0.85, course.Governing());
 }

@@ -17,6 +17,9 @@ struct CMomentCourse {
   double m_dMq = 0;  // greatest moment of the load
   CSpanLoad m_nLoad = CSpanLoad::None;
   bool m_bFar = false;  // M1 is at the second end of the member
+  // Judged by its extreme of the other sign, which compresses the other edge. What follows from the
+  // ends alone is then that of end moments of equal size, the least favourable that have it.
+  bool m_bOther = false;
 
   double AtStart() const noexcept { return m_bFar ? m_dM2 : m_dM1; }
   double AtEnd() const noexcept { return m_bFar ? m_dM1 : m_dM2; }
@@ -24,17 +27,18 @@ struct CMomentCourse {
   bool HasEnds() const noexcept { return m_dM1 != 0; }
   bool HasLoad() const noexcept { return m_dMq != 0; }
   // M2 / M1; 1 without end moments.
-  double EndRatio() const noexcept { return HasEnds() ? m_dM2 / m_dM1 : 1; }
+  double EndRatio() const noexcept { return !HasEnds() ? 1 : m_bOther ? -1 : m_dM2 / m_dM1; }
+  bool IsReversed() const noexcept { return Most() > 0 && Least() < 0; }
   // Ends and load bend in one sense everywhere.
   bool IsSingleCurvature() const noexcept {
     return m_dM1 * m_dM2 >= 0 && m_dM1 * m_dMq >= 0 && m_dM2 * m_dMq >= 0;
   }
   ORV3CAL_API double Most() const noexcept;   // greatest along the member
   ORV3CAL_API double Least() const noexcept;  // least along the member
-  // The one of both that is greater in magnitude, with its sign.
+  // The one of both that is greater in magnitude, with its sign; m_bOther: the other one.
   double Governing() const noexcept {
     const double most = Most(), least = Least();
-    return most >= -least ? most : least;
+    return (most >= -least) != m_bOther ? most : least;
   }
 };
 

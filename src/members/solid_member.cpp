@@ -20,14 +20,12 @@ CSolidCheck::CSolidCheck(const CMemberSection& section, const CMemberSteel& stee
 
 namespace {
 
-// Of a section whose edges differ, the extreme of Mx that bends it in the other sense than the
-// governing one; 0 for none.
-double OppositeMoment(const CMemberSection& s, const CMomentCourse& course) {
+// A section whose edges differ, which Mx bends in one sense and in the other: the lesser moment may
+// compress the weaker edge.
+bool IsBentBothWays(const CMemberSection& s, const CMomentCourse& course) {
   const bool bUnequal =
       s.m_nShape == CMemberShape::T || (s.m_nShape == CMemberShape::I && !s.IsEqualFlanged());
-  const double most = course.Most(), least = course.Least();
-  if (!bUnequal || most <= 0 || least >= 0) return 0;
-  return course.Governing() > 0 ? least : most;
+  return bUnequal && course.IsReversed();
 }
 
 }  // namespace
@@ -36,10 +34,9 @@ void CheckSolidMember(const CMemberSection& section, const CMemberSteel& steel,
                       const CMemberLoads& loads, CMemberAnswer& answer) {
   answer.Clear();
   CSolidCheck(section, steel, loads, answer).Run();
-  const double opposite = OppositeMoment(section, loads.m_x);
-  if (answer.IsRefused() || opposite == 0) return;
+  if (answer.IsRefused() || !IsBentBothWays(section, loads.m_x)) return;
   CMemberLoads turned = loads;
-  turned.m_x = {opposite, opposite};
+  turned.m_x.m_bOther = true;
   CMemberAnswer other;
   CSolidCheck(section, steel, turned, other).Run();
   answer.TakeWorse(other);

@@ -94,7 +94,7 @@ void CSolidCheck::GiveBetaM(const char* symbol, const CMomentCourse& c, double b
     a.Step("k", nullptr, c.EndRatio());
     return a.Step(symbol, Is2017() ? "0.6 + 0.4·{k}" : "0.65 + 0.35·{k}", beta);
   }
-  if (!Is2017() || !c.HasLoad()) return a.Step(symbol, nullptr, beta);
+  if (!Is2017() || !c.HasLoad() || c.m_bOther) return a.Step(symbol, nullptr, beta);
   const bool bPoint = c.m_nLoad == CSpanLoad::Midspan;
   a.Step("Ncr", nullptr, Ncr, "N");
   if (!c.HasEnds())
@@ -223,7 +223,7 @@ void CSolidCheck::BeamColumnY() {
 }
 
 // 8.2.4, by the greater resultant of both ends. With a load in the span the greatest resultant and
-// beta 1.
+// beta 1; with sway beta 1.
 void CSolidCheck::TubeTwoMoments() {
   const bool bLoad = q.m_x.HasLoad() || q.m_y.HasLoad();
   const double lambda = m_dLambdaMax;
@@ -234,8 +234,11 @@ void CSolidCheck::TubeTwoMoments() {
   };
   const CEndMoments end = bLoad ? CEndMoments{std::fabs(m_dMx), m_dMy} : EndMoments();
   const double M = end.Resultant();
-  const double equivalent = bLoad ? 1 : beta(q.m_x) * beta(q.m_y);
+  // The product is of members whose ends do not sway.
+  const bool bGreatest = bLoad || q.m_bSway;
+  const double equivalent = bGreatest ? 1 : beta(q.m_x) * beta(q.m_y);
   if (bLoad) a.Note(CMemberNote::TubeLoads);
+  if (q.m_bSway) a.Note(CMemberNote::TubeSway);
   const double NEr = ReducedEulerForce(s.m_dA, lambda);
   const double axial = AxialTerm(m_dNc, m_dPhiLeast, s.m_dA, F());
   const double bending =
@@ -245,7 +248,7 @@ void CSolidCheck::TubeTwoMoments() {
   a.Step("λ", nullptr, lambda);
   a.Step("NE", "π²·206000·{A}/{λ}²", NE, "N");
   a.Step("N′E", "{NE}/1.1", NEr, "N");
-  if (bLoad) {
+  if (bGreatest) {
     a.Step("β", nullptr, equivalent);
   } else {
     a.Step("kx", nullptr, q.m_x.EndRatio());
@@ -362,7 +365,7 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
   const CMomentCourse& c = q.m_x;
   double ends = HUGE_VAL, load = HUGE_VAL;
   if (c.HasEnds() || !c.HasLoad()) {
-    ends = *BetaBEndMoments(m.m_nEdition, c.HasEnds() ? c.m_dM1 : 1, c.HasEnds() ? c.m_dM2 : 1);
+    ends = *BetaBEndMoments(m.m_nEdition, 1, c.m_bOther && c.HasLoad() ? 1 : c.EndRatio());
     if (q.m_nSupports > 0 && c.m_dM1 != c.m_dM2) a.Note(CMemberNote::NoSupportsAtEnds);
   }
   if (c.HasLoad()) {
