@@ -520,7 +520,13 @@ void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) 
   const bool bSpan =
       (!q.m_x.IsZero() && s.m_nShape != CMemberShape::Tube && !IsSolid(s.m_nShape)) ||
       (!q.m_y.IsZero() && s.m_nShape == CMemberShape::Box);
+  const bool bLateral = m_answer.Find(CMemberCheckKind::Lateral) != nullptr;
   const std::pair<bool, N> notes[] = {
+      {std::isnan(input.m_dLz) && NeedsTorsion(s, m_steel, q), N::AssumedLengthZ},
+      {std::isnan(input.m_dSpan) && bLateral, N::AssumedSpan},
+      {input.m_strLoadFlange.empty() && q.m_x.HasLoad() && bLateral && !IsClosed(s.m_nShape) &&
+           s.m_nShape != CMemberShape::T && s.m_nShape != CMemberShape::Channel,
+       N::AssumedLoadFlange},
       {IsAnglePair(s.m_nShape) && std::isnan(input.m_dGap), N::PairWithoutGap},
       {m_bShearTaken, N::LoadWithoutShear},
       {!std::isnan(input.m_dLz) && !NeedsTorsion(s, m_steel, q), N::UnusedLengthZ},
@@ -573,6 +579,8 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
   CheckLatticeMember(lattice.m_section, m_steel, loads, m_answer);
   if (m_answer.IsRefused()) return Refuse(*m_answer.Fault());
   if (lattice.m_bL1Assumed) m_answer.Note(CMemberNote::LimbLength);
+  if (lattice.m_section.m_nBond == CLatticeBond::Lacing && std::isnan(input.m_dBarAngle))
+    m_answer.Note(CMemberNote::AssumedAngle);
   m_answer.Note(CMemberNote::BondJoints);
   if (m_loads.m_x.HasLoad() && m_loads.m_dVy == 0) m_answer.Note(CMemberNote::LatticeShear);
   if (m_steel.m_nGrade == CSteelGrade::Q355) m_answer.Note(CMemberNote::Q355);
