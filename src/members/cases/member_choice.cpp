@@ -44,6 +44,7 @@ std::vector<CMemberCandidate> MemberCandidates(const CString& table) {
     candidate.m_strTable = ToUtf8(table);
     candidate.m_strNo = ToUtf8(no);
     candidate.m_fault = ReadMemberRow(row, candidate.m_row);
+    candidate.m_bContradicts = candidate.m_fault && Contradicting(row);
     candidate.m_dMass = MassOf(row, candidate.m_row);
     candidates.push_back(std::move(candidate));
   }
@@ -54,9 +55,12 @@ std::vector<CString> MemberTables() {
   using K = CSectionKind;
   std::vector<CString> tables;
   for (const K kind :
-       {K::OrdinaryI, K::LightI, K::WeldedH, K::LightWeldedH, K::WideH, K::NarrowH, K::SquareTube,
-        K::SplitT, K::OrdinaryChannel, K::LightChannel, K::RoundTube, K::EqualAngle,
-        K::UnequalAngle, K::EqualAnglePair, K::LongLegPair, K::ShortLegPair}) {
+       {K::OrdinaryI,    K::LightI,       K::WeldedH,       K::LightWeldedH,    K::WideH,
+        K::NarrowH,      K::SquareTube,   K::SplitT,        K::OrdinaryChannel, K::LightChannel,
+        K::RoundTube,    K::EqualAngle,   K::UnequalAngle,  K::EqualAnglePair,  K::LongLegPair,
+        K::ShortLegPair, K::PlateH,       K::PlateGeneralH, K::PlateBox,        K::PlateGeneralBox,
+        K::PlateT,       K::PlateChannel, K::PlateTube,     K::SolidCircle,     K::SolidRectangle,
+        K::SolidHexagon, K::SolidTriangle}) {
     tables.emplace_back(TableOf(kind).m_szName);
   }
   return tables;
@@ -65,6 +69,7 @@ std::vector<CString> MemberTables() {
 CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
                            std::span<CMemberCandidate> candidates, CCodeEdition edition) {
   CMemberChoice choice;
+  std::vector<CRefusedMember> contradicting;
   CMemberCheck check;
   check.SetEdition(edition);
   for (std::size_t i = 0; i < candidates.size(); ++i) {
@@ -73,8 +78,8 @@ CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
     auto worst = candidate.m_fault ? std::nullopt : Worst(check, cases, candidate, bPass);
     if (!worst) {
       ++choice.m_nRefused;
-      auto& refused = choice.m_arrRefused;
-      if (refused.empty() ||
+      auto& refused = candidate.m_bContradicts ? contradicting : choice.m_arrRefused;
+      if (candidate.m_bContradicts || refused.empty() ||
           candidates[refused.back().m_nCandidate].m_strTable != candidate.m_strTable)
         refused.push_back({i, candidate.m_fault ? *candidate.m_fault : check.Fault(), 0});
       ++refused.back().m_nRows;
@@ -85,6 +90,8 @@ CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
     worst->m_nCandidate = i;
     choice.m_arrChosen.push_back(*worst);
   }
+  choice.m_arrRefused.insert(choice.m_arrRefused.begin(), contradicting.begin(),
+                             contradicting.end());
   std::stable_sort(choice.m_arrChosen.begin(), choice.m_arrChosen.end(),
                    [&](const CChosenMember& a, const CChosenMember& b) {
                      const double left = candidates[a.m_nCandidate].m_dMass;

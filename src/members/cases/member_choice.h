@@ -15,6 +15,7 @@ struct CMemberCandidate {
   double m_dMass = 0;  // kg/m, as printed, else 7850 kg/m3 times the area
   CMemberRow m_row;
   std::optional<CCaseFault> m_fault;
+  bool m_bContradicts = false;  // the fault is that the row's figures are not those of its sizes
 };
 
 // Every row of a table of the store; none when there is no such table.
@@ -29,7 +30,8 @@ struct CChosenMember {
   std::size_t m_nCase;  // that has it
 };
 
-// The first row of a table that could not be checked, and how many there are of it.
+// The first row of a table that could not be checked, and how many there are of it; or a row that
+// contradicts itself, by itself.
 struct CRefusedMember {
   std::size_t m_nCandidate;
   CCaseFault m_fault;
@@ -41,7 +43,8 @@ struct CMemberChoice {
   std::size_t m_nRefused = 0;  // those that could not
   // Those that pass, lightest first, the smaller ratio first among equals.
   std::vector<CChosenMember> m_arrChosen;
-  std::vector<CRefusedMember> m_arrRefused;  // one of each table
+  // Those that contradict themselves, then one of each table.
+  std::vector<CRefusedMember> m_arrRefused;
 };
 
 ORV3CAL_API CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
