@@ -53,12 +53,10 @@ std::shared_ptr<const CSystemTable> TableInStores(const CString& name) {
   return SystemTable(SystemStorePath(), name);
 }
 
-void AddRefused(CMemberChoice& choice, std::span<const CMemberCandidate> candidates,
+void AddRefused(std::vector<CRefusedMember>& refused, std::span<const CMemberCandidate> candidates,
                 std::size_t index, const CMemberCheck& check, std::size_t refusing) {
   const CMemberCandidate& candidate = candidates[index];
-  auto& refused = choice.m_arrRefused;
-  ++choice.m_nRefused;
-  if (refused.empty() ||
+  if (refused.empty() || candidate.m_bContradicts ||
       candidates[refused.back().m_nCandidate].m_strTable != candidate.m_strTable) {
     if (candidate.m_fault) {
       refused.push_back({index, std::nullopt, *candidate.m_fault, 0});
@@ -84,6 +82,7 @@ std::vector<CMemberCandidate> MemberCandidates(const CString& table, double gap)
     candidate.m_strNo = ToUtf8(row[no].m_strValue);
     const CDataItem pair = bGap ? WithPairSpacing(row, static_cast<int>(gap)) : CDataItem();
     candidate.m_fault = ReadMemberRow(bGap ? pair : row, candidate.m_row);
+    candidate.m_bContradicts = candidate.m_fault && Contradicting(row);
     candidate.m_dMass = MassOf(row, candidate.m_row);
   }
   return candidates;
@@ -153,6 +152,7 @@ std::optional<CCaseFault> ReadChoiceGap(std::span<const CMemberCase> cases, doub
 CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
                            std::span<CMemberCandidate> candidates, CCodeEdition edition) {
   CMemberChoice choice;
+  std::vector<CRefusedMember> contradicting;
   CMemberCheck check;
   check.SetEdition(edition);
   for (std::size_t i = 0; i < candidates.size(); ++i) {
@@ -160,13 +160,17 @@ CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
     std::size_t refusing = 0;
     auto worst = candidate.m_fault ? std::nullopt : Worst(check, cases, candidate, refusing);
     if (!worst) {
-      AddRefused(choice, candidates, i, check, refusing);
+      ++choice.m_nRefused;
+      AddRefused(candidate.m_bContradicts ? contradicting : choice.m_arrRefused, candidates, i,
+                 check, refusing);
       continue;
     }
     ++choice.m_nTried;
     worst->m_nCandidate = i;
     (worst->m_bPass ? choice.m_arrChosen : choice.m_arrFailing).push_back(*std::move(worst));
   }
+  choice.m_arrRefused.insert(choice.m_arrRefused.begin(), contradicting.begin(),
+                             contradicting.end());
   std::stable_sort(choice.m_arrChosen.begin(), choice.m_arrChosen.end(),
                    [&](const CChosenMember& a, const CChosenMember& b) {
                      const double left = candidates[a.m_nCandidate].m_dMass;

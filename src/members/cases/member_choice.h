@@ -19,6 +19,7 @@ struct CMemberCandidate {
   double m_dMass = 0;               // kg/m, as printed, else 7850 kg/m3 times the area
   CMemberRow m_row;
   std::optional<CCaseFault> m_fault;
+  bool m_bContradicts = false;  // the fault is that the row's figures are not those of its sizes
 };
 
 // Every row of a table of the store; none when there is no such table. Pairs stand `gap` mm apart,
@@ -39,7 +40,8 @@ struct CChosenMember {
   std::vector<CMemberNote> m_arrNote;  // of all cases, each once
 };
 
-// The first row of a table that could not be checked, and how many there are of it.
+// The first row of a table that could not be checked, and how many there are of it; or a row that
+// contradicts itself, by itself.
 struct CRefusedMember {
   std::size_t m_nCandidate;
   std::optional<std::size_t> m_case;  // that refused it; none for a row that is no member
@@ -52,8 +54,9 @@ struct CMemberChoice {
   std::size_t m_nRefused = 0;  // those that could not
   // Those that pass, lightest first, the smaller ratio first among equals.
   std::vector<CChosenMember> m_arrChosen;
-  std::vector<CChosenMember> m_arrFailing;   // those that do not, as they were tried
-  std::vector<CRefusedMember> m_arrRefused;  // one of each table
+  std::vector<CChosenMember> m_arrFailing;  // those that do not, as they were tried
+  // Those that contradict themselves, then one of each table.
+  std::vector<CRefusedMember> m_arrRefused;
 };
 
 // The edition by which all cases are checked, `otherwise` where they name none. A choice is by one:

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "catalogue/exact/row_exact.h"
+#include "catalogue/outline/row_doubts.h"
 #include "catalogue/outline/row_figures.h"
 #include "catalogue/outline/row_spacing.h"
 #include "framework/number_text.h"
@@ -381,6 +382,7 @@ std::optional<CCaseFault> CRowReader::Read() {
                       {"缺少面积或惯性矩", "lacks its area or moments of inertia"},
                       {"请给出完整的截面", "give a whole section"}};
   }
+  if (auto fault = Contradicting(m_row)) return fault;
   return std::nullopt;
 }
 
@@ -434,6 +436,16 @@ std::optional<CCaseFault> ThinWalled(const CDataItem& row) {
                      "a cold-formed section with a wall of " + is +
                          " mm belongs to the code of thin-walled sections"},
                     {"请给壁厚不小于 6 mm 的截面", "take a section with walls of at least 6 mm"}};
+}
+
+std::optional<CCaseFault> Contradicting(const CDataItem& row) {
+  const auto what = Contradiction(row);
+  if (!what) return std::nullopt;
+  const std::string no = ToUtf8(row[0].m_strValue);
+  return CCaseFault{"section",
+                    {no + " 的行自相矛盾：" + what->m_strChinese,
+                     "the row of " + no + " contradicts itself: " + what->m_strEnglish},
+                    {"请在库中改正尺寸或特性", "correct its sizes or figures in the store"}};
 }
 
 bool AddTorsion(CMemberRow& member) {

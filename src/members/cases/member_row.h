@@ -46,6 +46,10 @@ ORV3CAL_API std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMembe
 // Refuses a cold-formed section with walls under 6 mm, as a member or as a limb of one.
 std::optional<CCaseFault> ThinWalled(const CDataItem& row);
 
+// Refuses a row whose figures are not those of its sizes, as a member or as a part of one:
+// whichever is wrong, a check by it would be.
+std::optional<CCaseFault> Contradicting(const CDataItem& row);
+
 // Adds what torsion asks: It, Iw and the shear centre of the row's outline, once. False when they
 // cannot be computed.
 ORV3CAL_API bool AddTorsion(CMemberRow& member);
