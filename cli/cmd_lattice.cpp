@@ -10,6 +10,7 @@
 #include "case_source.h"
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/lattice_picture.h"
+#include "catalogue/outline/row_doubts.h"
 #include "catalogue/outline/row_figures.h"
 #include "commands.h"
 #include "error.h"
@@ -99,6 +100,15 @@ CLatticeLimbs LimbsOf(const CSteelItemGeGou& column) {
   }
   CLatticeLimbs limbs;
   if (!limbs.Fetch(column)) Refuse(Say("格构柱不能计算", "the column cannot be computed"));
+  for (int i = 0; i < count; ++i) {
+    const auto what = Contradiction(limbs.m_arrLimb[static_cast<std::size_t>(i)].m_row);
+    if (!what) continue;
+    Refuse(
+        Say("{1}: 库中 {2} 的行自相矛盾：{3}；请改正其尺寸或特性",
+            "{1}: the row of {2} in the store contradicts itself: {3}; right would be to correct "
+            "its sizes or figures",
+            {ToUtf8(kLimbColumns[i].m_szNo), Cell(column, kLimbColumns[i].m_szNo), Say(*what)}));
+  }
   if (limbs.PlaceTruly(column)) return limbs;
   for (int i = 0; i < count; ++i) {
     const CRowFigures f = RowFigures(limbs.m_arrLimb[static_cast<std::size_t>(i)].m_row);

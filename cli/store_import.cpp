@@ -105,18 +105,23 @@ std::vector<CImportTable> ReadSources(const COptions& options, const CString& st
 
 // --- The report ----------------------------------------------------------------------------------
 
+CJson RowsJson(const std::vector<CRefusedRow>& rows) {
+  CJson list = CJson::array();
+  for (const CRefusedRow& row : rows)
+    list.push_back({{"no", ToUtf8(row.m_strNo)}, {"why", ToUtf8(row.m_strWhy)}});
+  return list;
+}
+
 CJson ReportJson(const CImportReport& report) {
   CJson tables = CJson::array();
   for (const CTableImport& table : report.m_arrTable) {
-    CJson refused = CJson::array();
-    for (const CRefusedRow& row : table.m_arrRefused) {
-      refused.push_back({{"no", ToUtf8(row.m_strNo)}, {"why", ToUtf8(row.m_strWhy)}});
-    }
+    const CJson refused = RowsJson(table.m_arrRefused), doubtful = RowsJson(table.m_arrDoubtful);
     tables.push_back({{"table", ToUtf8(table.m_strTable)},
                       {"added", table.m_nAdded},
                       {"replaced", table.m_nReplaced},
                       {"unchanged", table.m_nUnchanged},
                       {"refused", refused},
+                      {"doubtful", doubtful},
                       {"why", ToUtf8(table.m_strWhy)}});
   }
   return {{"tables", tables}};
@@ -149,6 +154,11 @@ void PrintReport(const CImportReport& report) {
     }
     for (const CRefusedRow& row : table.m_arrRefused) {
       text += Say("  拒绝“{1}”：{2}\n", "  refused \"{1}\": {2}\n",
+                  {ToUtf8(row.m_strNo), ToUtf8(row.m_strWhy)});
+    }
+    for (const CRefusedRow& row : table.m_arrDoubtful) {
+      text += Say("  注意：“{1}”已导入，但自相矛盾：{2}\n",
+                  "  note: \"{1}\" came in but contradicts itself: {2}\n",
                   {ToUtf8(row.m_strNo), ToUtf8(row.m_strWhy)});
     }
     Print(text);
@@ -206,6 +216,9 @@ void AddStoreImportCommand(CLI::App& store) {
         if (FromUtf8(table).GetLength() > CDataTable::kMaxTableName)
           return Say("有 {1} 个字符；表名至多 64 个",
                      "has {1} characters; a table's name has at most 64", {length});
+        CString trimmed = FromUtf8(table);
+        if (trimmed.Trim() != FromUtf8(table))
+          return Say("以空白开头或结尾；请删去空白", "begins or ends with a blank; take it out");
         return table.empty() ? Say("为空；请给出表名，或不写此选项",
                                    "is empty; give a table's name, or leave the option out")
                              : std::string();

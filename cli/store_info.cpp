@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "catalogue/import/contradicting_rows.h"
 #include "error.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
@@ -140,7 +141,10 @@ void PrintFaults(const std::string& kind, const std::vector<CStoreFault>& faults
 void RunVerify(const COptions& options) {
   std::vector<CStoreFault> faults;
   std::vector<CStoreFault> notes;
-  if (!VerifyStore(StoreToRead(Place(options)), faults, &notes)) FailAsTold();
+  const CString store = StoreToRead(Place(options));
+  if (!VerifyStore(store, faults, &notes)) FailAsTold();
+  const std::vector<CStoreFault> doubtful = ContradictingRows(store);
+  notes.insert(notes.end(), doubtful.begin(), doubtful.end());
   if (options.json) {
     PrintJson(
         {{"ok", faults.empty()}, {"faults", FaultsJson(faults)}, {"notes", FaultsJson(notes)}});

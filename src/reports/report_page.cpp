@@ -131,7 +131,8 @@ std::string Put(double value) {
 }
 
 std::string Relation(double effect, double limit, bool bPass) {
-  const CComparedText text = Compared(effect, limit);
+  // What passes by the last digits of a double alone is the limit itself.
+  const CComparedText text = Compared(bPass ? std::min(effect, limit) : effect, limit);
   const char* sign = bPass ? " ≤ " : effect > limit ? " > " : " ≮ ";
   return text.m_strEffect + sign + text.m_strLimit;
 }

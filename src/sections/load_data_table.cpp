@@ -1,6 +1,7 @@
 // The program directory and the look-ups in its stores.
 #include "sections/load_data_table.h"
 
+#include <memory>
 #include <utility>
 
 #include "sections/system_tables.h"
@@ -16,6 +17,13 @@ CDataItem RowOf(const CString& store, const CString& table, const CString& no) {
   return position < 0 ? CDataItem() : read->Table()[position];
 }
 
+// The table of the store in front, where there is one and it has the table, else the catalogue's.
+std::shared_ptr<const orv3::CSystemTable> TableOf(const CString& table) {
+  const CString front = orv3::StoreInFront();
+  auto read = front.IsEmpty() ? nullptr : orv3::SystemTable(front, table);
+  return read ? read : orv3::SystemTable(orv3::SystemStorePath(), table);
+}
+
 }  // namespace
 
 void CLoadDataTable::SetOrvoPrgPath(const CString& path) { orv3::SetProgramPath(path); }
@@ -23,7 +31,7 @@ void CLoadDataTable::SetOrvoPrgPath(const CString& path) { orv3::SetProgramPath(
 CString CLoadDataTable::GetOrvoPrgPath() { return orv3::ProgramPath(); }
 
 int CLoadDataTable::GetSysTemItemNo(const CString& tableName, CStringArray& numbers) {
-  const auto read = orv3::SystemTable(orv3::SystemStorePath(), tableName);
+  const auto read = TableOf(tableName);
   numbers.RemoveAll();  // of which the name may be one
   if (!read || read->Table().GetTableColNum() < 2) return 0;
   for (const CDataItem& row : read->Table().m_arrItem) {

@@ -32,7 +32,8 @@ std::shared_ptr<const CSystemTable> SystemTable(const CString& store, const CStr
 // The system store under the program path.
 CString SystemStorePath();
 
-// A table file in which GetSysTemJMItem looks before it looks in the system store; empty for none.
+// A table file in which GetSysTemJMItem looks for a row, and GetSysTemItemNo for a table, before it
+// looks in the system store; empty for none.
 // For a program that works on a file of its own, whose rows are made of those of the catalogue. For
 // the whole process.
 ORV3CAL_API void SetStoreInFront(const CString& file);

@@ -183,9 +183,22 @@ TEST_F(Figures, NeedWhatTheyAreComputedFrom) {
   EXPECT_FALSE(orv3::CheckRolledRow(with(L"G(kg/m)", L"")));
   EXPECT_TRUE(orv3::CheckRolledRow(with(L"tw(mm)", L"150"))) << "a web wider than the flange";
   EXPECT_TRUE(std::isnan(RowFigures(with(L"A(cm^2)", L"")).m_dArea)) << "no area is not 0";
-  const auto doubts = orv3::RowDoubts(with(L"h(mm)", L"400"));
-  ASSERT_EQ(doubts.size(), 2U) << "Iy depends little on the height";
-  EXPECT_EQ(doubts[0].m_dTold, 3557.8);
+  const struct {
+    const wchar_t *sign, *value, *doubts;
+  } wrong[] = {{L"h(mm)", L"400", L"A Ix ix iy imin Wx1 Wx2 Sx "},  // Iy depends little on it
+               {L"A(cm^2)", L"355.78", L"A "},
+               {L"Wx(cm^3)", L"2370", L"Wx1 Wx2 "},
+               {L"Sx(cm^3)", L"13.6", L"Sx "},
+               {L"iy(cm)", L"21.2", L"iy imin "}};
+  for (const auto& c : wrong) {
+    CString keys;
+    for (const auto& doubt : orv3::RowDoubts(with(c.sign, c.value)))
+      keys += orv3::FromUtf8(doubt.m_szKey) + L" ";
+    EXPECT_EQ(keys, c.doubts) << orv3::ToUtf8(CString(c.sign));
+  }
+  CDataItem pair = Rows(L"热轧等边角钢组合").front();
+  pair[L"A(cm^2)"].m_strValue = L"385.2";
+  EXPECT_TRUE(orv3::Contradiction(pair));
 }
 
 }  // namespace

@@ -245,6 +245,53 @@ TEST_F(StoreCommand, ImportsCsvAndTellsWhatBecameOfEachRow) {
   EXPECT_EQ(Cell(kH, "A(mm^2)"), "11960");
 }
 
+// A row with figures ten times those of its sizes is named wherever it is met and checks nothing.
+TEST_F(StoreCommand, NoCheckGoesByARowThatContradictsItself) {
+  const std::string table = "热轧普通工字钢";
+  const wchar_t* const name = L"热轧普通工字钢.csv";
+  Put(name,
+      "No.,h(mm),b(mm),tw(mm),t(mm),r(mm),r1(mm),A(cm^2),G(kg/m),Aw(m^2/m),Ix(cm^4),Wx(cm^3),"
+      "Sx(cm^3),ix(cm),Iy(cm^4),Wy(cm^3),iy(cm)\n"
+      "I16,160,88,6,9.9,8,4,26.131,20.513,0.621,1126.9,140.9,80.8,6.57,93,21.1,1.89\n"
+      "I99,160,88,6,9.9,8,4,261.31,20.513,0.621,11269,1409,80.8,6.57,93,21.1,1.89\n"
+      "I98,160,88,6,9.9,8,4,,20.513,0.621,1126.9,140.9,80.8,6.57,93,21.1,1.89\n"
+      "I97,160,88,6,9.9,8,4,26.131,20.513,0.621,1126.9,140.9,80.8,6.57,93,21.1,"
+      "1.8900000000000000000000000000001\n");
+  const Json told = Import(Quoted(name), 2)[0];
+  EXPECT_EQ(told["added"], 2);
+  ASSERT_EQ(told["doubtful"].size(), 1U);
+  EXPECT_EQ(told["doubtful"][0]["no"], "I99");
+  ExpectHas(told["doubtful"][0]["why"], {"A = 26131 mm², its sizes give 26"});
+  ASSERT_EQ(told["refused"].size(), 2U);
+  for (const Json& row : told["refused"]) ExpectHas(row["why"], {"line "});
+  const Json notes = JsonOf("store verify \"" + m_store + "\"")["notes"];
+  ASSERT_EQ(notes.size(), 1U);
+  ExpectHas(notes[0]["what"], {"row 2, \"I99\", contradicts itself: A = 26131"});
+
+  const std::string rest = R"("steel": "Q235", "lengths": {"x": 3000, "y": 3000}, "N": -50})";
+  const COwnFile one("one.json",
+                     R"({"section": {"table": ")" + table + R"(", "no": "I99"}, )" + rest);
+  const COwnFile any("any.json", "{" + rest);
+  const std::string on = " --store \"" + m_store + "\"" + kData;
+  ExpectRefused({{"check member " + one.m_strPath + on, {"section", "I99 contradicts itself"}}});
+  const Json choice = JsonOf("choose " + any.m_strPath + " --table " + table + " --json" + on);
+  EXPECT_EQ(choice["tried"], 1) << "the store's own rows, not the catalogue's";
+  EXPECT_EQ(choice["rows"][0]["no"], "I16");
+  EXPECT_EQ(choice["refusals"][0]["no"], "I99");
+
+  CDataTable rows;  // a table file is under the same rule
+  rows.SetTableName(orv3::FromUtf8(table));
+  CString line;
+  ASSERT_EQ(rows.GetTable(orv3::FromUtf8(m_store), line), 1);
+  rows[1][L"A(cm^2)"].m_strValue = L"";
+  rows[1].m_nModifyType = 2;
+  ASSERT_EQ(rows.WriteTable(m_folder.Path(L"x.KDB"), 0, 0), 1);
+  ASSERT_EQ(Run("delete " + table + " I99").m_nExit, 0);
+  const Json refused = Import(Quoted(L"x.KDB"), 2)[0]["refused"];
+  ASSERT_EQ(refused.size(), 1U);
+  ExpectHas(refused[0]["why"], {"A(cm^2)"});
+}
+
 TEST_F(StoreCommand, ImportsATableWhoseHeadingNamesItsColumns) {
   const std::string own = Quoted(L"own.csv");
   const std::string import = "import --table 我的 " + own;

@@ -177,7 +177,7 @@ TEST_F(StoreCheck, WhatAForcedSaveOfFewerRowsLeavesIsNoted) {
   EXPECT_TRUE(faults.empty());
   ASSERT_EQ(notes.size(), 2U);
   EXPECT_EQ(notes[0].m_strWhat, L"2 rows need 1 blocks, but the record names 2");
-  EXPECT_EQ(notes[1].m_strWhat, L"95 rows lie behind the record's count of 2");
+  EXPECT_EQ(notes[1].m_strWhat, L"behind the record's count of 2 lie more rows: 95");
   EXPECT_EQ(notes[1].m_nOffset, static_cast<std::int64_t>(kFirst + 200 + 2 * 91));
 }
 

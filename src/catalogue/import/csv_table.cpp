@@ -134,7 +134,7 @@ class CCsvTable {
     if (why.IsEmpty()) {
       row.m_nModifyType = kAdded;
       m_table.m_table.AddTableItem(row, 1, 1);
-      m_arrLine.push_back(line);
+      m_table.m_arrLine.push_back(line);
       return;
     }
     const CString no = row.IsEmpty() ? CString() : row[0].m_strValue;
@@ -237,7 +237,7 @@ class CCsvTable {
       if (row[i].m_strValue == other[i].m_strValue) continue;
       return Say(L"第 {1} 行已有此关键字，而值不同；请只留一行",
                  L"line {1} has its key with other values; right would be one line for each",
-                 {FormatInt(m_arrLine[static_cast<std::size_t>(earlier)])});
+                 {FormatInt(m_table.m_arrLine[static_cast<std::size_t>(earlier)])});
     }
     return {};
   }
@@ -246,7 +246,6 @@ class CCsvTable {
   CImportTable& m_table;
   CString& m_why;
   std::vector<int> m_arrColumn;  // of the table, by the columns of the text
-  std::vector<int> m_arrLine;    // of the text, by the rows of the table
 };
 
 }  // namespace

@@ -7,8 +7,10 @@
 #include <utility>
 
 #include "catalogue/import/section_rows.h"
+#include "catalogue/outline/row_doubts.h"
 #include "framework/language.h"
 #include "framework/number_text.h"
+#include "framework/utf8.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "tables/aligned_indices.h"
@@ -37,7 +39,11 @@ std::wstring Values(const CDataItem& row) {
 class CTableMerger {
  public:
   CTableMerger(const CImportTable& source, const CString& store, bool stored, bool overwrite)
-      : m_source(source.m_table), m_store(store), m_overwrite(overwrite), m_stored(stored) {
+      : m_source(source.m_table),
+        m_arrLine(source.m_arrLine),
+        m_store(store),
+        m_overwrite(overwrite),
+        m_stored(stored) {
     m_result.m_strTable = m_source.GetTableName();
     m_result.m_arrRefused = source.m_arrRefused;
     m_target.SetTableName(m_source.GetTableName());
@@ -58,8 +64,10 @@ class CTableMerger {
     if (m_result.m_nAdded + m_result.m_nReplaced == 0 && !bare) return true;
     const auto faults = SaveFaults(m_target, m_store);
     if (!faults.empty()) {
-      m_result = {
-          m_result.m_strTable, 0, 0, 0, {}, faults.front().m_strText + Crowd(m_target), false};
+      const CString name = m_result.m_strTable;
+      m_result = {};
+      m_result.m_strTable = name;
+      m_result.m_strWhy = faults.front().m_strText + Crowd(m_target);
       return true;
     }
     m_changed = m_target.WriteTable(m_store, kSystemKind, 0) != 0;
@@ -131,7 +139,9 @@ class CTableMerger {
         m_result.m_strWhy = fault.m_strText + Crowd(m_source);
         return false;
       }
-      m_mapFault.try_emplace(fault.m_nRow, fault.m_strText);
+      m_mapFault.try_emplace(fault.m_nRow, m_arrLine.empty()
+                                               ? fault.m_strText
+                                               : Place(fault.m_nRow) + fault.m_strInRow);
     }
     return true;
   }
@@ -143,8 +153,10 @@ class CTableMerger {
   void Row(int position, const CDataItem& row) {
     const auto fault = m_mapFault.find(position);
     if (fault != m_mapFault.end()) return Refuse(row, fault->second);
-    const CString misfit = RowMisfit(row);
-    if (!misfit.IsEmpty()) return Refuse(row, Misfit(position, misfit));
+    CString misfit = RowMisfit(row);
+    if (const auto lack = CheckRolledRow(row); misfit.IsEmpty() && lack)
+      misfit = lack->m_text.In(MessageLanguage());
+    if (!misfit.IsEmpty()) return Refuse(row, Place(position) + misfit);
     const int present = m_hasKey ? m_target.IsHaveValue(row, -1) : -1;
     if (present >= 0) return Present(std::as_const(m_target).m_arrItem[present], row);
     if (!m_hasKey && IsKnown(row)) {
@@ -155,9 +167,13 @@ class CTableMerger {
     Bring(row);
   }
 
-  CString Misfit(int position, const CString& why) const {
-    return Say(L"表“{1}”第 {2} 行：{3}", L"table \"{1}\", row {2}: {3}",
-               {m_source.GetTableName(), FormatInt(position + 1), why});
+  // Of a row in its source, before what is wrong with it.
+  CString Place(int position) const {
+    if (!m_arrLine.empty())
+      return Say(L"第 {1} 行：", L"line {1}: ",
+                 {FormatInt(m_arrLine[static_cast<std::size_t>(position)])});
+    return Say(L"表“{1}”第 {2} 行：", L"table \"{1}\", row {2}: ",
+               {m_source.GetTableName(), FormatInt(position + 1)});
   }
 
   // Without a key rows may be equal: each of the source stands for one of the store.
@@ -185,9 +201,12 @@ class CTableMerger {
     CDataItem copy = row;
     copy.m_strTableName = m_target.GetTableName();
     m_target.ImportTableItem(copy, 1);
+    if (const auto what = Contradiction(copy))
+      m_result.m_arrDoubtful.push_back({FirstCell(row), FromUtf8(what->In(MessageLanguage()))});
   }
 
   const CDataTable& m_source;
+  const std::vector<int>& m_arrLine;
   const CString m_store;
   const bool m_overwrite;
   const bool m_stored;  // the store has the table

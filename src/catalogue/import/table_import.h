@@ -9,6 +9,9 @@
 // Rows of a data file are the catalogue's own, those of its "O" twin the user's; rows of a table
 // file stay what they were. Deleted rows are passed over.
 //
+// A row of a rolled table comes in only with what its figures are computed from, as one that is
+// typed in; one that contradicts itself comes in and is named.
+//
 // All of an import comes into the store or nothing does. A damaged source is refused as a whole.
 #pragma once
 
@@ -32,6 +35,8 @@ struct CTableImport {
   int m_nReplaced = 0;
   int m_nUnchanged = 0;
   std::vector<CRefusedRow> m_arrRefused;
+  std::vector<CRefusedRow>
+      m_arrDoubtful;             // that came in though their figures contradict their sizes
   CString m_strWhy;              // why none of its rows came in; empty otherwise
   bool m_bOtherColumns = false;  // that is why: the store's table of the name has other columns
 };
@@ -57,6 +62,7 @@ struct CImportOptions {
 struct CImportTable {
   CDataTable m_table;
   std::vector<CRefusedRow> m_arrRefused;
+  std::vector<int> m_arrLine;  // of the source, by the rows; empty for a source without lines
 };
 
 // What a file holds for an import, by its extension (upper or lower case) and its content. False,

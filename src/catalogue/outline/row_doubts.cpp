@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include "catalogue/outline/row_figures.h"
@@ -9,7 +11,9 @@
 #include "catalogue/outline/row_spacing.h"
 #include "catalogue/outline/shapes.h"
 #include "framework/number_text.h"
+#include "framework/utf8.h"
 #include "outlines/outline_moments.h"
+#include "outlines/plastic.h"
 #include "sections/geometry/families.h"
 
 namespace orv3 {
@@ -76,6 +80,64 @@ CRowFault NoOutline(const CDataItem& row) {
                    L"the sizes make no section; look at height, width, thicknesses and radii")};
 }
 
+// The figures of a row against its outline's, about the same axes.
+class CComparison {
+ public:
+  CComparison(const CRowFigures& figures, const COutline& outline, bool firstMoment)
+      : f(figures),
+        m_arrLoop(outline.m_arrLoop),
+        m_box(PathBounds(m_arrLoop)),
+        m(RowOutlineMoments(m_arrLoop)),
+        m_bFirstMoment(firstMoment) {}
+
+  std::vector<CRowDoubt> Doubts() {
+    constexpr double kArea = 0.02;
+    Compare("A", f.m_dArea, m.m_dArea, kArea);
+    // A cross is about axes at 45 degrees, of which X1 falls to the right.
+    const double mean = (m.m_dIx + m.m_dIy) / 2;
+    const double Ix = f.m_bAslant ? mean + m.m_dIxy : m.m_dIx;
+    const double Iy = f.m_bAslant ? mean - m.m_dIxy : m.m_dIy;
+    Compare("Ix", f.m_dIx, Ix);
+    Compare("Iy", f.m_dIy, Iy);
+    Compare("ix", f.m_dRx, std::sqrt(Ix / m.m_dArea));
+    Compare("iy", f.m_dRy, std::sqrt(Iy / m.m_dArea));
+    const double least = mean - std::hypot((m.m_dIx - m.m_dIy) / 2, m.m_dIxy);
+    Compare("imin", f.m_dRleast, std::sqrt(std::max(0.0, least) / m.m_dArea));
+    if (!f.m_bAslant) Moduli();
+    if (m_bFirstMoment) Compare("Sx", f.m_dSxo, PlasticAxisX(m_arrLoop).m_dModulus / 2);
+    return std::move(m_arrDoubt);
+  }
+
+ private:
+  void Moduli() {
+    Compare("Wx1", f.m_dWTop, m.m_dIx / (m_box.top - m.m_centroid.y));
+    Compare("Wx2", f.m_dWBottom, m.m_dIx / (m.m_centroid.y - m_box.bottom));
+    Compare("WyL", f.m_dWLeft, m.m_dIy / (m.m_centroid.x - m_box.left));
+    Compare("WyR", f.m_dWRight, m.m_dIy / (m_box.right - m.m_centroid.x));
+  }
+
+  void Compare(const char* key, double told, double drawn, double share = 0.03) {
+    if (std::fabs(told - drawn) > share * drawn) m_arrDoubt.push_back({key, told, drawn});
+  }
+
+  const CRowFigures& f;
+  const std::vector<CPath>& m_arrLoop;
+  const CBox m_box;
+  const COutlineMoments m;
+  const bool m_bFirstMoment;
+  std::vector<CRowDoubt> m_arrDoubt;
+};
+
+// Whether the row tells the first moment of its half: sections that are the same above and below.
+bool HasFirstMoment(const CDataItem& row) { return row.GetSignIndex(L"Sx(cm^3)") >= 0; }
+
+const char* UnitOf(std::string_view key) {
+  if (key == "A") return "mm²";
+  return key.starts_with('I') ? "mm⁴" : key.starts_with('i') ? "mm" : "mm³";
+}
+
+std::string PlainText(double value) { return ToUtf8(FormatG(value)); }
+
 }  // namespace
 
 std::optional<CRowFault> CheckRolledRow(const CDataItem& row) {
@@ -90,19 +152,21 @@ std::optional<CRowFault> CheckRolledRow(const CDataItem& row) {
 }
 
 std::vector<CRowDoubt> RowDoubts(const CDataItem& row) {
-  if (RolledFamily(row.GetTableName()) == nullptr) return {};
+  if (RolledFamily(row.GetTableName()) == nullptr && !IsPairTable(row.GetTableName())) return {};
   const COutline outline = RowOutline(row);
   if (outline.m_arrLoop.empty()) return {};
-  const COutlineMoments m = RowOutlineMoments(outline.m_arrLoop);
-  const CRowFigures f = RowFigures(row);
-  std::vector<CRowDoubt> doubts;
-  const auto compare = [&](const char* key, double told, double drawn, double share) {
-    if (std::fabs(told - drawn) > share * drawn) doubts.push_back({key, told, drawn});
-  };
-  compare("A", f.m_dArea, m.m_dArea, 0.02);
-  compare("Ix", f.m_dIx, m.m_dIx, 0.03);
-  compare("Iy", f.m_dIy, m.m_dIy, 0.03);
-  return doubts;
+  return CComparison(RowFigures(row), outline, HasFirstMoment(row)).Doubts();
+}
+
+std::optional<CText> Contradiction(const CDataItem& row) {
+  const std::vector<CRowDoubt> doubts = RowDoubts(row);
+  if (doubts.empty()) return std::nullopt;
+  const CRowDoubt& first = doubts.front();
+  const std::string unit = UnitOf(first.m_szKey);
+  const std::string told =
+      std::string(first.m_szKey) + " = " + PlainText(first.m_dTold) + " " + unit;
+  const std::string drawn = PlainText(first.m_dOutline) + " " + unit;
+  return CText{told + "，由尺寸得 " + drawn, told + ", its sizes give " + drawn};
 }
 
 }  // namespace orv3

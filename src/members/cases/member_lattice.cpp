@@ -62,7 +62,9 @@ class CLatticeReader {
     s.m_dLimbR1 = HUGE_VAL;
     int tubes = 0;
     for (const CLatticeLimb& limb : m_limbs.m_arrLimb) {
-      if (auto fault = ThinWalled(limb.m_row)) {
+      for (auto refuse : {ThinWalled, Contradicting}) {
+        auto fault = refuse(limb.m_row);
+        if (!fault) continue;
         fault->m_strKey = "section.lattice";
         return fault;
       }
@@ -108,6 +110,10 @@ class CLatticeReader {
       return CCaseFault{"section.lacing.table",
                         {name + " 不是库中的等边角钢", name + " is no equal angle of the store"},
                         {"请给出热轧等边角钢的型号", "give a number of 热轧等边角钢"}};
+    }
+    if (auto fault = Contradicting(bar)) {
+      fault->m_strKey = "section.lacing.table";
+      return fault;
     }
     s.m_dAngle = std::isnan(m_lacing.m_dAngle) ? 45 : m_lacing.m_dAngle;
     if (!(s.m_dAngle >= 40 && s.m_dAngle <= 70)) {

@@ -4,10 +4,15 @@
 #include <cmath>
 
 #include "catalogue/exact/row_exact.h"
+#include "catalogue/outline/row_doubts.h"
 #include "catalogue/outline/row_figures.h"
 #include "catalogue/outline/row_spacing.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "outlines/exact_properties.h"
+#include "sections/load_data_table.h"
+#include "sections/section_check.h"
+#include "sections/section_figures.h"
 #include "sections/section_kind.h"
 
 namespace orv3 {
@@ -377,10 +382,43 @@ std::optional<CCaseFault> CRowReader::Read() {
                       {"缺少面积或惯性矩", "lacks its area or moments of inertia"},
                       {"请给出完整的截面", "give a whole section"}};
   }
+  if (auto fault = Contradicting(m_row)) return fault;
   return std::nullopt;
 }
 
 }  // namespace
+
+const CSectionStyle* StyleNamed(const std::string& name) {
+  if (const auto* style = FindSectionAlias(name)) return style;
+  const CString text = FromUtf8(name);
+  if (const auto* style = FindSectionStyle(std::wstring_view(text.GetString()))) return style;
+  return IsNumber(text) ? FindSectionStyle(ToInt(text)) : nullptr;
+}
+
+CDataItem SizesRow(const CSectionStyle& style, std::span<const double> sizes,
+                   std::optional<CCaseFault>& fault) {
+  if (const auto wrong = CheckSectionSizes(style, sizes)) {
+    fault = CCaseFault{"section.sizes",
+                       {"围不成截面：" + wrong->m_strText, "bound no section: " + wrong->m_strText},
+                       {"请改正尺寸", "give sizes that do"}};
+    return {};
+  }
+  CSteelJMData record;
+  CArray<double, double> values;
+  for (const double size : sizes) values.Add(size);
+  record.SetSectSize(style.m_nStyle, values);
+  CSteelJMData::CalSectCharacterStyle(record);
+  return ExactRow(record);
+}
+
+bool IsPairGap(double gap) noexcept { return gap >= 0 && gap <= 1000 && gap == std::floor(gap); }
+
+CCaseFault PairGapFault() {
+  return {"section.gap",
+          {"不可用", "is not possible"},
+          {"请只给组合截面整数毫米的间距，不大于 1000",
+           "give the gap of a pair alone, in whole millimetres up to 1000"}};
+}
 
 std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member) {
   return CRowReader(row, member).Read();
@@ -398,6 +436,16 @@ std::optional<CCaseFault> ThinWalled(const CDataItem& row) {
                      "a cold-formed section with a wall of " + is +
                          " mm belongs to the code of thin-walled sections"},
                     {"请给壁厚不小于 6 mm 的截面", "take a section with walls of at least 6 mm"}};
+}
+
+std::optional<CCaseFault> Contradicting(const CDataItem& row) {
+  const auto what = Contradiction(row);
+  if (!what) return std::nullopt;
+  const std::string no = ToUtf8(row[0].m_strValue);
+  return CCaseFault{"section",
+                    {no + " 的行自相矛盾：" + what->m_strChinese,
+                     "the row of " + no + " contradicts itself: " + what->m_strEnglish},
+                    {"请在库中改正尺寸或特性", "correct its sizes or figures in the store"}};
 }
 
 bool AddTorsion(CMemberRow& member) {

@@ -68,10 +68,13 @@ class CCheck {
   void Add(int row, int column, const CString& what) {
     CString text = Say(L"表“{1}”", L"table \"{1}\"", {m_table.m_strTableName});
     if (row >= 0) text += Say(L"第 {1} 行", L", row {1}", {FormatInt(row + 1)});
+    CString inRow = what;
     if (column >= 0 && column < m_table.GetTableColNum()) {
-      text += Say(L"列“{1}”", L", column \"{1}\"", {m_table.m_Title[column].m_strSign});
+      const CString sign = m_table.m_Title[column].m_strSign;
+      text += Say(L"列“{1}”", L", column \"{1}\"", {sign});
+      inRow = Say(L"列“{1}”：{2}", L"column \"{1}\": {2}", {sign, what});
     }
-    m_arrFault.push_back({row, column, text + Say(L"：", L": ") + what});
+    m_arrFault.push_back({row, column, text + Say(L"：", L": ") + what, inRow});
   }
 
   CString Bytes(std::int64_t count, std::int64_t room) {

@@ -14,6 +14,7 @@ struct CSaveFault {
   int m_nRow = -1;     // position of the row; -1 for the heading, the table or the file
   int m_nColumn = -1;  // -1 for the whole row or heading
   CString m_strText;   // one line that names table, row and column, what is wrong and what fits
+  CString m_strInRow;  // the same without table and row
 };
 
 // The faults of saving `table` into the store at `path` (not looked at when empty): of its unsaved

@@ -118,6 +118,9 @@ class CVerify {
               L"the record fills its 200 bytes and may be cut"));
     }
     Text(name, at, Say(L"目录记录", L"the record"), DecodeText(m_directory.RecordBytes(i)));
+    const auto isControl = [](wchar_t ch) { return ch < L' ' || ch == L'\x7f'; };
+    if (std::any_of(name.View().begin(), name.View().end(), isControl))
+      Note(name, at, Say(L"表名含有控制字符", L"the table's name has a control character"));
     if (!Numbers(i, info)) return;
     if (!IsSlotLength(info.m_nItemLen)) {
       return Add(name, at,
@@ -360,8 +363,8 @@ class CVerify {
     const auto first = std::find_if(behind, slots.end(), isUsed);
     if (first == slots.end()) return;
     Note(name, SlotOffset(info, static_cast<int>(first - slots.begin())),
-         Say(L"在目录记录的行数 {2} 之后还有 {1} 行",
-             L"{1} rows lie behind the record's count of {2}",
+         Say(L"在目录记录的行数 {2} 之后还有行，共 {1} 行",
+             L"behind the record's count of {2} lie more rows: {1}",
              {FormatInt(std::count_if(first, slots.end(), isUsed)), FormatInt(rows)}));
   }
 
