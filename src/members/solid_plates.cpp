@@ -347,8 +347,14 @@ void CSolidCheck::MomentPlates2003() {
     const auto wall = [&](CMemberCheckKind kind, double ratio, const CMomentCourse& asFlange,
                           double limitOfColumn) {
       const bool bFlange = !asFlange.IsZero();
-      Limit(kind, bColumn ? "5.4.3" : bFlange ? "4.3.8" : "4.3.2", ratio,
-            bFlange ? 40 * ek : bColumn ? limitOfColumn : 250);
+      Limit(kind,
+            bColumn   ? "5.4.3"
+            : bFlange ? "4.3.8"
+                      : "4.3.2",
+            ratio,
+            bFlange   ? 40 * ek
+            : bColumn ? limitOfColumn
+                      : 250);
     };
     wall(CMemberCheckKind::Flange, BoxFlangeRatio(), q.m_x, 40 * ek);
     return wall(CMemberCheckKind::Web, h0tw, q.m_y, column(CWidthElement::BoxWall));
