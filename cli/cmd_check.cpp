@@ -22,6 +22,7 @@
 #include "framework/excerpt.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
+#include "option_errors.h"
 #include "progress.h"
 #include "reports/report_document.h"
 #include "schemas.h"
@@ -267,11 +268,6 @@ CExit RunCheck(const COptions& options) {
   if (options.kind == "weld-group")
     return CChecker<CWeldGroupCheck2003, CWeldGroupCheck2017>(options).Run();
   return CChecker<CButtCheck, CButtCheck2017>(options).Run();
-}
-
-// What is wrong with the name of a file.
-std::string FileName(const std::string& name) {
-  return name.empty() ? Say("为空；请给出文件名", "is empty; give the name of a file") : "";
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <span>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -11,12 +12,16 @@
 #include "commands.h"
 #include "edition_option.h"
 #include "error.h"
+#include "framework/excerpt.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
 #include "member_reader.h"
 #include "members/cases/member_choice.h"
+#include "members/report/choice_plot.h"
 #include "nearest.h"
+#include "option_errors.h"
 #include "store_place.h"
+#include "style_ranges.h"
 
 namespace orv3::cli {
 namespace {
@@ -24,6 +29,8 @@ namespace {
 struct COptions {
   std::string file;
   std::string tables;
+  std::vector<std::string> styles;  // each the object of a range
+  std::string plot;
   std::string code;
   int top = 0;  // 0: all that pass
   bool json = false;
@@ -31,8 +38,13 @@ struct COptions {
   CStoreOptions store;
 };
 
+// The gap of pairs is no section.
 bool HasSection(const CMemberCase& input) {
-  return !input.m_strTable.empty() || !input.m_strStyle.empty() || !input.m_strLattice.empty();
+  const auto isGiven = [](const std::string* text) { return !text->empty(); };
+  const auto texts = {&input.m_strTable,   &input.m_strNo,   &input.m_strStyle,
+                      &input.m_strLattice, &input.m_strBond, &input.m_strBar};
+  return std::any_of(texts.begin(), texts.end(), isGiven) || !input.m_sizes.m_arrEach.empty() ||
+         input.m_sizes.m_dUniform != 0;
 }
 
 // Every case of the file, a member's combinations one after another.
@@ -65,105 +77,209 @@ std::vector<CMemberCase> ReadMembers(const COptions& options) {
   return cases;
 }
 
-std::vector<CMemberCandidate> Candidates(const COptions& options) {
+std::vector<CString> TablesAsked(const std::string& names) {
+  if (names == "all") return MemberTables();
   std::vector<CString> tables;
-  if (options.tables == "all") {
-    tables = MemberTables();
-  } else {
-    std::istringstream names(options.tables);
-    for (std::string name; std::getline(names, name, ',');) {
-      const CString table = FromUtf8(name);
-      if (std::find(tables.begin(), tables.end(), table) != tables.end())
-        Refuse("--table: names \"" + name + "\" twice; give each table once");
-      tables.push_back(table);
-    }
+  std::istringstream each(names);
+  for (std::string name; std::getline(each, name, ',');) {
+    const CString table = FromUtf8(name);
+    if (std::find(tables.begin(), tables.end(), table) != tables.end())
+      Refuse("--table: " + Say("“{1}”出现两次；请每个表只给一次",
+                               "names \"{1}\" twice; give each table once", {name}));
+    tables.push_back(table);
   }
+  return tables;
+}
+
+std::vector<CMemberCandidate> Candidates(const COptions& options, double gap) {
   std::vector<CMemberCandidate> candidates;
-  for (const CString& table : tables) {
-    std::vector<CMemberCandidate> rows = MemberCandidates(table);
+  for (const CString& table : TablesAsked(options.tables)) {
+    std::vector<CMemberCandidate> rows = MemberCandidates(table, gap);
     if (rows.empty() && options.tables != "all") {
-      Refuse("--table: the store has no rows of \"" + ToUtf8(table) +
-             "\"; the nearest are: " + Nearest(ToUtf8(table), MemberTables()));
+      Refuse("--table: " + Say("库中没有“{1}”的行；最接近的是：{2}",
+                               "the store has no rows of \"{1}\"; the nearest are: {2}",
+                               {ToUtf8(table), Nearest(ToUtf8(table), MemberTables())}));
     }
     std::move(rows.begin(), rows.end(), std::back_inserter(candidates));
   }
-  if (candidates.empty()) Refuse("--table: names no table; give names joined by commas, or all");
+  for (const std::string& style : options.styles) AddStyleRanges(style, candidates);
+  if (candidates.empty())
+    Refuse(Say("没有可选的截面；请给出 --table 表名[,表名...]、--table all 或 --style",
+               "nothing to choose from; give --table with names or all, or --style"));
   return candidates;
 }
 
-std::string CaseName(const std::vector<CMemberCase>& cases, std::size_t index) {
-  return cases[index].m_strId.empty() ? std::to_string(index + 1) : cases[index].m_strId;
-}
+// --- The answer ----------------------------------------------------------------------------------
+
+std::string NoteText(CMemberNote note) { return MemberNoteText(note).In(MessageLanguage()); }
+
+class CAnswer {
+ public:
+  CAnswer(const std::vector<CMemberCase>& cases, const std::vector<CMemberCandidate>& candidates,
+          const CMemberChoice& choice, CCodeEdition edition, int top)
+      : m_arrCase(cases), m_arrCandidate(candidates), m_choice(choice), m_nEdition(edition) {
+    m_arrShown = choice.m_arrChosen;
+    if (top > 0) m_arrShown = m_arrShown.first(std::min(m_arrShown.size(), std::size_t(top)));
+  }
+
+  CJson Json() const {
+    CJson rows = CJson::array(), refusals = CJson::array();
+    for (const CChosenMember& chosen : m_arrShown) rows.push_back(RowJson(chosen));
+    for (const CRefusedMember& refused : m_choice.m_arrRefused) {
+      const CMemberCandidate& row = m_arrCandidate[refused.m_nCandidate];
+      refusals.push_back(
+          {{"table", row.m_strTable}, {"no", row.m_strNo}, {"rows", refused.m_nRows}});
+      if (refused.m_case) refusals.back()["case"] = CaseName(*refused.m_case);
+      refusals.back()["reason"] = refused.m_fault.Line(MessageLanguage());
+    }
+    return {{"code", EditionFacts(m_nEdition).m_szYear},
+            {"tried", m_choice.m_nTried},
+            {"refused", m_choice.m_nRefused},
+            {"refusals", std::move(refusals)},
+            {"passing", m_choice.m_arrChosen.size()},
+            {"rows", std::move(rows)}};
+  }
+
+  std::string Csv() const {
+    std::string csv = "table,no,mass,ratio,governs,case,warnings\n";
+    for (const CChosenMember& chosen : m_arrShown) {
+      const CMemberCandidate& row = m_arrCandidate[chosen.m_nCandidate];
+      AppendCsv(csv, row.m_strTable);
+      csv += ',';
+      AppendCsv(csv, row.m_strNo);
+      csv += ',';
+      AppendCsv(csv, row.m_dMass);
+      csv += ',';
+      AppendCsv(csv, chosen.m_dRatio);
+      csv += std::string(",") + MemberCheckName(chosen.m_nGoverns) + ',';
+      AppendCsv(csv, CaseName(chosen.m_nCase));
+      csv += ',';
+      std::string notes;
+      for (const CMemberNote note : chosen.m_arrNote) {
+        if (!notes.empty()) notes += " | ";
+        notes += NoteText(note);
+      }
+      AppendCsv(csv, notes);
+      csv += '\n';
+    }
+    return csv;
+  }
+
+  std::string Text() const {
+    std::string text;
+    if (!m_arrShown.empty()) text = Table() + '\n';
+    text += Say("{1} 个截面中 {2} 个满足（{3}）", "{2} of {1} sections pass ({3})",
+                {std::to_string(m_choice.m_nTried), std::to_string(m_choice.m_arrChosen.size()),
+                 EditionFacts(m_nEdition).m_szName}) +
+            '\n';
+    if (m_choice.m_nRefused > 0)
+      text += Say("另有 {1} 个不能验算，第一个：{2}", "{1} more are not covered, the first: {2}",
+                  {std::to_string(m_choice.m_nRefused), FirstRefusal()}) +
+              '\n';
+    return text + Notes();
+  }
+
+  // "热轧等边角钢 L20X3, case wind, steel: ..."
+  std::string FirstRefusal() const {
+    const CRefusedMember& refused = m_choice.m_arrRefused.front();
+    const CMemberCandidate& row = m_arrCandidate[refused.m_nCandidate];
+    std::string text = row.m_strTable + ' ' + row.m_strNo;
+    if (refused.m_case)
+      text += Say("，算例 {1}", ", case {1}", {Excerpt(CaseName(*refused.m_case))});
+    return text + Say("，", ", ") + refused.m_fault.Line(MessageLanguage());
+  }
+
+ private:
+  std::string CaseName(std::size_t index) const {
+    return m_arrCase[index].m_strId.empty() ? std::to_string(index + 1) : m_arrCase[index].m_strId;
+  }
+
+  CJson RowJson(const CChosenMember& chosen) const {
+    const CMemberCandidate& row = m_arrCandidate[chosen.m_nCandidate];
+    CJson json = {{"table", row.m_strTable}, {"no", row.m_strNo}};
+    if (!row.m_arrSize.empty()) {
+      json["style"] = row.m_strTable;
+      json["sizes"] = row.m_arrSize;
+    }
+    CJson warnings = CJson::array();
+    for (const CMemberNote note : chosen.m_arrNote)
+      warnings.push_back({{"key", MemberNoteKey(note)}, {"text", NoteText(note)}});
+    json.update({{"mass", JsonNumber(row.m_dMass)},
+                 {"ratio", JsonNumber(chosen.m_dRatio)},
+                 {"governs", MemberCheckName(chosen.m_nGoverns)},
+                 {"case", CaseName(chosen.m_nCase)},
+                 {"warnings", std::move(warnings)}});
+    return json;
+  }
+
+  std::string Table() const {
+    CTextTable table(
+        {CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left, CAlign::Left});
+    table.AddRow({Say("截面表", "table"), Say("型号", "no"), "kg/m", Say("利用率", "utilisation"),
+                  Say("控制项", "governs"), Say("算例", "case")});
+    for (const CChosenMember& chosen : m_arrShown) {
+      const CMemberCandidate& row = m_arrCandidate[chosen.m_nCandidate];
+      table.AddRow({row.m_strTable, row.m_strNo, PlainNumber(row.m_dMass),
+                    PercentText(chosen.m_dRatio),
+                    MemberCheckTitle(chosen.m_nGoverns).In(MessageLanguage()),
+                    Excerpt(CaseName(chosen.m_nCase))});
+    }
+    return table.Text();
+  }
+
+  // What was assumed of the sections shown, a line each with the first that it is of.
+  std::string Notes() const {
+    std::string text;
+    std::vector<CMemberNote> told;
+    for (const CChosenMember& chosen : m_arrShown) {
+      for (const CMemberNote note : chosen.m_arrNote) {
+        if (std::find(told.begin(), told.end(), note) != told.end()) continue;
+        told.push_back(note);
+        const auto has = [note](const CChosenMember& each) {
+          return std::find(each.m_arrNote.begin(), each.m_arrNote.end(), note) !=
+                 each.m_arrNote.end();
+        };
+        const auto count = std::count_if(m_arrShown.begin(), m_arrShown.end(), has);
+        text += Say("请注意 {1}：{2}（{3} 个，第一个 {4}）",
+                    "look at {1}: {2} ({3} of these, the first {4})",
+                    {MemberNoteKey(note), NoteText(note), std::to_string(count),
+                     m_arrCandidate[chosen.m_nCandidate].m_strNo}) +
+                '\n';
+      }
+    }
+    return text;
+  }
+
+  const std::vector<CMemberCase>& m_arrCase;
+  const std::vector<CMemberCandidate>& m_arrCandidate;
+  const CMemberChoice& m_choice;
+  const CCodeEdition m_nEdition;
+  std::span<const CChosenMember> m_arrShown;
+};
 
 CExit RunChoose(const COptions& options) {
   StoreToRead(options.store);
-  const CCodeEdition edition = EditionAsked(options.code);
   const std::vector<CMemberCase> cases = ReadMembers(options);
-  std::vector<CMemberCandidate> candidates = Candidates(options);
+  CCodeEdition edition = EditionAsked(options.code);
+  double gap = CMemberCase::kNone;
+  auto fault = ReadChoiceEdition(cases, edition, edition);
+  if (!fault) fault = ReadChoiceGap(cases, gap);
+  if (fault) Refuse(Visible(options.file) + ": " + fault->Line(MessageLanguage()));
+  std::vector<CMemberCandidate> candidates = Candidates(options, gap);
   const CMemberChoice choice = ChooseMember(cases, candidates, edition);
+  const CAnswer answer(cases, candidates, choice, edition, options.top);
   if (choice.m_nTried == 0)
-    Refuse(Visible(options.file) +
-           ": every section refused, the first: " + candidates.front().m_strNo + ", " +
-           choice.m_arrRefused.front().m_fault.Line(MessageLanguage()));
-  std::size_t shown = choice.m_arrChosen.size();
-  if (options.top > 0) shown = std::min(shown, static_cast<std::size_t>(options.top));
-  CJson rows = CJson::array();
-  CTextTable table(
-      {CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Right, CAlign::Left, CAlign::Left});
-  table.AddRow({"table", "no", "kg/m", "utilisation", "governs", "case"});
-  std::string csv = "table,no,mass,ratio,governs,case\n";
-  for (std::size_t i = 0; i < shown; ++i) {
-    const CChosenMember& chosen = choice.m_arrChosen[i];
-    const CMemberCandidate& row = candidates[chosen.m_nCandidate];
-    const char* governs = MemberCheckName(chosen.m_nGoverns);
-    const std::string name = CaseName(cases, chosen.m_nCase);
-    if (options.json) {
-      rows.push_back({{"table", row.m_strTable},
-                      {"no", row.m_strNo},
-                      {"mass", JsonNumber(row.m_dMass)},
-                      {"ratio", JsonNumber(chosen.m_dRatio)},
-                      {"governs", governs},
-                      {"case", name}});
-      continue;
-    }
-    AppendCsv(csv, row.m_strTable);
-    csv += ',';
-    AppendCsv(csv, row.m_strNo);
-    csv += ',';
-    AppendCsv(csv, row.m_dMass);
-    csv += ',';
-    AppendCsv(csv, chosen.m_dRatio);
-    csv += std::string(",") + governs + ',';
-    AppendCsv(csv, name);
-    csv += '\n';
-    table.AddRow({row.m_strTable, row.m_strNo, PlainNumber(row.m_dMass),
-                  PercentText(chosen.m_dRatio), governs, name});
-  }
+    Refuse(Visible(options.file) + ": " +
+           Say("所有截面都被拒绝，第一个：{1}", "every section refused, the first: {1}",
+               {answer.FirstRefusal()}));
+  if (!options.plot.empty())
+    WriteFile(options.plot, DrawingSvg(ChoicePlot(choice, candidates, MessageLanguage())));
   if (options.json) {
-    CJson refusals = CJson::array();
-    for (const CRefusedMember& refused : choice.m_arrRefused) {
-      const CMemberCandidate& row = candidates[refused.m_nCandidate];
-      refusals.push_back({{"table", row.m_strTable},
-                          {"no", row.m_strNo},
-                          {"rows", refused.m_nRows},
-                          {"reason", refused.m_fault.Line(MessageLanguage())}});
-    }
-    PrintJson({{"code", EditionFacts(edition).m_szYear},
-               {"tried", choice.m_nTried},
-               {"refused", choice.m_nRefused},
-               {"refusals", std::move(refusals)},
-               {"passing", choice.m_arrChosen.size()},
-               {"rows", std::move(rows)}});
+    PrintJson(answer.Json());
   } else if (options.csv) {
-    PrintCsv(csv);
+    PrintCsv(answer.Csv());
   } else {
-    Print((shown > 0 ? table.Text() + '\n' : "") + std::to_string(choice.m_arrChosen.size()) +
-          " of " + std::to_string(choice.m_nTried) + " sections pass" +
-          (choice.m_nRefused > 0
-               ? ", " + std::to_string(choice.m_nRefused) + " more are not covered, the first: " +
-                     choice.m_arrRefused.front().m_fault.Line(MessageLanguage())
-               : "") +
-          '\n');
+    Print(answer.Text());
   }
   return choice.m_arrChosen.empty() ? CExit::CheckFailed : CExit::Done;
 }
@@ -178,15 +294,38 @@ void AddChooseCommand(CLI::App& program) {
           "Find the lightest sections that pass a member's cases; exit status 1 for none"));
   command
       ->add_option("FILE", options->file,
-                   "Cases of check member without a section; - is standard input")
+                   Say("check member 的算例，不含截面；- 表示标准输入",
+                       "Cases of check member without a section; - is standard input"))
       ->required();
-  command->add_option("--table", options->tables, "Tables to choose from, joined by commas, or all")
-      ->required()
+  command
+      ->add_option("--table", options->tables,
+                   Say("从中选取的截面表，以逗号分隔，或 all",
+                       "Tables to choose from, joined by commas, or all"))
       ->type_name("TABLE[,TABLE...]");
-  command->add_option("--top", options->top, "Show this many at most")->check(CLI::PositiveNumber);
+  command
+      ->add_option("--style", options->styles,
+                   Say("一种自定义截面，尺寸为数或 [从, 到, 步长]，mm；可给多次",
+                       "Sections of a style, each size a number or [from, to, step], mm; may be "
+                       "given again: {\"style\": \"box\", \"b\": [200, 400, 50], \"h\": 400, "
+                       "\"t\": 16}"))
+      ->type_name("JSON")
+      ->expected(1)
+      ->take_all();
+  command
+      ->add_option("--plot", options->plot,
+                   Say("以 SVG 写入单位质量与利用率的图", "Write mass against ratio as SVG"))
+      ->check(FileName)
+      ->type_name("FILE.svg");
+  command->add_option("--top", options->top, Say("至多显示这么多个", "Show this many at most"))
+      ->check(CLI::PositiveNumber);
   AddEditionOption(*command, options->code);
-  auto* json = command->add_flag("--json", options->json, "As JSON, numbers with all their digits");
-  command->add_flag("--csv", options->csv, "As CSV, one line a section")->excludes(json);
+  auto* json = command->add_flag(
+      "--json", options->json,
+      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  command
+      ->add_flag("--csv", options->csv,
+                 Say("以 CSV 输出，每个截面一行", "As CSV, one line a section"))
+      ->excludes(json);
   AddStoreOptions(*command, options->store);
   command->callback([options] {
     const CExit exit = RunChoose(*options);

@@ -34,7 +34,8 @@ std::string YearAsked(const std::string& year) {
 
 CCodeEdition EditionAsked(const std::string& year) {
   const std::string asked = YearAsked(year);
-  if (asked.empty()) return kDefaultEdition;
+  // The variable is for checks as well, which both editions can make.
+  if (asked.empty() || (year.empty() && asked == "both")) return kDefaultEdition;
   const CCodeAnswer<CCodeEdition> edition = EditionByYear(asked);
   if (edition) return *edition;
   const CCodeRefusal& refusal = edition.Refusal();

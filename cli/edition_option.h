@@ -14,7 +14,8 @@ void AddEditionOption(CLI::App& command, std::string& year);
 // The year that was asked for: of --code, else of the variable ORV3CAL_CODE, else empty.
 std::string YearAsked(const std::string& year);
 
-// The edition that was asked for, 2017 when none was; another year is refused by name.
+// The edition that was asked for, 2017 when none was or the variable asks for both; another year
+// is refused by name.
 CCodeEdition EditionAsked(const std::string& year);
 
 }  // namespace orv3::cli

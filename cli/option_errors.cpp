@@ -48,4 +48,8 @@ std::string OptionErrorText(const CLI::ParseError& error) {
   return text;  // of a check that has its words from the command
 }
 
+std::string FileName(const std::string& name) {
+  return name.empty() ? Say("为空；请给出文件名", "is empty; give the name of a file") : "";
+}
+
 }  // namespace orv3::cli

@@ -106,6 +106,10 @@ enum class CMemberNote : std::uint8_t {
   BondJoints,
   LatticeShear,
   OppositeMoment,
+  AssumedLengthZ,
+  AssumedSpan,
+  AssumedLoadFlange,
+  AssumedAngle,
 };
 ORV3CAL_API CTextLiteral MemberNoteText(CMemberNote note) noexcept;
 ORV3CAL_API const char* MemberNoteKey(CMemberNote note) noexcept;

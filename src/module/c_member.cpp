@@ -99,13 +99,13 @@ std::vector<CString> TablesOf(const CString& names) {
   return tables;
 }
 
-std::vector<CMemberCandidate> CandidatesOf(const CString& names) {
+std::vector<CMemberCandidate> CandidatesOf(const CString& names, double gap) {
   std::vector<CMemberCandidate> candidates;
   const std::vector<CString> tables = TablesOf(names);
   for (auto table = tables.begin(); table != tables.end(); ++table) {
     if (std::find(tables.begin(), table, *table) != table)
       throw CFailure("tables: names \"" + ToUtf8(*table) + "\" twice; give each table once");
-    std::vector<CMemberCandidate> rows = MemberCandidates(*table);
+    std::vector<CMemberCandidate> rows = MemberCandidates(*table, gap);
     if (rows.empty() && names != L"all") {
       throw CFailure("tables: the store has no rows of \"" + ToUtf8(*table) +
                      "\"; orv3_list_tables names its tables");
@@ -129,14 +129,14 @@ std::vector<CMemberCase> CasesOf(const orv3_char* input, const std::string& code
   return cases;
 }
 
-std::vector<CString> ChoiceLines(const CMemberChoice& choice,
+std::vector<CString> ChoiceLines(const CMemberChoice& choice, CCodeEdition edition,
                                  const std::vector<CMemberCandidate>& candidates,
                                  const std::vector<CMemberCase>& cases, int top) {
   const auto count = [](const char* key, std::size_t n) {
     return Line(key, static_cast<double>(n));
   };
   std::vector<CString> lines = {
-      Line("code", cases.front().m_strCode), count("tried", choice.m_nTried),
+      Line("code", EditionFacts(edition).m_szYear), count("tried", choice.m_nTried),
       count("passing", choice.m_arrChosen.size()), count("refused", choice.m_nRefused)};
   std::size_t shown = choice.m_arrChosen.size();
   if (top > 0) shown = std::min(shown, static_cast<std::size_t>(top));
@@ -197,13 +197,18 @@ int ORV3_CALL orv3_choose(const orv3_char* tables, const orv3_char* code, const 
     const std::vector<CMemberCase> cases = CasesOf(input, CodeOf(code));
     if (top < 0) throw CFailure("top: must be a number of rows, or 0 for all");
     NeedDataFor(true);
-    std::vector<CMemberCandidate> candidates = CandidatesOf(names);
-    const CMemberChoice choice = ChooseMember(cases, candidates, kDefaultEdition);
+    CCodeEdition edition = kDefaultEdition;
+    double gap = CMemberCase::kNone;
+    auto fault = ReadChoiceEdition(cases, edition, edition);
+    if (!fault) fault = ReadChoiceGap(cases, gap);
+    if (fault) throw CFailure(fault->Line(CLanguage::English));
+    std::vector<CMemberCandidate> candidates = CandidatesOf(names, gap);
+    const CMemberChoice choice = ChooseMember(cases, candidates, edition);
     if (choice.m_nTried == 0) {
       const CRefusedMember& first = choice.m_arrRefused.front();
       throw CFailure("every section refused, the first: " + candidates[first.m_nCandidate].m_strNo +
                      ", " + first.m_fault.Line(CLanguage::English));
     }
-    return GiveText(JoinLines(ChoiceLines(choice, candidates, cases, top)), text, size);
+    return GiveText(JoinLines(ChoiceLines(choice, edition, candidates, cases, top)), text, size);
   });
 }

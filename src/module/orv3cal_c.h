@@ -257,11 +257,11 @@ ORV3_API int ORV3_CALL orv3_check_member(const orv3_char* code, const orv3_char*
 
 /* The lightest rows of the opened data that pass: `tables` are names joined by commas, or "all";
  * `input` is a member without its section, or several with an empty line between each and the next,
- * all of which must pass. The result: "code", how many rows were "tried", are "passing" and were
- * "refused", for each of the first `top` (0: all) that pass, lightest first, a line
- * "row=table;number;kg/m;ratio;governing check;case", and for each table with refused rows
- * "refusal=table;how many;first number;reason". None that passes is no failure; a failure when
- * every row is refused. */
+ * all of which must pass, by one edition; "section.gap" is that of pairs. The result: "code", how
+ * many rows were "tried", are "passing" and were "refused", for each of the first `top` (0: all)
+ * that pass, lightest first, a line "row=table;number;kg/m;ratio;governing check;case", and for
+ * each table with refused rows "refusal=table;how many;first number;reason". None that passes is no
+ * failure; a failure when every row is refused. */
 ORV3_API int ORV3_CALL orv3_choose(const orv3_char* tables, const orv3_char* code,
                                    const orv3_char* input, int top, orv3_char* text, int size);
 

@@ -242,17 +242,23 @@ class CReportWriter {
       return std::to_string(std::count_if(m_arrCase.begin(), m_arrCase.end(), holds));
     };
     const std::string all = std::to_string(m_arrCase.size());
-    const bool bBoth = Editions().size() > 1;
-    const CTextLiteral what =
-        bBoth ? CTextLiteral{" 项验算", " checks"} : CTextLiteral{" 个算例", " cases"};
+    // A case by both editions has two lines, one after the other.
+    int nCases = 0;
+    for (std::size_t i = 0; i < m_arrCase.size(); ++i)
+      nCases += i == 0 || m_arrCase[i].m_nCase != m_arrCase[i - 1].m_nCase;
+    const std::string cases = std::to_string(nCases);
+    const CText what =
+        cases == all ? CText{all + " 个算例", all + " cases"}
+                     : CText{cases + " 个算例、" + all + " 项验算",
+                             cases + (nCases == 1 ? " case, " : " cases, ") + all + " checks"};
     const std::string refused = count([](auto& each) { return !each.m_strRefused.empty(); });
     const std::string passes = count([](auto& each) { return each.m_bPass; });
     const std::string fails =
         count([](auto& each) { return each.m_strRefused.empty() && !each.m_bPass; });
-    const CText text = {"共 " + all + what.m_szChinese + "：满足 " + passes + "，不满足 " + fails +
-                            "，拒绝 " + refused + "。",
-                        all + what.m_szEnglish + ": " + passes + " pass, " + fails + " fail, " +
-                            refused + " refused."};
+    const CText text = {
+        "共 " + what.m_strChinese + "：满足 " + passes + "，不满足 " + fails + "，拒绝 " + refused +
+            "。",
+        what.m_strEnglish + ": " + passes + " pass, " + fails + " fail, " + refused + " refused."};
     const bool bAll = all == passes;
     return std::string("<div class=\"box ") + (bAll ? "pass" : "fail") + "\">" +
            text.In(m_nLanguage) + "</div>\n";

@@ -92,4 +92,68 @@ TEST(Member, RefusedByName) {
   }
 }
 
+CRunResult Choose(const std::string& text, const std::string& options) {
+  const COwnFile file("choose.json", text);
+  return RunProgram("choose " + file.m_strPath + " " + options + kData);
+}
+
+const std::string kBare = R"("steel": "Q345", "N": -800, "lengths": {"x": 6000, "y": 3000})";
+
+TEST(Choose, AnswersSectionsOfStylesAsTheCheckTakesThem) {
+  const CRunResult run =
+      Choose("{" + kBare + "}", R"(--style '{"style": "h", "b": [200, 300, 50], "h": 300,)"
+                                R"( "tf": [0.1, 12.1, 12], "tw": 8}' --json)");
+  const Json answer = Json::parse(run.m_strOut);
+  EXPECT_EQ(answer["tried"], 6);
+  const Json& row = answer["rows"][0];
+  const Json sizes = row["sizes"];
+  const Json check = Json::parse(
+      Check(R"({"section": {"style": "h", "sizes": )" + sizes.dump() + "}, " + kBare + "}",
+            "--json")
+          .m_strOut);
+  EXPECT_EQ(check["ratio"], row["ratio"]);
+  EXPECT_EQ(check["warnings"], row["warnings"]);
+}
+
+TEST(Choose, GapOfPairsIsThatOfTheCheck) {
+  const std::string body = R"("steel": "Q235", "N": -300, "lengths": {"x": 3000, "y": 3000}})";
+  const Json answer = Json::parse(
+      Choose(R"({"section": {"gap": 12}, )" + body, "--table 热轧等边角钢组合 --json").m_strOut);
+  const Json& row = answer["rows"][0];
+  const Json check =
+      Json::parse(Check(R"({"section": {"table": "热轧等边角钢组合", "gap": 12, "no": )" +
+                            row["no"].dump() + "}, " + body,
+                        "--json")
+                      .m_strOut);
+  EXPECT_EQ(check["ratio"], row["ratio"]);
+  EXPECT_EQ(check["warnings"], row["warnings"]);
+}
+
+TEST(Choose, IsByOneEditionAndNamesIt) {
+  const std::string old = "{" + kBare + R"(, "code": "2003"})";
+  EXPECT_EQ(Json::parse(Choose(old, "--table 热轧宽翼缘H型钢 --code 2017 --json").m_strOut)["code"],
+            "2003");
+  const CRunResult mixed = Choose("[" + old + ", {" + kBare + "}]", "--table 热轧宽翼缘H型钢");
+  EXPECT_EQ(mixed.m_nExit, 2);
+  EXPECT_NE(mixed.m_strError.find("code: "), std::string::npos) << mixed.m_strError;
+}
+
+TEST(Choose, RefusesWhatIsNoRangeByName) {
+  const std::pair<const char*, const char*> cases[] = {
+      {R"({"style": "h", "b": 200})", "h is missing"},
+      {R"({"style": "hh"})", "\"hh\" is no section style"},
+      {R"({"style": "circle", "R": 9, "r": 8})", "no key r; there are style, R"},
+      {R"({"style": "circle", "R": [9, 8, 1]})", "R is not possible"},
+      {R"({"style": "circle", "R": [1, 8, 0]})", "R is not possible"},
+      {R"({"style": "circle", "R": [1, 9e9, 1]})", "more than 20000 sections"},
+      {"[]", "is no JSON object"},
+  };
+  for (const auto& [style, what] : cases) {
+    const CRunResult run =
+        Choose("{" + kBare + "}", "--style '" + std::string(style) + "' --lang en");
+    EXPECT_EQ(run.m_nExit, 2) << style;
+    EXPECT_NE(run.m_strError.find(what), std::string::npos) << run.m_strError;
+  }
+}
+
 }  // namespace

@@ -111,6 +111,9 @@ TEST(BoltCase, RefusesTheImpossibleByKey) {
   ExpectRefused<CBoltCheck>(With(Ordinary(), {{"rows", 1}}), {{"M", 100}});
   ExpectRefused<CBoltCheck>(With(Friction(), {{"rows", 1}}), {{"M", -100}});
   ExpectRefused<CBoltCheck>(With(Ordinary(), {{"rows", 1}, {"cols", 1}}), {{"T", -1}});
+  // Nothing to check: no load, and one that presses the plates together.
+  ExpectRefused<CBoltCheck>(Ordinary(), {{"Vx", 0}});
+  ExpectRefused<CBoltCheck>(With(Friction(), {{"N", 5}, {"Vx", 0}}), {{"N", -5}});
   // Staggered holes 15 mm apart.
   ExpectRefused<CBoltCheck>(With(Ordinary(), {{"layout", 1}, {"Vy", 10}, {"rowSpace", 25}}),
                             {{"rows", 1}, {"colSpace", 9}});
@@ -128,6 +131,12 @@ TEST(BoltCase, WarnsOfDetailingAndOfTheUnsafeSide) {
   ASSERT_EQ(threads.Warnings().size(), 1U);
   EXPECT_EQ(threads.Warnings()[0].m_strKey, "nv") << "78.5 kN, and 61.17 at the threads";
   EXPECT_NE(threads.Warnings()[0].m_text.m_strEnglish.find("61.17"), std::string::npos);
+  ASSERT_TRUE(
+      threads.Run(With(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}, {"threads", 0}})));
+  EXPECT_NEAR(threads.Worst().m_dUtilisation, 10 / 61.17, 1e-5) << "and judged by it where said";
+  EXPECT_NEAR(threads.Results().m_dNvb, 78.54, 1e-2) << "the record's";
+  ExpectWarned<CBoltCheck>(With(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}, {"threads", 1}}),
+                           {{"threads", 0}});
 }
 
 // Six bolts share Vx = 60 kN and N = 30 kN; one takes 10 kN of shear and 5 kN of tension.
@@ -177,7 +186,7 @@ TEST(WeldCase, RefusesTheImpossibleByKey) {
   ExpectRefused<CFilletCheck>(
       Fillet(), {{"case", 6}, {"steel", 4}, {"lw", 0}, {"V", NAN}, {"betaF", 0}, {"he", 0}});
   ExpectRefused<CFilletCheck>(With(Fillet(), {{"he", 0}, {"hf", 8}, {"angle", 90}}),
-                              {{"he", 5.6}, {"angle", 180}});
+                              {{"he", 5.6}, {"angle", 180}, {"angle", 136}, {"angle", 59}});
   ExpectRefused<CFilletCheck>(With(Fillet(), {{"he", 0}, {"s", 8}, {"angle", 45}, {"groove", 1}}),
                               {{"s", 3}});
   ExpectRefused<CFilletCheck>(With(Fillet(), {{"he", 0}, {"s", 8}, {"angle", 45}, {"groove", 2}}),
@@ -187,13 +196,39 @@ TEST(WeldCase, RefusesTheImpossibleByKey) {
   ExpectRefused<CButtCheck>(With(Butt(), {{"case", 0}, {"M", 0}, {"V", 0}}), {{"M", -1}, {"V", 1}});
   ExpectRefused<CFilletCheck>(With(Fillet(), {{"case", 3}, {"N", 0}}), {{"N", 1}});
   ExpectRefused<CFilletCheck>(With(Fillet(), {{"case", 2}, {"V", 0}}), {{"V", 1}});
+  ExpectRefused<CButtCheck>(With(Butt(), {{"M", 0}, {"V", 0}}), {{"N", 0}});
 }
 
 TEST(WeldCase, WarnsOfDetailingAndOfTheUnsafeSide) {
   ExpectWarned<CFilletCheck>(With(Fillet(), {{"case", 1}, {"V", 0}}),
-                             {{"betaF", 1.3}, {"lw", 39}, {"M", -1000}});
-  ExpectWarned<CFilletCheck>(With(Fillet(), {{"he", 0}, {"hf", 8}, {"angle", 100}, {"betaF", 1}}),
-                             {{"angle", 136}});
+                             {{"betaF", 1.3}, {"M", -1000}});
+  CFilletCheck check;
+  ASSERT_TRUE(check.Run(With(Fillet(), {{"lw", 39}, {"N", 1}, {"M", 0}, {"V", 1}})));
+  EXPECT_FALSE(check.Pass()) << "8.2.7: 40 mm";
+}
+
+// Equal loads are judged alike by every load case that takes them.
+template <class CHECK>
+void ExpectAlikeWithoutV(const typename CHECK::CCase& input) {
+  CHECK check;
+  double utilisation = 0;
+  for (const double loadCase : {1, 2, 4, 5}) {
+    ASSERT_TRUE(check.Run(With(input, {{"case", loadCase}, {"V", 0}})));
+    if (loadCase == 1) utilisation = check.Worst().m_dUtilisation;
+    EXPECT_NEAR(check.Worst().m_dUtilisation, utilisation, 1e-12) << loadCase;
+  }
+  ASSERT_TRUE(check.Run(With(input, {{"case", 4}, {"V", 0.01}})));
+  EXPECT_NEAR(check.Worst().m_dUtilisation, utilisation, 1e-6);
+}
+
+TEST(WeldCase, TheLoadCaseIsNoPartOfTheStrength) {
+  const std::vector<CChange> groove = {{"he", 0}, {"s", 8}, {"angle", 45}, {"groove", 2}};
+  ExpectAlikeWithoutV<CFilletCheck>(With(Fillet(), groove));
+  ExpectAlikeWithoutV<CFilletCheck2017>(
+      With(With(CFilletCase2017(Fillet()), groove), {{"betaF", 1}}));
+  const CButtCase pressed = With(Butt(), {{"quality", 3}, {"N", -400}});
+  ExpectAlikeWithoutV<CButtCheck>(pressed);
+  ExpectAlikeWithoutV<CButtCheck2017>(CButtCase2017(pressed));
 }
 
 }  // namespace

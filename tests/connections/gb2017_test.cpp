@@ -107,6 +107,14 @@ TEST(Gb2017, BoltGroupsByHand) {
        With(Friction(), {{"nf", 20}, {"t", 10}, {"Vx", 700}, {"hole", 2}}),
        0.75 * 700e3 / ((260 - 3 * 37) * 10) / (0.7 * 470), "passX"},
       {"3 d0", With(Friction(), {{"rowSpace", 65}}), 66 / 65.0, "passSpacing"},
+      {"the outer line of staggered bolts, not the line between",
+       With(Friction(), {{"layout", 1},
+                         {"cols", 4},
+                         {"colSpace", 0, {60, 60, 120}},
+                         {"rowSpace", 100},
+                         {"nf", 1},
+                         {"Vx", 8}}),
+       8 / 10.0 / 55.8, "passForces"},
       {"12 t", With(Friction(), {{"t", 6}, {"Vx", 10}}), 80 / 72.0, "passSpacing"},
       {"2 d0 of an oversize hole along the force",
        With(Friction(), {{"hole", 1}, {"ex", 47}, {"colSpace", 75}}), 48 / 47.0, "passSpacing"},
@@ -202,7 +210,7 @@ TEST(Gb2017, FilletWeldsByHand) {
        combined(60e3 / (4 * 240.0), 120e3 / (4 * 240.0)) / 200},
       {"11.2.4, bevel: s - 3, 0.9 ffw, beta-f 1 in tension",
        With(Fillet(), {{"hf", 0}, {"s", 10}, {"angle", 45}, {"groove", 1}}),
-       combined(60e3 / (7 * 240.0), 120e3 / (7 * 240.0)) / 180},
+       combined(60e3 / (7 * 240.0), 120e3 / (7 * 240.0) / 0.9) / 200},
       {"60 hf of a lap weld", lap(360, 6), 120e3 / (4.2 * 360) / 200},
       {"11.2.6: 480 mm of 60 hf = 360", lap(480, 6),
        120e3 / (4.2 * 480) / 200 / (1.5 - 480 / 720.0), 1.5 - 480 / 720.0},
@@ -222,6 +230,12 @@ TEST(Gb2017, FilletWeldsByHand) {
        With(Fillet(), {{"hf", 0}, {"s", 5}, {"angle", 70}, {"lw", 30}, {"N", 1}, {"V", 1}}),
        40 / 30.0},
       {"0.7 of 3 mm", With(Fillet(), {{"hf", 0}, {"he", 2}, {"N", 1}, {"V", 1}}), 2.1 / 2},
+      {"0.7 of the leg of Table 11.3.5",
+       With(Fillet(), {{"hf", 0}, {"he", 5}, {"N", 1}, {"V", 1}, {"t1", 40}, {"t2", 40}}), 5.6 / 5},
+      {"1.5 √t of a groove weld",
+       With(Fillet(),
+            {{"hf", 0}, {"s", 9}, {"angle", 70}, {"N", 1}, {"V", 1}, {"t1", 40}, {"t2", 10}}),
+       1.5 * std::sqrt(40) / 9},
       {"8 hf", With(Fillet(), {{"lw", 60}, {"N", 1}, {"V", 1}}), 64 / 60.0},
   };
   CFilletCheck2017 check;
@@ -240,6 +254,10 @@ TEST(Gb2017, FilletWeldsByHand) {
       {"angle", With(Fillet(), {{"hf", 0}, {"s", 10}, {"angle", 60}, {"groove", 1}})},
       {"hf", With(Fillet(), {{"hf", 0}, {"he", 5}, {"joint", 0}})},
       {"t2", With(Fillet(), {{"t1", 8}})},
+      {"he", With(Fillet(), {{"hf", 0}, {"he", 9}, {"t1", 8}, {"t2", 9}})},
+      {"s", With(Fillet(), {{"hf", 0}, {"s", 9}, {"angle", 70}, {"t1", 9}, {"t2", 8}})},
+      {"hf", With(Fillet(), {{"hf", 12}, {"t1", 8}, {"t2", 9}})},
+      {"N", With(Fillet(), {{"N", 0}, {"V", 0}})},
       {"electrode", With(Fillet(), {{"electrode", 0}})},
       {"welds", With(Fillet(), {{"welds", 0}})},
   };
@@ -267,7 +285,9 @@ TEST(Gb2017, ButtWeldsByHand) {
   EXPECT_EQ(check.Warnings()[0].m_strKey, "M");
   EXPECT_NEAR(check.Parts()[0].m_dUtilisation, 250 / 390.0, 1e-12);
   EXPECT_NEAR(check.Parts()[1].m_dUtilisation, 75 / 225.0, 1e-12);
-  EXPECT_NEAR(check.Parts()[2].m_dUtilisation, std::sqrt(250 * 250 + 3 * 75 * 75) / 363, 1e-12);
+  const double pressed = 250 * 330 / 390.0;
+  EXPECT_NEAR(check.Parts()[2].m_dUtilisation, std::sqrt(pressed * pressed + 3 * 75 * 75) / 363,
+              1e-12);
   input.m_dN = 600;
   ASSERT_TRUE(check.Run(input));
   EXPECT_TRUE(check.Warnings().empty());
@@ -344,14 +364,25 @@ TEST(WeldGroup, RulesAndRefusals) {
   EXPECT_TRUE(later.Pass());
   CWeldGroupCheck earlier(CCodeEdition::Gb2003);
   ASSERT_TRUE(earlier.Run(lap));
-  EXPECT_NEAR(earlier.Worst().m_dUtilisation, 400 / 360.0, 1e-12) << "8.2.7: 60 hf";
-  EXPECT_FALSE(earlier.Pass());
+  EXPECT_NEAR(earlier.Worst().m_dUtilisation, 200e3 / (2 * 4.2 * 360) / 160, 1e-9)
+      << "8.2.7: 60 hf count";
+  // The same welds in pieces that meet, some the other way round.
+  const C pieces = With(lap, {{"welds", 0, {300, 0, 0, 0,   6,   300, 0, 360, 0,   6,   363, 0, 403,
+                                            0,   6, 0, 100, 360, 100, 6, 403, 100, 363, 100, 6}},
+                              {"x", 200}});
+  ASSERT_TRUE(later.Run(pieces));
+  EXPECT_NEAR(later.Results().m_dAlphaF, 1.5 - 400 / 720.0, 1e-12);
+  EXPECT_TRUE(later.Pass()) << "a piece of 40 mm is no short weld where the weld runs on";
+  ASSERT_TRUE(earlier.Run(pieces));
+  EXPECT_NEAR(earlier.Results().m_dAlphaF, 360 / 400.0, 1e-12);
   ASSERT_TRUE(
-      later.Run(With(Bracket(), {{"welds", 0, {0, 0, 0, 39, 6, 100, 200, 100, 0, 6}}, {"Vy", 0}})));
+      later.Run(With(Bracket(), {{"welds", 0, {0, 0, 0, 39, 6, 100, 200, 100, 0, 6}}, {"Vy", 1}})));
   EXPECT_FALSE(later.Pass()) << "39 mm is below 8 hf";
   EXPECT_TRUE(later.Run(
       With(Bracket(), {{"welds", 0, {0, 0, 0, 200, 6, 0, 200, 0, 300, 6, -50, 100, 50, 100, 6}}})))
       << "ends that meet, and a weld that crosses";
+  EXPECT_TRUE(later.Run(With(Bracket(), {{"welds", 0, {0, 0, 0, 200, 6, 5, 0, 5, 200, 6}}})))
+      << "both sides of a plate of 5 mm";
   const struct {
     const char* key;
     C input;
@@ -362,6 +393,8 @@ TEST(WeldGroup, RulesAndRefusals) {
       {"welds", With(Bracket(), {{"welds", 0, {0, 0, 0, 200, 0}}})},
       {"welds", With(Bracket(), {{"welds", 0, {0, 0, 0, 200, 6, 0, 0, 0, 200, 6}}})},
       {"welds", With(Bracket(), {{"welds", 0, {0, 0, 0, 200, 6, 0, 250, 0, 150, 6}}})},
+      {"welds", With(Bracket(), {{"welds", 0, {0, 0, 0, 200, 6, 4.9, 0, 4.9, 200, 6}}})},
+      {"welds", With(Bracket(), {{"welds", 0, {0, 0, 0, 200, 6, -8, 200, 8, 0, 6}}})},
       {"betaF", With(Bracket(), {{"betaF", 1.1}})},
       {"M", With(Bracket(), {{"welds", 0, {0, 0, 0, 200, 6}}, {"x", 1}, {"N", 30}})},
       {"steel", With(Bracket(), {{"steel", kQ460}})},

@@ -13,6 +13,7 @@ constexpr double kNoMoment = 2e-6;
 
 constexpr const char* kLayouts[] = {"grid", "staggered"};
 constexpr const char* kTypes[] = {"ordinary", "friction", "bearing"};
+constexpr const char* kThreads[] = {"in", "out"};
 constexpr const char* kClasses[] = {"A", "B", "C"};
 
 constexpr unsigned kOrdinary = 1U << kOrdinaryBolt;
@@ -79,6 +80,7 @@ std::span<const CInputKey<CBoltCase>> CBoltCheck::InputKeys() {
       {"surface", &C::m_nSurface, "", {"摩擦面处理方法", "surface treatment"}},
       {"grade", &C::m_nGrade, "", {"螺栓性能等级", "bolt property class"}, kBoltGrades},
       {"class", &C::m_nClass, "", {"螺栓精度等级", "bolt product grade"}, kClasses},
+      {"threads", &C::m_nThreads, "", {"剪切面处螺纹", "threads in the shear plane"}, kThreads},
   };
   return kKeys;
 }
@@ -118,9 +120,9 @@ bool CBoltCheck::Run(const CBoltCase& input) {
   FillRecord(input);
   m_record.BoltYanSuan();
   ReadResults(input);
-  m_figures = JudgedFigures(m_record);
+  m_figures = JudgedFigures(m_record, input.m_nThreads == 0);
   JudgeParts();
-  Warn(BoltWarnings(m_record, m_figures));
+  Warn(BoltWarnings(m_record, m_figures, input.m_nThreads));
   return true;
 }
 

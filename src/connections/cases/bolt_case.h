@@ -38,6 +38,8 @@ struct CBoltCase {
   int m_nSurface = 0;   // friction: 0 to 4
   int m_nGrade = 0;     // 0 4.6, 1 4.8, 2 5.6, 3 8.8, 4 10.9
   int m_nClass = 0;     // ordinary: 0 A, 1 B, 2 C
+  int m_nThreads = -1;  // ordinary, bearing: 0 in the shear plane, 1 outside; unless said in it
+                        // with the bearing type of 2017, else outside
 };
 
 // Strengths and stresses in N/mm2, forces in kN, lengths in mm.
@@ -98,7 +100,7 @@ ORV3CAL_API std::vector<CCaseFault> BoltFaults(const CBoltCase& input);
 // Of a computed record: detailing minima that it falls short of (GB 50017-2003, Table 8.3.4), and
 // where the judged figures are not the record's.
 ORV3CAL_API std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record,
-                                                   const CBoltFigures& figures);
+                                                   const CBoltFigures& figures, int threads);
 
 extern const char* const kBoltGrades[5];
 extern const CTextLiteral kBoltTypeNames[3];

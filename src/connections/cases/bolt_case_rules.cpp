@@ -209,12 +209,13 @@ std::vector<CCaseFault> BoltFaults(const CBoltCase& input) {
   return faults.Take();
 }
 
-std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record, const CBoltFigures& figures) {
+std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record, const CBoltFigures& figures,
+                                       int threads) {
   std::vector<CCaseWarning> warnings;
   SpacingWarnings(record, warnings);
   EdgeWarnings(record, warnings);
   WarnOfLargestDistances(record, warnings);
-  WarnOfThreads(record, warnings);
+  WarnOfThreads(record, threads, warnings);
   TableWarnings(record, warnings);
   ShearWarnings(record, figures, warnings);
   TensionWarnings(record, figures, warnings);

@@ -31,10 +31,11 @@ double Largest(const CArray<double, double>& spacings) {
   return largest;
 }
 
-// The bolts of the outer line of a staggered group stand two columns apart.
+// The outer lines of a staggered group have the bolts of the first column and of every second one
+// after it.
 double LargestPair(const CArray<double, double>& spacings) {
   double largest = 0;
-  for (int i = 0; i + 1 < spacings.GetSize(); ++i)
+  for (int i = 0; i + 1 < spacings.GetSize(); i += 2)
     largest = std::max(largest, spacings[i] + spacings[i + 1]);
   return largest;
 }
@@ -51,19 +52,31 @@ void WarnOfLargestDistances(const NormalBoltData& record, std::vector<CCaseWarni
   WarnIfFar("ey", record.m_dEy, 4, 8, record, warnings);
 }
 
-void WarnOfThreads(const NormalBoltData& record, std::vector<CCaseWarning>& warnings) {
-  if (record.m_nBoltType != kBearingBolt || IsZero(record.m_dNv)) return;
+void WarnOfThreads(const NormalBoltData& record, int threads, std::vector<CCaseWarning>& warnings) {
+  const bool bOpen = threads < 0 && record.m_nBoltType == kBearingBolt;
+  if (record.m_nBoltType == kFrictionBolt || IsZero(record.m_dNv)) return;
+  if (!bOpen && threads != 0) return;
   const double ratio = record.m_dDe / record.m_nD;
-  const std::string full = PlainNumber(record.m_dNvb);
-  const std::string threads = PlainNumber(record.m_dNvb * ratio * ratio);
-  warnings.push_back(
-      {"nv",
-       {"受剪承载力 " + full + " kN 按螺杆全截面计算；剪切面在螺纹处时应按有效面积，为 " + threads +
-            " kN（7.2.3 条）。",
-        "The shear resistance of " + full +
-            " kN is that of the whole shank; with threads in the shear plane 7.2.3 "
-            "asks for the effective area, which gives " +
-            threads + " kN."}});
+  const std::string full = PlainNumber(record.m_dNvb) + " kN";
+  const std::string less = PlainNumber(record.m_dNvb * ratio * ratio) + " kN";
+  if (bOpen) {
+    warnings.push_back(
+        {"nv",
+         {"受剪承载力 " + full + " 按螺杆全截面计算；剪切面在螺纹处时应按有效面积，为 " + less +
+              "（7.2.3 条）：请给 threads 为 in。",
+          "The shear resistance of " + full +
+              " is that of the whole shank; with threads in the shear plane 7.2.3 asks for the "
+              "effective area, which gives " +
+              less + ": give threads as in."}});
+  } else {
+    warnings.push_back(
+        {"threads",
+         {"记录的受剪承载力 " + full + " 按螺杆全截面计算；剪切面在螺纹处，按有效面积的 " + less +
+              " 验算（7.2.3 条）。",
+          "The record's shear resistance of " + full +
+              " is that of the whole shank; judged by that of the threads in the shear plane, " +
+              less + " (7.2.3)."}});
+  }
 }
 
 }  // namespace orv3

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "connections/bolt_thread.h"
+#include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
 #include "framework/plain_number.h"
 
@@ -80,6 +81,19 @@ void EdgeFault(const char* key, double distance, double d0, CFaultList& faults) 
              MoreThan(d0 / 2));
 }
 
+// Compression alone goes from plate to plate.
+void NothingFault(const CBoltCase& input, CFaultList& faults) {
+  const bool bNone =
+      IsZero(input.m_dVx) && IsZero(input.m_dVy) && IsZero(input.m_dM) && IsZero(input.m_dT);
+  if (!bNone || input.m_dN > kCheckTolerance || !std::isfinite(input.m_dN)) return;
+  if (IsZero(input.m_dN)) return NoLoadFault("Vx", faults);
+  const std::string N = PlainNumber(input.m_dN);
+  faults.Add("N",
+             {N + " 只把板件压紧，螺栓没有可验算的内力",
+              N + " presses the plates together and leaves the bolts nothing to check"},
+             {"请给拉力或剪力", "give a tension or a shear"});
+}
+
 }  // namespace
 
 void DiameterFault(int diameter, CFaultList& faults) {
@@ -131,6 +145,7 @@ void LoadFaults(const CBoltCase& input, CFaultList& faults) {
   faults.Finite("Vy", input.m_dVy);
   faults.Finite("M", input.m_dM);
   faults.Finite("T", input.m_dT);
+  NothingFault(input, faults);
   if (input.m_nRows == 1 && !IsZero(input.m_dM)) {
     const std::string M = PlainNumber(input.m_dM) + " kN·mm";
     faults.Add("M", {"单行螺栓对 " + M + " 没有力臂", "one row of bolts has no lever arm for " + M},

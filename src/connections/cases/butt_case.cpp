@@ -8,6 +8,8 @@
 namespace orv3 {
 namespace {
 
+constexpr CTextLiteral kReduced = {"取两侧边缘中较大者，受压边缘的 σ 乘以 ftw/fcw",
+                                   "the greater of both edges, σ of a pressed one by ftw/fcw"};
 constexpr CTextLiteral kBothEdges = {
     "M 使一侧边缘受拉、另一侧受压，N 与 M 取同号相加",
     "M pulls one edge and presses the other, so N and M add at one of them"};
@@ -18,7 +20,7 @@ std::vector<CCaseWarning> ButtWarnings(const CButtResults& r, const CWeldFigures
   const double greatest = std::max(judged.m_dTension, judged.m_dCompression);
   WarnOfOther("M", {"正应力", "normal stress"}, sigma, greatest, kBothEdges, warnings);
   if (judged.m_bShear) {
-    WarnOfOther("M", {"折算应力", "reduced stress"}, r.m_dReduced, judged.m_dCombined, kBothEdges,
+    WarnOfOther("M", {"折算应力", "reduced stress"}, r.m_dReduced, judged.m_dCombined, kReduced,
                 warnings);
   }
   // The record's limit is the larger of both strengths.
@@ -118,7 +120,7 @@ bool CButtCheck::Run(const CButtCase& input) {
   if (j.m_bShear) {
     Judge({"剪应力 τ", "shear stress τ"}, "okTau", j.m_dTau / j.m_dTauLimit);
     Judge({"折算应力", "reduced stress"}, "okReduced", j.m_dCombined / j.m_dCombinedLimit,
-          r.m_bReduced);
+          j.m_dCombined < j.m_dCombinedLimit);
   }
   Warn(ButtWarnings(r, j));
   return true;

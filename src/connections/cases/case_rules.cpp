@@ -15,6 +15,11 @@ void TooThick(const char* key, double thickness, const std::string& table, CFaul
              {"请给不大于 " + most, "give at most " + most});
 }
 
+void NoLoadFault(const char* key, CFaultList& faults) {
+  faults.Add(key, {"没有荷载，无可验算", "no load is given: nothing to check"},
+             {"请给至少一个不为 0 的荷载", "give at least one load that is not 0"});
+}
+
 void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& faults) {
   const auto dropped = [&](const std::string& key, double load, bool bTaken,
                            const std::string& cases) {
@@ -26,6 +31,7 @@ void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& f
                {"请给 0，或选用计入 " + key + " 的工况：" + cases,
                 "give 0, or a load case that takes " + key + ": " + cases});
   };
+  if (N == 0 && M == 0 && V == 0) return NoLoadFault(TakesN(loadCase) ? "N" : "V", faults);
   dropped("N", N, TakesN(loadCase), "0, 1, 2, 4, 5");
   dropped("M", M, TakesM(loadCase), "1, 2, 3, 4, 5");
   dropped("V", V, TakesV(loadCase), "3, 4, 5");

@@ -21,7 +21,9 @@ constexpr bool TakesN(int loadCase) noexcept { return loadCase != 3; }
 constexpr bool TakesM(int loadCase) noexcept { return loadCase != 0; }
 constexpr bool TakesV(int loadCase) noexcept { return loadCase >= 3; }
 
-// A load that the load case leaves out is refused.
+// No load at all, under the key of one.
+void NoLoadFault(const char* key, CFaultList& faults);
+// A load that the load case leaves out is refused, and a weld without any.
 void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& faults);
 
 // Where an edition has the strength of fillet welds.
@@ -29,9 +31,10 @@ struct CFilletClauses {
   const char* m_szRight;     // between faces at a right angle
   const char* m_szInclined;  // at another angle
   const char* m_szGroove;    // partial-penetration groove welds
+  const char* m_szFaces;     // angles of faces that fillet welds may carry load between
 };
-inline constexpr CFilletClauses kFilletClauses2003 = {"7.1.3", "7.1.4", "7.1.5"};
-inline constexpr CFilletClauses kFilletClauses2017 = {"11.2.2", "11.2.3", "11.2.4"};
+inline constexpr CFilletClauses kFilletClauses2003 = {"7.1.3", "7.1.4", "7.1.5", "8.2.6"};
+inline constexpr CFilletClauses kFilletClauses2017 = {"11.2.2", "11.2.3", "11.2.4", "11.2.3"};
 
 // What refuses a fillet weld by either edition; not the steel.
 void FilletFieldFaults(const CFilletCase& input, const CFilletClauses& clauses, CFaultList& faults);
@@ -57,8 +60,9 @@ void TooThick(const char* key, double thickness, const std::string& table, CFaul
 
 // Of a computed bolt group: distances above those of Table 8.3.4.
 void WarnOfLargestDistances(const NormalBoltData& record, std::vector<CCaseWarning>& warnings);
-// The shear resistance of bearing-type bolts with threads in the shear plane (7.2.3).
-void WarnOfThreads(const NormalBoltData& record, std::vector<CCaseWarning>& warnings);
+// The shear resistance with threads in the shear plane (7.2.3), which `threads` (as in CBoltCase)
+// says or leaves open.
+void WarnOfThreads(const NormalBoltData& record, int threads, std::vector<CCaseWarning>& warnings);
 
 extern const char* const kSteels[4];
 

@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <cmath>
 
 #include "connections/cases/case_rules.h"
 #include "connections/cases/weld_case.h"
+#include "connections/gb2017/notes.h"
 
 namespace orv3 {
 namespace {
@@ -47,6 +49,15 @@ void ThroatFaults(const CFilletCase& input, const std::string& clause, CFaultLis
   }
 }
 
+void FacesFault(const CFilletCase& input, const std::string& clause, CFaultList& faults) {
+  if (input.m_dHf == 0 || (input.m_dAngle >= 60 && input.m_dAngle <= 135)) return;
+  const std::string is = PlainNumber(input.m_dAngle) + "°";
+  faults.Add("angle",
+             {is + "：" + clause + " 条的受力斜角角焊缝为 60° 至 135°",
+              is + ": " + clause + " has fillet welds that carry load between faces at 60 to 135°"},
+             {"请给 60° 至 135°，或直接给 he", "give 60 to 135°, or the throat he"});
+}
+
 void StressWarnings(const CFilletCase& input, const CFilletResults& r, const CWeldFigures& judged,
                     std::vector<CCaseWarning>& warnings) {
   static constexpr CTextLiteral kBothEdges = {
@@ -73,16 +84,20 @@ void StressWarnings(const CFilletCase& input, const CFilletResults& r, const CWe
   }
 }
 
+// 8.2.7; of groove welds it says nothing.
+std::vector<CDetail> LeastLength(const CFilletCase& input) {
+  if (input.m_dS != 0) return {};
+  return {{{"焊缝最小长度", "weld length, least"},
+           "lw",
+           "8.2.7",
+           "l_w",
+           input.m_dHf != 0 ? "\\max(8 h_f, 40)" : "40",
+           input.m_dLw,
+           std::max(8 * input.m_dHf, 40.0),
+           false}};
+}
+
 void DetailingWarnings(const CFilletCase& input, std::vector<CCaseWarning>& warnings) {
-  const double least = std::max(40.0, 8 * input.m_dHf);
-  const std::string lw = PlainNumber(input.m_dLw);
-  if (input.m_dS == 0 && input.m_dLw < least) {
-    warnings.push_back({"lw",
-                        {"lw = " + lw + " mm，小于构造最小值 " + PlainNumber(least) +
-                             " mm（8 hf 和 40 mm，8.2.7 条）。",
-                         "lw = " + lw + " mm is below the detailing minimum " + PlainNumber(least) +
-                             " mm (8 hf and 40 mm, 8.2.7)."}});
-  }
   if (input.m_dS != 0 && (input.m_nGroove == 1 || input.m_nGroove == 2) && input.m_dAngle > 50) {
     warnings.push_back(
         {"angle",
@@ -90,12 +105,6 @@ void DetailingWarnings(const CFilletCase& input, std::vector<CCaseWarning>& warn
               PlainNumber(input.m_dAngle) + "°；请核对。",
           "he = s − 3 of bevel and K grooves is for α = 45° ± 5° (7.1.5), here α = " +
               PlainNumber(input.m_dAngle) + "°. Check it."}});
-  }
-  if (input.m_dHf != 0 && (input.m_dAngle < 60 || input.m_dAngle > 135)) {
-    warnings.push_back({"angle",
-                        {"夹角小于 60° 或大于 135° 的斜角角焊缝不宜用作受力焊缝（8.2.6 条）。",
-                         "Fillet welds between faces at less than 60 or more than 135 degrees "
-                         "should not carry load (8.2.6)."}});
   }
 }
 
@@ -152,6 +161,7 @@ void FilletFieldFaults(const CFilletCase& input, const CFilletClauses& clauses,
   faults.Positive("betaF", input.m_dBetaF, "(1.22 static, 1.0 dynamic)");
   faults.Within("welds", input.m_nWelds, 1, 100);
   ThroatFaults(input, clauses.m_szGroove, faults);
+  FacesFault(input, clauses.m_szFaces, faults);
   DroppedLoadFaults(input.m_nLoadCase, input.m_dN, input.m_dM, input.m_dV, faults);
 }
 
@@ -201,7 +211,11 @@ bool CFilletCheck::Run(const CFilletCase& input) {
     Judge({"剪应力 τf", "stress along, τf"}, "okTau", j.m_dTau / j.m_dTauLimit);
     Judge({"综合应力", "combined stress"}, "okCombined", j.m_dCombined / j.m_dCombinedLimit);
   }
+  m_arrDetail = LeastLength(input);
+  for (const CDetail& detail : m_arrDetail)
+    JudgeDetail(detail.m_name, detail.m_szKey, detail.Utilisation());
   std::vector<CCaseWarning> warnings;
+  gb2017::NoteOfDetails(m_arrDetail, warnings);
   StressWarnings(input, r, j, warnings);
   WarnOfBeta(input, j, kFilletClauses2003, warnings);
   DetailingWarnings(input, warnings);

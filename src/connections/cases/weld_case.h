@@ -7,6 +7,7 @@
 
 #include "connections/butt_weld.h"
 #include "connections/fillet_weld.h"
+#include "connections/gb2017/detail.h"
 #include "connections/verdict/weld_verdict.h"
 #include "reports/case_answer.h"
 
@@ -91,6 +92,11 @@ class ORV3CAL_API CFilletCheck : public CWeldCheck<CFilletCase, CFilletResults> 
   static std::span<const CInputKey<CFilletCase>> InputKeys();
   static std::span<const CResultKey<CFilletResults>> ResultKeys();
   bool Run(const CFilletCase& input);
+  // The least length (8.2.7); none of groove welds.
+  const std::vector<CDetail>& Details() const noexcept { return m_arrDetail; }
+
+ private:
+  std::vector<CDetail> m_arrDetail;
 };
 
 class ORV3CAL_API CButtCheck : public CWeldCheck<CButtCase, CButtResults> {

@@ -16,7 +16,6 @@
 namespace orv3 {
 namespace {
 
-constexpr const char* kThreads[] = {"in", "out"};
 constexpr const char* kEdges[] = {"sheared", "rolled"};
 
 CSteelGrade SteelOf(const CBoltCase2017& input) noexcept {
@@ -126,8 +125,6 @@ auto MakeInputKeys() {
     if (std::string_view(key.m_szKey) == "steel") keys.back().m_choices = kGradeNames;
   }
   keys.push_back({"hole", &C::m_nHole, "", {"孔型", "hole"}, kHoleNames});
-  keys.push_back(
-      {"threads", &C::m_nThreads, "", {"剪切面处螺纹", "threads in the shear plane"}, kThreads});
   keys.push_back({"edges", &C::m_nEdges, "", {"板边加工", "edges"}, kEdges});
   return keys;
 }
@@ -222,15 +219,17 @@ void CBoltCheck2017::Compute(const CBoltCase2017& input) {
   FillSpacings(input.m_rowSpace, input.m_nRows - 1, m_arrRow);
   PlaceBolts(input.m_nLayout == 1, m_arrCol, m_arrRow, m_shape);
   const bool bFriction = input.m_nType == kFrictionBolt;
-  m_trace.m_bThreads =
+  const bool bThreads =
       input.m_nThreads == 0 || (input.m_nThreads != 1 && input.m_nType == kBearingBolt);
-  m_trace.m_dShearDiameter = m_trace.m_bThreads ? r.m_dDe : input.m_nD;
+  const double shearDiameter = bThreads ? r.m_dDe : input.m_nD;
   const auto resistance =
       bFriction ? gb2017::FrictionResistance(r.m_dHoleFactor, input.m_nNf, r.m_dMu, r.m_nP)
-                : gb2017::ShankResistance(input.m_nNv, m_trace.m_dShearDiameter, input.m_nD,
-                                          r.m_dDe, input.m_dSumT, r.m_dFv, r.m_dFc, r.m_dFt);
+                : gb2017::ShankResistance(input.m_nNv, shearDiameter, input.m_nD, r.m_dDe,
+                                          input.m_dSumT, r.m_dFv, r.m_dFc, r.m_dFt);
   const gb2017::CBoltLoads loads = {input.m_dN, input.m_dVx, input.m_dVy, input.m_dM, input.m_dT};
   m_figures = gb2017::ForcesOnBolts(input.m_nType != kOrdinaryBolt, loads, m_shape);
+  m_figures.m_bThreads = bThreads;
+  m_figures.m_dShear = resistance.m_dShear;
   r.m_nBolts = m_shape.Bolts();
   r.m_dL1 = gb2017::JointLength(m_shape, loads);
   r.m_dBeta = gb2017::LongJointFactor(r.m_dL1, r.m_dD0);

@@ -14,8 +14,7 @@ struct CBoltCase2017 : CBoltCase {
   static constexpr int kNotSaid = -1;
   // High-strength bolts: 0 standard (unless said), 1 oversize, 2 slots across, 3 along the force.
   int m_nHole = kNotSaid;
-  int m_nThreads = kNotSaid;  // 0 in the shear plane (bearing type unless said), 1 outside
-  int m_nEdges = kNotSaid;    // 0 sheared or cut by hand (unless said), 1 rolled or machine-cut
+  int m_nEdges = kNotSaid;  // 0 sheared or cut by hand (unless said), 1 rolled or machine-cut
 };
 
 // The results are the figures that the verdict is made by.
@@ -28,9 +27,7 @@ struct CBoltResults2017 : CBoltResults {
 
 // What the steps of a report need besides the results.
 struct CBoltTrace2017 {
-  double m_dShearDiameter = 0;  // in the shear planes, mm
-  bool m_bThreads = false;      // threads in them
-  double m_dHoleX = 0;          // width that a hole takes out of a section across x, and across y
+  double m_dHoleX = 0;  // width that a hole takes out of a section across x, and across y
   double m_dHoleY = 0;
   double m_dRoomX = 0;  // what a hole measures there: its diameter, or width or length of the slot
   double m_dRoomY = 0;

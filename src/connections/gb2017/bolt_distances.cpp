@@ -17,10 +17,11 @@ double Nearest(const CDistances& distances, double column, double row) {
   return nearest;
 }
 
-// The bolts of the outer line of a staggered group stand two columns apart.
+// The outer lines of a staggered group have the bolts of the first column and of every second one
+// after it.
 double LargestPair(std::span<const double> spacings) {
   double largest = 0;
-  for (std::size_t i = 1; i < spacings.size(); ++i)
+  for (std::size_t i = 1; i < spacings.size(); i += 2)
     largest = std::max(largest, spacings[i - 1] + spacings[i]);
   return largest;
 }

@@ -20,15 +20,6 @@ CSteelGrade SteelOf(const CFilletCase2017& input) noexcept {
 
 bool IsLap(const CFilletCase2017& input) noexcept { return input.m_nJoint == 0; }
 
-void AngleFaults(const CFilletCase2017& input, CFaultList& faults) {
-  if (input.m_dHf == 0 || (input.m_dAngle >= 60 && input.m_dAngle <= 135)) return;
-  const std::string is = PlainNumber(input.m_dAngle) + "°";
-  faults.Add("angle",
-             {is + "：11.2.3 条的斜角角焊缝为 60° 至 135°",
-              is + ": 11.2.3 has fillet welds between faces at 60 to 135°"},
-             {"请给 60° 至 135°，或直接给 he", "give 60 to 135°, or the throat he"});
-}
-
 // Below 40 degrees they are refused by either edition.
 void GrooveFaults(const CFilletCase2017& input, CFaultList& faults) {
   if (input.m_dS == 0 || (input.m_nGroove != 1 && input.m_nGroove != 2) || input.m_dAngle <= 50)
@@ -38,6 +29,23 @@ void GrooveFaults(const CFilletCase2017& input, CFaultList& faults) {
              {is + "：11.2.4 条单边 V 形和 K 形坡口的计算厚度 he = s − 3 适用于 45° ± 5°",
               is + ": 11.2.4 gives he = s − 3 of bevel and K grooves for 45° ± 5°"},
              {"请给 40° 至 50°，或直接给 he", "give 40° to 50°, or the throat he"});
+}
+
+// No weld is thicker than what it joins.
+void DepthFault(const CFilletCase2017& input, CFaultList& faults) {
+  const double thin = std::min(input.m_dT1, input.m_dT2);
+  const double depth = input.m_dS != 0 ? input.m_dS : gb2017::Throat(input);
+  if (depth <= thin) return;
+  const char* key = input.m_dS != 0 ? "s" : input.m_dHf != 0 ? "hf" : "he";
+  const CComparedText text = Compared(depth, thin);
+  const std::string is = text.m_strEffect + " mm";
+  const std::string most = text.m_strLimit + " mm";
+  const bool bLeg = input.m_dHf != 0;
+  faults.Add(key,
+             {(bLeg ? "计算厚度 " : "") + is + " 大于较薄焊件的厚度 " + most,
+              (bLeg ? "a throat of " : "") + is + " is more than the thinner part, " + most},
+             {"请给不大于 " + most + (bLeg ? " 的计算厚度" : ""),
+              "give " + std::string(bLeg ? "a leg whose throat is " : "") + "at most " + most});
 }
 
 void JointFaults(const CFilletCase2017& input, CFaultList& faults) {
@@ -56,6 +64,7 @@ void JointFaults(const CFilletCase2017& input, CFaultList& faults) {
   };
   part("t1", input.m_dT1);
   part("t2", input.m_dT2);
+  if (faults.IsEmpty()) DepthFault(input, faults);
 }
 
 auto MakeInputKeys() {
@@ -108,7 +117,6 @@ bool CFilletCheck2017::IsRefused(const CFilletCase2017& input) {
   FilletFieldFaults(input, kFilletClauses2017, faults);
   faults.Within("steel", input.m_nSteel, 0, gb2017::kLastSteel);
   faults.Within("electrode", input.m_nElectrode, -1, 3);
-  AngleFaults(input, faults);
   GrooveFaults(input, faults);
   JointFaults(input, faults);
   m_results = {};
@@ -174,6 +182,12 @@ std::vector<CCaseWarning> CFilletCheck2017::Notes(const CFilletCase2017& input) 
     gb2017::NoteOfUnknownParts({"hf", input.m_dHf, input.m_dHf, IsLap(input)},
                                {"给出 t1 与 t2 即可验算", "give t1 and t2 to have it checked"},
                                notes);
+  }
+  if (input.m_dHf == 0 && input.m_dT1 == 0) {
+    notes.push_back({input.m_dS != 0 ? "s" : "he",
+                     {"焊件厚度未给出，未按其验算计算厚度；给出 t1 与 t2 即可验算。",
+                      "The throat is not checked against the parts; give t1 and t2 to have it "
+                      "checked."}});
   }
   return notes;
 }

@@ -64,22 +64,23 @@ void FilletDetails(const CFilletCase2017& input, std::vector<CDetail>& details) 
                      input.m_dLw,
                      std::max(8 * (bLeg ? input.m_dHf : he), 40.0),
                      false});
+  // Whatever the parts, a leg of 3 mm is the least; none need be above the thinner part.
+  const bool bParts = input.m_dT1 != 0;
+  const double thin = std::min(input.m_dT1, input.m_dT2);
+  const double thick = std::max(input.m_dT1, input.m_dT2);
+  const double least = bParts ? std::min(LeastLeg(thick), thin) : LeastLeg(0);
   if (!bLeg) {
+    const bool bGroove = bParts && input.m_dS != 0;
     details.push_back({{"最小计算厚度", "throat, least"},
                        input.m_dS != 0 ? "s" : "he",
-                       "T 11.3.5",
+                       bGroove ? "2003: 8.2.5" : "T 11.3.5",
                        "h_e",
-                       "0.7 h_{f,min}",
+                       bGroove ? "1.5 √t" : "0.7 h_{f,min}",
                        he,
-                       0.7 * LeastLeg(0),
+                       bGroove ? 1.5 * std::sqrt(thick) : 0.7 * least,
                        false});
     return;
   }
-  // Whatever the parts, 3 mm is the least; no leg need be above the thinner part.
-  const bool bParts = input.m_dT1 != 0;
-  const double thin = std::min(input.m_dT1, input.m_dT2);
-  const double least =
-      bParts ? std::min(LeastLeg(std::max(input.m_dT1, input.m_dT2)), thin) : LeastLeg(0);
   details.push_back({{"最小焊脚", "leg, least"},
                      "hf",
                      "T 11.3.5",

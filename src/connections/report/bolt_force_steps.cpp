@@ -68,11 +68,11 @@ std::vector<CReportStep> BoltResistances(const CBoltFacts& b) {
              PlainNumber(b.m_r.m_dNtb), "kN"}};
   }
   const std::string d = std::to_string(b.m_input.m_nD);
-  const bool bThreads = b.m_view.Is2017() && b.m_view.m_p2017->Trace().m_bThreads;
+  const bool bThreads = b.m_judged.m_bThreads;
   return {{kShear, clause, "N_v^b", bThreads ? "n_v (π d_e^2 / 4) f_v^b" : "n_v (π d^2 / 4) f_v^b",
            std::to_string(b.m_input.m_nNv) + " × π × " + (bThreads ? Put(b.m_r.m_dDe) : d) +
                "^2 / 4 × " + Put(b.m_r.m_dFv) + " / 1000",
-           PlainNumber(b.m_r.m_dNvb), "kN"},
+           PlainNumber(b.m_judged.m_dShear), "kN"},
           {{"承压承载力", "Bearing resistance"},
            clause,
            "N_c^b",

@@ -73,8 +73,7 @@ void CBoltReport::Inputs() {
     if (key == "type") line.m_strValue = m_body.Text(kBoltTypeNames[m_input.m_nType]);
     if (key == "surface") line.m_strValue = m_body.Text(SurfaceText());
     if (key == "hole") line.m_strValue = m_body.Text(kHoles[static_cast<std::size_t>(Hole())]);
-    if (key == "threads")
-      line.m_strValue = m_body.Text(kThreads[m_view.m_p2017->Trace().m_bThreads]);
+    if (key == "threads") line.m_strValue = m_body.Text(kThreads[m_judged.m_bThreads]);
     if (key == "edges") line.m_strValue = m_body.Text(kEdges[m_view.m_pInput2017->m_nEdges == 1]);
     used.push_back(line);
   }
@@ -111,7 +110,7 @@ std::vector<CReportVerdict> CBoltReport::Verdicts() const {
   std::vector<CReportVerdict> verdicts;
   const std::span<const CCasePart> parts = m_view.m_answer.Parts();
   const std::string shear =
-      Put(m_judged.m_dNv) + " / (" + Put(m_r.m_dBeta) + " × " + Put(m_r.m_dNvb) + ")";
+      Put(m_judged.m_dNv) + " / (" + Put(m_r.m_dBeta) + " × " + Put(m_judged.m_dShear) + ")";
   const std::string tension = Put(m_judged.m_dNt) + " / " + Put(m_r.m_dNtb);
   const std::string clause =
       std::string(m_clauses.m_arrType[m_input.m_nType]) + ", " + m_clauses.m_szLong;

@@ -18,6 +18,7 @@ constexpr double kWidth = 640;
 constexpr double kMostHeight = 260;
 constexpr double kMargin = 56;
 constexpr std::size_t kMostDrawn = 1000;  // welds
+constexpr std::size_t kMostNumbered = 40;
 
 // The welds to scale with the centroid, the point of the loads and the most stressed point.
 class CGroupPainter {
@@ -39,6 +40,8 @@ class CGroupPainter {
   CDrawing Draw() {
     for (const CWeldLine& weld : m_check.Welds())
       m_drawing.AddLine(CLayer::Outline, At(weld.m_dX1, weld.m_dY1), At(weld.m_dX2, weld.m_dY2));
+    Numbers();
+    Extents();
     const CWeldGroupResults& r = m_check.Results();
     const CPoint centroid = At(r.m_dXc, r.m_dYc);
     m_drawing.AddLine(CLayer::CentroidAxis, {m_dOffset - 20, centroid.y},
@@ -49,13 +52,54 @@ class CGroupPainter {
     m_drawing.AddArea(CLayer::CentroidAxis, {CirclePath(worst, 4)});
     m_drawing.AddLabel({.m_nLayer = CLayer::CentroidAxis,
                         .m_at = {worst.x + 8, worst.y + 10},
-                        .m_strText = FromUtf8("1"),
+                        .m_strText = FromUtf8("max"),
                         .m_nAnchor = CAnchor::Left});
     Loads();
     return std::move(m_drawing);
   }
 
  private:
+  // At the middle of each weld, as many as can be told apart.
+  void Numbers() {
+    const std::vector<CWeldLine>& welds = m_check.Welds();
+    if (welds.size() > kMostNumbered) return;
+    for (std::size_t i = 0; i < welds.size(); ++i) {
+      const CWeldLine& weld = welds[i];
+      const CPoint middle = At((weld.m_dX1 + weld.m_dX2) / 2, (weld.m_dY1 + weld.m_dY2) / 2);
+      // Beside the weld, above it where it lies flat.
+      const double x = -(weld.m_dY2 - weld.m_dY1) / weld.Length();
+      const double y = (weld.m_dX2 - weld.m_dX1) / weld.Length();
+      const double sense = y < -1e-9 || (y <= 1e-9 && x < 0) ? -12 : 12;
+      m_drawing.AddLabel({.m_at = {middle.x + sense * x, middle.y + sense * y},
+                          .m_strText = FromUtf8(std::to_string(i + 1)),
+                          .m_nAnchor = CAnchor::Middle});
+    }
+  }
+
+  // Width and height of the welds, mm.
+  void Extents() {
+    double left = HUGE_VAL, right = -HUGE_VAL, bottom = HUGE_VAL, top = -HUGE_VAL;
+    for (const CWeldLine& weld : m_check.Welds()) {
+      left = std::min({left, weld.m_dX1, weld.m_dX2});
+      right = std::max({right, weld.m_dX1, weld.m_dX2});
+      bottom = std::min({bottom, weld.m_dY1, weld.m_dY2});
+      top = std::max({top, weld.m_dY1, weld.m_dY2});
+    }
+    const auto dimension = [&](CPoint from, CPoint to, bool bVertical, double line, double size) {
+      if (IsZero(size)) return;
+      CDimension each;
+      each.m_bVertical = bVertical;
+      each.m_from = from;
+      each.m_to = to;
+      each.m_dLine = line;
+      each.m_strText = FromUtf8(PlainNumber(size));
+      each.m_dTextAt = bVertical ? (from.y + to.y) / 2 : (from.x + to.x) / 2;
+      m_drawing.AddDimension(each);
+    };
+    dimension(At(left, bottom), At(right, bottom), false, 18, right - left);
+    dimension(At(left, bottom), At(left, top), true, m_dOffset - 38, top - bottom);
+  }
+
   void Reach(double x, double y) {
     m_dLeft = std::min(m_dLeft, x);
     m_dRight = std::max(m_dRight, x);
@@ -195,8 +239,8 @@ void CGroupReport::Stresses() {
   const std::string dx = "(" + Put(m_r.m_dX) + " − " + Put(m_r.m_dXc) + ")";
   const std::string dy = "(" + Put(m_r.m_dY) + " − " + Put(m_r.m_dYc) + ")";
   const std::string T = Put(m_r.m_dTorque);
-  Step({"受力最大点（1）", "Most stressed point (1)"}, "x", "", "", m_r.m_dX, "mm");
-  Step({"受力最大点（1）", "Most stressed point (1)"}, "y", "", "", m_r.m_dY, "mm");
+  Step({"受力最大点（max）", "Most stressed point (max)"}, "x", "", "", m_r.m_dX, "mm");
+  Step({"受力最大点（max）", "Most stressed point (max)"}, "y", "", "", m_r.m_dY, "mm");
   Step({"x 向应力", "Stress along x"}, "τ_x", "V_x / A − T_c (y − y_c) / J",
        Put(m_input.m_dVx) + " × 1000 / " + A + " − " + T + " × 1000 × " + dy + " / " + J,
        m_point.m_dTauX, "N/mm²");
@@ -236,7 +280,10 @@ std::vector<CReportVerdict> CGroupReport::Verdicts() const {
   const CCasePart& part = m_check.Parts().front();
   const bool bReduced = m_r.m_dAlphaF < 1;
   std::vector<CReportVerdict> verdicts = {
-      {part.m_name, bReduced ? "11.2.2, 11.2.6" : Clause(),
+      {part.m_name,
+       !bReduced ? Clause()
+       : m_b2017 ? "11.2.2, 11.2.6"
+                 : "7.1.3, 8.2.7",
        std::string("√((σ_f / β_f)^2 + τ_f^2) ≤ ") + (bReduced ? "α_f f_f^w" : "f_f^w"),
        Relation(m_r.m_dCombined, m_r.m_dAlphaF * m_r.m_dFfw, part.m_bPass) + " \\N/\\mm²",
        part.m_dUtilisation, part.m_bPass}};
@@ -247,11 +294,10 @@ std::vector<CReportVerdict> CGroupReport::Verdicts() const {
 std::string CGroupReport::Write() {
   static constexpr CTextLiteral kTitle = {"角焊缝群验算", "Group of fillet welds"};
   static constexpr CTextLiteral kCaption = {
-      "焊缝群（按比例，mm）。点划线：形心轴；红点 1：受力最大点；圆圈：荷载作用点。N、M "
-      "垂直于图面。",
-      "The welds to scale, mm. Chain lines: centroidal axes; red point 1: the most stressed; "
-      "circle: "
-      "where the loads act. N and M act out of the plane."};
+      "焊缝群（按比例，mm）及焊缝编号。点划线：形心轴；红点 max：受力最大点；圆圈：荷载作用点。"
+      "N、M 垂直于图面。",
+      "The welds to scale and by number, mm. Chain lines: centroidal axes; red point max: the most "
+      "stressed; circle: where the loads act. N and M act out of the plane."};
   const std::string id = m_input.m_strId.empty() ? "" : "　" + m_input.m_strId;
   m_body.Title(m_body.Text(kTitle) + id, m_check.Pass(), m_check.Worst().m_dUtilisation);
   m_body.Warnings(m_check.Warnings());
@@ -266,8 +312,16 @@ std::string CGroupReport::Write() {
   LoadsAtCentroid();
   Stresses();
   if (m_r.m_dAlphaF < 1) {
-    Step({"搭接长焊缝折减", "Long lap weld"}, "α_f", "\\max(1.5 − l_w / (120 h_f), 0.5)", "",
-         m_r.m_dAlphaF, "", "11.2.6");
+    const double hf = m_check.Welds()[static_cast<std::size_t>(m_point.m_nWeld)].m_dHf;
+    const std::string run = Put(m_check.WorstRun());
+    const std::string leg = Put(hf);
+    if (m_b2017) {
+      Step({"搭接长焊缝折减", "Long lap weld"}, "α_f", "\\max(1.5 − l_w / (120 h_f), 0.5)",
+           "\\max(1.5 − " + run + " / (120 × " + leg + "), 0.5)", m_r.m_dAlphaF, "", "11.2.6");
+    } else {
+      Step({"计 60 hf 的长度", "60 hf of the length count"}, "α_f", "60 h_f / l_w",
+           "60 × " + leg + " / " + run, m_r.m_dAlphaF, "", "8.2.7");
+    }
   }
   m_body.Steps(m_arrStep);
   m_body.Heading({"三、验算结论", "3  Verdicts"});

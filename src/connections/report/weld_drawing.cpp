@@ -122,6 +122,22 @@ void FilletDetail(CDrawing& drawing, const CFilletCase& input, double throat) {
                     .m_dSize = 11});
 }
 
+// A plate that lies on the edge of another, the weld along its edge.
+void LapDetail(CDrawing& drawing, const CFilletCase& input, double throat) {
+  constexpr double kPlate = 44;
+  const CPoint corner = {kDetail.x - 6, kDetail.y - 14};
+  drawing.AddSection({RectPath(corner.x - 110, corner.y, 110, kPlate)});
+  drawing.AddSection({RectPath(corner.x - 60, corner.y - kPlate, 190, kPlate)});
+  const CPoint along = {corner.x + kPlate, corner.y};
+  drawing.AddArea(CLayer::Outline, {Polygon({corner, along, {corner.x, corner.y + kPlate}})});
+  const CPoint face = {corner.x + kPlate / 2, corner.y + kPlate / 2};
+  drawing.AddLine(CLayer::CentroidAxis, corner, Toward(face, 45, 26));
+  drawing.AddLabel({.m_nLayer = CLayer::CentroidAxis,
+                    .m_at = Toward(face, 45, 32),
+                    .m_strText = Named("he", throat)});
+  Dimension(drawing, corner, along, false, corner.y - kPlate - 22, Named("hf", input.m_dHf));
+}
+
 // Two plates end to end with a groove that is open to the top by `width`, `depth` of the plate
 // deep.
 void GrooveDetail(CDrawing& drawing, bool bOneSide, bool bBothFaces, double depth) {
@@ -147,7 +163,7 @@ void GrooveDetail(CDrawing& drawing, bool bOneSide, bool bBothFaces, double dept
 
 }  // namespace
 
-CDrawing FilletDrawing(const CFilletCase& input, double throat) {
+CDrawing FilletDrawing(const CFilletCase& input, double throat, bool bLap) {
   CDrawing drawing(kWidth, kHeight);
   if (input.m_dS != 0) {
     const bool bOneSide = input.m_nGroove == 1 || input.m_nGroove == 2 || input.m_nGroove == 4;
@@ -160,6 +176,8 @@ CDrawing FilletDrawing(const CFilletCase& input, double throat) {
                       .m_at = {kDetail.x, top + 24},
                       .m_strText = Named("he", throat),
                       .m_nAnchor = CAnchor::Middle});
+  } else if (bLap && IsRightAngle(input.m_dAngle)) {
+    LapDetail(drawing, input, throat);
   } else {
     FilletDetail(drawing, input, throat);
   }

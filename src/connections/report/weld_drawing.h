@@ -7,7 +7,7 @@
 
 namespace orv3 {
 
-CDrawing FilletDrawing(const CFilletCase& input, double throat);
+CDrawing FilletDrawing(const CFilletCase& input, double throat, bool bLap);
 CDrawing ButtDrawing(const CButtCase& input);
 
 }  // namespace orv3

@@ -109,6 +109,10 @@ CFilletCase OneWeld(CFilletCase input) {
   return input;
 }
 
+const char* Combined(const CWeldFigures& judged) {
+  return judged.m_dFusion < 1 ? "√((σ_f / β_f)^2 + (τ_f / 0.9)^2)" : "√((σ_f / β_f)^2 + τ_f^2)";
+}
+
 // `alphaF` below 1: of a long lap weld.
 CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r, const CWeldFigures& judged,
                    const CFilletClauses& clauses, const char* table, double alphaF = 1) {
@@ -162,12 +166,14 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r, const CWel
                         judged.m_dCompression / judged.m_dBetaCompression;
   const double across = bTension ? judged.m_dTension : judged.m_dCompression;
   const double beta = bTension ? judged.m_dBetaTension : judged.m_dBetaCompression;
+  const bool bShortFusion = judged.m_dFusion < 1;
+  const std::string tau = Put(judged.m_dTau);
   steps.push_back({{"综合应力", "Combined stress"},
-                   clauses.m_szRight,
+                   bShortFusion ? clauses.m_szGroove : clauses.m_szRight,
                    "σ_{fs}",
-                   "√((σ_f / β_f)^2 + τ_f^2)",
+                   Combined(judged),
                    "√((" + SubstitutedNumber(across) + " / " + SubstitutedNumber(beta) + ")^2 + " +
-                       Put(judged.m_dTau) + "^2)",
+                       (bShortFusion ? "(" + tau + " / 0.9)" : tau) + "^2)",
                    PlainNumber(judged.m_dCombined),
                    "N/mm²"});
   return steps;
@@ -196,13 +202,16 @@ template <class CHECK>
 CVerdicts FilletVerdicts(const CHECK& check, const CFilletClauses& clauses, double alphaF = 1) {
   const CWeldFigures& judged = check.Figures();
   const double beta = judged.TensionGoverns() ? judged.m_dBetaTension : judged.m_dBetaCompression;
-  const bool bReduced =
-      judged.m_bShear && judged.m_dTauLimit < 0.95 * alphaF * check.Results().m_dFfw;
   const std::string ffw = alphaF < 1 ? "α_f f_f^w" : "f_f^w";
-  const std::string strength = bReduced ? "0.9 " + ffw : ffw;
   return WeldVerdicts(check, clauses.m_szRight,
-                      "|σ_f| ≤ β_f " + ffw + ",  β_f = " + PlainNumber(beta), "|τ_f| ≤ " + strength,
-                      "√((σ_f / β_f)^2 + τ_f^2) ≤ " + strength);
+                      "|σ_f| ≤ β_f " + ffw + ",  β_f = " + PlainNumber(beta),
+                      (judged.m_dFusion < 1 ? "|τ_f| ≤ 0.9 " : "|τ_f| ≤ ") + ffw,
+                      std::string(Combined(judged)) + " ≤ " + ffw);
+}
+
+// The reduced stress is that of a pressed edge whose strength is above that of a pulled one.
+bool IsReducedPressed(const CWeldFigures& judged) {
+  return !judged.TensionGoverns() && judged.m_dTensionLimit < judged.m_dCompressionLimit;
 }
 
 CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigures& judged,
@@ -236,22 +245,27 @@ CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigur
                    "1.5 × " + Put(std::fabs(input.m_dV)) + " × 1000 / (" + area + ")",
                    PlainNumber(judged.m_dTau),
                    "N/mm²"});
+  const bool bPressed = IsReducedPressed(judged);
+  const std::string across = bPressed ? "(" + Put(judged.m_dCompression) + " × " + Put(r.m_dFtw) +
+                                            " / " + Put(r.m_dFcw) + ")"
+                                      : Put(std::max(judged.m_dTension, judged.m_dCompression));
   steps.push_back({{"折算应力", "Reduced stress"},
                    clause,
                    "σ_{zs}",
-                   "√(σ^2 + 3 τ^2)",
-                   "√(" + Put(std::max(judged.m_dTension, judged.m_dCompression)) + "^2 + 3 × " +
-                       Put(judged.m_dTau) + "^2)",
+                   bPressed ? "√((σ f_t^w / f_c^w)^2 + 3 τ^2)" : "√(σ^2 + 3 τ^2)",
+                   "√(" + across + "^2 + 3 × " + Put(judged.m_dTau) + "^2)",
                    PlainNumber(judged.m_dCombined),
                    "N/mm²"});
   return steps;
 }
 
-// `relation` of the reduced stress: the record of 2003 fails one that is equal to its limit.
+// `relation` of the reduced stress: 2003 fails one that is equal to its limit.
 template <class CHECK>
 CVerdicts ButtVerdicts(const CHECK& check, const char* clause, const std::string& relation) {
-  return WeldVerdicts(check, clause, check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w",
-                      "|τ| ≤ f_v^w", "√(σ^2 + 3 τ^2) " + relation + " 1.1 f_t^w");
+  return WeldVerdicts(
+      check, clause, check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w", "|τ| ≤ f_v^w",
+      (IsReducedPressed(check.Figures()) ? "√((σ f_t^w / f_c^w)^2 + 3 τ^2) " : "√(σ^2 + 3 τ^2) ") +
+          relation + " 1.1 f_t^w");
 }
 
 template <class CHECK>
@@ -294,10 +308,12 @@ std::string CaseReport(const CFilletCase& input, const CFilletCheck& check, CLan
   Head(body, {"角焊缝验算", "Fillet weld"}, input.m_strId, check);
   WeldInputs(body, input, CFilletCheck::InputKeys(),
              [&](const std::string& key) { return IsUnused(input, key); });
-  body.Figure(FilletDrawing(input, check.Results().m_dHe), body.Text(kCaption));
+  body.Figure(FilletDrawing(input, check.Results().m_dHe, false), body.Text(kCaption));
+  CVerdicts verdicts = FilletVerdicts(check, kFilletClauses2003);
+  AddDetailVerdicts(check.Details(), std::span(check.Parts()).subspan(verdicts.size()), verdicts);
   return Tail(body,
               FilletSteps(input, check.Results(), check.Figures(), kFilletClauses2003, "T 3.4.1-3"),
-              FilletVerdicts(check, kFilletClauses2003));
+              verdicts);
 }
 
 std::string CaseReport(const CFilletCase2017& input, const CFilletCheck2017& check,
@@ -311,7 +327,7 @@ std::string CaseReport(const CFilletCase2017& input, const CFilletCheck2017& che
     return IsUnused(input, key);
   });
   const CFilletResults2017& r = check.Results();
-  body.Figure(FilletDrawing(input, r.m_dHe), body.Text(kCaption));
+  body.Figure(FilletDrawing(input, r.m_dHe, input.m_nJoint == 0), body.Text(kCaption));
   CVerdicts verdicts = FilletVerdicts(check, kFilletClauses2017, r.m_dAlphaF);
   AddDetailVerdicts(check.Details(), std::span(check.Parts()).subspan(verdicts.size()), verdicts);
   return Tail(body,

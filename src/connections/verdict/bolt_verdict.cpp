@@ -62,7 +62,7 @@ void Tension(const NormalBoltData& record, CBoltFigures& figures) {
 
 // 7.2.1 to 7.2.4. Bearing-type bolts hold Nv against Ncb / 1.2 only together with tension.
 void Interaction(const NormalBoltData& record, CBoltFigures& figures) {
-  const double shear = figures.m_dNv / (record.m_dBeta * record.m_dNvb);
+  const double shear = figures.m_dNv / (record.m_dBeta * figures.m_dShear);
   const double tension = figures.m_dNt / record.m_dNtb;
   if (record.m_nBoltType == kFrictionBolt) {
     figures.m_dRatio = shear + tension;
@@ -89,8 +89,11 @@ CPlateHoles HolesOf(const NormalBoltData& record) {
 
 }  // namespace
 
-CBoltFigures JudgedFigures(const NormalBoltData& record) {
+CBoltFigures JudgedFigures(const NormalBoltData& record, bool bThreads) {
   CBoltFigures figures;
+  figures.m_bThreads = bThreads && record.m_nBoltType != kFrictionBolt;
+  const double share = figures.m_bThreads ? record.m_dDe / record.m_nD : 1;
+  figures.m_dShear = record.m_dNvb * share * share;
   Shear(record, figures);
   Tension(record, figures);
   Interaction(record, figures);

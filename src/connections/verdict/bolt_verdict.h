@@ -28,12 +28,15 @@ struct CBoltFigures {
   double m_dNtPerMm = 0;  // and how it grows with y
   double m_dNt = 0;
   double m_dRatio = 0;
-  double m_dBearing = 0;  // resistance; 0 with friction-type bolts
-  CPlateSection m_x;      // for Vx
-  CPlateSection m_y;      // for Vy
+  bool m_bThreads = false;  // in the shear planes
+  double m_dShear = 0;      // resistance Nvb
+  double m_dBearing = 0;    // resistance; 0 with friction-type bolts
+  CPlateSection m_x;        // for Vx
+  CPlateSection m_y;        // for Vy
 };
 
-// Of a record that BoltYanSuan has computed.
-CBoltFigures JudgedFigures(const NormalBoltData& record);
+// Of a record that BoltYanSuan has computed. `bThreads` in the shear planes: the record's shear
+// resistance is that of the shank, the judged one then that of the effective area.
+CBoltFigures JudgedFigures(const NormalBoltData& record, bool bThreads);
 
 }  // namespace orv3

@@ -43,15 +43,17 @@ CWeldFigures FilletFigures(const CFilletCase& input, const CFilletStrength& stre
   figures.m_dCompressionLimit = figures.m_dBetaCompression * strength.m_dFfw;
   if (!figures.m_bShear) return figures;
   // Where the line of fusion of a groove weld is about as short as its depth (bevel, K and J), the
-  // shear strength is 0.9 of the table's (7.1.5; 2017: 11.2.4).
+  // shear strength is 0.9 of the table's (7.1.5; 2017: 11.2.4): of shear alone, so that without V
+  // nothing is left of it.
   figures.m_dShearLength = strength.m_dShearLength;
-  const bool bShortFusion = input.m_dS != 0 && IsShortFusion(input.m_nGroove);
-  figures.m_dTauLimit = figures.m_dCombinedLimit = (bShortFusion ? 0.9 : 1) * strength.m_dFfw;
+  figures.m_dFusion = input.m_dS != 0 && IsShortFusion(input.m_nGroove) ? 0.9 : 1;
+  figures.m_dTauLimit = figures.m_dFusion * strength.m_dFfw;
+  figures.m_dCombinedLimit = strength.m_dFfw;
   figures.m_dTau =
       1000 * std::fabs(input.m_dV / input.m_nWelds) / (strength.m_dHe * figures.m_dShearLength);
   const double across = std::max(figures.m_dTension / figures.m_dBetaTension,
                                  figures.m_dCompression / figures.m_dBetaCompression);
-  figures.m_dCombined = std::hypot(across, figures.m_dTau);
+  figures.m_dCombined = std::hypot(across, figures.m_dTau / figures.m_dFusion);
   return figures;
 }
 
@@ -69,7 +71,10 @@ CWeldFigures JudgedFigures(const CButtCase& input, const CButtResults& results) 
   if (!figures.m_bShear) return figures;
   figures.m_dTau = 1.5 * 1000 * std::fabs(input.m_dV) / (input.m_dThick * input.m_dLw);
   figures.m_dTauLimit = results.m_dFvw;
-  const double across = std::max(figures.m_dTension, figures.m_dCompression);
+  // 1.1 ftw is for an edge that is pulled; what presses counts in the ratio of the strengths, so
+  // that without V nothing is left of the rule.
+  const double across =
+      std::max(figures.m_dTension, figures.m_dCompression * results.m_dFtw / results.m_dFcw);
   figures.m_dCombined = std::sqrt(across * across + 3 * figures.m_dTau * figures.m_dTau);
   figures.m_dCombinedLimit = 1.1 * results.m_dFtw;
   return figures;

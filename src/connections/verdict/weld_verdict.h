@@ -22,6 +22,7 @@ struct CWeldFigures {
   double m_dTauLimit = 0;
   double m_dCombined = 0;  // of the edge that gives most
   double m_dCombinedLimit = 0;
+  double m_dFusion = 1;       // fillet weld: share of the strength that shear has
   double m_dBetaTension = 1;  // fillet weld: beta-f of either edge
   double m_dBetaCompression = 1;
   bool TensionGoverns() const noexcept {

@@ -2,14 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 #include <optional>
 
 #include "codes/weld_strength.h"
+#include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
 #include "connections/gb2017/code_figures.h"
 #include "connections/gb2017/fillet_size.h"
 #include "connections/gb2017/notes.h"
+#include "connections/weld_group/weld_lines.h"
 #include "framework/plain_number.h"
 #include "reports/fault_list.h"
 
@@ -29,50 +30,18 @@ std::vector<CWeldLine> WeldsOf(const CWeldGroupCase& input) {
   return welds;
 }
 
-// Both welds run over the same stretch of one line. Ends that meet and welds that cross do not.
-bool IsOver(const CWeldLine& a, const CWeldLine& b) noexcept {
-  const CWeldLine& line = a.Length() >= b.Length() ? a : b;
-  const CWeldLine& other = a.Length() >= b.Length() ? b : a;
-  const double length = line.Length();
-  const double tolerance = std::min(0.1, other.Length() / 1000);  // mm
-  const double x = (line.m_dX2 - line.m_dX1) / length;
-  const double y = (line.m_dY2 - line.m_dY1) / length;
-  const auto along = [&](double px, double py) {
-    return (px - line.m_dX1) * x + (py - line.m_dY1) * y;
-  };
-  const auto across = [&](double px, double py) {
-    return std::fabs((py - line.m_dY1) * x - (px - line.m_dX1) * y);
-  };
-  if (across(other.m_dX1, other.m_dY1) > tolerance || across(other.m_dX2, other.m_dY2) > tolerance)
-    return false;
-  const double from = along(other.m_dX1, other.m_dY1);
-  const double to = along(other.m_dX2, other.m_dY2);
-  return std::min(length, std::max(from, to)) - std::max(0.0, std::min(from, to)) > tolerance;
-}
-
 // The throat of a stretch that is given twice would count twice.
 void OverlapFault(const std::vector<CWeldLine>& welds, CFaultList& faults) {
-  const auto left = [&](std::size_t i) { return std::min(welds[i].m_dX1, welds[i].m_dX2); };
-  std::vector<std::size_t> order(welds.size());
-  std::iota(order.begin(), order.end(), std::size_t{0});
-  std::stable_sort(order.begin(), order.end(),
-                   [&](std::size_t a, std::size_t b) { return left(a) < left(b); });
-  constexpr double kNear = 0.1;  // mm
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    const CWeldLine& weld = welds[order[i]];
-    const double right = std::max(weld.m_dX1, weld.m_dX2) + kNear;
-    for (std::size_t j = i + 1; j < order.size() && left(order[j]) <= right; ++j) {
-      if (!IsOver(weld, welds[order[j]])) continue;
-      const auto [first, second] = std::minmax(order[i], order[j]);
-      const std::string a = std::to_string(first + 1);
-      const std::string b = std::to_string(second + 1);
-      faults.Add("welds",
-                 {"第 " + a + " 条与第 " + b + " 条焊缝重叠，重叠处会计两次",
-                  "welds " + a + " and " + b + " lie on one another and would count twice there"},
-                 {"请只给一次", "give each stretch of weld once"});
-      return;
-    }
-  }
+  const auto close = WeldsTooClose(welds);
+  if (!close) return;
+  const std::string a = std::to_string(close->first + 1);
+  const std::string b = std::to_string(close->second + 1);
+  faults.Add(
+      "welds",
+      {"第 " + a + " 条与第 " + b + " 条焊缝重叠，或并列而相距不足一个焊脚，重叠处会计两次",
+       "welds " + a + " and " + b +
+           " lie on one another, or side by side nearer than a leg, and would count twice there"},
+      {"请只给一次", "give each stretch of weld once"});
 }
 
 void WeldFaults(const CWeldGroupCase& input, CFaultList& faults) {
@@ -118,6 +87,10 @@ void FieldFaults(const CWeldGroupCase& input, CFaultList& faults) {
   faults.Finite("T", input.m_dT);
   faults.Finite("x", input.m_dX);
   faults.Finite("y", input.m_dY);
+  if (IsZero(input.m_dN) && IsZero(input.m_dVx) && IsZero(input.m_dVy) && IsZero(input.m_dM) &&
+      IsZero(input.m_dT)) {
+    NoLoadFault("Vx", faults);
+  }
   if (input.m_dBetaF != 1 && input.m_dBetaF != 1.22) {
     faults.NotPossible(
         "betaF", PlainNumber(input.m_dBetaF),
@@ -188,6 +161,7 @@ bool CWeldGroupCheck::IsRefused(const CWeldGroupCase& input) {
   const bool bSteel = ElectrodesOf(m_nEdition, steel).empty();
   m_results.m_dFfw = gb2017::Take(strength, bSteel ? "steel" : "electrode", faults);
   m_arrWeld = WeldsOf(input);
+  m_arrRun = RunLengths(m_arrWeld);
   m_sums = SumsOf(m_arrWeld);
   m_loads = AtCentroid(input, m_sums);
   if (!FindTension(m_loads, m_sums, m_tension)) {
@@ -202,18 +176,18 @@ bool CWeldGroupCheck::IsRefused(const CWeldGroupCase& input) {
   return Refused(faults.Take());
 }
 
-// 11.2.6 of 2017; the 2003 edition bounds the length instead.
-double CWeldGroupCheck::Reduction(const CWeldGroupCase& input,
-                                  const CWeldLine& weld) const noexcept {
-  const bool bReduced = m_nEdition == CCodeEdition::Gb2017 && input.m_nJoint == 0;
-  return bReduced ? gb2017::LapFactor(weld.Length(), weld.m_dHf) : 1;
+// For the length of the whole run: 11.2.6 of 2017; 8.2.7 of 2003, which counts 60 hf of it.
+double CWeldGroupCheck::Reduction(const CWeldGroupCase& input, std::size_t weld) const noexcept {
+  const double hf = m_arrWeld[weld].m_dHf;
+  if (m_nEdition == CCodeEdition::Gb2003) return std::min(1.0, 60 * hf / m_arrRun[weld]);
+  return input.m_nJoint == 0 ? gb2017::LapFactor(m_arrRun[weld], hf) : 1;
 }
 
 void CWeldGroupCheck::FindWorst(const CWeldGroupCase& input) {
   const auto points = WeldPoints(m_arrWeld, m_loads, m_sums, m_tension, input.m_dBetaF);
   double worst = -1;
   for (const CWeldPoint& point : points) {
-    const double factor = Reduction(input, m_arrWeld[static_cast<std::size_t>(point.m_nWeld)]);
+    const double factor = Reduction(input, static_cast<std::size_t>(point.m_nWeld));
     if (point.m_dCombined / factor <= worst * (1 + 1e-12)) continue;
     worst = point.m_dCombined / factor;
     m_worst = point;
@@ -221,7 +195,7 @@ void CWeldGroupCheck::FindWorst(const CWeldGroupCase& input) {
   }
 }
 
-// 11.3.5 (2003: 8.2.7), of the weld that comes nearest to each limit.
+// 11.3.5 (2003: 8.2.7), of the run of welds that comes nearest to each limit.
 void CWeldGroupCheck::FindDetails() {
   const bool b2017 = m_nEdition == CCodeEdition::Gb2017;
   m_arrDetail.clear();
@@ -233,8 +207,6 @@ void CWeldGroupCheck::FindDetails() {
                    1,
                    0,
                    false};
-  CDetail most = {
-      {"焊缝最大计算长度", "weld length, most"}, "welds", "8.2.7", "l_w", "60 h_f", 0, 1, true};
   CDetail leg = {{"最小焊脚", "leg, least"}, "welds", "T 11.3.5", "h_f", "h_{f,min}", HUGE_VAL,
                  gb2017::LeastLeg(0),        false};
   const auto worse = [](CDetail& detail, double size, double limit) {
@@ -243,13 +215,13 @@ void CWeldGroupCheck::FindDetails() {
     each.m_dLimit = limit;
     if (each.Utilisation() > detail.Utilisation()) detail = each;
   };
-  for (const CWeldLine& weld : m_arrWeld) {
-    worse(least, weld.Length(), std::max(8 * weld.m_dHf, 40.0));
-    worse(most, weld.Length(), 60 * weld.m_dHf);
-    worse(leg, weld.m_dHf, leg.m_dLimit);
+  for (std::size_t i = 0; i < m_arrWeld.size(); ++i) {
+    const double hf = m_arrWeld[i].m_dHf;
+    worse(least, m_arrRun[i], std::max(8 * hf, 40.0));
+    worse(leg, hf, leg.m_dLimit);
   }
   m_arrDetail.push_back(least);
-  m_arrDetail.push_back(b2017 ? leg : most);
+  if (b2017) m_arrDetail.push_back(leg);
 }
 
 std::vector<CCaseWarning> CWeldGroupCheck::Notes(const CWeldGroupCase& input) const {
@@ -257,6 +229,15 @@ std::vector<CCaseWarning> CWeldGroupCheck::Notes(const CWeldGroupCase& input) co
   const auto steel = static_cast<CSteelGrade>(input.m_nSteel);
   gb2017::NoteOf(FilletWeldStrength(m_nEdition, steel), "steel", notes);
   gb2017::NoteOfDetails(m_arrDetail, notes);
+  if (m_nEdition == CCodeEdition::Gb2003 && m_results.m_dAlphaF < 1) {
+    const std::string run = PlainNumber(WorstRun()) + " mm";
+    const std::string factor = PlainNumber(m_results.m_dAlphaF);
+    notes.push_back(
+        {"welds",
+         {"焊缝长 " + run + "，超过 60 hf 的部分不计（8.2.7 条）：强度乘以 " + factor + " 验算。",
+          "Of a weld of " + run + " 60 hf count (8.2.7): judged by " + factor +
+              " of its strength."}});
+  }
   if (m_nEdition == CCodeEdition::Gb2017) {
     const auto [least, most] = std::minmax_element(
         m_arrWeld.begin(), m_arrWeld.end(),

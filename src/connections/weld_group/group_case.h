@@ -60,6 +60,8 @@ class ORV3CAL_API CWeldGroupCheck : public CCaseAnswer {
 
   CCodeEdition Edition() const noexcept { return m_nEdition; }
   const CWeldGroupResults& Results() const noexcept { return m_results; }
+  // Length of the run of welds end to end that holds the most stressed point, mm.
+  double WorstRun() const noexcept { return m_arrRun[static_cast<std::size_t>(m_worst.m_nWeld)]; }
   const std::vector<CWeldLine>& Welds() const noexcept { return m_arrWeld; }
   const CWeldPoint& WorstPoint() const noexcept { return m_worst; }
   const CTensionPlane& Tension() const noexcept { return m_tension; }
@@ -68,13 +70,14 @@ class ORV3CAL_API CWeldGroupCheck : public CCaseAnswer {
 
  private:
   bool IsRefused(const CWeldGroupCase& input);
-  double Reduction(const CWeldGroupCase& input, const CWeldLine& weld) const noexcept;
+  double Reduction(const CWeldGroupCase& input, std::size_t weld) const noexcept;
   void FindWorst(const CWeldGroupCase& input);
   void FindDetails();
   std::vector<CCaseWarning> Notes(const CWeldGroupCase& input) const;
 
   CCodeEdition m_nEdition;
   std::vector<CWeldLine> m_arrWeld;
+  std::vector<double> m_arrRun;  // length of the run that each weld is part of, mm
   CWeldGroupSums m_sums;
   CCentroidLoads m_loads{};
   CTensionPlane m_tension;

@@ -11,8 +11,6 @@
 #include "framework/plain_number.h"
 #include "framework/utf8.h"
 #include "sections/load_data_table.h"
-#include "sections/section_check.h"
-#include "sections/section_figures.h"
 #include "sections/section_kind.h"
 #include "sections/section_style.h"
 
@@ -101,22 +99,11 @@ CDataItem TableRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
     return row;
   }
   if (std::isnan(input.m_dGap)) return row;
-  if (PairSpacingSign(row.GetTableName()).IsEmpty() || input.m_dGap < 0 ||
-      input.m_dGap != std::floor(input.m_dGap) || input.m_dGap > 1000) {
-    fault = CCaseFault{
-        "section.gap",
-        {"不可用", "is not possible"},
-        {"请只给组合截面整数毫米的间距", "give the gap of a pair alone, in whole millimetres"}};
+  if (PairSpacingSign(row.GetTableName()).IsEmpty() || !IsPairGap(input.m_dGap)) {
+    fault = PairGapFault();
     return row;
   }
   return WithPairSpacing(row, static_cast<int>(input.m_dGap));
-}
-
-const CSectionStyle* StyleNamed(const std::string& name) {
-  if (const auto* style = FindSectionAlias(name)) return style;
-  const CString text = FromUtf8(name);
-  if (const auto* style = FindSectionStyle(std::wstring_view(text.GetString()))) return style;
-  return IsNumber(text) ? FindSectionStyle(ToInt(text)) : nullptr;
 }
 
 CDataItem StyleRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
@@ -137,18 +124,7 @@ CDataItem StyleRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
                        {"请给出 " + count + " 个尺寸", "give " + count + " sizes"}};
     return {};
   }
-  if (const auto wrong = CheckSectionSizes(*style, sizes)) {
-    fault = CCaseFault{"section.sizes",
-                       {"围不成截面：" + wrong->m_strText, "bound no section: " + wrong->m_strText},
-                       {"请改正尺寸", "give sizes that do"}};
-    return {};
-  }
-  CSteelJMData record;
-  CArray<double, double> values;
-  for (const double size : sizes) values.Add(size);
-  record.SetSectSize(style->m_nStyle, values);
-  CSteelJMData::CalSectCharacterStyle(record);
-  return ExactRow(record);
+  return SizesRow(*style, sizes, fault);
 }
 
 // The row of a lattice column as the case gives it.
@@ -544,7 +520,13 @@ void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) 
   const bool bSpan =
       (!q.m_x.IsZero() && s.m_nShape != CMemberShape::Tube && !IsSolid(s.m_nShape)) ||
       (!q.m_y.IsZero() && s.m_nShape == CMemberShape::Box);
+  const bool bLateral = m_answer.Find(CMemberCheckKind::Lateral) != nullptr;
   const std::pair<bool, N> notes[] = {
+      {std::isnan(input.m_dLz) && NeedsTorsion(s, m_steel, q), N::AssumedLengthZ},
+      {std::isnan(input.m_dSpan) && bLateral, N::AssumedSpan},
+      {input.m_strLoadFlange.empty() && q.m_x.HasLoad() && bLateral && !IsClosed(s.m_nShape) &&
+           s.m_nShape != CMemberShape::T && s.m_nShape != CMemberShape::Channel,
+       N::AssumedLoadFlange},
       {IsAnglePair(s.m_nShape) && std::isnan(input.m_dGap), N::PairWithoutGap},
       {m_bShearTaken, N::LoadWithoutShear},
       {!std::isnan(input.m_dLz) && !NeedsTorsion(s, m_steel, q), N::UnusedLengthZ},
@@ -597,6 +579,8 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
   CheckLatticeMember(lattice.m_section, m_steel, loads, m_answer);
   if (m_answer.IsRefused()) return Refuse(*m_answer.Fault());
   if (lattice.m_bL1Assumed) m_answer.Note(CMemberNote::LimbLength);
+  if (lattice.m_section.m_nBond == CLatticeBond::Lacing && std::isnan(input.m_dBarAngle))
+    m_answer.Note(CMemberNote::AssumedAngle);
   m_answer.Note(CMemberNote::BondJoints);
   if (m_loads.m_x.HasLoad() && m_loads.m_dVy == 0) m_answer.Note(CMemberNote::LatticeShear);
   if (m_steel.m_nGrade == CSteelGrade::Q355) m_answer.Note(CMemberNote::Q355);

@@ -2,11 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
+#include <utility>
 
+#include "catalogue/outline/row_spacing.h"
+#include "codes/edition.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "sections/load_data_table.h"
 #include "sections/section_kind.h"
+#include "sections/system_tables.h"
+#include "tables/edit_state.h"
 
 namespace orv3 {
 namespace {
@@ -19,36 +24,80 @@ double MassOf(const CDataItem& row, const CMemberRow& member) {
 
 // The worst of all cases; nothing for a candidate that one of them refuses.
 std::optional<CChosenMember> Worst(CMemberCheck& check, std::span<const CMemberCase> cases,
-                                   CMemberCandidate& candidate, bool& bPass) {
-  CChosenMember worst{0, -1, CMemberCheckKind::Strength, 0};
-  bPass = true;
+                                   CMemberCandidate& candidate, std::size_t& refusing) {
+  CChosenMember worst{0, -1, CMemberCheckKind::Strength, 0, true, {}};
   for (std::size_t i = 0; i < cases.size(); ++i) {
-    if (!check.Run(cases[i], candidate.m_row)) return std::nullopt;
-    bPass = bPass && check.Pass();
+    if (!check.Run(cases[i], candidate.m_row)) {
+      refusing = i;
+      return std::nullopt;
+    }
+    worst.m_bPass = worst.m_bPass && check.Pass();
+    for (const CMemberNote note : check.Answer().Notes()) {
+      if (std::find(worst.m_arrNote.begin(), worst.m_arrNote.end(), note) == worst.m_arrNote.end())
+        worst.m_arrNote.push_back(note);
+    }
     const CMemberCheckPart& part = check.Answer().Worst();
     if (part.m_dRatio <= worst.m_dRatio) continue;
-    worst = {0, part.m_dRatio, part.m_nKind, i};
+    worst.m_dRatio = part.m_dRatio;
+    worst.m_nGoverns = part.m_nKind;
+    worst.m_nCase = i;
   }
   return worst;
 }
 
+// The table of the store in front of the catalogue, else of the catalogue.
+std::shared_ptr<const CSystemTable> TableInStores(const CString& name) {
+  if (const CString front = StoreInFront(); !front.IsEmpty()) {
+    if (auto table = SystemTable(front, name)) return table;
+  }
+  return SystemTable(SystemStorePath(), name);
+}
+
+void AddRefused(std::vector<CRefusedMember>& refused, std::span<const CMemberCandidate> candidates,
+                std::size_t index, const CMemberCheck& check, std::size_t refusing) {
+  const CMemberCandidate& candidate = candidates[index];
+  if (refused.empty() || candidate.m_bContradicts ||
+      candidates[refused.back().m_nCandidate].m_strTable != candidate.m_strTable) {
+    if (candidate.m_fault) {
+      refused.push_back({index, std::nullopt, *candidate.m_fault, 0});
+    } else {
+      refused.push_back({index, refusing, check.Fault(), 0});
+    }
+  }
+  ++refused.back().m_nRows;
+}
+
 }  // namespace
 
-std::vector<CMemberCandidate> MemberCandidates(const CString& table) {
-  CStringArray numbers;
+std::vector<CMemberCandidate> MemberCandidates(const CString& table, double gap) {
   std::vector<CMemberCandidate> candidates;
-  if (CLoadDataTable::GetSysTemItemNo(table, numbers) == 0) return candidates;
-  for (const CString& no : numbers) {
-    const CDataItem row = CLoadDataTable::GetSysTemJMItem(table, no);
-    CMemberCandidate candidate;
+  const auto read = TableInStores(table);
+  if (!read) return candidates;
+  const bool bGap = !std::isnan(gap) && !PairSpacingSign(table).IsEmpty();
+  for (const CDataItem& row : read->Table().m_arrItem) {
+    const int no = row.GetSignIndex(L"No.");
+    if (IsDeleted(row.m_nModifyType) || no < 0) continue;
+    CMemberCandidate& candidate = candidates.emplace_back();
     candidate.m_strTable = ToUtf8(table);
-    candidate.m_strNo = ToUtf8(no);
-    candidate.m_fault = ReadMemberRow(row, candidate.m_row);
+    candidate.m_strNo = ToUtf8(row[no].m_strValue);
+    const CDataItem pair = bGap ? WithPairSpacing(row, static_cast<int>(gap)) : CDataItem();
+    candidate.m_fault = ReadMemberRow(bGap ? pair : row, candidate.m_row);
     candidate.m_bContradicts = candidate.m_fault && Contradicting(row);
     candidate.m_dMass = MassOf(row, candidate.m_row);
-    candidates.push_back(std::move(candidate));
   }
   return candidates;
+}
+
+CMemberCandidate StyleCandidate(const CSectionStyle& style, const std::vector<double>& sizes) {
+  CMemberCandidate candidate;
+  candidate.m_strTable = style.m_szAlias;
+  candidate.m_arrSize = sizes;
+  for (const double size : sizes)
+    candidate.m_strNo += (candidate.m_strNo.empty() ? "" : " ") + ToUtf8(FormatShortest(size));
+  const CDataItem row = SizesRow(style, sizes, candidate.m_fault);
+  if (!candidate.m_fault) candidate.m_fault = ReadMemberRow(row, candidate.m_row);
+  if (!candidate.m_fault) candidate.m_dMass = MassOf(row, candidate.m_row);
+  return candidate;
 }
 
 std::vector<CString> MemberTables() {
@@ -66,6 +115,40 @@ std::vector<CString> MemberTables() {
   return tables;
 }
 
+std::optional<CCaseFault> ReadChoiceEdition(std::span<const CMemberCase> cases,
+                                            CCodeEdition otherwise, CCodeEdition& edition) {
+  for (std::size_t i = 0; i < cases.size(); ++i) {
+    CCodeEdition own = otherwise;
+    if (!cases[i].m_strCode.empty()) {
+      const auto named = EditionByYear(cases[i].m_strCode);
+      if (!named) return CCaseFault{"code", named.Refusal().m_what, named.Refusal().m_right};
+      own = *named;
+    }
+    if (i > 0 && own != edition) {
+      return CCaseFault{"code",
+                        {"各算例的版本不同", "is not the same of all cases"},
+                        {"请用一个版本选取", "choose by one edition"}};
+    }
+    edition = own;
+  }
+  return std::nullopt;
+}
+
+std::optional<CCaseFault> ReadChoiceGap(std::span<const CMemberCase> cases, double& gap) {
+  gap = CMemberCase::kNone;
+  for (std::size_t i = 0; i < cases.size(); ++i) {
+    const double own = cases[i].m_dGap;
+    if (!std::isnan(own) && !IsPairGap(own)) return PairGapFault();
+    if (i > 0 && own != gap && !(std::isnan(own) && std::isnan(gap))) {
+      return CCaseFault{"section.gap",
+                        {"各算例的间距不同", "is not the same of all cases"},
+                        {"请给出一个间距", "give one gap"}};
+    }
+    gap = own;
+  }
+  return std::nullopt;
+}
+
 CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
                            std::span<CMemberCandidate> candidates, CCodeEdition edition) {
   CMemberChoice choice;
@@ -74,21 +157,17 @@ CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
   check.SetEdition(edition);
   for (std::size_t i = 0; i < candidates.size(); ++i) {
     CMemberCandidate& candidate = candidates[i];
-    bool bPass = false;
-    auto worst = candidate.m_fault ? std::nullopt : Worst(check, cases, candidate, bPass);
+    std::size_t refusing = 0;
+    auto worst = candidate.m_fault ? std::nullopt : Worst(check, cases, candidate, refusing);
     if (!worst) {
       ++choice.m_nRefused;
-      auto& refused = candidate.m_bContradicts ? contradicting : choice.m_arrRefused;
-      if (candidate.m_bContradicts || refused.empty() ||
-          candidates[refused.back().m_nCandidate].m_strTable != candidate.m_strTable)
-        refused.push_back({i, candidate.m_fault ? *candidate.m_fault : check.Fault(), 0});
-      ++refused.back().m_nRows;
+      AddRefused(candidate.m_bContradicts ? contradicting : choice.m_arrRefused, candidates, i,
+                 check, refusing);
       continue;
     }
     ++choice.m_nTried;
-    if (!bPass) continue;
     worst->m_nCandidate = i;
-    choice.m_arrChosen.push_back(*worst);
+    (worst->m_bPass ? choice.m_arrChosen : choice.m_arrFailing).push_back(*std::move(worst));
   }
   choice.m_arrRefused.insert(choice.m_arrRefused.begin(), contradicting.begin(),
                              contradicting.end());

@@ -9,6 +9,10 @@
 #include "catalogue/outline/row_spacing.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "outlines/exact_properties.h"
+#include "sections/load_data_table.h"
+#include "sections/section_check.h"
+#include "sections/section_figures.h"
 #include "sections/section_kind.h"
 
 namespace orv3 {
@@ -383,6 +387,38 @@ std::optional<CCaseFault> CRowReader::Read() {
 }
 
 }  // namespace
+
+const CSectionStyle* StyleNamed(const std::string& name) {
+  if (const auto* style = FindSectionAlias(name)) return style;
+  const CString text = FromUtf8(name);
+  if (const auto* style = FindSectionStyle(std::wstring_view(text.GetString()))) return style;
+  return IsNumber(text) ? FindSectionStyle(ToInt(text)) : nullptr;
+}
+
+CDataItem SizesRow(const CSectionStyle& style, std::span<const double> sizes,
+                   std::optional<CCaseFault>& fault) {
+  if (const auto wrong = CheckSectionSizes(style, sizes)) {
+    fault = CCaseFault{"section.sizes",
+                       {"围不成截面：" + wrong->m_strText, "bound no section: " + wrong->m_strText},
+                       {"请改正尺寸", "give sizes that do"}};
+    return {};
+  }
+  CSteelJMData record;
+  CArray<double, double> values;
+  for (const double size : sizes) values.Add(size);
+  record.SetSectSize(style.m_nStyle, values);
+  CSteelJMData::CalSectCharacterStyle(record);
+  return ExactRow(record);
+}
+
+bool IsPairGap(double gap) noexcept { return gap >= 0 && gap <= 1000 && gap == std::floor(gap); }
+
+CCaseFault PairGapFault() {
+  return {"section.gap",
+          {"不可用", "is not possible"},
+          {"请只给组合截面整数毫米的间距，不大于 1000",
+           "give the gap of a pair alone, in whole millimetres up to 1000"}};
+}
 
 std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member) {
   return CRowReader(row, member).Read();

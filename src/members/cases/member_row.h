@@ -3,10 +3,14 @@
 #pragma once
 
 #include <optional>
+#include <span>
+#include <string>
+#include <vector>
 
 #include "codes/buckling.h"
 #include "members/member_section.h"
 #include "reports/case_keys.h"
+#include "sections/section_style.h"
 #include "tables/data_item.h"
 
 namespace orv3 {
@@ -25,6 +29,16 @@ struct CMemberRow {
 
   bool HasEdges() const noexcept { return m_nFlameCut != m_nRolled; }
 };
+
+// By number, table name or alias; null when there is none.
+ORV3CAL_API const CSectionStyle* StyleNamed(const std::string& name);
+// The row of a style's sizes, computed; the fault names "section.sizes".
+ORV3CAL_API CDataItem SizesRow(const CSectionStyle& style, std::span<const double> sizes,
+                               std::optional<CCaseFault>& fault);
+
+// Whether a gap of a pair can be: whole millimetres, 0 to 1000.
+ORV3CAL_API bool IsPairGap(double gap) noexcept;
+ORV3CAL_API CCaseFault PairGapFault();
 
 // The fault names "section".
 ORV3CAL_API std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member);
