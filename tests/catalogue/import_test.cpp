@@ -108,8 +108,8 @@ TEST_F(Import, RowsOfDataFilesAreTheCataloguesAndThoseOfTwinsTheUsers) {
   EXPECT_EQ(Told(Run(later, true)), "冷弯薄壁方钢管 +0 ~2 =0; ");
   EXPECT_EQ(Tubes(), "50X2(4) h=50 A=10 60X2(4) h=60 A=11 my(4) h=70 A=8 ");
 
-  const CString twice =
-      File(L"LWRECT.kvb", DataFile(Record("a", 1) + Record("b", 2) + Record("a", 3)));
+  const CString twice = File(L"LWRECT.kvb", DataFile(Record("a", 40, 2, 1) + Record("b", 50, 2, 2) +
+                                                     Record("a", 60, 2, 3)));
   EXPECT_EQ(Told(Run(twice)), "冷弯薄壁方钢管 +2 ~0 =0 !a; ");
 }
 
