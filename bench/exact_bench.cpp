@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <vector>
 
+#include "catalogue/exact/exact_figures.h"
 #include "catalogue/exact/row_exact.h"
 #include "catalogue/outline/row_outline.h"
 #include "framework/utf8.h"
@@ -124,13 +125,18 @@ BENCHMARK_CAPTURE(Solve, rectangle, Style(3, {200, 400}))->Unit(benchmark::kMill
 BENCHMARK_CAPTURE(Solve, circular_tube, Style(7, {100, 92}))->Unit(benchmark::kMillisecond);
 
 // A shipped row's figures, kept beside the store.
-void LookUp(benchmark::State& state) {
+void LookUp(benchmark::State& state, const wchar_t* table, const wchar_t* no) {
   orv3::SetAnsiCodePage(936);
   CLoadDataTable::SetOrvoPrgPath(CString(orv3::FromUtf8(ORV3CAL_CATALOGUE)) + L"/");
-  const CDataItem row = CLoadDataTable::GetSysTemJMItem(L"热轧普通工字钢", L"I20a");
+  const CDataItem row = CLoadDataTable::GetSysTemJMItem(table, no);
+  if (!orv3::FindExact(row)) state.SkipWithError("not kept beside the store");
   for (auto _ : state) benchmark::DoNotOptimize(orv3::ExactProperties(row));
 }
-BENCHMARK(LookUp)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(LookUp, rolled_I, L"热轧普通工字钢", L"I20a")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(LookUp, pair_of_angles, L"热轧等边角钢组合", L"2L100X10")
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(LookUp, lattice_column, L"双肢格构柱", L"G2[10X800")
+    ->Unit(benchmark::kMicrosecond);
 
 // Every row of the shipped store.
 void AllRows(benchmark::State& state) {

@@ -5,7 +5,6 @@
 
 #include "catalogue/exact/exact_figures.h"
 #include "catalogue/exact/row_exact.h"
-#include "catalogue/outline/row_outline.h"
 #include "catalogue_csv.h"
 #include "framework/utf8.h"
 #include "platform/store_error.h"
@@ -26,7 +25,7 @@ CDataTable Read(const CString& store, const CString& name) {
 }
 
 CExactRecord RecordOf(const CDataItem& row) {
-  const auto key = ExactRecordKey(RowOutline(row).m_arrLoop);
+  const auto key = ExactRecordKey(row);
   const CExactProperties exact = ComputedExact(row);
   if (!key || std::isnan(exact.It)) {
     throw CCatalogueError(ToUtf8(row.m_strTableName + L": " + row[0].m_strValue +

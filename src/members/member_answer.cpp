@@ -115,8 +115,9 @@ constexpr CNoteText kNotes[] = {
      {"未给组合间距：按该行自身的间距取值", "no gap is given: the pair has that of its row"}},
     {CMemberNote::LoadWithoutShear,
      "load",
-     {"有横向荷载而未给其剪力：抗剪和折算应力未验算",
-      "a load without its shear force: shear and combined stress are not checked"}},
+     {"有横向荷载而未给其剪力：剪力由荷载和端弯矩按跨度等于计算长度的简支梁求得",
+      "a load without its shear force: it is taken from the load and the end moments on a simple "
+      "span of the effective length"}},
     {CMemberNote::UnusedLengthZ,
      "lengths.z",
      {"未用到：该截面和荷载不计扭转",
@@ -144,9 +145,9 @@ constexpr CNoteText kNotes[] = {
       "a load without its shear force: the bond is checked for that of 7.2.7 (2003: 5.1.6) alone"}},
     {CMemberNote::OppositeMoment,
      "Mx",
-     {"弯矩变号而截面两边不同：反号的最大弯矩按沿全长均匀分布另行验算，偏于安全，取较不利者",
+     {"弯矩变号而截面两边不同：反号的最大弯矩另行验算，其等效弯矩系数偏于安全，取较不利者",
       "Mx changes its sense and the edges differ: the greatest of the other sense is checked too, "
-      "as if uniform, which is safe; the worse is shown"}},
+      "its equivalent moment on the safe side; the worse is shown"}},
     {CMemberNote::UnusedSupports, "supports", {"未用到：没有 Mx", "is not used: there is no Mx"}},
 };
 

@@ -343,10 +343,15 @@ void CSolidCheck::MomentPlates2003() {
     return *BeamColumnWidthLimit(m.m_nEdition, element, m.m_nGrade, web);
   };
   if (s.m_nShape == CMemberShape::Box) {
-    Limit(CMemberCheckKind::Flange, bColumn ? "5.4.3" : "4.3.8", BoxFlangeRatio(), 40 * ek);
-    Limit(CMemberCheckKind::Web, bColumn ? "5.4.3" : "4.3.2", h0tw,
-          bColumn ? column(CWidthElement::BoxWall) : 250);
-    return;
+    // A wall that one moment presses as a flange, and otherwise is a web.
+    const auto wall = [&](CMemberCheckKind kind, double ratio, const CMomentCourse& asFlange,
+                          double limitOfColumn) {
+      const bool bFlange = !asFlange.IsZero();
+      Limit(kind, bColumn ? "5.4.3" : bFlange ? "4.3.8" : "4.3.2", ratio,
+            bFlange ? 40 * ek : bColumn ? limitOfColumn : 250);
+    };
+    wall(CMemberCheckKind::Flange, BoxFlangeRatio(), q.m_x, 40 * ek);
+    return wall(CMemberCheckKind::Web, h0tw, q.m_y, column(CWidthElement::BoxWall));
   }
   if (const double flange = FlangeRatio(); flange > 0) {
     Limit(CMemberCheckKind::Flange, bColumn ? "5.4.1" : "4.3.8", flange,

@@ -14,7 +14,7 @@ COutline SectionOutline(int style, std::span<const double, kSectionSizes> sizes)
   const auto used = sizes.first(known->Sizes().size());
   if (!std::all_of(used.begin(), used.end(), [](double s) { return std::fabs(s) < 1e300; }))
     return {};
-  return StyleForm(known->m_nStyle).m_pOutline(sizes);
+  return known->m_pForm->m_pOutline(sizes);
 }
 
 }  // namespace orv3

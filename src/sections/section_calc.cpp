@@ -48,7 +48,7 @@ void CalculateAs(CStyleNumber model, std::initializer_list<double> modelSizes, C
 
   jm.m_nStyle = model;
   std::copy(modelSizes.begin(), modelSizes.end(), jm.m_dSize);
-  StyleForm(model).m_pCalculate(jm);
+  FindSectionStyle(model)->m_pForm->m_pCalculate(jm);
   jm.m_nStyle = own;
   std::copy_n(sizes, FindSectionStyle(own)->m_nSizes, jm.m_dSize);
 }
@@ -65,6 +65,5 @@ void CSteelJMData::InitJMData(CSteelJMData& jm) {
 
 void CSteelJMData::CalSectCharacterStyle(CSteelJMData& jm) {
   InitJMData(jm);
-  if (jm.m_nStyle < 0 || jm.m_nStyle >= orv3::kSectionStyles) return;
-  orv3::StyleForm(static_cast<orv3::CStyleNumber>(jm.m_nStyle)).m_pCalculate(jm);
+  if (const auto* style = orv3::FindSectionStyle(jm.m_nStyle)) style->m_pForm->m_pCalculate(jm);
 }

@@ -43,7 +43,7 @@ std::optional<CSectionFault> CheckSign(const CSectionStyle& style, std::span<con
     const double value = sizes[static_cast<std::size_t>(i)];
     if (!std::isfinite(value))
       return Fault(style, i, value, Say("为有限的数值", "a finite number"), CSizeRule::Finite);
-    const bool zero = i >= StyleForm(style.m_nStyle).m_nMayBeZero;
+    const bool zero = i >= style.m_pForm->m_nMayBeZero;
     if (value > 0 || (zero && value == 0)) continue;
     return Fault(style, i, value, zero ? Say("不小于 0", "0 or above") : Say("大于 0", "above 0"),
                  zero ? CSizeRule::NotNegative : CSizeRule::Positive);
@@ -59,7 +59,7 @@ std::optional<CSectionFault> CheckSectionSizes(const CSectionStyle& style,
   if (auto fault = CheckSign(style, sizes)) return fault;
   double all[kSectionSizes] = {};
   std::ranges::copy(sizes, all);
-  for (const CSizeBound& rule : StyleForm(style.m_nStyle).m_bounds) {
+  for (const CSizeBound& rule : style.m_pForm->m_bounds) {
     const double value = all[rule.m_nSize];
     const double bound = rule.m_pBound(CSizes(all));
     const bool strict = rule.m_nBound == CBound::Below;

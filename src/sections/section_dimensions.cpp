@@ -6,7 +6,7 @@ namespace orv3 {
 
 CDimensions SizeDimensions(int style, CSizes sizes) {
   const CSectionStyle* known = FindSectionStyle(style);
-  return known ? StyleForm(known->m_nStyle).m_pDimensions(sizes) : std::vector<CSizeDimension>{};
+  return known ? known->m_pForm->m_pDimensions(sizes) : std::vector<CSizeDimension>{};
 }
 
 }  // namespace orv3

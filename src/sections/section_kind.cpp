@@ -26,6 +26,14 @@ constexpr CSectionPair kOrdinaryToe{K::OrdinaryChannel, 3, CPairForm::ToeToToe, 
 constexpr CSectionPair kLightBack{K::LightChannel, 3, CPairForm::BackToBack, kGap};
 constexpr CSectionPair kLightToe{K::LightChannel, 3, CPairForm::ToeToToe, L""};
 
+constexpr CAxisLetters kAlongSides{};
+constexpr CAxisLetters kEqualLegs{L"X", L"Y", L"Xo", L"Yo"};
+constexpr CAxisLetters kUnequalLegs{L"X", L"Y", L"V", L"U"};
+constexpr CAxisLetters kCross{L"X", L"Y", L"X1", L"Y1"};
+constexpr CAxisLetters kPlates{L"X0", L"Y0"};
+constexpr CAxisLetters kColdAngle{L"Xo", L"Yo", L"X", L"Y"};
+constexpr CAxisLetters kColdZ{L"X1", L"Y1", L"X", L"Y"};
+
 // Pictures 0 to 27 are those that the tree's family nodes count on: 0 I and H, 2 boxes, 3 T, 4
 // channels, 6 Z, 8 round, 9 angles, 10 L, 12 pairs of angles, 16 pairs of channels, 18 crosses,
 // 20 Z of plates, 22 polygons, 25 lattice columns. The other tables' own pictures come after them.
@@ -43,50 +51,51 @@ constexpr CSectionTable kTables[] = {
     {K::LightChannel, L"热轧轻型槽钢", Rolled(TABLE_FAMILY_CHANNEL), 32, 8012},
     {K::ColdChannel, L"冷弯薄壁槽钢", Rolled(TABLE_FAMILY_CHANNEL), 5, 8017},
     {K::LippedChannel, L"冷弯薄壁卷边槽钢", Rolled(TABLE_FAMILY_CHANNEL), 33, 8018},
-    {K::LippedZ, L"冷弯薄壁卷边Z型钢", Rolled(TABLE_FAMILY_Z), 6, 8019},
-    {K::SlantLippedZ, L"冷弯薄壁斜卷边Z型钢", Rolled(TABLE_FAMILY_Z), 7, 8020},
+    {K::LippedZ, L"冷弯薄壁卷边Z型钢", Rolled(TABLE_FAMILY_Z), 6, 8019, kColdZ},
+    {K::SlantLippedZ, L"冷弯薄壁斜卷边Z型钢", Rolled(TABLE_FAMILY_Z), 7, 8020, kColdZ},
     {K::RoundTube, L"冷弯焊接薄壁圆钢管", Rolled(TABLE_FAMILY_ROUND), 8, 8022},
-    {K::EqualAngle, L"热轧等边角钢", Rolled(TABLE_FAMILY_ANGLE), 9, 8008},
-    {K::UnequalAngle, L"热轧不等边角钢", Rolled(TABLE_FAMILY_ANGLE), 11, 8009},
-    {K::ColdAngle, L"冷弯薄壁等边角钢", Rolled(TABLE_FAMILY_ANGLE), 34, 8016},
-    {K::LippedAngle, L"冷弯卷边等边角钢", Rolled(TABLE_FAMILY_ANGLE), 35, 8015},
+    {K::EqualAngle, L"热轧等边角钢", Rolled(TABLE_FAMILY_ANGLE), 9, 8008, kEqualLegs},
+    {K::UnequalAngle, L"热轧不等边角钢", Rolled(TABLE_FAMILY_ANGLE), 11, 8009, kUnequalLegs},
+    {K::ColdAngle, L"冷弯薄壁等边角钢", Rolled(TABLE_FAMILY_ANGLE), 34, 8016, kColdAngle},
+    {K::LippedAngle, L"冷弯卷边等边角钢", Rolled(TABLE_FAMILY_ANGLE), 35, 8015, kColdAngle},
 
-    {K::EqualAnglePair, L"热轧等边角钢组合", Rolled(TABLE_FAMILY_ANGLE_PAIR), 12, 8023,
+    {K::EqualAnglePair, L"热轧等边角钢组合", Rolled(TABLE_FAMILY_ANGLE_PAIR), 12, 8023, kAlongSides,
      &kEqualAnglePair},
     {K::LongLegPair, L"热轧不等边角钢长边组合", Rolled(TABLE_FAMILY_ANGLE_PAIR), 13, 8024,
-     &kLongLegPair},
+     kAlongSides, &kLongLegPair},
     {K::ShortLegPair, L"热轧不等边角钢短边组合", Rolled(TABLE_FAMILY_ANGLE_PAIR), 14, 8025,
-     &kShortLegPair},
-    {K::AngleCross, L"热轧等边角钢十字组合", Rolled(TABLE_FAMILY_ANGLE_PAIR), 15, 8026,
+     kAlongSides, &kShortLegPair},
+    {K::AngleCross, L"热轧等边角钢十字组合", Rolled(TABLE_FAMILY_ANGLE_PAIR), 15, 8026, kCross,
      &kAngleCross},
     {K::OrdinaryBackToBack, L"热轧普通槽钢][组合", Rolled(TABLE_FAMILY_CHANNEL_PAIR), 16, 8028,
-     &kOrdinaryBack},
+     kAlongSides, &kOrdinaryBack},
     {K::OrdinaryToeToToe, L"热轧普通槽钢[]组合", Rolled(TABLE_FAMILY_CHANNEL_PAIR), 17, 8027,
-     &kOrdinaryToe},
+     kAlongSides, &kOrdinaryToe},
     {K::LightBackToBack, L"热轧轻型槽钢][组合", Rolled(TABLE_FAMILY_CHANNEL_PAIR), 36, 8028,
-     &kLightBack},
+     kAlongSides, &kLightBack},
     {K::LightToeToToe, L"热轧轻型槽钢[]组合", Rolled(TABLE_FAMILY_CHANNEL_PAIR), 37, 8027,
-     &kLightToe},
+     kAlongSides, &kLightToe},
 
-    {K::PlateH, L"自定义对称H型钢", Custom(TABLE_FAMILY_I), 38, 8048},
-    {K::PlateGeneralH, L"自定义非对称H型钢", Custom(TABLE_FAMILY_I), 39, 8043},
-    {K::PlateBox, L"自定义对称箱形截面", Custom(TABLE_FAMILY_BOX), 40, 8035},
-    {K::PlateGeneralBox, L"自定义非对称箱形截面", Custom(TABLE_FAMILY_BOX), 41, 8038},
-    {K::PlateT, L"自定义T形截面", Custom(TABLE_FAMILY_T), 42, 8036},
-    {K::PlateChannel, L"自定义槽钢", Custom(TABLE_FAMILY_CHANNEL), 21, 8046},
-    {K::PlateZ, L"自定义Z形截面", Custom(TABLE_FAMILY_Z), 20, 8045},
-    {K::SolidCircle, L"自定义圆形截面", Custom(TABLE_FAMILY_ROUND), 43, 8042},
-    {K::PlateTube, L"自定义圆管", Custom(TABLE_FAMILY_ROUND), 44, 8041},
-    {K::PlateL, L"自定义L形截面", Custom(TABLE_FAMILY_ANGLE), 10, 8044},
-    {K::PlateCross, L"自定义十字形截面", Custom(TABLE_FAMILY_CROSS), 18, 8037},
-    {K::FlangedCross, L"自定义翼缘十字形截面", Custom(TABLE_FAMILY_CROSS), 19, 8047},
-    {K::SolidRectangle, L"矩形截面", Custom(TABLE_FAMILY_SOLID), 22, 8049},
-    {K::SolidHexagon, L"六边形截面", Custom(TABLE_FAMILY_SOLID), 23, 8039},
-    {K::SolidTriangle, L"三角形截面", Custom(TABLE_FAMILY_SOLID), 24, 8040},
+    {K::PlateH, L"自定义对称H型钢", Custom(TABLE_FAMILY_I), 38, 8048, kPlates},
+    {K::PlateGeneralH, L"自定义非对称H型钢", Custom(TABLE_FAMILY_I), 39, 8043, kPlates},
+    {K::PlateBox, L"自定义对称箱形截面", Custom(TABLE_FAMILY_BOX), 40, 8035, kPlates},
+    {K::PlateGeneralBox, L"自定义非对称箱形截面", Custom(TABLE_FAMILY_BOX), 41, 8038, kPlates},
+    {K::PlateT, L"自定义T形截面", Custom(TABLE_FAMILY_T), 42, 8036, kPlates},
+    {K::PlateChannel, L"自定义槽钢", Custom(TABLE_FAMILY_CHANNEL), 21, 8046, kPlates},
+    {K::PlateZ, L"自定义Z形截面", Custom(TABLE_FAMILY_Z), 20, 8045, kPlates},
+    {K::SolidCircle, L"自定义圆形截面", Custom(TABLE_FAMILY_ROUND), 43, 8042, kPlates},
+    {K::PlateTube, L"自定义圆管", Custom(TABLE_FAMILY_ROUND), 44, 8041, kPlates},
+    {K::PlateL, L"自定义L形截面", Custom(TABLE_FAMILY_ANGLE), 10, 8044, kPlates},
+    {K::PlateCross, L"自定义十字形截面", Custom(TABLE_FAMILY_CROSS), 18, 8037, kPlates},
+    {K::FlangedCross, L"自定义翼缘十字形截面", Custom(TABLE_FAMILY_CROSS), 19, 8047, kPlates},
+    {K::SolidRectangle, L"矩形截面", Custom(TABLE_FAMILY_SOLID), 22, 8049, kPlates},
+    {K::SolidHexagon, L"六边形截面", Custom(TABLE_FAMILY_SOLID), 23, 8039, kPlates},
+    {K::SolidTriangle, L"三角形截面", Custom(TABLE_FAMILY_SOLID), 24, 8040, kPlates},
 
-    {K::TwoLimbs, L"双肢格构柱", Custom(TABLE_FAMILY_LATTICE), 25, 8078, nullptr, 2},
-    {K::FourLimbs, L"四肢格构柱", Custom(TABLE_FAMILY_LATTICE), 26, 8077, nullptr, 4},
-    {K::ThreeLimbs, L"三肢格构柱", Custom(TABLE_FAMILY_LATTICE), 27, kNoSketch, nullptr, 3},
+    {K::TwoLimbs, L"双肢格构柱", Custom(TABLE_FAMILY_LATTICE), 25, 8078, kAlongSides, nullptr, 2},
+    {K::FourLimbs, L"四肢格构柱", Custom(TABLE_FAMILY_LATTICE), 26, 8077, kAlongSides, nullptr, 4},
+    {K::ThreeLimbs, L"三肢格构柱", Custom(TABLE_FAMILY_LATTICE), 27, kNoSketch, kAlongSides,
+     nullptr, 3},
 };
 
 constexpr bool EveryPictureOnce() {
@@ -108,6 +117,11 @@ std::span<const CSectionTable, kSectionKinds> SectionTables() noexcept { return 
 const CSectionTable& TableOf(CSectionKind kind) noexcept { return kTables[IndexOf(kind)]; }
 
 std::wstring_view TableName(CSectionKind kind) noexcept { return TableOf(kind).m_szName; }
+
+CAxisLetters AxisLetters(std::wstring_view tableName) noexcept {
+  const CSectionTable* table = FindSectionTable(tableName);
+  return table ? table->m_letters : CAxisLetters{};
+}
 
 const CSectionTable* FindSectionTable(std::wstring_view name) noexcept {
   const auto* const found = std::ranges::find(kTables, name, &CSectionTable::Name);

@@ -65,10 +65,30 @@ enum class CSectionKind : std::uint8_t {
   ThreeLimbs,
 };
 
+// The style numbers, which records, files and callers hold as an int.
+enum CStyleNumber : int {
+  kStyleH,
+  kStyleBox,
+  kStyleFlangedCross,
+  kStyleRectangle,
+  kStyleHexagon,
+  kStyleTriangle,
+  kStyleCircle,
+  kStyleTube,
+  kStyleT,
+  kStyleGeneralH,
+  kStyleL,
+  kStyleZ,
+  kStyleChannel,
+  kStyleCross,
+  kStyleGeneralBox,
+};
+inline constexpr int kSectionStyles = 15;
+
 inline constexpr std::size_t kSingleKinds = 19;  // rolled sections of one part
 inline constexpr std::size_t kPairKinds = 8;
 inline constexpr std::size_t kRolledKinds = kSingleKinds + kPairKinds;
-inline constexpr std::size_t kPlateKinds = 15;  // user-defined styles
+inline constexpr std::size_t kPlateKinds = kSectionStyles;
 inline constexpr std::size_t kLatticeKinds = 3;
 inline constexpr std::size_t kSectionKinds = kRolledKinds + kPlateKinds + kLatticeKinds;
 
@@ -92,6 +112,15 @@ struct CSectionPair {
       m_szGap;  // sign of the parts' clear distance, which a user chooses; "": they touch
 };
 
+// Letters of the upright axes through the centroid and of the principal ones, where these stand
+// aslant and are not to be left out.
+struct CAxisLetters {
+  const wchar_t* m_szX = L"X";
+  const wchar_t* m_szY = L"Y";
+  const wchar_t* m_szStrong = nullptr;
+  const wchar_t* m_szWeak = nullptr;
+};
+
 inline constexpr int kNoSketch = 8076;  // the sketch of what has none of its own
 
 struct CSectionTable {
@@ -100,6 +129,7 @@ struct CSectionTable {
   std::int32_t m_nType;                   // one source bit and one family bit (table_types.h)
   int m_nImage;                           // its picture in CLoadDataTable::GetItemImageList
   int m_nSketch;                          // resource number of its sketch
+  CAxisLetters m_letters = {};            // as its columns name its axes
   const CSectionPair* m_pPair = nullptr;  // null for what is no pair
   int m_nLimbs = 0;                       // of a lattice column
 
@@ -112,6 +142,8 @@ ORV3CAL_API std::span<const CSectionTable, kSectionKinds> SectionTables() noexce
 
 ORV3CAL_API const CSectionTable& TableOf(CSectionKind kind) noexcept;
 ORV3CAL_API std::wstring_view TableName(CSectionKind kind) noexcept;
+// X and Y for a name of no table.
+CAxisLetters AxisLetters(std::wstring_view tableName) noexcept;
 
 // Null, or nothing, for a name of none of them; names are compared whole and case-sensitively.
 ORV3CAL_API const CSectionTable* FindSectionTable(std::wstring_view name) noexcept;

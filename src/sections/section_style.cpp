@@ -4,6 +4,12 @@
 #include <iterator>
 
 namespace orv3 {
+
+// styles/
+extern const CStyleForm kHForm, kBoxForm, kFlangedCrossForm, kRectangleForm, kHexagonForm,
+    kTriangleForm, kCircleForm, kTubeForm, kTForm, kGeneralHForm, kLForm, kZForm, kChannelForm,
+    kCrossForm, kGeneralBoxForm;
+
 namespace {
 
 // In the order of the style numbers. Titles repeat where two plates are named alike; the signs tell
@@ -21,7 +27,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"h(mm)", L"截面高度", "section height"},
       {L"tf(mm)", L"翼缘厚度", "flange thickness"},
       {L"tw(mm)", L"腹板厚度", "web thickness"}},
-     {L"H400X300", 100, {300, 400, 10, 10}}},
+     {L"H400X300", 100, {300, 400, 10, 10}},
+     &kHForm},
     {kStyleBox,
      CSectionKind::PlateBox,
      "box",
@@ -32,7 +39,8 @@ constexpr CSectionStyle kStyles[] = {
      {{L"b(mm)", L"截面宽度", "section width"},
       {L"h(mm)", L"截面高度", "section height"},
       {L"t(mm)", L"边厚度", "wall thickness"}},
-     {L"400X300X20", 100, {300, 400, 20}}},
+     {L"400X300X20", 100, {300, 400, 20}},
+     &kBoxForm},
     {kStyleFlangedCross,
      CSectionKind::FlangedCross,
      "flanged-cross",
@@ -46,7 +54,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bf2(mm)", L"翼缘宽度", "height of the left and right flange"},
       {L"tw(mm)", L"腹板厚度", "web thickness"},
       {L"tf(mm)", L"翼缘厚度", "flange thickness"}},
-     {L"YS400X300X100", 100, {300, 400, 100, 100, 20, 20}}},
+     {L"YS400X300X100", 100, {300, 400, 100, 100, 20, 20}},
+     &kFlangedCrossForm},
     {kStyleRectangle,
      CSectionKind::SolidRectangle,
      "rect",
@@ -55,7 +64,8 @@ constexpr CSectionStyle kStyles[] = {
      2,
      true,
      {{L"b(mm)", L"截面宽度", "section width"}, {L"h(mm)", L"截面高度", "section height"}},
-     {L"400X300", 100, {300, 400}}},
+     {L"400X300", 100, {300, 400}},
+     &kRectangleForm},
     {kStyleHexagon,
      CSectionKind::SolidHexagon,
      "hexagon",
@@ -64,7 +74,8 @@ constexpr CSectionStyle kStyles[] = {
      1,
      false,
      {{L"a(mm)", L"截面边长", "side length"}},
-     {L"200", 100, {200}}},
+     {L"200", 100, {200}},
+     &kHexagonForm},
     {kStyleTriangle,
      CSectionKind::SolidTriangle,
      "triangle",
@@ -73,7 +84,8 @@ constexpr CSectionStyle kStyles[] = {
      2,
      false,
      {{L"b(mm)", L"截面宽度", "base width"}, {L"h(mm)", L"截面高度", "section height"}},
-     {L"400X300", 100, {300, 400}}},
+     {L"400X300", 100, {300, 400}},
+     &kTriangleForm},
     {kStyleCircle,
      CSectionKind::SolidCircle,
      "circle",
@@ -82,7 +94,8 @@ constexpr CSectionStyle kStyles[] = {
      1,
      true,
      {{L"R(mm)", L"截面半径", "radius"}},
-     {L"R100", 50, {100}}},
+     {L"R100", 50, {100}},
+     &kCircleForm},
     {kStyleTube,
      CSectionKind::PlateTube,
      "tube",
@@ -91,7 +104,8 @@ constexpr CSectionStyle kStyles[] = {
      1,
      true,
      {{L"R(mm)", L"截面半径", "outer radius"}, {L"r(mm)", L"内圆半径", "inner radius"}},
-     {L"RH100X10", 50, {100, 20}}},
+     {L"RH100X10", 50, {100, 20}},
+     &kTubeForm},
     {kStyleT,
      CSectionKind::PlateT,
      "t",
@@ -104,7 +118,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bh(mm)", L"翼缘厚度", "flange thickness"},
       {L"bf1(mm)", L"翼缘宽度", "flange overhang left of the web"},
       {L"bf2(mm)", L"翼缘宽度", "flange overhang right of the web"}},
-     {L"T400X320X20", 100, {20, 400, 20, 150, 150}}},
+     {L"T400X320X20", 100, {20, 400, 20, 150, 150}},
+     &kTForm},
     {kStyleGeneralH,
      CSectionKind::PlateGeneralH,
      "general-h",
@@ -120,7 +135,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bf2(mm)", L"上翼缘宽度", "top flange overhang right of the web"},
       {L"bf3(mm)", L"下翼缘宽度", "bottom flange overhang left of the web"},
       {L"bf4(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"}},
-     {L"H400X320X20", 100, {20, 400, 20, 20, 150, 150, 150, 150}}},
+     {L"H400X320X20", 100, {20, 400, 20, 20, 150, 150, 150, 150}},
+     &kGeneralHForm},
     {kStyleL,
      CSectionKind::PlateL,
      "l",
@@ -132,7 +148,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"h(mm)", L"截面高度", "section height"},
       {L"bh(mm)", L"翼缘厚度", "leg thickness"},
       {L"bf(mm)", L"翼缘宽度", "leg overhang right of the web"}},
-     {L"L200X200X20", 100, {20, 200, 20, 180}}},
+     {L"L200X200X20", 100, {20, 200, 20, 180}},
+     &kLForm},
     {kStyleZ,
      CSectionKind::PlateZ,
      "z",
@@ -146,7 +163,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bh2(mm)", L"上翼缘厚度", "top flange thickness"},
       {L"bf1(mm)", L"上翼缘宽度", "top flange overhang left of the web"},
       {L"bf2(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"}},
-     {L"Z180X70X20", 50, {20, 400, 20, 20, 50, 50}}},
+     {L"Z180X70X20", 50, {20, 400, 20, 20, 50, 50}},
+     &kZForm},
     {kStyleChannel,
      CSectionKind::PlateChannel,
      "channel",
@@ -160,7 +178,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bh2(mm)", L"上翼缘厚度", "top flange thickness"},
       {L"bf1(mm)", L"下翼缘宽度", "bottom flange overhang right of the web"},
       {L"bf2(mm)", L"上翼缘宽度", "top flange overhang right of the web"}},
-     {L"[400X100X20", 50, {20, 400, 20, 20, 80, 80}}},
+     {L"[400X100X20", 50, {20, 400, 20, 20, 80, 80}},
+     &kChannelForm},
     {kStyleCross,
      CSectionKind::PlateCross,
      "cross",
@@ -174,7 +193,8 @@ constexpr CSectionStyle kStyles[] = {
       {L"bh2(mm)", L"上腹板高度", "height of the upper arm"},
       {L"bf1(mm)", L"左翼缘宽度", "length of the left arm"},
       {L"bf2(mm)", L"右翼缘宽度", "length of the right arm"}},
-     {L"S400X320X20", 100, {20, 400, 190, 190, 150, 150}}},
+     {L"S400X320X20", 100, {20, 400, 190, 190, 150, 150}},
+     &kCrossForm},
     {kStyleGeneralBox,
      CSectionKind::PlateGeneralBox,
      "general-box",
@@ -188,12 +208,13 @@ constexpr CSectionStyle kStyles[] = {
       {L"t2(mm)", L"下腹板宽度", "bottom plate thickness"},
       {L"t3(mm)", L"左腹板宽度", "left plate thickness"},
       {L"t4(mm)", L"右腹板宽度", "right plate thickness"}},
-     {L"400X300X20", 100, {300, 400, 20, 20, 20, 20}}},
+     {L"400X300X20", 100, {300, 400, 20, 20, 20, 20}},
+     &kGeneralBoxForm},
 };
 
 constexpr bool InOrderWithAllSizes() {
   for (int i = 0; i < std::ssize(kStyles); ++i) {
-    if (kStyles[i].m_nStyle != i) return false;
+    if (kStyles[i].m_nStyle != i || kStyles[i].m_pForm == nullptr) return false;
     for (int s = 0; s < kSectionSizes; ++s) {
       if ((kStyles[i].m_arrSize[s].m_szSign != nullptr) != (s < kStyles[i].m_nSizes)) return false;
     }

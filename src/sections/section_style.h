@@ -13,25 +13,6 @@
 
 namespace orv3 {
 
-// The style numbers, which records, files and callers hold as an int.
-enum CStyleNumber : int {
-  kStyleH,
-  kStyleBox,
-  kStyleFlangedCross,
-  kStyleRectangle,
-  kStyleHexagon,
-  kStyleTriangle,
-  kStyleCircle,
-  kStyleTube,
-  kStyleT,
-  kStyleGeneralH,
-  kStyleL,
-  kStyleZ,
-  kStyleChannel,
-  kStyleCross,
-  kStyleGeneralBox,
-};
-inline constexpr int kSectionStyles = 15;
 inline constexpr int kSectionSizes = 8;  // at most, of a style
 
 // One size of a style, which is one column of its section table.
@@ -48,6 +29,8 @@ struct CSampleSection {
   double m_arrSize[kSectionSizes];
 };
 
+struct CStyleForm;
+
 struct CSectionStyle {
   CStyleNumber m_nStyle;
   CSectionKind m_kind;    // of the section table whose rows hold the style
@@ -58,6 +41,7 @@ struct CSectionStyle {
   bool m_bFirstMoments;   // whether first moments of area are computed and tabulated
   CSizeColumn m_arrSize[kSectionSizes];
   CSampleSection m_sample;
+  const CStyleForm* m_pForm;  // its shape: styles/style_form.h
 
   std::span<const CSizeColumn> Sizes() const {
     return {m_arrSize, static_cast<std::size_t>(m_nSizes)};

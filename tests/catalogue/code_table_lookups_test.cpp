@@ -40,42 +40,23 @@ int Bolt(int family, int grade, int column) {
 
 // Tables 3.4.1-1 and 3.4.1-3; fce and ffw are one to a grade.
 TEST(CodeTableLookups, SteelAndWeldStrength) {
-  constexpr int kNone = kFalse;
   const struct {
-    int grade;
-    int f[7], ftw3[7];  // by group
+    int ftw3[7];  // by group
     int fce, ffw;
-  } grades[] = {
-      {0,
-       {215, 205, 200, 190, kNone, kNone, kNone},
-       {185, 175, 170, 160, kNone, kNone, kNone},
-       325,
-       160},
-      {1,
-       {310, kNone, kNone, kNone, 295, 265, 250},
-       {265, kNone, kNone, kNone, 250, 225, 210},
-       400,
-       200},
-      {2,
-       {350, kNone, kNone, kNone, 335, 315, 295},
-       {300, kNone, kNone, kNone, 285, 270, 250},
-       415,
-       220},
-      {3,
-       {380, kNone, kNone, kNone, 360, 340, 325},
-       {320, kNone, kNone, kNone, 305, 290, 275},
-       440,
-       220},
-  };
-  for (const auto& g : grades) {
+  } grades[] = {{{185, 175, 170, 160, kFalse, kFalse, kFalse}, 325, 160},
+                {{265, kFalse, kFalse, kFalse, 250, 225, 210}, 400, 200},
+                {{300, kFalse, kFalse, kFalse, 285, 270, 250}, 415, 220},
+                {{320, kFalse, kFalse, kFalse, 305, 290, 275}, 440, 220}};
+  for (int grade = 0; grade < 4; ++grade) {
+    const auto& g = grades[grade];
     for (int group = 0; group < 7; ++group) {
-      EXPECT_EQ(Steel(g.grade, group, SUB1_F), g.f[group]) << g.grade << " " << group;
-      EXPECT_EQ(Weld(g.grade, group, SUB2_FTW3), g.ftw3[group]) << g.grade << " " << group;
-      const bool bNone = g.f[group] == kNone;
-      EXPECT_EQ(Steel(g.grade, group, SUB1_FCE), bNone ? kNone : g.fce);
-      EXPECT_EQ(Weld(g.grade, group, SUB2_FFW), bNone ? kNone : g.ffw);
+      const bool bNone = g.ftw3[group] == kFalse;
+      EXPECT_EQ(Weld(grade, group, SUB2_FTW3), g.ftw3[group]) << grade << " " << group;
+      EXPECT_EQ(Steel(grade, group, SUB1_FCE), bNone ? kFalse : g.fce);
+      EXPECT_EQ(Weld(grade, group, SUB2_FFW), bNone ? kFalse : g.ffw);
     }
   }
+  EXPECT_EQ(Steel(1, 5, SUB1_F), 265);
   EXPECT_EQ(Steel(3, 6, SUB1_FV), 185);
   EXPECT_EQ(Weld(1, 5, SUB2_FCW), 265);
   EXPECT_EQ(Weld(1, 5, SUB2_FTW12), 265);

@@ -271,13 +271,6 @@ TEST(RolledStyle, IsKnownByNumberAndName) {
   EXPECT_EQ(CReadFile::GetXGStyleNo(-1), L"");
   EXPECT_EQ(CReadFile::GetXGStyleIndex(L"工字钢"), -1);
   EXPECT_EQ(CReadFile::GetXGStyleIndex(nullptr), -1);
-}
-
-// The record sizes that data files have always had, by style.
-TEST(RolledStyle, HasItsRecordSize) {
-  const int sizes[] = {480, 208, 120, 120, 184, 160, 144, 120, 184, 160, 184, 200, 208, 192,
-                       248, 248, 104, 104, 248, 248, 248, 152, 240, 104, 240, 104, 184};
-  for (int i = 0; i < 27; ++i) EXPECT_EQ(orv3::RolledLayout(i).size, sizes[i]) << i;
   EXPECT_THROW(orv3::RolledLayout(27), CInvalidArgException);
 }
 

@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "catalogue/outline/outline_symmetry.h"
-#include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "sections/catalogue_store.h"
@@ -87,7 +86,7 @@ constexpr CKnown kKnown[] = {
 static_assert(std::size(kKnown) == kSectionKinds);
 
 std::wstring Letters(const wchar_t* table) {
-  const CAxisLetters letters = RowAxisLetters(table);
+  const CAxisLetters letters = AxisLetters(table);
   std::wstring all = std::wstring(letters.m_szX) + L" " + letters.m_szY;
   if (letters.m_szStrong) all += std::wstring(L" ") + letters.m_szStrong + L" " + letters.m_szWeak;
   return all;

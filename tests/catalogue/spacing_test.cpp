@@ -1,41 +1,13 @@
-// The spacing tables: every figure, the look-ups' own ways, and what is found for a section.
+// The spacing tables: the look-ups' own ways, and what is found for a section.
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "catalogue/csv_table_check.h"
 #include "orv3cal.h"
 
 namespace {
 
 using T = CGetSteelDis;
-
-template <class TABLE>
-void ExpectTable(const TABLE& table, int number) {
-  ExpectCsv(table, ORV3CAL_SPACING "/strSub" + std::to_string(number) + ".csv");
-}
-
-TEST(Spacing, CompiledTablesAreTheFiles) {
-  ExpectTable(T::strSub1, 1);
-  ExpectTable(T::strSub2, 2);
-  ExpectTable(T::strSub3, 3);
-  ExpectTable(T::strSub4, 4);
-  ExpectTable(T::strSub5, 5);
-  ExpectTable(T::strSub6, 6);
-  ExpectTable(T::strSub7, 7);
-  ExpectTable(T::strSub8, 8);
-  ExpectTable(T::strSub9, 9);
-  ExpectTable(T::strSub10, 10);
-  ExpectTable(T::strSub11, 11);
-  ExpectTable(T::strSub12, 12);
-  ExpectTable(T::strSub13, 13);
-  ExpectTable(T::strSub14, 14);
-  ExpectTable(T::strSub15, 15);
-  ExpectTable(T::strSub16, 16);
-  ExpectTable(T::strSub17, 17);
-  ExpectTable(T::strSub18, 18);
-  ExpectTable(T::strSub19, 19);
-}
 
 TEST(Spacing, JoinedRows) {
   const struct {

@@ -29,16 +29,6 @@ class CatalogueBrowser : public testing::Test {
   std::unique_ptr<CBrowserModel> m_model;
 };
 
-TEST_F(CatalogueBrowser, EveryRolledTableHasRows) {
-  for (const CTreeNode& node : m_model->Tree()) {
-    if (!node.m_bTable) continue;
-    Select(node.m_strText);
-    const bool rolled = CLoadDataTable::IsTableNameType(node.m_strText, kCatalogueTables) != 0;
-    EXPECT_GE(m_model->ItemCount(), rolled ? 1 : 0) << ToUtf8(node.m_strText);
-  }
-  EXPECT_TRUE(m_user.TakeMessages().empty());
-}
-
 // Every user-defined style and lattice column starts with a section that can be kept as it stands.
 TEST_F(CatalogueBrowser, DefaultSectionsCanBeAdded) {
   for (const CTreeNode& node : m_model->Tree()) {

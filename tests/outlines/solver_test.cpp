@@ -1,4 +1,4 @@
-// Torsion, warping and shear: closed solutions, another method, and what must not change.
+// Torsion, warping and shear: closed solutions, and what must not change.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,10 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "outlines/difference_grid.h"
 #include "outlines/exact_picture.h"
 #include "outlines/exact_properties.h"
-#include "outlines/loops.h"
 #include "outlines/section_solver.h"
 
 namespace orv3 {
@@ -23,14 +21,6 @@ constexpr double kPi = std::numbers::pi;
 constexpr double kUnasked = CExactProperties::kUnknown;
 
 CPath Polygon(std::vector<CVertex> vertices) { return {std::move(vertices), true}; }
-
-CPath RolledI(double b, double h, double tf, double tw, double r) {
-  const double c = (b - tw) / 2, d = (b + tw) / 2;
-  const std::vector<CCorner> corners{{0, 0, 0},      {b, 0, 0},      {b, tf, 0}, {d, tf, r},
-                                     {d, h - tf, r}, {b, h - tf, 0}, {b, h, 0},  {0, h, 0},
-                                     {0, h - tf, 0}, {c, h - tf, r}, {c, tf, r}, {0, tf, 0}};
-  return RoundedPath(corners);
-}
 
 CLoops Ring(double radius, double inner) {
   return {CirclePath({0, 0}, radius), Reversed(CirclePath({0, 0}, inner))};
@@ -136,91 +126,6 @@ TEST(SectionSolver, MeetsClosedSolutions) {
   // The shear center of an open ring lies two radii from its middle, beyond the wall.
   const CExactProperties open = ExactProperties(CLoops{SlitRing(100.25, 99.75, 1e-5)});
   EXPECT_NEAR(open.xs, 100.25 - 200, 0.1);
-}
-
-struct CGridCase {
-  const char* what;
-  CLoops loops;
-  double width, height, cell;
-};
-
-TEST(SectionSolver, MeetsFiniteDifferences) {
-  const std::vector<CGridCase> cases = {
-      {"H", {RolledI(60, 80, 8, 4, 0)}, 60, 80, 1},
-      {"channel",
-       {Polygon({{0, 0, 0},
-                 {40, 0, 0},
-                 {40, 8, 0},
-                 {4, 8, 0},
-                 {4, 72, 0},
-                 {30, 72, 0},
-                 {30, 80, 0},
-                 {0, 80, 0}})},
-       40,
-       80,
-       1},
-      {"angle",
-       {Polygon({{0, 0, 0}, {60, 0, 0}, {60, 6, 0}, {6, 6, 0}, {6, 40, 0}, {0, 40, 0}})},
-       60,
-       40,
-       1},
-      {"Z",
-       {Polygon({{20, 0, 0},
-                 {50, 0, 0},
-                 {50, 6, 0},
-                 {26, 6, 0},
-                 {26, 60, 0},
-                 {0, 60, 0},
-                 {0, 54, 0},
-                 {20, 54, 0}})},
-       50,
-       60,
-       1},
-      {"two cells, shared wall",
-       {RectPath(0, 0, 80, 50), Reversed(RectPath(6, 6, 30, 38)),
-        Reversed(RectPath(40, 6, 34, 38))},
-       80,
-       50,
-       1},
-      {"thick with a hole to one side",
-       {RectPath(0, 0, 60, 40), Reversed(RectPath(30, 12, 20, 16))},
-       60,
-       40,
-       1},
-      {"box with a slit",
-       {Polygon({{0, 0, 0},
-                 {60, 0, 0},
-                 {60, 24, 0},
-                 {54, 24, 0},
-                 {54, 6, 0},
-                 {6, 6, 0},
-                 {6, 54, 0},
-                 {54, 54, 0},
-                 {54, 26, 0},
-                 {60, 26, 0},
-                 {60, 60, 0},
-                 {0, 60, 0}})},
-       60,
-       60,
-       1},
-  };
-  for (const CGridCase& c : cases) {
-    SCOPED_TRACE(c.what);
-    const CExactProperties p = ExactProperties(c.loops);
-    EXPECT_TRUE(p.m_bAccurate);
-    const auto inside = [&](double x, double y) {
-      int loops = 0;
-      for (const CPath& loop : c.loops) loops += Encloses(loop, {x, y}) ? 1 : 0;
-      return loops % 2 == 1;
-    };
-    const test::CGridFigures g = test::GridFigures(inside, c.width, c.height, c.cell);
-    EXPECT_NEAR(p.It, g.It, 0.01 * g.It);
-    EXPECT_NEAR(p.Iw, g.Iw, 0.01 * g.Iw);
-    EXPECT_NEAR(p.xs, g.xs, 0.005 * c.width);
-    EXPECT_NEAR(p.ys, g.ys, 0.005 * c.height);
-    EXPECT_NEAR(p.Asx, g.Asx, 0.01 * g.Asx);
-    EXPECT_NEAR(p.Asy, g.Asy, 0.01 * g.Asy);
-  }
 }
 
 // Round holes of every size anywhere in plates, the wall beside one down to d / 100,000, two walls

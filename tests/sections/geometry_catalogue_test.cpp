@@ -12,6 +12,7 @@
 #include "sections/catalogue_store.h"
 #include "sections/geometry_rows.h"
 #include "sections/outline_integral.h"
+#include "sections/style_cases.h"
 
 namespace {
 
@@ -147,40 +148,16 @@ TEST_F(GeometryCatalogue, SpacedPairsAgreeWithTheirOutline) {
 }
 
 TEST_F(GeometryCatalogue, UserDefinedRowsAgreeWithTheirOutline) {
-  const struct {
-    const wchar_t* table;
-    std::vector<std::pair<const wchar_t*, const wchar_t*>> sizes;  // instead of the default ones
-  } cases[] = {
-      {L"自定义对称H型钢", {}},
-      {L"自定义非对称H型钢", {}},
-      {L"自定义非对称H型钢",
-       {{L"bh1(mm)", L"30"}, {L"bf1(mm)", L"40"}, {L"bf2(mm)", L"90"}, {L"bf3(mm)", L"110"}}},
-      {L"自定义对称箱形截面", {}},
-      {L"自定义非对称箱形截面", {{L"t1(mm)", L"12"}, {L"t4(mm)", L"31"}}},
-      {L"自定义T形截面", {}},
-      {L"自定义T形截面", {{L"bf1(mm)", L"20"}, {L"bh(mm)", L"35"}}},
-      {L"自定义槽钢", {{L"bf2(mm)", L"120"}}},
-      {L"自定义Z形截面", {{L"bf2(mm)", L"90"}}},
-      {L"自定义圆形截面", {}},
-      {L"自定义圆管", {}},
-      {L"自定义L形截面", {{L"bf(mm)", L"90"}}},
-      {L"自定义十字形截面", {{L"bf1(mm)", L"50"}, {L"bh1(mm)", L"100"}}},
-      {L"自定义翼缘十字形截面", {{L"bf1(mm)", L"150"}, {L"tf(mm)", L"25"}}},
-      {L"矩形截面", {}},
-      {L"三角形截面", {}},
-      {L"六边形截面", {}},
-  };
-  for (const auto& c : cases) {
-    CDataItem row = DefaultRow(c.table);
-    for (const auto& [sign, value] : c.sizes) row[sign].m_strValue = value;
-    if (!c.sizes.empty()) {
-      EXPECT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 1);
-    }
+  for (const CStyleCase& c : kStyleCases) {
+    const orv3::CSectionStyle& style = *orv3::FindSectionStyle(c.style);
+    CDataItem row = DefaultRow(style.TableName());
+    for (std::size_t i = 0; i < style.Sizes().size(); ++i)
+      row[style.Sizes()[i].m_szSign].m_strValue = orv3::FormatShortest(c.sizes[i]);
+    ASSERT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 1);
     CDeviations d;
     Compare(row, d);
     // The record's moment of inertia of a hexagon is 0.541 a^4, 0.06 % low.
-    const bool hexagon = row.m_strTableName == L"六边形截面";
-    ExpectClose(orv3::ToUtf8(CString(c.table)), d, hexagon ? Same(0.07) : kComputed);
+    ExpectClose(style.m_szAlias, d, c.style == orv3::kStyleHexagon ? Same(0.07) : kComputed);
   }
 }
 

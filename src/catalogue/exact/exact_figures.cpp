@@ -8,10 +8,12 @@
 #include <mutex>
 #include <utility>
 
+#include "catalogue/lattice/steel_ge_gou.h"
+#include "catalogue/outline/row_spacing.h"
 #include "outlines/exact_keys.h"
-#include "outlines/outline_moments.h"
 #include "platform/threads.h"
 #include "platform/whole_file.h"
+#include "sections/section_kind.h"
 #include "tables/file/table_store.h"
 
 namespace orv3 {
@@ -77,6 +79,27 @@ CExactRecord RecordAt(std::string_view bytes, std::size_t at) {
   return record;
 }
 
+// --- Keys ----------------------------------------------------------------------------------------
+
+// By the numbers of the characters, of which Windows has the same in half the bytes.
+void AddText(CExactRecordKey& key, std::wstring_view text) {
+  key = {Mixed(key[0], text.size()), Mixed(key[1], ~text.size())};
+  for (const wchar_t ch : text) {
+    const auto code = static_cast<std::uint64_t>(ch);
+    key = {Mixed(key[0], code), Mixed(key[1], ~code)};
+  }
+}
+
+// What an outline may be made from: any cell's sign, value and type.
+void AddRow(CExactRecordKey& key, const CDataItem& row) {
+  AddText(key, row.m_strTableName);
+  for (const CDataCell& cell : row.m_arrCell) {
+    AddText(key, cell.m_strSign);
+    AddText(key, cell.m_strValue);
+    key[0] = Mixed(key[0], static_cast<std::uint64_t>(cell.m_nType));
+  }
+}
+
 // --- The files in use ----------------------------------------------------------------------------
 
 using CRecords = std::shared_ptr<const std::vector<CExactRecord>>;
@@ -122,10 +145,6 @@ CExactFiles& ExactFiles() {
   return files;
 }
 
-bool IsNear(double told, double value) {
-  return std::fabs(told - value) <= 1e-8 * std::fabs(value);
-}
-
 const CExactRecord* Find(const std::vector<CExactRecord>& records, const CExactRecordKey& key) {
   const auto found =
       std::lower_bound(records.begin(), records.end(), key,
@@ -137,22 +156,17 @@ const CExactRecord* Find(const std::vector<CExactRecord>& records, const CExactR
 
 }  // namespace
 
-std::optional<CExactRecordKey> ExactRecordKey(std::span<const CPath> loops) {
-  constexpr double kFarthest = 1e9;
+std::optional<CExactRecordKey> ExactRecordKey(const CDataItem& row) {
+  const CSectionTable* table = FindSectionTable(row.m_strTableName);
+  if (table == nullptr) return std::nullopt;
   CExactRecordKey key{0x243F6A8885A308D3U, 0x13198A2E03707344U};
-  std::size_t points = 0;
-  for (const CPath& loop : loops) {
-    for (const CVertex& v : loop.m_arrVertex) {
-      for (const double value : {v.x, v.y, v.bulge}) {
-        if (!(std::fabs(value) < kFarthest)) return std::nullopt;
-        const auto rounded = static_cast<std::uint64_t>(std::llround(value * 1e9));
-        key = {Mixed(key[0], rounded), Mixed(key[1], ~rounded)};
-      }
-      ++points;
-    }
-    key = {Mixed(key[0], points), Mixed(key[1], points)};
+  AddRow(key, row);
+  if (table->m_pPair != nullptr) AddRow(key, PairPartRow(row));
+  if (table->m_nLimbs > 0) {
+    const CSteelItemGeGou column(row);
+    for (int limb = 1; limb <= table->m_nLimbs; ++limb) AddRow(key, column.GetPartItem(limb));
   }
-  return points > 0 ? std::optional(key) : std::nullopt;
+  return key;
 }
 
 std::string ExactFileBytes(std::vector<CExactRecord> records) {
@@ -188,20 +202,15 @@ std::optional<std::vector<CExactRecord>> ReadExactFile(std::string_view bytes) {
   return records;
 }
 
-std::optional<CExactProperties> FindExact(std::span<const CPath> loops) {
-  const auto key = ExactRecordKey(loops);
+std::optional<CExactProperties> FindExact(const CDataItem& row) {
+  const auto key = ExactRecordKey(row);
   if (!key) return std::nullopt;
   const CString folder = ProgramPath();
   for (const CString& file :
        {folder.IsEmpty() ? folder : folder + kExactFile, ExactFiles().Second()}) {
     const CRecords records = ExactFiles().Of(file);
     const CExactRecord* found = records ? Find(*records, *key) : nullptr;
-    if (found == nullptr) continue;
-    const COutlineMoments moments = RowOutlineMoments(loops);
-    const CExactProperties& exact = found->m_exact;
-    if (IsNear(exact.A, moments.m_dArea) && IsNear(exact.Ix, moments.m_dIx) &&
-        IsNear(exact.Iy, moments.m_dIy))
-      return exact;
+    if (found != nullptr) return found->m_exact;
   }
   return std::nullopt;
 }

@@ -1,8 +1,9 @@
 // The exact properties of the catalogue's rows, computed when the catalogue is made and kept in a
 // file beside the store, so that they need not be computed again.
 //
-// A record is found by its outline and by nothing else: a row that has been changed has another
-// outline, and its figures are computed. So no figure is ever that of other sizes.
+// A record is found by all that the outline is made from, and by nothing else: the table, the cells
+// and those of the parts of pairs and lattice columns. A row that has been changed in any cell is
+// computed. So no figure is ever that of other sizes.
 //
 // Numbers are little-endian, doubles binary64 (NaN where there is no answer):
 //
@@ -13,7 +14,7 @@
 //   16      8      checksum of all that follows
 //   24      304 n  records, their keys ascending
 //
-//   0       16     key: two numbers made from the outline's points, to 1e-9 mm
+//   0       16     key: two numbers made from the rows' texts
 //   16      248    the properties in the order of ExactKeys
 //   264     32     the error estimates of It, Iw, centre, As
 //   296     8      1: joined, 2: accurate
@@ -22,26 +23,25 @@
 #include <array>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "drawing/path.h"
 #include "framework/cstring.h"
 #include "framework/export.h"
 #include "outlines/exact_properties.h"
+#include "tables/data_item.h"
 
 namespace orv3 {
 
-// Raised whenever the figures of the same outline change.
-inline constexpr std::uint32_t kExactVersion = 3;
+// Raised whenever the outline of the same cells, or the figures of the same outline, change.
+inline constexpr std::uint32_t kExactVersion = 4;
 inline constexpr wchar_t kExactFile[] = L"KvbSystemJmDataBase.KXP";
 
 using CExactRecordKey = std::array<std::uint64_t, 2>;
 
-// Nothing for outlines without points, and beyond a thousand kilometres.
-ORV3CAL_API std::optional<CExactRecordKey> ExactRecordKey(std::span<const CPath> loops);
+// Nothing for a row of no section table.
+ORV3CAL_API std::optional<CExactRecordKey> ExactRecordKey(const CDataItem& row);
 
 struct CExactRecord {
   CExactRecordKey m_key{};
@@ -53,10 +53,9 @@ struct CExactRecord {
 ORV3CAL_API std::string ExactFileBytes(std::vector<CExactRecord> records);
 ORV3CAL_API std::optional<std::vector<CExactRecord>> ReadExactFile(std::string_view bytes);
 
-// The figures of an outline in the file of the program path, else in the one named last; nothing
-// where neither has them, or has another area or other moments of inertia for that outline. A file
-// is read once.
-ORV3CAL_API std::optional<CExactProperties> FindExact(std::span<const CPath> loops);
+// The figures of a row in the file of the program path, else in the one named last; nothing where
+// neither has them. A file is read once.
+ORV3CAL_API std::optional<CExactProperties> FindExact(const CDataItem& row);
 
 // A second file to look in; empty for none. For the whole process.
 ORV3CAL_API void SetExactFile(const CString& file);

@@ -69,9 +69,8 @@ CExactProperties ComputedExact(const CDataItem& row) {
 }
 
 CExactProperties ExactProperties(const CDataItem& row) {
-  const COutline outline = RowOutline(row);
-  if (const auto known = FindExact(outline.m_arrLoop)) return *known;
-  return Computed(outline, IsOfParts(row.m_strTableName));
+  if (const auto known = FindExact(row)) return *known;
+  return ComputedExact(row);
 }
 
 }  // namespace orv3

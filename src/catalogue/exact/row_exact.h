@@ -13,7 +13,7 @@ namespace orv3 {
 // up, and what asks for one part is NaN. All NaN for a row without an outline; the solver's figures
 // are for sizes whose plates overlap, touch or meet in an edge without width.
 //
-// Looked up where the catalogue's figures hold the outline (exact_figures.h), computed otherwise.
+// Looked up where the catalogue's figures hold the row (exact_figures.h), computed otherwise.
 ORV3CAL_API CExactProperties ExactProperties(const CDataItem& row);
 
 // The same, always computed.

@@ -1,14 +1,16 @@
 #include "catalogue/ifc/ifc_profile.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <iterator>
 #include <limits>
 #include <vector>
 
 #include "catalogue/outline/row_sizes.h"
 #include "catalogue/outline/shapes.h"
 #include "outlines/outline_moments.h"
-#include "sections/kind_array.h"
+#include "sections/section_kind.h"
 
 namespace orv3 {
 namespace {
@@ -171,13 +173,13 @@ CParameters RectangleProfile(CRowSizes& s) {
 
 // --- The tables ---
 
-constexpr CParametersOf kArbitrary = nullptr;
-
+// Those whose sections IFC has a shape for. Any other's profile is arbitrary, which draws it whole.
+// IFC's U has no rounded outer corners and its C has lips: neither is the cold-formed channel.
+using K = CSectionKind;
 struct CProfileOfKind {
   CSectionKind m_kind;
   CParametersOf m_pParameters;
 };
-using K = CSectionKind;
 constexpr CProfileOfKind kProfiles[] = {
     {K::OrdinaryI, OrdinaryIProfile},
     {K::LightI, LightIProfile},
@@ -189,50 +191,28 @@ constexpr CProfileOfKind kProfiles[] = {
     {K::SplitT, SplitTProfile},
     {K::OrdinaryChannel, ChannelProfile},
     {K::LightChannel, ChannelProfile},
-    {K::ColdChannel, kArbitrary},  // IFC's U has no rounded outer corners, its C has lips
     {K::LippedChannel, LippedChannelProfile},
-    {K::LippedZ, kArbitrary},
-    {K::SlantLippedZ, kArbitrary},
     {K::RoundTube, RoundTubeProfile},
     {K::EqualAngle, EqualAngleProfile},
     {K::UnequalAngle, UnequalAngleProfile},
-    {K::ColdAngle, kArbitrary},
-    {K::LippedAngle, kArbitrary},
-    {K::EqualAnglePair, kArbitrary},
-    {K::LongLegPair, kArbitrary},
-    {K::ShortLegPair, kArbitrary},
-    {K::AngleCross, kArbitrary},
-    {K::OrdinaryBackToBack, kArbitrary},
-    {K::OrdinaryToeToToe, kArbitrary},
-    {K::LightBackToBack, kArbitrary},
-    {K::LightToeToToe, kArbitrary},
     {K::PlateH, PlateHProfile},
     {K::PlateGeneralH, GeneralHProfile},
     {K::PlateBox, PlateBoxProfile},
-    {K::PlateGeneralBox, kArbitrary},
     {K::PlateT, PlateTProfile},
     {K::PlateChannel, PlateChannelProfile},
     {K::PlateZ, PlateZProfile},
     {K::SolidCircle, CircleProfile},
     {K::PlateTube, PlateTubeProfile},
     {K::PlateL, PlateLProfile},
-    {K::PlateCross, kArbitrary},
-    {K::FlangedCross, kArbitrary},
     {K::SolidRectangle, RectangleProfile},
-    {K::SolidHexagon, kArbitrary},
-    {K::SolidTriangle, kArbitrary},
-    {K::TwoLimbs, kArbitrary},
-    {K::FourLimbs, kArbitrary},
-    {K::ThreeLimbs, kArbitrary},
 };
-static_assert(std::size(kProfiles) == kSectionKinds && InKindOrder(kProfiles));
 
 CParameters ParametersOf(const CDataItem& row) {
   const auto kind = FindSectionKind(row.GetTableName());
-  const CParametersOf parameters = kind ? kProfiles[IndexOf(*kind)].m_pParameters : kArbitrary;
-  if (parameters == nullptr) return {};
+  const auto* const profile = std::ranges::find(kProfiles, kind, &CProfileOfKind::m_kind);
+  if (profile == std::end(kProfiles)) return {};
   CRowSizes sizes(row);
-  CParameters found = parameters(sizes);
+  CParameters found = profile->m_pParameters(sizes);
   return sizes.IsWhole() ? found : CParameters{};
 }
 

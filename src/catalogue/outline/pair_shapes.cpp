@@ -52,8 +52,8 @@ COutline CrossOf(const COutline& part, double gap) {
 }
 
 // The part as it stands on the right.
-COutline StandingPart(const CSectionPair& pair, const CString& no) {
-  COutline part = RowOutline(CLoadDataTable::GetSysTemJMItem(TableOf(pair.m_part).m_szName, no));
+COutline StandingPart(const CSectionPair& pair, const CDataItem& row) {
+  COutline part = RowOutline(PairPartRow(row));
   if (pair.m_form == CPairForm::ToeToToe) return Mirrored(std::move(part));
   // The mirror image turned back lies on its long leg, heel again at the lower left.
   if (pair.m_form == CPairForm::LegsUp) return QuarterTurned(Mirrored(std::move(part)), 3);
@@ -63,6 +63,13 @@ COutline StandingPart(const CSectionPair& pair, const CString& no) {
 }  // namespace
 
 bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullptr; }
+
+CDataItem PairPartRow(const CDataItem& row) {
+  const CSectionPair* pair = FindPair(row.m_strTableName);
+  if (pair == nullptr || row.IsEmpty()) return {};
+  return CLoadDataTable::GetSysTemJMItem(TableOf(pair->m_part).m_szName,
+                                         row[0].m_strValue.Mid(pair->m_nMarker));
+}
 
 CString PairSpacingSign(const CString& tableName) {
   const CSectionPair* pair = FindPair(tableName);
@@ -85,7 +92,7 @@ CPair PairOf(const CDataItem& row) {
   const CString spacing = pair->m_szGap;
   const double gap = spacing.IsEmpty() ? 0 : ChosenSpacing(row, spacing);
   if (gap < 0) return {};
-  const COutline part = StandingPart(*pair, row[0].m_strValue.Mid(pair->m_nMarker));
+  const COutline part = StandingPart(*pair, row);
   if (part.m_arrLoop.empty()) return {};
   const CPartSigns signs = PartSigns(*pair);
   return {cross ? CrossOf(part, gap) : SideBySide(Mirrored(part), part, gap),

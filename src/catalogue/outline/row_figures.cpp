@@ -7,13 +7,13 @@
 
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/outline/outline_symmetry.h"
-#include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
 #include "outlines/outline_moments.h"
 #include "sections/geometry/families.h"
 #include "sections/geometry/row_values.h"
 #include "sections/section_figures.h"
+#include "sections/section_kind.h"
 #include "sections/section_style.h"
 
 namespace orv3 {
@@ -220,7 +220,7 @@ CRowFigures Upright(const CDataItem& row) {
 
 CRowFigures RowFigures(const CDataItem& row, double angle) {
   CRowFigures f = Upright(row);
-  const CAxisLetters letters = RowAxisLetters(row.GetTableName());
+  const CAxisLetters letters = AxisLetters(row.GetTableName().View());
   f.m_szAxisX = f.m_bAslant ? letters.m_szStrong : letters.m_szX;
   f.m_szAxisY = f.m_bAslant ? letters.m_szWeak : letters.m_szY;
   const COutline outline = RowOutline(row);

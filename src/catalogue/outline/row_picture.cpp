@@ -3,7 +3,6 @@
 #include <cmath>
 #include <utility>
 
-#include "catalogue/outline/row_axes.h"
 #include "catalogue/outline/row_dimensions.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
@@ -12,6 +11,7 @@
 #include "outlines/outline_moments.h"
 #include "sections/geometry/row_values.h"
 #include "sections/picture/outline_picture.h"
+#include "sections/section_kind.h"
 #include "sections/section_style.h"
 #include "sections/steel_jm_data.h"
 
@@ -50,7 +50,7 @@ CDrawing RowPictureDrawing(const CDataItem& row, double angle, const CExactPrope
   picture.m_arrSize = QuarterTurned(RowDimensions(row, upright), quarters, width, height);
   const COutlineMoments m = RowOutlineMoments(picture.m_outline.m_arrLoop);
   picture.m_centroid = {Hundredths(m.m_centroid.x), Hundredths(m.m_centroid.y)};
-  picture.m_axes = RowAxisLetters(row.GetTableName());
+  picture.m_axes = AxisLetters(row.GetTableName().View());
   if (quarters % 2 == 1) {
     std::swap(picture.m_axes.m_szX, picture.m_axes.m_szY);
     std::swap(picture.m_baseAxes.m_szX, picture.m_baseAxes.m_szY);

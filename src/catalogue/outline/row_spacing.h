@@ -1,4 +1,5 @@
-// The clear distance of a pair's two parts, which a row carries when it has been chosen.
+// What a pair of sections is made of: two equal parts, and their clear distance, which a row
+// carries when it has been chosen.
 #pragma once
 
 #include "framework/export.h"
@@ -8,6 +9,9 @@ namespace orv3 {
 
 // Whether a table's rows are pairs of angles or channels, or crosses of angles.
 ORV3CAL_API bool IsPairTable(const CString& tableName);
+
+// Either part's row in the system store; empty for what is no pair, and when the store has none.
+ORV3CAL_API CDataItem PairPartRow(const CDataItem& row);
 
 // The sign of the cell that a pair's spacing stands in, "a(mm)" or "δ(mm)"; empty for a table that
 // has none: no pairs, or channels whose toes touch.

@@ -506,6 +506,36 @@ bool NeedsTorsion(const CMemberSection& s, const CMemberSteel& steel,
   }
 }
 
+// A load in the span has its shear: where none is given, the greatest of the load and the end
+// moments on a simple span of the effective length.
+bool CMemberCheck::TakeShearOfLoad() {
+  struct CDirection {
+    const char* m_szShear;
+    const char* m_szLength;
+    const CMomentCourse& m_course;
+    double m_dLength;
+    double& m_dShear;
+  };
+  m_bShearTaken = false;
+  for (const CDirection& each :
+       {CDirection{"Vy", "lengths.x", m_loads.m_x, m_loads.m_dLx, m_loads.m_dVy},
+        CDirection{"Vx", "lengths.y", m_loads.m_y, m_loads.m_dLy, m_loads.m_dVx}}) {
+    const CMomentCourse& c = each.m_course;
+    if (!c.HasLoad() || each.m_dShear != 0) continue;
+    if (!(each.m_dLength > 0) || m_loads.m_bSway) {
+      const std::string length = each.m_szLength;
+      return Refuse(
+          each.m_szShear, {"有横向荷载而未给其剪力", "is missing: a load has its shear"},
+          {m_loads.m_bSway ? "请给出剪力 kN" : "请给出剪力 kN，或给出跨度 " + length,
+           m_loads.m_bSway ? "give it in kN" : "give it in kN, or the span as " + length});
+    }
+    const double share = c.m_nLoad == CSpanLoad::Uniform ? 4 : 2;
+    each.m_dShear = (share * std::fabs(c.m_dMq) + std::fabs(c.m_dM1 - c.m_dM2)) / each.m_dLength;
+    m_bShearTaken = true;
+  }
+  return true;
+}
+
 // What was left out, and what was given for nothing.
 void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) {
   using N = CMemberNote;
@@ -516,7 +546,7 @@ void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) 
       (!q.m_y.IsZero() && s.m_nShape == CMemberShape::Box);
   const std::pair<bool, N> notes[] = {
       {IsAnglePair(s.m_nShape) && std::isnan(input.m_dGap), N::PairWithoutGap},
-      {(q.m_x.HasLoad() && q.m_dVy == 0) || (q.m_y.HasLoad() && q.m_dVx == 0), N::LoadWithoutShear},
+      {m_bShearTaken, N::LoadWithoutShear},
       {!std::isnan(input.m_dLz) && !NeedsTorsion(s, m_steel, q), N::UnusedLengthZ},
       {!std::isnan(input.m_dSpan) && !bSpan, N::UnusedSpan},
       {q.m_bSway && !(q.m_dN < 0 && bMoment), N::UnusedSway},
@@ -576,7 +606,7 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
 bool CMemberCheck::Run(const CMemberCase& input, CMemberRow& section) {
   m_fault.reset();
   if (!ReadEdition(input) || !ReadSteel(input, section) || !ReadClasses(input, section) ||
-      !ReadForces(input) || !ReadLengths(input, section) || !ReadNet(input))
+      !ReadForces(input) || !ReadLengths(input, section) || !ReadNet(input) || !TakeShearOfLoad())
     return false;
   m_loads.m_bTapered = section.m_bTapered;
   m_loads.m_dRolledNumber = section.m_dRolledNumber;

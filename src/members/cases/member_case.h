@@ -99,6 +99,7 @@ class ORV3CAL_API CMemberCheck {
   bool ReadLengths(const CMemberCase& input, const CMemberRow& section);
   void NoteGiven(const CMemberCase& input, const CMemberSection& s);
   bool ReadNet(const CMemberCase& input);
+  bool TakeShearOfLoad();
 
   CCodeEdition m_nDefault = CCodeEdition::Gb2017;
   CCodeEdition m_nEdition = CCodeEdition::Gb2017;
@@ -107,6 +108,7 @@ class ORV3CAL_API CMemberCheck {
   CMemberAnswer m_answer;
   std::optional<CCaseFault> m_fault;
   CSpanLoad m_nLoad = CSpanLoad::None;
+  bool m_bShearTaken = false;  // of a load without Vx or Vy
   const CFound* m_pFound = nullptr;
   std::map<std::string, std::unique_ptr<CFound>> m_mapSection;
 };

@@ -3,13 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "catalogue/exact/exact_figures.h"
+#include "catalogue/exact/row_exact.h"
 #include "catalogue/outline/row_figures.h"
-#include "catalogue/outline/row_outline.h"
+#include "catalogue/outline/row_spacing.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "outlines/exact_properties.h"
-#include "sections/load_data_table.h"
 #include "sections/section_kind.h"
 
 namespace orv3 {
@@ -238,9 +236,7 @@ std::optional<CCaseFault> CRowReader::Angles(CSectionKind kind) {
                : kind == K::LongLegPair  ? CMemberShape::LongLegPair
                                          : CMemberShape::ShortLegPair;
   const CString no = m_row[0].m_strValue;
-  const CDataItem part =
-      CLoadDataTable::GetSysTemJMItem(TableOf(pair->m_part).m_szName, no.Mid(pair->m_nMarker));
-  Leg(part, bUnequal);
+  Leg(PairPartRow(m_row), bUnequal);
   if (s.m_dLeg > 0 && s.m_dLegShort > 0 && s.m_dLegThick > 0) return std::nullopt;
   return CCaseFault{
       "section",
@@ -369,6 +365,7 @@ std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
 std::optional<CCaseFault> CRowReader::Read() {
   const auto kind = FindSectionKind(m_row.GetTableName().GetString());
   r = {};
+  r.m_row = m_row;
   if (!kind) return NotCovered({"不是截面表的行", "is no row of a section table"});
   m_figures = RowFigures(m_row);
   Figures(m_figures);
@@ -380,7 +377,6 @@ std::optional<CCaseFault> CRowReader::Read() {
                       {"缺少面积或惯性矩", "lacks its area or moments of inertia"},
                       {"请给出完整的截面", "give a whole section"}};
   }
-  r.m_arrLoop = RowOutline(m_row).m_arrLoop;
   return std::nullopt;
 }
 
@@ -406,8 +402,7 @@ std::optional<CCaseFault> ThinWalled(const CDataItem& row) {
 
 bool AddTorsion(CMemberRow& member) {
   if (member.m_bExact) return true;
-  const auto found = FindExact(member.m_arrLoop);
-  const CExactProperties exact = found ? *found : ExactProperties(member.m_arrLoop);
+  const CExactProperties exact = ExactProperties(member.m_row);
   CMemberSection& s = member.m_section;
   s.m_dIt = exact.It;
   s.m_dIw = exact.Iw;

@@ -3,10 +3,8 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
 #include "codes/buckling.h"
-#include "drawing/path.h"
 #include "members/member_section.h"
 #include "reports/case_keys.h"
 #include "tables/data_item.h"
@@ -23,7 +21,7 @@ struct CMemberRow {
   bool m_bTapered = false;                             // I with tapered flanges
   double m_dRolledNumber = 0;                          // of an ordinary rolled I
   bool m_bExact = false;                               // It, Iw and the shear centre are there
-  std::vector<CPath> m_arrLoop;                        // the outline that they follow from
+  CDataItem m_row;                                     // as it was read
 
   bool HasEdges() const noexcept { return m_nFlameCut != m_nRolled; }
 };
@@ -34,8 +32,8 @@ ORV3CAL_API std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMembe
 // Refuses a cold-formed section with walls under 6 mm, as a member or as a limb of one.
 std::optional<CCaseFault> ThinWalled(const CDataItem& row);
 
-// Adds what torsion asks: It, Iw and the shear centre of the outline, once. False when they cannot
-// be computed.
+// Adds what torsion asks: It, Iw and the shear centre of the row's outline, once. False when they
+// cannot be computed.
 ORV3CAL_API bool AddTorsion(CMemberRow& member);
 
 }  // namespace orv3

@@ -24,9 +24,9 @@ std::optional<CPlateWarping> PlateWarpingOf(const CDataItem& row) {
   constexpr double kRounding = 1e-9;
   const CSectionStyle* style = FindSectionStyle(row.m_strTableName.View());
   CSteelJMData record;
-  if (!style || !StyleForm(style->m_nStyle).m_pSectorial || !ReadSizes(row, *style, record))
+  if (!style || !style->m_pForm->m_pSectorial || !ReadSizes(row, *style, record))
     return std::nullopt;
-  const CSectorial sectorial = StyleForm(style->m_nStyle).m_pSectorial(CSizes(record.m_dSize));
+  const CSectorial sectorial = style->m_pForm->m_pSectorial(CSizes(record.m_dSize));
   CSteelJMData::CalSectCharacterStyle(record);
   const double e0 = std::hypot(sectorial.m_x - record.m_dXo, sectorial.m_y - record.m_dYo);
   return CPlateWarping{e0 < kRounding * record.m_dSize[1] ? 0 : e0, sectorial.m_Iw};

@@ -22,7 +22,7 @@ int Symmetric(const CDataItem& row, bool CFamily::*byFamily, bool (*CStyleForm::
   const auto kind = FindSectionKind(row.m_strTableName);
   if (!kind) return 0;
   if (const CSectionStyle* style = FindSectionStyle(row.m_strTableName.View()))
-    return (StyleForm(style->m_nStyle).*bySizes)(RowSizes(row, *style)) ? 1 : 0;
+    return (style->m_pForm->*bySizes)(RowSizes(row, *style)) ? 1 : 0;
   return FamilyOf(*kind).*byFamily ? 1 : 0;
 }
 

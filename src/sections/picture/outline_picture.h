@@ -9,17 +9,9 @@
 #include "framework/export.h"
 #include "sections/outline.h"
 #include "sections/section_dimensions.h"
+#include "sections/section_kind.h"
 
 namespace orv3 {
-
-// Letters of the upright axes through the centroid and of the principal ones, where these stand
-// aslant and are not to be left out.
-struct CAxisLetters {
-  const wchar_t* m_szX = L"X";
-  const wchar_t* m_szY = L"Y";
-  const wchar_t* m_szStrong = nullptr;
-  const wchar_t* m_szWeak = nullptr;
-};
 
 // Lengths in mm from the lower-left corner of the section's enclosing rectangle.
 struct COutlinePicture {

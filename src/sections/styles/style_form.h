@@ -44,8 +44,6 @@ struct CStyleForm {
   std::span<const CSizeBound> m_bounds = {};  // in the order in which faults are told
 };
 
-const CStyleForm& StyleForm(CStyleNumber style) noexcept;
-
 // --- Calculation ---------------------------------------------------------------------------------
 
 // One plate: its lower-left corner and its extents.
