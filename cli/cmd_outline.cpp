@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -83,6 +84,11 @@ struct CAnswer {
 
 CAnswer Solve(const COptions& options) {
   CAnswer answer;
+  if (options.csv && !options.stress.empty()) {
+    Refuse(Say("--csv 与 --stress 不能同用：CSV 只含截面特性；应力请用 --json",
+               "--csv and --stress exclude each other, a CSV line holds properties alone; right "
+               "for stresses would be --json"));
+  }
   if (!options.stress.empty()) answer.forces = ForcesOf(options.stress);
   answer.loops = ReadOutline(options.file, options.layer, answer.corner);
   const CSectionSolver solver(answer.loops);
@@ -133,13 +139,36 @@ CJson StressJson(const CAnswer& answer) {
   const CGreatestStress greatest = GreatestStress(answer.stress);
   for (const CStressRow& row : kStresses) {
     const CBoundaryStress* point = greatest.*row.m_pPoint;
-    json[row.m_szKey] = point == nullptr ? CJson(nullptr)
-                                         : CJson{{"value", JsonNumber(point->*row.m_pValue)},
-                                                 {"x", JsonNumber(point->m_point.x)},
-                                                 {"y", JsonNumber(point->m_point.y)}};
+    json[row.m_szKey] = point == nullptr
+                            ? CJson(nullptr)
+                            : CJson{{"value", JsonNumber(point->*row.m_pValue)},
+                                    {"x", JsonNumber(point->m_point.x)},
+                                    {"y", JsonNumber(point->m_point.y)},
+                                    {"error", JsonNumber(StressError(*point, row.m_pValue))}};
   }
   json["sharpCorners"] = greatest.m_bSharp;
   return json;
+}
+
+// Of sigma, which has none: nothing.
+std::string ErrorText(double error) {
+  if (error == 0) return "";
+  return Say("，误差估计 {1} %", ", estimated error {1} %",
+             {NumberText(std::round(error * 1e4) / 100)});
+}
+
+void WarnOfStress(const COptions& options, const CAnswer& answer) {
+  constexpr double kMost = 0.03;
+  const CGreatestStress greatest = GreatestStress(answer.stress);
+  for (const CStressRow& row : kStresses) {
+    const CBoundaryStress* point = greatest.*row.m_pPoint;
+    if (point == nullptr || !(StressError(*point, row.m_pValue) > kMost)) continue;
+    std::fprintf(stderr, "orv3cal: %s: %s: %s\n", Visible(options.file).c_str(), row.m_szKey,
+                 Say("该处应力的误差估计超过 3 %；圆角或缺口相对壁厚过小",
+                     "the estimated error of this stress is above 3 %, a fillet or notch is too "
+                     "small beside the wall")
+                     .c_str());
+  }
 }
 
 void PrintStresses(const CAnswer& answer) {
@@ -161,7 +190,8 @@ void PrintStresses(const CAnswer& answer) {
     }
     table.AddRow({row.m_text.m_szChinese, row.m_szKey, NumberText(point->*row.m_pValue), "N/mm²",
                   Say({"", row.m_text.m_szEnglish}),
-                  "x = " + NumberText(point->m_point.x) + ", y = " + NumberText(point->m_point.y)});
+                  "x = " + NumberText(point->m_point.x) + ", y = " + NumberText(point->m_point.y) +
+                      ErrorText(StressError(*point, row.m_pValue))});
   }
   Print(table.Text());
   if (greatest.m_bSharp) {
@@ -213,6 +243,7 @@ void RunOutline(const COptions& options) {
                                 MessageLanguage()};
     WriteFile(options.svg, DrawingSvg(ExactPictureDrawing(picture), FromUtf8(options.file)));
   }
+  WarnOfStress(options, answer);
   if (options.json || options.csv) WarnInaccurate(options.file, answer.exact);
   if (options.json) return PrintOutlineJson(answer, !options.stress.empty());
   if (options.csv) return PrintOutlineCsv(answer);

@@ -28,12 +28,21 @@ std::string ErrorsLine(const CExactErrors& e) {
        NumberText(std::round(e.center * 2e6) / 1e6)});
 }
 
+std::string MissingNote(const CExactProperties& exact) {
+  if (std::isnan(exact.A)) return Say("没有轮廓", "there is no outline");
+  // About the length of the walls by their thickness.
+  const double slender = 12 * (exact.Ix + exact.Iy) / (exact.A * exact.A);
+  if (exact.m_error.It > 0 || slender > 1e6) {
+    return Say("壁厚相对外形尺寸过小，无法求得误差 10 % 以内的值",
+               "its walls are too thin beside its size to be solved within 10 %");
+  }
+  return Say("板件重叠，或相触、仅在一线相接，轮廓不能确定",
+             "its plates overlap, touch or meet in an edge without width");
+}
+
 // Why figures are missing, or less than they are elsewhere.
 std::vector<std::string> ExactNotes(const CExactProperties& exact) {
-  if (std::isnan(exact.It)) {
-    return {Say("-：没有轮廓，或板件重叠、仅在一线相接，轮廓不能确定",
-                "-: there is no outline, or its plates overlap or meet in an edge without width")};
-  }
+  if (std::isnan(exact.It)) return {Say("-：{1}", "-: {1}", {MissingNote(exact)})};
   std::vector<std::string> notes{ErrorsLine(exact.m_error)};
   if (!exact.m_bAccurate) notes.push_back(InaccurateNote());
   if (!exact.m_bJoined) {
@@ -66,6 +75,7 @@ void AddExactJson(CJson& json, const CExactProperties& exact) {
   json["exact"] = ExactJson(exact);
   json["accurate"] = exact.m_bAccurate;
   json["errors"] = ErrorsJson(exact);
+  if (std::isnan(exact.It)) json["missing"] = MissingNote(exact);
 }
 
 void WarnInaccurate(const std::string& what, const CExactProperties& exact) {

@@ -9,8 +9,9 @@
 
 namespace orv3::cli {
 
-// "exact": all keys in their order, null where there is no answer; "accurate"; "errors": the
-// solver's estimates, of "It", "Iw" and "As" relative, of "center" and "betas" in mm.
+// "exact": all keys in their order, null where there is no answer; "accurate"; "missing": why
+// the solver has no figures, where it has none; "errors": the solver's estimates, of "It", "Iw" and
+// "As" relative, of "center" and "betas" in mm.
 void AddExactJson(CJson& json, const CExactProperties& exact);
 
 // Tells on standard error that the figures of `what` are not within their limits of error.

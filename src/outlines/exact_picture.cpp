@@ -214,6 +214,12 @@ class CExactLayout {
 
 CDrawing ExactPictureDrawing(const CExactPicture& picture) { return CExactLayout(picture).Draw(); }
 
+double StressError(const CBoundaryStress& p, double CBoundaryStress::*figure) {
+  if (figure == &CBoundaryStress::sigma || p.tauError == 0) return 0;
+  if (figure == &CBoundaryStress::tau) return p.tauError / std::fabs(p.tau);
+  return 3 * std::fabs(p.tau) * p.tauError / (p.mises * p.mises);
+}
+
 CGreatestStress GreatestStress(const std::vector<CBoundaryStress>& points) {
   CGreatestStress greatest;
   const auto take = [](const CBoundaryStress*& kept, const CBoundaryStress& point,

@@ -35,6 +35,9 @@ struct CGreatestStress {
   const CBoundaryStress* m_pMises = nullptr;
   bool m_bSharp = false;  // points at sharp re-entrant corners have been left out
 };
+// Of one of them, how far it may be off as a part of itself.
+ORV3CAL_API double StressError(const CBoundaryStress& point, double CBoundaryStress::*figure);
+
 ORV3CAL_API CGreatestStress GreatestStress(const std::vector<CBoundaryStress>& points);
 
 }  // namespace orv3

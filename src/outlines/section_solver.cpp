@@ -37,15 +37,27 @@ int DegreeFor(std::size_t triangles) {
 // It depth^2 an error of Iw is measured by the share.
 constexpr double kLeastIw = 1e-4;
 
+// Below this share of It depth^2 it is rounding, of a tube say.
+constexpr double kNoIw = 1e-10;
+// A figure that may be off by more is none.
+constexpr double kMostError = 0.1;
+
 // Of one part, in units of the outline's size.
 CExactErrors ErrorsOf(const CSaintVenant& s) {
-  const CTorsionShear &a = s.Fine(), &b = s.Coarse();
-  const auto relative = [](double x, double y) { return std::fabs(x - y) / std::fabs(x); };
-  CExactErrors errors;
-  errors.It = relative(a.It, b.It);
-  errors.Iw = std::fabs(a.Iw - b.Iw) / std::max(a.Iw, kLeastIw * a.It);
-  errors.center = std::hypot(a.m_center.x - b.m_center.x, a.m_center.y - b.m_center.y);
-  errors.As = std::max(relative(a.m_dFlexX, b.m_dFlexX), relative(a.m_dFlexY, b.m_dFlexY));
+  const CTorsionShear& a = s.Fine();
+  // What coordinates lose by rounding, as measured of plates.
+  const double rounding = 5e-17 * s.Slenderness() * s.Slenderness();
+  CExactErrors errors{rounding, 0, 0, rounding};
+  for (const CTorsionShear* b : {&s.Coarse(), &s.Rounded()}) {
+    const auto relative = [&](double CTorsionShear::*figure) {
+      return std::fabs(a.*figure - b->*figure) /
+             std::min(std::fabs(a.*figure), std::fabs(b->*figure));
+    };
+    errors.It += relative(&CTorsionShear::It);
+    errors.Iw += std::fabs(a.Iw - b->Iw) / std::max(a.Iw, kLeastIw * a.It);
+    errors.center += std::hypot(a.m_center.x - b->m_center.x, a.m_center.y - b->m_center.y);
+    errors.As += std::max(relative(&CTorsionShear::m_dFlexX), relative(&CTorsionShear::m_dFlexY));
+  }
   return errors;
 }
 
@@ -216,8 +228,8 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
     std::move(solved.begin(), solved.end(), std::back_inserter(m_parts));
   }
   TakeFigures(depth);
-  if (std::isnan(m_properties.Iw)) return;
   CExactProperties& p = m_properties;
+  if (std::isnan(p.xs)) return;
   const CThirdMoments third = ThirdMoments(loops, {m_origin.x + p.xo, m_origin.y + p.yo});
   const auto beyondRounding = [&](double beta) { return std::fabs(beta) < 1e-9 * p.i1 ? 0 : beta; };
   p.betax = beyondRounding(third.forX / p.Ix - 2 * (p.ys - p.yo));
@@ -242,6 +254,11 @@ void CSectionSolver::CState::TakeFigures(double depth) {
   }
   p.m_error.It = error / p.It;
   p.m_bAccurate = p.m_error.It <= kItLimit;
+  if (!(p.m_error.It <= kMostError)) {
+    p.It = CExactProperties::kUnknown;
+    m_parts.clear();
+    return;
+  }
   if (!p.m_bJoined) return;
   const CTorsionShear& s = m_parts[0].Fine();
   p.Iw = s.Iw * square * square * square;
@@ -251,6 +268,10 @@ void CSectionSolver::CState::TakeFigures(double depth) {
   p.Asy = square / s.m_dFlexY;
   p.m_error = ErrorsOf(m_parts[0]);
   p.m_bAccurate = Excess(p.m_error, depth, true) <= 1;
+  if (p.Iw < kNoIw * p.It * depth * depth * square) p.Iw = 0;
+  if (!(p.m_error.Iw <= kMostError)) p.Iw = CExactProperties::kUnknown;
+  if (!(p.m_error.center <= kMostError * depth)) p.xs = p.ys = CExactProperties::kUnknown;
+  if (!(p.m_error.As <= kMostError)) p.Asx = p.Asy = CExactProperties::kUnknown;
   p.m_error.center *= m_scale;
 }
 
@@ -293,14 +314,20 @@ void CSectionSolver::CState::AddStresses(std::size_t part, const CSectionForces&
     const CMeshTriangle& triangle = mesh.m_arrTriangle[side.triangle];
     const auto vertex = static_cast<std::size_t>(triangle.m_vertex[side.side]);
     for (int i = 0; i < kPoints; ++i) {
-      const CEdgeTraction t =
-          solved.Traction(side.triangle, static_cast<int>(side.side), 1.0 * i / kPoints);
+      const auto traction = [&](CSolution of) {
+        return solved.Traction(side.triangle, static_cast<int>(side.side), 1.0 * i / kPoints, of);
+      };
+      const auto tau = [&](const CEdgeTraction& t) {
+        return twist * t.m_dTwist + shearX * t.m_dX + shearY * t.m_dY;
+      };
+      const CEdgeTraction t = traction(CSolution::Fine);
       CBoundaryStress stress;
       stress.m_nLoop = m_loops[part][static_cast<std::size_t>(side.loop)];
       stress.m_point = {m_origin.x + t.m_point.x * m_scale, m_origin.y + t.m_point.y * m_scale};
       stress.sigma = Sigma(
           {t.m_point.x * m_scale - m_properties.xo, t.m_point.y * m_scale - m_properties.yo}, f);
-      stress.tau = twist * t.m_dTwist + shearX * t.m_dX + shearY * t.m_dY;
+      stress.tau = tau(t);
+      stress.tauError = std::fabs(stress.tau - tau(traction(CSolution::Coarse)));
       stress.mises = std::sqrt(stress.sigma * stress.sigma + 3 * stress.tau * stress.tau);
       stress.m_bSharp = i == 0 && mesh.m_arrSharp[vertex];
       to.push_back(stress);
@@ -318,14 +345,20 @@ void CSectionSolver::CState::AddStressesInside(std::size_t part, const CSectionF
     if (std::any_of(corners.begin(), corners.end(),
                     [&](int v) { return mesh.m_arrSharp[static_cast<std::size_t>(v)] != 0; }))
       continue;
-    for (const CInnerTraction& t : m_parts[part].Inside(i)) {
+    const auto tau = [&](const CInnerTraction& t) {
+      return std::hypot(twist * t.m_twist.x + (f.Vx * t.m_x.x + f.Vy * t.m_y.x) / square,
+                        twist * t.m_twist.y + (f.Vx * t.m_x.y + f.Vy * t.m_y.y) / square);
+    };
+    const std::vector<CInnerTraction> coarse = m_parts[part].Inside(i, CSolution::Coarse);
+    std::size_t point = 0;
+    for (const CInnerTraction& t : m_parts[part].Inside(i, CSolution::Fine)) {
       CBoundaryStress stress;
       stress.m_nLoop = CBoundaryStress::kInside;
       const CPoint at{t.m_point.x * m_scale, t.m_point.y * m_scale};
       stress.m_point = {m_origin.x + at.x, m_origin.y + at.y};
       stress.sigma = Sigma({at.x - m_properties.xo, at.y - m_properties.yo}, f);
-      stress.tau = std::hypot(twist * t.m_twist.x + (f.Vx * t.m_x.x + f.Vy * t.m_y.x) / square,
-                              twist * t.m_twist.y + (f.Vx * t.m_x.y + f.Vy * t.m_y.y) / square);
+      stress.tau = tau(t);
+      stress.tauError = std::fabs(stress.tau - tau(coarse[point++]));
       stress.mises = std::sqrt(stress.sigma * stress.sigma + 3 * stress.tau * stress.tau);
       to.push_back(stress);
     }

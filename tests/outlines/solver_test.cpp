@@ -291,6 +291,37 @@ TEST(SectionSolver, GivesStressesAtTheBoundary) {
   }
 }
 
+// Weber's shaft with a groove of circular section: the shear in its bottom is that of a shaft
+// without it, T R / It, times 2 - b / R.
+TEST(SectionSolver, GivesTheShearInAGroove) {
+  for (const double b : {20.0, 5.0, 2.0, 0.5}) {
+    SCOPED_TRACE(b);
+    constexpr double kR = 50;
+    const double x = b * b / (2 * kR), y = std::sqrt(b * b - x * x);
+    const double shaft = std::atan2(y, x - kR), groove = std::atan2(y, x);
+    const CPoint far{2 * kR, 0};
+    const double half = std::tan(shaft / 4);
+    const CSectionSolver bar(
+        CLoops{Polygon({{x, -y, half}, {far.x, far.y, half}, {x, y, -std::tan(groove / 2)}})});
+    const double tau = std::fabs(GreatestStress(bar.Stresses({.T = 1e6})).m_pTau->tau);
+    const double exact = 1e6 / bar.Properties().It * (2 * kR - b);
+    EXPECT_NEAR(tau, exact, 3e-3 * exact);
+  }
+}
+
+// Rounding shows in the estimate, and a figure that it has spoilt is none.
+TEST(SectionSolver, TellsRoundingInSlenderSections) {
+  for (const double t : {1e-5, 1e-6, 1e-7}) {
+    SCOPED_TRACE(t);
+    const double d = 1e5;
+    const CExactProperties p = ExactProperties(CLoops{RectPath(0, 0, d, d * t)});
+    if (std::isnan(p.It)) continue;
+    const double exact = d * std::pow(d * t, 3) / 3;
+    EXPECT_NEAR(p.It, exact, (p.m_bAccurate ? 1e-3 : 0.1) * exact);
+    EXPECT_TRUE(p.m_bAccurate || t < 1e-6);
+  }
+}
+
 // Of a round bar the shear is half as great again in its middle as on average, by which it exceeds
 // that on its boundary by half.
 TEST(SectionSolver, GivesStressesInsideUnderShear) {

@@ -6,6 +6,7 @@
 #include "catalogue/exact/exact_figures.h"
 #include "catalogue/outline/row_outline.h"
 #include "outlines/geometric_figures.h"
+#include "outlines/outline_check.h"
 #include "outlines/outline_moments.h"
 #include "sections/section_kind.h"
 
@@ -31,8 +32,14 @@ CLoops Apart(CLoops loops) {
   return loops;
 }
 
+// Plates that meet in a point, or overlap, leave open what is joined.
+CExactProperties Solved(const CLoops& loops) {
+  return CheckOutline(loops) ? GeometricFigures(loops)
+                             : ExactProperties(std::span<const CPath>(loops));
+}
+
 CExactProperties OfParts(const CLoops& loops) {
-  const CExactProperties apart = ExactProperties(Apart(loops));
+  const CExactProperties apart = Solved(Apart(loops));
   CExactProperties exact = GeometricFigures(loops);
   exact.It = apart.It;
   exact.m_error.It = apart.m_error.It;
@@ -43,7 +50,7 @@ CExactProperties OfParts(const CLoops& loops) {
 CExactProperties Computed(const COutline& outline, bool parts) {
   if (outline.m_arrLoop.empty()) return {};
   if (parts) return OfParts(outline.m_arrLoop);
-  CExactProperties exact = ExactProperties(std::span<const CPath>(outline.m_arrLoop));
+  CExactProperties exact = Solved(outline.m_arrLoop);
   // From the loops' own corner to that of the section.
   const CBox box = PathBounds(outline.m_arrLoop);
   for (const auto x : {&CExactProperties::xo, &CExactProperties::xp, &CExactProperties::xs})

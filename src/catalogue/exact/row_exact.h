@@ -10,8 +10,8 @@ namespace orv3 {
 
 // Of the row's outline as it stands untouched (catalogue/outline/row_outline.h), in its frame. The
 // parts of a pair and the limbs of a lattice column are not joined along their length: It is added
-// up, and what asks for one part is NaN. All NaN for a row without an outline, and for sizes whose
-// plates overlap or meet in an edge without width.
+// up, and what asks for one part is NaN. All NaN for a row without an outline; the solver's figures
+// are for sizes whose plates overlap, touch or meet in an edge without width.
 //
 // Looked up where the catalogue's figures hold the row (exact_figures.h), computed otherwise.
 ORV3CAL_API CExactProperties ExactProperties(const CDataItem& row);

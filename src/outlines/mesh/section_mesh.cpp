@@ -16,6 +16,8 @@ namespace {
 // keeps the points themselves.
 constexpr double kGrid = 1 << 28;
 constexpr int kArcTrials = 6;
+constexpr double kArcReach = 1.5;
+constexpr std::size_t kMostGraded = 2000;  // triangles
 
 std::size_t Index(int i) { return static_cast<std::size_t>(i); }
 
@@ -277,14 +279,65 @@ class CRefiner {
   std::unordered_map<std::uint64_t, int> m_middle;
 };
 
+// The triangles at concave arcs that are longer than kArcReach of the radius, within which the
+// stress beside such an arc falls off.
+std::vector<char> TooLongAtArcs(const CSectionMesh& mesh) {
+  std::vector<double> most(mesh.m_arrVertex.size(), HUGE_VAL);
+  for (const CMeshTriangle& t : mesh.m_arrTriangle) {
+    for (int i = 0; i < 3; ++i) {
+      const int s = t.m_stretch[Index(i)];
+      if (s < 0) continue;
+      const CEdge& edge = mesh.m_arrEdge[Index(mesh.m_arrStretch[Index(s)].m_nEdge)];
+      if (!edge.IsArc() || edge.Sweep() > 0) continue;
+      const double reach = kArcReach * edge.Length() / -edge.Sweep();
+      for (const int v : {t.m_vertex[Index(i)], t.m_vertex[Index((i + 1) % 3)]})
+        most[Index(v)] = std::min(most[Index(v)], reach);
+    }
+  }
+  std::vector<char> marked;
+  for (const CMeshTriangle& t : mesh.m_arrTriangle) {
+    double longest = 0, least = HUGE_VAL;
+    for (int i = 0; i < 3; ++i) {
+      const int v = t.m_vertex[Index(i)];
+      const CPoint a = mesh.m_arrVertex[Index(v)];
+      const CPoint b = mesh.m_arrVertex[Index(t.m_vertex[Index((i + 1) % 3)])];
+      longest = std::max(longest, std::hypot(a.x - b.x, a.y - b.y));
+      least = std::min(least, most[Index(v)]);
+    }
+    marked.push_back(longest > least);
+  }
+  return marked;
+}
+
+// As far as it goes; false when an arc would cut through a triangle. Of too many arcs nothing more.
+bool GradeToArcs(CSectionMesh& mesh) {
+  for (;;) {
+    const std::vector<char> marked = TooLongAtArcs(mesh);
+    if (std::find(marked.begin(), marked.end(), 1) == marked.end()) return true;
+    auto refined = Refined(mesh, marked);
+    if (!refined) return false;
+    if (refined->m_arrTriangle.size() > kMostGraded) return true;
+    mesh = std::move(*refined);
+  }
+}
+
 }  // namespace
 
 std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs) {
+  std::vector<CSectionMesh> first;
+  int found = arcs;
   for (; arcs < kArcTrials; ++arcs) {
     auto meshes = TryMeshes(loops, arcs);
-    if (!meshes.empty()) return meshes;
+    if (meshes.empty()) continue;
+    const bool graded = std::all_of(meshes.begin(), meshes.end(), GradeToArcs);
+    if (first.empty() || graded) {
+      first = std::move(meshes);
+      found = arcs;
+    }
+    if (graded) break;
   }
-  return {};
+  if (!first.empty()) arcs = found;
+  return first;
 }
 
 std::optional<CSectionMesh> Refined(const CSectionMesh& mesh, std::span<const char> marked) {

@@ -10,6 +10,9 @@
 namespace orv3 {
 namespace {
 
+constexpr double kSlender = 600;
+constexpr int kCorrections = 2;
+
 std::size_t Index(int i) { return static_cast<std::size_t>(i); }
 
 // The unknowns of an element's shape functions up to a degree, with their signs. Vertex 0 of the
@@ -46,8 +49,9 @@ CSaintVenant::CSaintVenant(CSectionMesh mesh, int degree)
   if (!m_sound) return;
   NumberEdges();
   m_order = JoiningOrder(m_mesh);
-  auto fine = Solve(degree);
-  auto coarse = Solve(lower);
+  CTorsionShear open;
+  auto fine = Solve(degree, m_rounded);
+  auto coarse = Solve(lower, open);
   m_sound = fine.has_value() && coarse.has_value();
   if (!m_sound) return;
   m_fields = std::move(*fine);
@@ -106,7 +110,7 @@ void CSaintVenant::NumberEdges() {
   }
 }
 
-std::optional<CFields> CSaintVenant::Solve(int degree) const {
+std::optional<CFields> CSaintVenant::Solve(int degree, const CFields& forces) const {
   const auto functions = static_cast<std::size_t>(CShapeFunctions::Count(degree));
   std::vector<CNumbers> numbers;
   numbers.reserve(m_elements.size());
@@ -124,7 +128,7 @@ std::optional<CFields> CSaintVenant::Solve(int degree) const {
   // The functions of a degree come first.
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     elimination.Add(i, std::span(numbers[i]).first(functions), m_elements[i].Stiffness(),
-                    m_forces[i]);
+                    forces[i]);
   }
   for (const auto& [a, b] : m_order) elimination.Join(Index(a), Index(b));
   const Eigen::Matrix3Xd solution = elimination.Solution();
@@ -141,6 +145,55 @@ std::optional<CFields> CSaintVenant::Solve(int degree) const {
   return fields;
 }
 
+// Long thin triangles cost digits, about as many as the square of their slenderness has; the
+// solution is then corrected by that of what it leaves open.
+std::optional<CFields> CSaintVenant::Solve(int degree, CTorsionShear& before) const {
+  auto fields = Solve(degree, m_forces);
+  if (!fields) return std::nullopt;
+  before = Figures(*fields);
+  const bool slender = Slenderness() > kSlender;
+  for (int i = 0; slender && i < kCorrections; ++i) {
+    const auto missing = Solve(degree, Residual(*fields));
+    if (!missing) return std::nullopt;
+    before = Figures(*fields);
+    for (std::size_t e = 0; e < m_elements.size(); ++e) (*fields)[e] += (*missing)[e];
+  }
+  return fields;
+}
+
+// Of grad w + (-y, x), about the element's own vertex: about the centroid a thin section's would be
+// the small difference of large ones.
+CElementVector CSaintVenant::LocalWarping(std::size_t i, const CFields& fields) const {
+  const CElement& element = m_elements[i];
+  const CPoint c = element.Vertex(0);
+  CElementVector dx = element.X(), dy = element.Y();
+  dx.head(3).array() -= c.x;
+  dy.head(3).array() -= c.y;
+  CElementVector w = fields[i].col(0) - (c.y - m_centroid.y) * dx + (c.x - m_centroid.x) * dy;
+  w.head(3).array() -= w[0];
+  return w;
+}
+
+CElementVector CSaintVenant::LocalTwist(std::size_t i) const {
+  const CLoadMatrix& loads = m_elements[i].Loads();
+  const CPoint c = m_elements[i].Vertex(0);
+  return loads.col(kLoadTwist) - c.y * loads.col(kLoadDx) + c.x * loads.col(kLoadDy);
+}
+
+// What the equations leave open, as forces.
+CFields CSaintVenant::Residual(const CFields& fields) const {
+  CFields residual(m_elements.size());
+  for (std::size_t i = 0; i < m_elements.size(); ++i) {
+    CElementFields u = fields[i];
+    for (Eigen::Index k = 1; k < 3; ++k) u.col(k).head(3).array() -= u(0, k);
+    u.col(0) = LocalWarping(i, fields);
+    CElementFields forces = m_forces[i];
+    forces.col(0) = LocalTwist(i);
+    residual[i] = forces - m_elements[i].Stiffness() * u;
+  }
+  return residual;
+}
+
 CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
   CTorsionShear figures;
   double wx = 0, wy = 0;  // integrals of the warping times x and y
@@ -153,19 +206,14 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
     wx += u.col(0).dot(forces.col(1));
     wy += u.col(0).dot(forces.col(2));
     flexure += forces.rightCols(2).transpose().lazyProduct(u.rightCols(2));
-    // The energy of grad w + (-y, x), about the element's own vertex: about the centroid a thin
-    // section's would be the small difference of large ones.
     const CPoint c = element.Vertex(0);
     CElementVector dx = element.X(), dy = element.Y();
     dx.head(3).array() -= c.x;
     dy.head(3).array() -= c.y;
-    CElementVector w = u.col(0) - (c.y - m_centroid.y) * dx + (c.x - m_centroid.x) * dy;
-    w.head(3).array() -= w[0];
-    const CElementVector twist =
-        loads.col(kLoadTwist) - c.y * loads.col(kLoadDx) + c.x * loads.col(kLoadDy);
+    const CElementVector w = LocalWarping(i, fields);
     const double polar = dx.dot(loads.col(kLoadX) - c.x * loads.col(kLoadOne)) +
                          dy.dot(loads.col(kLoadY) - c.y * loads.col(kLoadOne));
-    figures.It += element.Energy(w) - 2 * twist.dot(w) + polar;
+    figures.It += element.Energy(w) - 2 * LocalTwist(i).dot(w) + polar;
   }
   const double det = m_Ix * m_Iy - m_Ixy * m_Ixy;
   const CPoint pole{(m_Ixy * wx - m_Iy * wy) / det, (m_Ix * wx - m_Ixy * wy) / det};
@@ -191,7 +239,7 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
   return figures;
 }
 
-CEdgeTraction CSaintVenant::Traction(std::size_t element, int edge, double t) const {
+CEdgeTraction CSaintVenant::Traction(std::size_t element, int edge, double t, CSolution of) const {
   constexpr std::array<CPoint, 4> kCorner{CPoint{0, 0}, {1, 0}, {0, 1}, {0, 0}};
   const CPoint a = kCorner[Index(edge)], b = kCorner[Index(edge + 1)];
   CElementVector value(m_shape->m_nCount), dxi(value), deta(value);
@@ -200,7 +248,7 @@ CEdgeTraction CSaintVenant::Traction(std::size_t element, int edge, double t) co
   // Along the edge alone: what matters of a gradient there is its tangential part.
   const CElementVector slope = (b.x - a.x) * dxi + (b.y - a.y) * deta;
   const CElement& e = m_elements[element];
-  const CElementFields& u = m_fields[element];
+  const CElementFields& u = (of == CSolution::Fine ? m_fields : m_lower)[element];
   const CPoint p{value.dot(e.X()), value.dot(e.Y())}, d{slope.dot(e.X()), slope.dot(e.Y())};
   const double length = std::hypot(d.x, d.y);
   const Eigen::RowVector3d gradient = slope.transpose().lazyProduct(u) / length;
@@ -210,10 +258,10 @@ CEdgeTraction CSaintVenant::Traction(std::size_t element, int edge, double t) co
           (m_Iy * gradient[2] - m_Ixy * gradient[1]) / det};
 }
 
-std::vector<CInnerTraction> CSaintVenant::Inside(std::size_t element) const {
+std::vector<CInnerTraction> CSaintVenant::Inside(std::size_t element, CSolution of) const {
   constexpr int kSteps = 12;
   const CElement& e = m_elements[element];
-  const CElementFields& u = m_fields[element];
+  const CElementFields& u = (of == CSolution::Fine ? m_fields : m_lower)[element];
   const double det = m_Ix * m_Iy - m_Ixy * m_Ixy;
   CElementVector value(m_shape->m_nCount), dxi(value), deta(value);
   std::vector<CInnerTraction> tractions;

@@ -38,6 +38,9 @@ struct CInnerTraction {
 // functions of x and of y.
 using CFields = std::vector<CElementFields>;
 
+// With all functions, and with those of a lower degree.
+enum class CSolution { Fine, Coarse };
+
 class CSaintVenant {
  public:
   // Of shape functions up to this degree; 2 or more.
@@ -49,20 +52,28 @@ class CSaintVenant {
   // first on the side away from the second.
   const CTorsionShear& Fine() const { return m_fine; }
   const CTorsionShear& Coarse() const { return m_coarse; }
+  // Fine() before the last correction of what rounding has left: what that changed is still open.
+  const CTorsionShear& Rounded() const { return m_rounded; }
 
   double Area() const { return m_area; }
+  // About the length of the walls by their thickness.
+  double Slenderness() const { return 12 * (m_Ix + m_Iy) / (m_area * m_area); }
   const CSectionMesh& Mesh() const { return m_mesh; }
   // On an edge of an element that is part of the boundary, t from 0 to 1 along it.
-  CEdgeTraction Traction(std::size_t element, int edge, double t) const;
+  CEdgeTraction Traction(std::size_t element, int edge, double t, CSolution of) const;
   // At a lattice of points of an element, its edges included.
-  std::vector<CInnerTraction> Inside(std::size_t element) const;
+  std::vector<CInnerTraction> Inside(std::size_t element, CSolution of) const;
   // By element: its share of the difference of the two solutions, in the energy of either problem.
   std::vector<double> Shares() const;
 
  private:
   void MakeElements(int geometry);
   void NumberEdges();
-  std::optional<CFields> Solve(int degree) const;
+  std::optional<CFields> Solve(int degree, const CFields& forces) const;
+  std::optional<CFields> Solve(int degree, CTorsionShear& before) const;
+  CElementVector LocalWarping(std::size_t element, const CFields& fields) const;
+  CElementVector LocalTwist(std::size_t element) const;
+  CFields Residual(const CFields& fields) const;
   CTorsionShear Figures(const CFields& fields) const;
 
   CSectionMesh m_mesh;
@@ -78,7 +89,7 @@ class CSaintVenant {
   bool m_sound = false;
   CFields m_forces;  // right-hand sides of the three problems
   CFields m_fields, m_lower;
-  CTorsionShear m_fine, m_coarse;
+  CTorsionShear m_fine, m_coarse, m_rounded;
 };
 
 }  // namespace orv3
