@@ -15,9 +15,9 @@ namespace orv3 {
 
 std::vector<CStoreFault> ContradictingRows(const CString& store) {
   std::vector<CStoreFault> found;
-  const auto file = CStoreFile::OpenToRead(store);
   CTableDirectory directory;
-  if (!file || !directory.Read(*file)) return found;
+  if (const auto file = CStoreFile::OpenToRead(store); !file || !directory.Read(*file))
+    return found;
   for (int i = 0; i < directory.Count(); ++i) {
     const CDataFileInfo info = directory.Record(i);
     CDataTable table;

@@ -8,6 +8,7 @@
 
 #include "catalogue/import/section_rows.h"
 #include "catalogue/outline/row_doubts.h"
+#include "catalogue/rolled/rolled_style.h"
 #include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
@@ -150,12 +151,20 @@ class CTableMerger {
     m_result.m_arrRefused.push_back({FirstCell(row), why});
   }
 
+  // A table of that name with fewer columns is none of the catalogue: nothing computes from it.
+  static bool HasRolledColumns(const CDataItem& row) {
+    const int style = FindRolledStyle(row.GetTableName().View());
+    return style >= 0 &&
+           row.GetItemLength() > RolledStyles()[static_cast<std::size_t>(style)].Columns();
+  }
+
   void Row(int position, const CDataItem& row) {
     const auto fault = m_mapFault.find(position);
     if (fault != m_mapFault.end()) return Refuse(row, fault->second);
     CString misfit = RowMisfit(row);
-    if (const auto lack = CheckRolledRow(row); misfit.IsEmpty() && lack)
-      misfit = lack->m_text.In(MessageLanguage());
+    if (misfit.IsEmpty() && HasRolledColumns(row)) {
+      if (const auto lack = CheckRolledRow(row)) misfit = lack->m_text.In(MessageLanguage());
+    }
     if (!misfit.IsEmpty()) return Refuse(row, Place(position) + misfit);
     const int present = m_hasKey ? m_target.IsHaveValue(row, -1) : -1;
     if (present >= 0) return Present(std::as_const(m_target).m_arrItem[present], row);
