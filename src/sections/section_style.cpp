@@ -214,7 +214,7 @@ constexpr CSectionStyle kStyles[] = {
 
 constexpr bool InOrderWithAllSizes() {
   for (int i = 0; i < std::ssize(kStyles); ++i) {
-    if (kStyles[i].m_nStyle != i || kStyles[i].m_pForm == nullptr) return false;
+    if (kStyles[i].m_nStyle != i) return false;
     for (int s = 0; s < kSectionSizes; ++s) {
       if ((kStyles[i].m_arrSize[s].m_szSign != nullptr) != (s < kStyles[i].m_nSizes)) return false;
     }
