@@ -268,7 +268,7 @@ TEST_F(StoreCommand, NoCheckGoesByARowThatContradictsItself) {
   ASSERT_EQ(notes.size(), 1U);
   ExpectHas(notes[0]["what"], {"row 2, \"I99\", contradicts itself: A = 26131"});
 
-  const std::string rest = R"("steel": "Q235", "lengths": {"x": 3000, "y": 3000}, "N": -50})";
+  const std::string rest = R"("steel": "Q235", "lengths": {"x": 2000, "y": 2000}, "N": -50})";
   const COwnFile one("one.json",
                      R"({"section": {"table": ")" + table + R"(", "no": "I99"}, )" + rest);
   const COwnFile any("any.json", "{" + rest);
