@@ -99,10 +99,17 @@ CRunResult Choose(const std::string& text, const std::string& options) {
 
 const std::string kBare = R"("steel": "Q345", "N": -800, "lengths": {"x": 6000, "y": 3000})";
 
+// An argument of JSON, as the shells of every system take it.
+std::string Argument(std::string_view json) {
+  std::string text = "\"";
+  for (const char ch : json) text += ch == '"' ? std::string("\\\"") : std::string(1, ch);
+  return text + "\"";
+}
+
 TEST(Choose, AnswersSectionsOfStylesAsTheCheckTakesThem) {
-  const CRunResult run =
-      Choose("{" + kBare + "}", R"(--style '{"style": "h", "b": [200, 300, 50], "h": 300,)"
-                                R"( "tf": [0.1, 12.1, 12], "tw": 8}' --json)");
+  const std::string style = R"({"style": "h", "b": [200, 300, 50], "h": 300,)"
+                            R"( "tf": [0.1, 12.1, 12], "tw": 8})";
+  const CRunResult run = Choose("{" + kBare + "}", "--style " + Argument(style) + " --json");
   const Json answer = Json::parse(run.m_strOut);
   EXPECT_EQ(answer["tried"], 6);
   const Json& row = answer["rows"][0];
@@ -149,8 +156,7 @@ TEST(Choose, RefusesWhatIsNoRangeByName) {
       {"[]", "is no JSON object"},
   };
   for (const auto& [style, what] : cases) {
-    const CRunResult run =
-        Choose("{" + kBare + "}", "--style '" + std::string(style) + "' --lang en");
+    const CRunResult run = Choose("{" + kBare + "}", "--style " + Argument(style) + " --lang en");
     EXPECT_EQ(run.m_nExit, 2) << style;
     EXPECT_NE(run.m_strError.find(what), std::string::npos) << run.m_strError;
   }
