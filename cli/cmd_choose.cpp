@@ -20,6 +20,7 @@
 #include "members/report/choice_plot.h"
 #include "nearest.h"
 #include "option_errors.h"
+#include "output_options.h"
 #include "store_place.h"
 #include "style_ranges.h"
 
@@ -319,9 +320,7 @@ void AddChooseCommand(CLI::App& program) {
   command->add_option("--top", options->top, Say("至多显示这么多个", "Show this many at most"))
       ->check(CLI::PositiveNumber);
   AddEditionOption(*command, options->code);
-  auto* json = command->add_flag(
-      "--json", options->json,
-      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  auto* json = AddJsonOption(*command, options->json);
   command
       ->add_flag("--csv", options->csv,
                  Say("以 CSV 输出，每个截面一行", "As CSV, one line a section"))

@@ -20,6 +20,7 @@
 #include "outlines/loops.h"
 #include "outlines/section_solver.h"
 #include "output.h"
+#include "output_options.h"
 #include "text_table.h"
 
 namespace orv3::cli {
@@ -269,9 +270,7 @@ void AddOutlineCommand(CLI::App& program) {
       ->add_option("--layer", options->layer,
                    Say("DXF 文件只读此图层", "Of a DXF file this layer only"))
       ->type_name("NAME");
-  CLI::Option* json = command->add_flag(
-      "--json", options->json,
-      Say("以 JSON 输出，数值全部有效位", "As JSON, numbers with all their digits"));
+  CLI::Option* json = AddJsonOption(*command, options->json);
   command->add_flag("--csv", options->csv, Say("以 CSV 输出，一行", "As CSV, one line"))
       ->excludes(json);
   command

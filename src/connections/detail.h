@@ -1,7 +1,11 @@
-// A rule of detailing that a connection is held to: a size and its limit.
+// A rule of detailing that a connection is held to, by either edition: a size and its limit.
 #pragma once
 
+#include <span>
+#include <vector>
+
 #include "framework/language.h"
+#include "reports/case_keys.h"
 
 namespace orv3 {
 
@@ -17,5 +21,8 @@ struct CDetail {
   // What the size uses of its limit; 1 at the limit.
   double Utilisation() const noexcept { return m_bMost ? m_dSize / m_dLimit : m_dLimit / m_dSize; }
 };
+
+// Notes of each rule that is not kept, with its numbers.
+void NoteOfDetails(std::span<const CDetail> details, std::vector<CCaseWarning>& notes);
 
 }  // namespace orv3
