@@ -21,6 +21,11 @@ function(orv3cal_warnings)
   endforeach()
 endfunction()
 
+# orv3cal_unity(TARGET): compiles it by the groups of src/CMakeLists.txt where that is asked for.
+function(orv3cal_unity target)
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ${ORV3CAL_UNITY} UNITY_BUILD_MODE GROUP)
+endfunction()
+
 if(ORV3CAL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS)

@@ -10,6 +10,7 @@ set_property(SOURCE ${CMAKE_BINARY_DIR}/version.rc
              PROPERTY OBJECT_DEPENDS ${module}/common_controls.manifest)
 add_dependencies(orv3cal_dll orv3cal)  # whatever generates sources has run
 orv3cal_warnings(orv3cal_dll)
+orv3cal_unity(orv3cal_dll)
 target_compile_features(orv3cal_dll PUBLIC cxx_std_20)
 target_compile_definitions(orv3cal_dll
                            PRIVATE ORV3CAL_BUILD_DLL

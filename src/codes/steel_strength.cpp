@@ -12,7 +12,7 @@ namespace {
 
 constexpr CTextLiteral kOneTable = {"2003 版管材与板材同用一表",
                                     "the 2003 edition has one table for plates and tubes"};
-constexpr CTextLiteral kDoubted = {
+constexpr CTextLiteral kDoubtedSteel = {
     "存疑：f 与 fv 不合该牌号其余各组的抗力分项系数",
     "doubtful: f and fv do not follow the resistance factor of the grade's other bands"};
 
@@ -70,7 +70,7 @@ CCodeSource SourceOf(CSteelGrade grade, const gb2017::CSteelRow& row, bool bDoub
   CCodeSource source = {CCodeEdition::Gb2017, SteelTable(grade, row.m_product.m_nProduct)};
   if (bDoubtful) {
     source.m_nStatus = CFigureStatus::Doubtful;
-    source.m_pNote = &kDoubted;
+    source.m_pNote = &kDoubtedSteel;
   }
   return OfGrade(grade, source);
 }

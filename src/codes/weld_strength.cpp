@@ -14,8 +14,8 @@ namespace {
 
 constexpr CCodeSource kWelds2003 = {CCodeEdition::Gb2003, {"表 3.4.1-3", "Table 3.4.1-3"}};
 constexpr CCodeSource kWelds2017 = {CCodeEdition::Gb2017, {"4.4.5 表 4.4.5", "4.4.5, Table 4.4.5"}};
-constexpr CTextLiteral kDoubted = {"存疑：低于母材的 f，而其余牌号与之相等",
-                                   "doubtful: below f of the plate, which it equals elsewhere"};
+constexpr CTextLiteral kDoubtedWeld = {"存疑：低于母材的 f，而其余牌号与之相等",
+                                       "doubtful: below f of the plate, which it equals elsewhere"};
 
 CCodeAnswer<CButtWeldStrengths> Butt2003(CSteelGrade grade, double t) {
   const int row = LegacyGrade(grade);
@@ -72,7 +72,7 @@ CCodeAnswer<CButtWeldStrengths> ButtWeldStrengths(CCodeEdition edition, CSteelGr
       CCodeSource source = OfGrade(grade, kWelds2017);
       if (!row.m_strDoubt.empty()) {
         source.m_nStatus = CFigureStatus::Doubtful;
-        source.m_pNote = &kDoubted;
+        source.m_pNote = &kDoubtedWeld;
       }
       return {{row.m_dFcw, row.m_dFtw12, row.m_dFtw3, row.m_dFvw}, source};
     }

@@ -33,7 +33,7 @@ VALUE Needed(const CCodeAnswer<VALUE>& answer) {
   return *answer;
 }
 
-CCodeEdition EditionOf(const orv3_char* code) {
+CCodeEdition EditionAsked(const orv3_char* code) {
   return Needed(EditionByYear(Utf8Of(code, "code")));
 }
 
@@ -106,7 +106,7 @@ int ORV3_CALL orv3_code_steel(const orv3_char* code, const orv3_char* steel,
   return Guarded([&] {
     static constexpr const char* kKinds[] = {"f", "fv", "fce", "fy", "fu"};
     static constexpr const char* kProducts[] = {"plate", "tube"};
-    const CCodeEdition edition = EditionOf(code);
+    const CCodeEdition edition = EditionAsked(code);
     const auto strength = static_cast<CSteelStrength>(WordAmong(kind, "kind", kKinds));
     const auto which = static_cast<CSteelProduct>(WordAmong(product, "product", kProducts));
     return GiveValue(
@@ -117,7 +117,7 @@ int ORV3_CALL orv3_code_steel(const orv3_char* code, const orv3_char* steel,
 int ORV3_CALL orv3_code_weld(const orv3_char* code, const orv3_char* steel, double thickness,
                              const orv3_char* kind, const orv3_char* electrode, double* value) {
   return Guarded([&] {
-    const CCodeEdition edition = EditionOf(code);
+    const CCodeEdition edition = EditionAsked(code);
     const CSteelGrade grade = GradeOf(edition, steel);
     const int which = WordAmong(kind, "kind", kWeldKinds);
     const CButtWeldStrengths butt = Needed(ButtWeldStrengths(edition, grade, thickness));
@@ -131,7 +131,7 @@ int ORV3_CALL orv3_code_bolt(const orv3_char* code, const orv3_char* bolt, const
   return Guarded([&] {
     static constexpr const char* kBolts[] = {"C", "AB", "bearing"};
     static constexpr const char* kKinds[] = {"ft", "fv", "fc"};
-    const CCodeEdition edition = EditionOf(code);
+    const CCodeEdition edition = EditionAsked(code);
     const auto which = static_cast<CBoltKind>(WordAmong(bolt, "bolt", kBolts));
     const int strength = WordAmong(kind, "kind", kKinds);
     if (strength == 2)
@@ -146,7 +146,7 @@ int ORV3_CALL orv3_code_bolt(const orv3_char* code, const orv3_char* bolt, const
 int ORV3_CALL orv3_code_slip(const orv3_char* code, int surface, const orv3_char* steel,
                              double* value) {
   return Guarded([&] {
-    const CCodeEdition edition = EditionOf(code);
+    const CCodeEdition edition = EditionAsked(code);
     return GiveValue(Needed(SlipFactor(edition, surface, GradeOf(edition, steel))), value);
   });
 }
@@ -154,7 +154,7 @@ int ORV3_CALL orv3_code_slip(const orv3_char* code, int surface, const orv3_char
 int ORV3_CALL orv3_code_hole(const orv3_char* code, const orv3_char* hole, double* value) {
   return Guarded([&] {
     const auto kind = static_cast<CHoleKind>(WordAmong(hole, "hole", kHoleNames));
-    return GiveValue(Needed(HoleFactor(EditionOf(code), kind)), value);
+    return GiveValue(Needed(HoleFactor(EditionAsked(code), kind)), value);
   });
 }
 
@@ -162,6 +162,6 @@ int ORV3_CALL orv3_code_preload(const orv3_char* code, const orv3_char* grade, d
                                 double* value) {
   return Guarded([&] {
     const auto boltGrade = static_cast<CBoltGrade>(WordAmong(grade, "grade", kBoltGradeNames));
-    return GiveValue(Needed(Preload(EditionOf(code), boltGrade, diameter)), value);
+    return GiveValue(Needed(Preload(EditionAsked(code), boltGrade, diameter)), value);
   });
 }

@@ -13,8 +13,6 @@
 namespace orv3 {
 namespace {
 
-std::string At(CPoint p) { return "(" + ToUtf8(FormatG(p.x)) + ", " + ToUtf8(FormatG(p.y)) + ")"; }
-
 // The ends of all paths in a grid of cells as wide as the tolerance; end 2 i is where path i
 // begins, end 2 i + 1 where it ends.
 class CEnds {
@@ -77,14 +75,14 @@ CPath Backwards(const CPath& path) {
 }
 
 COutlineFault Open(CPoint at) {
-  return {"轮廓在 " + At(at) + " 处未闭合",
-          "the outline is open at " + At(at) + "; right would be edges joined end to end"};
+  return {"轮廓在 " + PointText(at) + " 处未闭合",
+          "the outline is open at " + PointText(at) + "; right would be edges joined end to end"};
 }
 
 COutlineFault Branches(CPoint at) {
-  return {
-      "在 " + At(at) + " 处有多于两条边相接；请去掉重复的边",
-      "more than two edges meet at " + At(at) + "; right would be two, and no edge drawn twice"};
+  return {"在 " + PointText(at) + " 处有多于两条边相接；请去掉重复的边",
+          "more than two edges meet at " + PointText(at) +
+              "; right would be two, and no edge drawn twice"};
 }
 
 }  // namespace

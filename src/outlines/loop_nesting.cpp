@@ -11,7 +11,7 @@
 namespace orv3 {
 namespace {
 
-constexpr long kMostSteps = 30'000'000;
+constexpr long kMostNestingSteps = 30'000'000;
 // A bulge that bends an edge by less than any size is told.
 constexpr double kFlat = 1e-10;
 
@@ -64,7 +64,7 @@ std::vector<int> Around(CPieceTree& tree, std::span<const CLoopPiece> pieces, CP
 std::vector<CLoopPlace> NestLoops(std::span<const CPath> loops) {
   const double tolerance = 1e-9 * LoopSize(loops);
   const std::vector<CLoopPiece> pieces = LoopPieces(loops, tolerance);
-  CPieceTree tree(pieces, tolerance, kMostSteps);
+  CPieceTree tree(pieces, tolerance, kMostNestingSteps);
   std::vector<CLoopPlace> places(loops.size());
   for (std::size_t i = 0; i < loops.size(); ++i) {
     if (loops[i].m_arrVertex.empty()) continue;

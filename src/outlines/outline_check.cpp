@@ -16,8 +16,6 @@ using CFault = std::optional<COutlineFault>;
 
 constexpr long kMostSteps = 60'000'000;
 
-std::string At(CPoint p) { return "(" + ToUtf8(FormatG(p.x)) + ", " + ToUtf8(FormatG(p.y)) + ")"; }
-
 std::string Number(std::size_t position) { return std::to_string(position + 1); }
 std::string Number(int position) { return std::to_string(position + 1); }
 
@@ -74,18 +72,18 @@ CFault CheckEdges(const CPath& loop, const std::string& number, double tolerance
     const CVertex& a = vertices.front();
     const CVertex& b = vertices.back();
     return COutlineFault{
-        "第 " + number + " 圈未闭合：从 " + At({a.x, a.y}) + " 到 " + At({b.x, b.y}),
-        "loop " + number + " is open, from " + At({a.x, a.y}) + " to " + At({b.x, b.y}) +
-            "; right would be a closed one"};
+        "第 " + number + " 圈未闭合：从 " + PointText({a.x, a.y}) + " 到 " + PointText({b.x, b.y}),
+        "loop " + number + " is open, from " + PointText({a.x, a.y}) + " to " +
+            PointText({b.x, b.y}) + "; right would be a closed one"};
   }
   for (std::size_t i = 0; i < vertices.size() && vertices.size() > 1; ++i) {
     const CVertex& a = vertices[i];
     const CVertex& b = vertices[(i + 1) % vertices.size()];
     if (std::hypot(b.x - a.x, b.y - a.y) > 4 * tolerance) continue;
     return COutlineFault{"第 " + number + " 圈第 " + Number(i) + " 点起的边长度为零：" +
-                             At({a.x, a.y}) + "；请去掉重复的点",
+                             PointText({a.x, a.y}) + "；请去掉重复的点",
                          "loop " + number + ": the edge from point " + Number(i) + ", " +
-                             At({a.x, a.y}) +
+                             PointText({a.x, a.y}) +
                              ", has no length; right would be to leave the repeated point out"};
   }
   return std::nullopt;
@@ -109,13 +107,13 @@ CFault CheckSingleLoops(std::span<const CPath> loops, double tolerance, double s
 
 COutlineFault Meeting(int a, int b, CPoint at) {
   if (a == b) {
-    return {"第 " + Number(a) + " 圈在 " + At(at) + " 处与自身相交或相触",
-            "loop " + Number(a) + " crosses or touches itself at " + At(at) +
+    return {"第 " + Number(a) + " 圈在 " + PointText(at) + " 处与自身相交或相触",
+            "loop " + Number(a) + " crosses or touches itself at " + PointText(at) +
                 "; right would be edges that meet at their ends only, and holes as loops of their "
                 "own"};
   }
-  return {"第 " + Number(a) + " 圈与第 " + Number(b) + " 圈在 " + At(at) + " 处相交或相触",
-          "loops " + Number(a) + " and " + Number(b) + " cross or touch at " + At(at) +
+  return {"第 " + Number(a) + " 圈与第 " + Number(b) + " 圈在 " + PointText(at) + " 处相交或相触",
+          "loops " + Number(a) + " and " + Number(b) + " cross or touch at " + PointText(at) +
               "; right would be one loop around what is joined, or loops apart"};
 }
 
@@ -144,6 +142,10 @@ CFault CheckCrossings(std::span<const CPath> loops, double tolerance, double siz
 }
 
 }  // namespace
+
+std::string PointText(CPoint p) {
+  return "(" + ToUtf8(FormatG(p.x)) + ", " + ToUtf8(FormatG(p.y)) + ")";
+}
 
 COutlineFault TooCloseFault() {
   return {"各边过于密集，无法判断是否相交；请用圆弧代替细碎的折线",

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <span>
+#include <string>
 
 #include "drawing/path.h"
 #include "framework/export.h"
@@ -28,6 +29,9 @@ ORV3CAL_API std::optional<COutlineFault> CheckLoops(std::span<const CPath> loops
 // The same of loops whose senses count, as those of an outline: a hole outside of every part, and a
 // part inside another one, are faults as well.
 ORV3CAL_API std::optional<COutlineFault> CheckOutline(std::span<const CPath> loops);
+
+// A point as the faults name it: "(10, 20.5)".
+std::string PointText(CPoint p);
 
 // What such an outline is refused with.
 ORV3CAL_API COutlineFault TooCloseFault();

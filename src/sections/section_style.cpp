@@ -233,7 +233,7 @@ const CSectionStyle* FindSectionStyle(int style) noexcept {
 
 const CSectionStyle* FindSectionStyle(std::wstring_view tableName) noexcept {
   for (const CSectionStyle& style : kStyles) {
-    if (tableName == style.TableName()) return &style;
+    if (tableName == std::wstring_view(style.TableName())) return &style;
   }
   return nullptr;
 }

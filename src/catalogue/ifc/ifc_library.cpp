@@ -10,8 +10,6 @@
 namespace orv3 {
 namespace {
 
-const std::string kUnset(kStepUnset);
-
 // The project's identifier, of what the file holds (FNV-1a, 64 bits twice): 128 bits as 22 digits
 // of IFC's own 64, the first of which has 2 bits.
 class CIdentifier {
@@ -66,8 +64,8 @@ class CProfileNames {
 
 void AddProject(CStepFile& file, const std::string& name, const std::string& identifier) {
   const int units = AddIfcUnits(file);
-  file.Add("IFCPROJECT", {"'" + identifier + "'", kUnset, name, kUnset, kUnset, kUnset, kUnset,
-                          kUnset, StepRef(units)});
+  file.Add("IFCPROJECT", {"'" + identifier + "'", kStepUnset, name, kStepUnset, kStepUnset,
+                          kStepUnset, kStepUnset, kStepUnset, StepRef(units)});
 }
 
 void AddSection(CStepFile& file, const CDataItem& row, const COutline& outline,
@@ -75,9 +73,10 @@ void AddSection(CStepFile& file, const CDataItem& row, const COutline& outline,
   const std::string table = StepText(row.GetTableName());
   const int profile = AddIfcProfile(file, row, outline, name);
   AddProfileMechanical(file, row, outline, profile);
-  const std::string members[] = {StepRef(file.Add(
-      "IFCMATERIALPROFILE", {name, table, StepRef(steel), StepRef(profile), kUnset, kUnset}))};
-  file.Add("IFCMATERIALPROFILESET", {name, table, StepList(members), kUnset});
+  const std::string members[] = {
+      StepRef(file.Add("IFCMATERIALPROFILE",
+                       {name, table, StepRef(steel), StepRef(profile), kStepUnset, kStepUnset}))};
+  file.Add("IFCMATERIALPROFILESET", {name, table, StepList(members), kStepUnset});
 }
 
 std::string IdentifierOf(std::span<const CDataItem> rows, const std::string& name) {

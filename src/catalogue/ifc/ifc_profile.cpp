@@ -217,9 +217,9 @@ CParameters ParametersOf(const CDataItem& row) {
 }
 
 int AddParameterised(CStepFile& file, const CParameters& parameters, const std::string& name) {
-  std::vector<std::string> values{".AREA.", name, std::string(kStepUnset)};
+  std::vector<std::string> values{".AREA.", name, kStepUnset};
   for (const double value : parameters.m_arrValue)
-    values.push_back(std::isnan(value) ? std::string(kStepUnset) : StepReal(value));
+    values.push_back(std::isnan(value) ? kStepUnset : StepReal(value));
   return file.Add(parameters.m_strEntity, values);
 }
 
@@ -311,10 +311,8 @@ int AddArbitrary(CStepFile& file, const COutline& outline, const std::string& na
   const std::vector<CPart> parts = AddCurves(file, outline);
   if (parts.size() == 1) return AddPart(file, parts[0], name);
   std::vector<std::string> profiles;
-  for (const CPart& part : parts)
-    profiles.push_back(StepRef(AddPart(file, part, std::string(kStepUnset))));
-  return file.Add("IFCCOMPOSITEPROFILEDEF",
-                  {".AREA.", name, StepList(profiles), std::string(kStepUnset)});
+  for (const CPart& part : parts) profiles.push_back(StepRef(AddPart(file, part, kStepUnset)));
+  return file.Add("IFCCOMPOSITEPROFILEDEF", {".AREA.", name, StepList(profiles), kStepUnset});
 }
 
 }  // namespace

@@ -9,8 +9,6 @@
 namespace orv3 {
 namespace {
 
-const std::string kUnset(kStepUnset);
-
 std::string Quoted(std::string_view ascii) { return "'" + std::string(ascii) + "'"; }
 
 // --- Units ---------------------------------------------------------------------------------------
@@ -33,12 +31,12 @@ std::string DerivedUnit(CStepFile& file, std::string_view kind,
     elements.push_back(StepRef(
         file.Add("IFCDERIVEDUNITELEMENT", {factor.m_strUnit, std::to_string(factor.m_nExponent)})));
   }
-  return StepRef(file.Add("IFCDERIVEDUNIT", {StepList(elements), std::string(kind), kUnset}));
+  return StepRef(file.Add("IFCDERIVEDUNIT", {StepList(elements), std::string(kind), kStepUnset}));
 }
 
 // A square millimetre by its size: a prefix before SQUARE_METRE is read in two ways.
 std::string SquareMillimetre(CStepFile& file) {
-  const std::string metre2 = SiUnit(file, ".AREAUNIT.", kUnset, ".SQUARE_METRE.");
+  const std::string metre2 = SiUnit(file, ".AREAUNIT.", kStepUnset, ".SQUARE_METRE.");
   const int size =
       file.Add("IFCMEASUREWITHUNIT", {StepTyped("IFCRATIOMEASURE", StepReal(1e-6)), metre2});
   const int exponents = file.Add("IFCDIMENSIONALEXPONENTS", {"2", "0", "0", "0", "0", "0", "0"});
@@ -56,14 +54,14 @@ class CPropertySet {
   void Add(std::string_view name, std::string_view measure, double value) {
     constexpr double kInfinite = 1e100;  // a modulus whose fibre lies on the axis
     if (!(std::fabs(value) < kInfinite)) return;
-    m_arrProperty.push_back(
-        StepRef(m_file.Add("IFCPROPERTYSINGLEVALUE",
-                           {Quoted(name), kUnset, StepTyped(measure, StepReal(value)), kUnset})));
+    m_arrProperty.push_back(StepRef(
+        m_file.Add("IFCPROPERTYSINGLEVALUE",
+                   {Quoted(name), kStepUnset, StepTyped(measure, StepReal(value)), kStepUnset})));
   }
   // Of an entity that says what the figures belong to.
   void AddTo(std::string_view entity, std::string_view name, int owner) const {
     if (m_arrProperty.empty()) return;
-    m_file.Add(entity, {Quoted(name), kUnset, StepList(m_arrProperty), StepRef(owner)});
+    m_file.Add(entity, {Quoted(name), kStepUnset, StepList(m_arrProperty), StepRef(owner)});
   }
 
  private:
@@ -92,16 +90,16 @@ CRowFigures StraightFigures(const CDataItem& row) {
 
 int AddIfcUnits(CStepFile& file) {
   const std::string mm = SiUnit(file, ".LENGTHUNIT.", ".MILLI.", ".METRE.");
-  const std::string metre = SiUnit(file, ".LENGTHUNIT.", kUnset, ".METRE.");
+  const std::string metre = SiUnit(file, ".LENGTHUNIT.", kStepUnset, ".METRE.");
   const std::string kg = SiUnit(file, ".MASSUNIT.", ".KILO.", ".GRAM.");
-  const std::string kelvin = SiUnit(file, ".THERMODYNAMICTEMPERATUREUNIT.", kUnset, ".KELVIN.");
+  const std::string kelvin = SiUnit(file, ".THERMODYNAMICTEMPERATUREUNIT.", kStepUnset, ".KELVIN.");
   const std::string stress = SiUnit(file, ".PRESSUREUNIT.", ".MEGA.", ".PASCAL.");
   const std::string units[] = {
       mm,
       kg,
       kelvin,
       stress,
-      SiUnit(file, ".PLANEANGLEUNIT.", kUnset, ".RADIAN."),
+      SiUnit(file, ".PLANEANGLEUNIT.", kStepUnset, ".RADIAN."),
       SquareMillimetre(file),
       DerivedUnit(file, ".SECTIONMODULUSUNIT.", {{mm, 3}}),
       DerivedUnit(file, ".MOMENTOFINERTIAUNIT.", {{mm, 4}}),
@@ -114,7 +112,7 @@ int AddIfcUnits(CStepFile& file) {
 }
 
 int AddIfcSteel(CStepFile& file) {
-  const int steel = file.Add("IFCMATERIAL", {Quoted("Steel"), kUnset, Quoted("steel")});
+  const int steel = file.Add("IFCMATERIAL", {Quoted("Steel"), kStepUnset, Quoted("steel")});
   CPropertySet common(file);
   common.Add("MassDensity", "IFCMASSDENSITYMEASURE", kDensity);
   common.AddTo("IFCMATERIALPROPERTIES", "Pset_MaterialCommon", steel);

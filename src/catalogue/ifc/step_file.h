@@ -9,7 +9,7 @@
 namespace orv3 {
 
 // Values of an entity as they stand in the file.
-inline constexpr std::string_view kStepUnset = "$";
+inline const std::string kStepUnset = "$";
 // Characters beyond ASCII as \X2\ and \X4\, which every reader takes.
 std::string StepText(std::wstring_view text);
 std::string StepReal(double value);  // finite; all its digits

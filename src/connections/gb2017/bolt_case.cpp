@@ -113,7 +113,7 @@ void FillSpacings(const CSpacing& input, int count, std::vector<double>& spacing
   for (std::size_t i = 0; i < spacings.size(); ++i) spacings[i] = Uniform(input, i);
 }
 
-auto MakeInputKeys() {
+auto MakeBoltInputKeys() {
   using C = CBoltCase2017;
   std::vector<CInputKey<C>> keys;
   for (const CInputKey<CBoltCase>& key : CBoltCheck::InputKeys()) {
@@ -129,7 +129,7 @@ auto MakeInputKeys() {
   return keys;
 }
 
-auto MakeResultKeys() {
+auto MakeBoltResultKeys() {
   using R = CBoltResults2017;
   std::vector<CResultKey<R>> keys;
   for (const CResultKey<CBoltResults>& key : CBoltCheck::ResultKeys()) {
@@ -150,12 +150,12 @@ auto MakeResultKeys() {
 }  // namespace
 
 std::span<const CInputKey<CBoltCase2017>> CBoltCheck2017::InputKeys() {
-  static const auto kKeys = MakeInputKeys();
+  static const auto kKeys = MakeBoltInputKeys();
   return kKeys;
 }
 
 std::span<const CResultKey<CBoltResults2017>> CBoltCheck2017::ResultKeys() {
-  static const auto kKeys = MakeResultKeys();
+  static const auto kKeys = MakeBoltResultKeys();
   return kKeys;
 }
 

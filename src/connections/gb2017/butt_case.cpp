@@ -15,7 +15,7 @@ CSteelGrade SteelOf(const CButtCase2017& input) noexcept {
   return static_cast<CSteelGrade>(input.m_nSteel);
 }
 
-auto MakeInputKeys() {
+auto MakeButtInputKeys() {
   std::vector<CInputKey<CButtCase2017>> keys;
   for (const CInputKey<CButtCase>& key : CButtCheck::InputKeys()) {
     std::visit(
@@ -31,7 +31,7 @@ auto MakeInputKeys() {
 }  // namespace
 
 std::span<const CInputKey<CButtCase2017>> CButtCheck2017::InputKeys() {
-  static const auto kKeys = MakeInputKeys();
+  static const auto kKeys = MakeButtInputKeys();
   return kKeys;
 }
 

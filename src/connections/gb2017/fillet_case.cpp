@@ -67,7 +67,7 @@ void JointFaults(const CFilletCase2017& input, CFaultList& faults) {
   if (faults.IsEmpty()) DepthFault(input, faults);
 }
 
-auto MakeInputKeys() {
+auto MakeFilletInputKeys() {
   using C = CFilletCase2017;
   std::vector<CInputKey<C>> keys;
   for (const CInputKey<CFilletCase>& key : CFilletCheck::InputKeys()) {
@@ -85,7 +85,7 @@ auto MakeInputKeys() {
   return keys;
 }
 
-auto MakeResultKeys() {
+auto MakeFilletResultKeys() {
   using R = CFilletResults2017;
   std::vector<CResultKey<R>> keys;
   for (const CResultKey<CFilletResults>& key : CFilletCheck::ResultKeys()) {
@@ -103,12 +103,12 @@ auto MakeResultKeys() {
 }  // namespace
 
 std::span<const CInputKey<CFilletCase2017>> CFilletCheck2017::InputKeys() {
-  static const auto kKeys = MakeInputKeys();
+  static const auto kKeys = MakeFilletInputKeys();
   return kKeys;
 }
 
 std::span<const CResultKey<CFilletResults2017>> CFilletCheck2017::ResultKeys() {
-  static const auto kKeys = MakeResultKeys();
+  static const auto kKeys = MakeFilletResultKeys();
   return kKeys;
 }
 

@@ -14,9 +14,9 @@
 namespace orv3 {
 namespace {
 
-constexpr double kWidth = 640;
-constexpr double kMostHeight = 260;
-constexpr double kMargin = 56;
+constexpr double kGroupWidth = 640;
+constexpr double kGroupHeight = 260;
+constexpr double kGroupMargin = 56;
 constexpr std::size_t kMostDrawn = 1000;  // welds
 constexpr std::size_t kMostNumbered = 40;
 
@@ -32,9 +32,9 @@ class CGroupPainter {
     }
     const double width = std::max(m_dRight - m_dLeft, 1.0);
     const double height = std::max(m_dTop - m_dBottom, 1.0);
-    m_dScale = std::min((kWidth - 4 * kMargin) / width, kMostHeight / height);
-    m_drawing = CDrawing(kWidth, m_dScale * (m_dTop - m_dBottom) + 2 * kMargin);
-    m_dOffset = (kWidth - m_dScale * (m_dRight - m_dLeft)) / 2;
+    m_dScale = std::min((kGroupWidth - 4 * kGroupMargin) / width, kGroupHeight / height);
+    m_drawing = CDrawing(kGroupWidth, m_dScale * (m_dTop - m_dBottom) + 2 * kGroupMargin);
+    m_dOffset = (kGroupWidth - m_dScale * (m_dRight - m_dLeft)) / 2;
   }
 
   CDrawing Draw() {
@@ -45,9 +45,9 @@ class CGroupPainter {
     const CWeldGroupResults& r = m_check.Results();
     const CPoint centroid = At(r.m_dXc, r.m_dYc);
     m_drawing.AddLine(CLayer::CentroidAxis, {m_dOffset - 20, centroid.y},
-                      {kWidth - m_dOffset + 20, centroid.y});
-    m_drawing.AddLine(CLayer::CentroidAxis, {centroid.x, kMargin - 20},
-                      {centroid.x, m_drawing.Height() - kMargin + 20});
+                      {kGroupWidth - m_dOffset + 20, centroid.y});
+    m_drawing.AddLine(CLayer::CentroidAxis, {centroid.x, kGroupMargin - 20},
+                      {centroid.x, m_drawing.Height() - kGroupMargin + 20});
     const CPoint worst = At(r.m_dX, r.m_dY);
     m_drawing.AddArea(CLayer::CentroidAxis, {CirclePath(worst, 4)});
     m_drawing.AddLabel({.m_nLayer = CLayer::CentroidAxis,
@@ -108,7 +108,7 @@ class CGroupPainter {
   }
 
   CPoint At(double x, double y) const {
-    return {m_dOffset + m_dScale * (x - m_dLeft), kMargin + m_dScale * (y - m_dBottom)};
+    return {m_dOffset + m_dScale * (x - m_dLeft), kGroupMargin + m_dScale * (y - m_dBottom)};
   }
 
   void Loads() {
@@ -135,7 +135,7 @@ class CGroupPainter {
   double m_dTop = -HUGE_VAL;
   double m_dScale = 1;
   double m_dOffset = 0;
-  CDrawing m_drawing{kWidth, 2 * kMargin};
+  CDrawing m_drawing{kGroupWidth, 2 * kGroupMargin};
 };
 
 class CGroupReport {

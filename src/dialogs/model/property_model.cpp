@@ -21,7 +21,7 @@
 namespace orv3 {
 namespace {
 
-constexpr int kColumnWidth = 150;
+constexpr int kParameterWidth = 150;
 constexpr int kName = 0, kValue = 1;  // the grid's columns
 constexpr int kSpacingLine = 1;
 // Limbs are single sections: a combined one would need a spacing of its own.
@@ -80,8 +80,8 @@ int CPropertyModel::PictureResource() const { return SketchResource(m_strTable);
 // --- Grid ---------------------------------------------------------------------------------------
 
 void CPropertyModel::FillGrid() {
-  m_grid.InsertColumn(kName, texts::kParameterName, kColumnWidth);
-  m_grid.InsertColumn(kValue, texts::kParameterValue, kColumnWidth);
+  m_grid.InsertColumn(kName, texts::kParameterName, kParameterWidth);
+  m_grid.InsertColumn(kValue, texts::kParameterValue, kParameterWidth);
   for (int i = 0; i < LineCount(); ++i) {
     const CDataCell& cell = std::as_const(m_row)[i];
     CStringArray line;

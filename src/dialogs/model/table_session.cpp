@@ -13,12 +13,13 @@
 #include "tables/file/table_store.h"
 
 namespace orv3 {
-namespace {
 
 bool SameValues(const CDataItem& a, const CDataItem& b) {
   return std::equal(a.m_arrCell.begin(), a.m_arrCell.end(), b.m_arrCell.begin(), b.m_arrCell.end(),
                     [](const auto& x, const auto& y) { return x.m_strValue == y.m_strValue; });
 }
+
+namespace {
 
 bool SayFailed(const wchar_t* what) {
   ShowMessage(texts::kReminder, StoreFailureText(what));

@@ -13,6 +13,9 @@
 
 namespace orv3 {
 
+// Whether two rows have the same text in every cell.
+bool SameValues(const CDataItem& a, const CDataItem& b);
+
 class CTableSession {
  public:
   explicit CTableSession(const CString& path) : m_strPath(path) {}

@@ -5,6 +5,7 @@
 
 #include "dialogs/model/store_failure.h"
 #include "dialogs/model/store_transfer.h"
+#include "dialogs/model/table_session.h"
 #include "platform/file_system.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
@@ -13,11 +14,6 @@
 
 namespace orv3 {
 namespace {
-
-bool SameValues(const CDataItem& a, const CDataItem& b) {
-  return std::equal(a.m_arrCell.begin(), a.m_arrCell.end(), b.m_arrCell.begin(), b.m_arrCell.end(),
-                    [](const auto& x, const auto& y) { return x.m_strValue == y.m_strValue; });
-}
 
 bool SameRows(const CDataTable& a, const CDataTable& b) {
   return std::equal(a.m_arrItem.begin(), a.m_arrItem.end(), b.m_arrItem.begin(), b.m_arrItem.end(),

@@ -17,7 +17,6 @@ using CType = CDataTypeStruct::KVBT_Value_Type;
 
 constexpr int kNameCell = 0, kSignCell = 1, kTypeCell = 2, kKeyCell = 3;
 constexpr int kMinColumns = 2;  // what rows of sections have at least
-constexpr long kAllTables = -1;
 
 struct CTypeName {
   CType m_nType;

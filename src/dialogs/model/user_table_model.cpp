@@ -16,8 +16,6 @@
 namespace orv3 {
 namespace {
 
-constexpr long kAllTables = -1;
-
 bool HasName(const CStringArray& names, const CString& name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }

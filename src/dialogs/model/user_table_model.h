@@ -21,6 +21,8 @@
 
 namespace orv3 {
 
+inline constexpr long kAllTables = -1;  // the mask that every section table is in
+
 class CUserTableModel {
  public:
   // `tableNames`: the section tables that the command accepts; other names of section tables are

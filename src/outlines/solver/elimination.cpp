@@ -11,8 +11,6 @@ namespace {
 
 using Eigen::MatrixXd;
 
-std::size_t Index(int i) { return static_cast<std::size_t>(i); }
-
 // A set of triangles: its border edges, and with whom it shares how many of them.
 struct CUnion {
   int border = 0;
@@ -65,8 +63,9 @@ class CJoiner {
   void Share(int a, int b, int edges) {
     for (const auto& [one, other] : {std::pair{a, b}, std::pair{b, a}}) {
       auto& list = Of(one).beside;
-      const auto found = std::find_if(list.begin(), list.end(),
-                                      [other = other](const auto& entry) { return entry.first == other; });
+      const auto found = std::find_if(list.begin(), list.end(), [other = other](const auto& entry) {
+        return entry.first == other;
+      });
       if (found != list.end()) {
         found->second += edges;
       } else {

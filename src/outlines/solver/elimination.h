@@ -15,6 +15,8 @@
 
 namespace orv3 {
 
+inline std::size_t Index(int i) { return static_cast<std::size_t>(i); }
+
 // The pairs to join; the union keeps the first one's number.
 std::vector<std::pair<int, int>> JoiningOrder(const CSectionMesh& mesh);
 

@@ -13,8 +13,6 @@ namespace {
 constexpr double kSlender = 600;
 constexpr int kCorrections = 2;
 
-std::size_t Index(int i) { return static_cast<std::size_t>(i); }
-
 // The unknowns of an element's shape functions up to a degree, with their signs. Vertex 0 of the
 // mesh is held: a constant is added to a solution freely.
 using CNumbers = std::array<CElimination::CRow, kMaxFunctions>;

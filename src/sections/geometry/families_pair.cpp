@@ -80,16 +80,17 @@ constexpr CFamily ToeToToe(K kind) {
   return family;
 }
 
-constexpr CFamily kFamilies[] = {
+constexpr CFamily kPairFamilies[] = {
     AnglePair(K::EqualAnglePair),      AnglePair(K::LongLegPair),
     AnglePair(K::ShortLegPair),        kAngleCross,
     BackToBack(K::OrdinaryBackToBack), ToeToToe(K::OrdinaryToeToToe),
     BackToBack(K::LightBackToBack),    ToeToToe(K::LightToeToToe),
 };
-static_assert(std::size(kFamilies) == kPairKinds && InKindOrder(kFamilies, K::EqualAnglePair));
+static_assert(std::size(kPairFamilies) == kPairKinds &&
+              InKindOrder(kPairFamilies, K::EqualAnglePair));
 
 }  // namespace
 
-std::span<const CFamily> PairFamilies() noexcept { return kFamilies; }
+std::span<const CFamily> PairFamilies() noexcept { return kPairFamilies; }
 
 }  // namespace orv3

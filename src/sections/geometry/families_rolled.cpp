@@ -216,7 +216,7 @@ constexpr CFamily ColdAngle(K kind, CFormula moment, CSource warping) {
   };
 }
 
-constexpr CFamily kFamilies[] = {
+constexpr CFamily kRolledFamilies[] = {
     ISection(K::OrdinaryI, L"b(mm)", L"h(mm)", L"Sx(cm^3)", L"t(mm)"),
     ISection(K::LightI, L"b(mm)", L"h(mm)", L"Sx(cm^3)", L"t(mm)"),
     ISection(K::WeldedH, L"B(mm)", L"H(mm)", L"Sx(cm^3)", L"tf(mm)"),
@@ -237,10 +237,10 @@ constexpr CFamily kFamilies[] = {
     ColdAngle(K::ColdAngle, ColdAngleMoment, {}),
     ColdAngle(K::LippedAngle, LippedAngleMoment, L"Iw(cm^6)"),
 };
-static_assert(std::size(kFamilies) == kSingleKinds && InKindOrder(kFamilies));
+static_assert(std::size(kRolledFamilies) == kSingleKinds && InKindOrder(kRolledFamilies));
 
 }  // namespace
 
-std::span<const CFamily> RolledFamilies() noexcept { return kFamilies; }
+std::span<const CFamily> RolledFamilies() noexcept { return kRolledFamilies; }
 
 }  // namespace orv3

@@ -62,7 +62,7 @@ constexpr CFamily Lattice(CSectionKind kind) {
 }
 
 // Table, width, height, plate thicknesses, form.
-constexpr CFamily kFamilies[] = {
+constexpr CFamily kUserFamilies[] = {
     UserDefined(K::PlateH, L"b(mm)", L"h(mm)", {L"tf(mm)", L"tw(mm)"}, kPlates),
     UserDefined(K::PlateGeneralH, GeneralHWidth, L"h(mm)", {L"b(mm)", L"bh1(mm)", L"bh2(mm)"},
                 kPlates),
@@ -89,11 +89,11 @@ constexpr CFamily kFamilies[] = {
     Lattice(K::FourLimbs),
     Lattice(K::ThreeLimbs),
 };
-static_assert(std::size(kFamilies) == kPlateKinds + kLatticeKinds &&
-              InKindOrder(kFamilies, K::PlateH));
+static_assert(std::size(kUserFamilies) == kPlateKinds + kLatticeKinds &&
+              InKindOrder(kUserFamilies, K::PlateH));
 
 }  // namespace
 
-std::span<const CFamily> UserFamilies() noexcept { return kFamilies; }
+std::span<const CFamily> UserFamilies() noexcept { return kUserFamilies; }
 
 }  // namespace orv3

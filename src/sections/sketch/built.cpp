@@ -5,8 +5,8 @@
 namespace orv3::sketch {
 namespace {
 
-constexpr CFlangeForm kAngleForm{7, 5, 0};
-constexpr CFlangeForm kSloped{6, 4, 1.0 / 6};
+constexpr CFlangeForm kPartAngle{7, 5, 0};
+constexpr CFlangeForm kPartChannel{6, 4, 1.0 / 6};
 
 // `part`, whose back is the y axis, and its mirror image with `gap` between the backs.
 void MirroredPair(CSketchPen& pen, const CPath& part, double middle, double bottom, double gap) {
@@ -20,7 +20,7 @@ void AnglePair(CSketchPen& pen, double b, double h, double centroid, const wchar
   const double middle = 90;
   const double bottom = 34;
   const double gap = 10;
-  MirroredPair(pen, AngleShape(b, h, 10, kAngleForm), middle, bottom, gap);
+  MirroredPair(pen, AngleShape(b, h, 10, kPartAngle), middle, bottom, gap);
   const CBox box{middle - gap / 2 - b, bottom, middle + gap / 2 + b, bottom + h};
   pen.Axes({middle, bottom + centroid}, box, L"x", L"y");
   pen.Width(middle + gap / 2, box.right, bottom, bottom - 18, width);
@@ -37,7 +37,7 @@ void ShortLegPair(CSketchPen& pen) { AnglePair(pen, 55, 46, 13, L"B", L"b"); }
 void CrossAnglePair(CSketchPen& pen) {
   const CPoint c{86, 76};
   const double gap = 8;
-  const CPath angle = AngleShape(50, 50, 10, kAngleForm);
+  const CPath angle = AngleShape(50, 50, 10, kPartAngle);
   pen.Steel(Moved(angle, c.x + gap / 2, c.y + gap / 2));
   pen.Steel(Moved(Turned(angle, 180), c.x - gap / 2, c.y - gap / 2));
   pen.SlantAxis(c, 45, 52, L"x1");
@@ -50,7 +50,7 @@ void CrossAnglePair(CSketchPen& pen) {
 
 void ChannelsBackToBack(CSketchPen& pen) {
   const double middle = 90;
-  MirroredPair(pen, ChannelShape(44, 84, 8, 11, kSloped), middle, 36, 12);
+  MirroredPair(pen, ChannelShape(44, 84, 8, 11, kPartChannel), middle, 36, 12);
   const CBox box{40, 36, 140, 120};
   pen.Axes({middle, 78}, box, L"x", L"y");
   pen.Width(96, 140, 36, 18, L"b");
@@ -59,7 +59,7 @@ void ChannelsBackToBack(CSketchPen& pen) {
 }
 
 void ChannelsToeToToe(CSketchPen& pen) {
-  const CPath channel = ChannelShape(46, 84, 8, 11, kSloped);
+  const CPath channel = ChannelShape(46, 84, 8, 11, kPartChannel);
   pen.Steel(Moved(channel, 44, 36));
   pen.Steel(Moved(MirroredX(channel), 136, 36));
   const CBox box{44, 36, 136, 120};
@@ -72,7 +72,7 @@ void ChannelsToeToToe(CSketchPen& pen) {
 
 void TwoLimbs(CSketchPen& pen) {
   // Webs outside, toes inside, laced along both sides.
-  const CPath limb = Turned(ChannelShape(30, 64, 7, 8, kSloped), 90);
+  const CPath limb = Turned(ChannelShape(30, 64, 7, 8, kPartChannel), 90);
   const double middle = 92;
   const double low = 28;
   const double high = 128;
@@ -116,7 +116,7 @@ void GeneralSection(CSketchPen& pen) {
   pen.Axes({92, 76}, {44, 36, 140, 114}, L"x", L"y");
 }
 
-constexpr CSketchEntry kSketches[] = {
+constexpr CSketchEntry kBuiltSketches[] = {
     {8023, EqualAnglePair}, {8024, LongLegPair},      {8025, ShortLegPair},
     {8026, CrossAnglePair}, {8027, ChannelsToeToToe}, {8028, ChannelsBackToBack},
     {8076, GeneralSection}, {8077, FourLimbs},        {8078, TwoLimbs},
@@ -124,6 +124,6 @@ constexpr CSketchEntry kSketches[] = {
 
 }  // namespace
 
-std::span<const CSketchEntry> BuiltSketches() noexcept { return kSketches; }
+std::span<const CSketchEntry> BuiltSketches() noexcept { return kBuiltSketches; }
 
 }  // namespace orv3::sketch

@@ -197,7 +197,7 @@ void Triangle(CSketchPen& pen) {
   pen.Height(36, 120, 92, 30, L"h");
 }
 
-constexpr CSketchEntry kSketches[] = {
+constexpr CSketchEntry kPlateSketches[] = {
     {8035, Box},          {8036, PlateT},   {8037, Cross},     {8038, GeneralBox},
     {8039, Hexagon},      {8040, Triangle}, {8041, Tube},      {8042, Circle},
     {8043, GeneralH},     {8044, PlateL},   {8045, PlateZ},    {8046, PlateChannel},
@@ -206,6 +206,6 @@ constexpr CSketchEntry kSketches[] = {
 
 }  // namespace
 
-std::span<const CSketchEntry> PlateSketches() noexcept { return kSketches; }
+std::span<const CSketchEntry> PlateSketches() noexcept { return kPlateSketches; }
 
 }  // namespace orv3::sketch

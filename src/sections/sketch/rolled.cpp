@@ -214,7 +214,7 @@ void RoundTube(CSketchPen& pen) {
   pen.ThicknessX(50, 58, 87, L"t");
 }
 
-constexpr CSketchEntry kSketches[] = {
+constexpr CSketchEntry kRolledSketches[] = {
     {8008, EqualAngle},       {8009, UnequalAngle},      {8010, WideH},
     {8011, NarrowH},          {8012, RolledChannel},     {8013, RolledI},
     {8014, WeldedH},          {8015, ColdLippedAngle},   {8016, ColdAngle},
@@ -225,6 +225,6 @@ constexpr CSketchEntry kSketches[] = {
 
 }  // namespace
 
-std::span<const CSketchEntry> RolledSketches() noexcept { return kSketches; }
+std::span<const CSketchEntry> RolledSketches() noexcept { return kRolledSketches; }
 
 }  // namespace orv3::sketch
