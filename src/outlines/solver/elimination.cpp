@@ -66,7 +66,7 @@ class CJoiner {
     for (const auto& [one, other] : {std::pair{a, b}, std::pair{b, a}}) {
       auto& list = Of(one).beside;
       const auto found = std::find_if(list.begin(), list.end(),
-                                      [&](const auto& entry) { return entry.first == other; });
+                                      [other = other](const auto& entry) { return entry.first == other; });
       if (found != list.end()) {
         found->second += edges;
       } else {
