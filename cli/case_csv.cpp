@@ -1,8 +1,8 @@
 #include <algorithm>
-#include <charconv>
 
 #include "case_readers.h"
 #include "framework/csv.h"
+#include "framework/number_chars.h"
 
 namespace orv3::cli {
 namespace {
@@ -104,7 +104,7 @@ class CCsvCases {
     while (text.starts_with(' ')) text.remove_prefix(1);
     while (text.ends_with(' ')) text.remove_suffix(1);
     if (text.starts_with('+')) text.remove_prefix(1);
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const auto [end, error] = ReadDouble(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size();
   }
 

@@ -31,8 +31,6 @@
 namespace orv3::cli {
 namespace {
 
-constexpr std::size_t kCsvLine = 500;  // most lines are shorter
-
 struct COptions {
   std::string kind;
   std::string file;
@@ -170,11 +168,10 @@ class CChecker {
     const double worst = Worst();
     switch (m_answers.Form()) {
       case CAnswerForm::Csv: {
-        std::string lines;
-        lines.reserve(kCsvLine);
+        std::string& lines = m_answers.NextLines(worst);
         for (const CCodeEdition edition : m_arrEdition)
           With(edition, [&](auto& run) { run.AppendCsv(m_nCases, m_columns, lines); });
-        return m_answers.AddLine(worst, std::move(lines));
+        return;
       }
       case CAnswerForm::Json:
         return m_answers.AddJson(worst, CaseJson());

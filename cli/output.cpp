@@ -1,7 +1,6 @@
 #include "output.h"
 
 #include <cerrno>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -9,6 +8,7 @@
 
 #include "error.h"
 #include "framework/language.h"
+#include "framework/number_chars.h"
 #include "framework/utf8.h"
 #include "inputs_read.h"
 #include "platform/terminal.h"
@@ -81,12 +81,12 @@ std::string NumberText(double value) {
   if (std::isnan(value)) return "-";
   if (std::fabs(value) >= kInfinite) return value > 0 ? "∞" : "-∞";
   char text[64];
-  const auto format =
-      std::fabs(value) >= 1e15 ? std::chars_format::scientific : std::chars_format::general;
   const int digits = std::fabs(value) >= 1e6 && std::fabs(value) < 1e15 ? 16 : 7;
   const double shown =
       digits == 16 ? std::round(value) : value;  // large numbers to the last whole unit
-  return {text, std::to_chars(text, text + sizeof text, shown, format, digits).ptr};
+  char* end = text + sizeof text;
+  return {text, std::fabs(value) >= 1e15 ? WriteScientific(text, end, shown, digits)
+                                         : WriteGeneral(text, end, shown, digits)};
 }
 
 void Print(const std::string& text) { PrintBytes(Visible(text, true)); }

@@ -273,6 +273,10 @@ std::vector<std::string> RowDoubtNotes(const CDataItem& row) {
             "{1} is doubtful: the row tells {2}, the outline of its sizes has {3} (mm).",
             {doubt.m_szKey, NumberText(doubt.m_dTold), NumberText(doubt.m_dOutline)}));
   }
+  if (LatticeLimbCount(row.m_strTableName.View()) > 0) {
+    if (const auto what = Contradiction(row))
+      notes.push_back(Say("一肢自相矛盾：{1}。", "A limb contradicts itself: {1}.", {Say(*what)}));
+  }
   return notes;
 }
 

@@ -209,14 +209,18 @@ CRowFigures Upright(const CDataItem& row) {
 
 }  // namespace
 
-CRowFigures RowFigures(const CDataItem& row, double angle) {
+CRowFigures RowFigures(const CDataItem& row, const COutline& outline) {
   CRowFigures f = Upright(row);
   const CAxisLetters letters = AxisLetters(row.GetTableName().View());
   f.m_szAxisX = f.m_bAslant ? letters.m_szStrong : letters.m_szX;
   f.m_szAxisY = f.m_bAslant ? letters.m_szWeak : letters.m_szY;
-  const COutline outline = RowOutline(row);
   FindSymmetry(f, outline);
   FindLeastRadius(f, outline, FindSectionStyle(row.m_strTableName.View()) != nullptr);
+  return f;
+}
+
+CRowFigures RowFigures(const CDataItem& row, double angle) {
+  CRowFigures f = RowFigures(row, RowOutline(row));
   for (int i = QuarterTurns(angle); i > 0; --i) Turn(f);
   return f;
 }
