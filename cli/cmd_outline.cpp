@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,6 +20,7 @@
 #include "outlines/section_solver.h"
 #include "output.h"
 #include "output_options.h"
+#include "streams.h"
 #include "text_table.h"
 
 namespace orv3::cli {
@@ -164,11 +164,11 @@ void WarnOfStress(const COptions& options, const CAnswer& answer) {
   for (const CStressRow& row : kStresses) {
     const CBoundaryStress* point = greatest.*row.m_pPoint;
     if (point == nullptr || !(StressError(*point, row.m_pValue) > kMost)) continue;
-    std::fprintf(stderr, "orv3cal: %s: %s: %s\n", Visible(options.file).c_str(), row.m_szKey,
-                 Say("该处应力的误差估计超过 3 %；圆角或缺口相对壁厚过小",
-                     "the estimated error of this stress is above 3 %, a fillet or notch is too "
-                     "small beside the wall")
-                     .c_str());
+    WriteError("orv3cal: " + Visible(options.file) + ": " + row.m_szKey + ": " +
+               Say("该处应力的误差估计超过 3 %；圆角或缺口相对壁厚过小",
+                   "the estimated error of this stress is above 3 %, a fillet or notch is too "
+                   "small beside the wall") +
+               "\n");
   }
 }
 

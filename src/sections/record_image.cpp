@@ -69,9 +69,7 @@ std::wstring PlainName(const CRecordImage& image) {
                                      : name.substr(first, name.find_last_not_of(L' ') + 1 - first);
 }
 
-double Double(const CRecordImage& image, std::size_t at) {
-  return DoubleOf(Take<8>(image, at));
-}
+double Double(const CRecordImage& image, std::size_t at) { return DoubleOf(Take<8>(image, at)); }
 
 }  // namespace
 
