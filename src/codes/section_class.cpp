@@ -16,7 +16,7 @@ struct CWebFormula {
 constexpr CWebFormula kWeb[4] = {{33, 13, 1.3}, {38, 13, 1.39}, {40, 18, 1.5}, {45, 25, 1.66}};
 constexpr std::size_t kS5 = 4;  // its limits take no epsilon-k
 
-// The row of gb2017::kClasses.
+// The row of gb2017::kSectionClass.
 constexpr std::size_t ClassRow(CClassElement element) noexcept {
   switch (element) {
     case CClassElement::FlangeOutstand:
@@ -51,7 +51,7 @@ CCodeAnswer<CClassLimits> ClassLimits(CCodeEdition edition, CClassElement elemen
   if (!(alpha0 >= 0 && alpha0 <= 2)) return NotPossible("alpha0", alpha0, FromTo(0, 2));
   const double epsilon = EpsilonK(grade);
   const double factor = element == CClassElement::Tube ? epsilon * epsilon : epsilon;
-  const gb2017::CClassRow& row = gb2017::kClasses[ClassRow(element)];
+  const gb2017::CClassRow& row = gb2017::kSectionClass[ClassRow(element)];
   CClassLimits limits = {row.m_arrLimit};
   if (element == CClassElement::WebCompressed) {
     const double log = std::log(alpha0);  // -infinity at 0, whose powers are 0

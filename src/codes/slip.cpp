@@ -100,7 +100,7 @@ CCodeAnswer<double> SlipFactor(CCodeEdition edition, int surface, CSteelGrade gr
 
 CCodeAnswer<double> HoleFactor(CCodeEdition edition, CHoleKind kind) {
   if (edition == CCodeEdition::Gb2017)
-    return {gb2017::kHoleFactors[static_cast<std::size_t>(kind)].m_dK,
+    return {gb2017::kHoleFactor[static_cast<std::size_t>(kind)].m_dK,
             {edition, {"11.4.2", "11.4.2"}}};
   if (kind == CHoleKind::Standard) {
     static constexpr CTextLiteral kNote = {"2003 版仅有标准孔，公式中无 k",
@@ -120,7 +120,7 @@ CCodeAnswer<double> Preload(CCodeEdition edition, CBoltGrade grade, double d) {
     if (kDiameters[i] != d) continue;
     if (edition == CCodeEdition::Gb2003)
       return {CTableSearch::g_sub9[row][i], {edition, {"表 7.2.2-2", "Table 7.2.2-2"}}};
-    return {gb2017::kPreloads[row].m_arrP[i],
+    return {gb2017::kPreload[row].m_arrP[i],
             {edition, {"11.4.2 表 11.4.2-2", "11.4.2, Table 11.4.2-2"}}};
   }
   return NotPossible("d", d,

@@ -97,13 +97,13 @@ struct CHoleFactorRow {
   std::string_view m_strHole;
   double m_dK;
 };
-extern const CHoleFactorRow kHoleFactors[4];
+extern const CHoleFactorRow kHoleFactor[4];
 // Table 11.4.2-2; columns M16, M20, M22, M24, M27, M30.
 struct CPreloadRow {
   std::string_view m_strClass;
   double m_arrP[6];
 };
-extern const CPreloadRow kPreloads[2];
+extern const CPreloadRow kPreload[2];
 
 // Table 11.5.1.
 struct CHoleRow {
@@ -116,7 +116,7 @@ struct CClassRow {
   std::string_view m_strElement;
   std::array<CCell, 5> m_arrLimit;
 };
-extern const CClassRow kClasses[5];
+extern const CClassRow kSectionClass[5];
 
 // Tables 16.2.1-1 and 16.2.1-2.
 extern const CFatigueCategory kFatigue[17];
