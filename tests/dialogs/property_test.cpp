@@ -195,7 +195,8 @@ TEST(Property, LatticeColumn) {
 TEST(Property, AsksBeforeARowThatContradictsItself) {
   CDataItem row;
   row.m_strTableName = L"热轧普通工字钢";
-  row.SetItemTitle(RolledTitle(RolledStyles()[std::size_t(FindRolledStyle(row.m_strTableName))]));
+  row.SetItemTitle(
+      RolledTitle(RolledStyles()[std::size_t(FindRolledStyle(row.m_strTableName.View()))]));
   ASSERT_EQ(row.SetDataItemValue(L"I99,200,100,7,11.4,9,4.5,35.578,27.929,0.742,2368.6,236.9,136.1,"
                                  L"8.16,157.9,31.6,2.11"),
             1);
