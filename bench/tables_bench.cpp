@@ -231,6 +231,19 @@ void BytesPerCell(benchmark::State& state) {
   state.counters["bytes_per_cell"] = bytes / kRows / kColumns;
 }
 
+// An addition when every row has been handed out by reference, and when none has.
+void AddOneOurs(benchmark::State& state) {
+  CDataTable table = FullTable();
+  for (int i = 0; state.range(0) != 0 && i < kRows; ++i) benchmark::DoNotOptimize(table[i]);
+  CStringArray values;
+  values.Copy(Source()[0].m_wide);
+  int added = 0;
+  for (auto _ : state) {
+    values[0] = L"new" + orv3::FormatInt(added++);
+    table.AddTableItem(values, 1);
+  }
+}
+
 BENCHMARK(AddOurs)
     ->Arg(kRows / 10)
     ->Arg(kRows)
@@ -238,6 +251,7 @@ BENCHMARK(AddOurs)
     ->MinWarmUpTime(0.5)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(AddSqlite)->Arg(kRows)->Unit(benchmark::kMillisecond);
+BENCHMARK(AddOneOurs)->ArgName("handedOut")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 BENCHMARK(SearchOurs)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 BENCHMARK(SearchSqlite)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 BENCHMARK(OrderOurs)->ArgsProduct({{1, 5}, {1, 0}})->Unit(benchmark::kMillisecond);

@@ -1,6 +1,7 @@
 #include "ifc_output.h"
 
 #include "catalogue/ifc/ifc_library.h"
+#include "catalogue/outline/row_doubts.h"
 #include "error.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
@@ -9,6 +10,14 @@
 namespace orv3::cli {
 
 std::string IfcText(const std::vector<CDataItem>& rows, const std::string& name) {
+  for (const CDataItem& row : rows) {
+    const auto what = Contradiction(row);
+    if (!what) continue;
+    Refuse(Say("IFC：{1} {2} 的行自相矛盾：{3}；请改正其尺寸或特性",
+               "IFC: the row of {1} {2} contradicts itself: {3}; right would be to correct its "
+               "sizes or figures",
+               {ToUtf8(row.GetTableName()), ToUtf8(row[0].m_strValue), Say(*what)}));
+  }
   CIfcLibrary library = IfcLibrary(rows, FromUtf8(name));
   if (!library.m_arrLeftOut.empty()) {
     const CDataItem& row = rows[library.m_arrLeftOut.front()];

@@ -284,6 +284,9 @@ TEST_F(StoreCommand, NoCheckGoesByARowThatContradictsItself) {
   ExpectHas(csv.m_strError, {"1 more are not covered", "I99 contradicts itself"});
   const std::string limb = " --set P1Type=" + table + " --set P1No.=I99 --set P1θ°=90";
   const std::string limbs = limb + " --set P2Type=" + table + " --set P2No.=I99 --set P2θ°=90";
+  ExpectRefused(
+      {{"store export " + table + " --to " + Quoted(L"x.ifc") + " --store \"" + m_store + '"',
+        {"I99 contradicts itself"}}});
   ExpectRefused({{"store add 双肢格构柱 --set No.=G --set \"k(mm)=300\"" + limbs + on,
                   {"a limb contradicts itself: I99: A = 26131"}}});
 

@@ -562,10 +562,11 @@ TEST_F(BrowserImport, TellsRowsThatContradictThemselves) {
   CDataTable table;
   table.SetTableName(kLight);
   table.m_Title = RolledTitle(RolledStyles()[static_cast<std::size_t>(FindRolledStyle(kLight))]);
-  EXPECT_EQ(table.AddTableItem(L"Q99,160,81,5,7.8,8.5,3.5,202,15.9,0.6,873,109,62.3,6.57,58.6,14.5,"
-                               L"1.7",
-                               1),
-            1);
+  EXPECT_EQ(
+      table.AddTableItem(L"Q99,100,55,4.5,7.2,7,2.5,120.5,9.46,0.387,198.3,39.7,23,4.06,17.9,6.5,"
+                         L"1.22",
+                         1),
+      1);
   EXPECT_EQ(table.WriteTable(m_store.Path(L"light.KDB"), kSystemKind, 1), 1);
   m_user.m_arrOpen = {m_store.Path(L"light.KDB")};
   auto model = Open(kI, L"I20a");

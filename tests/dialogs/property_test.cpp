@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "catalogue/lattice/steel_ge_gou.h"
+#include "catalogue/rolled/rolled_style.h"
 #include "dialog_store.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/property_model.h"
@@ -188,6 +189,27 @@ TEST(Property, LatticeColumn) {
   EXPECT_FALSE(model.Ok(user));
   EXPECT_EQ(model.FaultLine(), LineOf(model, L"k(mm)"));
   EXPECT_EQ(user.TakeMessages().size(), 1U);
+}
+
+// Figures that were all typed in may still not be those of the sizes.
+TEST(Property, AsksBeforeARowThatContradictsItself) {
+  CDataItem row;
+  row.m_strTableName = L"热轧普通工字钢";
+  row.SetItemTitle(
+      RolledTitle(RolledStyles()[std::size_t(FindRolledStyle(row.m_strTableName.View()))]));
+  ASSERT_EQ(row.SetDataItemValue(L"I99,200,100,7,11.4,9,4.5,35.578,27.929,0.742,2368.6,236.9,136.1,"
+                                 L"8.16,157.9,31.6,2.11"),
+            1);
+  CPropertyModel model(row, row.m_strTableName, 1);
+  CScriptedUser user;
+  EXPECT_TRUE(model.Ok(user));
+  model.SetValue(LineOf(model, L"A(cm^2)"), L"355.78");
+  user.m_arrAnswer = {CMessageAnswer::No, CMessageAnswer::Yes};
+  EXPECT_FALSE(model.Ok(user));
+  EXPECT_TRUE(model.Ok(user));
+  const auto messages = user.TakeMessages();
+  ASSERT_EQ(messages.size(), 2U);
+  EXPECT_EQ(messages[0].find(ToUtf8(texts::kContradicts) + "A = 35578 mm²"), 0U) << messages[0];
 }
 
 }  // namespace

@@ -139,12 +139,23 @@ const char* UnitOf(std::string_view key) {
 
 std::string PlainText(double value) { return ToUtf8(FormatG(value)); }
 
+std::optional<CText> FirstDoubt(const CDataItem& row) {
+  const std::vector<CRowDoubt> doubts = RowDoubts(row);
+  if (doubts.empty()) return std::nullopt;
+  const CRowDoubt& first = doubts.front();
+  const std::string unit = UnitOf(first.m_szKey);
+  const std::string told =
+      std::string(first.m_szKey) + " = " + PlainText(first.m_dTold) + " " + unit;
+  const std::string drawn = PlainText(first.m_dOutline) + " " + unit;
+  return CText{told + "，由尺寸得 " + drawn, told + ", its sizes give " + drawn};
+}
+
 // A lattice column goes by its limbs' rows: the first that contradicts itself.
 std::optional<CText> LimbContradiction(const CDataItem& row) {
   CLatticeLimbs limbs;
   if (!limbs.Fetch(CSteelItemGeGou(row))) return {};
   for (const CLatticeLimb& limb : limbs.m_arrLimb) {
-    const auto what = Contradiction(limb.m_row);
+    const auto what = FirstDoubt(limb.m_row);
     if (!what) continue;
     const std::string no = ToUtf8(limb.m_row[0].m_strValue);
     return CText{no + " 的 " + what->m_strChinese, no + ": " + what->m_strEnglish};
@@ -172,15 +183,7 @@ std::vector<CRowDoubt> RowDoubts(const CDataItem& row) {
 }
 
 std::optional<CText> Contradiction(const CDataItem& row) {
-  if (IsLatticeTable(row.GetTableName())) return LimbContradiction(row);
-  const std::vector<CRowDoubt> doubts = RowDoubts(row);
-  if (doubts.empty()) return std::nullopt;
-  const CRowDoubt& first = doubts.front();
-  const std::string unit = UnitOf(first.m_szKey);
-  const std::string told =
-      std::string(first.m_szKey) + " = " + PlainText(first.m_dTold) + " " + unit;
-  const std::string drawn = PlainText(first.m_dOutline) + " " + unit;
-  return CText{told + "，由尺寸得 " + drawn, told + ", its sizes give " + drawn};
+  return IsLatticeTable(row.GetTableName()) ? LimbContradiction(row) : FirstDoubt(row);
 }
 
 }  // namespace orv3
