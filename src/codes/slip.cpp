@@ -12,7 +12,7 @@ namespace {
 
 constexpr CTextLiteral kSurfaces2003[] = {
     {"喷砂（丸）", "sand- or shot-blasted"},
-    {"喷砂（丸）后涂无机富锌漆", "sand- or shot-blasted, inorganic zinc-rich paint"},
+    {"喷砂（丸）后涂无机富锌漆", "sand- or shot-blasted with inorganic zinc-rich paint"},
     {"喷砂（丸）后生赤锈", "sand- or shot-blasted and rusted red"},
     {"钢丝刷清除浮锈", "loose rust brushed off with a wire brush"},
     {"未经处理的干净轧制表面", "clean rolled surface without treatment"},
