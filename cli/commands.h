@@ -20,11 +20,13 @@ void AddCheckCommand(CLI::App& program);
 void AddChooseCommand(CLI::App& program);
 void AddGaugeCommand(CLI::App& program);
 void AddStoreCommand(CLI::App& program);
+void AddDescribeCommand(CLI::App& program);
+void AddCompleteCommand(CLI::App& program);
 
 // The commands in the order of the help; a new one is entered here.
 inline constexpr void (*kCommands[])(CLI::App&) = {
-    AddStylesCommand, AddSectionCommand, AddTablesCommand,  AddRowsCommand,
-    AddShowCommand,   AddOutlineCommand, AddLatticeCommand, AddCodeCommand,
-    AddCheckCommand,  AddChooseCommand,  AddGaugeCommand,   AddStoreCommand};
+    AddStylesCommand,  AddSectionCommand, AddTablesCommand,   AddRowsCommand,    AddShowCommand,
+    AddOutlineCommand, AddLatticeCommand, AddCodeCommand,     AddCheckCommand,   AddChooseCommand,
+    AddGaugeCommand,   AddStoreCommand,   AddDescribeCommand, AddCompleteCommand};
 
 }  // namespace orv3::cli

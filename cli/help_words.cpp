@@ -24,7 +24,7 @@ void Group(CLI::App& command) {
     if (!option->get_positional()) option->group(Say("选项", "Options"));
   }
   for (CLI::App* each : command.get_subcommands({})) {
-    each->group(Say("命令", "Subcommands"));
+    if (!each->get_group().empty()) each->group(Say("命令", "Subcommands"));
     Group(*each);
   }
 }

@@ -92,7 +92,7 @@ std::string UnknownCommand(const CLI::App* command, const CArguments& arguments)
     command = nullptr;
     for (const CLI::App* each : commands) {
       if (each->get_name() == *word) command = each;
-      names += (names.empty() ? "" : ", ") + each->get_name();
+      if (!each->get_group().empty()) names += (names.empty() ? "" : ", ") + each->get_name();
     }
     if (!command)
       return Say("“{1}”不是命令；应为下列之一：{2}",

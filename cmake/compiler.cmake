@@ -35,6 +35,11 @@ if(ORV3CAL_BUILD_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
+# A program says nothing of when it was linked, so that the same sources give the same bytes.
+if(MINGW)
+  add_link_options(-Wl,--no-insert-timestamp)
+endif()
+
 # A Windows program needs nothing beside it, unless it sets the property ORV3CAL_SHARED_RUNTIME: on
 # i686 an exception crosses from a DLL into a program only when both share one runtime.
 if(MINGW)

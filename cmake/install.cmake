@@ -3,14 +3,14 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 install(TARGETS orv3cal EXPORT orv3calTargets)
+if(TARGET orv3cal_shared)
+  install(TARGETS orv3cal_shared EXPORT orv3calTargets)
+endif()
 install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orv3cal
         FILES_MATCHING PATTERN "*.h"
         PATTERN "posix" EXCLUDE PATTERN "win32" EXCLUDE PATTERN "module" EXCLUDE)
-# The C interface: a header without any other, and on systems without the DLL a library of its own.
+# The C interface is a header without any other.
 install(FILES src/module/orv3cal_c.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orv3cal)
-if(TARGET orv3cal_c)
-  install(TARGETS orv3cal_c)
-endif()
 if(TARGET orv3cal_dll)
   install(TARGETS orv3cal_dll)
   install(FILES ${ORV3CAL_RUNTIME_DLLS} DESTINATION ${CMAKE_INSTALL_BINDIR})
@@ -18,7 +18,7 @@ endif()
 
 # What an installation takes from the build tree, for builds of no more than that.
 add_custom_target(installed)
-foreach(target orv3cal orv3cal_c orv3cal_cli orv3cal_dll orv3browser catalogue)
+foreach(target orv3cal orv3cal_shared orv3cal_cli manual orv3cal_dll orv3browser catalogue)
   if(TARGET ${target})
     add_dependencies(installed ${target})
   endif()

@@ -3,7 +3,7 @@
 
     orv3cal_ctypes.py LIBRARY [DATA]
 
-LIBRARY is Orv3CalDll.dll (with a Python of the same 32 or 64 bits) or liborv3cal_c.so. DATA is the
+LIBRARY is Orv3CalDll.dll (with a Python of the same 32 or 64 bits) or liborv3cal.so. DATA is the
 folder of the section stores, share/orv3cal of an installation. Needs nothing but Python itself.
 """
 

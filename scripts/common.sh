@@ -36,6 +36,14 @@ need_packages() {
   rm -f "$log"
 }
 
+# The machine's own mirror of its release, without the security lists.
+main_source() {
+  codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
+  site=$(apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' |
+         awk -v release="$codename" '$2 == release && $3 == "main" { print $1; exit }')
+  [ -n "$site" ] && echo "deb $site $codename main"
+}
+
 # Gives a Wine prefix the font of the signs in a caption's buttons, which are letters without it.
 wine_symbols() {
   for font in /usr/share/wine/fonts/marlett.ttf "$CACHE/wine32/usr/share/wine/fonts/marlett.ttf"; do

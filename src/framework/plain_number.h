@@ -3,17 +3,19 @@
 
 #include <string>
 
+#include "framework/export.h"
+
 namespace orv3 {
 
 // A number as people write it: four significant digits at least, no exponent for everyday sizes.
-std::string PlainNumber(double value);
+ORV3CAL_API std::string PlainNumber(double value);
 
 // A number as it stands in a formula: with eight digits at most, so that the line is true to the
 // last digit of its result.
 std::string SubstitutedNumber(double value);
 
 // A utilisation in percent, to a tenth; above 1 with the digits that show it above 100.
-std::string PercentNumber(double utilisation);
+ORV3CAL_API std::string PercentNumber(double utilisation);
 
 // An effect and its limit side by side, with the digits that tell them apart when it is above.
 struct CComparedText {

@@ -14,7 +14,7 @@ namespace orv3 {
 enum class COperator { None, Equal, NotEqual, Greater, Less, GreaterEqual, LessEqual };
 
 // The operator written as `text` ("==", "!=", ">>", "<<", ">=", "<="); None for any other text.
-COperator OperatorOf(std::wstring_view text) noexcept;
+ORV3CAL_API COperator OperatorOf(std::wstring_view text) noexcept;
 
 // Whether a cell equals a pattern. With wildcards, a pattern that starts (ends) with "*" asks for
 // the end (the start) of the cell, one that does both for a part of it. Otherwise numbers are
@@ -49,7 +49,7 @@ class COrderTest {
 };
 
 // "column operator value" on a row; the column is one of the heading's.
-class CCondition {
+class ORV3CAL_API CCondition {
  public:
   CCondition(const CDataTableTitle& title, int column, COperator op, const CString& value,
              bool wildcard);
@@ -66,7 +66,7 @@ class CCondition {
 
 // A search expression taken apart: "sign op value" joined by "&&" or by "||", then "VIEW" and the
 // columns to keep.
-struct CSearchExpression {
+struct ORV3CAL_API CSearchExpression {
   struct CPart {
     CString m_strSign;
     CString m_strOperator;  // empty: the part holds no operator

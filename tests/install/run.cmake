@@ -26,6 +26,18 @@ set(ENV{PKG_CONFIG_PATH} ${pc_dir})
 run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${tree} -G Ninja -DCMAKE_CXX_COMPILER=${CXX}
     -DCMAKE_PREFIX_PATH=${prefix})
 run(${CMAKE_COMMAND} --build ${tree})
-set(ENV{LD_LIBRARY_PATH} ${pc_dir}/..)  # where the library was built shared
-run(${tree}/by_package)
-run(${tree}/by_pkg_config)
+run(${tree}/static_by_package)
+run(${tree}/static_by_pkg_config)
+set(ENV{LD_LIBRARY_PATH} ${pc_dir}/..)
+run(${tree}/shared_by_package)
+run(${tree}/shared_by_pkg_config)
+
+# The shared library exports nothing of the libraries that it was built with.
+file(GLOB library ${pc_dir}/../liborv3cal.so)
+execute_process(COMMAND nm -D --defined-only ${library} OUTPUT_VARIABLE symbols
+                COMMAND_ERROR_IS_FATAL ANY)
+set(foreign "S[tabsiod]|5Eigen|9__gnu_cxx|8nlohmann|3CLI")
+string(REGEX MATCHALL "_Z(Z?NK?|T[ISV]N?K?|GVN)(${foreign})[^\n]*|_ZSt[^\n]*" names "${symbols}")
+if(names OR NOT symbols MATCHES "orv3_section")
+  message(FATAL_ERROR "liborv3cal.so exports ${names}")
+endif()
