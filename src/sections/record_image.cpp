@@ -47,7 +47,7 @@ std::uint64_t Take(const CRecordImage& image, std::size_t at) {
 
 std::u16string MarkedName(const CSteelJMData& record, bool singleGroup) {
   const auto* const end = std::find(record.m_szName, std::end(record.m_szName), L'\0');
-  std::u16string name = ToUtf16({record.m_szName, end});
+  std::u16string name = ToUtf16({record.m_szName, static_cast<std::size_t>(end - record.m_szName)});
   name.resize(kNameUnits - 1, u' ');
   name[kDeletedMark] = record.m_nState == kDeleted ? u'(' : u'\x01';
   if (singleGroup) name[kStyleMark] = static_cast<char16_t>(record.m_nStyle + 20);

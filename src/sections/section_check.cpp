@@ -58,7 +58,7 @@ std::optional<CSectionFault> CheckSectionSizes(const CSectionStyle& style,
   if (auto fault = CheckCount(style, sizes.size())) return fault;
   if (auto fault = CheckSign(style, sizes)) return fault;
   double all[kSectionSizes] = {};
-  std::ranges::copy(sizes, all);
+  std::copy(sizes.begin(), sizes.end(), all);
   for (const CSizeBound& rule : style.m_pForm->m_bounds) {
     const double value = all[rule.m_nSize];
     const double bound = rule.m_pBound(CSizes(all));

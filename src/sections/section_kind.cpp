@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "sections/kind_array.h"
 #include "sections/table_types.h"
@@ -124,7 +125,8 @@ CAxisLetters AxisLetters(std::wstring_view tableName) noexcept {
 }
 
 const CSectionTable* FindSectionTable(std::wstring_view name) noexcept {
-  const auto* const found = std::ranges::find(kTables, name, &CSectionTable::Name);
+  const auto* const found = std::find_if(std::begin(kTables), std::end(kTables),
+                                         [&](const auto& each) { return each.Name() == name; });
   return found == std::end(kTables) ? nullptr : found;
 }
 

@@ -223,6 +223,15 @@ constexpr bool InOrderWithAllSizes() {
 }
 static_assert(std::size(kStyles) == kSectionStyles && InOrderWithAllSizes());
 
+// Whether the text is the alias, in capitals or not.
+bool IsAlias(std::string_view text, std::string_view alias) noexcept {
+  const auto lower = [](char ch) {
+    return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch;
+  };
+  return std::equal(text.begin(), text.end(), alias.begin(), alias.end(),
+                    [&](char one, char other) { return lower(one) == other; });
+}
+
 }  // namespace
 
 std::span<const CSectionStyle> SectionStyles() noexcept { return kStyles; }
@@ -239,11 +248,8 @@ const CSectionStyle* FindSectionStyle(std::wstring_view tableName) noexcept {
 }
 
 const CSectionStyle* FindSectionAlias(std::string_view alias) noexcept {
-  const auto lower = [](char ch) {
-    return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch - 'A' + 'a') : ch;
-  };
   for (const CSectionStyle& style : kStyles) {
-    if (std::ranges::equal(alias, std::string_view(style.m_szAlias), {}, lower)) return &style;
+    if (IsAlias(alias, style.m_szAlias)) return &style;
   }
   return nullptr;
 }

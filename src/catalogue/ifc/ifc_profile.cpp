@@ -209,7 +209,8 @@ constexpr CProfileOfKind kProfiles[] = {
 
 CParameters ParametersOf(const CDataItem& row) {
   const auto kind = FindSectionKind(row.GetTableName());
-  const auto* const profile = std::ranges::find(kProfiles, kind, &CProfileOfKind::m_kind);
+  const auto* const profile = std::find_if(std::begin(kProfiles), std::end(kProfiles),
+                                           [&](const auto& each) { return each.m_kind == kind; });
   if (profile == std::end(kProfiles)) return {};
   CRowSizes sizes(row);
   CParameters found = profile->m_pParameters(sizes);

@@ -40,7 +40,8 @@ static_assert(std::size(kDefaults) == orv3::kLatticeKinds &&
 
 const CDefaultLattice* Find(const CString& table) {
   const auto kind = orv3::FindSectionKind(table);
-  const auto* const found = std::ranges::find(kDefaults, kind, &CDefaultLattice::m_kind);
+  const auto* const found = std::find_if(std::begin(kDefaults), std::end(kDefaults),
+                                         [&](const auto& each) { return each.m_kind == kind; });
   return found == std::end(kDefaults) ? nullptr : found;
 }
 

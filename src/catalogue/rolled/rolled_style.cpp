@@ -183,7 +183,8 @@ std::span<const CRolledStyle, kRolledStyles> RolledStyles() { return kStyles; }
 
 int FindRolledStyle(std::wstring_view name) {
   const auto kind = FindSectionKind(name);
-  const auto* const found = std::ranges::find(kStyles, kind, &CRolledStyle::m_kind);
+  const auto* const found = std::find_if(std::begin(kStyles), std::end(kStyles),
+                                         [&](const auto& each) { return each.m_kind == kind; });
   return found == std::end(kStyles) ? -1 : static_cast<int>(found - kStyles);
 }
 

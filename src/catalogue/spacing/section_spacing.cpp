@@ -1,6 +1,7 @@
 #include "catalogue/spacing/section_spacing.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "catalogue/spacing/spacing_rows.h"
 #include "framework/number_text.h"
@@ -75,7 +76,8 @@ constexpr CSeries kSeries[] = {{CSectionKind::OrdinaryI, 3, 7, kBeamLines},
                                {CSectionKind::LightChannel, 6, 16, kChannelLines}};
 
 const CSeries* SeriesOf(std::optional<CSectionKind> kind) {
-  const auto* const found = std::ranges::find(kSeries, kind, &CSeries::m_kind);
+  const auto* const found = std::find_if(std::begin(kSeries), std::end(kSeries),
+                                         [&](const auto& each) { return each.m_kind == kind; });
   return found == std::end(kSeries) ? nullptr : found;
 }
 

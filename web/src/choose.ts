@@ -1,0 +1,86 @@
+// The lightest sections of chosen tables that pass a member's case.
+import member from "../../examples/member.json";
+import { change, go, state } from "./address";
+import { editions } from "./checks";
+import { ask, sentence, type Answer } from "./client";
+import { button, el, fault, field, latest, picture } from "./dom";
+import { shown } from "./figures";
+import { Form, type Case } from "./form";
+import { say } from "./language";
+import { schemaOf } from "./schema";
+import { tables } from "./sections";
+
+interface ChooseJson {
+  tried: number;
+  passing: number;
+  rows: { table: string; no: string; mass: number; ratio: number; governs: string }[];
+}
+
+const kFile = "case.json";
+
+function kept(): Case {
+  try {
+    return JSON.parse(state()["case"] ?? "") as Case;
+  } catch {
+    const { section: _, ...rest } = structuredClone(member) as Case;
+    return rest;
+  }
+}
+
+export async function choose(place: HTMLElement): Promise<void> {
+  const rolled = (await tables()).filter((table) => table.rows > 0);
+  const chosen = () => new Set((state()["tables"] ?? "热轧普通焊接H型钢,热轧窄翼缘H型钢").split(",").filter(Boolean));
+  const view = el("div", { class: "detail wide", "aria-live": "polite" });
+  const note = el("p", { class: "fault", role: "alert" });
+  const boxes = rolled.map((table) => {
+    const box = el("input", { type: "checkbox", checked: chosen().has(table.name), onchange: () => {
+      const now = chosen();
+      if (box.checked) now.add(table.name);
+      else now.delete(table.name);
+      change({ tables: [...now].join(",") });
+    } });
+    return el("label", { class: "check" }, box, ` ${table.name}`);
+  });
+  const style = el("input", { type: "text", value: state()["styles"] ?? "", placeholder: '{"style": "box", "b": [200, 400, 50], "h": 400, "t": 16}', oninput: () => change({ styles: style.value }) });
+  const top = el("input", { type: "number", min: 1, value: state()["top"] ?? "20", class: "short", oninput: () => change({ top: top.value }) });
+  const form = new Form("member", schemaOf("member"), (value) => change({ case: JSON.stringify(value) }), ["section"]);
+  const find = latest(
+    (): Promise<Answer> => {
+      const names = [...chosen()];
+      const code = state()["code"] === "2003" ? "2003" : "2017";
+      return ask(["choose", kFile, ...(names.length > 0 ? ["--table", names.join(",")] : []), ...(style.value ? ["--style", style.value] : []),
+        "--top", top.value, "--code", code, "--json", "--plot", "plot.svg"], { [kFile]: JSON.stringify(form.case) });
+    },
+    (answer) => {
+      const found = answer.status <= 1 && answer.out !== "";
+      form.blame(found ? "" : sentence(answer, kFile));
+      note.textContent = "";
+      view.classList.remove("stale");
+      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, form.case, answer) : fault(sentence(answer, kFile)));
+    },
+  );
+  const start = button(say("选择", "Choose"), () => {
+    view.classList.add("stale");
+    void find();
+  }, { class: "main" });
+  place.replaceChildren(
+    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), editions(() => {}),
+      el("details", { class: "group", open: true }, el("summary", {}, say("截面表", "Tables")), ...boxes),
+      field(say("自定义截面 --style", "Own section --style"), style), field(say("最多行数", "Rows at most"), top), start, note, form.element),
+    el("div", { class: "answer" }, view));
+  form.set(kept());
+  await find();
+}
+
+function table(answer: ChooseJson, value: Case, whole: Answer): HTMLElement {
+  const head = [say("表", "table"), say("型号", "no"), "kg/m", say("利用率", "ratio"), say("控制", "governs"), ""];
+  const body = el("tbody");
+  for (const row of answer.rows) {
+    const open = button(say("验算", "Check"), () => go({ view: "members", case: JSON.stringify({ ...value, section: { table: row.table, no: row.no } }) }));
+    body.append(el("tr", {}, el("td", {}, row.table), el("th", { scope: "row" }, row.no), el("td", { class: "num" }, shown(row.mass)),
+      el("td", { class: "num", title: String(row.ratio) }, shown(row.ratio)), el("td", {}, row.governs), el("td", {}, row.table ? open : "")));
+  }
+  return el("div", {}, el("p", { role: "status" }, say(`试算 ${answer.tried} 个截面，${answer.passing} 个满足`, `${answer.tried} sections tried, ${answer.passing} pass`)),
+    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("结果", "Results") }, el("table", { class: "figures list" }, el("thead", {}, el("tr", {}, ...head.map((each) => (each ? el("th", { scope: "col" }, each) : el("td"))))), body)),
+    picture(whole.files["plot.svg"], say("质量与利用率", "mass against ratio")));
+}

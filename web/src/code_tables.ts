@@ -1,0 +1,128 @@
+// Figures of the design code: a form from the command's own help, the answer with its source, and
+// the table with the asked cell marked, every cell of it asked from the command.
+import { change, state } from "./address";
+import { ask, run, sentence, type Answer } from "./client";
+import { button, el, field, latest, select } from "./dom";
+import { shown } from "./figures";
+import { say } from "./language";
+
+interface CodeJson {
+  value: unknown;
+  unit: string;
+  source: string;
+}
+
+// What to begin with, by question.
+const kFirst: Record<string, string> = {
+  steel: "Q345 20 f", eps: "Q345", weld: "Q345 20 ffw", bolt: "C 4.8 fv", preload: "10.9 20", slip: "1 Q345", hole: "standard 20",
+  spacing: "pitch-least 22 12", area: "20", slender: "Q345 none upper", slenderness: "", width: "flange Q345 60", phi: "60 Q345 b",
+  phib: "uniform-upper 32 6", mu: "nosway 1 1", "mu-step": "free 1 0.5", "section-class": "flange 10 Q345", class: "0 x", gamma: "0 x S1",
+  fatigue: "Z4 C",
+};
+const kGrades = ["Q235", "Q345", "Q355", "Q390", "Q420", "Q460", "Q345GJ"];
+const kSpans = ["16", "40", "63", "80", "100"]; // thickness groups of steel, mm
+
+// The lists of arguments along which a question's table runs, by the argument's place.
+const kAxes: Record<string, Record<number, string[]>> = {
+  steel: { 0: kGrades, 1: kSpans },
+  weld: { 0: kGrades, 1: kSpans },
+  eps: { 0: kGrades },
+  preload: { 0: ["8.8", "10.9"], 1: ["16", "20", "22", "24", "27", "30"] },
+  slip: { 0: ["0", "1", "2"], 1: kGrades },
+  phi: { 0: ["20", "40", "60", "80", "100", "120", "150", "200", "250"], 2: ["a", "b", "c", "d"] },
+  mu: { 1: ["0", "0.1", "0.3", "0.5", "1", "2", "5", "10"], 2: ["0", "0.1", "0.3", "0.5", "1", "2", "5", "10"] },
+  hole: { 0: ["standard", "oversize", "slot-across", "slot-along"] },
+  area: { 0: ["12", "16", "20", "22", "24", "27", "30", "36"] },
+};
+
+// The questions and what each means: the lines under the last heading of the help.
+async function questions(): Promise<[name: string, meaning: string][]> {
+  const help = (await ask(["code", "--help"])).out;
+  return [...help.matchAll(/^ {2}([a-z][a-z0-9-]+) {2,}(\S.*)$/gm)].map((line) => [line[1]!, line[2]!]);
+}
+
+// "GRADE T [f|fv|fce]" of the help, and what stands below it.
+async function wanted(question: string): Promise<{ arguments: string[]; more: string }> {
+  const help = (await ask(["code", question, "--help"])).out;
+  const line = /^ {2}ARGUMENTS[^\n]*?\.\.\.\s+(.+)$/m.exec(help)?.[1] ?? "";
+  return { arguments: line.match(/\[[^\]]*\]|\S+/g) ?? [], more: help.split(/\n\n/).slice(3).join("\n").trim() };
+}
+
+export async function codeTables(place: HTMLElement): Promise<void> {
+  const list = await questions();
+  const question = state()["ask"] ?? "steel";
+  const { arguments: names, more } = await wanted(question);
+  const given = (state()["args"] ?? kFirst[question] ?? "").split(" ");
+  const view = el("div", { class: "detail wide", "aria-live": "polite" });
+  const edition = select([["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`]], state()["code"] ?? "2017", (code) => {
+    change({ code: code === "2017" ? "" : code });
+    void show();
+  });
+  const controls = names.map((name, i) => {
+    const bare = name.replace(/[[\]]/g, "");
+    if (bare.includes("|")) {
+      const options = bare.split("|").map((each): [string, string] => [each, each]);
+      return field(bare.split("|").length > 3 ? say("量", "figure") : bare, select(name.startsWith("[") ? [["", "–"], ...options] : options, given[i] ?? "", () => keep()));
+    }
+    return field(bare, el("input", { type: "text", value: given[i] ?? "", oninput: () => keep() }));
+  });
+  const values = () => controls.map((control) => control.querySelector<HTMLInputElement | HTMLSelectElement>("input, select")!.value.trim());
+  const keep = () => {
+    change({ ask: question, args: values().join(" ") });
+    void show();
+  };
+  const code = () => (state()["code"] === "2003" ? "2003" : "2017");
+  const line = (given: string[]) => ["code", question, ...given.filter((value) => value !== ""), "--code", code(), "--json"];
+  const show = latest(
+    async (): Promise<[Answer, HTMLElement | null]> => {
+      const answer = await ask(line(values()));
+      return [answer, answer.status === 0 ? await table(kAxes[question], values(), line) : null];
+    },
+    ([answer, around]) => view.replaceChildren(answer.status === 0 ? figure(answer) : el("p", { class: "fault", role: "alert" }, sentence(answer)), around ?? ""),
+  );
+  const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => {
+    change({ ask: next, args: "" }, true);
+    void codeTables(place);
+  });
+  place.replaceChildren(
+    el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() }, el("h1", {}, say("规范表", "Code tables")),
+      field(say("查什么", "Figure"), what), el("p", { class: "note" }, list.find(([name]) => name === question)?.[1] ?? ""), ...controls,
+      field(say("规范版本", "Edition"), edition), more && el("p", { class: "note" }, more)),
+    view);
+  await show();
+}
+
+function figure(answer: Answer): HTMLElement {
+  const { value, unit, source } = JSON.parse(answer.out) as CodeJson;
+  const text = Array.isArray(value) ? value.map(shown).join(", ") : typeof value === "object" && value ? JSON.stringify(value) : shown(value);
+  return el("div", { class: "answerfigure" }, el("p", { class: "big", title: String(value) }, text, el("span", { class: "unit" }, ` ${unit}`)), el("p", { class: "note" }, source),
+    button(say("复制", "Copy"), () => void navigator.clipboard.writeText(String(value))));
+}
+
+async function table(axes: Record<number, string[]> | undefined, values: string[], line: (given: string[]) => string[]): Promise<HTMLElement | null> {
+  const [first, second] = Object.entries(axes ?? {}).map(([at, list]) => [Number(at), list] as const);
+  if (!first) return null;
+  const [rowAt, rows] = first;
+  const [columnAt, columns] = second ?? [-1, [""]];
+  // The group that the asked number falls into is the first that reaches it.
+  const place = (list: string[], value = "") => (list.includes(value) ? value : list.find((each) => Number(each) >= Number(value)) ?? "");
+  const mark = [place(rows, values[rowAt]), columnAt < 0 ? "" : place(columns, values[columnAt])];
+  const body = el("tbody");
+  for (const row of rows) {
+    const made = el("tr", {}, el("th", { scope: "row" }, row));
+    const answers = await Promise.all(columns.map((column) => {
+      const given = [...values];
+      given[rowAt] = row;
+      if (columnAt >= 0) given[columnAt] = column;
+      return run(line(given));
+    }));
+    answers.forEach((answer, i) => {
+      const marked = row === mark[0] && columns[i] === mark[1];
+      const value = answer.status === 0 ? shown((JSON.parse(answer.out) as CodeJson).value) : "–";
+      made.append(el("td", { class: marked ? "num marked" : "num", "aria-current": marked ? "true" : null }, value));
+    });
+    body.append(made);
+  }
+  const head = el("tr", {}, el("td"), ...columns.map((column) => el("th", { scope: "col", class: "num" }, column || say("值", "value"))));
+  return el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("表", "Table") }, el("table", { class: "figures list" }, el("caption", {}, say("表中各值（所查的一格加底色）", "The table, the asked cell marked")), el("thead", {}, head), body));
+}

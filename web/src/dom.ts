@@ -1,0 +1,91 @@
+// Elements of the page.
+type Child = Node | string | null | undefined | false;
+type Attributes = Record<string, string | number | boolean | null | undefined | ((event: never) => void)>;
+
+// An element with attributes, "onclick" and the like among them, and children; null is left out.
+export function el<K extends keyof HTMLElementTagNameMap>(
+  tag: K,
+  attributes: Attributes = {},
+  ...children: Child[]
+): HTMLElementTagNameMap[K] {
+  const made = document.createElement(tag);
+  for (const [name, value] of Object.entries(attributes)) {
+    if (typeof value === "function") made.addEventListener(name.slice(2), value as EventListener);
+    else if (value !== false && value != null) made.setAttribute(name, value === true ? "" : String(value));
+  }
+  made.append(...children.filter((child): child is Node | string => child !== null && child !== undefined && child !== false));
+  return made;
+}
+
+let ids = 0;
+export const newId = () => `f${++ids}`;
+
+export function button(text: string, act: () => void, more: Attributes = {}): HTMLButtonElement {
+  return el("button", { type: "button", onclick: act, ...more }, text);
+}
+
+// A label above its control.
+export function field(label: Child, control: HTMLElement, note: Child = null): HTMLElement {
+  control.id ||= newId();
+  return el("div", { class: "field" }, el("label", { for: control.id }, label), control, note);
+}
+
+export function select(options: [value: string, text: string][], value: string, changed: (value: string) => void) {
+  const made = el("select", { onchange: () => changed(made.value) });
+  for (const [each, text] of options) made.append(el("option", { value: each, selected: each === value }, text));
+  return made;
+}
+
+// The command's drawing, which comes as text; as a picture it runs no script. On white in either theme.
+export function picture(svg: string | Uint8Array | undefined, name: string): HTMLElement {
+  const holder = el("div", { class: "picture" });
+  if (svg) {
+    const image = el("img", { alt: name });
+    image.src = URL.createObjectURL(new Blob([svg as BlobPart], { type: "image/svg+xml" }));
+    image.onload = image.onerror = () => URL.revokeObjectURL(image.src);
+    holder.append(image);
+  }
+  return holder;
+}
+
+export function download(name: string, data: Uint8Array | string): void {
+  const link = el("a", { download: name });
+  link.href = URL.createObjectURL(new Blob([data as BlobPart]));
+  link.click();
+  setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
+}
+
+export async function bytesOf(file: File): Promise<Uint8Array> {
+  return new Uint8Array(await file.arrayBuffer());
+}
+
+// A place to drop files on, and a button that asks for one.
+export function dropPlace(text: string, accept: string, taken: (files: File[]) => void): HTMLElement {
+  const input = el("input", { type: "file", accept, multiple: true, onchange: () => taken([...(input.files ?? [])]) });
+  const place = el("div", { class: "drop" }, field(text, input));
+  place.ondragover = (event) => {
+    event.preventDefault();
+    place.classList.add("over");
+  };
+  place.ondragleave = () => place.classList.remove("over");
+  place.ondrop = (event) => {
+    event.preventDefault();
+    place.classList.remove("over");
+    taken([...(event.dataTransfer?.files ?? [])]);
+  };
+  return place;
+}
+
+// The last of many asks counts: an answer that a later ask has overtaken is dropped.
+export function latest<A extends unknown[], R>(ask: (...args: A) => Promise<R>, show: (answer: R) => void) {
+  let asked = 0;
+  return async (...args: A): Promise<void> => {
+    const mine = ++asked;
+    const answer = await ask(...args);
+    if (mine === asked) show(answer);
+  };
+}
+
+export function fault(text: string): HTMLElement {
+  return el("p", { class: "fault", role: "alert" }, text);
+}

@@ -1,0 +1,200 @@
+// A form made from a schema: edits a case and knows its fields by their paths, as the command's
+// sentences name them. What is empty is left out of the case.
+import { button, el, newId } from "./dom";
+import { say } from "./language";
+import { isType, wordsOf, type Kind, type Schema } from "./schema";
+
+export type Case = Record<string, unknown>;
+
+const kHead = ["id", "project", "date", "calculated", "checked", "approved"];
+
+export class Form {
+  readonly element = el("form", { class: "form" });
+  private past: string[] = [];
+  private fields = new Map<string, { control: HTMLElement; note: HTMLElement }>();
+  private value: Case = {};
+
+  // `left`: keys that the form does without.
+  constructor(
+    private readonly kind: Kind,
+    private readonly schema: Schema,
+    private readonly changed: (value: Case) => void,
+    private readonly left: string[] = [],
+  ) {
+    this.element.onsubmit = (event) => event.preventDefault();
+  }
+
+  get case(): Case {
+    return this.value;
+  }
+
+  // Another case; what stood there before can be had back.
+  set(value: Case): void {
+    this.value = structuredClone(value);
+    this.draw();
+  }
+
+  replace(value: Case): void {
+    this.remember();
+    this.set(value);
+    this.changed(this.value);
+  }
+
+  undo(): void {
+    const before = this.past.pop();
+    if (before === undefined) return;
+    this.set(JSON.parse(before) as Case);
+    this.changed(this.value);
+  }
+
+  // Shows a sentence at the field that it names, or above all.
+  blame(sentence: string): void {
+    for (const { control, note } of this.fields.values()) {
+      control.removeAttribute("aria-invalid");
+      note.textContent = "";
+    }
+    if (!sentence) return;
+    const named = /^(?:[^:：]*(?:case|算例)[^:：]*[:：]\s*)?([^\s:：]+)\s*[:：]/.exec(sentence)?.[1] ?? "";
+    const paths = [named, named.replace(/\[\d+\]$/, ""), named.replace(/\.[^.]*$/, "")];
+    const found = paths.map((path) => this.fields.get(path)).find(Boolean) ?? this.fields.get("");
+    found?.control.setAttribute("aria-invalid", "true");
+    if (found) found.note.textContent = sentence;
+  }
+
+  private remember(): void {
+    this.past.push(JSON.stringify(this.value));
+    if (this.past.length > 200) this.past.shift();
+  }
+
+  private put(path: string[], value: unknown): void {
+    this.remember();
+    put(this.value, path, value);
+    this.changed(this.value);
+  }
+
+  private draw(): void {
+    this.fields.clear();
+    const above = el("p", { class: "fault", role: "alert" });
+    this.fields.set("", { control: this.element, note: above });
+    const properties = Object.entries(this.schema.properties ?? {}).filter(([key]) => !this.left.includes(key));
+    const required = new Set(this.schema.required);
+    const group = (keys: [string, Schema][]) => keys.map(([key, schema]) => this.field([key], schema, required.has(key)));
+    const head = properties.filter(([key]) => kHead.includes(key));
+    const must = properties.filter(([key]) => required.has(key) && !kHead.includes(key));
+    const may = properties.filter(([key]) => !required.has(key) && !kHead.includes(key));
+    this.element.replaceChildren(
+      el("div", { class: "tools" },
+        button(say("撤销", "Undo"), () => this.undo(), { title: "Ctrl+Z" }),
+        button(say("清空", "Clear"), () => this.replace({}))),
+      above,
+      ...group(must),
+      ...(this.kind === "member" ? group(may) : [fold(say("其他", "More"), group(may), may.some(([key]) => key in this.value))]),
+      fold(say("计算书页首", "Head of the report"), group(head), head.some(([key]) => key in this.value)));
+    this.element.onkeydown = (event) => {
+      if (!(event.ctrlKey || event.metaKey) || event.key.toLowerCase() !== "z" || event.shiftKey) return;
+      event.preventDefault();
+      this.undo();
+    };
+  }
+
+  private field(path: string[], schema: Schema, required = false): HTMLElement {
+    const key = path.at(-1)!;
+    const value = get(this.value, path);
+    if (schema.properties) return this.group(path, schema, required);
+    if (isType(schema, "array") && schema.items?.properties) return this.list(path, schema.items);
+    const { name, takes, unit } = wordsOf(this.kind, path.join("."), schema);
+    const note = el("p", { class: "fault", role: "alert", id: newId() });
+    const control = this.control(path, schema, value);
+    control.id = newId();
+    control.setAttribute("aria-describedby", note.id);
+    if (takes) control.title = takes;
+    this.fields.set(pathText(path), { control, note });
+    return el("div", { class: required ? "field must" : "field" },
+      el("label", { for: control.id }, el("b", {}, key), name && name !== key ? ` ${name}` : ""),
+      el("span", { class: "control" }, control, el("span", { class: "unit" }, unit)), note);
+  }
+
+  private control(path: string[], schema: Schema, value: unknown): HTMLElement {
+    const choices = schema.enum ? [...new Map(schema.enum.map((each) => [String(each), each])).values()]
+      : schema.type === "boolean" ? [true, false] : null;
+    if (choices) {
+      const made = el("select", { onchange: () => this.put(path, choices.find((each) => String(each) === made.value)) }, el("option", { value: "" }, "–"));
+      for (const each of choices) {
+        const text = each === true ? say("是", "yes") : each === false ? say("否", "no") : String(each);
+        made.append(el("option", { value: String(each), selected: value !== undefined && String(each) === String(value) }, text));
+      }
+      return made;
+    }
+    const made = el("input", { type: "text", value: textOf(value), autocomplete: "off", oninput: () => this.put(path, valueOf(made.value, schema)) });
+    if (!isType(schema, "string")) made.inputMode = "decimal";
+    return made;
+  }
+
+  private group(path: string[], schema: Schema, open: boolean): HTMLElement {
+    const must = new Set(schema.required);
+    const { name } = wordsOf(this.kind, path.join("."), schema);
+    const title = `${path.at(-1)} ${name === path.at(-1) ? "" : name}`;
+    const note = el("p", { class: "fault", role: "alert" });
+    const inside = Object.entries(schema.properties!).map(([key, each]) => this.field([...path, key], each, must.has(key)));
+    const made = fold(title, [note, ...inside], open || get(this.value, path) !== undefined || path[0] === "lengths");
+    this.fields.set(pathText(path), { control: made, note });
+    return made;
+  }
+
+  // Objects one below the other, with a button that adds one.
+  private list(path: string[], items: Schema): HTMLElement {
+    const values = (get(this.value, path) as unknown[] | undefined) ?? [];
+    const note = el("p", { class: "fault", role: "alert" });
+    const rows = values.map((_, i) => el("fieldset", { class: "item" }, el("legend", {}, `${path.at(-1)} ${i + 1}`),
+      ...Object.entries(items.properties!).map(([key, each]) => this.field([...path, String(i), key], each, items.required?.includes(key))),
+      button(say("删去", "Remove"), () => this.edit(path, values.filter((_, at) => at !== i)))));
+    const made = fold(path.at(-1)!, [note, ...rows, button(say("添加", "Add"), () => this.edit(path, [...values, structuredClone(values.at(-1) ?? {})]))], true);
+    this.fields.set(pathText(path), { control: made, note });
+    return made;
+  }
+
+  private edit(path: string[], value: unknown[]): void {
+    this.put(path, value.length > 0 ? value : undefined);
+    this.draw();
+  }
+}
+
+function fold(title: string, inside: HTMLElement[], open: boolean): HTMLElement {
+  return inside.length === 0 ? el("span") : el("details", { class: "group", open }, el("summary", {}, title), ...inside);
+}
+
+// "welds[0].x1", as the command writes a place.
+const pathText = (path: string[]) => path.reduce((text, key) => (/^\d+$/.test(key) ? `${text}[${key}]` : text ? `${text}.${key}` : key), "");
+
+function get(value: unknown, path: string[]): unknown {
+  return path.reduce<unknown>((at, key) => (at as Record<string, unknown> | undefined)?.[key], value);
+}
+
+function put(value: Record<string, unknown>, path: string[], set: unknown): void {
+  const [key, ...rest] = path as [string, ...string[]];
+  if (rest.length === 0) {
+    if (set === undefined) delete value[key];
+    else value[key] = set;
+    return;
+  }
+  const inner = (value[key] ??= {}) as Record<string, unknown>;
+  put(inner, rest, set);
+  if (!Array.isArray(inner) && Object.keys(inner).length === 0) delete value[key];
+}
+
+const textOf = (value: unknown): string => (value === undefined ? "" : Array.isArray(value) ? value.join("; ") : String(value));
+
+// What is typed, as JSON has it: a number, a list with semicolons, else text, which the command then judges.
+function valueOf(text: string, schema: Schema): unknown {
+  const trimmed = text.trim();
+  if (trimmed === "") return undefined;
+  if (trimmed.includes(";") && isType(schema, "array")) return trimmed.split(";").filter((part) => part.trim()).map((part) => one(part, schema.items ?? schema));
+  if (schema.type === "array") return [one(trimmed, schema.items ?? schema)];
+  return one(trimmed, schema);
+}
+
+function one(text: string, schema: Schema): unknown {
+  const number = /^[+-]?(\d+\.?\d*|\.\d+)(e[+-]?\d+)?$/i.test(text.trim()) ? Number(text) : Number.NaN;
+  const numeric = isType(schema, "number") || isType(schema, "integer");
+  return Number.isNaN(number) || !numeric ? text.trim() : number;
+}

@@ -1,0 +1,161 @@
+// A table of any length, of which the rows in sight alone are in the page. Arrow keys move the
+// chosen row, the headings sort.
+import { el } from "./dom";
+import { say } from "./language";
+
+export interface Column {
+  name: string;
+  title?: string;
+  numeric: boolean;
+}
+
+interface Wishes {
+  label: string;
+  columns: Column[];
+  rows: string[][];
+  chosen?: (row: string[]) => void;
+  marked?: { has(row: string[]): boolean; toggle(row: string[]): void };
+  isChosen?: (row: string[]) => boolean;
+  sort?: string; // "NAME" or "NAME:desc"
+  sorted?: (sort: string) => void;
+}
+
+const kRowHeight = 30;
+const kMargin = 12; // rows above and below what is in sight
+
+const number = (text: string) => (text.trim() === "" ? Number.NEGATIVE_INFINITY : Number(text));
+
+export function compareCells(a: string, b: string, numeric: boolean): number {
+  const [x, y] = [number(a), number(b)];
+  if (numeric && !Number.isNaN(x) && !Number.isNaN(y)) return x - y || (a < b ? -1 : a > b ? 1 : 0);
+  return a.localeCompare(b, "zh-CN", { numeric: true });
+}
+
+export class Grid {
+  readonly element: HTMLElement;
+  private readonly body = el("tbody");
+  private rows: string[][];
+  private order: string[][] = [];
+  private current = -1;
+  private sort: string;
+  private readonly headings: HTMLElement[] = [];
+
+  constructor(private readonly wishes: Wishes) {
+    this.rows = wishes.rows;
+    this.sort = wishes.sort ?? "";
+    const head = el("tr");
+    if (wishes.marked) head.append(el("th", { scope: "col" }, el("span", { class: "hidden" }, say("比较", "compare"))));
+    const columns = el("colgroup");
+    if (wishes.marked) columns.append(el("col", { style: "width: 34px" }));
+    wishes.columns.forEach((column, i) => {
+      const longest = wishes.rows.reduce((most, row) => Math.max(most, width(row[i] ?? "")), width(column.name) + 2);
+      columns.append(el("col", { style: `width: ${Math.min(Math.max(longest, 5), 34) * 7.6 + 16}px` }));
+      const sorter = el("button", { type: "button", title: column.title, onclick: () => this.sortBy(column.name) }, column.name);
+      const heading = el("th", { scope: "col", class: column.numeric ? "num" : null }, sorter);
+      this.headings.push(heading);
+      head.append(heading);
+    });
+    const table = el(
+      "table",
+      { role: "grid", "aria-label": wishes.label },
+      columns,
+      el("thead", {}, head),
+      this.body,
+    );
+    this.element = el("div", { class: "grid", tabindex: 0, role: "group", "aria-label": wishes.label, onkeydown: (event: KeyboardEvent) => this.key(event) }, table);
+    this.element.addEventListener("scroll", () => this.draw(), { passive: true });
+    new ResizeObserver(() => this.draw()).observe(this.element);
+    this.show(wishes.rows);
+  }
+
+  // Other rows under the same headings; the chosen one stays so.
+  show(rows: string[][]): void {
+    this.rows = rows;
+    const [name, way] = this.sort.split(/:(?=desc$)/);
+    const at = this.wishes.columns.findIndex((column) => column.name === name);
+    this.order = at < 0 ? rows : [...rows].sort((a, b) => compareCells(a[at] ?? "", b[at] ?? "", this.wishes.columns[at]!.numeric));
+    if (at >= 0 && way) this.order.reverse();
+    this.headings.forEach((heading, i) => {
+      heading.setAttribute("aria-sort", i !== at ? "none" : way ? "descending" : "ascending");
+    });
+    this.current = this.wishes.isChosen ? this.order.findIndex(this.wishes.isChosen) : -1;
+    this.element.firstElementChild!.setAttribute("aria-rowcount", String(rows.length + 1));
+    this.draw();
+  }
+
+  reveal(): void {
+    if (this.current < 0) return;
+    const top = this.current * kRowHeight;
+    const seen = this.element.clientHeight - 2 * kRowHeight;
+    if (top < this.element.scrollTop) this.element.scrollTop = top;
+    else if (top > this.element.scrollTop + seen) this.element.scrollTop = top - seen;
+    this.draw();
+  }
+
+  private sortBy(name: string): void {
+    this.sort = this.sort === name ? `${name}:desc` : this.sort === `${name}:desc` ? "" : name;
+    this.wishes.sorted?.(this.sort);
+    this.show(this.rows);
+  }
+
+  private choose(at: number): void {
+    const row = this.order[at];
+    if (!row) return;
+    this.current = at;
+    this.reveal();
+    this.wishes.chosen?.(row);
+  }
+
+  private key(event: KeyboardEvent): void {
+    const page = Math.max(1, Math.floor(this.element.clientHeight / kRowHeight) - 2);
+    const steps: Record<string, number> = { ArrowDown: 1, ArrowUp: -1, PageDown: page, PageUp: -page, Home: -this.order.length, End: this.order.length };
+    const step = steps[event.key];
+    if (event.key === " " && this.wishes.marked && event.target === this.element) {
+      const row = this.order[this.current];
+      if (row) this.wishes.marked.toggle(row);
+      this.draw();
+    } else if (step === undefined || !this.wishes.chosen) {
+      return;
+    } else {
+      this.choose(Math.min(Math.max(this.current + step, 0), this.order.length - 1));
+    }
+    event.preventDefault();
+  }
+
+  private draw(): void {
+    const first = Math.max(0, Math.floor(this.element.scrollTop / kRowHeight) - kMargin);
+    const last = Math.min(this.order.length, first + Math.ceil((this.element.clientHeight || 600) / kRowHeight) + 2 * kMargin);
+    const gap = (rows: number) => {
+      const cell = el("td", { colspan: this.wishes.columns.length + 1 });
+      cell.style.height = `${rows * kRowHeight}px`;
+      return rows > 0 ? [el("tr", { class: "gap", "aria-hidden": "true" }, cell)] : [];
+    };
+    const rows = this.order.slice(first, last).map((row, i) => this.line(row, first + i));
+    this.body.replaceChildren(...gap(first), ...rows, ...gap(this.order.length - last));
+  }
+
+  private line(row: string[], at: number): HTMLElement {
+    const { columns, marked, chosen } = this.wishes;
+    const line = el("tr", { "aria-rowindex": at + 2, "aria-selected": chosen ? String(at === this.current) : null });
+    if (chosen) line.addEventListener("click", () => this.choose(at));
+    if (marked) {
+      const box = el("input", { type: "checkbox", tabindex: -1, "aria-label": `${say("比较", "compare")} ${row[0] ?? ""}` });
+      box.checked = marked.has(row);
+      box.onclick = (event) => event.stopPropagation();
+      box.onchange = () => marked.toggle(row);
+      line.append(el("td", {}, box));
+    }
+    columns.forEach((column, i) => {
+      const text = row[i] ?? "";
+      line.append(el("td", { class: column.numeric ? "num" : null, title: text.length > 24 ? text : null }, text));
+    });
+    return line;
+  }
+}
+
+// Of a text in a fixed table: Chinese characters take twice the room.
+function width(text: string): number {
+  let sum = 0;
+  for (const ch of text) sum += ch > "\u2e7f" ? 2 : 1;
+  return sum;
+}

@@ -1,0 +1,67 @@
+// The page: its head, and the view that the address names.
+import { change, go, state } from "./address";
+import { choose } from "./choose";
+import { connections, latticeColumns, members } from "./checks";
+import { run } from "./client";
+import { codeTables } from "./code_tables";
+import { button, el, fault } from "./dom";
+import { language, say } from "./language";
+import { ownSections } from "./own_sections";
+import { sections } from "./sections";
+import { storeView } from "./store_view";
+
+declare global {
+  interface Window {
+    orv3cal: { run: typeof run };
+  }
+}
+window.orv3cal = { run };
+
+const kViews: Record<string, [zh: string, en: string, show: (place: HTMLElement) => Promise<void>]> = {
+  sections: ["截面", "Sections", sections],
+  own: ["自定义截面", "Own section", ownSections],
+  lattice: ["格构柱", "Lattice columns", latticeColumns],
+  connections: ["连接", "Connections", connections],
+  members: ["构件", "Members", members],
+  choose: ["选择", "Choose", choose],
+  code: ["规范表", "Code tables", codeTables],
+  store: ["自己的库", "Own store", storeView],
+};
+
+function dark(): boolean {
+  return (state()["theme"] ?? (matchMedia("(prefers-color-scheme: dark)").matches ? "dark" : "light")) === "dark";
+}
+
+function head(view: string): HTMLElement {
+  const links = Object.entries(kViews).map(([key, [zh, en]]) =>
+    el("a", { href: `#view=${key}`, "aria-current": key === view ? "page" : null, onclick: (event: MouseEvent) => {
+      event.preventDefault();
+      go({ view: key });
+    } }, say(zh, en)));
+  const other = language() === "zh" ? "en" : "zh";
+  return el("header", {}, el("span", { class: "brand" }, "Orv3Cal"), el("nav", { "aria-label": say("页面", "Views") }, ...links),
+    el("span", { class: "switches" },
+      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); void draw(); }, { lang: other }),
+      button(dark() ? "☀" : "☾", () => { change({ theme: dark() ? "light" : "dark" }); void draw(); }, { "aria-label": say("明暗", "light or dark") })));
+}
+
+let draws = 0;
+async function draw(): Promise<void> {
+  const mine = ++draws;
+  const view = state()["view"] ?? "sections";
+  const [zh, en, show] = kViews[view] ?? kViews["sections"]!;
+  document.documentElement.lang = language() === "zh" ? "zh-CN" : "en";
+  document.documentElement.dataset["theme"] = dark() ? "dark" : "light";
+  document.title = `${say(zh, en)} – Orv3Cal`;
+  const main = el("main", { class: view, "aria-busy": "true" }, el("p", { class: "note" }, say("载入中…", "Loading…")));
+  document.getElementById("page")!.replaceChildren(head(view), main);
+  try {
+    await show(main);
+  } catch (error) {
+    if (mine === draws) main.replaceChildren(fault(String(error)));
+  }
+  main.setAttribute("aria-busy", "false");
+}
+
+addEventListener("popstate", () => void draw());
+void draw();

@@ -1,0 +1,88 @@
+// A section's picture, cells, geometry and exact figures; of a table's row or of sizes.
+import type { Answer } from "./client";
+import { button, download, el, fault, picture } from "./dom";
+import { nameOf, shown, signParts, unitOf } from "./figures";
+import { say } from "./language";
+
+type Figures = Record<string, unknown>;
+
+export interface SectionJson {
+  table?: string;
+  no?: string;
+  name?: string;
+  columns?: { sign: string; name: string }[];
+  cells?: string[];
+  geometry?: Figures;
+  properties?: Figures;
+  exact?: Figures;
+  accurate?: boolean;
+}
+
+export type FigureLine = [sign: string, value: string, unit: string, name: string, whole: string];
+
+export function figureLines(figures: Figures = {}): FigureLine[] {
+  return Object.entries(figures)
+    .filter(([, value]) => value === null || typeof value !== "object")
+    .map(([key, value]) => [key, shown(value), unitOf(key), nameOf(key), String(value)]);
+}
+
+export function cellLines(section: SectionJson): FigureLine[] {
+  return (section.columns ?? []).map((column, i) => {
+    const [sign, unit] = signParts(column.sign);
+    const cell = section.cells?.[i] ?? "";
+    return [sign, cell, unit, column.name, cell];
+  });
+}
+
+export function figureTable(caption: string, lines: FigureLine[]): HTMLElement {
+  const body = el("tbody");
+  for (const [sign, value, unit, name, whole] of lines) {
+    body.append(
+      el(
+        "tr",
+        {},
+        el("th", { scope: "row" }, sign),
+        el("td", { class: "num", title: whole }, value),
+        el("td", { class: "unit" }, unit),
+        el("td", { class: "name" }, name),
+      ),
+    );
+  }
+  return el("table", { class: "figures" }, el("caption", {}, caption), body);
+}
+
+function asText(blocks: [string, FigureLine[]][]): string {
+  return blocks
+    .map(([caption, lines]) => [caption, ...lines.map(([sign, , unit, name, whole]) => [sign, whole, unit, name].join("\t"))].join("\n"))
+    .join("\n\n");
+}
+
+// `files`: the pictures and outlines that the command wrote beside its answer, by their names.
+export function sectionView(title: string, answer: Answer, file = title): HTMLElement {
+  if (answer.status !== 0) return fault(answer.err.trim().replace(/^orv3cal: /, ""));
+  const section = JSON.parse(answer.out) as SectionJson;
+  const blocks: [string, FigureLine[]][] = [];
+  if (section.cells) blocks.push([say("表中数据", "As printed in the table"), cellLines(section)]);
+  if (section.properties) blocks.push([say("按公式", "By the style's formulas"), figureLines(section.properties)]);
+  if (section.geometry) blocks.push([say("几何", "Geometry"), figureLines(section.geometry)]);
+  if (section.exact) blocks.push([say("精确值（按外轮廓）", "Exact, from the outline"), figureLines(section.exact)]);
+  const bare = file.replace(/[\\/:*?"<>|]/g, "_");
+  const files = Object.entries(answer.files).map(([name, bytes]) => {
+    const form = name.slice(name.lastIndexOf(".") + 1);
+    return button(form.toUpperCase(), () => download(`${bare}.${form}`, bytes), { title: say("保存文件", "save as a file") });
+  });
+  return el(
+    "article",
+    { class: "section", "aria-label": title },
+    el("h2", {}, title),
+    picture(answer.files["picture.svg"], title),
+    el(
+      "div",
+      { class: "tools" },
+      button(say("复制", "Copy"), () => void navigator.clipboard.writeText(asText(blocks))),
+      ...files,
+    ),
+    section.accurate === false && el("p", { class: "warn" }, say("精确值的误差估计偏大。", "The error estimate of the exact figures is large.")),
+    ...blocks.map(([caption, lines]) => figureTable(caption, lines)),
+  );
+}

@@ -1,0 +1,175 @@
+// Sections: the tables, the rows of one, and the section that is chosen; several beside each other.
+import { change, go, state } from "./address";
+import { ask, run, type Answer } from "./client";
+import { csvText } from "./csv";
+import { button, download, el, fault, field, latest, select } from "./dom";
+import { Grid, type Column } from "./grid";
+import { say } from "./language";
+import { cellLines, figureLines, sectionView, type FigureLine, type SectionJson } from "./section_view";
+import { workbook } from "./workbook";
+
+export interface TableJson {
+  name: string;
+  source: string;
+  family: string;
+  rows: number;
+}
+interface RowsJson {
+  table: string;
+  columns: { sign: string; name: string; type: string; key: boolean }[];
+  rows: { cells: string[] }[];
+}
+
+const kFamilies: Record<string, string> = {
+  "I and H": "工字形与 H 形", T: "T 形", Z: "Z 形", angle: "角钢", "angle pair": "组合角钢", box: "箱形与方管",
+  channel: "槽形", "channel pair": "组合槽钢", round: "圆形与圆管", cross: "十字形", lattice: "格构柱", solid: "实心",
+};
+
+export async function tables(): Promise<TableJson[]> {
+  const answer = await run(["tables", "--json"]);
+  return answer.status === 0 ? (JSON.parse(answer.out) as TableJson[]) : [];
+}
+
+const isNumeric = (type: string) => type !== "text" && type !== "char";
+
+function tree(list: TableJson[], chosen: string): HTMLElement {
+  const nav = el("nav", { class: "tree", "aria-label": say("截面表", "Tables") });
+  for (const source of ["rolled", "user-defined"]) {
+    const mine = list.filter((table) => table.source === source && (source === "rolled" || table.rows > 0));
+    if (mine.length === 0) continue;
+    nav.append(el("h2", {}, source === "rolled" ? say("型钢", "Rolled") : say("自定义截面", "Own section")));
+    for (const family of new Set(mine.map((table) => table.family))) {
+      const items = mine.filter((table) => table.family === family).map((table) =>
+        el("li", {}, el("a", { href: `#view=sections&table=${encodeURIComponent(table.name)}`, "aria-current": table.name === chosen ? "true" : null,
+          onclick: (event: MouseEvent) => { event.preventDefault(); go({ view: "sections", table: table.name }); } },
+          table.name, el("span", { class: "count" }, ` ${table.rows}`))));
+      nav.append(el("h3", {}, say(kFamilies[family] ?? family, family)), el("ul", {}, ...items));
+    }
+  }
+  return nav;
+}
+
+// Filters of the state: "SIGN,least,most;..."; an empty bound is none.
+type Range = [sign: string, least: string, most: string];
+const ranges = (): Range[] => (state()["range"] ?? "").split(";").filter(Boolean).map((each) => each.split("|") as Range);
+
+function matching(rows: string[][], columns: RowsJson["columns"], words: string[], filters: Range[]): string[][] {
+  const bounds = filters.map(([sign, least, most]) => [columns.findIndex((column) => column.sign === sign), least, most] as const);
+  return rows.filter((row) => {
+    const text = row.join("\u0000").toLowerCase();
+    return words.every((word) => text.includes(word)) && bounds.every(([at, least, most]) =>
+      at < 0 || ((least === "" || Number(row[at]) >= Number(least)) && (most === "" || Number(row[at]) <= Number(most))));
+  });
+}
+
+function compared(): string[] {
+  return (state()["compare"] ?? "").split(";").filter(Boolean);
+}
+
+async function comparison(place: HTMLElement): Promise<void> {
+  const list = compared();
+  if (list.length === 0) return place.replaceChildren();
+  const sections = (await Promise.all(list.map((each) => ask(["show", ...each.split("|"), "--json"]))))
+    .map((answer) => (answer.status === 0 ? (JSON.parse(answer.out) as SectionJson) : null));
+  const lines = new Map<string, FigureLine[]>();
+  sections.forEach((section, i) => {
+    if (!section) return;
+    for (const line of [...cellLines(section), ...figureLines(section.exact).map(([sign, ...rest]) => [`${sign} *`, ...rest] as FigureLine)]) {
+      const key = `${line[0]}\t${line[2]}`;
+      if (!lines.has(key)) lines.set(key, []);
+      lines.get(key)![i] = line;
+    }
+  });
+  const head = el("tr", {}, el("th", { scope: "col" }, say("量", "figure")), el("th", { scope: "col" }, say("单位", "unit")));
+  list.forEach((each) => head.append(el("th", { scope: "col", class: "num" }, each.split("|")[1] ?? "",
+    button("×", () => { change({ compare: compared().filter((other) => other !== each).join(";") }); void comparison(place); },
+      { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${each.split("|")[1]}` }))));
+  const body = el("tbody");
+  for (const [key, values] of lines) {
+    const [sign, unit] = key.split("\t");
+    body.append(el("tr", {}, el("th", { scope: "row" }, sign), el("td", { class: "unit" }, unit),
+      ...list.map((_, i) => el("td", { class: "num", title: values[i]?.[4] }, values[i]?.[1] ?? ""))));
+  }
+  place.replaceChildren(el("h2", {}, say("比较", "Compared")),
+    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("比较", "Compared") }, el("table", { class: "figures compare" }, el("thead", {}, head), body)),
+    el("p", { class: "note" }, say("* 按外轮廓的精确值，mm", "* exact, from the outline, mm")));
+}
+
+export async function sections(place: HTMLElement): Promise<void> {
+  const list = await tables();
+  const table = state()["table"] ?? list.find((each) => each.rows > 0)?.name ?? "";
+  const answer = await ask(["rows", table, "--json"]);
+  const left = tree(list, table);
+  if (answer.status !== 0) return place.replaceChildren(left, fault(answer.err));
+  const { columns, rows } = JSON.parse(answer.out) as RowsJson;
+  const all = rows.map((row) => row.cells);
+  const key = Math.max(0, columns.findIndex((column) => column.key));
+  const detail = el("div", { class: "detail", "aria-live": "polite" });
+  const beside = el("div", { class: "beside" });
+  const count = el("span", { class: "note", role: "status" });
+
+  const showDetail = latest(
+    (no: string): Promise<[string, Answer]> => {
+      const turn = state()["turn"] ?? "0";
+      return ask(["show", table, no, "--turn", turn, "--json", "--svg", "picture.svg", "--dxf", "outline.dxf", "--ifc", "profile.ifc"]).then((shown) => [no, shown]);
+    },
+    ([no, shown]) => {
+      const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void showDetail(no); });
+      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no), field(say("转角", "Turned by"), turns));
+    },
+  );
+  const isMarked = (row: string[]) => compared().includes(`${table}|${row[key]}`);
+  const grid = new Grid({
+    label: table,
+    columns: columns.map<Column>((column) => ({ name: column.sign, title: column.name, numeric: isNumeric(column.type) })),
+    rows: all,
+    sort: state()["sort"] ?? "",
+    sorted: (sort) => change({ sort }),
+    isChosen: (row) => row[key] === state()["no"],
+    chosen: (row) => { change({ no: row[key]! }); void showDetail(row[key]!); },
+    marked: { has: isMarked, toggle: (row) => {
+      const each = `${table}|${row[key]}`;
+      change({ compare: (isMarked(row) ? compared().filter((other) => other !== each) : [...compared(), each]).join(";") });
+      void comparison(beside);
+    } },
+  });
+  const words = () => (state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
+  let seen = all;
+  const filter = () => {
+    seen = matching(all, columns, words(), ranges());
+    grid.show(seen);
+    count.textContent = say(`${seen.length} / ${all.length} 行`, `${seen.length} of ${all.length} rows`);
+  };
+  const search = el("input", { type: "search", value: state()["q"] ?? "", oninput: () => { change({ q: search.value }); filter(); } });
+  const heads = () => [columns.map((column) => column.name), columns.map((column) => column.sign)];
+  const numeric = columns.map((column) => isNumeric(column.type));
+  const tools = el("div", { class: "tools" },
+    field(say("在所有列中查找", "Search all columns"), search),
+    rangeFilter(columns.filter((column) => isNumeric(column.type)).map((column) => column.sign), filter),
+    count,
+    button(say("复制", "Copy"), () => void navigator.clipboard.writeText([columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n"))),
+    button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...seen]))),
+    button("XLSX", () => download(`${table}.xlsx`, workbook(table, [...heads(), ...seen], numeric, 2))));
+  place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
+  filter();
+  grid.reveal();
+  void comparison(beside);
+  const first = state()["no"] ?? all[0]?.[key];
+  if (first) await showDetail(first);
+}
+
+// A range that a column's numbers must lie in, kept in the state.
+function rangeFilter(signs: string[], changed: () => void): HTMLElement {
+  const [[sign = "", least = "", most = ""] = []] = ranges() as (Range | [])[];
+  const column = select([["", "–"], ...signs.map((each): [string, string] => [each, each])], sign, () => keep());
+  const low = el("input", { type: "number", step: "any", value: least, class: "short", "aria-label": say("不小于", "at least"), oninput: () => keep() });
+  const high = el("input", { type: "number", step: "any", value: most, class: "short", "aria-label": say("不大于", "at most"), oninput: () => keep() });
+  const keep = () => {
+    change({ range: column.value ? `${column.value}|${low.value}|${high.value}` : "" });
+    changed();
+  };
+  const made = field(say("数值范围", "Number range"), column);
+  made.append(low, "–", high);
+  made.classList.add("range");
+  return made;
+}

@@ -1,0 +1,148 @@
+// Workbooks (.xlsx) of one sheet: a zip archive of a few XML files, stored or deflated.
+const kRelations = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
+const kSheet = "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
+const kPackage = "http://schemas.openxmlformats.org/package/2006";
+const kHead = '<?xml version="1.0" encoding="UTF-8" standalone="yes"?>\n';
+
+const kCrc = Uint32Array.from({ length: 256 }, (_, n) => {
+  for (let k = 0; k < 8; ++k) n = n & 1 ? (n >>> 1) ^ 0xedb88320 : n >>> 1;
+  return n;
+});
+
+function crc32(data: Uint8Array): number {
+  let crc = 0xffffffff;
+  for (const byte of data) crc = kCrc[(crc ^ byte) & 0xff]! ^ (crc >>> 8);
+  return ~crc >>> 0;
+}
+
+// An archive of files as they are.
+function zip(files: [name: string, text: string][]): Uint8Array {
+  const parts: Uint8Array[] = [];
+  const list: Uint8Array[] = [];
+  let at = 0;
+  for (const [name, text] of files) {
+    const path = new TextEncoder().encode(name);
+    const data = new TextEncoder().encode(text);
+    // version 2.0, UTF-8 names, stored, 1980-01-01
+    const common = [20, 0x800, 0, 0, 0x21];
+    const head = new DataView(new ArrayBuffer(30));
+    head.setUint32(0, 0x04034b50, true);
+    common.forEach((value, i) => head.setUint16(4 + 2 * i, value, true));
+    const entry = new DataView(new ArrayBuffer(46));
+    entry.setUint32(0, 0x02014b50, true);
+    entry.setUint16(4, 20, true);
+    common.forEach((value, i) => entry.setUint16(6 + 2 * i, value, true));
+    for (const [view, from] of [[head, 14], [entry, 16]] as const) {
+      view.setUint32(from, crc32(data), true);
+      view.setUint32(from + 4, data.length, true);
+      view.setUint32(from + 8, data.length, true);
+      view.setUint16(from + 12, path.length, true);
+    }
+    entry.setUint32(42, at, true);
+    list.push(new Uint8Array(entry.buffer), path);
+    parts.push(new Uint8Array(head.buffer), path, data);
+    at += 30 + path.length + data.length;
+  }
+  const size = list.reduce((sum, part) => sum + part.length, 0);
+  const end = new DataView(new ArrayBuffer(22));
+  end.setUint32(0, 0x06054b50, true);
+  end.setUint16(8, files.length, true);
+  end.setUint16(10, files.length, true);
+  end.setUint32(12, size, true);
+  end.setUint32(16, at, true);
+  return joined([...parts, ...list, new Uint8Array(end.buffer)]);
+}
+
+function joined(parts: Uint8Array[]): Uint8Array {
+  const whole = new Uint8Array(parts.reduce((sum, part) => sum + part.length, 0));
+  let at = 0;
+  for (const part of parts) {
+    whole.set(part, at);
+    at += part.length;
+  }
+  return whole;
+}
+
+const escaped = (text: string) =>
+  text.replace(/[\u0000-\u0008\u000b\u000c\u000e-\u001f]/g, "").replaceAll("&", "&amp;").replaceAll("<", "&lt;").replaceAll('"', "&quot;");
+
+function cellXml(text: string, numeric: boolean): string {
+  if (numeric && text.trim() !== "" && Number.isFinite(Number(text))) return `<c><v>${Number(text)}</v></c>`;
+  return `<c t="inlineStr"><is><t xml:space="preserve">${escaped(text)}</t></is></c>`;
+}
+
+// `numeric` tells of each column whether its cells are numbers; the first `heads` rows are headings.
+export function workbook(name: string, rows: string[][], numeric: boolean[], heads: number): Uint8Array {
+  const sheet = name.replace(/[[\]:*?/\\]/g, "_").slice(0, 31) || "1";
+  const lines = rows.map(
+    (row, i) => `<row>${row.map((cell, col) => cellXml(cell, i >= heads && numeric[col] === true)).join("")}</row>`,
+  );
+  const type = "application/vnd.openxmlformats-officedocument.spreadsheetml";
+  return zip([
+    ["[Content_Types].xml", `${kHead}<Types xmlns="${kPackage}/content-types"><Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/><Override PartName="/xl/workbook.xml" ContentType="${type}.sheet.main+xml"/><Override PartName="/xl/worksheets/sheet1.xml" ContentType="${type}.worksheet+xml"/></Types>`],
+    ["_rels/.rels", `${kHead}<Relationships xmlns="${kPackage}/relationships"><Relationship Id="r1" Type="${kRelations}/officeDocument" Target="xl/workbook.xml"/></Relationships>`],
+    ["xl/workbook.xml", `${kHead}<workbook xmlns="${kSheet}" xmlns:r="${kRelations}"><sheets><sheet name="${escaped(sheet)}" sheetId="1" r:id="r1"/></sheets></workbook>`],
+    ["xl/_rels/workbook.xml.rels", `${kHead}<Relationships xmlns="${kPackage}/relationships"><Relationship Id="r1" Type="${kRelations}/worksheet" Target="worksheets/sheet1.xml"/></Relationships>`],
+    ["xl/worksheets/sheet1.xml", `${kHead}<worksheet xmlns="${kSheet}"><sheetViews><sheetView workbookViewId="0"><pane ySplit="${heads}" topLeftCell="A${heads + 1}" activePane="bottomLeft" state="frozen"/></sheetView></sheetViews><sheetData>${lines.join("")}</sheetData></worksheet>`],
+  ]);
+}
+
+async function inflated(data: Uint8Array): Promise<Uint8Array> {
+  const stream = new Blob([data as BlobPart]).stream().pipeThrough(new DecompressionStream("deflate-raw"));
+  return new Uint8Array(await new Response(stream).arrayBuffer());
+}
+
+// The texts of an archive by their names; throws for what is none.
+async function unzipped(bytes: Uint8Array): Promise<Map<string, string>> {
+  const view = new DataView(bytes.buffer, bytes.byteOffset, bytes.length);
+  let end = bytes.length - 22;
+  while (view.getUint32(end, true) !== 0x06054b50) --end;
+  const texts = new Map<string, string>();
+  let at = view.getUint32(end + 16, true);
+  for (let left = view.getUint16(end + 10, true); left > 0; --left) {
+    const pathLength = view.getUint16(at + 28, true);
+    const name = new TextDecoder().decode(bytes.subarray(at + 46, at + 46 + pathLength));
+    const from = view.getUint32(at + 42, true);
+    const start = from + 30 + view.getUint16(from + 26, true) + view.getUint16(from + 28, true);
+    const data = bytes.subarray(start, start + view.getUint32(at + 20, true));
+    if (name.endsWith(".xml") || name.endsWith(".rels")) {
+      texts.set(name, new TextDecoder().decode(view.getUint16(at + 10, true) === 8 ? await inflated(data) : data));
+    }
+    at += 46 + pathLength + view.getUint16(at + 30, true) + view.getUint16(at + 32, true);
+  }
+  return texts;
+}
+
+const xml = (text: string) => new DOMParser().parseFromString(text, "application/xml");
+const textIn = (element: Element) => [...element.getElementsByTagName("t")].map((t) => t.textContent).join("");
+
+function columnOf(reference: string | null, next: number): number {
+  const letters = /^[A-Z]+/.exec(reference ?? "")?.[0];
+  return letters ? [...letters].reduce((sum, ch) => sum * 26 + ch.charCodeAt(0) - 64, 0) - 1 : next;
+}
+
+// The sheets of a workbook by their names, cells as text; throws for what is none.
+export async function sheetsOf(bytes: Uint8Array): Promise<[name: string, rows: string[][]][]> {
+  const parts = await unzipped(bytes);
+  const shared = [...xml(parts.get("xl/sharedStrings.xml") ?? "<x/>").getElementsByTagName("si")].map(textIn);
+  const targets = new Map(
+    [...xml(parts.get("xl/_rels/workbook.xml.rels")!).getElementsByTagName("Relationship")].map((each) => [
+      each.getAttribute("Id"),
+      each.getAttribute("Target")!.replace(/^\/xl\//, ""),
+    ]),
+  );
+  return [...xml(parts.get("xl/workbook.xml")!).getElementsByTagName("sheet")].map((sheet) => {
+    const target = targets.get(sheet.getAttributeNS(kRelations, "id"));
+    const rows = [...xml(parts.get(`xl/${target}`)!).getElementsByTagName("row")].map((row) => {
+      const cells: string[] = [];
+      for (const cell of row.getElementsByTagName("c")) {
+        const value = cell.getElementsByTagName("v")[0]?.textContent ?? "";
+        const type = cell.getAttribute("t");
+        const text = type === "s" ? shared[Number(value)] : type === "inlineStr" ? textIn(cell) : value;
+        cells[columnOf(cell.getAttribute("r"), cells.length)] = text ?? "";
+      }
+      return Array.from(cells, (cell) => cell ?? "");
+    });
+    return [sheet.getAttribute("name") ?? "", rows];
+  });
+}
