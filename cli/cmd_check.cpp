@@ -23,6 +23,7 @@
 #include "framework/language.h"
 #include "framework/utf8.h"
 #include "option_errors.h"
+#include "output_options.h"
 #include "progress.h"
 #include "reports/report_document.h"
 #include "schemas.h"
@@ -285,9 +286,7 @@ void AddCheckCommand(CLI::App& program) {
               "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input"))
       ->required()
       ->check(FileName);
-  auto* json = command->add_flag(
-      "--json", options->json,
-      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  auto* json = AddJsonOption(*command, options->json);
   command
       ->add_flag("--csv", options->csv, Say("以 CSV 输出，每个算例一行", "As CSV, one line a case"))
       ->excludes(json);
