@@ -71,8 +71,8 @@ CWeldFigures JudgedFigures(const CButtCase& input, const CButtResults& results) 
   CWeldFigures figures = Edges(input, input.m_dThick * input.m_dLw, results.m_dW);
   figures.m_dTensionLimit = results.m_dFtw;
   figures.m_dCompressionLimit = results.m_dFcw;
-  figures.m_bShear = figures.m_bShear && !IsZero(input.m_dV);
   if (!figures.m_bShear) return figures;
+  figures.m_bShear = !IsZero(input.m_dV);
   figures.m_dTau = 1.5 * 1000 * std::fabs(input.m_dV) / (input.m_dThick * input.m_dLw);
   figures.m_dTauLimit = results.m_dFvw;
   const double across = std::max(figures.m_dTension, figures.m_dCompression);
