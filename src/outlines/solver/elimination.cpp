@@ -65,8 +65,9 @@ class CJoiner {
   void Share(int a, int b, int edges) {
     for (const auto& [one, other] : {std::pair{a, b}, std::pair{b, a}}) {
       auto& list = Of(one).beside;
-      const auto found = std::find_if(list.begin(), list.end(),
-                                      [other = other](const auto& entry) { return entry.first == other; });
+      const auto found = std::find_if(list.begin(), list.end(), [other = other](const auto& entry) {
+        return entry.first == other;
+      });
       if (found != list.end()) {
         found->second += edges;
       } else {
