@@ -1,6 +1,7 @@
 // orv3cal choose: the lightest sections of tables that pass a member's cases.
 
 #include <algorithm>
+#include <cstdio>
 #include <memory>
 #include <span>
 #include <sstream>
@@ -20,6 +21,7 @@
 #include "members/report/choice_plot.h"
 #include "nearest.h"
 #include "option_errors.h"
+#include "output_options.h"
 #include "store_place.h"
 #include "style_ranges.h"
 
@@ -177,11 +179,15 @@ class CAnswer {
                 {std::to_string(m_choice.m_nTried), std::to_string(m_choice.m_arrChosen.size()),
                  EditionFacts(m_nEdition).m_szName}) +
             '\n';
-    if (m_choice.m_nRefused > 0)
-      text += Say("另有 {1} 个不能验算，第一个：{2}", "{1} more are not covered, the first: {2}",
-                  {std::to_string(m_choice.m_nRefused), FirstRefusal()}) +
-              '\n';
+    if (const std::string refused = Refused(); !refused.empty()) text += refused + '\n';
     return text + Notes();
+  }
+
+  // How many sections were left out, with the first; empty for none.
+  std::string Refused() const {
+    if (m_choice.m_nRefused == 0) return {};
+    return Say("另有 {1} 个不能验算，第一个：{2}", "{1} more are not covered, the first: {2}",
+               {std::to_string(m_choice.m_nRefused), FirstRefusal()});
   }
 
   // "热轧等边角钢 L20X3, case wind, steel: ..."
@@ -285,6 +291,9 @@ CExit RunChoose(const COptions& options) {
     PrintJson(answer.Json());
   } else if (options.csv) {
     PrintCsv(answer.Csv());
+    if (const std::string refused = answer.Refused(); !refused.empty())
+      std::fprintf(stderr, "orv3cal: %s: %s\n", Visible(options.file).c_str(),
+                   Visible(refused).c_str());
   } else {
     Print(answer.Text());
   }
@@ -326,9 +335,7 @@ void AddChooseCommand(CLI::App& program) {
   command->add_option("--top", options->top, Say("至多显示这么多个", "Show this many at most"))
       ->check(CLI::PositiveNumber);
   AddEditionOption(*command, options->code);
-  auto* json = command->add_flag(
-      "--json", options->json,
-      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  auto* json = AddJsonOption(*command, options->json);
   command
       ->add_flag("--csv", options->csv,
                  Say("以 CSV 输出，每个截面一行", "As CSV, one line a section"))

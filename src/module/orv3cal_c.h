@@ -154,7 +154,7 @@ enum {
 /* The geometry of a catalogue section; writes the first `room` values and returns how many were
  * written. A quarter turn, counter-clockwise, turns width, height, xc, yc, Ix and Iy; everything
  * else is of the section as it stands in the catalogue. `turn` is any multiple of 90 (-90 is 270,
- * 450 is 90). The parts of a pair touch. */
+ * 450 is 90). The parts of a pair touch. A row whose figures contradict its sizes is refused. */
 ORV3_API int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, double turn,
                                      double* values, int room);
 
@@ -207,7 +207,8 @@ enum {
 };
 
 /* Of a catalogue section, whose parts touch when it is a pair; writes the first `room` values and
- * returns how many were written. A section without an outline is refused. */
+ * returns how many were written. A section without an outline is refused, and so is a row whose
+ * figures contradict its sizes. */
 ORV3_API int ORV3_CALL orv3_exact(const orv3_char* table, const orv3_char* number, double* values,
                                   int room);
 
