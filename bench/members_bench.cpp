@@ -11,6 +11,8 @@
 
 #include "framework/utf8.h"
 #include "members/cases/member_case.h"
+#include "members/cases/member_choice.h"
+#include "members/cases/style_ranges.h"
 #include "sections/load_data_table.h"
 
 namespace {
@@ -57,6 +59,49 @@ void CheckCases(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 BENCHMARK(CheckCases)->RangeMultiplier(10)->Range(100, 100000)->Complexity(benchmark::oN);
+
+// The whole shipped store tried against 20 load cases of one member, its rows read from the tables
+// each time: beam-columns, and columns in axial compression with their torsion.
+void Choose(benchmark::State& state) {
+  CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
+  auto cases = Columns(20);
+  for (orv3::CMemberCase& each : cases) {
+    each.m_strTable = each.m_strNo = each.m_strStyle = each.m_strEdges = "";
+    each.m_sizes = {};
+    each.m_strSteel = "Q345";
+    if (state.range(0) == 0) continue;
+    each.m_Mx.m_dUniform = each.m_dVy = 0;
+    each.m_strLoad = "";
+  }
+  for (auto _ : state) {
+    auto candidates = orv3::AllMemberCandidates(orv3::CMemberCase::kNone);
+    benchmark::DoNotOptimize(
+        orv3::ChooseMember(cases, candidates, orv3::CCodeEdition::Gb2017).m_nTried);
+  }
+}
+BENCHMARK(Choose)->ArgName("axial")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// H sections of a style, each with its torsion unless it fails without.
+void ChooseStyles(benchmark::State& state) {
+  auto cases = Columns(20);
+  for (orv3::CMemberCase& each : cases) {
+    each.m_strTable = each.m_strNo = each.m_strEdges = "";
+    each.m_strSteel = "Q345";
+    each.m_dN *= 3;  // which half of the sections fail
+    each.m_Mx.m_dUniform = each.m_dVy = 0;
+    each.m_strLoad = "";
+  }
+  for (auto _ : state) {
+    std::vector<orv3::CMemberCandidate> candidates;
+    orv3::AddStyleRanges(
+        "h", {{"b", 150, 300, 50}, {"h", 200, 400, 50}, {"tf", 8, 12, 2}, {"tw", 6, 6, 0}},
+        candidates);
+    benchmark::DoNotOptimize(orv3::ChooseMember(cases, candidates, orv3::CCodeEdition::Gb2017,
+                                                static_cast<orv3::CFailingRatio>(state.range(0)))
+                                 .m_nTried);
+  }
+}
+BENCHMARK(ChooseStyles)->ArgName("any")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 #ifdef ORV3CAL_PROGRAM
 // 100,000 cases of a CSV through the command, its start and its output file included: the lines of

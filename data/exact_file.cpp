@@ -5,6 +5,7 @@
 
 #include "catalogue/exact/exact_figures.h"
 #include "catalogue/exact/row_exact.h"
+#include "catalogue/outline/row_doubts.h"
 #include "catalogue_csv.h"
 #include "framework/utf8.h"
 #include "platform/store_error.h"
@@ -30,6 +31,10 @@ CExactRecord RecordOf(const CDataItem& row) {
   if (!key || std::isnan(exact.It)) {
     throw CCatalogueError(ToUtf8(row.m_strTableName + L": " + row[0].m_strValue +
                                  L": its outline has no exact properties"));
+  }
+  if (const auto what = Contradiction(row)) {
+    throw CCatalogueError(ToUtf8(row.m_strTableName + L": " + row[0].m_strValue) + ": " +
+                          what->m_strEnglish);
   }
   return {*key, exact};
 }

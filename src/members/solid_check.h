@@ -67,6 +67,7 @@ class CSolidCheck {
     double m_dSigma = 0, m_dTau = 0, m_dLambdaB = 0, m_dLambdaS = 0, m_dSigmaCr = 0, m_dTauCr = 0;
     double m_dRatio = -1;
     const char* m_szFormula = nullptr;
+    const char* m_szClause = nullptr;
   };
   std::vector<CPanel> SlenderPanels() const;
   CPanelFigures PanelFigures(const CPanel& panel) const;

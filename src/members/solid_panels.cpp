@@ -47,25 +47,27 @@ CSolidCheck::CPanelFigures CSolidCheck::PanelFigures(const CPanel& p) const {
   x.m_dTau = p.m_dV / p.m_dA;
   x.m_dSigmaCr = PanelCriticalStress(x.m_dLambdaB, F());
   x.m_dTauCr = PanelCriticalShear(x.m_dLambdaS, p.m_dFv);
-  const auto worse = [&x](double ratio, const char* formula) {
-    if (ratio > x.m_dRatio) {
-      x.m_dRatio = ratio;
-      x.m_szFormula = formula;
-    }
+  const auto worse = [&x](double ratio, const char* clause, const char* formula) {
+    if (!(ratio > x.m_dRatio)) return;
+    x.m_dRatio = ratio;
+    x.m_szClause = clause;
+    x.m_szFormula = formula;
   };
   const double bending = x.m_dSigma / x.m_dSigmaCr, shear = x.m_dTau / x.m_dTauCr;
-  worse(bending * bending + shear * shear, "({σ}/{σcr})² + ({τ}/{τcr})²");
+  worse(bending * bending + shear * shear, Clause("6.3.3", "4.3.3"), "({σ}/{σcr})² + ({τ}/{τcr})²");
   // 6.3.2: under direct dynamic load both stiffeners are a must; in 2003 the longitudinal ones are.
-  if (q.m_bDynamic && a1 == 0) worse(slender / (80 * ek), "{h0}/{tw}/(80·{εk})");
+  if (q.m_bDynamic && a1 == 0)
+    worse(slender / (80 * ek), Clause("6.3.2", "4.3.2"), "{h0}/{tw}/(80·{εk})");
   if (q.m_bDynamic || !Is2017()) {
-    worse(twice / (LongitudinalLimit(q.m_bRestrained) * ek),
+    worse(twice / (LongitudinalLimit(q.m_bRestrained) * ek), Clause("6.3.2", "4.3.2"),
           q.m_bRestrained ? "2·{hc}/{tw}/(170·{εk})" : "2·{hc}/{tw}/(150·{εk})");
   }
   // 6.3.6; 2003: 4.3.6.
   if (a1 > 0) {
     const bool bStocky = slender <= 100;
-    worse(0.5 * p.m_dH0 / a1, "0.5·{h0}/{a}");
-    worse(a1 / ((bStocky ? 2.5 : 2) * p.m_dH0), bStocky ? "{a}/(2.5·{h0})" : "{a}/(2·{h0})");
+    worse(0.5 * p.m_dH0 / a1, Clause("6.3.6", "4.3.6"), "0.5·{h0}/{a}");
+    worse(a1 / ((bStocky ? 2.5 : 2) * p.m_dH0), Clause("6.3.6", "4.3.6"),
+          bStocky ? "{a}/(2.5·{h0})" : "{a}/(2·{h0})");
   }
   return x;
 }
@@ -89,7 +91,7 @@ void CSolidCheck::Panels() {
 
 void CSolidCheck::GivePanel(const CPanel& p, const CPanelFigures& x) {
   const double a1 = q.m_dStiffeners;
-  a.Open(CMemberCheckKind::Panel, Clause("6.3.3", "4.3.3"));
+  a.Open(CMemberCheckKind::Panel, x.m_szClause);
   a.Step("h0", nullptr, p.m_dH0, "mm");
   a.Step("tw", nullptr, p.m_dTw, "mm");
   a.Step("hc", nullptr, p.m_dHc, "mm");

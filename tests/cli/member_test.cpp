@@ -70,6 +70,9 @@ TEST(Member, RefusedByName) {
     const char* told;
   };
   const CBad bad[] = {
+      {"{" + kBody + R"(, "N": 5, "joined": "leg"})", "joined: leg is not possible"},
+      {"{" + kBody + R"(, "N": 5, "joined": "bolts"})", "joined: "},
+      {"{" + kBody + R"(, "N": 5, "stiffeners": 0})", "stiffeners: "},
       {"{" + kBody + R"(, "cases": []})", "cases: holds no combination"},
       {"{" + kBody + R"(, "cases": [5]})", "cases: 5 is not possible in a list"},
       {"{" + kBody + R"(, "cases": [{"steel": "Q235"}]})", "cases.steel: is no key here"},

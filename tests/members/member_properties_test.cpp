@@ -190,6 +190,13 @@ TEST_F(CMembers, TheJumpsAreTheCodes) {
   CMemberCase loaded = ends;
   loaded.m_strLoad = "uniform";
   loaded.m_dMqx = 0.001;
+  const CMemberCase slender = [] {
+    CMemberCase c = Sizes("h", {300, 1200, 16, 6}, "Q235", 9000, 3000);
+    c.m_Mx.m_dUniform = 300000;
+    return c;
+  }();
+  CMemberCase stronger = slender;
+  stronger.m_strSteel = "Q345";
   const double iy = std::sqrt(16016042.7 / 7808);  // of 200 x 400 x 12 x 8
   const struct {
     const char* m_szWhat;
@@ -205,6 +212,8 @@ TEST_F(CMembers, TheJumpsAreTheCodes) {
       {"flange from S3 to S4", beam(267.999, 10, 8), beam(268.001, 10, 8), K::Strength, 1.05},
       {"web from S4 to S5", beam(200, 14, 372 / 123.999), beam(200, 14, 372 / 124.001), K::Web,
        124.0 / 250},
+      {"stronger steel in a slender web", slender, stronger, K::Panel,
+       std::pow(215 / (305 * 235.0 / 345), 2)},
       {"plates over 16 mm", beam(200, 15.999, 10), beam(200, 16.001, 10), K::Strength, 215.0 / 205},
   };
   for (const auto& jump : jumps) {

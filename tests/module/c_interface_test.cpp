@@ -354,6 +354,13 @@ TEST(CMembers, TheLightestPass) {
   EXPECT_NE(row.find(";" + alone["ratio"] + ";"), std::string::npos) << row;
   EXPECT_TRUE(row.ends_with(";up")) << row;
   EXPECT_GT(std::stoi(first["passing"]), 10);
+  // A style's ranges, and what was assumed of what they found.
+  const CText16 styles = choose(u"h b=200:300:50 h=300 tf=12 tw=8",
+                                u"steel=Q345\nN=-300\nlengths.x=3000\nlengths.y=3000", 1);
+  EXPECT_NE(styles.find(u"\nrow=h;200 300 12 8;"), CText16::npos);
+  EXPECT_NE(styles.find(u"\nwarning=h;200 300 12 8;edges;"), CText16::npos);
+  EXPECT_EQ(orv3_choose(u"h b=200:300 h=300 tf=12 tw=8", nullptr, up.c_str(), 0, nullptr, 0), -1);
+  EXPECT_NE(LastError().find("b is not possible"), std::string::npos) << LastError();
   EXPECT_EQ(orv3_choose(u"热轧", nullptr, both.c_str(), 0, nullptr, 0), -1);
   EXPECT_NE(LastError().find("no rows of \"热轧\""), std::string::npos) << LastError();
   EXPECT_EQ(orv3_choose(table.c_str(), nullptr, kColumn.c_str(), 0, nullptr, 0), -1);

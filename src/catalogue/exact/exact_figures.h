@@ -3,7 +3,8 @@
 //
 // A record is found by all that the outline is made from, and by nothing else: the table, the cells
 // and those of the parts of pairs and lattice columns. A row that has been changed in any cell is
-// computed. So no figure is ever that of other sizes.
+// computed. So no figure is ever that of other sizes. No row that has a record contradicts itself
+// (row_doubts.h).
 //
 // Numbers are little-endian, doubles binary64 (NaN where there is no answer):
 //

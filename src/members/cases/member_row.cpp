@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "catalogue/exact/exact_figures.h"
 #include "catalogue/exact/row_exact.h"
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/outline/row_figures.h"
@@ -439,7 +440,8 @@ std::optional<CCaseFault> ThinWalled(const CDataItem& row) {
 }
 
 std::optional<CCaseFault> Contradicting(const CDataItem& row) {
-  const auto what = Contradiction(row);
+  // What has its exact figures kept was held against them when they were.
+  const auto what = FindExact(row) ? std::nullopt : Contradiction(row);
   if (!what) return std::nullopt;
   const std::string no = ToUtf8(row[0].m_strValue);
   return CCaseFault{"section",

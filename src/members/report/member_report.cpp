@@ -238,7 +238,7 @@ class CReportWriter {
                                     : m_body.Text({"超出 S5", "beyond the last"})});
     }
     const std::string plate = m_body.Text({"板件（3.5.1 条）", "Plate (3.5.1)"}) +
-                              Escaped(OfCombination(m_report.m_envelope.WorstCase()));
+                              OfCombination(m_report.m_envelope.WorstCase());
     m_body.Table(std::vector<std::string>{plate, "b/t", "α0", m_body.Text({"宽厚比等级", "Class"})},
                  rows);
   }
