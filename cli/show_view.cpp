@@ -89,7 +89,7 @@ void AddFigure(CTextTable& table, const CFigure& figure, const CRowFigures& figu
 
 void AddSymmetry(CTextTable& table, const std::string& letter, const std::optional<bool>& value) {
   table.AddRow({"对称于" + letter + "轴", "",
-                value ? (*value ? Say("是", "是 yes") : Say("否", "否 no")) : "-", "",
+                value ? (*value ? Say("是", "yes") : Say("否", "no")) : "-", "",
                 Say({"", "symmetric about " + letter})});
 }
 
