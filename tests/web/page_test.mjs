@@ -79,10 +79,10 @@ walk("a table of 10,000 rows keeps a few in the page", "view=store&lang=en", asy
   const lines = Array.from({ length: 10_000 }, (_, i) => `R${i},${100 + (i % 97)},${200 + i}`);
   await drop(page, file("many.csv", `No.,b(mm),h(mm)\n${lines.join("\n")}\n`));
   await says(page, ".log", "--table");
-  await page.select("select", "自定义矩形截面");
+  await page.select("select", "矩形截面");
   await drop(page, file("many.csv", `No.,b(mm),h(mm)\n${lines.join("\n")}\n`));
   await says(page, ".tables", "10000");
-  await show(page, "view=sections&lang=en&table=自定义矩形截面");
+  await show(page, "view=sections&lang=en&table=矩形截面");
   await page.$eval(".grid", (grid) => { grid.scrollTop = grid.scrollHeight; });
   await says(page, ".grid", "R9999");
   assert.ok((await page.$$(".grid tbody tr")).length < 80);
@@ -110,7 +110,7 @@ walk("an outline from a DXF, and one that is none", "view=own&lang=zh", async (p
   const dxf = (points) => `0\nSECTION\n2\nENTITIES\n0\nLWPOLYLINE\n90\n${points.length}\n70\n1\n${points.map(([x, y]) => `10\n${x}\n20\n${y}\n`).join("")}0\nENDSEC\n0\nEOF\n`;
   await drop(page, file("plate.dxf", dxf([[0, 0], [100, 0], [100, 50], [0, 50]])));
   await says(page, ".detail h2", "plate.dxf");
-  await says(page, ".detail", "5\u202f000".replace("5\u202f000", "5000"));
+  await says(page, ".detail", "5\u202f000");
   await drop(page, file("broken.dxf", "no drawing"));
   await says(page, ".detail .fault", "broken.dxf");
 });
@@ -163,13 +163,13 @@ walk("code tables: the asked cell is marked", "view=code&lang=en", async (page) 
 });
 
 walk("the own store goes out and comes back, and a broken file changes nothing", "view=store&lang=en", async (page) => {
-  const add = ["store", "add", "自定义矩形截面", "--set", "No.=P1", "--set", "b(mm)=20", "--set", "h(mm)=300"];
+  const add = ["store", "add", "矩形截面", "--set", "No.=P1", "--set", "b(mm)=20", "--set", "h(mm)=300"];
   assert.equal((await run(page, add)).status, 0);
-  const { files } = await run(page, ["store", "export", "自定义矩形截面", "--to", "o.KDB"]);
+  const { files } = await run(page, ["store", "export", "矩形截面", "--to", "o.KDB"]);
   assert.ok(files["o.KDB"].length !== 0);
   await drop(page, file("broken.KDB", "no store at all"));
   await says(page, ".log .fault", "broken.KDB".slice(0, 6));
-  assert.match((await run(page, ["rows", "自定义矩形截面", "--json"])).out, /"P1"/);
+  assert.match((await run(page, ["rows", "矩形截面", "--json"])).out, /"P1"/);
 });
 
 // A browser that keeps nothing, or not enough: the sentence is the answer, and what was kept stays.
@@ -180,7 +180,7 @@ for (const [name, spoil, words] of [
   test(`storage that is ${name}`, async () => {
     context = await browser.createBrowserContext();
     const page = await openPage(context, "view=store&lang=en");
-    const add = (no) => ["store", "add", "自定义矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"];
+    const add = (no) => ["store", "add", "矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"];
     assert.equal((await run(page, add("P1"))).status, 0);
     for (const worker of page.workers()) await worker.evaluate(spoil);
     const answer = await run(page, add("P2"));
@@ -190,7 +190,7 @@ for (const [name, spoil, words] of [
     }
     await page.close();
     const again = await openPage(context, "view=store&lang=en");
-    const { out } = await run(again, ["rows", "自定义矩形截面", "--json"]);
+    const { out } = await run(again, ["rows", "矩形截面", "--json"]);
     assert.match(out, /"P1"/);
     assert.equal(/"P2"/.test(out), answer.status === 0);
     await context.close();
@@ -200,11 +200,11 @@ for (const [name, spoil, words] of [
 test("two tabs that save at once keep both rows; a tab closed while it saves keeps a whole store", async () => {
   context = await browser.createBrowserContext();
   const pages = [await openPage(context, "view=store&lang=en"), await openPage(context, "view=store&lang=en")];
-  const add = (no) => ["store", "add", "自定义矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"];
+  const add = (no) => ["store", "add", "矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"];
   await Promise.all(pages.flatMap((page, i) => [0, 1, 2].map((j) => run(page, add(`T${i}${j}`)))));
   await pages[0].evaluate((line) => void window.orv3cal.run(line), add("late"));
   await pages[0].close();
-  const { out } = await run(pages[1], ["rows", "自定义矩形截面", "--json"]);
+  const { out } = await run(pages[1], ["rows", "矩形截面", "--json"]);
   const numbers = JSON.parse(out).rows.map((row) => row.cells[0]).filter((no) => no !== "late").sort();
   assert.deepEqual(numbers, ["T00", "T01", "T02", "T10", "T11", "T12"]);
   await context.close();
