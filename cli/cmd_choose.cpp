@@ -292,8 +292,7 @@ CExit RunChoose(const COptions& options) {
   } else if (options.csv) {
     PrintCsv(answer.Csv());
     if (const std::string refused = answer.Refused(); !refused.empty())
-      std::fprintf(stderr, "orv3cal: %s: %s\n", Visible(options.file).c_str(),
-                   Visible(refused).c_str());
+      WriteError("orv3cal: " + Visible(options.file) + ": " + Visible(refused) + "\n");
   } else {
     Print(answer.Text());
   }
