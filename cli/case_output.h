@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "codes/edition.h"
+#include "framework/number_chars.h"
 #include "framework/plain_number.h"
 #include "output.h"
 #include "reports/case_answer.h"
@@ -31,7 +32,7 @@ inline void AppendCsv(std::string& line, double value) {
   const int whole = bSmall ? static_cast<int>(value) : 0;
   const bool bWhole = bSmall && whole == value;
   const char* end = bWhole ? std::to_chars(text, text + sizeof text, whole).ptr
-                           : std::to_chars(text, text + sizeof text, value).ptr;
+                           : WriteShortest(text, text + sizeof text, value);
   line.append(text, static_cast<std::size_t>(end - text));
 }
 inline void AppendCsv(std::string& line, int value) { line += std::to_string(value); }

@@ -7,6 +7,8 @@
 #include <limits>
 #include <string>
 
+#include "framework/number_chars.h"
+
 namespace orv3 {
 namespace {
 
@@ -46,7 +48,7 @@ std::size_t NumberEnd(std::wstring_view text, std::size_t begin) noexcept {
 // The unsigned number of plain ASCII text; infinity or 0 beyond the range of double.
 double ParseUnsigned(const char* begin, const char* end) noexcept {
   double value = 0;
-  const auto result = std::from_chars(begin, end, value);
+  const auto result = ReadDouble(begin, end, value);
   if (result.ec != std::errc::result_out_of_range) return value;
   // Out of range: it is too large when its first digit that counts stands above 10^0.
   const char* exponentAt = std::find_if(begin, end, [](char c) { return c == 'e' || c == 'E'; });
@@ -134,23 +136,20 @@ CString FormatInt(long long value) {
 CString FormatG(double value) {
   if (std::isnan(value)) return L"NAN";
   std::array<char, 32> text;
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 6);
-  return FromAscii(text.data(), end.ptr);
+  return FromAscii(text.data(), WriteGeneral(text.data(), text.data() + text.size(), value, 6));
 }
 
 CString FormatFixed(double value, int decimals) {
   if (std::isnan(value)) return L"NAN";
   std::array<char, 512> text;
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
-                                 std::chars_format::fixed, std::clamp(decimals, 0, 100));
-  return FromAscii(text.data(), end.ptr);
+  const int shown = std::clamp(decimals, 0, 100);
+  return FromAscii(text.data(), WriteFixed(text.data(), text.data() + text.size(), value, shown));
 }
 
 CString FormatShortest(double value) {
   if (std::isnan(value)) return L"NAN";
   std::array<char, 64> text;
-  return FromAscii(text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr);
+  return FromAscii(text.data(), WriteShortest(text.data(), text.data() + text.size(), value));
 }
 
 }  // namespace orv3

@@ -1,12 +1,12 @@
 #include "outlines/loop_chain.h"
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <iterator>
 #include <unordered_map>
 #include <utility>
 
+#include "framework/double_bits.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 
@@ -53,7 +53,7 @@ class CEnds {
   // negative zero a positive one.
   double Cell(double value) const { return std::floor(value / m_dTolerance) + 0.0; }
   static std::uint64_t Key(double x, double y) {
-    return std::bit_cast<std::uint64_t>(x) * 0x9E3779B97F4A7C15U ^ std::bit_cast<std::uint64_t>(y);
+    return BitsOf(x) * 0x9E3779B97F4A7C15U ^ BitsOf(y);
   }
 
   const std::vector<CPath>& m_arrPath;

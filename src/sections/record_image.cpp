@@ -1,10 +1,10 @@
 #include <algorithm>
-#include <bit>
 #include <cstddef>
 #include <cstring>
 #include <iterator>
 #include <string>
 
+#include "framework/double_bits.h"
 #include "framework/utf16.h"
 #include "sections/record_store.h"
 #include "tables/edit_state.h"
@@ -69,9 +69,7 @@ std::wstring PlainName(const CRecordImage& image) {
                                      : name.substr(first, name.find_last_not_of(L' ') + 1 - first);
 }
 
-double Double(const CRecordImage& image, std::size_t at) {
-  return std::bit_cast<double>(Take<8>(image, at));
-}
+double Double(const CRecordImage& image, std::size_t at) { return DoubleOf(Take<8>(image, at)); }
 
 }  // namespace
 
@@ -83,11 +81,11 @@ CRecordImage EncodeRecord(const CSteelJMData& record, bool singleGroup) {
   Put<4>(image, kStyleAt, static_cast<std::uint32_t>(record.m_nStyle));
   std::size_t at = kDoublesAt;
   for (const auto field : kDoubles) {
-    Put<8>(image, at, std::bit_cast<std::uint64_t>(record.*field));
+    Put<8>(image, at, BitsOf(record.*field));
     at += 8;
   }
   for (const double size : record.m_dSize) {
-    Put<8>(image, at, std::bit_cast<std::uint64_t>(size));
+    Put<8>(image, at, BitsOf(size));
     at += 8;
   }
   return image;

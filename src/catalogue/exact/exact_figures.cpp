@@ -1,7 +1,6 @@
 #include "catalogue/exact/exact_figures.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <map>
 #include <memory>
@@ -10,6 +9,7 @@
 
 #include "catalogue/lattice/steel_ge_gou.h"
 #include "catalogue/outline/row_spacing.h"
+#include "framework/double_bits.h"
 #include "outlines/exact_keys.h"
 #include "platform/threads.h"
 #include "platform/whole_file.h"
@@ -58,7 +58,7 @@ std::uint64_t Checksum(std::string_view bytes) {
 
 void AppendRecord(std::string& bytes, const CExactRecord& record) {
   const auto add = [&](double value) {
-    Append(bytes, std::isnan(value) ? 0x7FF8000000000000U : std::bit_cast<std::uint64_t>(value));
+    Append(bytes, std::isnan(value) ? 0x7FF8000000000000U : BitsOf(value));
   };
   for (const std::uint64_t part : record.m_key) Append(bytes, part);
   for (const CExactKey& key : ExactKeys()) add(record.m_exact.*key.m_pField);
@@ -70,9 +70,8 @@ CExactRecord RecordAt(std::string_view bytes, std::size_t at) {
   CExactRecord record;
   const auto next = [&] { return Number(bytes, std::exchange(at, at + 8)); };
   for (std::uint64_t& part : record.m_key) part = next();
-  for (const CExactKey& key : ExactKeys())
-    record.m_exact.*key.m_pField = std::bit_cast<double>(next());
-  for (const auto error : kErrors) record.m_exact.m_error.*error = std::bit_cast<double>(next());
+  for (const CExactKey& key : ExactKeys()) record.m_exact.*key.m_pField = DoubleOf(next());
+  for (const auto error : kErrors) record.m_exact.m_error.*error = DoubleOf(next());
   const std::uint64_t flags = next();
   record.m_exact.m_bJoined = (flags & 1U) != 0;
   record.m_exact.m_bAccurate = (flags & 2U) != 0;

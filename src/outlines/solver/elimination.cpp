@@ -63,14 +63,15 @@ class CJoiner {
   CUnion& Of(int i) { return m_unions[Index(i)]; }
 
   void Share(int a, int b, int edges) {
-    for (const auto& [one, other] : {std::pair{a, b}, std::pair{b, a}}) {
+    for (const auto& [one, beside] : {std::pair{a, b}, std::pair{b, a}}) {
       auto& list = Of(one).beside;
-      const auto found = std::find_if(list.begin(), list.end(),
-                                      [&](const auto& entry) { return entry.first == other; });
+      const auto found =
+          std::find_if(list.begin(), list.end(),
+                       [other = beside](const auto& entry) { return entry.first == other; });
       if (found != list.end()) {
         found->second += edges;
       } else {
-        list.push_back({other, edges});
+        list.push_back({beside, edges});
       }
       Of(one).border += edges;
     }

@@ -43,7 +43,7 @@ CNumbers NumbersOf(const CSectionMesh& mesh, std::size_t element, const std::arr
 }  // namespace
 
 CSaintVenant::CSaintVenant(CSectionMesh mesh, int degree)
-    : m_mesh(std::move(mesh)), m_degree(degree), m_shape(&CShapeFunctions::Of(degree)) {
+    : m_mesh(std::move(mesh)), m_shape(&CShapeFunctions::Of(degree)) {
   const int lower = std::max(1, degree - 2);
   MakeElements(std::min(lower, 4));
   if (!m_sound) return;

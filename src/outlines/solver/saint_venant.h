@@ -77,7 +77,6 @@ class CSaintVenant {
   CTorsionShear Figures(const CFields& fields) const;
 
   CSectionMesh m_mesh;
-  int m_degree;
   const CShapeFunctions* m_shape;
   std::vector<CElement> m_elements;
   std::vector<std::array<int, 3>> m_edges;  // of each element, numbered

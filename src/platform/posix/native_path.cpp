@@ -30,8 +30,9 @@ std::string Native(std::wstring_view path) {
   std::string native;
   while (!path.empty()) {
     const auto byte = std::find_if(path.begin(), path.end(), IsByte);
-    native += ToUtf8(std::wstring_view(path.begin(), byte));
-    path.remove_prefix(static_cast<std::size_t>(byte - path.begin()));
+    const auto length = static_cast<std::size_t>(byte - path.begin());
+    native += ToUtf8(path.substr(0, length));
+    path.remove_prefix(length);
     if (path.empty()) break;
     native += static_cast<char>(path.front() - kFirstByte + 0x80);
     path.remove_prefix(1);
