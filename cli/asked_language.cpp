@@ -50,7 +50,7 @@ void TakeLanguage(const std::vector<std::string>& arguments) {
              "\" is no language; right would be zh or en (不是语言，应为 zh 或 en)");
     }
   }
-  SetMessageLanguage(Asked().value_or(CLanguage::English));
+  SetMessageLanguage(Asked() ? *Asked() : UserLanguage());
 }
 
 std::optional<CLanguage> AskedLanguage() { return Asked(); }
@@ -59,8 +59,9 @@ void AddLanguageOption(CLI::App& command) {
   command
       .add_option_function<std::string>(
           kOption, [](const std::string&) {},
-          Say("语言：zh 或 en；不给时按环境变量 ORV3CAL_LANG",
-              "Language: zh or en; the variable ORV3CAL_LANG if it is not given"))
+          Say("语言：zh 或 en；不给时按环境变量 ORV3CAL_LANG，再则按系统语言",
+              "Language: zh or en; the variable ORV3CAL_LANG if it is not given, else the user's "
+              "own"))
       ->check(CLI::IsMember({"zh", "en"}))
       ->type_name("zh|en");
   for (CLI::App* each : command.get_subcommands({})) AddLanguageOption(*each);

@@ -1,4 +1,5 @@
-// The language that a command is asked to answer in: --lang, else the variable ORV3CAL_LANG.
+// The language that a command is asked to answer in: --lang, else the variable ORV3CAL_LANG, else
+// that of the user.
 #pragma once
 
 #include <CLI/App.hpp>
@@ -10,11 +11,12 @@
 
 namespace orv3::cli {
 
-// Takes the language from the arguments as typed, or from the variable, and makes it that of
-// messages. CCommandError for a variable that names none; of --lang the parser tells.
+// Takes the language from the arguments as typed, from the variable or from the user's settings,
+// and makes it that of messages. CCommandError for a variable that names none; of --lang the parser
+// tells.
 void TakeLanguage(const std::vector<std::string>& arguments);
 
-// What was asked for; none when nothing was: answers are in English then, reports in Chinese.
+// What was asked for by option or variable; none when nothing was: reports are in Chinese then.
 std::optional<CLanguage> AskedLanguage();
 
 // Adds --lang to a command and to those below it.

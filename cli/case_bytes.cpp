@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 
 #include "error.h"
 #include "framework/utf8.h"
 #include "inputs_read.h"
 #include "platform/code_page.h"
+#include "streams.h"
 
 namespace orv3::cli {
 namespace {
@@ -42,7 +42,7 @@ CCaseBytes::CCaseBytes(const std::string& path, bool spreadsheet, CLanguage lang
       m_strPiece(kPiece, '\0') {
   const std::filesystem::path native(std::u8string(path.begin(), path.end()));
   if (path == "-") {
-    m_pStream = std::make_unique<std::istream>(std::cin.rdbuf());
+    m_pStream = std::make_unique<std::istream>(InputBuffer());
   } else if (IsPipe(native)) {
     m_pStream = std::make_unique<std::ifstream>(native, std::ios::binary);
   } else {

@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "case_cell.h"
 #include "case_readers.h"
 #include "framework/csv.h"
-#include "framework/number_chars.h"
 
 namespace orv3::cli {
 namespace {
@@ -24,12 +24,10 @@ class CCsvCases {
     do {
       if (!m_csv.Next(m_arrCell)) return TellMalformed(read);
     } while (IsBlank());
-    m_arrNumber.clear();
-    m_arrNumber.reserve(CountNumbers());
     for (std::size_t i = 0; i < std::min(m_arrCell.size(), m_arrColumn.size()); ++i) {
       const auto key = static_cast<std::size_t>(m_arrColumn[i]);
       if (m_arrCell[i].empty()) continue;
-      read.m_arrValue[key] = Value(m_arrCell[i], m_schema.Rules()[key]);
+      read.m_arrValue[key] = CellValue(m_arrCell[i], m_schema.Rules()[key], m_arrList[i]);
     }
     CheckWidth(read);
     return true;
@@ -49,6 +47,7 @@ class CCsvCases {
                          second + "; give it once"});
     }
     m_arrColumn.push_back(key);
+    m_arrList.emplace_back();
   }
 
   [[noreturn]] void Malformed() {
@@ -89,51 +88,13 @@ class CCsvCases {
                     {"请为多出的单元格给出键", "give each a key"}};
   }
 
-  // At most so many numbers stand in the lists of the case at hand.
-  std::size_t CountNumbers() const {
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < std::min(m_arrCell.size(), m_arrColumn.size()); ++i) {
-      if (!m_schema.Rules()[static_cast<std::size_t>(m_arrColumn[i])].m_bArray) continue;
-      count +=
-          1 + static_cast<std::size_t>(std::count(m_arrCell[i].begin(), m_arrCell[i].end(), ';'));
-    }
-    return count;
-  }
-
-  static bool ReadNumber(std::string_view text, double& number) noexcept {
-    while (text.starts_with(' ')) text.remove_prefix(1);
-    while (text.ends_with(' ')) text.remove_suffix(1);
-    if (text.starts_with('+')) text.remove_prefix(1);
-    const auto [end, error] = ReadDouble(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size();
-  }
-
-  // A text where the key takes one, a list where semicolons stand, else a number; what is none of
-  // them stays a text, which the schema then refuses.
-  CKeyValue Value(std::string_view cell, const CCaseSchema::CRule& rule) {
-    double number = 0;
-    if (rule.m_bText) return cell;
-    if (!rule.m_bArray || cell.find(';') == std::string_view::npos) {
-      if (ReadNumber(cell, number)) return number;
-      return cell;
-    }
-    const std::size_t first = m_arrNumber.size();
-    for (std::size_t at = 0; at <= cell.size();) {
-      const std::size_t end = std::min(cell.find(';', at), cell.size());
-      if (!ReadNumber(cell.substr(at, end - at), number)) return cell;
-      m_arrNumber.push_back(number);
-      at = end + 1;
-    }
-    return std::span<const double>(m_arrNumber).subspan(first);
-  }
-
   CCaseBytes& m_file;
   const CCaseSchema& m_schema;
   CCsvReader m_csv;
   std::vector<std::string_view> m_arrCell;
-  std::vector<int> m_arrColumn;     // position of each column's key
-  std::vector<double> m_arrNumber;  // of the lists of the case at hand
-  bool m_bTold = false;             // of a malformed cell
+  std::vector<int> m_arrColumn;                // position of each column's key
+  std::vector<std::vector<double>> m_arrList;  // of the case at hand, by columns
+  bool m_bTold = false;                        // of a malformed cell
 };
 
 }  // namespace

@@ -1,10 +1,19 @@
 #include "case_output.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace orv3::cli {
 namespace {
+
+// The characters that put a cell in quotation marks.
+constexpr auto kQuoted = [] {
+  std::array<bool, 256> quoted{};
+  for (const char ch : {',', ';', '\t', '"', '\r', '\n'})
+    quoted[static_cast<std::size_t>(ch)] = true;
+  return quoted;
+}();
 
 // "by GB 50017-2017, in force since 2018-07-01"
 std::string EditionLine(CCodeEdition edition, CLanguage language) {
@@ -19,9 +28,8 @@ std::string EditionLine(CCodeEdition edition, CLanguage language) {
 
 void AppendCsv(std::string& line, std::string_view text) {
   const bool padded = text.starts_with(' ') || text.ends_with(' ');  // which readers drop
-  const bool plain = std::none_of(text.begin(), text.end(), [](char ch) {
-    return ch == ',' || ch == ';' || ch == '\t' || ch == '"' || ch == '\r' || ch == '\n';
-  });
+  const bool plain = std::none_of(text.begin(), text.end(),
+                                  [](char ch) { return kQuoted[static_cast<unsigned char>(ch)]; });
   if (!padded && plain) {
     line += text;
     return;

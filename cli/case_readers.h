@@ -1,12 +1,14 @@
-// The two forms of case files.
+// The forms of case files.
 #pragma once
 
 #include "case_bytes.h"
+#include "case_columns.h"
 #include "case_source.h"
 
 namespace orv3::cli {
 
 void ReadJsonCases(CCaseBytes& bytes, const CCaseSchema& schema, const CTakeCase& take);
 void ReadCsvCases(CCaseBytes& bytes, const CCaseSchema& schema, const CTakeCase& take);
+void ReadColumnCases(const CCaseColumns& cases, const CCaseSchema& schema, const CTakeCase& take);
 
 }  // namespace orv3::cli

@@ -23,7 +23,19 @@ std::string Indented(const std::string& text) {
 
 }  // namespace
 
-void CAnswers::AddJson(double worst, const CJson& json) { AddLine(worst, Indented(json.dump(2))); }
+std::string& CAnswers::NextLines(double worst) {
+  if (m_bSort) {
+    m_arrAnswer.push_back({worst, {}, ""});
+    return m_arrAnswer.back().m_strText;
+  }
+  if (m_nHeld == kHeld) Flush();
+  if (m_nHeld++ == 0 && !m_bBegun) m_strLines = m_strHead;
+  return m_strLines;
+}
+
+void CAnswers::AddJson(double worst, const CJson& json) {
+  Add({worst, {}, Indented(json.dump(2))});
+}
 
 void CAnswers::Add(CAnswer answer) {
   m_arrAnswer.push_back(std::move(answer));
@@ -34,26 +46,29 @@ void CAnswers::Finish() {
   std::stable_sort(m_arrAnswer.begin(), m_arrAnswer.end(), [this](const auto& a, const auto& b) {
     return m_bSort && a.m_dWorst > b.m_dWorst;
   });
-  if (!m_arrAnswer.empty() || !m_bBegun) Flush();
+  if (!m_arrAnswer.empty() || m_nHeld > 0 || !m_bBegun) Flush();
   if (m_nForm == CAnswerForm::Json) Print(m_bBegun ? "\n]\n" : "[]\n");
 }
 
 void CAnswers::Flush() {
   if (m_nForm == CAnswerForm::Table) {
     PrintTable();
+  } else if (m_nForm == CAnswerForm::Csv) {
+    if (m_nHeld == 0 && !m_bBegun) m_strLines = m_strHead;
+    for (const CAnswer& answer : m_arrAnswer) m_strLines += answer.m_strText;
+    PrintCsv(m_strLines);
   } else {
-    std::string text = m_bBegun ? "" : m_strHead;
+    std::string text;
     for (const CAnswer& answer : m_arrAnswer) {
-      if (m_nForm == CAnswerForm::Json) text += std::exchange(m_bBegun, true) ? ",\n" : "[\n";
+      text += std::exchange(m_bBegun, true) ? ",\n" : "[\n";
       text += answer.m_strText;
     }
-    if (m_nForm == CAnswerForm::Csv)
-      PrintCsv(text);
-    else
-      Print(text);
+    Print(text);
   }
   m_bBegun = m_bBegun || m_nForm != CAnswerForm::Json;
   m_arrAnswer.clear();
+  m_strLines.clear();
+  m_nHeld = 0;
 }
 
 void CAnswers::PrintTable() const {

@@ -25,7 +25,8 @@ class CAnswers {
   void AddRows(double worst, std::vector<std::vector<std::string>> rows) {
     Add({worst, std::move(rows), ""});
   }
-  void AddLine(double worst, std::string line) { Add({worst, {}, std::move(line)}); }
+  // What the lines of a case are appended to, until the next one.
+  std::string& NextLines(double worst);
   void AddJson(double worst, const CJson& json);
   void Finish();
 
@@ -44,6 +45,8 @@ class CAnswers {
   const CLanguage m_nLanguage;
   const std::string m_strHead;
   bool m_bBegun = false;
+  std::string m_strLines;   // of a CSV as they come
+  std::size_t m_nHeld = 0;  // cases in m_strLines
   std::vector<CAnswer> m_arrAnswer;
 };
 

@@ -116,9 +116,9 @@ class CMembers {
     const double worst = WorstRun().Worst();
     switch (m_answers.Form()) {
       case CAnswerForm::Csv: {
-        std::string lines;
+        std::string& lines = m_answers.NextLines(worst);
         for (const CMemberRun* run : m_arrRun) run->AppendCsv(m_nCases, lines);
-        return m_answers.AddLine(worst, std::move(lines));
+        return;
       }
       case CAnswerForm::Json: {
         CJson answer = {{"case", m_nCases}};

@@ -23,14 +23,13 @@
 #include "framework/language.h"
 #include "framework/utf8.h"
 #include "option_errors.h"
+#include "output_options.h"
 #include "progress.h"
 #include "reports/report_document.h"
 #include "schemas.h"
 
 namespace orv3::cli {
 namespace {
-
-constexpr std::size_t kCsvLine = 500;  // most lines are shorter
 
 struct COptions {
   std::string kind;
@@ -169,11 +168,10 @@ class CChecker {
     const double worst = Worst();
     switch (m_answers.Form()) {
       case CAnswerForm::Csv: {
-        std::string lines;
-        lines.reserve(kCsvLine);
+        std::string& lines = m_answers.NextLines(worst);
         for (const CCodeEdition edition : m_arrEdition)
           With(edition, [&](auto& run) { run.AppendCsv(m_nCases, m_columns, lines); });
-        return m_answers.AddLine(worst, std::move(lines));
+        return;
       }
       case CAnswerForm::Json:
         return m_answers.AddJson(worst, CaseJson());
@@ -288,9 +286,7 @@ void AddCheckCommand(CLI::App& program) {
               "A case or an array of cases in JSON, or a .csv; - reads JSON from standard input"))
       ->required()
       ->check(FileName);
-  auto* json = command->add_flag(
-      "--json", options->json,
-      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  auto* json = AddJsonOption(*command, options->json);
   command
       ->add_flag("--csv", options->csv, Say("以 CSV 输出，每个算例一行", "As CSV, one line a case"))
       ->excludes(json);

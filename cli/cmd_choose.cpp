@@ -1,6 +1,7 @@
 // orv3cal choose: the lightest sections of tables that pass a member's cases.
 
 #include <algorithm>
+#include <cstdio>
 #include <memory>
 #include <span>
 #include <sstream>
@@ -20,6 +21,7 @@
 #include "members/report/choice_plot.h"
 #include "nearest.h"
 #include "option_errors.h"
+#include "output_options.h"
 #include "store_place.h"
 #include "style_ranges.h"
 
@@ -78,7 +80,6 @@ std::vector<CMemberCase> ReadMembers(const COptions& options) {
 }
 
 std::vector<CString> TablesAsked(const std::string& names) {
-  if (names == "all") return MemberTables();
   std::vector<CString> tables;
   std::istringstream each(names);
   for (std::string name; std::getline(each, name, ',');) {
@@ -91,18 +92,24 @@ std::vector<CString> TablesAsked(const std::string& names) {
   return tables;
 }
 
-std::vector<CMemberCandidate> Candidates(const COptions& options, double gap) {
+std::vector<CMemberCandidate> TableCandidates(const COptions& options, double gap) {
+  if (options.tables == "all") return AllMemberCandidates(gap);
   std::vector<CMemberCandidate> candidates;
   for (const CString& table : TablesAsked(options.tables)) {
     std::vector<CMemberCandidate> rows = MemberCandidates(table, gap);
-    if (rows.empty() && options.tables != "all") {
+    if (rows.empty()) {
       Refuse("--table: " + Say("库中没有“{1}”的行；最接近的是：{2}",
                                "the store has no rows of \"{1}\"; the nearest are: {2}",
                                {ToUtf8(table), Nearest(ToUtf8(table), MemberTables())}));
     }
     std::move(rows.begin(), rows.end(), std::back_inserter(candidates));
   }
-  for (const std::string& style : options.styles) AddStyleRanges(style, candidates);
+  return candidates;
+}
+
+std::vector<CMemberCandidate> Candidates(const COptions& options, double gap) {
+  std::vector<CMemberCandidate> candidates = TableCandidates(options, gap);
+  for (const std::string& style : options.styles) AddStyles(style, candidates);
   if (candidates.empty())
     Refuse(Say("没有可选的截面；请给出 --table 表名[,表名...]、--table all 或 --style",
                "nothing to choose from; give --table with names or all, or --style"));
@@ -172,11 +179,15 @@ class CAnswer {
                 {std::to_string(m_choice.m_nTried), std::to_string(m_choice.m_arrChosen.size()),
                  EditionFacts(m_nEdition).m_szName}) +
             '\n';
-    if (m_choice.m_nRefused > 0)
-      text += Say("另有 {1} 个不能验算，第一个：{2}", "{1} more are not covered, the first: {2}",
-                  {std::to_string(m_choice.m_nRefused), FirstRefusal()}) +
-              '\n';
+    if (const std::string refused = Refused(); !refused.empty()) text += refused + '\n';
     return text + Notes();
+  }
+
+  // How many sections were left out, with the first; empty for none.
+  std::string Refused() const {
+    if (m_choice.m_nRefused == 0) return {};
+    return Say("另有 {1} 个不能验算，第一个：{2}", "{1} more are not covered, the first: {2}",
+               {std::to_string(m_choice.m_nRefused), FirstRefusal()});
   }
 
   // "热轧等边角钢 L20X3, case wind, steel: ..."
@@ -266,7 +277,9 @@ CExit RunChoose(const COptions& options) {
   if (!fault) fault = ReadChoiceGap(cases, gap);
   if (fault) Refuse(Visible(options.file) + ": " + fault->Line(MessageLanguage()));
   std::vector<CMemberCandidate> candidates = Candidates(options, gap);
-  const CMemberChoice choice = ChooseMember(cases, candidates, edition);
+  const CMemberChoice choice =
+      ChooseMember(cases, candidates, edition,
+                   options.plot.empty() ? CFailingRatio::AnyAboveOne : CFailingRatio::Whole);
   const CAnswer answer(cases, candidates, choice, edition, options.top);
   if (choice.m_nTried == 0)
     Refuse(Visible(options.file) + ": " +
@@ -278,6 +291,9 @@ CExit RunChoose(const COptions& options) {
     PrintJson(answer.Json());
   } else if (options.csv) {
     PrintCsv(answer.Csv());
+    if (const std::string refused = answer.Refused(); !refused.empty())
+      std::fprintf(stderr, "orv3cal: %s: %s\n", Visible(options.file).c_str(),
+                   Visible(refused).c_str());
   } else {
     Print(answer.Text());
   }
@@ -319,9 +335,7 @@ void AddChooseCommand(CLI::App& program) {
   command->add_option("--top", options->top, Say("至多显示这么多个", "Show this many at most"))
       ->check(CLI::PositiveNumber);
   AddEditionOption(*command, options->code);
-  auto* json = command->add_flag(
-      "--json", options->json,
-      Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
+  auto* json = AddJsonOption(*command, options->json);
   command
       ->add_flag("--csv", options->csv,
                  Say("以 CSV 输出，每个截面一行", "As CSV, one line a section"))

@@ -20,6 +20,7 @@
 #include "framework/utf8.h"
 #include "nearest.h"
 #include "output.h"
+#include "output_options.h"
 #include "schemas.h"
 #include "sections/load_data_table.h"
 #include "store_place.h"
@@ -193,12 +194,8 @@ void AddLatticeCommand(CLI::App& program) {
           "FILE", options->file,
           Say("格构柱，见 docs/lattice.md（JSON）", "The column, as docs/lattice.md tells (JSON)"))
       ->required();
-  command->add_flag("--json", options->json,
-                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
-  command
-      ->add_option("--svg", options->svg,
-                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
-      ->type_name("FILE");
+  AddJsonOption(*command, options->json);
+  AddSvgOption(*command, options->svg);
   AddStoreOptions(*command, options->store);
   command->callback([options] { RunLattice(*options); });
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,6 +19,8 @@
 #include "outlines/loops.h"
 #include "outlines/section_solver.h"
 #include "output.h"
+#include "output_options.h"
+#include "streams.h"
 #include "text_table.h"
 
 namespace orv3::cli {
@@ -163,11 +164,11 @@ void WarnOfStress(const COptions& options, const CAnswer& answer) {
   for (const CStressRow& row : kStresses) {
     const CBoundaryStress* point = greatest.*row.m_pPoint;
     if (point == nullptr || !(StressError(*point, row.m_pValue) > kMost)) continue;
-    std::fprintf(stderr, "orv3cal: %s: %s: %s\n", Visible(options.file).c_str(), row.m_szKey,
-                 Say("该处应力的误差估计超过 3 %；圆角或缺口相对壁厚过小",
-                     "the estimated error of this stress is above 3 %, a fillet or notch is too "
-                     "small beside the wall")
-                     .c_str());
+    WriteError("orv3cal: " + Visible(options.file) + ": " + row.m_szKey + ": " +
+               Say("该处应力的误差估计超过 3 %；圆角或缺口相对壁厚过小",
+                   "the estimated error of this stress is above 3 %, a fillet or notch is too "
+                   "small beside the wall") +
+               "\n");
   }
 }
 
@@ -269,9 +270,7 @@ void AddOutlineCommand(CLI::App& program) {
       ->add_option("--layer", options->layer,
                    Say("DXF 文件只读此图层", "Of a DXF file this layer only"))
       ->type_name("NAME");
-  CLI::Option* json = command->add_flag(
-      "--json", options->json,
-      Say("以 JSON 输出，数值全部有效位", "As JSON, numbers with all their digits"));
+  CLI::Option* json = AddJsonOption(*command, options->json);
   command->add_flag("--csv", options->csv, Say("以 CSV 输出，一行", "As CSV, one line"))
       ->excludes(json);
   command

@@ -14,6 +14,7 @@
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "output.h"
+#include "output_options.h"
 #include "section_view.h"
 #include "sections/outline.h"
 #include "sections/section_check.h"
@@ -204,17 +205,9 @@ void AddSectionCommand(CLI::App& program) {
       ->type_name("X Y");
   command->add_option("--name", options->name,
                       Say("截面名称，至多 30 个字符", "The section's name, at most 30 characters"));
-  command->add_flag("--json", options->json,
-                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
-  command
-      ->add_option("--svg", options->svg,
-                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
-      ->type_name("FILE");
-  command
-      ->add_option("--dxf", options->dxf,
-                   Say("为绘图程序写入轮廓：带圆弧的多段线，单位 mm",
-                       "Write the outline for a drawing program: polylines with arcs, in mm"))
-      ->type_name("FILE");
+  AddJsonOption(*command, options->json);
+  AddSvgOption(*command, options->svg);
+  AddDxfOption(*command, options->dxf);
   command->callback([options] { RunSection(*options); });
 }
 

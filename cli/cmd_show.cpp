@@ -17,6 +17,7 @@
 #include "ifc_output.h"
 #include "nearest.h"
 #include "output.h"
+#include "output_options.h"
 #include "sections/load_data_table.h"
 #include "show_view.h"
 #include "store_place.h"
@@ -132,17 +133,9 @@ void AddShowCommand(CLI::App& program) {
           ->check(CLI::Range(0, 1000))
           ->type_name("MM");
   AddStoreOptions(*command, options->store);
-  command->add_flag("--json", options->json,
-                    Say("以 JSON 输出，数值带全部位数", "As JSON, numbers with all their digits"));
-  command
-      ->add_option("--svg", options->svg,
-                   Say("写入按比例绘制的图形", "Write a picture drawn to scale"))
-      ->type_name("FILE");
-  command
-      ->add_option("--dxf", options->dxf,
-                   Say("为绘图程序写入轮廓：带圆弧的多段线，单位 mm",
-                       "Write the outline for a drawing program: polylines with arcs, in mm"))
-      ->type_name("FILE");
+  AddJsonOption(*command, options->json);
+  AddSvgOption(*command, options->svg);
+  AddDxfOption(*command, options->dxf);
   command
       ->add_option(
           "--ifc", options->ifc,

@@ -1,11 +1,11 @@
 #include "exact_view.h"
 
 #include <cmath>
-#include <cstdio>
 
 #include "framework/language.h"
 #include "framework/utf8.h"
 #include "outlines/exact_keys.h"
+#include "streams.h"
 #include "text_table.h"
 
 namespace orv3::cli {
@@ -80,7 +80,7 @@ void AddExactJson(CJson& json, const CExactProperties& exact) {
 
 void WarnInaccurate(const std::string& what, const CExactProperties& exact) {
   if (std::isnan(exact.It) || exact.m_bAccurate) return;
-  std::fprintf(stderr, "orv3cal: %s: %s\n", Visible(what).c_str(), InaccurateNote().c_str());
+  WriteError("orv3cal: " + Visible(what) + ": " + InaccurateNote() + "\n");
 }
 
 void PrintExact(const CExactProperties& exact) {

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 
 #include "error.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
 #include "inputs_read.h"
 #include "platform/whole_file.h"
+#include "streams.h"
 
 namespace orv3::cli {
 namespace {
@@ -45,7 +45,10 @@ bool IsStream(const std::string& path) {
 }
 
 std::string ReadInput(const std::string& path, std::uint64_t most) {
-  if (path == kStandardInput) return ReadStream(std::cin, most);
+  if (path == kStandardInput) {
+    std::istream input(InputBuffer());
+    return ReadStream(input, most);
+  }
   if (IsStream(path)) {
     std::ifstream stream(NativePath(path), std::ios::binary);
     if (!stream) NotRead(path, Say("不能读取", "cannot be read"));

@@ -1,208 +1,28 @@
 // orv3cal: sections, tables and checks of structural steel on the command line.
 
-#include <CLI/CLI.hpp>
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <iostream>
-#include <new>
 #include <string>
 #include <vector>
 
-#include "asked_language.h"
-#include "commands.h"
-#include "error.h"
-#include "framework/excerpt.h"
 #include "framework/language.h"
-#include "framework/number_text.h"
-#include "framework/utf8.h"
-#include "help_words.h"
-#include "option_errors.h"
 #include "output.h"
 #include "platform/command_line.h"
-
-namespace {
+#include "program.h"
 
 using orv3::Say;
-using orv3::cli::CExit;
-
-// CLI11 takes "[a,b]" for a list; with a mark behind it, which every option takes off again, it is
-// a name like any other.
-constexpr char kMark = '\x01';
-
-int Fail(CExit exit, std::string text) {
-  std::replace(text.begin(), text.end(), '\n', ' ');
-  std::fprintf(stderr, "orv3cal: %s\n", orv3::Visible(text).c_str());
-  return static_cast<int>(exit);
-}
-
-// CLI11 takes "-.5" for an option; "-0.5" it knows for a number.
-void SpellOut(std::string& argument) {
-  if (argument.starts_with("-.") && orv3::IsNumber(orv3::FromUtf8(argument))) {
-    argument.insert(1, "0");
-  }
-}
-
-bool IsMarked(const std::string& text) {
-  return text.starts_with('[') && text.ends_with(std::string("]") + kMark);
-}
-
-void Mark(std::string& argument) {
-  if (argument.starts_with('[') && argument.ends_with(']')) argument += kMark;
-}
-
-std::string Unmarked(std::string argument) {
-  if (IsMarked(argument)) argument.pop_back();
-  return argument;
-}
-
-void TakeMarksOff(CLI::App& command) {
-  for (CLI::Option* option : command.get_options()) {
-    option->transform(Unmarked);
-  }
-  for (CLI::App* each : command.get_subcommands({})) TakeMarksOff(*each);
-}
-
-// CLI11 takes the arguments in reverse, without the program's name.
-std::vector<std::string> ForParsing(int argc, char** argv) {
-  std::vector<std::string> arguments = orv3::CommandLineUtf8(argc, argv);
-  std::for_each(arguments.begin(), arguments.end(), SpellOut);
-  std::for_each(arguments.begin(), arguments.end(), Mark);
-  std::reverse(arguments.begin(), arguments.end());
-  if (!arguments.empty()) arguments.pop_back();
-  return arguments;
-}
-
-// An option that names a file or a folder and does not name one, such as --store "$UNSET", is no
-// option left out.
-void RefuseEmptyPaths(CLI::App& command) {
-  for (CLI::Option* option : command.get_options()) {
-    const std::string type = option->get_type_name();
-    const bool place = type.starts_with("FILE") || type == "FOLDER" || type == "DIR";
-    if (!place && option->get_name(true) != "FILE") continue;
-    option->check([](const std::string& path) {
-      return path.empty() ? Say("没有给出名称；应为路径", "names nothing; right would be a path")
-                          : std::string();
-    });
-  }
-  for (CLI::App* each : command.get_subcommands({})) RefuseEmptyPaths(*each);
-}
-
-// What is wrong with the words up to the last command's name: a command that is none, or an option
-// that a command with commands of its own does not have. Empty when nothing is.
-std::string UnknownCommand(const CLI::App* command, const std::vector<std::string>& arguments) {
-  for (auto word = arguments.rbegin(); word != arguments.rend(); ++word) {
-    const auto commands = command->get_subcommands({});
-    if (commands.empty()) return {};
-    if (word->starts_with('-')) {
-      const std::size_t equals = word->find('=');
-      const CLI::Option* option = command->get_option_no_throw(word->substr(0, equals));
-      if (!option) return Say("没有这样的选项：{1}", "no such option: {1}", {orv3::Excerpt(*word)});
-      const bool value = option->get_items_expected_max() > 0 && equals == word->npos;
-      if (value && std::next(word) != arguments.rend()) ++word;
-      continue;
-    }
-    std::string names;
-    command = nullptr;
-    for (const CLI::App* each : commands) {
-      if (each->get_name() == *word) command = each;
-      names += (names.empty() ? "" : ", ") + each->get_name();
-    }
-    if (!command)
-      return Say("“{1}”不是命令；应为下列之一：{2}",
-                 "\"{1}\" is no command; right would be one of {2}",
-                 {orv3::Excerpt(Unmarked(*word)), names});
-  }
-  return {};
-}
-
-// An error's text in which no argument is quoted whole that is too long for it.
-std::string WithExcerpts(std::string text, const std::vector<std::string>& arguments) {
-  for (const std::string& argument : arguments) {
-    const std::string excerpt = orv3::Excerpt(Unmarked(argument));
-    const std::size_t at = excerpt == argument ? text.npos : text.find(argument);
-    if (at != text.npos) text.replace(at, argument.size(), excerpt);
-  }
-  return text;
-}
-
-// A command's sentence quotes a path whole, but nothing that is longer than any path one types.
-std::string Bounded(const std::string& text, int argc, char** argv) {
-  constexpr std::size_t kLongestPath = 300;
-  std::vector<std::string> endless;
-  for (std::string& argument : ForParsing(argc, argv)) {
-    if (argument.size() > kLongestPath) endless.push_back(std::move(argument));
-  }
-  return WithExcerpts(text, endless);
-}
-
-int Run(int argc, char** argv) {
-  std::vector<std::string> arguments = ForParsing(argc, argv);
-  orv3::cli::TakeLanguage({arguments.rbegin(), arguments.rend()});
-  CLI::App program(Say("钢结构截面与连接计算，按 GB 50017（2017 版和 2003 版）",
-                       "Sections and connection checks of structural steel, by GB 50017 (editions "
-                       "of 2017 and 2003)"),
-                   "orv3cal");
-  program.set_version_flag("--version", "orv3cal " ORV3CAL_VERSION,
-                           Say("显示版本", "Display program version information and exit"));
-  program.allow_windows_style_options(false);  // "/folder/file" is a path on Windows too
-  program.require_subcommand(1);
-  program.footer(Say("各命令的用法见 orv3cal COMMAND --help。",
-                     "orv3cal COMMAND --help tells what a command takes."));
-  for (const auto add : orv3::cli::kCommands) add(program);
-  RefuseEmptyPaths(program);
-  orv3::cli::AddLanguageOption(program);
-  orv3::cli::SayHelpWords(program);
-  TakeMarksOff(program);
-  if (!std::all_of(arguments.begin(), arguments.end(), orv3::IsUtf8)) {
-    return Fail(CExit::BadInput, Say("有一个参数不是 UTF-8 文字", "an argument is not UTF-8 text"));
-  }
-  if (const std::string fault = UnknownCommand(&program, arguments); !fault.empty()) {
-    return Fail(CExit::BadInput, fault);
-  }
-  try {
-    program.parse(arguments);
-  } catch (const CLI::Success& help) {
-    return program.exit(help);
-  } catch (const CLI::ParseError& error) {
-    std::string name;
-    for (const CLI::App* used = &program; !used->get_subcommands().empty();) {
-      used = used->get_subcommands().front();
-      name += used->get_name() + " ";
-    }
-    return Fail(CExit::BadInput,
-                WithExcerpts(orv3::cli::OptionErrorText(error), ForParsing(argc, argv)) +
-                    Say("（见 orv3cal {1}--help）", " (see orv3cal {1}--help)", {name}));
-  }
-  return static_cast<int>(CExit::Done);
-}
-
-// Run, with every error told.
-int RunGuarded(int argc, char** argv) {
-  try {
-    return Run(argc, argv);
-  } catch (const CExit exit) {
-    return static_cast<int>(exit);
-  } catch (const orv3::cli::CCommandError& error) {
-    return Fail(error.m_nExit, Bounded(error.what(), argc, argv));
-  } catch (const std::bad_alloc&) {
-    return Fail(CExit::FileTrouble,
-                Say("本机内存不足", "the memory of this machine does not suffice"));
-  } catch (const std::exception& error) {
-    return Fail(CExit::FileTrouble, error.what());
-  }
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   orv3::UseUtf8Console();
-  const int status = RunGuarded(argc, argv);
+  std::vector<std::string> arguments = orv3::CommandLineUtf8(argc, argv);
+  if (!arguments.empty()) arguments.erase(arguments.begin());
+  const int status = orv3::cli::RunProgram(arguments);
   errno = 0;
   if (std::cout.flush() && std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
   const std::string& saved = orv3::cli::SavedNote();
-  return Fail(
-      CExit::FileTrouble,
+  return orv3::cli::Fail(
+      orv3::cli::CExit::FileTrouble,
       (errno == ENOSPC ? Say("标准输出不能写入，磁盘已满",
                              "standard output cannot be written, the disk is full")
                        : Say("标准输出不能写入，磁盘是否已满？",

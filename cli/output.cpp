@@ -11,8 +11,8 @@
 #include "framework/number_chars.h"
 #include "framework/utf8.h"
 #include "inputs_read.h"
-#include "platform/terminal.h"
 #include "platform/whole_file.h"
+#include "streams.h"
 #include "tables/file/store_check.h"
 
 namespace orv3::cli {
@@ -25,8 +25,6 @@ constexpr double kInfinite = 1e100;
   throw CCommandError(CExit::FileTrouble,
                       Say("{1}: 没有写入，{2}", "{1}: not written, {2}", {path, reason}));
 }
-
-void PrintBytes(std::string_view bytes) { std::fwrite(bytes.data(), 1, bytes.size(), stdout); }
 
 // A file that standard output goes to must not be replaced under it.
 bool IsStandardOutput(const std::filesystem::path& file) {
@@ -89,7 +87,7 @@ std::string NumberText(double value) {
                                          : WriteGeneral(text, end, shown, digits)};
 }
 
-void Print(const std::string& text) { PrintBytes(Visible(text, true)); }
+void Print(const std::string& text) { WriteOutput(Visible(text, true)); }
 
 // JSON has its own escapes for controls, of which the library writes those below U+0020.
 void PrintJson(const CJson& json) {
@@ -106,11 +104,11 @@ void PrintJson(const CJson& json) {
       text += ch;
     }
   }
-  PrintBytes(text + '\n');
+  WriteOutput(text + '\n');
 }
 
 void PrintCsv(const std::string& text) {
-  PrintBytes(OutputIsTerminal() ? Visible(text, true) : text);
+  WriteOutput(OutputIsWatched() ? Visible(text, true) : text);
 }
 
 void WriteFile(const std::string& path, const std::string& bytes) {
@@ -118,7 +116,7 @@ void WriteFile(const std::string& path, const std::string& bytes) {
   std::error_code ignored;
   const auto status = std::filesystem::status(native, ignored);
   if (std::filesystem::is_directory(status)) NotWritten(path, Say("是文件夹", "it is a folder"));
-  if (IsStandardOutput(native)) return PrintBytes(bytes);
+  if (IsStandardOutput(native)) return WriteOutput(bytes);
   KeepFromLoss(native, path, bytes);
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
     return WriteThrough(native, path, bytes);

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <string>
 
-#include "platform/terminal.h"
+#include "streams.h"
 
 namespace orv3::cli {
 namespace {
@@ -14,7 +14,7 @@ constexpr int kWidth = 40;
 }  // namespace
 
 CProgress::CProgress()
-    : m_bWatched(ErrorIsTerminal()),
+    : m_bWatched(ErrorIsWatched()),
       m_start(CClock::now()),
       m_next(m_start + std::chrono::seconds(1)) {}
 

@@ -89,7 +89,7 @@ void AddFigure(CTextTable& table, const CFigure& figure, const CRowFigures& figu
 
 void AddSymmetry(CTextTable& table, const std::string& letter, const std::optional<bool>& value) {
   table.AddRow({"对称于" + letter + "轴", "",
-                value ? (*value ? Say("是", "是 yes") : Say("否", "否 no")) : "-", "",
+                value ? (*value ? Say("是", "yes") : Say("否", "no")) : "-", "",
                 Say({"", "symmetric about " + letter})});
 }
 
@@ -272,6 +272,10 @@ std::vector<std::string> RowDoubtNotes(const CDataItem& row) {
         Say("{1} 可疑：行中为 {2}，由尺寸的轮廓得 {3}（mm）。",
             "{1} is doubtful: the row tells {2}, the outline of its sizes has {3} (mm).",
             {doubt.m_szKey, NumberText(doubt.m_dTold), NumberText(doubt.m_dOutline)}));
+  }
+  if (LatticeLimbCount(row.m_strTableName.View()) > 0) {
+    if (const auto what = Contradiction(row))
+      notes.push_back(Say("一肢自相矛盾：{1}。", "A limb contradicts itself: {1}.", {Say(*what)}));
   }
   return notes;
 }

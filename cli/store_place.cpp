@@ -36,7 +36,13 @@ CString In(const CString& folder) {
 
 CString UserStore() { return In(UserDataFolder()); }
 
+CString& ShippedFolder() {
+  static CString folder;
+  return folder;
+}
+
 CString ShippedStore() {
+  if (!ShippedFolder().IsEmpty()) return In(ShippedFolder());
   const CString program = FolderOf(FolderOf(ProgramFile()));
   return program.IsEmpty() ? CString() : In(program + L"/share/orv3cal");
 }
@@ -147,6 +153,8 @@ void AddStoreOptions(CLI::App& command, CStoreOptions& options) {
                       "ORV3CAL_DATA if it is not given"))
       ->type_name("DIR");
 }
+
+void SetShippedFolder(const CString& folder) { ShippedFolder() = folder; }
 
 CString StoreToRead(const CStoreOptions& options) {
   const CString catalogue = Catalogue(options);

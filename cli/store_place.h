@@ -23,6 +23,10 @@ struct CStoreOptions {
 // Adds --store and --data; the variable ORV3CAL_DATA stands for a --data that is not given.
 void AddStoreOptions(CLI::App& command, CStoreOptions& options);
 
+// The folder of the catalogue that comes with the installation, for a program in whose folders it
+// does not stand; an empty one, as at the start, is share/orv3cal beside the program's folder.
+void SetShippedFolder(const CString& folder);
+
 // The file of the store to read; CCommandError with status 3 when there is none. CLoadDataTable's
 // look-ups then go to it first and, for what a --store lacks, to the catalogue that would serve
 // without --store.

@@ -10,6 +10,6 @@ namespace orv3::cli {
 
 // Adds every section of the ranges: a size is a number, or [from, to, step]. Sizes that bound no
 // section are added with their fault. An object that is wrong is refused under --style.
-void AddStyleRanges(const std::string& json, std::vector<CMemberCandidate>& candidates);
+void AddStyles(const std::string& json, std::vector<CMemberCandidate>& candidates);
 
 }  // namespace orv3::cli

@@ -43,6 +43,9 @@ wine_symbols() {
   done
 }
 
+# The packages of the Python module and its tests.
+PYTHON_PACKAGES="python3-dev pybind11-dev python3-numpy python3-pandas"
+
 # The packages of a native build and its tests.
 NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libeigen3-dev libcli11-dev
                  nlohmann-json3-dev

@@ -43,7 +43,8 @@ struct CCodeRefusal {
 template <class VALUE>
 class CCodeAnswer {
  public:
-  CCodeAnswer(VALUE value, const CCodeSource& source) : m_answer(CFound{value, source}) {}
+  CCodeAnswer(const VALUE& value, const CCodeSource& source)
+      : m_answer(std::in_place_type<CFound>, value, source) {}
   CCodeAnswer(CCodeRefusal refusal) : m_answer(std::move(refusal)) {}
 
   explicit operator bool() const noexcept { return std::holds_alternative<CFound>(m_answer); }
@@ -63,6 +64,7 @@ class CCodeAnswer {
 
  private:
   struct CFound {
+    CFound(const VALUE& value, const CCodeSource& source) : m_value(value), m_source(source) {}
     VALUE m_value;
     CCodeSource m_source;
   };

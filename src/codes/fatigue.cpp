@@ -25,7 +25,7 @@ CCodeAnswer<CFatigueCategory> Category2003(std::string_view name) {
 }
 
 // The row of "Z1" to "Z14", "J1" to "J3"; null for another name. The rows of Z stand first.
-const gb2017::CFatigueRow* Row2017(std::string_view name) noexcept {
+const CFatigueCategory* Row2017(std::string_view name) noexcept {
   constexpr std::size_t kNormal = 14;
   constexpr std::size_t kShear = std::size(gb2017::kFatigue) - kNormal;
   if (name.size() < 2 || name.size() > 3 || (name[0] != 'Z' && name[0] != 'J')) return nullptr;
@@ -48,13 +48,11 @@ constexpr double kCutOff = 1e8;  // cycles, beyond which nothing more is lost
 
 CCodeAnswer<CFatigueCategory> FatigueCategory(CCodeEdition edition, std::string_view name) {
   if (edition == CCodeEdition::Gb2003) return Category2003(name);
-  if (const gb2017::CFatigueRow* row = Row2017(name)) {
+  if (const CFatigueCategory* row = Row2017(name)) {
     const CTextLiteral place = name.front() == 'J'
                                    ? CTextLiteral{"16.2.1 表 16.2.1-2", "16.2.1, Table 16.2.1-2"}
                                    : CTextLiteral{"16.2.1 表 16.2.1-1", "16.2.1, Table 16.2.1-1"};
-    return {{row->m_strCategory.data(), row->m_dC, row->m_dBeta, row->m_range2e6, row->m_range5e6,
-             row->m_cutOff},
-            {edition, place}};
+    return {*row, {edition, place}};
   }
   CCodeRefusal refusal = NoneOf("category", name, {});
   refusal.m_right = {"请给出 Z1 至 Z14（正应力）或 J1 至 J3（剪应力）",

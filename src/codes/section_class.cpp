@@ -52,15 +52,16 @@ CCodeAnswer<CClassLimits> ClassLimits(CCodeEdition edition, CClassElement elemen
   const double epsilon = EpsilonK(grade);
   const double factor = element == CClassElement::Tube ? epsilon * epsilon : epsilon;
   const gb2017::CClassRow& row = gb2017::kClasses[ClassRow(element)];
-  const double log = std::log(alpha0);  // -infinity at 0, whose powers are 0
-  CClassLimits limits;
-  for (std::size_t i = 0; i <= kS5; ++i) {
-    if (!row.m_arrLimit[i]) continue;
-    double limit = *row.m_arrLimit[i];
-    if (element == CClassElement::WebCompressed && i < kS5)
-      limit = kWeb[i].m_dConstant + kWeb[i].m_dFactor * std::exp(kWeb[i].m_dExponent * log);
-    limits.m_arrLimit[i] = i == kS5 ? limit : factor * limit;
+  CClassLimits limits = {row.m_arrLimit};
+  if (element == CClassElement::WebCompressed) {
+    const double log = std::log(alpha0);  // -infinity at 0, whose powers are 0
+    const auto power = [&](double exponent) {
+      return exponent == 1.5 ? alpha0 * std::sqrt(alpha0) : std::exp(exponent * log);
+    };
+    for (std::size_t i = 0; i < kS5; ++i)
+      limits.m_arrLimit[i] = kWeb[i].m_dConstant + kWeb[i].m_dFactor * power(kWeb[i].m_dExponent);
   }
+  for (std::size_t i = 0; i < kS5; ++i) *limits.m_arrLimit[i] *= factor;
   return {limits, OfGrade(grade, {edition, {"3.5.1 表 3.5.1", "3.5.1, Table 3.5.1"}})};
 }
 

@@ -12,8 +12,8 @@ namespace {
 
 constexpr CTextLiteral kSurfaces2003[] = {
     {"喷砂（丸）", "sand- or shot-blasted"},
-    {"喷砂（丸）后涂无机富锌漆", "the same with inorganic zinc-rich paint"},
-    {"喷砂（丸）后生赤锈", "the same and rusted red"},
+    {"喷砂（丸）后涂无机富锌漆", "sand- or shot-blasted, inorganic zinc-rich paint"},
+    {"喷砂（丸）后生赤锈", "sand- or shot-blasted and rusted red"},
     {"钢丝刷清除浮锈", "loose rust brushed off with a wire brush"},
     {"未经处理的干净轧制表面", "clean rolled surface without treatment"},
 };

@@ -4,6 +4,7 @@
 #include "catalogue/code_tables/table_search.h"
 #include "catalogue/code_tables/thickness_group.h"
 #include "connections/bolt_group.h"
+#include "connections/bolt_thread.h"
 #include "connections/check_math.h"
 #include "framework/number_text.h"
 
@@ -34,11 +35,8 @@ void NormalBoltData::CalBoltKongD() {
 }
 
 void NormalBoltData::CalBoltYouXiaoD() {
-  for (const auto& row : m_strBolt) {
-    if (orv3::ToInt(row[0]) != m_nD) continue;
-    m_dDe = orv3::ToDouble(row[1]);
-    return;
-  }
+  const double de = orv3::EffectiveDiameter(m_nD);
+  if (de > 0) m_dDe = de;
 }
 
 void NormalBoltData::CalGangCaiQD() {

@@ -5,6 +5,7 @@
 
 #include "catalogue/code_tables/table_search.h"
 #include "catalogue/code_tables/thickness_group.h"
+#include "connections/weld_load_case.h"
 
 WQWeldingData::WQWeldingData(int, double, double, double, double, double, int, int) {}
 
@@ -28,25 +29,10 @@ void WQWeldingData::CalWeldSectionW() {
 void WQWeldingData::CalStress() {
   CalWeldQD();
   CalWeldSectionW();
+  if (!orv3::HasWeldLoadCase(m_nLoadCase)) return;
   const double area = m_dT * m_dLw;
-  switch (m_nLoadCase) {
-    case 0:
-      m_dSigma = m_dN / area;
-      return;
-    case 1:
-    case 2:
-      m_dSigma = m_dN / area + m_dM / m_dW;
-      return;
-    case 3:
-      m_dSigma = m_dM / m_dW;
-      break;
-    case 4:
-    case 5:
-      m_dSigma = m_dM / m_dW + m_dN / area;
-      break;
-    default:
-      return;
-  }
+  m_dSigma = orv3::WeldSigma(m_nLoadCase, m_dN, area, m_dM, m_dW);
+  if (!orv3::HasWeldShear(m_nLoadCase)) return;
   m_dTau = 1.5 * m_dV / area;
   m_dReduced = std::sqrt(m_dSigma * m_dSigma + 3 * m_dTau * m_dTau);
 }

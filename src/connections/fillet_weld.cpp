@@ -5,6 +5,7 @@
 
 #include "catalogue/code_tables/table_search.h"
 #include "connections/check_math.h"
+#include "connections/weld_load_case.h"
 #include "framework/kvb_math.h"
 
 namespace {
@@ -63,25 +64,10 @@ void AngleHanFData::CalWeldQD() {
 }
 
 void AngleHanFData::CalStress() {
+  if (!orv3::HasWeldLoadCase(m_nLoadCase)) return;
   const double area = m_dLw * m_dHe;
-  switch (m_nLoadCase) {
-    case 0:
-      m_dSigma = m_dN / area;
-      return;
-    case 1:
-    case 2:
-      m_dSigma = m_dN / area + m_dM / m_dW;
-      return;
-    case 3:
-      m_dSigma = m_dM / m_dW;
-      break;
-    case 4:
-    case 5:
-      m_dSigma = m_dM / m_dW + m_dN / area;
-      break;
-    default:
-      return;
-  }
+  m_dSigma = orv3::WeldSigma(m_nLoadCase, m_dN, area, m_dM, m_dW);
+  if (!orv3::HasWeldShear(m_nLoadCase)) return;
   m_dTau = m_dV / area;
   const double across = m_dSigma / m_dBetaF;
   m_dCombined = std::sqrt(across * across + m_dTau * m_dTau);

@@ -17,6 +17,8 @@ void CCsvReader::Start() {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
   if (!IsEnd(kMark.size() - 1) && m_strBytes.starts_with(kMark)) m_nAt = kMark.size();
   m_chSeparator = FindSeparator();
+  for (const char end : {m_chSeparator, '\n', '\r'})
+    m_arrEnds[static_cast<unsigned char>(end)] = true;
 }
 
 char CCsvReader::FindSeparator() {
@@ -41,11 +43,11 @@ double CCsvReader::Done() const noexcept {
   return static_cast<double>(m_nAt) / static_cast<double>(m_strBytes.size());
 }
 
-bool CCsvReader::IsEnd(std::size_t at) {
+bool CCsvReader::ReadTo(std::size_t at) {
   while (at >= m_strBytes.size()) {
-    if (!m_more || !m_more(m_strBytes)) return true;
+    if (!m_more || !m_more(m_strBytes)) return false;
   }
-  return false;
+  return true;
 }
 
 void CCsvReader::DropRead() {
@@ -83,9 +85,7 @@ void CCsvReader::EndLine(char end) {
 }
 
 void CCsvReader::PassCell() {
-  const auto ends = [separator = m_chSeparator](char ch) {
-    return ch == separator || ch == '\n' || ch == '\r';
-  };
+  const auto ends = [this](char ch) { return m_arrEnds[static_cast<unsigned char>(ch)]; };
   do {
     const auto rest = std::string_view(m_strBytes).substr(m_nAt);
     m_nAt += static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), ends) - rest.begin());

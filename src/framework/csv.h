@@ -1,6 +1,7 @@
 // Values separated by commas, semicolons or tabs, record by record.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -45,8 +46,10 @@ class ORV3CAL_API CCsvReader {
   };
   void Start();
   char FindSeparator();
-  bool IsEnd(std::size_t at);  // reads more where the text at hand ends
-  void PassCell();             // to what ends the cell at hand
+  // Reads more where the text at hand ends.
+  bool IsEnd(std::size_t at) { return at >= m_strBytes.size() && !ReadTo(at); }
+  bool ReadTo(std::size_t at);
+  void PassCell();  // to what ends the cell at hand
   CCell PlainCell();
   CCell QuotedCell();
   void EndLine(char end);
@@ -57,6 +60,7 @@ class ORV3CAL_API CCsvReader {
   std::vector<CCell> m_arrCell;
   std::size_t m_nAt = 0;
   char m_chSeparator = ',';
+  std::array<bool, 256> m_arrEnds{};  // by character: whether it ends a cell
   int m_nLine = 1;
   int m_nNextLine = 1;
   bool m_bMalformed = false;

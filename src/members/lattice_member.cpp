@@ -6,6 +6,7 @@
 
 #include "members/beam_column.h"
 #include "members/slenderness.h"
+#include "members/slenderness_steps.h"
 
 namespace orv3 {
 namespace {
@@ -113,15 +114,8 @@ void CLatticeCheck::Give() {
 
 // 7.2.3; 2003: 5.1.3. l1 of battens runs between their clear edges.
 void CLatticeCheck::Slenderness() {
-  r.m_dLambdaX = q.m_dLx / s.m_dRx;
-  r.m_dLambdaY = q.m_dLy / s.m_dRy;
+  GiveSlendernesses(a, q.m_dLx, q.m_dLy, s.m_dRx, s.m_dRy);
   m_dLambda1 = s.m_dL1 / s.m_dLimbR1;
-  a.Step("l0x", nullptr, q.m_dLx, "mm");
-  a.Step("l0y", nullptr, q.m_dLy, "mm");
-  a.Step("ix", nullptr, s.m_dRx, "mm");
-  a.Step("iy", nullptr, s.m_dRy, "mm");
-  a.Step("λx", "{l0x}/{ix}", r.m_dLambdaX);
-  a.Step("λy", "{l0y}/{iy}", r.m_dLambdaY);
   a.Step("l1", nullptr, s.m_dL1, "mm");
   a.Step("i1", nullptr, s.m_dLimbR1, "mm");
   a.Step("λ1", "{l1}/{i1}", m_dLambda1);

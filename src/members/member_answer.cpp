@@ -26,6 +26,7 @@ constexpr CKindText kKinds[] = {
     {"slenderness", {"长细比", "slenderness"}},
     {"flange", {"翼缘宽厚比", "flange"}},
     {"web", {"腹板高厚比", "web"}},
+    {"panel", {"腹板区格", "web panel"}},
     {"wall", {"壁板宽厚比", "wall"}},
     {"limbs", {"分肢", "limbs"}},
     {"lacing", {"缀材", "lacing"}},
@@ -64,9 +65,29 @@ constexpr CNoteText kNotes[] = {
      {"φb 表 C.0.2（2003：B.2）自 2 m 起：按 2 m 取值，偏于安全",
       "Table C.0.2 (2003: B.2) of φb begins at 2 m: its value of 2 m is taken, which is safe"}},
     {CMemberNote::Stiffeners,
-     "section",
-     {"腹板高厚比大于 80εk：应配置横向加劲肋，其局部稳定未在此验算",
-      "the web is over 80 εk: it needs stiffeners, whose panels are not checked here"}},
+     "stiffeners",
+     {"腹板高厚比大于 80εk，未给横向加劲肋：按无加劲肋验算；6.3.2 宜配置",
+      "the web is over 80 εk and no stiffeners are given: it is checked without any; 6.3.2 "
+      "recommends them"}},
+    {CMemberNote::NeedsStiffeners,
+     "stiffeners",
+     {"腹板高厚比大于 80εk，未给横向加劲肋：6.3.2（2003：4.3.2）要求配置",
+      "the web is over 80 εk and no stiffeners are given: 6.3.2 (2003: 4.3.2) asks for them"}},
+    {CMemberNote::StiffenerPlates,
+     "stiffeners",
+     {"加劲肋本身的尺寸（6.3.6；2003：4.3.6）未在此验算",
+      "the sizes of the stiffeners (6.3.6; 2003: 4.3.6) are not checked here"}},
+    {CMemberNote::UnusedStiffeners,
+     "stiffeners",
+     {"未用到：没有腹板大于 80εk", "is not used: no web is over 80 εk"}},
+    {CMemberNote::UnusedRestrained,
+     "restrained",
+     {"未用到：没有腹板大于 80εk", "is not used: no web is over 80 εk"}},
+    {CMemberNote::LocalPressure,
+     "load",
+     {"假定集中荷载处设有支承加劲肋：局部压应力（6.1.4；2003：4.1.3）未在此验算",
+      "a bearing stiffener is taken to stand under the load at midspan: its local pressure (6.1.4; "
+      "2003: 4.1.3) is not checked here"}},
     {CMemberNote::EffectiveSection,
      "section",
      {"板件为 S5 级：按有效截面计算", "a plate of class S5: taken with its effective section"}},
@@ -157,6 +178,18 @@ constexpr CNoteText kNotes[] = {
     {CMemberNote::AssumedAngle,
      "section.lacing.angle",
      {"未给：按 45°", "is not given: 45 degrees are taken"}},
+    {CMemberNote::AssumedSupports,
+     "supports",
+     {"未给：跨中按无侧向支承", "is not given: no lateral support in the span is taken"}},
+    {CMemberNote::AssumedJoint,
+     "joined",
+     {"未给：按全截面连接；单边连接的单角钢应折减（7.6.1；2003：3.4.2）",
+      "is not given: the whole section is taken as joined; a single angle on one leg is weaker "
+      "(7.6.1; 2003: 3.4.2)"}},
+    {CMemberNote::LimitBeyond,
+     "limit",
+     {"大于规范的最大容许长细比（受压 200，受拉 400）",
+      "is above the code's greatest, 200 in compression and 400 in tension"}},
     {CMemberNote::OppositeMoment,
      "Mx",
      {"弯矩变号而截面两边不同：反号的最大弯矩另行验算，其等效弯矩系数偏于安全，取较不利者",
@@ -178,27 +211,9 @@ const double* ValueOf(std::span<const CMemberStep> steps, std::string_view symbo
   return nullptr;
 }
 
-// The formula with its symbols, and with their values.
-struct CFormulaText {
-  std::string m_strSymbols, m_strNumbers;
-};
-
-CFormulaText FormulaText(const CMemberAnswer& answer, std::size_t index) {
-  CFormulaText text;
-  std::string_view formula = answer.Step(index).m_szFormula;
-  while (!formula.empty()) {
-    const std::size_t open = formula.find('{');
-    text.m_strSymbols += formula.substr(0, open);
-    text.m_strNumbers += formula.substr(0, open);
-    if (open == std::string_view::npos) break;
-    const std::size_t close = formula.find('}', open);
-    const std::string_view symbol = formula.substr(open + 1, close - open - 1);
-    formula.remove_prefix(close + 1);
-    const double* value = answer.ValueBefore(index, symbol);
-    text.m_strSymbols += symbol;
-    text.m_strNumbers += value != nullptr ? PlainNumber(*value) : std::string(symbol);
-  }
-  return text;
+std::string PutNumber(double value) {
+  const std::string text = PlainNumber(value);
+  return value < 0 ? "(" + text + ")" : text;
 }
 
 }  // namespace
@@ -313,13 +328,32 @@ const double* CMemberAnswer::ValueBefore(std::size_t index,
   return value != nullptr ? value : ValueOf(Given(), symbol);
 }
 
+std::vector<CFormulaPiece> CMemberAnswer::Formula(std::size_t index) const {
+  std::vector<CFormulaPiece> pieces;
+  std::string_view rest = m_arrStep[index].m_szFormula;
+  while (!rest.empty()) {
+    const std::size_t open = std::min(rest.find('{'), rest.size());
+    if (open > 0) pieces.push_back({rest.substr(0, open), false, nullptr});
+    if (open == rest.size()) break;
+    const std::size_t close = rest.find('}', open);
+    const std::string_view symbol = rest.substr(open + 1, close - open - 1);
+    pieces.push_back({symbol, true, ValueBefore(index, symbol)});
+    rest.remove_prefix(close + 1);
+  }
+  return pieces;
+}
+
 std::string CMemberAnswer::StepText(std::size_t index) const {
   const CMemberStep& step = m_arrStep[index];
   std::string text = step.m_szSymbol;
   if (step.m_szFormula != nullptr) {
-    const CFormulaText formula = FormulaText(*this, index);
-    text += " = " + formula.m_strSymbols;
-    if (formula.m_strNumbers != formula.m_strSymbols) text += " = " + formula.m_strNumbers;
+    std::string symbols, numbers;
+    for (const CFormulaPiece& piece : Formula(index)) {
+      symbols += piece.m_text;
+      numbers += piece.m_pValue != nullptr ? PutNumber(*piece.m_pValue) : std::string(piece.m_text);
+    }
+    text += " = " + symbols;
+    if (numbers != symbols) text += " = " + numbers;
   }
   text += " = " + PlainNumber(step.m_dValue);
   if (*step.m_szUnit != 0) text += std::string(" ") + step.m_szUnit;

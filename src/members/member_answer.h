@@ -26,11 +26,12 @@ enum class CMemberCheckKind : std::uint8_t {
   Slenderness,
   Flange,
   Web,
+  Panel,  // of a web between its stiffeners
   Wall,
   Limbs,   // lattice columns: one limb between two nodes
   Lacing,  // their lacing bars or battens
 };
-inline constexpr std::size_t kMemberCheckKinds = 14;
+inline constexpr std::size_t kMemberCheckKinds = 15;
 
 ORV3CAL_API const char* MemberCheckName(CMemberCheckKind kind) noexcept;  // "stability-x"
 ORV3CAL_API CTextLiteral MemberCheckTitle(CMemberCheckKind kind) noexcept;
@@ -42,6 +43,14 @@ struct CMemberStep {
   const char* m_szFormula;
   double m_dValue;
   const char* m_szUnit;
+};
+
+// A piece of a formula: its text between two symbols, or a symbol with its value where the step
+// stands, null for none.
+struct CFormulaPiece {
+  std::string_view m_text;
+  bool m_bSymbol;
+  const double* m_pValue;
 };
 
 struct CMemberCheckPart {
@@ -83,6 +92,11 @@ enum class CMemberNote : std::uint8_t {
   RolledITable,
   RolledIShort,
   Stiffeners,
+  NeedsStiffeners,
+  StiffenerPlates,
+  UnusedStiffeners,
+  UnusedRestrained,
+  LocalPressure,
   EffectiveSection,
   ShearCentre,
   BoxBeyond,
@@ -110,6 +124,9 @@ enum class CMemberNote : std::uint8_t {
   AssumedSpan,
   AssumedLoadFlange,
   AssumedAngle,
+  AssumedSupports,
+  AssumedJoint,
+  LimitBeyond,
 };
 ORV3CAL_API CTextLiteral MemberNoteText(CMemberNote note) noexcept;
 ORV3CAL_API const char* MemberNoteKey(CMemberNote note) noexcept;
@@ -160,13 +177,16 @@ class ORV3CAL_API CMemberAnswer {
   // "λx = l0x/ix = 6000/129 = 46.5": a step by its place among all, the given ones first.
   std::string StepText(std::size_t index) const;
   const CMemberStep& Step(std::size_t index) const noexcept { return m_arrStep[index]; }
-  // The value of a symbol where the step stands: the nearest above it in its check, else the given
-  // one; null for none.
-  const double* ValueBefore(std::size_t index, std::string_view symbol) const noexcept;
+  // The formula of a step, which has one.
+  std::vector<CFormulaPiece> Formula(std::size_t index) const;
 
   CMemberResults m_results;
 
  private:
+  // The value of a symbol where the step stands: the nearest above it in its check, else the given
+  // one; null for none.
+  const double* ValueBefore(std::size_t index, std::string_view symbol) const noexcept;
+
   std::vector<CMemberStep> m_arrStep;
   std::vector<CMemberCheckPart> m_arrPart;
   std::vector<CMemberNote> m_arrNote;

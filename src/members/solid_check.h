@@ -54,8 +54,24 @@ class CSolidCheck {
   void MomentPlates2003();
   void OpenPlates2017();
   void ClosedPlates2017();
-  void NoteStiffeners();
   void Limit(CMemberCheckKind kind, const char* clause, double value, double limit);
+  // --- solid_panels.cpp
+  struct CPanel {
+    double m_dH0, m_dTw, m_dHc;  // hc: compressed by the moment
+    double m_dA;                 // that carries the shear
+    double m_dM, m_dV, m_dI;
+    double m_dFv;
+    bool m_bSimpleSpan;
+  };
+  struct CPanelFigures {
+    double m_dSigma = 0, m_dTau = 0, m_dLambdaB = 0, m_dLambdaS = 0, m_dSigmaCr = 0, m_dTauCr = 0;
+    double m_dRatio = -1;
+    const char* m_szFormula = nullptr;
+  };
+  std::vector<CPanel> SlenderPanels() const;
+  CPanelFigures PanelFigures(const CPanel& panel) const;
+  void Panels();
+  void GivePanel(const CPanel& panel, const CPanelFigures& figures);
   // --- solid_strength.cpp
   void Strength();
   double StrengthRatio(double Mx, bool bSteps);
@@ -80,6 +96,7 @@ class CSolidCheck {
   double Phi(double lambda, CBucklingClass bucklingClass) const;
   void Stability();
   void AxialStability(CMemberCheckKind kind, double lambda, double phi);
+  void OneLegStability(double lambda, double phi);
   void BeamColumns();
   void BeamColumnX();
   void BeamColumnY();
@@ -99,6 +116,17 @@ class CSolidCheck {
   void LateralBox();
 
   double F() const noexcept { return m.m_dF; }
+  bool IsOneLeg() const noexcept {
+    return s.m_nShape == CMemberShape::Angle && q.m_nJoint != CMemberJoint::Whole;
+  }
+  // Of an area or a strength where a part of the section alone is joined: 7.1.3, 7.6.1;
+  // 2003: 3.4.2.
+  double JointShare() const noexcept;
+  const char* JointClause(const char* whole) const noexcept {
+    return q.m_nJoint == CMemberJoint::Whole ? whole
+           : IsOneLeg()                      ? Clause("7.6.1", "3.4.2")
+                                             : "7.1.3";
+  }
   bool Is2017() const noexcept { return m.m_nEdition == CCodeEdition::Gb2017; }
   bool HasMoment() const noexcept { return !q.m_x.IsZero() || !q.m_y.IsZero(); }
   bool IsBiaxial() const noexcept { return !q.m_x.IsZero() && !q.m_y.IsZero(); }

@@ -5,6 +5,7 @@
 
 #include "codes/slenderness_limits.h"
 #include "members/slenderness.h"
+#include "members/slenderness_steps.h"
 #include "members/solid_check.h"
 
 namespace orv3 {
@@ -57,6 +58,7 @@ void CSolidCheck::Run() {
   if (a.IsRefused()) return;
   if (q.m_dN != 0) SlendernessCheck();
   Plates();
+  Panels();
 }
 
 // The figures that every formula draws on.
@@ -142,15 +144,9 @@ void CSolidCheck::Slenderness() {
     a.Step("imin", nullptr, s.m_dRmin, "mm");
     a.Step("λ", "{l0}/{imin}", m_dLambdaMax);
   } else {
-    r.m_dLambdaX = m_dLambdaFx = q.m_dLx / s.m_dRx;
-    r.m_dLambdaY = q.m_dLy / s.m_dRy;
+    GiveSlendernesses(a, q.m_dLx, q.m_dLy, s.m_dRx, s.m_dRy);
+    m_dLambdaFx = r.m_dLambdaX;
     m_dLambdaMax = std::max(r.m_dLambdaX, r.m_dLambdaY);
-    a.Step("l0x", nullptr, q.m_dLx, "mm");
-    a.Step("l0y", nullptr, q.m_dLy, "mm");
-    a.Step("ix", nullptr, s.m_dRx, "mm");
-    a.Step("iy", nullptr, s.m_dRy, "mm");
-    a.Step("λx", "{l0x}/{ix}", r.m_dLambdaX);
-    a.Step("λy", "{l0y}/{iy}", r.m_dLambdaY);
   }
   if (m_dNc > 0) TorsionalSlendernesses();
 }
@@ -219,7 +215,7 @@ void CSolidCheck::TorsionalSlendernesses() {
     return;
   }
   if (s.m_nShape == CMemberShape::Angle) {
-    if (bUnequal) return;
+    if (bUnequal || IsOneLeg()) return;  // 3.4.2 stands for torsion too
     // About the axis of symmetry, whose radius follows from the others: iu^2 + iv^2 = ix^2 + iy^2.
     const double iu = std::sqrt(s.m_dRx * s.m_dRx + s.m_dRy * s.m_dRy - s.m_dRmin * s.m_dRmin);
     const double l = std::max(q.m_dLx, q.m_dLy);
@@ -275,14 +271,16 @@ void CSolidCheck::Net() {
   if (q.m_dN == 0) return;
   const double An = q.m_dNetA * s.m_dA;
   const double N = std::fabs(q.m_dN);
-  a.Open(CMemberCheckKind::Net, m_dNc > 0 ? Clause("7.1.2", "5.1.1") : Clause("7.1.1", "5.1.1"));
+  const double share = JointShare();
+  a.Open(CMemberCheckKind::Net,
+         JointClause(m_dNc > 0 ? Clause("7.1.2", "5.1.1") : Clause("7.1.1", "5.1.1")));
   a.Step("An", nullptr, An, "mm²");
+  if (share < 1) a.Step("η", nullptr, share);
   if (m_dNc > 0) a.Note(CMemberNote::HolesWithoutBolts);
-  if (Is2017()) {
-    a.Close("{N}/({An}·0.7·{fu})", N / (An * 0.7 * m.m_dFu));
-  } else {
-    a.Close("{N}/({An}·{f})", N / (An * F()));
-  }
+  const double strength = Is2017() ? 0.7 * m.m_dFu : F();
+  const char* formula = Is2017() ? "{N}/({An}·0.7·{fu})" : "{N}/({An}·{f})";
+  if (share < 1) formula = Is2017() ? "{N}/({η}·{An}·0.7·{fu})" : "{N}/({η}·{An}·{f})";
+  a.Close(formula, N / (share * An * strength));
 }
 
 }  // namespace orv3

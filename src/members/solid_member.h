@@ -20,6 +20,9 @@ struct CMemberSteel {
   CBucklingClass m_nClassX = CBucklingClass::B, m_nClassY = CBucklingClass::B;
 };
 
+// By what of its section a member under axial force is joined: 7.1.3, 7.6.1; 2003: 3.4.2.
+enum class CMemberJoint { Whole, Leg, LongLeg, ShortLeg, Flanges, Web };
+
 // N, N mm, mm.
 struct CMemberLoads {
   double m_dN = 0;  // tension positive
@@ -31,10 +34,13 @@ struct CMemberLoads {
   double m_dLx = 0, m_dLy = 0, m_dLz = 0;  // effective lengths
   double m_dSpan = 0;                      // free span of the compression flange, of Mx
   double m_dSpanY = 0;                     // of My, for a box
+  CMemberJoint m_nJoint = CMemberJoint::Whole;
   bool m_bNet = false;
   double m_dNetA = 1, m_dNetW = 1;  // shares of the gross that are left
   bool m_bDynamic = false;
-  double m_dLimit = 0;  // of slenderness; 0: the code's
+  double m_dStiffeners = 0;    // distance of the web's transverse stiffeners; 0: none
+  bool m_bRestrained = false;  // the compression flange against twist
+  double m_dLimit = 0;         // of slenderness; 0: the code's
   // An I with tapered flanges: of an ordinary one its number, the depth in cm, of a light one 0.
   bool m_bTapered = false;
   double m_dRolledNumber = 0;

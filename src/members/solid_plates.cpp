@@ -213,7 +213,6 @@ void CSolidCheck::Limit(CMemberCheckKind kind, const char* clause, double value,
 }
 
 void CSolidCheck::Plates() {
-  NoteStiffeners();
   if (HasMoment()) {
     MomentPlates();
   } else if (m_dNc > 0) {
@@ -315,13 +314,6 @@ void CSolidCheck::ClosedPlates2017() {
   const bool bReduced = m_effective && !m_bTurned;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
         bReduced ? 250 : Class4(element(q.m_y), 2));
-}
-
-// 6.3.2; 2003: 4.3.2. Of webs in bending or shear.
-void CSolidCheck::NoteStiffeners() {
-  if (s.m_dTw <= 0 || s.m_nShape == CMemberShape::T || (q.m_x.IsZero() && q.m_dVy == 0)) return;
-  if (s.m_dH0 / s.m_dTw > *StiffenerLimit(m.m_nEdition, m.m_nGrade))
-    a.Note(CMemberNote::Stiffeners);
 }
 
 // 4.3.2, 4.3.8, 5.4.1 to 5.4.5.

@@ -23,6 +23,7 @@ void CSolidCheck::Stability() {
         std::isnan(r.m_dLambdaYz) ? r.m_dLambdaY : std::max(r.m_dLambdaY, r.m_dLambdaYz);
     r.m_szClassX = "";
     r.m_dPhiY = m_dPhiLeast = Phi(lambda, m.m_nClassY);
+    if (IsOneLeg()) return OneLegStability(lambda, r.m_dPhiY);
     return AxialStability(CMemberCheckKind::StabilityY, lambda, r.m_dPhiY);
   }
   const double lambdaX = m_dLambdaFx;
@@ -52,6 +53,35 @@ void CSolidCheck::AxialStability(CMemberCheckKind kind, double lambda, double ph
   a.Step("λ", nullptr, lambda);
   a.Step("φ", nullptr, phi);
   a.Close("{N}/({φ}·{A}·{f})", AxialTerm(m_dNc, phi, s.m_dA, F()));
+}
+
+// 7.6.1, 7.6.3; 2003: 3.4.2. eta by the slenderness of the least radius.
+void CSolidCheck::OneLegStability(double lambda, double phi) {
+  const double held = std::max(20.0, m_dLambdaMax);
+  double eta = 0.7;
+  const char* form = nullptr;
+  if (q.m_nJoint == CMemberJoint::Leg) {
+    eta = std::min(1.0, 0.6 + 0.0015 * held);
+    form = "min(1, 0.6 + 0.0015·max(20, {λmin}))";
+  } else if (q.m_nJoint == CMemberJoint::ShortLeg) {
+    eta = std::min(1.0, 0.5 + 0.0025 * held);
+    form = "min(1, 0.5 + 0.0025·max(20, {λmin}))";
+  }
+  const double wt = (s.m_dLeg - 2 * s.m_dLegThick) / s.m_dLegThick;
+  const double limit = 14 * r.m_dEpsilonK;
+  const bool bSlender = Is2017() && wt > limit;
+  const double rho = bSlender ? 1.3 - 0.3 * wt / limit : 1;
+  a.Open(CMemberCheckKind::StabilityY, bSlender ? "7.6.3" : Clause("7.6.1", "3.4.2"));
+  a.Step("λ", nullptr, lambda);
+  a.Step("φ", nullptr, phi);
+  if (form != nullptr) a.Step("λmin", nullptr, m_dLambdaMax);
+  a.Step("η", form, eta);
+  if (bSlender) {
+    a.Step("w/t", nullptr, wt);
+    a.Step("ρe", "1.3 − 0.3·{w/t}/(14·{εk})", rho);
+  }
+  a.Close(bSlender ? "{N}/({ρe}·{η}·{φ}·{A}·{f})" : "{N}/({η}·{φ}·{A}·{f})",
+          m_dNc / (rho * eta * phi * s.m_dA * F()));
 }
 
 // --- Beam-columns --------------------------------------------------------------------------------

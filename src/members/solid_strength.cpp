@@ -10,12 +10,28 @@
 
 namespace orv3 {
 
+double CSolidCheck::JointShare() const noexcept {
+  switch (q.m_nJoint) {
+    case CMemberJoint::Whole:
+      return 1;
+    case CMemberJoint::Flanges:
+      return 0.9;
+    case CMemberJoint::Web:
+      return 0.7;
+    default:
+      return 0.85;
+  }
+}
+
 void CSolidCheck::Strength() {
   if (!HasMoment()) {
     if (q.m_dN == 0) return;
+    const double share = JointShare();
     a.Open(CMemberCheckKind::Strength,
-           m_dNc > 0 ? Clause("7.1.2", "5.1.1") : Clause("7.1.1", "5.1.1"));
-    a.Close("{N}/({A}·{f})", std::fabs(q.m_dN) / (s.m_dA * F()));
+           JointClause(m_dNc > 0 ? Clause("7.1.2", "5.1.1") : Clause("7.1.1", "5.1.1")));
+    if (share < 1) a.Step("η", nullptr, share);
+    a.Close(share < 1 ? "{N}/({η}·{A}·{f})" : "{N}/({A}·{f})",
+            std::fabs(q.m_dN) / (share * s.m_dA * F()));
     return;
   }
   a.Open(CMemberCheckKind::Strength,

@@ -1,7 +1,9 @@
 // The C interface: the catalogue, the geometry of its rows, and the browser.
 #include <cmath>
+#include <utility>
 
 #include "catalogue/exact/row_exact.h"
+#include "catalogue/outline/row_doubts.h"
 #include "dialogs/model/spacing_model.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
@@ -59,6 +61,17 @@ const CDataCell& CellOf(const CDataItem& row, const orv3_char* sign) {
                    ToUtf8(row.GetTableName()) + "\"; orv3_list_columns names them");
   }
   return row[index];
+}
+
+// A row to be computed with.
+CDataItem SoundRowOf(const orv3_char* table, const orv3_char* number) {
+  CDataItem row = RowOf(table, number);
+  if (const auto what = Contradiction(row)) {
+    throw CFailure("number: the row of \"" + ToUtf8(std::as_const(row)[0].m_strValue) +
+                   "\" contradicts itself: " + what->m_strEnglish +
+                   "; correct its sizes or figures in the store");
+  }
+  return row;
 }
 
 // The quarter turn from 0 to 270 degrees that a turn comes to.
@@ -194,14 +207,15 @@ int ORV3_CALL orv3_cell_value(const orv3_char* table, const orv3_char* number,
 
 int ORV3_CALL orv3_exact(const orv3_char* table, const orv3_char* number, double* values,
                          int room) {
-  return Guarded([&] { return GiveExact(ExactProperties(RowOf(table, number)), values, room); });
+  return Guarded(
+      [&] { return GiveExact(ExactProperties(SoundRowOf(table, number)), values, room); });
 }
 
 int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, double turn,
                             double* values, int room) {
   return Guarded([&] {
     const double quarter = QuarterTurnOf(turn);
-    return GiveValues(GeometryOf(RowOf(table, number), quarter), values, room);
+    return GiveValues(GeometryOf(SoundRowOf(table, number), quarter), values, room);
   });
 }
 
@@ -209,7 +223,7 @@ int ORV3_CALL orv3_pair_geometry(const orv3_char* table, const orv3_char* number
                                  double turn, double* values, int room) {
   return Guarded([&] {
     const double quarter = QuarterTurnOf(turn);
-    const CDataItem row = SpacedRow(RowOf(table, number), spacing);
+    const CDataItem row = SpacedRow(SoundRowOf(table, number), spacing);
     return GiveValues(GeometryOf(row, quarter), values, room);
   });
 }

@@ -2,11 +2,17 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <span>
+#include <sstream>
+#include <string>
+#include <vector>
 
+#include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "members/cases/member_choice.h"
 #include "members/cases/member_envelope.h"
 #include "members/cases/member_results.h"
+#include "members/cases/style_ranges.h"
 #include "module/c_values.h"
 #include "sections/load_data_table.h"
 
@@ -14,7 +20,8 @@ namespace orv3::c_interface {
 namespace {
 
 CMemberCase MemberOf(CValues values, CCodeEdition edition) {
-  for (const char* key : {"sway", "dynamic"}) {  // "true" and "false" in the command's files
+  for (const char* key :
+       {"sway", "dynamic", "restrained"}) {  // "true" and "false" in the command's files
     const auto given = values.find(key);
     if (given == values.end()) continue;
     if (given->second == "true") given->second = "1";
@@ -87,32 +94,58 @@ std::vector<CString> MemberLines(const CMemberEnvelope& envelope, CCodeEdition e
 
 // --- The lightest --------------------------------------------------------------------------------
 
-std::vector<CString> TablesOf(const CString& names) {
-  if (names == L"all") return MemberTables();
-  std::vector<CString> tables;
-  for (int at = 0; at <= names.GetLength();) {
-    int end = names.Find(L",", at);
-    if (end < 0) end = names.GetLength();
-    tables.push_back(names.Mid(at, end - at));
-    at = end + 1;
+std::vector<std::string> PartsOf(const std::string& text, char separator) {
+  std::vector<std::string> parts;
+  std::istringstream stream(text);
+  for (std::string part; std::getline(stream, part, separator);) parts.push_back(part);
+  return parts;
+}
+
+double SizeOf(const std::string& text) {
+  const CString number = FromUtf8(text);
+  return IsNumber(number) ? ToDouble(number) : NAN;
+}
+
+// "h b=200:400:10 h=400 tf=20 tw=10".
+void AddStyle(const std::string& text, std::vector<CMemberCandidate>& candidates) {
+  const std::vector<std::string> words = PartsOf(text, ' ');
+  std::vector<CSizeRange> ranges;
+  for (std::size_t i = 1; i < words.size(); ++i) {
+    const std::size_t equals = words[i].find('=');
+    if (equals == std::string::npos) {
+      throw CFailure("tables: \"" + words[i] + "\" is no size; give it as b=200 or b=200:400:10");
+    }
+    const std::vector<std::string> parts = PartsOf(words[i].substr(equals + 1), ':');
+    CSizeRange range = {words[i].substr(0, equals), NAN, NAN, NAN};
+    if (parts.size() == 1) range = {range.m_strName, SizeOf(parts[0]), SizeOf(parts[0]), 0};
+    if (parts.size() == 3)
+      range = {range.m_strName, SizeOf(parts[0]), SizeOf(parts[1]), SizeOf(parts[2])};
+    ranges.push_back(std::move(range));
   }
-  return tables;
+  if (const auto fault = AddStyleRanges(words.empty() ? "" : words[0], ranges, candidates))
+    throw CFailure("tables: " + fault->m_strEnglish);
 }
 
 std::vector<CMemberCandidate> CandidatesOf(const CString& names, double gap) {
+  if (names == L"all") return AllMemberCandidates(gap);
   std::vector<CMemberCandidate> candidates;
-  const std::vector<CString> tables = TablesOf(names);
+  const std::vector<std::string> tables = PartsOf(ToUtf8(names), ',');
   for (auto table = tables.begin(); table != tables.end(); ++table) {
+    if (table->find('=') != std::string::npos) {
+      AddStyle(*table, candidates);
+      continue;
+    }
     if (std::find(tables.begin(), table, *table) != table)
-      throw CFailure("tables: names \"" + ToUtf8(*table) + "\" twice; give each table once");
-    std::vector<CMemberCandidate> rows = MemberCandidates(*table, gap);
-    if (rows.empty() && names != L"all") {
-      throw CFailure("tables: the store has no rows of \"" + ToUtf8(*table) +
+      throw CFailure("tables: names \"" + *table + "\" twice; give each table once");
+    std::vector<CMemberCandidate> rows = MemberCandidates(FromUtf8(*table), gap);
+    if (rows.empty()) {
+      throw CFailure("tables: the store has no rows of \"" + *table +
                      "\"; orv3_list_tables names its tables");
     }
     std::move(rows.begin(), rows.end(), std::back_inserter(candidates));
   }
-  if (candidates.empty()) throw CFailure("tables: the store has no rows; open another data folder");
+  if (candidates.empty())
+    throw CFailure("tables: there are no rows; name a table, or open another data folder");
   return candidates;
 }
 
@@ -127,6 +160,22 @@ std::vector<CMemberCase> CasesOf(const orv3_char* input, const std::string& code
     cases.push_back(MemberOf(std::move(values), edition));
   }
   return cases;
+}
+
+// What was assumed of the rows shown: each once, with the first row that it is of.
+void AddWarnings(std::span<const CChosenMember> shown,
+                 const std::vector<CMemberCandidate>& candidates, std::vector<CString>& lines) {
+  std::vector<CMemberNote> told;
+  for (const CChosenMember& chosen : shown) {
+    const CMemberCandidate& row = candidates[chosen.m_nCandidate];
+    for (const CMemberNote note : chosen.m_arrNote) {
+      if (std::find(told.begin(), told.end(), note) != told.end()) continue;
+      told.push_back(note);
+      lines.push_back(Line("warning", row.m_strTable + ';' + row.m_strNo + ';' +
+                                          MemberNoteKey(note) + ';' +
+                                          MemberNoteText(note).In(CLanguage::English)));
+    }
+  }
 }
 
 std::vector<CString> ChoiceLines(const CMemberChoice& choice, CCodeEdition edition,
@@ -149,6 +198,7 @@ std::vector<CString> ChoiceLines(const CMemberChoice& choice, CCodeEdition editi
                    ToUtf8(ValueText(chosen.m_dRatio)) + ';' + MemberCheckName(chosen.m_nGoverns) +
                    ';' + (id.empty() ? std::to_string(chosen.m_nCase + 1) : id)));
   }
+  AddWarnings(std::span(choice.m_arrChosen).first(shown), candidates, lines);
   for (const CRefusedMember& refused : choice.m_arrRefused) {
     const CMemberCandidate& row = candidates[refused.m_nCandidate];
     lines.push_back(Line("refusal", row.m_strTable + ';' + std::to_string(refused.m_nRows) + ';' +
@@ -171,7 +221,8 @@ int ORV3_CALL orv3_check_member(const orv3_char* code, const orv3_char* input, o
   return Guarded([&] {
     std::vector<CValues> lists = ReadValueLists(input);
     const CCodeEdition edition = EditionOf(CodeOf(code), lists.front());
-    NeedDataFor(lists.front().contains("section.table"));
+    NeedDataFor(lists.front().contains("section.table") ||
+                lists.front().contains("section.lattice.table"));
     const bool bOne = lists.size() == 1;
     CMemberCheck check;
     CMemberEnvelope envelope;
@@ -203,7 +254,8 @@ int ORV3_CALL orv3_choose(const orv3_char* tables, const orv3_char* code, const 
     if (!fault) fault = ReadChoiceGap(cases, gap);
     if (fault) throw CFailure(fault->Line(CLanguage::English));
     std::vector<CMemberCandidate> candidates = CandidatesOf(names, gap);
-    const CMemberChoice choice = ChooseMember(cases, candidates, edition);
+    const CMemberChoice choice =
+        ChooseMember(cases, candidates, edition, CFailingRatio::AnyAboveOne);
     if (choice.m_nTried == 0) {
       const CRefusedMember& first = choice.m_arrRefused.front();
       throw CFailure("every section refused, the first: " + candidates[first.m_nCandidate].m_strNo +

@@ -154,7 +154,7 @@ enum {
 /* The geometry of a catalogue section; writes the first `room` values and returns how many were
  * written. A quarter turn, counter-clockwise, turns width, height, xc, yc, Ix and Iy; everything
  * else is of the section as it stands in the catalogue. `turn` is any multiple of 90 (-90 is 270,
- * 450 is 90). The parts of a pair touch. */
+ * 450 is 90). The parts of a pair touch. A row whose figures contradict its sizes is refused. */
 ORV3_API int ORV3_CALL orv3_geometry(const orv3_char* table, const orv3_char* number, double turn,
                                      double* values, int room);
 
@@ -207,7 +207,8 @@ enum {
 };
 
 /* Of a catalogue section, whose parts touch when it is a pair; writes the first `room` values and
- * returns how many were written. A section without an outline is refused. */
+ * returns how many were written. A section without an outline is refused, and so is a row whose
+ * figures contradict its sizes. */
 ORV3_API int ORV3_CALL orv3_exact(const orv3_char* table, const orv3_char* number, double* values,
                                   int room);
 
@@ -245,23 +246,26 @@ ORV3_API int ORV3_CALL orv3_check(const orv3_char* kind, const orv3_char* code,
                                   const orv3_char* input, orv3_char* text, int size);
 
 /* A member. Keys as in the command line's case files (docs/members.md), those of an inner object
- * behind a point ("section.table", "lengths.x"), two end moments as M1;M2; "sway" and "dynamic" are
- * 1 or 0. A section of a table is looked up in the opened data. `code` as above. Combinations of
- * forces may follow, an empty line in front of each, with what is not the same for all of them. The
- * result: "code", "pass" (1 or 0), "ratio" and "governs" of the worst check, the ratio of each
- * check by its name, the results, and one line "warning" for each warning (English). Of
- * combinations each ratio is the greatest; its combination stands behind it, as in "strength.case",
- * that of the worst check as "case", by its "id" or its number. */
+ * behind a point ("section.table", "lengths.x"), two end moments as M1;M2; "sway", "dynamic" and
+ * "restrained" are 1 or 0. A section of a table is looked up in the opened data. `code` as above.
+ * Combinations of forces may follow, an empty line in front of each, with what is not the same for
+ * all of them. The result: "code", "pass" (1 or 0), "ratio" and "governs" of the worst check, the
+ * ratio of each check by its name, the results, and one line "warning" for each warning (English).
+ * Of combinations each ratio is the greatest; its combination stands behind it, as in
+ * "strength.case", that of the worst check as "case", by its "id" or its number. */
 ORV3_API int ORV3_CALL orv3_check_member(const orv3_char* code, const orv3_char* input,
                                          orv3_char* text, int size);
 
-/* The lightest rows of the opened data that pass: `tables` are names joined by commas, or "all";
+/* The lightest rows of the opened data that pass: `tables` are "all", or names joined by
+ * commas, among which sections of a style with ranges of sizes in mm may stand, "from:to:step" or
+ * one number, as "h b=200:400:10 h=400 tf=20 tw=10";
  * `input` is a member without its section, or several with an empty line between each and the next,
  * all of which must pass, by one edition; "section.gap" is that of pairs. The result: "code", how
  * many rows were "tried", are "passing" and were "refused", for each of the first `top` (0: all)
- * that pass, lightest first, a line "row=table;number;kg/m;ratio;governing check;case", and for
- * each table with refused rows "refusal=table;how many;first number;reason". None that passes is no
- * failure; a failure when every row is refused. */
+ * that pass, lightest first, a line "row=table;number;kg/m;ratio;governing check;case", for each
+ * thing that was assumed or is to be looked at one line "warning=table;first number;key;text", and
+ * for each table with refused rows "refusal=table;how many;first number;reason". None that passes
+ * is no failure; a failure when every row is refused. */
 ORV3_API int ORV3_CALL orv3_choose(const orv3_char* tables, const orv3_char* code,
                                    const orv3_char* input, int top, orv3_char* text, int size);
 

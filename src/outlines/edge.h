@@ -45,19 +45,25 @@ struct CGaussPoint {
 std::span<const CGaussPoint, 12> GaussPoints();
 std::span<const CGaussPoint, 8> GaussPoints8();
 
-// The integral of f(point, derivative) over t from a to b of an edge: arcs in pieces of a quarter
-// turn at most, which leaves rounding alone.
-template <class Function>
-double Integrate(const CEdge& edge, double a, double b, Function f) {
+// Calls visit(point, derivative, weight) for points whose weighted sum of a function is its
+// integral over t from a to b of an edge: arcs in pieces of a quarter turn at most, which leaves
+// rounding alone.
+template <class Visit>
+void ForEachGaussPoint(const CEdge& edge, double a, double b, Visit visit) {
   const int pieces = 1 + static_cast<int>(std::fabs(edge.Sweep() * (b - a)) * 0.63);
   const double step = (b - a) / pieces;
-  double sum = 0;
   for (int i = 0; i < pieces; ++i) {
     for (const CGaussPoint& g : GaussPoints()) {
       const double t = a + step * (i + g.at);
-      sum += g.weight * step * f(edge.At(t), edge.Derivative(t));
+      visit(edge.At(t), edge.Derivative(t), g.weight * step);
     }
   }
+}
+
+template <class Function>
+double Integrate(const CEdge& edge, double a, double b, Function f) {
+  double sum = 0;
+  ForEachGaussPoint(edge, a, b, [&](CPoint p, CPoint d, double w) { sum += w * f(p, d); });
   return sum;
 }
 

@@ -23,15 +23,22 @@ void AddEdge(CIntegrals& sum, CPoint a, CPoint b) {
 
 // The sector between the origin and an arc, likewise.
 void AddArc(CIntegrals& sum, const CEdge& arc) {
-  const auto over = [&](auto f) {
-    return Integrate(arc, 0, 1, [&](CPoint p, CPoint d) { return (p.x * d.y - p.y * d.x) * f(p); });
-  };
-  sum.one += over([](CPoint) { return 1; }) / 2;
-  sum.x += over([](CPoint p) { return p.x; }) / 3;
-  sum.y += over([](CPoint p) { return p.y; }) / 3;
-  sum.xx += over([](CPoint p) { return p.x * p.x; }) / 4;
-  sum.yy += over([](CPoint p) { return p.y * p.y; }) / 4;
-  sum.xy += over([](CPoint p) { return p.x * p.y; }) / 4;
+  CIntegrals over;
+  ForEachGaussPoint(arc, 0, 1, [&over](CPoint p, CPoint d, double weight) {
+    const double cross = p.x * d.y - p.y * d.x;
+    over.one += weight * cross;
+    over.x += weight * (cross * p.x);
+    over.y += weight * (cross * p.y);
+    over.xx += weight * (cross * (p.x * p.x));
+    over.yy += weight * (cross * (p.y * p.y));
+    over.xy += weight * (cross * (p.x * p.y));
+  });
+  sum.one += over.one / 2;
+  sum.x += over.x / 3;
+  sum.y += over.y / 3;
+  sum.xx += over.xx / 4;
+  sum.yy += over.yy / 4;
+  sum.xy += over.xy / 4;
 }
 
 void AddLoop(CIntegrals& sum, const CPath& loop) {

@@ -1,8 +1,9 @@
-// Where a program is, and where it keeps what belongs to its user.
+// Where a program is, where it keeps what belongs to its user, and which language that user reads.
 #pragma once
 
 #include "framework/cstring.h"
 #include "framework/export.h"
+#include "framework/language.h"
 
 namespace orv3 {
 
@@ -15,6 +16,10 @@ ORV3CAL_API CString UserDataFolder();
 
 // A variable of the process; empty when it is not set.
 ORV3CAL_API CString Environment(const char* name);
+
+// The language that the user has set for programs: by LC_ALL, else LC_MESSAGES, else LANG, on
+// Windows that of the desktop. Chinese where it is Chinese, else English.
+ORV3CAL_API CLanguage UserLanguage();
 
 // Makes a folder and those above it; true as well when it is there.
 ORV3CAL_API bool MakeFolders(const CString& folder);

@@ -1,6 +1,7 @@
 #include "platform/store_body.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <iterator>
 #include <utility>
@@ -12,6 +13,12 @@ namespace orv3 {
 namespace {
 
 constexpr std::size_t kMaxWrite = std::size_t{1} << 20;
+
+// No number stands for two states, whichever store and thread they are of.
+std::uint64_t NextChange() {
+  static std::atomic<std::uint64_t> last{0};
+  return ++last;
+}
 
 // The part of `size` bytes that lies before `left` more bytes end.
 std::size_t Part(std::size_t size, std::uint64_t left) {
@@ -69,6 +76,7 @@ std::string* CStoreBody::PageToChange(std::uint64_t page, bool whole) {
 bool CStoreBody::Write(std::uint64_t offset, const void* data, std::size_t size) {
   if (m_bBroken) return false;
   m_bUnkept = true;
+  m_nLastChange = NextChange();
   const char* in = static_cast<const char*>(data);
   const std::uint64_t end = offset + size;
   while (offset < end) {
@@ -141,6 +149,7 @@ bool CStoreBody::ApplyChanges() {
     run.append(bytes, 0, Part(kJournalPage, m_nSize - pageAt));
   }
   if (!flush()) return false;
+  if (m_nSize == m_nFileSize) return true;
   // The end may be zeros that no page holds.
   CFileStamp now;
   return m_pFile->Stamp(now) && (now.m_nSize == m_nSize || m_pFile->SetSize(m_nSize));

@@ -35,7 +35,8 @@ class CStoreBody {
   void Gather() { m_bGathering = true; }
   bool CommitGathered();
   void DropGathered();
-  bool HasChanges() const { return !m_pages.empty() || m_nSize != m_nFileSize; }
+  // A number of the last change that the file does not have; 0 when it has all of them.
+  std::uint64_t LastChange() const { return HasChanges() ? m_nLastChange : 0; }
   const CFileStamp& Stamp() const { return m_stamp; }
   const CString& Path() const { return m_strPath; }
   bool IsWritable() const { return m_bWritable; }
@@ -44,6 +45,7 @@ class CStoreBody {
   bool IsBroken() const { return m_bBroken; }
 
  private:
+  bool HasChanges() const { return !m_pages.empty() || m_nSize != m_nFileSize; }
   bool ReadFromFile(std::uint64_t offset, char* data, std::size_t size) const;
   std::string* PageToChange(std::uint64_t page, bool whole);
   bool CollectChanges(CStoreJournal& journal);
@@ -71,6 +73,7 @@ class CStoreBody {
   mutable bool m_bReadFailed = false;
   CFileError m_nTrouble = CFileError::Failed;
   CFileStamp m_stamp;
+  std::uint64_t m_nLastChange = 0;
   std::uint64_t m_nFileSize = 0;
   std::uint64_t m_nSize = 0;
   std::map<std::uint64_t, std::string> m_pages;  // changed pages by their number

@@ -26,6 +26,19 @@ std::vector<std::shared_ptr<CStoreBody>>& HeldBodies() {
   return held.Here();
 }
 
+std::shared_ptr<CStoreBody> HeldBody(const CString& path) {
+  const auto& held = HeldBodies();
+  if (held.empty()) return nullptr;
+  const auto find = [&held](const CString& resolved) {
+    const auto found = std::find_if(held.begin(), held.end(), [&resolved](const auto& body) {
+      return body->Path() == resolved;
+    });
+    return found == held.end() ? nullptr : *found;
+  };
+  if (auto named = find(path)) return named;  // without asking the system
+  return find(Files().Resolve(path));
+}
+
 std::unique_ptr<CFile> OpenWaiting(const CString& path, CFileMode mode, CFileError& error) {
   const auto end = CClock::now() + BusyWait();
   milliseconds pause{1};
@@ -122,12 +135,8 @@ CStoreFile::CStoreFile(std::shared_ptr<CStoreBody> body) : m_pBody(std::move(bod
 CStoreFile::~CStoreFile() { m_pBody->DropChanges(); }
 
 std::unique_ptr<CStoreFile> CStoreFile::Held(const CString& path) {
-  if (HeldBodies().empty()) return nullptr;
-  const CString resolved = Files().Resolve(path);
-  for (const auto& body : HeldBodies()) {
-    if (body->Path() == resolved) return std::unique_ptr<CStoreFile>(new CStoreFile(body));
-  }
-  return nullptr;
+  auto body = HeldBody(path);
+  return body ? std::unique_ptr<CStoreFile>(new CStoreFile(std::move(body))) : nullptr;
 }
 
 std::unique_ptr<CStoreFile> CStoreFile::OpenToRead(const CString& path) {
@@ -154,7 +163,7 @@ bool CStoreFile::Write(std::uint64_t offset, const void* data, std::size_t size)
 
 bool CStoreFile::Commit() { return m_pBody->Commit() || NotWritten(*m_pBody); }
 
-const CFileStamp& CStoreFile::Stamp() const { return m_pBody->Stamp(); }
+CStoreState CStoreFile::State() const { return {m_pBody->Stamp(), m_pBody->LastChange()}; }
 
 const CString& CStoreFile::Path() const { return m_pBody->Path(); }
 
@@ -186,13 +195,13 @@ bool CStoreBatch::Commit() {
 
 void RemoveJournal(const CString& path) { Files().Remove(JournalPath(Files().Resolve(path))); }
 
-bool IsAheadOfFile(const CString& path) {
-  if (HeldBodies().empty()) return false;
-  const CString resolved = Files().Resolve(path);
-  const auto& held = HeldBodies();
-  return std::any_of(held.begin(), held.end(), [&](const auto& body) {
-    return body->Path() == resolved && body->HasChanges();
-  });
+bool StateOfStore(const CString& path, CStoreState& state) {
+  if (const auto body = HeldBody(path); body && body->LastChange() != 0) {
+    state = {body->Stamp(), body->LastChange()};
+    return true;
+  }
+  state.m_nChange = 0;
+  return Files().Stamp(path, state.m_stamp) == CFileError::None;
 }
 
 }  // namespace orv3

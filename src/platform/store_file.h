@@ -22,6 +22,14 @@ ORV3CAL_API void SetBusyWait(std::chrono::milliseconds wait);
 
 class CStoreBody;
 
+// What an opener sees of a store: its file, and changes that the opener's thread holds beyond it.
+struct CStoreState {
+  CFileStamp m_stamp;
+  std::uint64_t m_nChange = 0;  // 0 for none; another number after every change
+
+  bool operator==(const CStoreState&) const = default;
+};
+
 class ORV3CAL_API CStoreFile {
  public:
   // Null, with LastStoreError set, when the file cannot be had. A writer makes the file when it is
@@ -42,8 +50,8 @@ class ORV3CAL_API CStoreFile {
   // file is as it was. Where not even that can be written, whoever opens it next finds it as it was
   // or, when all changes but nothing behind them got through, as it was to become.
   bool Commit();
-  // Of the file as it was opened or last committed.
-  const CFileStamp& Stamp() const;
+  // Its stamp is that of the file as it was opened or last committed.
+  CStoreState State() const;
   const CString& Path() const;  // absolute
 
  private:
@@ -86,7 +94,7 @@ class ORV3CAL_API CStoreBatch : private CStoreLock {
 // would find the two apart by their bytes and do the same.
 ORV3CAL_API void RemoveJournal(const CString& path);
 
-// Whether this thread keeps a store to itself and has changed it since its file was written.
-bool IsAheadOfFile(const CString& path);
+// What this thread sees of a store now; false when there is no file to be asked.
+bool StateOfStore(const CString& path, CStoreState& state);
 
 }  // namespace orv3

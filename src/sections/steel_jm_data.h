@@ -11,6 +11,7 @@
 
 #include "framework/array.h"
 #include "framework/export.h"
+#include "sections/section_style.h"
 #include "tables/data_item.h"
 
 class CDataTable;
@@ -21,7 +22,7 @@ class CStoreFile;
 class ORV3CAL_API CSteelJMData {
  public:
   static constexpr int kNameLength = 50;  // characters, the ending zero included
-  static constexpr int kSizeCount = 8;
+  static constexpr int kSizeCount = orv3::kSectionSizes;
 
   CSteelJMData() = default;
   // Copies take the name up to its ending zero.

@@ -4,7 +4,6 @@
 #include <mutex>
 #include <utility>
 
-#include "platform/file_system.h"
 #include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "platform/threads.h"
@@ -18,25 +17,25 @@ using CTablePtr = std::shared_ptr<const CSystemTable>;
 
 // The tables of one state of a store.
 struct CKeptStore {
-  CFileStamp m_stamp;
+  CStoreState m_state;
   std::map<CString, CTablePtr> m_mapTable;
 };
 
 class CCache {
  public:
-  CTablePtr Find(const CString& store, const CFileStamp& stamp, const CString& table) {
+  CTablePtr Find(const CString& store, const CStoreState& state, const CString& table) {
     const std::lock_guard lock(m_lock);
     const auto kept = m_mapStore.find(store);
-    if (kept == m_mapStore.end() || kept->second.m_stamp != stamp) return nullptr;
+    if (kept == m_mapStore.end() || kept->second.m_state != state) return nullptr;
     const auto found = kept->second.m_mapTable.find(table);
     return found == kept->second.m_mapTable.end() ? nullptr : found->second;
   }
 
-  void Put(const CString& store, const CFileStamp& stamp, const CString& table, CTablePtr read) {
+  void Put(const CString& store, const CStoreState& state, const CString& table, CTablePtr read) {
     const std::lock_guard lock(m_lock);
     if (m_mapStore.size() >= kMostStores && !m_mapStore.contains(store)) m_mapStore.clear();
     CKeptStore& kept = m_mapStore[store];
-    if (kept.m_stamp != stamp) kept = {stamp, {}};
+    if (kept.m_state != state) kept = {state, {}};
     kept.m_mapTable[table] = std::move(read);
   }
 
@@ -90,19 +89,16 @@ int CSystemTable::Find(const CString& no) const {
 
 CTablePtr SystemTable(const CString& store, const CString& name) {
   ClearStoreError();
-  CFileStamp stamp;
-  const bool stamped = Files().Stamp(store, stamp) == CFileError::None;
-  if (stamped) {
-    if (CTablePtr kept = Cache().Find(store, stamp, name)) return kept;
+  CStoreState state;
+  const bool known = StateOfStore(store, state);
+  if (known) {
+    if (CTablePtr kept = Cache().Find(store, state, name)) return kept;
   }
   auto read = std::make_shared<CSystemTable>();
   if (!read->Load(store, name)) return nullptr;
-  // Kept only when no save came between: what was read is then what the stamp stands for.
-  CFileStamp after;
-  if (stamped && !IsAheadOfFile(store) && Files().Stamp(store, after) == CFileError::None &&
-      after == stamp) {
-    Cache().Put(store, stamp, name, read);
-  }
+  // Kept only when no save came between: what was read is then what the state stands for.
+  CStoreState after;
+  if (known && StateOfStore(store, after) && after == state) Cache().Put(store, state, name, read);
   return read;
 }
 

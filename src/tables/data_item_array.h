@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <iterator>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "framework/exception.h"
@@ -82,6 +83,15 @@ class ORV3CAL_API CDataItemArray {
 
   // The row, not handed out: the table says itself what it changes there.
   CDataItem& Own(int index) { return m_arrNode[Checked(index)]->item; }
+  // Calls visit(row) for each of them, not handed out.
+  template <class VISIT>
+  void Walk(VISIT visit) {
+    for (const auto& node : m_arrNode) visit(node->item);
+  }
+  template <class VISIT>
+  void Walk(VISIT visit) const {
+    for (const auto& node : m_arrNode) visit(std::as_const(node->item));
+  }
   // Brings what the cell in column `col` needs nearer to the processor, for a walk that comes to
   // row `index` next; each row is a few places in memory, and a walk would wait for every one.
   void Prefetch(int index, int col) const noexcept;

@@ -75,10 +75,10 @@ int CDataTable::SetParentTable(CDataTable* parent) {
 
 void CDataTable::SetTableFileInfo(const CString& info) {
   if (m_strFileInfo != info) m_strFileInfo = info;  // else rows keep the text that they share
-  for (int i = 0; i < GetTableRowNum(); ++i) {
-    CString& line = m_arrItem.Own(i).m_strFileInfo;
+  m_arrItem.Walk([this](CDataItem& row) {
+    CString& line = row.m_strFileInfo;
     if (line.GetString() != m_strFileInfo.GetString()) line = m_strFileInfo;
-  }
+  });
 }
 
 void CDataTable::ClearTable() {

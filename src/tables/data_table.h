@@ -230,7 +230,8 @@ class ORV3CAL_API CDataTable {
   int PlanRecord(const orv3::CStoreFile& file, int storeKind, orv3::CRecordPlan& plan) const;
   int PlanHeading(const orv3::CStoreFile& file, orv3::CRecordPlan& plan) const;
   void CopyImages(const CDataTable& other);
-  void MarkSaved(const orv3::CStoreFile& file, const std::vector<CRowWrite>& writes);
+  void MarkSaved(const orv3::CStoreFile& file, const orv3::CRecordPlan& plan,
+                 const std::vector<CRowWrite>& writes);
 
   mutable std::unique_ptr<orv3::CRowIndex> m_pIndex;
   std::shared_ptr<orv3::CTableImage> m_pImage;  // what is on file; null before reading and saving

@@ -106,20 +106,23 @@ TEST(Language, HoldsForEveryHelp) {
 }
 
 TEST(Language, IsTheVariablesUnlessTheCommandSays) {
-  const auto set = [](const char* value) {
-#ifdef _WIN32
-    _putenv_s("ORV3CAL_LANG", value);
-#else
-    setenv("ORV3CAL_LANG", value, 1);
-#endif
-  };
+  const auto set = [](const char* value) { SetVariable("ORV3CAL_LANG", value); };
   set("zh");
   EXPECT_TRUE(HasChinese(RunProgram("rows").m_strError));
   EXPECT_TRUE(HasEnglish(RunProgram("rows --lang en").m_strError));
   set("fr");
   ExpectRefused({{"rows", {"ORV3CAL_LANG", "fr", "zh or en"}}});
+#ifndef _WIN32  // whose users set it for the whole desktop
   set("");
-  EXPECT_TRUE(HasEnglish(RunProgram("rows").m_strError));
+  for (const auto& [locale, chinese] :
+       {std::pair{"zh_CN.UTF-8", true}, {"zh", true}, {"C.UTF-8", false}, {"de_DE.UTF-8", false}}) {
+    SCOPED_TRACE(locale);
+    SetVariable("LC_ALL", locale);
+    EXPECT_EQ(HasChinese(RunProgram("rows").m_strError), chinese);
+    EXPECT_FALSE(HasChinese(RunProgram("rows --lang en").m_strError));
+  }
+#endif
+  set("en");
 }
 
 }  // namespace

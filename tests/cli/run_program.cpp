@@ -33,6 +33,12 @@ std::FILE* Open(const std::string& arguments) {
 int Close(std::FILE* pipe) { return pclose(pipe) / 256; }  // the exit status is the second byte
 #endif
 
+// Whatever the user of this machine reads.
+const bool s_bEnglish = [] {
+  SetVariable("ORV3CAL_LANG", "en");
+  return true;
+}();
+
 // Windows programs end their lines with a carriage return too.
 std::string WithoutReturns(std::string text) {
   std::erase(text, '\r');

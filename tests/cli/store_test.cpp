@@ -278,6 +278,14 @@ TEST_F(StoreCommand, NoCheckGoesByARowThatContradictsItself) {
   EXPECT_EQ(choice["tried"], 1) << "the store's own rows, not the catalogue's";
   EXPECT_EQ(choice["rows"][0]["no"], "I16");
   EXPECT_EQ(choice["refusals"][0]["no"], "I99");
+  const CRunResult csv =
+      RunProgram("choose " + any.m_strPath + " --table " + table + " --csv" + on);
+  EXPECT_EQ(csv.m_strOut.find("I99"), std::string::npos);
+  ExpectHas(csv.m_strError, {"1 more are not covered", "I99 contradicts itself"});
+  const std::string limb = " --set P1Type=" + table + " --set P1No.=I99 --set P1θ°=90";
+  const std::string limbs = limb + " --set P2Type=" + table + " --set P2No.=I99 --set P2θ°=90";
+  ExpectRefused({{"store add 双肢格构柱 --set No.=G --set \"k(mm)=300\"" + limbs + on,
+                  {"a limb contradicts itself: I99: A = 26131"}}});
 
   CDataTable rows;  // a table file is under the same rule
   rows.SetTableName(orv3::FromUtf8(table));

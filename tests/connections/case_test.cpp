@@ -123,6 +123,7 @@ TEST(BoltCase, WarnsOfDetailingAndOfTheUnsafeSide) {
   ExpectWarned<CBoltCheck>(
       Ordinary(),
       {{"rowSpace", 64}, {"colSpace", 64}, {"ex", 42.9}, {"ey", 32}, {"T", -100}, {"N", -5}});
+  ExpectWarned<CBoltCheck>(With(Ordinary(), {{"T", 100}}), {{"ey", 42.9}});
   // 12 t = 144 mm is below 8 d0 = 172; 4 d0 = 86 below 8 t = 96.
   ExpectWarned<CBoltCheck>(Ordinary(),
                            {{"rowSpace", 145}, {"colSpace", 145}, {"ex", 86.5}, {"ey", 86.5}});
@@ -196,7 +197,7 @@ TEST(WeldCase, RefusesTheImpossibleByKey) {
   ExpectRefused<CButtCheck>(With(Butt(), {{"case", 0}, {"M", 0}, {"V", 0}}), {{"M", -1}, {"V", 1}});
   ExpectRefused<CFilletCheck>(With(Fillet(), {{"case", 3}, {"N", 0}}), {{"N", 1}});
   ExpectRefused<CFilletCheck>(With(Fillet(), {{"case", 2}, {"V", 0}}), {{"V", 1}});
-  ExpectRefused<CButtCheck>(With(Butt(), {{"M", 0}, {"V", 0}}), {{"N", 0}});
+  ExpectRefused<CButtCheck>(With(Butt(), {{"M", 0}, {"V", 0}}), {{"N", 0}, {"N", 1e-7}});
 }
 
 TEST(WeldCase, WarnsOfDetailingAndOfTheUnsafeSide) {
@@ -217,8 +218,6 @@ void ExpectAlikeWithoutV(const typename CHECK::CCase& input) {
     if (loadCase == 1) utilisation = check.Worst().m_dUtilisation;
     EXPECT_NEAR(check.Worst().m_dUtilisation, utilisation, 1e-12) << loadCase;
   }
-  ASSERT_TRUE(check.Run(With(input, {{"case", 4}, {"V", 0.01}})));
-  EXPECT_NEAR(check.Worst().m_dUtilisation, utilisation, 1e-6);
 }
 
 TEST(WeldCase, TheLoadCaseIsNoPartOfTheStrength) {

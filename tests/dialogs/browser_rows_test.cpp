@@ -1,6 +1,7 @@
 // The browser's changes to the store, and what it hands back.
 #include <gtest/gtest.h>
 
+#include "catalogue/rolled/rolled_style.h"
 #include "dialog_store.h"
 #include "dialogs/model/browser_model.h"
 #include "dialogs/model/dialog_texts.h"
@@ -553,6 +554,28 @@ TEST_F(BrowserImport, TellsRowsThatStayOut) {
   ASSERT_EQ(messages.size(), 2U);
   EXPECT_EQ(messages[1], "以下内容未能导入：\nown.KDB，热轧普通工字钢：1 条记录（I22a）");
   EXPECT_STREQ(model->ItemText(2, 1), L"220");
+}
+
+// A row that contradicts its sizes comes in and is named.
+TEST_F(BrowserImport, TellsRowsThatContradictThemselves) {
+  constexpr wchar_t kLight[] = L"热轧轻型工字钢";
+  CDataTable table;
+  table.SetTableName(kLight);
+  table.m_Title = RolledTitle(RolledStyles()[static_cast<std::size_t>(FindRolledStyle(kLight))]);
+  EXPECT_EQ(table.AddTableItem(L"Q99,160,81,5,7.8,8.5,3.5,202,15.9,0.6,873,109,62.3,6.57,58.6,14.5,"
+                               L"1.7",
+                               1),
+            1);
+  EXPECT_EQ(table.WriteTable(m_store.Path(L"light.KDB"), kSystemKind, 1), 1);
+  m_user.m_arrOpen = {m_store.Path(L"light.KDB")};
+  auto model = Open(kI, L"I20a");
+  m_user.m_arrAnswer = {CMessageAnswer::No};
+  model->Import();
+  const auto messages = m_user.TakeMessages();
+  ASSERT_EQ(messages.size(), 2U);
+  EXPECT_EQ(messages[1],
+            ToUtf8(texts::kImportDoubtful) + "\nlight.KDB，热轧轻型工字钢：1 条记录（Q99）");
+  EXPECT_EQ(m_store.Numbers(kLight), "Q99");
 }
 
 // Sections named by their sizes stand behind those of the HK series, each group in its order.

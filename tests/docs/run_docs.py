@@ -1,12 +1,14 @@
 """Runs what the documents show, and compares the output that they show.
 
-    run_docs.py --source DIR --build DIR --cxx COMPILER --library FILE [--c-library FILE] [DOCUMENT...]
+    run_docs.py --source DIR --build DIR --cxx COMPILER --library FILE [--c-library FILE]
+                [--python PROGRAM --module DIR] [DOCUMENT...]
 
 Without DOCUMENT: README*.md and docs/*.md. The language of a fenced block says what becomes of it:
 
     ```console       lines that begin with "$ " are commands, the lines behind one are its output
     ```sh            commands without their output
     ```cpp, ```c     a program, or what stands in one's main
+    ```python        what a program goes on with, behind the Python blocks before it; run with --python alone
     ```output        what the program of the block before printed
     ```json NAME     a file of that name for the blocks behind it (csv and others likewise)
     ```text, ```cmake, ```csv and ```json without a name: nothing is run
@@ -29,6 +31,12 @@ from pathlib import Path
 
 SHOWN = {"text", "cmake", "csv", "json"}
 PROGRAMS = {"cpp": "c++", "c": "c"}
+# What the blocks before have said is said to nobody.
+PYTHON = """import contextlib, io
+with contextlib.redirect_stdout(io.StringIO()):
+    exec({before!r})
+exec({text!r})
+"""
 SECONDS = 1800  # hung, not slow
 
 
@@ -85,12 +93,16 @@ class Runner:
         self.cxx = options.cxx
         self.library = options.library
         self.c_library = options.c_library
+        self.python = options.python
+        self.module = options.module
 
     def environment(self, home):
         keep = {name: os.environ[name] for name in ("PATH", "TMPDIR") if name in os.environ}
         keep["PATH"] = f"{self.build / 'bin'}:{keep.get('PATH', '/usr/bin:/bin')}"
         if self.c_library:
             keep["LD_LIBRARY_PATH"] = str(Path(self.c_library).parent)
+        if self.module:
+            keep["PYTHONPATH"] = self.module
         return keep | {"HOME": str(home), "LC_ALL": "C.UTF-8"}
 
     def folder(self, root, files):
@@ -169,9 +181,19 @@ class Runner:
         if wrong or status != 0:
             yield f"exit status {status}\n{wrong or printed}"
 
+    def python_block(self, before, block, work, expected):
+        if not self.python:
+            return
+        text = PYTHON.format(before=before, text=block.text())
+        (work / "snippet.py").write_text(text, "utf-8")
+        status, printed = self.run([self.python, "snippet.py"], work)
+        wrong = differs(expected.lines, printed) if expected else None
+        if wrong or status != 0:
+            yield f"exit status {status}\n{wrong or printed}"
+
     def faults(self, document, root):
         """What is wrong in a document: (line, text)."""
-        blocks, files = blocks_of(document), {}
+        blocks, files, python = blocks_of(document), {}, ""
         for i, block in enumerate(blocks):
             after = blocks[i + 1] if i + 1 < len(blocks) else None
             before = blocks[i - 1] if i > 0 else None
@@ -184,8 +206,12 @@ class Runner:
             elif block.language in PROGRAMS:
                 expected = after if after and after.language == "output" else None
                 found = self.program(block, self.folder(root, files), expected)
+            elif block.language == "python":
+                expected = after if after and after.language == "output" else None
+                found = self.python_block(python, block, self.folder(root, files), expected)
+                python += block.text()
             elif block.language == "output":
-                if not before or before.language not in PROGRAMS:
+                if not before or before.language not in {*PROGRAMS, "python"}:
                     found = ["no program stands before this output"]
             elif block.language not in SHOWN:
                 found = [f'"{block.language}" does not say what the block is; see run_docs.py']
@@ -201,7 +227,8 @@ def main():
     parser = argparse.ArgumentParser()
     for name in ("source", "build", "cxx", "library"):
         parser.add_argument("--" + name, required=True)
-    parser.add_argument("--c-library")
+    for name in ("c-library", "python", "module"):
+        parser.add_argument("--" + name)
     parser.add_argument("documents", nargs="*", type=Path)
     options = parser.parse_args()
     runner = Runner(options)

@@ -1,4 +1,5 @@
 // Members worked by hand in both editions, and cases that are refused.
+#include <algorithm>
 #include <cmath>
 
 #include "codes/edition.h"
@@ -192,6 +193,12 @@ TEST_F(CMembers, StepsCanBeFollowed) {
   const CMemberCheckPart& part = *m_check.Answer().Find(K::StabilityX);
   EXPECT_EQ(m_check.Answer().StepText(part.m_nEnd - 1),
             "ratio = N/(φ·A·f) = 800000/(0.8748·12040·215) = 0.3533");
+  ASSERT_TRUE(m_check.Run(WeldedH({0, {-75000, 150000}}, "")));
+  const CMemberCheckPart& bent = *m_check.Answer().Find(K::StabilityX);
+  std::vector<std::string> texts;
+  for (std::size_t i = bent.m_nFirst; i < bent.m_nEnd; ++i)
+    texts.push_back(m_check.Answer().StepText(i));
+  EXPECT_EQ(std::ranges::count(texts, "βmx = 0.6 + 0.4·k = 0.6 + 0.4·(-0.5) = 0.4"), 1);
 }
 
 struct CRefusal {
@@ -224,6 +231,10 @@ const CRefusal kRefusals[] = {
                           {0, {}}, "uniform")},
     {"Mx", With(Row("热轧普通槽钢", "[20a", "Q235", 3000, 1500), -80, {100, {}})},
     {"My", With(Tee(), -80, {0, {}}, {100, {}})},
+    {"stiffeners", Change(NarrowH(), [](CMemberCase& c) { c.m_dStiffeners = 0; })},
+    {"limit", Change(WideH(), [](CMemberCase& c) { c.m_dLimit = 1e9; })},
+    {"joined", Change(WideH(), [](CMemberCase& c) { c.m_strJoined = "leg"; })},
+    {"joined", Change(NarrowH(), [](CMemberCase& c) { c.m_strJoined = "web"; })},
     {"edges", Change(WideH(), [](CMemberCase& c) { c.m_strEdges = "rolled"; })},
 };
 

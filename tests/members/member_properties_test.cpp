@@ -32,7 +32,7 @@ CRatios RatiosOf(CMemberCheck& check, const CMemberCase& input) {
 // are at least those of `less`.
 void ExpectNoLess(const CRatios& more, const CRatios& less, const char* what) {
   for (const K kind : {K::Strength, K::Net, K::Shear, K::Combined, K::StabilityX, K::StabilityY,
-                       K::StabilityZ, K::Lateral, K::Slenderness}) {
+                       K::StabilityZ, K::Lateral, K::Slenderness, K::Panel}) {
     const auto i = static_cast<std::size_t>(kind);
     EXPECT_GE(more.m_arrRatio[i], less.m_arrRatio[i] * (1 - 1e-12))
         << what << ", " << MemberCheckName(kind);
@@ -98,6 +98,7 @@ TEST_F(CMembers, ALittleCompressionHidesNothing) {
       beam(Sizes("h", {200, 400, 16, 10}, "Q235", 9000, 9000), 60000, 0, 0, 50),
       beam(Sizes("box", {100, 300, 10}, "Q235", 14000, 14000), 60000, 0, 0, 50),
       beam(Sizes("box", {300, 100, 10}, "Q235", 14000, 14000), 0, 60000, 50, 0),
+      beam(Sizes("h", {300, 1200, 16, 8}, "Q235", 9000, 3000), 900000, 0, 0, 400),
       beam(Sizes("tube", {100, 92}, "Q235", 4000, 4000), 10000, 0, 30, 40),
   };
   for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
@@ -137,18 +138,22 @@ TEST_F(CMembers, ATurnedBoxHasExchangedChecks) {
                                             {K::Strength, K::Strength},
                                             {K::Lateral, K::Lateral},
                                             {K::Combined, K::Combined},
+                                            {K::Panel, K::Panel},
                                             {K::Wall, K::Wall},
                                             {K::Slenderness, K::Slenderness}};
   struct CLoads {
-    double m_dN, m_dMx, m_dMy;
+    double m_dN, m_dMx, m_dMy, m_dH;
   };
-  for (const CLoads& loads : {CLoads{-600, 0, 0}, {-600, 40000, 0}, {-600, 40000, 25000}}) {
-    CMemberCase upright = Sizes("box", {200, 300, 12}, "Q345", 6000, 4000);
+  for (const CLoads& loads : {CLoads{-600, 0, 0, 300},
+                              {-600, 40000, 0, 300},
+                              {-600, 40000, 25000, 300},
+                              {0, 90000, 0, 1100}}) {
+    CMemberCase upright = Sizes("box", {200, loads.m_dH, 12}, "Q345", 6000, 4000);
     upright.m_dN = loads.m_dN;
     upright.m_Mx.m_dUniform = loads.m_dMx;
     upright.m_My.m_dUniform = loads.m_dMy;
     upright.m_dVy = 30;
-    CMemberCase turned = Sizes("box", {300, 200, 12}, "Q345", 4000, 6000);
+    CMemberCase turned = Sizes("box", {loads.m_dH, 200, 12}, "Q345", 4000, 6000);
     turned.m_dN = loads.m_dN;
     turned.m_Mx.m_dUniform = loads.m_dMy;
     turned.m_My.m_dUniform = loads.m_dMx;
@@ -166,6 +171,48 @@ TEST_F(CMembers, ATurnedBoxHasExchangedChecks) {
             << MemberCheckName(of) << ", " << loads.m_dMy;
       }
     }
+  }
+}
+
+// Where the code itself jumps, a member a hair beyond is another member.
+TEST_F(CMembers, TheJumpsAreTheCodes) {
+  const auto beam = [](double b, double tf, double tw, double length = 3000) {
+    CMemberCase c = Sizes("h", {b, 400, tf, tw}, "Q235", 6000, length);
+    c.m_Mx.m_dUniform = 50000;
+    return c;
+  };
+  const auto pressed = [](CMemberCase c, double N) {
+    c.m_dN = N;
+    return c;
+  };
+  CMemberCase ends = pressed(Sizes("h", {300, 400, 20, 10}, "Q345", 6000, 3000), -800);
+  ends.m_Mx.m_arrEach = {150000, -150000};
+  CMemberCase loaded = ends;
+  loaded.m_strLoad = "uniform";
+  loaded.m_dMqx = 0.001;
+  const double iy = std::sqrt(16016042.7 / 7808);  // of 200 x 400 x 12 x 8
+  const struct {
+    const char* m_szWhat;
+    CMemberCase m_before, m_after;
+    K m_nKind;
+    double m_dTimes;  // the ratio
+  } jumps[] = {
+      // 800e3/(0.86595 15600 295) and 150e6/(2362.4e3 295), beta-tx 0.3 and 0.85
+      {"a load beside end moments", ends, loaded, K::StabilityY, 0.38370 / 0.26532},
+      // phi-b 0.74273 by C.0.5, 0.81820 by C.0.1
+      {"lambda-y 120 epsilon-k", pressed(beam(200, 12, 8, 119.999 * iy), -0.001),
+       pressed(beam(200, 12, 8, 120.001 * iy), -0.001), K::StabilityY, 0.74273 / 0.81820},
+      {"flange from S3 to S4", beam(267.999, 10, 8), beam(268.001, 10, 8), K::Strength, 1.05},
+      {"web from S4 to S5", beam(200, 14, 372 / 123.999), beam(200, 14, 372 / 124.001), K::Web,
+       124.0 / 250},
+      {"plates over 16 mm", beam(200, 15.999, 10), beam(200, 16.001, 10), K::Strength, 215.0 / 205},
+  };
+  for (const auto& jump : jumps) {
+    ASSERT_TRUE(m_check.Run(jump.m_before)) << m_check.Fault().Line(CLanguage::English);
+    const double before = m_check.Answer().Ratio(jump.m_nKind);
+    ASSERT_TRUE(m_check.Run(jump.m_after)) << m_check.Fault().Line(CLanguage::English);
+    EXPECT_NEAR(m_check.Answer().Ratio(jump.m_nKind) / before, jump.m_dTimes, 2e-4)
+        << jump.m_szWhat;
   }
 }
 

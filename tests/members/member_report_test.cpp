@@ -73,6 +73,18 @@ const CReported kReported[] = {
     {"channel", With(Row("热轧普通槽钢", "[20a", "Q235", 3000, 3000), 0, 20000, 0, 20, "midspan")},
     {"I", With(Row("热轧普通工字钢", "I40a", "Q235", 6000, 3000), 0, 90000, 0, 60, "uniform")},
     {"angle", With(Row("热轧等边角钢", "L100X10", "Q235", 2000, 2000), -100, 0)},
+    {"one leg", [] {
+       CMemberCase c = With(Row("热轧等边角钢", "L100X6", "Q345", 2000, 2000), -60, 0);
+       c.m_strJoined = "leg";
+       c.m_dNetA = 0.9;
+       return c;
+     }()},
+    {"plate girder",
+     [] {
+       CMemberCase c = With(Sizes("h", {300, 1200, 16, 8}, "Q235", 9000, 3000), 0, 500000, 0, 300);
+       c.m_dStiffeners = 1000;
+       return c;
+     }()},
     {"laced", With(Lattice("lacing", 2), -600, 20000)},
     {"three limbs", With(Lattice("lacing", 3), -900, 0)},
     {"four limbs", With(Lattice("battens", 4), -900, 0)},

@@ -83,21 +83,32 @@ TEST_F(StoreFile, AFileThatNothingWasSavedToIsRemoved) {
   EXPECT_EQ(LastStoreError().m_nTrouble, CStoreTrouble::NotFound);
 }
 
+std::uint64_t ChangeOf(const CString& path) {
+  orv3::CStoreState state;
+  EXPECT_TRUE(orv3::StateOfStore(path, state));
+  return state.m_nChange;
+}
+
 TEST_F(StoreFile, ABatchIsOneSave) {
   ASSERT_TRUE(Save(m_path, 0, "old"));
+  std::uint64_t first = 0;
   {
     orv3::CStoreBatch batch(m_path);
     ASSERT_TRUE(batch.IsHeld());
-    EXPECT_FALSE(orv3::IsAheadOfFile(m_path));
+    EXPECT_EQ(ChangeOf(m_path), 0U);
     EXPECT_TRUE(Save(m_path, 0, "new"));
-    EXPECT_TRUE(orv3::IsAheadOfFile(m_path));
+    first = ChangeOf(m_path);
+    EXPECT_NE(first, 0U);
     EXPECT_EQ(Seen(m_path), "new");  // within the batch
   }
   EXPECT_EQ(Seen(m_path), "old");  // which was never committed
   {
     orv3::CStoreBatch batch(m_path);
     EXPECT_TRUE(Save(m_path, 0, "new"));
+    const std::uint64_t second = ChangeOf(m_path);
+    EXPECT_NE(second, first);  // which was another change
     EXPECT_TRUE(Save(m_path, 3, "er"));
+    EXPECT_NE(ChangeOf(m_path), second);
     EXPECT_TRUE(batch.Commit());
   }
   EXPECT_EQ(Seen(m_path), "newer");
@@ -109,7 +120,7 @@ TEST_F(StoreFile, ABatchIsOneSave) {
     EXPECT_EQ(LastStoreError().m_nTrouble, CStoreTrouble::Failed);
   }
   EXPECT_EQ(Seen(m_path), "newer");
-  EXPECT_FALSE(orv3::IsAheadOfFile(m_path));
+  EXPECT_EQ(ChangeOf(m_path), 0U);
   EXPECT_TRUE(Save(m_path, 0, "fresh"));
 }
 

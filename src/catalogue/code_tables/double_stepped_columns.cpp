@@ -25,10 +25,13 @@ bool PrintedCell(const Printed& table, int eta1, int eta2, int k1, int k2, doubl
 // Bilinear in K1 and K2 at the grid positions eta1 and eta2.
 double AtEta(const Continued& table, std::size_t eta1, std::size_t eta2, const orv3::CGridPlace& k1,
              const orv3::CGridPlace& k2) {
-  const auto cell = [&](std::size_t i, std::size_t j) {
-    return table[6 * (i / 2) + eta2][22 * eta1 + 11 * (i % 2) + j];
+  const auto row = [&](std::size_t i) {
+    return std::span(table[6 * (i / 2) + eta2]).subspan(22 * eta1 + 11 * (i % 2), 11);
   };
-  return orv3::ValueAt(cell, k1, k2);
+  const auto lower = row(k1.m_lower);
+  const auto upper = row(k1.m_upper);
+  const auto along = [&](std::size_t j) { return orv3::Between(k1, lower[j], upper[j]); };
+  return orv3::Between(k2, along(k2.m_lower), along(k2.m_upper));
 }
 
 double AtEta(const Continued& table, int eta1, int eta2, double k1, double k2) {

@@ -70,8 +70,7 @@ CExactRecord RecordAt(std::string_view bytes, std::size_t at) {
   CExactRecord record;
   const auto next = [&] { return Number(bytes, std::exchange(at, at + 8)); };
   for (std::uint64_t& part : record.m_key) part = next();
-  for (const CExactKey& key : ExactKeys())
-    record.m_exact.*key.m_pField = DoubleOf(next());
+  for (const CExactKey& key : ExactKeys()) record.m_exact.*key.m_pField = DoubleOf(next());
   for (const auto error : kErrors) record.m_exact.m_error.*error = DoubleOf(next());
   const std::uint64_t flags = next();
   record.m_exact.m_bJoined = (flags & 1U) != 0;

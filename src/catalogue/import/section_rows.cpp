@@ -8,6 +8,7 @@
 #include "catalogue/rolled/rolled_style.h"
 #include "framework/language.h"
 #include "framework/number_text.h"
+#include "framework/utf8.h"
 #include "sections/load_data_table.h"
 #include "sections/row_check.h"
 #include "sections/section_style.h"
@@ -105,6 +106,11 @@ CString CompleteRow(CDataItem& row) {
   }
   CString misfit = RowMisfit(row);
   if (!misfit.IsEmpty() || !IsLattice(row.m_strTableName)) return misfit;
+  if (const auto what = Contradiction(row))
+    return Say(L"一肢自相矛盾：{1}；请改正库中该行的尺寸或特性",
+               L"a limb contradicts itself: {1}; right would be to correct the sizes or figures of "
+               L"its row in the store",
+               {FromUtf8(what->In(MessageLanguage()))});
   CSteelItemGeGou lattice(row);
   if (!lattice.CalSteelJMGeGou())
     return Say(L"不能由各肢计算其特性", L"its properties cannot be computed from its limbs");

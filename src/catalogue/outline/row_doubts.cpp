@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/outline/row_figures.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
@@ -138,14 +139,26 @@ const char* UnitOf(std::string_view key) {
 
 std::string PlainText(double value) { return ToUtf8(FormatG(value)); }
 
+// A lattice column goes by its limbs' rows: the first that contradicts itself.
+std::optional<CText> LimbContradiction(const CDataItem& row) {
+  CLatticeLimbs limbs;
+  if (!limbs.Fetch(CSteelItemGeGou(row))) return {};
+  for (const CLatticeLimb& limb : limbs.m_arrLimb) {
+    const auto what = Contradiction(limb.m_row);
+    if (!what) continue;
+    const std::string no = ToUtf8(limb.m_row[0].m_strValue);
+    return CText{no + " 的 " + what->m_strChinese, no + ": " + what->m_strEnglish};
+  }
+  return {};
+}
+
 }  // namespace
 
 std::optional<CRowFault> CheckRolledRow(const CDataItem& row) {
   const CFamily* family = RolledFamily(row.GetTableName());
   if (family == nullptr) return {};
   for (int cell = 1; cell < row.GetItemLength(); ++cell) {
-    if (!IsNeeded(row, cell, *family)) continue;
-    if (auto fault = CheckCell(row, cell)) return fault;
+    if (auto fault = CheckCell(row, cell); fault && IsNeeded(row, cell, *family)) return fault;
   }
   if (RowOutline(row).m_arrLoop.empty()) return NoOutline(row);
   return {};
@@ -155,10 +168,11 @@ std::vector<CRowDoubt> RowDoubts(const CDataItem& row) {
   if (RolledFamily(row.GetTableName()) == nullptr && !IsPairTable(row.GetTableName())) return {};
   const COutline outline = RowOutline(row);
   if (outline.m_arrLoop.empty()) return {};
-  return CComparison(RowFigures(row), outline, HasFirstMoment(row)).Doubts();
+  return CComparison(RowFigures(row, outline), outline, HasFirstMoment(row)).Doubts();
 }
 
 std::optional<CText> Contradiction(const CDataItem& row) {
+  if (IsLatticeTable(row.GetTableName())) return LimbContradiction(row);
   const std::vector<CRowDoubt> doubts = RowDoubts(row);
   if (doubts.empty()) return std::nullopt;
   const CRowDoubt& first = doubts.front();

@@ -27,7 +27,7 @@ struct CRowDoubt {
 ORV3CAL_API std::vector<CRowDoubt> RowDoubts(const CDataItem& row);
 
 // The first of them in words, for a row that contradicts itself: "A = 26131 mm², its sizes give
-// 2613.1 mm²".
+// 2613.1 mm²". A lattice column does when a limb's row does: "I99: A = 26131 mm², ...".
 ORV3CAL_API std::optional<CText> Contradiction(const CDataItem& row);
 
 }  // namespace orv3

@@ -104,23 +104,14 @@ CRowFigures OfRecord(const CSteelJMData& record, const CFamily& family) {
 
 // --- Lattice columns -----------------------------------------------------------------------------
 
-// Of the limbs above the axis; unknown when it cuts a limb.
-double MomentAbove(const CLatticeLimbs& limbs, double yo) {
+// Of the limbs beyond an axis, above it or to its right; unknown when it cuts a limb.
+double MomentBeyond(const CLatticeLimbs& limbs, double axis, double CLimbPlace::*at,
+                    double CLimbBox::*centre, double CLimbBox::*extent) {
   double moment = 0;
   for (const CLatticeLimb& limb : limbs.m_arrLimb) {
-    const double bottom = limb.m_at.m_y - limb.m_box.m_dCy, top = bottom + limb.m_box.m_dHeight;
-    if (bottom < yo && yo < top) return kUnknown;
-    moment += limb.m_dArea * std::max(0.0, limb.m_at.m_y - yo);
-  }
-  return moment;
-}
-
-double MomentRight(const CLatticeLimbs& limbs, double xo) {
-  double moment = 0;
-  for (const CLatticeLimb& limb : limbs.m_arrLimb) {
-    const double left = limb.m_at.m_x - limb.m_box.m_dCx, right = left + limb.m_box.m_dWidth;
-    if (left < xo && xo < right) return kUnknown;
-    moment += limb.m_dArea * std::max(0.0, limb.m_at.m_x - xo);
+    const double from = limb.m_at.*at - limb.m_box.*centre, to = from + limb.m_box.*extent;
+    if (from < axis && axis < to) return kUnknown;
+    moment += limb.m_dArea * std::max(0.0, limb.m_at.*at - axis);
   }
   return moment;
 }
@@ -136,8 +127,8 @@ CRowFigures OfLimbs(const CLatticeLimbs& limbs) {
   f.m_dYc = reach.m_below + p.m_dYo;
   f.m_dIx = p.m_dIx;
   f.m_dIy = p.m_dIy;
-  f.m_dSxo = MomentAbove(limbs, p.m_dYo);
-  f.m_dSyo = MomentRight(limbs, p.m_dXo);
+  f.m_dSxo = MomentBeyond(limbs, p.m_dYo, &CLimbPlace::m_y, &CLimbBox::m_dCy, &CLimbBox::m_dHeight);
+  f.m_dSyo = MomentBeyond(limbs, p.m_dXo, &CLimbPlace::m_x, &CLimbBox::m_dCx, &CLimbBox::m_dWidth);
   f.m_dRx = p.m_dixo;
   f.m_dRy = p.m_diyo;
   f.m_dWTop = p.m_dWx1;
@@ -218,14 +209,18 @@ CRowFigures Upright(const CDataItem& row) {
 
 }  // namespace
 
-CRowFigures RowFigures(const CDataItem& row, double angle) {
+CRowFigures RowFigures(const CDataItem& row, const COutline& outline) {
   CRowFigures f = Upright(row);
   const CAxisLetters letters = AxisLetters(row.GetTableName().View());
   f.m_szAxisX = f.m_bAslant ? letters.m_szStrong : letters.m_szX;
   f.m_szAxisY = f.m_bAslant ? letters.m_szWeak : letters.m_szY;
-  const COutline outline = RowOutline(row);
   FindSymmetry(f, outline);
   FindLeastRadius(f, outline, FindSectionStyle(row.m_strTableName.View()) != nullptr);
+  return f;
+}
+
+CRowFigures RowFigures(const CDataItem& row, double angle) {
+  CRowFigures f = RowFigures(row, RowOutline(row));
   for (int i = QuarterTurns(angle); i > 0; --i) Turn(f);
   return f;
 }

@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "framework/export.h"
+#include "sections/outline.h"
 #include "tables/data_item.h"
 
 namespace orv3 {
@@ -44,5 +45,7 @@ struct CRowFigures {
 
 // The angle turns the section counter-clockwise, in degrees; only quarter turns count.
 ORV3CAL_API CRowFigures RowFigures(const CDataItem& row, double angle = 0);
+// The same, upright, for a caller that has the row's outline already.
+CRowFigures RowFigures(const CDataItem& row, const COutline& outline);
 
 }  // namespace orv3

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "codes/bolt_strength.h"
+#include "codes/fatigue.h"
 #include "codes/steel_grade.h"
 #include "codes/steel_strength.h"
 #include "codes/weld_strength.h"
@@ -113,16 +114,11 @@ extern const CHoleRow kHoles[7];
 // Table 3.5.1 but for webs with compression, in the order of CClassElement without those.
 struct CClassRow {
   std::string_view m_strElement;
-  CCell m_arrLimit[5];
+  std::array<CCell, 5> m_arrLimit;
 };
 extern const CClassRow kClasses[5];
 
 // Tables 16.2.1-1 and 16.2.1-2.
-struct CFatigueRow {
-  std::string_view m_strCategory;
-  double m_dC, m_dBeta;
-  CCell m_range2e6, m_range5e6, m_cutOff;
-};
-extern const CFatigueRow kFatigue[17];
+extern const CFatigueCategory kFatigue[17];
 
 }  // namespace orv3::gb2017

@@ -46,14 +46,6 @@ const CTextLiteral kBoltTypeNames[3] = {
     {"高强度承压型", "bearing type"},
 };
 
-const CTextLiteral kSurfaceNames[5] = {
-    {"喷砂（丸）", "sand-blasted"},
-    {"喷砂（丸）后涂无机富锌漆", "sand-blasted, inorganic zinc-rich paint"},
-    {"喷砂（丸）后生赤锈", "sand-blasted and rusted red"},
-    {"钢丝刷清除浮锈", "loose rust brushed off"},
-    {"未经处理的干净轧制表面", "untreated clean rolled surface"},
-};
-
 std::span<const CInputKey<CBoltCase>> CBoltCheck::InputKeys() {
   using C = CBoltCase;
   static const CInputKey<C> kKeys[] = {

@@ -104,6 +104,5 @@ ORV3CAL_API std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record,
 
 extern const char* const kBoltGrades[5];
 extern const CTextLiteral kBoltTypeNames[3];
-extern const CTextLiteral kSurfaceNames[5];
 
 }  // namespace orv3

@@ -82,11 +82,12 @@ void SpacingWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& wa
   if (nearest < least) warnings.push_back(TooClose("colSpace", nearest, 3, record.m_dD0));
 }
 
-// Along the force 2 d0; across it 1.5 d0, which is also what sheared edges and high-strength bolts
-// need.
+// Along the force 2 d0, a torque's along both axes; across it 1.5 d0, which is also what sheared
+// edges and high-strength bolts need.
 void EdgeWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& warnings) {
-  const double factorX = IsZero(record.m_dVx) ? 1.5 : 2;
-  const double factorY = IsZero(record.m_dVy) ? 1.5 : 2;
+  const bool bTorque = !IsZero(record.m_dT);
+  const double factorX = bTorque || !IsZero(record.m_dVx) ? 2 : 1.5;
+  const double factorY = bTorque || !IsZero(record.m_dVy) ? 2 : 1.5;
   const double d0 = record.m_dD0;
   if (record.m_dEx < factorX * d0) warnings.push_back(TooClose("ex", record.m_dEx, factorX, d0));
   if (record.m_dEy < factorY * d0) warnings.push_back(TooClose("ey", record.m_dEy, factorY, d0));

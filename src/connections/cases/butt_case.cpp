@@ -8,8 +8,7 @@
 namespace orv3 {
 namespace {
 
-constexpr CTextLiteral kReduced = {"取两侧边缘中较大者，受压边缘的 σ 乘以 ftw/fcw",
-                                   "the greater of both edges, σ of a pressed one by ftw/fcw"};
+constexpr CTextLiteral kReduced = {"取两侧边缘中较大者", "the greater of both edges"};
 constexpr CTextLiteral kBothEdges = {
     "M 使一侧边缘受拉、另一侧受压，N 与 M 取同号相加",
     "M pulls one edge and presses the other, so N and M add at one of them"};

@@ -31,7 +31,7 @@ void DroppedLoadFaults(int loadCase, double N, double M, double V, CFaultList& f
                {"请给 0，或选用计入 " + key + " 的工况：" + cases,
                 "give 0, or a load case that takes " + key + ": " + cases});
   };
-  if (N == 0 && M == 0 && V == 0) return NoLoadFault(TakesN(loadCase) ? "N" : "V", faults);
+  if (IsZero(N) && IsZero(M) && IsZero(V)) return NoLoadFault(TakesN(loadCase) ? "N" : "V", faults);
   dropped("N", N, TakesN(loadCase), "0, 1, 2, 4, 5");
   dropped("M", M, TakesM(loadCase), "1, 2, 3, 4, 5");
   dropped("V", V, TakesV(loadCase), "3, 4, 5");

@@ -3,7 +3,6 @@
 
 #include "connections/cases/case_rules.h"
 #include "connections/cases/weld_case.h"
-#include "connections/gb2017/notes.h"
 
 namespace orv3 {
 namespace {
@@ -215,7 +214,7 @@ bool CFilletCheck::Run(const CFilletCase& input) {
   for (const CDetail& detail : m_arrDetail)
     JudgeDetail(detail.m_name, detail.m_szKey, detail.Utilisation());
   std::vector<CCaseWarning> warnings;
-  gb2017::NoteOfDetails(m_arrDetail, warnings);
+  NoteOfDetails(m_arrDetail, warnings);
   StressWarnings(input, r, j, warnings);
   WarnOfBeta(input, j, kFilletClauses2003, warnings);
   DetailingWarnings(input, warnings);

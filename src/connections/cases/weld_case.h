@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "connections/butt_weld.h"
+#include "connections/detail.h"
 #include "connections/fillet_weld.h"
-#include "connections/gb2017/detail.h"
 #include "connections/verdict/weld_verdict.h"
 #include "reports/case_answer.h"
 

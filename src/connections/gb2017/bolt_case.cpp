@@ -294,7 +294,7 @@ void CBoltCheck2017::JudgeParts(const CBoltCase2017& input) {
 std::vector<CCaseWarning> CBoltCheck2017::Notes(const CBoltCase2017& input) const {
   std::vector<CCaseWarning> notes;
   gb2017::NoteOf(SteelStrengths(gb2017::kEdition, SteelOf(input), input.m_dThick), "steel", notes);
-  gb2017::NoteOfDetails(m_arrDetail, notes);
+  NoteOfDetails(m_arrDetail, notes);
   if (input.m_dN < 0 && !IsZero(input.m_dN)) {
     notes.push_back({"N",
                      {"N < 0 为压力，由板件接触传递，未验算接触面；螺栓只验算其余内力。",

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "connections/cases/bolt_case.h"
+#include "connections/detail.h"
 #include "connections/gb2017/bolt_joint.h"
-#include "connections/gb2017/detail.h"
 #include "reports/fault_list.h"
 
 namespace orv3 {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "codes/holes.h"
-#include "connections/gb2017/detail.h"
+#include "connections/detail.h"
 
 namespace orv3::gb2017 {
 

@@ -177,7 +177,7 @@ std::vector<CCaseWarning> CFilletCheck2017::Notes(const CFilletCase2017& input) 
                       "The line of fusion is about as short as s: the shear strength is judged as "
                       "0.9 ffw (11.2.4)."}});
   }
-  gb2017::NoteOfDetails(m_arrDetail, notes);
+  NoteOfDetails(m_arrDetail, notes);
   if (input.m_dHf != 0 && input.m_dT1 == 0) {
     gb2017::NoteOfUnknownParts({"hf", input.m_dHf, input.m_dHf, IsLap(input)},
                                {"给出 t1 与 t2 即可验算", "give t1 and t2 to have it checked"},

@@ -1,17 +1,12 @@
 // What the answers of this folder tell besides their verdicts.
 #pragma once
 
-#include <span>
 #include <vector>
 
-#include "connections/gb2017/detail.h"
 #include "connections/gb2017/weld_case.h"
 #include "reports/case_keys.h"
 
 namespace orv3::gb2017 {
-
-// Of each rule that is not kept, with its numbers.
-void NoteOfDetails(std::span<const CDetail> details, std::vector<CCaseWarning>& notes);
 
 // What the legs of fillet welds, the smallest and the largest, are right for when the parts are not
 // given.

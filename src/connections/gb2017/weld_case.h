@@ -2,7 +2,7 @@
 #pragma once
 
 #include "connections/cases/weld_case.h"
-#include "connections/gb2017/detail.h"
+#include "connections/detail.h"
 
 namespace orv3 {
 

@@ -9,6 +9,12 @@ namespace {
 
 using CSteps = std::vector<CReportStep>;
 
+// A figure that needs no numbers put in: a table gives it, or its formula sums over the bolts.
+void Add(CSteps& steps, CTextLiteral name, const char* clause, const char* symbol,
+         const char* formula, double value, const char* unit = "mm") {
+  steps.push_back({name, clause, symbol, formula, "", PlainNumber(value), unit});
+}
+
 // The centroid, in mm from the first bolt, and the farthest bolts from it.
 void Distances(const CBoltFacts& b, CSteps& steps) {
   if (b.m_r.m_nBolts < 2) return;
@@ -22,14 +28,10 @@ void Distances(const CBoltFacts& b, CSteps& steps) {
        b.m_shape.m_dXc);
   mean({"形心纵坐标（自第一个螺栓）", "Centroid along y, from the first bolt"}, "y_c", "Σy / n",
        b.m_shape.m_dYc);
-  const auto farthest = [&](CTextLiteral name, const char* symbol, const char* formula,
-                            double value) {
-    steps.push_back({name, "", symbol, formula, "", PlainNumber(std::fabs(value)), "mm"});
-  };
-  farthest({"最远螺栓的 x 向距离", "Farthest bolt along x"}, "x_{max}", "\\max |x − x_c|",
-           b.m_shape.m_dXMax);
-  farthest({"最远螺栓的 y 向距离", "Farthest bolt along y"}, "y_{max}", "\\max |y − y_c|",
-           b.m_shape.m_dYMax);
+  Add(steps, {"最远螺栓的 x 向距离", "Farthest bolt along x"}, "", "x_{max}", "\\max |x − x_c|",
+      std::fabs(b.m_shape.m_dXMax));
+  Add(steps, {"最远螺栓的 y 向距离", "Farthest bolt along y"}, "", "y_{max}", "\\max |y − y_c|",
+      std::fabs(b.m_shape.m_dYMax));
 }
 
 }  // namespace
@@ -60,32 +62,16 @@ std::vector<CReportStep> BoltGeometry(const CBoltFacts& b) {
   if (bSlot) {
     const CBoltTrace2017& trace = b.m_view.m_p2017->Trace();
     const double length = std::max(trace.HoleRoom(true), trace.HoleRoom(false));
-    steps.push_back({{"槽孔长向尺寸", "Length of the slot"},
-                     "T 11.5.1",
-                     "l_0",
-                     "",
-                     "",
-                     PlainNumber(length),
-                     "mm"});
+    Add(steps, {"槽孔长向尺寸", "Length of the slot"}, "T 11.5.1", "l_0", "", length);
   }
   if (!b.m_bFriction) {
-    steps.push_back({{"螺纹处有效直径（粗牙，查表）", "Effective diameter (coarse thread, table)"},
-                     "",
-                     "d_e",
-                     "",
-                     "",
-                     PlainNumber(b.m_r.m_dDe),
-                     "mm"});
+    Add(steps, {"螺纹处有效直径（粗牙，查表）", "Effective diameter (coarse thread, table)"}, "",
+        "d_e", "", b.m_r.m_dDe);
   }
   Distances(b, steps);
   if (b.m_bTorque) {
-    steps.push_back({{"至形心距离的平方和", "Sum of squared distances from the centroid"},
-                     "",
-                     "Σr^2",
-                     "Σ(x^2 + y^2)",
-                     "",
-                     PlainNumber(b.m_shape.SumR2()),
-                     "mm²"});
+    Add(steps, {"至形心距离的平方和", "Sum of squared distances from the centroid"}, "", "Σr^2",
+        "Σ(x^2 + y^2)", b.m_shape.SumR2(), "mm²");
   }
   if (!IsZero(b.m_input.m_dM)) {
     static constexpr CTextLiteral kAbout[] = {
@@ -93,17 +79,13 @@ std::vector<CReportStep> BoltGeometry(const CBoltFacts& b) {
         {"弯矩力臂平方和（绕形心）", "Sum of squared lever arms, about the centroid"},
         {"弯矩力臂平方和（绕末行螺栓）", "Sum of squared lever arms, about the last row"}};
     const bool bCentroid = b.m_judged.m_nTurn == CTurn::Centroid;
-    steps.push_back({kAbout[bCentroid            ? 1
-                            : b.m_input.m_dM < 0 ? 2
-                                                 : 0],
-                     "", "Σl^2", "Σl_i^2", "", PlainNumber(b.m_judged.m_dSumArm2), "mm²"});
-    steps.push_back({{"受力最大螺栓的力臂", "Lever arm of the bolt pulled hardest"},
-                     "",
-                     "l_{max}",
-                     "",
-                     "",
-                     PlainNumber(b.m_judged.m_dArm),
-                     "mm"});
+    Add(steps,
+        kAbout[bCentroid            ? 1
+               : b.m_input.m_dM < 0 ? 2
+                                    : 0],
+        "", "Σl^2", "Σl_i^2", b.m_judged.m_dSumArm2, "mm²");
+    Add(steps, {"受力最大螺栓的力臂", "Lever arm of the bolt pulled hardest"}, "", "l_{max}", "",
+        b.m_judged.m_dArm);
   }
   return steps;
 }
@@ -111,9 +93,7 @@ std::vector<CReportStep> BoltGeometry(const CBoltFacts& b) {
 std::vector<CReportStep> BoltStrengths(const CBoltFacts& b) {
   CSteps steps;
   const auto value = [&](CTextLiteral name, const char* clause, const char* symbol, double number,
-                         const char* unit) {
-    steps.push_back({name, clause, symbol, "", "", PlainNumber(number), unit});
-  };
+                         const char* unit) { Add(steps, name, clause, symbol, "", number, unit); };
   value({"板件钢材强度", "Plate steel"}, b.SteelClause(), "f", b.m_r.m_dF, "N/mm²");
   if (b.m_view.Is2017())
     value({"板件抗拉强度", "Plate steel, tensile"}, b.SteelClause(), "f_u",

@@ -81,8 +81,8 @@ void CBoltReport::Inputs() {
 }
 
 CTextLiteral CBoltReport::SurfaceText() const {
-  return m_view.Is2017() ? SurfaceName(CCodeEdition::Gb2017, m_input.m_nSurface)
-                         : kSurfaceNames[m_input.m_nSurface];
+  return SurfaceName(m_view.Is2017() ? CCodeEdition::Gb2017 : CCodeEdition::Gb2003,
+                     m_input.m_nSurface);
 }
 
 void CBoltReport::Figure() {

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "connections/gb2017/detail.h"
+#include "connections/detail.h"
 #include "reports/case_answer.h"
 #include "reports/report_page.h"
 

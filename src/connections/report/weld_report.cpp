@@ -209,11 +209,6 @@ CVerdicts FilletVerdicts(const CHECK& check, const CFilletClauses& clauses, doub
                       std::string(Combined(judged)) + " ≤ " + ffw);
 }
 
-// The reduced stress is that of a pressed edge whose strength is above that of a pulled one.
-bool IsReducedPressed(const CWeldFigures& judged) {
-  return !judged.TensionGoverns() && judged.m_dTensionLimit < judged.m_dCompressionLimit;
-}
-
 CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigures& judged,
                  const char* clause, const char* table) {
   const std::string t = Put(input.m_dThick);
@@ -237,7 +232,7 @@ CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigur
   }
   static constexpr CTextLiteral kNormal = {"正应力", "Normal stress"};
   StressSteps(input, r, kNormal, clause, "σ", "t l_w", area, input.m_dThick * input.m_dLw, steps);
-  if (!TakesV(input.m_nLoadCase)) return steps;
+  if (!judged.m_bShear) return steps;
   steps.push_back({{"剪应力", "Shear stress"},
                    clause,
                    "τ",
@@ -245,14 +240,11 @@ CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigur
                    "1.5 × " + Put(std::fabs(input.m_dV)) + " × 1000 / (" + area + ")",
                    PlainNumber(judged.m_dTau),
                    "N/mm²"});
-  const bool bPressed = IsReducedPressed(judged);
-  const std::string across = bPressed ? "(" + Put(judged.m_dCompression) + " × " + Put(r.m_dFtw) +
-                                            " / " + Put(r.m_dFcw) + ")"
-                                      : Put(std::max(judged.m_dTension, judged.m_dCompression));
+  const std::string across = Put(std::max(judged.m_dTension, judged.m_dCompression));
   steps.push_back({{"折算应力", "Reduced stress"},
                    clause,
                    "σ_{zs}",
-                   bPressed ? "√((σ f_t^w / f_c^w)^2 + 3 τ^2)" : "√(σ^2 + 3 τ^2)",
+                   "√(σ^2 + 3 τ^2)",
                    "√(" + across + "^2 + 3 × " + Put(judged.m_dTau) + "^2)",
                    PlainNumber(judged.m_dCombined),
                    "N/mm²"});
@@ -262,10 +254,8 @@ CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigur
 // `relation` of the reduced stress: 2003 fails one that is equal to its limit.
 template <class CHECK>
 CVerdicts ButtVerdicts(const CHECK& check, const char* clause, const std::string& relation) {
-  return WeldVerdicts(
-      check, clause, check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w", "|τ| ≤ f_v^w",
-      (IsReducedPressed(check.Figures()) ? "√((σ f_t^w / f_c^w)^2 + 3 τ^2) " : "√(σ^2 + 3 τ^2) ") +
-          relation + " 1.1 f_t^w");
+  return WeldVerdicts(check, clause, check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w",
+                      "|τ| ≤ f_v^w", "√(σ^2 + 3 τ^2) " + relation + " 1.1 f_t^w");
 }
 
 template <class CHECK>

@@ -35,6 +35,7 @@ CLeastCut LeastCut(std::span<const double> gaps, double across, double deduct) {
     return cut;
   }
   std::vector<CWay> ways;
+  ways.reserve(gaps.size() + 1);
   double at = 0;
   double bestCost = HUGE_VAL;
   int best = 0;

@@ -38,6 +38,8 @@ CCutWay WayX(const CPlateHoles& holes) {
   double odd = holes.m_bStaggered ? even + holes.m_arrCol[column] : even;
   if (column % 2 != 0) std::swap(even, odd);
   way.m_dAcross = std::fabs(odd - even);
+  way.m_arrGap.reserve(2 * holes.m_arrRow.size());
+  way.m_arrHole.reserve(2 * holes.m_arrRow.size() + 1);
   double y = 0;
   way.m_arrHole.push_back({even, y});
   for (const double space : holes.m_arrRow) {
@@ -59,6 +61,8 @@ CCutWay WayY(const CPlateHoles& holes) {
   CCutWay way{.m_dEdges = 2 * holes.m_dEx};
   const std::size_t row = holes.m_bStaggered ? Smallest(holes.m_arrRow) : 0;
   if (holes.m_bStaggered) way.m_dAcross = holes.m_arrRow[row] / 2;
+  way.m_arrGap.reserve(holes.m_arrCol.size());
+  way.m_arrHole.reserve(holes.m_arrCol.size() + 1);
   const double y = Before(holes.m_arrRow, row);
   double x = 0;
   way.m_arrHole.push_back({x, y});
@@ -91,6 +95,7 @@ CPlateSection WorstSection(const CPlateHoles& holes, const CCutWay& way, double 
     section.m_dShare = share;
     section.m_dSigma = sigma;
     section.m_arrHole.clear();
+    section.m_arrHole.reserve(cut.m_arrLine.size());
     for (const int line : cut.m_arrLine)
       section.m_arrHole.push_back(way.m_arrHole[static_cast<std::size_t>(line)]);
     if (!holes.m_bFriction || way.m_dAcross == 0) break;  // a grid has one cut

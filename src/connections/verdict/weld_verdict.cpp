@@ -5,6 +5,7 @@
 
 #include "connections/cases/case_rules.h"
 #include "connections/cases/weld_case.h"
+#include "connections/check_math.h"
 
 namespace orv3 {
 namespace {
@@ -63,18 +64,18 @@ CWeldFigures JudgedFigures(const CFilletCase& input, const CFilletResults& resul
   return FilletFigures(input, {results.m_dHe, results.m_dW, results.m_dFfw, length});
 }
 
-// Tension is held against ftw and compression against fcw, each at its own edge.
+// Tension is held against ftw and compression against fcw, each at its own edge. The reduced stress
+// has one limit, 1.1 ftw, whether its edge is pulled or pressed, and is asked for where normal and
+// shear stress act together.
 CWeldFigures JudgedFigures(const CButtCase& input, const CButtResults& results) {
   CWeldFigures figures = Edges(input, input.m_dThick * input.m_dLw, results.m_dW);
   figures.m_dTensionLimit = results.m_dFtw;
   figures.m_dCompressionLimit = results.m_dFcw;
+  figures.m_bShear = figures.m_bShear && !IsZero(input.m_dV);
   if (!figures.m_bShear) return figures;
   figures.m_dTau = 1.5 * 1000 * std::fabs(input.m_dV) / (input.m_dThick * input.m_dLw);
   figures.m_dTauLimit = results.m_dFvw;
-  // 1.1 ftw is for an edge that is pulled; what presses counts in the ratio of the strengths, so
-  // that without V nothing is left of the rule.
-  const double across =
-      std::max(figures.m_dTension, figures.m_dCompression * results.m_dFtw / results.m_dFcw);
+  const double across = std::max(figures.m_dTension, figures.m_dCompression);
   figures.m_dCombined = std::sqrt(across * across + 3 * figures.m_dTau * figures.m_dTau);
   figures.m_dCombinedLimit = 1.1 * results.m_dFtw;
   return figures;

@@ -16,7 +16,7 @@ struct CWeldFigures {
   double m_dCompression = 0;  // at the edge that is pressed most
   double m_dTensionLimit = 0;
   double m_dCompressionLimit = 0;
-  bool m_bShear = false;      // the load case takes V
+  bool m_bShear = false;      // V is judged
   double m_dShearLength = 0;  // weld length that carries V, mm
   double m_dTau = 0;
   double m_dTauLimit = 0;

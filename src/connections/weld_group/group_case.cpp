@@ -228,7 +228,7 @@ std::vector<CCaseWarning> CWeldGroupCheck::Notes(const CWeldGroupCase& input) co
   std::vector<CCaseWarning> notes;
   const auto steel = static_cast<CSteelGrade>(input.m_nSteel);
   gb2017::NoteOf(FilletWeldStrength(m_nEdition, steel), "steel", notes);
-  gb2017::NoteOfDetails(m_arrDetail, notes);
+  NoteOfDetails(m_arrDetail, notes);
   if (m_nEdition == CCodeEdition::Gb2003 && m_results.m_dAlphaF < 1) {
     const std::string run = PlainNumber(WorstRun()) + " mm";
     const std::string factor = PlainNumber(m_results.m_dAlphaF);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "codes/edition.h"
-#include "connections/gb2017/detail.h"
+#include "connections/detail.h"
 #include "connections/weld_group/weld_group.h"
 #include "framework/export.h"
 #include "reports/case_answer.h"

@@ -72,6 +72,8 @@ inline constexpr wchar_t kExportIntoItself[] = L"不能导出到正在使用的�
 inline constexpr wchar_t kExportNotPlaced[] =
     L"不能写入文件，请检查文件是否正被使用、文件夹是否可写：";
 inline constexpr wchar_t kImportFailed[] = L"以下内容未能导入：";
+inline constexpr wchar_t kImportDoubtful[] =
+    L"以下记录已导入，但其特性与尺寸不符，不能用于验算，请核对：";
 inline constexpr wchar_t kImportOtherKind[] =
     L"不是可以导入的文件，应为型钢数据文件（.Kvb）或截面库文件（.KDB）。";
 inline constexpr wchar_t kImportOtherName[] = L"没有以此为名的型钢数据文件，应为例如DbData.kvb。";
@@ -111,6 +113,8 @@ inline constexpr wchar_t kNoResult[] =
 // Between and behind the names of values.
 inline constexpr wchar_t kSizesChanged[] = L"已修改，而下列数值仍是原截面的，程序不重新计算：\n";
 inline constexpr wchar_t kOldFigures[] = L"\n是否仍按现有数据保存？";
+
+inline constexpr wchar_t kContradicts[] = L"特性与尺寸不符，不能用于验算：";
 
 // --- Spacing and number --------------------------------------------------------------------------
 inline constexpr wchar_t kSpacingCaption[] = L"型钢组合肢距输入";

@@ -7,6 +7,7 @@
 #include "catalogue/exact/row_exact.h"
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/lattice/steel_ge_gou.h"
+#include "catalogue/outline/row_doubts.h"
 #include "catalogue/outline/row_outline.h"
 #include "dialogs/model/dialog_texts.h"
 #include "dialogs/model/spacing_model.h"
@@ -239,7 +240,7 @@ bool CPropertyModel::IsChanged(int line) const {
 
 // Printed figures belong to printed sizes: those of a rolled section are nowhere computed anew.
 bool CPropertyModel::AcceptOldFigures(CDialogUser& user) {
-  if (m_nSource != CSource::Plain) return true;
+  if (m_nSource != CSource::Plain) return AcceptContradiction(user);
   CString sizes, figures;
   const auto name = [](CString& list, const CString& sign) {
     list += (list.IsEmpty() ? L"" : texts::kAnd) + sign;
@@ -255,9 +256,21 @@ bool CPropertyModel::AcceptOldFigures(CDialogUser& user) {
   }
   const bool asked = !sizes.IsEmpty() && !figures.IsEmpty();
   const CString question = sizes + texts::kSizesChanged + figures + texts::kOldFigures;
-  if (asked && !user.AskYesNo(texts::kReminder, question)) return false;
+  if (!asked) {
+    m_nFaultLine = -1;
+    return AcceptContradiction(user);
+  }
+  if (!user.AskYesNo(texts::kReminder, question)) return false;
   m_nFaultLine = -1;
   return true;
+}
+
+// Figures that were typed in, or limbs, may still not be those of the sizes.
+bool CPropertyModel::AcceptContradiction(CDialogUser& user) {
+  const auto what = Contradiction(m_row);
+  if (!what) return true;
+  const CString question = texts::kContradicts + FromUtf8(what->m_strChinese) + texts::kOldFigures;
+  return user.AskYesNo(texts::kReminder, question);
 }
 
 bool CPropertyModel::Ok(CDialogUser& user) {

@@ -64,6 +64,7 @@ class ORV3CAL_API CPropertyModel {
   bool Refuse(CDialogUser& user);
   bool IsChanged(int line) const;
   bool AcceptOldFigures(CDialogUser& user);
+  bool AcceptContradiction(CDialogUser& user);
 
   CDataItem m_row;
   const CDataItem m_before;

@@ -111,21 +111,37 @@ const wchar_t* WhyNot(const CString& file) {
                                                                            : texts::kImportDamaged;
 }
 
+CString TableLine(const CString& path, const CTableImport& table) {
+  return L"\n" + FileNameOf(path) + texts::kComma + table.m_strTable + texts::kColon;
+}
+
+CString Counted(const std::vector<CRefusedRow>& rows) {
+  return FormatInt(std::ssize(rows)) + texts::kRecords + texts::kOpenBracket + NumbersOf(rows) +
+         texts::kCloseBracket;
+}
+
 // A line for each thing that did not come in. Without `overwrite` rows that the store has are not
 // meant to.
 CString LeftOut(const CImportReport& report, const CString& path, bool overwrite) {
-  const CString file = FileNameOf(path);
-  if (!report.m_bDone) return L"\n" + file + texts::kColon + WhyNot(path);
+  if (!report.m_bDone) return L"\n" + FileNameOf(path) + texts::kColon + WhyNot(path);
   CString text;
   for (const CTableImport& table : report.m_arrTable) {
-    const CString line = L"\n" + file + texts::kComma + table.m_strTable + texts::kColon;
     if (!table.m_strWhy.IsEmpty()) {
-      text += line + (table.m_bOtherColumns ? texts::kImportOtherColumns
-                                            : StoreReason(CStoreTrouble::Refused));
+      text +=
+          TableLine(path, table) + (table.m_bOtherColumns ? texts::kImportOtherColumns
+                                                          : StoreReason(CStoreTrouble::Refused));
     } else if (overwrite && !table.m_arrRefused.empty()) {
-      text += line + FormatInt(std::ssize(table.m_arrRefused)) + texts::kRecords +
-              texts::kOpenBracket + NumbersOf(table.m_arrRefused) + texts::kCloseBracket;
+      text += TableLine(path, table) + Counted(table.m_arrRefused);
     }
+  }
+  return text;
+}
+
+// A line for each table whose rows came in though their figures are not those of their sizes.
+CString Doubtful(const CImportReport& report, const CString& path) {
+  CString text;
+  for (const CTableImport& table : report.m_arrTable) {
+    if (!table.m_arrDoubtful.empty()) text += TableLine(path, table) + Counted(table.m_arrDoubtful);
   }
   return text;
 }
@@ -139,7 +155,7 @@ std::vector<CFileFilter> ImportFilters() {
 void ImportFiles(const std::vector<CString>& files, const CString& store, bool overwrite,
                  CDialogUser& user) {
   const auto count = static_cast<int>(files.size());
-  CString left;
+  CString left, doubtful;
   for (int i = 0; i < count; ++i) {
     const CString& file = files[static_cast<std::size_t>(i)];
     CImportOptions options;
@@ -149,10 +165,13 @@ void ImportFiles(const std::vector<CString>& files, const CString& store, bool o
                     count * kSteps);
     };
     ClearStoreError();
-    left += LeftOut(ImportFile(file, store, options), file, overwrite);
+    const CImportReport report = ImportFile(file, store, options);
+    left += LeftOut(report, file, overwrite);
+    doubtful += Doubtful(report, file);
   }
   user.Progress(texts::kImporting, count * kSteps, count * kSteps);
   if (!left.IsEmpty()) user.Tell(texts::kImportFailed + left);
+  if (!doubtful.IsEmpty()) user.Tell(texts::kImportDoubtful + doubtful);
 }
 
 void GroupByNumber(const CString& path, const CString& tableName, CDialogUser& user) {

@@ -14,7 +14,7 @@ std::vector<CFileFilter> ImportFilters();
 
 // Brings the rows of the files into the store. Rows that the store has are replaced only with
 // `overwrite`, rows of the catalogue only by rows of the catalogue. What did not come in is told at
-// the end.
+// the end, and so are rows that came in though their figures contradict their sizes.
 void ImportFiles(const std::vector<CString>& files, const CString& store, bool overwrite,
                  CDialogUser& user);
 

@@ -47,6 +47,10 @@ struct CMemberCase {
   double m_dSway = kNone;
   double m_dLx = kNone, m_dLy = kNone, m_dLz = kNone, m_dSpan = kNone;
   double m_dNetA = kNone, m_dNetW = kNone;
+  double m_dStiffeners = kNone;  // distance of the web's transverse stiffeners
+  double m_dRestrained = kNone;  // the compression flange against twist
+  std::string m_strJoined =
+      {};  // "whole", "leg", "long-leg", "short-leg", "flanges", "web", or empty
   double m_dDynamic = kNone;
   double m_dLimit = kNone;
 };
@@ -99,6 +103,8 @@ class ORV3CAL_API CMemberCheck {
   bool ReadLengths(const CMemberCase& input, const CMemberRow& section);
   void NoteGiven(const CMemberCase& input, const CMemberSection& s);
   bool ReadNet(const CMemberCase& input);
+  bool ReadStiffeners(const CMemberCase& input);
+  bool ReadJoint(const CMemberCase& input, const CMemberSection& section);
   bool TakeShearOfLoad();
 
   CCodeEdition m_nDefault = CCodeEdition::Gb2017;

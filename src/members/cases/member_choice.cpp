@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -9,6 +10,7 @@
 #include "codes/edition.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "sections/default_row.h"
 #include "sections/section_kind.h"
 #include "sections/system_tables.h"
 #include "tables/edit_state.h"
@@ -20,6 +22,17 @@ double MassOf(const CDataItem& row, const CMemberRow& member) {
   const int cell = row.GetSignIndex(L"G(kg/m)");
   const double printed = cell < 0 ? 0 : ToDouble(row[cell].m_strValue);
   return printed > 0 ? printed : 7850e-6 * member.m_section.m_dA;
+}
+
+// The row with which a table of own sections begins, untouched.
+bool IsSample(const CDataItem& row) {
+  CDataItem sample;
+  sample.m_strTableName = row.m_strTableName;
+  if (DefaultSectionRow(sample) == 0 || sample.GetItemLength() != row.GetItemLength()) return false;
+  for (int i = 0; i < row.GetItemLength(); ++i) {
+    if (!(row[i].m_strValue == std::as_const(sample)[i].m_strValue)) return false;
+  }
+  return true;
 }
 
 // The worst of all cases; nothing for a candidate that one of them refuses.
@@ -43,6 +56,15 @@ std::optional<CChosenMember> Worst(CMemberCheck& check, std::span<const CMemberC
     worst.m_nCase = i;
   }
   return worst;
+}
+
+// A section in front of its torsion: as stiff against it as can be, which lowers every ratio.
+CMemberCandidate WithoutTorsion(const CMemberCandidate& candidate) {
+  CMemberCandidate stiff = candidate;
+  stiff.m_row.m_section.m_dIt = 1e30;
+  stiff.m_row.m_section.m_dIw = stiff.m_row.m_section.m_dXs = stiff.m_row.m_section.m_dYs = 0;
+  stiff.m_row.m_bExact = true;
+  return stiff;
 }
 
 // The table of the store in front of the catalogue, else of the catalogue.
@@ -115,6 +137,16 @@ std::vector<CString> MemberTables() {
   return tables;
 }
 
+std::vector<CMemberCandidate> AllMemberCandidates(double gap) {
+  std::vector<CMemberCandidate> candidates;
+  for (const CString& table : MemberTables()) {
+    std::vector<CMemberCandidate> rows = MemberCandidates(table, gap);
+    std::erase_if(rows, [](const CMemberCandidate& each) { return IsSample(each.m_row.m_row); });
+    std::move(rows.begin(), rows.end(), std::back_inserter(candidates));
+  }
+  return candidates;
+}
+
 std::optional<CCaseFault> ReadChoiceEdition(std::span<const CMemberCase> cases,
                                             CCodeEdition otherwise, CCodeEdition& edition) {
   for (std::size_t i = 0; i < cases.size(); ++i) {
@@ -150,7 +182,8 @@ std::optional<CCaseFault> ReadChoiceGap(std::span<const CMemberCase> cases, doub
 }
 
 CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
-                           std::span<CMemberCandidate> candidates, CCodeEdition edition) {
+                           std::span<CMemberCandidate> candidates, CCodeEdition edition,
+                           CFailingRatio failing) {
   CMemberChoice choice;
   std::vector<CRefusedMember> contradicting;
   CMemberCheck check;
@@ -158,7 +191,14 @@ CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
   for (std::size_t i = 0; i < candidates.size(); ++i) {
     CMemberCandidate& candidate = candidates[i];
     std::size_t refusing = 0;
-    auto worst = candidate.m_fault ? std::nullopt : Worst(check, cases, candidate, refusing);
+    std::optional<CChosenMember> worst;
+    if (!candidate.m_fault && !candidate.m_arrSize.empty() &&
+        failing == CFailingRatio::AnyAboveOne) {
+      CMemberCandidate stiff = WithoutTorsion(candidate);
+      worst = Worst(check, cases, stiff, refusing);
+      if (worst && worst->m_bPass) worst.reset();
+    }
+    if (!candidate.m_fault && !worst) worst = Worst(check, cases, candidate, refusing);
     if (!worst) {
       ++choice.m_nRefused;
       AddRefused(candidate.m_bContradicts ? contradicting : choice.m_arrRefused, candidates, i,

@@ -28,8 +28,10 @@ ORV3CAL_API std::vector<CMemberCandidate> MemberCandidates(const CString& table,
 // A section of a style by its sizes, mm.
 ORV3CAL_API CMemberCandidate StyleCandidate(const CSectionStyle& style,
                                             const std::vector<double>& sizes);
-// The tables whose rows can be members, for "all"; a store need not have each.
+// The tables whose rows can be members; a store need not have each.
 ORV3CAL_API std::vector<CString> MemberTables();
+// Every row of them but the samples with which tables of own sections begin.
+ORV3CAL_API std::vector<CMemberCandidate> AllMemberCandidates(double gap);
 
 struct CChosenMember {
   std::size_t m_nCandidate;
@@ -69,8 +71,12 @@ ORV3CAL_API std::optional<CCaseFault> ReadChoiceEdition(std::span<const CMemberC
 ORV3CAL_API std::optional<CCaseFault> ReadChoiceGap(std::span<const CMemberCase> cases,
                                                     double& gap);
 
+// What to know of those that fail: their whole ratio, or but that one check is above 1. Torsion
+// takes milliseconds of a section of a style, and adds to no ratio that fails without it.
+enum class CFailingRatio { Whole, AnyAboveOne };
+
 ORV3CAL_API CMemberChoice ChooseMember(std::span<const CMemberCase> cases,
-                                       std::span<CMemberCandidate> candidates,
-                                       CCodeEdition edition);
+                                       std::span<CMemberCandidate> candidates, CCodeEdition edition,
+                                       CFailingRatio failing = CFailingRatio::Whole);
 
 }  // namespace orv3

@@ -35,18 +35,13 @@ struct CWrittenFormula {
 
 CWrittenFormula Written(const CMemberAnswer& answer, std::size_t index) {
   CWrittenFormula written;
-  std::string_view formula = answer.Step(index).m_szFormula;
-  while (!formula.empty()) {
-    const std::size_t open = std::min(formula.find('{'), formula.size());
-    written.m_strSymbols += Signs(formula.substr(0, open), " ");
-    written.m_strNumbers += Signs(formula.substr(0, open), " × ");
-    if (open == formula.size()) break;
-    const std::size_t close = formula.find('}', open);
-    const std::string symbol(formula.substr(open + 1, close - open - 1));
-    formula.remove_prefix(close + 1);
-    const double* value = answer.ValueBefore(index, symbol);
-    written.m_strSymbols += MemberSymbol(symbol.c_str()).m_szWritten;
-    written.m_strNumbers += value != nullptr ? Put(*value) : symbol;
+  for (const CFormulaPiece& piece : answer.Formula(index)) {
+    const std::string text(piece.m_text);
+    written.m_strSymbols +=
+        piece.m_bSymbol ? MemberSymbol(text.c_str()).m_szWritten : Signs(text, " ");
+    written.m_strNumbers += piece.m_pValue != nullptr ? Put(*piece.m_pValue)
+                            : piece.m_bSymbol         ? text
+                                                      : Signs(text, " × ");
   }
   return written;
 }
@@ -90,18 +85,28 @@ class CReportWriter {
   }
   const std::string& CaseName(std::size_t index) const { return m_report.m_arrCase[index].m_strId; }
 
+  // " (combination LC1)"; nothing without names.
+  static std::string OfCombination(const std::string& names, CLanguage language) {
+    if (names.empty()) return "";
+    return language == CLanguage::Chinese ? "（组合 " + names + "）"
+                                          : " (combination " + names + ")";
+  }
+  std::string OfCombination(std::size_t index) const {
+    return m_report.m_bEnvelope ? OfCombination(CaseName(index), m_body.Language()) : "";
+  }
+
   void Warnings() {
     std::vector<CCaseWarning> warnings;
     for (const auto& noted : m_report.m_envelope.Notes()) {
       std::string names;
       if (noted.m_arrCase.size() < m_report.m_arrCase.size()) {
         for (const std::size_t index : noted.m_arrCase)
-          names += (names.empty() ? " (" : ", ") + CaseName(index);
-        names += ")";
+          names += (names.empty() ? "" : ", ") + CaseName(index);
       }
       const CTextLiteral text = MemberNoteText(noted.m_nNote);
-      warnings.push_back(
-          {MemberNoteKey(noted.m_nNote), {text.m_szChinese + names, text.m_szEnglish + names}});
+      warnings.push_back({MemberNoteKey(noted.m_nNote),
+                          {text.m_szChinese + OfCombination(names, CLanguage::Chinese),
+                           text.m_szEnglish + OfCombination(names, CLanguage::English)}});
     }
     m_body.Warnings(warnings);
   }
@@ -116,11 +121,44 @@ class CReportWriter {
   }
 
   using CKey = CInputKey<CMemberCase>;
-  static std::string GivenText(const CMemberCase& input, const CKey& key) {
+  std::string GivenText(const CMemberCase& input, const CKey& key) const {
     const std::string text =
         std::visit([&](auto field) { return GivenText(input.*field); }, key.m_field);
     const bool bForce = std::string_view(key.m_szUnit).starts_with("kN");
-    return bForce && text == "0" ? "" : text;
+    const std::string_view name = key.m_szKey;
+    if (name == "sway" || name == "dynamic" || name == "restrained")
+      return text == "1" ? m_body.Text({"是", "yes"}) : "";
+    if (bForce && text == "0") return "";
+    return std::holds_alternative<std::string CMemberCase::*>(key.m_field) ? Word(name, text)
+                                                                           : text;
+  }
+  // What a key's word means.
+  std::string Word(std::string_view key, const std::string& word) const {
+    struct CWord {
+      std::string_view m_szKey, m_szWord;
+      CTextLiteral m_text;
+    };
+    static constexpr CWord kWords[] = {
+        {"edges", "flame-cut", {"焰切边", "flame-cut"}},
+        {"edges", "rolled", {"轧制边或剪切边", "rolled or sheared"}},
+        {"load", "none", {"无", "none"}},
+        {"load", "uniform", {"均布荷载", "uniform"}},
+        {"load", "midspan", {"跨中集中荷载", "a point load at midspan"}},
+        {"loadFlange", "upper", {"上翼缘", "upper"}},
+        {"loadFlange", "lower", {"下翼缘", "lower"}},
+        {"joined", "whole", {"全截面", "the whole section"}},
+        {"joined", "leg", {"一肢", "one leg"}},
+        {"joined", "long-leg", {"长肢", "the long leg"}},
+        {"joined", "short-leg", {"短肢", "the short leg"}},
+        {"joined", "flanges", {"翼缘", "the flanges"}},
+        {"joined", "web", {"腹板", "the web"}},
+        {"section.lacing.type", "lacing", {"缀条", "lacing"}},
+        {"section.lacing.type", "battens", {"缀板", "battens"}},
+    };
+    for (const CWord& each : kWords) {
+      if (each.m_szKey == key && each.m_szWord == word) return m_body.Text(each.m_text);
+    }
+    return word;
   }
   static bool IsOfCombination(std::string_view key) {
     static constexpr std::string_view kKeys[] = {"N",  "Mx", "My",   "Mqx",       "Mqy",
@@ -135,9 +173,7 @@ class CReportWriter {
       const std::string_view name = key.m_szKey;
       if (name == "id" || name == "code") continue;
       if (m_report.m_bEnvelope && IsOfCombination(name)) continue;
-      std::string value = GivenText(input, key);
-      if (name == "sway" || name == "dynamic")
-        value = value == "1" ? m_body.Text({"是", "yes"}) : "";
+      const std::string value = GivenText(input, key);
       if (!value.empty()) lines.push_back({m_body.Text(key.m_name), value, key.m_szUnit});
     }
     m_body.Inputs(lines);
@@ -201,8 +237,9 @@ class CReportWriter {
                       plate.m_class ? SectionClassName(*plate.m_class)
                                     : m_body.Text({"超出 S5", "beyond the last"})});
     }
-    m_body.Table(std::vector<std::string>{m_body.Text({"板件（3.5.1 条）", "Plate (3.5.1)"}), "b/t",
-                                          "α0", m_body.Text({"宽厚比等级", "Class"})},
+    const std::string plate = m_body.Text({"板件（3.5.1 条）", "Plate (3.5.1)"}) +
+                              Escaped(OfCombination(m_report.m_envelope.WorstCase()));
+    m_body.Table(std::vector<std::string>{plate, "b/t", "α0", m_body.Text({"宽厚比等级", "Class"})},
                  rows);
   }
 
@@ -227,6 +264,11 @@ class CReportWriter {
 
   void Given() {
     const CMemberAnswer& answer = m_report.m_envelope.Worst();
+    if (m_report.m_bEnvelope) {
+      const std::string heading =
+          Escaped(m_body.Text({"已知", "Given"}) + OfCombination(m_report.m_envelope.WorstCase()));
+      m_body.Heading({heading.c_str(), heading.c_str()});
+    }
     std::vector<CReportStep> steps;
     for (std::size_t i = 0; i < answer.Given().size(); ++i) steps.push_back(StepOf(answer, i, ""));
     m_body.Steps(steps);
@@ -234,8 +276,7 @@ class CReportWriter {
 
   void Part(const CMemberEnvelope::CPart& part) {
     const CTextLiteral title = MemberCheckTitle(part.m_pPart->m_nKind);
-    const std::string name = m_report.m_bEnvelope ? "　" + CaseName(part.m_nCase) : "";
-    const std::string heading = Escaped(m_body.Text(title) + name);
+    const std::string heading = Escaped(m_body.Text(title) + OfCombination(part.m_nCase));
     m_body.Heading({heading.c_str(), heading.c_str()});
     const CMemberAnswer& answer = AnswerOf(part);
     std::vector<CReportStep> steps;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "dialogs/win32/message_box.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "module/orv3cal_c.h"
 #include "platform/command_line.h"
@@ -30,11 +31,17 @@ enum CExit : int { kChosen = 0, kNone = 1, kMisuse = 2, kFileTrouble = 3 };
 
 [[noreturn]] void Fail(const CString& text) { throw std::runtime_error(ToUtf8(text)); }
 
+[[noreturn]] void Fail(const wchar_t* chinese, const wchar_t* english, const CString& file = {}) {
+  Fail(Both(chinese, english, {file}).In(UserLanguage()));
+}
+
 CString FolderOf(const CString& path) { return path.Left(path.ReverseFind(L'\\')); }
 
 // The user's folder, with a store in it.
 CString UserFolder() {
-  if (UserDataFolder().IsEmpty()) Fail(L"the user has no folder for data; give that of the stores");
+  if (UserDataFolder().IsEmpty())
+    Fail(L"当前用户没有数据文件夹；请给出截面库所在文件夹",
+         L"the user has no folder for data; give that of the stores");
   const CString folder = UserDataFolder() + L"\\";
   const CString store = folder + kSystemStore;
   CFileStamp stamp;
@@ -44,9 +51,11 @@ CString UserFolder() {
   const CString shipped = installed + L"\\share\\orv3cal\\" + kSystemStore;
   std::string bytes;
   if (ReadWholeFile(shipped, bytes) != CFileError::None)
-    Fail(shipped + L" cannot be read; give the folder of the section stores");
+    Fail(L"{1} 不能读取；请给出截面库所在文件夹",
+         L"{1} cannot be read; give the folder of the section stores", shipped);
   if (!MakeFolders(folder) || WriteWholeFile(store, bytes) != CFileError::None)
-    Fail(store + L" cannot be written; give a folder of section stores that can");
+    Fail(L"{1} 不能写入；请给出可写的截面库文件夹",
+         L"{1} cannot be written; give a folder of section stores that can", store);
   return folder;
 }
 
@@ -79,7 +88,10 @@ int main(int argc, char** argv) {
   UseUtf8Console();
   const std::vector<std::string> arguments = CommandLineUtf8(argc, argv);
   if (arguments.size() > 2 || (arguments.size() == 2 && arguments[1].starts_with("-"))) {
-    std::fprintf(stderr, "usage: orv3browser [FOLDER]   FOLDER: that of the section stores\n");
+    const CSentence usage =
+        Both(L"用法：orv3browser [FOLDER]   FOLDER：截面库所在文件夹",
+             L"usage: orv3browser [FOLDER]   FOLDER: that of the section stores");
+    std::fprintf(stderr, "%s\n", ToUtf8(usage.In(UserLanguage())).c_str());
     return kMisuse;
   }
   SetMessageHandler(ShowMessageBox);

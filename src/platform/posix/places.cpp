@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <string_view>
 
 #include "platform/posix/native_path.h"
 
@@ -22,6 +23,15 @@ CString UserDataFolder() {
   if (data && *data == '/') return FromNative(std::string(data) + "/orv3cal");
   const char* home = std::getenv("HOME");
   return home && *home ? FromNative(std::string(home) + "/.local/share/orv3cal") : CString();
+}
+
+CLanguage UserLanguage() {
+  for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* value = std::getenv(name);
+    if (value && *value)
+      return std::string_view(value).starts_with("zh") ? CLanguage::Chinese : CLanguage::English;
+  }
+  return CLanguage::English;
 }
 
 }  // namespace orv3

@@ -27,4 +27,9 @@ CString UserDataFolder() {
   return data && *data ? CString(data) + L"\\Orv3Cal" : CString();
 }
 
+CLanguage UserLanguage() {
+  return PRIMARYLANGID(GetUserDefaultUILanguage()) == LANG_CHINESE ? CLanguage::Chinese
+                                                                   : CLanguage::English;
+}
+
 }  // namespace orv3

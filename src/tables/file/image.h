@@ -7,24 +7,27 @@
 #include <vector>
 
 #include "framework/cstring.h"
-#include "platform/file_system.h"
+#include "platform/store_file.h"
 #include "tables/data_item_array.h"
 #include "tables/data_type.h"
+#include "tables/file/info.h"
 
 namespace orv3 {
 
 struct CTableImage {
   CString m_strPath;
   CString m_strTable;
-  CFileStamp m_stamp;                  // of the file at that time
+  CStoreState m_state;                 // of the file at that time
   std::vector<std::string> m_arrSlot;  // the rows' stored bytes
   std::vector<int> m_arrIndex;         // the rows' stable indices
-  // After a save: the heading that was proven then, with the table's blocks. Until the file changes
-  // neither is looked at again.
+  // After a save: the heading that was proven then, the table's record with its blocks, and the
+  // file's information line. Until the file changes none is looked at again.
   std::optional<CDataTableTitle> m_title;
+  CDataFileInfo m_info;
+  CString m_strInfoLine;
 
-  bool IsProven(const CString& path, const CFileStamp& stamp, const CString& table) const {
-    return m_title && m_strPath == path && m_stamp == stamp && m_strTable == table;
+  bool IsProven(const CStoreFile& file, const CString& table) const {
+    return m_title && m_strPath == file.Path() && m_state == file.State() && m_strTable == table;
   }
 };
 

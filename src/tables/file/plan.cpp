@@ -46,7 +46,7 @@ bool OwnsItsBlocks(const CTableDirectory& directory, int record, const CDataFile
 
 // Whether the table's last save looked at the file as it is.
 bool IsProven(const CTableImage* image, const CStoreFile& file, const CString& table) {
-  return image != nullptr && image->IsProven(file.Path(), file.Stamp(), table);
+  return image != nullptr && image->IsProven(file, table);
 }
 
 }  // namespace
@@ -97,11 +97,19 @@ int WritePlan(CStoreFile& file, const CRecordPlan& plan) {
 
 int CDataTable::PlanRecord(const orv3::CStoreFile& file, int storeKind,
                            orv3::CRecordPlan& plan) const {
+  const bool bProven = orv3::IsProven(m_pImage.get(), file, m_strTableName);
+  if (bProven && m_pImage->m_info.m_nRowNum == GetTableRowNum() &&
+      m_pImage->m_info.m_nItemLen == GetTableItemLen()) {
+    plan.m_info = m_pImage->m_info;
+    plan.m_strInfoLine = m_pImage->m_strInfoLine;
+    return 1;
+  }
   orv3::CTableDirectory& directory = plan.m_directory;
   if (orv3::IsTooShort(file)) {
     directory = orv3::CTableDirectory(orv3::NewInfoLine(storeKind));
   }
   if (!orv3::ReadOrStart(file, directory)) return 0;
+  plan.m_strInfoLine = directory.InfoLine();
   int record = directory.Find(m_strTableName);
   plan.m_bNewTable = record < 0;
   if (plan.m_bNewTable) {
@@ -133,8 +141,7 @@ int CDataTable::PlanRecord(const orv3::CStoreFile& file, int storeKind,
     }
     directory.SetRecord(record, field);
   }
-  const bool bProven = !plan.m_bChanged && orv3::IsProven(m_pImage.get(), file, m_strTableName);
-  return bProven || orv3::OwnsItsBlocks(directory, record, plan.m_info)
+  return orv3::OwnsItsBlocks(directory, record, plan.m_info)
              ? 1
              : orv3::RefuseDamaged(file, m_strTableName);
 }

@@ -14,8 +14,9 @@ class CDataTable;
 namespace orv3 {
 
 struct CRecordPlan {
-  CTableDirectory m_directory;  // as it will be
+  CTableDirectory m_directory;  // as it will be, if it changes
   CDataFileInfo m_info;         // the table's record in it
+  CString m_strInfoLine;        // the file's
   bool m_bChanged = false;      // the directory is to be written
   bool m_bNewTable = false;
   std::int64_t m_nReserved = 0;  // bytes of the new blocks before it

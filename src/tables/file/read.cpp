@@ -113,7 +113,7 @@ int CDataTable::GetTable(const CString& path, CString& infoLine) {
   infoLine = line;
   image->m_strPath = file->Path();
   image->m_strTable = m_strTableName;
-  image->m_stamp = file->Stamp();
+  image->m_state = file->State();
   m_pImage = std::move(image);
   m_arrEarlierImage.clear();
   m_nImageArrangement = wasEmpty ? m_arrItem.Arrangement() : kNoArrangement;

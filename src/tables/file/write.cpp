@@ -88,7 +88,7 @@ int CDataTable::WriteTableFileInfo(CStoreFile* file, int storeKind, CDataFileInf
   if (!file) return 0;
   orv3::CRecordPlan plan;
   if (!PlanRecord(*file, storeKind, plan) || !orv3::WritePlan(*file, plan)) return 0;
-  SetTableFileInfo(plan.m_directory.InfoLine());
+  SetTableFileInfo(plan.m_strInfoLine);
   info = plan.m_info;
   return 1;
 }
@@ -145,7 +145,7 @@ void CDataTable::SeparateIndices(const CTableImage& image) {
 // Makes the table one that was read from the file as it is now, with its own changes kept.
 int CDataTable::CatchUp(const CStoreFile& file, bool replaceUnknown) {
   const bool known = TakeUpImage(file.Path());
-  if (known && m_pImage->m_stamp == file.Stamp()) return 1;
+  if (known && m_pImage->m_state == file.State()) return 1;
   CTableDirectory directory;
   if (!orv3::ReadOrStart(file, directory)) return 0;
   const int record = directory.Find(m_strTableName);
@@ -186,19 +186,24 @@ struct CDataTable::CRowWrite {
 int CDataTable::CollectRows(const CStoreFile& file, bool all,
                             std::vector<CRowWrite>& writes) const {
   const std::vector<int> slots = SlotsIn();
-  for (int i = 0; i < GetTableRowNum(); ++i) {
-    const CDataItem& row = std::as_const(m_arrItem)[i];
+  std::vector<int> positions;
+  int at = 0;
+  m_arrItem.Walk([&](const CDataItem& row) {
     // A row that is not in its slot goes there even if it is unchanged: it has moved, or the file
     // never had it.
-    const bool inPlace = slots[static_cast<std::size_t>(i)] == i;
-    if (inPlace && !all && !orv3::IsUnsaved(row.m_nModifyType)) continue;
-    CRowWrite write{i, {}};
+    const bool inPlace = slots[static_cast<std::size_t>(at)] == at;
+    if (!inPlace || all || orv3::IsUnsaved(row.m_nModifyType)) positions.push_back(at);
+    ++at;
+  });
+  for (const int position : positions) {
+    const CDataItem& row = std::as_const(m_arrItem)[position];
+    CRowWrite write{position, {}};
     CString why;
     if (!orv3::EncodeRow(row, orv3::StateOnFile(row.m_nModifyType), m_Title, write.m_strSlot,
                          why)) {
       return orv3::RefuseSave(file,
                               orv3::Say(L"表“{1}”第 {2} 行：{3}", L"table \"{1}\", row {2}: {3}",
-                                        {m_strTableName, orv3::FormatInt(i + 1), why}));
+                                        {m_strTableName, orv3::FormatInt(position + 1), why}));
     }
     writes.push_back(std::move(write));
   }
@@ -206,15 +211,18 @@ int CDataTable::CollectRows(const CStoreFile& file, bool all,
 }
 
 // The rows written are in the file now.
-void CDataTable::MarkSaved(const CStoreFile& file, const std::vector<CRowWrite>& writes) {
+void CDataTable::MarkSaved(const CStoreFile& file, const orv3::CRecordPlan& plan,
+                           const std::vector<CRowWrite>& writes) {
   if (!m_pImage || m_pImage.use_count() > 1) {
     m_pImage =
         m_pImage ? std::make_shared<CTableImage>(*m_pImage) : std::make_shared<CTableImage>();
   }
   m_pImage->m_strPath = file.Path();
   m_pImage->m_strTable = m_strTableName;
-  m_pImage->m_stamp = file.Stamp();
+  m_pImage->m_state = file.State();
   m_pImage->m_title = m_Title;
+  m_pImage->m_info = plan.m_info;
+  m_pImage->m_strInfoLine = plan.m_strInfoLine;
   const auto count = static_cast<std::size_t>(GetTableRowNum());
   m_pImage->m_arrSlot.resize(count);
   m_pImage->m_arrIndex.resize(count);
@@ -245,12 +253,12 @@ int CDataTable::WriteTable(const CString& path, int storeKind, int bAll) {
       !CollectRows(*file, bAll != 0, writes) || !orv3::WritePlan(*file, plan)) {
     return 0;
   }
-  SetTableFileInfo(plan.m_directory.InfoLine());
+  SetTableFileInfo(plan.m_strInfoLine);
   for (const CRowWrite& write : writes) {
     const auto at = static_cast<std::uint64_t>(orv3::SlotOffset(plan.m_info, write.m_nPosition));
     if (!file->Write(at, write.m_strSlot.data(), write.m_strSlot.size())) return 0;
   }
   if (!file->Commit()) return 0;
-  MarkSaved(*file, writes);
+  MarkSaved(*file, plan, writes);
   return 1;
 }

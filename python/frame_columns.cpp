@@ -1,0 +1,88 @@
+#include "frame_columns.h"
+
+#include <string>
+
+namespace orv3::python {
+namespace {
+
+namespace py = pybind11;
+using cli::CCaseCell;
+using cli::CCaseColumn;
+
+std::string Place(const std::string& key, std::size_t row) {
+  return key + ": row " + std::to_string(row);
+}
+
+bool IsText(const py::handle& cell) { return PyUnicode_Check(cell.ptr()) != 0; }
+
+bool IsList(const py::handle& cell) {
+  return py::isinstance<py::list>(cell) || py::isinstance<py::tuple>(cell) ||
+         py::isinstance<py::array>(cell);
+}
+
+// None, NaN and the other marks of a value that is missing: those are not equal to themselves, or
+// do not tell whether they are.
+bool IsMissing(const py::handle& cell) {
+  if (cell.is_none()) return true;
+  if (IsText(cell) || IsList(cell)) return false;
+  const auto same =
+      py::reinterpret_steal<py::object>(PyObject_RichCompare(cell.ptr(), cell.ptr(), Py_EQ));
+  const int truth = same ? PyObject_IsTrue(same.ptr()) : -1;
+  if (truth < 0) PyErr_Clear();
+  return truth != 1;
+}
+
+double Number(const py::handle& value, const std::string& place) {
+  const double number = PyFloat_AsDouble(value.ptr());
+  if (number == -1 && PyErr_Occurred() != nullptr) {
+    PyErr_Clear();
+    throw py::type_error(place + ": " + py::repr(value).cast<std::string>() +
+                         " is no number, text or list of numbers");
+  }
+  return number;
+}
+
+CCaseCell Cell(const py::handle& value, const std::string& key, std::size_t row) {
+  if (IsMissing(value)) return {};
+  if (IsText(value)) return value.cast<std::string>();
+  if (!IsList(value)) return Number(value, Place(key, row));
+  std::vector<double> list;
+  for (const py::handle each : py::reinterpret_borrow<py::iterable>(value))
+    list.push_back(Number(each, Place(key, row)));
+  return list;
+}
+
+CCaseColumn Column(const std::string& key, const py::array& values) {
+  CCaseColumn column;
+  column.m_strKey = key;
+  const auto count = static_cast<std::size_t>(values.size());
+  if (py::isinstance<py::array_t<double>>(values)) {
+    column.m_arrNumber = {static_cast<const double*>(values.data()), count};
+    return column;
+  }
+  const auto* cells = static_cast<PyObject* const*>(values.data());
+  column.m_arrCell.reserve(count);
+  for (std::size_t row = 0; row < count; ++row)
+    column.m_arrCell.push_back(Cell(cells[row], key, row));
+  return column;
+}
+
+}  // namespace
+
+cli::CCaseColumns FrameColumns(const py::dict& columns) {
+  cli::CCaseColumns cases;
+  for (const auto& [name, values] : columns) {
+    const auto key = name.cast<std::string>();
+    const auto array = values.cast<py::array>();
+    const auto count = static_cast<std::size_t>(array.size());
+    if (!cases.m_arrColumn.empty() && count != cases.m_nCases)
+      throw py::value_error(key + ": " + std::to_string(count) +
+                            " values; the columns before it have " +
+                            std::to_string(cases.m_nCases));
+    cases.m_nCases = count;
+    cases.m_arrColumn.push_back(Column(key, array));
+  }
+  return cases;
+}
+
+}  // namespace orv3::python

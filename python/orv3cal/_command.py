@@ -1,0 +1,101 @@
+"""Command lines made of Python's values, and what comes of them."""
+
+from __future__ import annotations
+
+import json
+import numbers
+import warnings
+from pathlib import Path
+from typing import Any, Iterable, Optional, Sequence, Union
+
+from . import _orv3cal
+
+Number = Union[float, str]
+_language: Optional[str] = None
+
+
+class Error(ValueError):
+    """What could not be done: one sentence that names what was wrong and what would be right.
+
+    ``status`` is the command's exit status: 2 for bad input, 3 for trouble with a file.
+    """
+
+    def __init__(self, text: str, status: int = 2) -> None:
+        super().__init__(text)
+        self.status = status
+
+
+def set_language(language: Optional[str]) -> None:
+    """Answers in "zh" or "en" from now on; None leaves it to ORV3CAL_LANG and the locale."""
+    global _language
+    if language not in (None, "zh", "en"):
+        raise Error(f'language: "{language}" is no language; right would be "zh", "en" or None')
+    _language = language
+
+
+def find_catalogue() -> None:
+    """Takes the catalogue in share/orv3cal of the nearest folder above this file that has one."""
+    for folder in Path(__file__).resolve().parents:
+        data = folder / "share" / "orv3cal"
+        if (data / "KvbSystemJmDataBase.KDB").is_file():
+            return _orv3cal.set_catalogue(str(data))
+
+
+def text_of(value: Any) -> str:
+    """A value as an argument; a number with all its digits."""
+    if isinstance(value, bool) or isinstance(value, str):
+        return str(value)
+    if isinstance(value, numbers.Integral):
+        return str(int(value))
+    if isinstance(value, numbers.Real):
+        return repr(float(value))
+    return str(value)
+
+
+def option(name: str, value: Any) -> list[str]:
+    """An option with its value; nothing for None, the name alone for True."""
+    if value is None or value is False:
+        return []
+    return [name] if value is True else [f"{name}={text_of(value)}"]
+
+
+def stores(store: Optional[str], data: Optional[str]) -> list[str]:
+    return option("--store", store) + option("--data", data)
+
+
+def line(command: Sequence[str], options: Iterable[str], places: Iterable[Any]) -> list[str]:
+    """A command line. What stands at a place is never taken for an option."""
+    language = option("--lang", _language)
+    return [*command, *options, *language, "--", *(text_of(place) for place in places)]
+
+
+def sentence(told: str) -> str:
+    """The command's own, without its name and that of standard input in front."""
+    text = told.strip().split("\n")[-1]
+    return text.removeprefix("orv3cal: ").removeprefix("-: ")
+
+
+def answer(arguments: list[str], case: Any = None) -> Any:
+    """What a command answers as JSON; ``case`` is its file "-". Raises Error."""
+    status, out, told = _orv3cal.run(arguments, "" if case is None else json_of(case))
+    if status > 1 or not out:
+        raise Error(sentence(told), status)
+    if told:
+        warnings.warn(sentence(told), stacklevel=3)
+    return json.loads(out)
+
+
+def json_of(case: Any) -> str:
+    """A case as JSON, numpy's numbers and arrays among its values."""
+    if isinstance(case, str):
+        return case
+    try:
+        return json.dumps(case, ensure_ascii=False, default=_plain)
+    except UnicodeEncodeError as error:
+        raise Error(str(error)) from None
+
+
+def _plain(value: Any) -> Any:
+    if hasattr(value, "tolist"):
+        return value.tolist()
+    raise Error(f"{value!r} is no number, text, list or dict")

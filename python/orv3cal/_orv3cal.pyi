@@ -1,0 +1,9 @@
+from typing import Any
+
+__version__: str
+
+def run(arguments: list[str], input: str = "") -> tuple[int, str, str]: ...
+def run_cases(
+    arguments: list[str], columns: dict[str, Any]
+) -> tuple[int, dict[str, Any], str]: ...
+def set_catalogue(folder: str) -> None: ...

@@ -1,0 +1,17 @@
+#include "members/slenderness_steps.h"
+
+namespace orv3 {
+
+void GiveSlendernesses(CMemberAnswer& answer, double lx, double ly, double rx, double ry) {
+  CMemberResults& r = answer.m_results;
+  r.m_dLambdaX = lx / rx;
+  r.m_dLambdaY = ly / ry;
+  answer.Step("l0x", nullptr, lx, "mm");
+  answer.Step("l0y", nullptr, ly, "mm");
+  answer.Step("ix", nullptr, rx, "mm");
+  answer.Step("iy", nullptr, ry, "mm");
+  answer.Step("λx", "{l0x}/{ix}", r.m_dLambdaX);
+  answer.Step("λy", "{l0y}/{iy}", r.m_dLambdaY);
+}
+
+}  // namespace orv3
