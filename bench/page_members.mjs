@@ -34,7 +34,7 @@ for (const [name, run] of [["native", native], ["page", inPage]]) {
   const times = [];
   for (let i = 0; i < 5; ++i) times.push(await run());
   const best = Math.min(...times);
-  console.log(`${name}: ${count} cases in ${best.toFixed(0)} ms, ${((count / best) * 1000).toFixed(0)} a second`);;
+  console.log(`${name}: ${count} cases in ${best.toFixed(0)} ms, ${((count / best) * 1000).toFixed(0)} a second`);
 }
 await browser.close();
 rmSync(folder, { recursive: true });

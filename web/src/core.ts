@@ -55,9 +55,8 @@ export class Core {
   // `own` is the user's own store, null for none; the answer has the store that the run leaves.
   async run(argv: string[], files: Files, own: Uint8Array | null): Promise<Answer & { own: Uint8Array | null }> {
     const { instance, exit } = await this.next;
-    const { FS, ENV } = instance;
+    const { FS } = instance;
     try {
-      ENV["HOME"] = "/home";
       if (own) {
         FS.mkdirTree(kOwnFolder);
         FS.writeFile(`${kOwnFolder}/${kStore}`, own);
@@ -83,6 +82,7 @@ export class Core {
     const exit = { status: 0 };
     const instance = await makeOrv3cal({
       noInitialRun: true,
+      preRun: [(instance: Instance) => void (instance.ENV["HOME"] = "/home")], // read as the module starts
       print: () => {},
       printErr: () => {},
       quit: (status: number, thrown: unknown) => {
