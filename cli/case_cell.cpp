@@ -44,7 +44,7 @@ CKeyValue CellValue(double cell, const CCaseSchema::CRule& rule, std::string& te
   const char* end =
       whole ? std::to_chars(digits, digits + sizeof digits, static_cast<long long>(cell)).ptr
             : WriteShortest(digits, digits + sizeof digits, cell);
-  text.assign(digits, end);
+  text.assign(static_cast<const char*>(digits), end);
   return std::string_view(text);
 }
 

@@ -1,7 +1,6 @@
 // orv3cal choose: the lightest sections of tables that pass a member's cases.
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <span>
 #include <sstream>
@@ -23,6 +22,7 @@
 #include "option_errors.h"
 #include "output_options.h"
 #include "store_place.h"
+#include "streams.h"
 #include "style_ranges.h"
 
 namespace orv3::cli {
@@ -292,8 +292,7 @@ CExit RunChoose(const COptions& options) {
   } else if (options.csv) {
     PrintCsv(answer.Csv());
     if (const std::string refused = answer.Refused(); !refused.empty())
-      std::fprintf(stderr, "orv3cal: %s: %s\n", Visible(options.file).c_str(),
-                   Visible(refused).c_str());
+      WriteError("orv3cal: " + Visible(options.file) + ": " + Visible(refused) + "\n");
   } else {
     Print(answer.Text());
   }

@@ -134,18 +134,24 @@ constexpr CStressRow kStresses[] = {
      &CBoundaryStress::mises},
 };
 
+// Of the greatest of a stress, a part of it; NaN where nothing tells.
+double ErrorOf(const CGreatestStress& greatest, const CStressRow& row) {
+  const double error = StressError(*(greatest.*row.m_pPoint), row.m_pValue);
+  const bool sheared = row.m_pValue != &CBoundaryStress::sigma && error > 0;
+  return greatest.m_bCoarse && sheared ? NAN : error;
+}
+
 CJson StressJson(const CAnswer& answer) {
   CJson json = CJson::object();
   for (const auto& force : kForces) json[force.m_szKey] = answer.forces.*force.m_pField / 1000;
   const CGreatestStress greatest = GreatestStress(answer.stress);
   for (const CStressRow& row : kStresses) {
     const CBoundaryStress* point = greatest.*row.m_pPoint;
-    json[row.m_szKey] = point == nullptr
-                            ? CJson(nullptr)
-                            : CJson{{"value", JsonNumber(point->*row.m_pValue)},
-                                    {"x", JsonNumber(point->m_point.x)},
-                                    {"y", JsonNumber(point->m_point.y)},
-                                    {"error", JsonNumber(StressError(*point, row.m_pValue))}};
+    json[row.m_szKey] = point == nullptr ? CJson(nullptr)
+                                         : CJson{{"value", JsonNumber(point->*row.m_pValue)},
+                                                 {"x", JsonNumber(point->m_point.x)},
+                                                 {"y", JsonNumber(point->m_point.y)},
+                                                 {"error", JsonNumber(ErrorOf(greatest, row))}};
   }
   json["sharpCorners"] = greatest.m_bSharp;
   return json;
@@ -154,6 +160,7 @@ CJson StressJson(const CAnswer& answer) {
 // Of sigma, which has none: nothing.
 std::string ErrorText(double error) {
   if (error == 0) return "";
+  if (std::isnan(error)) return Say("，误差不明", ", error not known");
   return Say("，误差估计 {1} %", ", estimated error {1} %",
              {NumberText(std::round(error * 1e4) / 100)});
 }
@@ -163,12 +170,16 @@ void WarnOfStress(const COptions& options, const CAnswer& answer) {
   const CGreatestStress greatest = GreatestStress(answer.stress);
   for (const CStressRow& row : kStresses) {
     const CBoundaryStress* point = greatest.*row.m_pPoint;
-    if (point == nullptr || !(StressError(*point, row.m_pValue) > kMost)) continue;
-    WriteError("orv3cal: " + Visible(options.file) + ": " + row.m_szKey + ": " +
-               Say("该处应力的误差估计超过 3 %；圆角或缺口相对壁厚过小",
-                   "the estimated error of this stress is above 3 %, a fillet or notch is too "
-                   "small beside the wall") +
-               "\n");
+    if (point == nullptr || ErrorOf(greatest, row) <= kMost) continue;
+    const std::string fault =
+        std::isnan(ErrorOf(greatest, row))
+            ? Say("圆角、缺口或孔相对外形过小或过多，网格未能细分到位，该处应力更大",
+                  "fillets, notches or holes are too small or too many to be followed, the stress "
+                  "at them is greater")
+            : Say("该处应力的误差估计超过 3 %；附近有尖锐内凹角，或圆角、缺口过小",
+                  "the estimated error of this stress is above 3 %, a sharp re-entrant corner or a "
+                  "small fillet or notch is near");
+    WriteError("orv3cal: " + Visible(options.file) + ": " + row.m_szKey + ": " + fault + "\n");
   }
 }
 
@@ -192,7 +203,7 @@ void PrintStresses(const CAnswer& answer) {
     table.AddRow({row.m_text.m_szChinese, row.m_szKey, NumberText(point->*row.m_pValue), "N/mm²",
                   Say({"", row.m_text.m_szEnglish}),
                   "x = " + NumberText(point->m_point.x) + ", y = " + NumberText(point->m_point.y) +
-                      ErrorText(StressError(*point, row.m_pValue))});
+                      ErrorText(ErrorOf(greatest, row))});
   }
   Print(table.Text());
   if (greatest.m_bSharp) {

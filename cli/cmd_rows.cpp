@@ -1,6 +1,7 @@
 // orv3cal rows: the rows of one table, searched and sorted.
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "csv_output.h"
 #include "error.h"
 #include "exact_columns.h"
+#include "exact_view.h"
 #include "figure_cells.h"
 #include "framework/language.h"
 #include "framework/number_text.h"
@@ -45,7 +47,8 @@ struct COptions {
 // A search passes over what it does not understand; here it is refused.
 void CheckPart(const CDataTable& table, const CSearchExpression::CPart& part, bool wildcard) {
   const CString sign = CString(part.m_strSign).Trim();
-  const CDataTypeStruct& column = table.m_Title[ColumnOf(table, "--where", ToUtf8(sign))];
+  const CDataTypeStruct& column =
+      table.m_Title[ColumnOf(table, "--where", ToUtf8(sign), ExactSigns())];
   const CString value = CString(part.m_strValue).Trim();
   const bool star = value.Find(L'*') >= 0;
   const bool pattern =
@@ -99,14 +102,15 @@ void Sort(CDataTable& table, const std::string& sort) {
     Refuse(Say("--sort: “{1}”不是次序；应为 desc 或 asc",
                "--sort: \"{1}\" is no order; right would be desc, or asc", {order}));
   }
-  const int column = ColumnOf(table, "--sort", sort.substr(0, colon));
+  const int column = ColumnOf(table, "--sort", sort.substr(0, colon), ExactSigns());
   table.OrderTable(column, order == "asc" ? 1 : 0);
   if (IsExactColumn(table.m_Title[column])) SortUnknownLast(table, column);
 }
 
-// The signs that the options name, wherever they stand.
+// The signs that the options ask for, wherever they stand.
 std::vector<std::string> AskedSigns(const COptions& options) {
   std::vector<std::string> signs = options.columns;
+  if (options.exact) signs.insert(signs.end(), ExactSigns().begin(), ExactSigns().end());
   signs.push_back(options.sort.substr(0, options.sort.rfind(':')));
   for (const CSearchExpression::CPart& part : CSearchExpression(FromUtf8(options.where)).m_arrPart)
     signs.push_back(ToUtf8(CString(part.m_strSign).Trim()));
@@ -127,11 +131,9 @@ CDataTable Selected(const CDataTable& all, const COptions& options) {
   if (options.columns.empty()) return table;
   CString signs;
   std::vector<std::string> shown = options.columns;
-  if (options.exact) {
-    for (const CExactKey& key : ExactKeys()) shown.emplace_back(key.m_szKey);
-  }
+  if (options.exact) shown.insert(shown.end(), ExactSigns().begin(), ExactSigns().end());
   for (const std::string& sign : shown) {
-    ColumnOf(all, "--columns", sign);
+    ColumnOf(all, "--columns", sign, ExactSigns());
     signs += (signs.IsEmpty() ? L"" : L"<<>>") + FromUtf8(sign);
   }
   return table.ViewTable(signs.GetString());
@@ -162,9 +164,15 @@ bool HasCapacities(const CDataTable& table) {
                      [](const std::string& sign) { return sign.ends_with("(kN)"); });
 }
 
-// The cells as they stand in the store, which is what programs and exports take.
-void PrintRowsJson(const COptions& options, const CDataTable& table) {
+// The cells as they stand in the store, which is what programs and exports take; of rows with exact
+// properties their accuracy.
+void PrintRowsJson(const COptions& options, const CDataTable& table,
+                   const std::map<int, CExactProperties>& exacts) {
   CJson json = TableJson(options.table, table);
+  for (CJson& row : json["rows"]) {
+    const auto exact = exacts.find(row["index"].get<int>());
+    if (exact != exacts.end()) AddAccuracyJson(row, exact->second);
+  }
   if (HasCapacities(table)) json["notes"] = {AngleCapacityBasis().In(MessageLanguage())};
   PrintJson(json);
 }
@@ -231,10 +239,9 @@ std::string NotEmpty(const std::string& text) {
 
 void RunRows(const COptions& options) {
   CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
-  AddExactColumns(all, AskedSigns(options));
-  if (options.exact) AddExactColumns(all);
+  const auto exacts = AddExactColumns(all, AskedSigns(options));
   const CDataTable table = Selected(all, options);
-  if (options.json) return PrintRowsJson(options, table);
+  if (options.json) return PrintRowsJson(options, table, exacts);
   if (options.csv) return PrintRowsCsv(table, options.guard);
   PrintRows(options, table);
 }

@@ -93,7 +93,8 @@ void RunShow(const COptions& options, bool spaced) {
   CDataItem row = RowOf(options);
   if (spaced) row = WithGap(row, options);
   const CExactProperties exact = ExactProperties(row);
-  if (!options.svg.empty()) WriteFile(options.svg, RowPictureSvg(row, options.turn, &exact));
+  if (!options.svg.empty())
+    WriteFile(options.svg, RowPictureSvg(row, options.turn, &exact, MessageLanguage()));
   if (!options.dxf.empty()) WriteDxf(options, row);
   if (!options.ifc.empty()) WriteIfc(options, row);
   const CRowFigures figures = RowFigures(row, options.turn);

@@ -20,8 +20,9 @@ CDataTypeStruct ColumnOf(const CExactKey& key) {
           CDataTypeStruct::KVBT_DOUBLE, 0};
 }
 
-void AddColumns(CDataTable& table, const CKeys& keys) {
-  if (keys.empty()) return;
+std::map<int, CExactProperties> AddColumns(CDataTable& table, const CKeys& keys) {
+  std::map<int, CExactProperties> exacts;
+  if (keys.empty()) return exacts;
   for (const CExactKey* key : keys) table.AddTableCol(ColumnOf(*key));
   for (int i = 0; i < table.GetTableRowNum(); ++i) {
     CDataItem& row = table.m_arrItem.Own(i);
@@ -32,7 +33,9 @@ void AddColumns(CDataTable& table, const CKeys& keys) {
       row.m_arrCell.Add(
           CDataCell(ColumnOf(*key), std::isfinite(value) ? FormatShortest(value) : CString()));
     }
+    exacts.emplace(row.GetItemIndex(), exact);
   }
+  return exacts;
 }
 
 bool LacksFigure(const CDataItem& row, const CDataTypeStruct& column) {
@@ -61,19 +64,23 @@ bool IsExactColumn(const CDataTypeStruct& column) {
   return FindExactKey(ToUtf8(column.m_strSign)) != nullptr;
 }
 
-void AddExactColumns(CDataTable& table, const std::vector<std::string>& signs) {
+std::map<int, CExactProperties> AddExactColumns(CDataTable& table,
+                                                const std::vector<std::string>& signs) {
   CKeys keys;
   for (const CExactKey& key : ExactKeys()) {
     const bool asked = std::find(signs.begin(), signs.end(), key.m_szKey) != signs.end();
     if (asked && table.GetTableColIndex(FromUtf8(key.m_szKey).View()) < 0) keys.push_back(&key);
   }
-  AddColumns(table, keys);
+  return AddColumns(table, keys);
 }
 
-void AddExactColumns(CDataTable& table) {
-  std::vector<std::string> signs;
-  for (const CExactKey& key : ExactKeys()) signs.emplace_back(key.m_szKey);
-  AddExactColumns(table, signs);
+const std::vector<std::string>& ExactSigns() {
+  static const std::vector<std::string> signs = [] {
+    std::vector<std::string> all;
+    for (const CExactKey& key : ExactKeys()) all.emplace_back(key.m_szKey);
+    return all;
+  }();
+  return signs;
 }
 
 void RemoveUnknown(CDataTable& table, const CSearchExpression& search, bool wildcard) {

@@ -1,9 +1,11 @@
 // Exact properties as columns of a table, computed row by row.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
+#include "outlines/exact_properties.h"
 #include "tables/data_table.h"
 #include "tables/expression.h"
 
@@ -11,10 +13,12 @@ namespace orv3::cli {
 
 // Appends a column for each of `signs` that names an exact property (outlines/exact_keys.h) and no
 // column of the table: numbers with all their digits, empty where a row has no such figure. Other
-// signs are passed over.
-void AddExactColumns(CDataTable& table, const std::vector<std::string>& signs);
-// All of them.
-void AddExactColumns(CDataTable& table);
+// signs are passed over. Answers the rows' properties by GetItemIndex; empty without a column.
+std::map<int, CExactProperties> AddExactColumns(CDataTable& table,
+                                                const std::vector<std::string>& signs);
+
+// The signs of all of them.
+const std::vector<std::string>& ExactSigns();
 
 // Whether the column at a position is one of those.
 bool IsExactColumn(const CDataTypeStruct& column);

@@ -73,9 +73,13 @@ CJson ExactJson(const CExactProperties& exact) {
 
 void AddExactJson(CJson& json, const CExactProperties& exact) {
   json["exact"] = ExactJson(exact);
+  AddAccuracyJson(json, exact);
+  if (std::isnan(exact.It)) json["missing"] = MissingNote(exact);
+}
+
+void AddAccuracyJson(CJson& json, const CExactProperties& exact) {
   json["accurate"] = exact.m_bAccurate;
   json["errors"] = ErrorsJson(exact);
-  if (std::isnan(exact.It)) json["missing"] = MissingNote(exact);
 }
 
 void WarnInaccurate(const std::string& what, const CExactProperties& exact) {

@@ -14,6 +14,9 @@ namespace orv3::cli {
 // "As" relative, of "center" and "betas" in mm.
 void AddExactJson(CJson& json, const CExactProperties& exact);
 
+// "accurate" and "errors" alone.
+void AddAccuracyJson(CJson& json, const CExactProperties& exact);
+
 // Tells on standard error that the figures of `what` are not within their limits of error.
 void WarnInaccurate(const std::string& what, const CExactProperties& exact);
 

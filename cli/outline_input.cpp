@@ -145,14 +145,20 @@ class COutlineJson : public nlohmann::json_sax<CJson> {
   }
 
   bool Number(double value) {
-    if (m_nDepth != kPoint || m_nNumbers >= m_arrNumber.size()) return Other(NumberText(value));
+    if (m_nDepth != kPoint) return Other(NumberText(value));
+    if (m_nNumbers == m_arrNumber.size()) {
+      Fault(Say("{1}：多于三个数；每点为 [x, y] 或 [x, y, 凸度]",
+                "{1}: has more than three numbers; right would be [x, y] or [x, y, bulge]",
+                {Place()}));
+    }
     m_arrNumber[m_nNumbers++] = value;
     return true;
   }
 
   void EndPoint() {
     if (m_nNumbers < 2) {
-      Fault(Say("{1}：每点为 [x, y] 或 [x, y, 凸度]", "{1}: right would be [x, y] or [x, y, bulge]",
+      Fault(Say("{1}：少于两个数；每点为 [x, y] 或 [x, y, 凸度]",
+                "{1}: has fewer than two numbers; right would be [x, y] or [x, y, bulge]",
                 {Place()}));
     }
     if (++m_nPoints > kMostOutlinePoints) TooMany();

@@ -48,7 +48,9 @@ std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
   if (std::isfinite(exact.xp))
     picture.m_plastic = CPoint{Hundredths(exact.xp), Hundredths(exact.yp)};
   if (HasSlantAxes(exact)) picture.m_dStrongAngle = exact.theta * std::numbers::pi / 180;
-  picture.m_strTitle = style.TableName();
+  picture.m_nLanguage = MessageLanguage();
+  picture.m_strTitle =
+      MessageLanguage() == CLanguage::Chinese ? style.TableName() : FromUtf8(style.m_szShape);
   picture.m_strName = FromUtf8(name);
   return SectionPictureSvg(picture);
 }

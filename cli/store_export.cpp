@@ -190,7 +190,7 @@ void AddExactFigures(std::vector<CDataTable>& tables, const std::string& to) {
         Say("--exact：.ifc 文件本来就含这些量；请不写此选项",
             "--exact: an .ifc file has these figures anyway; right would be without the option"));
   }
-  for (CDataTable& table : tables) AddExactColumns(table);
+  for (CDataTable& table : tables) AddExactColumns(table, ExactSigns());
 }
 
 std::string Content(const COptions& options, std::vector<CDataTable>& tables, int kind) {

@@ -46,11 +46,15 @@ CDataTable StoreTable(const CString& store, const CString& name) {
              {wanted, Nearest(wanted, names)}));
 }
 
-int ColumnOf(const CDataTable& table, const std::string& what, const std::string& sign) {
+int ColumnOf(const CDataTable& table, const std::string& what, const std::string& sign,
+             const std::vector<std::string>& others) {
   const int column = table.GetTableColIndex(FromUtf8(sign));
   if (column >= 0) return column;
   CStringArray signs;
   for (int i = 0; i < table.GetTableColNum(); ++i) signs.Add(table.m_Title[i].m_strSign);
+  for (const std::string& other : others) {
+    if (table.GetTableColIndex(FromUtf8(other)) < 0) signs.Add(FromUtf8(other));
+  }
   Refuse(Say("{1}: 表中没有列“{2}”；相近的有：{3}",
              "{1}: the table has no column \"{2}\"; the nearest are: {3}",
              {what, sign, Nearest(sign, signs)}));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "framework/array.h"
 #include "framework/cstring.h"
@@ -16,7 +17,9 @@ CStringArray StoreTableNames(const CString& store);
 CDataTable StoreTable(const CString& store, const CString& name);
 
 // The position of a column; CCommandError with status 2, which names the nearest signs, when there
-// is none. `what` says where the sign stands, such as "--sort".
-int ColumnOf(const CDataTable& table, const std::string& what, const std::string& sign);
+// is none, among those of the table and `others`. `what` says where the sign stands, such as
+// "--sort".
+int ColumnOf(const CDataTable& table, const std::string& what, const std::string& sign,
+             const std::vector<std::string>& others = {});
 
 }  // namespace orv3::cli

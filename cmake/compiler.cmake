@@ -10,10 +10,6 @@ endif()
 function(orv3cal_warnings)
   foreach(target ${ARGN})
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Werror)
-    # libc++ wants braces around the elements of a std::array that no standard asks for.
-    if(EMSCRIPTEN)
-      target_compile_options(${target} PRIVATE -Wno-missing-braces)
-    endif()
     # GCC 12 sees an overlap in "c" + std::to_string(i) that is none (GCC bug 105651).
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
       target_compile_options(${target} PRIVATE -Wno-restrict)

@@ -18,7 +18,7 @@ endif()
 
 # What an installation takes from the build tree, for builds of no more than that.
 add_custom_target(installed)
-foreach(target orv3cal orv3cal_shared orv3cal_cli manual orv3cal_dll orv3browser catalogue)
+foreach(target orv3cal orv3cal_shared orv3cal_cli manual orv3cal_python orv3cal_dll orv3browser catalogue)
   if(TARGET ${target})
     add_dependencies(installed ${target})
   endif()

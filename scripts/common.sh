@@ -58,3 +58,14 @@ PYTHON_PACKAGES="python3-dev pybind11-dev python3-numpy python3-pandas"
 NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libeigen3-dev libcli11-dev
                  nlohmann-json3-dev
                  libbenchmark-dev libsqlite3-dev libxlsxwriter-dev clang-format python3"
+
+# Node and npm: what is on the path, or Debian's.
+need_node() {
+  command -v node >/dev/null && command -v npm >/dev/null || need_packages nodejs npm
+}
+
+# The npm packages that bundle and test the page, in the versions of web/package-lock.json.
+page_modules() {
+  [ web/node_modules/.package-lock.json -nt web/package-lock.json ] ||
+    (cd web && npm ci --no-audit --no-fund --loglevel=error) || fail "npm could not install web/package-lock.json"
+}

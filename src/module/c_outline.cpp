@@ -11,7 +11,7 @@
 namespace orv3::c_interface {
 namespace {
 
-static_assert(ORV3_EXACT == kExactKeys);
+static_assert(ORV3_EXACT_ERROR_IT == kExactKeys && ORV3_EXACT == kExactKeys + 5);
 
 [[noreturn]] void Refuse(const COutlineFault& fault) {
   throw CFailure("points: " + fault.In(CLanguage::English));
@@ -41,6 +41,9 @@ int GiveExact(const CExactProperties& exact, double* out, int room) {
     throw CFailure("the section has no outline, or one that bounds no steel");
   std::vector<double> values;
   for (const CExactKey& key : ExactKeys()) values.push_back(exact.*key.m_pField);
+  const CExactErrors& error = exact.m_error;
+  values.insert(values.end(),
+                {error.It, error.Iw, error.As, error.center, exact.m_bAccurate ? 1.0 : 0.0});
   return GiveValues(values, out, room);
 }
 

@@ -203,7 +203,14 @@ enum {
   ORV3_EXACT_BETAY,
   ORV3_EXACT_MASS,    /* kg/m at 7850 kg/m^3 */
   ORV3_EXACT_SURFACE, /* m^2/m of the outer outline */
-  ORV3_EXACT          /* how many there are */
+  /* The solver's own estimates of its errors, and whether all are within their limits (It 0.1 %, Iw
+   * and shear areas 0.3 %, shear centre 0.05 mm or 0.05 % of the depth): 1, else 0. */
+  ORV3_EXACT_ERROR_IT,     /* relative */
+  ORV3_EXACT_ERROR_IW,     /* relative */
+  ORV3_EXACT_ERROR_AS,     /* relative, of both shear areas */
+  ORV3_EXACT_ERROR_CENTRE, /* mm, of the shear centre; of betax and betay twice that */
+  ORV3_EXACT_ACCURATE,
+  ORV3_EXACT /* how many there are; values may be added before it */
 };
 
 /* Of a catalogue section, whose parts touch when it is a pair; writes the first `room` values and

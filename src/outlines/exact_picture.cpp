@@ -229,6 +229,7 @@ CGreatestStress GreatestStress(const std::vector<CBoundaryStress>& points) {
   };
   for (const CBoundaryStress& point : points) {
     greatest.m_bSharp = greatest.m_bSharp || point.m_bSharp;
+    greatest.m_bCoarse = greatest.m_bCoarse || point.m_bCoarse;
     take(greatest.m_pSigma, point, &CBoundaryStress::sigma);
     if (point.m_bSharp) continue;
     take(greatest.m_pTau, point, &CBoundaryStress::tau);

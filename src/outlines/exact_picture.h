@@ -33,7 +33,8 @@ struct CGreatestStress {
   const CBoundaryStress* m_pSigma = nullptr;
   const CBoundaryStress* m_pTau = nullptr;
   const CBoundaryStress* m_pMises = nullptr;
-  bool m_bSharp = false;  // points at sharp re-entrant corners have been left out
+  bool m_bSharp = false;   // points at sharp re-entrant corners have been left out
+  bool m_bCoarse = false;  // points at concave arcs have too low a tau: the greatest may be above
 };
 // Of one of them, how far it may be off as a part of itself.
 ORV3CAL_API double StressError(const CBoundaryStress& point, double CBoundaryStress::*figure);

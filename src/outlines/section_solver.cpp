@@ -310,6 +310,7 @@ void CSectionSolver::CState::AddStresses(std::size_t part, const CSectionForces&
   const double shearY =
       m_properties.m_bJoined || f.Vy == 0 ? f.Vy / square : CExactProperties::kUnknown;
   constexpr int kPoints = 4;  // of each stretch
+  const std::vector<char> coarse = CoarseAtArcs(mesh);
   for (const CSide& side : sides) {
     const CMeshTriangle& triangle = mesh.m_arrTriangle[side.triangle];
     const auto vertex = static_cast<std::size_t>(triangle.m_vertex[side.side]);
@@ -328,6 +329,7 @@ void CSectionSolver::CState::AddStresses(std::size_t part, const CSectionForces&
           {t.m_point.x * m_scale - m_properties.xo, t.m_point.y * m_scale - m_properties.yo}, f);
       stress.tau = tau(t);
       stress.tauError = std::fabs(stress.tau - tau(traction(CSolution::Coarse)));
+      stress.m_bCoarse = coarse[side.triangle];
       stress.mises = std::sqrt(stress.sigma * stress.sigma + 3 * stress.tau * stress.tau);
       stress.m_bSharp = i == 0 && mesh.m_arrSharp[vertex];
       to.push_back(stress);

@@ -23,11 +23,13 @@ struct CBoundaryStress {
 
   std::size_t m_nLoop = 0;  // which loop; kInside
   CPoint m_point;
-  double sigma = 0;       // along the bar, tension positive
-  double tau = 0;         // resultant shear, along the boundary in the loop's sense; inside >= 0
-  double mises = 0;       // sqrt(sigma^2 + 3 tau^2)
-  double tauError = 0;    // estimated: by how much a solution of lower degree differs
-  bool m_bSharp = false;  // at a sharp re-entrant corner, where theory has no bound for tau
+  double sigma = 0;        // along the bar, tension positive
+  double tau = 0;          // resultant shear, along the boundary in the loop's sense; inside >= 0
+  double mises = 0;        // sqrt(sigma^2 + 3 tau^2)
+  double tauError = 0;     // estimated: by how much a solution of lower degree differs
+  bool m_bSharp = false;   // at a sharp re-entrant corner, where theory has no bound for tau
+  bool m_bCoarse = false;  // at a concave arc too small for the mesh: tau is too low, by how much
+                           // is not known
 };
 
 class ORV3CAL_API CSectionSolver {

@@ -13,6 +13,7 @@ CDrawing SectionPictureDrawing(const CSectionPicture& picture) {
     COutlinePicture drawn{outline, sizes, picture.m_centroid, picture.m_base, title};
     drawn.m_shearCenter = picture.m_shearCenter;
     drawn.m_plastic = picture.m_plastic;
+    drawn.m_nLanguage = picture.m_nLanguage;
     if (picture.m_dStrongAngle) {
       drawn.m_axes.m_szStrong = L"1";
       drawn.m_axes.m_szWeak = L"2";
@@ -20,7 +21,8 @@ CDrawing SectionPictureDrawing(const CSectionPicture& picture) {
     }
     return OutlinePictureDrawing(drawn);
   }
-  std::vector<CString> lines{title, L"这些尺寸不能构成截面"};
+  const CSentence fault = Both(L"这些尺寸不能构成截面", L"these sizes bound no section");
+  std::vector<CString> lines{title, fault.In(picture.m_nLanguage)};
   for (const CSizeDimension& size : sizes) lines.push_back(SizeText(size));
   return TextPictureDrawing(lines);
 }

@@ -8,6 +8,7 @@
 #include "drawing/drawing.h"
 #include "framework/cstring.h"
 #include "framework/export.h"
+#include "framework/language.h"
 #include "sections/outline.h"
 
 namespace orv3 {
@@ -23,6 +24,7 @@ struct CSectionPicture {
   std::optional<CPoint> m_shearCenter{};
   std::optional<CPoint> m_plastic{};       // where the plastic axes cross
   std::optional<double> m_dStrongAngle{};  // of the strong axis where it stands aslant, radians
+  CLanguage m_nLanguage = CLanguage::Chinese;
 };
 
 // The section's outline, centroid and base point, both pairs of axes and a dimension for each size

@@ -1,5 +1,5 @@
 # One step of a user's way, in a root where nothing of Orv3Cal was before.
-#   user.sh install|first-result|manual|completion|user-store|remove
+#   user.sh install|first-result|manual|completion|user-store|python|wheel|remove
 cd /packages
 
 as_user() { su tester -c "$1"; }
@@ -55,6 +55,15 @@ case $1 in
   user-store)
     as_user 'orv3cal store add 自定义对称H型钢 --set No.=T --set "b(mm)=300" --set "h(mm)=400" --set "tf(mm)=20" --set "tw(mm)=10"'
     as_user 'orv3cal show 自定义对称H型钢 T' | grep 15600
+    ;;
+  python)
+    apt-get -q -y install ./python3-orv3cal_*.deb
+    as_user 'python3 /packages/frame.py /usr/share/doc/orv3cal/examples/bolts.csv'
+    apt-get -q -y purge python3-orv3cal
+    ;;
+  wheel)
+    as_user 'python3 -m pip install -q --no-index --target /tmp/wheel /packages/orv3cal-*.whl'
+    as_user 'PYTHONPATH=/tmp/wheel python3 /packages/frame.py /usr/share/doc/orv3cal/examples/bolts.csv'
     ;;
   remove)
     apt-get -q -y purge orv3cal liborv3cal1

@@ -86,12 +86,13 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   await show();
 }
 
-function answerView(kind: Kind, answer: Answer): HTMLElement[] {
+function answerView(kind: Kind, answer: Answer): (HTMLElement | string)[] {
   const report = answer.files["report.html"];
   const place = el("div");
   const open = report && button(say("计算书", "Report"), () => place.replaceChildren(reportView(report)), { class: "main" });
   return [
     picture(drawingIn(report), kindTitle(kind)),
+    answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",
     verdict(JSON.parse(answer.out) as CheckJson),
     el("div", { class: "tools" }, open || null, button(say("复制 JSON", "Copy JSON"), () => void navigator.clipboard.writeText(answer.out))),
     place,

@@ -13,7 +13,9 @@ import { tables } from "./sections";
 interface ChooseJson {
   tried: number;
   passing: number;
-  rows: { table: string; no: string; mass: number; ratio: number; governs: string }[];
+  refused?: number;
+  refusals?: { table: string; no: string; rows: number; reason: string }[];
+  rows: { table: string; no: string; mass: number; ratio: number; governs: string; warnings?: { key: string; text: string }[] }[];
 }
 
 const kFile = "case.json";
@@ -22,7 +24,7 @@ function kept(): Case {
   try {
     return JSON.parse(state()["case"] ?? "") as Case;
   } catch {
-    const { section: _, ...rest } = structuredClone(member) as Case;
+    const { section: _, edges: __, ...rest } = structuredClone(member) as Case;
     return rest;
   }
 }
@@ -31,7 +33,7 @@ export async function choose(place: HTMLElement): Promise<void> {
   const rolled = (await tables()).filter((table) => table.rows > 0);
   const chosen = () => new Set((state()["tables"] ?? "热轧普通焊接H型钢,热轧窄翼缘H型钢").split(",").filter(Boolean));
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
-  const note = el("p", { class: "fault", role: "alert" });
+  const note = el("p", { class: "note", role: "status" });
   const boxes = rolled.map((table) => {
     const box = el("input", { type: "checkbox", checked: chosen().has(table.name), onchange: () => {
       const now = chosen();
@@ -54,8 +56,8 @@ export async function choose(place: HTMLElement): Promise<void> {
     (answer) => {
       const found = answer.status <= 1 && answer.out !== "";
       form.blame(found ? "" : sentence(answer, kFile));
-      note.textContent = "";
       view.classList.remove("stale");
+      note.textContent = found ? sentence(answer) : "";
       view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, form.case, answer) : fault(sentence(answer, kFile)));
     },
   );
@@ -73,14 +75,16 @@ export async function choose(place: HTMLElement): Promise<void> {
 }
 
 function table(answer: ChooseJson, value: Case, whole: Answer): HTMLElement {
-  const head = [say("表", "table"), say("型号", "no"), "kg/m", say("利用率", "ratio"), say("控制", "governs"), ""];
+  const head = [say("表", "table"), say("型号", "no"), "kg/m", say("利用率", "ratio"), say("控制", "governs"), say("注意", "note"), ""];
   const body = el("tbody");
   for (const row of answer.rows) {
     const open = button(say("验算", "Check"), () => go({ view: "members", case: JSON.stringify({ ...value, section: { table: row.table, no: row.no } }) }));
     body.append(el("tr", {}, el("td", {}, row.table), el("th", { scope: "row" }, row.no), el("td", { class: "num" }, shown(row.mass)),
-      el("td", { class: "num", title: String(row.ratio) }, shown(row.ratio)), el("td", {}, row.governs), el("td", {}, row.table ? open : "")));
+      el("td", { class: "num", title: String(row.ratio) }, shown(row.ratio)), el("td", {}, row.governs),
+      el("td", { class: "name" }, (row.warnings ?? []).map((each) => `${each.key}: ${each.text}`).join("; ")), el("td", {}, row.table ? open : "")));
   }
-  return el("div", {}, el("p", { role: "status" }, say(`试算 ${answer.tried} 个截面，${answer.passing} 个满足`, `${answer.tried} sections tried, ${answer.passing} pass`)),
+  const refused = (answer.refusals ?? []).map((each) => el("p", { class: "warn" }, say(`${each.table}：${each.rows} 个截面未能验算，如 ${each.no}：`, `${each.table}: ${each.rows} sections refused, such as ${each.no}: `), each.reason));
+  return el("div", {}, ...refused, el("p", { role: "status" }, say(`试算 ${answer.tried} 个截面，${answer.passing} 个满足`, `${answer.tried} sections tried, ${answer.passing} pass`)),
     el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("结果", "Results") }, el("table", { class: "figures list" }, el("thead", {}, el("tr", {}, ...head.map((each) => (each ? el("th", { scope: "col" }, each) : el("td"))))), body)),
     picture(whole.files["plot.svg"], say("质量与利用率", "mass against ratio")));
 }

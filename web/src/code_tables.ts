@@ -20,7 +20,7 @@ const kFirst: Record<string, string> = {
   fatigue: "Z4 C",
 };
 const kGrades = ["Q235", "Q345", "Q355", "Q390", "Q420", "Q460", "Q345GJ"];
-const kSpans = ["16", "40", "63", "80", "100"]; // thickness groups of steel, mm
+const kSpans = ["16", "40", "63", "80", "100"]; // thicknesses of steel, mm
 
 // The lists of arguments along which a question's table runs, by the argument's place.
 const kAxes: Record<string, Record<number, string[]>> = {
@@ -99,14 +99,18 @@ function figure(answer: Answer): HTMLElement {
     button(say("复制", "Copy"), () => void navigator.clipboard.writeText(String(value))));
 }
 
+// The list with the asked value in its place, so that what is marked is what was asked.
+function among(list: string[], value = ""): string[] {
+  if (list.includes(value) || value === "") return list;
+  const numbers = [...list, value].every((each) => !Number.isNaN(Number(each)));
+  return numbers ? [...list, value].sort((a, b) => Number(a) - Number(b)) : [...list, value];
+}
+
 async function table(axes: Record<number, string[]> | undefined, values: string[], line: (given: string[]) => string[]): Promise<HTMLElement | null> {
   const [first, second] = Object.entries(axes ?? {}).map(([at, list]) => [Number(at), list] as const);
   if (!first) return null;
-  const [rowAt, rows] = first;
-  const [columnAt, columns] = second ?? [-1, [""]];
-  // The group that the asked number falls into is the first that reaches it.
-  const place = (list: string[], value = "") => (list.includes(value) ? value : list.find((each) => Number(each) >= Number(value)) ?? "");
-  const mark = [place(rows, values[rowAt]), columnAt < 0 ? "" : place(columns, values[columnAt])];
+  const [rowAt, columnAt] = [first[0], second?.[0] ?? -1];
+  const [rows, columns] = [among(first[1], values[rowAt]), second ? among(second[1], values[columnAt]) : [""]];
   const body = el("tbody");
   for (const row of rows) {
     const made = el("tr", {}, el("th", { scope: "row" }, row));
@@ -117,12 +121,12 @@ async function table(axes: Record<number, string[]> | undefined, values: string[
       return run(line(given));
     }));
     answers.forEach((answer, i) => {
-      const marked = row === mark[0] && columns[i] === mark[1];
+      const marked = row === values[rowAt] && (columnAt < 0 || columns[i] === values[columnAt]);
       const value = answer.status === 0 ? shown((JSON.parse(answer.out) as CodeJson).value) : "–";
       made.append(el("td", { class: marked ? "num marked" : "num", "aria-current": marked ? "true" : null }, value));
     });
     body.append(made);
   }
   const head = el("tr", {}, el("td"), ...columns.map((column) => el("th", { scope: "col", class: "num" }, column || say("值", "value"))));
-  return el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("表", "Table") }, el("table", { class: "figures list" }, el("caption", {}, say("表中各值（所查的一格加底色）", "The table, the asked cell marked")), el("thead", {}, head), body));
+  return el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("表", "Table") }, el("table", { class: "figures list" }, el("caption", {}, say("与其他值并列（所查的一格加底色）", "Beside others, the asked cell marked")), el("thead", {}, head), body));
 }

@@ -24,10 +24,12 @@ export function button(text: string, act: () => void, more: Attributes = {}): HT
   return el("button", { type: "button", onclick: act, ...more }, text);
 }
 
-// A label above its control.
+// A label above its control, a unit beside it.
 export function field(label: Child, control: HTMLElement, note: Child = null): HTMLElement {
   control.id ||= newId();
-  return el("div", { class: "field" }, el("label", { for: control.id }, label), control, note);
+  const unit = note instanceof HTMLElement && note.className === "unit";
+  const line = unit ? el("span", { class: "control" }, control, note) : control;
+  return el("div", { class: "field" }, el("label", { for: control.id }, label), line, unit ? null : note);
 }
 
 export function select(options: [value: string, text: string][], value: string, changed: (value: string) => void) {

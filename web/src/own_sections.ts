@@ -44,15 +44,16 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => change({ name: name.value }) });
   const sizes = () => inputs.map(({ input }) => input.value.trim());
 
+  const line = () => ["section", chosen.alias, ...sizes(), "--base", ...base.map(({ input }) => input.value.trim() || "0")];
   const show = latest(
-    (): Promise<Answer> => ask(["section", chosen.alias, ...sizes(), "--base", ...base.map(({ input }) => input.value.trim() || "0"), "--json", "--svg", "picture.svg", "--dxf", "outline.dxf"]),
+    (): Promise<Answer> => ask([...line(), "--json", "--svg", "picture.svg"]),
     (answer) => {
       note.textContent = answer.status === 0 ? "" : sentence(answer);
       for (const { size, input } of inputs) {
         const named = answer.status !== 0 && sentence(answer).startsWith(size.sign);
         input.setAttribute("aria-invalid", String(named));
       }
-      if (answer.status === 0) view.replaceChildren(sectionView(`${chosen.table} ${sizes().join("×")}`, answer));
+      if (answer.status === 0) view.replaceChildren(sectionView(`${chosen.table} ${sizes().join("×")}`, answer, undefined, { svg: line(), dxf: line() }));
       view.classList.toggle("stale", answer.status !== 0);
     },
   );

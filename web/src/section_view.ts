@@ -1,5 +1,5 @@
 // A section's picture, cells, geometry and exact figures; of a table's row or of sizes.
-import type { Answer } from "./client";
+import { ask, sentence, type Answer } from "./client";
 import { button, download, el, fault, picture } from "./dom";
 import { nameOf, shown, signParts, unitOf } from "./figures";
 import { say } from "./language";
@@ -57,8 +57,8 @@ function asText(blocks: [string, FigureLine[]][]): string {
     .join("\n\n");
 }
 
-// `files`: the pictures and outlines that the command wrote beside its answer, by their names.
-export function sectionView(title: string, answer: Answer, file = title): HTMLElement {
+// `forms`: the command lines that write the section as a file, by the option that names it.
+export function sectionView(title: string, answer: Answer, file = title, forms: Record<string, string[]> = {}): HTMLElement {
   if (answer.status !== 0) return fault(answer.err.trim().replace(/^orv3cal: /, ""));
   const section = JSON.parse(answer.out) as SectionJson;
   const blocks: [string, FigureLine[]][] = [];
@@ -67,10 +67,15 @@ export function sectionView(title: string, answer: Answer, file = title): HTMLEl
   if (section.geometry) blocks.push([say("几何", "Geometry"), figureLines(section.geometry)]);
   if (section.exact) blocks.push([say("精确值（按外轮廓）", "Exact, from the outline"), figureLines(section.exact)]);
   const bare = file.replace(/[\\/:*?"<>|]/g, "_");
-  const files = Object.entries(answer.files).map(([name, bytes]) => {
-    const form = name.slice(name.lastIndexOf(".") + 1);
-    return button(form.toUpperCase(), () => download(`${bare}.${form}`, bytes), { title: say("保存文件", "save as a file") });
-  });
+  const trouble = fault("");
+  const save = async (form: string, line: string[]) => {
+    const name = `section.${form}`;
+    const written = await ask([...line, `--${form}`, name]);
+    trouble.textContent = written.status === 0 ? "" : sentence(written);
+    if (written.files[name]) download(`${bare}.${form}`, written.files[name]);
+  };
+  const files = Object.entries(forms).map(([form, line]) =>
+    button(form.toUpperCase(), () => void save(form, line), { title: say("保存文件", "save as a file") }));
   return el(
     "article",
     { class: "section", "aria-label": title },
@@ -82,6 +87,7 @@ export function sectionView(title: string, answer: Answer, file = title): HTMLEl
       button(say("复制", "Copy"), () => void navigator.clipboard.writeText(asText(blocks))),
       ...files,
     ),
+    trouble,
     section.accurate === false && el("p", { class: "warn" }, say("精确值的误差估计偏大。", "The error estimate of the exact figures is large.")),
     ...blocks.map(([caption, lines]) => figureTable(caption, lines)),
   );

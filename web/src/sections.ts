@@ -111,11 +111,12 @@ export async function sections(place: HTMLElement): Promise<void> {
   const showDetail = latest(
     (no: string): Promise<[string, Answer]> => {
       const turn = state()["turn"] ?? "0";
-      return ask(["show", table, no, "--turn", turn, "--json", "--svg", "picture.svg", "--dxf", "outline.dxf", "--ifc", "profile.ifc"]).then((shown) => [no, shown]);
+      return ask(["show", table, no, "--turn", turn, "--json", "--svg", "picture.svg"]).then((shown) => [no, shown]);
     },
     ([no, shown]) => {
+      const turned = ["show", table, no, ...(state()["turn"] ? ["--turn", state()["turn"]!] : [])];
       const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void showDetail(no); });
-      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no), field(say("转角", "Turned by"), turns));
+      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }), field(say("转角", "Turned by"), turns));
     },
   );
   const isMarked = (row: string[]) => compared().includes(`${table}|${row[key]}`);

@@ -18,10 +18,11 @@
 namespace orv3 {
 namespace {
 
-CString Title(const CDataItem& row, int quarters) {
+CString Title(const CDataItem& row, int quarters, CLanguage language) {
   CString title = row.GetTableName();
   if (!row.IsEmpty()) title += L"  " + row[0].m_strValue;
-  if (quarters > 0) title += L"  转" + FormatInt(90LL * quarters) + L"°";
+  const wchar_t* turned = language == CLanguage::Chinese ? L"  转" : L"  turned ";
+  if (quarters > 0) title += turned + FormatInt(90LL * quarters) + L"°";
   return title;
 }
 
@@ -38,11 +39,15 @@ std::optional<CPoint> BasePoint(const CDataItem& row) {
 
 }  // namespace
 
-CDrawing RowPictureDrawing(const CDataItem& row, double angle, const CExactProperties* exact) {
+CDrawing RowPictureDrawing(const CDataItem& row, double angle, const CExactProperties* exact,
+                           CLanguage language) {
   const int quarters = QuarterTurns(angle);
   const COutline upright = RowOutline(row);
-  const CString title = Title(row, quarters);
-  if (upright.m_arrLoop.empty()) return TextPictureDrawing({title, L"没有可画的截面"});
+  const CString title = Title(row, quarters, language);
+  if (upright.m_arrLoop.empty()) {
+    const CSentence none = Both(L"没有可画的截面", L"no section to draw");
+    return TextPictureDrawing({title, none.In(language)});
+  }
   const double width = upright.m_dWidth;
   const double height = upright.m_dHeight;
   COutlinePicture picture;
@@ -72,11 +77,14 @@ CDrawing RowPictureDrawing(const CDataItem& row, double angle, const CExactPrope
     }
   }
   picture.m_strTitle = title;
+  picture.m_nLanguage = language;
   return OutlinePictureDrawing(picture);
 }
 
-std::string RowPictureSvg(const CDataItem& row, double angle, const CExactProperties* exact) {
-  return DrawingSvg(RowPictureDrawing(row, angle, exact), Title(row, QuarterTurns(angle)));
+std::string RowPictureSvg(const CDataItem& row, double angle, const CExactProperties* exact,
+                          CLanguage language) {
+  return DrawingSvg(RowPictureDrawing(row, angle, exact, language),
+                    Title(row, QuarterTurns(angle), language));
 }
 
 }  // namespace orv3

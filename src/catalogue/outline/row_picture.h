@@ -5,6 +5,7 @@
 
 #include "drawing/drawing.h"
 #include "framework/export.h"
+#include "framework/language.h"
 #include "outlines/exact_properties.h"
 #include "tables/data_item.h"
 
@@ -15,8 +16,10 @@ namespace orv3 {
 // A row without an outline is named in writing.
 // With its exact properties also the shear center, the plastic axes and slant principal axes.
 ORV3CAL_API CDrawing RowPictureDrawing(const CDataItem& row, double angle = 0,
-                                       const CExactProperties* exact = nullptr);
+                                       const CExactProperties* exact = nullptr,
+                                       CLanguage language = CLanguage::Chinese);
 ORV3CAL_API std::string RowPictureSvg(const CDataItem& row, double angle = 0,
-                                      const CExactProperties* exact = nullptr);
+                                      const CExactProperties* exact = nullptr,
+                                      CLanguage language = CLanguage::Chinese);
 
 }  // namespace orv3

@@ -206,7 +206,7 @@ class CReportWriter {
   // --- The section
 
   void Section() {
-    m_body.Figure(RowPictureDrawing(m_report.m_check.SectionRow()),
+    m_body.Figure(RowPictureDrawing(m_report.m_check.SectionRow(), 0, nullptr, m_body.Language()),
                   m_body.Text({"截面，按比例；轴通过形心。",
                                "The section to scale; its axes pass through the centroid."}));
     std::vector<std::vector<std::string>> rows;

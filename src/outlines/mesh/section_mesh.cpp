@@ -279,9 +279,21 @@ class CRefiner {
   std::unordered_map<std::uint64_t, int> m_middle;
 };
 
-// The triangles at concave arcs that are longer than kArcReach of the radius, within which the
-// stress beside such an arc falls off.
-std::vector<char> TooLongAtArcs(const CSectionMesh& mesh) {
+// As far as it goes; false when an arc would cut through a triangle. Of too many arcs nothing more.
+bool GradeToArcs(CSectionMesh& mesh) {
+  for (;;) {
+    const std::vector<char> marked = CoarseAtArcs(mesh);
+    if (std::find(marked.begin(), marked.end(), 1) == marked.end()) return true;
+    auto refined = Refined(mesh, marked);
+    if (!refined) return false;
+    if (refined->m_arrTriangle.size() > kMostGraded) return true;
+    mesh = std::move(*refined);
+  }
+}
+
+}  // namespace
+
+std::vector<char> CoarseAtArcs(const CSectionMesh& mesh) {
   std::vector<double> most(mesh.m_arrVertex.size(), HUGE_VAL);
   for (const CMeshTriangle& t : mesh.m_arrTriangle) {
     for (int i = 0; i < 3; ++i) {
@@ -308,20 +320,6 @@ std::vector<char> TooLongAtArcs(const CSectionMesh& mesh) {
   }
   return marked;
 }
-
-// As far as it goes; false when an arc would cut through a triangle. Of too many arcs nothing more.
-bool GradeToArcs(CSectionMesh& mesh) {
-  for (;;) {
-    const std::vector<char> marked = TooLongAtArcs(mesh);
-    if (std::find(marked.begin(), marked.end(), 1) == marked.end()) return true;
-    auto refined = Refined(mesh, marked);
-    if (!refined) return false;
-    if (refined->m_arrTriangle.size() > kMostGraded) return true;
-    mesh = std::move(*refined);
-  }
-}
-
-}  // namespace
 
 std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs) {
   std::vector<CSectionMesh> first;

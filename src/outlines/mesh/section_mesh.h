@@ -42,6 +42,10 @@ struct CSectionMesh {
 // often is left there.
 std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs);
 
+// By triangle: whether it lies at a concave arc and is longer than 1.5 times the radius, within
+// which the stress beside such an arc falls off.
+std::vector<char> CoarseAtArcs(const CSectionMesh& mesh);
+
 // The mesh with the marked triangles halved, and others as needed to keep it whole; none when an
 // arc would cut through a triangle.
 std::optional<CSectionMesh> Refined(const CSectionMesh& mesh, std::span<const char> marked);

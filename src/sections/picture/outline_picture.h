@@ -7,6 +7,7 @@
 #include "drawing/drawing.h"
 #include "framework/cstring.h"
 #include "framework/export.h"
+#include "framework/language.h"
 #include "sections/outline.h"
 #include "sections/section_dimensions.h"
 #include "sections/section_kind.h"
@@ -25,6 +26,7 @@ struct COutlinePicture {
   double m_dStrongAngle = 0;  // of the strong axis, radians
   std::optional<CPoint> m_shearCenter{};
   std::optional<CPoint> m_plastic{};  // where the plastic axes cross
+  CLanguage m_nLanguage = CLanguage::Chinese;
 };
 
 // A base point or shear center farther from the section than half its greater side is given in

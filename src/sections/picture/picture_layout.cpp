@@ -16,9 +16,24 @@ CString ValueText(double value) {
   return exact.GetLength() <= 9 ? exact : FormatG(value);
 }
 
-CString PointText(const wchar_t* what, const wchar_t* x, const wchar_t* y, CPoint p, bool drawn) {
-  return CString(what) + L"  " + x + L" = " + ValueText(p.x) + L", " + y + L" = " + ValueText(p.y) +
-         L" mm" + (drawn ? L"" : L"（在图外）");
+// What a picture says of a point.
+struct CPointName {
+  const wchar_t* m_szChinese;
+  const wchar_t* m_szEnglish;
+  const wchar_t* m_szX;
+  const wchar_t* m_szY;
+};
+constexpr CPointName kCentroid{L"重心", L"centroid", L"xo", L"yo"};
+constexpr CPointName kBase{L"基点", L"base point", L"x", L"y"};
+constexpr CPointName kShearCenter{L"剪心", L"shear centre", L"xs", L"ys"};
+constexpr CPointName kPlastic{L"塑性中和轴", L"plastic axes", L"xp", L"yp"};
+
+CString PointText(const CPointName& name, CPoint p, bool drawn, CLanguage language) {
+  const bool chinese = language == CLanguage::Chinese;
+  const wchar_t* away = chinese ? L"（在图外）" : L" (off the picture)";
+  return CString(chinese ? name.m_szChinese : name.m_szEnglish) + L"  " + name.m_szX + L" = " +
+         ValueText(p.x) + L", " + name.m_szY + L" = " + ValueText(p.y) + L" mm" +
+         (drawn ? L"" : away);
 }
 
 void Include(CBox& box, CPoint p) {
@@ -126,19 +141,19 @@ void CPictureLayout::FindPage() {
 }
 
 CString CPictureLayout::CentroidText() const {
-  return PointText(L"重心", L"xo", L"yo", m_picture.m_centroid, m_bCentroid);
+  return PointText(kCentroid, m_picture.m_centroid, m_bCentroid, m_picture.m_nLanguage);
 }
 
 CString CPictureLayout::BaseText() const {
-  return PointText(L"基点", L"x", L"y", *m_picture.m_base, m_bBase);
+  return PointText(kBase, *m_picture.m_base, m_bBase, m_picture.m_nLanguage);
 }
 
 CString CPictureLayout::ShearCenterText() const {
-  return PointText(L"剪心", L"xs", L"ys", *m_picture.m_shearCenter, m_bShearCenter);
+  return PointText(kShearCenter, *m_picture.m_shearCenter, m_bShearCenter, m_picture.m_nLanguage);
 }
 
 CString CPictureLayout::PlasticText() const {
-  return PointText(L"塑性中和轴", L"xp", L"yp", *m_picture.m_plastic, true);
+  return PointText(kPlastic, *m_picture.m_plastic, true, m_picture.m_nLanguage);
 }
 
 CPoint CPictureLayout::LeaderEnd(const CSizeDimension& size) const {

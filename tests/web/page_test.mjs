@@ -1,0 +1,234 @@
+// The page as its user walks it.
+import assert from "node:assert/strict";
+import { readFileSync, statSync, writeFileSync, mkdtempSync, rmSync } from "node:fs";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { after, before, test } from "node:test";
+import { fill, kAxe, kPage, kSource, openPage, ready, says, show, start, textOf } from "./browser.mjs";
+
+let browser;
+let context;
+const folder = mkdtempSync(join(tmpdir(), "orv3cal-page-"));
+
+before(async () => {
+  browser = await start();
+});
+after(async () => {
+  await browser?.close();
+  rmSync(folder, { recursive: true, force: true });
+});
+
+// Each walk in a browser that has seen nothing, without a request, an error or a word on the console.
+function walk(name, hash, steps, size) {
+  test(name, async () => {
+    context = await browser.createBrowserContext();
+    const page = await openPage(context, hash, size);
+    await steps(page);
+    assert.deepEqual(page.faults, []);
+    await context.close();
+  });
+}
+
+function file(name, text) {
+  const path = join(folder, name);
+  writeFileSync(path, text);
+  return path;
+}
+
+async function drop(page, path, which = 0) {
+  const inputs = await page.$$('input[type="file"]');
+  await inputs[which].uploadFile(path);
+}
+
+const run = (page, argv, files = {}) => page.evaluate((line, given) => window.orv3cal.run(line, given), argv, files);
+
+test("the file is small, and names no address", () => {
+  assert.ok(statSync(kPage).size <= 2.5e6, `${statSync(kPage).size} bytes`);
+  const policy = /Content-Security-Policy" content="([^"]+)"/.exec(readFileSync(kPage, "utf8"))[1];
+  assert.match(policy, /default-src 'none'/);
+  assert.doesNotMatch(policy, /connect-src|https?:/);
+});
+
+walk("sections: search, range, sort, keys, turn, compare, and a link that opens the same", "view=sections&lang=en&table=热轧普通工字钢", async (page) => {
+  await says(page, ".detail h2", "I10");
+  await fill(page, "Search all columns", "I2");
+  await says(page, '[role="status"]', "8 of 34");
+  await page.select(".range select", "A(cm^2)");
+  await page.type('.range input[aria-label="at least"]', "45");
+  await says(page, '[role="status"]', "5 of 34");
+  await page.click(".grid th:nth-child(9) button");
+  await page.click(".grid th:nth-child(9) button");
+  assert.equal(await page.$eval(".grid th:nth-child(9)", (cell) => cell.getAttribute("aria-sort")), "descending");
+  assert.equal(await textOf(page, ".grid tbody tr td:nth-child(2)"), "I28b");
+  await page.focus(".grid");
+  await page.keyboard.press("ArrowDown");
+  await page.keyboard.press("ArrowDown");
+  await says(page, ".detail h2", "I28a");
+  await page.select(".detail select", "90");
+  await page.click(".grid tbody tr:nth-child(1) input");
+  await page.click(".grid tbody tr:nth-child(2) input");
+  await says(page, ".compare thead", "I28b");
+  const again = await openPage(context, decodeURIComponent(new URL(page.url()).hash.slice(1)));
+  await says(again, ".detail h2", "I28a");
+  await says(again, ".compare thead", "I28b");
+  assert.equal(await again.$eval(".detail select", (select) => select.value), "90");
+  assert.deepEqual(again.faults, []);
+});
+
+walk("a table of 10,000 rows keeps a few in the page", "view=store&lang=en", async (page) => {
+  const lines = Array.from({ length: 10_000 }, (_, i) => `R${i},${100 + (i % 97)},${200 + i}`);
+  await drop(page, file("many.csv", `No.,b(mm),h(mm)\n${lines.join("\n")}\n`));
+  await says(page, ".log", "--table");
+  await page.select("select", "矩形截面");
+  await drop(page, file("many.csv", `No.,b(mm),h(mm)\n${lines.join("\n")}\n`));
+  await says(page, ".tables", "10000");
+  await show(page, "view=sections&lang=en&table=矩形截面");
+  await page.$eval(".grid", (grid) => { grid.scrollTop = grid.scrollHeight; });
+  await says(page, ".grid", "R9999");
+  assert.ok((await page.$$(".grid tbody tr")).length < 80);
+});
+
+walk("own section: every key is followed, a bad size is said at its field, a save is kept", "view=own&lang=en", async (page) => {
+  await says(page, ".detail h2", "300×400×20×10");
+  await fill(page, "tw ", "500");
+  await says(page, ".fault", "must be at most 300");
+  assert.equal(await page.$$eval('[aria-invalid="true"]', (all) => all.length), 1);
+  await fill(page, "tw ", "12");
+  await says(page, ".detail h2", "300×400×20×12");
+  const { out } = await run(page, ["section", "h", "300", "400", "20", "12", "--json"]);
+  const shown = await page.$$eval(".figures tr", (rows) => Object.fromEntries(rows.map((row) => [row.children[0].textContent, row.children[1].title])));
+  assert.equal(shown["It"], String(JSON.parse(out).exact.It));
+  await fill(page, "Name to keep it by", "W1");
+  await page.click("::-p-text(Keep in own store)");
+  await says(page, '[role="status"]', "W1");
+  const again = await openPage(context, "view=sections&lang=en&table=自定义对称H型钢&no=W1");
+  await says(again, ".detail h2", "W1");
+  assert.deepEqual(again.faults, []);
+});
+
+walk("an outline from a DXF, and one that is none", "view=own&lang=zh", async (page) => {
+  const dxf = (points) => `0\nSECTION\n2\nENTITIES\n0\nLWPOLYLINE\n90\n${points.length}\n70\n1\n${points.map(([x, y]) => `10\n${x}\n20\n${y}\n`).join("")}0\nENDSEC\n0\nEOF\n`;
+  await drop(page, file("plate.dxf", dxf([[0, 0], [100, 0], [100, 50], [0, 50]])));
+  await says(page, ".detail h2", "plate.dxf");
+  await says(page, ".detail", "5\u202f000");
+  await drop(page, file("broken.dxf", "no drawing"));
+  await says(page, ".detail .fault", "broken.dxf");
+});
+
+walk("connections: the case of the form, an error at its field, undo, both editions, the report", "view=connections&lang=en", async (page) => {
+  await says(page, ".verdict", "passes");
+  await fill(page, "Vy", "9000");
+  await says(page, ".verdict", "fails");
+  await fill(page, "cols", "-2");
+  await page.waitForSelector('input[aria-invalid="true"]');
+  await page.click("::-p-text(Undo)");
+  await page.click("::-p-text(Undo)");
+  await page.click("::-p-text(Undo)");
+  await page.waitForFunction(() => !document.querySelector('input[aria-invalid="true"]'));
+  await page.select(".formside > .field:nth-of-type(2) select", "both");
+  await page.waitForFunction(() => document.querySelectorAll(".verdict").length === 2);
+  await page.click("::-p-text(Report)");
+  const frame = await (await page.waitForSelector("iframe")).contentFrame();
+  await frame.waitForSelector("table");
+  for (const kind of ["fillet", "butt", "weld-group"]) {
+    await show(page, `view=connections&lang=en&kind=${kind}`);
+    await says(page, ".verdict", "passes");
+  }
+});
+
+walk("members: trace by clause, and a batch with the worst first", "view=members&lang=en", async (page) => {
+  await says(page, ".steps", "8.2.1");
+  await drop(page, join(kSource, "examples/members.csv"));
+  await says(page, ".batch .grid tbody tr", "brace");
+  await drop(page, file("bad.csv", "steel,nonsense\nQ345,1\n"));
+  await says(page, ".batch .fault", "nonsense");
+});
+
+walk("lattice columns and choosing", "view=lattice&lang=en", async (page) => {
+  await says(page, ".figures", "Limb 2");
+  await page.select("select", "4");
+  await says(page, ".figures", "Limb 4");
+  await show(page, "view=choose&lang=en");
+  await says(page, '[role="status"]', "sections tried");
+  await page.click("::-p-text(Check)");
+  await ready(page);
+  await says(page, ".verdict", "passes");
+});
+
+walk("code tables: the asked cell is marked", "view=code&lang=en", async (page) => {
+  await says(page, ".big", "295");
+  assert.equal(await textOf(page, ".marked"), "295");
+  await fill(page, "GRADE", "Q999");
+  await says(page, ".fault", "Q999");
+});
+
+walk("the own store goes out and comes back, and a broken file changes nothing", "view=store&lang=en", async (page) => {
+  const add = ["store", "add", "矩形截面", "--set", "No.=P1", "--set", "b(mm)=20", "--set", "h(mm)=300"];
+  assert.equal((await run(page, add)).status, 0);
+  const { files } = await run(page, ["store", "export", "矩形截面", "--to", "o.KDB"]);
+  assert.ok(files["o.KDB"].length !== 0);
+  await drop(page, file("broken.KDB", "no store at all"));
+  await says(page, ".log .fault", "broken.KDB".slice(0, 6));
+  assert.match((await run(page, ["rows", "矩形截面", "--json"])).out, /"P1"/);
+});
+
+// A browser that keeps nothing, or not enough: the sentence is the answer, and what was kept stays.
+for (const [name, spoil, words] of [
+  ["full", () => { IDBObjectStore.prototype.put = () => { throw new DOMException("", "QuotaExceededError"); }; }, "the disk is full"],
+  ["forbidden", () => { IDBFactory.prototype.open = () => { throw new DOMException("", "SecurityError"); }; }, "does not let this page keep data"],
+]) {
+  test(`storage that is ${name}`, async () => {
+    context = await browser.createBrowserContext();
+    const page = await openPage(context, "view=store&lang=en");
+    const add = (no) => ["store", "add", "矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"];
+    assert.equal((await run(page, add("P1"))).status, 0);
+    for (const worker of page.workers()) await worker.evaluate(spoil);
+    const answer = await run(page, add("P2"));
+    if (name === "full") {
+      assert.equal(answer.status, 3);
+      assert.ok(answer.err.includes(words), answer.err);
+    }
+    await page.close();
+    const again = await openPage(context, "view=store&lang=en");
+    const { out } = await run(again, ["rows", "矩形截面", "--json"]);
+    assert.match(out, /"P1"/);
+    assert.equal(/"P2"/.test(out), answer.status === 0);
+    await context.close();
+  });
+}
+
+test("two tabs that save at once keep both rows; a tab closed while it saves keeps a whole store", async () => {
+  context = await browser.createBrowserContext();
+  const pages = [await openPage(context, "view=store&lang=en"), await openPage(context, "view=store&lang=en")];
+  const add = (no) => ["store", "add", "矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"];
+  await Promise.all(pages.flatMap((page, i) => [0, 1, 2].map((j) => run(page, add(`T${i}${j}`)))));
+  await pages[0].evaluate((line) => void window.orv3cal.run(line), add("late"));
+  await pages[0].close();
+  const { out } = await run(pages[1], ["rows", "矩形截面", "--json"]);
+  const numbers = JSON.parse(out).rows.map((row) => row.cells[0]).filter((no) => no !== "late").sort();
+  assert.deepEqual(numbers, ["T00", "T01", "T02", "T10", "T11", "T12"]);
+  await context.close();
+});
+
+for (const [lang, theme] of [["en", "light"], ["zh", "dark"]]) {
+  test(`no view has a fault that axe finds, ${lang}, ${theme}`, async () => {
+    context = await browser.createBrowserContext();
+    const page = await openPage(context, `lang=${lang}&theme=${theme}`);
+    await page.evaluate(kAxe);
+    for (const view of ["sections", "own", "lattice", "connections", "members", "choose", "code", "store"]) {
+      await show(page, `view=${view}&lang=${lang}&theme=${theme}`);
+      const faults = await page.evaluate(async () => (await window.axe.run(document, { iframes: false })).violations.map((each) => `${each.id}: ${each.nodes.map((node) => node.html).slice(0, 3).join(" ")}`));
+      assert.deepEqual(faults, [], view);
+    }
+    await context.close();
+  });
+}
+
+for (const width of [390, 1920]) {
+  walk(`at ${width} px nothing is wider than the window`, "lang=zh", async (page) => {
+    for (const view of ["sections", "own", "connections", "members", "choose", "code", "store"]) {
+      await show(page, `view=${view}&lang=zh`);
+      assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth), view);
+    }
+  }, [width, 844]);
+}
