@@ -215,7 +215,7 @@ TEST(CheckCommand, PassesOnlyWhatTheCodePasses) {
        1.0343,
        {"5 holes, net 2608 mm²", "195.3 N/mm² (90.8 %)"}},
       {"bolt",
-       R"({"type":"bearing","sumT":10,"t":16,"Vx":500.1})",
+       R"({"type":"bearing","sumT":10,"t":16,"Vx":500.1,"threads":"out"})",
        0,
        0.8867,
        {"106.4 %", "88.7 %", "7.2.3 asks only together with tension"}},

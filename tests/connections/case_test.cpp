@@ -130,12 +130,12 @@ TEST(BoltCase, WarnsOfDetailingAndOfTheUnsafeSide) {
   CBoltCheck threads;
   ASSERT_TRUE(threads.Run(With(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}})));
   ASSERT_EQ(threads.Warnings().size(), 1U);
-  EXPECT_EQ(threads.Warnings()[0].m_strKey, "nv") << "78.5 kN, and 61.17 at the threads";
   EXPECT_NE(threads.Warnings()[0].m_text.m_strEnglish.find("61.17"), std::string::npos);
-  ASSERT_TRUE(
-      threads.Run(With(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}, {"threads", 0}})));
-  EXPECT_NEAR(threads.Worst().m_dUtilisation, 10 / 61.17, 1e-5) << "and judged by it where said";
+  EXPECT_NE(threads.Warnings()[0].m_text.m_strEnglish.find("threads out"), std::string::npos);
   EXPECT_NEAR(threads.Results().m_dNvb, 78.54, 1e-2) << "the record's";
+  ASSERT_TRUE(
+      threads.Run(With(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}, {"threads", 1}})));
+  EXPECT_NEAR(threads.Worst().m_dUtilisation, 10 / 78.54, 1e-5) << "the shank where said";
   ExpectWarned<CBoltCheck>(With(Ordinary(), {{"type", kBearingBolt}, {"grade", 3}, {"threads", 1}}),
                            {{"threads", 0}});
 }

@@ -34,8 +34,9 @@ CBoltCase Ordinary(int cols, int rows, double colSpace, double rowSpace) {
 TEST(Verdict, BoltGroupsAreJudgedByTheCode) {
   const double Ntb = std::acos(-1.0) / 4 * 17.65 * 17.65 * 0.170;
   const double Nvb = std::acos(-1.0) / 4 * 20 * 20 * 0.140;
-  const CBoltCase bearing =
+  const CBoltCase threads =
       With(Ordinary(2, 3, 70, 80), {{"type", kBearingBolt}, {"grade", 4}, {"sumT", 10}, {"t", 16}});
+  const CBoltCase bearing = With(threads, {{"threads", 1}});
   const double sumR2 = 6 * 35 * 35 + 4 * 80 * 80;
   const struct {
     const char* what;
@@ -67,8 +68,11 @@ TEST(Verdict, BoltGroupsAreJudgedByTheCode) {
       {"against Vx as well, the columns 25 mm apart",
        With(Ordinary(4, 3, 25, 90), {{"layout", 1}, {"nv", 2}, {"Vx", -400}}),
        400e3 / ((100 + 4 * std::hypot(25, 45) - 5 * 21.5) * 10) / 215, true},
+      {"threads in the shear plane unless said", With(threads, {{"Vx", 460}}),
+       460 / 6.0 / (Ntb * 310 / 170), true},
       {"Ncb / 1.2 only together with tension", With(bearing, {{"Vx", 500.1}}), 83.35 / 94, false},
-      {"and with it", With(bearing, {{"N", 1}, {"Vx", 500.1}}), 83.35 * 1.2 / 94, false},
+      {"and with it", With(threads, {{"sumT", 9}, {"N", 1}, {"Vx", 430}}), 430 / 6.0 * 1.2 / 84.6,
+       false},
       {"three of nine preloaded bolts in the cut: 300 mm of Q345, two faces",
        With(Ordinary(3, 3, 70, 50), {{"type", kFrictionBolt},
                                      {"grade", 4},

@@ -112,7 +112,7 @@ bool CBoltCheck::Run(const CBoltCase& input) {
   FillRecord(input);
   m_record.BoltYanSuan();
   ReadResults(input);
-  m_figures = JudgedFigures(m_record, input.m_nThreads == 0);
+  m_figures = JudgedFigures(m_record, HasThreadsInShear(input.m_nType, input.m_nThreads));
   JudgeParts();
   Warn(BoltWarnings(m_record, m_figures, input.m_nThreads));
   return true;

@@ -39,8 +39,13 @@ struct CBoltCase {
   int m_nGrade = 0;     // 0 4.6, 1 4.8, 2 5.6, 3 8.8, 4 10.9
   int m_nClass = 0;     // ordinary: 0 A, 1 B, 2 C
   int m_nThreads = -1;  // ordinary, bearing: 0 in the shear plane, 1 outside; unless said in it
-                        // with the bearing type of 2017, else outside
+                        // with the bearing type, else outside
 };
+
+// Whether the verdict takes the shear planes through the threads (7.2.3; 11.4.3 of 2017).
+constexpr bool HasThreadsInShear(int type, int threads) noexcept {
+  return threads < 0 ? type == kBearingBolt : threads == 0 && type != kFrictionBolt;
+}
 
 // Strengths and stresses in N/mm2, forces in kN, lengths in mm.
 struct CBoltResults {

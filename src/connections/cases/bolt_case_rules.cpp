@@ -118,6 +118,25 @@ std::string Ratios(const NormalBoltData& record, const CBoltFigures& figures) {
   return was + " → " + is;
 }
 
+void ThreadWarning(const NormalBoltData& record, const CBoltFigures& figures, int threads,
+                   std::vector<CCaseWarning>& warnings) {
+  if (!figures.m_bThreads || figures.m_dNv == 0) return;
+  static constexpr CTextLiteral kOpen = {
+      "算例未给 threads，取不利情形，给 threads 为 out 则按螺杆全截面。",
+      " The case does not say threads: this is the worse; threads out takes the whole shank."};
+  const CTextLiteral open = threads < 0 ? kOpen : CTextLiteral{"", ""};
+  const std::string full = PlainNumber(record.m_dNvb) + " kN";
+  const std::string less = PlainNumber(figures.m_dShear) + " kN";
+  const std::string ratios = Ratios(record, figures);
+  warnings.push_back(
+      {"threads",
+       {"记录的受剪承载力 " + full + " 按螺杆全截面计算；剪切面在螺纹处，按有效面积的 " + less +
+            " 验算（7.2.3 条；相关式 " + ratios + "）。" + open.m_szChinese,
+        "The record's shear resistance of " + full +
+            " is that of the whole shank; judged by that of the threads in the shear plane, " +
+            less + " (7.2.3; interaction " + ratios + ")." + open.m_szEnglish}});
+}
+
 void ShearWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                    std::vector<CCaseWarning>& warnings) {
   if (!Differ(record.m_dNv, figures.m_dNv)) return;
@@ -216,8 +235,8 @@ std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record, const CBolt
   SpacingWarnings(record, warnings);
   EdgeWarnings(record, warnings);
   WarnOfLargestDistances(record, warnings);
-  WarnOfThreads(record, threads, warnings);
   TableWarnings(record, warnings);
+  ThreadWarning(record, figures, threads, warnings);
   ShearWarnings(record, figures, warnings);
   TensionWarnings(record, figures, warnings);
   BearingWarnings(record, figures, warnings);

@@ -1,5 +1,4 @@
-// What Table 8.3.4 and 7.2.3 of GB 50017-2003 ask beyond the forces: largest distances, and threads
-// in the shear plane.
+// What Table 8.3.4 of GB 50017-2003 asks beyond the forces: largest distances.
 #include <algorithm>
 
 #include "connections/bolt_group.h"
@@ -50,33 +49,6 @@ void WarnOfLargestDistances(const NormalBoltData& record, std::vector<CCaseWarni
   WarnIfFar("rowSpace", Largest(record.m_ErArr), 8, 12, record, warnings);
   WarnIfFar("ex", record.m_dEx, 4, 8, record, warnings);
   WarnIfFar("ey", record.m_dEy, 4, 8, record, warnings);
-}
-
-void WarnOfThreads(const NormalBoltData& record, int threads, std::vector<CCaseWarning>& warnings) {
-  const bool bOpen = threads < 0 && record.m_nBoltType == kBearingBolt;
-  if (record.m_nBoltType == kFrictionBolt || IsZero(record.m_dNv)) return;
-  if (!bOpen && threads != 0) return;
-  const double ratio = record.m_dDe / record.m_nD;
-  const std::string full = PlainNumber(record.m_dNvb) + " kN";
-  const std::string less = PlainNumber(record.m_dNvb * ratio * ratio) + " kN";
-  if (bOpen) {
-    warnings.push_back(
-        {"nv",
-         {"受剪承载力 " + full + " 按螺杆全截面计算；剪切面在螺纹处时应按有效面积，为 " + less +
-              "（7.2.3 条）：请给 threads 为 in。",
-          "The shear resistance of " + full +
-              " is that of the whole shank; with threads in the shear plane 7.2.3 asks for the "
-              "effective area, which gives " +
-              less + ": give threads as in."}});
-  } else {
-    warnings.push_back(
-        {"threads",
-         {"记录的受剪承载力 " + full + " 按螺杆全截面计算；剪切面在螺纹处，按有效面积的 " + less +
-              " 验算（7.2.3 条）。",
-          "The record's shear resistance of " + full +
-              " is that of the whole shank; judged by that of the threads in the shear plane, " +
-              less + " (7.2.3)."}});
-  }
 }
 
 }  // namespace orv3

@@ -60,9 +60,6 @@ void TooThick(const char* key, double thickness, const std::string& table, CFaul
 
 // Of a computed bolt group: distances above those of Table 8.3.4.
 void WarnOfLargestDistances(const NormalBoltData& record, std::vector<CCaseWarning>& warnings);
-// The shear resistance with threads in the shear plane (7.2.3), which `threads` (as in CBoltCase)
-// says or leaves open.
-void WarnOfThreads(const NormalBoltData& record, int threads, std::vector<CCaseWarning>& warnings);
 
 extern const char* const kSteels[4];
 

@@ -219,8 +219,7 @@ void CBoltCheck2017::Compute(const CBoltCase2017& input) {
   FillSpacings(input.m_rowSpace, input.m_nRows - 1, m_arrRow);
   PlaceBolts(input.m_nLayout == 1, m_arrCol, m_arrRow, m_shape);
   const bool bFriction = input.m_nType == kFrictionBolt;
-  const bool bThreads =
-      input.m_nThreads == 0 || (input.m_nThreads != 1 && input.m_nType == kBearingBolt);
+  const bool bThreads = HasThreadsInShear(input.m_nType, input.m_nThreads);
   const double shearDiameter = bThreads ? r.m_dDe : input.m_nD;
   const auto resistance =
       bFriction ? gb2017::FrictionResistance(r.m_dHoleFactor, input.m_nNf, r.m_dMu, r.m_nP)

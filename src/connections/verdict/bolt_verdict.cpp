@@ -91,8 +91,8 @@ CPlateHoles HolesOf(const NormalBoltData& record) {
 
 CBoltFigures JudgedFigures(const NormalBoltData& record, bool bThreads) {
   CBoltFigures figures;
-  figures.m_bThreads = bThreads && record.m_nBoltType != kFrictionBolt;
-  const double share = figures.m_bThreads ? record.m_dDe / record.m_nD : 1;
+  figures.m_bThreads = bThreads;
+  const double share = bThreads ? record.m_dDe / record.m_nD : 1;
   figures.m_dShear = record.m_dNvb * share * share;
   Shear(record, figures);
   Tension(record, figures);

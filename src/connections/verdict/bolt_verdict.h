@@ -35,8 +35,9 @@ struct CBoltFigures {
   CPlateSection m_y;        // for Vy
 };
 
-// Of a record that BoltYanSuan has computed. `bThreads` in the shear planes: the record's shear
-// resistance is that of the shank, the judged one then that of the effective area.
+// Of a record that BoltYanSuan has computed. `bThreads` in the shear planes, not with the friction
+// type: the record's shear resistance is that of the shank, the judged one that of the effective
+// area.
 CBoltFigures JudgedFigures(const NormalBoltData& record, bool bThreads);
 
 }  // namespace orv3

@@ -63,6 +63,10 @@ bool FindTension(const CCentroidLoads& loads, const CWeldGroupSums& sums,
   const double alongV = bLine ? 0 : mv / I2;
   tension.m_dX = alongU * ux - alongV * uy;
   tension.m_dY = alongU * uy + alongV * ux;
+  // Axes along x and y leave in the one a rounding of the other.
+  const double trace = 1e-12 * std::hypot(tension.m_dX, tension.m_dY);
+  if (std::fabs(tension.m_dX) < trace) tension.m_dX = 0;
+  if (std::fabs(tension.m_dY) < trace) tension.m_dY = 0;
   return true;
 }
 
