@@ -147,7 +147,7 @@ class Site:
         return tree("Gallery", ["gallery/styles", *entries])
 
     def styles_page(self):
-        folder = self.to / "gallery" / "styles"
+        folder = self.to / "extra" / "gallery" / "styles"  # as it is, into the site
         folder.mkdir(parents=True, exist_ok=True)
         self.run("styles", "--svg", str(folder))
         figures = [self.figure(f"styles/{file.name}", file.stem) for file in sorted(folder.glob("*.svg"))]
@@ -158,7 +158,7 @@ class Site:
         at = next((i for i, column in enumerate(rows["columns"]) if column["sign"] == "No."), None)
         if at is None:
             return None
-        folder = self.to / "gallery" / str(number)
+        folder = self.to / "extra" / "gallery" / str(number)
         folder.mkdir(parents=True, exist_ok=True)
         figures = []
         for index, row in enumerate(rows["rows"]):
@@ -182,7 +182,7 @@ class Site:
 
     def interfaces(self):
         self.write("python.md", title("Python") + "```{eval-rst}\n.. automodule:: orv3cal\n   :members:\n\n"
-                   ".. autofunction:: orv3cal.check_many\n\n.. automodule:: orv3cal.shapes\n   :members:\n```\n")
+                   ".. automodule:: orv3cal.shapes\n   :members:\n```\n")
         self.write("c.md", title("C") + "```{eval-rst}\n.. doxygenfile:: orv3cal_c.h\n```\n")
         text = (self.source / "src/orv3cal.h").read_text("utf-8")
         pages = {}
