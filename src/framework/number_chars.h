@@ -18,6 +18,7 @@ ORV3CAL_API char* WriteFixed(char* first, char* last, double value, int decimals
 
 // The number that the text begins with; result_out_of_range, with `value` as it was, for one that
 // is too large or too small for a double.
-ORV3CAL_API std::from_chars_result ReadDouble(const char* first, const char* last, double& value) noexcept;
+ORV3CAL_API std::from_chars_result ReadDouble(const char* first, const char* last,
+                                              double& value) noexcept;
 
 }  // namespace orv3

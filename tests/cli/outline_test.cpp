@@ -68,7 +68,7 @@ TEST(OutlineCommand, RefusesInOneLineThatNamesTheFault) {
       {loops("[[[0,0],[9,0],[9,9]],[[8,0],[12,0],[8,4]]]"), {"loops 1 and 2 cross or touch"}},
       {loops("[[[0,0],[4,0],[4,4],[0,0]]]"), {"from point 4", "has no length"}},
       {loops("[[[0,0],[4]]]"), {"loop 1, point 2", "[x, y, bulge]"}},
-      {loops("[[[0,0],[4,0,0,7]]]"), {"loop 1, point 2", "7 is not possible"}},
+      {loops("[[[0,0],[4,0,0,7]]]"), {"loop 1, point 2", "has more than three numbers"}},
       {loops("[[[0,0],[4,\"b\"]]]"), {"loop 1, point 2", "\"b\""}},
       {loops("[[[0,0],[1e999,0],[1,1]]]"), {"number overflow"}},
       {R"({"unit": "mile", "loops": []})", {"\"mile\" is not taken", "mm, cm, m or in"}},
