@@ -56,7 +56,7 @@ PYTHON_PACKAGES="python3-dev pybind11-dev python3-numpy python3-pandas"
 
 # The packages of a native build and its tests.
 NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libeigen3-dev libcli11-dev
-                 nlohmann-json3-dev
+                 nlohmann-json3-dev libfmt-dev libfast-float-dev
                  libbenchmark-dev libsqlite3-dev libxlsxwriter-dev clang-format python3"
 
 # Node and npm: what is on the path, or Debian's.
