@@ -1,5 +1,6 @@
 #include "case_cell.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -16,12 +17,23 @@ bool ReadNumber(std::string_view text, double& number) noexcept {
   return error == std::errc() && end == text.data() + text.size();
 }
 
+// A spreadsheet writes TRUE and FALSE.
+bool IsWord(std::string_view cell, std::string_view word) noexcept {
+  return std::equal(cell.begin(), cell.end(), word.begin(), word.end(), [](char a, char b) {
+    return (a >= 'A' && a <= 'Z' ? a + ('a' - 'A') : a) == b;
+  });
+}
+
 }  // namespace
 
 CKeyValue CellValue(std::string_view cell, const CCaseSchema::CRule& rule,
                     std::vector<double>& list) {
   double number = 0;
   if (rule.m_bText) return cell;
+  if (rule.m_bBoolean) {
+    if (IsWord(cell, "true")) return 1.0;
+    if (IsWord(cell, "false")) return 0.0;
+  }
   if (!rule.m_bArray || cell.find(';') == std::string_view::npos) {
     if (ReadNumber(cell, number)) return number;
     return cell;

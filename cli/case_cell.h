@@ -9,7 +9,8 @@
 
 namespace orv3::cli {
 
-// The text of a cell: a text where the key takes one, a list where semicolons stand, else a number;
+// The text of a cell: a text where the key takes one, true, false, 1 or 0 where it takes yes or no,
+// a list where semicolons stand, else a number;
 // what is none of them stays a text, which the schema then refuses. A list is kept in `list`, which
 // the value points into.
 CKeyValue CellValue(std::string_view cell, const CCaseSchema::CRule& rule,

@@ -14,7 +14,7 @@ class CCsvCases {
           if (text.size() > kLongestCase) file.RefuseLongCase();
           return file.More(text);
         }) {
-    if (!m_csv.Next(m_arrCell)) Malformed();
+    if (!m_csv.Next(m_arrCell)) RefuseNoLine();
     if (IsBlank())
       m_file.Refuse({"首行为空；首行应为各键", "has an empty first line; it holds the keys"});
     for (const std::string_view name : m_arrCell) AddColumn(name);
@@ -22,7 +22,10 @@ class CCsvCases {
 
   bool Next(CReadCase& read) {
     do {
-      if (!m_csv.Next(m_arrCell)) return TellMalformed(read);
+      if (!m_csv.Next(m_arrCell)) {
+        if (m_csv.IsMalformed()) RefuseMalformed();
+        return false;
+      }
     } while (IsBlank());
     for (std::size_t i = 0; i < std::min(m_arrCell.size(), m_arrColumn.size()); ++i) {
       const auto key = static_cast<std::size_t>(m_arrColumn[i]);
@@ -50,42 +53,43 @@ class CCsvCases {
     m_arrList.emplace_back();
   }
 
-  [[noreturn]] void Malformed() {
-    if (m_csv.IsMalformed()) m_file.Refuse(MalformedFault().Text());
+  [[noreturn]] void RefuseNoLine() {
+    if (m_csv.IsMalformed()) RefuseMalformed();
     m_file.Refuse({"是空文件；首行应为各键", "is empty; the first line holds the keys"});
   }
 
-  CCaseFault MalformedFault() const {
+  // What stands behind such a cell is not known: the cases there cannot even be counted.
+  [[noreturn]] void RefuseMalformed() {
     const std::string line = std::to_string(m_csv.Line());
-    return {"case",
-            {"第 " + line + " 行有一个引号单元格没有结束，或其后还有文字",
-             "line " + line +
-                 " has a cell in quotation marks that is not closed or goes on behind them"},
-            {"请在分隔符之前结束引号，其中的引号写两个",
-             "close it before the separator, and double the marks within it"}};
-  }
-
-  // The text is not read beyond a malformed cell, which is a refused case of its own.
-  bool TellMalformed(CReadCase& read) {
-    if (!m_csv.IsMalformed() || m_bTold) return false;
-    m_bTold = true;
-    read.m_fault = MalformedFault();
-    return true;
+    m_file.Refuse({"第 " + line +
+                       " 行有一个引号单元格没有结束，或其后还有文字；请在分隔符之前结束引号，"
+                       "其中的引号写两个",
+                   "line " + line +
+                       " has a cell in quotation marks that is not closed or goes on behind them; "
+                       "close it before the separator, and double the marks within it"});
   }
 
   bool IsBlank() const {
     return std::all_of(m_arrCell.begin(), m_arrCell.end(), [](auto cell) { return cell.empty(); });
   }
 
+  // A short line has lost its end, and the forces there with it: an empty cell is told by its
+  // separator.
   void CheckWidth(CReadCase& read) const {
-    const auto behind = std::min(m_arrCell.size(), m_arrColumn.size());
-    if (std::all_of(m_arrCell.begin() + static_cast<std::ptrdiff_t>(behind), m_arrCell.end(),
-                    [](auto cell) { return cell.empty(); })) {
-      return;
+    const std::size_t keys = m_arrColumn.size();
+    if (m_arrCell.size() < keys) {
+      const std::string few = std::to_string(m_arrCell.size());
+      const std::string all = std::to_string(keys);
+      read.m_fault = {"case",
+                      {"只有 " + few + " 个单元格，首行有 " + all + " 个键",
+                       "has " + few + " cells where the first line has " + all + " keys"},
+                      {"空单元格也请写出分隔符", "write the separator of an empty cell as well"}};
+    } else if (!std::all_of(m_arrCell.begin() + static_cast<std::ptrdiff_t>(keys), m_arrCell.end(),
+                            [](auto cell) { return cell.empty(); })) {
+      read.m_fault = {"case",
+                      {"单元格多于首行的键", "has more cells than the first line has keys"},
+                      {"请为多出的单元格给出键", "give each a key"}};
     }
-    read.m_fault = {"case",
-                    {"单元格多于首行的键", "has more cells than the first line has keys"},
-                    {"请为多出的单元格给出键", "give each a key"}};
   }
 
   CCaseBytes& m_file;
@@ -94,7 +98,6 @@ class CCsvCases {
   std::vector<std::string_view> m_arrCell;
   std::vector<int> m_arrColumn;                // position of each column's key
   std::vector<std::vector<double>> m_arrList;  // of the case at hand, by columns
-  bool m_bTold = false;                        // of a malformed cell
 };
 
 }  // namespace

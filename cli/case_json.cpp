@@ -262,7 +262,7 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
   }
 
   bool Number(double value, const std::string& text) {
-    if (m_nDepth == Field() && m_nKey != kNone) {
+    if (m_nDepth == Field() && m_nKey != kNone && !Rule().m_bBoolean) {
       if (Rule().m_bText && Rule().m_bNumber) {
         SetText(text);
       } else {

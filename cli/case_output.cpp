@@ -53,7 +53,7 @@ std::string PercentText(double utilisation) {
 std::string WarningLine(std::span<const CCaseWarning> warnings, CLanguage language) {
   std::string line;
   for (const CCaseWarning& warning : warnings)
-    line += (line.empty() ? "" : " | ") + warning.m_text.In(language);
+    line += (line.empty() ? "" : " | ") + warning.Line(language);
   return line;
 }
 
@@ -77,7 +77,7 @@ std::string VerdictLines(CCodeEdition edition, bool bPass, const CCasePart& wors
   static constexpr CTextLiteral kLook = {"请注意 ", "look at "};
   std::string text = line.In(language) + EditionLine(edition, language) + '\n';
   for (const CCaseWarning& warning : warnings)
-    text += kLook.In(language) + warning.m_strKey + ": " + warning.m_text.In(language) + '\n';
+    text += kLook.In(language) + warning.Line(language) + '\n';
   return text;
 }
 

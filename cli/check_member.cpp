@@ -109,7 +109,7 @@ class CMembers {
     if (m_bOne) {
       // Refused by the one edition it is not answered; by one of both, the other is.
       if (m_arrRun.size() == 1 && m_arrRun[0]->Fault() != nullptr) return;
-      if (m_options.json) return PrintJson(Json());
+      if (m_options.json) return PrintJson(NamedJson(CJson::object()));
       for (const CMemberRun* run : m_arrRun) Print((run == m_arrRun[0] ? "" : "\n") + run->Text());
       return;
     }
@@ -121,10 +121,7 @@ class CMembers {
         return;
       }
       case CAnswerForm::Json: {
-        CJson answer = {{"case", m_nCases}};
-        if (!m_member.m_strId.empty()) answer["id"] = m_member.m_strId;
-        answer.update(Json());
-        return m_answers.AddJson(worst, answer);
+        return m_answers.AddJson(worst, NamedJson({{"case", m_nCases}}));
       }
       case CAnswerForm::Table: {
         std::vector<std::vector<std::string>> rows;
@@ -132,6 +129,13 @@ class CMembers {
         return m_answers.AddRows(worst, std::move(rows));
       }
     }
+  }
+
+  // The answer behind what it begins with and its id.
+  CJson NamedJson(CJson answer) const {
+    if (!m_member.m_strId.empty()) answer["id"] = m_member.m_strId;
+    answer.update(Json());
+    return answer;
   }
 
   // Of both editions: both pass, and the greater ratio.

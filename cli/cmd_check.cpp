@@ -159,7 +159,7 @@ class CChecker {
   // One case in full. Refused by the one edition it is not answered; by one of both, the other is.
   void AnswerOne(bool bRefused) {
     if (bRefused && !IsBoth()) return;
-    if (m_options.json) return PrintJson(Json());
+    if (m_options.json) return PrintJson(NamedJson());
     if (!IsBoth()) return With(m_arrEdition[0], [](auto& run) { Print(run.Text()); });
     Print(BothText(m_columns, m_2017, m_2003, Language()));
   }
@@ -196,8 +196,11 @@ class CChecker {
     return With(m_arrEdition[0], [](auto& run) { return run.Json(); });
   }
 
-  CJson CaseJson() {
-    CJson answer = {{"case", m_nCases}};
+  CJson NamedJson() { return NamedJson(CJson::object()); }
+  CJson CaseJson() { return NamedJson({{"case", m_nCases}}); }
+
+  // The answer behind what it begins with and its id.
+  CJson NamedJson(CJson answer) {
     const std::string id = With(m_arrEdition[0], [](auto& run) { return run.Id(); });
     if (!id.empty()) answer["id"] = id;
     answer.update(Json());

@@ -164,7 +164,7 @@ class CAnswer {
       std::string notes;
       for (const CMemberNote note : chosen.m_arrNote) {
         if (!notes.empty()) notes += " | ";
-        notes += NoteText(note);
+        notes += std::string(MemberNoteKey(note)) + ": " + NoteText(note);
       }
       AppendCsv(csv, notes);
       csv += '\n';

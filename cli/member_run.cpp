@@ -75,7 +75,8 @@ std::string CMemberRun::NoteText(const CMemberEnvelope::CNoted& noted) const {
 std::string CMemberRun::NoteLine() const {
   std::string line;
   for (const auto& noted : m_envelope.Notes())
-    line += (line.empty() ? "" : " | ") + NoteText(noted);
+    line += std::string(line.empty() ? "" : " | ") + MemberNoteKey(noted.m_nNote) + ": " +
+            NoteText(noted);
   return line;
 }
 

@@ -269,8 +269,9 @@ std::vector<std::string> RowDoubtNotes(const CDataItem& row) {
     if (!note.empty()) notes.push_back(std::move(note));
   for (const CRowDoubt& doubt : RowDoubts(row)) {
     notes.push_back(
-        Say("{1} 可疑：行中为 {2}，由尺寸的轮廓得 {3}（mm）。",
-            "{1} is doubtful: the row tells {2}, the outline of its sizes has {3} (mm).",
+        Say("{1} 可疑：行中为 {2}，由尺寸的轮廓得 {3}（以 mm 及其幂计）。",
+            "{1} is doubtful: the row tells {2}, the outline of its sizes has {3} (in mm and its "
+            "powers).",
             {doubt.m_szKey, NumberText(doubt.m_dTold), NumberText(doubt.m_dOutline)}));
   }
   if (LatticeLimbCount(row.m_strTableName.View()) > 0) {

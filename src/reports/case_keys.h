@@ -59,6 +59,8 @@ struct CCaseFault {
 struct CCaseWarning {
   std::string m_strKey;
   CText m_text;
+  // "key: text"
+  std::string Line(CLanguage language) const { return m_strKey + ": " + m_text.In(language); }
 };
 
 // Writes `value` into the key's field; false when it is of another kind or no choice of the key.

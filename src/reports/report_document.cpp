@@ -199,18 +199,21 @@ class CReportWriter {
     m_strHtml += each.m_strBody + "</article>\n";
   }
 
-  // What all cases that give it agree in.
+  // What all cases agree in; a project may be given by some of them alone, a signature may not.
   CReportSheet CommonSheet() const {
     CReportSheet common;
     for (const CSheetKey& key : kSheetKeys) {
-      bool bAgree = true;
-      for (const CReportCase& each : m_arrCase) {
-        const std::string& value = each.m_sheet.*key.m_pField;
-        std::string& first = common.*key.m_pField;
-        if (first.empty()) first = value;
-        bAgree = bAgree && (value.empty() || value == first);
-      }
-      if (!bAgree) (common.*key.m_pField).clear();
+      const auto value = [&](const CReportCase& each) -> const std::string& {
+        return each.m_sheet.*key.m_pField;
+      };
+      const auto given = std::find_if(m_arrCase.begin(), m_arrCase.end(),
+                                      [&](const auto& each) { return !value(each).empty(); });
+      if (given == m_arrCase.end()) continue;
+      const bool bProject = key.m_pField == &CReportSheet::m_strProject;
+      const bool bAgree = std::all_of(m_arrCase.begin(), m_arrCase.end(), [&](const auto& each) {
+        return value(each) == value(*given) || (bProject && value(each).empty());
+      });
+      if (bAgree) common.*key.m_pField = value(*given);
     }
     return common;
   }

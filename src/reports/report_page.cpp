@@ -183,7 +183,7 @@ void CReportBody::Warnings(std::span<const CCaseWarning> warnings) {
   static constexpr CTextLiteral kLook = {"请注意", "Look at this"};
   m_strHtml += std::string("<div class=\"box warn\"><b>") + Text(kLook) + "</b><ul>\n";
   for (const CCaseWarning& warning : warnings)
-    m_strHtml += "<li>" + Escaped(warning.m_text.In(m_nLanguage)) + "</li>\n";
+    m_strHtml += "<li>" + Escaped(warning.Line(m_nLanguage)) + "</li>\n";
   m_strHtml += "</ul></div>\n";
 }
 

@@ -5,6 +5,7 @@
 
 #include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
+#include "connections/report/torque_arrow.h"
 #include "framework/utf8.h"
 
 namespace orv3 {
@@ -193,24 +194,8 @@ class CBoltPainter {
       Force({centroid.x, bUp ? near : far}, {centroid.x, bUp ? far : near},
             {centroid.x + 6, far - 4}, L"Vy", CAnchor::Left);
     }
-    if (!IsZero(m_input.m_dT)) Torque(centroid, MostStressedBolts(m_view).m_bClockwise);
-  }
-
-  // An arc of three quarters about the centroid.
-  void Torque(CPoint centroid, bool bClockwise) {
-    const double r = 17;
-    const double side = bClockwise ? 1 : -1;
-    CPath arc;
-    arc.m_bClosed = false;
-    constexpr double kThreeQuarters = 2.414213562373095;  // tan(270 / 4 degrees)
-    arc.m_arrVertex = {{centroid.x, centroid.y - r, -side * kThreeQuarters},
-                       {centroid.x + side * r, centroid.y, 0}};
-    m_drawing.AddPath(CLayer::Text, arc);
-    m_drawing.AddArrowHead(CLayer::Text, {centroid.x + side * r, centroid.y + 8},
-                           {centroid.x + side * r, centroid.y - 2});
-    m_drawing.AddLabel({.m_at = {centroid.x + side * (r + 5), centroid.y + 14},
-                        .m_strText = L"T",
-                        .m_nAnchor = side > 0 ? CAnchor::Left : CAnchor::Right});
+    if (!IsZero(m_input.m_dT))
+      AddTorque(m_drawing, centroid, MostStressedBolts(m_view).m_bClockwise);
   }
 
   const CBoltView& m_view;

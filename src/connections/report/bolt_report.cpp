@@ -96,6 +96,8 @@ void CBoltReport::Figure() {
   static constexpr CTextLiteral kAcross = {"。N、M 垂直于图面。",
                                            ". N and M act out of the plane."};
   static constexpr CTextLiteral kEnd = {"。", "."};
+  static constexpr CTextLiteral kTorque = {
+      "T 按与剪力叠加更不利的转向绘出。", " T is drawn in the sense that is worse with the shear."};
   static constexpr CTextLiteral kTooMany = {"螺栓数过多，未绘图。",
                                             "Not drawn: the group has too many bolts."};
   if (m_r.m_nBolts > kMostDrawnBolts) return m_body.Note(kTooMany);
@@ -103,7 +105,9 @@ void CBoltReport::Figure() {
   if (m_judged.m_x.Holes() > 0) caption += m_body.Text(kCuts[0]);
   if (m_judged.m_y.Holes() > 0) caption += m_body.Text(kCuts[m_judged.m_x.Holes() > 0 ? 2 : 1]);
   const bool bAcross = !IsZero(m_input.m_dN) || !IsZero(m_input.m_dM);
-  m_body.Figure(BoltGroupDrawing(m_view), caption + m_body.Text(bAcross ? kAcross : kEnd));
+  caption += m_body.Text(bAcross ? kAcross : kEnd);
+  if (!IsZero(m_input.m_dT)) caption += m_body.Text(kTorque);
+  m_body.Figure(BoltGroupDrawing(m_view), caption);
 }
 
 std::vector<CReportVerdict> CBoltReport::Verdicts() const {

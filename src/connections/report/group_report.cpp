@@ -7,6 +7,7 @@
 #include "connections/check_math.h"
 #include "connections/report/connection_report.h"
 #include "connections/report/detail_verdicts.h"
+#include "connections/report/torque_arrow.h"
 #include "framework/plain_number.h"
 #include "framework/utf8.h"
 #include "reports/report_page.h"
@@ -125,6 +126,7 @@ class CGroupPainter {
     };
     force(m_input.m_dVx, {1, 0}, "Vx");
     force(m_input.m_dVy, {0, 1}, "Vy");
+    if (!IsZero(m_input.m_dT)) AddTorque(m_drawing, at, m_input.m_dT < 0);
   }
 
   const CWeldGroupCase& m_input;
@@ -214,8 +216,8 @@ void CGroupReport::Group() {
        "mm⁴");
   Step({"惯性积", "Product of inertia"}, "I_{xy}", "Σ 0.7 h_f l (x y + Δx Δy / 12)", "", m_r.m_dIxy,
        "mm⁴");
-  Step({"极惯性矩", "Polar moment"}, "J", "I_x + I_y",
-       PlainNumber(m_r.m_dIx) + " + " + PlainNumber(m_r.m_dIy), m_r.m_dJ, "mm⁴");
+  Step({"极惯性矩", "Polar moment"}, "J", "I_x + I_y", Put(m_r.m_dIx) + " + " + Put(m_r.m_dIy),
+       m_r.m_dJ, "mm⁴");
 }
 
 void CGroupReport::LoadsAtCentroid() {
@@ -234,8 +236,8 @@ void CGroupReport::LoadsAtCentroid() {
 
 // At the most stressed point.
 void CGroupReport::Stresses() {
-  const std::string A = PlainNumber(m_r.m_dA);
-  const std::string J = PlainNumber(m_r.m_dJ);
+  const std::string A = Put(m_r.m_dA);
+  const std::string J = Put(m_r.m_dJ);
   const std::string dx = "(" + Put(m_r.m_dX) + " − " + Put(m_r.m_dXc) + ")";
   const std::string dy = "(" + Put(m_r.m_dY) + " − " + Put(m_r.m_dYc) + ")";
   const std::string T = Put(m_r.m_dTorque);
@@ -250,8 +252,8 @@ void CGroupReport::Stresses() {
   if (!IsZero(m_input.m_dN) || !IsZero(m_input.m_dM)) {
     const CTensionPlane& plane = m_check.Tension();
     Step({"平面外应力", "Stress out of the plane"}, "σ_N", "N / A + a (x − x_c) + b (y − y_c)",
-         PlainNumber(plane.m_dAt) + " + " + Put(plane.m_dX) + " × " + dx + " + " + Put(plane.m_dY) +
-             " × " + dy,
+         Put(plane.m_dAt) + " + " + Put(plane.m_dX) + " × " + dx + " + " + Put(plane.m_dY) + " × " +
+             dy,
          m_point.m_dOut, "N/mm²");
   }
   const CWeldLine& weld = m_check.Welds()[static_cast<std::size_t>(m_point.m_nWeld)];

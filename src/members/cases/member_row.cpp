@@ -415,10 +415,12 @@ CDataItem SizesRow(const CSectionStyle& style, std::span<const double> sizes,
 bool IsPairGap(double gap) noexcept { return gap >= 0 && gap <= 1000 && gap == std::floor(gap); }
 
 CCaseFault PairGapFault() {
-  return {"section.gap",
-          {"不可用", "is not possible"},
-          {"请只给组合截面整数毫米的间距，不大于 1000",
-           "give the gap of a pair alone, in whole millimetres up to 1000"}};
+  return {
+      "section.gap",
+      {"不可用", "is not possible"},
+      {"请只给两肢分开的组合截面（如双角钢）以间距，整数毫米，不大于 1000",
+       "give it of a pair whose parts stand apart, as two angles do, in whole millimetres up to "
+       "1000"}};
 }
 
 std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member) {
