@@ -125,6 +125,57 @@ TEST_F(SharedStore, ATableThatWasNeverReadTakesInWhatIsThere) {
   EXPECT_EQ(Rows(Loaded(m_path)), (Lines{"all=200"}));
 }
 
+TEST_F(SharedStore, ATableWithoutAKeyLosesNothingEither) {
+  const auto make = [this](int rows) {
+    CDataTable table = SectionTable(L"K");
+    table.SetTableColKey(0, 0);
+    for (int i = 0; i < rows; ++i) AddRow(table, L"same");
+    EXPECT_EQ(Save(table), 1);
+  };
+  make(2);
+  make(3);
+  EXPECT_EQ(Loaded(m_path, L"K").GetTableRowNum(), 5);
+
+  // Rows that have been saved are known again by their stable indices.
+  const CString other = m_folder.Path(L"b.KDB");
+  CDataTable table = Loaded(m_path, L"K");
+  for (int turn = 0; turn < 3; ++turn) {
+    ASSERT_EQ(table.WriteTable(other, 0, 0), 1);
+    ASSERT_EQ(Save(table), 1);
+    CDataTable fresh = Loaded(m_path, L"K");
+    ASSERT_EQ(fresh.WriteTable(other, 0, 0), 1);
+    EXPECT_EQ(Loaded(m_path, L"K").GetTableRowNum(), 5);
+    EXPECT_EQ(Loaded(other, L"K").GetTableRowNum(), 5);
+  }
+}
+
+// The file has the first 30 characters of a key.
+TEST_F(SharedStore, KeysAreComparedAsTheyStandOnFile) {
+  const CString thirty(L'k', 30);
+  for (int i = 0; i < 2; ++i) {
+    CDataTable table = SectionTable();  // which knows nothing of the file
+    AddRow(table, thirty, L"1");
+    AddRow(table, thirty + L"b", L"2");
+    ASSERT_EQ(Save(table), 1);
+    EXPECT_EQ(Loaded(m_path).GetTableRowNum(), 6);
+  }
+}
+
+// A row that was deleted while the table was saved elsewhere is deleted here too.
+TEST_F(SharedStore, AnEarlierFileIsBroughtUpToDate) {
+  CDataTable table = Loaded(m_path);
+  ASSERT_EQ(table.DeleteTableItem(1), 1);
+  Modify(table, 2, L"I2,new");
+  ASSERT_EQ(table.WriteTable(m_folder.Path(L"b.KDB"), 0, 0), 1);
+  CDataTable other = Loaded(m_path);
+  AddRow(other, L"theirs");
+  ASSERT_EQ(Save(other), 1);
+  ASSERT_EQ(Save(table), 1);
+  const Lines expected = {"I0=200", "-I1=200", "I2=new", "I3=200", "theirs=200"};
+  EXPECT_EQ(Rows(table), expected);
+  EXPECT_EQ(Rows(Loaded(m_path)), expected);
+}
+
 TEST_F(SharedStore, ABusyStoreIsWaitedForAndThenRefused) {
   CDataTable table = Loaded(m_path);
   AddRow(table, L"new");
