@@ -9,6 +9,8 @@ constexpr std::size_t kKeep = 1U << 16;  // text that was read is dropped from h
 
 }  // namespace
 
+bool CCsvReader::IsEnd(std::size_t at) { return at >= m_strBytes.size() && !ReadTo(at); }
+
 CCsvReader::CCsvReader(std::string bytes) : m_strBytes(std::move(bytes)) { Start(); }
 
 CCsvReader::CCsvReader(CMore more) : m_more(std::move(more)) { Start(); }
