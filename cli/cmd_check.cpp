@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -16,6 +15,7 @@
 #include "check_editions.h"
 #include "check_member.h"
 #include "commands.h"
+#include "connections/connection_kinds.h"
 #include "connections/report/connection_report.h"
 #include "edition_option.h"
 #include "error.h"
@@ -51,8 +51,9 @@ struct COptions {
 template <class CHECK2003, class CHECK2017>
 class CChecker {
  public:
-  explicit CChecker(const COptions& options)
-      : m_options(options),
+  CChecker(const CConnectionKind<CHECK2003, CHECK2017>& kind, const COptions& options)
+      : m_kind(kind),
+        m_options(options),
         m_arrAsked(EditionsAsked(options.code)),
         m_schema(SchemaOf(options.kind)),
         m_2003(m_schema, CCodeEdition::Gb2003, options.Language()),
@@ -221,22 +222,14 @@ class CChecker {
     }
   }
 
-  // What the browser calls the report.
-  std::string Title() const {
-    static const std::map<std::string, CText> kTitles = {
-        {"bolt", {"螺栓连接验算", "Bolted connections"}},
-        {"fillet", {"角焊缝验算", "Fillet welds"}},
-        {"butt", {"对接焊缝验算", "Butt welds"}},
-        {"weld-group", {"角焊缝群验算", "Groups of fillet welds"}}};
-    return kTitles.at(m_options.kind).In(m_options.ReportLanguage());
-  }
-
   void WriteReport() const {
     if (m_options.report.empty()) return;
-    const CReportTitle title = {Title() + " — Orv3Cal", ORV3CAL_VERSION};
+    const std::string what = m_kind.m_title.In(m_options.ReportLanguage());
+    const CReportTitle title = {what + " — Orv3Cal", ORV3CAL_VERSION};
     WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.ReportLanguage()));
   }
 
+  const CConnectionKind<CHECK2003, CHECK2017>& m_kind;
   const COptions& m_options;
   const std::vector<CCodeEdition> m_arrAsked;
   CCaseSchema m_schema;
@@ -264,11 +257,15 @@ CExit RunMembers(const COptions& options) {
 
 CExit RunCheck(const COptions& options) {
   if (options.kind == "member") return RunMembers(options);
-  if (options.kind == "bolt") return CChecker<CBoltCheck, CBoltCheck2017>(options).Run();
-  if (options.kind == "fillet") return CChecker<CFilletCheck, CFilletCheck2017>(options).Run();
-  if (options.kind == "weld-group")
-    return CChecker<CWeldGroupCheck2003, CWeldGroupCheck2017>(options).Run();
-  return CChecker<CButtCheck, CButtCheck2017>(options).Run();
+  CExit exit = CExit::Done;
+  WithConnectionKind(options.kind, [&](const auto& kind) { exit = CChecker(kind, options).Run(); });
+  return exit;
+}
+
+std::vector<std::string> Kinds() {
+  std::vector<std::string> kinds = ConnectionKindNames();
+  kinds.push_back("member");
+  return kinds;
 }
 
 }  // namespace
@@ -281,7 +278,7 @@ void AddCheckCommand(CLI::App& program) {
                    "members; exit status 1 when one fails"));
   command->add_option("KIND", options->kind, Say("验算的种类", "What to check"))
       ->required()
-      ->check(CLI::IsMember({"bolt", "fillet", "butt", "weld-group", "member"}));
+      ->check(CLI::IsMember(Kinds()));
   command
       ->add_option(
           "FILE", options->file,

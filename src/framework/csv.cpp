@@ -9,6 +9,8 @@ constexpr std::size_t kKeep = 1U << 16;  // text that was read is dropped from h
 
 }  // namespace
 
+bool CCsvReader::IsEnd(std::size_t at) { return at >= m_strBytes.size() && !ReadTo(at); }
+
 CCsvReader::CCsvReader(std::string bytes) : m_strBytes(std::move(bytes)) { Start(); }
 
 CCsvReader::CCsvReader(CMore more) : m_more(std::move(more)) { Start(); }
@@ -84,12 +86,16 @@ void CCsvReader::EndLine(char end) {
   ++m_nNextLine;
 }
 
+bool CCsvReader::AtEndOfCell() {
+  return IsEnd(m_nAt) || m_arrEnds[static_cast<unsigned char>(m_strBytes[m_nAt])];
+}
+
 void CCsvReader::PassCell() {
   const auto ends = [this](char ch) { return m_arrEnds[static_cast<unsigned char>(ch)]; };
   do {
     const auto rest = std::string_view(m_strBytes).substr(m_nAt);
     m_nAt += static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), ends) - rest.begin());
-  } while (m_nAt == m_strBytes.size() && !IsEnd(m_nAt));
+  } while (!AtEndOfCell());
 }
 
 CCsvReader::CCell CCsvReader::PlainCell() {

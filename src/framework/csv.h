@@ -47,8 +47,9 @@ class ORV3CAL_API CCsvReader {
   void Start();
   char FindSeparator();
   // Reads more where the text at hand ends.
-  bool IsEnd(std::size_t at) { return at >= m_strBytes.size() && !ReadTo(at); }
+  bool IsEnd(std::size_t at);
   bool ReadTo(std::size_t at);
+  bool AtEndOfCell();
   void PassCell();  // to what ends the cell at hand
   CCell PlainCell();
   CCell QuotedCell();

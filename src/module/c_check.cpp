@@ -1,11 +1,7 @@
 // The C interface: checks of bolt groups and welds as lists of values.
 #include <string_view>
 
-#include "connections/cases/bolt_case.h"
-#include "connections/cases/weld_case.h"
-#include "connections/gb2017/bolt_case.h"
-#include "connections/gb2017/weld_case.h"
-#include "connections/weld_group/group_case.h"
+#include "connections/connection_kinds.h"
 #include "framework/utf8.h"
 #include "module/c_values.h"
 
@@ -100,30 +96,24 @@ int Check(const orv3_char* text, orv3_char* out, int size) {
   return GiveText(JoinLines(Answer<CHECK>(ReadValues(text))), out, size);
 }
 
-using CAnswerOf = std::vector<CString> (*)(const CValues&);
-
-struct CCheckKind {
-  const char* m_szName;
-  CAnswerOf m_arrAnswer[2];  // by 2003 and by 2017
-};
-constexpr CCheckKind kCheckKinds[] = {
-    {"bolt", {Answer<CBoltCheck>, Answer<CBoltCheck2017>}},
-    {"fillet", {Answer<CFilletCheck>, Answer<CFilletCheck2017>}},
-    {"butt", {Answer<CButtCheck>, Answer<CButtCheck2017>}},
-    {"weld-group", {Answer<CWeldGroupCheck2003>, Answer<CWeldGroupCheck2017>}},
-};
+template <class CHECK2003, class CHECK2017>
+std::vector<CString> AnswerBy(const CConnectionKind<CHECK2003, CHECK2017>&, const std::string& code,
+                              CValues values) {
+  const CCodeEdition edition = EditionOf(code, values);
+  std::vector<CString> lines =
+      edition == CCodeEdition::Gb2003 ? Answer<CHECK2003>(values) : Answer<CHECK2017>(values);
+  lines.insert(lines.begin(), L"code=" + FromUtf8(EditionFacts(edition).m_szYear));
+  return lines;
+}
 
 int CheckBy(const std::string& name, const std::string& code, const orv3_char* text, orv3_char* out,
             int size) {
-  for (const CCheckKind& kind : kCheckKinds) {
-    if (name != kind.m_szName) continue;
-    CValues values = ReadValues(text);
-    const CCodeEdition edition = EditionOf(code, values);
-    std::vector<CString> lines = kind.m_arrAnswer[static_cast<std::size_t>(edition)](values);
-    lines.insert(lines.begin(), L"code=" + FromUtf8(EditionFacts(edition).m_szYear));
-    return GiveText(JoinLines(lines), out, size);
-  }
-  throw CFailure("kind: \"" + name + "\" is no check; give bolt, fillet, butt or weld-group");
+  std::vector<CString> lines;
+  const auto answer = [&](const auto& kind) { lines = AnswerBy(kind, code, ReadValues(text)); };
+  if (WithConnectionKind(name, answer)) return GiveText(JoinLines(lines), out, size);
+  std::string names;
+  for (const std::string& each : ConnectionKindNames()) names += (names.empty() ? "" : ", ") + each;
+  throw CFailure("kind: \"" + name + "\" is no check; there are " + names);
 }
 
 }  // namespace

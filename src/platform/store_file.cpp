@@ -163,7 +163,9 @@ bool CStoreFile::Write(std::uint64_t offset, const void* data, std::size_t size)
 
 bool CStoreFile::Commit() { return m_pBody->Commit() || NotWritten(*m_pBody); }
 
-CStoreState CStoreFile::State() const { return {m_pBody->Stamp(), m_pBody->LastChange()}; }
+const CFileStamp& CStoreFile::Stamp() const { return m_pBody->Stamp(); }
+
+CStoreState CStoreFile::State() const { return {Stamp(), m_pBody->LastChange()}; }
 
 const CString& CStoreFile::Path() const { return m_pBody->Path(); }
 

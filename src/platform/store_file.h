@@ -50,7 +50,8 @@ class ORV3CAL_API CStoreFile {
   // file is as it was. Where not even that can be written, whoever opens it next finds it as it was
   // or, when all changes but nothing behind them got through, as it was to become.
   bool Commit();
-  // Its stamp is that of the file as it was opened or last committed.
+  // Of the file as it was opened or last committed.
+  const CFileStamp& Stamp() const;
   CStoreState State() const;
   const CString& Path() const;  // absolute
 

@@ -121,11 +121,16 @@ struct CAxisLetters {
   const wchar_t* m_szWeak = nullptr;
 };
 
+// How the steel of a section got its shape. Thin walls bent cold belong to a code of their own
+// (GB 50018).
+enum class CForming : std::uint8_t { Hot, Cold, Plates, Limbs };
+
 inline constexpr int kNoSketch = 8076;  // the sketch of what has none of its own
 
 struct CSectionTable {
   CSectionKind m_kind;
   const wchar_t* m_szName;
+  CForming m_forming;
   std::int32_t m_nType;                   // one source bit and one family bit (table_types.h)
   int m_nImage;                           // its picture in CLoadDataTable::GetItemImageList
   int m_nSketch;                          // resource number of its sketch

@@ -56,11 +56,8 @@ TEST(CodeTableLookups, SteelAndWeldStrength) {
       EXPECT_EQ(Weld(grade, group, SUB2_FFW), bNone ? kFalse : g.ffw);
     }
   }
-  EXPECT_EQ(Steel(1, 5, SUB1_F), 265);
   EXPECT_EQ(Steel(3, 6, SUB1_FV), 185);
-  EXPECT_EQ(Weld(1, 5, SUB2_FCW), 265);
   EXPECT_EQ(Weld(1, 5, SUB2_FTW12), 265);
-  EXPECT_EQ(Weld(1, 5, SUB2_FVW), 155);
   EXPECT_EQ(WeldOf(SUB2_E43, 1, SUB2_FTW3), 175);
   EXPECT_EQ(WeldOf(SUB2_E43, 3, SUB2_FFW), 160);
   EXPECT_EQ(WeldOf(SUB2_E50, 5, SUB2_FCW), 265);
@@ -239,11 +236,8 @@ TEST(CodeTableLookups, StabilityFactor) {
     int bucklingClass;
     double lambda, phi;
   } cases[] = {
-      {0, 0, 1.000},   {0, 10, 0.995},  {0, 50, 0.916}, {0, 100, 0.638}, {0, 150, 0.339},
-      {1, 20, 0.970},  {1, 50, 0.856},  {1, 80, 0.688}, {1, 100, 0.555}, {1, 120, 0.437},
-      {1, 150, 0.308}, {1, 200, 0.186}, {2, 20, 0.966}, {2, 50, 0.775},  {2, 80, 0.578},
-      {2, 100, 0.463}, {2, 150, 0.280}, {3, 20, 0.937}, {3, 50, 0.690},  {3, 100, 0.394},
-      {3, 150, 0.248},
+      {0, 0, 1.000},   {0, 100, 0.638}, {1, 20, 0.970}, {1, 100, 0.555},
+      {1, 200, 0.186}, {2, 80, 0.578},  {3, 20, 0.937}, {3, 100, 0.394},
   };
   for (const auto& c : cases) {
     EXPECT_NEAR(Phi(c.lambda, 235, c.bucklingClass), c.phi, 0.00051) << c.lambda;

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "orv3cal.h"
-#include "platform/temp_folder.h"
+#include "sections/catalogue_store.h"
 
 namespace {
 
@@ -23,33 +23,15 @@ struct CSection {
   double area, left, right, below, above, ix, iy;
 };
 
-// GB/T 707-1988, GB/T 706-1988, GB/T 9787-1988.
+// Rows of the catalogue (GB/T 707, GB/T 706 and GB/T 9787 of 1988).
 const CSection kSections[] = {
     {kChannels, L"[10", 1274.8, 15.2, 32.8, 50, 50, 198.3e4, 25.6e4},
     {kChannels, L"[5", 692.8, 13.5, 23.5, 25, 25, 26.0e4, 8.3e4},
-    {kBeams, L"I20a", 3557.8, 50, 50, 100, 100, 2370e4, 158e4},
-    {kAngles, L"L75X5", 741.2, 20.4, 54.6, 20.4, 54.6, 39.97e4, 39.97e4},
+    {kBeams, L"I20a", 3557.8, 50, 50, 100, 100, 2368.6e4, 157.9e4},
+    {kAngles, L"L75X5", 741.2, 20.3, 54.7, 20.3, 54.7, 39.96e4, 39.96e4},
 };
 const CSection &kC10 = kSections[0], &kC5 = kSections[1], &kI20a = kSections[2];
 const CSection& kL75 = kSections[3];
-
-void AddTable(const CString& folder, const wchar_t* name) {
-  CDataTable table;
-  table.SetTableName(name);
-  table.SetSaveTablePath(folder);
-  table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
-  for (const wchar_t* sign : {L"h(mm)", L"b(mm)", L"A(cm^2)", L"Ix(cm^4)", L"Iy(cm^4)", L"zo(cm)"})
-    table.AddTableCol(sign, sign, CDataTypeStruct::KVBT_DOUBLE, 0);
-  for (const CSection& s : kSections) {
-    if (s.table != name) continue;
-    CString row = s.no;
-    for (const double value :
-         {s.below + s.above, s.left + s.right, s.area / 1e2, s.ix / 1e4, s.iy / 1e4, s.left / 10})
-      row += L"," + orv3::FormatShortest(value);
-    ASSERT_EQ(table.AddTableItem(row, 1), 1);
-  }
-  ASSERT_EQ(table.WriteSystemJmTable(), 1);
-}
 
 struct CLimb {
   const CSection* section;
@@ -77,19 +59,7 @@ CSteelItemGeGou RowOf(const CColumn& column) {
   return row;
 }
 
-class Lattice : public testing::Test {
- public:
-  Lattice() {
-    orv3::SetProgramPath(m_folder.Path());
-    for (const wchar_t* table : {kChannels, kBeams, kAngles}) AddTable(m_folder.Path(), table);
-  }
-  Lattice(const Lattice&) = delete;
-  Lattice& operator=(const Lattice&) = delete;
-  ~Lattice() override { orv3::SetProgramPath(L""); }
-
- private:
-  CTempFolder m_folder;
-};
+class Lattice : public CatalogueStore {};
 
 double Cell(const CDataItem& row, const wchar_t* sign) {
   return orv3::ToDouble(row[sign].m_strValue);
@@ -221,25 +191,6 @@ TEST_F(Lattice, LimbRows) {
 }
 
 // --- Properties ----------------------------------------------------------------------------------
-
-// Two channels toe to toe, 800 between centroids, by hand.
-TEST_F(Lattice, TwoChannels) {
-  CSteelItemGeGou row = RowOf({2, 0, 800, {{&kC10, 90}, {&kC10, 270}}});
-  ASSERT_EQ(row.CalSteelJMGeGou(), 1);
-  const struct {
-    const wchar_t* sign;
-    const wchar_t* text;
-  } cells[] = {
-      {L"A(mm^2)", L"2549.6"},     {L"xo(mm)", L"0"},
-      {L"yo(mm)", L"400"},         {L"Ix(mm^4)", L"4.08448E+08"},  // 2 (25.6e4 + 1274.8 * 400^2)
-      {L"Iy(mm^4)", L"3.966E+06"},                                 // 2 * 198.3e4
-      {L"Wx1(mm^3)", L"983738"},                                   // / (400 + 15.2)
-      {L"Wx2(mm^3)", L"983738"},   {L"WyL(mm^3)", L"79320"},       // 3.966e6 / 50
-      {L"WyR(mm^3)", L"79320"},    {L"ixo(mm)", L"400.251"},       // sqrt(400^2 + 25.6e4 / 1274.8)
-      {L"iyo(mm)", L"39.4403"},                                    // sqrt(198.3e4 / 1274.8)
-  };
-  for (const auto& cell : cells) EXPECT_EQ(row[cell.sign].m_strValue, cell.text);
-}
 
 TEST_F(Lattice, ParallelAxesOnTheDrawnPlacement) {
   const CColumn columns[] = {

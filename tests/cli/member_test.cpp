@@ -16,32 +16,6 @@ CRunResult Check(const std::string& text, const std::string& options = "") {
   return RunProgram("check member " + file.m_strPath + " " + options + kData);
 }
 
-TEST(Member, EnvelopeNamesTheCombinationOfEachCheck) {
-  const std::string cases = "{" + kBody +
-                            R"(, "cases": [{"id": "A", "N": -1500},)"
-                            R"( {"id": "B", "N": -100, "Mx": [200000, 0]}]})";
-  const Json envelope = Json::parse(Check(cases, "--json").m_strOut);
-  double worst = 0;
-  for (const Json& check : envelope["checks"]) {
-    double greatest = 0;
-    std::string of;
-    for (const char* forces : {R"("N": -1500)", R"("N": -100, "Mx": [200000, 0])"}) {
-      const Json one = Json::parse(Check("{" + kBody + ", " + forces + "}", "--json").m_strOut);
-      for (const Json& each : one["checks"]) {
-        if (each["name"] != check["name"] || each["ratio"].get<double>() <= greatest) continue;
-        greatest = each["ratio"].get<double>();
-        of = std::string(forces).find("Mx") == std::string::npos ? "A" : "B";
-        EXPECT_TRUE(check["case"] != of || each["steps"] == check["steps"]);
-      }
-    }
-    EXPECT_EQ(check["ratio"].get<double>(), greatest) << check["name"];
-    EXPECT_EQ(check["case"], of) << check["name"];
-    worst = std::max(worst, greatest);
-  }
-  EXPECT_EQ(envelope["ratio"].get<double>(), worst);
-  ExpectHas(Check(cases, "--csv").m_strOut, {"lateral: B", "stability-z: A"});
-}
-
 TEST(Member, BothEditionsAndReport) {
   const COwnFile report("member.html");
   const std::string text = "[{" + kBody + R"(, "id": "<C1>", "N": -800}, {"N": 1}])";
@@ -51,17 +25,6 @@ TEST(Member, BothEditionsAndReport) {
   EXPECT_EQ(answer[0]["editions"][0]["code"], "2017");
   EXPECT_EQ(answer[0]["editions"][1]["code"], "2003");
   ExpectHas(report.Bytes(), {"2 pass", "2 refused", "&lt;C1&gt;", "D.0.5"});
-}
-
-TEST(Member, LatticeColumn) {
-  const std::string column =
-      R"x({"section": {"lattice": {"table": "双肢格构柱", "k(mm)": 300, "P1Type": "热轧普通槽钢",)x"
-      R"x( "P1No.": "[20a", "P1θ°": 90, "P2Type": "热轧普通槽钢", "P2No.": "[20a", "P2θ°": 270},)x"
-      R"x( "lacing": {"type": "lacing", "table": "热轧等边角钢", "no": "L45X5"}}, "steel": "Q235",)x"
-      R"x( "N": -600, "Mx": 20000, "lengths": {"x": 6000, "y": 6000}})x";
-  const Json answer = Json::parse(Check(column, "--json").m_strOut);
-  EXPECT_EQ(answer["checks"].back()["name"], "lacing");
-  EXPECT_NEAR(answer["results"]["A"].get<double>(), 5767.4, 1e-6);
 }
 
 TEST(Member, RefusedByName) {

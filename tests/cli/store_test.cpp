@@ -199,24 +199,6 @@ TEST_F(StoreCommand, ChangesTheRowThatTheKeyNames) {
   ExpectHas(FileBytes(File(L"out.csv")), {"key,c:text\nx,2,r\n"});
 }
 
-TEST_F(StoreCommand, RefusesAHundredthTableAndARecordThatDoesNotFit) {
-  {
-    orv3::CStoreBatch batch(orv3::FromUtf8(m_store));
-    for (int i = 0; i < 99; ++i) {
-      CDataTable table;
-      table.SetTableName(L"t" + orv3::FormatInt(i));
-      table.AddTableCol(L"型号", L"No.", CDataTypeStruct::KVBT_STRING, 1);
-      ASSERT_EQ(table.WriteTable(orv3::FromUtf8(m_store), 0, 0), 1);
-    }
-    ASSERT_TRUE(batch.Commit());
-  }
-  const std::string before = FileBytes(m_store);
-  ExpectRefused({{On(AddH("H1")), {"room for 99"}}});
-  Put(L"t0.csv", "No.\n" + Lines(2500));
-  ExpectHas(Import("--table t0 " + Quoted(L"t0.csv"), 2)[0]["why"], {"room for 200", "2500 rows"});
-  EXPECT_TRUE(FileBytes(m_store) == before);
-}
-
 TEST_F(StoreCommand, ImportsCsvAndTellsWhatBecameOfEachRow) {
   const wchar_t* const name = L"自定义对称H型钢.csv";
   Put(name,
@@ -468,13 +450,6 @@ TEST_F(StoreCommand, TellsFaultsOfATableFile) {
   EXPECT_EQ(told["faults"][0]["offset"], 20100 + 3200);
   EXPECT_EQ(JsonOf("store verify \"" + m_store + "\""),
             (Json{{"ok", true}, {"faults", Json::array()}, {"notes", Json::array()}}));
-  bytes = FileBytes(m_store);
-  bytes.replace(20100 + 3200 + 1081, 8, "\x26\x22\x22\x22\x26\x22\x22\x22");  // a second row
-  Put(L"longer.KDB", bytes);
-  const Json notes = JsonOf("store verify " + Quoted(L"longer.KDB"))["notes"];
-  ASSERT_EQ(notes.size(), 1U);
-  EXPECT_EQ(notes[0]["table"], kH);
-  EXPECT_EQ(notes[0]["offset"], 20100 + 3200 + 1081);
   ExpectRefused({{"store info " + Quoted(L"none.KDB"), {}, 3}});
 }
 

@@ -42,4 +42,15 @@ CASE With(CASE input, const std::vector<CChange>& changes) {
   return input;
 }
 
+// Two columns of three M20 with room between them and to the edges.
+inline CBoltCase SixBolts() {
+  return With(CBoltCase(), {{"cols", 2},
+                            {"rows", 3},
+                            {"colSpace", 70},
+                            {"rowSpace", 80},
+                            {"d", 20},
+                            {"ex", 50},
+                            {"ey", 50}});
+}
+
 }  // namespace orv3

@@ -11,26 +11,11 @@ namespace {
 
 // M20 of class C in 12 mm plates of Q235, 2 x 3, spacings and edges above the detailing minima.
 CBoltCase Ordinary() {
-  CBoltCase input;
-  input.m_nCols = 2;
-  input.m_nRows = 3;
-  input.m_colSpace.m_dUniform = 70;
-  input.m_rowSpace.m_dUniform = 80;
-  input.m_nD = 20;
-  input.m_dSumT = input.m_dThick = 12;
-  input.m_nNv = 1;
-  input.m_dVx = 60;
-  input.m_dEx = input.m_dEy = 50;
-  input.m_nClass = 2;
-  return input;
+  return With(SixBolts(), {{"sumT", 12}, {"t", 12}, {"nv", 1}, {"Vx", 60}, {"class", 2}});
 }
 
 CBoltCase Friction() {
-  CBoltCase input = Ordinary();
-  input.m_nType = kFrictionBolt;
-  input.m_nNf = 1;
-  input.m_nGrade = 4;
-  return input;
+  return With(Ordinary(), {{"type", kFrictionBolt}, {"nf", 1}, {"grade", 4}});
 }
 
 CFilletCase Fillet() {

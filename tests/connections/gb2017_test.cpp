@@ -15,40 +15,23 @@ constexpr int kQ235 = 0, kQ345 = 1, kQ355 = 2, kQ420 = 4, kQ460 = 5, kQ345GJ = 6
 
 // Six M20 of 10.9 in a plate of Q345, 16 mm; spacings and edges as Table 11.5.2 asks.
 CBoltCase2017 Friction() {
-  CBoltCase2017 input;
-  input.m_nType = kFrictionBolt;
-  input.m_nCols = 2;
-  input.m_nRows = 3;
-  input.m_colSpace.m_dUniform = 70;
-  input.m_rowSpace.m_dUniform = 80;
-  input.m_nD = 20;
-  input.m_nNf = 2;
-  input.m_nSurface = 1;
-  input.m_dVx = 400;
-  input.m_dEx = input.m_dEy = 50;
-  input.m_dThick = 16;
-  input.m_nSteel = kQ345;
-  input.m_nGrade = 4;
-  return input;
+  return With(CBoltCase2017(SixBolts()), {{"type", kFrictionBolt},
+                                          {"nf", 2},
+                                          {"surface", 1},
+                                          {"Vx", 400},
+                                          {"t", 16},
+                                          {"steel", kQ345},
+                                          {"grade", 4}});
 }
 
 CBoltCase2017 Bearing() {
-  CBoltCase2017 input = Friction();
-  input.m_nType = kBearingBolt;
-  input.m_nNv = 1;
-  input.m_dSumT = 16;
-  return input;
+  return With(Friction(), {{"type", kBearingBolt}, {"nv", 1}, {"sumT", 16}});
 }
 
 // Class C, 4.6, of Q235.
 CBoltCase2017 Ordinary() {
-  CBoltCase2017 input = Bearing();
-  input.m_nType = kOrdinaryBolt;
-  input.m_nGrade = 0;
-  input.m_nClass = 2;
-  input.m_nSteel = kQ235;
-  input.m_dVx = 60;
-  return input;
+  return With(Bearing(),
+              {{"type", kOrdinaryBolt}, {"grade", 0}, {"class", 2}, {"steel", kQ235}, {"Vx", 60}});
 }
 
 TEST(Gb2017, BoltGroupsByHand) {
@@ -63,7 +46,6 @@ TEST(Gb2017, BoltGroupsByHand) {
     double utilisation;
     const char* key;
   } cases[] = {
-      {"11.4.2: 0.9 k nf mu P", Friction(), 400 / 6.0 / (0.9 * 2 * 0.40 * 155), "passForces"},
       {"slots across the force, k 0.7", With(Friction(), {{"hole", 2}, {"Vx", 100}}),
        100 / 6.0 / (0.9 * 0.7 * 2 * 0.40 * 155), "passForces"},
       {"which a torque turns: k 0.6", With(Friction(), {{"hole", 2}, {"Vx", 0}, {"T", -6000}}),
@@ -81,10 +63,8 @@ TEST(Gb2017, BoltGroupsByHand) {
        7000 * 85 / unevenY2 / (area * 500), "passForces"},
       {"a compression N takes nothing off the shear", With(Friction(), {{"N", -500}}),
        400 / 6.0 / 111.6, "passForces"},
-      {"11.4.3: threads in the shear plane unless said", Bearing(), 400 / 6.0 / (area * 310),
-       "passForces"},
-      {"and outside", With(Bearing(), {{"threads", 1}}), 400 / 6.0 / (kPi / 4 * 0.4 * 310),
-       "passForces"},
+      {"11.4.3: threads outside the shear plane", With(Bearing(), {{"threads", 1}}),
+       400 / 6.0 / (kPi / 4 * 0.4 * 310), "passForces"},
       {"bearing over 1.2 with tension", With(Bearing(), {{"nv", 2}, {"sumT", 8}, {"N", 6}}),
        400 / 6.0 / (20 * 8 * 0.590 / 1.2), "passForces"},
       {"11.4.5 for ordinary bolts: 400 mm of 15 d0 = 322.5",
@@ -170,16 +150,14 @@ TEST(Gb2017, BoltGroupsAreRefusedByKey) {
 
 // 240 x 8 of Q345, E50: throat 5.6.
 CFilletCase2017 Fillet() {
-  CFilletCase2017 input;
-  input.m_nLoadCase = 4;
-  input.m_nSteel = kQ345;
-  input.m_dLw = 240;
-  input.m_dN = 60;
-  input.m_dV = -120;
-  input.m_dBetaF = 1.22;
-  input.m_dHf = 8;
-  input.m_dAngle = 90;
-  return input;
+  return With(CFilletCase2017(), {{"case", 4},
+                                  {"steel", kQ345},
+                                  {"lw", 240},
+                                  {"N", 60},
+                                  {"V", -120},
+                                  {"betaF", 1.22},
+                                  {"hf", 8},
+                                  {"angle", 90}});
 }
 
 TEST(Gb2017, FilletWeldsByHand) {
@@ -198,7 +176,6 @@ TEST(Gb2017, FilletWeldsByHand) {
     double utilisation;
     double alphaF = 1;
   } cases[] = {
-      {"11.2.2", Fillet(), combined(sigma / 1.22, tau) / 200},
       {"two equal welds", With(Fillet(), {{"welds", 2}}), combined(sigma / 1.22, tau) / 400},
       {"N < 0 and M", With(Fillet(), {{"N", -60}, {"M", 2000}}),
        combined((sigma + 6 * 2000e3 / (5.6 * 240 * 240)) / 1.22, tau) / 200},
@@ -212,8 +189,6 @@ TEST(Gb2017, FilletWeldsByHand) {
        With(Fillet(), {{"hf", 0}, {"s", 10}, {"angle", 45}, {"groove", 1}}),
        combined(60e3 / (7 * 240.0), 120e3 / (7 * 240.0) / 0.9) / 200},
       {"60 hf of a lap weld", lap(360, 6), 120e3 / (4.2 * 360) / 200},
-      {"11.2.6: 480 mm of 60 hf = 360", lap(480, 6),
-       120e3 / (4.2 * 480) / 200 / (1.5 - 480 / 720.0), 1.5 - 480 / 720.0},
       {"not below 0.5", lap(900, 6), 120e3 / (4.2 * 900) / 100, 0.5},
       {"no lap, no reduction", With(Fillet(), {{"case", 3}, {"N", 0}, {"lw", 900}}),
        120e3 / (5.6 * 900) / 200},
@@ -299,13 +274,11 @@ TEST(Gb2017, ButtWeldsByHand) {
 
 // Two upright welds of 6 mm, 200 long and 100 apart, and 60 kN upwards 200 beside their centroid.
 CWeldGroupCase Bracket() {
-  CWeldGroupCase input;
-  input.m_arrWeld = {0, 0, 0, 200, 6, 100, 200, 100, 0, 6};
-  input.m_dBetaF = 1.22;
-  input.m_dVy = 60;
-  input.m_dX = 250;
-  input.m_dY = 100;
-  return input;
+  return With(CWeldGroupCase(), {{"welds", 0, {0, 0, 0, 200, 6, 100, 200, 100, 0, 6}},
+                                 {"betaF", 1.22},
+                                 {"Vy", 60},
+                                 {"x", 250},
+                                 {"y", 100}});
 }
 
 TEST(WeldGroup, ByHand) {

@@ -15,19 +15,10 @@ namespace {
 
 // M20 of class C in 10 mm plates of Q235 (sum of thicknesses 20): shank in one plane 43.982 kN,
 // tension 41.594 kN.
-CBoltCase Ordinary(int cols, int rows, double colSpace, double rowSpace) {
-  return {.m_nCols = cols,
-          .m_nRows = rows,
-          .m_colSpace = {colSpace, {}},
-          .m_rowSpace = {rowSpace, {}},
-          .m_nD = 20,
-          .m_dSumT = 20,
-          .m_nNv = 1,
-          .m_nNf = 1,
-          .m_dEx = 50,
-          .m_dEy = 50,
-          .m_dThick = 10,
-          .m_nClass = 2};
+CBoltCase Ordinary(double cols, double rows, double colSpace, double rowSpace) {
+  const CBoltCase grid = With(
+      SixBolts(), {{"cols", cols}, {"rows", rows}, {"colSpace", colSpace}, {"rowSpace", rowSpace}});
+  return With(grid, {{"sumT", 20}, {"t", 10}, {"nv", 1}, {"nf", 1}, {"class", 2}});
 }
 
 // The utilisation that governs, by hand; the record's verdict beside it.

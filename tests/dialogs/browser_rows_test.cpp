@@ -493,6 +493,14 @@ class BrowserImport : public BrowserRows {
     EXPECT_EQ(table.WriteTable(m_store.Path(L"in.KDB"), kSystemKind, 1), 1);
     m_user.m_arrOpen = {m_store.Path(L"in.KDB")};
   }
+  // What is told after the question whether to overwrite.
+  std::string ToldBy(CBrowserModel& model, CMessageAnswer overwrite) {
+    m_user.m_arrAnswer = {overwrite};
+    model.Import();
+    const auto messages = m_user.TakeMessages();
+    EXPECT_EQ(messages.size(), 2U);
+    return messages.empty() ? "" : messages.back();
+  }
 };
 
 TEST_F(BrowserImport, OverwritesOnlyWhenAsked) {
@@ -525,11 +533,7 @@ TEST_F(BrowserImport, TellsFilesThatAreNone) {
   }
   m_user.m_arrOpen.push_back(m_store.Path(L"none.KDB"));
   m_user.m_arrOpen.push_back(m_store.Path(L"other.KDB"));
-  m_user.m_arrAnswer = {CMessageAnswer::No};
-  model->Import();
-  const auto messages = m_user.TakeMessages();
-  ASSERT_EQ(messages.size(), 2U);
-  EXPECT_EQ(messages[1],
+  EXPECT_EQ(ToldBy(*model, CMessageAnswer::No),
             "以下内容未能导入："
             "\nbad.Kvb：没有以此为名的型钢数据文件，应为例如DbData.kvb。"
             "\nDbData.kvb：文件已损坏或不能读取。"
@@ -548,11 +552,8 @@ TEST_F(BrowserImport, TellsRowsThatStayOut) {
   EXPECT_EQ(table.WriteTable(m_store.Path(L"own.KDB"), kSystemKind, 1), 1);
   m_user.m_arrOpen = {m_store.Path(L"own.KDB")};
   auto model = Open(kI, L"I22a");
-  m_user.m_arrAnswer = {CMessageAnswer::Yes};
-  model->Import();
-  const auto messages = m_user.TakeMessages();
-  ASSERT_EQ(messages.size(), 2U);
-  EXPECT_EQ(messages[1], "以下内容未能导入：\nown.KDB，热轧普通工字钢：1 条记录（I22a）");
+  EXPECT_EQ(ToldBy(*model, CMessageAnswer::Yes),
+            "以下内容未能导入：\nown.KDB，热轧普通工字钢：1 条记录（I22a）");
   EXPECT_STREQ(model->ItemText(2, 1), L"220");
 }
 
@@ -570,11 +571,7 @@ TEST_F(BrowserImport, TellsRowsThatContradictThemselves) {
   EXPECT_EQ(table.WriteTable(m_store.Path(L"light.KDB"), kSystemKind, 1), 1);
   m_user.m_arrOpen = {m_store.Path(L"light.KDB")};
   auto model = Open(kI, L"I20a");
-  m_user.m_arrAnswer = {CMessageAnswer::No};
-  model->Import();
-  const auto messages = m_user.TakeMessages();
-  ASSERT_EQ(messages.size(), 2U);
-  EXPECT_EQ(messages[1],
+  EXPECT_EQ(ToldBy(*model, CMessageAnswer::No),
             ToUtf8(texts::kImportDoubtful) + "\nlight.KDB，热轧轻型工字钢：1 条记录（Q99）");
   EXPECT_EQ(m_store.Numbers(kLight), "Q99");
 }

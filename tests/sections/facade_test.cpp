@@ -189,19 +189,6 @@ TEST_F(Facade, TheFirstLiveRowOfANumberIsFound) {
   EXPECT_EQ(Height(L"2", L"无键"), L"30");
 }
 
-TEST_F(Facade, UserSectionsAreFoundByTheirFilesLine) {
-  CDataTable table = SectionTable();
-  table.SetSaveTablePath(m_folder.Path());
-  AddRow(table, L"我的", L"77");
-  ASSERT_EQ(table.WriteUserJmTable(L"KVBDB001.KDB"), 1);
-  const CString line = table.m_strFileInfo;
-  const CDataItem row = CLoadDataTable::GetUserJMItem(L"工字钢", L"我的", line);
-  ASSERT_FALSE(row.IsEmpty());
-  EXPECT_EQ(row[1].m_strValue, L"77");
-  EXPECT_TRUE(CLoadDataTable::GetUserJMItem(L"工字钢", L"别的", line).IsEmpty());
-  EXPECT_TRUE(CLoadDataTable::GetUserJMItem(L"工字钢", L"我的", line + L"1").IsEmpty());
-}
-
 TEST_F(Facade, DefaultRows) {
   const struct {
     const wchar_t* table;

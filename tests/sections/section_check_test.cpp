@@ -78,14 +78,6 @@ TEST(SectionCheck, GoodAndImpossibleSizes) {
   }
 }
 
-TEST(SectionCheck, SamplesAreSections) {
-  for (const auto& style : orv3::SectionStyles()) {
-    const auto sizes = std::span(style.m_sample.m_arrSize).first(style.Sizes().size());
-    EXPECT_FALSE(orv3::CheckSectionSizes(style, sizes)) << style.m_szAlias;
-    EXPECT_EQ("", orv3::CheckSectionName(style.m_sample.m_szName));
-  }
-}
-
 TEST(SectionCheck, NamesThatARowWouldChange) {
   EXPECT_EQ("", orv3::CheckSectionName(L""));
   EXPECT_EQ("", orv3::CheckSectionName(L"梁 1"));

@@ -165,15 +165,6 @@ TEST_F(TableFile, TextFormsAndTransform) {
   EXPECT_EQ(info.TranToFake(), CDataTable::TransStringToFake(L"A,,,91,,,3,,,20100,,,-5"));
 }
 
-TEST_F(TableFile, LongTextsAndLineFeedsAreCut) {
-  CDataTable table = SectionTable();
-  AddRow(table, L"1234567890123456789012345678901", L"7\n8");
-  AddRow(table, L"one\ntwo", L"9");
-  ASSERT_EQ(Save(table), 1);
-  EXPECT_EQ(Rows(Loaded(m_path)),
-            (std::vector<std::string>{"123456789012345678901234567890=7", "one=9"}));
-}
-
 // A row of 2 columns has 91 bytes: "0,,,0,,," takes 8, ",,," three of the others.
 TEST_F(TableFile, ACutNeverShowsHalfACharacter) {
   const CString chinese(L'号', 30);

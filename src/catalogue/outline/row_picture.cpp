@@ -39,6 +39,14 @@ std::optional<CPoint> BasePoint(const CDataItem& row) {
 
 }  // namespace
 
+CDrawing RowPictureDrawing(const CDataItem& row, double angle) {
+  return RowPictureDrawing(row, angle, nullptr);
+}
+
+std::string RowPictureSvg(const CDataItem& row, double angle) {
+  return RowPictureSvg(row, angle, nullptr);
+}
+
 CDrawing RowPictureDrawing(const CDataItem& row, double angle, const CExactProperties* exact,
                            CLanguage language) {
   const int quarters = QuarterTurns(angle);

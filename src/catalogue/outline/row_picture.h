@@ -14,12 +14,15 @@ namespace orv3 {
 // The outline of RowOutline (row_outline.h) with the row's table and number, the centroid with the
 // axes through it, and the sizes that the table gives; user-defined rows with their base point too.
 // A row without an outline is named in writing.
-// With its exact properties also the shear center, the plastic axes and slant principal axes.
-ORV3CAL_API CDrawing RowPictureDrawing(const CDataItem& row, double angle = 0,
-                                       const CExactProperties* exact = nullptr,
+ORV3CAL_API CDrawing RowPictureDrawing(const CDataItem& row, double angle = 0);
+ORV3CAL_API std::string RowPictureSvg(const CDataItem& row, double angle = 0);
+// With its exact properties, where there are any, also the shear center, the plastic axes and slant
+// principal axes.
+ORV3CAL_API CDrawing RowPictureDrawing(const CDataItem& row, double angle,
+                                       const CExactProperties* exact,
                                        CLanguage language = CLanguage::Chinese);
-ORV3CAL_API std::string RowPictureSvg(const CDataItem& row, double angle = 0,
-                                      const CExactProperties* exact = nullptr,
+ORV3CAL_API std::string RowPictureSvg(const CDataItem& row, double angle,
+                                      const CExactProperties* exact,
                                       CLanguage language = CLanguage::Chinese);
 
 }  // namespace orv3

@@ -106,6 +106,9 @@ ORV3CAL_API std::vector<CCaseFault> BoltFaults(const CBoltCase& input);
 // where the judged figures are not the record's.
 ORV3CAL_API std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record,
                                                    const CBoltFigures& figures, int threads);
+// As of a case that does not say where the threads are.
+ORV3CAL_API std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record,
+                                                   const CBoltFigures& figures);
 
 extern const char* const kBoltGrades[5];
 extern const CTextLiteral kBoltTypeNames[3];

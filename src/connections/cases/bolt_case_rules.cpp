@@ -229,6 +229,10 @@ std::vector<CCaseFault> BoltFaults(const CBoltCase& input) {
   return faults.Take();
 }
 
+std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record, const CBoltFigures& figures) {
+  return BoltWarnings(record, figures, CBoltCase().m_nThreads);
+}
+
 std::vector<CCaseWarning> BoltWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                                        int threads) {
   std::vector<CCaseWarning> warnings;

@@ -33,22 +33,6 @@ CCaseFault Unsymmetric() {
       {"是不对称截面，不在验算范围内", "is an unsymmetric section, which is not covered"});
 }
 
-bool IsColdFormed(CSectionKind kind) {
-  switch (kind) {
-    case K::SquareTube:
-    case K::RoundTube:
-    case K::ColdChannel:
-    case K::LippedChannel:
-    case K::LippedZ:
-    case K::SlantLippedZ:
-    case K::ColdAngle:
-    case K::LippedAngle:
-      return true;
-    default:
-      return false;
-  }
-}
-
 // Area and height above the inner edge of a flange of two root fillets of radius r, as shares.
 constexpr double kFilletArea = 0.4292;   // (2 - pi/2) r^2
 constexpr double kFilletReach = 0.2234;  // of r
@@ -428,9 +412,9 @@ std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member
 }
 
 std::optional<CCaseFault> ThinWalled(const CDataItem& row) {
-  const auto kind = FindSectionKind(row.GetTableName().GetString());
+  const CSectionTable* table = FindSectionTable(row.GetTableName().GetString());
   const int index = row.GetSignIndex(L"t(mm)");
-  if (!kind || !IsColdFormed(*kind) || index < 0) return std::nullopt;
+  if (!table || table->m_forming != CForming::Cold || index < 0) return std::nullopt;
   const double t = ToDouble(row[index].m_strValue);
   if (t >= 6) return std::nullopt;
   const std::string is = ToUtf8(FormatShortest(t));
