@@ -15,6 +15,8 @@ namespace {
 // An outline of size 1 lies on a grid of this many steps, for questions of side alone; the mesh
 // keeps the points themselves.
 constexpr double kGrid = 1 << 28;
+// Nearer points are one, as CheckOutline has it.
+constexpr double kSame = 1e-9;
 constexpr int kArcTrials = 6;
 constexpr double kArcReach = 1.5;
 constexpr std::size_t kMostGraded = 2000;  // triangles
@@ -147,6 +149,12 @@ std::vector<CSectionMesh> TryMeshes(std::span<const CPath> loops, int arcs, cons
   for (std::size_t i = 0; i < all.m_arrStretch.size(); ++i) {
     const int from = points.Add(all.At(all.m_arrStretch[i], 0));
     const int to = points.Add(all.At(all.m_arrStretch[i], 1));
+    // What the grid cannot tell apart must be no gap, wall or edge.
+    const auto strays = [&](int v, double at) {
+      const CPoint p = all.At(all.m_arrStretch[i], at), q = points.Points()[Index(v)];
+      return std::hypot(p.x - q.x, p.y - q.y) > kSame;
+    };
+    if (strays(from, 0) || strays(to, 1)) return {};
     if (from == to) continue;
     edges.push_back({from, to});
     stretches[Key(from, to)] = static_cast<int>(i);
