@@ -169,10 +169,7 @@ bool HasCapacities(const CDataTable& table) {
 void PrintRowsJson(const COptions& options, const CDataTable& table,
                    const std::map<int, CExactProperties>& exacts) {
   CJson json = TableJson(options.table, table);
-  for (CJson& row : json["rows"]) {
-    const auto exact = exacts.find(row["index"].get<int>());
-    if (exact != exacts.end()) AddAccuracyJson(row, exact->second);
-  }
+  AddAccuracies(json, exacts);
   if (HasCapacities(table)) json["notes"] = {AngleCapacityBasis().In(MessageLanguage())};
   PrintJson(json);
 }

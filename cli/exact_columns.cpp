@@ -74,6 +74,13 @@ std::map<int, CExactProperties> AddExactColumns(CDataTable& table,
   return AddColumns(table, keys);
 }
 
+void AddAccuracies(CJson& table, const std::map<int, CExactProperties>& exacts) {
+  for (CJson& row : table["rows"]) {
+    const auto exact = exacts.find(row["index"].get<int>());
+    if (exact != exacts.end()) AddAccuracyJson(row, exact->second);
+  }
+}
+
 const std::vector<std::string>& ExactSigns() {
   static const std::vector<std::string> signs = [] {
     std::vector<std::string> all;

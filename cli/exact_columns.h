@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "outlines/exact_properties.h"
+#include "output.h"
 #include "tables/data_table.h"
 #include "tables/expression.h"
 
@@ -16,6 +17,9 @@ namespace orv3::cli {
 // signs are passed over. Answers the rows' properties by GetItemIndex; empty without a column.
 std::map<int, CExactProperties> AddExactColumns(CDataTable& table,
                                                 const std::vector<std::string>& signs);
+
+// "accurate" and "errors" (exact_view.h) with each row of a TableJson that has exact properties.
+void AddAccuracies(CJson& table, const std::map<int, CExactProperties>& exacts);
 
 // The signs of all of them.
 const std::vector<std::string>& ExactSigns();

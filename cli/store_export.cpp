@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -90,10 +91,15 @@ std::string CsvText(const std::vector<CDataTable>& tables, bool guard) {
   return text;
 }
 
-std::string JsonText(const std::vector<CDataTable>& tables) {
+// By table, and by row of it.
+using CTablesExact = std::vector<std::map<int, CExactProperties>>;
+
+std::string JsonText(const std::vector<CDataTable>& tables, const CTablesExact& exacts) {
   CJson list = CJson::array();
   for (const CDataTable& table : tables) {
-    list.push_back(TableJson(ToUtf8(table.GetTableName()), table));
+    CJson json = TableJson(ToUtf8(table.GetTableName()), table);
+    if (!exacts.empty()) AddAccuracies(json, exacts[list.size()]);
+    list.push_back(std::move(json));
   }
   return CJson{{"tables", list}}.dump(2) + "\n";
 }
@@ -179,7 +185,7 @@ void RefuseOwnStore(const CString& store, const std::string& to) {
 }
 
 // A table file holds what a store holds.
-void AddExactFigures(std::vector<CDataTable>& tables, const std::string& to) {
+CTablesExact AddExactFigures(std::vector<CDataTable>& tables, const std::string& to) {
   if (HasExtension(to, ".kdb")) {
     Refuse(Say("--exact：.KDB 文件只存表中的列；请用 .xlsx、.csv 或 .json",
                "--exact: a .KDB file keeps the table's own columns; right would be .xlsx, .csv or "
@@ -190,12 +196,15 @@ void AddExactFigures(std::vector<CDataTable>& tables, const std::string& to) {
         Say("--exact：.ifc 文件本来就含这些量；请不写此选项",
             "--exact: an .ifc file has these figures anyway; right would be without the option"));
   }
-  for (CDataTable& table : tables) AddExactColumns(table, ExactSigns());
+  CTablesExact exacts;
+  for (CDataTable& table : tables) exacts.push_back(AddExactColumns(table, ExactSigns()));
+  return exacts;
 }
 
-std::string Content(const COptions& options, std::vector<CDataTable>& tables, int kind) {
+std::string Content(const COptions& options, std::vector<CDataTable>& tables,
+                    const CTablesExact& exacts, int kind) {
   if (HasExtension(options.to, ".csv")) return CsvText(tables, options.guard);
-  if (HasExtension(options.to, ".json")) return JsonText(tables);
+  if (HasExtension(options.to, ".json")) return JsonText(tables, exacts);
   if (HasExtension(options.to, ".ifc")) return IfcText(tables, "Orv3Cal");
   if (HasExtension(options.to, ".xlsx")) return WorkbookBytes(options.to, tables);
   // An interrupted save of a store that was here before has no say in the new one.
@@ -222,8 +231,9 @@ void RunExport(const COptions& options) {
   CStoreInfo info;
   if (!ReadStoreInfo(store, info)) Fail(LastStoreError().m_strText);
   std::vector<CDataTable> tables = TablesAtOnce(store, options);
-  if (options.exact) AddExactFigures(tables, options.to);
-  WriteFile(options.to, Content(options, tables, info.m_nKind));
+  CTablesExact exacts;
+  if (options.exact) exacts = AddExactFigures(tables, options.to);
+  WriteFile(options.to, Content(options, tables, exacts, info.m_nKind));
   int rows = 0;
   for (const CDataTable& table : tables) rows += table.GetTableRowNum();
   const std::string count = std::to_string(tables.size());

@@ -100,6 +100,11 @@ std::optional<CSaintVenant> SolveMesh(CSectionMesh mesh, double depth, bool join
 struct CPartMeshes {
   std::vector<CSectionMesh> m_arrMesh;
   int m_nArcs = 0;
+  bool m_bFold = true;  // where the part is its own mirror image
+
+  CPartMeshes(std::span<const CPath> loops, bool fold) : m_bFold(fold) {
+    m_arrMesh = MeshesOfPart(loops, m_nArcs, fold);
+  }
 };
 
 // The best solution of each mesh; meshes that cannot be refined give way to ones of shorter arcs.
@@ -123,7 +128,7 @@ std::vector<CSaintVenant> SolvePart(std::span<const CPath> loops, CPartMeshes me
       least = excess;
     }
     if (!stopped || least <= 1) break;
-    meshes.m_arrMesh = MeshesOfPart(loops, ++meshes.m_nArcs);
+    meshes.m_arrMesh = MeshesOfPart(loops, ++meshes.m_nArcs, meshes.m_bFold);
   }
   return best;
 }
@@ -172,10 +177,13 @@ struct CSectionSolver::CState {
   double m_scale = 1;  // lengths of the loops by those of the solutions
   CPoint m_origin;     // of the solutions' frame in that of the loops
   std::vector<CSaintVenant> m_parts;
+  std::vector<std::vector<CPath>> m_outlines;     // by mesh: its part
   std::vector<std::vector<std::size_t>> m_loops;  // by mesh and its loop: the caller's
+  double m_depth = 0;                             // of the section
 
   void Solve(std::span<const CPath> loops);
-  void TakeFigures(double depth);
+  void Unfold();
+  void TakeFigures();
   void AddStresses(std::size_t part, const CSectionForces& forces,
                    std::vector<CBoundaryStress>& to) const;
   void AddStressesInside(std::size_t part, const CSectionForces& forces,
@@ -205,7 +213,7 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
   std::vector<std::size_t> order;
   const auto parts = PartsOf(scaled, order);
   if (!parts) return;
-  const double depth = std::max(box.Width(), box.Height()) / m_scale;
+  m_depth = std::max(box.Width(), box.Height()) / m_scale;
   std::vector<CPartMeshes> meshes;
   std::size_t at = 0;
   for (const auto& part : *parts) {
@@ -213,21 +221,21 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
         order.begin() + static_cast<std::ptrdiff_t>(at),
         order.begin() + static_cast<std::ptrdiff_t>(at + part.size()));
     at += part.size();
-    CPartMeshes& found = meshes.emplace_back();
-    found.m_arrMesh = MeshesOfPart(part, found.m_nArcs);
+    const CPartMeshes& found = meshes.emplace_back(part, true);
     if (found.m_arrMesh.empty()) return;
     m_loops.insert(m_loops.end(), found.m_arrMesh.size(), own);
+    m_outlines.insert(m_outlines.end(), found.m_arrMesh.size(), part);
   }
   m_properties.m_bJoined = m_loops.size() == 1;
   for (std::size_t i = 0; i < meshes.size(); ++i) {
-    auto solved = SolvePart((*parts)[i], std::move(meshes[i]), depth, m_properties.m_bJoined);
+    auto solved = SolvePart((*parts)[i], std::move(meshes[i]), m_depth, m_properties.m_bJoined);
     if (solved.empty()) {
       m_parts.clear();
       return;
     }
     std::move(solved.begin(), solved.end(), std::back_inserter(m_parts));
   }
-  TakeFigures(depth);
+  TakeFigures();
   CExactProperties& p = m_properties;
   if (std::isnan(p.xs)) return;
   const CThirdMoments third = ThirdMoments(loops, {m_origin.x + p.xo, m_origin.y + p.yo});
@@ -236,7 +244,21 @@ void CSectionSolver::CState::Solve(std::span<const CPath> loops) {
   p.betay = beyondRounding(third.forY / p.Iy - 2 * (p.xs - p.xo));
 }
 
-void CSectionSolver::CState::TakeFigures(double depth) {
+// Parts whose halves have given the figures are solved once more as a whole, for the stresses.
+void CSectionSolver::CState::Unfold() {
+  for (std::size_t i = 0; i < m_parts.size(); ++i) {
+    if (!m_parts[i].IsFolded()) continue;
+    const auto& part = m_outlines[i];
+    auto whole = SolvePart(part, CPartMeshes(part, false), m_depth, m_properties.m_bJoined);
+    if (whole.size() != 1) {
+      m_parts.clear();
+      return;
+    }
+    m_parts[i] = std::move(whole[0]);
+  }
+}
+
+void CSectionSolver::CState::TakeFigures() {
   CExactProperties& p = m_properties;
   double area = 0;
   for (const CSaintVenant& part : m_parts) area += part.Area();
@@ -267,10 +289,10 @@ void CSectionSolver::CState::TakeFigures(double depth) {
   p.Asx = square / s.m_dFlexX;
   p.Asy = square / s.m_dFlexY;
   p.m_error = ErrorsOf(m_parts[0]);
-  p.m_bAccurate = Excess(p.m_error, depth, true) <= 1;
-  if (p.Iw < kNoIw * p.It * depth * depth * square) p.Iw = 0;
+  p.m_bAccurate = Excess(p.m_error, m_depth, true) <= 1;
+  if (p.Iw < kNoIw * p.It * m_depth * m_depth * square) p.Iw = 0;
   if (!(p.m_error.Iw <= kMostError)) p.Iw = CExactProperties::kUnknown;
-  if (!(p.m_error.center <= kMostError * depth)) p.xs = p.ys = CExactProperties::kUnknown;
+  if (!(p.m_error.center <= kMostError * m_depth)) p.xs = p.ys = CExactProperties::kUnknown;
   if (!(p.m_error.As <= kMostError)) p.Asx = p.Asy = CExactProperties::kUnknown;
   p.m_error.center *= m_scale;
 }
@@ -367,8 +389,15 @@ void CSectionSolver::CState::AddStressesInside(std::size_t part, const CSectionF
   }
 }
 
+CExactProperties ExactProperties(std::span<const CPath> loops) {
+  CSectionSolver::CState state;
+  state.Solve(loops);
+  return state.m_properties;
+}
+
 CSectionSolver::CSectionSolver(std::span<const CPath> loops) : m_state(new CState) {
   m_state->Solve(loops);
+  m_state->Unfold();
 }
 CSectionSolver::~CSectionSolver() = default;
 CSectionSolver::CSectionSolver(CSectionSolver&&) noexcept = default;

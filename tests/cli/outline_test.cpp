@@ -125,6 +125,12 @@ TEST(ExactColumns, AreFilteredSortedAndExported) {
   const COwnFile csv("exact.csv");
   EXPECT_EQ(RunProgram("store export " + table + " --exact --to " + csv.m_strPath).m_nExit, 0);
   ExpectHas(csv.Bytes(), {",It:double,Iw:double,"});
+  const COwnFile exported("exact.json");
+  EXPECT_EQ(RunProgram("store export " + table + " --exact --to " + exported.m_strPath).m_nExit, 0);
+  for (const Json& row : Json::parse(exported.Bytes())["tables"][0]["rows"]) {
+    EXPECT_TRUE(row["accurate"].get<bool>());
+    EXPECT_LT(row["errors"]["It"].get<double>(), 1e-3);
+  }
   ExpectRefused({{"store export " + table + " --exact --to x.kdb", {"--exact", ".xlsx"}}});
 }
 

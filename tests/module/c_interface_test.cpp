@@ -122,6 +122,23 @@ TEST(CSection, ComputesAnHSectionUnderEachNameOfItsStyle) {
   EXPECT_EQ(two[2], -7);
 }
 
+// A square of 100 with a hole of 20 in a corner.
+TEST(CSection, TellsHowExactItsFiguresAre) {
+  const double square[] = {0,  0,  0, 100, 0,  0, 100, 100, 0, 0,  100, 0,
+                           10, 10, 0, 30,  10, 0, 30,  30,  0, 10, 30,  0};
+  const int counts[] = {4, 4};
+  double p[ORV3_EXACT] = {};
+  ASSERT_EQ(orv3_outline_exact(square, counts, 2, p, ORV3_EXACT), ORV3_EXACT);
+  EXPECT_NEAR(p[ORV3_EXACT_A], 9600, 1e-9);
+  for (const int error : {ORV3_EXACT_ERROR_IT, ORV3_EXACT_ERROR_IW, ORV3_EXACT_ERROR_AS}) {
+    EXPECT_GT(p[error], 0);
+    EXPECT_LT(p[error], 3e-3);
+  }
+  EXPECT_GT(p[ORV3_EXACT_ERROR_CENTRE], 0);
+  EXPECT_LT(p[ORV3_EXACT_ERROR_CENTRE], 0.05);
+  EXPECT_EQ(p[ORV3_EXACT_ACCURATE], 1);
+}
+
 TEST(CSection, ListsStylesAndTheirSizes) {
   const auto styles = Lines(TextFrom(orv3_list_styles));
   ASSERT_EQ(styles.size(), 15U);

@@ -257,6 +257,24 @@ TEST(SectionSolver, AddsPartsAndSaysWhatHasNoAnswer) {
       {Polygon({{0, 0, 0}, {10, 0, 0}, {kUnasked, 5, 0}})},
   };
   for (const CLoops& loops : wrong) EXPECT_TRUE(std::isnan(ExactProperties(loops).It));
+  // A slit that closes a tube unless it is told from nothing: open, or no figures.
+  const auto slit = [](double gap) {
+    return CLoops{Polygon({{0, 0, 0},
+                           {100, 0, 0},
+                           {100, 50, 0},
+                           {0, 50, 0},
+                           {0, 25 + gap, 0},
+                           {5, 25 + gap, 0},
+                           {5, 45, 0},
+                           {95, 45, 0},
+                           {95, 5, 0},
+                           {5, 5, 0},
+                           {5, 25, 0},
+                           {0, 25, 0}})};
+  };
+  EXPECT_NEAR(ExactProperties(slit(1e-6)).It, 11717.66, 0.001 * 11717.66);
+  for (double gap : {3e-7, 2e-7, 1.5e-7, 1.1e-7})
+    EXPECT_FALSE(ExactProperties(slit(gap)).It > 12000) << gap;
 }
 
 // The greatest shear away from sharp corners, and the stress at the topmost point.

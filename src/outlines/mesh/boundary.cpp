@@ -25,6 +25,8 @@ constexpr double kNarrowGrowth = 0.8;
 constexpr double kArcStep = std::numbers::pi / 6;
 constexpr double kSagitta = 0.2;  // of an arc's stretch, by the thickness
 constexpr int kDeepest = 24;
+// Points inside keep off a line of symmetry by this part of their distance from a corner.
+constexpr double kClear = 0.3;
 
 // Where two edges of the outline meet.
 struct CCornerPoint {
@@ -44,9 +46,11 @@ struct CNarrow {
 
 class CCutter {
  public:
-  CCutter(std::span<const CPath> loops, int arcs) : m_arcs(arcs) {
+  CCutter(std::span<const CPath> loops, int arcs, const CFold& fold) : m_arcs(arcs) {
     int number = 0;
     for (const CPath& loop : loops) AddLoop(loop, number++);
+    m_folded = KeepAll();
+    if (fold.Any()) Fold(fold);
   }
 
   CBoundary Cut() {
@@ -55,15 +59,18 @@ class CCutter {
       FindThickness();
       FindNarrows();
     }
-    for (std::size_t e = 0; e < m_edges.size(); ++e) {
+    AddLine(m_folded.m_onX, CStretch::kOnX);
+    AddLine(m_folded.m_onY, CStretch::kOnY);
+    for (const auto& [e, from, to] : m_folded.m_arrKept) {
       const CEdge& edge = m_edges[e];
-      const int pieces = edge.IsArc() ? ArcPieces(e) : 1;
-      for (int i = 0; i < pieces; ++i)
-        CutStretch(e, 1.0 * i / pieces, 1.0 * (i + 1) / pieces, graded ? 0 : kDeepest);
+      const int pieces = edge.IsArc() ? ArcPieces(e, to - from) : 1;
+      const auto at = [&](int i) { return i == pieces ? to : from + (to - from) * i / pieces; };
+      for (int i = 0; i < pieces; ++i) CutStretch(e, at(i), at(i + 1), graded ? 0 : kDeepest);
     }
     if (graded) {
       AddInner();
       AddRings(m_edges, m_out.m_arrInner);
+      std::erase_if(m_out.m_arrInner, [&](CPoint p) { return m_out.m_fold.Inside(p) <= 0; });
     }
     m_out.m_arrEdge = std::move(m_edges);
     return std::move(m_out);
@@ -87,6 +94,32 @@ class CCutter {
           m_edges[in].Sweep() / m_edges[in].Length() - m_edges[out].Sweep() / m_edges[out].Length();
       corner.plain = std::fabs(corner.turn) < 1e-6 && std::fabs(bend) < 1e-6;
       m_corners.push_back(corner);
+    }
+  }
+
+  CFoldedEdges KeepAll() const {
+    CFoldedEdges all;
+    for (std::size_t e = 0; e < m_edges.size(); ++e) all.m_arrKept.push_back({e, 0, 1});
+    return all;
+  }
+
+  // Not where a sharp corner lies on a line.
+  void Fold(const CFold& fold) {
+    const auto onLine = [&](const CCornerPoint& c) {
+      return IsSharp(c) && std::fabs(fold.Inside(c.at)) < 1e-9;
+    };
+    if (std::any_of(m_corners.begin(), m_corners.end(), onLine)) return;
+    auto folded = Folded(m_edges, fold);
+    if (!folded) return;
+    m_folded = std::move(*folded);
+    m_out.m_fold = fold;
+  }
+
+  void AddLine(const std::vector<CEdge>& line, int loop) {
+    for (const CEdge& edge : line) {
+      m_folded.m_arrKept.push_back({m_edges.size(), 0, 1});
+      m_edges.push_back(edge);
+      m_loop.push_back(loop);
     }
   }
 
@@ -142,7 +175,7 @@ class CCutter {
   static bool IsSharp(const CCornerPoint& c) { return c.turn < -0.3; }
 
   // Pieces whose bulge is small beside the thickness; thin rings need many.
-  int ArcPieces(std::size_t e) const {
+  int ArcPieces(std::size_t e, double part) const {
     const CEdge& edge = m_edges[e];
     const double radius = edge.Length() / std::fabs(edge.Sweep());
     double step = kArcStep;
@@ -151,7 +184,7 @@ class CCutter {
       step = std::min(step, std::sqrt(8 * kSagitta * std::max(c.thick, 1e-6) / radius));
     }
     step /= 1 << m_arcs;
-    return std::max(1, static_cast<int>(std::ceil(std::fabs(edge.Sweep()) / step - 1e-9)));
+    return std::max(1, static_cast<int>(std::ceil(std::fabs(edge.Sweep()) * part / step - 1e-9)));
   }
 
   void CutStretch(std::size_t e, double from, double to, int depth) {
@@ -189,7 +222,7 @@ class CCutter {
       if (s.m_dTo == 1) before[e] = length;
     }
     for (const CCornerPoint& c : m_corners) {
-      if (!IsSharp(c)) continue;
+      if (!IsSharp(c) || m_out.m_fold.Inside(c.at) < 0) continue;
       m_out.m_arrCorner.push_back(c.at);
       const double inside = std::numbers::pi - c.turn;
       const CPoint d = m_edges[c.out].Derivative(0);
@@ -198,8 +231,9 @@ class CCutter {
       for (int i = 1; i < rays; ++i) {
         const double part = 1.0 * i / rays;
         const double r = std::min(after[c.out] * (1 - part) + before[c.in] * part, c.thick * 0.7);
-        m_out.m_arrInner.push_back({c.at.x + r * std::cos(start + inside * part),
-                                    c.at.y + r * std::sin(start + inside * part)});
+        const CPoint p{c.at.x + r * std::cos(start + inside * part),
+                       c.at.y + r * std::sin(start + inside * part)};
+        if (m_out.m_fold.Inside(p) > kClear * r) m_out.m_arrInner.push_back(p);
       }
     }
   }
@@ -207,6 +241,7 @@ class CCutter {
   int m_arcs;
   std::vector<CEdge> m_edges;
   std::vector<int> m_loop;
+  CFoldedEdges m_folded;
   std::vector<CCornerPoint> m_corners;
   std::vector<CNarrow> m_narrows;
   CBoundary m_out;
@@ -214,6 +249,8 @@ class CCutter {
 
 }  // namespace
 
-CBoundary CutBoundary(std::span<const CPath> loops, int arcs) { return CCutter(loops, arcs).Cut(); }
+CBoundary CutBoundary(std::span<const CPath> loops, int arcs, const CFold& fold) {
+  return CCutter(loops, arcs, fold).Cut();
+}
 
 }  // namespace orv3

@@ -15,6 +15,8 @@ namespace {
 // An outline of size 1 lies on a grid of this many steps, for questions of side alone; the mesh
 // keeps the points themselves.
 constexpr double kGrid = 1 << 28;
+// Nearer points are one, as CheckOutline has it.
+constexpr double kSame = 1e-9;
 constexpr int kArcTrials = 6;
 constexpr double kArcReach = 1.5;
 constexpr std::size_t kMostGraded = 2000;  // triangles
@@ -116,6 +118,7 @@ std::vector<CSectionMesh> Separated(const CSectionMesh& all,
     CSectionMesh mesh;
     mesh.m_arrEdge = all.m_arrEdge;
     mesh.m_arrStretch = all.m_arrStretch;
+    mesh.m_fold = all.m_fold;
     std::unordered_map<int, int> of;
     for (std::size_t i : group) {
       CMeshTriangle t = all.m_arrTriangle[i];
@@ -134,17 +137,24 @@ std::vector<CSectionMesh> Separated(const CSectionMesh& all,
   return meshes;
 }
 
-std::vector<CSectionMesh> TryMeshes(std::span<const CPath> loops, int arcs) {
-  CBoundary boundary = CutBoundary(loops, arcs);
+std::vector<CSectionMesh> TryMeshes(std::span<const CPath> loops, int arcs, const CFold& fold) {
+  CBoundary boundary = CutBoundary(loops, arcs, fold);
   CPoints points;
   std::vector<CGridEdge> edges;
   std::unordered_map<std::uint64_t, int> stretches;
   CSectionMesh all;
   all.m_arrEdge = std::move(boundary.m_arrEdge);
   all.m_arrStretch = std::move(boundary.m_arrStretch);
+  all.m_fold = boundary.m_fold;
   for (std::size_t i = 0; i < all.m_arrStretch.size(); ++i) {
     const int from = points.Add(all.At(all.m_arrStretch[i], 0));
     const int to = points.Add(all.At(all.m_arrStretch[i], 1));
+    // What the grid cannot tell apart must be no gap, wall or edge.
+    const auto strays = [&](int v, double at) {
+      const CPoint p = all.At(all.m_arrStretch[i], at), q = points.Points()[Index(v)];
+      return std::hypot(p.x - q.x, p.y - q.y) > kSame;
+    };
+    if (strays(from, 0) || strays(to, 1)) return {};
     if (from == to) continue;
     edges.push_back({from, to});
     stretches[Key(from, to)] = static_cast<int>(i);
@@ -321,11 +331,15 @@ std::vector<char> CoarseAtArcs(const CSectionMesh& mesh) {
   return marked;
 }
 
-std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs) {
+std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs, bool fold) {
+  CFold lines;
+  if (fold) lines = FoldOf(loops);
   std::vector<CSectionMesh> first;
   int found = arcs;
   for (; arcs < kArcTrials; ++arcs) {
-    auto meshes = TryMeshes(loops, arcs);
+    auto meshes = TryMeshes(loops, arcs, lines);
+    // Pieces are told from each other in the whole.
+    if (lines.Any() && meshes.size() != 1) meshes = TryMeshes(loops, arcs, lines = {});
     if (meshes.empty()) continue;
     const bool graded = std::all_of(meshes.begin(), meshes.end(), GradeToArcs);
     if (first.empty() || graded) {

@@ -8,12 +8,15 @@
 
 #include "drawing/path.h"
 #include "outlines/edge.h"
+#include "outlines/mesh/fold.h"
 
 namespace orv3 {
 
-// A stretch of an edge of the outline.
+// A stretch of an edge of the outline, or of a line that the part is mirrored in.
 struct CStretch {
-  int m_nLoop = 0;
+  static constexpr int kOnX = -1, kOnY = -2;  // the lines x = and y = of the fold
+
+  int m_nLoop = 0;                // kOnX, kOnY
   int m_nEdge = 0;                // of CSectionMesh::m_arrEdge
   double m_dFrom = 0, m_dTo = 1;  // of the edge's t, material to the left
 };
@@ -29,6 +32,7 @@ struct CSectionMesh {
   std::vector<CStretch> m_arrStretch;
   std::vector<CMeshTriangle> m_arrTriangle;
   std::vector<char> m_arrSharp;  // by vertex: a re-entrant corner
+  CFold m_fold;                  // the mesh is of what it keeps
 
   CPoint At(const CStretch& s, double part) const {
     return m_arrEdge[static_cast<std::size_t>(s.m_nEdge)].At(s.m_dFrom +
@@ -39,8 +43,8 @@ struct CSectionMesh {
 // The first mesh of a part: graded towards the ends of the edges by the local thickness. Loops of
 // size 1. More than one mesh when the part hangs together in points alone; none when its edges
 // cross. Arcs are halved at least `arcs` times, and more often where triangles ask for it: how
-// often is left there.
-std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs);
+// often is left there. A part that is its own mirror image is cut in half where `fold` says so.
+std::vector<CSectionMesh> MeshesOfPart(std::span<const CPath> loops, int& arcs, bool fold);
 
 // By triangle: whether it lies at a concave arc and is longer than 1.5 times the radius, within
 // which the stress beside such an arc falls off.

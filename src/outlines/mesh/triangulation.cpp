@@ -36,21 +36,23 @@ constexpr int Before(int i) { return i == 0 ? 2 : i - 1; }
 
 class CTriangulator {
  public:
-  CTriangulator(std::span<const CGridPoint> points, std::size_t edges)
+  CTriangulator(std::span<const CGridPoint> points, std::span<const CGridEdge> edges)
       : m_points(points.begin(), points.end()), m_count(static_cast<int>(points.size())) {
     m_points.insert(m_points.end(), {{-kFar, -kFar}, {2 * kFar, -kFar}, {-kFar, 2 * kFar}});
     m_of.assign(m_points.size(), 0);
-    m_triangles.reserve(2 * m_points.size() + edges);
+    m_triangles.reserve(2 * m_points.size() + edges.size());
+    m_ends.assign(m_points.size(), 0);
+    for (const CGridEdge& edge : edges) m_ends[Index(edge.from)] = m_ends[Index(edge.to)] = 1;
     m_triangles.push_back({{{m_count, m_count + 1, m_count + 2}, {-1, -1, -1}}, {0, 0, 0}});
     for (int i = 0; i < 3; ++i) m_of[Index(m_count + i)] = 0;
     for (int i = 0; i < m_count; ++i) Insert(i);
   }
 
-  // False when the edge crosses one that was laid before.
+  // False when the edge crosses one that was laid before, or runs through another's end.
   bool Lay(int from, int to) {
     while (from != to) {
       const int reached = LayUpToVertex(from, to);
-      if (reached < 0) return false;
+      if (reached < 0 || (reached != to && m_ends[Index(reached)])) return false;
       from = reached;
     }
     return true;
@@ -103,6 +105,7 @@ class CTriangulator {
 
   std::vector<CGridPoint> m_points;
   int m_count;
+  std::vector<char> m_ends;  // by vertex: of an edge to be laid
   std::vector<CCell> m_triangles;
   std::vector<int> m_of;  // a triangle of each vertex
   mutable int m_last = 0;
@@ -394,7 +397,7 @@ std::vector<CTriangle> CTriangulator::Inside() const {
 
 std::optional<std::vector<CTriangle>> Triangulate(std::span<const CGridPoint> points,
                                                   std::span<const CGridEdge> edges) {
-  CTriangulator triangulator(points, edges.size());
+  CTriangulator triangulator(points, edges);
   for (const CGridEdge& edge : edges) {
     if (!triangulator.Lay(edge.from, edge.to)) return std::nullopt;
   }

@@ -29,6 +29,11 @@ class CJoiner {
             {std::min(v[e], v[(e + 1) % 3]), std::max(v[e], v[(e + 1) % 3]), static_cast<int>(i)});
       }
     }
+    // Lines of symmetry stay on the border.
+    for (std::size_t i = 0; i < mesh.m_arrTriangle.size(); ++i) {
+      for (int s : mesh.m_arrTriangle[i].m_stretch)
+        m_unions[i].border += s >= 0 && mesh.m_arrStretch[Index(s)].m_nLoop < 0;
+    }
     std::sort(edges.begin(), edges.end());
     for (std::size_t i = 1; i < edges.size(); ++i) {
       if (edges[i][0] != edges[i - 1][0] || edges[i][1] != edges[i - 1][1]) continue;
@@ -227,6 +232,8 @@ void CElimination::EliminateFront(CBorder& left) {
 Eigen::Matrix3Xd CElimination::Solution() const {
   if (!m_positive) return {};
   Eigen::Matrix3Xd solution(kForces, m_sharing.size());
+  for (std::size_t i = 0; i < m_kept.size(); ++i)
+    solution.col(m_kept[i]) = m_keptValues.col(static_cast<Eigen::Index>(i));
   Eigen::Matrix3Xd border;
   for (auto e = m_eliminated.rbegin(); e != m_eliminated.rend(); ++e) {
     const auto outer = static_cast<Eigen::Index>(e->m_outer.size());

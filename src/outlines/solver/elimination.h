@@ -35,6 +35,10 @@ class CElimination {
   void Add(std::size_t element, std::span<const CRow> rows, const Eigen::MatrixXd& matrix,
            const CElementFields& force);
   void Join(std::size_t a, std::size_t b);
+  // The unknowns that are left when all is joined, where held(unknown, force) says of each whether
+  // it is held at 0; of a force for which none is, the first one is.
+  template <class Held>
+  void SolveBorder(std::size_t joined, Held held);
   // A column for each unknown; empty when the matrix is not positive.
   Eigen::Matrix3Xd Solution() const;
 
@@ -71,7 +75,28 @@ class CElimination {
   std::vector<CEliminated> m_eliminated;
   CFront m_front;
   std::vector<Eigen::Index> m_rows;
+  std::vector<int> m_kept;  // unknowns solved by SolveBorder
+  Eigen::Matrix3Xd m_keptValues;
   bool m_positive = true;
 };
+
+template <class Held>
+void CElimination::SolveBorder(std::size_t joined, Held held) {
+  const CBorder& border = m_borders[joined];
+  const auto count = static_cast<Eigen::Index>(border.unknowns.size());
+  m_kept = border.unknowns;
+  m_keptValues.setZero(kForces, count);
+  for (Eigen::Index force = 0; force < kForces && count > 0; ++force) {
+    std::vector<Eigen::Index> free;
+    for (Eigen::Index i = 0; i < count; ++i) {
+      if (!held(border.unknowns[static_cast<std::size_t>(i)], force)) free.push_back(i);
+    }
+    if (free.size() == border.unknowns.size()) free.erase(free.begin());
+    const Eigen::LLT<Eigen::MatrixXd> factor(border.m_lower(free, free));
+    m_positive = m_positive && factor.info() == Eigen::Success;
+    const Eigen::VectorXd right = border.m_lower(count + force, free).transpose();
+    m_keptValues(force, free) = factor.solve(right).transpose();
+  }
+}
 
 }  // namespace orv3

@@ -13,29 +13,50 @@ namespace {
 constexpr double kSlender = 600;
 constexpr int kCorrections = 2;
 
-// The unknowns of an element's shape functions up to a degree, with their signs. Vertex 0 of the
-// mesh is held: a constant is added to a solution freely.
+// The unknowns of an element's shape functions up to a degree, with their signs. Vertex 0 of a
+// whole part's mesh is held: a constant is added to a solution freely.
 using CNumbers = std::array<CElimination::CRow, kMaxFunctions>;
 
 // Numbered by vertices, then edges, then triangles.
 CNumbers NumbersOf(const CSectionMesh& mesh, std::size_t element, const std::array<int, 3>& edges,
                    int edgeCount, int degree) {
-  const int vertices = static_cast<int>(mesh.m_arrVertex.size());
+  const int held = mesh.m_fold.Any() ? 0 : 1;
+  const int vertices = static_cast<int>(mesh.m_arrVertex.size()) - held;
   const CMeshTriangle& t = mesh.m_arrTriangle[element];
   CNumbers numbers;
   std::size_t at = 0;
-  for (int v : t.m_vertex) numbers[at++].unknown = v - 1;
+  for (int v : t.m_vertex) numbers[at++].unknown = v - held;
   const int inner = CShapeFunctions::Count(degree) - 3 * degree;
-  int next = vertices - 1 + edgeCount * (degree - 1) + static_cast<int>(element) * inner;
+  int next = vertices + edgeCount * (degree - 1) + static_cast<int>(element) * inner;
   for (int d = 2; d <= degree; ++d) {
     for (int e = 0; e < 3; ++e) {
       const bool backwards = t.m_vertex[Index(e)] > t.m_vertex[Index((e + 1) % 3)];
-      numbers[at++] = {vertices - 1 + edges[Index(e)] * (degree - 1) + d - 2,
+      numbers[at++] = {vertices + edges[Index(e)] * (degree - 1) + d - 2,
                        backwards && d % 2 == 1 ? -1.0 : 1.0};
     }
     for (int i = 0; i <= d - 3; ++i) numbers[at++].unknown = next++;
   }
   return numbers;
+}
+
+// By unknown: 1 when it lies on the line x = of the fold, 2 on the line y =, 3 on both.
+std::vector<char> OnLines(const CSectionMesh& mesh, std::span<const CNumbers> numbers,
+                          std::size_t unknowns, int degree) {
+  std::vector<char> on(unknowns, 0);
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    for (int e = 0; e < 3; ++e) {
+      const int s = mesh.m_arrTriangle[i].m_stretch[Index(e)];
+      const int loop = s < 0 ? 0 : mesh.m_arrStretch[Index(s)].m_nLoop;
+      if (loop >= 0) continue;
+      const auto mark = [&](int function) {
+        on[Index(numbers[i][Index(function)].unknown)] |= loop == CStretch::kOnX ? 1 : 2;
+      };
+      mark(e);
+      mark((e + 1) % 3);
+      for (int d = 2; d <= degree; ++d) mark(CShapeFunctions::EdgeFunction(e, d));
+    }
+  }
+  return on;
 }
 
 }  // namespace
@@ -71,7 +92,8 @@ void CSaintVenant::MakeElements(int geometry) {
     x += loads.col(kLoadX).head(3).sum();
     y += loads.col(kLoadY).head(3).sum();
   }
-  m_centroid = {x / m_area, y / m_area};
+  const CFold& fold = m_mesh.m_fold;
+  m_centroid = {fold.m_x.value_or(x / m_area), fold.m_y.value_or(y / m_area)};
   m_forces.reserve(m_elements.size());
   for (const CElement& element : m_elements) {
     const CLoadMatrix& loads = element.Loads();
@@ -88,6 +110,8 @@ void CSaintVenant::MakeElements(int geometry) {
     m_Ixy += dx.dot(forces.col(2));
     m_forces.push_back(forces);
   }
+  for (double* sum : {&m_area, &m_Ix, &m_Iy, &m_Ixy}) *sum *= fold.Images();
+  if (fold.Any()) m_Ixy = 0;
 }
 
 void CSaintVenant::NumberEdges() {
@@ -122,6 +146,9 @@ std::optional<CFields> CSaintVenant::Solve(int degree, const CFields& forces) co
       ++sharing[Index(of)];
     }
   }
+  // Unknowns on a line of symmetry are left to the end: which of them are 0 depends on the problem.
+  const std::vector<char> on = OnLines(m_mesh, numbers, sharing.size(), degree);
+  for (std::size_t i = 0; i < on.size(); ++i) sharing[i] += on[i] != 0;
   CElimination elimination(std::move(sharing), m_elements.size());
   // The functions of a degree come first.
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
@@ -129,6 +156,12 @@ std::optional<CFields> CSaintVenant::Solve(int degree, const CFields& forces) co
                     forces[i]);
   }
   for (const auto& [a, b] : m_order) elimination.Join(Index(a), Index(b));
+  // The warping changes its sign in both lines, the flexure function of x in x =, of y in y =.
+  constexpr std::array<int, 3> kOdd{3, 1, 2};
+  elimination.SolveBorder(
+      m_order.empty() ? 0 : Index(m_order.back().first), [&](int unknown, Eigen::Index problem) {
+        return (on[Index(unknown)] & kOdd[static_cast<std::size_t>(problem)]) != 0;
+      });
   const Eigen::Matrix3Xd solution = elimination.Solution();
   if (solution.size() == 0 || !solution.allFinite()) return std::nullopt;
   CFields fields(m_elements.size());
@@ -213,6 +246,13 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
                          dy.dot(loads.col(kLoadY) - c.y * loads.col(kLoadOne));
     figures.It += element.Energy(w) - 2 * LocalTwist(i).dot(w) + polar;
   }
+  const CFold& fold = m_mesh.m_fold;
+  const double images = fold.Images();
+  wx *= fold.m_y ? 0 : images;
+  wy *= fold.m_x ? 0 : images;
+  flexure *= images;
+  if (fold.Any()) flexure(0, 1) = flexure(1, 0) = 0;
+  figures.It *= images;
   const double det = m_Ix * m_Iy - m_Ixy * m_Ixy;
   const CPoint pole{(m_Ixy * wx - m_Iy * wy) / det, (m_Ix * wx - m_Ixy * wy) / det};
   figures.m_center = {m_centroid.x + pole.x, m_centroid.y + pole.y};
@@ -230,9 +270,10 @@ CTorsionShear CSaintVenant::Figures(const CFields& fields) const {
     warping.push_back(fields[i].col(0) - pole.y * dx + pole.x * dy);
     mean += element.Loads().col(kLoadOne).dot(warping.back()) / m_area;
   }
+  if (fold.Any()) mean = 0;  // an image has the other sign
   for (std::size_t i = 0; i < m_elements.size(); ++i) {
     warping[i].head(3).array() -= mean;
-    figures.Iw += m_elements[i].Square(warping[i]);
+    figures.Iw += images * m_elements[i].Square(warping[i]);
   }
   return figures;
 }

@@ -1,4 +1,5 @@
-// The torsion and the two flexure problems of a part, by finite elements on a mesh.
+// The torsion and the two flexure problems of a part, by finite elements on a mesh; of a part that
+// is its own mirror image on what the mesh keeps of it.
 //
 // With x, y from the centroid, over the area and in shape functions of two degrees:
 //   warping  w: div grad w = 0, grad w + (-y, x) tangential to the boundary
@@ -59,6 +60,7 @@ class CSaintVenant {
   // About the length of the walls by their thickness.
   double Slenderness() const { return 12 * (m_Ix + m_Iy) / (m_area * m_area); }
   const CSectionMesh& Mesh() const { return m_mesh; }
+  bool IsFolded() const { return m_mesh.m_fold.Any(); }
   // On an edge of an element that is part of the boundary, t from 0 to 1 along it.
   CEdgeTraction Traction(std::size_t element, int edge, double t, CSolution of) const;
   // At a lattice of points of an element, its edges included.
