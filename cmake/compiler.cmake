@@ -30,6 +30,18 @@ function(orv3cal_unity target)
   set_target_properties(${target} PROPERTIES UNITY_BUILD ${ORV3CAL_UNITY} UNITY_BUILD_MODE GROUP)
 endfunction()
 
+# orv3cal_small_relocations(TARGET): relative relocations a twentieth as large, where linker and C library
+# know them (binutils 2.38, glibc 2.36).
+include(CheckLinkerFlag)
+function(orv3cal_small_relocations target)
+  if(CMAKE_SYSTEM_NAME STREQUAL Linux)
+    check_linker_flag(CXX -Wl,-z,pack-relative-relocs ORV3CAL_PACKS_RELOCATIONS)
+    if(ORV3CAL_PACKS_RELOCATIONS)
+      target_link_options(${target} PRIVATE -Wl,-z,pack-relative-relocs)
+    endif()
+  endif()
+endfunction()
+
 if(ORV3CAL_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                       -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS)

@@ -11,7 +11,8 @@ target_compile_features(orv3cal_shared PUBLIC cxx_std_20)
 target_include_directories(orv3cal_shared PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
                                                  $<INSTALL_INTERFACE:include/orv3cal>)
 target_link_options(orv3cal_shared PRIVATE -Wl,--version-script=${exports} -Wl,--no-undefined
-                    -Wl,--gc-sections)
+                    -Wl,--gc-sections -Wl,-Bsymbolic-functions)
+orv3cal_small_relocations(orv3cal_shared)
 get_target_property(libraries orv3cal LINK_LIBRARIES)
 if(libraries)
   target_link_libraries(orv3cal_shared PRIVATE ${libraries})

@@ -70,6 +70,7 @@ def nested(command, words):
 def page(command, program, version, words, see):
     title = command["command"].replace(" ", "-")
     parts = [f'.TH {title.upper()} 1 "" "{version}" "{words["manual"]}"',
+             ".ad l",  # a line with one long word is not pulled apart
              f".SH {words['name']}", f"{roff(title)} \\- {roff(command['about'])}",
              f".SH {words['use']}", f".B {roff(usage(command))}"]
     for list_name in ("arguments", "options"):

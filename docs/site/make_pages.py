@@ -17,7 +17,7 @@ import subprocess
 from pathlib import Path
 
 GUIDES = {
-    "First steps": ["README.md", "README.zh-CN.md", "docs/python.md", "docs/embedding.md", "docs/windows.md"],
+    "First steps": ["Orv3Cal <README.md>", "Orv3Cal（中文） <README.zh-CN.md>", "docs/python.md", "docs/embedding.md", "docs/windows.md"],
     "Sections": ["sections.md", "section-solver.md", "outlines.md", "geometry.md", "lattice.md"],
     "Catalogue and stores": ["catalogue.md", "searching.md", "stores.md", "file-formats.md", "ifc.md"],
     "Checks": ["connections.md", "members.md", "case-keys.md", "codes.md", "code-tables.md"],
@@ -62,12 +62,14 @@ class Site:
             self.write(f"docs/{file.name}", self.shown(file.read_text("utf-8")))
         for name in ("README.md", "README.zh-CN.md", "CHANGELOG.md", "CONTRIBUTING.md", "SECURITY.md"):
             self.write(name, self.shown((self.source / name).read_text("utf-8")))
-        placed = {Path(each).name for names in GUIDES.values() for each in names}
+        placed = {Path(each.split()[-1].strip("<>")).name for names in GUIDES.values() for each in names}
         rest = [file.name for file in sorted((self.source / "docs").glob("*.md")) if file.name not in placed]
         trees = []
         for caption, names in GUIDES.items():
-            trees.append(tree(caption, [n if n.startswith(("README", "docs/")) else f"docs/{n}" for n in names]))
-        more = [f"docs/{name}" for name in rest] + ["docs/verification/README.md", "CHANGELOG.md",
+            trees.append(tree(caption, [n if n.startswith(("Orv3Cal", "docs/")) else f"docs/{n}" for n in names]))
+        proofs = [f"docs/verification/{file.name}" for file in
+                  sorted((self.source / "docs/verification").glob("[a-z]*.md"))]
+        more = [f"docs/{name}" for name in rest] + ["docs/verification/README.md", *proofs, "CHANGELOG.md",
                                                     "CONTRIBUTING.md", "SECURITY.md"]
         return "".join(trees) + tree("More", more)
 
