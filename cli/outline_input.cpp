@@ -111,8 +111,8 @@ class COutlineJson : public nlohmann::json_sax<CJson> {
   }
 
  private:
-  // How many brackets are open within the list of loops, a loop and a point.
-  static constexpr int kLoops = 2, kLoop = 3, kPoint = 4;
+  // How many brackets are open within a loop and within a point.
+  static constexpr int kLoop = 3, kPoint = 4;
 
   [[noreturn]] void Fault(const std::string& what) const { Refuse(m_strPath, what); }
   [[noreturn]] void TooMany() const {

@@ -59,6 +59,10 @@ NATIVE_PACKAGES="cmake ninja-build g++ ccache pkgconf libgtest-dev libeigen3-dev
                  nlohmann-json3-dev libfmt-dev libfast-float-dev
                  libbenchmark-dev libsqlite3-dev libxlsxwriter-dev clang-format python3"
 
+# The packages that make the page.
+PAGE_PACKAGES="cmake ninja-build g++ ccache libeigen3-dev libgtest-dev libcli11-dev nlohmann-json3-dev
+               libxlsxwriter-dev emscripten libfast-float-dev libfmt-dev"
+
 # Node and npm: what is on the path, or Debian's.
 need_node() {
   command -v node >/dev/null && command -v npm >/dev/null || need_packages nodejs npm

@@ -6,6 +6,7 @@
 #include "catalogue/code_tables/table_search.h"
 #include "connections/check_math.h"
 #include "connections/weld_load_case.h"
+#include "framework/elementary.h"
 #include "framework/kvb_math.h"
 
 namespace {
@@ -33,7 +34,7 @@ AngleHanFData::AngleHanFData(int weldKind, int loadCase, int material, double lw
 
 void AngleHanFData::CalHFLw(double hf, double angle) {
   const double theta = Radians(angle);
-  m_dHe = CKvbMath::EqualTo(theta, std::numbers::pi / 2) ? 0.7 * hf : std::cos(theta / 2) * hf;
+  m_dHe = CKvbMath::EqualTo(theta, std::numbers::pi / 2) ? 0.7 * hf : orv3::Cos(theta / 2) * hf;
 }
 
 void AngleHanFData::CalHFLw(double s, double angle, int grooveKind) {

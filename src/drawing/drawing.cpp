@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 namespace {
 
@@ -144,7 +146,7 @@ void CDrawing::AddSection(const std::vector<CPath>& loops) {
 }
 
 void CDrawing::AddArrowHead(CLayer layer, CPoint tail, CPoint tip) {
-  const double length = std::hypot(tip.x - tail.x, tip.y - tail.y);
+  const double length = Hypot(tip.x - tail.x, tip.y - tail.y);
   if (length == 0) return;
   const CPoint u{(tip.x - tail.x) / length, (tip.y - tail.y) / length};
   const CPoint back{tip.x - u.x * kArrow, tip.y - u.y * kArrow};

@@ -5,6 +5,8 @@
 #include <numbers>
 #include <utility>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 namespace {
 
@@ -12,7 +14,7 @@ constexpr int kMaxChords = 256;
 
 CPoint PointAt(const CArc& arc, double part) {
   const double angle = arc.start + arc.sweep * part;
-  return {arc.center.x + arc.radius * std::cos(angle), arc.center.y + arc.radius * std::sin(angle)};
+  return {arc.center.x + arc.radius * Cos(angle), arc.center.y + arc.radius * Sin(angle)};
 }
 
 // Calls visit(from, to) for every edge.
@@ -38,8 +40,8 @@ void AddArcExtremes(CBox& box, bool& first, const CArc& arc) {
   const double high = std::max(arc.start, arc.start + arc.sweep);
   for (double k = std::ceil(low / quarter); k * quarter <= high; ++k) {
     AddPoint(box, first,
-             {arc.center.x + arc.radius * std::cos(k * quarter),
-              arc.center.y + arc.radius * std::sin(k * quarter)});
+             {arc.center.x + arc.radius * Cos(k * quarter),
+              arc.center.y + arc.radius * Sin(k * quarter)});
   }
 }
 
@@ -52,13 +54,13 @@ struct CBend {
 };
 
 CBend BendOf(const CCorner& before, const CCorner& at, const CCorner& after) {
-  const double toBefore = std::hypot(before.x - at.x, before.y - at.y);
-  const double toAfter = std::hypot(after.x - at.x, after.y - at.y);
+  const double toBefore = Hypot(before.x - at.x, before.y - at.y);
+  const double toAfter = Hypot(after.x - at.x, after.y - at.y);
   if (!(at.radius > 0) || toBefore == 0 || toAfter == 0) return {};
   CBend bend{{(before.x - at.x) / toBefore, (before.y - at.y) / toBefore},
              {(after.x - at.x) / toAfter, (after.y - at.y) / toAfter}};
-  bend.angle = std::acos(std::clamp(bend.u.x * bend.v.x + bend.u.y * bend.v.y, -1.0, 1.0));
-  bend.cut = at.radius / std::tan(bend.angle / 2);
+  bend.angle = Acos(std::clamp(bend.u.x * bend.v.x + bend.u.y * bend.v.y, -1.0, 1.0));
+  bend.cut = at.radius / Tan(bend.angle / 2);
   return bend;
 }
 
@@ -68,7 +70,7 @@ void AddBend(CPath& path, const CCorner& at, const CBend& bend, double cut) {
     return;
   }
   const double turn = bend.u.y * bend.v.x - bend.u.x * bend.v.y;  // positive for a left turn
-  const double bulge = std::copysign(std::tan((std::numbers::pi - bend.angle) / 4), turn);
+  const double bulge = std::copysign(Tan((std::numbers::pi - bend.angle) / 4), turn);
   path.m_arrVertex.push_back({at.x + bend.u.x * cut, at.y + bend.u.y * cut, bulge});
   path.m_arrVertex.push_back({at.x + bend.v.x * cut, at.y + bend.v.y * cut, 0});
 }
@@ -97,8 +99,7 @@ CPath RoundedPath(std::span<const CCorner> corners) {
     bends[i] = BendOf(corners[(i + n - 1) % n], corners[i], corners[(i + 1) % n]);
   // What a bend may take of the edge that it shares with another.
   const auto room = [&](std::size_t i, std::size_t other) {
-    const double edge =
-        std::hypot(corners[i].x - corners[other].x, corners[i].y - corners[other].y);
+    const double edge = Hypot(corners[i].x - corners[other].x, corners[i].y - corners[other].y);
     return std::max(edge / 2, edge - bends[other].cut);
   };
   for (std::size_t i = 0; i < n; ++i) {
@@ -109,14 +110,14 @@ CPath RoundedPath(std::span<const CCorner> corners) {
 }
 
 CArc EdgeArc(const CVertex& from, const CVertex& to) {
-  const double sweep = 4 * std::atan(from.bulge);
+  const double sweep = 4 * Atan(from.bulge);
   const double dx = to.x - from.x;
   const double dy = to.y - from.y;
   // From the chord's middle to the center, as a share of the chord, to the left of its direction.
   const double shift = (1 - from.bulge * from.bulge) / (4 * from.bulge);
   const CPoint center{(from.x + to.x) / 2 - shift * dy, (from.y + to.y) / 2 + shift * dx};
-  return {center, std::hypot(from.x - center.x, from.y - center.y),
-          std::atan2(from.y - center.y, from.x - center.x), sweep};
+  return {center, Hypot(from.x - center.x, from.y - center.y),
+          Atan2(from.y - center.y, from.x - center.x), sweep};
 }
 
 CPath Moved(CPath path, double dx, double dy) {
@@ -129,8 +130,8 @@ CPath Moved(CPath path, double dx, double dy) {
 
 CPath Turned(CPath path, double degrees) {
   const double angle = degrees * std::numbers::pi / 180;
-  const double c = std::cos(angle);
-  const double s = std::sin(angle);
+  const double c = Cos(angle);
+  const double s = Sin(angle);
   for (CVertex& v : path.m_arrVertex) v = {c * v.x - s * v.y, s * v.x + c * v.y, v.bulge};
   return path;
 }
@@ -177,7 +178,7 @@ std::vector<CPoint> Flattened(const CPath& path, double tolerance) {
   ForEachEdge(path, [&](const CVertex& from, const CVertex& to) {
     if (from.bulge != 0) {
       const CArc arc = EdgeArc(from, to);
-      const double step = 2 * std::acos(std::clamp(1 - tolerance / arc.radius, 0.0, 0.999));
+      const double step = 2 * Acos(std::clamp(1 - tolerance / arc.radius, 0.0, 0.999));
       const int chords = static_cast<int>(
           std::clamp(std::ceil(std::fabs(arc.sweep) / step), 1.0, 1.0 * kMaxChords));
       for (int i = 1; i < chords; ++i) points.push_back(PointAt(arc, 1.0 * i / chords));

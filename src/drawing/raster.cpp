@@ -7,6 +7,7 @@
 
 #include "drawing/drawing.h"
 #include "drawing/font.h"
+#include "framework/elementary.h"
 
 namespace orv3 {
 namespace {
@@ -129,7 +130,7 @@ class CRaster {
   void StrokeLine(const CPolyline& line, double half, const double (&dash)[4]) {
     double done = 0;  // length of the line so far
     for (std::size_t i = 1; i < line.size(); ++i) {
-      const double length = std::hypot(line[i].x - line[i - 1].x, line[i].y - line[i - 1].y);
+      const double length = Hypot(line[i].x - line[i - 1].x, line[i].y - line[i - 1].y);
       if (dash[0] > 0) {
         StrokeDashes(line[i - 1], line[i], length, done, half, dash);
       } else {
@@ -177,7 +178,7 @@ class CRaster {
         const CPoint p{x + 0.5 - a.x, y + 0.5 - a.y};
         const double part =
             square > 0 ? std::clamp((p.x * d.x + p.y * d.y) / square, 0.0, 1.0) : 0.0;
-        const double distance = std::hypot(p.x - part * d.x, p.y - part * d.y);
+        const double distance = Hypot(p.x - part * d.x, p.y - part * d.y);
         const double cover = std::clamp(half + 0.5 - distance, 0.0, 1.0);
         Cover(x, y) = std::max(Cover(x, y), static_cast<float>(cover));
       }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "drawing/drawing.h"
+#include "framework/elementary.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 
@@ -133,8 +134,7 @@ class CSvgWriter {
       return;
     }
     const double b = std::fabs(from.bulge);
-    const std::string radius =
-        Number(std::hypot(to.x - from.x, to.y - from.y) * (1 + b * b) / (4 * b));
+    const std::string radius = Number(Hypot(to.x - from.x, to.y - from.y) * (1 + b * b) / (4 * b));
     // Counter-clockwise on the page is the negative sense of SVG, whose y runs downwards.
     Put("A", radius, " ", radius, " 0 ", b > 1 ? "1 " : "0 ", from.bulge > 0 ? "0 " : "1 ",
         At(to.x, to.y));

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "framework/elementary.h"
 #include "members/beam_column.h"
 #include "members/slenderness.h"
 #include "members/slenderness_steps.h"
@@ -132,7 +133,7 @@ void CLatticeCheck::Laced() {
   a.Step("Ad", nullptr, s.m_dBarA, "mm²");
   if (s.m_nLimbs == 3) {
     const double A1 = 3 * s.m_dBarA;
-    const double cosine = std::cos(s.m_dPlaneAngle * std::numbers::pi / 180);
+    const double cosine = Cos(s.m_dPlaneAngle * std::numbers::pi / 180);
     a.Step("A1", "3·{Ad}", A1, "mm²");
     a.Step("θ", nullptr, s.m_dPlaneAngle, "°");
     m_dLambda0x = LacedSlenderness(r.m_dLambdaX, 42 / (1.5 - cosine * cosine), s.m_dA, A1);
@@ -259,7 +260,7 @@ double CLatticeCheck::PlaneShear(double V) {
     return V / 2;
   }
   const double angle = s.m_dPlaneAngle * std::numbers::pi / 180;
-  const double sine = std::sin(angle), cosine = std::cos(angle);
+  const double sine = Sin(angle), cosine = Cos(angle);
   const double V1 = std::max(V / (2 * sine), V / (1 + 2 * cosine * cosine));
   a.Step("V1", "max({V}/(2·sin({θ}°)), {V}/(1 + 2·cos({θ}°)²))", V1, "N");
   return V1;
@@ -267,7 +268,7 @@ double CLatticeCheck::PlaneShear(double V) {
 
 // A bar of one angle on one leg: f times 0.6 + 0.0015 lambda (7.6.1; 2003: 3.4.2), at most 1.
 void CLatticeCheck::Lacing(double V) {
-  const double force = V / std::sin(s.m_dAngle * std::numbers::pi / 180);
+  const double force = V / Sin(s.m_dAngle * std::numbers::pi / 180);
   const double lambda = s.m_dBarLength / s.m_dBarR;
   const double reduction = std::min(1.0, 0.6 + 0.0015 * std::max(20.0, lambda));
   const double phi = Phi(lambda, CBucklingClass::B);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 
 double TorsionalSlenderness(double I0, double It, double Iw, double lw) noexcept {
@@ -32,7 +34,7 @@ double LacedSlenderness(double lambda, double factor, double A, double A1) noexc
 }
 
 double BattenedSlenderness(double lambda, double lambda1) noexcept {
-  return std::hypot(lambda, lambda1);
+  return Hypot(lambda, lambda1);
 }
 
 }  // namespace orv3

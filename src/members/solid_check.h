@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "codes/lateral_buckling.h"
+#include "framework/elementary.h"
 #include "members/effective_section.h"
 #include "members/solid_member.h"
 
@@ -135,7 +136,7 @@ class CSolidCheck {
   // Those of the end with the greater resultant.
   struct CEndMoments {
     double m_dX, m_dY;  // in magnitude
-    double Resultant() const noexcept { return std::hypot(m_dX, m_dY); }
+    double Resultant() const noexcept { return Hypot(m_dX, m_dY); }
   };
   CEndMoments EndMoments() const noexcept {
     const CEndMoments start = {std::fabs(q.m_x.AtStart()), std::fabs(q.m_y.AtStart())};

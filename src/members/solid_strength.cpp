@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "framework/elementary.h"
 #include "members/beam_column.h"
 #include "members/solid_check.h"
 
@@ -131,7 +132,7 @@ void CSolidCheck::Shear() {
   if (q.m_dVx == 0 && q.m_dVy == 0) return;
   a.Open(CMemberCheckKind::Shear, Clause("6.1.3", "4.1.2"));
   const bool bRound = s.m_nShape == CMemberShape::Tube || s.m_nShape == CMemberShape::SolidRound;
-  const double Vy = bRound ? std::hypot(q.m_dVx, q.m_dVy) : std::fabs(q.m_dVy);
+  const double Vy = bRound ? Hypot(q.m_dVx, q.m_dVy) : std::fabs(q.m_dVy);
   const double Vx = bRound ? 0 : std::fabs(q.m_dVx);
   const double tauY = Vy == 0 ? 0 : Vy * s.m_cutY.m_dS / (s.m_dIx * s.m_cutY.m_dT);
   const double tauX = Vx == 0 ? 0 : Vx * s.m_cutX.m_dS / (s.m_dIy * s.m_cutX.m_dT);
@@ -141,7 +142,7 @@ void CSolidCheck::Shear() {
     a.Step("Vy", nullptr, Vy, "N");
     a.Step("τx", "1.5·{Vx}/{A}", tauX, "N/mm²");
     a.Step("τy", "1.5·{Vy}/{A}", tauY, "N/mm²");
-    return a.Close("√({τx}² + {τy}²)/{fv}", std::hypot(tauX, tauY) / m.m_dFv);
+    return a.Close("√({τx}² + {τy}²)/{fv}", Hypot(tauX, tauY) / m.m_dFv);
   }
   const bool bY = tauY / m.m_dFv >= tauX / m.m_dFvX;
   const CShearCut& cut = bY ? s.m_cutY : s.m_cutX;
@@ -228,7 +229,7 @@ CSolidCheck::CPlaceStress CSolidCheck::StressAt(const CPlace& p) const {
   stress.m_dTauX = flow(q.m_dVx, p.m_vx, s.m_dIy);
   stress.m_dTauY = flow(q.m_dVy, p.m_vy, s.m_dIx);
   // Along a wall they add; in a solid bar they are at right angles.
-  stress.m_dTau = s.m_nShape == CMemberShape::SolidBar ? std::hypot(stress.m_dTauX, stress.m_dTauY)
+  stress.m_dTau = s.m_nShape == CMemberShape::SolidBar ? Hypot(stress.m_dTauX, stress.m_dTauY)
                                                        : stress.m_dTauX + stress.m_dTauY;
   return stress;
 }
@@ -300,7 +301,7 @@ void CSolidCheck::CombinedRound() {
   double worst = -1, angle = 0, sigma = 0, tau = 0;
   for (int degree = 0; degree <= 90; ++degree) {
     const double rad = degree * std::numbers::pi / 180;
-    const double up = degree == 0 ? 0 : std::sin(rad), along = degree == 90 ? 0 : std::cos(rad);
+    const double up = degree == 0 ? 0 : Sin(rad), along = degree == 90 ? 0 : Cos(rad);
     const double normal = std::fabs(q.m_dN) / An + (std::fabs(m_dMx) * up + m_dMy * along) / Wn;
     const double shear = unit * (std::fabs(q.m_dVy) * along + std::fabs(q.m_dVx) * up);
     const double both = CombinedStress(normal, shear);

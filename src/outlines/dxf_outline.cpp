@@ -7,6 +7,7 @@
 #include <set>
 #include <utility>
 
+#include "framework/elementary.h"
 #include "framework/excerpt.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
@@ -172,7 +173,7 @@ class CDxfReader {
   // Coordinates in mm, and no edge without length: a repeated point counts once.
   void Clean(CPath& path) const {
     const auto same = [](const CVertex& a, const CVertex& b) {
-      return std::hypot(a.x - b.x, a.y - b.y) <= kJoin;
+      return Hypot(a.x - b.x, a.y - b.y) <= kJoin;
     };
     std::vector<CVertex> kept;
     for (const CVertex& v : path.m_arrVertex) {
@@ -338,12 +339,12 @@ class CDxfReader {
     double sweep = std::fmod((entity.Value(51) - entity.Value(50)) * std::numbers::pi / 180,
                              2 * std::numbers::pi);
     if (sweep <= 1e-12) sweep += 2 * std::numbers::pi;
-    const double bulge = std::tan(sweep / 8);
+    const double bulge = Tan(sweep / 8);
     CPath path{{}, false};
     for (const double part : {0.0, 0.5, 1.0}) {
       const double angle = start + part * sweep;
-      path.m_arrVertex.push_back({center.x + radius * std::cos(angle),
-                                  center.y + radius * std::sin(angle), part < 1 ? bulge : 0});
+      path.m_arrVertex.push_back(
+          {center.x + radius * Cos(angle), center.y + radius * Sin(angle), part < 1 ? bulge : 0});
     }
     Keep(std::move(path), IsMirrored(entity));
   }

@@ -1,5 +1,7 @@
 #include "outlines/edge.h"
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 namespace {
 
@@ -31,14 +33,14 @@ std::span<const CGaussPoint, 12> GaussPoints() { return kPoints12; }
 std::span<const CGaussPoint, 8> GaussPoints8() { return kPoints8; }
 
 CEdge::CEdge(const CVertex& from, const CVertex& to)
-    : m_from{from.x, from.y}, m_to{to.x, to.y}, m_sweep(4 * std::atan(from.bulge)) {
+    : m_from{from.x, from.y}, m_to{to.x, to.y}, m_sweep(4 * Atan(from.bulge)) {
   const double dx = to.x - from.x;
   const double dy = to.y - from.y;
-  const double chord = std::hypot(dx, dy);
+  const double chord = Hypot(dx, dy);
   m_length = chord;
   if (m_sweep == 0) return;
   const double bulge = from.bulge;
-  m_angle = std::atan2(dy, dx);
+  m_angle = Atan2(dy, dx);
   m_diameter = chord * (1 + bulge * bulge) / (2 * bulge);  // its sign that of the sweep
   m_length = m_diameter / 2 * m_sweep;
 }
@@ -47,15 +49,15 @@ CPoint CEdge::At(double t) const {
   if (m_sweep == 0 || t == 0 || t == 1) {
     return {m_from.x * (1 - t) + m_to.x * t, m_from.y * (1 - t) + m_to.y * t};
   }
-  const double reach = m_diameter * std::sin(m_sweep * t / 2);
+  const double reach = m_diameter * Sin(m_sweep * t / 2);
   const double angle = m_angle + m_sweep * (t - 1) / 2;
-  return {m_from.x + reach * std::cos(angle), m_from.y + reach * std::sin(angle)};
+  return {m_from.x + reach * Cos(angle), m_from.y + reach * Sin(angle)};
 }
 
 CPoint CEdge::Derivative(double t) const {
   if (m_sweep == 0) return {m_to.x - m_from.x, m_to.y - m_from.y};
   const double angle = m_angle + m_sweep * (t - 0.5);
-  return {m_length * std::cos(angle), m_length * std::sin(angle)};
+  return {m_length * Cos(angle), m_length * Sin(angle)};
 }
 
 }  // namespace orv3

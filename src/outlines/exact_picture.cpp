@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "framework/elementary.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "outlines/geometric_figures.h"
@@ -159,7 +160,7 @@ class CExactLayout {
   void DrawAxis(CDrawing& drawing, CLayer layer, CPoint at, double degrees,
                 const wchar_t* letter) const {
     const double angle = degrees * std::numbers::pi / 180;
-    const CPoint u{std::cos(angle), std::sin(angle)};
+    const CPoint u{Cos(angle), Sin(angle)};
     const CPoint c = Page(at.x, at.y);
     const CPoint low = Page(m_box.left, m_box.bottom);
     const CPoint high = Page(m_box.right, m_box.top);

@@ -4,6 +4,7 @@
 #include <numbers>
 #include <vector>
 
+#include "framework/elementary.h"
 #include "outlines/edge.h"
 #include "outlines/loops.h"
 #include "outlines/outline_moments.h"
@@ -18,7 +19,7 @@ constexpr double kEqual = 1e-11;
 
 void SetPrincipal(CExactProperties& p) {
   const double half = (p.Ix - p.Iy) / 2;
-  const double radius = std::hypot(half, p.Ixy);
+  const double radius = Hypot(half, p.Ixy);
   const double middle = (p.Ix + p.Iy) / 2;
   // Rounding would turn an axis that lies along the frame's.
   if (std::fabs(p.Ixy) <= kEqual * middle) p.Ixy = 0;
@@ -27,7 +28,7 @@ void SetPrincipal(CExactProperties& p) {
   p.I2 = (p.Ix * p.Iy - p.Ixy * p.Ixy) / p.I1;
   p.theta = 0;
   if (radius <= kEqual * middle) return;
-  p.theta = std::atan2(-p.Ixy, half) * 90 / std::numbers::pi + 0.0;
+  p.theta = Atan2(-p.Ixy, half) * 90 / std::numbers::pi + 0.0;
   if (p.theta <= -90) p.theta += 180;
 }
 

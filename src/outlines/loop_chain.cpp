@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "framework/double_bits.h"
+#include "framework/elementary.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 
@@ -38,7 +39,7 @@ class CEnds {
         const auto [first, last] = m_mapCell.equal_range(Key(Cell(p.x) + dx, Cell(p.y) + dy));
         for (auto each = first; each != last && others.size() < 2; ++each) {
           const CPoint q = Point(each->second);
-          if (each->second != end && std::hypot(p.x - q.x, p.y - q.y) <= m_dTolerance)
+          if (each->second != end && Hypot(p.x - q.x, p.y - q.y) <= m_dTolerance)
             others.push_back(each->second);
         }
       }

@@ -5,11 +5,13 @@
 #include <numbers>
 #include <utility>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 namespace {
 
 bool IsNear(CPoint a, CPoint b, double tolerance) {
-  return std::hypot(a.x - b.x, a.y - b.y) <= tolerance;
+  return Hypot(a.x - b.x, a.y - b.y) <= tolerance;
 }
 
 bool InBox(const CBox& box, CPoint p, double slack) {
@@ -18,7 +20,7 @@ bool InBox(const CBox& box, CPoint p, double slack) {
 }
 
 CPoint PointAt(const CArc& arc, double angle) {
-  return {arc.center.x + arc.radius * std::cos(angle), arc.center.y + arc.radius * std::sin(angle)};
+  return {arc.center.x + arc.radius * Cos(angle), arc.center.y + arc.radius * Sin(angle)};
 }
 
 // The angles between an arc's ends at which its circle turns from rising to falling; none so near
@@ -54,7 +56,7 @@ class CPieceMaker {
   }
   void AddEdge(const CVertex& from, const CVertex& to, int loop) {
     CLoopPiece piece{{from.x, from.y}, {to.x, to.y}, {}, 0, loop, 0};
-    const double chord = std::hypot(to.x - from.x, to.y - from.y);
+    const double chord = Hypot(to.x - from.x, to.y - from.y);
     if (std::fabs(from.bulge) * chord / 2 <= m_dTolerance) return Add(piece);
     const CArc arc = EdgeArc(from, to);
     piece.m_center = arc.center;
@@ -97,7 +99,7 @@ double HalfChord(double radius, double distance, double tolerance) {
 void LineArc(const CLoopPiece& line, const CLoopPiece& arc, double tolerance, CPoints& found) {
   const double dx = line.m_to.x - line.m_from.x;
   const double dy = line.m_to.y - line.m_from.y;
-  const double length = std::hypot(dx, dy);
+  const double length = Hypot(dx, dy);
   const CPoint u{dx / length, dy / length};
   const CPoint o{arc.m_center.x - line.m_from.x, arc.m_center.y - line.m_from.y};
   const double along = o.x * u.x + o.y * u.y;
@@ -110,7 +112,7 @@ void LineArc(const CLoopPiece& line, const CLoopPiece& arc, double tolerance, CP
 void ArcArc(const CLoopPiece& a, const CLoopPiece& b, double tolerance, CPoints& found) {
   const double dx = b.m_center.x - a.m_center.x;
   const double dy = b.m_center.y - a.m_center.y;
-  const double apart = std::hypot(dx, dy);
+  const double apart = Hypot(dx, dy);
   if (apart <= tolerance || apart < std::fabs(a.m_dRadius - b.m_dRadius) - tolerance) return;
   const double along =
       (apart + (a.m_dRadius - b.m_dRadius) * (a.m_dRadius + b.m_dRadius) / apart) / 2;
@@ -124,13 +126,13 @@ void ArcArc(const CLoopPiece& a, const CLoopPiece& b, double tolerance, CPoints&
 bool IsOn(const CLoopPiece& piece, CPoint p, double tolerance) {
   if (!InBox(piece.Box(), p, tolerance)) return false;
   if (piece.IsArc()) {
-    const double r = std::hypot(p.x - piece.m_center.x, p.y - piece.m_center.y);
+    const double r = Hypot(p.x - piece.m_center.x, p.y - piece.m_center.y);
     return std::fabs(r - piece.m_dRadius) <= tolerance;
   }
   const double dx = piece.m_to.x - piece.m_from.x;
   const double dy = piece.m_to.y - piece.m_from.y;
   const double off = (p.x - piece.m_from.x) * dy - (p.y - piece.m_from.y) * dx;
-  return std::fabs(off) <= tolerance * std::hypot(dx, dy);
+  return std::fabs(off) <= tolerance * Hypot(dx, dy);
 }
 
 }  // namespace

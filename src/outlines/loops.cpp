@@ -3,6 +3,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "framework/elementary.h"
 #include "outlines/edge.h"
 
 namespace orv3 {
@@ -39,7 +40,7 @@ bool Encloses(const CPath& loop, CPoint point) {
     for (int i = 0; i < chords; ++i) {
       const CPoint u = Minus(edge.At(1.0 * i / chords), point);
       const CPoint v = Minus(edge.At((i + 1.0) / chords), point);
-      angle += std::atan2(Cross(u, v), Dot(u, v));
+      angle += Atan2(Cross(u, v), Dot(u, v));
     }
   });
   return std::fabs(angle) > 3;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "framework/elementary.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "outlines/loop_nesting.h"
@@ -79,7 +80,7 @@ CFault CheckEdges(const CPath& loop, const std::string& number, double tolerance
   for (std::size_t i = 0; i < vertices.size() && vertices.size() > 1; ++i) {
     const CVertex& a = vertices[i];
     const CVertex& b = vertices[(i + 1) % vertices.size()];
-    if (std::hypot(b.x - a.x, b.y - a.y) > 4 * tolerance) continue;
+    if (Hypot(b.x - a.x, b.y - a.y) > 4 * tolerance) continue;
     return COutlineFault{"第 " + number + " 圈第 " + Number(i) + " 点起的边长度为零：" +
                              PointText({a.x, a.y}) + "；请去掉重复的点",
                          "loop " + number + ": the edge from point " + Number(i) + ", " +
@@ -129,7 +130,7 @@ CFault CheckCrossings(std::span<const CPath> loops, double tolerance, double siz
     for (const CPoint p : Meetings(a, b, tolerance)) {
       // Arcs and lines that run on into each other seem to meet somewhat beside their common end.
       const auto shared = [&](CPoint end) {
-        return std::hypot(p.x - end.x, p.y - end.y) <= 1e-6 * size;
+        return Hypot(p.x - end.x, p.y - end.y) <= 1e-6 * size;
       };
       if ((next && shared(a.m_to)) || (before && shared(b.m_to))) continue;
       fault = Meeting(a.m_nLoop, b.m_nLoop, p);

@@ -5,6 +5,8 @@
 #include <numbers>
 #include <numeric>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 namespace {
 
@@ -12,13 +14,13 @@ constexpr int kLeaf = 4;
 
 CPoint Direction(std::size_t number, std::size_t count) {
   const double angle = std::numbers::pi * static_cast<double>(number) / static_cast<double>(count);
-  return {std::cos(angle), std::sin(angle)};
+  return {Cos(angle), Sin(angle)};
 }
 
 // How far an arc rises over its chord.
 double Rise(const CLoopPiece& piece) {
   if (!piece.IsArc()) return 0;
-  const double half = std::hypot(piece.m_to.x - piece.m_from.x, piece.m_to.y - piece.m_from.y) / 2;
+  const double half = Hypot(piece.m_to.x - piece.m_from.x, piece.m_to.y - piece.m_from.y) / 2;
   const double r = piece.m_dRadius;
   return r - std::sqrt(std::max(0.0, r * r - half * half));
 }

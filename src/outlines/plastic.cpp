@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "framework/elementary.h"
 #include "outlines/edge.h"
 
 namespace orv3 {
@@ -83,7 +84,7 @@ class CPieces {
     std::vector<double> cuts{0, 1};
     if (edge.IsArc()) {
       const CPoint d = edge.Derivative(0);
-      const double start = std::atan2(d.y, d.x);
+      const double start = Atan2(d.y, d.x);
       const double end = start + edge.Sweep();
       for (double k = std::ceil(std::min(start, end) / std::numbers::pi);
            k * std::numbers::pi < std::max(start, end); ++k) {

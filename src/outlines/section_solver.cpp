@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "framework/elementary.h"
 #include "outlines/geometric_figures.h"
 #include "outlines/loops.h"
 #include "outlines/outline_moments.h"
@@ -55,7 +56,7 @@ CExactErrors ErrorsOf(const CSaintVenant& s) {
     };
     errors.It += relative(&CTorsionShear::It);
     errors.Iw += std::fabs(a.Iw - b->Iw) / std::max(a.Iw, kLeastIw * a.It);
-    errors.center += std::hypot(a.m_center.x - b->m_center.x, a.m_center.y - b->m_center.y);
+    errors.center += Hypot(a.m_center.x - b->m_center.x, a.m_center.y - b->m_center.y);
     errors.As += std::max(relative(&CTorsionShear::m_dFlexX), relative(&CTorsionShear::m_dFlexY));
   }
   return errors;
@@ -370,8 +371,8 @@ void CSectionSolver::CState::AddStressesInside(std::size_t part, const CSectionF
                     [&](int v) { return mesh.m_arrSharp[static_cast<std::size_t>(v)] != 0; }))
       continue;
     const auto tau = [&](const CInnerTraction& t) {
-      return std::hypot(twist * t.m_twist.x + (f.Vx * t.m_x.x + f.Vy * t.m_y.x) / square,
-                        twist * t.m_twist.y + (f.Vx * t.m_x.y + f.Vy * t.m_y.y) / square);
+      return Hypot(twist * t.m_twist.x + (f.Vx * t.m_x.x + f.Vy * t.m_y.x) / square,
+                   twist * t.m_twist.y + (f.Vx * t.m_x.y + f.Vy * t.m_y.y) / square);
     };
     const std::vector<CInnerTraction> coarse = m_parts[part].Inside(i, CSolution::Coarse);
     std::size_t point = 0;

@@ -1,7 +1,8 @@
 #include "sections/section_shapes.h"
 
 #include <algorithm>
-#include <cmath>
+
+#include "framework/elementary.h"
 
 namespace orv3 {
 namespace {
@@ -20,7 +21,7 @@ CTaper TaperOf(double t, double overhang, const CFlangeForm& form) {
 CPath Rounded(const std::vector<CCorner>& corners) { return RoundedPath(corners); }
 
 CPoint Unit(CPoint from, CPoint to) {
-  const double length = std::hypot(to.x - from.x, to.y - from.y);
+  const double length = Hypot(to.x - from.x, to.y - from.y);
   return {(to.x - from.x) / length, (to.y - from.y) / length};
 }
 

@@ -1,6 +1,5 @@
 #include "catalogue/quadratic_section.h"
 
-#include <Eigen/Sparse>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -11,6 +10,10 @@
 #include "outlines/edge.h"
 #include "outlines/loops.h"
 #include "outlines/mesh/triangulation.h"
+// clang-format off
+#include "outlines/solver/eigen.h"
+#include <Eigen/Sparse>
+// clang-format on
 
 namespace orv3::test {
 namespace {

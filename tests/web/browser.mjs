@@ -23,9 +23,11 @@ export async function start() {
 }
 
 // A tab with what it must not do in `faults`: requests to anywhere, errors and words on the console.
-export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860]) {
+// `before` runs in the tab before the page does.
+export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860], before = () => {}) {
   const page = await context.newPage();
-  page.setDefaultTimeout(300_000);
+  page.setDefaultTimeout(120_000);
+  await page.evaluateOnNewDocument(before);
   page.faults = [];
   page.on("request", (request) => {
     if (!/^(file|blob|data|about):/.test(request.url())) page.faults.push(`request: ${request.url()}`);

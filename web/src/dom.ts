@@ -63,7 +63,12 @@ export async function bytesOf(file: File): Promise<Uint8Array> {
 
 // A place to drop files on, and a button that asks for one.
 export function dropPlace(text: string, accept: string, taken: (files: File[]) => void): HTMLElement {
-  const input = el("input", { type: "file", accept, multiple: true, onchange: () => taken([...(input.files ?? [])]) });
+  const chosen = () => {
+    const files = [...(input.files ?? [])];
+    input.value = ""; // so that the same file can be chosen again
+    taken(files);
+  };
+  const input = el("input", { type: "file", accept, multiple: true, onchange: chosen });
   const place = el("div", { class: "drop" }, field(text, input));
   place.ondragover = (event) => {
     event.preventDefault();

@@ -6,8 +6,8 @@ export interface Saved {
   bytes: Uint8Array | null;
 }
 
-// Why the browser has not kept a store.
-export type Trouble = "denied" | "full" | "failed";
+// Why the browser has not kept or not given a store.
+export type Trouble = "denied" | "full" | "failed" | "unread";
 
 export class StorageError extends Error {
   constructor(readonly trouble: Trouble) {
@@ -20,6 +20,7 @@ const kKey = "own";
 const kNone: Saved = { version: 0, bytes: null };
 
 function troubleOf(fault: unknown): StorageError {
+  if (fault instanceof StorageError) return fault;
   const name = (fault as DOMException | null)?.name;
   if (name === "QuotaExceededError") return new StorageError("full");
   return new StorageError(name === "SecurityError" || name === "InvalidStateError" ? "denied" : "failed");
@@ -28,28 +29,35 @@ function troubleOf(fault: unknown): StorageError {
 export class OwnStore {
   private database: Promise<IDBDatabase> | null = null;
 
+  // A connection that was refused or has been closed (the user deletes what pages keep) is asked for anew.
   private open(): Promise<IDBDatabase> {
+    const forget = () => (this.database = null);
     this.database ??= new Promise<IDBDatabase>((done, fail) => {
       try {
         const asked = indexedDB.open("orv3cal", 1);
         asked.onupgradeneeded = () => asked.result.createObjectStore(kTable);
-        asked.onsuccess = () => done(asked.result);
-        asked.onerror = () => fail(troubleOf(asked.error));
+        asked.onsuccess = () => {
+          asked.result.onclose = forget;
+          asked.result.onversionchange = () => void (asked.result.close(), forget());
+          done(asked.result);
+        };
+        asked.onerror = () => void (forget(), fail(troubleOf(asked.error)));
       } catch (fault) {
+        forget();
         fail(troubleOf(fault));
       }
     });
     return this.database;
   }
 
-  // None where the browser keeps nothing.
+  // None where the browser keeps nothing; a store that is there and cannot be read is an error.
   async load(): Promise<Saved> {
     const database = await this.open().catch(() => null);
     if (!database) return kNone;
-    return new Promise((done) => {
+    return new Promise((done, fail) => {
       const asked = database.transaction(kTable).objectStore(kTable).get(kKey);
       asked.onsuccess = () => done((asked.result as Saved | undefined) ?? kNone);
-      asked.onerror = () => done(kNone);
+      asked.onerror = () => fail(new StorageError("unread"));
     });
   }
 
@@ -58,16 +66,21 @@ export class OwnStore {
     const database = await this.open();
     return new Promise((done, fail) => {
       let current = true;
+      let fault: unknown = null;
       const transaction = database.transaction(kTable, "readwrite", { durability: "strict" });
-      transaction.oncomplete = () => done(current);
-      transaction.onabort = () => (current ? fail(troubleOf(transaction.error)) : done(false));
+      transaction.oncomplete = () => done(true);
+      transaction.onabort = () => (current ? fail(troubleOf(fault ?? transaction.error)) : done(false));
       const table = transaction.objectStore(kTable);
       const asked = table.get(kKey);
       asked.onsuccess = () => {
         const version = (asked.result as Saved | undefined)?.version ?? 0;
         current = version === before;
-        if (current) table.put({ version: version + 1, bytes } satisfies Saved, kKey);
-        else transaction.abort();
+        try {
+          if (current) table.put({ version: version + 1, bytes } satisfies Saved, kKey);
+        } catch (refused) {
+          fault = refused;
+        }
+        if (!current || fault) transaction.abort();
       };
     });
   }

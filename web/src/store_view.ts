@@ -35,7 +35,7 @@ async function imported(file: File, table: string, overwrite: boolean): Promise<
 }
 
 export async function storeView(place: HTMLElement): Promise<void> {
-  const list = await tables();
+  let list = await tables();
   const note = el("div", { role: "status", class: "log" });
   const tell = (answer: Answer, file = "") => {
     const good = answer.status === 0;
@@ -48,11 +48,16 @@ export async function storeView(place: HTMLElement): Promise<void> {
     for (const file of files) for (const answer of await imported(file, into.value, over.checked)) tell(answer);
     await listTables();
   };
-  const which = select([["", say("全部表", "all tables")], ...list.filter((table) => table.rows > 0).map((table): [string, string] => [table.name, table.name])], "", () => {});
+  const filled = () => list.filter((table) => table.rows > 0).map((table) => table.name);
+  const choices = () => [["", say("全部表", "all tables")], ...filled().map((name) => [name, name])] as [string, string][];
+  let which = select(choices(), "", () => {});
   const exported = (form: string) => async () => {
     note.replaceChildren();
     const name = `store.${form}`;
-    if (form === "xlsx") return exportWorkbook(which.value || list.find((table) => table.rows > 0)!.name, tell);
+    if (form === "xlsx") {
+      for (const table of which.value ? [which.value] : filled()) await exportWorkbook(table, tell);
+      return;
+    }
     const answer = await ask(["store", "export", ...(which.value ? [which.value] : []), "--to", name]);
     for (const [made, bytes] of Object.entries(answer.files)) download(which.value ? `${which.value}.${form}` : made, bytes);
     tell(answer);
@@ -60,7 +65,12 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const forms = ["KDB", "csv", "xlsx"].map((form) => button(`.${form}`, () => void exported(form)()));
   const held = el("div");
   const listTables = async () => {
-    const now = (await tables()).filter((table) => table.source !== "rolled");
+    list = await tables();
+    const asked = select(choices(), filled().includes(which.value) ? which.value : "", () => {});
+    asked.id = which.id;
+    which.replaceWith(asked);
+    which = asked;
+    const now = list.filter((table) => table.source !== "rolled");
     held.replaceChildren(el("h2", {}, say("自定义截面的表", "Tables of own sections")), el("ul", { class: "tables" }, ...now.map((table) =>
       el("li", {}, button(`${table.name} (${table.rows})`, () => go({ view: "sections", table: table.name }), { class: "quiet" })))));
   };

@@ -17,17 +17,21 @@ let core: Core;
 let line: Promise<unknown> = Promise.resolve();
 
 const kTroubles: Record<Trouble, [string, string]> = {
-  full: ["磁盘已满", "the disk is full"],
-  denied: ["浏览器不允许本页保存数据", "the browser does not let this page keep data"],
-  failed: ["浏览器未能写入", "the browser could not write it"],
+  full: ["没有写入，磁盘已满", "not written, the disk is full"],
+  denied: ["没有写入，浏览器不允许本页保存数据", "not written, the browser does not let this page keep data"],
+  failed: ["没有写入，浏览器未能写入", "not written, the browser could not write it"],
+  unread: ["浏览器未能读出", "the browser could not read it"],
 };
 
-function notKept(answer: Answer, argv: string[], language: string, trouble: Trouble): Answer {
+const kNothing: Answer = { status: 3, out: "", err: "", files: {} };
+
+// What a line says, and leaves, that the browser's storage has stopped.
+function stopped(fault: unknown, argv: string[], language: string): Answer {
   const chosen = argv.indexOf("--lang");
   const chinese = (chosen >= 0 ? argv[chosen + 1] : language) === "zh";
-  const [zh, en] = kTroubles[trouble];
-  const err = chinese ? `orv3cal: 您自己的库: 没有写入，${zh}\n` : `orv3cal: your own store: not written, ${en}\n`;
-  return { ...answer, status: 3, out: "", err, files: {} };
+  const [zh, en] = kTroubles[fault instanceof StorageError ? fault.trouble : "failed"];
+  const err = chinese ? `orv3cal: 您自己的库: ${zh}\n` : `orv3cal: your own store: ${en}\n`;
+  return { ...kNothing, err };
 }
 
 function same(a: Uint8Array | null, b: Uint8Array | null): boolean {
@@ -36,34 +40,26 @@ function same(a: Uint8Array | null, b: Uint8Array | null): boolean {
 }
 
 // A run that another tab's save has overtaken is done again on that save.
-async function run(argv: string[], files: Files, language: string): Promise<Answer> {
+async function run(argv: string[], files: Files): Promise<Answer> {
   for (;;) {
     const before = await own.load();
     const { own: after, ...answer } = await core.run(argv, files, before.bytes);
-    if (same(before.bytes, after)) return answer;
-    try {
-      if (await own.save(after, before.version)) return answer;
-    } catch (fault) {
-      return notKept(answer, argv, language, fault instanceof StorageError ? fault.trouble : "failed");
-    }
+    if (same(before.bytes, after) || (await own.save(after, before.version))) return answer;
   }
 }
 
 async function forget(): Promise<Answer> {
-  const answer: Answer = { status: 0, out: "", err: "", files: {} };
-  try {
-    while (!(await own.save(null, (await own.load()).version)));
-    return answer;
-  } catch (fault) {
-    return notKept(answer, [], "en", fault instanceof StorageError ? fault.trouble : "failed");
-  }
+  while (!(await own.save(null, (await own.load()).version)));
+  return { ...kNothing, status: 0 };
 }
 
 async function answerTo(order: Order): Promise<Answer> {
+  const [argv, language] = order.kind === "run" ? [order.argv, order.language] : [[], "en"];
   try {
-    return order.kind === "run" ? await run(order.argv, order.files, order.language) : await forget();
+    return order.kind === "run" ? await run(order.argv, order.files) : await forget();
   } catch (fault) {
-    return { status: 3, out: "", err: `orv3cal: ${String(fault)}\n`, files: {} };
+    if (fault instanceof StorageError || fault instanceof DOMException) return stopped(fault, argv, language);
+    return { ...kNothing, err: `orv3cal: ${String(fault)}\n` };
   }
 }
 

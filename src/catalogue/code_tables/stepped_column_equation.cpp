@@ -1,11 +1,11 @@
 #include "catalogue/code_tables/stepped_column_equation.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <numbers>
 
 #include "catalogue/code_tables/grids.h"
+#include "framework/elementary.h"
 
 namespace orv3 {
 namespace {
@@ -15,8 +15,8 @@ constexpr int kHalvings = 200;  // more than a double has digits
 // Above 0 in front of the smallest root x = pi / mu, below 0 behind it. Both equations are
 // multiplied by the cosines of their tangents' denominators.
 double Balance(CSteppedTop top, double eta1, double k1, double x) noexcept {
-  const double s = std::sin(x), c = std::cos(x);
-  const double s1 = std::sin(eta1 * x), c1 = std::cos(eta1 * x);
+  const double s = Sin(x), c = Cos(x);
+  const double s1 = Sin(eta1 * x), c1 = Cos(eta1 * x);
   if (top == CSteppedTop::Free) return c * c1 - eta1 * k1 * s * s1;
   return s1 * c + eta1 * k1 * s * c1;
 }

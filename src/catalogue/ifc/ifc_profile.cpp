@@ -9,6 +9,7 @@
 
 #include "catalogue/outline/row_sizes.h"
 #include "catalogue/outline/shapes.h"
+#include "framework/elementary.h"
 #include "outlines/outline_moments.h"
 #include "sections/section_kind.h"
 
@@ -39,7 +40,7 @@ CParameters IShaped(double b, double h, double tw, double tf, double r, double t
 
 CParameters TaperedI(CRowSizes& s, double slope) {
   return IShaped(s.Size(L"b(mm)"), s.Size(L"h(mm)"), s.Size(L"tw(mm)"), s.Size(L"t(mm)"),
-                 s.Radius(L"r(mm)"), s.Radius(L"r1(mm)"), std::atan(slope));
+                 s.Radius(L"r(mm)"), s.Radius(L"r1(mm)"), Atan(slope));
 }
 CParameters OrdinaryIProfile(CRowSizes& s) { return TaperedI(s, kOrdinarySlope); }
 CParameters LightIProfile(CRowSizes& s) { return TaperedI(s, kLightSlope); }
@@ -72,7 +73,7 @@ CParameters UShaped(double h, double b, double tw, double tf, double r, double t
 CParameters ChannelProfile(CRowSizes& s) {
   const double tw = s.Size(L"tw(mm)");
   return UShaped(s.Size(L"h(mm)"), s.Size(L"b(mm)"), tw, s.Size(L"t(mm)") + kChannelSlope * tw / 2,
-                 s.Radius(L"r(mm)"), s.Radius(L"r1(mm)"), std::atan(kChannelSlope));
+                 s.Radius(L"r(mm)"), s.Radius(L"r1(mm)"), Atan(kChannelSlope));
 }
 
 CParameters LShaped(double h, double b, double t, double r, double toe) {
@@ -265,8 +266,7 @@ class CCurve {
   std::size_t ArcMiddle(const CVertex& from, const CVertex& to) {
     const CArc arc = EdgeArc(from, to);
     const double angle = arc.start + arc.sweep / 2;
-    return Point(arc.center.x + arc.radius * std::cos(angle),
-                 arc.center.y + arc.radius * std::sin(angle));
+    return Point(arc.center.x + arc.radius * Cos(angle), arc.center.y + arc.radius * Sin(angle));
   }
   void Edge(std::string_view type, std::initializer_list<std::size_t> points) {
     std::vector<std::string> numbers;

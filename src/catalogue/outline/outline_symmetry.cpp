@@ -4,6 +4,8 @@
 #include <cmath>
 #include <vector>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 namespace {
 
@@ -13,8 +15,7 @@ CPoint EdgeMiddle(const CVertex& from, const CVertex& to) {
   if (from.bulge == 0) return {(from.x + to.x) / 2, (from.y + to.y) / 2};
   const CArc arc = EdgeArc(from, to);
   const double middle = arc.start + arc.sweep / 2;
-  return {arc.center.x + arc.radius * std::cos(middle),
-          arc.center.y + arc.radius * std::sin(middle)};
+  return {arc.center.x + arc.radius * Cos(middle), arc.center.y + arc.radius * Sin(middle)};
 }
 
 // Corners and the middles of edges, from the middle of the rectangle.

@@ -3,6 +3,7 @@
 #include <numbers>
 
 #include "catalogue/outline/shapes.h"
+#include "framework/elementary.h"
 #include "sections/dimension_sides.h"
 #include "sections/kind_array.h"
 
@@ -20,9 +21,9 @@ void AddArcLeader(CDimensions& to, const COutline& outline, const wchar_t* sign,
       if (v[i].bulge == 0) continue;
       const CArc arc = EdgeArc(v[i], v[(i + 1) % v.size()]);
       const double angle = arc.start + arc.sweep / 2;
-      const CPoint out{std::cos(angle), std::sin(angle)};
+      const CPoint out{Cos(angle), Sin(angle)};
       const CPoint tip{arc.center.x + arc.radius * out.x, arc.center.y + arc.radius * out.y};
-      const double away = std::hypot(tip.x - near.x, tip.y - near.y);
+      const double away = Hypot(tip.x - near.x, tip.y - near.y);
       if (std::fabs(arc.radius - radius) > 1e-6 * radius || away >= best) continue;
       best = away;
       const double side = arc.sweep > 0 ? 1 : -1;

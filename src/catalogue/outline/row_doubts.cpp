@@ -11,6 +11,7 @@
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "catalogue/outline/shapes.h"
+#include "framework/elementary.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "outlines/outline_moments.h"
@@ -102,7 +103,7 @@ class CComparison {
     Compare("Iy", f.m_dIy, Iy);
     Compare("ix", f.m_dRx, std::sqrt(Ix / m.m_dArea));
     Compare("iy", f.m_dRy, std::sqrt(Iy / m.m_dArea));
-    const double least = mean - std::hypot((m.m_dIx - m.m_dIy) / 2, m.m_dIxy);
+    const double least = mean - Hypot((m.m_dIx - m.m_dIy) / 2, m.m_dIxy);
     Compare("imin", f.m_dRleast, std::sqrt(std::max(0.0, least) / m.m_dArea));
     if (!f.m_bAslant) Moduli();
     if (m_bFirstMoment) Compare("Sx", f.m_dSxo, PlasticAxisX(m_arrLoop).m_dModulus / 2);

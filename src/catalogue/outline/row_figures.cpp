@@ -9,6 +9,7 @@
 #include "catalogue/outline/outline_symmetry.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
+#include "framework/elementary.h"
 #include "outlines/outline_moments.h"
 #include "sections/geometry/families.h"
 #include "sections/geometry/row_values.h"
@@ -174,7 +175,7 @@ void FindLeastRadius(CRowFigures& f, const COutline& outline, bool plates) {
     f.m_dRleast = std::min(f.m_dRx, f.m_dRy);
   } else if (plates && !outline.m_arrLoop.empty()) {
     const double Ixy = RowOutlineMoments(outline.m_arrLoop).m_dIxy;
-    const double least = (f.m_dIx + f.m_dIy) / 2 - std::hypot((f.m_dIx - f.m_dIy) / 2, Ixy);
+    const double least = (f.m_dIx + f.m_dIy) / 2 - Hypot((f.m_dIx - f.m_dIy) / 2, Ixy);
     f.m_dRleast = std::sqrt(std::max(0.0, least) / f.m_dArea);
   }
 }

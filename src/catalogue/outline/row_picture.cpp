@@ -6,6 +6,7 @@
 #include "catalogue/outline/row_dimensions.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/shapes.h"
+#include "framework/elementary.h"
 #include "framework/number_text.h"
 #include "outlines/geometric_figures.h"
 #include "outlines/outline_moments.h"
@@ -68,7 +69,7 @@ CDrawing RowPictureDrawing(const CDataItem& row, double angle, const CExactPrope
     std::swap(picture.m_axes.m_szX, picture.m_axes.m_szY);
     std::swap(picture.m_baseAxes.m_szX, picture.m_baseAxes.m_szY);
   }
-  picture.m_dStrongAngle = std::atan2(-2 * m.m_dIxy, m.m_dIx - m.m_dIy) / 2;
+  picture.m_dStrongAngle = Atan2(-2 * m.m_dIxy, m.m_dIx - m.m_dIy) / 2;
   if (const auto base = BasePoint(row))
     picture.m_base = QuarterTurned(*base, quarters, width, height);
   if (exact != nullptr) {

@@ -8,6 +8,7 @@
 #include "connections/cases/bolt_group_rules.h"
 #include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
+#include "framework/elementary.h"
 #include "framework/number_text.h"
 
 namespace orv3 {
@@ -78,7 +79,7 @@ void SpacingWarnings(const NormalBoltData& record, std::vector<CCaseWarning>& wa
     return;
   }
   // Neighbours of a staggered group stand half a row apart, those of one line two columns.
-  const double nearest = std::min(2 * column, std::hypot(column, row / 2));
+  const double nearest = std::min(2 * column, Hypot(column, row / 2));
   if (nearest < least) warnings.push_back(TooClose("colSpace", nearest, 3, record.m_dD0));
 }
 

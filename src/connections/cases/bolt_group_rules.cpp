@@ -7,6 +7,7 @@
 #include "connections/bolt_thread.h"
 #include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
+#include "framework/elementary.h"
 #include "framework/plain_number.h"
 
 namespace orv3 {
@@ -58,7 +59,7 @@ void SpacingFaults(const char* key, CTextLiteral lines, const CSpacing& spacing,
 // Neighbours of a staggered group stand half a row apart, those of one line two columns.
 void StaggerFault(const CBoltCase& input, double d0, CFaultList& faults) {
   if (input.m_nLayout != 1) return;
-  double nearest = std::hypot(Least(input.m_colSpace), Least(input.m_rowSpace) / 2);
+  double nearest = Hypot(Least(input.m_colSpace), Least(input.m_rowSpace) / 2);
   const auto& each = input.m_colSpace.m_arrEach;
   if (each.empty() && input.m_nCols > 2)
     nearest = std::min(nearest, 2 * input.m_colSpace.m_dUniform);

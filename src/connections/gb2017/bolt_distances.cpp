@@ -1,7 +1,8 @@
 #include "connections/gb2017/bolt_distances.h"
 
 #include <algorithm>
-#include <cmath>
+
+#include "framework/elementary.h"
 
 namespace orv3::gb2017 {
 namespace {
@@ -11,7 +12,7 @@ constexpr const char* kMostPitch = "\\min(8 d_0, 12 t)";
 
 // Neighbours of a staggered group stand half a row apart, those of one line two columns.
 double Nearest(const CDistances& distances, double column, double row) {
-  double nearest = std::hypot(column, row / 2);
+  double nearest = Hypot(column, row / 2);
   for (std::size_t i = 1; i < distances.m_arrCol.size(); ++i)
     nearest = std::min(nearest, distances.m_arrCol[i - 1] + distances.m_arrCol[i]);
   return nearest;

@@ -6,6 +6,7 @@
 
 #include "connections/cases/bolt_case.h"
 #include "connections/check_math.h"
+#include "framework/elementary.h"
 
 namespace orv3::gb2017 {
 namespace {
@@ -18,7 +19,7 @@ void Shear(const CBoltLoads& loads, const CBoltShape& shape, CBoltFigures& figur
   figures.m_dNvy = std::fabs(loads.m_dVy) / n;
   figures.m_dNTx = turn * shape.m_dYMax;
   figures.m_dNTy = turn * shape.m_dXMax;
-  figures.m_dNv = std::hypot(figures.m_dNvx + figures.m_dNTx, figures.m_dNvy + figures.m_dNTy);
+  figures.m_dNv = Hypot(figures.m_dNvx + figures.m_dNTx, figures.m_dNvy + figures.m_dNTy);
 }
 
 // About the centroid; of uneven rows the arm is that of the row that M pulls.
@@ -103,7 +104,7 @@ void Interaction(int type, const CBoltResistance& resistance, double beta,
                  CBoltFigures& figures) noexcept {
   const double shear = figures.m_dNv / (beta * resistance.m_dShear);
   const double tension = figures.m_dNt / resistance.m_dTension;
-  figures.m_dRatio = type == kFrictionBolt ? shear + tension : std::hypot(shear, tension);
+  figures.m_dRatio = type == kFrictionBolt ? shear + tension : Hypot(shear, tension);
   const bool bReduced = type == kBearingBolt && figures.m_dNt > 0;
   figures.m_dBearing = beta * resistance.m_dBearing / (bReduced ? 1.2 : 1);
 }

@@ -6,6 +6,7 @@
 #include <numbers>
 
 #include "connections/cases/case_rules.h"
+#include "framework/elementary.h"
 
 namespace orv3::gb2017 {
 namespace {
@@ -23,7 +24,7 @@ double Throat(const CFilletCase& input) noexcept {
   if (input.m_dHe != 0) return input.m_dHe;
   if (input.m_dHf != 0) {
     if (IsRightAngle(input.m_dAngle)) return 0.7 * input.m_dHf;
-    return input.m_dHf * std::cos(input.m_dAngle / 2 * std::numbers::pi / 180);
+    return input.m_dHf * Cos(input.m_dAngle / 2 * std::numbers::pi / 180);
   }
   constexpr double kRounding = 1e-6;  // of an angle of 60 degrees
   if (input.m_nGroove == 0)

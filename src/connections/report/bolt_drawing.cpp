@@ -6,6 +6,7 @@
 #include "connections/cases/case_rules.h"
 #include "connections/check_math.h"
 #include "connections/report/torque_arrow.h"
+#include "framework/elementary.h"
 #include "framework/utf8.h"
 
 namespace orv3 {
@@ -24,10 +25,10 @@ double BoltRatio(const CBoltView& view, const CHole& bolt, double sense) {
   const double perMm = bTorque ? sense * std::fabs(input.m_dT) / shape.SumR2() : 0;
   const double x = input.m_dVx / r.m_nBolts + perMm * (bolt.m_y - shape.m_dYc);
   const double y = input.m_dVy / r.m_nBolts - perMm * (bolt.m_x - shape.m_dXc);
-  const double shear = std::hypot(x, y) / (view.m_judged.m_dShear * r.m_dBeta);
+  const double shear = Hypot(x, y) / (view.m_judged.m_dShear * r.m_dBeta);
   const double tension =
       std::max(0.0, view.m_judged.m_dNtFirst + view.m_judged.m_dNtPerMm * bolt.m_y) / r.m_dNtb;
-  return input.m_nType == kFrictionBolt ? shear + tension : std::hypot(shear, tension);
+  return input.m_nType == kFrictionBolt ? shear + tension : Hypot(shear, tension);
 }
 
 double WorstRatio(const CBoltView& view, double sense) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "connections/report/bolt_steps.h"
+#include "framework/elementary.h"
 
 namespace orv3 {
 namespace {
@@ -25,7 +26,7 @@ std::string Legs(const CPlateSection& section, double edges) {
   for (std::size_t i = 1; i < section.m_arrHole.size(); ++i) {
     const CHole& from = section.m_arrHole[i - 1];
     const CHole& to = section.m_arrHole[i];
-    const double leg = std::hypot(to.m_x - from.m_x, to.m_y - from.m_y);
+    const double leg = Hypot(to.m_x - from.m_x, to.m_y - from.m_y);
     rest -= leg;
     const auto same = std::find_if(legs.begin(), legs.end(), [leg](const auto& each) {
       return std::fabs(each.first - leg) < 1e-9 * leg;

@@ -1,10 +1,10 @@
 #include "connections/report/weld_drawing.h"
 
 #include <algorithm>
-#include <cmath>
 #include <numbers>
 
 #include "connections/cases/case_rules.h"
+#include "framework/elementary.h"
 #include "framework/utf8.h"
 
 namespace orv3 {
@@ -25,7 +25,7 @@ CPath Polygon(std::vector<CPoint> corners) {
 
 CPoint Toward(CPoint from, double degrees, double length) {
   const double angle = degrees * std::numbers::pi / 180;
-  return {from.x + length * std::cos(angle), from.y + length * std::sin(angle)};
+  return {from.x + length * Cos(angle), from.y + length * Sin(angle)};
 }
 
 CString Named(const char* szSign, double value) {

@@ -5,6 +5,7 @@
 
 #include "connections/cases/bolt_case.h"
 #include "connections/check_math.h"
+#include "framework/elementary.h"
 
 namespace orv3 {
 namespace {
@@ -18,7 +19,7 @@ void Shear(const NormalBoltData& record, CBoltFigures& figures) {
   figures.m_dNvy = std::fabs(record.m_dVy) / record.m_nBoltNum;
   figures.m_dNTx = turn * std::fabs(record.m_dYMax);
   figures.m_dNTy = turn * std::fabs(record.m_dXMax);
-  figures.m_dNv = std::hypot(figures.m_dNvx + figures.m_dNTx, figures.m_dNvy + figures.m_dNTy);
+  figures.m_dNv = Hypot(figures.m_dNvx + figures.m_dNTx, figures.m_dNvy + figures.m_dNTy);
 }
 
 // The tension when the group turns as said; the moment may act in either sense about the centroid
@@ -68,7 +69,7 @@ void Interaction(const NormalBoltData& record, CBoltFigures& figures) {
     figures.m_dRatio = shear + tension;
     return;
   }
-  figures.m_dRatio = std::hypot(shear, tension);
+  figures.m_dRatio = Hypot(shear, tension);
   const bool bReduced = record.m_nBoltType == kBearingBolt && figures.m_dNt > 0;
   figures.m_dBearing = record.m_dBeta * record.m_dNcb / (bReduced ? 1.2 : 1);
 }

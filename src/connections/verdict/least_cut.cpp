@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numeric>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 namespace {
 
@@ -46,7 +48,7 @@ CLeastCut LeastCut(std::span<const double> gaps, double across, double deduct) {
       if (cost < way.m_dCost) way = {cost, ways[line].m_dLength + leg, static_cast<int>(line)};
     };
     if (i >= 2) from(i - 2, gaps[i - 2] + gaps[i - 1]);
-    if (i >= 1) from(i - 1, std::hypot(gaps[i - 1], across));
+    if (i >= 1) from(i - 1, Hypot(gaps[i - 1], across));
     ways.push_back(way);
     if (way.m_dCost + whole - at < bestCost) {
       bestCost = way.m_dCost + whole - at;

@@ -6,6 +6,7 @@
 #include "connections/cases/case_rules.h"
 #include "connections/cases/weld_case.h"
 #include "connections/check_math.h"
+#include "framework/elementary.h"
 
 namespace orv3 {
 namespace {
@@ -54,7 +55,7 @@ CWeldFigures FilletFigures(const CFilletCase& input, const CFilletStrength& stre
       1000 * std::fabs(input.m_dV / input.m_nWelds) / (strength.m_dHe * figures.m_dShearLength);
   const double across = std::max(figures.m_dTension / figures.m_dBetaTension,
                                  figures.m_dCompression / figures.m_dBetaCompression);
-  figures.m_dCombined = std::hypot(across, figures.m_dTau / figures.m_dFusion);
+  figures.m_dCombined = Hypot(across, figures.m_dTau / figures.m_dFusion);
   return figures;
 }
 

@@ -11,6 +11,7 @@
 #include "connections/gb2017/fillet_size.h"
 #include "connections/gb2017/notes.h"
 #include "connections/weld_group/weld_lines.h"
+#include "framework/elementary.h"
 #include "framework/plain_number.h"
 #include "reports/fault_list.h"
 
@@ -165,7 +166,7 @@ bool CWeldGroupCheck::IsRefused(const CWeldGroupCase& input) {
   m_sums = SumsOf(m_arrWeld);
   m_loads = AtCentroid(input, m_sums);
   if (!FindTension(m_loads, m_sums, m_tension)) {
-    const std::string M = PlainNumber(std::hypot(m_loads.m_dMx, m_loads.m_dMy) / 1000) + " kN·mm";
+    const std::string M = PlainNumber(Hypot(m_loads.m_dMx, m_loads.m_dMy) / 1000) + " kN·mm";
     faults.Add("M",
                {"焊缝在一直线上，对形心处的弯矩 " + M + "（含 N 的偏心）没有力臂",
                 "the welds lie on one line, which has no lever arm for " + M +

@@ -4,10 +4,11 @@
 #include <cmath>
 
 #include "connections/check_math.h"
+#include "framework/elementary.h"
 
 namespace orv3 {
 
-double CWeldLine::Length() const noexcept { return std::hypot(m_dX2 - m_dX1, m_dY2 - m_dY1); }
+double CWeldLine::Length() const noexcept { return Hypot(m_dX2 - m_dX1, m_dY2 - m_dY1); }
 
 CWeldGroupSums SumsOf(std::span<const CWeldLine> welds) noexcept {
   CWeldGroupSums sums;
@@ -48,10 +49,10 @@ bool FindTension(const CCentroidLoads& loads, const CWeldGroupSums& sums,
   tension = {.m_dAt = loads.m_dN / sums.m_dA};
   // The principal axes: u with the greatest sum of squares I1, v across it with I2.
   const double half = (sums.m_dIy - sums.m_dIx) / 2;
-  const double radius = std::hypot(half, sums.m_dIxy);
-  const double angle = radius == 0 ? 0 : std::atan2(sums.m_dIxy, half) / 2;
-  const double ux = std::cos(angle);
-  const double uy = std::sin(angle);
+  const double radius = Hypot(half, sums.m_dIxy);
+  const double angle = radius == 0 ? 0 : Atan2(sums.m_dIxy, half) / 2;
+  const double ux = Cos(angle);
+  const double uy = Sin(angle);
   const double I1 = sums.J() / 2 + radius;
   const double I2 = sums.J() / 2 - radius;
   const double mu = loads.m_dMy * ux + loads.m_dMx * uy;
@@ -64,7 +65,7 @@ bool FindTension(const CCentroidLoads& loads, const CWeldGroupSums& sums,
   tension.m_dX = alongU * ux - alongV * uy;
   tension.m_dY = alongU * uy + alongV * ux;
   // Axes along x and y leave in the one a rounding of the other.
-  const double trace = 1e-12 * std::hypot(tension.m_dX, tension.m_dY);
+  const double trace = 1e-12 * Hypot(tension.m_dX, tension.m_dY);
   if (std::fabs(tension.m_dX) < trace) tension.m_dX = 0;
   if (std::fabs(tension.m_dY) < trace) tension.m_dY = 0;
   return true;

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numeric>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 namespace {
 
@@ -37,7 +39,7 @@ bool GoesOn(const CEnd& a, const CEnd& b, double gap) noexcept {
   const double along = a.m_dWayX * b.m_dWayX + a.m_dWayY * b.m_dWayY;
   const double across = a.m_dWayX * b.m_dWayY - a.m_dWayY * b.m_dWayX;
   return along < 0 && std::fabs(across) <= kParallel &&
-         std::hypot(b.m_dX - a.m_dX, b.m_dY - a.m_dY) <= gap;
+         Hypot(b.m_dX - a.m_dX, b.m_dY - a.m_dY) <= gap;
 }
 
 double LargestLeg(std::span<const CWeldLine> welds) noexcept {

@@ -6,6 +6,7 @@
 
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/outline/row_figures.h"
+#include "framework/elementary.h"
 #include "framework/utf8.h"
 #include "sections/geometry/row_values.h"
 #include "sections/load_data_table.h"
@@ -58,7 +59,7 @@ class CLatticeReader {
     s.m_dBattenSpan = std::max(m_limbs.m_dKx, m_limbs.m_dKy);
     s.m_dPlaneAngle = 90;
     if (s.m_nLimbs == 3)
-      s.m_dPlaneAngle = std::atan2(m_limbs.m_dKy, m_limbs.m_dKx / 2) * 180 / std::numbers::pi;
+      s.m_dPlaneAngle = Atan2(m_limbs.m_dKy, m_limbs.m_dKx / 2) * 180 / std::numbers::pi;
     s.m_dLimbR1 = HUGE_VAL;
     int tubes = 0;
     for (const CLatticeLimb& limb : m_limbs.m_arrLimb) {
@@ -125,17 +126,17 @@ class CLatticeReader {
     s.m_dBarA = f.m_dArea;
     s.m_dBarR = f.m_dRleast;
     const double angle = s.m_dAngle * std::numbers::pi / 180;
-    s.m_dBarLength = PlaneWidth() / std::sin(angle);
+    s.m_dBarLength = PlaneWidth() / Sin(angle);
     s.m_dL1 = m_lacing.m_dL1;
     m_lattice.m_bL1Assumed = std::isnan(s.m_dL1);
-    if (m_lattice.m_bL1Assumed) s.m_dL1 = 2 * PlaneWidth() / std::tan(angle);
+    if (m_lattice.m_bL1Assumed) s.m_dL1 = 2 * PlaneWidth() / Tan(angle);
     return LimbLength();
   }
 
   // The widest plane of the bond, between the limbs' centroids.
   double PlaneWidth() const {
     if (s.m_nLimbs != 3) return s.m_dBattenSpan;
-    return std::max(m_limbs.m_dKx, std::hypot(m_limbs.m_dKx / 2, m_limbs.m_dKy));
+    return std::max(m_limbs.m_dKx, Hypot(m_limbs.m_dKx / 2, m_limbs.m_dKy));
   }
 
   std::optional<CCaseFault> Battens() {

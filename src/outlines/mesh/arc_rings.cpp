@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "framework/elementary.h"
 #include "outlines/mesh/edge_distance.h"
 
 namespace orv3 {
@@ -36,7 +37,7 @@ void AddRings(const std::vector<CEdge>& edges, std::vector<CPoint>& to) {
     if (!arc.IsArc() || arc.Sweep() > 0) continue;
     const CCircle circle = CircleOf(arc);
     const CPoint middle = arc.At(0.5);
-    const double first = std::atan2(middle.y - circle.center.y, middle.x - circle.center.x);
+    const double first = Atan2(middle.y - circle.center.y, middle.x - circle.center.x);
     const std::size_t before = to.size();
     std::size_t rings = 0;
     for (double radius = 2 * circle.radius; radius < 1; radius *= 2) {
@@ -44,8 +45,8 @@ void AddRings(const std::vector<CEdge>& edges, std::vector<CPoint>& to) {
       const double step = 2 * std::numbers::pi / kRays;
       for (int i = 0; i < kRays; ++i) {
         const double angle = first + (i + 0.5 * static_cast<double>(rings % 2)) * step;
-        const CPoint p{circle.center.x + radius * std::cos(angle),
-                       circle.center.y + radius * std::sin(angle)};
+        const CPoint p{circle.center.x + radius * Cos(angle),
+                       circle.center.y + radius * Sin(angle)};
         if (IsFree(p, kClear * step * radius, edges, to)) to.push_back(p);
       }
       if (to.size() == had) break;

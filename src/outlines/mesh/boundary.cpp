@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "framework/elementary.h"
 #include "outlines/mesh/arc_rings.h"
 #include "outlines/mesh/edge_distance.h"
 
@@ -89,7 +90,7 @@ class CCutter {
       const std::size_t in = first + (i + count - 1) % count, out = first + i;
       const CPoint u = m_edges[in].Derivative(1), v = m_edges[out].Derivative(0);
       CCornerPoint corner{m_edges[out].At(0), in, out};
-      corner.turn = std::atan2(u.x * v.y - u.y * v.x, u.x * v.x + u.y * v.y);
+      corner.turn = Atan2(u.x * v.y - u.y * v.x, u.x * v.x + u.y * v.y);
       const double bend =
           m_edges[in].Sweep() / m_edges[in].Length() - m_edges[out].Sweep() / m_edges[out].Length();
       corner.plain = std::fabs(corner.turn) < 1e-6 && std::fabs(bend) < 1e-6;
@@ -226,13 +227,13 @@ class CCutter {
       m_out.m_arrCorner.push_back(c.at);
       const double inside = std::numbers::pi - c.turn;
       const CPoint d = m_edges[c.out].Derivative(0);
-      const double start = std::atan2(d.y, d.x);
+      const double start = Atan2(d.y, d.x);
       const int rays = std::max(2, static_cast<int>(std::lround(inside / 1.4)));
       for (int i = 1; i < rays; ++i) {
         const double part = 1.0 * i / rays;
         const double r = std::min(after[c.out] * (1 - part) + before[c.in] * part, c.thick * 0.7);
-        const CPoint p{c.at.x + r * std::cos(start + inside * part),
-                       c.at.y + r * std::sin(start + inside * part)};
+        const CPoint p{c.at.x + r * Cos(start + inside * part),
+                       c.at.y + r * Sin(start + inside * part)};
         if (m_out.m_fold.Inside(p) > kClear * r) m_out.m_arrInner.push_back(p);
       }
     }

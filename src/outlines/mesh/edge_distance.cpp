@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 
-double Distance(CPoint a, CPoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
+double Distance(CPoint a, CPoint b) { return Hypot(a.x - b.x, a.y - b.y); }
 
 CCircle CircleOf(const CEdge& arc) {
   const CPoint middle = arc.At(0.5), d = arc.Derivative(0.5);
@@ -18,7 +20,7 @@ bool IsBeside(CPoint p, const CEdge& arc, const CCircle& circle) {
   const CPoint middle = arc.At(0.5);
   const CPoint u{p.x - circle.center.x, p.y - circle.center.y};
   const CPoint m{middle.x - circle.center.x, middle.y - circle.center.y};
-  const double angle = std::atan2(m.x * u.y - m.y * u.x, m.x * u.x + m.y * u.y);
+  const double angle = Atan2(m.x * u.y - m.y * u.x, m.x * u.x + m.y * u.y);
   return 2 * std::fabs(angle) <= std::fabs(arc.Sweep());
 }
 

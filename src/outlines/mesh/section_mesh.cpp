@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "framework/elementary.h"
 #include "outlines/mesh/boundary.h"
 #include "outlines/mesh/triangulation.h"
 
@@ -204,7 +205,7 @@ class CRefiner {
     const auto rank = [&](int i) {
       const CPoint a = m_mesh.m_arrVertex[Index(t.m_vertex[Index(i)])];
       const CPoint b = m_mesh.m_arrVertex[Index(t.m_vertex[Index((i + 1) % 3)])];
-      return std::pair{std::hypot(a.x - b.x, a.y - b.y), EdgeKey(t, i)};
+      return std::pair{Hypot(a.x - b.x, a.y - b.y), EdgeKey(t, i)};
     };
     int best = 0;
     for (int i = 1; i < 3; ++i) {
@@ -323,7 +324,7 @@ std::vector<char> CoarseAtArcs(const CSectionMesh& mesh) {
       const int v = t.m_vertex[Index(i)];
       const CPoint a = mesh.m_arrVertex[Index(v)];
       const CPoint b = mesh.m_arrVertex[Index(t.m_vertex[Index((i + 1) % 3)])];
-      longest = std::max(longest, std::hypot(a.x - b.x, a.y - b.y));
+      longest = std::max(longest, Hypot(a.x - b.x, a.y - b.y));
       least = std::min(least, most[Index(v)]);
     }
     marked.push_back(longest > least);

@@ -1,14 +1,15 @@
 #include "outlines/solver/element.h"
 
-#include <cmath>
 #include <numbers>
+
+#include "framework/elementary.h"
 
 namespace orv3 {
 namespace {
 
 // The shares of the edge functions of degree 2 to n in a curve, less its chord, of which the values
 // at the n - 1 inner points of CurvePoint are known.
-double CurvePoint(int i, int n) { return (1 - std::cos(std::numbers::pi * i / n)) / 2; }
+double CurvePoint(int i, int n) { return (1 - Cos(std::numbers::pi * i / n)) / 2; }
 
 Eigen::MatrixXd CurveShares(int n) {
   Eigen::MatrixXd values(n - 1, n - 1);

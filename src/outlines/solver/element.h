@@ -1,10 +1,10 @@
 // A triangle of the mesh as a finite element: its integrals in the shape functions of a degree.
 #pragma once
 
-#include <Eigen/Dense>
 #include <array>
 
 #include "outlines/mesh/section_mesh.h"
+#include "outlines/solver/eigen.h"
 #include "outlines/solver/shape_functions.h"
 
 namespace orv3 {

@@ -108,6 +108,16 @@ class CJoiner {
   std::priority_queue<COffer> m_queue;
 };
 
+// Takes from `rest` four columns `step` apart from each other, each by its first number, over
+// `count` rows. Rows are independent, so a compiler's vector instructions leave the figures alone.
+void SubtractFour(double* __restrict rest, const double* __restrict first, Eigen::Index step,
+                  Eigen::Index count) {
+  const double *a = first, *b = a + step, *c = b + step, *d = c + step;
+  const double shares[] = {*a, *b, *c, *d};
+  for (Eigen::Index i = 0; i < count; ++i)
+    rest[i] -= shares[0] * a[i] + shares[1] * b[i] + shares[2] * c[i] + shares[3] * d[i];
+}
+
 }  // namespace
 
 std::vector<std::pair<int, int>> JoiningOrder(const CSectionMesh& mesh) {
@@ -207,12 +217,11 @@ void CElimination::EliminateFront(CBorder& left) {
         a.col(j).tail(rows - j) -= a(j, k) * a.col(k).tail(rows - j);
     }
     for (Eigen::Index j = to; j < columns; ++j) {
-      auto rest = a.col(j).tail(rows - j);
-      const auto term = [&](Eigen::Index k) { return a(j, k) * a.col(k).tail(rows - j); };
       if (to - from == 4) {
-        rest -= term(from) + term(from + 1) + term(from + 2) + term(from + 3);
+        SubtractFour(&a(j, j), &a(j, from), rows, rows - j);
       } else {
-        for (Eigen::Index k = from; k < to; ++k) rest -= term(k);
+        for (Eigen::Index k = from; k < to; ++k)
+          a.col(j).tail(rows - j) -= a(j, k) * a.col(k).tail(rows - j);
       }
     }
   }

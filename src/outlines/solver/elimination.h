@@ -5,12 +5,12 @@
 // is a chain of triangles, and its fronts stay a few dozen unknowns wide.
 #pragma once
 
-#include <Eigen/Dense>
 #include <span>
 #include <utility>
 #include <vector>
 
 #include "outlines/mesh/section_mesh.h"
+#include "outlines/solver/eigen.h"
 #include "outlines/solver/shape_functions.h"
 
 namespace orv3 {

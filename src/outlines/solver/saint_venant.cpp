@@ -1,10 +1,10 @@
 #include "outlines/solver/saint_venant.h"
 
 #include <algorithm>
-#include <cmath>
 #include <span>
 #include <utility>
 
+#include "framework/elementary.h"
 #include "outlines/solver/elimination.h"
 
 namespace orv3 {
@@ -289,7 +289,7 @@ CEdgeTraction CSaintVenant::Traction(std::size_t element, int edge, double t, CS
   const CElement& e = m_elements[element];
   const CElementFields& u = (of == CSolution::Fine ? m_fields : m_lower)[element];
   const CPoint p{value.dot(e.X()), value.dot(e.Y())}, d{slope.dot(e.X()), slope.dot(e.Y())};
-  const double length = std::hypot(d.x, d.y);
+  const double length = Hypot(d.x, d.y);
   const Eigen::RowVector3d gradient = slope.transpose().lazyProduct(u) / length;
   const double det = m_Ix * m_Iy - m_Ixy * m_Ixy;
   return {p, gradient[0] + ((m_centroid.y - p.y) * d.x + (p.x - m_centroid.x) * d.y) / length,

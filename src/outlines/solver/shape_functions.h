@@ -7,8 +7,9 @@
 // lb and Legendre's P, so it changes sign with the edge's direction when d is odd.
 #pragma once
 
-#include <Eigen/Dense>
 #include <vector>
+
+#include "outlines/solver/eigen.h"
 
 namespace orv3 {
 

@@ -1,7 +1,6 @@
 #include "sections/geometry/plate_walls.h"
 
-#include <cmath>
-
+#include "framework/elementary.h"
 #include "sections/styles/style_form.h"
 
 namespace orv3 {
@@ -28,7 +27,7 @@ std::optional<CPlateWarping> PlateWarpingOf(const CDataItem& row) {
     return std::nullopt;
   const CSectorial sectorial = style->m_pForm->m_pSectorial(CSizes(record.m_dSize));
   CSteelJMData::CalSectCharacterStyle(record);
-  const double e0 = std::hypot(sectorial.m_x - record.m_dXo, sectorial.m_y - record.m_dYo);
+  const double e0 = Hypot(sectorial.m_x - record.m_dXo, sectorial.m_y - record.m_dYo);
   return CPlateWarping{e0 < kRounding * record.m_dSize[1] ? 0 : e0, sectorial.m_Iw};
 }
 

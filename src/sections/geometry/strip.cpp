@@ -1,5 +1,7 @@
 #include "sections/geometry/strip.h"
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 
 namespace {
@@ -10,17 +12,17 @@ struct CDirection {
 
 CDirection Along(CStripPoint from, CStripPoint to) {
   const double x = to.x - from.x, y = to.y - from.y;
-  const double length = std::hypot(x, y);
+  const double length = Hypot(x, y);
   return {x / length, y / length, length};
 }
 
 // What rounding the corner at height y adds: the arc, less the tangents it replaces.
 double CornerMoment(double y, CDirection in, CDirection out, double r) {
-  const double half = std::acos(in.x * out.x + in.y * out.y) / 2;
-  const double tangent = r * std::tan(half);
+  const double half = Acos(in.x * out.x + in.y * out.y) / 2;
+  const double tangent = r * Tan(half);
   // From the corner towards the arc's centre.
-  const double inward = (out.y - in.y) / (2 * std::sin(half));
-  const double toArc = r / std::cos(half) - r * std::sin(half) / half;
+  const double inward = (out.y - in.y) / (2 * Sin(half));
+  const double toArc = r / Cos(half) - r * Sin(half) / half;
   const double straight = tangent * (2 * y + (out.y - in.y) * tangent / 2);
   return 2 * r * half * (y + inward * toArc) - straight;
 }

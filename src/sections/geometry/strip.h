@@ -5,6 +5,8 @@
 #include <numbers>
 #include <span>
 
+#include "framework/elementary.h"
+
 namespace orv3 {
 
 // The root fillet of radius r between a flange and a web, on one side of the web: it starts at the
@@ -19,7 +21,7 @@ inline double FilletMoment(double r, double from) {
   // With u = r - depth the fillet is r - sqrt(r^2 - u^2) wide; from 0 to `end`.
   const double end = r - from;
   const double chord = std::sqrt(r * r - end * end);
-  const double area = (end * chord + r * r * std::asin(end / r)) / 2;
+  const double area = (end * chord + r * r * Asin(end / r)) / 2;
   const double moment = (r * r * r - chord * chord * chord) / 3;
   return r * end * end / 2 - (end * area - moment);
 }

@@ -1,7 +1,8 @@
 #include "sections/geometry/thin_wall.h"
 
 #include <cassert>
-#include <cmath>
+
+#include "framework/elementary.h"
 
 namespace orv3 {
 
@@ -9,9 +10,7 @@ namespace {
 
 constexpr std::size_t kMostWalls = 12;
 
-double Length(const CWall& wall) {
-  return std::hypot(wall.m_x2 - wall.m_x1, wall.m_y2 - wall.m_y1);
-}
+double Length(const CWall& wall) { return Hypot(wall.m_x2 - wall.m_x1, wall.m_y2 - wall.m_y1); }
 
 bool Counts(const CWall& wall) { return wall.m_t > 0 && Length(wall) > 0; }
 

@@ -3,6 +3,7 @@
 // the distance from shear centre to centroid, and so is every e0 here.
 #include <cmath>
 
+#include "framework/elementary.h"
 #include "sections/geometry/formulas.h"
 #include "sections/geometry/plate_walls.h"
 
@@ -74,7 +75,7 @@ std::optional<double> TShearCentre(const CDataItem& row, const CFamily& family, 
 std::optional<double> AngleShearCentre(const CDataItem& row, const CFamily& family, const CCell&) {
   CReader read(row, family);
   const double heel = read.Plate(0) / 2;
-  return read.Give(std::hypot(read(&CFamily::m_x) - heel, read(&CFamily::m_y) - heel));
+  return read.Give(Hypot(read(&CFamily::m_x) - heel, read(&CFamily::m_y) - heel));
 }
 
 std::optional<double> PlateShearCentre(const CDataItem& row, const CFamily&, const CCell&) {

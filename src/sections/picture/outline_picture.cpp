@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "framework/elementary.h"
 #include "sections/picture/picture_layout.h"
 
 namespace orv3 {
@@ -118,12 +119,11 @@ class CPictureDrawing {
   void DrawSlantAxis(double angle, const wchar_t* letter) {
     const CPoint c = Page(m_picture.m_centroid);
     const double side = std::min(m_frame.Width(), m_frame.Height());
-    CPoint u{std::cos(angle), std::sin(angle)};
+    CPoint u{Cos(angle), Sin(angle)};
     CPoint end = c;
     CBox box;
     for (const double part : {0.5, -0.5, 0.42, -0.42, 0.34, -0.34, 0.58, -0.58, 0.26, -0.26, 0.2}) {
-      u = part < 0 ? CPoint{-std::cos(angle), -std::sin(angle)}
-                   : CPoint{std::cos(angle), std::sin(angle)};
+      u = part < 0 ? CPoint{-Cos(angle), -Sin(angle)} : CPoint{Cos(angle), Sin(angle)};
       end = {c.x + u.x * std::fabs(part) * side, c.y + u.y * std::fabs(part) * side};
       box = LetterBox(end, u, letter);
       if (IsFree(box)) break;
@@ -141,7 +141,7 @@ class CPictureDrawing {
   // Of a letter beyond the end of a line that runs along u.
   static CBox LetterBox(CPoint end, CPoint u, const wchar_t* letter) {
     const double width = TextWidth(letter, kTextSize) / 2;
-    const double away = std::hypot(width, kTextSize / 2) + 1;
+    const double away = Hypot(width, kTextSize / 2) + 1;
     const CPoint at{end.x + u.x * away, end.y + u.y * away};
     return {at.x - width, at.y - kTextSize / 2, at.x + width, at.y + kTextSize / 2};
   }
@@ -241,7 +241,7 @@ class CPictureDrawing {
   void DrawRadius(const CSizeDimension& size) {
     const CPoint center = Page(size.m_from);
     const CPoint rim = Page(size.m_to);
-    const double radius = std::hypot(rim.x - center.x, rim.y - center.y);
+    const double radius = Hypot(rim.x - center.x, rim.y - center.y);
     if (radius == 0) return;
     const CPoint u{(rim.x - center.x) / radius, (rim.y - center.y) / radius};
     const double out = m_outline.m_dWidth / 2 * m_layout.Scale() + 16;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "framework/elementary.h"
 #include "framework/number_text.h"
 
 namespace orv3 {
@@ -158,7 +159,7 @@ CString CPictureLayout::PlasticText() const {
 
 CPoint CPictureLayout::LeaderEnd(const CSizeDimension& size) const {
   const CPoint away{size.m_from.x - size.m_to.x, size.m_from.y - size.m_to.y};
-  const double length = std::hypot(away.x, away.y);
+  const double length = Hypot(away.x, away.y);
   const double reach = length > 0 ? kLeader / length : 0;
   const double sense = away.x > 0 ? 1 : -1;
   const double text = TextWidth(SizeText(size), kTextSize) + 4;

@@ -1,7 +1,8 @@
 #include "sections/sketch/pen.h"
 
-#include <cmath>
 #include <numbers>
+
+#include "framework/elementary.h"
 
 namespace orv3 {
 namespace {
@@ -27,7 +28,7 @@ void CSketchPen::Axes(CPoint center, CBox box, const wchar_t* xAxis, const wchar
 
 void CSketchPen::SlantAxis(CPoint center, double degrees, double reach, const wchar_t* letter) {
   const double angle = degrees * std::numbers::pi / 180;
-  const CPoint u{std::cos(angle), std::sin(angle)};
+  const CPoint u{Cos(angle), Sin(angle)};
   const CPoint end{center.x + u.x * reach, center.y + u.y * reach};
   Line({center.x - u.x * reach, center.y - u.y * reach}, end, CLayer::CentroidAxis);
   Letter({end.x + 3, end.y + 2}, letter, CAnchor::Left, CLayer::CentroidAxis);

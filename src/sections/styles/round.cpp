@@ -1,7 +1,7 @@
 // The circle and the tube.
-#include <cmath>
 #include <numbers>
 
+#include "framework/elementary.h"
 #include "sections/styles/style_form.h"
 
 namespace orv3 {
@@ -26,7 +26,7 @@ CSizeDimension Radius(const wchar_t* sign, double outer, double radius, double d
           radius,
           CDimensionSide::Radius,
           {outer, outer},
-          {outer + radius * std::cos(angle), outer + radius * std::sin(angle)}};
+          {outer + radius * Cos(angle), outer + radius * Sin(angle)}};
 }
 
 CDimensions CircleDimensions(CSizes s) { return {Radius(L"R", s[0], s[0], 55)}; }
