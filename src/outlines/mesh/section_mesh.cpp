@@ -153,7 +153,7 @@ std::vector<CSectionMesh> TryMeshes(std::span<const CPath> loops, int arcs, cons
     // What the grid cannot tell apart must be no gap, wall or edge.
     const auto strays = [&](int v, double at) {
       const CPoint p = all.At(all.m_arrStretch[i], at), q = points.Points()[Index(v)];
-      return std::hypot(p.x - q.x, p.y - q.y) > kSame;
+      return Hypot(p.x - q.x, p.y - q.y) > kSame;
     };
     if (strays(from, 0) || strays(to, 1)) return {};
     if (from == to) continue;
