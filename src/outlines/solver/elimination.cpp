@@ -5,6 +5,7 @@
 #include <cmath>
 #include <iterator>
 #include <queue>
+#include <tuple>
 
 namespace orv3 {
 namespace {
@@ -58,8 +59,9 @@ class CJoiner {
  private:
   struct COffer {
     int cost, a, b, versionA, versionB;
+    // Whole, so that offers alike in cost follow one another alike in every standard library.
     bool operator<(const COffer& other) const {
-      return std::pair{cost, a} > std::pair{other.cost, other.a};
+      return std::tuple{cost, a, b} > std::tuple{other.cost, other.a, other.b};
     }
   };
 
