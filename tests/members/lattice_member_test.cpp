@@ -27,6 +27,17 @@ CLatticeSection Laced() {
   s.m_dBarA = 349;
   s.m_dBarLength = 340;
   s.m_dBarR = 8.9;
+  s.m_dBarLeg = 45;
+  s.m_dBarThick = 4;
+  s.m_dBarRoot = 5;
+  return s;
+}
+
+// w/t 18, over 14 of the bar's strength and 15 of its leg.
+CLatticeSection WideLegs() {
+  CLatticeSection s = Laced();
+  s.m_dBarLeg = 100;
+  s.m_dBarThick = s.m_dBarRoot = 5;
   return s;
 }
 
@@ -65,6 +76,10 @@ const CExample kExamples[] = {
     {"laced", Laced(), -1400, 0, K::Limbs, 0.53381, 0.53381},
     // V = 8006 215/85 = 20250 N, Nd = V/2/sin 45; lambda 38.2, 0.6 + 0.0015 lambda = 0.6573
     {"laced", Laced(), -1400, 0, K::Lacing, 0.32056, 0.32056},
+    // by rho-e 1.3 - 0.3 18/14; 18/15 by sqrt of what it has over what it bears, 2003: 18 against
+    // 10 + 0.1 38.2
+    {"wide legs", WideLegs(), -1400, 0, K::Lacing, 0.35061, 0.32056},
+    {"wide legs", WideLegs(), -1400, 0, K::Wall, 0.71056, 1.30244},
     // N/(phi A f) + M/(W (1 - N/N'E) f), 2003 with phi N/N'E
     {"laced, moment", Laced(), -900, 40000, K::StabilityX, 0.84128, 0.83468},
     // the limb: 900/2 + 40000/240 = 616.67 kN, lambda 55.046

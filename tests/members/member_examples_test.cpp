@@ -143,6 +143,18 @@ const CExample kExamples[] = {
     // w/t (100 - 20)/10 against 5 + 0.125 lambda, times sqrt(phi A f/N); 2003 (100 - 10 - 12)/10
     // against 20
     {"angle", Angle(), K::Wall, 0.26711, 0.39000},
+    // A given limit counts up to the code's 200
+    {"beyond every limit",
+     [] {
+       CMemberCase c = WideH();
+       c.m_dLimit = 1000;
+       return c;
+     }(),
+     K::Slenderness, 0.22901, 0.22901},
+    // 980/2 against 80 epsilon-k
+    {"T with a slender stem",
+     With(Sizes("t", {2, 1000, 20, 150, 150}, "Q345", 6000, 3000), kNone, {60000, {}}), K::Web,
+     7.42121, 7.42121},
     // lambda-v 145.985, 2017 lambda-z 4.21 100/8: 150.728
     {"unequal angle", UnequalAngle(), K::StabilityY, 0.96849, 0.91844},
     // lambda-x 98.361; lambda-yz 71.026 and 70.974
@@ -231,6 +243,10 @@ const CRefusal kRefusals[] = {
                           {0, {}}, "uniform")},
     {"Mx", With(Row("热轧普通槽钢", "[20a", "Q235", 3000, 1500), -80, {100, {}})},
     {"My", With(Tee(), -80, {0, {}}, {100, {}})},
+    {"My", With(Sizes("h", {600, 100, 20, 10}, "Q235", 15e3, 15e3), kNone, {0, {}}, {9e3, {}})},
+    {"My", With(Sizes("channel", {10, 80, 30, 30, 380, 380}, "Q235", 9e3, 9e3), kNone, {0, {}},
+                {9e3, {}})},
+    {"Vy", Change(WeldedH({0, {100, 50}}, ""), [](CMemberCase& c) { c.m_dSway = 1; })},
     {"stiffeners", Change(NarrowH(), [](CMemberCase& c) { c.m_dStiffeners = 0; })},
     {"limit", Change(WideH(), [](CMemberCase& c) { c.m_dLimit = 1e9; })},
     {"joined", Change(WideH(), [](CMemberCase& c) { c.m_strJoined = "leg"; })},
