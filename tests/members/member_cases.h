@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "members/cases/member_case.h"
 #include "sections/load_data_table.h"
 

@@ -111,16 +111,16 @@ class CLatticeReader {
                         {name + " 不是库中的等边角钢", name + " is no equal angle of the store"},
                         {"请给出热轧等边角钢的型号", "give a number of 热轧等边角钢"}};
     }
-    CMemberRow angle;
-    if (auto fault = ReadMemberRow(bar, angle)) {
+    CMemberRow member;
+    if (auto fault = ReadMemberRow(bar, member)) {
       fault->m_strKey = "section.lacing.table";
       return fault;
     }
-    s.m_dBarA = angle.m_section.m_dA;
-    s.m_dBarR = angle.m_section.m_dRmin;
-    s.m_dBarLeg = angle.m_section.m_dLeg;
-    s.m_dBarThick = angle.m_section.m_dLegThick;
-    s.m_dBarRoot = angle.m_section.m_dLegRoot;
+    s.m_dBarA = member.m_section.m_dA;
+    s.m_dBarR = member.m_section.m_dRmin;
+    s.m_dBarLeg = member.m_section.m_dLeg;
+    s.m_dBarThick = member.m_section.m_dLegThick;
+    s.m_dBarRoot = member.m_section.m_dLegRoot;
     s.m_dAngle = std::isnan(m_lacing.m_dAngle) ? 45 : m_lacing.m_dAngle;
     if (!(s.m_dAngle >= 40 && s.m_dAngle <= 70)) {
       return CCaseFault{"section.lacing.angle",

@@ -4,7 +4,9 @@
 
 #include "codes/edition.h"
 #include "codes/steel_strength.h"
+#include "framework/number_text.h"
 #include "framework/plain_number.h"
+#include "framework/utf8.h"
 #include "members/cases/member_case.h"
 
 namespace orv3 {
@@ -233,7 +235,8 @@ bool CMemberCheck::ReadNet(const CMemberCase& input) {
     to = 1;
     if (std::isnan(value)) return true;
     if (!(value > 0 && value <= 1)) {
-      return Refuse(key, {PlainNumber(value) + " 不可用", PlainNumber(value) + " is not possible"},
+      const std::string is = ToUtf8(FormatShortest(value));  // 1.0000001 is not 1
+      return Refuse(key, {is + " 不可用", is + " is not possible"},
                     {"请给出大于 0 且不大于 1 的比值", "give a share above 0 and at most 1"});
     }
     to = value;
