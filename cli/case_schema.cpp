@@ -54,8 +54,8 @@ void ReadItems(const CJson& items, CCaseSchema::CRule& rule) {
 
 CCaseSchema::CRule ReadRule(const std::string& key, const CJson& json) {
   static constexpr const char* kWords[] = {
-      "description",     "type", "enum", "items", "minimum", "exclusiveMinimum", "maximum",
-      "exclusiveMaximum"};
+      "description",      "type",    "enum", "items", "minimum", "exclusiveMinimum", "maximum",
+      "exclusiveMaximum", "minItems"};
   for (const auto& entry : json.items()) {
     if (std::find(std::begin(kWords), std::end(kWords), entry.key()) == std::end(kWords))
       Outside(key + ": " + entry.key());
@@ -74,6 +74,7 @@ CCaseSchema::CRule ReadRule(const std::string& key, const CJson& json) {
     if (value.is_number()) rule.m_arrNumber.push_back(value.get<double>());
   }
   ReadRange(json, rule.m_range);
+  rule.m_nLeastItems = json.value("minItems", std::size_t{0});
   if (json.contains("items")) ReadItems(json["items"], rule);
   return rule;
 }
@@ -130,6 +131,7 @@ std::optional<CText> Wrong(const CCaseSchema::CRule& rule, const CKeyValue& valu
   }
   if (!rule.m_bArray) return CText{"不能给数列", "a list is not possible"};
   const auto list = std::get<std::span<const double>>(value);
+  if (list.size() < rule.m_nLeastItems) return CText{"是空数列", "is an empty list"};
   const std::size_t members = rule.m_arrMember.size();
   if (members != 0 && (list.empty() || list.size() % members != 0)) {
     const std::string count = std::to_string(list.size());

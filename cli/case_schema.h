@@ -2,11 +2,11 @@
 //
 // Of JSON Schema it understands what those files use: closed objects within objects, whose keys
 // are "outer.inner" from here on, type, enum, minimum, exclusiveMinimum, maximum, exclusiveMaximum,
-// items (numbers, closed objects of numbers that are all required, or closed objects of keys of the
-// case itself: its parts), required, additionalProperties, oneOf lists of required keys,
-// and allOf with if (const or minimum of one key) and then (required, and properties that are
-// false: keys that must not be there). Anything else is refused at the start, so that a schema
-// never promises what is not checked.
+// minItems (0 or 1), items (numbers, closed objects of numbers that are all required, or closed
+// objects of keys of the case itself: its parts), required, additionalProperties, oneOf lists of
+// required keys, and allOf with if (const or minimum of one key) and then (required, and properties
+// that are false: keys that must not be there). Anything else is refused at the start, so that a
+// schema never promises what is not checked.
 #pragma once
 
 #include <optional>
@@ -44,7 +44,8 @@ class CCaseSchema {
     std::vector<std::string> m_arrText;  // allowed texts
     std::vector<double> m_arrNumber;     // allowed numbers
     CRange m_range;
-    CRange m_items;  // of the numbers of an array
+    CRange m_items;                 // of the numbers of an array
+    std::size_t m_nLeastItems = 0;  // of an array: 1 where an empty one says nothing
     // Of an array of objects: their keys and ranges. Its value is the objects' numbers, one object
     // after the other, in this order.
     std::vector<std::string> m_arrMember;

@@ -4,10 +4,14 @@
 #include <cmath>
 #include <numbers>
 
+#include "codes/slenderness_limits.h"
+#include "codes/width_limits.h"
 #include "framework/elementary.h"
 #include "members/beam_column.h"
+#include "members/one_leg_angle.h"
 #include "members/slenderness.h"
 #include "members/slenderness_steps.h"
+#include "members/width_forms.h"
 
 namespace orv3 {
 namespace {
@@ -36,6 +40,7 @@ class CLatticeCheck {
   void Bond();
   double PlaneShear(double V);
   void Lacing(double V);
+  void LacingLeg(double lambda, double force, double capacity);
   void Battens(double V);
   bool Is2017() const noexcept { return m.m_nEdition == CCodeEdition::Gb2017; }
   bool IsLaced() const noexcept { return s.m_nBond == CLatticeBond::Lacing; }
@@ -184,6 +189,7 @@ void CLatticeCheck::MomentInPlane() {
   const double f = m.m_dF, NE = ReducedEulerForce(s.m_dA, m_dLambda0x);
   const CEquivalentMoment M = InPlaneMoment(m.m_nEdition, q.m_x, m_dN, 1.1 * NE, q.m_bSway);
   r.m_dBetaMx = M.m_dBeta;
+  if (Is2017() && q.m_bSway && q.m_x.HasLoad()) a.Note(CMemberNote::SwayWithLoad);
   a.Open(CMemberCheckKind::StabilityX, Clause("8.2.2", "5.2.3"));
   a.Step("φx", nullptr, r.m_dPhiX);
   a.Step("N′Ex", "π²·206000·{A}/(1.1·{λ0x}²)", NE, "N");
@@ -200,7 +206,9 @@ void CLatticeCheck::MomentInPlane() {
 
 // 7.4.6: lacing bars have the column's limit.
 void CLatticeCheck::SlendernessCheck() {
-  const double limit = q.m_dLimit > 0 ? q.m_dLimit : 150;
+  const auto of = [&](CMemberRole role) { return *SlendernessLimit(m.m_nEdition, role); };
+  const double limit =
+      TakenLimit(a, q.m_dLimit, of(CMemberRole::Compression), of(CMemberRole::CompressionBracing));
   const double bar = IsLaced() ? s.m_dBarLength / s.m_dBarR : 0;
   const double lambda = std::max({LambdaX(), LambdaY(), bar});
   a.Open(CMemberCheckKind::Slenderness, Clause("7.4.6", "5.3.8"));
@@ -266,19 +274,39 @@ double CLatticeCheck::PlaneShear(double V) {
   return V1;
 }
 
-// A bar of one angle on one leg: f times 0.6 + 0.0015 lambda (7.6.1; 2003: 3.4.2), at most 1.
+// A bar of one angle on one leg: 7.6.1 and 7.6.3; 2003: 3.4.2.
 void CLatticeCheck::Lacing(double V) {
   const double force = V / Sin(s.m_dAngle * std::numbers::pi / 180);
   const double lambda = s.m_dBarLength / s.m_dBarR;
-  const double reduction = std::min(1.0, 0.6 + 0.0015 * std::max(20.0, lambda));
+  const COneLegAngle bar = {CMemberJoint::Leg, s.m_dBarLeg, s.m_dBarThick, lambda};
+  const COneLegFactors factors = OneLegFactors(m.m_nEdition, r.m_dEpsilonK, bar);
   const double phi = Phi(lambda, CBucklingClass::B);
-  const double area = s.m_dBarA;
+  const double capacity = factors.Share() * phi * s.m_dBarA * m.m_dF;
   a.Step("θd", nullptr, s.m_dAngle, "°");
   a.Step("Nd", "{V1}/sin({θd}°)", force, "N");
   a.Step("λd", nullptr, lambda);
   a.Step("φd", nullptr, phi);
-  a.Step("η", nullptr, reduction);
-  a.Close("{Nd}/({η}·{φd}·{Ad}·{f})", force / (reduction * phi * area * m.m_dF));
+  GiveOneLegFactors(a, bar, factors);
+  a.Close(factors.m_dRhoE < 1 ? "{Nd}/({ρe}·{η}·{φd}·{Ad}·{f})" : "{Nd}/({η}·{φd}·{Ad}·{f})",
+          force / capacity);
+  LacingLeg(lambda, force, capacity);
+}
+
+// 7.3.1 and 7.3.2; 2003: 5.4.1.
+void CLatticeCheck::LacingLeg(double lambda, double force, double capacity) {
+  const double value = LegRatio(m.m_nEdition, s.m_dBarLeg, s.m_dBarThick, s.m_dBarRoot);
+  const double limit = *AxialWidthLimit(m.m_nEdition, CWidthElement::AngleLeg, m.m_nGrade, lambda);
+  const double share = Is2017() ? std::sqrt(capacity / force) : 1;
+  a.Open(CMemberCheckKind::Wall, Clause("7.3.1", "5.4.1"));
+  a.Step("λmax", nullptr, lambda);
+  a.Step("b/t", nullptr, value);
+  a.Step("[b/t]", AxialWidthForm(m.m_nEdition, CWidthElement::AngleLeg, lambda, r.m_dEpsilonK),
+         limit);
+  if (share <= 1) return a.Close("{b/t}/{[b/t]}", value / limit);
+  a.Step("Nd", nullptr, force, "N");
+  a.Step("Nu", nullptr, capacity, "N");
+  a.Step("α", "√({Nu}/{Nd})", share);
+  a.Close("{b/t}/({α}·{[b/t]})", value / (share * limit));
 }
 
 // A batten is bent and sheared by the column's shear: T = V1 l/a at its middle, M = V1 l/2 at the

@@ -20,14 +20,15 @@ struct CLatticeSection {
   double m_dL1 = 0;             // free length of a limb between two nodes
   double m_dPlaneAngle = 90;    // three limbs: between an inclined plane and x, degrees
   CLatticeBond m_nBond = CLatticeBond::Lacing;
-  double m_dBarA = 0;         // lacing: of one bar, one in each plane at a cut
-  double m_dAngle = 45;       // lacing: between a bar and the column's axis, degrees
-  double m_dBarLength = 0;    // lacing: of a bar
-  double m_dBarR = 0;         // lacing: its least radius of gyration
-  double m_dBattenWidth = 0;  // battens: depth along the column
-  double m_dBattenT = 0;      // thickness
-  double m_dBattenPitch = 0;  // distance of their centres
-  double m_dBattenSpan = 0;   // greatest distance of the limbs that they join
+  double m_dBarA = 0;       // lacing: of one bar, one in each plane at a cut
+  double m_dAngle = 45;     // lacing: between a bar and the column's axis, degrees
+  double m_dBarLength = 0;  // lacing: of a bar
+  double m_dBarR = 0;       // lacing: its least radius of gyration
+  double m_dBarLeg = 0, m_dBarThick = 0, m_dBarRoot = 0;  // lacing: its leg
+  double m_dBattenWidth = 0;                              // battens: depth along the column
+  double m_dBattenT = 0;                                  // thickness
+  double m_dBattenPitch = 0;                              // distance of their centres
+  double m_dBattenSpan = 0;  // greatest distance of the limbs that they join
 };
 
 // N, N mm; the moment is about the open axis of two limbs.

@@ -41,6 +41,11 @@ struct CNoteText {
   CTextLiteral m_text;
 };
 
+constexpr CTextLiteral kAssumedShear = {
+    "未给：由荷载和端弯矩按跨度等于计算长度的简支梁求得",
+    "is not given: that of the load and the end moments on a simple span of the effective length "
+    "is taken"};
+
 constexpr CNoteText kNotes[] = {
     {CMemberNote::Q355, "steel", {"Q355 按 Q345 一栏取值", "Q355 is taken by the figures of Q345"}},
     {CMemberNote::NoSupportsAtEnds,
@@ -79,10 +84,12 @@ constexpr CNoteText kNotes[] = {
       "the sizes of the stiffeners (6.3.6; 2003: 4.3.6) are not checked here"}},
     {CMemberNote::UnusedStiffeners,
      "stiffeners",
-     {"未用到：没有腹板大于 80εk", "is not used: no web is over 80 εk"}},
+     {"未用到：没有大于 80εk 的受弯或受剪腹板区格",
+      "is not used: no panel of a web over 80 εk is bent or sheared"}},
     {CMemberNote::UnusedRestrained,
      "restrained",
-     {"未用到：没有腹板大于 80εk", "is not used: no web is over 80 εk"}},
+     {"未用到：没有大于 80εk 的受弯或受剪腹板区格",
+      "is not used: no panel of a web over 80 εk is bent or sheared"}},
     {CMemberNote::LocalPressure,
      "load",
      {"假定集中荷载处设有支承加劲肋：局部压应力（6.1.4；2003：4.1.3）未在此验算",
@@ -103,6 +110,10 @@ constexpr CNoteText kNotes[] = {
      "section",
      {"表 3.5.1 没有 T 形截面腹板：按 7.3.1 的限值",
       "Table 3.5.1 has no web of a T: taken by the limit of 7.3.1"}},
+    {CMemberNote::TWebAsBeam,
+     "section",
+     {"6.3（2003：4.3）的区格两边均有支承，没有 T 形截面腹板：限于 80εk",
+      "6.3 (2003: 4.3) has panels held at both edges and none of a T's web: it is held to 80 εk"}},
     {CMemberNote::AngleLengths,
      "lengths",
      {"单角钢绕最小轴失稳：取两个计算长度的较大值",
@@ -116,8 +127,8 @@ constexpr CNoteText kNotes[] = {
      {"有侧移的双向压弯圆管：β = 1", "a tube that sways under both moments: β = 1"}},
     {CMemberNote::SwayWithLoad,
      "sway",
-     {"有侧移：βm = 1 − 0.36N/Ncr；柱脚铰接的单层框架柱和多层框架底层柱有横向荷载时规范取 1.0",
-      "sway: βm = 1 − 0.36 N/Ncr; the code has 1.0 for loaded columns with pinned bases of "
+     {"有侧移并有横向荷载：βm 取 1.0，即规范对柱脚铰接的单层框架柱和多层框架底层柱的规定",
+      "sway with a transverse load: βm is 1.0, as the code has it of columns with pinned bases of "
       "single-storey frames and of ground storeys"}},
     {CMemberNote::HolesWithoutBolts,
      "net",
@@ -134,11 +145,8 @@ constexpr CNoteText kNotes[] = {
     {CMemberNote::PairWithoutGap,
      "section.gap",
      {"未给组合间距：按该行自身的间距取值", "no gap is given: the pair has that of its row"}},
-    {CMemberNote::LoadWithoutShear,
-     "load",
-     {"有横向荷载而未给其剪力：剪力由荷载和端弯矩按跨度等于计算长度的简支梁求得",
-      "a load without its shear force: it is taken from the load and the end moments on a simple "
-      "span of the effective length"}},
+    {CMemberNote::AssumedVx, "Vx", kAssumedShear},
+    {CMemberNote::AssumedVy, "Vy", kAssumedShear},
     {CMemberNote::UnusedLengthZ,
      "lengths.z",
      {"未用到：该截面和荷载不计扭转",
@@ -160,10 +168,6 @@ constexpr CNoteText kNotes[] = {
     {CMemberNote::BondJoints,
      "section.lacing",
      {"缀材与分肢的连接未在此验算", "the joints of the bond with the limbs are not checked here"}},
-    {CMemberNote::LatticeShear,
-     "load",
-     {"有横向荷载而未给其剪力：缀材按 7.2.7 的剪力验算",
-      "a load without its shear force: the bond is checked for that of 7.2.7 (2003: 5.1.6) alone"}},
     {CMemberNote::AssumedLengthZ,
      "lengths.z",
      {"未给：扭转计算长度取绕 y 轴的计算长度",
@@ -188,13 +192,17 @@ constexpr CNoteText kNotes[] = {
       "(7.6.1; 2003: 3.4.2)"}},
     {CMemberNote::LimitBeyond,
      "limit",
-     {"大于规范的最大容许长细比（受压 200，受拉 400）",
-      "is above the code's greatest, 200 in compression and 400 in tension"}},
+     {"大于规范的最大容许长细比：按规范的最大值验算（受压 200，受拉 400，"
+      "直接动力荷载 250）",
+      "is above the code's greatest, which is taken: 200 in compression, 400 in tension, 250 under "
+      "direct dynamic load"}},
     {CMemberNote::OppositeMoment,
      "Mx",
      {"弯矩变号而截面两边不同：反号的最大弯矩另行验算，其等效弯矩系数偏于安全，取较不利者",
       "Mx changes its sense and the edges differ: the greatest of the other sense is checked too, "
       "its equivalent moment on the safe side; the worse is shown"}},
+    {CMemberNote::UnusedNetA, "net.A", {"未用到：没有轴力", "is not used: there is no N"}},
+    {CMemberNote::UnusedNetW, "net.W", {"未用到：没有弯矩", "is not used: there is no moment"}},
     {CMemberNote::UnusedSupports, "supports", {"未用到：没有 Mx", "is not used: there is no Mx"}},
 };
 

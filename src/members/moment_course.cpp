@@ -43,9 +43,9 @@ CEquivalentMoment InPlaneMoment(CCodeEdition edition, const CMomentCourse& cours
   if (edition == CCodeEdition::Gb2003) {
     if (bSway) return Times(1, greatest);
     if (!course.HasLoad()) return Times(0.65 + 0.35 * course.EndRatio(), greatest);
-    return Times(course.IsSingleCurvature() ? 1 : 0.85, greatest);
+    return Times(course.IsReversed() ? 0.85 : 1, greatest);
   }
-  if (bSway) return Times(1 - 0.36 * N / Ncr, greatest);
+  if (bSway) return Times(course.HasLoad() ? 1 : 1 - 0.36 * N / Ncr, greatest);
   const double ends = 0.6 + 0.4 * course.EndRatio();
   if (!course.HasLoad()) return Times(ends, greatest);
   if (course.m_bOther) return Times(1, greatest);
@@ -59,7 +59,7 @@ CEquivalentMoment OutOfPlaneMoment(const CMomentCourse& course) noexcept {
   if (course.IsZero()) return {};
   if (!course.HasLoad()) return Times(0.65 + 0.35 * course.EndRatio(), course.Governing());
   if (!course.HasEnds()) return Times(1, course.m_dMq);
-  return Times(course.IsSingleCurvature() ? 1 : 0.85, course.Governing());
+  return Times(course.IsReversed() ? 0.85 : 1, course.Governing());
 }
 
 }  // namespace orv3

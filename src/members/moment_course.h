@@ -28,11 +28,8 @@ struct CMomentCourse {
   bool HasLoad() const noexcept { return m_dMq != 0; }
   // M2 / M1; 1 without end moments.
   double EndRatio() const noexcept { return !HasEnds() ? 1 : m_bOther ? -1 : m_dM2 / m_dM1; }
+  // The curvature changes its sense along the member.
   bool IsReversed() const noexcept { return Most() > 0 && Least() < 0; }
-  // Ends and load bend in one sense everywhere.
-  bool IsSingleCurvature() const noexcept {
-    return m_dM1 * m_dM2 >= 0 && m_dM1 * m_dMq >= 0 && m_dM2 * m_dMq >= 0;
-  }
   ORV3CAL_API double Most() const noexcept;   // greatest along the member
   ORV3CAL_API double Least() const noexcept;  // least along the member
   // The one of both that is greater in magnitude, with its sign; m_bOther: the other one.
@@ -50,7 +47,7 @@ struct CEquivalentMoment {
 };
 
 // In the plane of the moment. N >= 0 compresses; Ncr = pi^2 E I / (mu l)^2. bSway: a column that
-// sways, with end moments or loads.
+// sways: with a load in its span beta is 1, the code's greatest (columns with pinned bases).
 ORV3CAL_API CEquivalentMoment InPlaneMoment(CCodeEdition edition, const CMomentCourse& course,
                                             double N, double Ncr, bool bSway) noexcept;
 // Out of the plane of the moment, the same in both editions.

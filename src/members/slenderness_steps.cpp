@@ -1,5 +1,7 @@
 #include "members/slenderness_steps.h"
 
+#include <algorithm>
+
 namespace orv3 {
 
 void GiveSlendernesses(CMemberAnswer& answer, double lx, double ly, double rx, double ry) {
@@ -12,6 +14,12 @@ void GiveSlendernesses(CMemberAnswer& answer, double lx, double ly, double rx, d
   answer.Step("iy", nullptr, ry, "mm");
   answer.Step("λx", "{l0x}/{ix}", r.m_dLambdaX);
   answer.Step("λy", "{l0y}/{iy}", r.m_dLambdaY);
+}
+
+double TakenLimit(CMemberAnswer& answer, double given, double ofCode, double greatest) {
+  if (given == 0) return ofCode;
+  if (given > greatest) answer.Note(CMemberNote::LimitBeyond);
+  return std::min(given, greatest);
 }
 
 }  // namespace orv3

@@ -10,6 +10,7 @@
 #include "codes/lateral_buckling.h"
 #include "framework/elementary.h"
 #include "members/effective_section.h"
+#include "members/one_leg_angle.h"
 #include "members/solid_member.h"
 
 namespace orv3 {
@@ -51,11 +52,13 @@ class CSolidCheck {
   double BoxFlangeRatio() const;
   void Plates();
   void AxialPlates();
+  void TWebOfBeam();
   void MomentPlates();
   void MomentPlates2003();
   void OpenPlates2017();
   void ClosedPlates2017();
-  void Limit(CMemberCheckKind kind, const char* clause, double value, double limit);
+  void Limit(CMemberCheckKind kind, const char* clause, double value, double limit,
+             const char* form = nullptr);
   // --- solid_panels.cpp
   struct CPanel {
     double m_dH0, m_dTw, m_dHc;  // hc: compressed by the moment
@@ -66,7 +69,7 @@ class CSolidCheck {
   };
   struct CPanelFigures {
     double m_dSigma = 0, m_dTau = 0, m_dLambdaB = 0, m_dLambdaS = 0, m_dSigmaCr = 0, m_dTauCr = 0;
-    double m_dRatio = -1;
+    double m_dStressTerm = 0, m_dRatio = -1;
     const char* m_szFormula = nullptr;
     const char* m_szClause = nullptr;
   };
@@ -114,6 +117,11 @@ class CSolidCheck {
   double BeamColumnPhiB();
   double BeamBetaB(const CBeamSection& section);
   double BeamPhiB();
+  struct CPlasticPart {
+    double m_dGammaY;
+    std::optional<CEffectiveSection> m_effective;
+  };
+  CPlasticPart WithoutTension();
   void Lateral();
   void LateralBox();
 
@@ -169,6 +177,7 @@ class CSolidCheck {
   double m_dLambdaMax = 0;     // of both axes, without torsion
   double m_dLambdaFx = 0;      // of flexure about x together with torsion (channels), else lambda x
   double m_dPhiLeast = 1;
+  COneLegFactors m_oneLeg;       // of a single angle joined by one leg
   bool m_bGammaReduced = false;  // gamma x 1.0 for a flange beyond the limit of plasticity
   double m_dGammaOther = 1;      // at the edge that Mx does not compress
   std::optional<CSectionClass> m_class;

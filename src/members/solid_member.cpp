@@ -124,11 +124,14 @@ void CSolidCheck::RefuseWhatIsNotCovered() {
          "the code has no lateral buckling of a solid section bent about its strong axis"},
         {"请绕弱轴受弯，或选用其他截面", "bend it about its weak axis, or take another section"});
   }
-  if (s.m_nShape == CMemberShape::T && bStrongY && !q.m_y.IsZero()) {
+  const bool bOpen = s.m_nShape == CMemberShape::I || s.m_nShape == CMemberShape::Channel ||
+                     s.m_nShape == CMemberShape::T;
+  if (bOpen && bStrongY && !q.m_y.IsZero()) {
     return refuse("My",
-                  {"绕强轴 y 受弯的 T 形截面，规范没有整体稳定公式",
-                   "the code has no lateral buckling of a T bent about y, its strong axis"},
-                  {"请给 0，或选用其他截面", "give 0, or another section"});
+                  {"截面绕 y 轴更强（Iy > Ix）：绕强轴 y 受弯的开口截面，规范没有整体稳定公式",
+                   "the section is stronger about y (Iy > Ix): the code has no lateral buckling of "
+                   "an open section bent about y"},
+                  {"请给 0，或选用其他截面", "give 0, or take another section"});
   }
 }
 
@@ -209,8 +212,12 @@ void CSolidCheck::TorsionalSlendernesses() {
     r.m_dLambdaZ = f.m_dZ * b / t;
     r.m_dLambdaYz = AngleSlenderness2017(r.m_dLambdaY, r.m_dLambdaZ, f.m_dShare);
     a.Step("λz", f.m_szZ, r.m_dLambdaZ);
-    a.Step("λ>", "max({λy}, {λz})", std::max(r.m_dLambdaY, r.m_dLambdaZ));
-    a.Step("λ<", "min({λy}, {λz})", std::min(r.m_dLambdaY, r.m_dLambdaZ));
+    // A single angle's is λ, about its least axis.
+    const bool bSingle = s.m_nShape == CMemberShape::Angle;
+    a.Step("λ>", bSingle ? "max({λ}, {λz})" : "max({λy}, {λz})",
+           std::max(r.m_dLambdaY, r.m_dLambdaZ));
+    a.Step("λ<", bSingle ? "min({λ}, {λz})" : "min({λy}, {λz})",
+           std::min(r.m_dLambdaY, r.m_dLambdaZ));
     a.Step("λyz", f.m_szForm, r.m_dLambdaYz);
     return;
   }
@@ -249,18 +256,18 @@ void CSolidCheck::TorsionalSlendernesses() {
 
 // 7.4.6 and 7.4.7; without torsion.
 void CSolidCheck::SlendernessCheck() {
-  double limit = q.m_dLimit;
-  if (limit == 0) {
-    if (m_dNc > 0 && IsAngleShape(s.m_nShape)) {
-      limit = 200;
-    } else {
-      limit = *SlendernessLimit(m.m_nEdition, m_dNc > 0      ? CMemberRole::Compression
-                                              : q.m_bDynamic ? CMemberRole::TensionDynamic
-                                                             : CMemberRole::TensionStatic);
-    }
-  }
+  const auto of = [&](CMemberRole role) { return *SlendernessLimit(m.m_nEdition, role); };
+  const bool bPressed = m_dNc > 0;
+  double limit = of(bPressed       ? CMemberRole::Compression
+                    : q.m_bDynamic ? CMemberRole::TensionDynamic
+                                   : CMemberRole::TensionStatic);
+  if (bPressed && IsAngleShape(s.m_nShape)) limit = 200;
+  const double greatest = of(bPressed       ? CMemberRole::CompressionBracing
+                             : q.m_bDynamic ? CMemberRole::TensionDynamic
+                                            : CMemberRole::TensionBracing);
+  limit = TakenLimit(a, q.m_dLimit, limit, greatest);
   a.Open(CMemberCheckKind::Slenderness,
-         m_dNc > 0 ? Clause("7.4.6", "5.3.8") : Clause("7.4.7", "5.3.9"));
+         bPressed ? Clause("7.4.6", "5.3.8") : Clause("7.4.7", "5.3.9"));
   a.Step("λmax", nullptr, m_dLambdaMax);
   a.Step("[λ]", nullptr, limit);
   a.Close("{λmax}/{[λ]}", m_dLambdaMax / limit);

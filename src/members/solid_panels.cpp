@@ -12,6 +12,8 @@
 namespace orv3 {
 namespace {
 
+constexpr const char* kStressTerm = "({σ}/{σcr})² + ({τ}/{τcr})²";
+
 // Of 2 hc/tw by epsilon-k, 6.3.2; 2003: 4.3.2.
 constexpr double LongitudinalLimit(bool bRestrained) { return bRestrained ? 170 : 150; }
 
@@ -27,7 +29,10 @@ std::vector<CSolidCheck::CPanel> CSolidCheck::SlenderPanels() const {
   };
   if (s.m_dTw <= 0 || s.m_nShape == CMemberShape::T) return panels;
   const double depth = s.m_dHeight - s.m_top.m_dThick - s.m_bottom.m_dThick;
-  const double hc = m_nSide == CSide::Top ? s.m_dWebTop : s.m_dWebBottom;
+  // Without Mx either sense may come: the deeper compressed part.
+  const double hc = q.m_x.IsZero()          ? std::max(s.m_dWebTop, s.m_dWebBottom)
+                    : m_nSide == CSide::Top ? s.m_dWebTop
+                                            : s.m_dWebBottom;
   add({s.m_dH0, s.m_dTw, hc, depth * s.m_nWebs * s.m_dTw, std::fabs(m_dMx), std::fabs(q.m_dVy),
        s.m_dIx, m.m_dFv, q.m_x.HasLoad() && !q.m_x.HasEnds()});
   if (s.m_nShape != CMemberShape::Box) return panels;
@@ -54,7 +59,8 @@ CSolidCheck::CPanelFigures CSolidCheck::PanelFigures(const CPanel& p) const {
     x.m_szFormula = formula;
   };
   const double bending = x.m_dSigma / x.m_dSigmaCr, shear = x.m_dTau / x.m_dTauCr;
-  worse(bending * bending + shear * shear, Clause("6.3.3", "4.3.3"), "({σ}/{σcr})² + ({τ}/{τcr})²");
+  x.m_dStressTerm = bending * bending + shear * shear;
+  worse(x.m_dStressTerm, Clause("6.3.3", "4.3.3"), kStressTerm);
   // 6.3.2: under direct dynamic load both stiffeners are a must; in 2003 the longitudinal ones are.
   if (q.m_bDynamic && a1 == 0)
     worse(slender / (80 * ek), Clause("6.3.2", "4.3.2"), "{h0}/{tw}/(80·{εk})");
@@ -117,8 +123,8 @@ void CSolidCheck::GivePanel(const CPanel& p, const CPanelFigures& x) {
          : a1 <= p.m_dH0 ? "4 + 5.34·({h0}/{a})²"
                          : "5.34 + 4·({h0}/{a})²",
          PanelShearFactor(p.m_dH0, a1));
-  if (Is2017()) a.Step("η", nullptr, p.m_bSimpleSpan ? kPanelSimpleSpan : 1);
-  a.Step("λn,s", Is2017() ? "{h0}/{tw}/(37·{η}·√({kτ}))/{εk}" : "{h0}/{tw}/(41·√({kτ}))/{εk}",
+  if (Is2017()) a.Step("ηs", nullptr, p.m_bSimpleSpan ? kPanelSimpleSpan : 1);
+  a.Step("λn,s", Is2017() ? "{h0}/{tw}/(37·{ηs}·√({kτ}))/{εk}" : "{h0}/{tw}/(41·√({kτ}))/{εk}",
          x.m_dLambdaS);
   if (p.m_dFv != m.m_dFv) a.Step("fv", nullptr, p.m_dFv, "N/mm²");
   a.Step("τcr",
@@ -126,6 +132,7 @@ void CSolidCheck::GivePanel(const CPanel& p, const CPanelFigures& x) {
          : x.m_dLambdaS <= 1.2 ? "(1 − 0.59·({λn,s} − 0.8))·{fv}"
                                : "1.1·{fv}/{λn,s}²",
          x.m_dTauCr, "N/mm²");
+  if (x.m_szFormula != kStressTerm) a.Step("panel", kStressTerm, x.m_dStressTerm);
   a.Close(x.m_szFormula, x.m_dRatio);
 }
 

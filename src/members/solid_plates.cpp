@@ -7,6 +7,7 @@
 #include "codes/plasticity.h"
 #include "codes/width_limits.h"
 #include "members/solid_check.h"
+#include "members/width_forms.h"
 
 namespace orv3 {
 namespace {
@@ -205,10 +206,11 @@ void CSolidCheck::GiveEffective(double alpha0, bool bWeb, double h0, double tw) 
 
 // --- Local stability -----------------------------------------------------------------------------
 
-void CSolidCheck::Limit(CMemberCheckKind kind, const char* clause, double value, double limit) {
+void CSolidCheck::Limit(CMemberCheckKind kind, const char* clause, double value, double limit,
+                        const char* form) {
   a.Open(kind, clause);
   a.Step("b/t", nullptr, value);
-  a.Step("[b/t]", nullptr, limit);
+  a.Step("[b/t]", form, limit);
   a.Close("{b/t}/{[b/t]}", value / limit);
 }
 
@@ -218,6 +220,16 @@ void CSolidCheck::Plates() {
   } else if (m_dNc > 0) {
     AxialPlates();
   }
+  if (s.m_nShape == CMemberShape::T) TWebOfBeam();
+}
+
+// 6.3.2; 2003: 4.3.2. The panels of 6.3.3 are held at both edges: a T's web that is bent or sheared
+// stays where none is asked for. Its limits in compression are below that.
+void CSolidCheck::TWebOfBeam() {
+  if ((q.m_x.IsZero() && q.m_dVy == 0) || a.Find(CMemberCheckKind::Web) != nullptr) return;
+  const double limit = *StiffenerLimit(m.m_nEdition, m.m_nGrade);
+  if (s.m_dH0 / s.m_dTw > limit) a.Note(CMemberNote::TWebAsBeam);
+  Limit(CMemberCheckKind::Web, Clause("6.3.2", "4.3.2"), s.m_dH0 / s.m_dTw, limit, "80·{εk}");
 }
 
 double CSolidCheck::BoxFlangeRatio() const {
@@ -226,16 +238,21 @@ double CSolidCheck::BoxFlangeRatio() const {
 
 // 7.3.1 and 7.3.2; 2003: 5.4.1 to 5.4.5.
 void CSolidCheck::AxialPlates() {
-  const double share = Is2017() ? std::sqrt(m_dPhiLeast * s.m_dA * F() / m_dNc) : 1;
+  // By the capacity of the member, which one leg joined lessens.
+  const double share =
+      Is2017() ? std::sqrt(m_oneLeg.Share() * m_dPhiLeast * s.m_dA * F() / m_dNc) : 1;
   const auto hold = [&](CMemberCheckKind kind, CWidthElement element, double value,
                         const char* clause2003) {
     const double limit = *AxialWidthLimit(m.m_nEdition, element, m.m_nGrade, m_dLambdaMax);
     a.Open(kind, Clause("7.3.1", clause2003));
     a.Step("b/t", nullptr, value);
-    a.Step("[b/t]", nullptr, limit);
+    a.Step("λmax", nullptr, m_dLambdaMax);
+    a.Step("[b/t]", AxialWidthForm(m.m_nEdition, element, m_dLambdaMax, r.m_dEpsilonK), limit);
     if (share <= 1) return a.Close("{b/t}/{[b/t]}", value / limit);
     a.Step("φ", nullptr, m_dPhiLeast);
-    a.Step("α", "√({φ}·{A}·{f}/{N})", share);
+    if (IsOneLeg()) a.Step("η", nullptr, m_oneLeg.m_dEta);
+    if (IsOneLeg()) a.Step("ρe", nullptr, m_oneLeg.m_dRhoE);
+    a.Step("α", IsOneLeg() ? "√({ρe}·{η}·{φ}·{A}·{f}/{N})" : "√({φ}·{A}·{f}/{N})", share);
     a.Close("{b/t}/({α}·{[b/t]})", value / (share * limit));
   };
   const double flange = std::max(Outstand(s.m_top), Outstand(s.m_bottom));
@@ -247,6 +264,9 @@ void CSolidCheck::AxialPlates() {
       return hold(CMemberCheckKind::Web, CWidthElement::WebI, s.m_dH0 / s.m_dTw, "5.4.2");
     case CMemberShape::T:
       hold(CMemberCheckKind::Flange, CWidthElement::Flange, flange, "5.4.1");
+      if (q.m_dVy != 0 && share * *AxialWidthLimit(m.m_nEdition, stem, m.m_nGrade, m_dLambdaMax) >
+                              *StiffenerLimit(m.m_nEdition, m.m_nGrade))
+        return;  // its shear holds it to less
       return hold(CMemberCheckKind::Web, stem, s.m_dH0 / s.m_dTw, "5.4.4");
     case CMemberShape::Box:
       return hold(CMemberCheckKind::Wall, CWidthElement::BoxWall,
@@ -256,11 +276,9 @@ void CSolidCheck::AxialPlates() {
     case CMemberShape::SolidRound:
     case CMemberShape::SolidBar:
       return;
-    default: {
-      const double t = s.m_dLegThick;
-      const double w = Is2017() ? s.m_dLeg - 2 * t : s.m_dLeg - t - s.m_dLegRoot;
-      return hold(CMemberCheckKind::Wall, CWidthElement::AngleLeg, w / t, "5.4.1");
-    }
+    default:
+      return hold(CMemberCheckKind::Wall, CWidthElement::AngleLeg,
+                  LegRatio(m.m_nEdition, s.m_dLeg, s.m_dLegThick, s.m_dLegRoot), "5.4.1");
   }
 }
 
@@ -278,7 +296,8 @@ void CSolidCheck::OpenPlates2017() {
     const double class4 = Class4(CClassElement::FlangeOutstand, 2);
     const bool bReduced = m_effective && m_effective->m_dFlangeLost > 0;
     Limit(CMemberCheckKind::Flange, bReduced ? "6.1.1" : clause, flange,
-          bReduced ? Class5(CClassElement::FlangeOutstand) : class4);
+          bReduced ? Class5(CClassElement::FlangeOutstand) : class4,
+          bReduced ? nullptr : Class4Form(CClassElement::FlangeOutstand));
   }
   const CWebStress stress = WebStress(m_dMx);
   if (stress.m_dMax <= 0) return;
@@ -294,14 +313,14 @@ void CSolidCheck::OpenPlates2017() {
   const double class4 = Class4(element, stress.m_dAlpha0);
   const bool bReduced = web > class4 && WebStressOfMy() == 0;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
-        bReduced ? Class5(element) : class4);
+        bReduced ? Class5(element) : class4, bReduced ? nullptr : Class4Form(element));
 }
 
 void CSolidCheck::ClosedPlates2017() {
   const char* clause = m_dNc > 0 ? "8.4.1" : "3.5.1";
   if (s.m_nShape == CMemberShape::Tube) {
     return Limit(CMemberCheckKind::Wall, clause, s.m_dDiameter / s.m_dWall,
-                 Class4(CClassElement::Tube, 2));
+                 Class4(CClassElement::Tube, 2), Class4Form(CClassElement::Tube));
   }
   const auto element = [&](const CMomentCourse& asFlange) {
     return m_dNc > 0           ? CClassElement::BoxWall
@@ -310,10 +329,12 @@ void CSolidCheck::ClosedPlates2017() {
   };
   const double web = s.m_dH0 / s.m_dTw;
   Limit(CMemberCheckKind::Flange, m_bTurned ? "8.4.2" : clause, BoxFlangeRatio(),
-        m_bTurned ? 250 : Class4(element(q.m_x), 2));
+        m_bTurned ? 250 : Class4(element(q.m_x), 2),
+        m_bTurned ? nullptr : Class4Form(element(q.m_x)));
   const bool bReduced = m_effective && !m_bTurned;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
-        bReduced ? 250 : Class4(element(q.m_y), 2));
+        bReduced ? 250 : Class4(element(q.m_y), 2),
+        bReduced ? nullptr : Class4Form(element(q.m_y)));
 }
 
 // 4.3.2, 4.3.8, 5.4.1 to 5.4.5.
@@ -321,7 +342,8 @@ void CSolidCheck::MomentPlates2003() {
   const bool bColumn = m_dNc > 0;
   const double ek = r.m_dEpsilonK;
   if (s.m_nShape == CMemberShape::Tube) {
-    return Limit(CMemberCheckKind::Wall, "5.4.5", s.m_dDiameter / s.m_dWall, 100 * ek * ek);
+    return Limit(CMemberCheckKind::Wall, "5.4.5", s.m_dDiameter / s.m_dWall, 100 * ek * ek,
+                 "100·{εk}²");
   }
   if (IsSolid(s.m_nShape)) return;
   const CWebStress stress = WebStress(m_dMx);
@@ -354,7 +376,8 @@ void CSolidCheck::MomentPlates2003() {
   if (const double flange = FlangeRatio(); flange > 0) {
     Limit(CMemberCheckKind::Flange, bColumn ? "5.4.1" : "4.3.8", flange,
           bColumn ? column(CWidthElement::Flange)
-                  : *BeamFlangeLimit(m.m_nEdition, m.m_nGrade, m_bGammaReduced));
+                  : *BeamFlangeLimit(m.m_nEdition, m.m_nGrade, m_bGammaReduced),
+          m_bGammaReduced ? "15·{εk}" : "13·{εk}");
   }
   if (stress.m_dMax <= 0) return;
   if (s.m_nShape == CMemberShape::T) {
@@ -363,8 +386,14 @@ void CSolidCheck::MomentPlates2003() {
     return Limit(CMemberCheckKind::Web, "5.4.4", h0tw, column(stem));
   }
   const bool bPressed = bColumn || WebStressOfMy() > 0;
-  Limit(CMemberCheckKind::Web, bPressed ? "5.4.2" : "4.3.2", h0tw,
-        bPressed ? column(CWidthElement::WebI) : 250);
+  if (!bPressed) return Limit(CMemberCheckKind::Web, "4.3.2", h0tw, 250, nullptr);
+  a.Open(CMemberCheckKind::Web, "5.4.2");
+  a.Step("b/t", nullptr, h0tw);
+  a.Step("α0", nullptr, web.m_dAlpha0);
+  a.Step("λ", nullptr, web.m_dLambda);
+  const double limit = column(CWidthElement::WebI);
+  a.Step("[b/t]", WebForm2003(web.m_dAlpha0), limit);
+  a.Close("{b/t}/{[b/t]}", h0tw / limit);
 }
 
 }  // namespace orv3

@@ -55,33 +55,16 @@ void CSolidCheck::AxialStability(CMemberCheckKind kind, double lambda, double ph
   a.Close("{N}/({φ}·{A}·{f})", AxialTerm(m_dNc, phi, s.m_dA, F()));
 }
 
-// 7.6.1, 7.6.3; 2003: 3.4.2. eta by the slenderness of the least radius.
+// 7.6.1, 7.6.3; 2003: 3.4.2.
 void CSolidCheck::OneLegStability(double lambda, double phi) {
-  const double held = std::max(20.0, m_dLambdaMax);
-  double eta = 0.7;
-  const char* form = nullptr;
-  if (q.m_nJoint == CMemberJoint::Leg) {
-    eta = std::min(1.0, 0.6 + 0.0015 * held);
-    form = "min(1, 0.6 + 0.0015·max(20, {λmin}))";
-  } else if (q.m_nJoint == CMemberJoint::ShortLeg) {
-    eta = std::min(1.0, 0.5 + 0.0025 * held);
-    form = "min(1, 0.5 + 0.0025·max(20, {λmin}))";
-  }
-  const double wt = (s.m_dLeg - 2 * s.m_dLegThick) / s.m_dLegThick;
-  const double limit = 14 * r.m_dEpsilonK;
-  const bool bSlender = Is2017() && wt > limit;
-  const double rho = bSlender ? 1.3 - 0.3 * wt / limit : 1;
-  a.Open(CMemberCheckKind::StabilityY, bSlender ? "7.6.3" : Clause("7.6.1", "3.4.2"));
+  const COneLegAngle angle = {q.m_nJoint, s.m_dLeg, s.m_dLegThick, m_dLambdaMax};
+  m_oneLeg = OneLegFactors(m.m_nEdition, r.m_dEpsilonK, angle);
+  a.Open(CMemberCheckKind::StabilityY, OneLegClause(m.m_nEdition, m_oneLeg));
   a.Step("λ", nullptr, lambda);
   a.Step("φ", nullptr, phi);
-  if (form != nullptr) a.Step("λmin", nullptr, m_dLambdaMax);
-  a.Step("η", form, eta);
-  if (bSlender) {
-    a.Step("w/t", nullptr, wt);
-    a.Step("ρe", "1.3 − 0.3·{w/t}/(14·{εk})", rho);
-  }
-  a.Close(bSlender ? "{N}/({ρe}·{η}·{φ}·{A}·{f})" : "{N}/({η}·{φ}·{A}·{f})",
-          m_dNc / (rho * eta * phi * s.m_dA * F()));
+  GiveOneLegFactors(a, angle, m_oneLeg);
+  a.Close(m_oneLeg.m_dRhoE < 1 ? "{N}/({ρe}·{η}·{φ}·{A}·{f})" : "{N}/({η}·{φ}·{A}·{f})",
+          m_dNc / (m_oneLeg.Share() * phi * s.m_dA * F()));
 }
 
 // --- Beam-columns --------------------------------------------------------------------------------
@@ -116,7 +99,7 @@ void CSolidCheck::BeamColumns() {
 
 // beta-m or beta-t with the end moments or the force that they follow from.
 void CSolidCheck::GiveBetaM(const char* symbol, const CMomentCourse& c, double beta, double Ncr) {
-  if (Is2017() && q.m_bSway) {
+  if (Is2017() && q.m_bSway && !c.HasLoad()) {
     a.Step("Ncr", nullptr, Ncr, "N");
     return a.Step(symbol, "1 − 0.36·{N}/{Ncr}", beta);
   }
@@ -124,7 +107,7 @@ void CSolidCheck::GiveBetaM(const char* symbol, const CMomentCourse& c, double b
     a.Step("k", nullptr, c.EndRatio());
     return a.Step(symbol, Is2017() ? "0.6 + 0.4·{k}" : "0.65 + 0.35·{k}", beta);
   }
-  if (!Is2017() || !c.HasLoad() || c.m_bOther) return a.Step(symbol, nullptr, beta);
+  if (!Is2017() || !c.HasLoad() || c.m_bOther || q.m_bSway) return a.Step(symbol, nullptr, beta);
   const bool bPoint = c.m_nLoad == CSpanLoad::Midspan;
   a.Step("Ncr", nullptr, Ncr, "N");
   if (!c.HasEnds())
@@ -473,15 +456,33 @@ void CSolidCheck::Lateral() {
   const double phiB = BeamPhiB();
   if (a.IsRefused()) return;
   if (m_dNc == 0) r.m_dPhiB = phiB;  // else that of the beam-column
-  const double W = m_effective ? m_effective->m_dWCompressed : WCompressed();
-  const double Wy = m_effective ? m_effective->m_dWSide : s.m_dWSide;
+  const CPlasticPart part = WithoutTension();
+  const double W = part.m_effective ? part.m_effective->m_dWCompressed : WCompressed();
+  const double Wy = part.m_effective ? part.m_effective->m_dWSide : s.m_dWSide;
   a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
   a.Step("Wx", nullptr, W, "mm³");
   const double first = LateralTerm(1, std::fabs(m_dMx), phiB, W, F());
   if (q.m_y.IsZero()) return a.Close("{Mx}/({φb}·{Wx}·{f})", first);
-  a.Step("γy", nullptr, r.m_dGammaY);
+  a.Step("γy", nullptr, part.m_dGammaY);
   a.Step("Wy", nullptr, Wy, "mm³");
-  a.Close("{Mx}/({φb}·{Wx}·{f}) + {My}/({γy}·{Wy}·{f})", first + m_dMy / (r.m_dGammaY * Wy * F()));
+  a.Close("{Mx}/({φb}·{Wx}·{f}) + {My}/({γy}·{Wy}·{f})",
+          first + m_dMy / (part.m_dGammaY * Wy * F()));
+}
+
+// What tension takes off the plates is no help to the moments alone. Its steps stand in the check.
+CSolidCheck::CPlasticPart CSolidCheck::WithoutTension() {
+  if (q.m_dN <= 0) return {r.m_dGammaY, m_effective};
+  CMemberLoads alone = q;
+  alone.m_dN = 0;
+  CMemberAnswer answer;
+  CSolidCheck of(s, m, alone, answer);
+  of.Give();
+  const std::size_t given = answer.Given().size();
+  of.Plasticity();
+  for (const CMemberStep& step : answer.Given().subspan(given))
+    a.Step(step.m_szSymbol, step.m_szFormula, step.m_dValue, step.m_szUnit);
+  for (const CMemberNote note : answer.Notes()) a.Note(note);
+  return {answer.m_results.m_dGammaY, of.m_effective};
 }
 
 // 6.2.4; 2003: 4.2.4, about the strong axis. The code has no phi-b of a box beyond both limits, so

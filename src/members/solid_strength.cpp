@@ -289,6 +289,7 @@ void CSolidCheck::GivePlace(const CPlace& p) {
     a.Step("ty", nullptr, p.m_vy.m_dT, "mm");
     a.Step(bX ? "τy" : "τ", "{Vy}·{S1y}/({Ix}·{ty})", stress.m_dTauY, "N/mm²");
   }
+  if (!bX && !bY) a.Step("τ", nullptr, 0, "N/mm²");  // at a free edge
   if (bX && bY)
     a.Step("τ", s.m_nShape == CMemberShape::SolidBar ? "√({τx}² + {τy}²)" : "{τx} + {τy}",
            stress.m_dTau, "N/mm²");

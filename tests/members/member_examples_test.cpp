@@ -65,6 +65,18 @@ CMemberCase HeavyTop() {
 
 // What none of the verification manual's members has (docs/verification/members.md).
 const CExample kExamples[] = {
+    // A given limit counts up to the code's 200
+    {"beyond every limit",
+     [] {
+       CMemberCase c = WideH();
+       c.m_dLimit = 1000;
+       return c;
+     }(),
+     K::Slenderness, 0.22901, 0.22901},
+    // 980/2 against 80 epsilon-k
+    {"T with a slender stem",
+     With(Sizes("t", {2, 1000, 20, 150, 150}, "Q345", 6000, 3000), kNone, {60000, {}}), K::Web,
+     7.42133, 7.42133},
     // Flanges 300 x 10 and 100 x 20: Iy 22.5e6 + 1.6667e6 + 370 8^3/12; tau 50e3 300^2/(8 Iy)
     {"Vx in the wider flange", FlangeShear(), K::Shear, 0.18609, 0.18609},
     // The lower flange, compressed by N over Mx, juts 146/10
@@ -142,6 +154,10 @@ const CRefusal kRefusals[] = {
                           {0, {}}, "uniform")},
     {"Mx", With(Row("热轧普通槽钢", "[20a", "Q235", 3000, 1500), -80, {100, {}})},
     {"My", With(Tee(), -80, {0, {}}, {100, {}})},
+    {"My", With(Sizes("h", {600, 100, 20, 10}, "Q235", 15e3, 15e3), kNone, {0, {}}, {9e3, {}})},
+    {"My", With(Sizes("channel", {10, 80, 30, 30, 380, 380}, "Q235", 9e3, 9e3), kNone, {0, {}},
+                {9e3, {}})},
+    {"Vy", Change(WeldedH({0, {100, 50}}, ""), [](CMemberCase& c) { c.m_dSway = 1; })},
     {"stiffeners", Change(NarrowH(), [](CMemberCase& c) { c.m_dStiffeners = 0; })},
     {"limit", Change(WideH(), [](CMemberCase& c) { c.m_dLimit = 1e9; })},
     {"joined", Change(WideH(), [](CMemberCase& c) { c.m_strJoined = "leg"; })},

@@ -75,14 +75,102 @@ TEST_F(CMembers, RatiosGrowWithForcesAndLengths) {
 
 // A signed force or moment is no better than its mirror image where the section has none.
 TEST_F(CMembers, SignsOfMomentsDoNotMatterToSymmetricSections) {
-  CMemberCase mirrored = Column();
-  mirrored.m_Mx.m_dUniform *= -1;
-  mirrored.m_My.m_dUniform *= -1;
-  mirrored.m_dVy *= -1;
-  mirrored.m_dVx *= -1;
-  const CRatios a = RatiosOf(m_check, Column()), b = RatiosOf(m_check, mirrored);
-  for (std::size_t i = 0; i < kMemberCheckKinds; ++i)
-    EXPECT_DOUBLE_EQ(a.m_arrRatio[i], b.m_arrRatio[i]);
+  CMemberCase printed = Row("热轧宽翼缘H型钢", "HW125X125", "Q345", 3000, 3000);
+  printed.m_dN = -60;
+  printed.m_Mx.m_dUniform = 8000;
+  for (const CMemberCase& one : {Column(), printed}) {
+    CMemberCase mirrored = one;
+    mirrored.m_Mx.m_dUniform *= -1;
+    mirrored.m_My.m_dUniform *= -1;
+    mirrored.m_dVy *= -1;
+    mirrored.m_dVx *= -1;
+    const CRatios a = RatiosOf(m_check, one), b = RatiosOf(m_check, mirrored);
+    for (std::size_t i = 0; i < kMemberCheckKinds; ++i)
+      EXPECT_DOUBLE_EQ(a.m_arrRatio[i], b.m_arrRatio[i]);
+  }
+}
+
+// A moment that changes along the member has the shear of its statics.
+TEST_F(CMembers, AMomentHasItsShear) {
+  CMemberCase ends = Sizes("h", {200, 500, 16, 8}, "Q345", 1000, 1000);
+  ends.m_Mx.m_arrEach = {450000, -450000};
+  CMemberCase tube = Sizes("tube", {100, 92}, "Q235", 2000, 1000);
+  tube.m_My.m_arrEach = {9000, -3000};
+  CMemberCase laced = test::Lattice("lacing", 2);
+  laced.m_dN = -50;
+  laced.m_dLx = 4000;
+  laced.m_Mx.m_dUniform = 120000;
+  laced.m_strLoad = "uniform";
+  CMemberCase lacedEnds = laced;
+  lacedEnds.m_strLoad = "";
+  lacedEnds.m_Mx.m_arrEach = {120000, -120000};
+  const struct {
+    CMemberCase m_case;
+    double CMemberCase::*m_pShear;
+    double m_dShear;
+    CMemberNote m_nNote;
+  } cases[] = {{ends, &CMemberCase::m_dVy, 900, CMemberNote::AssumedVy},
+               {tube, &CMemberCase::m_dVx, 12, CMemberNote::AssumedVx},
+               {laced, &CMemberCase::m_dVy, 120, CMemberNote::AssumedVy},
+               {lacedEnds, &CMemberCase::m_dVy, 60, CMemberNote::AssumedVy}};
+  for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
+    m_check.SetEdition(edition);
+    for (const auto& [c, shear, V, note] : cases) {
+      const CRatios taken = RatiosOf(m_check, c);
+      EXPECT_EQ(std::ranges::count(m_check.Answer().Notes(), note), 1);
+      CMemberCase given = c;
+      given.*shear = V;
+      const CRatios asked = RatiosOf(m_check, given);
+      for (std::size_t i = 0; i < kMemberCheckKinds; ++i)
+        EXPECT_DOUBLE_EQ(taken.m_arrRatio[i], asked.m_arrRatio[i]);
+    }
+  }
+  m_check.SetEdition(CCodeEdition::Gb2017);
+  // S 993424, I 443.324e6: 900e3 S/(8 I)/175
+  EXPECT_NEAR(RatiosOf(m_check, ends).m_arrRatio[static_cast<std::size_t>(K::Shear)], 1.4407, 1e-4);
+}
+
+// What relieves a member elsewhere takes nothing off a check that does not count on it.
+TEST_F(CMembers, AReliefHidesNothing) {
+  CMemberCase ends = Sizes("h", {300, 400, 20, 10}, "Q235", 6000, 6000);
+  ends.m_dN = -500;
+  ends.m_Mx.m_arrEach = {200000, 200000};
+  CMemberCase relieved = ends;
+  relieved.m_strLoad = "uniform";
+  relieved.m_dMqx = -0.001;
+  CMemberCase bent = Sizes("h", {160, 830, 8, 12}, "Q460", 10300, 3400);
+  bent.m_Mx.m_arrEach = {61535, -75960.98};
+  bent.m_My.m_dUniform = 20523.07;
+  CMemberCase pulled = bent;
+  pulled.m_dN = 411.04;
+  CMemberCase sheared =
+      Sizes("general-h", {14, 1410, 39, 40, 70, 70, 250, 250}, "Q420", 6800, 3900);
+  sheared.m_My.m_dUniform = 9929.2;
+  sheared.m_dVy = -192;
+  CMemberCase turned = sheared;
+  turned.m_sizes.m_arrEach = {14, 1410, 40, 39, 250, 250, 70, 70};
+  const struct {
+    const char* m_szWhat;
+    CMemberCase m_more, m_less;
+    K m_nKind;
+  } pairs[] = {{"a load against end moments", relieved, ends, K::StabilityX},
+               {"a load against end moments", relieved, ends, K::StabilityY},
+               {"tension", pulled, bent, K::Lateral},
+               {"flanges exchanged", sheared, turned, K::Panel},
+               {"flanges exchanged", turned, sheared, K::Panel}};
+  for (const char* grade : {"Q345", "Q460"}) {
+    for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
+      if (edition == CCodeEdition::Gb2003 && std::string(grade) == "Q460") continue;
+      m_check.SetEdition(edition);
+      for (auto [what, more, less, kind] : pairs) {
+        more.m_strSteel = less.m_strSteel = grade;
+        const auto i = static_cast<std::size_t>(kind);
+        const double least = RatiosOf(m_check, less).m_arrRatio[i];
+        EXPECT_GT(least, 0) << what;
+        EXPECT_GE(RatiosOf(m_check, more).m_arrRatio[i], least * (1 - 1e-6)) << what;
+      }
+    }
+  }
 }
 
 // N of one newton hides nothing that fails without it.
@@ -228,7 +316,7 @@ TEST(MomentCourse, ExtremesLieWhereTheLoadMeetsTheEnds) {
   const CMomentCourse fixed{-100, -100, 150, CSpanLoad::Uniform};
   EXPECT_DOUBLE_EQ(fixed.Most(), 50);
   EXPECT_DOUBLE_EQ(fixed.Governing(), -100);
-  EXPECT_FALSE(fixed.IsSingleCurvature());
+  EXPECT_TRUE(fixed.IsReversed());
   // M(z) = -100 + 100 z + 400 z(1 - z), greatest at z = 0.625: 56.25
   EXPECT_DOUBLE_EQ((CMomentCourse{-100, 0, 100, CSpanLoad::Uniform}.Most()), 56.25);
   EXPECT_DOUBLE_EQ((CMomentCourse{80, -40, 30, CSpanLoad::Midspan}.Most()), 80);

@@ -10,6 +10,7 @@
 namespace orv3 {
 namespace {
 
+using test::Lattice;
 using test::Row;
 using test::Sizes;
 
@@ -31,27 +32,6 @@ CMemberCase With(CMemberCase c, double N, double Mx, double My = 0, double V = 0
 
 CMemberCase Ends(CMemberCase c, double M1, double M2) {
   c.m_Mx.m_arrEach = {M1, M2};
-  return c;
-}
-
-CMemberCase Lattice(const char* bond, int limbs) {
-  CMemberCase c = Row("", "", "Q235", 6000, 6000);
-  static constexpr const char* kTables[] = {"双肢格构柱", "三肢格构柱", "四肢格构柱"};
-  c.m_strLattice = kTables[limbs - 2];
-  c.m_dK = 300;
-  c.m_dKx = c.m_dKy = 500;
-  c.m_strLimb1 = c.m_strLimb2 = c.m_strLimb3 = c.m_strLimb4 = "热轧普通槽钢";
-  c.m_strNo1 = c.m_strNo2 = c.m_strNo3 = c.m_strNo4 = "[20a";
-  c.m_dTurn1 = c.m_dTurn4 = 90;
-  c.m_dTurn2 = c.m_dTurn3 = 270;
-  c.m_strBond = bond;
-  c.m_strBar = "热轧等边角钢";
-  c.m_strBarNo = "L45X5";
-  c.m_dBattenWidth = 200;
-  c.m_dBattenThick = 10;
-  c.m_dBattenPitch = 900;
-  if (c.m_strBond == "lacing") c.m_dBattenWidth = c.m_dBattenThick = c.m_dBattenPitch = NAN;
-  if (c.m_strBond == "battens") c.m_strBar = c.m_strBarNo = "";
   return c;
 }
 

@@ -47,7 +47,10 @@ void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) 
       {input.m_strLoadFlange.empty() && q.m_x.HasLoad() && bLateral && bLoadFlange,
        N::AssumedLoadFlange},
       {IsAnglePair(s.m_nShape) && std::isnan(input.m_dGap), N::PairWithoutGap},
-      {m_bShearTaken, N::LoadWithoutShear},
+      {!std::isnan(input.m_dNetA) && q.m_dN == 0, N::UnusedNetA},
+      {!std::isnan(input.m_dNetW) && !bMoment, N::UnusedNetW},
+      {m_bVxTaken, N::AssumedVx},
+      {m_bVyTaken, N::AssumedVy},
       {!std::isnan(input.m_dLz) && !NeedsTorsion(s, m_steel, q), N::UnusedLengthZ},
       {!std::isnan(input.m_dSpan) && !bSpan, N::UnusedSpan},
       {q.m_bSway && !(q.m_dN < 0 && bMoment), N::UnusedSway},
@@ -56,7 +59,6 @@ void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) 
       {std::isnan(input.m_dSupports) && q.m_x.HasLoad() && bLateral && bLoadFlange,
        N::AssumedSupports},
       {q.m_x.HasLoad() && q.m_x.m_nLoad == CSpanLoad::Midspan && s.m_dTw > 0, N::LocalPressure},
-      {q.m_dN != 0 && q.m_dLimit > (q.m_dN < 0 ? 200 : 400), N::LimitBeyond},
       {q.m_dStiffeners > 0 && !bPanel, N::UnusedStiffeners},
       {q.m_bRestrained && !bPanel, N::UnusedRestrained},
       {s.m_nShape == CMemberShape::Angle && input.m_strJoined.empty(), N::AssumedJoint},
@@ -95,7 +97,7 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
   if (input.m_dRestrained == 1) return refuse("restrained");
   if (!input.m_strJoined.empty()) return refuse("joined");
   if (lattice.m_section.m_nLimbs == 2 && m_loads.m_dVx != 0) return refuse("Vx");
-  if (!ReadLengths(input, row)) return false;
+  if (!ReadLengths(input, row) || !TakeShears()) return false;
   CLatticeLoads loads;
   loads.m_dN = m_loads.m_dN;
   loads.m_x = m_loads.m_x;
@@ -111,7 +113,7 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
   if (lattice.m_section.m_nBond == CLatticeBond::Lacing && std::isnan(input.m_dBarAngle))
     m_answer.Note(CMemberNote::AssumedAngle);
   m_answer.Note(CMemberNote::BondJoints);
-  if (m_loads.m_x.HasLoad() && m_loads.m_dVy == 0) m_answer.Note(CMemberNote::LatticeShear);
+  if (m_bVyTaken) m_answer.Note(CMemberNote::AssumedVy);
   if (m_steel.m_nGrade == CSteelGrade::Q355) m_answer.Note(CMemberNote::Q355);
   return true;
 }
@@ -120,7 +122,7 @@ bool CMemberCheck::Run(const CMemberCase& input, CMemberRow& section) {
   m_fault.reset();
   if (!ReadEdition(input) || !ReadSteel(input, section) || !ReadClasses(input, section) ||
       !ReadForces(input) || !ReadLengths(input, section) || !ReadNet(input) ||
-      !ReadStiffeners(input) || !ReadJoint(input, section.m_section) || !TakeShearOfLoad())
+      !ReadStiffeners(input) || !ReadJoint(input, section.m_section) || !TakeShears())
     return false;
   m_loads.m_bTapered = section.m_bTapered;
   m_loads.m_dRolledNumber = section.m_dRolledNumber;

@@ -105,7 +105,7 @@ class ORV3CAL_API CMemberCheck {
   bool ReadNet(const CMemberCase& input);
   bool ReadStiffeners(const CMemberCase& input);
   bool ReadJoint(const CMemberCase& input, const CMemberSection& section);
-  bool TakeShearOfLoad();
+  bool TakeShears();
 
   CCodeEdition m_nDefault = CCodeEdition::Gb2017;
   CCodeEdition m_nEdition = CCodeEdition::Gb2017;
@@ -114,7 +114,7 @@ class ORV3CAL_API CMemberCheck {
   CMemberAnswer m_answer;
   std::optional<CCaseFault> m_fault;
   CSpanLoad m_nLoad = CSpanLoad::None;
-  bool m_bShearTaken = false;  // of a load without Vx or Vy
+  bool m_bVxTaken = false, m_bVyTaken = false;  // from the moments, where none is given
   const CFound* m_pFound = nullptr;
   std::map<std::string, std::unique_ptr<CFound>> m_mapSection;
 };

@@ -112,19 +112,22 @@ class CLatticeReader {
                         {name + " 不是库中的等边角钢", name + " is no equal angle of the store"},
                         {"请给出热轧等边角钢的型号", "give a number of 热轧等边角钢"}};
     }
-    if (auto fault = Contradicting(bar)) {
+    CMemberRow member;
+    if (auto fault = ReadMemberRow(bar, member)) {
       fault->m_strKey = "section.lacing.table";
       return fault;
     }
+    s.m_dBarA = member.m_section.m_dA;
+    s.m_dBarR = member.m_section.m_dRmin;
+    s.m_dBarLeg = member.m_section.m_dLeg;
+    s.m_dBarThick = member.m_section.m_dLegThick;
+    s.m_dBarRoot = member.m_section.m_dLegRoot;
     s.m_dAngle = std::isnan(m_lacing.m_dAngle) ? 45 : m_lacing.m_dAngle;
     if (!(s.m_dAngle >= 40 && s.m_dAngle <= 70)) {
       return CCaseFault{"section.lacing.angle",
                         {"不在 40° 至 70° 之间", "is not from 40 to 70 degrees"},
                         {"请给出 40 至 70", "give 40 to 70"}};
     }
-    const CRowFigures f = RowFigures(bar);
-    s.m_dBarA = f.m_dArea;
-    s.m_dBarR = f.m_dRleast;
     const double angle = s.m_dAngle * std::numbers::pi / 180;
     s.m_dBarLength = PlaneWidth() / Sin(angle);
     s.m_dL1 = m_lacing.m_dL1;

@@ -4,7 +4,9 @@
 
 #include "codes/edition.h"
 #include "codes/steel_strength.h"
+#include "framework/number_text.h"
 #include "framework/plain_number.h"
+#include "framework/utf8.h"
 #include "members/cases/member_case.h"
 
 namespace orv3 {
@@ -233,7 +235,8 @@ bool CMemberCheck::ReadNet(const CMemberCase& input) {
     to = 1;
     if (std::isnan(value)) return true;
     if (!(value > 0 && value <= 1)) {
-      return Refuse(key, {PlainNumber(value) + " 不可用", PlainNumber(value) + " is not possible"},
+      const std::string is = ToUtf8(FormatShortest(value));  // 1.0000001 is not 1
+      return Refuse(key, {is + " 不可用", is + " is not possible"},
                     {"请给出大于 0 且不大于 1 的比值", "give a share above 0 and at most 1"});
     }
     to = value;
@@ -320,32 +323,35 @@ bool CMemberCheck::ReadJoint(const CMemberCase& input, const CMemberSection& sec
   return true;
 }
 
-// A load in the span has its shear: where none is given, the greatest of the load and the end
-// moments on a simple span of the effective length.
-bool CMemberCheck::TakeShearOfLoad() {
+// A moment that changes along the member has its shear: where none is given, the greatest of the
+// load and the end moments on a simple span of the effective length.
+bool CMemberCheck::TakeShears() {
   struct CDirection {
     const char* m_szShear;
     const char* m_szLength;
     const CMomentCourse& m_course;
     double m_dLength;
     double& m_dShear;
+    bool& m_bTaken;
   };
-  m_bShearTaken = false;
+  m_bVyTaken = m_bVxTaken = false;
   for (const CDirection& each :
-       {CDirection{"Vy", "lengths.x", m_loads.m_x, m_loads.m_dLx, m_loads.m_dVy},
-        CDirection{"Vx", "lengths.y", m_loads.m_y, m_loads.m_dLy, m_loads.m_dVx}}) {
+       {CDirection{"Vy", "lengths.x", m_loads.m_x, m_loads.m_dLx, m_loads.m_dVy, m_bVyTaken},
+        CDirection{"Vx", "lengths.y", m_loads.m_y, m_loads.m_dLy, m_loads.m_dVx, m_bVxTaken}}) {
     const CMomentCourse& c = each.m_course;
-    if (!c.HasLoad() || each.m_dShear != 0) continue;
+    if ((!c.HasLoad() && c.m_dM1 == c.m_dM2) || each.m_dShear != 0) continue;
     if (!(each.m_dLength > 0) || m_loads.m_bSway) {
       const std::string length = each.m_szLength;
       return Refuse(
-          each.m_szShear, {"有横向荷载而未给其剪力", "is missing: a load has its shear"},
+          each.m_szShear,
+          {"缺失：沿构件变化的弯矩有其剪力",
+           "is missing: a moment that changes along the member has its shear"},
           {m_loads.m_bSway ? "请给出剪力 kN" : "请给出剪力 kN，或给出跨度 " + length,
            m_loads.m_bSway ? "give it in kN" : "give it in kN, or the span as " + length});
     }
     const double share = c.m_nLoad == CSpanLoad::Uniform ? 4 : 2;
     each.m_dShear = (share * std::fabs(c.m_dMq) + std::fabs(c.m_dM1 - c.m_dM2)) / each.m_dLength;
-    m_bShearTaken = true;
+    each.m_bTaken = true;
   }
   return true;
 }

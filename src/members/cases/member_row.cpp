@@ -97,7 +97,8 @@ void CRowReader::GeneralI(CMemberFlange top, CMemberFlange bottom, double h, dou
   s.m_top = top;
   s.m_bottom = bottom;
   Web(h - top.m_dThick - bottom.m_dThick - 2 * root, tw);
-  const double up = s.m_dIx / s.m_dWTop, down = h - up;
+  // A printed modulus has the centroid of equal flanges a little off their middle.
+  const double up = s.IsEqualFlanged() ? h / 2 : s.m_dIx / s.m_dWTop, down = h - up;
   const auto beyond = [&](const CMemberFlange& f, double edge) {
     const double inner = edge - f.m_dThick;
     return f.m_dWidth * f.m_dThick * (edge - f.m_dThick / 2) + tw * root * (inner - root / 2) +
@@ -163,7 +164,8 @@ void CRowReader::BoxOf(double b, double h, double top, double bottom, double lef
   Web(h - top - bottom, std::min(left, right));
   r.m_dWebThick = std::max(left, right);
   r.m_dFlangeThick = std::max(top, bottom);
-  const double up = s.m_dIx / s.m_dWTop, down = h - up, both = left + right;
+  const double up = top == bottom ? h / 2 : s.m_dIx / s.m_dWTop, down = h - up;
+  const double both = left + right;
   s.m_dWebTop = up - top;
   s.m_dWebBottom = down - bottom;
   s.m_dSTop = b * top * (up - top / 2);
