@@ -65,7 +65,7 @@ export class Core {
       redirect(FS, 1, "/out");
       redirect(FS, 2, "/err");
       const status = run(instance, argv, exit);
-      const text = (path: string) => new TextDecoder().decode(FS.readFile(path));
+      const text = (path: string) => new TextDecoder("utf-8", { ignoreBOM: true }).decode(FS.readFile(path)); // a CSV begins with its mark
       return {
         status,
         out: text("/out"),
