@@ -16,8 +16,8 @@ namespace {
 // An outline of size 1 lies on a grid of this many steps, for questions of side alone; the mesh
 // keeps the points themselves.
 constexpr double kGrid = 1 << 28;
-// Nearer points are one, as CheckOutline has it.
-constexpr double kSame = 1e-9;
+// Nearer points are one, as for CheckOutline: 1e-9 of an outline of 0.5 to 1.
+constexpr double kSame = 5e-10;
 constexpr int kArcTrials = 6;
 constexpr double kArcReach = 1.5;
 constexpr std::size_t kMostGraded = 2000;  // triangles
