@@ -27,7 +27,7 @@ constexpr double kArcStep = std::numbers::pi / 6;
 constexpr double kSagitta = 0.2;  // of an arc's stretch, by the thickness
 constexpr int kDeepest = 24;
 // Points inside keep off a line of symmetry by this part of their distance from a corner.
-constexpr double kClear = 0.3;
+constexpr double kClearOfLine = 0.3;
 
 // Where two edges of the outline meet.
 struct CCornerPoint {
@@ -234,7 +234,7 @@ class CCutter {
         const double r = std::min(after[c.out] * (1 - part) + before[c.in] * part, c.thick * 0.7);
         const CPoint p{c.at.x + r * Cos(start + inside * part),
                        c.at.y + r * Sin(start + inside * part)};
-        if (m_out.m_fold.Inside(p) > kClear * r) m_out.m_arrInner.push_back(p);
+        if (m_out.m_fold.Inside(p) > kClearOfLine * r) m_out.m_arrInner.push_back(p);
       }
     }
   }

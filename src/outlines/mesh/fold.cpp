@@ -7,10 +7,10 @@ namespace orv3 {
 namespace {
 
 constexpr std::size_t kMostEdges = 500;
-constexpr double kSame = 1e-12;  // what rounding may leave between a point and another's image
-constexpr double kOn = 1e-11;    // nearer to a line lies on it
+constexpr double kSameImage = 1e-12;  // what rounding may leave between a point and another's image
+constexpr double kOn = 1e-11;         // nearer to a line lies on it
 
-bool Near(double a, double b) { return std::fabs(a - b) <= kSame; }
+bool Near(double a, double b) { return std::fabs(a - b) <= kSameImage; }
 
 // Whether each edge has an image among the others, walked the other way round.
 template <class Image>
