@@ -5,10 +5,17 @@
 #include <stdexcept>
 
 #include "framework/excerpt.h"
+#include "framework/number_chars.h"
 #include "framework/plain_number.h"
 
 namespace orv3::cli {
 namespace {
+
+// What was given, so that 1.0000001 is not taken for 1.
+std::string AllDigits(double value) {
+  char digits[32];
+  return std::string(digits, WriteShortest(digits, digits + sizeof digits, value));
+}
 
 [[noreturn]] void Outside(const std::string& what) {
   throw std::invalid_argument("schema: " + what + " is not understood");
@@ -141,8 +148,8 @@ std::optional<CText> Wrong(const CCaseSchema::CRule& rule, const CKeyValue& valu
     const double each = list[i];
     if (Within(each, members == 0 ? rule.m_items : rule.m_arrMemberRange[i % members])) continue;
     const std::string name = members == 0 ? "" : rule.m_arrMember[i % members] + " = ";
-    return CText{"数列中的 " + name + PlainNumber(each) + " 不可用",
-                 name + PlainNumber(each) + " in the list is not possible"};
+    return CText{"数列中的 " + name + AllDigits(each) + " 不可用",
+                 name + AllDigits(each) + " in the list is not possible"};
   }
   return std::nullopt;
 }
@@ -151,10 +158,10 @@ std::optional<CText> Wrong(const CCaseSchema::CRule& rule, const CKeyValue& valu
 
 std::string ValueText(const CKeyValue& value) {
   if (const auto* text = std::get_if<std::string_view>(&value)) return '"' + Excerpt(*text) + '"';
-  if (const auto* number = std::get_if<double>(&value)) return PlainNumber(*number);
+  if (const auto* number = std::get_if<double>(&value)) return AllDigits(*number);
   std::string list;
   for (const double each : std::get<std::span<const double>>(value)) {
-    list += (list.empty() ? "" : ", ") + PlainNumber(each);
+    list += (list.empty() ? "" : ", ") + AllDigits(each);
     if (list.size() > 60) break;
   }
   return "[" + Excerpt(list) + "]";
