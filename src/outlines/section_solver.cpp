@@ -390,10 +390,17 @@ void CSectionSolver::CState::AddStressesInside(std::size_t part, const CSectionF
   }
 }
 
+// Without what stresses need.
+struct CPropertiesAlone {
+  static CExactProperties Of(std::span<const CPath> loops) {
+    CSectionSolver::CState state;
+    state.Solve(loops);
+    return state.m_properties;
+  }
+};
+
 CExactProperties ExactProperties(std::span<const CPath> loops) {
-  CSectionSolver::CState state;
-  state.Solve(loops);
-  return state.m_properties;
+  return CPropertiesAlone::Of(loops);
 }
 
 CSectionSolver::CSectionSolver(std::span<const CPath> loops) : m_state(new CState) {

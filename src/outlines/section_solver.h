@@ -51,7 +51,7 @@ class ORV3CAL_API CSectionSolver {
   std::vector<CBoundaryStress> StressesInside(const CSectionForces& forces) const;
 
  private:
-  friend ORV3CAL_API CExactProperties ExactProperties(std::span<const CPath> loops);
+  friend struct CPropertiesAlone;
   struct CState;
   std::unique_ptr<CState> m_state;
 };
