@@ -127,7 +127,8 @@ TEST(ExactColumns, AreFilteredSortedAndExported) {
   ExpectHas(csv.Bytes(), {",It:double,Iw:double,"});
   const COwnFile exported("exact.json");
   EXPECT_EQ(RunProgram("store export " + table + " --exact --to " + exported.m_strPath).m_nExit, 0);
-  for (const Json& row : Json::parse(exported.Bytes())["tables"][0]["rows"]) {
+  const Json file = Json::parse(exported.Bytes());
+  for (const Json& row : file["tables"][0]["rows"]) {
     EXPECT_TRUE(row["accurate"].get<bool>());
     EXPECT_LT(row["errors"]["It"].get<double>(), 1e-3);
   }
