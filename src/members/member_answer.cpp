@@ -48,19 +48,16 @@ constexpr CTextLiteral kAssumedShear = {
 
 constexpr CNoteText kNotes[] = {
     {CMemberNote::Q355, "steel", {"Q355 按 Q345 一栏取值", "Q355 is taken by the figures of Q345"}},
-    {CMemberNote::NoSupportsAtEnds,
+    {CMemberNote::PartOfMember,
      "supports",
-     {"M1、M2 按受压翼缘自由段两端的弯矩取用",
-      "M1 and M2 are taken as the moments at the ends of the free span of the compression flange"}},
+     {"侧向支承点间的构件段短于构件：端弯矩的 βt、βb 按弯矩图上含 M1 的一段取用",
+      "parts between lateral supports are shorter than the member: βt and βb of end moments are "
+      "those "
+      "of the part that has M1"}},
     {CMemberNote::BetweenLoadAndEnds,
      "load",
      {"端弯矩与横向荷载同时作用：βb 取两者单独作用时的较小值",
       "end moments together with a load: βb is the lesser of those of either alone"}},
-    {CMemberNote::HeavyTension,
-     "section",
-     {"βb：规范的表 C.0.1（2003：B.1）第 1 至 4 项不含加强受拉翼缘的截面",
-      "βb: items 1 to 4 of Table C.0.1 (2003: B.1) leave out sections with the heavier flange in "
-      "tension"}},
     {CMemberNote::RolledITable,
      "section",
      {"仅端弯矩作用或轻型工字钢：φb 按 C.0.1（2003：B.1）由截面自身数值计算",
@@ -145,6 +142,15 @@ constexpr CNoteText kNotes[] = {
     {CMemberNote::PairWithoutGap,
      "section.gap",
      {"未给组合间距：按该行自身的间距取值", "no gap is given: the pair has that of its row"}},
+    {CMemberNote::PackingPlates,
+     "section",
+     {"按实腹式构件：填板间距不应大于 40i（受拉 "
+      "80i），受压时两侧向支承点间不少于两块（7.2.6；2003："
+      "5.1.5），未验算",
+      "as of one solid member: packing plates are to stand at most 40 i apart (80 i in tension), "
+      "in "
+      "compression at least two between lateral supports (7.2.6; 2003: 5.1.5), which is not "
+      "checked"}},
     {CMemberNote::AssumedVx, "Vx", kAssumedShear},
     {CMemberNote::AssumedVy, "Vy", kAssumedShear},
     {CMemberNote::UnusedLengthZ,

@@ -86,9 +86,8 @@ struct CMemberResults {
 // What was assumed, or is to be looked at.
 enum class CMemberNote : std::uint8_t {
   Q355,
-  NoSupportsAtEnds,
+  PartOfMember,
   BetweenLoadAndEnds,
-  HeavyTension,
   RolledITable,
   RolledIShort,
   Stiffeners,
@@ -111,6 +110,7 @@ enum class CMemberNote : std::uint8_t {
   BattenStiffness,
   LimbMoment,
   PairWithoutGap,
+  PackingPlates,
   AssumedVx,
   AssumedVy,
   UnusedLengthZ,

@@ -20,6 +20,12 @@ CTurns Turns(const CMomentCourse& c) noexcept {
   return {c.m_dM1, c.m_dM2, c.m_dM1 + (c.m_dM2 - c.m_dM1) * at + load};
 }
 
+// Ends of equal size and opposite sense: either may be M1.
+bool IsTied(const CMomentCourse& c) noexcept {
+  constexpr double kLastDigits = 1e-9;
+  return c.m_dM1 * c.m_dM2 < 0 && std::fabs(c.m_dM1 + c.m_dM2) <= kLastDigits * std::fabs(c.m_dM1);
+}
+
 CEquivalentMoment Times(double beta, double moment) noexcept {
   return {beta, std::fabs(moment), std::fabs(beta * moment)};
 }
@@ -34,6 +40,10 @@ double CMomentCourse::Most() const noexcept {
 double CMomentCourse::Least() const noexcept {
   const CTurns t = Turns(*this);
   return std::min({t.m_dFirst, t.m_dSecond, t.m_dBetween});
+}
+
+double CMomentCourse::JudgedEnd() const noexcept {
+  return IsTied(*this) ? std::copysign(m_dM1, m_dMq) : m_dM1;
 }
 
 CEquivalentMoment InPlaneMoment(CCodeEdition edition, const CMomentCourse& course, double N,
@@ -51,15 +61,15 @@ CEquivalentMoment InPlaneMoment(CCodeEdition edition, const CMomentCourse& cours
   if (course.m_bOther) return Times(1, greatest);
   const double load = 1 - (course.m_nLoad == CSpanLoad::Midspan ? 0.36 : 0.18) * N / Ncr;
   if (!course.HasEnds()) return Times(load, course.m_dMq);
-  const double sum = load * course.m_dMq + ends * course.m_dM1;
+  const double sum = load * course.m_dMq + ends * course.JudgedEnd();
   return Times(greatest == 0 ? 1 : std::fabs(sum / greatest), greatest);
 }
 
-CEquivalentMoment OutOfPlaneMoment(const CMomentCourse& course) noexcept {
+CEquivalentMoment OutOfPlaneMoment(const CMomentCourse& course, double part) noexcept {
   if (course.IsZero()) return {};
-  if (!course.HasLoad()) return Times(0.65 + 0.35 * course.EndRatio(), course.Governing());
+  if (!course.HasLoad()) return Times(0.65 + 0.35 * course.PartRatio(part), course.Governing());
   if (!course.HasEnds()) return Times(1, course.m_dMq);
-  return Times(course.IsReversed() ? 0.85 : 1, course.Governing());
+  return Times(course.IsReversed() && part == 1 ? 0.85 : 1, course.Governing());
 }
 
 }  // namespace orv3

@@ -28,8 +28,13 @@ struct CMomentCourse {
   bool HasLoad() const noexcept { return m_dMq != 0; }
   // M2 / M1; 1 without end moments.
   double EndRatio() const noexcept { return !HasEnds() ? 1 : m_bOther ? -1 : m_dM2 / m_dM1; }
+  // M2 / M1 of a part of the member that has M1 at its end, the worst between lateral supports;
+  // part: its share of the length.
+  double PartRatio(double part) const noexcept { return 1 - (1 - EndRatio()) * part; }
   // The curvature changes its sense along the member.
   bool IsReversed() const noexcept { return Most() > 0 && Least() < 0; }
+  // The end moment added to a load's: M1, or of a tie the end that the load adds to.
+  ORV3CAL_API double JudgedEnd() const noexcept;
   ORV3CAL_API double Most() const noexcept;   // greatest along the member
   ORV3CAL_API double Least() const noexcept;  // least along the member
   // The one of both that is greater in magnitude, with its sign; m_bOther: the other one.
@@ -50,7 +55,8 @@ struct CEquivalentMoment {
 // sways: with a load in its span beta is 1, the code's greatest (columns with pinned bases).
 ORV3CAL_API CEquivalentMoment InPlaneMoment(CCodeEdition edition, const CMomentCourse& course,
                                             double N, double Ncr, bool bSway) noexcept;
-// Out of the plane of the moment, the same in both editions.
-ORV3CAL_API CEquivalentMoment OutOfPlaneMoment(const CMomentCourse& course) noexcept;
+// Out of the plane of the moment, the same in both editions, of the worst part between lateral
+// supports; part: its share of the length.
+ORV3CAL_API CEquivalentMoment OutOfPlaneMoment(const CMomentCourse& course, double part) noexcept;
 
 }  // namespace orv3

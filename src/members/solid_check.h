@@ -40,6 +40,7 @@ class CSolidCheck {
   double WebStressOfMy() const;
   CClassElement WebElement() const;
   void Plasticity();
+  bool IsWebSlenderAtLeastMx() const;
   void ClassifyPlates();
   void ClassifyOpen();
   void Classify(CClassElement element, double ratio, double alpha0);
@@ -108,7 +109,8 @@ class CSolidCheck {
   void BeamColumnX();
   void BeamColumnY();
   void GiveBetaM(const char* symbol, const CMomentCourse& course, double beta, double Ncr);
-  void GiveBetaT(const char* symbol, const CMomentCourse& course, double beta);
+  void GiveBetaT(const char* symbol, const CMomentCourse& course, double part, double beta);
+  void GivePartRatio(const CMomentCourse& course, double part);
   void TubeTwoMoments();
   CBeamSection BeamSection() const;
   template <class VALUE>

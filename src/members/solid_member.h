@@ -34,6 +34,8 @@ struct CMemberLoads {
   double m_dLx = 0, m_dLy = 0, m_dLz = 0;  // effective lengths
   double m_dSpan = 0;                      // free span of the compression flange, of Mx
   double m_dSpanY = 0;                     // of My, for a box
+  // The part between lateral supports, a share of the member's length in the plane of the moment.
+  double m_dPartX = 1, m_dPartY = 1;
   CMemberJoint m_nJoint = CMemberJoint::Whole;
   bool m_bNet = false;
   double m_dNetA = 1, m_dNetW = 1;  // shares of the gross that are left

@@ -96,6 +96,7 @@ void CSolidCheck::Plasticity() {
     ClassifyPlates();
     bSlender = m_bBeyond || m_class.value_or(CSectionClass::S1) > CSectionClass::S3;
     if (m_class) r.m_szClass = SectionClassName(*m_class);
+    bSlender = bSlender || IsWebSlenderAtLeastMx();
   } else {
     bSlender = HasFlanges(s.m_nShape) && FlangeRatio() > 13 * r.m_dEpsilonK;
   }
@@ -107,6 +108,19 @@ void CSolidCheck::Plasticity() {
   r.m_dGammaX = m_nSide == CSide::Top ? gamma.m_dX : gamma.m_dXTip;
   m_dGammaOther = m_nSide == CSide::Top ? gamma.m_dXTip : gamma.m_dX;
   r.m_dGammaY = gamma.m_dY;
+}
+
+// My may be greatest where Mx is least: gamma's class is that of the web there too.
+bool CSolidCheck::IsWebSlenderAtLeastMx() const {
+  if (!IsBiaxial() || !HasFlanges(s.m_nShape) || s.m_nShape == CMemberShape::T) return false;
+  const double most = q.m_x.Most(), least = q.m_x.Least();
+  const double Mx = q.m_x.IsReversed() ? 0 : std::fabs(most) < std::fabs(least) ? most : least;
+  const CWebStress stress = WebStress(Mx);
+  constexpr auto kS3 = static_cast<std::size_t>(CSectionClass::S3);
+  return stress.m_dMax > 0 &&
+         s.m_dH0 / s.m_dTw >
+             *ClassLimits(m.m_nEdition, WebElement(), m.m_nGrade, std::min(stress.m_dAlpha0, 2.0))
+                  ->m_arrLimit[kS3];
 }
 
 void CSolidCheck::ClassifyPlates() {

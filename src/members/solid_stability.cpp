@@ -81,8 +81,8 @@ void CSolidCheck::BeamColumns() {
   const double NcrX = EulerForce(s.m_dA, r.m_dLambdaX), NcrY = EulerForce(s.m_dA, r.m_dLambdaY);
   m_inX = InPlaneMoment(m.m_nEdition, q.m_x, m_dNc, NcrX, q.m_bSway);
   m_inY = InPlaneMoment(m.m_nEdition, q.m_y, m_dNc, NcrY, q.m_bSway);
-  m_outX = OutOfPlaneMoment(q.m_x);
-  m_outY = OutOfPlaneMoment(q.m_y);
+  m_outX = OutOfPlaneMoment(q.m_x, q.m_dPartX);
+  m_outY = OutOfPlaneMoment(q.m_y, q.m_dPartY);
   if (!q.m_x.IsZero()) {
     r.m_dBetaMx = m_inX.m_dBeta;
     r.m_dBetaTx = m_outX.m_dBeta;
@@ -118,15 +118,24 @@ void CSolidCheck::GiveBetaM(const char* symbol, const CMomentCourse& c, double b
   a.Step("k", nullptr, c.EndRatio());
   a.Step("βm1", "0.6 + 0.4·{k}", 0.6 + 0.4 * c.EndRatio());
   a.Step("Mq", nullptr, c.m_dMq, "N·mm");
-  a.Step("M1", nullptr, c.m_dM1, "N·mm");
+  a.Step("M1", nullptr, c.JudgedEnd(), "N·mm");
   a.Step("M", nullptr, std::fabs(c.Governing()), "N·mm");
   a.Step(symbol, c.Governing() == 0 ? nullptr : "|{βmq}·{Mq} + {βm1}·{M1}|/{M}", beta);
 }
 
-void CSolidCheck::GiveBetaT(const char* symbol, const CMomentCourse& c, double beta) {
+void CSolidCheck::GiveBetaT(const char* symbol, const CMomentCourse& c, double part, double beta) {
   if (c.HasLoad() || !c.HasEnds()) return a.Step(symbol, nullptr, beta);
+  GivePartRatio(c, part);
+  a.Step(symbol, part < 1 ? "0.65 + 0.35·{kl}" : "0.65 + 0.35·{k}", beta);
+}
+
+// M2/M1 of the member, and of its part between lateral supports.
+void CSolidCheck::GivePartRatio(const CMomentCourse& c, double part) {
   a.Step("k", nullptr, c.EndRatio());
-  a.Step(symbol, "0.65 + 0.35·{k}", beta);
+  if (part == 1) return;
+  a.Step("s", nullptr, part);
+  a.Step("kl", "1 − (1 − {k})·{s}", c.PartRatio(part));
+  if (c.m_dM1 != c.m_dM2) a.Note(CMemberNote::PartOfMember);
 }
 
 // About x in the plane of Mx, with what My adds.
@@ -159,7 +168,7 @@ void CSolidCheck::BeamColumnX() {
   }
   if (!q.m_y.IsZero()) {
     a.Step("η", nullptr, m_dEta);
-    GiveBetaT("βty", q.m_y, m_outY.m_dBeta);
+    GiveBetaT("βty", q.m_y, q.m_dPartY, m_outY.m_dBeta);
     a.Step("My", nullptr, m_outY.m_dM, "N·mm");
     a.Step("Wy", nullptr, m_dWy, "mm³");
     a.Step("across",
@@ -209,7 +218,7 @@ void CSolidCheck::BeamColumnY() {
   a.Step("axial", m_effective ? "{N}/({φy}·{Ae}·{f})" : "{N}/({φy}·{A}·{f})", axial);
   if (!q.m_x.IsZero()) {
     a.Step("η", nullptr, m_dEta);
-    GiveBetaT("βtx", q.m_x, m_outX.m_dBeta);
+    GiveBetaT("βtx", q.m_x, q.m_dPartX, m_outX.m_dBeta);
     a.Step("Mx", nullptr, m_outX.m_dM, "N·mm");
     if (IsClosed(s.m_nShape)) a.Step("φb", nullptr, r.m_dPhiB);
     a.Step("W1x", nullptr, m_dW1, "mm³");
@@ -378,10 +387,21 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
   const CMomentCourse& c = q.m_x;
   double ends = HUGE_VAL, load = HUGE_VAL;
   if (c.HasEnds() || !c.HasLoad()) {
-    ends = *BetaBEndMoments(m.m_nEdition, 1, c.m_bOther && c.HasLoad() ? 1 : c.EndRatio());
-    if (q.m_nSupports > 0 && c.m_dM1 != c.m_dM2) a.Note(CMemberNote::NoSupportsAtEnds);
+    const bool bUniform = c.m_bOther && c.HasLoad();
+    if (!bUniform && c.HasEnds()) GivePartRatio(c, q.m_dPartX);
+    ends = *BetaBEndMoments(m.m_nEdition, 1, bUniform ? 1 : c.PartRatio(q.m_dPartX));
   }
   if (c.HasLoad()) {
+    if (q.m_nSupports == 0 && section.m_dAlphaB < 0.5) {
+      a.Refuse(
+          "load",
+          {"规范没有受拉翼缘加强的工字形截面跨中无侧向支承时的 βb（表 C.0.1；2003：表 B.1）",
+           "the code has no βb of a load without lateral supports on an I whose tension flange is "
+           "the heavier (Table C.0.1; 2003: Table B.1)"},
+          {"请给出 supports，或改用加强受压翼缘的截面",
+           "give supports, or take a section whose compression flange is the heavier"});
+      return 1;
+    }
     const CMemberFlange& flange = CompressedFlange();
     const double xi = q.m_dSpan * flange.m_dThick / (flange.m_dWidth * section.m_dH);
     const bool bPoint = c.m_nLoad == CSpanLoad::Midspan;
@@ -396,7 +416,8 @@ double CSolidCheck::BeamBetaB(const CBeamSection& section) {
     const double* beta = Take("load", answer);
     if (beta == nullptr) return 1;
     load = *beta;
-    if (q.m_nSupports == 0 && section.m_dAlphaB < 0.5) a.Note(CMemberNote::HeavyTension);
+    // How many supports make a part of the member is not said: the least that any number has.
+    if (q.m_nSupports == 0 && q.m_dPartX < 1) load = std::min(load, bPoint ? 1.2 : 1.15);
     if (c.HasEnds()) a.Note(CMemberNote::BetweenLoadAndEnds);
   }
   return std::min(ends, load);
@@ -426,9 +447,16 @@ double CSolidCheck::BeamPhiB() {
     constexpr double kShortest = 2;  // m; shorter spans have a greater phi-b
     const double span = std::max(kShortest, q.m_dSpan / 1000);
     if (q.m_dSpan < 1000 * kShortest) a.Note(CMemberNote::RolledIShort);
-    const auto answer = RolledIPhiB(m.m_nEdition, m.m_nGrade, load, q.m_dRolledNumber, span);
+    const auto of = [&](CRolledILoad kind) {
+      return RolledIPhiB(m.m_nEdition, m.m_nGrade, kind, q.m_dRolledNumber, span);
+    };
+    const auto answer = of(load);
     const CPhiB* phiB = Take("lengths.span", answer);
-    return phiB != nullptr ? GivePhiB(*phiB, nullptr) : 1;
+    if (phiB == nullptr) return 1;
+    // Whether supports make a part of the member is not said: the lesser of both.
+    const auto supported = of(q.m_dPartX < 1 ? CRolledILoad::Supported : load);
+    const bool bLess = supported && supported->m_dPhiB < phiB->m_dPhiB;
+    return GivePhiB(bLess ? *supported : *phiB, nullptr);
   }
   if (q.m_bTapered) a.Note(CMemberNote::RolledITable);
   const CBeamSection section = BeamSection();

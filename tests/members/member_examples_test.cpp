@@ -141,6 +141,13 @@ const CRefusal kRefusals[] = {
     {"section", Change(WideH(), [](CMemberCase& c) { c.m_strStyle = "h"; })},
     {"section", With(Sizes("z", {20, 400, 20, 20, 50, 50}, "Q235", 3000, 3000), -100)},
     {"section", With(Sizes("general-h", {10, 300, 12, 12, 80, 90, 80, 80}, "Q235", 3e3, 3e3), -9)},
+    // Table C.0.1 has no βb of a load where the tension flange is the heavier
+    {"load", Change(Sizes("general-h", {8, 500, 10, 16, 60, 60, 120, 120}, "Q345", 6e3, 6e3),
+                    [](CMemberCase& c) {
+                      c.m_strLoad = "uniform";
+                      c.m_Mx.m_dUniform = 100000;
+                      c.m_dVy = 60;
+                    })},
     {"lengths.x", Change(WideH(), [](CMemberCase& c) { c.m_dLx = kNone; })},
     {"lengths.span", Change(NarrowH(), [](CMemberCase& c) { c.m_dLy = kNone; })},
     {"net.A", Net(WideH(), 1.2)},

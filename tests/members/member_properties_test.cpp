@@ -218,6 +218,41 @@ TEST_F(CMembers, BothSensesOfAMomentAreHeld) {
   }
 }
 
+// The part between lateral supports that has the greatest moment is the half with it; which end
+// comes first is no matter.
+TEST_F(CMembers, EndMomentsAreThoseOfThePart) {
+  CMemberCase whole = Sizes("h", {250, 500, 16, 12}, "Q345", 9000, 4500);
+  whole.m_dN = -1400;
+  whole.m_Mx.m_arrEach = {400000, -400000};
+  whole.m_dVy = 120;
+  CMemberCase half = whole, supported = whole;
+  half.m_Mx.m_arrEach = {400000, 0};
+  half.m_dLx = 4500;
+  supported.m_dLy = 9000;
+  supported.m_dSpan = 9000;
+  supported.m_dSupports = 1;
+  CMemberCase tied = Sizes("h", {300, 400, 20, 10}, "Q345", 9000, 3000);
+  tied.m_dN = -2100;
+  tied.m_Mx.m_arrEach = {250000, -250000};
+  tied.m_dMqx = 240000;
+  tied.m_strLoad = "uniform";
+  tied.m_dVy = 200;
+  CMemberCase turned = tied;
+  turned.m_Mx.m_arrEach = {-250000, 250000};
+  for (const CCodeEdition edition : {CCodeEdition::Gb2017, CCodeEdition::Gb2003}) {
+    m_check.SetEdition(edition);
+    const CRatios ofWhole = RatiosOf(m_check, whole), ofHalf = RatiosOf(m_check, half);
+    for (const K kind : {K::StabilityY, K::Lateral})
+      EXPECT_NEAR(ofWhole.m_arrRatio[static_cast<std::size_t>(kind)],
+                  ofHalf.m_arrRatio[static_cast<std::size_t>(kind)], 1e-12);
+    ASSERT_TRUE(m_check.Run(supported));
+    EXPECT_NEAR(m_check.Answer().m_results.m_dBetaTx, 0.65, 1e-12);
+    const CRatios first = RatiosOf(m_check, tied), second = RatiosOf(m_check, turned);
+    ExpectNoLess(first, second, "ends in the other order");
+    ExpectNoLess(second, first, "ends in the other order");
+  }
+}
+
 // Each edge has its own stress: N relieves one, and turned over it is the other.
 TEST_F(CMembers, AnITurnedOverHasTheSameChecks) {
   CMemberCase upright = Sizes("general-h", {12, 420, 18, 18, 80, 80, 180, 180}, "Q390", 3000, 3000);
@@ -294,6 +329,7 @@ TEST_F(CMembers, TheJumpsAreTheCodes) {
   };
   CMemberCase ends = pressed(Sizes("h", {300, 400, 20, 10}, "Q345", 6000, 3000), -800);
   ends.m_Mx.m_arrEach = {150000, -150000};
+  ends.m_dSupports = 0;
   CMemberCase loaded = ends;
   loaded.m_strLoad = "uniform";
   loaded.m_dMqx = 0.001;

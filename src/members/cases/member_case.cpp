@@ -47,6 +47,7 @@ void CMemberCheck::NoteGiven(const CMemberCase& input, const CMemberSection& s) 
       {input.m_strLoadFlange.empty() && q.m_x.HasLoad() && bLateral && bLoadFlange,
        N::AssumedLoadFlange},
       {IsAnglePair(s.m_nShape) && std::isnan(input.m_dGap), N::PairWithoutGap},
+      {IsAnglePair(s.m_nShape), N::PackingPlates},
       {!std::isnan(input.m_dNetA) && q.m_dN == 0, N::UnusedNetA},
       {!std::isnan(input.m_dNetW) && !bMoment, N::UnusedNetW},
       {m_bVxTaken, N::AssumedVx},

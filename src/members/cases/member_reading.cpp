@@ -185,6 +185,22 @@ bool CMemberCheck::ReadForces(const CMemberCase& input) {
   return true;
 }
 
+// Between lateral supports: by their number, and by lengths that are shorter than the member's in
+// the plane of the moment; without supports, if so it is said, the whole member.
+void CMemberCheck::ReadParts(const CMemberCase& input) {
+  const auto share = [](double part, double whole) {
+    constexpr double kLastDigits = 1e-9;
+    const double share = part / whole;  // nan without one of both
+    return share < 1 - kLastDigits ? share : 1;
+  };
+  m_loads.m_dPartX =
+      std::min(share(m_loads.m_dLy, m_loads.m_dLx), share(m_loads.m_dSpan, m_loads.m_dLx));
+  m_loads.m_dPartY = share(m_loads.m_dLx, m_loads.m_dLy);
+  if (std::isnan(input.m_dSupports)) return;
+  const double equal = 1.0 / (m_loads.m_nSupports + 1);
+  m_loads.m_dPartX = m_loads.m_nSupports == 0 ? 1 : std::min(m_loads.m_dPartX, equal);
+}
+
 bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& section) {
   const auto positive = [this](const char* key, double value) {
     if (std::isfinite(value) && value > 0) return true;
@@ -217,6 +233,7 @@ bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& secti
   if ((bSpanX && !positive("lengths.span", m_loads.m_dSpan)) ||
       (bSpanY && !positive("lengths.span", m_loads.m_dSpanY)))
     return false;
+  ReadParts(input);
   m_loads.m_dLimit = 0;
   if (std::isnan(input.m_dLimit)) return true;
   constexpr double kMostLimit = 1000;  // 2.5 times the code's greatest, of bracing in tension

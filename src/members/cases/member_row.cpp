@@ -398,15 +398,16 @@ CDataItem SizesRow(const CSectionStyle& style, std::span<const double> sizes,
   return ExactRow(record);
 }
 
-bool IsPairGap(double gap) noexcept { return gap >= 0 && gap <= 1000 && gap == std::floor(gap); }
+// Of a gusset plate; parts further apart are the limbs of a lattice column.
+bool IsPairGap(double gap) noexcept { return gap >= 0 && gap <= 60 && gap == std::floor(gap); }
 
 CCaseFault PairGapFault() {
-  return {
-      "section.gap",
-      {"不可用", "is not possible"},
-      {"请只给两肢分开的组合截面（如双角钢）以间距，整数毫米，不大于 1000",
-       "give it of a pair whose parts stand apart, as two angles do, in whole millimetres up to "
-       "1000"}};
+  return {"section.gap",
+          {"不可用", "is not possible"},
+          {"请只给两肢分开的组合截面（如双角钢）以间距，整数毫米，不大于 60；更远的按格构柱",
+           "give it of a pair whose parts stand apart, as two angles do, in whole millimetres up "
+           "to 60; "
+           "parts further apart are a lattice column"}};
 }
 
 std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member) {
