@@ -20,6 +20,21 @@ namespace {
 using namespace orv3;
 using CSizes = CStyleSizes;
 
+TEST(Outline, HasTheAreaAndCentroidOfThePlates) {
+  for (const CStyleCase& c : kStyleCases) {
+    const COutline outline = SectionOutline(c.style, c.sizes);
+    const COutlineMoments m = RowOutlineMoments(outline.m_arrLoop);
+    const CBox box = PathBounds(outline.m_arrLoop);
+    const std::pair<double, double> figures[] = {
+        {m.m_dArea, c.area},         {m.m_dArea * m.m_centroid.x, c.Sy},
+        {box.left + 1, 1},           {m.m_dArea * m.m_centroid.y, c.Sx},
+        {box.bottom + 1, 1},         {box.right, outline.m_dWidth},
+        {box.top, outline.m_dHeight}};
+    for (const auto& [told, expected] : figures)
+      EXPECT_NEAR(told, expected, 1e-9 * expected) << c.style;
+  }
+}
+
 TEST(Outline, TakesOddButLegalSizes) {
   const struct {
     const char* what;
