@@ -66,7 +66,7 @@ TEST(Outline, TakesOddButLegalSizes) {
       {"no height", 3, {100, 0}, 0, 0},
       {"no number", 3, {std::nan(""), 100}, 0, 0},
       {"infinite", 6, {std::numeric_limits<double>::infinity()}, 0, 0},
-      {"no such style", 15, {100, 100, 10, 10}, 0, 0},
+      {"no such style", kSectionStyles, {100, 100, 10, 10}, 0, 0},
       {"negative style", -1, {100, 100, 10, 10}, 0, 0},
   };
   for (const auto& c : cases) {
