@@ -31,9 +31,12 @@ constexpr struct CClass4Form {
   CClassElement m_element;
   const char* m_szForm;
 } kClass4Forms[] = {
-    {CClassElement::FlangeOutstand, "15·{εk}"}, {CClassElement::WebBending, "124·{εk}"},
-    {CClassElement::WebCompressed, nullptr},    {CClassElement::BoxFlange, "42·{εk}"},
-    {CClassElement::BoxWall, "45·{εk}"},        {CClassElement::Tube, "100·{εk}²"},
+    {CClassElement::FlangeOutstand, "15·{εk}"},
+    {CClassElement::WebBending, "124·{εk}"},
+    {CClassElement::WebCompressed, "(45 + 25·{α0}^1.66)·{εk}"},
+    {CClassElement::BoxFlange, "42·{εk}"},
+    {CClassElement::BoxWall, "45·{εk}"},
+    {CClassElement::Tube, "100·{εk}²"},
 };
 
 // Every element up to `last`, in the order of the enum.
@@ -64,6 +67,17 @@ const char* Class4Form(CClassElement element) noexcept {
 const char* WebForm2003(double alpha0) noexcept {
   return alpha0 <= 1.6 ? "(16·{α0} + 0.5·min(100, max(30, {λ})) + 25)·{εk}"
                        : "(48·{α0} + 0.5·min(100, max(30, {λ})) − 26.2)·{εk}";
+}
+
+const char* BoxWallForm2003(double alpha0) noexcept {
+  return alpha0 <= 1.6 ? "max(40·{εk}, 0.8·(16·{α0} + 0.5·min(100, max(30, {λ})) + 25)·{εk})"
+                       : "max(40·{εk}, 0.8·(48·{α0} + 0.5·min(100, max(30, {λ})) − 26.2)·{εk})";
+}
+
+const char* TWebForm2003(CWidthElement element, const CBeamColumnWeb& web) noexcept {
+  if (web.m_bFreeEdgeCompressed) return web.m_dAlpha0 <= 1 ? "15·{εk}" : "18·{εk}";
+  return element == CWidthElement::WebTRolled ? "(15 + 0.2·min(100, max(30, {λ})))·{εk}"
+                                              : "(13 + 0.17·min(100, max(30, {λ})))·{εk}";
 }
 
 }  // namespace orv3
