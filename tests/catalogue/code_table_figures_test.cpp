@@ -42,20 +42,6 @@ TEST(CodeTableFigures, LabelsNameTheGrid) {
   ExpectLabels(T::g_sub18_2, orv3::kSingleK1);
 }
 
-// Both forms of the double-stepped tables hold the same figure at the same four grid positions.
-TEST(CodeTableFigures, TwoFormsOfDoubleSteppedTablesAgree) {
-  for (int n = 0; n < 7 * 6 * 4 * 11; ++n) {
-    const int eta1 = n / (6 * 4 * 11);
-    const int eta2 = n / (4 * 11) % 6;
-    const int k1 = n / 11 % 4;
-    const int k2 = n % 11;
-    const int row = 6 * (k1 / 2) + eta2;
-    const int column = 22 * eta1 + 11 * (k1 % 2) + k2;
-    EXPECT_EQ(T::g_sub20[row][column], T::g_sub201[6 * eta1 + eta2][11 * k1 + k2]) << n;
-    EXPECT_EQ(T::g_sub21[row][column], T::g_sub211[6 * eta1 + eta2][11 * k1 + k2]) << n;
-  }
-}
-
 // What no equation gives must at least run one way: phi-b falls with the free length; mu of a
 // tapered column falls with the stiffness of the beam and rises with that of the column's foot.
 TEST(CodeTableFigures, RunOneWay) {

@@ -331,11 +331,11 @@ double Cell3(bool bFree, int eta1, int eta2, int k1, int k2) {
 TEST(CodeTableLookups, DoubleSteppedColumnsOnTheGrid) {
   using orv3::kDoubleEta1, orv3::kDoubleEta2, orv3::kDoubleK1, orv3::kDoubleK2;
   for (const bool bFree : {true, false}) {
-    const auto& table = bFree ? T::g_sub201 : T::g_sub211;
+    const auto& table = bFree ? T::g_sub20 : T::g_sub21;  // the form whose figures are held
     const auto across = bFree ? T::GetU3Temp : T::GetU3Temp2;
     for (int n = 0; n < 7 * 6 * 4 * 11; ++n) {
       const int i1 = n / (6 * 4 * 11), i2 = n / (4 * 11) % 6, j1 = n / 11 % 4, j2 = n % 11;
-      const double cell = table[6 * i1 + i2][11 * j1 + j2];
+      const double cell = table[6 * (j1 / 2) + i2][22 * i1 + 11 * (j1 % 2) + j2];
       EXPECT_EQ(Cell3(bFree, i1, i2, j1, j2), cell);
       EXPECT_EQ(Mu3(bFree, kDoubleEta1[i1], kDoubleEta2[i2], kDoubleK1[j1], kDoubleK2[j2]), cell);
       EXPECT_EQ(across(i1, i2, kDoubleK1[j1], kDoubleK2[j2]), cell);

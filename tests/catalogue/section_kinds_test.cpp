@@ -115,21 +115,39 @@ TEST_F(SectionKinds, EveryTableIsAsItIsKnown) {
 }
 
 // What the facade says of a row against what its outline is.
+void ExpectSymmetryOfOutline(const CDataItem& row) {
+  const COutline outline = RowOutline(row);
+  const std::string name = ToUtf8(row.m_strTableName + L" " + row[0].m_strValue);
+  ASSERT_FALSE(outline.m_arrLoop.empty()) << name;
+  EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row) != 0,
+            IsMirrored(outline, CMirrorLine::Horizontal))
+      << name;
+  EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row) != 0,
+            IsMirrored(outline, CMirrorLine::Vertical))
+      << name;
+}
+
 TEST_F(SectionKinds, SymmetryIsThatOfTheOutline) {
   for (const CSectionTable& table : SectionTables()) {
     const bool rolled = (table.m_nType & TABLE_ROLLED) != 0;
     if (table.m_nLimbs > 0) continue;  // of which the facade says nothing
-    const CDataItem row = rolled ? Rows(table.m_szName)[0] : DefaultRow(table.m_szName);
-    const COutline outline = RowOutline(row);
-    const std::string name = ToUtf8(table.m_szName);
-    ASSERT_FALSE(outline.m_arrLoop.empty()) << name;
-    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryX(row) != 0,
-              IsMirrored(outline, CMirrorLine::Horizontal))
-        << name;
-    EXPECT_EQ(CLoadDataTable::IsDaTaItemSymmetryY(row) != 0,
-              IsMirrored(outline, CMirrorLine::Vertical))
-        << name;
+    ExpectSymmetryOfOutline(rolled ? Rows(table.m_szName)[0] : DefaultRow(table.m_szName));
   }
+  const struct {
+    const wchar_t* table;
+    std::initializer_list<double> sizes;
+  } plates[] = {{L"自定义非对称H型钢", {10, 400, 16, 16, 60, 80, 60, 80}},
+                {L"自定义非对称H型钢", {10, 400, 16, 20, 80, 80, 60, 60}},
+                {L"自定义非对称H型钢", {10, 400, 16, 16, 60, 80, 80, 60}},
+                {L"自定义非对称箱形截面", {300, 400, 12, 12, 8, 9}},
+                {L"自定义非对称箱形截面", {300, 400, 12, 14, 8, 8}},
+                {L"自定义十字形截面", {30, 400, 150, 210, 120, 120}},
+                {L"自定义十字形截面", {30, 400, 180, 180, 90, 120}},
+                {L"自定义T形截面", {12, 300, 18, 60, 90}},
+                {L"自定义槽钢", {10, 300, 14, 16, 90, 90}},
+                {L"自定义槽钢", {10, 300, 14, 14, 90, 80}},
+                {L"自定义Z形截面", {10, 250, 14, 18, 70, 90}}};
+  for (const auto& [table, sizes] : plates) ExpectSymmetryOfOutline(RowOfPlates(table, sizes));
 }
 
 // --- Sketches ------------------------------------------------------------------------------------

@@ -77,14 +77,6 @@ TEST(Spacing, Numbers) {
   }
 }
 
-TEST(Spacing, NumbersByStyle) {
-  EXPECT_EQ(T::GetSubData(L"热轧等边角钢", L"L125X10"), 70);
-  EXPECT_EQ(T::GetSubData(L"热轧不等边角钢", L"L100X80X7"), 5);
-  EXPECT_EQ(T::GetSubData(L"热轧普通槽钢", L"[16a"), 50);
-  EXPECT_EQ(T::GetSubData(L"热轧轻型槽钢", L"[16a"), 45);
-  EXPECT_EQ(T::GetSubData(L"热轧普通工字钢", L"I16"), 0);
-}
-
 double Cell(const orv3::CSectionSpacing& spacing, const char* key) {
   for (std::size_t i = 0; i < spacing.m_arrColumn.size(); ++i) {
     if (spacing.m_arrColumn[i].m_szKey == std::string(key))

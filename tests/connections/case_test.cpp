@@ -19,23 +19,15 @@ CBoltCase Friction() {
 }
 
 CFilletCase Fillet() {
-  return {.m_nLoadCase = 4,
-          .m_dLw = 200,
-          .m_dN = 50,
-          .m_dM = 1000,
-          .m_dV = 60,
-          .m_dBetaF = 1.22,
-          .m_dHe = 5.6};
+  return With(
+      CFilletCase(),
+      {{"case", 4}, {"lw", 200}, {"N", 50}, {"M", 1000}, {"V", 60}, {"betaF", 1.22}, {"he", 5.6}});
 }
 
 CButtCase Butt() {
-  return {.m_nLoadCase = 4,
-          .m_nQuality = 2,
-          .m_dLw = 200,
-          .m_dThick = 12,
-          .m_dN = 100,
-          .m_dM = 1000,
-          .m_dV = 60};
+  return With(
+      CButtCase(),
+      {{"case", 4}, {"quality", 2}, {"lw", 200}, {"t", 12}, {"N", 100}, {"M", 1000}, {"V", 60}});
 }
 
 // Each change of a case that stands is refused at its key.

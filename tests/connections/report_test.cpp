@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 
+#include "connections/case_changes.h"
 #include "connections/cases/case_rules.h"
 #include "connections/report/bolt_drawing.h"
 #include "connections/report/connection_report.h"
@@ -18,27 +19,16 @@ namespace orv3 {
 namespace {
 
 CBoltCase Group(int type, int layout) {
-  CBoltCase input;
+  CBoltCase input = With(SixBolts(), {{"type", 1.0 * type},
+                                      {"layout", 1.0 * layout},
+                                      {"cols", 5},
+                                      {"rows", 3},
+                                      {"colSpace", 90},
+                                      {"rowSpace", 0, {80, 85}}});
+  input = With(input, {{"sumT", 14}, {"t", 14}, {"nv", 2}, {"nf", 2}, {"steel", 1}, {"class", 2}});
+  input = With(input, {{"N", 31}, {"Vx", 203}, {"Vy", 57}, {"M", 1700}, {"T", 4100}});
   input.m_strId = "<J-1> & \"co\"";
-  input.m_nType = type;
-  input.m_nLayout = layout;
-  input.m_nCols = 5;
-  input.m_nRows = 3;
-  input.m_colSpace.m_dUniform = 90;
-  input.m_rowSpace.m_arrEach = {80, 85};
-  input.m_nD = 20;
-  input.m_dSumT = input.m_dThick = 14;
-  input.m_nNv = input.m_nNf = 2;
-  input.m_dN = 31;
-  input.m_dVx = 203;
-  input.m_dVy = 57;
-  input.m_dM = 1700;
-  input.m_dT = 4100;
-  input.m_dEx = input.m_dEy = 50;
-  input.m_nSteel = 1;
-  input.m_nGrade = type == kOrdinaryBolt ? 1 : 4;
-  input.m_nClass = 2;
-  return input;
+  return With(input, {{"grade", type == kOrdinaryBolt ? 1.0 : 4}});
 }
 
 bool Has(const std::string& text, const std::string& part) {
@@ -95,25 +85,18 @@ TEST(Report, HoldsEveryInputAndResultInBothLanguages) {
     ExpectWholeReport<CBoltCheck>(Group(type, 1));
   }
   for (int loadCase = 0; loadCase < 6; ++loadCase) {
-    const double M = TakesM(loadCase) ? -1300 : 0;
-    const double V = TakesV(loadCase) ? 47 : 0;
-    ExpectWholeReport<CFilletCheck>({.m_nLoadCase = loadCase,
-                                     .m_nSteel = 1,
-                                     .m_dLw = 217,
-                                     .m_dN = TakesN(loadCase) ? 31.0 : 0,
-                                     .m_dM = M,
-                                     .m_dV = V,
-                                     .m_dBetaF = 1.22,
-                                     .m_dHf = 8,
-                                     .m_dAngle = 100});
-    ExpectWholeReport<CButtCheck>({.m_nLoadCase = loadCase,
-                                   .m_nSteel = 2,
-                                   .m_nQuality = 3,
-                                   .m_dLw = 217,
-                                   .m_dThick = 18,
-                                   .m_dN = TakesN(loadCase) ? 131.0 : 0,
-                                   .m_dM = M,
-                                   .m_dV = V});
+    const auto loads = [&](double N, double M, double V) {
+      return std::vector<CChange>{{"case", 1.0 * loadCase},
+                                  {"N", TakesN(loadCase) ? N : 0},
+                                  {"M", TakesM(loadCase) ? M : 0},
+                                  {"V", TakesV(loadCase) ? V : 0}};
+    };
+    const CFilletCase fillet = With(
+        CFilletCase(), {{"steel", 1}, {"lw", 217}, {"betaF", 1.22}, {"hf", 8}, {"angle", 100}});
+    ExpectWholeReport<CFilletCheck>(With(fillet, loads(31, -1300, 47)));
+    const CButtCase butt =
+        With(CButtCase(), {{"steel", 2}, {"quality", 3}, {"lw", 217}, {"t", 18}});
+    ExpectWholeReport<CButtCheck>(With(butt, loads(131, -1300, 47)));
   }
 }
 

@@ -8,6 +8,7 @@
 #include "framework/utf8.h"
 #include "platform/code_page.h"
 #include "sections/load_data_table.h"
+#include "sections/section_kind.h"
 #include "tables/data_table.h"
 
 class CatalogueStore : public testing::Test {
@@ -26,7 +27,7 @@ class CatalogueStore : public testing::Test {
   static CStringArray Tables() {
     CStringArray tables;
     CLoadDataTable::GetTableNameArray(orv3::kCatalogueTables, tables);
-    EXPECT_EQ(tables.GetSize(), 27);
+    EXPECT_EQ(tables.GetSize(), static_cast<int>(orv3::kRolledKinds));
     return tables;
   }
 

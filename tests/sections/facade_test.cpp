@@ -42,9 +42,9 @@ TEST(TableTypes, MasksSelectNamesInTheirOrder) {
   }
   CStringArray names;
   CLoadDataTable::GetTableNameArray(static_cast<std::int32_t>(0xFEFFFFFFU), names);
-  EXPECT_EQ(names.GetSize(), 18);
+  EXPECT_EQ(names.GetSize(), static_cast<int>(orv3::kPlateKinds + orv3::kLatticeKinds));
   CLoadDataTable::GetTableNameArray(static_cast<std::int32_t>(0xFDFFFFFFU), names);
-  EXPECT_EQ(names.GetSize(), 27);
+  EXPECT_EQ(names.GetSize(), static_cast<int>(orv3::kRolledKinds));
 }
 
 TEST(TableTypes, NamesAreOfAMaskWhole) {

@@ -125,6 +125,12 @@ void ExpectClose(const std::string& what, const CDeviations& d, const CLimits& l
   }
 }
 
+double Cell(const CDataItem& row, const wchar_t* sign) {
+  double value = 0;
+  EXPECT_EQ(row.GetCellValue(sign, value), 1) << orv3::ToUtf8(CString(sign));
+  return value;
+}
+
 class GeometryCatalogue : public CatalogueStore {};
 
 TEST_F(GeometryCatalogue, RolledRowsAgreeWithTheirOutline) {
@@ -135,13 +141,16 @@ TEST_F(GeometryCatalogue, RolledRowsAgreeWithTheirOutline) {
   }
 }
 
-// With columns for the spacing and without.
+// With columns for the spacing and without; of crosses the columns end at 10 mm.
 TEST_F(GeometryCatalogue, SpacedPairsAgreeWithTheirOutline) {
   for (const CString& table : Tables()) {
     if (orv3::PairSpacingSign(table).IsEmpty()) continue;
-    for (const int spacing : {4, 9, 10, 25}) {
+    for (const int spacing : {0, 4, 6, 8, 9, 10, 12, 14, 16, 18, 20, 25}) {
       CDeviations d;
-      for (const CDataItem& row : Rows(table)) Compare(orv3::WithPairSpacing(row, spacing), d);
+      for (const CDataItem& row : Rows(table)) {
+        Compare(orv3::WithPairSpacing(row, spacing), d);
+        EXPECT_NEAR(Cell(row, L"G(kg/m)") / Cell(row, L"A(cm^2)"), 0.785, 0.004);
+      }
       ExpectClose(orv3::ToUtf8(table) + " " + std::to_string(spacing), d, kPrinted);
     }
   }
@@ -171,12 +180,6 @@ TEST_F(GeometryCatalogue, PairsWithoutTheirComponent) {
 }
 
 // --- Shear centre and warping --------------------------------------------------------------------
-
-double Cell(const CDataItem& row, const wchar_t* sign) {
-  double value = 0;
-  EXPECT_EQ(row.GetCellValue(sign, value), 1) << orv3::ToUtf8(CString(sign));
-  return value;
-}
 
 void ExpectWarping(const CDataItem& row, double e0, double Iw, double share) {
   const std::string what = orv3::ToUtf8(row[0].m_strValue);

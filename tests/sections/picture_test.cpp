@@ -24,16 +24,14 @@ TEST(Outline, HasTheAreaAndCentroidOfThePlates) {
   for (const CStyleCase& c : kStyleCases) {
     const COutline outline = SectionOutline(c.style, c.sizes);
     const COutlineMoments m = RowOutlineMoments(outline.m_arrLoop);
-    EXPECT_NEAR(m.m_dArea, c.area, 1e-9 * c.area) << c.style;
-    EXPECT_NEAR(m.m_centroid.x, c.x, 1e-9 * c.width) << c.style;
-    EXPECT_NEAR(m.m_centroid.y, c.y, 1e-9 * c.height) << c.style;
     const CBox box = PathBounds(outline.m_arrLoop);
-    EXPECT_NEAR(box.left, 0, 1e-9) << c.style;
-    EXPECT_NEAR(box.bottom, 0, 1e-9) << c.style;
-    EXPECT_NEAR(box.right, c.width, 1e-9 * c.width) << c.style;
-    EXPECT_NEAR(box.top, c.height, 1e-9 * c.height) << c.style;
-    EXPECT_NEAR(outline.m_dWidth, c.width, 1e-9 * c.width) << c.style;
-    EXPECT_NEAR(outline.m_dHeight, c.height, 1e-9 * c.height) << c.style;
+    const std::pair<double, double> figures[] = {
+        {m.m_dArea, c.area},         {m.m_dArea * m.m_centroid.x, c.Sy},
+        {box.left + 1, 1},           {m.m_dArea * m.m_centroid.y, c.Sx},
+        {box.bottom + 1, 1},         {box.right, outline.m_dWidth},
+        {box.top, outline.m_dHeight}};
+    for (const auto& [told, expected] : figures)
+      EXPECT_NEAR(told, expected, 1e-9 * expected) << c.style;
   }
 }
 
@@ -68,7 +66,7 @@ TEST(Outline, TakesOddButLegalSizes) {
       {"no height", 3, {100, 0}, 0, 0},
       {"no number", 3, {std::nan(""), 100}, 0, 0},
       {"infinite", 6, {std::numeric_limits<double>::infinity()}, 0, 0},
-      {"no such style", 15, {100, 100, 10, 10}, 0, 0},
+      {"no such style", kSectionStyles, {100, 100, 10, 10}, 0, 0},
       {"negative style", -1, {100, 100, 10, 10}, 0, 0},
   };
   for (const auto& c : cases) {
@@ -104,8 +102,9 @@ TEST(SectionPicture, NeverLetsTextsCollide) {
   std::mt19937 random(1);
   int drawn = 0;
   for (const CStyleCase& c : kStyleCases) {
+    const COutline outline = SectionOutline(c.style, c.sizes);
     for (const CPoint at : {CPoint{0, 0}, {0.5, 0.5}, {1, 1}, {-0.3, 0.4}, {0.5, 1.2}, {9, 9}}) {
-      const CPoint base{at.x * c.width, at.y * c.height};
+      const CPoint base{at.x * outline.m_dWidth, at.y * outline.m_dHeight};
       CheckLegible(SectionPictureDrawing(Picture(c.style, c.sizes, base)), std::to_string(c.style));
     }
     // Each size up to 30 times larger or smaller; what bounds no section is listed instead.

@@ -140,6 +140,15 @@ TEST_F(RecordStore, AUserStoreCarriesTheStyleMark) {
   EXPECT_EQ(Bytes(m_path), golden);
 }
 
+// Callers write slots and headers by themselves too, and go by the results.
+TEST_F(RecordStore, AWriteThatIsRefusedIsTold) {
+  ASSERT_EQ(Save(Records(1), 0, m_path), 1);
+  const auto file = orv3::CStoreFile::OpenToRead(m_path);
+  CSteelJMData::FileInfo info;
+  EXPECT_EQ(CSteelJMData::WriteTableItem(file.get(), 5000, Record(L"X"), 0), 0);
+  EXPECT_EQ(CSteelJMData::WriteJMFileInfo(file.get(), 0, 2, info), 0);
+}
+
 TEST_F(RecordStore, LongAndChineseNames) {
   CArray<CSteelJMData> records;
   records.Add(Record(std::wstring(49, L'x')));

@@ -28,30 +28,6 @@ class TableFault : public TableFileTest, public testing::WithParamInterface<int>
   }
 
   std::string Read() const { return Exists(m_path) ? Bytes(m_path) : std::string(); }
-  // A store with a table of the same name and other rows.
-  std::string Stranger() const {
-    const CString path = m_folder.Path(L"stranger.KDB");
-    CDataTable table = SectionTable();
-    AddRow(table, L"another");
-    EXPECT_EQ(table.WriteTable(path, 0, 1), 1);
-    return Bytes(path);
-  }
-  // Puts a file in the place of the half-saved store: it is read and stays as it is. Afterwards the
-  // half-saved store is back.
-  void TryOtherFile(const std::string& other) const {
-    const std::string half = Bytes(m_path);
-    const std::string journal = Bytes(orv3::JournalPath(m_path));
-    const CString elsewhere = m_folder.Path(L"elsewhere.KDB");
-    PutBytes(elsewhere, other);
-    orv3::SystemFiles().Remove(orv3::JournalPath(m_path));
-    PutBytes(m_path, other);
-    PutBytes(orv3::JournalPath(m_path), journal);
-    EXPECT_EQ(Seen(m_path), Seen(elsewhere));
-    EXPECT_EQ(Bytes(m_path), other);
-    EXPECT_FALSE(Exists(orv3::JournalPath(m_path)));
-    PutBytes(m_path, half);
-    PutBytes(orv3::JournalPath(m_path), journal);
-  }
   void PutBack() const {
     orv3::SystemFiles().Remove(m_path);
     if (!m_before.empty()) PutBytes(m_path, m_before);
@@ -102,11 +78,6 @@ TEST_P(TableFault, AKilledSaveLeavesTheOldStoreOrTheNew) {
                                            std::to_string(GetParam()) + " " + std::to_string(at));
     ASSERT_TRUE(status == CFaultyFiles::kKilled || status == 0) << status;
     points += status != 0;
-    if (Exists(orv3::JournalPath(m_path))) {
-      TryOtherFile(m_before.empty() ? Stranger() : m_before);
-      TryOtherFile(m_after);
-      TryOtherFile(Stranger());
-    }
     // First for a reader that may change nothing, then for one that may.
     for (const bool readOnly : {true, false}) {
       m_files.SetReadOnly(readOnly);

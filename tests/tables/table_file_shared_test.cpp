@@ -116,6 +116,8 @@ TEST_F(SharedStore, ATableThatWasNeverReadTakesInWhatIsThere) {
   CDataTable table = SectionTable();
   AddRow(table, L"I2", L"mine");
   AddRow(table, L"new");
+  AddRow(table, L"gone");
+  table[2].m_nModifyType = -1;  // of which the file knows nothing
   ASSERT_EQ(Save(table), 1);
   EXPECT_EQ(Rows(Loaded(m_path)), (Lines{"I0=200", "I1=200", "I2=mine", "I3=200", "new=200"}));
 

@@ -69,7 +69,7 @@ TEST(BrowserRows, AddEditAndDeleteAreInTheStore) {
   EXPECT_TRUE(folder.Row(kUserH, L"H600X300").IsEmpty());
 }
 
-TEST(BrowserRows, CombinedSectionsAskForTheirSpacingAndAreNotCopied) {
+TEST(BrowserRows, CombinedSectionsAskForTheirSpacing) {
   const CStoreFolder folder;
   CDataItem row;
   int result = 0;
@@ -78,10 +78,6 @@ TEST(BrowserRows, CombinedSectionsAskForTheirSpacingAndAreNotCopied) {
         [&] {
           const auto probe = CDialogProbe::WaitFor(kCaption);
           probe.SelectNode(IDC_TREE, L"热轧等边角钢组合");
-          probe.Click(IDC_ADD);
-          const auto box = CDialogProbe::WaitForMessage();
-          Expect(box.Message(), L"型钢组合不能进行复制");
-          box.Answer(IDOK);
           probe.SelectItem(IDC_LIST, 2);
           probe.DoubleClick(IDC_LIST, 2);
           const auto shown = CDialogProbe::WaitFor(L"截面特性参数查询");

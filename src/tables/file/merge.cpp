@@ -9,8 +9,6 @@
 
 namespace orv3 {
 
-namespace {}  // namespace
-
 CTableMerge::CTableMerge(const CDataTable& table, const CTableImage& before,
                          std::vector<int> slotsOfRows, const std::vector<std::string>& slots,
                          int slotLength)
