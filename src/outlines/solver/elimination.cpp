@@ -156,14 +156,19 @@ void CElimination::Add(std::size_t element, std::span<const CRow> rows, const Ma
   for (Eigen::Index i : m_rows) m_front.m_all.push_back(row(i).unknown);
   PrepareFront();
   auto lower = m_front.Lower();
-  for (std::size_t j = 0; j < m_rows.size(); ++j) {
-    const Eigen::Index column = m_front.m_place[j];
-    const double sign = row(m_rows[j]).sign;
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-      if (m_front.m_place[i] < column) continue;
-      lower(m_front.m_place[i], column) = sign * row(m_rows[i]).sign * matrix(m_rows[i], m_rows[j]);
-    }
-    lower.col(column).tail<kForces>() = sign * force.row(m_rows[j]).transpose();
+  m_placed.resize(m_rows.size());
+  for (std::size_t i = 0; i < m_rows.size(); ++i)
+    m_placed[static_cast<std::size_t>(m_front.m_place[i])] = m_rows[i];
+  double* to = lower.data();
+  for (std::size_t j = 0; j < m_placed.size(); ++j) {
+    const double sign = row(m_placed[j]).sign;
+    for (std::size_t i = j; i < m_placed.size(); ++i)
+      to[i] = sign * row(m_placed[i]).sign * matrix(m_placed[i], m_placed[j]);
+    to += lower.rows();
+  }
+  for (Eigen::Index j = 0; j < lower.cols(); ++j) {
+    const Eigen::Index of = m_placed[static_cast<std::size_t>(j)];
+    lower.col(j).tail<kForces>() = row(of).sign * force.row(of).transpose();
   }
   EliminateFront();
   Leave(m_borders[element]);

@@ -80,7 +80,7 @@ class CElimination {
   std::vector<int> m_done;  // inner unknowns, then outer ones
   std::vector<double> m_factors;
   CFront m_front;
-  std::vector<Eigen::Index> m_rows;
+  std::vector<Eigen::Index> m_rows, m_placed;
   std::vector<int> m_kept;  // unknowns solved by SolveBorder
   Eigen::Matrix3Xd m_keptValues;
   bool m_positive = true;
