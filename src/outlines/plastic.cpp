@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numbers>
 #include <utility>
 #include <vector>
@@ -13,9 +14,12 @@ namespace orv3 {
 namespace {
 
 // Where a function, which gives its value and slope, passes from below 0 at `low` to above 0 at
-// `high`: Newton's steps, halving where they leave the bounds or close in slowly.
+// `high`: Newton's steps, halving where they leave the bounds or close in slowly, down to what
+// rounding leaves of the bounds.
 template <class Function>
 double Root(double low, double high, Function f) {
+  const double least =
+      std::numeric_limits<double>::epsilon() * std::max(std::fabs(low), std::fabs(high));
   double at = (low + high) / 2, last = std::fabs(high - low);
   for (int i = 0; i < 200; ++i) {
     const auto [value, slope] = f(at);
@@ -24,7 +28,7 @@ double Root(double low, double high, Function f) {
     const bool inside = (newton - low) * (newton - high) < 0;
     const double next = inside && std::fabs(newton - at) < last / 2 ? newton : (low + high) / 2;
     last = std::fabs(next - at);
-    if (value == 0 || next == at || last < 1e-17) break;
+    if (value == 0 || next == at || last <= least) break;
     at = next;
   }
   return at;
@@ -38,11 +42,10 @@ struct CPiece {
   double m_one = 0, m_y = 0, m_yy = 0;  // integrals of 1, y, y^2 over dx
 };
 
-// Area, its growth with the height, and its first moment downwards, of what lies below a height.
+// The area of what lies below a height, and its growth with the height.
 struct CBelow {
   double area = 0;
   double width = 0;
-  double moment = 0;
 };
 
 class CPieces {
@@ -64,16 +67,29 @@ class CPieces {
       if (piece.m_top <= c) {
         sum.area += c * piece.m_one - piece.m_y;
         sum.width += piece.m_one;
-        sum.moment += (piece.m_yy - 2 * c * piece.m_y + c * c * piece.m_one) / 2;
         continue;
       }
       const auto [a, b] = PartBelow(piece, c);
       sum.width += piece.m_edge.At(b).x - piece.m_edge.At(a).x;
       sum.area +=
           Integrate(piece.m_edge, a, b, [&](CPoint p, CPoint d) { return (c - p.y) * d.x; });
-      sum.moment += Integrate(piece.m_edge, a, b,
-                              [&](CPoint p, CPoint d) { return (c - p.y) * (c - p.y) * d.x; }) /
-                    2;
+    }
+    return sum;
+  }
+
+  // The first moment downwards of what lies below a height.
+  double MomentBelow(double c) const {
+    double sum = 0;
+    for (const CPiece& piece : m_pieces) {
+      if (piece.m_bottom >= c) continue;
+      if (piece.m_top <= c) {
+        sum += (piece.m_yy - 2 * c * piece.m_y + c * c * piece.m_one) / 2;
+        continue;
+      }
+      const auto [a, b] = PartBelow(piece, c);
+      sum += Integrate(piece.m_edge, a, b,
+                       [&](CPoint p, CPoint d) { return (c - p.y) * (c - p.y) * d.x; }) /
+             2;
     }
     return sum;
   }
@@ -140,18 +156,17 @@ double HeightOf(const CPieces& pieces, double area) {
 
 CPlasticAxis PlasticAxisX(std::span<const CPath> loops) {
   const CPieces pieces(loops);
-  const CBelow all = pieces.Below(pieces.Top());
-  double at = HeightOf(pieces, all.area / 2);
+  const double area = pieces.Below(pieces.Top()).area;
+  double at = HeightOf(pieces, area / 2);
   // Within a gap every line halves the area.
-  if (pieces.Below(at).width * (pieces.Top() - pieces.Bottom()) < 1e-6 * all.area) {
-    const double rounding = 1e-13 * all.area;
-    const double low = HeightOf(pieces, all.area / 2 - rounding);
-    at = (low + HeightOf(pieces, all.area / 2 + rounding)) / 2;
+  if (pieces.Below(at).width * (pieces.Top() - pieces.Bottom()) < 1e-6 * area) {
+    const double rounding = 1e-13 * area;
+    const double low = HeightOf(pieces, area / 2 - rounding);
+    at = (low + HeightOf(pieces, area / 2 + rounding)) / 2;
   }
   // The moment downwards about the line, and upwards: that of all, turned, and the part below.
-  const CBelow below = pieces.Below(at);
-  const double upwards = all.area * (pieces.Top() - at) - all.moment;
-  return {at, 2 * below.moment + upwards};
+  const double upwards = area * (pieces.Top() - at) - pieces.MomentBelow(pieces.Top());
+  return {at, 2 * pieces.MomentBelow(at) + upwards};
 }
 
 CPlasticAxis PlasticAxisY(std::span<const CPath> loops) {

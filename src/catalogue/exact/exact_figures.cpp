@@ -80,12 +80,17 @@ CExactRecord RecordAt(std::string_view bytes, std::size_t at) {
 
 // --- Keys ----------------------------------------------------------------------------------------
 
-// By the numbers of the characters, of which Windows has the same in half the bytes.
+// By the numbers of the characters, of which Windows has the same in half the bytes: three of them,
+// of 21 bits at most, at once.
 void AddText(CExactRecordKey& key, std::wstring_view text) {
-  key = {Mixed(key[0], text.size()), Mixed(key[1], ~text.size())};
-  for (const wchar_t ch : text) {
-    const auto code = static_cast<std::uint64_t>(ch);
-    key = {Mixed(key[0], code), Mixed(key[1], ~code)};
+  const auto add = [&](std::uint64_t value) {
+    key = {Mixed(key[0], value), Mixed(key[1], ~value)};
+  };
+  add(text.size());
+  for (; !text.empty(); text.remove_prefix(std::min<std::size_t>(3, text.size()))) {
+    std::uint64_t three = 0;
+    for (const wchar_t ch : text.substr(0, 3)) three = three << 21 | static_cast<std::uint64_t>(ch);
+    add(three);
   }
 }
 

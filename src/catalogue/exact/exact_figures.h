@@ -36,7 +36,7 @@
 namespace orv3 {
 
 // Raised whenever the outline of the same cells, or the figures of the same outline, change.
-inline constexpr std::uint32_t kExactVersion = 5;
+inline constexpr std::uint32_t kExactVersion = 6;
 inline constexpr wchar_t kExactFile[] = L"KvbSystemJmDataBase.KXP";
 
 using CExactRecordKey = std::array<std::uint64_t, 2>;

@@ -18,7 +18,7 @@ constexpr std::size_t kGradedEdges = 2000;
 // grow by kGrowth of the distance.
 constexpr double kAtCorner = 1.5;
 constexpr double kAtSharp = 0.35;
-constexpr double kGrowth = 1.5;
+constexpr double kGrowth = 2.5;
 // The same where an arc comes near another edge, closer than kNarrow of its radius: the wall there
 // thickens with the square of the distance.
 constexpr double kNarrow = 0.2;

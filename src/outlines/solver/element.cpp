@@ -21,6 +21,20 @@ Eigen::MatrixXd CurveShares(int n) {
   return values.inverse();
 }
 
+// u times a symmetric matrix times u; the last shares of a solution of less degree are 0.
+template <class Matrix>
+double Quadratic(const Matrix& matrix, const CElementVector& u) {
+  Eigen::Index count = u.size();
+  while (count > 0 && u[count - 1] == 0) --count;
+  double sum = 0;
+  for (Eigen::Index j = 0; j < count; ++j) {
+    double below = 0;
+    for (Eigen::Index i = j + 1; i < count; ++i) below += matrix(i, j) * u[i];
+    sum += u[j] * (matrix(j, j) * u[j] + 2 * below);
+  }
+  return sum;
+}
+
 }  // namespace
 
 CElement::CElement(const CSectionMesh& mesh, const CMeshTriangle& triangle,
@@ -107,13 +121,11 @@ void CElement::Integrate() {
       gradient.topRows(points).transpose() * ay - gradient.bottomRows(points).transpose() * ax;
 }
 
-double CElement::Energy(const CElementVector& u) const {
-  return u.dot(CElementVector(m_stiffness * u));
-}
+double CElement::Energy(const CElementVector& u) const { return Quadratic(m_stiffness, u); }
 
 double CElement::Square(const CElementVector& u) const {
   if (m_curved) return m_area.dot((m_shape.m_value * u).cwiseAbs2());
-  return m_det * u.dot(CElementVector(m_shape.m_mass * u));
+  return m_det * Quadratic(m_shape.m_mass, u);
 }
 
 void CElement::IntegrateStraight() {

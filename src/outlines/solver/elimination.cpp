@@ -140,7 +140,7 @@ void CElimination::PrepareFront() {
   for (int unknown : front.m_all)
     front.m_place.push_back(m_sharing[Index(unknown)] == 1 ? nextInner++ : nextOuter++);
   const std::size_t size = front.m_all.size();
-  front.m_lower.assign((size + kForces) * size, 0);
+  front.m_lower.resize(std::max(front.m_lower.size(), (size + kForces) * size));
 }
 
 void CElimination::Add(std::size_t element, std::span<const CRow> rows, const MatrixXd& matrix,
@@ -156,21 +156,27 @@ void CElimination::Add(std::size_t element, std::span<const CRow> rows, const Ma
   for (Eigen::Index i : m_rows) m_front.m_all.push_back(row(i).unknown);
   PrepareFront();
   auto lower = m_front.Lower();
-  for (std::size_t j = 0; j < m_rows.size(); ++j) {
-    const Eigen::Index column = m_front.m_place[j];
-    const double sign = row(m_rows[j]).sign;
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-      if (m_front.m_place[i] < column) continue;
-      lower(m_front.m_place[i], column) = sign * row(m_rows[i]).sign * matrix(m_rows[i], m_rows[j]);
-    }
-    lower.col(column).tail<kForces>() = sign * force.row(m_rows[j]).transpose();
+  m_placed.resize(m_rows.size());
+  for (std::size_t i = 0; i < m_rows.size(); ++i)
+    m_placed[static_cast<std::size_t>(m_front.m_place[i])] = m_rows[i];
+  double* to = lower.data();
+  for (std::size_t j = 0; j < m_placed.size(); ++j) {
+    const double sign = row(m_placed[j]).sign;
+    for (std::size_t i = j; i < m_placed.size(); ++i)
+      to[i] = sign * row(m_placed[i]).sign * matrix(m_placed[i], m_placed[j]);
+    to += lower.rows();
   }
-  EliminateFront(m_borders[element]);
+  for (Eigen::Index j = 0; j < lower.cols(); ++j) {
+    const Eigen::Index of = m_placed[static_cast<std::size_t>(j)];
+    lower.col(j).tail<kForces>() = row(of).sign * force.row(of).transpose();
+  }
+  EliminateFront();
+  Leave(m_borders[element]);
 }
 
 void CElimination::Join(std::size_t a, std::size_t b) {
-  const CBorder one = std::move(m_borders[a]), other = std::move(m_borders[b]);
-  m_borders[b] = {};
+  CBorder& one = m_borders[a];
+  CBorder& other = m_borders[b];
   m_front.m_all.clear();
   std::set_union(one.unknowns.begin(), one.unknowns.end(), other.unknowns.begin(),
                  other.unknowns.end(), std::back_inserter(m_front.m_all));
@@ -180,9 +186,13 @@ void CElimination::Join(std::size_t a, std::size_t b) {
     if (with != other.unknowns.end() && *with == unknown) --m_sharing[Index(unknown)];
   }
   PrepareFront();
+  auto lower = m_front.Lower();
+  for (Eigen::Index j = 0; j < lower.cols(); ++j) lower.col(j).tail(lower.rows() - j).setZero();
   AddBorder(one);
   AddBorder(other);
-  EliminateFront(m_borders[a]);
+  EliminateFront();
+  Leave(one);
+  other = {};
 }
 
 void CElimination::AddBorder(const CBorder& border) {
@@ -193,21 +203,26 @@ void CElimination::AddBorder(const CBorder& border) {
     m_rows.push_back(m_front.m_place[at]);
   }
   auto lower = m_front.Lower();
-  // Places rise with the unknowns, but for those that are eliminated now and stand first.
-  const auto count = static_cast<Eigen::Index>(m_rows.size());
-  for (Eigen::Index j = 0; j < count; ++j) {
-    const Eigen::Index column = m_rows[static_cast<std::size_t>(j)];
-    for (Eigen::Index i = j; i < count; ++i) {
-      const Eigen::Index row = m_rows[static_cast<std::size_t>(i)];
-      lower(std::max(row, column), std::min(row, column)) += border.m_lower(i, j);
+  for (Eigen::Index force = 0; force < kForces; ++force) m_rows.push_back(lower.cols() + force);
+  const double* from = border.m_lower.data();
+  for (std::size_t j = 0; j < border.unknowns.size(); ++j) {
+    const Eigen::Index column = m_rows[j];
+    double* to = &lower(0, column);
+    if (column < m_front.m_inner) {
+      for (std::size_t i = j; i < m_rows.size(); ++i) to[m_rows[i]] += *from++;
+      continue;
     }
-    lower.col(column).tail<kForces>() += border.m_lower.col(j).tail<kForces>();
+    // Places rise with the unknowns, but for those that are eliminated now and stand first.
+    for (std::size_t i = j; i < m_rows.size(); ++i) {
+      const Eigen::Index row = m_rows[i];
+      (row < column ? lower(column, row) : to[row]) += *from++;
+    }
   }
 }
 
-// The factor's columns of the inner unknowns; what is left is the border's. Columns are eliminated
-// four at a time, so that the rest is read and written a quarter as often.
-void CElimination::EliminateFront(CBorder& left) {
+// The factor's columns of the inner unknowns, and what they leave of the others. Columns are
+// eliminated four at a time, so that the rest is read and written a quarter as often.
+void CElimination::EliminateFront() {
   auto a = m_front.Lower();
   const Eigen::Index inner = m_front.m_inner, rows = a.rows(), columns = a.cols();
   for (Eigen::Index from = 0; from < inner; from += 4) {
@@ -227,17 +242,22 @@ void CElimination::EliminateFront(CBorder& left) {
       }
     }
   }
-  left.m_lower = a.bottomRightCorner(rows - inner, columns - inner);
-  CEliminated done;
-  done.m_inner.reserve(static_cast<std::size_t>(inner));
+}
+
+void CElimination::Leave(CBorder& left) {
+  const auto a = m_front.Lower();
+  const Eigen::Index inner = m_front.m_inner, rows = a.rows(), columns = a.cols();
+  const CEliminated done{m_done.size(), m_factors.size(), inner, columns - inner};
   left.unknowns.clear();
-  left.unknowns.reserve(static_cast<std::size_t>(columns - inner));
   for (int unknown : m_front.m_all)
-    (m_sharing[Index(unknown)] == 1 ? done.m_inner : left.unknowns).push_back(unknown);
+    (m_sharing[Index(unknown)] == 1 ? m_done : left.unknowns).push_back(unknown);
+  left.m_lower.clear();
+  for (Eigen::Index j = inner; j < columns; ++j)
+    left.m_lower.insert(left.m_lower.end(), &a(j, j), &a(0, j) + rows);
   if (inner == 0) return;
-  done.m_outer = left.unknowns;
-  done.m_factor = a.leftCols(inner);
-  m_eliminated.push_back(std::move(done));
+  m_done.insert(m_done.end(), left.unknowns.begin(), left.unknowns.end());
+  m_factors.insert(m_factors.end(), a.data(), a.data() + rows * inner);
+  m_eliminated.push_back(done);
 }
 
 Eigen::Matrix3Xd CElimination::Solution() const {
@@ -247,18 +267,18 @@ Eigen::Matrix3Xd CElimination::Solution() const {
     solution.col(m_kept[i]) = m_keptValues.col(static_cast<Eigen::Index>(i));
   Eigen::Matrix3Xd border;
   for (auto e = m_eliminated.rbegin(); e != m_eliminated.rend(); ++e) {
-    const auto outer = static_cast<Eigen::Index>(e->m_outer.size());
+    const Eigen::Index inner = e->m_inner, outer = e->m_outer;
+    const int* unknown = &m_done[e->m_unknowns];
+    const Eigen::Map<const MatrixXd> factors(&m_factors[e->m_columns], inner + outer + kForces,
+                                             inner);
     border.resize(kForces, outer);
-    for (Eigen::Index i = 0; i < outer; ++i)
-      border.col(i) = solution.col(e->m_outer[static_cast<std::size_t>(i)]);
-    const Eigen::Index inner = e->m_factor.cols();
+    for (Eigen::Index i = 0; i < outer; ++i) border.col(i) = solution.col(unknown[inner + i]);
     for (Eigen::Index k = inner - 1; k >= 0; --k) {
-      const auto factor = e->m_factor.col(k);
+      const auto factor = factors.col(k);
       Eigen::Vector3d value = factor.tail<kForces>();
       for (Eigen::Index i = 0; i < outer; ++i) value -= factor[inner + i] * border.col(i);
-      for (Eigen::Index i = k + 1; i < inner; ++i)
-        value -= factor[i] * solution.col(e->m_inner[static_cast<std::size_t>(i)]);
-      solution.col(e->m_inner[static_cast<std::size_t>(k)]) = value / factor[k];
+      for (Eigen::Index i = k + 1; i < inner; ++i) value -= factor[i] * solution.col(unknown[i]);
+      solution.col(unknown[k]) = value / factor[k];
     }
   }
   return solution;

@@ -5,6 +5,7 @@
 // is a chain of triangles, and its fronts stay a few dozen unknowns wide.
 #pragma once
 
+#include <algorithm>
 #include <span>
 #include <utility>
 #include <vector>
@@ -43,13 +44,14 @@ class CElimination {
   Eigen::Matrix3Xd Solution() const;
 
  private:
-  // The equations of the unknowns that a union shares with others, in rising order: the lower
-  // triangle, and the forces as further rows.
+  // The equations of the unknowns that a union shares with others, in rising order: the columns of
+  // the lower triangle one after the other, each with the forces below it.
   struct CBorder {
     std::vector<int> unknowns;
-    Eigen::MatrixXd m_lower;
+    std::vector<double> m_lower;
   };
-  // The same of all unknowns of a union, those that it does not share first; one at a time.
+  // The same of all unknowns of a union, those that it does not share first; one at a time. Columns
+  // of equal height, what is above the diagonal without meaning.
   struct CFront {
     std::vector<int> m_all;             // in rising order
     std::vector<Eigen::Index> m_place;  // of each of them
@@ -61,20 +63,24 @@ class CElimination {
       return {m_lower.data(), size + kForces, size};
     }
   };
+  // Its unknowns and its columns of the factor, in m_done and m_factors.
   struct CEliminated {
-    std::vector<int> m_inner, m_outer;
-    Eigen::MatrixXd m_factor;
+    std::size_t m_unknowns, m_columns;
+    Eigen::Index m_inner, m_outer;
   };
-  // Of m_front.m_all, with all numbers 0.
+  // Of m_front.m_all; its numbers have no meaning yet.
   void PrepareFront();
   void AddBorder(const CBorder& border);
-  void EliminateFront(CBorder& left);
+  void EliminateFront();
+  void Leave(CBorder& left);
 
   std::vector<int> m_sharing;
   std::vector<CBorder> m_borders;
   std::vector<CEliminated> m_eliminated;
+  std::vector<int> m_done;  // inner unknowns, then outer ones
+  std::vector<double> m_factors;
   CFront m_front;
-  std::vector<Eigen::Index> m_rows;
+  std::vector<Eigen::Index> m_rows, m_placed;
   std::vector<int> m_kept;  // unknowns solved by SolveBorder
   Eigen::Matrix3Xd m_keptValues;
   bool m_positive = true;
@@ -86,15 +92,19 @@ void CElimination::SolveBorder(std::size_t joined, Held held) {
   const auto count = static_cast<Eigen::Index>(border.unknowns.size());
   m_kept = border.unknowns;
   m_keptValues.setZero(kForces, count);
+  Eigen::MatrixXd lower = Eigen::MatrixXd::Zero(count + kForces, count);
+  const double* from = border.m_lower.data();
+  for (Eigen::Index j = 0; j < count; from += count + kForces - j++)
+    std::copy_n(from, count + kForces - j, &lower(j, j));
   for (Eigen::Index force = 0; force < kForces && count > 0; ++force) {
     std::vector<Eigen::Index> free;
     for (Eigen::Index i = 0; i < count; ++i) {
       if (!held(border.unknowns[static_cast<std::size_t>(i)], force)) free.push_back(i);
     }
     if (free.size() == border.unknowns.size()) free.erase(free.begin());
-    const Eigen::LLT<Eigen::MatrixXd> factor(border.m_lower(free, free));
+    const Eigen::LLT<Eigen::MatrixXd> factor(lower(free, free));
     m_positive = m_positive && factor.info() == Eigen::Success;
-    const Eigen::VectorXd right = border.m_lower(count + force, free).transpose();
+    const Eigen::VectorXd right = lower(count + force, free).transpose();
     m_keptValues(force, free) = factor.solve(right).transpose();
   }
 }
