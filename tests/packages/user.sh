@@ -4,6 +4,8 @@ cd /packages
 
 as_user() { su tester -c "$1"; }
 
+version() { dpkg-query -W -f '${Version}' orv3cal | sed 's/-.*//'; }
+
 files() {
   find / -xdev \( -path /proc -o -path /sys -o -path /packages -o -path /home -o -path /tmp \
     -o -path /run -o -path /var/cache -o -path /var/log -o -path /var/lib/dpkg -o -path /var/lib/apt \
@@ -29,15 +31,19 @@ case $1 in
     apt-get -q -y install ./liborv3cal1_*.deb ./orv3cal_*.deb
     ;;
   first-result)
+    as_user 'orv3cal --version' | grep -xF "orv3cal $(version)"
     as_user 'orv3cal section h 300 400 20 10 --json' | grep '"A": *15600'
     as_user 'orv3cal show 热轧普通工字钢 I20a' | grep 35.578
     cd /tmp
     as_user 'orv3cal check bolt /usr/share/doc/orv3cal/examples/bolt.json --report bolt.html'
     grep -q GB /tmp/bolt.html
+    umount /proc  # by which a program finds itself
+    orv3cal show 热轧普通工字钢 I20a | grep 35.578
     ;;
   manual)
     as_user 'man orv3cal-section' | grep -e '--dxf'
     as_user 'man orv3cal' | grep -w lattice
+    zcat /usr/share/man/man1/orv3cal.1.gz | grep -F "orv3cal $(version)"
     zcat /usr/share/man/zh_CN/man1/orv3cal-section.1.gz | grep 截面
     for page in $(orv3cal --help | sed -n '/^Subcommands/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
       man --warnings "orv3cal-$page" 2>&1 >/dev/null | (! grep .)
@@ -58,7 +64,8 @@ case $1 in
     ;;
   python)
     apt-get -q -y install ./python3-orv3cal_*.deb
-    as_user 'python3 /packages/frame.py /usr/share/doc/orv3cal/examples/bolts.csv'
+    as_user 'python3 -c "import orv3cal; print(orv3cal.__version__)"' | grep -xF "$(version)"
+    as_user 'python3 /packages/frame.py /usr/share/doc/orv3cal/examples/bolts.csv orv3cal'
     apt-get -q -y purge python3-orv3cal
     ;;
   wheel)
