@@ -37,8 +37,6 @@ case $1 in
     cd /tmp
     as_user 'orv3cal check bolt /usr/share/doc/orv3cal/examples/bolt.json --report bolt.html'
     grep -q GB /tmp/bolt.html
-    umount /proc  # by which a program finds itself
-    orv3cal show 热轧普通工字钢 I20a | grep 35.578
     ;;
   manual)
     as_user 'man orv3cal-section' | grep -e '--dxf'
