@@ -55,6 +55,8 @@ case $1 in
     completed 'section flanged' | grep -x flanged-cross
     completed 'code steel Q3' | grep -x Q355
     completed 'check b' | grep -x butt
+    [ -s /usr/share/zsh/vendor-completions/_orv3cal ]
+    [ -s /usr/share/fish/vendor_completions.d/orv3cal.fish ]
     ;;
   user-store)
     as_user 'orv3cal store add 自定义对称H型钢 --set No.=T --set "b(mm)=300" --set "h(mm)=400" --set "tf(mm)=20" --set "tw(mm)=10"'
@@ -68,6 +70,9 @@ case $1 in
     ;;
   wheel)
     as_user 'python3 -m pip install -q --no-index --target /tmp/wheel /packages/orv3cal-*.whl'
+    for file in KvbSystemJmDataBase.KDB KvbSystemJmDataBase.KXP; do
+      cmp "/usr/share/orv3cal/$file" "/tmp/wheel/orv3cal/share/orv3cal/$file"
+    done
     as_user 'PYTHONPATH=/tmp/wheel python3 /packages/frame.py /usr/share/doc/orv3cal/examples/bolts.csv'
     ;;
   remove)
