@@ -44,7 +44,7 @@ CString& ShippedFolder() {
 CString ShippedStore() {
   if (!ShippedFolder().IsEmpty()) return In(ShippedFolder());
   const CString program = FolderOf(FolderOf(ProgramFile()));
-  return program.IsEmpty() ? CString() : In(program + L"/share/orv3cal");
+  return In(program.IsEmpty() ? FromUtf8(ORV3CAL_DATA_FOLDER) : program + L"/share/orv3cal");
 }
 
 CString NotFound(const CString& store) {

@@ -8,7 +8,9 @@ if(TARGET orv3cal_shared)
 endif()
 install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orv3cal
         FILES_MATCHING PATTERN "*.h"
-        PATTERN "posix" EXCLUDE PATTERN "win32" EXCLUDE PATTERN "module" EXCLUDE)
+        PATTERN "posix" EXCLUDE PATTERN "web" EXCLUDE PATTERN "win32" EXCLUDE
+        PATTERN "solver" EXCLUDE  # wants Eigen
+        PATTERN "module" EXCLUDE)
 # The C interface is a header without any other.
 install(FILES src/module/orv3cal_c.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orv3cal)
 if(TARGET orv3cal_dll)

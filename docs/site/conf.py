@@ -5,6 +5,8 @@ import re
 import sys
 from pathlib import Path
 
+from sphinx.search.en import SearchEnglish
+
 SOURCE = Path(os.environ["ORV3CAL_SOURCE"])
 BUILD = Path(os.environ["ORV3CAL_BUILD"])
 sys.path.insert(0, str(BUILD / "python"))
@@ -25,10 +27,33 @@ autodoc_member_order = "bysource"
 html_theme = "sphinx_rtd_theme"
 html_show_sourcelink = False
 html_copy_source = False
-html_search_language = "en"
+html_search_language = "en-zh"
 html_static_path = ["_static"]
 html_extra_path = ["extra"]  # the pictures of the gallery
 exclude_patterns = ["extra"]
 html_css_files = ["site.css"]
 html_last_updated_fmt = None
 html_show_copyright = False
+
+
+class PairSearch(SearchEnglish):
+    """English words; Chinese, which has no spaces between words, as its pairs of characters."""
+
+    lang = "en-zh"
+    js_splitter_code = r"""
+function splitQuery(query) {
+  const pairs = (run) => " " + Array.from({length: Math.max(1, run.length - 1)}, (_, at) => run.slice(at, at + 2)).join(" ") + " ";
+  return query.replace(/[\u4e00-\u9fff]+/g, pairs).split(/[^\p{L}\p{N}_]+/u).filter((word) => word);
+}
+"""
+
+    def split(self, text):
+        return re.findall(r"\w+", re.sub("[\u4e00-\u9fff]+", lambda run: f" {' '.join(self.pairs(run[0]))} ", text))
+
+    @staticmethod
+    def pairs(run):
+        return [run[at:at + 2] for at in range(max(1, len(run) - 1))]
+
+
+def setup(app):
+    app.add_search_language(PairSearch)

@@ -17,7 +17,7 @@ A line "..." stands for any lines, "..." within a line for any characters. Every
 status 0; one that does not is shown as "COMMAND; echo $?". A picture that a command draws under the
 name of one in docs/pictures must be the same. Each block runs in a folder of its own with a
 copy of examples/, the build tree as build/release, the catalogue as share/orv3cal, a home of its own,
-and the command orv3cal on the path.
+and the command orv3cal on the path. The files that a document links to must be there.
 """
 
 import argparse
@@ -75,6 +75,14 @@ def pattern(shown):
         else:
             parts.append(".*?".join(re.escape(part) for part in line.rstrip().split("...")) + r"[ \t]*\n")
     return "".join(parts)
+
+
+def dead_links(document):
+    """(line, text) for each link to a file or folder that is not there."""
+    for number, line in enumerate(document.read_text("utf-8").splitlines(), 1):
+        for link in re.findall(r"\]\(([^)\s#:]+)(?:#[^)]*)?\)", line):
+            if not (document.parent / link).exists():
+                yield number, f"the link {link} leads nowhere"
 
 
 def differs(shown, printed):
@@ -193,6 +201,7 @@ class Runner:
 
     def faults(self, document, root):
         """What is wrong in a document: (line, text)."""
+        yield from dead_links(document)
         blocks, files, python = blocks_of(document), {}, ""
         for i, block in enumerate(blocks):
             after = blocks[i + 1] if i + 1 < len(blocks) else None

@@ -6,3 +6,4 @@ cmake --build /tmp/consumer
 for program in static_by_package static_by_pkg_config shared_by_package shared_by_pkg_config; do
   "/tmp/consumer/$program"
 done
+cmake -DLIBRARY="$(find /usr/lib -name liborv3cal.so)" -P consumer/exports.cmake

@@ -1,0 +1,42 @@
+"""Looks up every link of a built site: the file that it names, and the place within it.
+
+    check_links.py FOLDER
+
+Links that lead out of the site are not followed. Exit status 1 and a line for each link that leads nowhere.
+"""
+
+import sys
+from html.parser import HTMLParser
+from pathlib import Path
+from urllib.parse import unquote, urlsplit
+
+
+class Page(HTMLParser):
+    def __init__(self, file):
+        super().__init__()
+        self.links, self.places = [], set()
+        self.feed(file.read_text("utf-8"))
+
+    def handle_starttag(self, tag, attributes):
+        values = dict(attributes)
+        self.links += [values[name] for name in ("href", "src") if values.get(name)]
+        self.places |= {values[name] for name in ("id", "name") if values.get(name)}
+
+
+def faults(root, pages):
+    for file, page in pages.items():
+        for link in dict.fromkeys(page.links):
+            parts = urlsplit(link)
+            if parts.scheme or parts.netloc:
+                continue
+            target = (file.parent / unquote(parts.path)).resolve() if parts.path else file
+            place = unquote(parts.fragment)
+            if not target.exists() or target in pages and place and place not in pages[target].places:
+                yield f"{file.relative_to(root)}: {link}"
+
+
+root = Path(sys.argv[1]).resolve()
+pages = {file: Page(file) for file in sorted(root.rglob("*.html"))}
+found = list(faults(root, pages)) if pages else [f"{root}: no page"]
+print("".join(f"{line}\n" for line in found), end="")
+sys.exit(1 if found else 0)
