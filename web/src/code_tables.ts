@@ -37,7 +37,8 @@ const kAxes: Record<string, Record<number, string[]>> = {
 
 // The questions and what each means: the lines under the last heading of the help.
 async function questions(): Promise<[name: string, meaning: string][]> {
-  const help = (await ask(["code", "--help"])).out;
+  const { status, out: help, err } = await ask(["code", "--help"]);
+  if (status !== 0) throw new Error(err);
   return [...help.matchAll(/^ {2}([a-z][a-z0-9-]+) {2,}(\S.*)$/gm)].map((line) => [line[1]!, line[2]!]);
 }
 

@@ -58,7 +58,7 @@ async function draw(): Promise<void> {
   try {
     await show(main);
   } catch (error) {
-    if (mine === draws) main.replaceChildren(fault(String(error)));
+    if (mine === draws) main.replaceChildren(fault(error instanceof Error ? error.message : String(error)));
   }
   main.setAttribute("aria-busy", "false");
 }

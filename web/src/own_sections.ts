@@ -1,6 +1,6 @@
 // Own sections: a style with its sizes typed beside the picture, or any outline from a file.
 import { change, state } from "./address";
-import { ask, run, sentence, type Answer } from "./client";
+import { ask, sentence, told, type Answer } from "./client";
 import { button, bytesOf, dropPlace, el, fault, field, latest, newId, select } from "./dom";
 import { signParts } from "./figures";
 import { language, say } from "./language";
@@ -26,7 +26,7 @@ const kFirst: Record<string, string> = {
 let outline: { name: string; data: Uint8Array } | null = null;
 
 export async function ownSections(place: HTMLElement): Promise<void> {
-  const styles = JSON.parse((await run(["styles", "--json"])).out) as StyleJson[];
+  const styles = await told<StyleJson[]>(["styles"]);
   const chosen = styles.find((each) => each.alias === state()["style"]) ?? styles[0]!;
   const given = (state()["sizes"] ?? kFirst[chosen.alias] ?? "").split(",");
   const view = el("div", { class: "detail wide", "aria-live": "polite" });

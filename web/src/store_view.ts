@@ -2,7 +2,7 @@
 import { go } from "./address";
 import { ask, forgetOwnStore, run, sentence, type Answer, type Files } from "./client";
 import { csvText } from "./csv";
-import { bytesOf, button, download, dropPlace, el, field, select } from "./dom";
+import { bytesOf, button, download, dropPlace, el, fault, field, select } from "./dom";
 import { say } from "./language";
 import { tables } from "./sections";
 import { sheetsOf, workbook } from "./workbook";
@@ -35,7 +35,10 @@ async function imported(file: File, table: string, overwrite: boolean): Promise<
 }
 
 export async function storeView(place: HTMLElement): Promise<void> {
-  let list = await tables();
+  // Where the store is not read, it is said so, and what mends it stays at hand.
+  let trouble = "";
+  const read = () => tables().catch((error: Error) => ((trouble = error.message), []));
+  let list = await read();
   const note = el("div", { role: "status", class: "log" });
   const tell = (answer: Answer, file = "") => {
     const good = answer.status === 0;
@@ -65,13 +68,14 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const forms = ["KDB", "csv", "xlsx"].map((form) => button(`.${form}`, () => void exported(form)()));
   const held = el("div");
   const listTables = async () => {
-    list = await tables();
+    trouble = "";
+    list = await read();
     const asked = select(choices(), filled().includes(which.value) ? which.value : "", () => {});
     asked.id = which.id;
     which.replaceWith(asked);
     which = asked;
     const now = list.filter((table) => table.source !== "rolled");
-    held.replaceChildren(el("h2", {}, say("自定义截面的表", "Tables of own sections")), el("ul", { class: "tables" }, ...now.map((table) =>
+    held.replaceChildren(el("h2", {}, say("自定义截面的表", "Tables of own sections")), fault(trouble), el("ul", { class: "tables" }, ...now.map((table) =>
       el("li", {}, button(`${table.name} (${table.rows})`, () => go({ view: "sections", table: table.name }), { class: "quiet" })))));
   };
   const forget = button(say("删除自己的库", "Delete the own store"), () => {
