@@ -1,4 +1,6 @@
 // Elements of the page.
+import { say } from "./language";
+
 type Child = Node | string | null | undefined | false;
 type Attributes = Record<string, string | number | boolean | null | undefined | ((event: never) => void)>;
 
@@ -68,8 +70,9 @@ export function dropPlace(text: string, accept: string, taken: (files: File[]) =
     input.value = ""; // so that the same file can be chosen again
     taken(files);
   };
-  const input = el("input", { type: "file", accept, multiple: true, onchange: chosen });
-  const place = el("div", { class: "drop" }, field(text, input));
+  const input = el("input", { type: "file", accept, multiple: true, onchange: chosen, hidden: true });
+  const place = el("div", { class: "drop" }, field(text, button(say("选取文件…", "Choose files…"), () => input.click())), input,
+    el("span", { class: "note" }, say("或拖放到此", "or drop them here")));
   place.ondragover = (event) => {
     event.preventDefault();
     place.classList.add("over");

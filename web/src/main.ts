@@ -55,6 +55,7 @@ async function draw(): Promise<void> {
   document.title = `${say(zh, en)} – Orv3Cal`;
   const main = el("main", { class: view, "aria-busy": "true" }, el("p", { class: "note" }, say("载入中…", "Loading…")));
   document.getElementById("page")!.replaceChildren(head(view), main);
+  document.querySelector('nav a[aria-current="page"]')?.scrollIntoView({ inline: "center", block: "nearest" });
   try {
     await show(main);
   } catch (error) {

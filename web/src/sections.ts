@@ -147,10 +147,11 @@ export async function sections(place: HTMLElement): Promise<void> {
   const tools = el("div", { class: "tools" },
     field(say("在所有列中查找", "Search all columns"), search),
     rangeFilter(columns.filter((column) => isNumeric(column.type)).map((column) => column.sign), filter),
-    count,
+    el("span", { class: "tools" },
     button(say("复制", "Copy"), () => void navigator.clipboard.writeText([columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n"))),
     button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...seen]))),
-    button("XLSX", () => download(`${table}.xlsx`, workbook(table, [...heads(), ...seen], numeric, 2))));
+    button("XLSX", () => download(`${table}.xlsx`, workbook(table, [...heads(), ...seen], numeric, 2)))),
+    count);
   place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
   filter();
   grid.reveal();
