@@ -3,7 +3,7 @@
 import { change, state } from "./address";
 import { ask, sentence, type Answer } from "./client";
 import { csvRows, csvText } from "./csv";
-import { bytesOf, button, download, dropPlace, el, fault, field, latest, picture, select } from "./dom";
+import { button, bytesOf, copyButton, download, dropPlace, el, fault, field, latest, picture, select } from "./dom";
 import bolt from "../../examples/bolt.json";
 import butt from "../../examples/butt.json";
 import fillet from "../../examples/fillet.json";
@@ -103,7 +103,7 @@ function answerView(kind: Kind, answer: Answer): (HTMLElement | string)[] {
     picture(drawingIn(report), kindTitle(kind)),
     answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",
     verdict(JSON.parse(answer.out) as CheckJson),
-    el("div", { class: "tools" }, open || null, button(say("复制 JSON", "Copy JSON"), () => void navigator.clipboard.writeText(answer.out))),
+    el("div", { class: "tools" }, open || null, copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
     place,
   ];
 }
@@ -126,7 +126,7 @@ function latticeView(answer: Answer): HTMLElement[] {
   return [
     picture(answer.files["picture.svg"], lattice.no),
     el("div", { class: "tools" }, button("SVG", () => download(`${lattice.no}.svg`, answer.files["picture.svg"]!)),
-      button(say("复制 JSON", "Copy JSON"), () => void navigator.clipboard.writeText(answer.out))),
+      copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
     figureTable(lattice.no, figureLines(lattice.properties)),
     ...limbs,
   ];
@@ -147,7 +147,7 @@ async function batchView(place: HTMLElement, kind: Kind, name: string, data: Uin
   const grid = new Grid({ label: name, columns: keep(head).map((each, i) => ({ name: each, numeric: numeric[i]! })), rows: lines });
   place.append(el("div", { class: "tools" },
     button("CSV", () => download("checked.csv", "\ufeff" + csvText([head, ...rows]))),
-    button("XLSX", () => download("checked.xlsx", workbook(kindTitle(kind), [keep(head), ...lines], numeric, 1)))), grid.element);
+    button("XLSX", () => download("checked.xlsx", workbook({ name: kindTitle(kind), rows: [keep(head), ...lines], numeric, heads: 1 })))), grid.element);
 }
 
 export function connections(place: HTMLElement): Promise<void> {

@@ -2,7 +2,7 @@
 // the table with the asked cell marked, every cell of it asked from the command.
 import { change, state } from "./address";
 import { ask, run, sentence, type Answer } from "./client";
-import { button, el, field, latest, select } from "./dom";
+import { copyButton, el, field, latest, select } from "./dom";
 import { shown } from "./figures";
 import { say } from "./language";
 
@@ -97,7 +97,7 @@ function figure(answer: Answer): HTMLElement {
   const { value, unit, source } = JSON.parse(answer.out) as CodeJson;
   const text = Array.isArray(value) ? value.map(shown).join(", ") : typeof value === "object" && value ? JSON.stringify(value) : shown(value);
   return el("div", { class: "answerfigure" }, el("p", { class: "big", title: String(value) }, text, el("span", { class: "unit" }, ` ${unit}`)), el("p", { class: "note" }, source),
-    button(say("复制", "Copy"), () => void navigator.clipboard.writeText(String(value))));
+    copyButton(say("复制", "Copy"), () => String(value)));
 }
 
 // The list with the asked value in its place, so that what is marked is what was asked.

@@ -22,7 +22,7 @@ export function el<K extends keyof HTMLElementTagNameMap>(
 let ids = 0;
 export const newId = () => `f${++ids}`;
 
-export function button(text: string, act: () => void, more: Attributes = {}): HTMLButtonElement {
+export function button(text: string, act: () => unknown, more: Attributes = {}): HTMLButtonElement {
   return el("button", { type: "button", onclick: act, ...more }, text);
 }
 
@@ -57,6 +57,26 @@ export function download(name: string, data: Uint8Array | string): void {
   link.href = URL.createObjectURL(new Blob([data as BlobPart]));
   link.click();
   setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
+}
+
+// A button that copies a text. Where the browser keeps the clipboard from pages, a selection is copied.
+export function copyButton(label: string, text: () => string): HTMLButtonElement {
+  const made = button(label, async () => {
+    const done = await navigator.clipboard?.writeText(text()).then(() => true, () => false);
+    made.textContent = done || copySelected(text()) ? `${label} ✓` : say("浏览器不允许复制", "the browser does not let this page copy");
+    setTimeout(() => (made.textContent = label), 2000);
+  });
+  return made;
+}
+
+function copySelected(text: string): boolean {
+  const area = el("textarea", { class: "hidden", "aria-hidden": "true" });
+  area.value = text;
+  document.body.append(area);
+  area.select();
+  const done = document.execCommand("copy");
+  area.remove();
+  return done;
 }
 
 export async function bytesOf(file: File): Promise<Uint8Array> {

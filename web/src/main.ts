@@ -64,5 +64,7 @@ async function draw(): Promise<void> {
   main.setAttribute("aria-busy", "false");
 }
 
+// A file that falls beside its place does not take the page away.
+for (const kind of ["dragover", "drop"]) addEventListener(kind, (event) => event.preventDefault());
 addEventListener("popstate", () => void draw());
 void draw();

@@ -2,7 +2,7 @@
 import { change, go, state } from "./address";
 import { ask, sentence, told, type Answer } from "./client";
 import { csvText } from "./csv";
-import { button, download, el, fault, field, latest, select } from "./dom";
+import { button, copyButton, download, el, fault, field, latest, select } from "./dom";
 import { Grid, type Column } from "./grid";
 import { say } from "./language";
 import { cellLines, figureLines, sectionView, type FigureLine, type SectionJson } from "./section_view";
@@ -148,9 +148,9 @@ export async function sections(place: HTMLElement): Promise<void> {
     field(say("在所有列中查找", "Search all columns"), search),
     rangeFilter(columns.filter((column) => isNumeric(column.type)).map((column) => column.sign), filter),
     el("span", { class: "tools" },
-    button(say("复制", "Copy"), () => void navigator.clipboard.writeText([columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n"))),
+    copyButton(say("复制", "Copy"), () => [columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n")),
     button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...seen]))),
-    button("XLSX", () => download(`${table}.xlsx`, workbook(table, [...heads(), ...seen], numeric, 2)))),
+    button("XLSX", () => download(`${table}.xlsx`, workbook({ name: table, rows: [...heads(), ...seen], numeric, heads: 2 })))),
     count);
   place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
   filter();

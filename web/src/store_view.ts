@@ -1,11 +1,11 @@
 // The own store, kept in this browser: its tables, imports and exports.
 import { go } from "./address";
-import { ask, forgetOwnStore, run, sentence, type Answer, type Files } from "./client";
+import { ask, forgetOwnStore, sentence, told, type Answer, type Files } from "./client";
 import { csvText } from "./csv";
 import { bytesOf, button, download, dropPlace, el, fault, field, select } from "./dom";
 import { say } from "./language";
 import { tables } from "./sections";
-import { sheetsOf, workbook } from "./workbook";
+import { sheetsOf, workbook, type Sheet } from "./workbook";
 
 // A workbook's sheets as CSV files, each named for its table; a line of Chinese titles above the
 // signs, as exports have it, is left out.
@@ -58,7 +58,7 @@ export async function storeView(place: HTMLElement): Promise<void> {
     note.replaceChildren();
     const name = `store.${form}`;
     if (form === "xlsx") {
-      for (const table of which.value ? [which.value] : filled()) await exportWorkbook(table, tell);
+      tell(await (which.value ? exportWorkbook(`${which.value}.xlsx`, [which.value]) : exportWorkbook(name, filled())));
       return;
     }
     const answer = await ask(["store", "export", ...(which.value ? [which.value] : []), "--to", name]);
@@ -96,12 +96,21 @@ export async function storeView(place: HTMLElement): Promise<void> {
   await listTables();
 }
 
-async function exportWorkbook(table: string, told: (answer: Answer) => void): Promise<void> {
-  const answer = await run(["rows", table, "--json"]);
-  if (answer.status !== 0) return told(answer);
-  const { columns, rows } = JSON.parse(answer.out) as { columns: { sign: string; name: string; type: string }[]; rows: { cells: string[] }[] };
+async function sheetOf(table: string): Promise<Sheet> {
+  const { columns, rows } = await told<{ columns: { sign: string; name: string; type: string }[]; rows: { cells: string[] }[] }>(["rows", table]);
   const heads = [columns.map((column) => column.name), columns.map((column) => column.sign)];
   const numeric = columns.map((column) => column.type !== "text" && column.type !== "char");
-  download(`${table}.xlsx`, workbook(table, [...heads, ...rows.map((row) => row.cells)], numeric, 2));
-  told({ ...answer, out: `${table}.xlsx` });
+  return { name: table, rows: [...heads, ...rows.map((row) => row.cells)], numeric, heads: 2 };
+}
+
+// Whole tables as sheets of one workbook.
+async function exportWorkbook(name: string, tables: string[]): Promise<Answer> {
+  try {
+    const sheets: Sheet[] = [];
+    for (const table of tables) sheets.push(await sheetOf(table));
+    download(name, workbook(...sheets));
+    return { status: 0, out: name, err: "", files: {} };
+  } catch (error) {
+    return { status: 3, out: "", err: (error as Error).message, files: {} };
+  }
 }

@@ -59,7 +59,9 @@ function stopped(fault: unknown, argv: string[], language: string): Answer {
 
 function same(a: Uint8Array | null, b: Uint8Array | null): boolean {
   if (!a || !b) return a === b;
-  return a.length === b.length && a.every((byte, i) => byte === b[i]);
+  if (a.length !== b.length) return false;
+  for (let i = 0; i < a.length; ++i) if (a[i] !== b[i]) return false;
+  return true;
 }
 
 // A run that another tab's save has overtaken is done again on that save.
