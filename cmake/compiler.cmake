@@ -4,6 +4,11 @@ find_program(CCACHE_PROGRAM ccache)
 mark_as_advanced(CCACHE_PROGRAM)
 if(CCACHE_PROGRAM AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+  # em++ does not show that it is a clang. A precompiled header without times is the same each time.
+  if(EMSCRIPTEN)
+    list(PREPEND CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_COMPILERTYPE=clang CCACHE_SLOPPINESS=pch_defines,time_macros)
+    add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
+  endif()
 endif()
 
 # orv3cal_warnings(TARGET...): the warnings of our own code, each an error.

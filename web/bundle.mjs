@@ -13,12 +13,7 @@ const [core, data, out] = process.argv.slice(2);
 const here = dirname(fileURLToPath(import.meta.url));
 
 // What a module gets when it asks for "inside:NAME", as the text of a JavaScript module.
-const packed = (file) =>
-  `export default "${gzipSync(readFileSync(file), { level: 9 }).toString("base64")}";`;
 const inside = {
-  wasm: () => packed(join(core, "orv3cal.wasm")),
-  store: () => packed(join(data, "KvbSystemJmDataBase.KDB")),
-  exact: () => packed(join(data, "KvbSystemJmDataBase.KXP")),
   words: () => `export default ${JSON.stringify(caseWords(join(here, "../docs/case-keys.md")))};`,
   worker: async () => {
     const glue = readFileSync(join(core, "orv3cal.js"), "utf8");
@@ -55,6 +50,11 @@ async function bundle(entry) {
 const script = (await bundle("main.ts")).replaceAll("</script", "<\\/script");
 const style = readFileSync(join(here, "src/page.css"), "utf8");
 const hash = (text) => `'sha256-${createHash("sha256").update(text).digest("base64")}'`;
+// What the worker unpacks stands behind the script, as text that the browser does not read.
+const packed = (name, file) =>
+  `<script type="text/plain" id="inside-${name}">${gzipSync(readFileSync(file), { level: 9 }).toString("base64")}</script>\n`;
+const payload = packed("wasm", join(core, "orv3cal.wasm")) + packed("store", join(data, "KvbSystemJmDataBase.KDB")) +
+  packed("exact", join(data, "KvbSystemJmDataBase.KXP"));
 // Nothing is fetched and nothing is sent: no address is allowed but what the page makes itself.
 const policy = [
   "default-src 'none'",
@@ -68,6 +68,7 @@ const policy = [
 const html = readFileSync(join(here, "src/page.html"), "utf8")
   .replace("@POLICY@", policy)
   .replace("@STYLE@", () => style)
-  .replace("@SCRIPT@", () => script);
+  .replace("@SCRIPT@", () => script)
+  .replace("@PAYLOAD@", () => payload);
 writeFileSync(out, html);
 console.log(`${out}: ${(html.length / 1e6).toFixed(2)} MB`);

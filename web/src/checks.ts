@@ -3,7 +3,7 @@
 import { change, state } from "./address";
 import { ask, sentence, type Answer } from "./client";
 import { csvRows, csvText } from "./csv";
-import { bytesOf, button, download, dropPlace, el, fault, field, latest, picture, select } from "./dom";
+import { button, bytesOf, copyButton, download, dropPlace, el, fault, field, latest, picture, select } from "./dom";
 import bolt from "../../examples/bolt.json";
 import butt from "../../examples/butt.json";
 import fillet from "../../examples/fillet.json";
@@ -18,7 +18,7 @@ import { say } from "./language";
 import { drawingIn, reportView } from "./report";
 import { schemaOf, type Kind } from "./schema";
 import { figureLines, figureTable } from "./section_view";
-import { verdict, type CheckJson } from "./verdict";
+import { summary, verdict, type CheckJson } from "./verdict";
 import { workbook } from "./workbook";
 
 const kExamples: Record<Kind, unknown> = { bolt, butt, fillet, "weld-group": weldGroup, member, lattice };
@@ -41,12 +41,17 @@ export function editions(changed: () => void): HTMLElement {
   }));
 }
 
+// The case of the address, or the first example. Its edition is the one chosen above the form.
 function kept(kind: Kind): Case {
+  let value = structuredClone(kExamples[kind]) as Case;
   try {
-    return JSON.parse(state()["case"] ?? "") as Case;
+    value = JSON.parse(state()["case"] ?? "") as Case;
   } catch {
-    return structuredClone(kExamples[kind]) as Case;
+    // none is there
   }
+  const { code, ...rest } = value;
+  if (code !== undefined) change({ code: String(code) === "2017" ? "" : String(code) });
+  return rest;
 }
 
 const kFile = "case.json";
@@ -61,16 +66,20 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   const form = new Form(kind, schemaOf(kind), (value) => {
     change({ case: JSON.stringify(value) });
     void show();
-  });
+  }, ["code"]);
   const show = latest(
     (): Promise<Answer> => ask(commandLine(kind), { [kFile]: JSON.stringify(form.case) }),
     (answer) => {
       const done = answer.status <= 1 && answer.out !== "";
       form.blame(done ? "" : sentence(answer, kFile));
       view.classList.toggle("stale", !done);
+      jump.textContent = done ? verdictLine(kind, answer) : say("未能验算", "not checked");
       if (done) view.replaceChildren(...(kind === "lattice" ? latticeView(answer) : answerView(kind, answer)));
     },
   );
+  // On a narrow screen the answer is below the form; this line of it stays in sight.
+  const jump = button("", () => view.scrollIntoView(), { class: "jump", "aria-label": say("看结果", "Go to the answer") });
+  const first = kept(kind);
   const batch = el("div", { class: "batch" });
   const extra = kind === "lattice"
     ? [field(say("示例", "Start from"), select([["", "–"], ["2", say("双肢", "two limbs")], ["3", say("三肢", "three limbs")], ["4", say("四肢", "four limbs")]], "", (limbs) => {
@@ -81,8 +90,8 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   const drop = kind === "lattice" ? null : dropPlace(say("多个算例：CSV 或 JSON 文件", "Many cases: a CSV or JSON file"), ".csv,.json", async ([file]) => {
     if (file) await batchView(batch, kind, file.name, await bytesOf(file));
   });
-  place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), ...extra, form.element, drop), el("div", { class: "answer" }, view, batch));
-  form.set(kept(kind));
+  place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), ...extra, form.element, drop, jump), el("div", { class: "answer" }, view, batch));
+  form.set(first);
   await show();
 }
 
@@ -94,9 +103,15 @@ function answerView(kind: Kind, answer: Answer): (HTMLElement | string)[] {
     picture(drawingIn(report), kindTitle(kind)),
     answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",
     verdict(JSON.parse(answer.out) as CheckJson),
-    el("div", { class: "tools" }, open || null, button(say("复制 JSON", "Copy JSON"), () => void navigator.clipboard.writeText(answer.out))),
+    el("div", { class: "tools" }, open || null, copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
     place,
   ];
+}
+
+function verdictLine(kind: Kind, answer: Answer): string {
+  if (kind === "lattice") return say("看结果", "Results");
+  const all = JSON.parse(answer.out) as CheckJson;
+  return (all.editions ?? [all]).map(summary).join("  ");
 }
 
 interface LatticeJson {
@@ -111,7 +126,7 @@ function latticeView(answer: Answer): HTMLElement[] {
   return [
     picture(answer.files["picture.svg"], lattice.no),
     el("div", { class: "tools" }, button("SVG", () => download(`${lattice.no}.svg`, answer.files["picture.svg"]!)),
-      button(say("复制 JSON", "Copy JSON"), () => void navigator.clipboard.writeText(answer.out))),
+      copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
     figureTable(lattice.no, figureLines(lattice.properties)),
     ...limbs,
   ];
@@ -132,7 +147,7 @@ async function batchView(place: HTMLElement, kind: Kind, name: string, data: Uin
   const grid = new Grid({ label: name, columns: keep(head).map((each, i) => ({ name: each, numeric: numeric[i]! })), rows: lines });
   place.append(el("div", { class: "tools" },
     button("CSV", () => download("checked.csv", "\ufeff" + csvText([head, ...rows]))),
-    button("XLSX", () => download("checked.xlsx", workbook(kindTitle(kind), [keep(head), ...lines], numeric, 1)))), grid.element);
+    button("XLSX", () => download("checked.xlsx", workbook({ name: kindTitle(kind), rows: [keep(head), ...lines], numeric, heads: 1 })))), grid.element);
 }
 
 export function connections(place: HTMLElement): Promise<void> {

@@ -8,6 +8,7 @@ import { shown } from "./figures";
 import { Form, type Case } from "./form";
 import { say } from "./language";
 import { schemaOf } from "./schema";
+import { checkName } from "./verdict";
 import { tables } from "./sections";
 
 interface ChooseJson {
@@ -24,7 +25,7 @@ function kept(): Case {
   try {
     return JSON.parse(state()["case"] ?? "") as Case;
   } catch {
-    const { section: _, edges: __, ...rest } = structuredClone(member) as Case;
+    const { section: _, edges: __, code: ___, ...rest } = structuredClone(member) as Case;
     return rest;
   }
 }
@@ -45,7 +46,7 @@ export async function choose(place: HTMLElement): Promise<void> {
   });
   const style = el("input", { type: "text", value: state()["styles"] ?? "", placeholder: '{"style": "box", "b": [200, 400, 50], "h": 400, "t": 16}', oninput: () => change({ styles: style.value }) });
   const top = el("input", { type: "number", min: 1, value: state()["top"] ?? "20", class: "short", oninput: () => change({ top: top.value }) });
-  const form = new Form("member", schemaOf("member"), (value) => change({ case: JSON.stringify(value) }), ["section"]);
+  const form = new Form("member", schemaOf("member"), (value) => change({ case: JSON.stringify(value) }), ["section", "code"]);
   const find = latest(
     (): Promise<Answer> => {
       const names = [...chosen()];
@@ -67,24 +68,27 @@ export async function choose(place: HTMLElement): Promise<void> {
   }, { class: "main" });
   place.replaceChildren(
     el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), editions(() => {}),
-      el("details", { class: "group", open: true }, el("summary", {}, say("截面表", "Tables")), ...boxes),
+      el("details", { class: "group", open: innerWidth > 860 }, el("summary", {}, say("截面表", "Tables")), ...boxes),
       field(say("自定义截面 --style", "Own section --style"), style), field(say("最多行数", "Rows at most"), top), start, note, form.element),
     el("div", { class: "answer" }, view));
   form.set(kept());
   await find();
 }
 
+const notesOf = (row: ChooseJson["rows"][number]) => (row.warnings ?? []).map((each) => `${each.key}: ${each.text}`);
+
 function table(answer: ChooseJson, value: Case, whole: Answer): HTMLElement {
   const head = [say("表", "table"), say("型号", "no"), "kg/m", say("利用率", "ratio"), say("控制", "governs"), say("注意", "note"), ""];
   const body = el("tbody");
+  const common = answer.rows.map(notesOf).reduce((all, notes) => all.filter((note) => notes.includes(note)), answer.rows[0] ? notesOf(answer.rows[0]) : []);
   for (const row of answer.rows) {
     const open = button(say("验算", "Check"), () => go({ view: "members", case: JSON.stringify({ ...value, section: { table: row.table, no: row.no } }) }));
     body.append(el("tr", {}, el("td", {}, row.table), el("th", { scope: "row" }, row.no), el("td", { class: "num" }, shown(row.mass)),
-      el("td", { class: "num", title: String(row.ratio) }, shown(row.ratio)), el("td", {}, row.governs),
-      el("td", { class: "name" }, (row.warnings ?? []).map((each) => `${each.key}: ${each.text}`).join("; ")), el("td", {}, row.table ? open : "")));
+      el("td", { class: "num", title: String(row.ratio) }, shown(row.ratio)), el("td", {}, checkName(row.governs)),
+      el("td", { class: "name" }, notesOf(row).filter((note) => !common.includes(note)).join("; ")), el("td", {}, row.table ? open : "")));
   }
   const refused = (answer.refusals ?? []).map((each) => el("p", { class: "warn" }, say(`${each.table}：${each.rows} 个截面未能验算，如 ${each.no}：`, `${each.table}: ${each.rows} sections refused, such as ${each.no}: `), each.reason));
-  return el("div", {}, ...refused, el("p", { role: "status" }, say(`试算 ${answer.tried} 个截面，${answer.passing} 个满足`, `${answer.tried} sections tried, ${answer.passing} pass`)),
-    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("结果", "Results") }, el("table", { class: "figures list" }, el("thead", {}, el("tr", {}, ...head.map((each) => (each ? el("th", { scope: "col" }, each) : el("td"))))), body)),
+  return el("div", {}, ...refused, ...common.map((note) => el("p", { class: "warn" }, note)), el("p", { role: "status" }, say(`试算 ${answer.tried} 个截面，${answer.passing} 个满足`, `${answer.tried} sections tried, ${answer.passing} pass`)),
+    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("结果", "Results") }, el("table", { class: "figures list" }, el("thead", {}, el("tr", {}, ...head.map((each) => (each ? el("th", { scope: "col" }, each) : el("td", { class: "head" }))))), body)),
     picture(whole.files["plot.svg"], say("质量与利用率", "mass against ratio")));
 }

@@ -1,7 +1,4 @@
 // The page's side of the command: starts the worker and asks it.
-import exact from "inside:exact";
-import store from "inside:store";
-import wasm from "inside:wasm";
 import source from "inside:worker";
 import type { Answer, Files } from "./core";
 import { language } from "./language";
@@ -9,24 +6,24 @@ import type { Reply, Start } from "./worker";
 
 export type { Answer, Files } from "./core";
 
-async function unpacked(base64: string): Promise<Uint8Array> {
-  const packed = Uint8Array.from(atob(base64), (ch) => ch.charCodeAt(0));
-  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream("gzip"));
-  return new Uint8Array(await new Response(stream).arrayBuffer());
-}
-
 const waiting = new Map<number, (answer: Answer) => void>();
 let orders = 0;
 
+// The core and the catalogue stand behind this script, so that the page is there before them.
 async function start(): Promise<Worker> {
   const worker = new Worker(URL.createObjectURL(new Blob([source], { type: "text/javascript" })));
   worker.onmessage = ({ data }: MessageEvent<Reply>) => {
     waiting.get(data.id)?.(data.answer);
     waiting.delete(data.id);
   };
-  const [code, tables, figures] = await Promise.all([unpacked(wasm), unpacked(store), unpacked(exact)]);
-  const module = await WebAssembly.compile(code as BufferSource);
-  worker.postMessage({ module, store: tables, exact: figures } satisfies Start);
+  if (document.readyState === "loading") await new Promise((done) => addEventListener("DOMContentLoaded", done));
+  const packed = (name: string) => {
+    const place = document.getElementById(`inside-${name}`)!;
+    const text = place.textContent!;
+    place.remove();
+    return text;
+  };
+  worker.postMessage({ wasm: packed("wasm"), store: packed("store"), exact: packed("exact") } satisfies Start);
   return worker;
 }
 const started = start();
@@ -47,6 +44,13 @@ export function run(argv: string[], files: Files = {}): Promise<Answer> {
 // A command line in the page's language.
 export function ask(argv: string[], files: Files = {}): Promise<Answer> {
   return run([...argv, "--lang", language()], files);
+}
+
+// What a command line in JSON answers; its sentence is the error where it answers nothing.
+export async function told<T>(argv: string[]): Promise<T> {
+  const answer = await ask([...argv, "--json"]);
+  if (answer.status !== 0) throw new Error(sentence(answer));
+  return JSON.parse(answer.out) as T;
 }
 
 export function forgetOwnStore(): Promise<Answer> {

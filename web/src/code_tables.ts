@@ -2,7 +2,7 @@
 // the table with the asked cell marked, every cell of it asked from the command.
 import { change, state } from "./address";
 import { ask, run, sentence, type Answer } from "./client";
-import { button, el, field, latest, select } from "./dom";
+import { copyButton, el, field, latest, select } from "./dom";
 import { shown } from "./figures";
 import { say } from "./language";
 
@@ -37,7 +37,8 @@ const kAxes: Record<string, Record<number, string[]>> = {
 
 // The questions and what each means: the lines under the last heading of the help.
 async function questions(): Promise<[name: string, meaning: string][]> {
-  const help = (await ask(["code", "--help"])).out;
+  const { status, out: help, err } = await ask(["code", "--help"]);
+  if (status !== 0) throw new Error(err);
   return [...help.matchAll(/^ {2}([a-z][a-z0-9-]+) {2,}(\S.*)$/gm)].map((line) => [line[1]!, line[2]!]);
 }
 
@@ -96,7 +97,7 @@ function figure(answer: Answer): HTMLElement {
   const { value, unit, source } = JSON.parse(answer.out) as CodeJson;
   const text = Array.isArray(value) ? value.map(shown).join(", ") : typeof value === "object" && value ? JSON.stringify(value) : shown(value);
   return el("div", { class: "answerfigure" }, el("p", { class: "big", title: String(value) }, text, el("span", { class: "unit" }, ` ${unit}`)), el("p", { class: "note" }, source),
-    button(say("复制", "Copy"), () => void navigator.clipboard.writeText(String(value))));
+    copyButton(say("复制", "Copy"), () => String(value)));
 }
 
 // The list with the asked value in its place, so that what is marked is what was asked.

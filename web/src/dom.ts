@@ -1,4 +1,6 @@
 // Elements of the page.
+import { say } from "./language";
+
 type Child = Node | string | null | undefined | false;
 type Attributes = Record<string, string | number | boolean | null | undefined | ((event: never) => void)>;
 
@@ -20,7 +22,7 @@ export function el<K extends keyof HTMLElementTagNameMap>(
 let ids = 0;
 export const newId = () => `f${++ids}`;
 
-export function button(text: string, act: () => void, more: Attributes = {}): HTMLButtonElement {
+export function button(text: string, act: () => unknown, more: Attributes = {}): HTMLButtonElement {
   return el("button", { type: "button", onclick: act, ...more }, text);
 }
 
@@ -57,6 +59,26 @@ export function download(name: string, data: Uint8Array | string): void {
   setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
 }
 
+// A button that copies a text. Where the browser keeps the clipboard from pages, a selection is copied.
+export function copyButton(label: string, text: () => string): HTMLButtonElement {
+  const made = button(label, async () => {
+    const done = await navigator.clipboard?.writeText(text()).then(() => true, () => false);
+    made.textContent = done || copySelected(text()) ? `${label} ✓` : say("浏览器不允许复制", "the browser does not let this page copy");
+    setTimeout(() => (made.textContent = label), 2000);
+  });
+  return made;
+}
+
+function copySelected(text: string): boolean {
+  const area = el("textarea", { class: "hidden", "aria-hidden": "true" });
+  area.value = text;
+  document.body.append(area);
+  area.select();
+  const done = document.execCommand("copy");
+  area.remove();
+  return done;
+}
+
 export async function bytesOf(file: File): Promise<Uint8Array> {
   return new Uint8Array(await file.arrayBuffer());
 }
@@ -68,8 +90,9 @@ export function dropPlace(text: string, accept: string, taken: (files: File[]) =
     input.value = ""; // so that the same file can be chosen again
     taken(files);
   };
-  const input = el("input", { type: "file", accept, multiple: true, onchange: chosen });
-  const place = el("div", { class: "drop" }, field(text, input));
+  const input = el("input", { type: "file", accept, multiple: true, onchange: chosen, hidden: true });
+  const place = el("div", { class: "drop" }, field(text, button(say("选取文件…", "Choose files…"), () => input.click())), input,
+    el("span", { class: "note" }, say("或拖放到此", "or drop them here")));
   place.ondragover = (event) => {
     event.preventDefault();
     place.classList.add("over");

@@ -10,7 +10,9 @@ const kHead = ["id", "project", "date", "calculated", "checked", "approved"];
 
 export class Form {
   readonly element = el("form", { class: "form" });
+  private readonly body = el("div");
   private past: string[] = [];
+  private typedIn = ""; // the field of the last step: what is typed into one field is one step
   private fields = new Map<string, { control: HTMLElement; note: HTMLElement }>();
   private value: Case = {};
 
@@ -22,6 +24,17 @@ export class Form {
     private readonly left: string[] = [],
   ) {
     this.element.onsubmit = (event) => event.preventDefault();
+    this.element.onkeydown = (event) => {
+      if (!(event.ctrlKey || event.metaKey) || event.key.toLowerCase() !== "z" || event.shiftKey) return;
+      event.preventDefault();
+      this.undo();
+    };
+    this.element.onfocusout = () => (this.typedIn = "");
+    this.element.append(
+      el("div", { class: "tools" },
+        button(say("撤销", "Undo"), () => this.undo(), { title: "Ctrl+Z" }),
+        button(say("清空", "Clear"), () => this.replace({}))),
+      this.body);
   }
 
   get case(): Case {
@@ -43,6 +56,7 @@ export class Form {
   undo(): void {
     const before = this.past.pop();
     if (before === undefined) return;
+    this.typedIn = "";
     this.set(JSON.parse(before) as Case);
     this.changed(this.value);
   }
@@ -58,7 +72,9 @@ export class Form {
     const paths = [named, named.replace(/\[\d+\]$/, ""), named.replace(/\.[^.]*$/, "")];
     const found = paths.map((path) => this.fields.get(path)).find(Boolean) ?? this.fields.get("");
     found?.control.setAttribute("aria-invalid", "true");
-    if (found) found.note.textContent = sentence;
+    if (!found) return;
+    found.note.textContent = sentence;
+    for (let at = found.note.closest("details"); at; at = at.parentElement!.closest("details")) at.open = true;
   }
 
   private remember(): void {
@@ -66,13 +82,23 @@ export class Form {
     if (this.past.length > 200) this.past.shift();
   }
 
-  private put(path: string[], value: unknown): void {
-    this.remember();
+  private put(path: string[], value: unknown, typed = false): void {
+    const place = pathText(path);
+    if (!typed || this.typedIn !== place) this.remember();
+    this.typedIn = typed ? place : "";
     put(this.value, path, value);
     this.changed(this.value);
   }
 
   private draw(): void {
+    const focused = [...this.fields].find(([, { control }]) => control === document.activeElement)?.[0];
+    const opened = new Map([...this.fields].flatMap(([place, { control }]) => (control instanceof HTMLDetailsElement ? [[place, control.open]] : [])));
+    this.drawFields();
+    for (const [place, { control }] of this.fields) if (control instanceof HTMLDetailsElement) control.open = opened.get(place) ?? control.open;
+    if (focused !== undefined) this.fields.get(focused)?.control.focus();
+  }
+
+  private drawFields(): void {
     this.fields.clear();
     const above = el("p", { class: "fault", role: "alert" });
     this.fields.set("", { control: this.element, note: above });
@@ -82,58 +108,55 @@ export class Form {
     const head = properties.filter(([key]) => kHead.includes(key));
     const must = properties.filter(([key]) => required.has(key) && !kHead.includes(key));
     const may = properties.filter(([key]) => !required.has(key) && !kHead.includes(key));
-    this.element.replaceChildren(
-      el("div", { class: "tools" },
-        button(say("撤销", "Undo"), () => this.undo(), { title: "Ctrl+Z" }),
-        button(say("清空", "Clear"), () => this.replace({}))),
-      above,
-      ...group(must),
-      ...(this.kind === "member" ? group(may) : [fold(say("其他", "More"), group(may), may.some(([key]) => key in this.value))]),
-      fold(say("计算书页首", "Head of the report"), group(head), head.some(([key]) => key in this.value)));
-    this.element.onkeydown = (event) => {
-      if (!(event.ctrlKey || event.metaKey) || event.key.toLowerCase() !== "z" || event.shiftKey) return;
-      event.preventDefault();
-      this.undo();
-    };
+    const more = fold(say("其他", "More"), group(may), may.some(([key]) => key in this.value));
+    const report = fold(say("计算书页首", "Head of the report"), group(head), head.some(([key]) => key in this.value));
+    this.fields.set("more", { control: more, note: above });
+    this.fields.set("head", { control: report, note: above });
+    this.body.replaceChildren(above, ...group(must), ...(this.kind === "member" ? group(may) : [more]), report);
   }
 
   private field(path: string[], schema: Schema, required = false): HTMLElement {
     const key = path.at(-1)!;
     const value = get(this.value, path);
     if (schema.properties) return this.group(path, schema, required);
-    if (isType(schema, "array") && schema.items?.properties) return this.list(path, schema.items);
+    if (isType(schema, "array") && schema.items?.properties) return this.list(path, schema, schema.items);
     const { name, takes, unit } = wordsOf(this.kind, path.join("."), schema);
     const note = el("p", { class: "fault", role: "alert", id: newId() });
-    const control = this.control(path, schema, value);
+    const control = this.control(path, schema, value, takes);
     control.id = newId();
-    control.setAttribute("aria-describedby", note.id);
-    if (takes) control.title = takes;
+    const told = el("p", { class: "takes", id: newId() }, takes);
+    control.setAttribute("aria-describedby", `${note.id} ${told.id}`);
     this.fields.set(pathText(path), { control, note });
     return el("div", { class: required ? "field must" : "field" },
       el("label", { for: control.id }, el("b", {}, key), name && name !== key ? ` ${name}` : ""),
-      el("span", { class: "control" }, control, el("span", { class: "unit" }, unit)), note);
+      el("span", { class: "control" }, control, el("span", { class: "unit" }, unit)), told, note);
   }
 
-  private control(path: string[], schema: Schema, value: unknown): HTMLElement {
+  private control(path: string[], schema: Schema, value: unknown, takes: string): HTMLElement {
     const choices = schema.enum ? [...new Map(schema.enum.map((each) => [String(each), each])).values()]
       : schema.type === "boolean" ? [true, false] : null;
     if (choices) {
       const made = el("select", { onchange: () => this.put(path, choices.find((each) => String(each) === made.value)) }, el("option", { value: "" }, "–"));
       for (const each of choices) {
-        const text = each === true ? say("是", "yes") : each === false ? say("否", "no") : String(each);
+        const text = each === true ? say("是", "yes") : each === false ? say("否", "no") : choiceName(String(each), takes);
         made.append(el("option", { value: String(each), selected: value !== undefined && String(each) === String(value) }, text));
       }
       return made;
     }
-    const made = el("input", { type: "text", value: textOf(value), autocomplete: "off", oninput: () => this.put(path, valueOf(made.value, schema)) });
+    const made = el("input", { type: "text", value: textOf(value), autocomplete: "off", oninput: () => this.put(path, valueOf(made.value, schema), true) });
     if (!isType(schema, "string")) made.inputMode = "decimal";
     return made;
   }
 
+  private title(path: string[], schema: Schema): string {
+    const { name } = wordsOf(this.kind, path.join("."), schema);
+    const key = path.at(-1)!;
+    return name.startsWith(key) ? name : `${key} ${name}`;
+  }
+
   private group(path: string[], schema: Schema, open: boolean): HTMLElement {
     const must = new Set(schema.required);
-    const { name } = wordsOf(this.kind, path.join("."), schema);
-    const title = `${path.at(-1)} ${name === path.at(-1) ? "" : name}`;
+    const title = this.title(path, schema);
     const note = el("p", { class: "fault", role: "alert" });
     const inside = Object.entries(schema.properties!).map(([key, each]) => this.field([...path, key], each, must.has(key)));
     const made = fold(title, [note, ...inside], open || get(this.value, path) !== undefined || path[0] === "lengths");
@@ -142,13 +165,13 @@ export class Form {
   }
 
   // Objects one below the other, with a button that adds one.
-  private list(path: string[], items: Schema): HTMLElement {
+  private list(path: string[], schema: Schema, items: Schema): HTMLElement {
     const values = (get(this.value, path) as unknown[] | undefined) ?? [];
     const note = el("p", { class: "fault", role: "alert" });
-    const rows = values.map((_, i) => el("fieldset", { class: "item" }, el("legend", {}, `${path.at(-1)} ${i + 1}`),
+    const rows = values.map((_, i) => el("fieldset", { class: "item" }, el("legend", {}, `${path.at(-1)}[${i}]`),
       ...Object.entries(items.properties!).map(([key, each]) => this.field([...path, String(i), key], each, items.required?.includes(key))),
       button(say("删去", "Remove"), () => this.edit(path, values.filter((_, at) => at !== i)))));
-    const made = fold(path.at(-1)!, [note, ...rows, button(say("添加", "Add"), () => this.edit(path, [...values, structuredClone(values.at(-1) ?? {})]))], true);
+    const made = fold(this.title(path, schema), [note, ...rows, button(say("添加", "Add"), () => this.edit(path, [...values, structuredClone(values.at(-1) ?? {})]))], true);
     this.fields.set(pathText(path), { control: made, note });
     return made;
   }
@@ -161,6 +184,12 @@ export class Form {
 
 function fold(title: string, inside: HTMLElement[], open: boolean): HTMLElement {
   return inside.length === 0 ? el("span") : el("details", { class: "group", open }, el("summary", {}, title), ...inside);
+}
+
+// "grid 并列" of "grid 并列，staggered 错列"; the choice alone where the words do not name it so.
+function choiceName(choice: string, takes: string): string {
+  const named = takes.split(/[，；：]/).map((part) => part.trim()).find((part) => part.startsWith(`${choice} `) && /[\u4e00-\u9fff]/.test(part));
+  return named?.replace(/（.*$/, "") ?? choice;
 }
 
 // "welds[0].x1", as the command writes a place.

@@ -55,13 +55,16 @@ async function draw(): Promise<void> {
   document.title = `${say(zh, en)} – Orv3Cal`;
   const main = el("main", { class: view, "aria-busy": "true" }, el("p", { class: "note" }, say("载入中…", "Loading…")));
   document.getElementById("page")!.replaceChildren(head(view), main);
+  document.querySelector('nav a[aria-current="page"]')?.scrollIntoView({ inline: "center", block: "nearest" });
   try {
     await show(main);
   } catch (error) {
-    if (mine === draws) main.replaceChildren(fault(String(error)));
+    if (mine === draws) main.replaceChildren(fault(error instanceof Error ? error.message : String(error)));
   }
   main.setAttribute("aria-busy", "false");
 }
 
+// A file that falls beside its place does not take the page away.
+for (const kind of ["dragover", "drop"]) addEventListener(kind, (event) => event.preventDefault());
 addEventListener("popstate", () => void draw());
 void draw();

@@ -1,6 +1,6 @@
 // Own sections: a style with its sizes typed beside the picture, or any outline from a file.
 import { change, state } from "./address";
-import { ask, run, sentence, type Answer } from "./client";
+import { ask, sentence, told, type Answer } from "./client";
 import { button, bytesOf, dropPlace, el, fault, field, latest, newId, select } from "./dom";
 import { signParts } from "./figures";
 import { language, say } from "./language";
@@ -26,7 +26,7 @@ const kFirst: Record<string, string> = {
 let outline: { name: string; data: Uint8Array } | null = null;
 
 export async function ownSections(place: HTMLElement): Promise<void> {
-  const styles = JSON.parse((await run(["styles", "--json"])).out) as StyleJson[];
+  const styles = await told<StyleJson[]>(["styles"]);
   const chosen = styles.find((each) => each.alias === state()["style"]) ?? styles[0]!;
   const given = (state()["sizes"] ?? kFirst[chosen.alias] ?? "").split(",");
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
@@ -34,11 +34,11 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   const saved = el("p", { class: "note", role: "status" });
   const inputs = chosen.sizes.map((size, i) => {
     const [sign, unit] = signParts(size.sign);
-    const input = el("input", { type: "text", inputmode: "decimal", value: given[i] ?? "", "aria-describedby": note.id, oninput: () => compute() });
+    const input = el("input", { type: "text", inputmode: "decimal", value: given[i] ?? "", "aria-describedby": note.id, oninput: () => void compute() });
     return { size, input, row: field(`${sign} · ${language() === "zh" ? size.title : size.meaning}`, input, el("span", { class: "unit" }, unit)) };
   });
   const base = ["x", "y"].map((axis, i) => {
-    const input = el("input", { type: "text", inputmode: "decimal", value: (state()["base"] ?? "0,0").split(",")[i] ?? "0", oninput: () => compute() });
+    const input = el("input", { type: "text", inputmode: "decimal", value: (state()["base"] ?? "0,0").split(",")[i] ?? "0", oninput: () => void compute() });
     return { input, row: field(say(`基点 ${axis}`, `base point ${axis}`), input, el("span", { class: "unit" }, "mm")) };
   });
   const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => change({ name: name.value }) });
@@ -57,14 +57,14 @@ export async function ownSections(place: HTMLElement): Promise<void> {
       view.classList.toggle("stale", answer.status !== 0);
     },
   );
-  const compute = () => {
+  const compute = async () => {
     change({ style: chosen.alias, sizes: sizes().join(","), base: base.map(({ input }) => input.value).join(",") });
     if (sizes().some((size) => size === "")) {
       note.textContent = say("请填写所有尺寸。", "Every size is needed.");
       view.classList.add("stale");
       return;
     }
-    void show();
+    await show();
   };
   const save = async () => {
     const cells = inputs.flatMap(({ size, input }) => ["--set", `${size.sign}=${input.value.trim()}`]);
@@ -88,7 +88,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     }));
   place.replaceChildren(form, view);
   if (outline && !state()["style"]) await showOutline(view);
-  else compute();
+  else await compute();
 }
 
 async function showOutline(view: HTMLElement): Promise<void> {

@@ -1,8 +1,9 @@
 // The user's own store in the browser's database: one record, replaced whole in one transaction, so
-// that it is always as before a save or as after it.
+// that it is always as before a save or as after it. The number of the save stands beside it, so that a
+// store that has not changed is not read again.
 
 export interface Saved {
-  version: number; // counts the saves
+  version: number; // of the save: its time, or one more than the last
   bytes: Uint8Array | null;
 }
 
@@ -17,6 +18,7 @@ export class StorageError extends Error {
 
 const kTable = "stores";
 const kKey = "own";
+const kVersion = "version";
 const kNone: Saved = { version: 0, bytes: null };
 
 function troubleOf(fault: unknown): StorageError {
@@ -28,6 +30,7 @@ function troubleOf(fault: unknown): StorageError {
 
 export class OwnStore {
   private database: Promise<IDBDatabase> | null = null;
+  private known: Saved | null = null;
 
   // A connection that was refused or has been closed (the user deletes what pages keep) is asked for anew.
   private open(): Promise<IDBDatabase> {
@@ -55,9 +58,16 @@ export class OwnStore {
     const database = await this.open().catch(() => null);
     if (!database) return kNone;
     return new Promise((done, fail) => {
-      const asked = database.transaction(kTable).objectStore(kTable).get(kKey);
-      asked.onsuccess = () => done((asked.result as Saved | undefined) ?? kNone);
-      asked.onerror = () => fail(new StorageError("unread"));
+      const table = database.transaction(kTable).objectStore(kTable);
+      const unread = () => fail(new StorageError("unread"));
+      const read = () => {
+        const asked = table.get(kKey);
+        asked.onsuccess = () => done((this.known = (asked.result as Saved | undefined) ?? kNone));
+        asked.onerror = unread;
+      };
+      const version = table.get(kVersion);
+      version.onsuccess = () => (this.known && version.result === this.known.version ? done(this.known) : read());
+      version.onerror = unread;
     });
   }
 
@@ -76,7 +86,11 @@ export class OwnStore {
         const version = (asked.result as Saved | undefined)?.version ?? 0;
         current = version === before;
         try {
-          if (current) table.put({ version: version + 1, bytes } satisfies Saved, kKey);
+          if (current) {
+            const next = Math.max(version + 1, Date.now());
+            table.put({ version: next, bytes } satisfies Saved, kKey);
+            table.put(next, kVersion);
+          }
         } catch (refused) {
           fault = refused;
         }

@@ -1,6 +1,6 @@
 // A section's picture, cells, geometry and exact figures; of a table's row or of sizes.
 import { ask, sentence, type Answer } from "./client";
-import { button, download, el, fault, picture } from "./dom";
+import { button, copyButton, download, el, fault, picture } from "./dom";
 import { nameOf, shown, signParts, unitOf } from "./figures";
 import { say } from "./language";
 
@@ -84,7 +84,7 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
     el(
       "div",
       { class: "tools" },
-      button(say("复制", "Copy"), () => void navigator.clipboard.writeText(asText(blocks))),
+      copyButton(say("复制", "Copy"), () => asText(blocks)),
       ...files,
     ),
     trouble,

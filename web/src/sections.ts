@@ -1,8 +1,8 @@
 // Sections: the tables, the rows of one, and the section that is chosen; several beside each other.
 import { change, go, state } from "./address";
-import { ask, run, type Answer } from "./client";
+import { ask, sentence, told, type Answer } from "./client";
 import { csvText } from "./csv";
-import { button, download, el, fault, field, latest, select } from "./dom";
+import { button, copyButton, download, el, fault, field, latest, select } from "./dom";
 import { Grid, type Column } from "./grid";
 import { say } from "./language";
 import { cellLines, figureLines, sectionView, type FigureLine, type SectionJson } from "./section_view";
@@ -25,10 +25,7 @@ const kFamilies: Record<string, string> = {
   channel: "槽形", "channel pair": "组合槽钢", round: "圆形与圆管", cross: "十字形", lattice: "格构柱", solid: "实心",
 };
 
-export async function tables(): Promise<TableJson[]> {
-  const answer = await run(["tables", "--json"]);
-  return answer.status === 0 ? (JSON.parse(answer.out) as TableJson[]) : [];
-}
+export const tables = () => told<TableJson[]>(["tables"]);
 
 const isNumeric = (type: string) => type !== "text" && type !== "char";
 
@@ -98,9 +95,10 @@ async function comparison(place: HTMLElement): Promise<void> {
 export async function sections(place: HTMLElement): Promise<void> {
   const list = await tables();
   const table = state()["table"] ?? list.find((each) => each.rows > 0)?.name ?? "";
-  const answer = await ask(["rows", table, "--json"]);
   const left = tree(list, table);
-  if (answer.status !== 0) return place.replaceChildren(left, fault(answer.err));
+  place.replaceChildren(left);
+  const answer = await ask(["rows", table, "--json"]);
+  if (answer.status !== 0) return place.append(fault(sentence(answer)));
   const { columns, rows } = JSON.parse(answer.out) as RowsJson;
   const all = rows.map((row) => row.cells);
   const key = Math.max(0, columns.findIndex((column) => column.key));
@@ -119,6 +117,8 @@ export async function sections(place: HTMLElement): Promise<void> {
       detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }), field(say("转角", "Turned by"), turns));
     },
   );
+  const first = state()["no"] ?? all[0]?.[key];
+  const detailed = first ? showDetail(first) : null;  // its command runs while the rows are drawn
   const isMarked = (row: string[]) => compared().includes(`${table}|${row[key]}`);
   const grid = new Grid({
     label: table,
@@ -147,16 +147,16 @@ export async function sections(place: HTMLElement): Promise<void> {
   const tools = el("div", { class: "tools" },
     field(say("在所有列中查找", "Search all columns"), search),
     rangeFilter(columns.filter((column) => isNumeric(column.type)).map((column) => column.sign), filter),
-    count,
-    button(say("复制", "Copy"), () => void navigator.clipboard.writeText([columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n"))),
+    el("span", { class: "tools" },
+    copyButton(say("复制", "Copy"), () => [columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n")),
     button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...seen]))),
-    button("XLSX", () => download(`${table}.xlsx`, workbook(table, [...heads(), ...seen], numeric, 2))));
+    button("XLSX", () => download(`${table}.xlsx`, workbook({ name: table, rows: [...heads(), ...seen], numeric, heads: 2 })))),
+    count);
   place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
   filter();
   grid.reveal();
   void comparison(beside);
-  const first = state()["no"] ?? all[0]?.[key];
-  if (first) await showDetail(first);
+  await detailed;
 }
 
 // A range that a column's numbers must lie in, kept in the state.

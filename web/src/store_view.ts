@@ -1,11 +1,11 @@
 // The own store, kept in this browser: its tables, imports and exports.
 import { go } from "./address";
-import { ask, forgetOwnStore, run, sentence, type Answer, type Files } from "./client";
+import { ask, forgetOwnStore, sentence, told, type Answer, type Files } from "./client";
 import { csvText } from "./csv";
-import { bytesOf, button, download, dropPlace, el, field, select } from "./dom";
+import { bytesOf, button, download, dropPlace, el, fault, field, select } from "./dom";
 import { say } from "./language";
 import { tables } from "./sections";
-import { sheetsOf, workbook } from "./workbook";
+import { sheetsOf, workbook, type Sheet } from "./workbook";
 
 // A workbook's sheets as CSV files, each named for its table; a line of Chinese titles above the
 // signs, as exports have it, is left out.
@@ -35,7 +35,10 @@ async function imported(file: File, table: string, overwrite: boolean): Promise<
 }
 
 export async function storeView(place: HTMLElement): Promise<void> {
-  let list = await tables();
+  // Where the store is not read, it is said so, and what mends it stays at hand.
+  let trouble = "";
+  const read = () => tables().catch((error: Error) => ((trouble = error.message), []));
+  let list = await read();
   const note = el("div", { role: "status", class: "log" });
   const tell = (answer: Answer, file = "") => {
     const good = answer.status === 0;
@@ -55,7 +58,7 @@ export async function storeView(place: HTMLElement): Promise<void> {
     note.replaceChildren();
     const name = `store.${form}`;
     if (form === "xlsx") {
-      for (const table of which.value ? [which.value] : filled()) await exportWorkbook(table, tell);
+      tell(await (which.value ? exportWorkbook(`${which.value}.xlsx`, [which.value]) : exportWorkbook(name, filled())));
       return;
     }
     const answer = await ask(["store", "export", ...(which.value ? [which.value] : []), "--to", name]);
@@ -65,13 +68,14 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const forms = ["KDB", "csv", "xlsx"].map((form) => button(`.${form}`, () => void exported(form)()));
   const held = el("div");
   const listTables = async () => {
-    list = await tables();
+    trouble = "";
+    list = await read();
     const asked = select(choices(), filled().includes(which.value) ? which.value : "", () => {});
     asked.id = which.id;
     which.replaceWith(asked);
     which = asked;
     const now = list.filter((table) => table.source !== "rolled");
-    held.replaceChildren(el("h2", {}, say("自定义截面的表", "Tables of own sections")), el("ul", { class: "tables" }, ...now.map((table) =>
+    held.replaceChildren(el("h2", {}, say("自定义截面的表", "Tables of own sections")), fault(trouble), el("ul", { class: "tables" }, ...now.map((table) =>
       el("li", {}, button(`${table.name} (${table.rows})`, () => go({ view: "sections", table: table.name }), { class: "quiet" })))));
   };
   const forget = button(say("删除自己的库", "Delete the own store"), () => {
@@ -92,12 +96,21 @@ export async function storeView(place: HTMLElement): Promise<void> {
   await listTables();
 }
 
-async function exportWorkbook(table: string, told: (answer: Answer) => void): Promise<void> {
-  const answer = await run(["rows", table, "--json"]);
-  if (answer.status !== 0) return told(answer);
-  const { columns, rows } = JSON.parse(answer.out) as { columns: { sign: string; name: string; type: string }[]; rows: { cells: string[] }[] };
+async function sheetOf(table: string): Promise<Sheet> {
+  const { columns, rows } = await told<{ columns: { sign: string; name: string; type: string }[]; rows: { cells: string[] }[] }>(["rows", table]);
   const heads = [columns.map((column) => column.name), columns.map((column) => column.sign)];
   const numeric = columns.map((column) => column.type !== "text" && column.type !== "char");
-  download(`${table}.xlsx`, workbook(table, [...heads, ...rows.map((row) => row.cells)], numeric, 2));
-  told({ ...answer, out: `${table}.xlsx` });
+  return { name: table, rows: [...heads, ...rows.map((row) => row.cells)], numeric, heads: 2 };
+}
+
+// Whole tables as sheets of one workbook.
+async function exportWorkbook(name: string, tables: string[]): Promise<Answer> {
+  try {
+    const sheets: Sheet[] = [];
+    for (const table of tables) sheets.push(await sheetOf(table));
+    download(name, workbook(...sheets));
+    return { status: 0, out: name, err: "", files: {} };
+  } catch (error) {
+    return { status: 3, out: "", err: (error as Error).message, files: {} };
+  }
 }

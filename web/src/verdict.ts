@@ -1,7 +1,7 @@
 // The answer of a check for the eye: the verdict, a bar for each part, the trace by clause.
 import { el } from "./dom";
 import { shown } from "./figures";
-import { say } from "./language";
+import { language, say } from "./language";
 
 interface Check {
   name: string;
@@ -25,6 +25,14 @@ export interface CheckJson {
   combinations?: CheckJson[];
 }
 
+// The checks of a member, as the reports call them in Chinese.
+const kChecks: Record<string, string> = {
+  strength: "强度", net: "净截面", shear: "抗剪", combined: "折算应力", "stability-x": "绕 x 轴稳定", "stability-y": "绕 y 轴稳定",
+  "stability-z": "扭转稳定", lateral: "整体稳定", slenderness: "长细比", flange: "翼缘宽厚比", web: "腹板高厚比", panel: "腹板区格",
+  wall: "壁板宽厚比", limbs: "分肢", lacing: "缀材",
+};
+export const checkName = (name: string): string => (language() === "zh" ? (kChecks[name] ?? name) : name);
+
 const percent = (ratio: number | null | undefined) => (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(4)))} %`);
 
 function bar(name: string, ratio: number | null | undefined, pass: boolean, note = ""): HTMLElement {
@@ -44,15 +52,18 @@ function results(values: Record<string, unknown> = {}): HTMLElement {
   return el("table", { class: "figures" }, el("caption", {}, say("结果（mm、kN、kN·mm、N/mm²）", "Results (mm, kN, kN·mm, N/mm²)")), body);
 }
 
+const wordOf = (answer: CheckJson) => (answer.pass ? say("满足", "passes") : say("不满足", "fails"));
+const worstOf = (answer: CheckJson) => answer.ratio ?? answer.utilisation;
+export const summary = (answer: CheckJson) => `${answer.code}: ${wordOf(answer)} ${percent(worstOf(answer))}`;
+
 function one(answer: CheckJson): HTMLElement {
-  const word = answer.pass ? say("满足", "passes") : say("不满足", "fails");
-  const worst = answer.ratio ?? answer.utilisation;
+  const [word, worst] = [wordOf(answer), worstOf(answer)];
   const steps = (answer.checks ?? []).filter((check) => check.steps?.length).map((check) =>
-    el("details", { class: "steps" }, el("summary", {}, `${check.name} · ${check.clause}`), el("ol", {}, ...check.steps!.map((step) => el("li", {}, step)))));
+    el("details", { class: "steps" }, el("summary", {}, `${checkName(check.name)} · ${check.clause}`), el("ol", {}, ...check.steps!.map((step) => el("li", {}, step)))));
   return el("section", { class: "verdict" },
-    el("p", { class: answer.pass ? "box pass" : "box fail" }, el("b", {}, word), ` · ${percent(worst)} · ${answer.governs}`,
+    el("p", { class: answer.pass ? "box pass" : "box fail" }, el("b", {}, word), ` · ${percent(worst)} · ${checkName(answer.governs)}`,
       el("small", {}, ` GB 50017-${answer.code}`)),
-    ...(answer.checks ?? []).map((check) => bar(check.name, check.ratio, check.pass, check.clause)),
+    ...(answer.checks ?? []).map((check) => bar(checkName(check.name), check.ratio, check.pass, check.clause)),
     !answer.checks && bar(answer.governs, worst, answer.pass),
     ...(answer.warnings ?? []).map((warning) => el("p", { class: "warn" }, typeof warning === "string" ? warning : `${warning.key}: ${warning.text}`)),
     answer.given && el("details", { class: "steps" }, el("summary", {}, say("已知", "Given")), el("ol", {}, ...answer.given.map((each) => el("li", {}, each)))),

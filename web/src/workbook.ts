@@ -1,4 +1,4 @@
-// Workbooks (.xlsx) of one sheet: a zip archive of a few XML files, stored or deflated.
+// Workbooks (.xlsx): a zip archive of a few XML files, stored or deflated.
 const kRelations = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 const kSheet = "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
 const kPackage = "http://schemas.openxmlformats.org/package/2006";
@@ -72,18 +72,42 @@ function cellXml(text: string, numeric: boolean): string {
 }
 
 // `numeric` tells of each column whether its cells are numbers; the first `heads` rows are headings.
-export function workbook(name: string, rows: string[][], numeric: boolean[], heads: number): Uint8Array {
-  const sheet = name.replace(/[[\]:*?/\\]/g, "_").slice(0, 31) || "1";
+export interface Sheet {
+  name: string;
+  rows: string[][];
+  numeric: boolean[];
+  heads: number;
+}
+
+function sheetXml({ rows, numeric, heads }: Sheet): string {
   const lines = rows.map(
     (row, i) => `<row>${row.map((cell, col) => cellXml(cell, i >= heads && numeric[col] === true)).join("")}</row>`,
   );
+  return `${kHead}<worksheet xmlns="${kSheet}"><sheetViews><sheetView workbookViewId="0"><pane ySplit="${heads}" topLeftCell="A${heads + 1}" activePane="bottomLeft" state="frozen"/></sheetView></sheetViews><sheetData>${lines.join("")}</sheetData></worksheet>`;
+}
+
+// Excel takes no brackets and the like in a sheet's name, and none twice; brackets go out as wide ones.
+function sheetNames(sheets: Sheet[]): string[] {
+  const taken = new Set<string>();
+  return sheets.map(({ name }) => {
+    const bare = name.replaceAll("[", "［").replaceAll("]", "］").replace(/[:*?/\\]/g, "_").slice(0, 28) || "1";
+    let free = bare;
+    for (let i = 2; taken.has(free); ++i) free = `${bare} ${i}`;
+    taken.add(free);
+    return free;
+  });
+}
+
+export function workbook(...sheets: Sheet[]): Uint8Array {
   const type = "application/vnd.openxmlformats-officedocument.spreadsheetml";
+  const names = sheetNames(sheets);
+  const each = (text: (i: number) => string) => sheets.map((_, i) => text(i + 1)).join("");
   return zip([
-    ["[Content_Types].xml", `${kHead}<Types xmlns="${kPackage}/content-types"><Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/><Override PartName="/xl/workbook.xml" ContentType="${type}.sheet.main+xml"/><Override PartName="/xl/worksheets/sheet1.xml" ContentType="${type}.worksheet+xml"/></Types>`],
+    ["[Content_Types].xml", `${kHead}<Types xmlns="${kPackage}/content-types"><Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/><Override PartName="/xl/workbook.xml" ContentType="${type}.sheet.main+xml"/>${each((i) => `<Override PartName="/xl/worksheets/sheet${i}.xml" ContentType="${type}.worksheet+xml"/>`)}</Types>`],
     ["_rels/.rels", `${kHead}<Relationships xmlns="${kPackage}/relationships"><Relationship Id="r1" Type="${kRelations}/officeDocument" Target="xl/workbook.xml"/></Relationships>`],
-    ["xl/workbook.xml", `${kHead}<workbook xmlns="${kSheet}" xmlns:r="${kRelations}"><sheets><sheet name="${escaped(sheet)}" sheetId="1" r:id="r1"/></sheets></workbook>`],
-    ["xl/_rels/workbook.xml.rels", `${kHead}<Relationships xmlns="${kPackage}/relationships"><Relationship Id="r1" Type="${kRelations}/worksheet" Target="worksheets/sheet1.xml"/></Relationships>`],
-    ["xl/worksheets/sheet1.xml", `${kHead}<worksheet xmlns="${kSheet}"><sheetViews><sheetView workbookViewId="0"><pane ySplit="${heads}" topLeftCell="A${heads + 1}" activePane="bottomLeft" state="frozen"/></sheetView></sheetViews><sheetData>${lines.join("")}</sheetData></worksheet>`],
+    ["xl/workbook.xml", `${kHead}<workbook xmlns="${kSheet}" xmlns:r="${kRelations}"><sheets>${each((i) => `<sheet name="${escaped(names[i - 1]!)}" sheetId="${i}" r:id="r${i}"/>`)}</sheets></workbook>`],
+    ["xl/_rels/workbook.xml.rels", `${kHead}<Relationships xmlns="${kPackage}/relationships">${each((i) => `<Relationship Id="r${i}" Type="${kRelations}/worksheet" Target="worksheets/sheet${i}.xml"/>`)}</Relationships>`],
+    ...sheets.map((sheet, i): [string, string] => [`xl/worksheets/sheet${i + 1}.xml`, sheetXml(sheet)]),
   ]);
 }
 
@@ -143,6 +167,6 @@ export async function sheetsOf(bytes: Uint8Array): Promise<[name: string, rows: 
       }
       return Array.from(cells, (cell) => cell ?? "");
     });
-    return [sheet.getAttribute("name") ?? "", rows];
+    return [(sheet.getAttribute("name") ?? "").replaceAll("［", "[").replaceAll("］", "]"), rows];
   });
 }

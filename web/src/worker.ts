@@ -2,10 +2,11 @@
 import { Core, type Answer, type Files } from "./core";
 import { OwnStore, StorageError, type Trouble } from "./own_store";
 
+// The core and the catalogue, each packed (gzip) and in base64.
 export interface Start {
-  module: WebAssembly.Module;
-  store: Uint8Array;
-  exact: Uint8Array;
+  wasm: string;
+  store: string;
+  exact: string;
 }
 export type Order =
   | { id: number; kind: "run"; argv: string[]; files: Files; language: string }
@@ -13,37 +14,61 @@ export type Order =
 export type Reply = { id: number; answer: Answer };
 
 const own = new OwnStore();
-let core: Core;
+let core: Promise<Core>;
 let line: Promise<unknown> = Promise.resolve();
 
-const kTroubles: Record<Trouble, [string, string]> = {
-  full: ["没有写入，磁盘已满", "not written, the disk is full"],
-  denied: ["没有写入，浏览器不允许本页保存数据", "not written, the browser does not let this page keep data"],
-  failed: ["没有写入，浏览器未能写入", "not written, the browser could not write it"],
-  unread: ["浏览器未能读出", "the browser could not read it"],
+const kTroubles: Record<Trouble | "old", [string, string]> = {
+  full: ["您自己的库: 没有写入，磁盘已满", "your own store: not written, the disk is full"],
+  denied: ["您自己的库: 没有写入，浏览器不允许本页保存数据", "your own store: not written, the browser does not let this page keep data"],
+  failed: ["您自己的库: 没有写入，浏览器未能写入", "your own store: not written, the browser could not write it"],
+  unread: ["您自己的库: 浏览器未能读出", "your own store: the browser could not read it"],
+  old: ["此浏览器不能运行本页；需要 Chrome 或 Edge 95、Firefox 113、Safari 16.4 或更新的版本", "this browser cannot run the page; it takes Chrome or Edge 95, Firefox 113, Safari 16.4 or newer"],
 };
+
+class BrowserTooOld extends Error {}
+
+// Decodes and unpacks as it is read.
+function unpacked(base64: string): Response {
+  const text = atob(base64);
+  const packed = new Uint8Array(text.length);
+  for (let i = 0; i < text.length; ++i) packed[i] = text.charCodeAt(i);
+  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream("gzip"));
+  return new Response(stream, { headers: { "content-type": "application/wasm" } });
+}
+
+async function startCore(inside: Start): Promise<Core> {
+  const bytes = async (base64: string) => new Uint8Array(await unpacked(base64).arrayBuffer());
+  try {
+    const module = WebAssembly.compileStreaming(unpacked(inside.wasm));
+    return new Core(...(await Promise.all([module, bytes(inside.store), bytes(inside.exact)])));
+  } catch {
+    throw new BrowserTooOld();
+  }
+}
 
 const kNothing: Answer = { status: 3, out: "", err: "", files: {} };
 
-// What a line says, and leaves, that the browser's storage has stopped.
+// What a line says, and leaves, that the browser has stopped.
 function stopped(fault: unknown, argv: string[], language: string): Answer {
   const chosen = argv.indexOf("--lang");
   const chinese = (chosen >= 0 ? argv[chosen + 1] : language) === "zh";
-  const [zh, en] = kTroubles[fault instanceof StorageError ? fault.trouble : "failed"];
-  const err = chinese ? `orv3cal: 您自己的库: ${zh}\n` : `orv3cal: your own store: ${en}\n`;
-  return { ...kNothing, err };
+  const trouble = fault instanceof StorageError ? fault.trouble : fault instanceof BrowserTooOld ? "old" : "failed";
+  const [zh, en] = kTroubles[trouble];
+  return { ...kNothing, err: `orv3cal: ${chinese ? zh : en}\n` };
 }
 
 function same(a: Uint8Array | null, b: Uint8Array | null): boolean {
   if (!a || !b) return a === b;
-  return a.length === b.length && a.every((byte, i) => byte === b[i]);
+  if (a.length !== b.length) return false;
+  for (let i = 0; i < a.length; ++i) if (a[i] !== b[i]) return false;
+  return true;
 }
 
 // A run that another tab's save has overtaken is done again on that save.
 async function run(argv: string[], files: Files): Promise<Answer> {
   for (;;) {
     const before = await own.load();
-    const { own: after, ...answer } = await core.run(argv, files, before.bytes);
+    const { own: after, ...answer } = await (await core).run(argv, files, before.bytes);
     if (same(before.bytes, after) || (await own.save(after, before.version))) return answer;
   }
 }
@@ -58,14 +83,14 @@ async function answerTo(order: Order): Promise<Answer> {
   try {
     return order.kind === "run" ? await run(order.argv, order.files) : await forget();
   } catch (fault) {
-    if (fault instanceof StorageError || fault instanceof DOMException) return stopped(fault, argv, language);
+    if (fault instanceof StorageError || fault instanceof DOMException || fault instanceof BrowserTooOld) return stopped(fault, argv, language);
     return { ...kNothing, err: `orv3cal: ${String(fault)}\n` };
   }
 }
 
 self.onmessage = ({ data }: MessageEvent<Start | Order>) => {
-  if ("module" in data) {
-    core = new Core(data.module, data.store, data.exact);
+  if ("wasm" in data) {
+    core = startCore(data);
     return;
   }
   line = line.then(async () => self.postMessage({ id: data.id, answer: await answerTo(data) } satisfies Reply));
