@@ -52,6 +52,9 @@ const CReported kReported[] = {
      With(Sizes("box", {300, 400, 12}, "Q345", 6000, 6000), -900, 60000, 60000, 900)},
     {"channel", With(Row("热轧普通槽钢", "[20a", "Q235", 3000, 3000), 0, 20000, 0, 20, "midspan")},
     {"I", With(Row("热轧普通工字钢", "I40a", "Q235", 6000, 3000), 0, 90000, 0, 60, "uniform")},
+    {"I, compressed", With(Row("热轧普通工字钢", "I40a", "Q235", 6000, 3000), -300, 0)},
+    {"box, compressed", With(Sizes("box", {300, 400, 12}, "Q345", 6000, 6000), -900, 0)},
+    {"tube, compressed", With(Sizes("tube", {150, 140}, "Q235", 5000, 5000), -300, 0)},
     {"angle", With(Row("热轧等边角钢", "L100X10", "Q235", 2000, 2000), -100, 0)},
     {"one leg", [] {
        CMemberCase c = With(Row("热轧等边角钢", "L100X6", "Q345", 2000, 2000), -60, 0);
