@@ -4,6 +4,7 @@
 #include <cmath>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "commands.h"
@@ -18,6 +19,7 @@
 #include "outlines/exact_picture.h"
 #include "outlines/loops.h"
 #include "outlines/section_solver.h"
+#include "outlines/touching_parts.h"
 #include "output.h"
 #include "output_options.h"
 #include "streams.h"
@@ -68,6 +70,7 @@ CSectionForces ForcesOf(const std::vector<std::string>& given) {
 struct CAnswer {
   std::vector<CPath> loops;
   CPoint corner;
+  bool touching = false;  // parts that touch and count as not joined
   CExactProperties exact;
   CSectionForces forces;
   std::vector<CBoundaryStress> stress;
@@ -91,9 +94,13 @@ CAnswer Solve(const COptions& options) {
                "for stresses would be --json"));
   }
   if (!options.stress.empty()) answer.forces = ForcesOf(options.stress);
-  answer.loops = ReadOutline(options.file, options.layer, answer.corner);
-  const CSectionSolver solver(answer.loops);
-  answer.exact = solver.Properties();
+  COutlineInput input = ReadOutline(options.file, options.layer);
+  answer.loops = std::move(input.loops);
+  answer.corner = input.corner;
+  answer.touching = !input.cleared.empty();
+  const CSectionSolver solver(answer.touching ? input.cleared : answer.loops);
+  answer.exact =
+      answer.touching ? FiguresOfParts(answer.loops, solver.Properties()) : solver.Properties();
   if (std::isnan(answer.exact.It)) {
     Refuse(
         options.file + ": " +
@@ -248,6 +255,14 @@ void PrintOutline(const CAnswer& answer, const COptions& options) {
   if (!options.stress.empty()) PrintStresses(answer);
 }
 
+void WarnOfTouching(const COptions& options) {
+  WriteError("orv3cal: " + Visible(options.file) + ": " +
+             Say("各部分相触，按互不相连计算；如已焊成一体，请将其外形画成一圈",
+                 "its parts touch and count as not joined; right for parts welded into one would "
+                 "be one loop around them") +
+             "\n");
+}
+
 void RunOutline(const COptions& options) {
   const CAnswer answer = Solve(options);
   if (!options.svg.empty()) {
@@ -255,6 +270,7 @@ void RunOutline(const COptions& options) {
                                 MessageLanguage()};
     WriteFile(options.svg, DrawingSvg(ExactPictureDrawing(picture), FromUtf8(options.file)));
   }
+  if (answer.touching) WarnOfTouching(options);
   WarnOfStress(options, answer);
   if (options.json || options.csv) WarnInaccurate(options.file, answer.exact);
   if (options.json) return PrintOutlineJson(answer, !options.stress.empty());

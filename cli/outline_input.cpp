@@ -12,6 +12,7 @@
 #include "outlines/dxf_outline.h"
 #include "outlines/loop_nesting.h"
 #include "outlines/outline_check.h"
+#include "outlines/touching_parts.h"
 #include "output.h"
 
 namespace orv3::cli {
@@ -80,7 +81,8 @@ class COutlineJson : public nlohmann::json_sax<CJson> {
                 {Excerpt(key)}));
     }
     if (std::exchange(*seen, true)) {
-      Fault(Say("\"{1}\" 出现两次", "\"{1}\" stands twice; right would be once", {key}));
+      Fault(Say("\"{1}\" 出现两次；只能出现一次", "\"{1}\" stands twice; right would be once",
+                {key}));
     }
     return true;
   }
@@ -191,7 +193,8 @@ bool IsDxf(const std::string& path, std::string_view bytes) {
 std::vector<CPath> LoopsOf(const std::string& path, const std::string& layer) {
   const std::string bytes = ReadInput(path, kLongestFile);
   if (bytes.size() > kLongestFile) {
-    Refuse(path, Say("大于 64 MB", "is larger than 64 MB; right would be an outline alone"));
+    Refuse(path, Say("大于 64 MB；请只给出轮廓",
+                     "is larger than 64 MB; right would be an outline alone"));
   }
   if (!IsDxf(path, bytes)) {
     if (!layer.empty()) {
@@ -208,16 +211,24 @@ std::vector<CPath> LoopsOf(const std::string& path, const std::string& layer) {
 
 }  // namespace
 
-std::vector<CPath> ReadOutline(const std::string& path, const std::string& layer, CPoint& corner) {
+COutlineInput ReadOutline(const std::string& path, const std::string& layer) {
   std::vector<CPath> loops = LoopsOf(path, layer);
-  if (const auto fault = CheckLoops(loops)) Refuse(path, Say(*fault));
-  const std::vector<CLoopPlace> places = NestLoops(loops);
+  std::optional<std::vector<CPath>> cleared;
+  if (const auto fault = CheckLoops(loops)) {
+    cleared = PartsCleared(loops);
+    if (!cleared) Refuse(path, Say(*fault));
+  }
+  const std::vector<CLoopPlace> places = NestLoops(cleared ? *cleared : loops);
   if (places.empty()) Refuse(path, Say(TooCloseFault()));
   const CBox box = PathBounds(loops);
-  corner = {box.left, box.bottom};
-  loops = Sensed(std::move(loops), places);
-  for (CPath& loop : loops) loop = Moved(std::move(loop), -corner.x, -corner.y);
-  return loops;
+  const auto placed = [&](std::vector<CPath> given) {
+    given = Sensed(std::move(given), places);
+    for (CPath& loop : given) loop = Moved(std::move(loop), -box.left, -box.bottom);
+    return given;
+  };
+  COutlineInput input{placed(std::move(loops)), {box.left, box.bottom}, {}};
+  if (cleared) input.cleared = placed(std::move(*cleared));
+  return input;
 }
 
 }  // namespace orv3::cli

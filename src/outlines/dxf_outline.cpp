@@ -142,7 +142,7 @@ class CDxfReader {
       ReadEntities();
     }
     if (!found) {
-      Fail("不是 DXF 文件，或缺少 ENTITIES 段",
+      Fail("不是 DXF 文件，或缺少 ENTITIES 段；请用 ASCII DXF",
            "is no DXF file, or has no section ENTITIES; right would be an ASCII DXF");
     }
     for (auto* paths : {&m_arrClosed, &m_arrOpen}) {
@@ -164,7 +164,9 @@ class CDxfReader {
       return;
     }
     const std::string value = Excerpt(std::string(group.m_strValue));
-    FailAt(group.m_nLine, "$INSUNITS " + value + " 不支持；请用毫米(4)",
+    FailAt(group.m_nLine,
+           "$INSUNITS " + value +
+               " 不支持；请用 4（mm），或 0、1（英寸）、2（英尺）、5（cm）、6（m）、14（dm）",
            "$INSUNITS " + value +
                " is not taken; right would be 4 (mm), or 0, 1 (inch), 2 (foot), 5 (cm), 6 (m), "
                "14 (dm)");
@@ -233,7 +235,7 @@ class CDxfReader {
         Take(entity);
       }
     }
-    Fail("文件中断，缺少 ENTITIES 段的结尾",
+    Fail("文件中断，缺少 ENTITIES 段的结尾；请给出完整文件",
          "breaks off in the section ENTITIES; right would be the whole file");
   }
 
@@ -272,8 +274,9 @@ class CDxfReader {
     return z < 0;
   }
   [[noreturn]] static void OutOfPlane(const CEntity& entity) {
-    FailAt(entity.m_nLine, entity.m_strKind + " 不在 XY 平面内",
-           entity.m_strKind + " does not lie in the plane of x and y");
+    FailAt(
+        entity.m_nLine, entity.m_strKind + " 不在 XY 平面内；请画在该平面内",
+        entity.m_strKind + " does not lie in the plane of x and y; right would be one drawn in it");
   }
 
   void Keep(CPath path, bool mirrored) {
@@ -286,7 +289,8 @@ class CDxfReader {
       for (CVertex& v : path.m_arrVertex) v = {-v.x, v.y, -v.bulge};
     }
     if (!path.m_bClosed && path.m_arrVertex.size() < 2) {
-      Fail("有只有一个点的多段线", "has a polyline of one point; right would be a closed one");
+      Fail("有只有一个点的多段线；请画成闭合线",
+           "has a polyline of one point; right would be a closed one");
     }
     (path.m_bClosed ? m_arrClosed : m_arrOpen).push_back(std::move(path));
   }

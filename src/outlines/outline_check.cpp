@@ -25,14 +25,15 @@ std::string Number(int position) { return std::to_string(position + 1); }
 CFault CheckPoint(const CVertex& v, const std::string& loop, const std::string& point) {
   if (!std::isfinite(v.x) || !std::isfinite(v.y) || !std::isfinite(v.bulge)) {
     return COutlineFault{
-        "第 " + loop + " 圈第 " + point + " 点不是有限数",
+        "第 " + loop + " 圈第 " + point + " 点不是有限数；请给出数值",
         "loop " + loop + ", point " + point + ": not finite; right would be numbers"};
   }
   if (std::max(std::fabs(v.x), std::fabs(v.y)) > kFarthestOutlinePoint) {
-    return COutlineFault{"第 " + loop + " 圈第 " + point + " 点离原点超过 1000000 mm",
-                         "loop " + loop + ", point " + point +
-                             ": beyond 1000000 mm from the origin; right would be a section near "
-                             "it"};
+    return COutlineFault{
+        "第 " + loop + " 圈第 " + point + " 点离原点超过 1000000 mm；请把截面画在原点附近",
+        "loop " + loop + ", point " + point +
+            ": beyond 1000000 mm from the origin; right would be a section near "
+            "it"};
   }
   // Beyond this an arc is its whole circle but for a gap that no computation could resolve.
   if (std::fabs(v.bulge) > 1e4) {
@@ -72,10 +73,10 @@ CFault CheckEdges(const CPath& loop, const std::string& number, double tolerance
   if (!loop.m_bClosed) {
     const CVertex& a = vertices.front();
     const CVertex& b = vertices.back();
-    return COutlineFault{
-        "第 " + number + " 圈未闭合：从 " + PointText({a.x, a.y}) + " 到 " + PointText({b.x, b.y}),
-        "loop " + number + " is open, from " + PointText({a.x, a.y}) + " to " +
-            PointText({b.x, b.y}) + "; right would be a closed one"};
+    return COutlineFault{"第 " + number + " 圈未闭合：从 " + PointText({a.x, a.y}) + " 到 " +
+                             PointText({b.x, b.y}) + "；请使其闭合",
+                         "loop " + number + " is open, from " + PointText({a.x, a.y}) + " to " +
+                             PointText({b.x, b.y}) + "; right would be a closed one"};
   }
   for (std::size_t i = 0; i < vertices.size() && vertices.size() > 1; ++i) {
     const CVertex& a = vertices[i];
@@ -93,7 +94,7 @@ CFault CheckEdges(const CPath& loop, const std::string& number, double tolerance
 CFault CheckSingleLoops(std::span<const CPath> loops, double tolerance, double size) {
   for (std::size_t i = 0; i < loops.size(); ++i) {
     const CFault empty = COutlineFault{
-        "第 " + Number(i) + " 圈不包围任何面积",
+        "第 " + Number(i) + " 圈不包围任何面积；请给出三点或圆弧",
         "loop " + Number(i) + " encloses nothing; right would be three points, or arcs"};
     if (loops[i].m_arrVertex.empty()) return empty;
     if (auto fault = CheckEdges(loops[i], Number(i), tolerance)) return fault;
@@ -108,12 +109,14 @@ CFault CheckSingleLoops(std::span<const CPath> loops, double tolerance, double s
 
 COutlineFault Meeting(int a, int b, CPoint at) {
   if (a == b) {
-    return {"第 " + Number(a) + " 圈在 " + PointText(at) + " 处与自身相交或相触",
+    return {"第 " + Number(a) + " 圈在 " + PointText(at) +
+                " 处与自身相交或相触；各边只应首尾相接，孔请另画一圈",
             "loop " + Number(a) + " crosses or touches itself at " + PointText(at) +
                 "; right would be edges that meet at their ends only, and holes as loops of their "
                 "own"};
   }
-  return {"第 " + Number(a) + " 圈与第 " + Number(b) + " 圈在 " + PointText(at) + " 处相交或相触",
+  return {"第 " + Number(a) + " 圈与第 " + Number(b) + " 圈在 " + PointText(at) +
+              " 处相交或相触；相连的部分请合画一圈，不相连的请分开",
           "loops " + Number(a) + " and " + Number(b) + " cross or touch at " + PointText(at) +
               "; right would be one loop around what is joined, or loops apart"};
 }
@@ -171,11 +174,11 @@ std::optional<COutlineFault> CheckOutline(std::span<const CPath> loops) {
     if (hole == places[i].IsHole()) continue;
     if (hole) {
       return COutlineFault{
-          "第 " + Number(i) + " 圈是孔，却在所有部分之外",
+          "第 " + Number(i) + " 圈是孔，却在所有部分之外；孔应在某一部分之内",
           "loop " + Number(i) + " is a hole outside of every part; right would be a hole within"};
     }
     return COutlineFault{
-        "第 " + Number(i) + " 圈是实心部分，却在另一部分之内",
+        "第 " + Number(i) + " 圈是实心部分，却在另一部分之内；各部分应并列",
         "loop " + Number(i) + " is a part inside another one; right would be parts side by side"};
   }
   return std::nullopt;

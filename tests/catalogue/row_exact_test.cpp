@@ -15,11 +15,14 @@
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "catalogue/quadratic_section.h"
+#include "drawing/dxf.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
+#include "outlines/dxf_outline.h"
 #include "outlines/edge.h"
 #include "outlines/exact_keys.h"
 #include "outlines/outline_check.h"
+#include "outlines/touching_parts.h"
 #include "platform/temp_folder.h"
 #include "platform/whole_file.h"
 #include "sections/load_data_table.h"
@@ -158,6 +161,34 @@ TEST(RowExact, AddsUpWhatIsNotJoined) {
   EXPECT_NEAR(two.Wpy, 2 * one.A * one.xo, 1e-9 * two.Wpy);
   for (const auto none : {&CExactProperties::Iw, &CExactProperties::xs, &CExactProperties::Asy})
     EXPECT_TRUE(std::isnan(two.*none));
+}
+
+// Parts that touch are read back from a drawing with the row's own figures.
+TEST(RowExact, IsThatOfTheDrawingOfTouchingParts) {
+  SetProgramPath(kFolder);
+  for (const wchar_t* table :
+       {L"热轧等边角钢组合", L"热轧不等边角钢长边组合", L"热轧普通槽钢[]组合"}) {
+    CStringArray numbers;
+    CLoadDataTable::GetSysTemItemNo(table, numbers);
+    const CDataItem row =
+        WithPairSpacing(CLoadDataTable::GetSysTemJMItem(table, numbers[numbers.GetSize() / 2]), 0);
+    std::vector<CPath> loops;
+    ASSERT_FALSE(ReadDxfOutline(PathsDxf(RowOutline(row).m_arrLoop), "", loops));
+    EXPECT_TRUE(CheckLoops(loops)) << NameOf(row);
+    const auto cleared = PartsCleared(loops);
+    ASSERT_TRUE(cleared) << NameOf(row);
+    const CExactProperties drawn = FiguresOfParts(loops, ExactProperties(std::span(*cleared)));
+    const CExactProperties own = ExactProperties(row);
+    for (const CExactKey& key : ExactKeys()) {
+      const double a = drawn.*key.m_pField, b = own.*key.m_pField;
+      EXPECT_EQ(std::isnan(a), std::isnan(b)) << NameOf(row) << key.m_szKey;
+      if (!std::isnan(b)) {
+        EXPECT_NEAR(a, b, 1e-9 * std::fabs(b) + 1e-6) << NameOf(row) << key.m_szKey;
+      }
+    }
+  }
+  // Plates that cross are not read as touching.
+  EXPECT_FALSE(PartsCleared(std::vector<CPath>{RectPath(0, 0, 20, 10), RectPath(5, -5, 10, 20)}));
 }
 
 // --- Printed figures -----------------------------------------------------------------------------

@@ -80,29 +80,45 @@ CExactRecord RecordAt(std::string_view bytes, std::size_t at) {
 
 // --- Keys ----------------------------------------------------------------------------------------
 
-// By the numbers of the characters, of which Windows has the same in half the bytes: three of them,
-// of 21 bits at most, at once.
-void AddText(CExactRecordKey& key, std::wstring_view text) {
-  const auto add = [&](std::uint64_t value) {
-    key = {Mixed(key[0], value), Mixed(key[1], ~value)};
-  };
-  add(text.size());
-  for (; !text.empty(); text.remove_prefix(std::min<std::size_t>(3, text.size()))) {
-    std::uint64_t three = 0;
-    for (const wchar_t ch : text.substr(0, 3)) three = three << 21 | static_cast<std::uint64_t>(ch);
-    add(three);
+// Made from the numbers of the characters, of which Windows has the same in half the bytes: three
+// of them, of 21 bits at most, at once.
+class CKeyMaker {
+ public:
+  // What an outline may be made from: any cell's sign, value and type.
+  void AddRow(const CDataItem& row) {
+    AddText(row.m_strTableName);
+    for (const CDataCell& cell : row.m_arrCell) {
+      AddText(cell.m_strSign);
+      AddText(cell.m_strValue);
+      Add(static_cast<std::uint64_t>(cell.m_nType));
+    }
   }
-}
 
-// What an outline may be made from: any cell's sign, value and type.
-void AddRow(CExactRecordKey& key, const CDataItem& row) {
-  AddText(key, row.m_strTableName);
-  for (const CDataCell& cell : row.m_arrCell) {
-    AddText(key, cell.m_strSign);
-    AddText(key, cell.m_strValue);
-    key[0] = Mixed(key[0], static_cast<std::uint64_t>(cell.m_nType));
+  CExactRecordKey Key() {
+    for (int i = 0; i < 3; ++i) Add(kEnd);
+    return m_key;
   }
-}
+
+ private:
+  static constexpr std::uint64_t kEnd = 0x110000;  // of a text; no character's number
+
+  void AddText(std::wstring_view text) {
+    for (const wchar_t ch : text) Add(static_cast<std::uint64_t>(ch));
+    Add(kEnd);
+  }
+
+  void Add(std::uint64_t number) {
+    m_open = m_open << 21 | number;
+    if (++m_nOpen < 3) return;
+    m_key = {Mixed(m_key[0], m_open), Mixed(m_key[1], ~m_open)};
+    m_open = 0;
+    m_nOpen = 0;
+  }
+
+  CExactRecordKey m_key{0x243F6A8885A308D3U, 0x13198A2E03707344U};
+  std::uint64_t m_open = 0;  // not mixed yet
+  int m_nOpen = 0;
+};
 
 // --- The files in use ----------------------------------------------------------------------------
 
@@ -163,14 +179,14 @@ const CExactRecord* Find(const std::vector<CExactRecord>& records, const CExactR
 std::optional<CExactRecordKey> ExactRecordKey(const CDataItem& row) {
   const CSectionTable* table = FindSectionTable(row.m_strTableName);
   if (table == nullptr) return std::nullopt;
-  CExactRecordKey key{0x243F6A8885A308D3U, 0x13198A2E03707344U};
-  AddRow(key, row);
-  if (table->m_pPair != nullptr) AddRow(key, PairPartRow(row));
+  CKeyMaker key;
+  key.AddRow(row);
+  if (table->m_pPair != nullptr) key.AddRow(PairPartRow(row));
   if (table->m_nLimbs > 0) {
     const CSteelItemGeGou column(row);
-    for (int limb = 1; limb <= table->m_nLimbs; ++limb) AddRow(key, column.GetPartItem(limb));
+    for (int limb = 1; limb <= table->m_nLimbs; ++limb) key.AddRow(column.GetPartItem(limb));
   }
-  return key;
+  return key.Key();
 }
 
 std::string ExactFileBytes(std::vector<CExactRecord> records) {

@@ -8,6 +8,7 @@
 #include "outlines/geometric_figures.h"
 #include "outlines/outline_check.h"
 #include "outlines/outline_moments.h"
+#include "outlines/touching_parts.h"
 #include "sections/section_kind.h"
 
 namespace orv3 {
@@ -39,12 +40,7 @@ CExactProperties Solved(const CLoops& loops) {
 }
 
 CExactProperties OfParts(const CLoops& loops) {
-  const CExactProperties apart = Solved(Apart(loops));
-  CExactProperties exact = GeometricFigures(loops);
-  exact.It = apart.It;
-  exact.m_error.It = apart.m_error.It;
-  exact.m_bAccurate = apart.m_bAccurate;
-  return exact;
+  return FiguresOfParts(loops, Solved(Apart(loops)));
 }
 
 CExactProperties Computed(const COutline& outline, bool parts) {
