@@ -1,6 +1,7 @@
 // The page as its user walks it.
 import assert from "node:assert/strict";
-import { readFileSync, statSync, writeFileSync, mkdtempSync, rmSync } from "node:fs";
+import { existsSync, readFileSync, statSync, writeFileSync, mkdtempSync, rmSync } from "node:fs";
+import { createServer } from "node:http";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
@@ -118,10 +119,16 @@ walk("connections: the case of the form, an error at its field, undo, both editi
   await says(page, ".verdict", "fails");
   await fill(page, "cols", "-2");
   await page.waitForSelector('input[aria-invalid="true"]');
-  await page.click("::-p-text(Undo)");
-  await page.click("::-p-text(Undo)");
-  await page.click("::-p-text(Undo)");
+  const back = async () => {
+    await page.keyboard.down("Control");
+    await page.keyboard.press("z");
+    await page.keyboard.up("Control");
+  };
+  await back();
   await page.waitForFunction(() => !document.querySelector('input[aria-invalid="true"]'));
+  await says(page, ".verdict", "fails");
+  await back();
+  await says(page, ".verdict", "passes");
   await page.select(".formside > .field:nth-of-type(2) select", "both");
   await page.waitForFunction(() => document.querySelectorAll(".verdict").length === 2);
   await page.click("::-p-text(Report)");
@@ -167,6 +174,15 @@ walk("the own store goes out and comes back, and a broken file changes nothing",
   await drop(page, file("broken.KDB", "no store at all"));
   await says(page, ".log .fault", "broken.KDB".slice(0, 6));
   assert.match((await run(page, ["rows", "矩形截面", "--json"])).out, /"P1"/);
+  const devtools = await page.createCDPSession();
+  await devtools.send("Browser.setDownloadBehavior", { behavior: "allow", downloadPath: folder, browserContextId: context.id });
+  await page.click('::-p-xpath(//button[. = ".xlsx"])');
+  await says(page, ".log", "store.xlsx");
+  for (let i = 0; i < 200 && !existsSync(join(folder, "store.xlsx")); ++i) await new Promise((done) => setTimeout(done, 50));
+  await run(page, ["store", "delete", "矩形截面", "P1"]);
+  await drop(page, join(folder, "store.xlsx"));
+  await says(page, ".log", "热轧普通槽钢][组合");
+  assert.match((await run(page, ["rows", "矩形截面", "--json"])).out, /"P1"/);
 });
 
 const add = (no) => ["store", "add", "矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"];
@@ -175,20 +191,46 @@ async function keptRows(page) {
   return JSON.parse(out).rows.map((row) => row.cells[0]).filter((no) => /^(P|T)\d+$/.test(no)).sort();
 }
 
-// A browser whose disk is full: the sentence is the answer, and what was kept stays.
+// The browser's room for a web server's page is used up: the sentence is the answer, and what was kept stays.
 test("storage that is full", async () => {
-  context = await browser.createBrowserContext();
-  const page = await openPage(context, "view=own&lang=en");
+  const server = createServer((_, reply) => reply.setHeader("content-type", "text/html").end(readFileSync(kPage))).listen(0);
+  const address = `http://127.0.0.1:${server.address().port}/`;
+  const open = (hash) => openPage(browser.defaultBrowserContext(), hash, [1280, 860], () => {}, address);
+  const page = await open("view=own&lang=en");
   assert.equal((await run(page, add("P1"))).status, 0);
-  for (const worker of page.workers())
-    await worker.evaluate(() => { IDBObjectStore.prototype.put = () => { throw new DOMException("", "QuotaExceededError"); }; });
+  const devtools = await page.createCDPSession();
+  await devtools.send("Storage.overrideQuotaForOrigin", { origin: new URL(address).origin, quotaSize: 1000 });
   const answer = await run(page, add("P2"));
   assert.deepEqual([answer.status, answer.out, answer.err], [3, "", "orv3cal: your own store: not written, the disk is full\n"]);
   await fill(page, "Name to keep it by", "W1");
   await page.click("::-p-text(Keep in own store)");
   await says(page, ".fault", "the disk is full");
+  const again = await open("view=store&lang=en");
   await page.close();
-  assert.deepEqual(await keptRows(await openPage(context, "view=store&lang=en")), ["P1"]);
+  assert.deepEqual(await keptRows(again), ["P1"]);
+  await again.close();
+  server.close();
+});
+
+// A kept store that is none: the command's sentence stands in the view, and the store can be replaced.
+test("a kept store that is damaged", async () => {
+  context = await browser.createBrowserContext();
+  const page = await openPage(context, "view=store&lang=en");
+  assert.equal((await run(page, add("P1"))).status, 0);
+  await page.evaluate(() => new Promise((done) => {
+    indexedDB.open("orv3cal").onsuccess = ({ target }) => {
+      const change = target.result.transaction("stores", "readwrite");
+      change.objectStore("stores").put({ version: 1, bytes: new Uint8Array([1, 2, 3]) }, "own");
+      change.objectStore("stores").put(1, "version");
+      change.oncomplete = done;
+    };
+  }));
+  const { err } = await run(page, ["tables"]);
+  assert.match(err, /KvbSystemJmDataBase.KDB/);
+  for (const view of ["sections", "choose", "store"]) {
+    await show(page, `view=${view}&lang=en`);
+    await says(page, ".fault", err.trim().replace("orv3cal: ", ""));
+  }
   await context.close();
 });
 
