@@ -50,6 +50,12 @@ class CLatticeReader {
                         {"请给出库中的型钢表和型号、间距和转角",
                          "give tables and numbers of the store, the spacings and the angles"}};
     }
+    const bool bTwo = m_limbs.m_arrLimb.size() == 2;
+    if (!IsPositive(m_limbs.m_dKy) || !(bTwo || IsPositive(m_limbs.m_dKx))) {
+      return CCaseFault{"section.lattice",
+                        {"的间距不大于 0", "has a spacing that is not above 0"},
+                        {"请给出大于 0 的间距 mm", "give spacings above 0 mm"}};
+    }
     const CLatticeProperties p = m_limbs.Properties();
     s.m_dA = p.m_dA;
     s.m_dRx = p.m_dixo;
