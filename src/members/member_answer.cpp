@@ -30,6 +30,9 @@ constexpr CKindText kKinds[] = {
     {"wall", {"壁板宽厚比", "wall"}},
     {"limbs", {"分肢", "limbs"}},
     {"lacing", {"缀材", "lacing"}},
+    {"limb-strength", {"分肢强度", "strength of the limbs"}},
+    {"lacing-leg", {"缀条肢宽厚比", "leg of a bar"}},
+    {"batten-stiffness", {"缀板线刚度", "stiffness of battens"}},
 };
 static_assert(std::size(kKinds) == kMemberCheckKinds);
 
@@ -131,10 +134,6 @@ constexpr CNoteText kNotes[] = {
      "net",
      {"受压：net 按没有螺栓的孔计", "compression: net is taken as holes without bolts"}},
     {CMemberNote::RolledEdges, "edges", {"翼缘按焰切边", "flange edges are taken as flame-cut"}},
-    {CMemberNote::BattenStiffness,
-     "lacing",
-     {"假定同一截面处缀板的线刚度之和不小于柱分肢线刚度的 6 倍",
-      "the battens of one place are taken to be six times as stiff as a limb"}},
     {CMemberNote::LimbMoment,
      "Mx",
      {"分肢按所分得的轴力作为轴心受压构件验算",

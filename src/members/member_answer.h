@@ -28,10 +28,13 @@ enum class CMemberCheckKind : std::uint8_t {
   Web,
   Panel,  // of a web between its stiffeners
   Wall,
-  Limbs,   // lattice columns: one limb between two nodes
-  Lacing,  // their lacing bars or battens
+  Limbs,         // lattice columns: one limb between two nodes
+  Lacing,        // their lacing bars or battens
+  LimbStrength,  // limbs bent between battens
+  LacingLeg,     // width of a lacing bar's leg
+  BattenStiffness,
 };
-inline constexpr std::size_t kMemberCheckKinds = 15;
+inline constexpr std::size_t kMemberCheckKinds = 18;
 
 ORV3CAL_API const char* MemberCheckName(CMemberCheckKind kind) noexcept;  // "stability-x"
 ORV3CAL_API CTextLiteral MemberCheckTitle(CMemberCheckKind kind) noexcept;
@@ -107,7 +110,6 @@ enum class CMemberNote : std::uint8_t {
   SwayWithLoad,
   HolesWithoutBolts,
   RolledEdges,
-  BattenStiffness,
   LimbMoment,
   PairWithoutGap,
   PackingPlates,

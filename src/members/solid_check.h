@@ -51,7 +51,6 @@ class CSolidCheck {
   void Reduce(const CWebStress& stress, CReducedPlates reduced);
   bool IsFlangeCompressed(CSide side) const;
   double FlangeRatio() const;  // of the outstands in compression, 0 without any
-  double BoxFlangeRatio() const;
   void Plates();
   void AxialPlates();
   void TWebOfBeam();

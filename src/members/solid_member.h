@@ -13,10 +13,11 @@ namespace orv3 {
 struct CMemberSteel {
   CCodeEdition m_nEdition = CCodeEdition::Gb2017;
   CSteelGrade m_nGrade = CSteelGrade::Q235;
-  double m_dF = 0, m_dFv = 0;  // N/mm2
-  double m_dFvX = 0;           // of the plates that carry Vx
-  double m_dFu = 0;            // 2003: none
-  double m_dFy = 0;            // of the thickness
+  double m_dF = 0, m_dFv = 0;          // N/mm2
+  double m_dFvX = 0;                   // of the plates that carry Vx
+  double m_dBondF = 0, m_dBondFv = 0;  // of the bars or battens of a lattice column
+  double m_dFu = 0;                    // 2003: none
+  double m_dFy = 0;                    // of the thickness
   CBucklingClass m_nClassX = CBucklingClass::B, m_nClassY = CBucklingClass::B;
 };
 

@@ -6,14 +6,11 @@
 
 #include "codes/plasticity.h"
 #include "codes/width_limits.h"
+#include "members/axial_plates.h"
 #include "members/solid_check.h"
 
 namespace orv3 {
 namespace {
-
-double Outstand(const CMemberFlange& flange) {
-  return flange.m_dThick > 0 ? flange.m_dOutstand / flange.m_dThick : 0;
-}
 
 CPlasticShape PlasticShapeOf(CMemberShape shape) {
   switch (shape) {
@@ -84,8 +81,8 @@ bool CSolidCheck::IsFlangeCompressed(CSide side) const {
 }
 
 double CSolidCheck::FlangeRatio() const {
-  return std::max(IsFlangeCompressed(CSide::Top) ? Outstand(s.m_top) : 0.0,
-                  IsFlangeCompressed(CSide::Bottom) ? Outstand(s.m_bottom) : 0.0);
+  return std::max(IsFlangeCompressed(CSide::Top) ? OutstandRatio(s.m_top) : 0.0,
+                  IsFlangeCompressed(CSide::Bottom) ? OutstandRatio(s.m_bottom) : 0.0);
 }
 
 // Before every formula that asks gamma or an effective section.
@@ -136,11 +133,11 @@ void CSolidCheck::ClassifyPlates() {
       const CClassElement web = m_dNc > 0         ? CClassElement::BoxWall
                                 : !q.m_y.IsZero() ? CClassElement::BoxFlange
                                                   : CClassElement::WebBending;
-      Classify(flange, BoxFlangeRatio(), 2);
+      Classify(flange, BoxFlangeRatio(s), 2);
       Classify(web, s.m_dH0 / s.m_dTw, 2);
       if (s.m_dH0 / s.m_dTw > Class4(web, 2) && !q.m_x.IsZero() && q.m_y.IsZero())
         Reduce(WebStress(m_dMx), {.m_bWeb = true});
-      if (BoxFlangeRatio() > Class4(flange, 2) && q.m_x.IsZero()) ReduceBoxFlange();
+      if (BoxFlangeRatio(s) > Class4(flange, 2) && q.m_x.IsZero()) ReduceBoxFlange();
       return;
     }
     case CMemberShape::Tube:
@@ -248,22 +245,19 @@ void CSolidCheck::TWebOfBeam() {
   Limit(CMemberCheckKind::Web, Clause("6.3.2", "4.3.2"), s.m_dH0 / s.m_dTw, limit, {"80·{εk}"});
 }
 
-double CSolidCheck::BoxFlangeRatio() const {
-  return s.m_dB0 / std::min(s.m_top.m_dThick, s.m_bottom.m_dThick);
-}
-
 // 7.3.1 and 7.3.2; 2003: 5.4.1 to 5.4.5.
 void CSolidCheck::AxialPlates() {
   // By the capacity of the member, which one leg joined lessens.
   const double share =
       Is2017() ? std::sqrt(m_oneLeg.Share() * m_dPhiLeast * s.m_dA * F() / m_dNc) : 1;
-  const auto hold = [&](CMemberCheckKind kind, CWidthElement element, double value,
-                        const char* clause2003) {
-    const double limit = *AxialWidthLimit(m.m_nEdition, element, m.m_nGrade, m_dLambdaMax);
-    a.Open(kind, Clause("7.3.1", clause2003));
+  const auto hold = [&](const CAxialPlate& plate) {
+    const double value = plate.m_dRatio;
+    const double limit = *AxialWidthLimit(m.m_nEdition, plate.m_nElement, m.m_nGrade, m_dLambdaMax);
+    a.Open(plate.m_nKind, Clause("7.3.1", plate.m_szClause2003));
     a.Step("b/t", nullptr, value);
     a.Step("λmax", nullptr, m_dLambdaMax);
-    a.Step("[b/t]", AxialWidthForm(m.m_nEdition, element, m_dLambdaMax, r.m_dEpsilonK), limit);
+    a.Step("[b/t]", AxialWidthForm(m.m_nEdition, plate.m_nElement, m_dLambdaMax, r.m_dEpsilonK),
+           limit);
     if (share <= 1) return a.Close("{b/t}/{[b/t]}", value / limit);
     a.Step("φ", nullptr, m_dPhiLeast);
     if (IsOneLeg()) a.Step("η", nullptr, m_oneLeg.m_dEta);
@@ -271,30 +265,13 @@ void CSolidCheck::AxialPlates() {
     a.Step("α", IsOneLeg() ? "√({ρe}·{η}·{φ}·{A}·{f}/{N})" : "√({φ}·{A}·{f}/{N})", share);
     a.Close("{b/t}/({α}·{[b/t]})", value / (share * limit));
   };
-  const double flange = std::max(Outstand(s.m_top), Outstand(s.m_bottom));
   const CWidthElement stem = s.m_bRolled ? CWidthElement::WebTRolled : CWidthElement::WebTWelded;
-  switch (s.m_nShape) {
-    case CMemberShape::I:
-    case CMemberShape::Channel:
-      hold(CMemberCheckKind::Flange, CWidthElement::Flange, flange, "5.4.1");
-      return hold(CMemberCheckKind::Web, CWidthElement::WebI, s.m_dH0 / s.m_dTw, "5.4.2");
-    case CMemberShape::T:
-      hold(CMemberCheckKind::Flange, CWidthElement::Flange, flange, "5.4.1");
-      if (q.m_dVy != 0 && share * *AxialWidthLimit(m.m_nEdition, stem, m.m_nGrade, m_dLambdaMax) >
-                              *StiffenerLimit(m.m_nEdition, m.m_nGrade))
-        return;  // its shear holds it to less
-      return hold(CMemberCheckKind::Web, stem, s.m_dH0 / s.m_dTw, "5.4.4");
-    case CMemberShape::Box:
-      return hold(CMemberCheckKind::Wall, CWidthElement::BoxWall,
-                  std::max(BoxFlangeRatio(), s.m_dH0 / s.m_dTw), "5.4.3");
-    case CMemberShape::Tube:
-      return hold(CMemberCheckKind::Wall, CWidthElement::Tube, s.m_dDiameter / s.m_dWall, "5.4.5");
-    case CMemberShape::SolidRound:
-    case CMemberShape::SolidBar:
-      return;
-    default:
-      return hold(CMemberCheckKind::Wall, CWidthElement::AngleLeg,
-                  LegRatio(m.m_nEdition, s.m_dLeg, s.m_dLegThick, s.m_dLegRoot), "5.4.1");
+  const bool bSheared = s.m_nShape == CMemberShape::T && q.m_dVy != 0 &&
+                        share * *AxialWidthLimit(m.m_nEdition, stem, m.m_nGrade, m_dLambdaMax) >
+                            *StiffenerLimit(m.m_nEdition, m.m_nGrade);
+  for (const CAxialPlate& plate : AxialPlatesOf(s, m.m_nEdition)) {
+    if (plate.m_nKind == CMemberCheckKind::Web && bSheared) continue;  // its shear holds it to less
+    hold(plate);
   }
 }
 
@@ -348,7 +325,7 @@ void CSolidCheck::ClosedPlates2017() {
                                : CClassElement::BoxFlange;
   };
   const double web = s.m_dH0 / s.m_dTw;
-  Limit(CMemberCheckKind::Flange, m_bTurned ? "8.4.2" : clause, BoxFlangeRatio(),
+  Limit(CMemberCheckKind::Flange, m_bTurned ? "8.4.2" : clause, BoxFlangeRatio(s),
         m_bTurned ? 250 : Class4(element(q.m_x), 2),
         {m_bTurned ? nullptr : Class4Form(element(q.m_x))});
   const bool bReduced = m_effective && !m_bTurned;
@@ -386,7 +363,7 @@ void CSolidCheck::MomentPlates2003() {
              .m_alpha0 = web.m_dAlpha0,
              .m_lambda = web.m_dLambda});
     };
-    wall(CMemberCheckKind::Flange, BoxFlangeRatio(), bColumn || !q.m_x.IsZero());
+    wall(CMemberCheckKind::Flange, BoxFlangeRatio(s), bColumn || !q.m_x.IsZero());
     return wall(CMemberCheckKind::Web, h0tw, !q.m_y.IsZero());
   }
   if (const double flange = FlangeRatio(); flange > 0) {

@@ -69,7 +69,8 @@ const CReported kReported[] = {
        return c;
      }()},
     {"laced", With(Lattice("lacing", 2), -600, 20000)},
-    {"three limbs", With(Lattice("lacing", 3), -900, 0)},
+    {"battens", With(Lattice("battens", 2), -600, 0, 0, 20)},
+    {"three limbs", With(Lattice("lacing", 3), -900, 0, 0, 60)},
     {"four limbs", With(Lattice("battens", 4), -900, 0)},
 };
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "codes/steel_strength.h"
+
 namespace orv3 {
 
 bool CMemberCheck::Refuse(CCaseFault fault) {
@@ -82,6 +84,11 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
   row.m_dWebThick = row.m_dFlangeThick = lattice.m_dWebThick;
   row.m_bTube = lattice.m_bTubes;
   if (!ReadEdition(input) || !ReadSteel(input, row) || !ReadForces(input)) return false;
+  const auto bond =
+      SteelStrengths(m_nEdition, m_steel.m_nGrade, lattice.m_dBondThick, CSteelProduct::Plate);
+  if (!bond) return Refuse("section.lacing", bond.Refusal().m_what, bond.Refusal().m_right);
+  m_steel.m_dBondF = bond->m_dF;
+  m_steel.m_dBondFv = bond->m_dFv;
   const auto refuse = [this](const char* key) {
     return Refuse(key, {"格构柱不用", "has no place for a lattice column"},
                   {"请删去", "leave it out"});
@@ -97,12 +104,13 @@ bool CMemberCheck::RunLattice(const CMemberCase& input, const CMemberLattice& la
   if (!std::isnan(input.m_dStiffeners)) return refuse("stiffeners");
   if (input.m_dRestrained == 1) return refuse("restrained");
   if (!input.m_strJoined.empty()) return refuse("joined");
-  if (lattice.m_section.m_nLimbs == 2 && m_loads.m_dVx != 0) return refuse("Vx");
+  if (lattice.m_section.Limbs() == 2 && m_loads.m_dVx != 0) return refuse("Vx");
   if (!ReadLengths(input, row) || !TakeShears()) return false;
   CLatticeLoads loads;
   loads.m_dN = m_loads.m_dN;
   loads.m_x = m_loads.m_x;
-  loads.m_dV = std::max(std::fabs(m_loads.m_dVx), std::fabs(m_loads.m_dVy));
+  loads.m_dVx = m_loads.m_dVx;
+  loads.m_dVy = m_loads.m_dVy;
   loads.m_dLx = m_loads.m_dLx;
   loads.m_dLy = m_loads.m_dLy;
   loads.m_bSway = m_loads.m_bSway;

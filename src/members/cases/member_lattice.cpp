@@ -7,6 +7,7 @@
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/outline/row_figures.h"
 #include "framework/elementary.h"
+#include "framework/plain_number.h"
 #include "framework/utf8.h"
 #include "sections/geometry/row_values.h"
 #include "sections/load_data_table.h"
@@ -49,34 +50,35 @@ class CLatticeReader {
                         {"请给出库中的型钢表和型号、间距和转角",
                          "give tables and numbers of the store, the spacings and the angles"}};
     }
+    const bool bTwo = m_limbs.m_arrLimb.size() == 2;
+    if (!IsPositive(m_limbs.m_dKy) || !(bTwo || IsPositive(m_limbs.m_dKx))) {
+      return CCaseFault{"section.lattice",
+                        {"的间距不大于 0", "has a spacing that is not above 0"},
+                        {"请给出大于 0 的间距 mm", "give spacings above 0 mm"}};
+    }
     const CLatticeProperties p = m_limbs.Properties();
-    s.m_nLimbs = static_cast<int>(m_limbs.m_arrLimb.size());
     s.m_dA = p.m_dA;
     s.m_dRx = p.m_dixo;
     s.m_dRy = p.m_diyo;
     s.m_dWx = std::min(p.m_dWx1, p.m_dWx2);
-    s.m_dSpacing = m_limbs.m_dKy;
-    s.m_dBattenSpan = std::max(m_limbs.m_dKx, m_limbs.m_dKy);
-    s.m_dPlaneAngle = 90;
-    if (s.m_nLimbs == 3)
-      s.m_dPlaneAngle = Atan2(m_limbs.m_dKy, m_limbs.m_dKx / 2) * 180 / std::numbers::pi;
+    s.m_dKx = m_limbs.m_dKx;
+    s.m_dKy = m_limbs.m_dKy;
     s.m_dLimbR1 = HUGE_VAL;
     int tubes = 0;
     for (const CLatticeLimb& limb : m_limbs.m_arrLimb) {
-      for (auto refuse : {ThinWalled, Contradicting}) {
-        auto fault = refuse(limb.m_row);
-        if (!fault) continue;
+      CMemberRow row;
+      if (auto fault = ReadMemberRow(limb.m_row, row)) {
         fault->m_strKey = "section.lattice";
         return fault;
       }
-      const auto kind = FindSectionKind(limb.m_row.GetTableName().GetString());
-      if (kind == CSectionKind::RoundTube || kind == CSectionKind::PlateTube) ++tubes;
+      if (row.m_bTube) ++tubes;
+      s.m_arrLimb.push_back(LimbSection(limb, row.m_section));
       s.m_dLimbR1 = std::min(s.m_dLimbR1, RowFigures(limb.m_row).m_dRleast);
-      m_lattice.m_dThickest = std::max(m_lattice.m_dThickest, ThickestPlate(limb.m_row));
+      m_lattice.m_dThickest = std::max(m_lattice.m_dThickest, row.m_dThickest);
     }
     m_lattice.m_dWebThick = m_lattice.m_dThickest;
     m_lattice.m_bTubes = tubes > 0;
-    if (tubes > 0 && tubes < s.m_nLimbs) {
+    if (tubes > 0 && tubes < s.Limbs()) {
       return CCaseFault{"section.lattice",
                         {"有的分肢是圆管，有的不是，不在验算范围内",
                          "has tubes for some of its limbs, which is not covered"},
@@ -87,13 +89,31 @@ class CLatticeReader {
                         {"的分肢缺少最小回转半径", "has a limb without its least radius"},
                         {"请选用其他分肢", "take another limb"}};
     }
-    if (s.m_nLimbs == 2 && m_limbs.m_arrLimb[0].m_dArea != m_limbs.m_arrLimb[1].m_dArea) {
+    if (s.Limbs() == 2 && m_limbs.m_arrLimb[0].m_dArea != m_limbs.m_arrLimb[1].m_dArea) {
       return CCaseFault{
           "section.lattice",
           {"的两肢不同，不在验算范围内", "has two unequal limbs, which is not covered"},
           {"请给相同的分肢", "give equal limbs"}};
     }
     return std::nullopt;
+  }
+
+  // As it is turned, by quarters.
+  static CLatticeLimbSection LimbSection(const CLatticeLimb& limb, const CMemberSection& section) {
+    const CRowFigures f = RowFigures(limb.m_row, limb.m_dAngle);
+    const auto area = [&](const CShearCut& cut, double I) {
+      return cut.m_dS > 0 ? I * cut.m_dT / cut.m_dS : section.m_dLeg * section.m_dLegThick / 1.5;
+    };
+    CLatticeLimbSection each;
+    each.m_section = section;
+    each.m_dIx = limb.m_dIx;
+    each.m_dIy = limb.m_dIy;
+    each.m_dWx = std::min(f.m_dWTop, f.m_dWBottom);
+    each.m_dWy = std::min(f.m_dWLeft, f.m_dWRight);
+    each.m_dShearX = area(section.m_cutX, section.m_dIy);
+    each.m_dShearY = area(section.m_cutY, section.m_dIx);
+    if (QuarterTurns(limb.m_dAngle) % 2 != 0) std::swap(each.m_dShearX, each.m_dShearY);
+    return each;
   }
 
   static bool IsPositive(double value) { return std::isfinite(value) && value > 0; }
@@ -120,6 +140,7 @@ class CLatticeReader {
     s.m_dBarA = member.m_section.m_dA;
     s.m_dBarR = member.m_section.m_dRmin;
     s.m_dBarLeg = member.m_section.m_dLeg;
+    m_lattice.m_dBondThick = member.m_dThickest;
     s.m_dBarThick = member.m_section.m_dLegThick;
     s.m_dBarRoot = member.m_section.m_dLegRoot;
     s.m_dAngle = std::isnan(m_lacing.m_dAngle) ? 45 : m_lacing.m_dAngle;
@@ -128,18 +149,12 @@ class CLatticeReader {
                         {"不在 40° 至 70° 之间", "is not from 40 to 70 degrees"},
                         {"请给出 40 至 70", "give 40 to 70"}};
     }
-    const double angle = s.m_dAngle * std::numbers::pi / 180;
-    s.m_dBarLength = PlaneWidth() / Sin(angle);
-    s.m_dL1 = m_lacing.m_dL1;
-    m_lattice.m_bL1Assumed = std::isnan(s.m_dL1);
-    if (m_lattice.m_bL1Assumed) s.m_dL1 = 2 * PlaneWidth() / Tan(angle);
-    return LimbLength();
-  }
-
-  // The widest plane of the bond, between the limbs' centroids.
-  double PlaneWidth() const {
-    if (s.m_nLimbs != 3) return s.m_dBattenSpan;
-    return std::max(m_limbs.m_dKx, Hypot(m_limbs.m_dKx / 2, m_limbs.m_dKy));
+    // Crossed lacing, or single with cross bars, has half the panel of single lacing. Nodes off the
+    // centroids lengthen it by a quarter at most.
+    const double half = s.WidestPlane() / Tan(s.m_dAngle * std::numbers::pi / 180);
+    return LimbLength(
+        2 * half, half, 1.25 * 2 * half,
+        {"与缀条间距和角度不符", "contradicts the spacing and the angle of the bars"});
   }
 
   std::optional<CCaseFault> Battens() {
@@ -151,22 +166,32 @@ class CLatticeReader {
         return Missing(key, {"请给出大于 0 的数 mm", "give a number above 0 mm"});
     }
     s.m_dBattenWidth = m_lacing.m_dWidth;
-    s.m_dBattenT = m_lacing.m_dThick;
+    s.m_dBattenT = m_lattice.m_dBondThick = m_lacing.m_dThick;
     s.m_dBattenPitch = m_lacing.m_dPitch;
     if (s.m_dBattenPitch <= s.m_dBattenWidth) {
       return CCaseFault{"section.lacing.pitch",
                         {"不大于缀板宽度", "is not above the width of the battens"},
                         {"请给出缀板中心距", "give the distance of their centres"}};
     }
-    s.m_dL1 = std::isnan(m_lacing.m_dL1) ? s.m_dBattenPitch - s.m_dBattenWidth : m_lacing.m_dL1;
-    return LimbLength();
+    // Bolted battens: between their outermost bolts, which lie within them.
+    const double clear = s.m_dBattenPitch - s.m_dBattenWidth;
+    return LimbLength(clear, clear, s.m_dBattenPitch,
+                      {"与缀板中心距和宽度不符", "contradicts the pitch and width of the battens"});
   }
 
-  std::optional<CCaseFault> LimbLength() const {
-    if (IsPositive(s.m_dL1)) return std::nullopt;
+  // l1 as given, or what it is unless given; within 5 % it may be rounded.
+  std::optional<CCaseFault> LimbLength(double usual, double least, double greatest, CText what) {
+    constexpr double kRounded = 0.05;
+    const bool bGiven = !std::isnan(m_lacing.m_dL1);
+    m_lattice.m_bL1Assumed = !bGiven && s.m_nBond == CLatticeBond::Lacing;
+    s.m_dL1 = bGiven ? m_lacing.m_dL1 : usual;
+    if (s.m_dL1 >= (1 - kRounded) * least && s.m_dL1 <= (1 + kRounded) * greatest)
+      return std::nullopt;
+    const std::string from = PlainNumber(least), to = PlainNumber(greatest);
     return CCaseFault{"section.lacing.l1",
-                      {"不可用", "is not possible"},
-                      {"请给出大于 0 的长度 mm", "give a length above 0 mm"}};
+                      std::move(what),
+                      {"请给出 " + from + " 至 " + to + " mm，或删去",
+                       "give " + from + " to " + to + " mm, or leave it out"}};
   }
 
   void Use() {

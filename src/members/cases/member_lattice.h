@@ -23,6 +23,7 @@ struct CLacingInput {
 struct CMemberLattice {
   CLatticeSection m_section;
   double m_dThickest = 0, m_dWebThick = 0;  // of all limbs
+  double m_dBondThick = 0;                  // of the bars or battens
   bool m_bTubes = false;                    // strengths by the table of tubes
   bool m_bL1Assumed = false;
   std::vector<CUsedProperty> m_arrUsed;

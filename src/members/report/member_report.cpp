@@ -22,6 +22,7 @@ std::string Replaced(std::string text, std::string_view from, std::string_view t
 std::string Signs(std::string_view part, const char* times) {
   std::string text = Replaced(std::string(part), "·", times);
   text = Replaced(text, "²", "^2");
+  text = Replaced(text, "³", "^3");
   text = Replaced(text, "⁴", "^4");
   for (const char* function : {"min", "max", "sin", "cos"})
     text = Replaced(text, std::string(function) + "(", "\\" + std::string(function) + "(");
