@@ -332,7 +332,7 @@ void AddChooseCommand(CLI::App& program) {
       ->check(FileName)
       ->type_name("FILE.svg");
   command->add_option("--top", options->top, Say("至多显示这么多个", "Show this many at most"))
-      ->check(CLI::PositiveNumber);
+      ->check(CLI::Range(1, 100000));
   AddEditionOption(*command, options->code);
   auto* json = AddJsonOption(*command, options->json);
   command

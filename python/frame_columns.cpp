@@ -1,6 +1,7 @@
 #include "frame_columns.h"
 
 #include <string>
+#include <string_view>
 
 namespace orv3::python {
 namespace {
@@ -42,13 +43,22 @@ double Number(const py::handle& value, const std::string& place) {
   return number;
 }
 
+// True and False of Python and of numpy: no numbers, though both convert to 1 and 0.
+bool IsTruth(const py::handle& cell) {
+  const std::string_view type = Py_TYPE(cell.ptr())->tp_name;
+  return PyBool_Check(cell.ptr()) != 0 || type == "numpy.bool_" || type == "numpy.bool";
+}
+
 CCaseCell Cell(const py::handle& value, const std::string& key, std::size_t row) {
   if (IsMissing(value)) return {};
+  if (IsTruth(value)) return std::string(PyObject_IsTrue(value.ptr()) == 1 ? "true" : "false");
   if (IsText(value)) return value.cast<std::string>();
   if (!IsList(value)) return Number(value, Place(key, row));
   std::vector<double> list;
-  for (const py::handle each : py::reinterpret_borrow<py::iterable>(value))
+  for (const py::handle each : py::reinterpret_borrow<py::iterable>(value)) {
+    if (IsTruth(each)) throw py::type_error(Place(key, row) + ": true and false are no numbers");
     list.push_back(Number(each, Place(key, row)));
+  }
   return list;
 }
 

@@ -17,6 +17,8 @@ def _array(key: str, values: Any) -> Any:
     array = numpy.asarray(values)
     if array.ndim != 1:
         raise Error(f"{key}: {array.ndim} dimensions; right would be one value for each case")
+    if array.dtype.kind in "mMc":
+        raise Error(f"{key}: {array.dtype} is no number; right would be a number in the key's unit")
     if array.dtype.kind in "fiu":
         return numpy.ascontiguousarray(array, dtype=numpy.float64)
     return numpy.ascontiguousarray(array, dtype=object)
@@ -65,7 +67,10 @@ def check_many(
     cases = len(next(iter(columns.values()))) if columns else 0
     options = ["--csv", *_command.option("--code", edition), *_command.stores(store, data)]
     arguments = _command.line(["check"], options, [kind, "-"])
-    status, answer, told = _orv3cal.run_cases(arguments, columns)
+    try:
+        status, answer, told = _orv3cal.run_cases(arguments, columns)
+    except (TypeError, ValueError) as fault:
+        raise Error(str(fault)) from None
     row = numpy.array(answer.pop("case", ()), dtype=numpy.int64)
     whole = len(row) > 0 and row[-1] == cases
     if status > _REFUSED or (status == _REFUSED and not whole):

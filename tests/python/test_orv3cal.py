@@ -221,6 +221,14 @@ class Frames(unittest.TestCase):
         self.assertIsInstance(arrays["utilisation"], numpy.ndarray)
         self.assertEqual(arrays["utilisation"][0], orv3cal.check("bolt", BOLT)["utilisation"])
 
+    def test_take_true_and_false_as_no_numbers(self):
+        for truth, dtype in [(True, bool), (True, object), (numpy.True_, object)]:
+            frame = pandas.DataFrame({key: [value] for key, value in BOLT.items()})
+            frame["Vy"] = numpy.array([truth], dtype=dtype)
+            answer = orv3cal.check_many("bolt", frame)
+            self.assertFalse(answer["pass"][0])
+            self.assertIn("Vy: true", answer["refused"][0])
+
     def test_refuse_what_is_no_frame_of_cases(self):
         for columns, words in [
             ({}, "no case"),
@@ -229,9 +237,10 @@ class Frames(unittest.TestCase):
             ({"d": [1.0], "t": [1.0, 2.0]}, "t: 2 values"),
             ({"d": [[1.0]]}, "dimensions"),
             ({"d": [{}]}, "d: row 0"),
+            ({"d": numpy.array([20], dtype="timedelta64[s]")}, "d: timedelta64"),
             (pandas.DataFrame([[1.0, 2.0]], columns=["d", "d"]), "d: "),
         ]:
-            with self.subTest(columns=columns), self.assertRaisesRegex((ValueError, TypeError), words):
+            with self.subTest(columns=columns), self.assertRaisesRegex(orv3cal.Error, words):
                 orv3cal.check_many("bolt", columns)
         with self.assertRaisesRegex(orv3cal.Error, "missing.KDB"):
             orv3cal.check_many("member", {"steel": ["Q235"]}, store="missing.KDB")

@@ -199,7 +199,7 @@ class CPictureDrawing {
       m_drawing.AddLine(CLayer::Dimension, {at.x - kBar, y}, {at.x + kBar, y});
   }
 
-  void DrawSide(const CSide& side, CDimensionSide where) {
+  void DrawSide(const CSideRows& side, CDimensionSide where) {
     const bool vertical = where == CDimensionSide::Left;
     const double text = vertical ? m_origin.y : m_origin.x;
     for (std::size_t i = 0; i < side.m_arrSize.size(); ++i) {

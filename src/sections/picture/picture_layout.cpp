@@ -80,9 +80,9 @@ void CPictureLayout::FindFrame() {
   m_frame = {box.left * m_dScale, box.bottom * m_dScale, box.right * m_dScale, box.top * m_dScale};
 }
 
-CSide CPictureLayout::Rows(CDimensionSide side) const {
+CSideRows CPictureLayout::Rows(CDimensionSide side) const {
   const bool vertical = side == CDimensionSide::Left;
-  CSide rows;
+  CSideRows rows;
   for (const CSizeDimension& size : m_sizes) {
     if (size.m_nSide != side) continue;
     const double a = (vertical ? size.m_from.y : size.m_from.x) * m_dScale;

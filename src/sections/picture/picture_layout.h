@@ -26,7 +26,7 @@ inline constexpr double kLabelRoom = 26;  // for an axis letter
 inline constexpr double kRightLine = 16;  // of a dimension line beside the section's right edge
 
 // The dimensions of one side with their places in rows, in page units from the section's origin.
-struct CSide {
+struct CSideRows {
   std::vector<CSizeDimension> m_arrSize;
   std::vector<CRowItem> m_arrItem;
   int m_nRows = 0;
@@ -59,7 +59,7 @@ class CPictureLayout {
   bool ShowsBase() const noexcept { return m_bBase; }
   bool ShowsCentroid() const noexcept { return m_bCentroid; }
   bool ShowsShearCenter() const noexcept { return m_bShearCenter; }
-  const CSide& Side(CDimensionSide side) const noexcept {
+  const CSideRows& Side(CDimensionSide side) const noexcept {
     return side == CDimensionSide::Top ? m_top : side == CDimensionSide::Left ? m_left : m_bottom;
   }
   double AxisTop() const { return m_frame.top + m_top.Depth(0) + kAxisReach + 4; }
@@ -85,7 +85,7 @@ class CPictureLayout {
 
  private:
   void FindFrame();
-  CSide Rows(CDimensionSide side) const;
+  CSideRows Rows(CDimensionSide side) const;
   double RightEdge() const;
   double FindLeaderRoom() const;
   void FindPage();
@@ -97,9 +97,9 @@ class CPictureLayout {
   bool m_bBase = false;
   bool m_bCentroid = false;
   bool m_bShearCenter = false;
-  CSide m_top;
-  CSide m_bottom;
-  CSide m_left;
+  CSideRows m_top;
+  CSideRows m_bottom;
+  CSideRows m_left;
   double m_dLeaderRoom = 0;
   CPoint m_origin;
   double m_dPageWidth = 0;
