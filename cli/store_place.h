@@ -4,8 +4,8 @@
 // ORV3CAL_DATA); else the user's own copy; else the one that comes with the installation, in
 // share/orv3cal beside the program's folder. The last one is never changed: the first command that
 // saves without --store and --data saves into a copy of it in the user's folder. Where the system
-// does not tell the program's own file, as Linux without /proc, it is the folder that was configured
-// for the installation.
+// does not tell the program's own file, as Linux without /proc, it is the folder that was
+// configured for the installation.
 #pragma once
 
 #include <CLI/App.hpp>
