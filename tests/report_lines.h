@@ -87,6 +87,7 @@ class CArithmetic {
   CInterval Power() {
     const CInterval a = Factor();
     if (Take("^4")) return {a.low * a.low * a.low * a.low, a.high * a.high * a.high * a.high};
+    if (Take("^1.66")) return {std::pow(a.low, 1.66), std::pow(a.high, 1.66)};
     if (!Take("^2")) return a;
     const CInterval ends = Bounds({a.low * a.low, a.high * a.high});
     return {a.low < 0 && a.high > 0 ? 0 : ends.low, ends.high};

@@ -10,6 +10,7 @@ namespace orv3 {
 
 std::string PlainNumber(double value) {
   const double size = std::fabs(value);
+  if (std::isinf(value)) return value < 0 ? "−∞" : "∞";
   if (!std::isfinite(value) || size >= 1e9 || (size != 0 && size < 1e-4))
     return ToUtf8(FormatG(value));
   const int decimals = size >= 1000 ? 0 : size >= 100 ? 1 : size >= 10 ? 2 : size >= 1 ? 3 : 4;

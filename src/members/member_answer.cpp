@@ -196,6 +196,12 @@ constexpr CNoteText kNotes[] = {
       "直接动力荷载 250）",
       "is above the code's greatest, which is taken: 200 in compression, 400 in tension, 250 under "
       "direct dynamic load"}},
+    {CMemberNote::BeyondEuler,
+     "N",
+     {"达到弹性屈曲力：弯矩放大的分母不大于 0，弯矩项取 ∞",
+      "reaches the force of elastic buckling: what the moment is divided by is not above 0, and "
+      "its "
+      "term is taken as ∞"}},
     {CMemberNote::OppositeMoment,
      "Mx",
      {"弯矩变号而截面两边不同：反号的最大弯矩另行验算，其等效弯矩系数偏于安全，取较不利者",
@@ -243,6 +249,7 @@ void CMemberAnswer::Clear() {
 void CMemberAnswer::Close(const char* formula, double ratio) {
   constexpr double kLastDigits = 1e-9;
   CMemberCheckPart& part = m_arrPart.back();
+  if (std::isinf(ratio)) Note(CMemberNote::BeyondEuler);
   part.m_bPass = ratio <= 1 + kLastDigits;
   part.m_dRatio = part.m_bPass ? std::min(ratio, 1.0) : ratio;
   Step("ratio", formula, part.m_dRatio);

@@ -130,6 +130,7 @@ enum class CMemberNote : std::uint8_t {
   AssumedSupports,
   AssumedJoint,
   LimitBeyond,
+  BeyondEuler,
 };
 ORV3CAL_API CTextLiteral MemberNoteText(CMemberNote note) noexcept;
 ORV3CAL_API const char* MemberNoteKey(CMemberNote note) noexcept;

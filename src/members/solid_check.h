@@ -12,6 +12,7 @@
 #include "members/effective_section.h"
 #include "members/one_leg_angle.h"
 #include "members/solid_member.h"
+#include "members/width_forms.h"
 
 namespace orv3 {
 
@@ -58,7 +59,7 @@ class CSolidCheck {
   void OpenPlates2017();
   void ClosedPlates2017();
   void Limit(CMemberCheckKind kind, const char* clause, double value, double limit,
-             const char* form = nullptr);
+             const CWidthForm& form = {});
   // --- solid_panels.cpp
   struct CPanel {
     double m_dH0, m_dTw, m_dHc;  // hc: compressed by the moment
@@ -81,20 +82,21 @@ class CSolidCheck {
   void Strength();
   double StrengthRatio(double Mx, bool bSteps);
   void Shear();
-  // A place that carries a shear: its distances from the centroid, and the cuts of Vy and Vx there;
-  // one without a first moment carries none.
+  // A place that carries a shear: its distances from the centroid, y upwards and x to either side,
+  // and the cuts of Vy and Vx there; one without a first moment carries none.
   struct CPlace {
     double m_dY, m_dX;
     CShearCut m_vy, m_vx;
   };
   struct CPlaceStress {
-    double m_dSigma, m_dTauX, m_dTauY, m_dTau;  // N/mm2
+    double m_dAxial, m_dBending;  // of N and of Mx, compression positive, N/mm2
+    double m_dSigma, m_dTauX, m_dTauY, m_dTau;
   };
   std::vector<CPlace> ShearedPlaces() const;
   void AddWebPlaces(std::vector<CPlace>& places) const;
   void AddFlangePlaces(std::vector<CPlace>& places) const;
-  CPlaceStress StressAt(const CPlace& place) const;
-  void GivePlace(const CPlace& place);
+  CPlaceStress StressAt(const CPlace& place, double Mx) const;
+  void GivePlace(const CPlace& place, double Mx);
   void Combined();
   void CombinedRound();
   // --- solid_stability.cpp

@@ -7,7 +7,6 @@
 #include "codes/plasticity.h"
 #include "codes/width_limits.h"
 #include "members/solid_check.h"
-#include "members/width_forms.h"
 
 namespace orv3 {
 namespace {
@@ -207,10 +206,13 @@ void CSolidCheck::GiveEffective(double alpha0, bool bWeb, double h0, double tw) 
 // --- Local stability -----------------------------------------------------------------------------
 
 void CSolidCheck::Limit(CMemberCheckKind kind, const char* clause, double value, double limit,
-                        const char* form) {
+                        const CWidthForm& form) {
   a.Open(kind, clause);
   a.Step("b/t", nullptr, value);
-  a.Step("[b/t]", form, limit);
+  if (form.m_alpha0) a.Step("α0", nullptr, *form.m_alpha0);
+  if (form.m_lambda) a.Step("λ", nullptr, *form.m_lambda);
+  if (form.m_lambdaMax) a.Step("λmax", nullptr, *form.m_lambdaMax);
+  a.Step("[b/t]", form.m_szForm, limit);
   a.Close("{b/t}/{[b/t]}", value / limit);
 }
 
@@ -229,7 +231,7 @@ void CSolidCheck::TWebOfBeam() {
   if ((q.m_x.IsZero() && q.m_dVy == 0) || a.Find(CMemberCheckKind::Web) != nullptr) return;
   const double limit = *StiffenerLimit(m.m_nEdition, m.m_nGrade);
   if (s.m_dH0 / s.m_dTw > limit) a.Note(CMemberNote::TWebAsBeam);
-  Limit(CMemberCheckKind::Web, Clause("6.3.2", "4.3.2"), s.m_dH0 / s.m_dTw, limit, "80·{εk}");
+  Limit(CMemberCheckKind::Web, Clause("6.3.2", "4.3.2"), s.m_dH0 / s.m_dTw, limit, {"80·{εk}"});
 }
 
 double CSolidCheck::BoxFlangeRatio() const {
@@ -297,7 +299,7 @@ void CSolidCheck::OpenPlates2017() {
     const bool bReduced = m_effective && m_effective->m_dFlangeLost > 0;
     Limit(CMemberCheckKind::Flange, bReduced ? "6.1.1" : clause, flange,
           bReduced ? Class5(CClassElement::FlangeOutstand) : class4,
-          bReduced ? nullptr : Class4Form(CClassElement::FlangeOutstand));
+          {bReduced ? nullptr : Class4Form(CClassElement::FlangeOutstand)});
   }
   const CWebStress stress = WebStress(m_dMx);
   if (stress.m_dMax <= 0) return;
@@ -307,20 +309,24 @@ void CSolidCheck::OpenPlates2017() {
     a.Note(CMemberNote::TWebByAxial);
     const CWidthElement stem = s.m_bRolled ? CWidthElement::WebTRolled : CWidthElement::WebTWelded;
     return Limit(CMemberCheckKind::Web, "7.3.1", web,
-                 *AxialWidthLimit(m.m_nEdition, stem, m.m_nGrade, m_dLambdaMax));
+                 *AxialWidthLimit(m.m_nEdition, stem, m.m_nGrade, m_dLambdaMax),
+                 {.m_szForm = AxialWidthForm(m.m_nEdition, stem, m_dLambdaMax, r.m_dEpsilonK),
+                  .m_lambdaMax = m_dLambdaMax});
   }
   const CClassElement element = WebElement();
   const double class4 = Class4(element, stress.m_dAlpha0);
   const bool bReduced = web > class4 && WebStressOfMy() == 0;
-  Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
-        bReduced ? Class5(element) : class4, bReduced ? nullptr : Class4Form(element));
+  if (bReduced) return Limit(CMemberCheckKind::Web, "8.4.2", web, Class5(element));
+  CWidthForm form = {Class4Form(element)};
+  if (element == CClassElement::WebCompressed) form.m_alpha0 = std::min(stress.m_dAlpha0, 2.0);
+  Limit(CMemberCheckKind::Web, clause, web, class4, form);
 }
 
 void CSolidCheck::ClosedPlates2017() {
   const char* clause = m_dNc > 0 ? "8.4.1" : "3.5.1";
   if (s.m_nShape == CMemberShape::Tube) {
     return Limit(CMemberCheckKind::Wall, clause, s.m_dDiameter / s.m_dWall,
-                 Class4(CClassElement::Tube, 2), Class4Form(CClassElement::Tube));
+                 Class4(CClassElement::Tube, 2), {Class4Form(CClassElement::Tube)});
   }
   const auto element = [&](const CMomentCourse& asFlange) {
     return m_dNc > 0           ? CClassElement::BoxWall
@@ -330,11 +336,11 @@ void CSolidCheck::ClosedPlates2017() {
   const double web = s.m_dH0 / s.m_dTw;
   Limit(CMemberCheckKind::Flange, m_bTurned ? "8.4.2" : clause, BoxFlangeRatio(),
         m_bTurned ? 250 : Class4(element(q.m_x), 2),
-        m_bTurned ? nullptr : Class4Form(element(q.m_x)));
+        {m_bTurned ? nullptr : Class4Form(element(q.m_x))});
   const bool bReduced = m_effective && !m_bTurned;
   Limit(CMemberCheckKind::Web, bReduced ? "8.4.2" : clause, web,
         bReduced ? 250 : Class4(element(q.m_y), 2),
-        bReduced ? nullptr : Class4Form(element(q.m_y)));
+        {bReduced ? nullptr : Class4Form(element(q.m_y))});
 }
 
 // 4.3.2, 4.3.8, 5.4.1 to 5.4.5.
@@ -343,7 +349,7 @@ void CSolidCheck::MomentPlates2003() {
   const double ek = r.m_dEpsilonK;
   if (s.m_nShape == CMemberShape::Tube) {
     return Limit(CMemberCheckKind::Wall, "5.4.5", s.m_dDiameter / s.m_dWall, 100 * ek * ek,
-                 "100·{εk}²");
+                 {"100·{εk}²"});
   }
   if (IsSolid(s.m_nShape)) return;
   const CWebStress stress = WebStress(m_dMx);
@@ -358,42 +364,38 @@ void CSolidCheck::MomentPlates2003() {
   };
   if (s.m_nShape == CMemberShape::Box) {
     // A wall that one moment presses as a flange, and otherwise is a web.
-    const auto wall = [&](CMemberCheckKind kind, double ratio, const CMomentCourse& asFlange,
-                          double limitOfColumn) {
-      const bool bFlange = !asFlange.IsZero();
-      Limit(kind,
-            bColumn   ? "5.4.3"
-            : bFlange ? "4.3.8"
-                      : "4.3.2",
-            ratio,
-            bFlange   ? 40 * ek
-            : bColumn ? limitOfColumn
-                      : 250);
+    const auto wall = [&](CMemberCheckKind kind, double ratio, bool bFlange) {
+      if (bFlange) return Limit(kind, bColumn ? "5.4.3" : "4.3.8", ratio, 40 * ek, {"40·{εk}"});
+      if (!bColumn) return Limit(kind, "4.3.2", ratio, 250);
+      Limit(kind, "5.4.3", ratio, column(CWidthElement::BoxWall),
+            {.m_szForm = BoxWallForm2003(web.m_dAlpha0),
+             .m_alpha0 = web.m_dAlpha0,
+             .m_lambda = web.m_dLambda});
     };
-    wall(CMemberCheckKind::Flange, BoxFlangeRatio(), q.m_x, 40 * ek);
-    return wall(CMemberCheckKind::Web, h0tw, q.m_y, column(CWidthElement::BoxWall));
+    wall(CMemberCheckKind::Flange, BoxFlangeRatio(), bColumn || !q.m_x.IsZero());
+    return wall(CMemberCheckKind::Web, h0tw, !q.m_y.IsZero());
   }
   if (const double flange = FlangeRatio(); flange > 0) {
     Limit(CMemberCheckKind::Flange, bColumn ? "5.4.1" : "4.3.8", flange,
           bColumn ? column(CWidthElement::Flange)
                   : *BeamFlangeLimit(m.m_nEdition, m.m_nGrade, m_bGammaReduced),
-          m_bGammaReduced ? "15·{εk}" : "13·{εk}");
+          {m_bGammaReduced ? "15·{εk}" : "13·{εk}"});
   }
   if (stress.m_dMax <= 0) return;
   if (s.m_nShape == CMemberShape::T) {
     if (!bColumn && stress.m_nSide == CSide::Top) return;
     const CWidthElement stem = s.m_bRolled ? CWidthElement::WebTRolled : CWidthElement::WebTWelded;
-    return Limit(CMemberCheckKind::Web, "5.4.4", h0tw, column(stem));
+    return Limit(CMemberCheckKind::Web, "5.4.4", h0tw, column(stem),
+                 {.m_szForm = TWebForm2003(stem, web),
+                  .m_alpha0 = web.m_dAlpha0,
+                  .m_lambda = web.m_dLambda});
   }
   const bool bPressed = bColumn || WebStressOfMy() > 0;
-  if (!bPressed) return Limit(CMemberCheckKind::Web, "4.3.2", h0tw, 250, nullptr);
-  a.Open(CMemberCheckKind::Web, "5.4.2");
-  a.Step("b/t", nullptr, h0tw);
-  a.Step("α0", nullptr, web.m_dAlpha0);
-  a.Step("λ", nullptr, web.m_dLambda);
-  const double limit = column(CWidthElement::WebI);
-  a.Step("[b/t]", WebForm2003(web.m_dAlpha0), limit);
-  a.Close("{b/t}/{[b/t]}", h0tw / limit);
+  if (!bPressed) return Limit(CMemberCheckKind::Web, "4.3.2", h0tw, 250);
+  Limit(CMemberCheckKind::Web, "5.4.2", h0tw, column(CWidthElement::WebI),
+        {.m_szForm = WebForm2003(web.m_dAlpha0),
+         .m_alpha0 = web.m_dAlpha0,
+         .m_lambda = web.m_dLambda});
 }
 
 }  // namespace orv3

@@ -1,5 +1,6 @@
 // Strength of a solid-web member: GB 50017-2017, 6.1, 7.1, 8.1; GB 50017-2003, 4.1, 5.1, 5.2.1.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <utility>
@@ -154,8 +155,8 @@ void CSolidCheck::Shear() {
           bY ? tauY / m.m_dFv : tauX / m.m_dFvX);
 }
 
-// Where a shear is greatest or meets the normal stress of a corner. The moments have their greatest
-// magnitude and the sign that adds to N; so have the flows of both shears.
+// Where a shear is greatest or meets the normal stress of a corner. N and Mx have their signs, My
+// and the flows of both shears those that add.
 std::vector<CSolidCheck::CPlace> CSolidCheck::ShearedPlaces() const {
   std::vector<CPlace> places;
   if (q.m_dVy != 0) AddWebPlaces(places);
@@ -183,7 +184,7 @@ void CSolidCheck::AddWebPlaces(std::vector<CPlace>& places) const {
   if (s.m_dTw > 0) {
     const double t = s.m_nWebs * s.m_dTw;
     places.push_back({s.m_dWebTop, x, {s.m_dSTop, t}, vx});
-    places.push_back({s.m_dWebBottom, x, {s.m_dSBottom, t}, vx});
+    places.push_back({-s.m_dWebBottom, x, {s.m_dSBottom, t}, vx});
   }
   places.push_back({0, x, s.m_cutY, {}});
 }
@@ -191,41 +192,49 @@ void CSolidCheck::AddWebPlaces(std::vector<CPlace>& places) const {
 // The cuts of the greatest Vx and, of a box, the ends of its flanges; with Vy, the flow of the
 // flange's part beyond.
 void CSolidCheck::AddFlangePlaces(std::vector<CPlace>& places) const {
-  const double top = s.m_dIx / s.m_dWTop, bottom = s.m_dIx / s.m_dWBottom;
+  const double top = s.m_dIx / s.m_dWTop, bottom = -s.m_dIx / s.m_dWBottom;
   const auto add = [&](const CMemberFlange& f, double y, double beyond, double x, CShearCut vx) {
-    const double S = beyond * f.m_dThick * (y - f.m_dThick / 2);
+    const double S = beyond * f.m_dThick * (std::fabs(y) - f.m_dThick / 2);
     places.push_back({y, x, {S, f.m_dThick}, vx});
   };
+  const std::array<std::pair<CMemberFlange, double>, 2> flanges = {
+      {{s.m_top, top}, {s.m_bottom, bottom}}};
   switch (s.m_nShape) {
     case CMemberShape::Box: {
       const double wall = (s.m_dWidth - s.m_dB0) / 2;
       const double S = s.m_dHeight * wall * (s.m_dWidth - wall) / 2;
       const double thick = s.m_top.m_dThick + s.m_bottom.m_dThick;
-      add(s.m_top, top, s.m_dB0 / 2, s.m_dB0 / 2, {S, thick});
-      return add(s.m_top, top, 0, 0, s.m_cutX);
+      for (const auto& [f, y] : flanges) {
+        add(f, y, s.m_dB0 / 2, s.m_dB0 / 2, {S, thick});
+        add(f, y, 0, 0, s.m_cutX);
+      }
+      return;
     }
     case CMemberShape::I:
     case CMemberShape::T:
-      for (const auto& [f, y] : {std::pair{s.m_top, top}, {s.m_bottom, bottom}}) {
+      for (const auto& [f, y] : flanges) {
         const double S = f.m_dThick * f.m_dWidth * f.m_dWidth / 8;
         if (S > 0) add(f, y, f.m_dWidth / 2, 0, {S, f.m_dThick});
       }
       return;
     case CMemberShape::Channel:
-      return add(s.m_top, top, s.m_dIy / s.m_dWSide, 0, s.m_cutX);
+      for (const auto& [f, y] : flanges) add(f, y, s.m_dIy / s.m_dWSide, 0, s.m_cutX);
+      return;
     default:
-      places.push_back({std::max(top, bottom), 0, {}, s.m_cutX});
+      places.push_back({top, 0, {}, s.m_cutX});
+      places.push_back({bottom, 0, {}, s.m_cutX});
   }
 }
 
-CSolidCheck::CPlaceStress CSolidCheck::StressAt(const CPlace& p) const {
+CSolidCheck::CPlaceStress CSolidCheck::StressAt(const CPlace& p, double Mx) const {
   const auto flow = [](double V, const CShearCut& cut, double I) {
     return V == 0 || cut.m_dS == 0 ? 0 : std::fabs(V) * cut.m_dS / (I * cut.m_dT);
   };
   CPlaceStress stress;
-  stress.m_dSigma = std::fabs(q.m_dN) / (q.m_dNetA * s.m_dA) +
-                    std::fabs(m_dMx) * p.m_dY / (q.m_dNetW * s.m_dIx) +
-                    m_dMy * p.m_dX / (q.m_dNetW * s.m_dIy);
+  stress.m_dAxial = -q.m_dN / (q.m_dNetA * s.m_dA);
+  stress.m_dBending = Mx * p.m_dY / (q.m_dNetW * s.m_dIx);
+  stress.m_dSigma =
+      std::fabs(stress.m_dAxial + stress.m_dBending) + m_dMy * p.m_dX / (q.m_dNetW * s.m_dIy);
   stress.m_dTauX = flow(q.m_dVx, p.m_vx, s.m_dIy);
   stress.m_dTauY = flow(q.m_dVy, p.m_vy, s.m_dIx);
   // Along a wall they add; in a solid bar they are at right angles.
@@ -241,28 +250,32 @@ void CSolidCheck::Combined() {
     return CombinedRound();
   const std::vector<CPlace> places = ShearedPlaces();
   const CPlace* worst = nullptr;
-  double most = 0;
-  for (const CPlace& place : places) {
-    const CPlaceStress stress = StressAt(place);
-    if (stress.m_dSigma == 0) continue;  // shear alone is 6.1.3
-    const double both = CombinedStress(stress.m_dSigma, stress.m_dTau);
-    if (worst != nullptr && both <= most) continue;
-    worst = &place;
-    most = both;
+  double most = 0, worstMx = 0;
+  // The moment of the governing sense and the one of the other, along the same member.
+  for (const double Mx : {m_dMx, m_dMx >= 0 ? q.m_x.Least() : q.m_x.Most()}) {
+    for (const CPlace& place : places) {
+      const CPlaceStress stress = StressAt(place, Mx);
+      if (stress.m_dSigma == 0) continue;  // shear alone is 6.1.3
+      const double both = CombinedStress(stress.m_dSigma, stress.m_dTau);
+      if (worst != nullptr && both <= most) continue;
+      worst = &place;
+      most = both;
+      worstMx = Mx;
+    }
   }
   if (worst == nullptr) return;
   a.Open(CMemberCheckKind::Combined, Clause("6.1.5", "4.1.4"));
-  GivePlace(*worst);
+  GivePlace(*worst, worstMx);
   a.Close("√({σ}² + 3·{τ}²)/(1.1·{f})", most / (1.1 * F()));
 }
 
-void CSolidCheck::GivePlace(const CPlace& p) {
-  const CPlaceStress stress = StressAt(p);
+void CSolidCheck::GivePlace(const CPlace& p, double Mx) {
+  const CPlaceStress stress = StressAt(p, Mx);
   a.Step("An", nullptr, q.m_dNetA * s.m_dA, "mm²");
-  const bool bMx = m_dMx * p.m_dY != 0, bMy = m_dMy * p.m_dX != 0;
+  const bool bMx = Mx * p.m_dY != 0, bMy = m_dMy * p.m_dX != 0;
   if (bMx) {
-    a.Step("Mx", nullptr, std::fabs(m_dMx), "N·mm");
-    a.Step("y1", nullptr, p.m_dY, "mm");
+    a.Step("Mx", nullptr, std::fabs(Mx), "N·mm");
+    a.Step("y1", nullptr, std::fabs(p.m_dY), "mm");
     a.Step("Inx", nullptr, q.m_dNetW * s.m_dIx, "mm⁴");
   }
   if (bMy) {
@@ -270,11 +283,14 @@ void CSolidCheck::GivePlace(const CPlace& p) {
     a.Step("x1", nullptr, p.m_dX, "mm");
     a.Step("Iny", nullptr, q.m_dNetW * s.m_dIy, "mm⁴");
   }
+  const bool bRelieved = stress.m_dAxial * stress.m_dBending < 0;
   a.Step("σ",
-         bMx && bMy ? "{N}/{An} + {Mx}·{y1}/{Inx} + {My}·{x1}/{Iny}"
-         : bMx      ? "{N}/{An} + {Mx}·{y1}/{Inx}"
-         : bMy      ? "{N}/{An} + {My}·{x1}/{Iny}"
-                    : "{N}/{An}",
+         bRelieved && bMy ? "|{N}/{An} − {Mx}·{y1}/{Inx}| + {My}·{x1}/{Iny}"
+         : bRelieved      ? "|{N}/{An} − {Mx}·{y1}/{Inx}|"
+         : bMx && bMy     ? "{N}/{An} + {Mx}·{y1}/{Inx} + {My}·{x1}/{Iny}"
+         : bMx            ? "{N}/{An} + {Mx}·{y1}/{Inx}"
+         : bMy            ? "{N}/{An} + {My}·{x1}/{Iny}"
+                          : "{N}/{An}",
          stress.m_dSigma, "N/mm²");
   const bool bX = stress.m_dTauX > 0, bY = stress.m_dTauY > 0;
   if (bX) {

@@ -218,6 +218,25 @@ TEST_F(CMembers, BothSensesOfAMomentAreHeld) {
   }
 }
 
+// Each edge has its own stress: N relieves one, and turned over it is the other.
+TEST_F(CMembers, AnITurnedOverHasTheSameChecks) {
+  CMemberCase upright = Sizes("general-h", {12, 420, 18, 18, 80, 80, 180, 180}, "Q390", 3000, 3000);
+  upright.m_dN = -3173.89;
+  upright.m_Mx.m_dUniform = -440723;
+  upright.m_dVy = -496.46;
+  CMemberCase over = upright;
+  over.m_sizes.m_arrEach = {12, 420, 18, 18, 180, 180, 80, 80};
+  over.m_Mx.m_dUniform = 440723;
+  m_check.SetEdition(CCodeEdition::Gb2003);
+  const CRatios ratios = RatiosOf(m_check, upright);
+  ExpectNoLess(ratios, RatiosOf(m_check, over), "turned over");
+  ExpectNoLess(RatiosOf(m_check, over), ratios, "turned over");
+  constexpr auto kCombined = static_cast<std::size_t>(K::Combined);
+  EXPECT_NEAR(ratios.m_arrRatio[kCombined], 1.111, 5e-4);
+  upright.m_Mx.m_dUniform = 440723;
+  EXPECT_GT(RatiosOf(m_check, upright).m_arrRatio[kCombined], 1.2);
+}
+
 TEST_F(CMembers, ATurnedBoxHasExchangedChecks) {
   constexpr std::pair<K, K> kExchanged[] = {{K::StabilityX, K::StabilityY},
                                             {K::StabilityY, K::StabilityX},

@@ -46,8 +46,6 @@ CWrittenFormula Written(const CMemberAnswer& answer, std::size_t index) {
   return written;
 }
 
-std::string NumberOrInfinity(double value) { return std::isinf(value) ? "∞" : PlainNumber(value); }
-
 class CReportWriter {
  public:
   CReportWriter(const CMemberReport& report, CLanguage language)
@@ -253,7 +251,7 @@ class CReportWriter {
                         symbol.m_szWritten,
                         "",
                         "",
-                        NumberOrInfinity(step.m_dValue),
+                        PlainNumber(step.m_dValue),
                         step.m_szUnit};
     if (step.m_szFormula == nullptr) return line;
     const CWrittenFormula formula = Written(answer, index);
