@@ -20,6 +20,8 @@ PARTS = [
     ("libeigen3-dev", "MPL-2.0", "CONTAINS"),
     ("libcli11-dev", "BSD-3-Clause", "CONTAINS"),
     ("nlohmann-json3-dev", "MIT", "CONTAINS"),
+    ("pybind11-dev", "BSD-3-Clause", "CONTAINS"),
+    ("nsis", "Zlib", "CONTAINS"),
     ("libxlsxwriter-dev", "BSD-2-Clause", "DEPENDS_ON"),
     ("libstdc++-12-dev", "GPL-3.0-or-later WITH GCC-exception-3.1", "DEPENDS_ON"),
     ("gcc-mingw-w64-i686-posix-runtime", "GPL-3.0-or-later WITH GCC-exception-3.1", "CONTAINS"),

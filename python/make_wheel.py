@@ -41,6 +41,10 @@ def stripped(module, strip):
         return copy.read_bytes()
 
 
+# Whose code is in the module, and whose notices come with it.
+PARTS = ("libeigen3-dev", "libcli11-dev", "nlohmann-json3-dev", "pybind11-dev")
+
+
 def metadata(source, version):
     head = f"""Metadata-Version: 2.1
 Name: orv3cal
@@ -71,6 +75,9 @@ def contents(source, build, strip, version):
             files[f"orv3cal/share/orv3cal/{file.name}"] = file.read_bytes()
     info = f"orv3cal-{version}.dist-info"
     files[f"{info}/LICENSE"] = (source / "LICENSE").read_bytes()
+    for part in PARTS:
+        notice = Path(f"/usr/share/doc/{part}/copyright")
+        files[f"{info}/licences/{part}.txt"] = notice.read_bytes()
     files[f"{info}/METADATA"] = metadata(source, version)
     wheel = f"Wheel-Version: 1.0\nGenerator: make_wheel\nRoot-Is-Purelib: false\nTag: {tag()}\n"
     files[f"{info}/WHEEL"] = wheel.encode()
