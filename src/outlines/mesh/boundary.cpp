@@ -65,7 +65,9 @@ class CCutter {
     for (const auto& [e, from, to] : m_folded.m_arrKept) {
       const CEdge& edge = m_edges[e];
       const int pieces = edge.IsArc() ? ArcPieces(e, to - from) : 1;
-      const auto at = [&, from = from, to = to](int i) { return i == pieces ? to : from + (to - from) * i / pieces; };
+      const auto at = [&, from = from, to = to](int i) {
+        return i == pieces ? to : from + (to - from) * i / pieces;
+      };
       for (int i = 0; i < pieces; ++i) CutStretch(e, at(i), at(i + 1), graded ? 0 : kDeepest);
     }
     if (graded) {
