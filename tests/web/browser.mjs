@@ -23,19 +23,19 @@ export async function start() {
 }
 
 // A tab with what it must not do in `faults`: requests to anywhere, errors and words on the console.
-// `before` runs in the tab before the page does; `address` is where the page is.
-export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860], before = () => {}, address = `${pathToFileURL(kPage)}`) {
+// `before` runs in the tab before the page does.
+export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860], before = () => {}) {
   const page = await context.newPage();
   page.setDefaultTimeout(120_000);
   await page.evaluateOnNewDocument(before);
   page.faults = [];
   page.on("request", (request) => {
-    if (!/^(file|blob|data|about):/.test(request.url()) && !request.url().startsWith(address)) page.faults.push(`request: ${request.url()}`);
+    if (!/^(file|blob|data|about):/.test(request.url())) page.faults.push(`request: ${request.url()}`);
   });
   page.on("console", (message) => page.faults.push(`console: ${message.text()}`));
   page.on("pageerror", (error) => page.faults.push(`error: ${error.message}`));
   await page.setViewport({ width: size[0], height: size[1] });
-  await page.goto(`${address}#${hash}`);
+  await page.goto(`${pathToFileURL(kPage)}#${hash}`);
   await ready(page);
   return page;
 }
