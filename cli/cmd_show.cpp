@@ -89,14 +89,6 @@ void WriteIfc(const COptions& options, const CDataItem& row) {
   WriteFile(options.ifc, IfcText(std::vector<CDataItem>{row}, "Orv3Cal"));
 }
 
-std::string QuarterTurn(const std::string& text) {
-  for (const char* turn : {"0", "90", "180", "270"}) {
-    if (text == turn) return "";
-  }
-  return text + Say(" 不可用；请给出 0、90、180 或 270",
-                    " is not possible; right would be 0, 90, 180 or 270");
-}
-
 void RunShow(const COptions& options, bool spaced) {
   CDataItem row = RowOf(options);
   if (spaced) row = WithGap(row, options);
@@ -133,8 +125,7 @@ void AddShowCommand(CLI::App& program) {
   command
       ->add_option("--turn", options->turn,
                    Say("截面逆时针转动的角度", "Turn the section counter-clockwise, degrees"))
-      ->check(QuarterTurn)
-      ->type_name("0|90|180|270");
+      ->check(CLI::IsMember(std::vector<std::string>{"0", "90", "180", "270"}));
   CLI::Option* gap =
       command
           ->add_option("--gap", options->gap,

@@ -87,6 +87,7 @@ class CArithmetic {
   CInterval Power() {
     const CInterval a = Factor();
     if (Take("^4")) return {a.low * a.low * a.low * a.low, a.high * a.high * a.high * a.high};
+    if (Take("^3")) return {a.low * a.low * a.low, a.high * a.high * a.high};
     if (Take("^1.66")) return {std::pow(a.low, 1.66), std::pow(a.high, 1.66)};
     if (!Take("^2")) return a;
     const CInterval ends = Bounds({a.low * a.low, a.high * a.high});
@@ -103,10 +104,13 @@ class CArithmetic {
       return {std::floor(a.low), std::floor(a.high)};
     }
     if (Take("max(")) {
-      const CInterval a = Sum();
-      Need(",");
-      const CInterval b = Closed(")");
-      return {std::max(a.low, b.low), std::max(a.high, b.high)};
+      CInterval most = Sum();
+      while (Take(",")) {
+        const CInterval b = Sum();
+        most = {std::max(most.low, b.low), std::max(most.high, b.high)};
+      }
+      Need(")");
+      return most;
     }
     if (Take("min(")) {
       const CInterval a = Sum();

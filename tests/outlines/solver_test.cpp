@@ -247,6 +247,13 @@ TEST(SectionSolver, AddsPartsAndSaysWhatHasNoAnswer) {
   EXPECT_NEAR(two.It, 2 * one.It, 1e-9 * two.It);
   for (double none : {two.Iw, two.xs, two.ys, two.Asx, two.Asy, two.betax, two.betay})
     EXPECT_TRUE(std::isnan(none));
+  // Arcs that pull in, of a part aside: points around them stay within it.
+  const CPath small = Reversed(Polygon({{-360, -13, 0}, {-354, 18, 0.2}, {-336, 4, 0}}));
+  for (double x : {-472, -572}) {
+    const CPath other = Reversed(Polygon({{x, -26, 0.15}, {x - 5, 0, -0.1}, {x + 24, -5, 0}}));
+    const double sum = ExactProperties(CLoops{small}).It + ExactProperties(CLoops{other}).It;
+    EXPECT_NEAR(ExactProperties(CLoops{small, other}).It, sum, 0.002 * sum) << x;
+  }
   // Loops that bound no section.
   const std::vector<CLoops> wrong = {
       {},

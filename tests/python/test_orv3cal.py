@@ -227,7 +227,7 @@ class Frames(unittest.TestCase):
             frame["Vy"] = numpy.array([truth], dtype=dtype)
             answer = orv3cal.check_many("bolt", frame)
             self.assertFalse(answer["pass"][0])
-            self.assertIn("Vy: true", answer["refused"][0])
+            self.assertIn('Vy: "true"', answer["refused"][0])
 
     def test_refuse_what_is_no_frame_of_cases(self):
         for columns, words in [

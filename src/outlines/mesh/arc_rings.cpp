@@ -21,13 +21,12 @@ bool IsFree(CPoint p, double clear, const std::vector<CEdge>& edges,
   for (CPoint other : points) {
     if (Distance(p, other) < clear) return false;
   }
-  CNear nearest{HUGE_VAL, false};
+  double turned = 0;
   for (const CEdge& edge : edges) {
-    const CNear near = Nearest(p, edge);
-    if (near.distance < clear) return false;
-    if (near.distance < nearest.distance) nearest = near;
+    if (Nearest(p, edge).distance < clear) return false;
+    turned += Turned(p, edge);
   }
-  return nearest.left;
+  return turned > std::numbers::pi;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "framework/elementary.h"
 
@@ -44,6 +45,19 @@ CNear Nearest(CPoint p, const CEdge& edge) {
   const bool left = (away < circle.radius) == (edge.Sweep() > 0);
   if (IsBeside(p, edge, circle)) return {std::fabs(away - circle.radius), left};
   return {std::min(Distance(p, a), Distance(p, b)), left};
+}
+
+double Turned(CPoint p, const CEdge& edge) {
+  const CPoint a = edge.At(0), b = edge.At(1);
+  const CPoint u{a.x - p.x, a.y - p.y}, v{b.x - p.x, b.y - p.y};
+  const double chord = Atan2(u.x * v.y - u.y * v.x, u.x * v.x + u.y * v.y);
+  if (!edge.IsArc()) return chord;
+  // Between the arc and its chord a whole turn more.
+  const CCircle circle = CircleOf(edge);
+  const double sense = edge.Sweep() > 0 ? 1 : -1;
+  const bool bBeyond = sense * (u.x * v.y - u.y * v.x) < 0;
+  const bool bBetween = bBeyond && Distance(p, circle.center) < circle.radius;
+  return bBetween ? chord + sense * 2 * std::numbers::pi : chord;
 }
 
 }  // namespace orv3

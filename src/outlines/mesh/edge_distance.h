@@ -26,5 +26,9 @@ bool IsBeside(CPoint p, const CEdge& arc, const CCircle& circle);
 CPoint Foot(CPoint p, CPoint a, CPoint b);
 CNear Nearest(CPoint p, CPoint a, CPoint b);
 CNear Nearest(CPoint p, const CEdge& edge);
+// The angle by which the line from p to a point turns while that runs along the edge, to the left
+// positive, in radians. All edges of loops together turn it by 2 pi where p lies within them, by 0
+// where it lies outside or in a hole.
+double Turned(CPoint p, const CEdge& edge);
 
 }  // namespace orv3

@@ -9,7 +9,8 @@ namespace {
 
 using std::int64_t;
 
-constexpr int64_t kFar = int64_t{1} << 29;  // corners of the triangle around everything
+constexpr int64_t kMostGrid = int64_t{1} << 28;
+constexpr int64_t kFar = 2 * kMostGrid;  // corners of the triangle around everything
 
 // Positive when c lies to the left of a -> b. Exact: differences have 31 bits.
 int64_t Side(CGridPoint a, CGridPoint b, CGridPoint c) {
@@ -397,6 +398,10 @@ std::vector<CTriangle> CTriangulator::Inside() const {
 
 std::optional<std::vector<CTriangle>> Triangulate(std::span<const CGridPoint> points,
                                                   std::span<const CGridEdge> edges) {
+  const auto isWithin = [](int64_t x) { return x >= 0 && x <= kMostGrid; };
+  for (CGridPoint p : points) {
+    if (!isWithin(p.x) || !isWithin(p.y)) return std::nullopt;
+  }
   CTriangulator triangulator(points, edges);
   for (const CGridEdge& edge : edges) {
     if (!triangulator.Lay(edge.from, edge.to)) return std::nullopt;

@@ -28,7 +28,8 @@ struct CTriangle {
 };
 
 // The triangles of the points where the edges' winding number is above 0; m_next -1 at the
-// boundary. Nothing when two edges cross, or the points enclose nothing. Points must differ.
+// boundary. Nothing when two edges cross, a point lies beyond the grid or the points enclose
+// nothing. Points must differ.
 std::optional<std::vector<CTriangle>> Triangulate(std::span<const CGridPoint> points,
                                                   std::span<const CGridEdge> edges);
 
