@@ -136,6 +136,7 @@ class CDxfReader {
     bool found = false;
     while (m_groups.Next(group)) {
       if (group.m_nCode == 9 && group.m_strValue == "$INSUNITS") ReadUnit();
+      if (group.m_nCode == 0 && group.m_strValue == "LAYER") ReadLayer();
       if (group.m_nCode != 0 || group.m_strValue != "SECTION") continue;
       if (!m_groups.Next(group) || group.m_nCode != 2 || group.m_strValue != "ENTITIES") continue;
       found = true;
@@ -170,6 +171,21 @@ class CDxfReader {
            "$INSUNITS " + value +
                " is not taken; right would be 4 (mm), or 0, 1 (inch), 2 (foot), 5 (cm), 6 (m), "
                "14 (dm)");
+  }
+
+  // A record of the table of layers: off with a colour below 0, frozen by a flag.
+  void ReadLayer() {
+    CEntity layer;
+    CGroup group;
+    while (m_groups.Next(group)) {
+      if (group.m_nCode == 0) {
+        m_groups.PutBack();
+        break;
+      }
+      if (group.m_nCode == 2) layer.m_strLayer = group.m_strValue;
+      layer.m_arrGroup.push_back(group);
+    }
+    if (layer.Value(62) < 0 || (layer.Flags() & 1) != 0) m_hidden.insert(Lowered(layer.m_strLayer));
   }
 
   // Coordinates in mm, and no edge without length: a repeated point counts once.
@@ -244,14 +260,16 @@ class CDxfReader {
     return entity.Value(67) == 0 && entity.Value(60) == 0;
   }
 
-  static char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
-
   // The case of a layer's name does not count.
+  static std::string Lowered(std::string name) {
+    for (char& c : name) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+    return name;
+  }
+
+  // On the layer asked for, or on any that is shown.
   bool IsOnLayer(const CEntity& entity) const {
-    const auto same = [](char a, char b) { return Lower(a) == Lower(b); };
-    return m_strLayer.empty() ||
-           std::equal(m_strLayer.begin(), m_strLayer.end(), entity.m_strLayer.begin(),
-                      entity.m_strLayer.end(), same);
+    const std::string layer = Lowered(entity.m_strLayer);
+    return m_strLayer.empty() ? !m_hidden.contains(layer) : layer == Lowered(m_strLayer);
   }
 
   void Take(const CEntity& entity) {
@@ -365,6 +383,7 @@ class CDxfReader {
   CGroups m_groups;
   const std::string& m_strLayer;
   double m_dMm = 1;
+  std::set<std::string> m_hidden;  // layers that are off or frozen
   std::size_t m_nPoints = 0;
   std::vector<CPath> m_arrClosed;
   std::vector<CPath> m_arrOpen;

@@ -126,6 +126,13 @@ std::string Line(const std::string& ends) {  // "x y x y"
   return text;
 }
 
+// The layers, B with a group of its own.
+std::string Hidden(const std::string& group) {
+  return "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n0\nLAYER\n2\nA\n70\n0\n62\n7\n0\nLAYER\n2\nB"
+         "\n" +
+         group + "0\nENDTAB\n0\nENDSEC\n";
+}
+
 TEST(DxfOutline, ReadsWhatPathsAreWrittenAs) {
   const CLoops drawn{RectPath(0, 0, 30, 20), CirclePath({15, 10}, 5)};
   CLoops read;
@@ -151,6 +158,7 @@ TEST(DxfOutline, JoinsLinesAndArcs) {
       "0\nPOLYLINE\n8\nA\n70\n1\n230\n-1\n0\nVERTEX\n10\n5\n20\n0\n42\n1\n0\nVERTEX\n10\n-"
       "5\n20\n0\n"
       "0\nSEQEND\n8\nA\n";
+  const std::string onB = "0\nCIRCLE\n8\nb\n10\n0\n20\n2\n40\n1\n";
   const double half = 12.5 * std::acos(-1.0);
   const struct {
     const char* what;
@@ -166,6 +174,8 @@ TEST(DxfOutline, JoinsLinesAndArcs) {
       {"a text beside", Dxf(arc + Line("-5 0 5 0") + "0\nTEXT\n1\nH300\n"), half, ""},
       {"on paper, hidden", Dxf(arc + Line("-5 0 5 0") + "0\nLINE\n67\n1\n0\nSPLINE\n60\n1\n"), half,
        ""},
+      {"on a layer that is off", Hidden("62\n-7\n") + Dxf(arc + Line("-5 0 5 0") + onB), half, ""},
+      {"on a frozen layer", Hidden("70\n1\n") + Dxf(arc + Line("-5 0 5 0") + onB), half, ""},
       {"miles", Dxf(arc, "3"), 0, "$INSUNITS 3 is not taken"},
       {"a gap", Dxf(arc + Line("-5 0 4.9 0")), 0, "open at (4.9, 0)"},
       {"a line too many", Dxf(arc + Line("-5 0 5 0") + Line("5 0 9 9")), 0, "more than two edges"},
