@@ -4,6 +4,7 @@
 #include <cmath>
 #include <compare>
 #include <iterator>
+#include <numbers>
 #include <optional>
 #include <vector>
 
@@ -185,6 +186,8 @@ struct CSectionSolver::CState {
   void Solve(std::span<const CPath> loops);
   void Unfold();
   void TakeFigures();
+  std::vector<double> PlacesAlong(const CSectionMesh& mesh, const CStretch& stretch,
+                                  const CSectionForces& forces) const;
   void AddStresses(std::size_t part, const CSectionForces& forces,
                    std::vector<CBoundaryStress>& to) const;
   void AddStressesInside(std::size_t part, const CSectionForces& forces,
@@ -305,6 +308,31 @@ double CSectionSolver::CState::Sigma(CPoint p, const CSectionForces& f) const {
   return f.N / s.A + (f.Mx * (s.Iy * p.y - s.Ixy * p.x) + f.My * (s.Ix * p.x - s.Ixy * p.y)) / det;
 }
 
+// Where along a stretch stresses are told: at equal parts, and where an arc has its extreme of
+// sigma.
+std::vector<double> CSectionSolver::CState::PlacesAlong(const CSectionMesh& mesh,
+                                                        const CStretch& stretch,
+                                                        const CSectionForces& f) const {
+  std::vector<double> parts = {0, 0.25, 0.5, 0.75};
+  const CEdge& edge = mesh.m_arrEdge[static_cast<std::size_t>(stretch.m_nEdge)];
+  if (!edge.IsArc()) return parts;
+  const CExactProperties& s = m_properties;
+  const CPoint slope{f.My * s.Ix - f.Mx * s.Ixy, f.Mx * s.Iy - f.My * s.Ixy};
+  const auto along = [&](double at) {
+    const CPoint d = edge.Derivative(at);
+    return d.x * slope.x + d.y * slope.y;
+  };
+  const double first = along(stretch.m_dFrom);
+  if (!(first * along(stretch.m_dTo) < 0)) return parts;
+  const CPoint d = edge.Derivative(stretch.m_dFrom);
+  const double turn = edge.Sweep() * (stretch.m_dTo - stretch.m_dFrom);
+  double angle = Atan2(-first, d.x * slope.y - d.y * slope.x);
+  if (angle * turn < 0) angle += std::copysign(std::numbers::pi, turn);
+  parts.push_back(std::clamp(angle / turn, 0.0, 1.0));
+  std::sort(parts.begin(), parts.end());
+  return parts;
+}
+
 void CSectionSolver::CState::AddStresses(std::size_t part, const CSectionForces& f,
                                          std::vector<CBoundaryStress>& to) const {
   const CSaintVenant& solved = m_parts[part];
@@ -332,14 +360,14 @@ void CSectionSolver::CState::AddStresses(std::size_t part, const CSectionForces&
       m_properties.m_bJoined || f.Vx == 0 ? f.Vx / square : CExactProperties::kUnknown;
   const double shearY =
       m_properties.m_bJoined || f.Vy == 0 ? f.Vy / square : CExactProperties::kUnknown;
-  constexpr int kPoints = 4;  // of each stretch
   const std::vector<char> coarse = CoarseAtArcs(mesh);
   for (const CSide& side : sides) {
     const CMeshTriangle& triangle = mesh.m_arrTriangle[side.triangle];
     const auto vertex = static_cast<std::size_t>(triangle.m_vertex[side.side]);
-    for (int i = 0; i < kPoints; ++i) {
+    const int s = triangle.m_stretch[side.side];
+    for (const double at : PlacesAlong(mesh, mesh.m_arrStretch[static_cast<std::size_t>(s)], f)) {
       const auto traction = [&](CSolution of) {
-        return solved.Traction(side.triangle, static_cast<int>(side.side), 1.0 * i / kPoints, of);
+        return solved.Traction(side.triangle, static_cast<int>(side.side), at, of);
       };
       const auto tau = [&](const CEdgeTraction& t) {
         return twist * t.m_dTwist + shearX * t.m_dX + shearY * t.m_dY;
@@ -354,7 +382,7 @@ void CSectionSolver::CState::AddStresses(std::size_t part, const CSectionForces&
       stress.tauError = std::fabs(stress.tau - tau(traction(CSolution::Coarse)));
       stress.m_bCoarse = coarse[side.triangle];
       stress.mises = std::sqrt(stress.sigma * stress.sigma + 3 * stress.tau * stress.tau);
-      stress.m_bSharp = i == 0 && mesh.m_arrSharp[vertex];
+      stress.m_bSharp = at == 0 && mesh.m_arrSharp[vertex];
       to.push_back(stress);
     }
   }

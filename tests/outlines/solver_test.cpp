@@ -316,6 +316,22 @@ TEST(SectionSolver, GivesStressesAtTheBoundary) {
   }
 }
 
+// Between the points of an arc, on either side of a wall.
+TEST(SectionSolver, FindsTheGreatestNormalStressOfAnArc) {
+  constexpr double kPi = std::numbers::pi;
+  for (const double aslant : {0.1, 0.7, 2.2, 4.0}) {
+    const CSectionForces forces{.Mx = 5e6 * std::cos(aslant), .My = 5e6 * std::sin(aslant)};
+    double greatest = 0, least = 0;
+    for (const CBoundaryStress& s : CSectionSolver(Ring(50, 40)).Stresses(forces)) {
+      greatest = std::max(greatest, s.sigma);
+      least = std::min(least, s.sigma);
+    }
+    const double exact = 5e6 * 50 / (kPi / 4 * (6.25e6 - 2.56e6));
+    EXPECT_NEAR(greatest, exact, 1e-6 * exact) << aslant;
+    EXPECT_NEAR(least, -exact, 1e-6 * exact) << aslant;
+  }
+}
+
 // Weber's shaft with a groove of circular section: the shear in its bottom is that of a shaft
 // without it, T R / It, times 2 - b / R.
 TEST(SectionSolver, GivesTheShearInAGroove) {
