@@ -1,5 +1,5 @@
-// What joins the limbs of a lattice column: GB
-// 50017-2017, 7.2.5, 7.2.7, 7.3.1, 7.3.2, 7.6.1, 7.6.3; GB 50017-2003, 3.4.2, 5.1.6, 5.4.1, 8.4.1.
+// The bond of a lattice column's limbs: GB 50017-2017, 7.2.5, 7.2.7, 7.3.1, 7.3.2, 7.6.1, 7.6.3;
+// GB 50017-2003, 3.4.2, 5.1.6, 5.4.1, 8.4.1.
 #include <numbers>
 #include <string_view>
 
