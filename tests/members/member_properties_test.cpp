@@ -327,9 +327,8 @@ TEST_F(CMembers, TheJumpsAreTheCodes) {
     c.m_dN = N;
     return c;
   };
-  CMemberCase ends = pressed(Sizes("h", {300, 400, 20, 10}, "Q345", 6000, 3000), -800);
+  CMemberCase ends = pressed(Sizes("h", {300, 400, 20, 10}, "Q345", 3000, 3000), -800);
   ends.m_Mx.m_arrEach = {150000, -150000};
-  ends.m_dSupports = 0;
   CMemberCase loaded = ends;
   loaded.m_strLoad = "uniform";
   loaded.m_dMqx = 0.001;

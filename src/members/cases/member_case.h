@@ -100,7 +100,7 @@ class ORV3CAL_API CMemberCheck {
   bool ReadForces(const CMemberCase& input);
   bool ReadCourse(const char* key, const CSpacing& moment, const char* loadKey, double Mq,
                   CMomentCourse& course);
-  void ReadParts(const CMemberCase& input);
+  void ReadParts();
   bool ReadLengths(const CMemberCase& input, const CMemberRow& section);
   void NoteGiven(const CMemberCase& input, const CMemberSection& s);
   bool ReadNet(const CMemberCase& input);

@@ -186,8 +186,8 @@ bool CMemberCheck::ReadForces(const CMemberCase& input) {
 }
 
 // Between lateral supports: by their number, and by lengths that are shorter than the member's in
-// the plane of the moment; without supports, if so it is said, the whole member.
-void CMemberCheck::ReadParts(const CMemberCase& input) {
+// the plane of the moment.
+void CMemberCheck::ReadParts() {
   const auto share = [](double part, double whole) {
     constexpr double kLastDigits = 1e-9;
     const double share = part / whole;  // nan without one of both
@@ -196,9 +196,7 @@ void CMemberCheck::ReadParts(const CMemberCase& input) {
   m_loads.m_dPartX =
       std::min(share(m_loads.m_dLy, m_loads.m_dLx), share(m_loads.m_dSpan, m_loads.m_dLx));
   m_loads.m_dPartY = share(m_loads.m_dLx, m_loads.m_dLy);
-  if (std::isnan(input.m_dSupports)) return;
-  const double equal = 1.0 / (m_loads.m_nSupports + 1);
-  m_loads.m_dPartX = m_loads.m_nSupports == 0 ? 1 : std::min(m_loads.m_dPartX, equal);
+  m_loads.m_dPartX = std::min(m_loads.m_dPartX, 1.0 / (m_loads.m_nSupports + 1));
 }
 
 bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& section) {
@@ -233,7 +231,7 @@ bool CMemberCheck::ReadLengths(const CMemberCase& input, const CMemberRow& secti
   if ((bSpanX && !positive("lengths.span", m_loads.m_dSpan)) ||
       (bSpanY && !positive("lengths.span", m_loads.m_dSpanY)))
     return false;
-  ReadParts(input);
+  ReadParts();
   m_loads.m_dLimit = 0;
   if (std::isnan(input.m_dLimit)) return true;
   constexpr double kMostLimit = 1000;  // 2.5 times the code's greatest, of bracing in tension
