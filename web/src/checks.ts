@@ -3,7 +3,7 @@
 import { change, state } from "./address";
 import { ask, sentence, type Answer } from "./client";
 import { csvRows, csvText } from "./csv";
-import { button, bytesOf, copyButton, download, dropPlace, el, fault, field, latest, picture, select } from "./dom";
+import { button, bytesOf, copyButton, download, dropPlace, el, fault, field, latest, noAnswer, picture, select } from "./dom";
 import bolt from "../../examples/bolt.json";
 import butt from "../../examples/butt.json";
 import fillet from "../../examples/fillet.json";
@@ -33,8 +33,9 @@ const kindTitle = (kind: Kind): string =>
     lattice: say("格构柱", "Lattice column"),
   })[kind];
 
-export function editions(changed: () => void): HTMLElement {
-  const list: [string, string][] = [["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`], ["both", say("两版", "both editions")]];
+export function editions(changed: () => void, both = true): HTMLElement {
+  const list: [string, string][] = [["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`]];
+  if (both) list.push(["both", say("两版", "both editions")]);
   return field(say("规范版本", "Edition"), select(list, state()["code"] ?? "2017", (code) => {
     change({ code: code === "2017" ? "" : code });
     changed();
@@ -65,6 +66,7 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const form = new Form(kind, schemaOf(kind), (value) => {
     change({ case: JSON.stringify(value) });
+    view.classList.add("waiting");
     void show();
   }, ["code"]);
   const show = latest(
@@ -72,9 +74,9 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
     (answer) => {
       const done = answer.status <= 1 && answer.out !== "";
       form.blame(done ? "" : sentence(answer, kFile));
-      view.classList.toggle("stale", !done);
-      jump.textContent = done ? verdictLine(kind, answer) : say("未能验算", "not checked");
-      if (done) view.replaceChildren(...(kind === "lattice" ? latticeView(answer) : answerView(kind, answer)));
+      view.classList.remove("waiting");
+      jump.textContent = done ? verdictLine(kind, answer) : say("没有结果", "no answer");
+      view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer)));
     },
   );
   // On a narrow screen the answer is below the form; this line of it stays in sight.

@@ -74,12 +74,18 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   };
   const code = () => (state()["code"] === "2003" ? "2003" : "2017");
   const line = (given: string[]) => ["code", question, ...given.filter((value) => value !== ""), "--code", code(), "--json"];
+  const around = el("div");
   const show = latest(
-    async (): Promise<[Answer, HTMLElement | null]> => {
-      const answer = await ask(line(values()));
-      return [answer, answer.status === 0 ? await table(kAxes[question], values(), line) : null];
+    (): Promise<[Answer, string[]]> => {
+      const asked = values();
+      return ask(line(asked)).then((answer) => [answer, asked]);
     },
-    ([answer, around]) => view.replaceChildren(answer.status === 0 ? figure(answer) : el("p", { class: "fault", role: "alert" }, sentence(answer)), around ?? ""),
+    ([answer, asked]) => {
+      const why = answer.status === 0 ? "" : sentence(answer);
+      view.replaceChildren(why ? el("p", { class: "fault", role: "alert" }, why) : figure(answer), around);
+      around.replaceChildren();
+      if (!why) void table(around, kAxes[question], asked, line);
+    },
   );
   const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => {
     change({ ask: next, args: "" }, true);
@@ -107,27 +113,33 @@ function among(list: string[], value = ""): string[] {
   return numbers ? [...list, value].sort((a, b) => Number(a) - Number(b)) : [...list, value];
 }
 
-async function table(axes: Record<number, string[]> | undefined, values: string[], line: (given: string[]) => string[]): Promise<HTMLElement | null> {
+// Fills the place with the table, row by row; stops when the place is taken for another one.
+async function table(place: HTMLElement, axes: Record<number, string[]> | undefined, values: string[], line: (given: string[]) => string[]): Promise<void> {
   const [first, second] = Object.entries(axes ?? {}).map(([at, list]) => [Number(at), list] as const);
-  if (!first) return null;
+  if (!first) return;
   const [rowAt, columnAt] = [first[0], second?.[0] ?? -1];
   const [rows, columns] = [among(first[1], values[rowAt]), second ? among(second[1], values[columnAt]) : [""]];
   const body = el("tbody");
-  for (const row of rows) {
-    const made = el("tr", {}, el("th", { scope: "row" }, row));
+  const head = el("tr", {}, el("td"), ...columns.map((column) => el("th", { scope: "col", class: "num" }, column || say("值", "value"))));
+  const whole = el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("表", "Table") },
+    el("table", { class: "figures list" }, el("caption", {}, say("与其他值并列（所查的一格加底色）", "Beside others, the asked cell marked")), el("thead", {}, head), body));
+  const lines = rows.map((row) => el("tr", {}, el("th", { scope: "row" }, row), ...columns.map(() => el("td", { class: "num" }, "…"))));
+  body.append(...lines);
+  place.replaceChildren(whole);
+  for (const [i, row] of rows.entries()) {
     const answers = await Promise.all(columns.map((column) => {
       const given = [...values];
       given[rowAt] = row;
       if (columnAt >= 0) given[columnAt] = column;
       return run(line(given));
     }));
-    answers.forEach((answer, i) => {
-      const marked = row === values[rowAt] && (columnAt < 0 || columns[i] === values[columnAt]);
-      const value = answer.status === 0 ? shown((JSON.parse(answer.out) as CodeJson).value) : "–";
-      made.append(el("td", { class: marked ? "num marked" : "num", "aria-current": marked ? "true" : null }, value));
+    if (!whole.isConnected) return;
+    answers.forEach((answer, at) => {
+      const cell = lines[i]!.children[at + 1]!;
+      cell.textContent = answer.status === 0 ? shown((JSON.parse(answer.out) as CodeJson).value) : "–";
+      if (row !== values[rowAt] || (columnAt >= 0 && columns[at] !== values[columnAt])) return;
+      cell.classList.add("marked");
+      cell.setAttribute("aria-current", "true");
     });
-    body.append(made);
   }
-  const head = el("tr", {}, el("td"), ...columns.map((column) => el("th", { scope: "col", class: "num" }, column || say("值", "value"))));
-  return el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("表", "Table") }, el("table", { class: "figures list" }, el("caption", {}, say("与其他值并列（所查的一格加底色）", "Beside others, the asked cell marked")), el("thead", {}, head), body));
 }

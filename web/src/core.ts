@@ -74,7 +74,7 @@ export class Core {
         own: exists(FS, `${kOwnFolder}/${kStore}`) ? FS.readFile(`${kOwnFolder}/${kStore}`) : null,
       };
     } finally {
-      this.next = this.prepare();
+      this.next = new Promise((done) => setTimeout(() => done(this.prepare()))); // when the answer has gone out
     }
   }
 

@@ -77,6 +77,14 @@ export class Form {
     for (let at = found.note.closest("details"); at; at = at.parentElement!.closest("details")) at.open = true;
   }
 
+  // Leads to the field that was blamed.
+  readonly mend = (): void => {
+    const blamed = this.element.querySelector<HTMLElement>('[aria-invalid="true"]') ?? this.element;
+    const field = blamed.matches("input, select") ? blamed : blamed.querySelector<HTMLElement>("input, select");
+    field?.scrollIntoView({ block: "center" });
+    field?.focus();
+  };
+
   private remember(): void {
     this.past.push(JSON.stringify(this.value));
     if (this.past.length > 200) this.past.shift();
@@ -225,5 +233,5 @@ function valueOf(text: string, schema: Schema): unknown {
 function one(text: string, schema: Schema): unknown {
   const number = /^[+-]?(\d+\.?\d*|\.\d+)(e[+-]?\d+)?$/i.test(text.trim()) ? Number(text) : Number.NaN;
   const numeric = isType(schema, "number") || isType(schema, "integer");
-  return Number.isNaN(number) || !numeric ? text.trim() : number;
+  return Number.isFinite(number) && numeric ? number : text.trim();
 }

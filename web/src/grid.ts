@@ -21,7 +21,8 @@ interface Wishes {
 }
 
 const kRowHeight = 30;
-const kMargin = 12; // rows above and below what is in sight
+const kMargin = 16; // rows above and below what is in sight
+const kNear = 6; // of them, when the next are drawn
 
 const number = (text: string) => (text.trim() === "" ? Number.NEGATIVE_INFINITY : Number(text));
 
@@ -37,6 +38,7 @@ export class Grid {
   private rows: string[][];
   private order: string[][] = [];
   private current = -1;
+  private drawn: [first: number, last: number] = [0, 0];
   private sort: string;
   private readonly headings: HTMLElement[] = [];
 
@@ -63,7 +65,7 @@ export class Grid {
       this.body,
     );
     this.element = el("div", { class: "grid", tabindex: 0, role: "group", "aria-label": wishes.label, onkeydown: (event: KeyboardEvent) => this.key(event) }, table);
-    this.element.addEventListener("scroll", () => this.draw(), { passive: true });
+    this.element.addEventListener("scroll", () => void (this.isDrawn() || this.draw()), { passive: true });
     new ResizeObserver(() => this.draw()).observe(this.element);
     this.show(wishes.rows);
   }
@@ -122,9 +124,20 @@ export class Grid {
     event.preventDefault();
   }
 
+  // The rows in sight and so many above and below.
+  private around(more: number): [first: number, last: number] {
+    const top = Math.floor(this.element.scrollTop / kRowHeight);
+    const rows = Math.ceil((this.element.clientHeight || 600) / kRowHeight);
+    return [Math.max(0, top - more), Math.min(this.order.length, top + rows + more)];
+  }
+
+  private isDrawn(): boolean {
+    const [first, last] = this.around(kNear);
+    return this.drawn[0] <= first && last <= this.drawn[1];
+  }
+
   private draw(): void {
-    const first = Math.max(0, Math.floor(this.element.scrollTop / kRowHeight) - kMargin);
-    const last = Math.min(this.order.length, first + Math.ceil((this.element.clientHeight || 600) / kRowHeight) + 2 * kMargin);
+    const [first, last] = (this.drawn = this.around(kMargin));
     const gap = (rows: number) => {
       const cell = el("td", { colspan: this.wishes.columns.length + 1 });
       cell.style.height = `${rows * kRowHeight}px`;

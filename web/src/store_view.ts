@@ -6,6 +6,7 @@ import { bytesOf, button, download, dropPlace, el, fault, field, select } from "
 import { say } from "./language";
 import { tables } from "./sections";
 import { sheetsOf, workbook, type Sheet } from "./workbook";
+import { zip } from "./zip";
 
 // A workbook's sheets as CSV files, each named for its table; a line of Chinese titles above the
 // signs, as exports have it, is left out.
@@ -61,6 +62,10 @@ export async function storeView(place: HTMLElement): Promise<void> {
       tell(await (which.value ? exportWorkbook(`${which.value}.xlsx`, [which.value]) : exportWorkbook(name, filled())));
       return;
     }
+    if (form === "csv" && !which.value) {
+      tell(await exportTexts("store.zip", filled()));
+      return;
+    }
     const answer = await ask(["store", "export", ...(which.value ? [which.value] : []), "--to", name]);
     for (const [made, bytes] of Object.entries(answer.files)) download(which.value ? `${which.value}.${form}` : made, bytes);
     tell(answer);
@@ -101,6 +106,18 @@ async function sheetOf(table: string): Promise<Sheet> {
   const heads = [columns.map((column) => column.name), columns.map((column) => column.sign)];
   const numeric = columns.map((column) => column.type !== "text" && column.type !== "char");
   return { name: table, rows: [...heads, ...rows.map((row) => row.cells)], numeric, heads: 2 };
+}
+
+// Whole tables as CSV files, of which each holds one table, in one archive.
+async function exportTexts(name: string, tables: string[]): Promise<Answer> {
+  const texts: [string, Uint8Array][] = [];
+  for (const table of tables) {
+    const answer = await ask(["store", "export", table, "--to", "table.csv"]);
+    if (answer.status !== 0) return answer;
+    texts.push([`${table}.csv`, answer.files["table.csv"]!]);
+  }
+  download(name, zip(texts));
+  return { status: 0, out: say(`${name}：${texts.length} 个表，每表一个 CSV 文件`, `${name}: ${texts.length} tables, a CSV file for each`), err: "", files: {} };
 }
 
 // Whole tables as sheets of one workbook.
