@@ -26,7 +26,7 @@ export async function start() {
 // `before` runs in the tab before the page does.
 export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860], before = () => {}) {
   const page = await context.newPage();
-  page.setDefaultTimeout(120_000);
+  page.setDefaultTimeout(Number(process.env.PAGE_TIMEOUT ?? 120_000));
   await page.evaluateOnNewDocument(before);
   page.faults = [];
   page.on("request", (request) => {

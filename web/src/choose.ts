@@ -1,9 +1,9 @@
 // The lightest sections of chosen tables that pass a member's case.
 import member from "../../examples/member.json";
 import { change, go, state } from "./address";
-import { editions } from "./checks";
+import { caseInLink, editions, unreadLink } from "./checks";
 import { ask, sentence, type Answer } from "./client";
-import { button, el, field, latest, noAnswer, picture } from "./dom";
+import { button, computing, el, field, latest, noAnswer, picture } from "./dom";
 import { shown } from "./figures";
 import { Form, type Case } from "./form";
 import { say } from "./language";
@@ -21,18 +21,15 @@ interface ChooseJson {
 
 const kFile = "case.json";
 
-function kept(): Case {
-  try {
-    return JSON.parse(state()["case"] ?? "") as Case;
-  } catch {
-    const { section: _, edges: __, code: ___, ...rest } = structuredClone(member) as Case;
-    return rest;
-  }
+function kept(): Case | null {
+  const { section: _, edges: __, code: ___, ...rest } = structuredClone(member) as Case;
+  return caseInLink(rest);
 }
 
 export async function choose(place: HTMLElement): Promise<void> {
   const rolled = (await tables()).filter((table) => table.rows > 0);
   const chosen = new Set((state()["tables"] ?? "热轧普通焊接H型钢,热轧窄翼缘H型钢").split(",").filter((name) => rolled.some((table) => table.name === name)));
+  const first = kept();
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const note = el("p", { class: "note", role: "status" });
   const boxes = rolled.map((table) => {
@@ -74,15 +71,15 @@ export async function choose(place: HTMLElement): Promise<void> {
     },
   );
   const start = button(say("选择", "Choose"), () => {
-    view.replaceChildren(el("p", { class: "note", role: "status" }, say("试算中…", "Trying…")));
+    view.replaceChildren(computing());
     void find();
   }, { class: "main" });
   place.replaceChildren(
-    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), editions(outdated, false),
+    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(), editions(outdated, false),
       el("details", { class: "group", open: innerWidth > 860 }, el("summary", {}, say("截面表", "Tables")), ...boxes),
       field(say("自定义截面 --style", "Own section --style"), style), field(say("最多行数", "Rows at most"), top), start, note, form.element),
     el("div", { class: "answer" }, view));
-  form.set(kept());
+  form.set(first ?? {});
   await find();
 }
 

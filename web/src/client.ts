@@ -9,6 +9,19 @@ export type { Answer, Files } from "./core";
 const waiting = new Map<number, (answer: Answer) => void>();
 let orders = 0;
 
+// Told when an answer takes long (the start of the page aside), and when it has come.
+let busyShown: (busy: boolean) => void = () => {};
+export const onBusy = (show: (busy: boolean) => void) => void (busyShown = show);
+const kLong = 700; // ms
+let answered = false;
+let busyTimer = 0;
+function tellBusy(busy: boolean): void {
+  clearTimeout(busyTimer);
+  busyTimer = 0;
+  if (!busy) busyShown(false);
+  else if (answered) busyTimer = setTimeout(() => busyShown(true), kLong);
+}
+
 // Whether the browser lets this page keep anything: asked of the one storage that says so.
 export function keepsStore(): boolean {
   try {
@@ -35,6 +48,8 @@ async function start(): Promise<Worker> {
   worker.onmessage = ({ data }: MessageEvent<Reply>) => {
     waiting.get(data.id)?.(data.answer);
     waiting.delete(data.id);
+    answered = true;
+    if (waiting.size === 0) tellBusy(false);
   };
   worker.postMessage(await inside);
   return worker;
@@ -49,11 +64,13 @@ export async function stop(): Promise<void> {
   const err = `orv3cal: ${say("已停止", "stopped")}\n`;
   for (const done of waiting.values()) done({ status: 3, out: "", err, files: {} });
   waiting.clear();
+  tellBusy(false);
 }
 
 async function order(what: object): Promise<Answer> {
   const worker = await started;
   return new Promise((done) => {
+    if (waiting.size === 0) tellBusy(true);
     waiting.set(++orders, done);
     worker.postMessage({ id: orders, ...what });
   });
@@ -67,6 +84,20 @@ export function run(argv: string[], files: Files = {}): Promise<Answer> {
 // A command line in the page's language.
 export function ask(argv: string[], files: Files = {}): Promise<Answer> {
   return run([...argv, "--lang", language()], files);
+}
+
+const kWarmRuns = 30;
+let warmed = false;
+
+// Runs a line while nobody asks for anything: browsers compile well only what has run often, and the first
+// keys are to be followed as fast as the later ones.
+export async function warm(argv: string[], goOn: () => boolean): Promise<void> {
+  if (warmed) return;
+  warmed = true;
+  for (let i = 0; i < kWarmRuns && goOn(); ++i) {
+    await new Promise((done) => setTimeout(done, 20));
+    if (waiting.size === 0) await run(argv);
+  }
 }
 
 // What a command line in JSON answers; its sentence is the error where it answers nothing.

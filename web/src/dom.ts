@@ -143,3 +143,5 @@ export function noAnswer(why: string, mend: (() => void) | null = null): HTMLEle
   return el("p", { class: "box none" }, el("b", {}, say("没有结果", "No answer")), why && ` · ${why} `,
     mend && button(say("到该栏", "Go to the field"), mend, { class: "quiet" }));
 }
+
+export const computing = () => el("p", { class: "note", role: "status" }, say("计算中…", "Computing…"));

@@ -1,13 +1,13 @@
 // Own sections: a style with its sizes typed beside the picture, or any outline from a file.
 import { change, state } from "./address";
-import { ask, sentence, told, type Answer } from "./client";
-import { button, dropPlace, el, field, latest, newId, noAnswer, select } from "./dom";
+import { ask, sentence, told, warm, type Answer } from "./client";
+import { button, computing, dropPlace, el, field, latest, newId, noAnswer, select } from "./dom";
 import { signParts } from "./figures";
 import { language, say } from "./language";
 import { givenOutline, outlineView, takeOutline } from "./own_outline";
 import { sectionView } from "./section_view";
 
-interface StyleJson {
+export interface StyleJson {
   style: number;
   alias: string;
   table: string;
@@ -37,12 +37,12 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   const inputs = chosen.sizes.map((size, i) => {
     const [sign, unit] = signParts(size.sign);
     const input = typed(given[i] ?? "", () => void compute(), { "aria-describedby": note.id });
-    return { sign: size.sign, input, row: field(`${sign} · ${language() === "zh" ? size.title : size.meaning}`, input, unitMark(unit)) };
+    return { sign: size.sign, cell: size.sign, input, row: field(`${sign} · ${language() === "zh" ? size.title : size.meaning}`, input, unitMark(unit)) };
   });
   const base = ["X", "Y"].map((axis, i) => {
     const input = typed((state()["base"] ?? "0,0").split(",")[i] ?? "0", () => void compute(), { "aria-describedby": note.id });
     const label = say(`基点 ${axis.toLowerCase()}`, `base point ${axis.toLowerCase()}`);
-    return { sign: `--base ${axis}`, input, row: field(label, input, unitMark("mm")) };
+    return { sign: `--base ${axis}`, cell: `${axis.toLowerCase()}(mm)`, input, row: field(label, input, unitMark("mm")) };
   });
   const fields = [...inputs, ...base];
   const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => change({ name: name.value }) });
@@ -69,11 +69,20 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     change({ style: chosen.alias, sizes: sizes().join(","), base: base.map(({ input }) => input.value).join(","), outline: "", shape: "", layer: "" });
     await show(line(), `${chosen.table} ${sizes().join("×")}`);
   };
-  const save = async () => {
-    const cells = inputs.flatMap(({ sign, input }) => ["--set", `${sign}=${input.value.trim()}`]);
-    const answer = await ask(["store", "add", chosen.table, "--set", `No.=${name.value}`, ...cells]);
-    saved.textContent = answer.status === 0 ? answer.out : sentence(answer);
+  const cells = () => fields.flatMap(({ cell, input }) => ["--set", `${cell}=${input.value.trim() || "0"}`]);
+  const tellSaved = (answer: Answer) => {
+    saved.replaceChildren(answer.status === 0 ? answer.out : sentence(answer));
     saved.classList.toggle("fault", answer.status !== 0);
+  };
+  // A name that is there is replaced when that is asked for alone.
+  const save = async () => {
+    const no = name.value;
+    if (no.trim() === "" || (await ask(["show", chosen.table, no, "--json"])).status !== 0) {
+      return tellSaved(await ask(["store", "add", chosen.table, "--set", `No.=${no}`, ...cells()]));
+    }
+    const replace = button(say("替换", "Replace it"), async () => tellSaved(await ask(["store", "edit", chosen.table, no, ...cells()])));
+    saved.classList.remove("fault");
+    saved.replaceChildren(say(`库中已有“${no}”。 `, `"${no}" is there already. `), replace);
   };
   const style = select(styles.map((each) => [each.alias, `${each.style} ${language() === "zh" ? each.table : each.shape}`]), chosen.alias, (alias) => {
     change({ style: alias, sizes: "", outline: "", shape: "", layer: "" }, true);
@@ -81,6 +90,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   });
   const layer = el("input", { type: "text", autocomplete: "off", value: state()["layer"] ?? "", oninput: () => {
     change({ layer: layer.value });
+    view.replaceChildren(computing());
     void showOutline();
   } });
   const showOutline = latest(() => outlineView(layer.value.trim()), (shown) => {
@@ -94,10 +104,12 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", async ([file]) => {
       if (!file) return;
       await takeOutline(file);
+      view.replaceChildren(computing());
       await showOutline();
     }),
     field(say("DXF 的图层（不填为全部）", "Layer of the DXF (all if left empty)"), layer));
   place.replaceChildren(form, view);
   if (await givenOutline()) await showOutline();
   else await compute();
+  void warm([...line(), "--json", "--svg", "picture.svg"], () => view.isConnected);
 }

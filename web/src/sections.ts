@@ -63,7 +63,7 @@ function compared(): string[] {
   return (state()["compare"] ?? "").split(";").filter(Boolean);
 }
 
-async function comparison(place: HTMLElement): Promise<void> {
+async function comparison(place: HTMLElement, left: () => void): Promise<void> {
   const list = compared();
   if (list.length === 0) return place.replaceChildren();
   const sections = (await Promise.all(list.map((each) => ask(["show", ...each.split("|"), "--json"]))))
@@ -79,7 +79,7 @@ async function comparison(place: HTMLElement): Promise<void> {
   });
   const head = el("tr", {}, el("th", { scope: "col" }, say("量", "figure")), el("th", { scope: "col" }, say("单位", "unit")));
   list.forEach((each) => head.append(el("th", { scope: "col", class: "num" }, each.split("|")[1] ?? "",
-    button("×", () => { change({ compare: compared().filter((other) => other !== each).join(";") }); void comparison(place); },
+    button("×", () => { change({ compare: compared().filter((other) => other !== each).join(";") }); left(); void comparison(place, left); },
       { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${each.split("|")[1]}` }))));
   const body = el("tbody");
   for (const [key, values] of lines) {
@@ -120,7 +120,7 @@ export async function sections(place: HTMLElement): Promise<void> {
   const first = state()["no"] ?? all[0]?.[key];
   const detailed = first ? showDetail(first) : null;  // its command runs while the rows are drawn
   const isMarked = (row: string[]) => compared().includes(`${table}|${row[key]}`);
-  const grid = new Grid({
+  const grid: Grid = new Grid({
     label: table,
     columns: columns.map<Column>((column) => ({ name: column.sign, title: column.name, numeric: isNumeric(column.type) })),
     rows: all,
@@ -131,7 +131,7 @@ export async function sections(place: HTMLElement): Promise<void> {
     marked: { has: isMarked, toggle: (row) => {
       const each = `${table}|${row[key]}`;
       change({ compare: (isMarked(row) ? compared().filter((other) => other !== each) : [...compared(), each]).join(";") });
-      void comparison(beside);
+      void comparison(beside, () => grid.draw());
     } },
   });
   const words = () => (state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
@@ -155,7 +155,7 @@ export async function sections(place: HTMLElement): Promise<void> {
   place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
   filter();
   grid.reveal();
-  void comparison(beside);
+  void comparison(beside, () => grid.draw());
   await detailed;
 }
 

@@ -33,7 +33,7 @@ const kChecks: Record<string, string> = {
 };
 export const checkName = (name: string): string => (language() === "zh" ? (kChecks[name] ?? name) : name);
 
-const percent = (ratio: number | null | undefined) => (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(4)))} %`);
+export const percent = (ratio: number | null | undefined) => (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(4)))} %`);
 
 function bar(name: string, ratio: number | null | undefined, pass: boolean, note = ""): HTMLElement {
   const width = Math.min(Math.max(ratio ?? 1, 0), 1.25) / 1.25;

@@ -10,7 +10,7 @@ const escaped = (text: string) =>
   text.replace(/[\u0000-\u0008\u000b\u000c\u000e-\u001f]/g, "").replaceAll("&", "&amp;").replaceAll("<", "&lt;").replaceAll('"', "&quot;");
 
 function cellXml(text: string, numeric: boolean): string {
-  if (numeric && text.trim() !== "" && Number.isFinite(Number(text))) return `<c><v>${Number(text)}</v></c>`;
+  if (numeric && text.trim() !== "" && Number.isFinite(Number(text))) return `<c><v>${text.trim()}</v></c>`; // as it is written: an import compares texts
   return `<c t="inlineStr"><is><t xml:space="preserve">${escaped(text)}</t></is></c>`;
 }
 
