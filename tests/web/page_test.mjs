@@ -96,9 +96,10 @@ walk("own section: every key is followed, a bad size is said at its field, a sav
   await fill(page, "tw ", "500");
   await says(page, ".fault", "must be at most 300");
   assert.equal(await page.$$eval('[aria-invalid="true"]', (all) => all.length), 1);
-  assert.equal((await page.$$(".detail table")).length, 0);
+  assert.equal((await page.$$(".detail table, .detail .picture")).length, 0);
   await fill(page, "tw ", "12");
   await says(page, ".detail h2", "300×400×20×12");
+  assert.ok(await page.$eval(".detail .picture", (place) => place.shadowRoot.querySelector("svg").getBoundingClientRect().height > 200));
   const { out } = await run(page, ["section", "h", "300", "400", "20", "12", "--json"]);
   const shown = await page.$$eval(".figures tr", (rows) => Object.fromEntries(rows.map((row) => [row.children[0].textContent, row.children[1].title])));
   assert.equal(shown["It"], String(JSON.parse(out).exact.It));

@@ -61,12 +61,14 @@ export async function ownSections(place: HTMLElement): Promise<void> {
       ask([...line, "--json", "--svg", "picture.svg"]).then((answer) => [answer, line, title]),
     ([answer, line, title]) => {
       const why = answer.status === 0 ? "" : sentence(answer);
+      view.classList.remove("waiting");
       blame(why, ({ sign }) => why.startsWith(sign));
       if (!why) view.replaceChildren(sectionView(title, answer, undefined, { svg: line, dxf: line }));
     },
   );
   const compute = async () => {
     change({ style: chosen.alias, sizes: sizes().join(","), base: base.map(({ input }) => input.value).join(","), outline: "", shape: "", layer: "" });
+    view.classList.add("waiting");
     await show(line(), `${chosen.table} ${sizes().join("×")}`);
   };
   const cells = () => fields.flatMap(({ cell, input }) => ["--set", `${cell}=${input.value.trim() || "0"}`]);
@@ -94,6 +96,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     void showOutline();
   } });
   const showOutline = latest(() => outlineView(layer.value.trim()), (shown) => {
+    view.classList.remove("waiting");
     if (shown) view.replaceChildren(shown);
   });
   const form = el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() },

@@ -106,15 +106,23 @@ export async function sections(place: HTMLElement): Promise<void> {
   const beside = el("div", { class: "beside" });
   const count = el("span", { class: "note", role: "status" });
 
+  const isPair = list.find((each) => each.name === table)?.family.includes("pair") ?? false;
+  const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", onchange: () => {
+    change({ gap: gap.value.trim() });
+    if (shownNo) void showDetail(shownNo);
+  } });
+  let shownNo = "";
+  const asDrawn = () => [...(state()["turn"] ? ["--turn", state()["turn"]!] : []), ...(isPair && state()["gap"] ? ["--gap", state()["gap"]!] : [])];
   const showDetail = latest(
     (no: string): Promise<[string, Answer]> => {
-      const turn = state()["turn"] ?? "0";
-      return ask(["show", table, no, "--turn", turn, "--json", "--svg", "picture.svg"]).then((shown) => [no, shown]);
+      return ask(["show", table, no, ...asDrawn(), "--json", "--svg", "picture.svg"]).then((shown) => [no, shown]);
     },
     ([no, shown]) => {
-      const turned = ["show", table, no, ...(state()["turn"] ? ["--turn", state()["turn"]!] : [])];
+      shownNo = no;
+      const turned = ["show", table, no, ...asDrawn()];
       const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void showDetail(no); });
-      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }), field(say("转角", "Turned by"), turns));
+      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }), field(say("转角", "Turned by"), turns),
+        isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm")) || "");
     },
   );
   const first = state()["no"] ?? all[0]?.[key];

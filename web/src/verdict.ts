@@ -73,5 +73,6 @@ function one(answer: CheckJson): HTMLElement {
 }
 
 export function verdict(answer: CheckJson): HTMLElement {
-  return el("div", { class: "verdicts" }, ...(answer.editions ?? [answer]).map(one));
+  const editions = answer.editions?.map((each) => el("b", { class: each.pass ? "pass" : "fail" }, summary(each), " "));
+  return el("div", { class: "verdicts" }, editions && el("p", { class: "editions" }, ...editions), ...(answer.editions ?? [answer]).map(one));
 }
