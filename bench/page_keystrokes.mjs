@@ -7,6 +7,7 @@ import { openPage, show, start } from "../tests/web/browser.mjs";
 const repeats = Number(process.argv[2] ?? 10);
 const browser = await start();
 const page = await openPage(browser, "view=own&lang=en");
+await new Promise((done) => setTimeout(done, 5000)); // until the page has run its first line some times
 const styles = JSON.parse(await page.evaluate(async () => (await window.orv3cal.run(["styles", "--json"])).out));
 
 // Each keystroke sets a digit behind the point of the last size, or takes it away.

@@ -1,6 +1,6 @@
 // The page as its user walks it.
 import assert from "node:assert/strict";
-import { existsSync, readFileSync, statSync, writeFileSync, mkdtempSync, rmSync } from "node:fs";
+import { existsSync, mkdirSync, readFileSync, statSync, writeFileSync, mkdtempSync, rmSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
@@ -272,26 +272,25 @@ test("a kept store that is damaged", async () => {
 
 // A browser that lets pages keep nothing: the catalogue is there, and a save says what it lacks.
 test("storage that is forbidden", async () => {
-  context = await browser.createBrowserContext();
-  const page = await openPage(context, "view=sections&lang=zh&table=热轧普通工字钢", [1280, 860], () => {
-    const spoil = 'IDBFactory.prototype.open = () => { throw new DOMException("", "SecurityError"); };';
-    const Plain = Blob;
-    window.Blob = class extends Plain {
-      constructor(parts, options) {
-        super(options?.type === "text/javascript" ? [spoil, ...parts] : parts, options);
-      }
-    };
-  });
-  await says(page, ".detail h2", "I10");
-  await show(page, "view=store&lang=zh");
-  await drop(page, file("p.csv", "No.,b(mm),h(mm)\nP1,20,300\n"));
-  await says(page, ".log", "--table");
-  await page.select("select", "矩形截面");
-  await drop(page, file("p.csv", "No.,b(mm),h(mm)\nP1,20,300\n"));
-  await says(page, ".log .fault", "浏览器不允许本页保存数据");
-  assert.deepEqual(await keptRows(page), []);
-  assert.deepEqual(page.faults, []);
-  await context.close();
+  const profile = join(folder, "profile");
+  mkdirSync(join(profile, "Default"), { recursive: true });
+  writeFileSync(join(profile, "Default/Preferences"), JSON.stringify({ profile: { default_content_setting_values: { cookies: 2 } } }));
+  const blocked = await start({ userDataDir: profile });
+  try {
+    const page = await openPage(blocked, "view=sections&lang=zh&table=热轧普通工字钢");
+    await says(page, ".detail h2", "I10");
+    await show(page, "view=store&lang=zh");
+    await says(page, ".warn", "此浏览器不允许本页保存数据");
+    await drop(page, file("p.csv", "No.,b(mm),h(mm)\nP1,20,300\n"));
+    await says(page, ".log", "--table");
+    await page.select("select", "矩形截面");
+    await drop(page, file("p.csv", "No.,b(mm),h(mm)\nP1,20,300\n"));
+    await says(page, ".log .fault", "浏览器不允许本页保存数据");
+    assert.deepEqual(await keptRows(page), []);
+    assert.deepEqual(page.faults, []);
+  } finally {
+    await blocked.close();
+  }
 });
 
 test("two tabs that save at once keep both rows; a tab closed while it saves keeps a whole store", async () => {

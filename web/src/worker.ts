@@ -22,7 +22,7 @@ let line: Promise<unknown> = Promise.resolve();
 const kTroubles: Record<Trouble | "old", [string, string]> = {
   full: ["您自己的库: 没有写入，磁盘已满", "your own store: not written, the disk is full"],
   denied: ["您自己的库: 没有写入，浏览器不允许本页保存数据", "your own store: not written, the browser does not let this page keep data"],
-  failed: ["您自己的库: 没有写入，浏览器未能写入", "your own store: not written, the browser could not write it"],
+  failed: ["您自己的库: 没有写入，浏览器未能写入（磁盘可能已满）", "your own store: not written, the browser could not write it (the disk may be full)"],
   unread: ["您自己的库: 浏览器未能读出（磁盘可能已满；腾出空间后重新启动浏览器）", "your own store: the browser could not read it (the disk may be full: make room and start the browser again)"],
   old: ["此浏览器不能运行本页；需要 Chrome 或 Edge 103、Firefox 113、Safari 16.4 或更新的版本", "this browser cannot run the page; it takes Chrome or Edge 103, Firefox 113, Safari 16.4 or newer"],
 };
