@@ -24,6 +24,13 @@ std::optional<CLanguage> LanguageOf(std::string_view name) {
   return {};
 }
 
+// Of a locale's name as well, such as zh_CN.UTF-8: the variable is often copied from one.
+std::optional<CLanguage> LanguageOfLocale(std::string_view name) {
+  std::string language(name.substr(0, name.find_first_of("_-.@")));
+  for (char& ch : language) ch = (ch >= 'A' && ch <= 'Z') ? static_cast<char>(ch - 'A' + 'a') : ch;
+  return LanguageOf(language);
+}
+
 // The last one that is given.
 std::optional<CLanguage> Given(const std::vector<std::string>& arguments) {
   const std::string assigned = std::string(kOption) + "=";
@@ -44,7 +51,7 @@ void TakeLanguage(const std::vector<std::string>& arguments) {
   Asked() = Given(arguments);
   const std::string variable = ToUtf8(Environment(kVariable));
   if (!Asked() && !variable.empty()) {
-    Asked() = LanguageOf(variable);
+    Asked() = LanguageOfLocale(variable);
     if (!Asked()) {
       Refuse(std::string(kVariable) + ": \"" + Excerpt(variable) +
              "\" is no language; right would be zh or en (不是语言，应为 zh 或 en)");
