@@ -45,19 +45,28 @@ std::optional<CLanguage> Given(const std::vector<std::string>& arguments) {
   return language;
 }
 
+std::string Variable() { return ToUtf8(Environment(kVariable)); }
+
+// What option or variable ask for.
+std::optional<CLanguage> Wanted(const std::vector<std::string>& arguments) {
+  const std::optional<CLanguage> given = Given(arguments);
+  return given ? given : LanguageOfLocale(Variable());
+}
+
 }  // namespace
 
 void TakeLanguage(const std::vector<std::string>& arguments) {
-  Asked() = Given(arguments);
-  const std::string variable = ToUtf8(Environment(kVariable));
+  Asked() = Wanted(arguments);
+  SetMessageLanguage(Asked().value_or(UserLanguage()));
+  const std::string variable = Variable();
   if (!Asked() && !variable.empty()) {
-    Asked() = LanguageOfLocale(variable);
-    if (!Asked()) {
-      Refuse(std::string(kVariable) + ": \"" + Excerpt(variable) +
-             "\" is no language; right would be zh or en (不是语言，应为 zh 或 en)");
-    }
+    Refuse(std::string(kVariable) + ": \"" + Excerpt(variable) +
+           "\" is no language; right would be zh or en (不是语言，应为 zh 或 en)");
   }
-  SetMessageLanguage(Asked() ? *Asked() : UserLanguage());
+}
+
+CLanguage LanguageFor(const std::vector<std::string>& arguments) {
+  return Wanted(arguments).value_or(UserLanguage());
 }
 
 std::optional<CLanguage> AskedLanguage() { return Asked(); }
