@@ -161,6 +161,34 @@ walk("connections: the case of the form, an error at its field, undo, both editi
   }
 });
 
+// The fields of a form change with what is chosen: the last select whose label begins so.
+async function pick(page, label, value) {
+  const id = await page.$$eval("label", (all, words) => all.filter((each) => each.textContent.startsWith(words)).at(-1).htmlFor, label);
+  await page.waitForFunction((place, want) => [...document.getElementById(place).options].some((each) => each.value === want), {}, id, value);
+  await page.select(`#${id}`, value);
+}
+
+walk("a shown section leads to a member with it, whose section is chosen from lists, without a fault on the way", "view=sections&lang=en&table=热轧宽翼缘H型钢&no=HW400X400", async (page) => {
+  const faults = () => page.$$eval(".fault, .box.none", (all) => all.map((each) => each.textContent).filter(Boolean));
+  await says(page, ".detail h2", "HW400X400");
+  await page.click("::-p-text(Check as a member)");
+  await addressTells(page, "case", '"no":"HW400X400"');
+  await says(page, ".verdict", "passes");
+  await pick(page, "Section by", "style");
+  await addressTells(page, "case", '"sizes":[300,400,20,10]');
+  await pick(page, "edges", "rolled");
+  await pick(page, "style", "box");
+  await addressTells(page, "case", '"sizes":[300,400,16]');
+  await says(page, ".verdict", "passes");
+  assert.doesNotMatch(await address(page), /edges/); // which are of the H alone
+  await pick(page, "Section by", "table");
+  await addressTells(page, "case", '"no":"HW400X400"');
+  await pick(page, "table", "热轧普通工字钢");
+  await addressTells(page, "case", '"no":"I10"');
+  await says(page, ".verdict", "fails");
+  assert.deepEqual(await faults(), []);
+});
+
 walk("members: trace by clause, and a batch with the worst first", "view=members&lang=en", async (page) => {
   await says(page, ".steps", "8.2.1");
   await drop(page, join(kSource, "examples/members.csv"));

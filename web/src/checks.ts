@@ -12,6 +12,7 @@ import lattice4 from "../../examples/lattice-4.json";
 import member from "../../examples/member.json";
 import weldGroup from "../../examples/weld-group.json";
 import { Form, type Case } from "./form";
+import { readLists } from "./guide";
 import { say } from "./language";
 import { drawingIn, reportView } from "./report";
 import { schemaOf, type Kind } from "./schema";
@@ -71,6 +72,7 @@ function commandLine(kind: Kind): string[] {
 }
 
 async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | null): Promise<void> {
+  if (kind === "member" || kind === "lattice") await readLists();
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const form = new Form(kind, schemaOf(kind), (value) => {
     change({ case: JSON.stringify(value) });

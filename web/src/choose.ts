@@ -6,6 +6,7 @@ import { ask, sentence, type Answer } from "./client";
 import { button, computing, el, field, latest, noAnswer, picture } from "./dom";
 import { shown } from "./figures";
 import { Form, type Case } from "./form";
+import { readLists } from "./guide";
 import { say } from "./language";
 import { schemaOf } from "./schema";
 import { checkName } from "./verdict";
@@ -27,6 +28,7 @@ function kept(): Case | null {
 }
 
 export async function choose(place: HTMLElement): Promise<void> {
+  await readLists();
   const rolled = (await tables()).filter((table) => table.rows > 0);
   const chosen = new Set((state()["tables"] ?? "热轧普通焊接H型钢,热轧窄翼缘H型钢").split(",").filter((name) => rolled.some((table) => table.name === name)));
   const first = kept();

@@ -1,6 +1,8 @@
 // A form made from a schema: edits a case and knows its fields by their paths, as the command's
 // sentences name them. What is empty is left out of the case.
-import { button, el, newId } from "./dom";
+import { button, el, field as labelled, newId, select } from "./dom";
+import { byWay, hasPlace, listOf, settled, styleOf, wayOf, ways, type Choices, type Way } from "./guide";
+import { signParts } from "./figures";
 import { say } from "./language";
 import { isType, wordsOf, type Kind, type Schema } from "./schema";
 
@@ -16,6 +18,8 @@ export class Form {
   private typedIn = ""; // the field of the last step: what is typed into one field is one step
   private fields = new Map<string, { control: HTMLElement; note: HTMLElement }>();
   private value: Case = {};
+  private readonly ways = new Map<Way, Record<string, unknown>>(); // sections as they were before another way
+  private choices = 0;
 
   // `left`: keys that the form does without.
   constructor(
@@ -137,8 +141,19 @@ export class Form {
     this.body.replaceChildren(above, ...group(must), ...(this.kind === "member" ? group(may) : [more]), report);
   }
 
+  // A choice that other fields hang on: one step, with what belongs to it.
+  private async choose(path: string[], value: unknown): Promise<void> {
+    const mine = ++this.choices;
+    const next = structuredClone(this.value);
+    put(next, path, value);
+    const whole = await settled(this.kind, path, next);
+    if (mine === this.choices) this.replace(whole);
+  }
+
   private field(path: string[], schema: Schema, required = false): HTMLElement {
     const key = path.at(-1)!;
+    if (!hasPlace(path, this.value)) return el("span", { hidden: true });
+    if (pathText(path) === "section.sizes" && styleOf(this.value["section"] as Case)) return this.sizes(path);
     const value = get(this.value, path);
     if (schema.properties) return this.group(path, schema, required);
     if (isType(schema, "array") && schema.items?.properties) return this.list(path, schema, schema.items);
@@ -155,6 +170,7 @@ export class Form {
   }
 
   private control(path: string[], schema: Schema, value: unknown, takes: string): HTMLElement {
+    if (schema.enum && ["table", "type"].includes(path.at(-1)!)) return this.listed(path, value, Promise.resolve(schema.enum.map((each) => [String(each), choiceName(String(each), takes)])));
     const choices = schema.enum ? [...new Map(schema.enum.map((each) => [String(each), each])).values()]
       : schema.type === "boolean" ? [true, false] : null;
     if (choices) {
@@ -165,9 +181,51 @@ export class Form {
       }
       return made;
     }
+    const list = listOf(this.kind, path, this.value);
+    if (list) return this.listed(path, value, list);
     const made = el("input", { type: "text", value: textOf(value), autocomplete: "off", oninput: () => this.put(path, valueOf(made.value, schema), true) });
     if (!isType(schema, "string")) made.inputMode = "decimal";
     return made;
+  }
+
+  // A choice from a list of the command's; what stands there stays a choice, also where the list lacks it.
+  private listed(path: string[], value: unknown, list: Promise<Choices>): HTMLElement {
+    const given = textOf(value);
+    const made = el("select", { onchange: () => void this.choose(path, made.value || undefined) }, el("option", { value: "" }, "–"));
+    if (given) made.append(el("option", { value: given, selected: true }, given));
+    void list.then((all) => {
+      made.replaceChildren(el("option", { value: "" }, "–"), ...(given && !all.some(([each]) => each === given) ? [el("option", { value: given, selected: true }, given)] : []),
+        ...all.map(([each, text]) => el("option", { value: each, selected: each === given }, text)));
+    });
+    return made;
+  }
+
+  // The sizes of a style, each in a field of its own.
+  private sizes(path: string[]): HTMLElement {
+    const given = get(this.value, path);
+    const sizes = Array.isArray(given) ? given : given === undefined ? [] : [given];
+    const note = el("p", { class: "fault", role: "alert", id: newId() });
+    const inputs: HTMLInputElement[] = [];
+    const rows = styleOf(this.value["section"] as Case)!.sizes.map((size, i) => {
+      const [sign, unit] = signParts(size.sign);
+      const input = el("input", { type: "text", inputmode: "decimal", autocomplete: "off", value: textOf(sizes[i]), "aria-describedby": note.id,
+        oninput: () => this.put(path, inputs.map((each) => valueOf(each.value, { type: "number" }) ?? ""), true) });
+      inputs.push(input);
+      return labelled(`${sign} ${say(size.title, size.meaning)}`, input, el("span", { class: "unit" }, unit));
+    });
+    const made = el("div", { class: "sizes" }, ...rows, note);
+    this.fields.set(pathText(path), { control: made, note });
+    return made;
+  }
+
+  // How a member's section is told; each way has fields of its own.
+  private way(): HTMLElement {
+    const section = (this.value["section"] ?? {}) as Case;
+    const now = wayOf(section);
+    return labelled(say("截面取自", "Section by"), select(ways(), now, (way) => {
+      if (Object.keys(section).length > 0) this.ways.set(now, section);
+      void this.choose(["section"], byWay(way as Way, this.ways));
+    }));
   }
 
   private title(path: string[], schema: Schema): string {
@@ -181,6 +239,7 @@ export class Form {
     const title = this.title(path, schema);
     const note = el("p", { class: "fault", role: "alert" });
     const inside = Object.entries(schema.properties!).map(([key, each]) => this.field([...path, key], each, must.has(key)));
+    if (pathText(path) === "section") inside.unshift(this.way());
     const made = fold(title, [note, ...inside], open || get(this.value, path) !== undefined || path[0] === "lengths");
     this.fields.set(pathText(path), { control: made, note });
     return made;

@@ -5,7 +5,7 @@ import { button, computing, dropPlace, el, field, latest, newId, noAnswer, selec
 import { signParts } from "./figures";
 import { language, say } from "./language";
 import { givenOutline, outlineView, takeOutline } from "./own_outline";
-import { sectionView } from "./section_view";
+import { onward, sectionView } from "./section_view";
 
 export interface StyleJson {
   style: number;
@@ -16,7 +16,7 @@ export interface StyleJson {
 }
 
 // Sizes to begin with, by alias.
-const kFirst: Record<string, string> = {
+export const kFirstSizes: Record<string, string> = {
   h: "300,400,20,10", box: "300,400,16", "flanged-cross": "300,400,200,250,10,16", rect: "100,200", hexagon: "60",
   triangle: "100,100", circle: "40", tube: "110,100", t: "10,300,16,95,95", "general-h": "10,400,20,16,95,95,145,145",
   l: "10,160,12,90", z: "10,200,12,12,60,60", channel: "10,200,12,12,65,65", cross: "10,200,95,95,95,95",
@@ -30,7 +30,7 @@ const unitMark = (unit: string) => el("span", { class: "unit" }, unit);
 export async function ownSections(place: HTMLElement): Promise<void> {
   const styles = await told<StyleJson[]>(["styles"]);
   const chosen = styles.find((each) => each.alias === state()["style"]) ?? styles[0]!;
-  const given = (state()["sizes"] ?? kFirst[chosen.alias] ?? "").split(",");
+  const given = (state()["sizes"] ?? kFirstSizes[chosen.alias] ?? "").split(",");
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const note = el("p", { class: "fault", role: "alert", id: newId() });
   const saved = el("p", { class: "note", role: "status" });
@@ -63,7 +63,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
       const why = answer.status === 0 ? "" : sentence(answer);
       view.classList.remove("waiting");
       blame(why, ({ sign }) => why.startsWith(sign));
-      if (!why) view.replaceChildren(sectionView(title, answer, undefined, { svg: line, dxf: line }));
+      if (!why) view.replaceChildren(sectionView(title, answer, undefined, { svg: line, dxf: line }, {}, onward({ style: line[1], sizes: line.slice(2, 2 + chosen.sizes.length).map(Number) })));
     },
   );
   const compute = async () => {

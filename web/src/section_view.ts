@@ -1,4 +1,6 @@
 // A section's picture, cells, geometry and exact figures; of a table's row or of sizes.
+import member from "../../examples/member.json";
+import { go } from "./address";
 import { ask, sentence, type Answer, type Files } from "./client";
 import { button, copyButton, download, el, fault, picture } from "./dom";
 import { nameOf, shown, signParts, unitOf } from "./figures";
@@ -57,9 +59,18 @@ function asText(blocks: [string, FigureLine[]][]): string {
     .join("\n\n");
 }
 
+// What leads on from a section: the example's member with it, and the choice among its table's rows.
+export function onward(section: Record<string, unknown>): HTMLElement[] {
+  const { id: _, edges: __, ...example } = member;
+  const check = () => go({ view: "members", case: JSON.stringify({ ...example, section }) });
+  const table = section["table"];
+  return [button(say("按构件验算", "Check as a member"), check),
+    ...(typeof table === "string" ? [button(say("从此表选择", "Choose from this table"), () => go({ view: "choose", tables: table }))] : [])];
+}
+
 // `forms`: the command lines that write the section as a file, by the option that names it; `files` are
 // what they read.
-export function sectionView(title: string, answer: Answer, file = title, forms: Record<string, string[]> = {}, files: Files = {}): HTMLElement {
+export function sectionView(title: string, answer: Answer, file = title, forms: Record<string, string[]> = {}, files: Files = {}, onward: HTMLElement[] = []): HTMLElement {
   if (answer.status !== 0) return fault(sentence(answer));
   const section = JSON.parse(answer.out) as SectionJson;
   const blocks: [string, FigureLine[]][] = [];
@@ -87,6 +98,7 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
       { class: "tools" },
       copyButton(say("复制", "Copy"), () => asText(blocks)),
       ...saves,
+      ...onward,
     ),
     trouble,
     section.accurate === false && el("p", { class: "warn" }, say("精确值的误差估计偏大。", "The error estimate of the exact figures is large.")),

@@ -5,7 +5,7 @@ import { csvText } from "./csv";
 import { button, copyButton, download, el, fault, field, latest, select } from "./dom";
 import { Grid, type Column } from "./grid";
 import { say } from "./language";
-import { cellLines, figureLines, sectionView, type FigureLine, type SectionJson } from "./section_view";
+import { cellLines, figureLines, onward, sectionView, type FigureLine, type SectionJson } from "./section_view";
 import { workbook } from "./workbook";
 
 export interface TableJson {
@@ -14,7 +14,7 @@ export interface TableJson {
   family: string;
   rows: number;
 }
-interface RowsJson {
+export interface RowsJson {
   table: string;
   columns: { sign: string; name: string; type: string; key: boolean }[];
   rows: { cells: string[] }[];
@@ -121,7 +121,7 @@ export async function sections(place: HTMLElement): Promise<void> {
       shownNo = no;
       const turned = ["show", table, no, ...asDrawn()];
       const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void showDetail(no); });
-      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }), field(say("转角", "Turned by"), turns),
+      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair && Number(state()["gap"]) ? { gap: Number(state()["gap"]) } : {}) })), field(say("转角", "Turned by"), turns),
         isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm")) || "");
     },
   );
