@@ -15,6 +15,7 @@ import { Form, type Case } from "./form";
 import { readLists } from "./guide";
 import { say } from "./language";
 import { drawingIn, reportView } from "./report";
+import { resultNames, type ResultNames } from "./result_names";
 import { schemaOf, type Kind } from "./schema";
 import { figureLines, figureTable } from "./section_view";
 import { summary, verdict, type CheckJson } from "./verdict";
@@ -81,13 +82,18 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
     void show();
   }, ["code"]);
   const show = latest(
-    (): Promise<Answer> => ask(commandLine(kind), { [kFile]: JSON.stringify(form.case) }),
-    (answer) => {
+    async (): Promise<[Answer, ResultNames]> => {
+      const given = JSON.stringify(form.case);
+      const answer = await ask(commandLine(kind), { [kFile]: given });
+      const isCheck = kind !== "lattice" && answer.status <= 1 && answer.out !== "";
+      return [answer, isCheck ? await resultNames(kind, state()["code"] ?? "2017", given, JSON.parse(answer.out) as CheckJson) : new Map()];
+    },
+    ([answer, names]) => {
       const done = answer.status <= 1 && answer.out !== "";
       form.blame(done ? "" : sentence(answer, kFile));
       view.classList.remove("waiting");
       jump.textContent = done ? verdictLine(kind, answer) : say("没有结果", "no answer");
-      view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer)));
+      view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer, names)));
     },
   );
   // On a narrow screen the answer is below the form; this line of it stays in sight.
@@ -114,14 +120,14 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   await show();
 }
 
-function answerView(kind: Kind, answer: Answer): (HTMLElement | string)[] {
+function answerView(kind: Kind, answer: Answer, names: ResultNames): (HTMLElement | string)[] {
   const report = answer.files["report.html"];
   const place = el("div");
   const open = report && button(say("计算书", "Report"), () => place.replaceChildren(reportView(report)), { class: "main" });
   return [
     picture(drawingIn(report), kindTitle(kind)),
     answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",
-    verdict(JSON.parse(answer.out) as CheckJson),
+    verdict(JSON.parse(answer.out) as CheckJson, names),
     el("div", { class: "tools" }, open || null, copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
     place,
   ];

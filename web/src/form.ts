@@ -249,7 +249,7 @@ export class Form {
   private list(path: string[], schema: Schema, items: Schema): HTMLElement {
     const values = (get(this.value, path) as unknown[] | undefined) ?? [];
     const note = el("p", { class: "fault", role: "alert" });
-    const rows = values.map((_, i) => el("fieldset", { class: "item" }, el("legend", {}, `${path.at(-1)}[${i}]`),
+    const rows = values.map((_, i) => el("fieldset", { class: "item" }, el("legend", {}, `${this.title(path, schema)} ${i + 1}`),
       ...Object.entries(items.properties!).map(([key, each]) => this.field([...path, String(i), key], each, items.required?.includes(key))),
       button(say("删去", "Remove"), () => this.edit(path, values.filter((_, at) => at !== i)))));
     const made = fold(this.title(path, schema), [note, ...rows, button(say("添加", "Add"), () => this.edit(path, [...values, structuredClone(values.at(-1) ?? {})]))], true);

@@ -2,6 +2,7 @@
 import { el } from "./dom";
 import { shown } from "./figures";
 import { language, say } from "./language";
+import type { ResultNames } from "./result_names";
 
 interface Check {
   name: string;
@@ -33,6 +34,8 @@ const kChecks: Record<string, string> = {
 };
 export const checkName = (name: string): string => (language() === "zh" ? (kChecks[name] ?? name) : name);
 
+const checkTitle = (name: string, names: ResultNames) => names.get(name)?.[0] || checkName(name);
+
 export const percent = (ratio: number | null | undefined) => (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(4)))} %`);
 
 function bar(name: string, ratio: number | null | undefined, pass: boolean, note = ""): HTMLElement {
@@ -44,10 +47,12 @@ function bar(name: string, ratio: number | null | undefined, pass: boolean, note
     el("span", { class: pass ? "pass" : "fail" }, pass ? say("满足", "passes") : say("不满足", "fails")));
 }
 
-function results(values: Record<string, unknown> = {}): HTMLElement {
+function results(values: Record<string, unknown>, names: ResultNames): HTMLElement {
   const body = el("tbody");
   for (const [key, value] of Object.entries(values)) {
-    body.append(el("tr", {}, el("th", { scope: "row" }, key), el("td", { class: "num", title: String(value) }, shown(value))));
+    const [name = "", unit = ""] = names.get(key) ?? [];
+    body.append(el("tr", {}, el("th", { scope: "row" }, key), el("td", { class: "num", title: String(value) }, shown(value)),
+      el("td", { class: "unit" }, unit), el("td", { class: "name" }, name)));
   }
   return el("table", { class: "figures" }, el("caption", {}, say("结果（mm、kN、kN·mm、N/mm²）", "Results (mm, kN, kN·mm, N/mm²)")), body);
 }
@@ -56,7 +61,8 @@ const wordOf = (answer: CheckJson) => (answer.pass ? say("满足", "passes") : s
 const worstOf = (answer: CheckJson) => answer.ratio ?? answer.utilisation;
 export const summary = (answer: CheckJson) => `${answer.code}: ${wordOf(answer)} ${percent(worstOf(answer))}`;
 
-function one(answer: CheckJson): HTMLElement {
+function one(answer: CheckJson, names: ResultNames): HTMLElement {
+  const checkName = (name: string) => checkTitle(name, names);
   const [word, worst] = [wordOf(answer), worstOf(answer)];
   const steps = (answer.checks ?? []).filter((check) => check.steps?.length).map((check) =>
     el("details", { class: "steps" }, el("summary", {}, `${checkName(check.name)} · ${check.clause}`), el("ol", {}, ...check.steps!.map((step) => el("li", {}, step)))));
@@ -68,11 +74,11 @@ function one(answer: CheckJson): HTMLElement {
     ...(answer.warnings ?? []).map((warning) => el("p", { class: "warn" }, typeof warning === "string" ? warning : `${warning.key}: ${warning.text}`)),
     answer.given && el("details", { class: "steps" }, el("summary", {}, say("已知", "Given")), el("ol", {}, ...answer.given.map((each) => el("li", {}, each)))),
     ...steps,
-    ...(answer.combinations ?? []).map((each) => el("details", { class: "group" }, el("summary", {}, `${each.id ?? ""} ${percent(each.ratio)}`), one({ ...each, code: each.code ?? answer.code }))),
-    answer.results && results(answer.results));
+    ...(answer.combinations ?? []).map((each) => el("details", { class: "group" }, el("summary", {}, `${each.id ?? ""} ${percent(each.ratio)}`), one({ ...each, code: each.code ?? answer.code }, names))),
+    answer.results && results(answer.results, names));
 }
 
-export function verdict(answer: CheckJson): HTMLElement {
+export function verdict(answer: CheckJson, names: ResultNames): HTMLElement {
   const editions = answer.editions?.map((each) => el("b", { class: each.pass ? "pass" : "fail" }, summary(each), " "));
-  return el("div", { class: "verdicts" }, editions && el("p", { class: "editions" }, ...editions), ...(answer.editions ?? [answer]).map(one));
+  return el("div", { class: "verdicts" }, editions && el("p", { class: "editions" }, ...editions), ...(answer.editions ?? [answer]).map((each) => one(each, names)));
 }
