@@ -125,9 +125,8 @@ function answerView(kind: Kind, answer: Answer, names: ResultNames): (HTMLElemen
   const place = el("div");
   const open = report && button(say("计算书", "Report"), () => place.replaceChildren(reportView(report)), { class: "main" });
   return [
-    picture(drawingIn(report), kindTitle(kind)),
     answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",
-    verdict(JSON.parse(answer.out) as CheckJson, names),
+    el("div", { class: "beside-picture" }, verdict(JSON.parse(answer.out) as CheckJson, names), picture(drawingIn(report), kindTitle(kind))),
     el("div", { class: "tools" }, open || null, copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
     place,
   ];
@@ -149,11 +148,9 @@ function latticeView(answer: Answer): HTMLElement[] {
   const lattice = JSON.parse(answer.out) as LatticeJson;
   const limbs = lattice.limbs.map((limb, i) => figureTable(`${say("分肢", "Limb")} ${i + 1}: ${limb.type} ${limb.no}`, figureLines({ angle: limb.angle, A: limb.area, xo: limb.x, yo: limb.y })));
   return [
-    picture(answer.files["picture.svg"], lattice.no),
     el("div", { class: "tools" }, button("SVG", () => download(`${lattice.no}.svg`, answer.files["picture.svg"]!)),
       copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
-    figureTable(lattice.no, figureLines(lattice.properties)),
-    ...limbs,
+    el("div", { class: "beside-picture" }, el("div", {}, figureTable(lattice.no, figureLines(lattice.properties)), ...limbs), picture(answer.files["picture.svg"], lattice.no)),
   ];
 }
 

@@ -40,21 +40,48 @@ export function select(options: [value: string, text: string][], value: string, 
   return made;
 }
 
-const kPictureHeight = 420; // px, at most
+const kPictureHeight = 460; // px, at most
+const kSmallestText = 10.5; // px
+const kMostLarger = 1.5; // of its texts, so that they keep clear of one another
 
-// The command's drawing, which comes as text, with styles and names of its own. On white in either theme.
+// The command's drawing, which comes as text, with styles and names of its own. On white, calm in the dark theme.
 // Within the page, not as an image: that would wait for the browser to load it at every keystroke.
 export function picture(svg: string | Uint8Array | undefined, name: string): HTMLElement {
   const holder = el("div", { class: "picture" });
   if (!svg) return holder;
   const text = typeof svg === "string" ? svg : new TextDecoder().decode(svg);
-  const drawing = new DOMParser().parseFromString(text, "image/svg+xml").documentElement;
+  const drawing = document.importNode(new DOMParser().parseFromString(text, "image/svg+xml").documentElement, true) as unknown as SVGSVGElement;
   holder.setAttribute("role", "img");
   holder.setAttribute("aria-label", name);
   const [wide = 1, high = 1] = (drawing.getAttribute("viewBox") ?? "").split(" ").slice(2).map(Number);
-  drawing.setAttribute("style", `width: ${Math.min(wide, (kPictureHeight * wide) / high)}px; max-width: 100%; height: auto`);
-  holder.attachShadow({ mode: "open" }).append(document.importNode(drawing, true));
+  size(drawing, wide, high);
+  holder.attachShadow({ mode: "open" }).append(drawing);
+  requestAnimationFrame(() => fit(drawing));
   return holder;
+}
+
+const size = (drawing: SVGSVGElement, wide: number, high: number) =>
+  drawing.setAttribute("style", `width: ${Math.min(wide, (kPictureHeight * wide) / high)}px; max-width: 100%; height: auto`);
+
+// Leaves out the empty paper around what is drawn, and makes small texts large enough to read.
+function fit(drawing: SVGSVGElement): void {
+  const paper = drawing.querySelector(":scope > rect[fill='#FFFFFF']");
+  if (drawing.getBoundingClientRect().width === 0) return;
+  paper?.remove();
+  const { x, y, width, height } = drawing.getBBox();
+  const [wide, high] = [width + 16, height + 16];
+  drawing.setAttribute("viewBox", `${x - 8} ${y - 8} ${wide} ${high}`);
+  drawing.removeAttribute("width");
+  drawing.removeAttribute("height");
+  size(drawing, wide, high);
+  const scale = drawing.getBoundingClientRect().width / wide;
+  for (const each of drawing.querySelectorAll("text")) {
+    const given = Number(each.getAttribute("font-size"));
+    const larger = Math.min(kMostLarger, kSmallestText / (given * scale));
+    if (larger > 1) each.setAttribute("font-size", String(given * larger));
+  }
+  const drawn = drawing.getBBox(); // with the larger texts
+  drawing.setAttribute("viewBox", `${drawn.x - 8} ${drawn.y - 8} ${drawn.width + 16} ${drawn.height + 16}`);
 }
 
 export function download(name: string, data: Uint8Array | string): void {

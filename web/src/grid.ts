@@ -74,8 +74,12 @@ export class Grid {
       this.below,
     );
     this.element = el("div", { class: "grid", tabindex: 0, role: "group", "aria-label": wishes.label, onkeydown: (event: KeyboardEvent) => this.key(event) }, table);
-    this.element.addEventListener("scroll", () => void (this.isDrawn() || this.fill()), { passive: true });
-    new ResizeObserver(() => void (this.isDrawn() || this.fill())).observe(this.element);
+    const moved = () => {
+      this.element.classList.toggle("cut", this.element.scrollLeft + this.element.clientWidth < this.element.scrollWidth - 1);
+      if (!this.isDrawn()) this.fill();
+    };
+    this.element.addEventListener("scroll", moved, { passive: true });
+    new ResizeObserver(moved).observe(this.element);
     this.show(wishes.rows);
   }
 

@@ -92,7 +92,6 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
     "article",
     { class: "section", "aria-label": title },
     el("h2", {}, title),
-    picture(answer.files["picture.svg"], title),
     el(
       "div",
       { class: "tools" },
@@ -102,6 +101,6 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
     ),
     trouble,
     section.accurate === false && el("p", { class: "warn" }, say("精确值的误差估计偏大。", "The error estimate of the exact figures is large.")),
-    ...blocks.map(([caption, lines]) => figureTable(caption, lines)),
+    el("div", { class: "beside-picture" }, el("div", {}, ...blocks.map(([caption, lines]) => figureTable(caption, lines))), picture(answer.files["picture.svg"], title)),
   );
 }

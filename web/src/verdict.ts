@@ -69,7 +69,7 @@ function one(answer: CheckJson, names: ResultNames): HTMLElement {
   return el("section", { class: "verdict" },
     el("p", { class: answer.pass ? "box pass" : "box fail" }, el("b", {}, word), ` · ${percent(worst)} · ${checkName(answer.governs)}`,
       el("small", {}, ` GB 50017-${answer.code}`)),
-    ...(answer.checks ?? []).map((check) => bar(checkName(check.name), check.ratio, check.pass, check.clause)),
+    ...(answer.checks ?? []).map((check) => bar(checkName(check.name), check.ratio, check.pass, check.clause.replace(/^GB 50017-\d+ /, ""))),
     !answer.checks && bar(answer.governs, worst, answer.pass),
     ...(answer.warnings ?? []).map((warning) => el("p", { class: "warn" }, typeof warning === "string" ? warning : `${warning.key}: ${warning.text}`)),
     answer.given && el("details", { class: "steps" }, el("summary", {}, say("已知", "Given")), el("ol", {}, ...answer.given.map((each) => el("li", {}, each)))),
