@@ -61,6 +61,11 @@ walk("sections: search, range, sort, keys, turn, compare, and a link that opens 
   await page.select(".range select", "A(cm^2)");
   await page.type('.range input[aria-label="at least"]', "45");
   await says(page, '[role="status"]', "5 of 34");
+  await page.type('.range input[aria-label="at least"]', ",5");
+  await says(page, ".range .fault", '"45,5" is no number');
+  for (let i = 0; i < 4; ++i) await page.keyboard.press("Backspace");
+  await page.keyboard.type("４５");
+  await says(page, '[role="status"]', "5 of 34");
   await page.click(".grid th:nth-child(9) button");
   await page.click(".grid th:nth-child(9) button");
   assert.equal(await page.$eval(".grid th:nth-child(9)", (cell) => cell.getAttribute("aria-sort")), "descending");
@@ -112,12 +117,18 @@ walk("own section: every key is followed, a bad size is said at its field, a sav
 });
 
 walk("an outline from a DXF, and one that is none", "view=own&lang=zh", async (page) => {
+  const square = (layer, size, at) => `0\nLWPOLYLINE\n8\n${layer}\n90\n4\n70\n1\n10\n${at}\n20\n0\n10\n${at + size}\n20\n0\n10\n${at + size}\n20\n${size}\n10\n${at}\n20\n${size}\n`;
+  file("two.dxf", `0\nSECTION\n2\nENTITIES\n${square("0", 100, 0)}${square("axis", 20, 300)}0\nENDSEC\n0\nEOF\n`);
   const dxf = (points) => `0\nSECTION\n2\nENTITIES\n0\nLWPOLYLINE\n90\n${points.length}\n70\n1\n${points.map(([x, y]) => `10\n${x}\n20\n${y}\n`).join("")}0\nENDSEC\n0\nEOF\n`;
   await drop(page, file("plate.dxf", dxf([[0, 0], [100, 0], [100, 50], [0, 50]])));
   await says(page, ".detail h2", "plate.dxf");
   await says(page, ".detail", "5\u202f000");
   await addressTells(page, "outline", "plate.dxf");
   const link = await address(page);
+  await drop(page, join(folder, "two.dxf"));
+  await pick(page, "DXF 的图层", "axis");
+  await says(page, ".figures td", "400");
+  await addressTells(page, "layer", "axis");
   await drop(page, file("broken.dxf", "no drawing"));
   await says(page, ".detail .box", "broken.dxf");
   const comment = Array.from({ length: 3000 }, (_, i) => `999\n${((i * 2654435761) % 4294967296).toString(36)}\n`).join("");
@@ -310,7 +321,7 @@ test("storage that is forbidden", async () => {
     await show(page, "view=store&lang=zh");
     await says(page, ".warn", "此浏览器不允许本页保存数据");
     await drop(page, file("p.csv", "No.,b(mm),h(mm)\nP1,20,300\n"));
-    await says(page, ".log", "--table");
+    await says(page, ".log", "请给出 所选的表");
     await page.select("select", "矩形截面");
     await drop(page, file("p.csv", "No.,b(mm),h(mm)\nP1,20,300\n"));
     await says(page, ".log .fault", "浏览器不允许本页保存数据");

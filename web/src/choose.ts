@@ -4,7 +4,7 @@ import { change, go, state } from "./address";
 import { caseInLink, editions, unreadLink } from "./checks";
 import { ask, sentence, type Answer } from "./client";
 import { button, computing, el, field, latest, noAnswer, picture } from "./dom";
-import { shown } from "./figures";
+import { narrow, shown } from "./figures";
 import { Form, type Case } from "./form";
 import { readLists } from "./guide";
 import { say } from "./language";
@@ -44,7 +44,7 @@ export async function choose(place: HTMLElement): Promise<void> {
     return el("label", { class: "check" }, box, ` ${table.name}`);
   });
   const style = el("input", { type: "text", value: state()["styles"] ?? "", placeholder: '{"style": "box", "b": [200, 400, 50], "h": 400, "t": 16}', oninput: () => { change({ styles: style.value }); outdated(); } });
-  const top = el("input", { type: "number", min: 1, value: state()["top"] ?? "20", class: "short", oninput: () => { change({ top: top.value }); outdated(); } });
+  const top = el("input", { type: "text", inputmode: "numeric", value: state()["top"] ?? "20", class: "short", oninput: () => { change({ top: top.value }); outdated(); } });
   const form = new Form("member", schemaOf("member"), (value) => {
     change({ case: JSON.stringify(value) });
     outdated();
@@ -62,7 +62,7 @@ export async function choose(place: HTMLElement): Promise<void> {
       const [names, mine] = [[...chosen], question];
       const code = state()["code"] === "2003" ? "2003" : "2017";
       return ask(["choose", kFile, ...(names.length > 0 ? ["--table", names.join(",")] : []), ...(style.value ? ["--style", style.value] : []),
-        "--top", top.value, "--code", code, "--json", "--plot", "plot.svg"], { [kFile]: JSON.stringify(form.case) }).then((answer) => [answer, mine]);
+        "--top", narrow(top.value), "--code", code, "--json", "--plot", "plot.svg"], { [kFile]: JSON.stringify(form.case) }).then((answer) => [answer, mine]);
     },
     ([answer, mine]) => {
       if (mine !== question) return;
@@ -79,7 +79,7 @@ export async function choose(place: HTMLElement): Promise<void> {
   place.replaceChildren(
     el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(), editions(outdated, false),
       el("details", { class: "group", open: innerWidth > 860 }, el("summary", {}, say("截面表", "Tables")), ...boxes),
-      field(say("自定义截面 --style", "Own section --style"), style), field(say("最多行数", "Rows at most"), top), start, note, form.element),
+      field(say("自定义截面（JSON；尺寸为数或 [从, 到, 步长]）", "Own section (JSON; a size is a number or [from, to, step])"), style), field(say("最多行数", "Rows at most"), top), start, note, form.element),
     el("div", { class: "answer" }, view));
   form.set(first ?? {});
   await find();

@@ -116,9 +116,19 @@ export function forgetOwnStore(): Promise<Answer> {
   return order({ kind: "forget" });
 }
 
-// The command's sentence without its name and the file's.
+// What the command calls by an option is a field here, called by its label.
+const kLabels = (): [option: string, label: string][] => [
+  ["give --table with names or all, or --style", "choose a table, or give an own section"],
+  ["请给出 --table 表名[,表名...]、--table all 或 --style", "请勾选截面表，或给出自定义截面"],
+  ["--table: ", ""], ["--top", say("最多行数", "Rows at most")], ["--base X", say("基点 x", "base point x")], ["--base Y", say("基点 y", "base point y")],
+  ["--layer", say("图层", "Layer")], ["--gap", say("两肢间距", "Gap between the parts")], ["--style", say("自定义截面", "Own section")],
+  ["--table TABLE", say("所选的表", "the table chosen above")],
+];
+
+// The command's sentence without its name and the file's, and without its options.
 export function sentence(answer: Answer, file = ""): string {
-  let text = answer.err.trim().replace(/^orv3cal: /, "");
+  let text = answer.err.trim().replace(/^orv3cal: /, "").replace(/ ?[(（](?:see|见) orv3cal[^)）]*[)）]/g, "");
+  for (const [option, label] of kLabels()) text = text.replaceAll(option, label);
   if (file && text.startsWith(file)) text = text.slice(file.length).replace(/^[:：]\s*/, "");
   return text;
 }

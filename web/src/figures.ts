@@ -74,6 +74,13 @@ export function shown(value: unknown): string {
   return whole!.replace(/\B(?=(\d{3})+$)/g, "\u202f") + (rest ? `.${rest}` : "");
 }
 
+// A number as it is typed: the wide digits and signs of Chinese keyboards are taken as plain ones.
+export const narrow = (text: string): string => text.normalize("NFKC").replaceAll("\u2212", "-").trim();
+
+// The number of a typed text; NaN where it is none.
+export const typedNumber = (text: string): number =>
+  /^[+-]?(\d+\.?\d*|\.\d+)(e[+-]?\d+)?$/i.test(narrow(text)) ? Number(narrow(text)) : Number.NaN;
+
 // The unit that a column's sign tells: "A(cm^2)" has cm².
 export function signParts(sign: string): [name: string, unit: string] {
   const parts = /^(.+)\((.+)\)$/.exec(sign);

@@ -2,7 +2,7 @@
 // sentences name them. What is empty is left out of the case.
 import { button, el, field as labelled, newId, select } from "./dom";
 import { byWay, hasPlace, listOf, settled, styleOf, wayOf, ways, type Choices, type Way } from "./guide";
-import { signParts } from "./figures";
+import { signParts, typedNumber } from "./figures";
 import { say } from "./language";
 import { isType, wordsOf, type Kind, type Schema } from "./schema";
 
@@ -312,13 +312,13 @@ const textOf = (value: unknown): string => (value === undefined ? "" : Array.isA
 function valueOf(text: string, schema: Schema): unknown {
   const trimmed = text.trim();
   if (trimmed === "") return undefined;
-  if (trimmed.includes(";") && isType(schema, "array")) return trimmed.split(";").filter((part) => part.trim()).map((part) => one(part, schema.items ?? schema));
+  if (/[;；]/.test(trimmed) && isType(schema, "array")) return trimmed.split(/[;；]/).filter((part) => part.trim()).map((part) => one(part, schema.items ?? schema));
   if (schema.type === "array") return [one(trimmed, schema.items ?? schema)];
   return one(trimmed, schema);
 }
 
 function one(text: string, schema: Schema): unknown {
-  const number = /^[+-]?(\d+\.?\d*|\.\d+)(e[+-]?\d+)?$/i.test(text.trim()) ? Number(text) : Number.NaN;
+  const number = typedNumber(text);
   const numeric = isType(schema, "number") || isType(schema, "integer");
   return Number.isFinite(number) && numeric ? number : text.trim();
 }

@@ -1,7 +1,7 @@
 // An outline from a DXF or JSON file. It stands in the address, compressed, if it is not too long.
 import { change, state } from "./address";
 import { ask, sentence } from "./client";
-import { bytesOf, el, noAnswer } from "./dom";
+import { button, bytesOf, download, el, noAnswer } from "./dom";
 import { say } from "./language";
 import { pack, unpack } from "./packed_text";
 import { sectionView } from "./section_view";
@@ -39,15 +39,36 @@ export async function givenOutline(): Promise<boolean> {
   return true;
 }
 
+// As the command is to read it, and to call it in the picture.
+const fileName = (name: string) => (/^[^-].*\.(dxf|json)$/i.test(name) ? name : "outline.dxf");
+
+// The layers that a DXF file draws on, from its own lines: the group 8 of each entity.
+export function layersOfOutline(): string[] {
+  if (!outline || outline.name.toLowerCase().endsWith(".json")) return [];
+  const lines = new TextDecoder().decode(outline.data).split(/\r?\n/);
+  const layers = new Set<string>();
+  let inside = false;
+  for (let i = 0; i + 1 < lines.length; i += 2) {
+    const [code, value] = [lines[i]!.trim(), lines[i + 1]!.trim()];
+    if (code === "2" && lines[i - 1]?.trim() === "SECTION") inside = value === "ENTITIES";
+    else if (inside && code === "8") layers.add(value);
+  }
+  return [...layers].sort();
+}
+
 export async function outlineView(layer: string): Promise<HTMLElement | null> {
   if (damaged) return noAnswer(`${state()["outline"]}: ${damaged}`);
   if (!outline) return null;
   const { name, data } = outline;
-  const file = name.toLowerCase().endsWith(".json") ? "outline.json" : "outline.dxf";
+  const file = fileName(name);
   const line = ["outline", file, ...(layer ? ["--layer", layer] : [])];
   const answer = await ask([...line, "--json", "--svg", "picture.svg"], { [file]: data });
   if (answer.status !== 0) return noAnswer(`${name}: ${sentence(answer, file)}`);
+  const csv = button("CSV", async () => {
+    const written = await ask([...line, "--csv"], { [file]: data });
+    download(`${name.replace(/\.[^.]*$/, "")}.csv`, written.out);
+  }, { title: say("保存文件", "save as a file") });
   const left = state()["shape"] ? null
     : el("p", { class: "note" }, say("此文件太大，链接中不含外轮廓；请随链接附上文件。", "This file is too long for a link: send the file along with it."));
-  return el("div", {}, sectionView(name, answer, name.replace(/\.[^.]*$/, ""), { svg: line }, { [file]: data }), left);
+  return el("div", {}, sectionView(name, answer, name.replace(/\.[^.]*$/, ""), { svg: line }, { [file]: data }, [csv]), left);
 }

@@ -2,9 +2,9 @@
 import { change, state } from "./address";
 import { ask, sentence, told, warm, type Answer } from "./client";
 import { button, computing, dropPlace, el, field, latest, newId, noAnswer, select } from "./dom";
-import { signParts } from "./figures";
+import { narrow, signParts } from "./figures";
 import { language, say } from "./language";
-import { givenOutline, outlineView, takeOutline } from "./own_outline";
+import { givenOutline, layersOfOutline, outlineView, takeOutline } from "./own_outline";
 import { onward, sectionView } from "./section_view";
 
 export interface StyleJson {
@@ -42,13 +42,13 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   const base = ["X", "Y"].map((axis, i) => {
     const input = typed((state()["base"] ?? "0,0").split(",")[i] ?? "0", () => void compute(), { "aria-describedby": note.id });
     const label = say(`基点 ${axis.toLowerCase()}`, `base point ${axis.toLowerCase()}`);
-    return { sign: `--base ${axis}`, cell: `${axis.toLowerCase()}(mm)`, input, row: field(label, input, unitMark("mm")) };
+    return { sign: label, cell: `${axis.toLowerCase()}(mm)`, input, row: field(label, input, unitMark("mm")) };
   });
   const fields = [...inputs, ...base];
   const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => change({ name: name.value }) });
-  const sizes = () => inputs.map(({ input }) => input.value.trim());
+  const sizes = () => inputs.map(({ input }) => narrow(input.value));
 
-  const line = () => ["section", chosen.alias, ...sizes(), "--base", ...base.map(({ input }) => input.value.trim() || "0")];
+  const line = () => ["section", chosen.alias, ...sizes(), "--base", ...base.map(({ input }) => narrow(input.value) || "0")];
   // Says at the field that it names what the matter is; without a sentence all is well.
   const blame = (why: string, isBad: (field: (typeof fields)[number]) => boolean) => {
     note.textContent = why;
@@ -71,7 +71,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     view.classList.add("waiting");
     await show(line(), `${chosen.table} ${sizes().join("×")}`);
   };
-  const cells = () => fields.flatMap(({ cell, input }) => ["--set", `${cell}=${input.value.trim() || "0"}`]);
+  const cells = () => fields.flatMap(({ cell, input }) => ["--set", `${cell}=${narrow(input.value) || "0"}`]);
   const tellSaved = (answer: Answer) => {
     saved.replaceChildren(answer.status === 0 ? answer.out : sentence(answer));
     saved.classList.toggle("fault", answer.status !== 0);
@@ -90,12 +90,21 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     change({ style: alias, sizes: "", outline: "", shape: "", layer: "" }, true);
     void ownSections(place);
   });
-  const layer = el("input", { type: "text", autocomplete: "off", value: state()["layer"] ?? "", oninput: () => {
-    change({ layer: layer.value });
+  const layer = select([], "", (name) => {
+    change({ layer: name });
     view.replaceChildren(computing());
     void showOutline();
-  } });
-  const showOutline = latest(() => outlineView(layer.value.trim()), (shown) => {
+  });
+  const layerField = field(say("DXF 的图层", "Layer of the DXF"), layer);
+  // The layers of the outline that is shown, of which one can be chosen; without another nothing is asked.
+  const listLayers = () => {
+    const [names, now] = [layersOfOutline(), state()["layer"] ?? ""];
+    if (now && !names.includes(now)) names.push(now);
+    const options = [["", say("全部图层", "all layers")], ...names.map((name) => [name, name])];
+    layer.replaceChildren(...options.map(([value, text]) => el("option", { value, selected: value === now }, text!)));
+    layerField.hidden = names.length < 2 && !now;
+  };
+  const showOutline = latest(() => outlineView(layer.value), (shown) => {
     view.classList.remove("waiting");
     if (shown) view.replaceChildren(shown);
   });
@@ -107,12 +116,15 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", async ([file]) => {
       if (!file) return;
       await takeOutline(file);
+      listLayers();
       view.replaceChildren(computing());
       await showOutline();
     }),
-    field(say("DXF 的图层（不填为全部）", "Layer of the DXF (all if left empty)"), layer));
+    layerField);
   place.replaceChildren(form, view);
-  if (await givenOutline()) await showOutline();
+  const isOutline = await givenOutline();
+  listLayers();
+  if (isOutline) await showOutline();
   else await compute();
   void warm([...line(), "--json", "--svg", "picture.svg"], () => view.isConnected);
 }

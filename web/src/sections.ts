@@ -2,7 +2,8 @@
 import { change, go, state } from "./address";
 import { ask, sentence, told, type Answer } from "./client";
 import { csvText } from "./csv";
-import { button, copyButton, download, el, fault, field, latest, select } from "./dom";
+import { button, copyButton, download, el, fault, field, latest, newId, select } from "./dom";
+import { narrow, typedNumber } from "./figures";
 import { Grid, type Column } from "./grid";
 import { say } from "./language";
 import { cellLines, figureLines, onward, sectionView, type FigureLine, type SectionJson } from "./section_view";
@@ -55,7 +56,7 @@ function matching(rows: string[][], columns: RowsJson["columns"], words: string[
   return rows.filter((row) => {
     const text = row.join("\u0000").toLowerCase();
     return words.every((word) => text.includes(word)) && bounds.every(([at, least, most]) =>
-      at < 0 || ((least === "" || Number(row[at]) >= Number(least)) && (most === "" || Number(row[at]) <= Number(most))));
+      at < 0 || ((least === "" || Number(row[at]) >= typedNumber(least)) && (most === "" || Number(row[at]) <= typedNumber(most))));
   });
 }
 
@@ -108,7 +109,7 @@ export async function sections(place: HTMLElement): Promise<void> {
 
   const isPair = list.find((each) => each.name === table)?.family.includes("pair") ?? false;
   const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", onchange: () => {
-    change({ gap: gap.value.trim() });
+    change({ gap: narrow(gap.value) });
     if (shownNo) void showDetail(shownNo);
   } });
   let shownNo = "";
@@ -142,7 +143,7 @@ export async function sections(place: HTMLElement): Promise<void> {
       void comparison(beside, () => grid.draw());
     } },
   });
-  const words = () => (state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
+  const words = () => narrow(state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
   let seen = all;
   const filter = () => {
     seen = matching(all, columns, words(), ranges());
@@ -171,14 +172,24 @@ export async function sections(place: HTMLElement): Promise<void> {
 function rangeFilter(signs: string[], changed: () => void): HTMLElement {
   const [[sign = "", least = "", most = ""] = []] = ranges() as (Range | [])[];
   const column = select([["", "–"], ...signs.map((each): [string, string] => [each, each])], sign, () => keep());
-  const low = el("input", { type: "number", step: "any", value: least, class: "short", "aria-label": say("不小于", "at least"), oninput: () => keep() });
-  const high = el("input", { type: "number", step: "any", value: most, class: "short", "aria-label": say("不大于", "at most"), oninput: () => keep() });
+  const note = el("p", { class: "fault", role: "alert", id: newId() });
+  const low = el("input", { type: "text", inputmode: "decimal", "aria-describedby": note.id, value: least, class: "short", "aria-label": say("不小于", "at least"), oninput: () => keep() });
+  const high = el("input", { type: "text", inputmode: "decimal", "aria-describedby": note.id, value: most, class: "short", "aria-label": say("不大于", "at most"), oninput: () => keep() });
+  const judge = () => {
+    const bounds = [low, high].map((input) => (input.value.trim() === "" ? null : typedNumber(input.value)));
+    [low, high].forEach((input, i) => input.setAttribute("aria-invalid", String(Number.isNaN(bounds[i]))));
+    const bad = [low, high].find((_, i) => Number.isNaN(bounds[i]));
+    note.textContent = bad ? say(`“${bad.value}”不是数值，应如 2.5`, `"${bad.value}" is no number; right would be one such as 2.5`)
+      : bounds[0] != null && bounds[1] != null && bounds[0]! > bounds[1]! ? say("下限大于上限", "the least is above the most") : "";
+  };
   const keep = () => {
+    judge();
     change({ range: column.value ? `${column.value}|${low.value}|${high.value}` : "" });
     changed();
   };
   const made = field(say("数值范围", "Number range"), column);
-  made.append(low, "–", high);
+  made.append(low, "–", high, note);
+  judge();
   made.classList.add("range");
   return made;
 }
