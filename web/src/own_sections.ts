@@ -68,6 +68,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   );
   const compute = async () => {
     change({ style: chosen.alias, sizes: sizes().join(","), base: base.map(({ input }) => input.value).join(","), outline: "", shape: "", layer: "" });
+    keep.disabled = false;
     view.classList.add("waiting");
     await show(line(), `${chosen.table} ${sizes().join("×")}`);
   };
@@ -86,6 +87,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     saved.classList.remove("fault");
     saved.replaceChildren(say(`库中已有“${no}”。 `, `"${no}" is there already. `), replace);
   };
+  const keep = button(say("存入自己的库", "Keep in own store"), () => void save()); // of a style alone, not of an outline
   const style = select(styles.map((each) => [each.alias, `${each.style} ${language() === "zh" ? each.table : each.shape}`]), chosen.alias, (alias) => {
     change({ style: alias, sizes: "", outline: "", shape: "", layer: "" }, true);
     void ownSections(place);
@@ -106,12 +108,13 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   };
   const showOutline = latest(() => outlineView(layer.value), (shown) => {
     view.classList.remove("waiting");
+    keep.disabled = true;
     if (shown) view.replaceChildren(shown);
   });
   const form = el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() },
     el("h1", {}, say("自定义截面", "Own section")),
     field(say("类型", "Style"), style), ...fields.map(({ row }) => row), note,
-    el("div", { class: "tools" }, field(say("型号", "Name to keep it by"), name), button(say("存入自己的库", "Keep in own store"), () => void save())), saved,
+    el("div", { class: "tools" }, field(say("型号", "Name to keep it by"), name), keep), saved,
     el("h2", {}, say("任意外轮廓", "Any outline")),
     dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", async ([file]) => {
       if (!file) return;
