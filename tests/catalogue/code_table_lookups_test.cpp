@@ -117,6 +117,7 @@ TEST(CodeTableLookups, CellsByPosition) {
   using CSingle = bool (*)(Sub18_Style1, Sub18_Style2, double&);
   const CCorners tables[] = {
       {"l1/b1", T::SearchSub4, 4, 3, 13, 12, 9.5},
+      {"gamma", T::SearchSub6, 23, 2, 1.05, 1.5, 1.0},
       {"fatigue", T::SearchSub7, 2, 8, 1940, 3, 4},
       {"slip", T::SearchSub8, 4, 3, 0.45, 0.4, 0.3},
       {"preload", static_cast<CPlain>(T::SearchSub9), 2, 6, 80, 355, 100},
@@ -132,23 +133,6 @@ TEST(CodeTableLookups, CellsByPosition) {
   EXPECT_TRUE(T::SearchSub9(1, 2, preload));
   EXPECT_EQ(preload, 190);
   EXPECT_FALSE(T::SearchSub9(1, 6, preload));
-}
-
-// Table 5.2.1 by kind of section.
-TEST(CodeTableLookups, PlasticFactorGamma) {
-  constexpr double kX[] = {1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05,
-                           1.05, 1.05, 1.05, 1.2,  1.2,  1.2,  1.15, 1.0,  1.0,  1.0,  1.0};
-  constexpr double kY[] = {1.2, 1.2,  1.2,  1.2, 1.2, 1.05, 1.05, 1.05, 1.05, 1.05, 1.05, 1.2,
-                           1.2, 1.05, 1.05, 1.2, 1.2, 1.2,  1.15, 1.05, 1.05, 1.5,  1.5};
-  const auto gamma = [](int kind, int axis) {
-    return Result<double>([=](double& v) { return T::SearchSub6(kind, axis, v); });
-  };
-  for (int kind = 0; kind < 23; ++kind) {
-    EXPECT_EQ(gamma(kind, 0), kX[kind]) << kind;
-    EXPECT_EQ(gamma(kind, 1), kY[kind]) << kind;
-  }
-  for (const double refused : {gamma(-1, 0), gamma(23, 0), gamma(0, -1), gamma(0, 2)})
-    EXPECT_EQ(refused, kFalse);
 }
 
 TEST(CodeTableLookups, BucklingClass) {

@@ -9,7 +9,9 @@
 
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
+#include "outlines/outline_check.h"
 #include "outlines/outline_moments.h"
+#include "outlines/touching_parts.h"
 #include "sections/catalogue_store.h"
 #include "sections/geometry_rows.h"
 #include "sections/outline_integral.h"
@@ -29,25 +31,6 @@ CPoint Direction(const CVertex& from, const CVertex& to, double atEnd) {
   const double angle = arc.start + atEnd * arc.sweep;
   const double sense = arc.sweep > 0 ? 1 : -1;
   return {-std::sin(angle) * sense, std::cos(angle) * sense};
-}
-
-double Cross(orv3::CPoint o, orv3::CPoint a, orv3::CPoint b) {
-  return (a.x - o.x) * (b.y - o.y) - (a.y - o.y) * (b.x - o.x);
-}
-
-bool CrossesItself(const std::vector<orv3::CPath>& loops) {
-  std::vector<std::pair<orv3::CPoint, orv3::CPoint>> chords;
-  for (const orv3::CPath& loop : loops) {
-    const std::vector<orv3::CPoint> points = Flattened(loop, 0.05);
-    for (std::size_t i = 0; i + 1 < points.size(); ++i)
-      chords.emplace_back(points[i], points[i + 1]);
-  }
-  for (const auto& [a, b] : chords) {
-    for (const auto& [c, d] : chords) {
-      if (Cross(a, b, c) * Cross(a, b, d) < 0 && Cross(c, d, a) * Cross(c, d, b) < 0) return true;
-    }
-  }
-  return false;
 }
 
 // Arcs run on into their neighbours without a corner.
@@ -75,7 +58,7 @@ void CheckForm(const orv3::COutline& outline) {
     EXPECT_TRUE(loop.m_bClosed);
     CheckTangents(loop);
   }
-  EXPECT_FALSE(CrossesItself(outline.m_arrLoop));
+  EXPECT_TRUE(!orv3::CheckOutline(outline.m_arrLoop) || orv3::PartsCleared(outline.m_arrLoop));
 }
 
 class StoredOutline : public CatalogueStore {};

@@ -91,16 +91,6 @@ TEST(SectionCommand, WritesAPicture) {
   ExpectHas(svg.Bytes(), {"tf = 20"});
 }
 
-TEST(SectionCommand, WritesAnOutline) {
-  const COwnFile dxf("tube.dxf");
-  EXPECT_EQ(RunProgram("section tube 50 45 --dxf " + dxf.m_strPath).m_nExit, 0);
-  const std::string outline = dxf.Bytes();
-  int loops = 0;
-  for (std::size_t at = 0; (at = outline.find("\r\nLWPOLYLINE\r\n", at)) != std::string::npos; ++at)
-    ++loops;
-  EXPECT_EQ(loops, 2) << "the rim and the hole";
-}
-
 TEST(StylesCommand, ListsAllFifteen) {
   ExpectHas(RunProgram("styles").m_strOut,
             {"自定义Z形截面", "bf1  上翼缘宽度  top flange overhang left of the web\n"});

@@ -43,7 +43,7 @@ case $1 in
     as_user 'man orv3cal' | grep -w lattice
     zcat /usr/share/man/man1/orv3cal.1.gz | grep -F "orv3cal $(version)"
     zcat /usr/share/man/zh_CN/man1/orv3cal-section.1.gz | grep 截面
-    for page in $(orv3cal --help | sed -n '/^Subcommands/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
+    for page in $(orv3cal --help | sed -n '/^Subcommands/,/^$/s/^  \([a-z][a-z]*\) .*/\1/p'); do
       man --warnings "orv3cal-$page" 2>&1 >/dev/null | (! grep .)
     done
     ;;

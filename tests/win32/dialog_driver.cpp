@@ -202,19 +202,6 @@ CDialogProbe CDialogProbe::WaitFor(const std::wstring& caption) {
   return CDialogProbe(found);
 }
 
-// The boxes of Windows and Wine have their text in a control of this number, and no dialog of ours.
-CDialogProbe CDialogProbe::WaitForMessage() {
-  HWND found = nullptr;
-  const auto open = [&] {
-    for (const HWND window : Dialogs()) {
-      if (IsWindowEnabled(window) && GetDlgItem(window, kMessageText)) found = window;
-    }
-    return found != nullptr;
-  };
-  Eventually(open, "message box");
-  return CDialogProbe(found);
-}
-
 bool CDialogProbe::IsOpen(const std::wstring& caption) { return FindDialog(caption) != nullptr; }
 
 void CDialogProbe::WaitUntilClosed() const {

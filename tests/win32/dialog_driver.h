@@ -20,8 +20,6 @@ class CDialogProbe {
  public:
   // Waits for a dialog of this process with the caption; of several the newest.
   static CDialogProbe WaitFor(const std::wstring& caption);
-  // The message box that is open, whatever its title.
-  static CDialogProbe WaitForMessage();
   static bool IsOpen(const std::wstring& caption);
   // Waits as well until its owner has done what follows: the library, which belongs to the owner's
   // thread, may then be asked from here.
