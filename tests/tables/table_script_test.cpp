@@ -36,9 +36,8 @@ CLive LiveOf(const CDataTable& table) {
 
 // Whether a value would part the row at another place than its end.
 bool Splits(const CDataItem& row) {
-  return std::ranges::any_of(row.m_arrCell, [](const CDataCell& cell) {
-    return cell.m_strValue.Find(L",,,") >= 0;
-  });
+  return std::ranges::any_of(
+      row.m_arrCell, [](const CDataCell& cell) { return cell.m_strValue.Find(L",,,") >= 0; });
 }
 
 class CScript {
