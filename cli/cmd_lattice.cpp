@@ -172,8 +172,8 @@ void RunLattice(const COptions& options) {
   StoreToRead(options.store);
   const CLatticeLimbs limbs = LimbsOf(column);
   if (!options.svg.empty()) {
-    WriteFile(options.svg,
-              LatticePictureSvg({column.m_strTableName, column[L"No."].m_strValue, limbs}));
+    WriteFile(options.svg, LatticePictureSvg({column.m_strTableName, column[L"No."].m_strValue,
+                                              limbs, MessageLanguage()}));
   }
   if (options.json) {
     PrintJson(LatticeJson(column, limbs));

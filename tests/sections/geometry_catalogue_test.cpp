@@ -197,6 +197,11 @@ TEST_F(GeometryCatalogue, ShearCentresAndWarping) {
   }
   for (const CDataItem& row : Rows(L"冷弯薄壁槽钢"))
     ExpectWarping(row, 10 * Cell(row, L"eo(cm)"), 1e6 * Cell(row, L"Iw(cm^6)"), 1e-9);
+  // Where the walls' mid-lines meet.
+  for (const CDataItem& row : Rows(L"剖分T型钢"))
+    ExpectWarping(row, 10 * Cell(row, L"Cx(cm)") - Cell(row, L"t2(mm)") / 2, 0, 0);
+  for (const CDataItem& row : Rows(L"热轧等边角钢"))
+    ExpectWarping(row, std::sqrt(2) * (10 * Cell(row, L"zo(cm)") - Cell(row, L"t(mm)") / 2), 0, 0);
   // Back to back they are an H with a web of twice the thickness.
   for (const CDataItem& row : Rows(L"热轧普通槽钢][组合")) {
     const CDataItem part =
