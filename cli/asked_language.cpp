@@ -24,6 +24,13 @@ std::optional<CLanguage> LanguageOf(std::string_view name) {
   return {};
 }
 
+// Of a locale's name as well, such as zh_CN.UTF-8: the variable is often copied from one.
+std::optional<CLanguage> LanguageOfLocale(std::string_view name) {
+  std::string language(name.substr(0, name.find_first_of("_-.@")));
+  for (char& ch : language) ch = (ch >= 'A' && ch <= 'Z') ? static_cast<char>(ch - 'A' + 'a') : ch;
+  return LanguageOf(language);
+}
+
 // The last one that is given.
 std::optional<CLanguage> Given(const std::vector<std::string>& arguments) {
   const std::string assigned = std::string(kOption) + "=";
@@ -38,19 +45,28 @@ std::optional<CLanguage> Given(const std::vector<std::string>& arguments) {
   return language;
 }
 
+std::string Variable() { return ToUtf8(Environment(kVariable)); }
+
+// What option or variable ask for.
+std::optional<CLanguage> Wanted(const std::vector<std::string>& arguments) {
+  const std::optional<CLanguage> given = Given(arguments);
+  return given ? given : LanguageOfLocale(Variable());
+}
+
 }  // namespace
 
 void TakeLanguage(const std::vector<std::string>& arguments) {
-  Asked() = Given(arguments);
-  const std::string variable = ToUtf8(Environment(kVariable));
+  Asked() = Wanted(arguments);
+  SetMessageLanguage(Asked().value_or(UserLanguage()));
+  const std::string variable = Variable();
   if (!Asked() && !variable.empty()) {
-    Asked() = LanguageOf(variable);
-    if (!Asked()) {
-      Refuse(std::string(kVariable) + ": \"" + Excerpt(variable) +
-             "\" is no language; right would be zh or en (不是语言，应为 zh 或 en)");
-    }
+    Refuse(std::string(kVariable) + ": \"" + Excerpt(variable) +
+           "\" is no language; right would be zh or en (不是语言，应为 zh 或 en)");
   }
-  SetMessageLanguage(Asked() ? *Asked() : UserLanguage());
+}
+
+CLanguage LanguageFor(const std::vector<std::string>& arguments) {
+  return Wanted(arguments).value_or(UserLanguage());
 }
 
 std::optional<CLanguage> AskedLanguage() { return Asked(); }

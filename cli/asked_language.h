@@ -16,6 +16,9 @@ namespace orv3::cli {
 // tells.
 void TakeLanguage(const std::vector<std::string>& arguments);
 
+// The language that a command with these arguments answers in.
+CLanguage LanguageFor(const std::vector<std::string>& arguments);
+
 // What was asked for by option or variable; none when nothing was: reports are in Chinese then.
 std::optional<CLanguage> AskedLanguage();
 

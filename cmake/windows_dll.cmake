@@ -30,15 +30,18 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
 endif()
 
 # A program catches what the DLL throws only when both use one runtime (i686), and a runtime of the
-# DLL's own would leave memory behind when a host unloads it; so its files go beside the DLL.
+# DLL's own would leave memory behind when a host unloads it; so its files go beside the DLL, without
+# the debugging symbols that are most of them.
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   set(unwinding libgcc_s_dw2-1.dll)
 else()
   set(unwinding libgcc_s_seh-1.dll)
 endif()
+file(MAKE_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 foreach(name ${unwinding} libstdc++-6.dll libwinpthread-1.dll)
   execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}
                   OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
-  list(APPEND ORV3CAL_RUNTIME_DLLS ${file})
+  set(stripped ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name})
+  execute_process(COMMAND ${CMAKE_STRIP} -p -o ${stripped} ${file} COMMAND_ERROR_IS_FATAL ANY)
+  list(APPEND ORV3CAL_RUNTIME_DLLS ${stripped})
 endforeach()
-file(COPY ${ORV3CAL_RUNTIME_DLLS} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})

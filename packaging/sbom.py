@@ -15,17 +15,24 @@ import sys
 import time
 from pathlib import Path
 
-# Debian's name of each part, its licence, and how Orv3Cal uses it.
+# Debian's name of each part, its licence, how Orv3Cal uses it, and which of the files have to do with it.
+COMPILED = "*.deb *.whl *.zip *-setup.exe *.html"
+WINDOWS = "*.zip *-setup.exe"
+GCC = "GPL-3.0-or-later WITH GCC-exception-3.1"
 PARTS = [
-    ("libeigen3-dev", "MPL-2.0", "CONTAINS"),
-    ("libcli11-dev", "BSD-3-Clause", "CONTAINS"),
-    ("nlohmann-json3-dev", "MIT", "CONTAINS"),
-    ("pybind11-dev", "BSD-3-Clause", "CONTAINS"),
-    ("nsis", "Zlib", "CONTAINS"),
-    ("libxlsxwriter-dev", "BSD-2-Clause", "DEPENDS_ON"),
-    ("libstdc++-12-dev", "GPL-3.0-or-later WITH GCC-exception-3.1", "DEPENDS_ON"),
-    ("gcc-mingw-w64-i686-posix-runtime", "GPL-3.0-or-later WITH GCC-exception-3.1", "CONTAINS"),
-    ("mingw-w64-common", "NOASSERTION", "CONTAINS"),
+    ("libeigen3-dev", "MPL-2.0", "CONTAINS", COMPILED),
+    ("libcli11-dev", "BSD-3-Clause", "CONTAINS", COMPILED),
+    ("nlohmann-json3-dev", "MIT", "CONTAINS", COMPILED),
+    ("pybind11-dev", "BSD-3-Clause", "CONTAINS", "python3-*.deb *.whl"),
+    ("nsis", "Zlib", "CONTAINS", "*-setup.exe"),
+    ("libxlsxwriter-dev", "BSD-2-Clause", "DEPENDS_ON", "*.deb"),
+    ("libstdc++6", GCC, "DEPENDS_ON", "*.deb *.whl"),
+    ("gcc-mingw-w64-i686-posix-runtime", GCC, "CONTAINS", "*-win32.zip *-setup.exe"),
+    ("gcc-mingw-w64-x86-64-posix-runtime", GCC, "CONTAINS", "*-win64.zip"),
+    ("mingw-w64-common", "NOASSERTION", "CONTAINS", WINDOWS),
+    ("libfmt-dev", "MIT", "CONTAINS", "*.html"),
+    ("libfast-float-dev", "Apache-2.0 OR MIT", "CONTAINS", "*.html"),
+    ("emscripten", "MIT OR NCSA", "CONTAINS", "*.html"),
 ]
 
 
@@ -36,7 +43,7 @@ def installed_version(package):
 
 
 def spdx_package(name, version, licence):
-    return {"name": name, "SPDXID": f"SPDXRef-{name.replace('+', 'x')}", "versionInfo": version,
+    return {"name": name, "SPDXID": f"SPDXRef-{name.replace('+', 'x')}", "versionInfo": version or "NOASSERTION",
             "downloadLocation": "NOASSERTION", "filesAnalyzed": False,
             "licenseConcluded": licence, "licenseDeclared": licence,
             "copyrightText": "NOASSERTION"}
@@ -56,8 +63,8 @@ def main():
     made = [path for path in sorted(folder.iterdir())
             if path.is_file() and path != target and path.name != "SHA256SUMS"]
     files = [spdx_file(number, path) for number, path in enumerate(made)]
-    parts = [(name, installed_version(name), licence, use) for name, licence, use in PARTS]
-    parts = [part for part in parts if part[1]]
+    parts = [(name, installed_version(name), licence, use) for name, licence, use, holders in PARTS
+             if any(path.match(pattern) for path in made for pattern in holders.split())]
     own = spdx_package("orv3cal", version, "MIT")
     relations = [("SPDXRef-DOCUMENT", "DESCRIBES", own["SPDXID"])]
     relations += [(own["SPDXID"], use, spdx_package(name, "", "")["SPDXID"])

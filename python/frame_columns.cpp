@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "framework/language.h"
+
 namespace orv3::python {
 namespace {
 
@@ -11,7 +13,7 @@ using cli::CCaseCell;
 using cli::CCaseColumn;
 
 std::string Place(const std::string& key, std::size_t row) {
-  return key + ": row " + std::to_string(row);
+  return Say("{1}：第 {2} 行", "{1}: row {2}", {key, std::to_string(row)});
 }
 
 bool IsText(const py::handle& cell) { return PyUnicode_Check(cell.ptr()) != 0; }
@@ -37,8 +39,9 @@ double Number(const py::handle& value, const std::string& place) {
   const double number = PyFloat_AsDouble(value.ptr());
   if (number == -1 && PyErr_Occurred() != nullptr) {
     PyErr_Clear();
-    throw py::type_error(place + ": " + py::repr(value).cast<std::string>() +
-                         " is no number, text or list of numbers");
+    throw py::type_error(Say("{1}：{2} 不是数、文字或数的列表",
+                             "{1}: {2} is no number, text or list of numbers",
+                             {place, py::repr(value).cast<std::string>()}));
   }
   return number;
 }
@@ -56,7 +59,9 @@ CCaseCell Cell(const py::handle& value, const std::string& key, std::size_t row)
   if (!IsList(value)) return Number(value, Place(key, row));
   std::vector<double> list;
   for (const py::handle each : py::reinterpret_borrow<py::iterable>(value)) {
-    if (IsTruth(each)) throw py::type_error(Place(key, row) + ": true and false are no numbers");
+    if (IsTruth(each))
+      throw py::type_error(Say("{1}：true 和 false 不是数", "{1}: true and false are no numbers",
+                               {Place(key, row)}));
     list.push_back(Number(each, Place(key, row)));
   }
   return list;
@@ -86,9 +91,9 @@ cli::CCaseColumns FrameColumns(const py::dict& columns) {
     const auto array = values.cast<py::array>();
     const auto count = static_cast<std::size_t>(array.size());
     if (!cases.m_arrColumn.empty() && count != cases.m_nCases)
-      throw py::value_error(key + ": " + std::to_string(count) +
-                            " values; the columns before it have " +
-                            std::to_string(cases.m_nCases));
+      throw py::value_error(Say("{1}：{2} 个值；前面各列为 {3} 个",
+                                "{1}: {2} values; the columns before it have {3}",
+                                {key, std::to_string(count), std::to_string(cases.m_nCases)}));
     cases.m_nCases = count;
     cases.m_arrColumn.push_back(Column(key, array));
   }

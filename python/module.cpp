@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "answer_columns.h"
+#include "asked_language.h"
 #include "frame_columns.h"
 #include "framework/utf8.h"
 #include "program.h"
@@ -60,7 +61,15 @@ py::object Values(CAnswerValues&& values) {
   return Texts(std::get<std::vector<std::string>>(values));
 }
 
+void SpeakFor(const cli::CArguments& arguments) { SetMessageLanguage(cli::LanguageFor(arguments)); }
+
+std::string SayFor(const cli::CArguments& arguments, const char* chinese, const char* english) {
+  SpeakFor(arguments);
+  return Say(chinese, english);
+}
+
 py::tuple RunCases(const cli::CArguments& arguments, const py::dict& frame) {
+  SpeakFor(arguments);
   const cli::CCaseColumns cases = FrameColumns(frame);
   cli::CMemoryStreams streams;
   streams.m_pCases = &cases;
@@ -89,6 +98,9 @@ PYBIND11_MODULE(_orv3cal, module) {
   module.def("run_cases", &orv3::python::RunCases, py::arg("arguments"), py::arg("columns"),
              "Runs a check whose file of cases is '-'; answers (exit status, columns, standard "
              "error).");
+  module.def("say", &orv3::python::SayFor, py::arg("arguments"), py::arg("chinese"),
+             py::arg("english"),
+             "The half of a text that a command with these arguments would answer with.");
   module.def(
       "set_catalogue",
       [](const std::string& folder) { orv3::cli::SetShippedFolder(orv3::FromUtf8(folder)); },

@@ -17,7 +17,8 @@ import subprocess
 from pathlib import Path
 
 GUIDES = {
-    "First steps": ["Orv3Cal <README.md>", "Orv3Cal（中文） <README.zh-CN.md>", "docs/python.md", "docs/embedding.md", "docs/windows.md"],
+    "First steps": ["Orv3Cal <README.md>", "docs/python.md", "docs/page.md", "docs/embedding.md", "docs/windows.md"],
+    "中文": ["Orv3Cal（中文） <README.zh-CN.md>", "docs/guide.zh-CN.md"],
     "Sections": ["sections.md", "section-solver.md", "outlines.md", "geometry.md", "lattice.md"],
     "Catalogue and stores": ["catalogue.md", "searching.md", "stores.md", "file-formats.md", "ifc.md"],
     "Checks": ["connections.md", "members.md", "case-keys.md", "codes.md", "code-tables.md"],

@@ -11,7 +11,9 @@ class Orv3Cal(ConanFile):
     settings = "os", "compiler", "build_type", "arch"
     options = {"shared": [True, False]}
     default_options = {"shared": False}
-    requires = "eigen/3.4.0"
+
+    def requirements(self):
+        self.requires("eigen/3.4.0", visible=False)  # inside the library, never in its headers
 
     def export_sources(self):
         source = self.recipe_folder + "/../.."
@@ -24,8 +26,10 @@ class Orv3Cal(ConanFile):
     def generate(self):
         CMakeDeps(self).generate()
         toolchain = CMakeToolchain(self)
-        for name, value in (("TESTS", False), ("CLI", False), ("SHARED", bool(self.options.shared))):
-            toolchain.variables["ORV3CAL_BUILD_" + name] = value
+        shared = bool(self.options.shared)
+        for name, value in (("BUILD_TESTS", False), ("BUILD_CLI", False), ("BUILD_SHARED", shared),
+                            ("WINDOWS_DLL", shared)):
+            toolchain.variables["ORV3CAL_" + name] = value
         eigen = self.dependencies["eigen"].cpp_info.includedirs[0]
         toolchain.variables["EIGEN_INCLUDE"] = eigen
         toolchain.generate()
@@ -44,3 +48,5 @@ class Orv3Cal(ConanFile):
         self.cpp_info.includedirs = ["include/orv3cal"]
         target = "shared" if self.options.shared else "orv3cal"
         self.cpp_info.set_property("cmake_target_name", "orv3cal::" + target)
+        if self.settings.os == "Windows":
+            self.cpp_info.system_libs = ["comctl32", "comdlg32", "gdi32", "advapi32"]

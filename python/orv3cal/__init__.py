@@ -185,7 +185,13 @@ def code(
     given, or 2003, withdrawn.
     """
     if question.startswith("-"):
-        raise Error(f'"{question}" is no question; right would be one of orv3cal code --help')
+        raise Error(
+            _command.say(
+                "“{0}”不是可查的数值；应为 orv3cal code --help 所列之一",
+                '"{0}" is no question; right would be one of orv3cal code --help',
+                question,
+            )
+        )
     options = ["--json", *_command.option("--code", edition)]
     return _command.answer(_command.line(["code", question], options, arguments))
 

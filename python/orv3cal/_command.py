@@ -3,10 +3,11 @@
 from __future__ import annotations
 
 import json
+import math
 import numbers
 import warnings
 from pathlib import Path
-from typing import Any, Iterable, Optional, Sequence, Union
+from typing import Any, Iterable, Mapping, Optional, Sequence, Union
 
 from . import _orv3cal
 
@@ -29,8 +30,15 @@ def set_language(language: Optional[str]) -> None:
     """Answers in "zh" or "en" from now on; None leaves it to ORV3CAL_LANG and the locale."""
     global _language
     if language not in (None, "zh", "en"):
-        raise Error(f'language: "{language}" is no language; right would be "zh", "en" or None')
+        raise Error(
+            say("{0!r} 不是语言；应为 zh、en 或 None", '{0!r} is no language; right would be "zh", "en" or None', language)
+        )
     _language = language
+
+
+def say(chinese: str, english: str, *parts: Any) -> str:
+    """The half of a sentence in the language of answers, its parts filled in."""
+    return _orv3cal.say(option("--lang", _language), chinese, english).format(*parts)
 
 
 def find_catalogue() -> None:
@@ -87,15 +95,29 @@ def answer(arguments: list[str], case: Any = None) -> Any:
 
 def json_of(case: Any) -> str:
     """A case as JSON, numpy's numbers and arrays among its values."""
-    if isinstance(case, str):
-        return case
-    try:
-        return json.dumps(case, ensure_ascii=False, default=_plain)
-    except UnicodeEncodeError as error:
-        raise Error(str(error)) from None
+    text = case if isinstance(case, str) else json.dumps(_plain(case, ""), ensure_ascii=False)
+    if any("\ud800" <= letter <= "\udfff" for letter in text):
+        raise Error(say("算例不是 UTF-8 文字", "the case is not UTF-8 text"))
+    return text
 
 
-def _plain(value: Any) -> Any:
+def _plain(value: Any, place: str) -> Any:
+    """A value as JSON knows it; ``place`` is the key that it stands at, as in "bolts[2].x"."""
     if hasattr(value, "tolist"):
-        return value.tolist()
-    raise Error(f"{value!r} is no number, text, list or dict")
+        value = value.tolist()
+    if isinstance(value, Mapping):
+        return {str(key): _plain(each, f"{place}.{key}" if place else str(key)) for key, each in value.items()}
+    if isinstance(value, (list, tuple)):
+        return [_plain(each, f"{place}[{i}]") for i, each in enumerate(value)]
+    if value is None or isinstance(value, (bool, str, int)):
+        return value
+    if isinstance(value, numbers.Real) and math.isfinite(value):
+        return int(value) if isinstance(value, numbers.Integral) else float(value)
+    raise Error(
+        say(
+            "{0}：{1!r} 不是 JSON 的值；应为有限的数、文字、列表或字典",
+            "{0}: {1!r} is no value of JSON; right would be a finite number, text, list or dict",
+            place or "case",
+            value,
+        )
+    )

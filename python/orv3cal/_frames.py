@@ -5,7 +5,7 @@ from __future__ import annotations
 from typing import Any, Optional, Union
 
 from . import _command, _orv3cal
-from ._command import Error
+from ._command import Error, say
 
 _REFUSED = 2
 
@@ -14,11 +14,30 @@ def _array(key: str, values: Any) -> Any:
     """A column as the extension takes it: float64, or objects."""
     import numpy
 
-    array = numpy.asarray(values)
+    if isinstance(values, (list, tuple)) and any(isinstance(v, (list, tuple)) for v in values):
+        array = numpy.empty(len(values), dtype=object)  # one list a case, of any length
+        for i, value in enumerate(values):
+            array[i] = value
+    else:
+        array = numpy.asarray(values)
     if array.ndim != 1:
-        raise Error(f"{key}: {array.ndim} dimensions; right would be one value for each case")
+        raise Error(
+            say(
+                "{0}：有 {1} 维；应为每个算例一个值",
+                "{0}: {1} dimensions; right would be one value for each case",
+                key,
+                array.ndim,
+            )
+        )
     if array.dtype.kind in "mMc":
-        raise Error(f"{key}: {array.dtype} is no number; right would be a number in the key's unit")
+        raise Error(
+            say(
+                "{0}：{1} 不是数；应为该键单位下的数",
+                "{0}: {1} is no number; right would be a number in the key's unit",
+                key,
+                array.dtype,
+            )
+        )
     if array.dtype.kind in "fiu":
         return numpy.ascontiguousarray(array, dtype=numpy.float64)
     return numpy.ascontiguousarray(array, dtype=object)
@@ -28,8 +47,10 @@ def _columns(frame: Any) -> dict[str, Any]:
     columns: dict[str, Any] = {}
     for key in frame:
         name = str(key)
-        if name in columns or getattr(frame[key], "ndim", 1) != 1:
-            raise Error(f"{name}: stands over two columns; give it once")
+        if name in columns or (hasattr(frame, "index") and frame[key].ndim != 1):
+            raise Error(
+                say("{0}：有两列同名；应只给一次", "{0}: stands over two columns; give it once", name)
+            )
         columns[name] = _array(name, frame[key])
     return columns
 
@@ -124,6 +145,13 @@ def rows_frame(
             cells = frame[column["sign"]].replace("", float("nan"))
             try:
                 frame[column["sign"]] = pandas.to_numeric(cells).astype("float64")
-            except ValueError as error:
-                raise Error(f'{table}: {column["sign"]}: {error}') from None
+            except ValueError:
+                raise Error(
+                    say(
+                        "{0}：{1} 列有不是数的单元格",
+                        "{0}: a cell of column {1} is no number",
+                        table,
+                        column["sign"],
+                    )
+                ) from None
     return frame

@@ -146,6 +146,7 @@ class CDxfReader {
       Fail("不是 DXF 文件，或缺少 ENTITIES 段；请用 ASCII DXF",
            "is no DXF file, or has no section ENTITIES; right would be an ASCII DXF");
     }
+    if (m_arrClosed.empty() && m_arrOpen.empty() && !m_left.empty()) FailOnLayers();
     for (auto* paths : {&m_arrClosed, &m_arrOpen}) {
       for (CPath& path : *paths) Clean(path);
     }
@@ -245,6 +246,7 @@ class CDxfReader {
       if (entity.m_strKind == "ENDSEC") return;
       if (entity.m_strKind == "ENTITIES" || entity.m_strKind == "SEQEND") continue;
       const bool wanted = IsDrawn(entity) && IsOnLayer(entity);
+      if (IsDrawn(entity) && !wanted) m_left.insert(entity.m_strLayer);
       if (entity.m_strKind == "POLYLINE") {
         ReadPolyline(entity, wanted);
       } else if (wanted) {
@@ -253,6 +255,26 @@ class CDxfReader {
     }
     Fail("文件中断，缺少 ENTITIES 段的结尾；请给出完整文件",
          "breaks off in the section ENTITIES; right would be the whole file");
+  }
+
+  // Nothing is drawn on the layers that count, but on others.
+  [[noreturn]] void FailOnLayers() const {
+    constexpr int kMostNames = 10;
+    std::string names;
+    int named = 0;
+    for (const std::string& layer : m_left) {
+      if (++named > kMostNames) break;
+      names += (names.empty() ? "" : ", ") + Excerpt(layer);
+    }
+    if (named > kMostNames) names += ", ...";
+    if (m_strLayer.empty()) {
+      Fail("只在关闭或冻结的图层上有图形：" + names + "；请打开图层，或用 --layer 指定",
+           "draws only on layers that are off or frozen: " + names +
+               "; right would be one that is on, or --layer");
+    }
+    const std::string layer = Excerpt(m_strLayer);
+    Fail("图层“" + layer + "”上没有图形；应为 " + names + " 之一",
+         "draws nothing on layer \"" + layer + "\"; right would be one of " + names);
   }
 
   // In the model, not on a sheet of paper, and visible.
@@ -384,6 +406,7 @@ class CDxfReader {
   const std::string& m_strLayer;
   double m_dMm = 1;
   std::set<std::string> m_hidden;  // layers that are off or frozen
+  std::set<std::string> m_left;    // layers with entities that do not count
   std::size_t m_nPoints = 0;
   std::vector<CPath> m_arrClosed;
   std::vector<CPath> m_arrOpen;

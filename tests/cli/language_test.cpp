@@ -76,11 +76,13 @@ TEST(Language, HoldsForEveryHelp) {
     EXPECT_FALSE(HasEnglish(std::regex_replace(text, std::regex("--[a-z]+|[A-Z]+|orv3cal .*"), "")))
         << text;
   }
+  const std::string text = RunProgram("choose --help --lang zh").m_strOut;  // its columns
+  ExpectHas(text, {"  --store 文件                要使用", "  --top 整数（1 至 100000）   至多"});
 }
 
 TEST(Language, IsTheVariablesUnlessTheCommandSays) {
   const auto set = [](const char* value) { SetVariable("ORV3CAL_LANG", value); };
-  set("zh");
+  set("ZH_cn.UTF-8");
   EXPECT_TRUE(HasChinese(RunProgram("rows").m_strError));
   EXPECT_TRUE(HasEnglish(RunProgram("rows --lang en").m_strError));
   set("fr");

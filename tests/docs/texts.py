@@ -12,11 +12,12 @@ import re
 import sys
 from pathlib import Path
 
-FOLDERS = ("cli", "src")
+FOLDERS = ("cli", "python", "src")
+SUFFIXES = (".cpp", ".h", ".py")
 LITERAL = r'L?"(?:[^"\\]|\\.)*"(?:\s*L?"(?:[^"\\]|\\.)*")*'
-PAIRS = re.compile(rf"(?<![\w>])(?:Say|Both)\(\s*({LITERAL})\s*,\s*(?:[^\"();]*\?\s*)?({LITERAL})")
+PAIRS = re.compile(rf"(?<![\w>])(?:Say|say|Both)\(\s*({LITERAL})\s*,\s*(?:[^\"();]*\?\s*)?({LITERAL})")
 BRACED = re.compile(rf"\{{\s*({LITERAL})\s*,\s*({LITERAL})\s*\}}")
-ALONE = re.compile(rf"(?<![\w>])(?:Refuse|RefuseFile|Fail|Print|NotRead|NotWritten)\(\s*({LITERAL})\s*\)")
+ALONE = re.compile(rf"(?<![\w>])(?:Refuse|RefuseFile|Fail|Print|NotRead|NotWritten|Error)\(\s*f?({LITERAL})\s*\)")
 TABLES = r"热轧[\u4e00-\u9fff]+|[双三四]肢格构柱"
 CHINESE = re.compile("[\u4e00-\u9fff]")
 ENGLISH = re.compile(r"[A-Za-z]{2,} [a-z]{2,}")
@@ -62,7 +63,7 @@ def main():
     root = parser.parse_args().source
     pairs = wrong = 0
     for folder in FOLDERS:
-        for file in sorted([*(root / folder).rglob("*.cpp"), *(root / folder).rglob("*.h")]):
+        for file in sorted(each for each in (root / folder).rglob("*") if each.suffix in SUFFIXES):
             source = file.read_text("utf-8")
             pairs += len(PAIRS.findall(source))
             for at, text, fault in faults(source):

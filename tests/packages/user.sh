@@ -1,5 +1,5 @@
 # One step of a user's way, in a root where nothing of Orv3Cal was before.
-#   user.sh install|first-result|manual|completion|user-store|python|wheel|remove
+#   user.sh install|first-result|manual|completion|documents|user-store|python|wheel|remove
 cd /packages
 
 as_user() { su tester -c "$1"; }
@@ -43,7 +43,7 @@ case $1 in
     as_user 'man orv3cal' | grep -w lattice
     zcat /usr/share/man/man1/orv3cal.1.gz | grep -F "orv3cal $(version)"
     zcat /usr/share/man/zh_CN/man1/orv3cal-section.1.gz | grep 截面
-    for page in $(orv3cal --help | sed -n '/^Subcommands/,/^$/s/^  \([a-z]*\) .*/\1/p'); do
+    for page in $(orv3cal --help | sed -n '/^Subcommands/,/^$/s/^  \([a-z][a-z]*\) .*/\1/p'); do
       man --warnings "orv3cal-$page" 2>&1 >/dev/null | (! grep .)
     done
     ;;
@@ -57,6 +57,14 @@ case $1 in
     completed 'check b' | grep -x butt
     [ -s /usr/share/zsh/vendor-completions/_orv3cal ]
     [ -s /usr/share/fish/vendor_completions.d/orv3cal.fish ]
+    ;;
+  documents)
+    apt-get -q -y install ./orv3cal-doc_*.deb
+    cd /usr/share/doc/orv3cal-doc
+    python3 /packages/check_links.py .
+    grep 'Permission is hereby granted' LICENSE
+    [ ! -e /packages/orv3cal.html ] || grep 'orv3cal.html](orv3cal.html)' README.md README.zh-CN.md
+    apt-get -q -y purge orv3cal-doc
     ;;
   user-store)
     as_user 'orv3cal store add 自定义对称H型钢 --set No.=T --set "b(mm)=300" --set "h(mm)=400" --set "tf(mm)=20" --set "tw(mm)=10"'

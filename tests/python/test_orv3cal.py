@@ -104,11 +104,12 @@ class Answers(unittest.TestCase):
                 self.assertEqual((str(raised.exception), raised.exception.status), (words, status))
 
     def test_refuse_what_is_no_case(self):
-        for case in [{}, {**BOLT, "d": None}, {**BOLT, "x": 1}, {**BOLT, "d": float("nan")}, [], "{", 5]:
-            with self.subTest(case=case), self.assertRaises(orv3cal.Error):
+        for case in [{}, {**BOLT, "d": None}, {**BOLT, "x": 1}, [], "{", "\ud800", {"d": "\ud800"}, 5]:
+            with self.subTest(case=ascii(case)), self.assertRaises(orv3cal.Error):
                 orv3cal.check("bolt", case)
-        with self.assertRaises(orv3cal.Error):
-            orv3cal.check("bolt", {**BOLT, "d": {1, 2}})
+        for fault in [float("nan"), numpy.float64("inf"), {1, 2}]:
+            with self.assertRaisesRegex(orv3cal.Error, r"^n\[1\]\.d: "):
+                orv3cal.check("bolt", {**BOLT, "n": [1, {"d": fault}]})
         with self.assertRaises(orv3cal.Error):
             orv3cal.code("--help")
 
@@ -118,6 +119,10 @@ class Answers(unittest.TestCase):
             self.assertIn("螺栓", orv3cal.check("bolt", BOLT)["governs"])
             with self.assertRaisesRegex(orv3cal.Error, "应为"):
                 orv3cal.section("nothing")
+            with self.assertRaisesRegex(orv3cal.Error, "d：第 1 行.*不是数"):
+                orv3cal.check_many("bolt", {"d": [20, object()]})
+            with self.assertRaisesRegex(orv3cal.Error, "d.*应为有限的数"):
+                orv3cal.check("bolt", {"d": math.inf})
         finally:
             orv3cal.set_language("en")
         with self.assertRaises(orv3cal.Error):
@@ -235,7 +240,7 @@ class Frames(unittest.TestCase):
             ({"d": []}, "no case"),
             ({"nothing": [1.0]}, "nothing"),
             ({"d": [1.0], "t": [1.0, 2.0]}, "t: 2 values"),
-            ({"d": [[1.0]]}, "dimensions"),
+            ({"d": numpy.ones((1, 1))}, "dimensions"),
             ({"d": [{}]}, "d: row 0"),
             ({"d": numpy.array([20], dtype="timedelta64[s]")}, "d: timedelta64"),
             (pandas.DataFrame([[1.0, 2.0]], columns=["d", "d"]), "d: "),

@@ -82,23 +82,30 @@ int Browse(const CString& folder) {
   return kChosen;
 }
 
+// On standard error, or in a box where nobody would see that.
+void Tell(bool desktop, const std::string& fault) {
+  std::fprintf(stderr, "%s\n", fault.c_str());
+  if (desktop) ShowMessageBox({{}, FromUtf8(fault)});
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  const bool desktop = CloseOwnConsole();
   UseUtf8Console();
   const std::vector<std::string> arguments = CommandLineUtf8(argc, argv);
   if (arguments.size() > 2 || (arguments.size() == 2 && arguments[1].starts_with("-"))) {
     const CSentence usage =
         Both(L"用法：orv3browser [FOLDER]   FOLDER：截面库所在文件夹",
              L"usage: orv3browser [FOLDER]   FOLDER: that of the section stores");
-    std::fprintf(stderr, "%s\n", ToUtf8(usage.In(UserLanguage())).c_str());
+    Tell(desktop, ToUtf8(usage.In(UserLanguage())));
     return kMisuse;
   }
   SetMessageHandler(ShowMessageBox);
   try {
     return Browse(arguments.size() == 2 ? FromUtf8(arguments[1]) : UserFolder());
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "orv3browser: %s\n", error.what());
+    Tell(desktop, std::string("orv3browser: ") + error.what());
     return kFileTrouble;
   }
 }

@@ -20,6 +20,11 @@ std::vector<std::string> CommandLineUtf8(int argc, const char* const* argv) {
   return arguments;
 }
 
+bool CloseOwnConsole() {
+  DWORD processes[2] = {};
+  return GetConsoleProcessList(processes, 2) == 1 && FreeConsole() != 0;
+}
+
 void UseUtf8Console() {
   SetConsoleOutputCP(CP_UTF8);
   _setmode(0, _O_BINARY);  // what is read from standard input are bytes
