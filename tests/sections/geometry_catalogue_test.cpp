@@ -171,12 +171,13 @@ TEST_F(GeometryCatalogue, UserDefinedRowsAgreeWithTheirOutline) {
 }
 
 TEST_F(GeometryCatalogue, PairsWithoutTheirComponent) {
-  const CDataItem row = RowOf(L"热轧等边角钢组合", L"2L7X7", {{L"A(cm^2)", 9.606}});
+  CDataItem row = RowOf(L"热轧等边角钢组合", L"2L7X7", {{L"A(cm^2)", 9.606}});
   for (const CTwo& two : {RectOf(row), CenterOf(row), CenterOf(row, 90), InertiaOf(row)}) {
     EXPECT_EQ(two.first, 0);
     EXPECT_EQ(two.second, 0);
   }
   EXPECT_NEAR(CLoadDataTable::GetDataItemArea(row), 960.6, 1e-9);
+  EXPECT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 0) << "of a rolled row nothing is computed";
 }
 
 // --- Shear centre and warping --------------------------------------------------------------------
