@@ -112,7 +112,8 @@ CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   return record;
 }
 
-CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
+CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record,
+                  const CExactProperties& exact, const std::string& name) {
   CJson sizes = CJson::array();
   for (int i = 0; i < style.m_nSizes; ++i) sizes.push_back(JsonNumber(record.m_dSize[i]));
   CJson properties = CJson::object();
@@ -126,7 +127,7 @@ CJson SectionJson(const CSectionStyle& style, const CSteelJMData& record, const 
                 {"base", {JsonNumber(record.m_dX), JsonNumber(record.m_dY)}},
                 {"properties", properties},
                 {"geometry", FiguresJson(RowFigures(ExactRow(record)))}};
-  AddExactJson(json, ExactOf(record));
+  AddExactJson(json, exact);
   return json;
 }
 
@@ -135,7 +136,8 @@ std::string Unit(int power) {
   return kUnits[power];
 }
 
-void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const std::string& name) {
+void PrintSection(const CSectionStyle& style, const CSteelJMData& record,
+                  const CExactProperties& exact, const std::string& name) {
   Print(ToUtf8(style.TableName()) + Say({"", " (" + std::string(style.m_szShape) + ")"}) +
         (name.empty() ? "" : "  " + name) + "\n\n");
   CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
@@ -167,18 +169,19 @@ void PrintSection(const CSectionStyle& style, const CSteelJMData& record, const 
   if (style.m_nStyle == kHexagon)
     Print(Say("\nIxo = Iyo = 0.541 a⁴，与用表一致；精确值为 0.54127 a⁴\n",
               "\nIxo = Iyo = 0.541 a⁴ as in tables; exact: 0.54127 a⁴\n"));
-  PrintExact(ExactOf(record));
+  PrintExact(exact);
 }
 
 void RunSection(const COptions& options) {
   const CSectionStyle& style = StyleOf(options.style);
   const CSteelJMData record = RecordOf(style, options);
-  if (!options.svg.empty()) WriteFile(options.svg, SectionSvg(style, record, options.name));
+  const CExactProperties exact = ExactOf(record);
+  if (!options.svg.empty()) WriteFile(options.svg, SectionSvg(style, record, exact, options.name));
   if (!options.dxf.empty()) WriteFile(options.dxf, SectionDxf(record));
   if (options.json) {
-    PrintJson(SectionJson(style, record, options.name));
+    PrintJson(SectionJson(style, record, exact, options.name));
   } else {
-    PrintSection(style, record, options.name);
+    PrintSection(style, record, exact, options.name);
   }
 }
 

@@ -48,7 +48,9 @@ void PrintStyles() {
 // users know and tell other sizes, so the pictures go without.
 void WritePictures(const std::string& folder) {
   for (const CSectionStyle& style : SectionStyles()) {
-    WriteFile(folder + "/" + style.m_szAlias + ".svg", SectionSvg(style, SampleSection(style), ""));
+    const CSteelJMData record = SampleSection(style);
+    WriteFile(folder + "/" + style.m_szAlias + ".svg",
+              SectionSvg(style, record, ExactOf(record), ""));
   }
 }
 

@@ -34,7 +34,7 @@ CExactProperties ExactOf(const CSteelJMData& record) {
 }
 
 std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
-                       const std::string& name) {
+                       const CExactProperties& exact, const std::string& name) {
   CSectionPicture picture;
   picture.m_nStyle = style.m_nStyle;
   for (int i = 0; i < style.m_nSizes; ++i) {
@@ -42,7 +42,6 @@ std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
   }
   picture.m_base = {record.m_dX, record.m_dY};
   picture.m_centroid = {record.m_dXo, record.m_dYo};
-  const CExactProperties exact = ExactOf(record);
   if (std::isfinite(exact.xs))
     picture.m_shearCenter = CPoint{Hundredths(exact.xs), Hundredths(exact.ys)};
   if (std::isfinite(exact.xp))

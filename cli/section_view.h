@@ -17,7 +17,7 @@ CExactProperties ExactOf(const CSteelJMData& record);
 // The picture of a computed record, drawn to scale with what its exact properties mark; `name` is
 // UTF-8.
 std::string SectionSvg(const CSectionStyle& style, const CSteelJMData& record,
-                       const std::string& name);
+                       const CExactProperties& exact, const std::string& name);
 
 // The outline of a record for drawing programs (drawing_dxf.h). The sizes must bound a section.
 std::string SectionDxf(const CSteelJMData& record);

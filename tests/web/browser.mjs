@@ -14,8 +14,9 @@ export const kAxe = require("axe-core").source;
 
 const kBrowsers = ["/usr/bin/chromium", "/usr/bin/chromium-browser", "/usr/bin/google-chrome"];
 
-export async function start() {
+export async function start(more = {}) {
   return puppeteer.launch({
+    ...more,
     executablePath: kBrowsers.find(existsSync),
     args: ["--no-sandbox", "--force-color-profile=srgb", "--font-render-hinting=none"],
     protocolTimeout: 600_000,
@@ -23,11 +24,9 @@ export async function start() {
 }
 
 // A tab with what it must not do in `faults`: requests to anywhere, errors and words on the console.
-// `before` runs in the tab before the page does.
-export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860], before = () => {}) {
+export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860]) {
   const page = await context.newPage();
-  page.setDefaultTimeout(120_000);
-  await page.evaluateOnNewDocument(before);
+  page.setDefaultTimeout(Number(process.env.PAGE_TIMEOUT ?? 120_000));
   page.faults = [];
   page.on("request", (request) => {
     if (!/^(file|blob|data|about):/.test(request.url())) page.faults.push(`request: ${request.url()}`);
@@ -41,7 +40,7 @@ export async function openPage(context, hash = "view=sections&lang=en", size = [
 }
 
 export async function ready(page) {
-  await page.waitForSelector('main[aria-busy="false"]');
+  await (await page.waitForSelector('main[aria-busy="false"]')).dispose();
 }
 
 export async function show(page, hash) {

@@ -8,7 +8,7 @@ const example = (name) => ({ [name]: readFileSync(join(kSource, "examples", name
 const kAliases = {
   h: [300, 400, 20, 10], box: [300, 400, 16], "flanged-cross": [300, 400, 200, 250, 10, 16], rect: [100, 200], hexagon: [60],
   triangle: [100, 90], circle: [40], tube: [110, 100], t: [10, 300, 16, 95, 80], "general-h": [10, 400, 20, 16, 95, 85, 145, 120],
-  l: [10, 160, 12, 90], z: [10, 200, 12, 9, 60, 50], channel: [10, 200, 12, 11, 65, 70], cross: [10, 12, 95, 90, 85, 80],
+  l: [10, 160, 12, 90], z: [10, 200, 12, 9, 60, 50], channel: [10, 200, 12, 11, 65, 70], cross: [10, 200, 95, 90, 85, 80],
   "general-box": [300, 400, 16, 14, 12, 10],
 };
 const kRows = [

@@ -1,9 +1,8 @@
-// Connections, members and lattice columns: a form, the drawing beside it, the verdict, the report;
-// and many cases from a CSV.
+// Connections, members and lattice columns: a form, the drawing beside it, the verdict, the report.
 import { change, state } from "./address";
+import { Batch } from "./batch";
 import { ask, sentence, type Answer } from "./client";
-import { csvRows, csvText } from "./csv";
-import { button, bytesOf, copyButton, download, dropPlace, el, fault, field, latest, picture, select } from "./dom";
+import { button, bytesOf, copyButton, download, dropPlace, el, fault, field, latest, noAnswer, picture, select } from "./dom";
 import bolt from "../../examples/bolt.json";
 import butt from "../../examples/butt.json";
 import fillet from "../../examples/fillet.json";
@@ -13,17 +12,15 @@ import lattice4 from "../../examples/lattice-4.json";
 import member from "../../examples/member.json";
 import weldGroup from "../../examples/weld-group.json";
 import { Form, type Case } from "./form";
-import { Grid } from "./grid";
 import { say } from "./language";
 import { drawingIn, reportView } from "./report";
 import { schemaOf, type Kind } from "./schema";
 import { figureLines, figureTable } from "./section_view";
 import { summary, verdict, type CheckJson } from "./verdict";
-import { workbook } from "./workbook";
 
 const kExamples: Record<Kind, unknown> = { bolt, butt, fillet, "weld-group": weldGroup, member, lattice };
 
-const kindTitle = (kind: Kind): string =>
+export const kindTitle = (kind: Kind): string =>
   ({
     bolt: say("螺栓群", "Bolt group"),
     fillet: say("角焊缝", "Fillet weld"),
@@ -33,26 +30,38 @@ const kindTitle = (kind: Kind): string =>
     lattice: say("格构柱", "Lattice column"),
   })[kind];
 
-export function editions(changed: () => void): HTMLElement {
-  const list: [string, string][] = [["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`], ["both", say("两版", "both editions")]];
+export function editions(changed: () => void, both = true): HTMLElement {
+  const list: [string, string][] = [["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`]];
+  if (both) list.push(["both", say("两版", "both editions")]);
   return field(say("规范版本", "Edition"), select(list, state()["code"] ?? "2017", (code) => {
     change({ code: code === "2017" ? "" : code });
     changed();
   }));
 }
 
-// The case of the address, or the first example. Its edition is the one chosen above the form.
-function kept(kind: Kind): Case {
-  let value = structuredClone(kExamples[kind]) as Case;
-  try {
-    value = JSON.parse(state()["case"] ?? "") as Case;
-  } catch {
-    // none is there
-  }
+// The case of the address, or the first example; null for one that cannot be read. Its edition is the one chosen
+// above the form.
+function kept(kind: Kind): Case | null {
+  const value = caseInLink(kExamples[kind] as Case);
+  if (!value) return null;
   const { code, ...rest } = value;
   if (code !== undefined) change({ code: String(code) === "2017" ? "" : String(code) });
   return rest;
 }
+
+// The case that the address holds, else the one given; null for one that cannot be read.
+export function caseInLink(otherwise: Case): Case | null {
+  const text = state()["case"];
+  if (text === undefined) return structuredClone(otherwise);
+  try {
+    const value: unknown = JSON.parse(text);
+    return typeof value === "object" && !Array.isArray(value) ? (value as Case | null) : null;
+  } catch {
+    return null;
+  }
+}
+
+export const unreadLink = () => fault(say("链接中的算例不完整，不能读出；表单是空的。", "The case in this link is damaged and cannot be read; the form is empty."));
 
 const kFile = "case.json";
 
@@ -65,6 +74,8 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const form = new Form(kind, schemaOf(kind), (value) => {
     change({ case: JSON.stringify(value) });
+    view.hidden = false;
+    view.classList.add("waiting");
     void show();
   }, ["code"]);
   const show = latest(
@@ -72,26 +83,32 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
     (answer) => {
       const done = answer.status <= 1 && answer.out !== "";
       form.blame(done ? "" : sentence(answer, kFile));
-      view.classList.toggle("stale", !done);
-      jump.textContent = done ? verdictLine(kind, answer) : say("未能验算", "not checked");
-      if (done) view.replaceChildren(...(kind === "lattice" ? latticeView(answer) : answerView(kind, answer)));
+      view.classList.remove("waiting");
+      jump.textContent = done ? verdictLine(kind, answer) : say("没有结果", "no answer");
+      view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer)));
     },
   );
   // On a narrow screen the answer is below the form; this line of it stays in sight.
-  const jump = button("", () => view.scrollIntoView(), { class: "jump", "aria-label": say("看结果", "Go to the answer") });
+  const jump = button("", () => view.scrollIntoView(), { class: "jump", title: say("看结果", "Go to the answer") });
   const first = kept(kind);
-  const batch = el("div", { class: "batch" });
+  // The answer to a file of cases takes the place of that to the form until one of them is opened.
+  const batch = new Batch(kind, (value) => form.replace(value), () => (view.hidden = false));
   const extra = kind === "lattice"
     ? [field(say("示例", "Start from"), select([["", "–"], ["2", say("双肢", "two limbs")], ["3", say("三肢", "three limbs")], ["4", say("四肢", "four limbs")]], "", (limbs) => {
         const example = { 2: lattice, 3: lattice3, 4: lattice4 }[limbs];
         if (example) form.replace(example as Case);
       }))]
-    : [editions(() => void show())];
+    : [editions(() => {
+        void show();
+        void batch.again();
+      })];
   const drop = kind === "lattice" ? null : dropPlace(say("多个算例：CSV 或 JSON 文件", "Many cases: a CSV or JSON file"), ".csv,.json", async ([file]) => {
-    if (file) await batchView(batch, kind, file.name, await bytesOf(file));
+    if (!file) return;
+    view.hidden = true;
+    await batch.take(file.name, await bytesOf(file));
   });
-  place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), ...extra, form.element, drop, jump), el("div", { class: "answer" }, view, batch));
-  form.set(first);
+  place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), first ? null : unreadLink(), ...extra, form.element, drop, jump), el("div", { class: "answer" }, batch.element, view));
+  form.set(first ?? {});
   await show();
 }
 
@@ -130,24 +147,6 @@ function latticeView(answer: Answer): HTMLElement[] {
     figureTable(lattice.no, figureLines(lattice.properties)),
     ...limbs,
   ];
-}
-
-// The cases of a file, the worst first.
-async function batchView(place: HTMLElement, kind: Kind, name: string, data: Uint8Array): Promise<void> {
-  const file = name.toLowerCase().endsWith(".json") ? "cases.json" : "cases.csv";
-  const answer = await ask(["check", kind, file, "--csv", "--sort", "--code", state()["code"] ?? "2017"], { [file]: data });
-  const [head = [], ...rows] = csvRows(answer.out);
-  place.replaceChildren(el("h2", {}, name));
-  if (answer.err) place.append(fault(sentence(answer, file)));
-  if (rows.length === 0) return;
-  const used = head.map((_, i) => rows.some((row) => row[i]));
-  const keep = (row: string[]) => row.filter((_, i) => used[i]);
-  const lines = rows.map(keep);
-  const numeric = keep(head).map((_, i) => lines.every((row) => row[i] === "" || !Number.isNaN(Number(row[i]))));
-  const grid = new Grid({ label: name, columns: keep(head).map((each, i) => ({ name: each, numeric: numeric[i]! })), rows: lines });
-  place.append(el("div", { class: "tools" },
-    button("CSV", () => download("checked.csv", "\ufeff" + csvText([head, ...rows]))),
-    button("XLSX", () => download("checked.xlsx", workbook({ name: kindTitle(kind), rows: [keep(head), ...lines], numeric, heads: 1 })))), grid.element);
 }
 
 export function connections(place: HTMLElement): Promise<void> {

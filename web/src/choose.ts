@@ -1,9 +1,9 @@
 // The lightest sections of chosen tables that pass a member's case.
 import member from "../../examples/member.json";
 import { change, go, state } from "./address";
-import { editions } from "./checks";
+import { caseInLink, editions, unreadLink } from "./checks";
 import { ask, sentence, type Answer } from "./client";
-import { button, el, fault, field, latest, picture } from "./dom";
+import { button, computing, el, field, latest, noAnswer, picture } from "./dom";
 import { shown } from "./figures";
 import { Form, type Case } from "./form";
 import { say } from "./language";
@@ -21,57 +21,65 @@ interface ChooseJson {
 
 const kFile = "case.json";
 
-function kept(): Case {
-  try {
-    return JSON.parse(state()["case"] ?? "") as Case;
-  } catch {
-    const { section: _, edges: __, code: ___, ...rest } = structuredClone(member) as Case;
-    return rest;
-  }
+function kept(): Case | null {
+  const { section: _, edges: __, code: ___, ...rest } = structuredClone(member) as Case;
+  return caseInLink(rest);
 }
 
 export async function choose(place: HTMLElement): Promise<void> {
   const rolled = (await tables()).filter((table) => table.rows > 0);
-  const chosen = () => new Set((state()["tables"] ?? "热轧普通焊接H型钢,热轧窄翼缘H型钢").split(",").filter(Boolean));
+  const chosen = new Set((state()["tables"] ?? "热轧普通焊接H型钢,热轧窄翼缘H型钢").split(",").filter((name) => rolled.some((table) => table.name === name)));
+  const first = kept();
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const note = el("p", { class: "note", role: "status" });
   const boxes = rolled.map((table) => {
-    const box = el("input", { type: "checkbox", checked: chosen().has(table.name), onchange: () => {
-      const now = chosen();
-      if (box.checked) now.add(table.name);
-      else now.delete(table.name);
-      change({ tables: [...now].join(",") });
+    const box = el("input", { type: "checkbox", checked: chosen.has(table.name), onchange: () => {
+      if (box.checked) chosen.add(table.name);
+      else chosen.delete(table.name);
+      change({ tables: [...chosen].join(",") || "-" });
+      outdated();
     } });
     return el("label", { class: "check" }, box, ` ${table.name}`);
   });
-  const style = el("input", { type: "text", value: state()["styles"] ?? "", placeholder: '{"style": "box", "b": [200, 400, 50], "h": 400, "t": 16}', oninput: () => change({ styles: style.value }) });
-  const top = el("input", { type: "number", min: 1, value: state()["top"] ?? "20", class: "short", oninput: () => change({ top: top.value }) });
-  const form = new Form("member", schemaOf("member"), (value) => change({ case: JSON.stringify(value) }), ["section", "code"]);
+  const style = el("input", { type: "text", value: state()["styles"] ?? "", placeholder: '{"style": "box", "b": [200, 400, 50], "h": 400, "t": 16}', oninput: () => { change({ styles: style.value }); outdated(); } });
+  const top = el("input", { type: "number", min: 1, value: state()["top"] ?? "20", class: "short", oninput: () => { change({ top: top.value }); outdated(); } });
+  const form = new Form("member", schemaOf("member"), (value) => {
+    change({ case: JSON.stringify(value) });
+    outdated();
+  }, ["section", "code"]);
+  // What was chosen for another question does not stay beside this one.
+  let question = 0;
+  const outdated = () => {
+    ++question;
+    form.blame("");
+    note.textContent = "";
+    view.replaceChildren(noAnswer(say("输入已改，请再按“选择”", "the question has changed: choose again")));
+  };
   const find = latest(
-    (): Promise<Answer> => {
-      const names = [...chosen()];
+    (): Promise<[Answer, number]> => {
+      const [names, mine] = [[...chosen], question];
       const code = state()["code"] === "2003" ? "2003" : "2017";
       return ask(["choose", kFile, ...(names.length > 0 ? ["--table", names.join(",")] : []), ...(style.value ? ["--style", style.value] : []),
-        "--top", top.value, "--code", code, "--json", "--plot", "plot.svg"], { [kFile]: JSON.stringify(form.case) });
+        "--top", top.value, "--code", code, "--json", "--plot", "plot.svg"], { [kFile]: JSON.stringify(form.case) }).then((answer) => [answer, mine]);
     },
-    (answer) => {
+    ([answer, mine]) => {
+      if (mine !== question) return;
       const found = answer.status <= 1 && answer.out !== "";
       form.blame(found ? "" : sentence(answer, kFile));
-      view.classList.remove("stale");
       note.textContent = found ? sentence(answer) : "";
-      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, form.case, answer) : fault(sentence(answer, kFile)));
+      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, form.case, answer) : noAnswer(sentence(answer, kFile), form.mend));
     },
   );
   const start = button(say("选择", "Choose"), () => {
-    view.classList.add("stale");
+    view.replaceChildren(computing());
     void find();
   }, { class: "main" });
   place.replaceChildren(
-    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), editions(() => {}),
+    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(), editions(outdated, false),
       el("details", { class: "group", open: innerWidth > 860 }, el("summary", {}, say("截面表", "Tables")), ...boxes),
       field(say("自定义截面 --style", "Own section --style"), style), field(say("最多行数", "Rows at most"), top), start, note, form.element),
     el("div", { class: "answer" }, view));
-  form.set(kept());
+  form.set(first ?? {});
   await find();
 }
 

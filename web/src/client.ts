@@ -1,7 +1,7 @@
 // The page's side of the command: starts the worker and asks it.
 import source from "inside:worker";
 import type { Answer, Files } from "./core";
-import { language } from "./language";
+import { language, say } from "./language";
 import type { Reply, Start } from "./worker";
 
 export type { Answer, Files } from "./core";
@@ -9,28 +9,68 @@ export type { Answer, Files } from "./core";
 const waiting = new Map<number, (answer: Answer) => void>();
 let orders = 0;
 
+// Told when an answer takes long (the start of the page aside), and when it has come.
+let busyShown: (busy: boolean) => void = () => {};
+export const onBusy = (show: (busy: boolean) => void) => void (busyShown = show);
+const kLong = 700; // ms
+let answered = false;
+let busyTimer = 0;
+function tellBusy(busy: boolean): void {
+  clearTimeout(busyTimer);
+  busyTimer = 0;
+  if (!busy) busyShown(false);
+  else if (answered) busyTimer = setTimeout(() => busyShown(true), kLong);
+}
+
+// Whether the browser lets this page keep anything: asked of the one storage that says so.
+export function keepsStore(): boolean {
+  try {
+    return window.localStorage !== null;
+  } catch {
+    return false;
+  }
+}
+
 // The core and the catalogue stand behind this script, so that the page is there before them.
+async function unpackedPage(): Promise<Start> {
+  if (document.readyState === "loading") await new Promise((done) => addEventListener("DOMContentLoaded", done));
+  const packed = (name: string) => {
+    const place = document.getElementById(`inside-${name}`)!;
+    place.remove();
+    return place.textContent!;
+  };
+  return { wasm: packed("wasm"), store: packed("store"), exact: packed("exact"), storage: keepsStore() };
+}
+const inside = unpackedPage();
+
 async function start(): Promise<Worker> {
   const worker = new Worker(URL.createObjectURL(new Blob([source], { type: "text/javascript" })));
   worker.onmessage = ({ data }: MessageEvent<Reply>) => {
     waiting.get(data.id)?.(data.answer);
     waiting.delete(data.id);
+    answered = true;
+    if (waiting.size === 0) tellBusy(false);
   };
-  if (document.readyState === "loading") await new Promise((done) => addEventListener("DOMContentLoaded", done));
-  const packed = (name: string) => {
-    const place = document.getElementById(`inside-${name}`)!;
-    const text = place.textContent!;
-    place.remove();
-    return text;
-  };
-  worker.postMessage({ wasm: packed("wasm"), store: packed("store"), exact: packed("exact") } satisfies Start);
+  worker.postMessage(await inside);
   return worker;
 }
-const started = start();
+let started = start();
+
+// Ends what is being computed, and what waits for it. The own store is whole: a save is one transaction.
+export async function stop(): Promise<void> {
+  const worker = await started;
+  worker.terminate();
+  started = start();
+  const err = `orv3cal: ${say("已停止", "stopped")}\n`;
+  for (const done of waiting.values()) done({ status: 3, out: "", err, files: {} });
+  waiting.clear();
+  tellBusy(false);
+}
 
 async function order(what: object): Promise<Answer> {
   const worker = await started;
   return new Promise((done) => {
+    if (waiting.size === 0) tellBusy(true);
     waiting.set(++orders, done);
     worker.postMessage({ id: orders, ...what });
   });
@@ -46,11 +86,30 @@ export function ask(argv: string[], files: Files = {}): Promise<Answer> {
   return run([...argv, "--lang", language()], files);
 }
 
+const kWarmRuns = 30;
+let warmed = false;
+
+// Runs a line while nobody asks for anything: browsers compile well only what has run often, and the first
+// keys are to be followed as fast as the later ones.
+export async function warm(argv: string[], goOn: () => boolean): Promise<void> {
+  if (warmed) return;
+  warmed = true;
+  for (let i = 0; i < kWarmRuns && goOn(); ++i) {
+    await new Promise((done) => setTimeout(done, 20));
+    if (waiting.size === 0) await run(argv);
+  }
+}
+
 // What a command line in JSON answers; its sentence is the error where it answers nothing.
 export async function told<T>(argv: string[]): Promise<T> {
   const answer = await ask([...argv, "--json"]);
   if (answer.status !== 0) throw new Error(sentence(answer));
   return JSON.parse(answer.out) as T;
+}
+
+// Whether there is a store of the user's own.
+export async function isStoreKept(): Promise<boolean> {
+  return (await order({ kind: "kept" })).status === 0;
 }
 
 export function forgetOwnStore(): Promise<Answer> {

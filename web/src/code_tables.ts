@@ -15,10 +15,13 @@ interface CodeJson {
 // What to begin with, by question.
 const kFirst: Record<string, string> = {
   steel: "Q345 20 f", eps: "Q345", weld: "Q345 20 ffw", bolt: "C 4.8 fv", preload: "10.9 20", slip: "1 Q345", hole: "standard 20",
-  spacing: "pitch-least 22 12", area: "20", slender: "Q345 none upper", slenderness: "", width: "flange Q345 60", phi: "60 Q345 b",
-  phib: "uniform-upper 32 6", mu: "nosway 1 1", "mu-step": "free 1 0.5", "section-class": "flange 10 Q345", class: "0 x", gamma: "0 x S1",
-  fatigue: "Z4 C",
+  spacing: "pitch-least 22 12", area: "20", slender: "Q345 upper", slenderness: "compression", width: "flange Q345 60",
+  "width-moments": "web Q345 1", "width-beam": "flange Q345", phi: "60 345 b", phib: "uniform-upper 32 6", mu: "nosway 1 1",
+  "mu-step": "free 1 0.5", "mu-step2": "free 1 1 0.1 0.1", "mu-taper": "0.1 1", "section-class": "flange 10 Q345",
+  class: "welded-i-flame-cut x", "class-thick": "1 x", gamma: "0 x S1", fatigue: "Z4 C",
 };
+// What differs in the edition of 2003.
+const kFirst2003: Record<string, string> = { gamma: "0 x", fatigue: "4" };
 const kGrades = ["Q235", "Q345", "Q355", "Q390", "Q420", "Q460", "Q345GJ"];
 const kSpans = ["16", "40", "63", "80", "100"]; // thicknesses of steel, mm
 
@@ -34,6 +37,12 @@ const kAxes: Record<string, Record<number, string[]>> = {
   hole: { 0: ["standard", "oversize", "slot-across", "slot-along"] },
   area: { 0: ["12", "16", "20", "22", "24", "27", "30", "36"] },
 };
+
+// Of the others it runs along the choices that the command's help lists, and along the grades.
+function axesOf(question: string, names: string[]): Record<number, string[]> {
+  const lists = names.map((name) => (name.includes("|") ? name.replace(/[[\]]/g, "").split("|") : /^\[?GRADE/.test(name) ? kGrades : null));
+  return kAxes[question] ?? Object.fromEntries(lists.flatMap((list, at) => (list ? [[at, list] as const] : [])).slice(0, 2));
+}
 
 // The questions and what each means: the lines under the last heading of the help.
 async function questions(): Promise<[name: string, meaning: string][]> {
@@ -53,7 +62,7 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   const list = await questions();
   const question = state()["ask"] ?? "steel";
   const { arguments: names, more } = await wanted(question);
-  const given = (state()["args"] ?? kFirst[question] ?? "").split(" ");
+  const given = (state()["args"] ?? (state()["code"] === "2003" ? kFirst2003[question] : null) ?? kFirst[question] ?? "").split(" ");
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const edition = select([["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`]], state()["code"] ?? "2017", (code) => {
     change({ code: code === "2017" ? "" : code });
@@ -74,12 +83,18 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   };
   const code = () => (state()["code"] === "2003" ? "2003" : "2017");
   const line = (given: string[]) => ["code", question, ...given.filter((value) => value !== ""), "--code", code(), "--json"];
+  const around = el("div");
   const show = latest(
-    async (): Promise<[Answer, HTMLElement | null]> => {
-      const answer = await ask(line(values()));
-      return [answer, answer.status === 0 ? await table(kAxes[question], values(), line) : null];
+    (): Promise<[Answer, string[]]> => {
+      const asked = values();
+      return ask(line(asked)).then((answer) => [answer, asked]);
     },
-    ([answer, around]) => view.replaceChildren(answer.status === 0 ? figure(answer) : el("p", { class: "fault", role: "alert" }, sentence(answer)), around ?? ""),
+    ([answer, asked]) => {
+      const why = answer.status === 0 ? "" : sentence(answer);
+      view.replaceChildren(why ? el("p", { class: "fault", role: "alert" }, why) : figure(answer), around);
+      around.replaceChildren();
+      if (!why) void table(around, axesOf(question, names), asked, line);
+    },
   );
   const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => {
     change({ ask: next, args: "" }, true);
@@ -107,27 +122,33 @@ function among(list: string[], value = ""): string[] {
   return numbers ? [...list, value].sort((a, b) => Number(a) - Number(b)) : [...list, value];
 }
 
-async function table(axes: Record<number, string[]> | undefined, values: string[], line: (given: string[]) => string[]): Promise<HTMLElement | null> {
-  const [first, second] = Object.entries(axes ?? {}).map(([at, list]) => [Number(at), list] as const);
-  if (!first) return null;
+// Fills the place with the table, row by row; stops when the place is taken for another one.
+async function table(place: HTMLElement, axes: Record<number, string[]>, values: string[], line: (given: string[]) => string[]): Promise<void> {
+  const [first, second] = Object.entries(axes).map(([at, list]) => [Number(at), list] as const);
+  if (!first) return;
   const [rowAt, columnAt] = [first[0], second?.[0] ?? -1];
   const [rows, columns] = [among(first[1], values[rowAt]), second ? among(second[1], values[columnAt]) : [""]];
   const body = el("tbody");
-  for (const row of rows) {
-    const made = el("tr", {}, el("th", { scope: "row" }, row));
+  const head = el("tr", {}, el("td"), ...columns.map((column) => el("th", { scope: "col", class: "num" }, column || say("值", "value"))));
+  const whole = el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("表", "Table") },
+    el("table", { class: "figures list" }, el("caption", {}, say("与其他值并列（所查的一格加底色）", "Beside others, the asked cell marked")), el("thead", {}, head), body));
+  const lines = rows.map((row) => el("tr", {}, el("th", { scope: "row" }, row), ...columns.map(() => el("td", { class: "num" }, "…"))));
+  body.append(...lines);
+  place.replaceChildren(whole);
+  for (const [i, row] of rows.entries()) {
     const answers = await Promise.all(columns.map((column) => {
       const given = [...values];
       given[rowAt] = row;
       if (columnAt >= 0) given[columnAt] = column;
       return run(line(given));
     }));
-    answers.forEach((answer, i) => {
-      const marked = row === values[rowAt] && (columnAt < 0 || columns[i] === values[columnAt]);
-      const value = answer.status === 0 ? shown((JSON.parse(answer.out) as CodeJson).value) : "–";
-      made.append(el("td", { class: marked ? "num marked" : "num", "aria-current": marked ? "true" : null }, value));
+    if (!whole.isConnected) return;
+    answers.forEach((answer, at) => {
+      const cell = lines[i]!.children[at + 1]!;
+      cell.textContent = answer.status === 0 ? shown((JSON.parse(answer.out) as CodeJson).value) : "–";
+      if (row !== values[rowAt] || (columnAt >= 0 && columns[at] !== values[columnAt])) return;
+      cell.classList.add("marked");
+      cell.setAttribute("aria-current", "true");
     });
-    body.append(made);
   }
-  const head = el("tr", {}, el("td"), ...columns.map((column) => el("th", { scope: "col", class: "num" }, column || say("值", "value"))));
-  return el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("表", "Table") }, el("table", { class: "figures list" }, el("caption", {}, say("与其他值并列（所查的一格加底色）", "Beside others, the asked cell marked")), el("thead", {}, head), body));
 }

@@ -41,6 +41,8 @@ const kOwnFolder = "/home/.local/share/orv3cal";
 const kStore = "KvbSystemJmDataBase.KDB";
 const kExact = "KvbSystemJmDataBase.KXP";
 
+const kPause = 300; // ms
+
 export class Core {
   private next: Promise<{ instance: Instance; exit: { status: number } }>;
 
@@ -54,7 +56,7 @@ export class Core {
 
   // `own` is the user's own store, null for none; the answer has the store that the run leaves.
   async run(argv: string[], files: Files, own: Uint8Array | null): Promise<Answer & { own: Uint8Array | null }> {
-    const { instance, exit } = await this.next;
+    const { instance, exit } = await this.next.catch(() => this.prepareLater());
     const { FS } = instance;
     try {
       if (own) {
@@ -78,9 +80,15 @@ export class Core {
     }
   }
 
+  // Once more, when the browser has had time to take back the memory of runs that are over.
+  private async prepareLater() {
+    await new Promise((done) => setTimeout(done, kPause));
+    return this.prepare();
+  }
+
   private async prepare() {
     const exit = { status: 0 };
-    const instance = await makeOrv3cal({
+    const instance = await new Promise<Instance>((made, failed) => void makeOrv3cal({
       noInitialRun: true,
       preRun: [(instance: Instance) => void (instance.ENV["HOME"] = "/home")], // read as the module starts
       print: () => {},
@@ -90,10 +98,10 @@ export class Core {
         throw thrown;
       },
       instantiateWasm: (imports: WebAssembly.Imports, done: (instance: WebAssembly.Instance) => void) => {
-        void WebAssembly.instantiate(this.module, imports).then(done);
+        WebAssembly.instantiate(this.module, imports).then(done, failed);
         return {};
       },
-    });
+    }).then(made, failed));
     const { FS } = instance;
     for (const folder of [kShipped, kFolder, "/usr/bin", "/home"]) FS.mkdirTree(folder);
     FS.symlink("/usr/bin/orv3cal", "/proc/self/exe"); // beside which the catalogue lies

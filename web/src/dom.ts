@@ -40,15 +40,20 @@ export function select(options: [value: string, text: string][], value: string, 
   return made;
 }
 
-// The command's drawing, which comes as text; as a picture it runs no script. On white in either theme.
+const kPictureHeight = 420; // px, at most
+
+// The command's drawing, which comes as text, with styles and names of its own. On white in either theme.
+// Within the page, not as an image: that would wait for the browser to load it at every keystroke.
 export function picture(svg: string | Uint8Array | undefined, name: string): HTMLElement {
   const holder = el("div", { class: "picture" });
-  if (svg) {
-    const image = el("img", { alt: name });
-    image.src = URL.createObjectURL(new Blob([svg as BlobPart], { type: "image/svg+xml" }));
-    image.onload = image.onerror = () => URL.revokeObjectURL(image.src);
-    holder.append(image);
-  }
+  if (!svg) return holder;
+  const text = typeof svg === "string" ? svg : new TextDecoder().decode(svg);
+  const drawing = new DOMParser().parseFromString(text, "image/svg+xml").documentElement;
+  holder.setAttribute("role", "img");
+  holder.setAttribute("aria-label", name);
+  const [wide = 1, high = 1] = (drawing.getAttribute("viewBox") ?? "").split(" ").slice(2).map(Number);
+  drawing.setAttribute("style", `width: ${Math.min(wide, (kPictureHeight * wide) / high)}px; max-width: 100%; height: auto`);
+  holder.attachShadow({ mode: "open" }).append(document.importNode(drawing, true));
   return holder;
 }
 
@@ -106,16 +111,37 @@ export function dropPlace(text: string, accept: string, taken: (files: File[]) =
   return place;
 }
 
-// The last of many asks counts: an answer that a later ask has overtaken is dropped.
+// The last of many asks counts: what is asked meanwhile waits, the latest of it alone, and an answer that
+// is no longer wanted is dropped. So the worker is never more than one run behind the keys.
 export function latest<A extends unknown[], R>(ask: (...args: A) => Promise<R>, show: (answer: R) => void) {
-  let asked = 0;
-  return async (...args: A): Promise<void> => {
-    const mine = ++asked;
-    const answer = await ask(...args);
-    if (mine === asked) show(answer);
+  let wanted: A | null = null;
+  let running: Promise<void> | null = null;
+  const run = async () => {
+    try {
+      while (wanted) {
+        const mine = wanted;
+        wanted = null;
+        const answer = await ask(...mine);
+        if (!wanted) show(answer);
+      }
+    } finally {
+      running = null;
+    }
+  };
+  return (...args: A): Promise<void> => {
+    wanted = args;
+    return (running ??= run());
   };
 }
 
 export function fault(text: string): HTMLElement {
   return el("p", { class: "fault", role: "alert" }, text);
 }
+
+// Stands where an answer would: what is given has none, and why; the button leads to what must be mended.
+export function noAnswer(why: string, mend: (() => void) | null = null): HTMLElement {
+  return el("p", { class: "box none" }, el("b", {}, say("没有结果", "No answer")), why && ` · ${why} `,
+    mend && button(say("到该栏", "Go to the field"), mend, { class: "quiet" }));
+}
+
+export const computing = () => el("p", { class: "note", role: "status" }, say("计算中…", "Computing…"));

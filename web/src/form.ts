@@ -12,6 +12,7 @@ export class Form {
   readonly element = el("form", { class: "form" });
   private readonly body = el("div");
   private past: string[] = [];
+  private undone: string[] = [];
   private typedIn = ""; // the field of the last step: what is typed into one field is one step
   private fields = new Map<string, { control: HTMLElement; note: HTMLElement }>();
   private value: Case = {};
@@ -25,14 +26,17 @@ export class Form {
   ) {
     this.element.onsubmit = (event) => event.preventDefault();
     this.element.onkeydown = (event) => {
-      if (!(event.ctrlKey || event.metaKey) || event.key.toLowerCase() !== "z" || event.shiftKey) return;
+      const key = event.key.toLowerCase();
+      if (!(event.ctrlKey || event.metaKey) || !["z", "y"].includes(key)) return;
       event.preventDefault();
-      this.undo();
+      if (key === "y" || event.shiftKey) this.redo();
+      else this.undo();
     };
     this.element.onfocusout = () => (this.typedIn = "");
     this.element.append(
       el("div", { class: "tools" },
         button(say("撤销", "Undo"), () => this.undo(), { title: "Ctrl+Z" }),
+        button(say("重做", "Redo"), () => this.redo(), { title: "Ctrl+Y" }),
         button(say("清空", "Clear"), () => this.replace({}))),
       this.body);
   }
@@ -54,10 +58,19 @@ export class Form {
   }
 
   undo(): void {
-    const before = this.past.pop();
-    if (before === undefined) return;
+    this.step(this.past, this.undone);
+  }
+
+  redo(): void {
+    this.step(this.undone, this.past);
+  }
+
+  private step(from: string[], to: string[]): void {
+    const other = from.pop();
+    if (other === undefined) return;
+    to.push(JSON.stringify(this.value));
     this.typedIn = "";
-    this.set(JSON.parse(before) as Case);
+    this.set(JSON.parse(other) as Case);
     this.changed(this.value);
   }
 
@@ -77,9 +90,18 @@ export class Form {
     for (let at = found.note.closest("details"); at; at = at.parentElement!.closest("details")) at.open = true;
   }
 
+  // Leads to the field that was blamed.
+  readonly mend = (): void => {
+    const blamed = this.element.querySelector<HTMLElement>('[aria-invalid="true"]') ?? this.element;
+    const field = blamed.matches("input, select") ? blamed : blamed.querySelector<HTMLElement>("input, select");
+    field?.scrollIntoView({ block: "center" });
+    field?.focus();
+  };
+
   private remember(): void {
     this.past.push(JSON.stringify(this.value));
     if (this.past.length > 200) this.past.shift();
+    this.undone = [];
   }
 
   private put(path: string[], value: unknown, typed = false): void {
@@ -182,6 +204,20 @@ export class Form {
   }
 }
 
+// A line of a CSV as a case; null where a column is no key of the schema.
+export function caseOf(schema: Schema, head: string[], row: string[]): Case | null {
+  const value: Case = {};
+  for (const [i, name] of head.entries()) {
+    const path = name.trim().split(".");
+    const found = path.reduce<Schema | undefined>((at, key) => at?.properties?.[key], schema);
+    if (!found) return null;
+    const given = valueOf(row[i] ?? "", found);
+    const whole = found.type === "boolean" && /^(true|false)$/.test(String(given)) ? given === "true" : given;
+    if (whole !== undefined) put(value, path, whole);
+  }
+  return value;
+}
+
 function fold(title: string, inside: HTMLElement[], open: boolean): HTMLElement {
   return inside.length === 0 ? el("span") : el("details", { class: "group", open }, el("summary", {}, title), ...inside);
 }
@@ -225,5 +261,5 @@ function valueOf(text: string, schema: Schema): unknown {
 function one(text: string, schema: Schema): unknown {
   const number = /^[+-]?(\d+\.?\d*|\.\d+)(e[+-]?\d+)?$/i.test(text.trim()) ? Number(text) : Number.NaN;
   const numeric = isType(schema, "number") || isType(schema, "integer");
-  return Number.isNaN(number) || !numeric ? text.trim() : number;
+  return Number.isFinite(number) && numeric ? number : text.trim();
 }

@@ -7,6 +7,7 @@ export interface Column {
   name: string;
   title?: string;
   numeric: boolean;
+  written?: (cell: string) => string; // for the eye; the cell itself is in its tip
 }
 
 interface Wishes {
@@ -15,13 +16,15 @@ interface Wishes {
   rows: string[][];
   chosen?: (row: string[]) => void;
   marked?: { has(row: string[]): boolean; toggle(row: string[]): void };
+  look?: (row: string[]) => string | null; // a class of the row's
   isChosen?: (row: string[]) => boolean;
   sort?: string; // "NAME" or "NAME:desc"
   sorted?: (sort: string) => void;
 }
 
 const kRowHeight = 30;
-const kMargin = 12; // rows above and below what is in sight
+const kMargin = 16; // rows above and below what is in sight
+const kNear = 6; // of them, when the next are drawn
 
 const number = (text: string) => (text.trim() === "" ? Number.NEGATIVE_INFINITY : Number(text));
 
@@ -37,18 +40,24 @@ export class Grid {
   private rows: string[][];
   private order: string[][] = [];
   private current = -1;
+  private drawn: [first: number, last: number] = [0, 0];
+  private readonly lines = new Map<number, HTMLElement>(); // those that are drawn, by their places
+  private readonly above: HTMLElement; // in place of the rows that are not drawn
+  private readonly below: HTMLElement;
   private sort: string;
   private readonly headings: HTMLElement[] = [];
 
   constructor(private readonly wishes: Wishes) {
     this.rows = wishes.rows;
+    this.above = gap(wishes.columns.length + 1);
+    this.below = gap(wishes.columns.length + 1);
     this.sort = wishes.sort ?? "";
     const head = el("tr");
     if (wishes.marked) head.append(el("th", { scope: "col" }, el("span", { class: "hidden" }, say("比较", "compare"))));
     const columns = el("colgroup");
     if (wishes.marked) columns.append(el("col", { style: "width: 34px" }));
     wishes.columns.forEach((column, i) => {
-      const longest = wishes.rows.reduce((most, row) => Math.max(most, width(row[i] ?? "")), width(column.name) + 2);
+      const longest = wishes.rows.reduce((most, row) => Math.max(most, width(written(column, row[i] ?? ""))), width(column.name) + 2);
       columns.append(el("col", { style: `width: ${Math.min(Math.max(longest, 5), 34) * 7.6 + 16}px` }));
       const sorter = el("button", { type: "button", title: column.title, onclick: () => this.sortBy(column.name) }, column.name);
       const heading = el("th", { scope: "col", class: column.numeric ? "num" : null }, sorter);
@@ -60,11 +69,13 @@ export class Grid {
       { role: "grid", "aria-label": wishes.label },
       columns,
       el("thead", {}, head),
+      this.above,
       this.body,
+      this.below,
     );
     this.element = el("div", { class: "grid", tabindex: 0, role: "group", "aria-label": wishes.label, onkeydown: (event: KeyboardEvent) => this.key(event) }, table);
-    this.element.addEventListener("scroll", () => this.draw(), { passive: true });
-    new ResizeObserver(() => this.draw()).observe(this.element);
+    this.element.addEventListener("scroll", () => void (this.isDrawn() || this.fill()), { passive: true });
+    new ResizeObserver(() => void (this.isDrawn() || this.fill())).observe(this.element);
     this.show(wishes.rows);
   }
 
@@ -89,7 +100,7 @@ export class Grid {
     const seen = this.element.clientHeight - 2 * kRowHeight;
     if (top < this.element.scrollTop) this.element.scrollTop = top;
     else if (top > this.element.scrollTop + seen) this.element.scrollTop = top - seen;
-    this.draw();
+    if (!this.isDrawn()) this.fill();
   }
 
   private sortBy(name: string): void {
@@ -101,8 +112,10 @@ export class Grid {
   private choose(at: number): void {
     const row = this.order[at];
     if (!row) return;
+    this.lines.get(this.current)?.setAttribute("aria-selected", "false");
     this.current = at;
     this.reveal();
+    this.lines.get(at)?.setAttribute("aria-selected", "true");
     this.wishes.chosen?.(row);
   }
 
@@ -122,21 +135,50 @@ export class Grid {
     event.preventDefault();
   }
 
-  private draw(): void {
-    const first = Math.max(0, Math.floor(this.element.scrollTop / kRowHeight) - kMargin);
-    const last = Math.min(this.order.length, first + Math.ceil((this.element.clientHeight || 600) / kRowHeight) + 2 * kMargin);
-    const gap = (rows: number) => {
-      const cell = el("td", { colspan: this.wishes.columns.length + 1 });
-      cell.style.height = `${rows * kRowHeight}px`;
-      return rows > 0 ? [el("tr", { class: "gap", "aria-hidden": "true" }, cell)] : [];
-    };
-    const rows = this.order.slice(first, last).map((row, i) => this.line(row, first + i));
-    this.body.replaceChildren(...gap(first), ...rows, ...gap(this.order.length - last));
+  // The rows in sight and so many above and below.
+  private around(more: number): [first: number, last: number] {
+    const top = Math.floor(this.element.scrollTop / kRowHeight);
+    const rows = Math.ceil((this.element.clientHeight || 600) / kRowHeight);
+    return [Math.max(0, top - more), Math.min(this.order.length, top + rows + more)];
+  }
+
+  private isDrawn(): boolean {
+    const [first, last] = this.around(kNear);
+    return this.drawn[0] <= first && last <= this.drawn[1];
+  }
+
+  // Draws what is in sight anew.
+  draw(): void {
+    this.body.replaceChildren();
+    this.lines.clear();
+    this.fill();
+  }
+
+  // Adds the rows that have come near and takes away those that have gone; the others stay as they are.
+  private fill(): void {
+    const [first, last] = (this.drawn = this.around(kMargin));
+    for (const [at, line] of this.lines) {
+      if (at >= first && at < last) continue;
+      line.remove();
+      this.lines.delete(at);
+    }
+    setGap(this.above, first);
+    setGap(this.below, this.order.length - last);
+    let next: HTMLElement | null = null;
+    for (let at = last - 1; at >= first; --at) {
+      let line = this.lines.get(at);
+      if (!line) {
+        line = this.line(this.order[at]!, at);
+        this.lines.set(at, line);
+        this.body.insertBefore(line, next);
+      }
+      next = line;
+    }
   }
 
   private line(row: string[], at: number): HTMLElement {
-    const { columns, marked, chosen } = this.wishes;
-    const line = el("tr", { "aria-rowindex": at + 2, "aria-selected": chosen ? String(at === this.current) : null });
+    const { columns, marked, chosen, look } = this.wishes;
+    const line = el("tr", { "aria-rowindex": at + 2, "aria-selected": chosen ? String(at === this.current) : null, class: look?.(row) });
     if (chosen) line.addEventListener("click", () => this.choose(at));
     if (marked) {
       const box = el("input", { type: "checkbox", tabindex: -1, "aria-label": `${say("比较", "compare")} ${row[0] ?? ""}` });
@@ -146,12 +188,24 @@ export class Grid {
       line.append(el("td", {}, box));
     }
     columns.forEach((column, i) => {
-      const text = row[i] ?? "";
-      line.append(el("td", { class: column.numeric ? "num" : null, title: text.length > 24 ? text : null }, text));
+      const cell = row[i] ?? "";
+      const text = written(column, cell);
+      line.append(el("td", { class: column.numeric ? "num" : null, title: text !== cell || text.length > 24 ? cell : null }, text));
     });
     return line;
   }
 }
+
+function gap(columns: number): HTMLElement {
+  return el("tbody", { "aria-hidden": "true" }, el("tr", { class: "gap" }, el("td", { colspan: columns })));
+}
+
+function setGap(gap: HTMLElement, rows: number): void {
+  gap.hidden = rows === 0;
+  gap.querySelector("td")!.style.height = `${rows * kRowHeight}px`;
+}
+
+const written = (column: Column, cell: string): string => column.written?.(cell) ?? cell;
 
 // Of a text in a fixed table: Chinese characters take twice the room.
 function width(text: string): number {

@@ -2,7 +2,7 @@
 import { change, go, state } from "./address";
 import { choose } from "./choose";
 import { connections, latticeColumns, members } from "./checks";
-import { run } from "./client";
+import { onBusy, run, stop } from "./client";
 import { codeTables } from "./code_tables";
 import { button, el, fault } from "./dom";
 import { language, say } from "./language";
@@ -63,6 +63,10 @@ async function draw(): Promise<void> {
   }
   main.setAttribute("aria-busy", "false");
 }
+
+const busy = el("div", { class: "busy", role: "status" });
+document.body.append(busy);
+onBusy((isBusy) => busy.replaceChildren(...(isBusy ? [say("计算中… ", "Computing… "), button(say("停止", "Stop"), () => void stop())] : [])));
 
 // A file that falls beside its place does not take the page away.
 for (const kind of ["dragover", "drop"]) addEventListener(kind, (event) => event.preventDefault());

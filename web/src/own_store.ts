@@ -23,8 +23,8 @@ const kNone: Saved = { version: 0, bytes: null };
 
 function troubleOf(fault: unknown): StorageError {
   if (fault instanceof StorageError) return fault;
-  const name = (fault as DOMException | null)?.name;
-  if (name === "QuotaExceededError") return new StorageError("full");
+  const { name = "", message = "" } = (fault ?? {}) as Partial<DOMException>;
+  if (name === "QuotaExceededError" || /NO_SPACE|disk/i.test(message)) return new StorageError("full");
   return new StorageError(name === "SecurityError" || name === "InvalidStateError" ? "denied" : "failed");
 }
 
@@ -32,52 +32,71 @@ export class OwnStore {
   private database: Promise<IDBDatabase> | null = null;
   private known: Saved | null = null;
 
-  // A connection that was refused or has been closed (the user deletes what pages keep) is asked for anew.
+  // `allowed`: whether the browser lets this page keep anything. A database that is refused has no other sign
+  // of why: a browser that keeps nothing and a full disk say the same.
+  constructor(private readonly allowed: boolean) {}
+
   private open(): Promise<IDBDatabase> {
     const forget = () => (this.database = null);
     this.database ??= new Promise<IDBDatabase>((done, fail) => {
-      try {
-        const asked = indexedDB.open("orv3cal", 1);
-        asked.onupgradeneeded = () => asked.result.createObjectStore(kTable);
-        asked.onsuccess = () => {
-          asked.result.onclose = forget;
-          asked.result.onversionchange = () => void (asked.result.close(), forget());
-          done(asked.result);
-        };
-        asked.onerror = () => void (forget(), fail(troubleOf(asked.error)));
-      } catch (fault) {
-        forget();
-        fail(troubleOf(fault));
-      }
+      if (!this.allowed) throw new StorageError("denied");
+      const asked = indexedDB.open("orv3cal", 1);
+      asked.onupgradeneeded = () => asked.result.createObjectStore(kTable);
+      asked.onsuccess = () => {
+        asked.result.onclose = forget;
+        asked.result.onversionchange = () => void (asked.result.close(), forget());
+        done(asked.result);
+      };
+      asked.onerror = () => fail(asked.error);
+    }).catch((fault) => {
+      forget();
+      throw troubleOf(fault);
     });
     return this.database;
   }
 
-  // None where the browser keeps nothing; a store that is there and cannot be read is an error.
+  // A connection that the browser has closed (the user deletes what pages keep, the disk was full) is asked for
+  // anew.
+  private async begin(mode: IDBTransactionMode): Promise<IDBTransaction> {
+    const started = async () => (await this.open()).transaction(kTable, mode, { durability: "strict" });
+    return started().catch((fault) => {
+      if (fault instanceof StorageError) throw fault;
+      this.database = null;
+      return started();
+    });
+  }
+
+  // None where the browser keeps nothing. A store that cannot be read is an error: nobody is to go on without
+  // what is kept.
   async load(): Promise<Saved> {
-    const database = await this.open().catch(() => null);
-    if (!database) return kNone;
+    try {
+      const transaction = await this.begin("readonly");
+      return await this.read(transaction.objectStore(kTable));
+    } catch (fault) {
+      if (fault instanceof StorageError && fault.trouble === "denied" && !this.known?.bytes) return kNone;
+      throw new StorageError("unread");
+    }
+  }
+
+  private read(table: IDBObjectStore): Promise<Saved> {
     return new Promise((done, fail) => {
-      const table = database.transaction(kTable).objectStore(kTable);
-      const unread = () => fail(new StorageError("unread"));
-      const read = () => {
+      const version = table.get(kVersion);
+      version.onsuccess = () => {
+        if (this.known && version.result === this.known.version) return done(this.known);
         const asked = table.get(kKey);
         asked.onsuccess = () => done((this.known = (asked.result as Saved | undefined) ?? kNone));
-        asked.onerror = unread;
+        asked.onerror = () => fail(asked.error);
       };
-      const version = table.get(kVersion);
-      version.onsuccess = () => (this.known && version.result === this.known.version ? done(this.known) : read());
-      version.onerror = unread;
+      version.onerror = () => fail(version.error);
     });
   }
 
   // False when another tab has saved since `before` was loaded: then nothing is changed.
   async save(bytes: Uint8Array | null, before: number): Promise<boolean> {
-    const database = await this.open();
+    const transaction = await this.begin("readwrite");
     return new Promise((done, fail) => {
       let current = true;
       let fault: unknown = null;
-      const transaction = database.transaction(kTable, "readwrite", { durability: "strict" });
       transaction.oncomplete = () => done(true);
       transaction.onabort = () => (current ? fail(troubleOf(fault ?? transaction.error)) : done(false));
       const table = transaction.objectStore(kTable);

@@ -1,5 +1,5 @@
 // A section's picture, cells, geometry and exact figures; of a table's row or of sizes.
-import { ask, sentence, type Answer } from "./client";
+import { ask, sentence, type Answer, type Files } from "./client";
 import { button, copyButton, download, el, fault, picture } from "./dom";
 import { nameOf, shown, signParts, unitOf } from "./figures";
 import { say } from "./language";
@@ -57,9 +57,10 @@ function asText(blocks: [string, FigureLine[]][]): string {
     .join("\n\n");
 }
 
-// `forms`: the command lines that write the section as a file, by the option that names it.
-export function sectionView(title: string, answer: Answer, file = title, forms: Record<string, string[]> = {}): HTMLElement {
-  if (answer.status !== 0) return fault(answer.err.trim().replace(/^orv3cal: /, ""));
+// `forms`: the command lines that write the section as a file, by the option that names it; `files` are
+// what they read.
+export function sectionView(title: string, answer: Answer, file = title, forms: Record<string, string[]> = {}, files: Files = {}): HTMLElement {
+  if (answer.status !== 0) return fault(sentence(answer));
   const section = JSON.parse(answer.out) as SectionJson;
   const blocks: [string, FigureLine[]][] = [];
   if (section.cells) blocks.push([say("表中数据", "As printed in the table"), cellLines(section)]);
@@ -70,11 +71,11 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
   const trouble = fault("");
   const save = async (form: string, line: string[]) => {
     const name = `section.${form}`;
-    const written = await ask([...line, `--${form}`, name]);
+    const written = await ask([...line, `--${form}`, name], files);
     trouble.textContent = written.status === 0 ? "" : sentence(written);
     if (written.files[name]) download(`${bare}.${form}`, written.files[name]);
   };
-  const files = Object.entries(forms).map(([form, line]) =>
+  const saves = Object.entries(forms).map(([form, line]) =>
     button(form.toUpperCase(), () => void save(form, line), { title: say("保存文件", "save as a file") }));
   return el(
     "article",
@@ -85,7 +86,7 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
       "div",
       { class: "tools" },
       copyButton(say("复制", "Copy"), () => asText(blocks)),
-      ...files,
+      ...saves,
     ),
     trouble,
     section.accurate === false && el("p", { class: "warn" }, say("精确值的误差估计偏大。", "The error estimate of the exact figures is large.")),

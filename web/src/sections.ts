@@ -63,7 +63,7 @@ function compared(): string[] {
   return (state()["compare"] ?? "").split(";").filter(Boolean);
 }
 
-async function comparison(place: HTMLElement): Promise<void> {
+async function comparison(place: HTMLElement, left: () => void): Promise<void> {
   const list = compared();
   if (list.length === 0) return place.replaceChildren();
   const sections = (await Promise.all(list.map((each) => ask(["show", ...each.split("|"), "--json"]))))
@@ -79,7 +79,7 @@ async function comparison(place: HTMLElement): Promise<void> {
   });
   const head = el("tr", {}, el("th", { scope: "col" }, say("量", "figure")), el("th", { scope: "col" }, say("单位", "unit")));
   list.forEach((each) => head.append(el("th", { scope: "col", class: "num" }, each.split("|")[1] ?? "",
-    button("×", () => { change({ compare: compared().filter((other) => other !== each).join(";") }); void comparison(place); },
+    button("×", () => { change({ compare: compared().filter((other) => other !== each).join(";") }); left(); void comparison(place, left); },
       { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${each.split("|")[1]}` }))));
   const body = el("tbody");
   for (const [key, values] of lines) {
@@ -106,21 +106,29 @@ export async function sections(place: HTMLElement): Promise<void> {
   const beside = el("div", { class: "beside" });
   const count = el("span", { class: "note", role: "status" });
 
+  const isPair = list.find((each) => each.name === table)?.family.includes("pair") ?? false;
+  const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", onchange: () => {
+    change({ gap: gap.value.trim() });
+    if (shownNo) void showDetail(shownNo);
+  } });
+  let shownNo = "";
+  const asDrawn = () => [...(state()["turn"] ? ["--turn", state()["turn"]!] : []), ...(isPair && state()["gap"] ? ["--gap", state()["gap"]!] : [])];
   const showDetail = latest(
     (no: string): Promise<[string, Answer]> => {
-      const turn = state()["turn"] ?? "0";
-      return ask(["show", table, no, "--turn", turn, "--json", "--svg", "picture.svg"]).then((shown) => [no, shown]);
+      return ask(["show", table, no, ...asDrawn(), "--json", "--svg", "picture.svg"]).then((shown) => [no, shown]);
     },
     ([no, shown]) => {
-      const turned = ["show", table, no, ...(state()["turn"] ? ["--turn", state()["turn"]!] : [])];
+      shownNo = no;
+      const turned = ["show", table, no, ...asDrawn()];
       const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void showDetail(no); });
-      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }), field(say("转角", "Turned by"), turns));
+      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }), field(say("转角", "Turned by"), turns),
+        isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm")) || "");
     },
   );
   const first = state()["no"] ?? all[0]?.[key];
   const detailed = first ? showDetail(first) : null;  // its command runs while the rows are drawn
   const isMarked = (row: string[]) => compared().includes(`${table}|${row[key]}`);
-  const grid = new Grid({
+  const grid: Grid = new Grid({
     label: table,
     columns: columns.map<Column>((column) => ({ name: column.sign, title: column.name, numeric: isNumeric(column.type) })),
     rows: all,
@@ -131,7 +139,7 @@ export async function sections(place: HTMLElement): Promise<void> {
     marked: { has: isMarked, toggle: (row) => {
       const each = `${table}|${row[key]}`;
       change({ compare: (isMarked(row) ? compared().filter((other) => other !== each) : [...compared(), each]).join(";") });
-      void comparison(beside);
+      void comparison(beside, () => grid.draw());
     } },
   });
   const words = () => (state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
@@ -155,7 +163,7 @@ export async function sections(place: HTMLElement): Promise<void> {
   place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
   filter();
   grid.reveal();
-  void comparison(beside);
+  void comparison(beside, () => grid.draw());
   await detailed;
 }
 

@@ -33,7 +33,7 @@ const kChecks: Record<string, string> = {
 };
 export const checkName = (name: string): string => (language() === "zh" ? (kChecks[name] ?? name) : name);
 
-const percent = (ratio: number | null | undefined) => (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(4)))} %`);
+export const percent = (ratio: number | null | undefined) => (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(4)))} %`);
 
 function bar(name: string, ratio: number | null | undefined, pass: boolean, note = ""): HTMLElement {
   const width = Math.min(Math.max(ratio ?? 1, 0), 1.25) / 1.25;
@@ -73,5 +73,6 @@ function one(answer: CheckJson): HTMLElement {
 }
 
 export function verdict(answer: CheckJson): HTMLElement {
-  return el("div", { class: "verdicts" }, ...(answer.editions ?? [answer]).map(one));
+  const editions = answer.editions?.map((each) => el("b", { class: each.pass ? "pass" : "fail" }, summary(each), " "));
+  return el("div", { class: "verdicts" }, editions && el("p", { class: "editions" }, ...editions), ...(answer.editions ?? [answer]).map(one));
 }

@@ -1,73 +1,16 @@
 // Workbooks (.xlsx): a zip archive of a few XML files, stored or deflated.
+import { zip } from "./zip";
+
 const kRelations = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 const kSheet = "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
 const kPackage = "http://schemas.openxmlformats.org/package/2006";
 const kHead = '<?xml version="1.0" encoding="UTF-8" standalone="yes"?>\n';
 
-const kCrc = Uint32Array.from({ length: 256 }, (_, n) => {
-  for (let k = 0; k < 8; ++k) n = n & 1 ? (n >>> 1) ^ 0xedb88320 : n >>> 1;
-  return n;
-});
-
-function crc32(data: Uint8Array): number {
-  let crc = 0xffffffff;
-  for (const byte of data) crc = kCrc[(crc ^ byte) & 0xff]! ^ (crc >>> 8);
-  return ~crc >>> 0;
-}
-
-// An archive of files as they are.
-function zip(files: [name: string, text: string][]): Uint8Array {
-  const parts: Uint8Array[] = [];
-  const list: Uint8Array[] = [];
-  let at = 0;
-  for (const [name, text] of files) {
-    const path = new TextEncoder().encode(name);
-    const data = new TextEncoder().encode(text);
-    // version 2.0, UTF-8 names, stored, 1980-01-01
-    const common = [20, 0x800, 0, 0, 0x21];
-    const head = new DataView(new ArrayBuffer(30));
-    head.setUint32(0, 0x04034b50, true);
-    common.forEach((value, i) => head.setUint16(4 + 2 * i, value, true));
-    const entry = new DataView(new ArrayBuffer(46));
-    entry.setUint32(0, 0x02014b50, true);
-    entry.setUint16(4, 20, true);
-    common.forEach((value, i) => entry.setUint16(6 + 2 * i, value, true));
-    for (const [view, from] of [[head, 14], [entry, 16]] as const) {
-      view.setUint32(from, crc32(data), true);
-      view.setUint32(from + 4, data.length, true);
-      view.setUint32(from + 8, data.length, true);
-      view.setUint16(from + 12, path.length, true);
-    }
-    entry.setUint32(42, at, true);
-    list.push(new Uint8Array(entry.buffer), path);
-    parts.push(new Uint8Array(head.buffer), path, data);
-    at += 30 + path.length + data.length;
-  }
-  const size = list.reduce((sum, part) => sum + part.length, 0);
-  const end = new DataView(new ArrayBuffer(22));
-  end.setUint32(0, 0x06054b50, true);
-  end.setUint16(8, files.length, true);
-  end.setUint16(10, files.length, true);
-  end.setUint32(12, size, true);
-  end.setUint32(16, at, true);
-  return joined([...parts, ...list, new Uint8Array(end.buffer)]);
-}
-
-function joined(parts: Uint8Array[]): Uint8Array {
-  const whole = new Uint8Array(parts.reduce((sum, part) => sum + part.length, 0));
-  let at = 0;
-  for (const part of parts) {
-    whole.set(part, at);
-    at += part.length;
-  }
-  return whole;
-}
-
 const escaped = (text: string) =>
   text.replace(/[\u0000-\u0008\u000b\u000c\u000e-\u001f]/g, "").replaceAll("&", "&amp;").replaceAll("<", "&lt;").replaceAll('"', "&quot;");
 
 function cellXml(text: string, numeric: boolean): string {
-  if (numeric && text.trim() !== "" && Number.isFinite(Number(text))) return `<c><v>${Number(text)}</v></c>`;
+  if (numeric && text.trim() !== "" && Number.isFinite(Number(text))) return `<c><v>${text.trim()}</v></c>`; // as it is written: an import compares texts
   return `<c t="inlineStr"><is><t xml:space="preserve">${escaped(text)}</t></is></c>`;
 }
 
@@ -138,29 +81,30 @@ async function unzipped(bytes: Uint8Array): Promise<Map<string, string>> {
 }
 
 const xml = (text: string) => new DOMParser().parseFromString(text, "application/xml");
-const textIn = (element: Element) => [...element.getElementsByTagName("t")].map((t) => t.textContent).join("");
+const tags = (within: Document | Element, name: string) => [...within.getElementsByTagNameNS("*", name)]; // whatever prefix a writer gives
+const textIn = (element: Element) => tags(element, "t").map((t) => t.textContent).join("");
 
 function columnOf(reference: string | null, next: number): number {
-  const letters = /^[A-Z]+/.exec(reference ?? "")?.[0];
+  const letters = /^[A-Z]{1,3}/.exec(reference ?? "")?.[0]; // XFD is the last column
   return letters ? [...letters].reduce((sum, ch) => sum * 26 + ch.charCodeAt(0) - 64, 0) - 1 : next;
 }
 
 // The sheets of a workbook by their names, cells as text; throws for what is none.
 export async function sheetsOf(bytes: Uint8Array): Promise<[name: string, rows: string[][]][]> {
   const parts = await unzipped(bytes);
-  const shared = [...xml(parts.get("xl/sharedStrings.xml") ?? "<x/>").getElementsByTagName("si")].map(textIn);
+  const shared = tags(xml(parts.get("xl/sharedStrings.xml") ?? "<x/>"), "si").map(textIn);
   const targets = new Map(
-    [...xml(parts.get("xl/_rels/workbook.xml.rels")!).getElementsByTagName("Relationship")].map((each) => [
+    tags(xml(parts.get("xl/_rels/workbook.xml.rels")!), "Relationship").map((each) => [
       each.getAttribute("Id"),
       each.getAttribute("Target")!.replace(/^\/xl\//, ""),
     ]),
   );
-  return [...xml(parts.get("xl/workbook.xml")!).getElementsByTagName("sheet")].map((sheet) => {
+  return tags(xml(parts.get("xl/workbook.xml")!), "sheet").map((sheet) => {
     const target = targets.get(sheet.getAttributeNS(kRelations, "id"));
-    const rows = [...xml(parts.get(`xl/${target}`)!).getElementsByTagName("row")].map((row) => {
+    const rows = tags(xml(parts.get(`xl/${target}`)!), "row").map((row) => {
       const cells: string[] = [];
-      for (const cell of row.getElementsByTagName("c")) {
-        const value = cell.getElementsByTagName("v")[0]?.textContent ?? "";
+      for (const cell of tags(row, "c")) {
+        const value = tags(cell, "v")[0]?.textContent ?? "";
         const type = cell.getAttribute("t");
         const text = type === "s" ? shared[Number(value)] : type === "inlineStr" ? textIn(cell) : value;
         cells[columnOf(cell.getAttribute("r"), cells.length)] = text ?? "";

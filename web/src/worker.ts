@@ -7,22 +7,24 @@ export interface Start {
   wasm: string;
   store: string;
   exact: string;
+  storage: boolean; // whether the browser lets the page keep anything
 }
 export type Order =
   | { id: number; kind: "run"; argv: string[]; files: Files; language: string }
-  | { id: number; kind: "forget" };
+  | { id: number; kind: "forget" }
+  | { id: number; kind: "kept" };
 export type Reply = { id: number; answer: Answer };
 
-const own = new OwnStore();
+let own: OwnStore;
 let core: Promise<Core>;
 let line: Promise<unknown> = Promise.resolve();
 
 const kTroubles: Record<Trouble | "old", [string, string]> = {
   full: ["您自己的库: 没有写入，磁盘已满", "your own store: not written, the disk is full"],
   denied: ["您自己的库: 没有写入，浏览器不允许本页保存数据", "your own store: not written, the browser does not let this page keep data"],
-  failed: ["您自己的库: 没有写入，浏览器未能写入", "your own store: not written, the browser could not write it"],
-  unread: ["您自己的库: 浏览器未能读出", "your own store: the browser could not read it"],
-  old: ["此浏览器不能运行本页；需要 Chrome 或 Edge 95、Firefox 113、Safari 16.4 或更新的版本", "this browser cannot run the page; it takes Chrome or Edge 95, Firefox 113, Safari 16.4 or newer"],
+  failed: ["您自己的库: 没有写入，浏览器未能写入（磁盘可能已满）", "your own store: not written, the browser could not write it (the disk may be full)"],
+  unread: ["您自己的库: 浏览器未能读出（磁盘可能已满；腾出空间后重新启动浏览器）", "your own store: the browser could not read it (the disk may be full: make room and start the browser again)"],
+  old: ["此浏览器不能运行本页；需要 Chrome 或 Edge 103、Firefox 113、Safari 16.4 或更新的版本", "this browser cannot run the page; it takes Chrome or Edge 103, Firefox 113, Safari 16.4 or newer"],
 };
 
 class BrowserTooOld extends Error {}
@@ -78,10 +80,16 @@ async function forget(): Promise<Answer> {
   return { ...kNothing, status: 0 };
 }
 
+// Status 0 when there is a store of the user's own, 1 when there is none.
+async function kept(): Promise<Answer> {
+  return { ...kNothing, status: (await own.load()).bytes ? 0 : 1 };
+}
+
 async function answerTo(order: Order): Promise<Answer> {
   const [argv, language] = order.kind === "run" ? [order.argv, order.language] : [[], "en"];
   try {
-    return order.kind === "run" ? await run(order.argv, order.files) : await forget();
+    if (order.kind === "run") return await run(order.argv, order.files);
+    return await (order.kind === "kept" ? kept() : forget());
   } catch (fault) {
     if (fault instanceof StorageError || fault instanceof DOMException || fault instanceof BrowserTooOld) return stopped(fault, argv, language);
     return { ...kNothing, err: `orv3cal: ${String(fault)}\n` };
@@ -90,6 +98,7 @@ async function answerTo(order: Order): Promise<Answer> {
 
 self.onmessage = ({ data }: MessageEvent<Start | Order>) => {
   if ("wasm" in data) {
+    own = new OwnStore(data.storage);
     core = startCore(data);
     return;
   }

@@ -1,0 +1,53 @@
+// An outline from a DXF or JSON file. It stands in the address, compressed, if it is not too long.
+import { change, state } from "./address";
+import { ask, sentence } from "./client";
+import { bytesOf, el, noAnswer } from "./dom";
+import { say } from "./language";
+import { pack, unpack } from "./packed_text";
+import { sectionView } from "./section_view";
+
+const kLongestLink = 8000; // letters, which mail and chat programs still pass on
+
+interface Outline {
+  name: string;
+  data: Uint8Array;
+}
+let outline: Outline | null = null; // as long as the page is open, also where the link leaves it out
+let damaged = "";
+
+export async function takeOutline(file: File): Promise<void> {
+  outline = { name: file.name, data: await bytesOf(file) };
+  damaged = "";
+  const packed = await pack(outline.data);
+  change({ outline: outline.name, shape: packed.length <= kLongestLink ? packed : "", style: "", sizes: "", base: "", layer: "" }, true);
+}
+
+// Whether the address tells of an outline, which is then the one that is shown.
+export async function givenOutline(): Promise<boolean> {
+  const { outline: name, shape } = state();
+  if (!name) return false;
+  damaged = "";
+  if (!shape) {
+    if (outline?.name !== name) [outline, damaged] = [null, say("链接中没有这个外轮廓（文件太大）；请重新选取文件", "the link leaves this outline out, its file is too long; choose the file again")];
+    return true;
+  }
+  try {
+    outline = { name, data: await unpack(shape) };
+  } catch {
+    [outline, damaged] = [null, say("链接中的外轮廓已损坏", "the outline in this link is damaged")];
+  }
+  return true;
+}
+
+export async function outlineView(layer: string): Promise<HTMLElement | null> {
+  if (damaged) return noAnswer(`${state()["outline"]}: ${damaged}`);
+  if (!outline) return null;
+  const { name, data } = outline;
+  const file = name.toLowerCase().endsWith(".json") ? "outline.json" : "outline.dxf";
+  const line = ["outline", file, ...(layer ? ["--layer", layer] : [])];
+  const answer = await ask([...line, "--json", "--svg", "picture.svg"], { [file]: data });
+  if (answer.status !== 0) return noAnswer(`${name}: ${sentence(answer, file)}`);
+  const left = state()["shape"] ? null
+    : el("p", { class: "note" }, say("此文件太大，链接中不含外轮廓；请随链接附上文件。", "This file is too long for a link: send the file along with it."));
+  return el("div", {}, sectionView(name, answer, name.replace(/\.[^.]*$/, ""), { svg: line }, { [file]: data }), left);
+}
