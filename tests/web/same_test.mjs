@@ -17,7 +17,7 @@ function native([argv, files]) {
   rmSync(folder, { recursive: true, force: true });
   mkdirSync(folder);
   for (const [name, text] of Object.entries(files)) writeFileSync(join(folder, name), text);
-  const run = spawnSync(join(root, "usr/bin/orv3cal"), argv, { cwd: folder, env: { HOME: join(root, "home") }, maxBuffer: 1 << 28 });
+  const run = spawnSync(join(root, "usr/bin/orv3cal"), argv, { cwd: folder, env: { HOME: join(root, "home"), LD_LIBRARY_PATH: kNative }, maxBuffer: 1 << 28 });
   const made = readdirSync(folder).filter((name) => !(name in files) && statSync(join(folder, name)).isFile());
   return {
     status: run.status,
