@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "framework/language.h"
-#include "output.h"
+#include "output/output.h"
 #include "platform/command_line.h"
 #include "program.h"
 

@@ -6,16 +6,16 @@
 #include <new>
 #include <sstream>
 
-#include "asked_language.h"
 #include "commands.h"
 #include "framework/excerpt.h"
 #include "framework/language.h"
 #include "framework/number_text.h"
 #include "framework/utf8.h"
-#include "help_words.h"
-#include "inputs_read.h"
-#include "option_errors.h"
-#include "output.h"
+#include "input/inputs_read.h"
+#include "options/asked_language.h"
+#include "options/help_words.h"
+#include "options/option_errors.h"
+#include "output/output.h"
 
 namespace orv3::cli {
 namespace {

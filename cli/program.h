@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "error.h"
-#include "streams.h"
+#include "output/streams.h"
 
 namespace orv3::cli {
 

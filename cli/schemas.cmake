@@ -1,6 +1,6 @@
 # Puts the schemas of docs/schema into the command.
 file(GLOB files CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/schema/*.schema.json)
-set(schemas "#include \"schemas.h\"\n\nnamespace orv3::cli {\n\n")
+set(schemas "#include \"cases/schemas.h\"\n\nnamespace orv3::cli {\n\n")
 string(APPEND schemas "std::string_view SchemaOf(std::string_view kind) noexcept {\n")
 foreach(file IN LISTS files)
   get_filename_component(kind ${file} NAME_WE)

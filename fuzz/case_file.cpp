@@ -1,10 +1,10 @@
 // Case files of the checks, as JSON and as CSV: every case is read or refused with a reason.
 #include <string>
 
-#include "case_source.h"
+#include "cases/case_source.h"
+#include "cases/schemas.h"
 #include "error.h"
 #include "memory_files.h"
-#include "schemas.h"
 
 namespace {
 

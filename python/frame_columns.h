@@ -4,7 +4,7 @@
 #include <pybind11/numpy.h>
 #include <pybind11/pybind11.h>
 
-#include "case_columns.h"
+#include "cases/case_columns.h"
 
 namespace orv3::python {
 

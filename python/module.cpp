@@ -9,11 +9,11 @@
 #include <memory>
 
 #include "answer_columns.h"
-#include "asked_language.h"
 #include "frame_columns.h"
 #include "framework/utf8.h"
+#include "options/asked_language.h"
 #include "program.h"
-#include "store_place.h"
+#include "store/store_place.h"
 
 namespace orv3::python {
 namespace {

@@ -129,7 +129,7 @@ class Site:
             bounds = [f"{sign} {rule[word]}" for word, sign in
                       [("minimum", "≥"), ("exclusiveMinimum", ">"), ("maximum", "≤"), ("exclusiveMaximum", "<")]
                       if word in rule]
-            values = ", ".join([str(each) for each in rule.get("enum", [])] + bounds)
+            values = ", ".join([*dict.fromkeys(str(each) for each in rule.get("enum", [])), *bounds])
             told = rule.get("description", "").replace("|", "\\|").replace("\n", " ")
             must = " (required)" if key in required else ""
             lines.append(f"| `{prefix}{key}`{must} | {kind} | {values} | {told} |")

@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstring>
 
-#include "platform/store_file.h"
 #include "sections/load_data_table.h"
 #include "tables/table_file_tools.h"
 
@@ -248,12 +247,6 @@ TEST_F(Import, TheFacadeImportsIntoTheSystemStore) {
   EXPECT_EQ(CLoadDataTable::ImportDataTable(changed, store, 1), 1);
   EXPECT_EQ(area(), 2000);
   EXPECT_EQ(CLoadDataTable::ImportDataTable(m_folder.Path(L"none.kvb"), store, 1), 0);
-  orv3::SetBusyWait(std::chrono::milliseconds{0});
-  {
-    const auto held = orv3::CStoreFile::OpenToRead(store);
-    EXPECT_EQ(CLoadDataTable::ImportDataTable(changed, store, 1), 0);
-  }
-  orv3::SetBusyWait(std::chrono::seconds{1});
   CLoadDataTable::SetOrvoPrgPath(L"");
 }
 

@@ -120,26 +120,6 @@ TEST(RowOutline, TurnsByQuarters) {
   }
 }
 
-// The toe arc of [5 takes more than half of the flange's end.
-TEST(RowOutline, RoundsToesByTheirFullRadius) {
-  const orv3::COutline outline = RowOutline(RowOf(L"热轧普通槽钢", L"[5",
-                                                  {{L"h(mm)", 50},
-                                                   {L"b(mm)", 37},
-                                                   {L"tw(mm)", 4.5},
-                                                   {L"t(mm)", 7},
-                                                   {L"r(mm)", 7},
-                                                   {L"r1(mm)", 3.5}}));
-  int toes = 0;
-  const auto& v = outline.m_arrLoop.at(0).m_arrVertex;
-  for (std::size_t i = 0; i < v.size(); ++i) {
-    if (v[i].bulge == 0) continue;
-    const double radius = EdgeArc(v[i], v[(i + 1) % v.size()]).radius;
-    EXPECT_NEAR(radius, v[i].bulge > 0 ? 3.5 : 7, 1e-9);
-    toes += v[i].bulge > 0;
-  }
-  EXPECT_EQ(toes, 2);
-}
-
 TEST(RowOutline, IsEmptyForSizesThatBoundNoSection) {
   const CDataItem good = RowOf(L"热轧普通工字钢", L"I20a",
                                {{L"h(mm)", 200},

@@ -25,6 +25,7 @@
 #include "outlines/touching_parts.h"
 #include "platform/temp_folder.h"
 #include "platform/whole_file.h"
+#include "sections/catalogue_store.h"
 #include "sections/load_data_table.h"
 #include "sections/section_check.h"
 #include "sections/section_style.h"
@@ -36,29 +37,27 @@ namespace {
 
 const CString kFolder = FromUtf8(ORV3CAL_CATALOGUE "/");
 
-std::vector<CDataItem> AllRows() {
-  SetProgramPath(kFolder);
-  std::vector<CDataItem> rows;
-  CStringArray names;
-  CDataTable::GetTableNameFromFile(kFolder + kSystemStore, names);
-  for (const CString& name : names) {
-    CDataTable table;
-    table.SetTableName(name);
-    CString info;
-    table.GetTable(kFolder + kSystemStore, info);
-    for (const CDataItem& row : std::as_const(table.m_arrItem)) rows.push_back(row);
-  }
-  return rows;
-}
-
 std::string NameOf(const CDataItem& row) {
   return ToUtf8(row.m_strTableName + L" " + row[0].m_strValue);
 }
 
+class RowExact : public CatalogueStore {
+ protected:
+  static std::vector<CDataItem> AllRows() {
+    std::vector<CDataItem> all;
+    CStringArray names;
+    CDataTable::GetTableNameFromFile(kFolder + kSystemStore, names);
+    for (const CString& name : names) {
+      for (CDataItem& row : Rows(name)) all.push_back(std::move(row));
+    }
+    return all;
+  }
+};
+
 // --- Kept figures --------------------------------------------------------------------------------
 
 // Every row is found; its solver reached its limits; what is kept is what is computed.
-TEST(RowExact, IsKeptOfEveryRow) {
+TEST_F(RowExact, IsKeptOfEveryRow) {
   const std::vector<CDataItem> rows = AllRows();
   ASSERT_GT(rows.size(), 1000U);
   double area = 0, torsion = 0;
@@ -86,8 +85,7 @@ TEST(RowExact, IsKeptOfEveryRow) {
 }
 
 // A size changed by a thousandth of a millimetre has figures of its own.
-TEST(RowExact, IsComputedOfAChangedRow) {
-  SetProgramPath(kFolder);
+TEST_F(RowExact, IsComputedOfAChangedRow) {
   CDataItem row = CLoadDataTable::GetSysTemJMItem(L"热轧宽翼缘H型钢", L"HW200X200");
   const double before = ExactProperties(row).It;
   double tf = 0;
@@ -100,8 +98,7 @@ TEST(RowExact, IsComputedOfAChangedRow) {
 }
 
 // A pair is kept by its part's cells too, which stand in another table.
-TEST(RowExact, IsComputedOfAPairWhosePartHasChanged) {
-  SetProgramPath(kFolder);
+TEST_F(RowExact, IsComputedOfAPairWhosePartHasChanged) {
   const CDataItem pair = CLoadDataTable::GetSysTemJMItem(L"热轧等边角钢组合", L"2L100X10");
   EXPECT_TRUE(FindExact(pair));
   EXPECT_FALSE(FindExact(WithPairSpacing(pair, 10)));
@@ -123,7 +120,7 @@ TEST(RowExact, IsComputedOfAPairWhosePartHasChanged) {
 }
 
 // Every byte of the file is tried; none gives another figure.
-TEST(RowExact, PassesOverADamagedFile) {
+TEST_F(RowExact, PassesOverADamagedFile) {
   const CExactProperties exact =
       ExactProperties(std::span<const CPath>(std::vector<CPath>{RectPath(0, 0, 20, 10)}));
   std::vector<CExactRecord> records{{{1, 2}, exact}, {{1, 1}, exact}, {{1, 2}, exact}};
@@ -143,8 +140,7 @@ TEST(RowExact, PassesOverADamagedFile) {
   EXPECT_FALSE(ReadExactFile(whole + "x"));
 }
 
-TEST(RowExact, AddsUpWhatIsNotJoined) {
-  SetProgramPath(kFolder);
+TEST_F(RowExact, AddsUpWhatIsNotJoined) {
   const CDataItem single = CLoadDataTable::GetSysTemJMItem(L"热轧等边角钢", L"L100X10");
   const CDataItem pair = CLoadDataTable::GetSysTemJMItem(L"热轧等边角钢组合", L"2L100X10");
   const CExactProperties one = ExactProperties(single);
@@ -159,8 +155,7 @@ TEST(RowExact, AddsUpWhatIsNotJoined) {
 }
 
 // Parts that touch are read back from a drawing with the row's own figures.
-TEST(RowExact, IsThatOfTheDrawingOfTouchingParts) {
-  SetProgramPath(kFolder);
+TEST_F(RowExact, IsThatOfTheDrawingOfTouchingParts) {
   for (const wchar_t* table :
        {L"热轧等边角钢组合", L"热轧不等边角钢长边组合", L"热轧普通槽钢[]组合"}) {
     CStringArray numbers;
@@ -190,7 +185,7 @@ TEST(RowExact, IsThatOfTheDrawingOfTouchingParts) {
 
 // How far the printed It, Iw and eo of the cold-formed tables are from the exact ones, in percent,
 // as docs/catalogue.md tells.
-TEST(RowExact, ToldDeviationsOfPrintedFigures) {
+TEST_F(RowExact, ToldDeviationsOfPrintedFigures) {
   const struct {
     const wchar_t* table;
     const wchar_t* sign;
@@ -258,7 +253,7 @@ void MeetCoarseFigures(const std::vector<CPath>& loops, const CExactProperties& 
 std::size_t OneOf(std::size_t many) { return std::getenv("ORV3CAL_WHOLE") == nullptr ? many : 1; }
 
 // Rows that are one part.
-TEST(RowExact, MeetsAnotherMethod) {
+TEST_F(RowExact, MeetsAnotherMethod) {
   const std::size_t step = OneOf(41);
   const std::vector<CDataItem> rows = AllRows();
   std::size_t met = 0;
@@ -272,7 +267,7 @@ TEST(RowExact, MeetsAnotherMethod) {
 }
 
 // What no row and no style has: cells that share a wall, a hole to one side, a slit.
-TEST(RowExact, MeetsAnotherMethodInCells) {
+TEST_F(RowExact, MeetsAnotherMethodInCells) {
   const auto box = [](double left, double bottom, double right, double top) {
     return Reversed(RectPath(left, bottom, right - left, top - bottom));
   };
@@ -299,7 +294,7 @@ TEST(RowExact, MeetsAnotherMethodInCells) {
 
 // A hundred sections of each style, their sizes around those of its sample; some by the other
 // method too.
-TEST(RowExact, HoldsForUserSections) {
+TEST_F(RowExact, HoldsForUserSections) {
   const std::size_t step = OneOf(25);
   std::uint64_t seed = 20'241'001;
   const auto random = [&] {

@@ -55,14 +55,6 @@ TEST_F(RowPicture, NamesTheSizesOfTheTable) {
   }
 }
 
-TEST_F(RowPicture, OfAColumnShowsItsSpacings) {
-  const CDataItem row = DefaultRow(L"四肢格构柱");
-  const std::string svg = RowPictureSvg(row);
-  EXPECT_NE(svg.find("kx = 600"), std::string::npos);
-  EXPECT_NE(svg.find("ky = 800"), std::string::npos);
-  CheckLegible(RowPictureDrawing(row), "column");
-}
-
 TEST_F(RowPicture, SaysWhenThereIsNothingToDraw) {
   CDataItem row;
   row.m_strTableName = L"热轧普通工字钢";

@@ -96,6 +96,8 @@ TEST_F(SectionKinds, SymmetryIsThatOfTheOutline) {
   } plates[] = {{L"自定义非对称H型钢", {10, 400, 16, 16, 60, 80, 60, 80}},
                 {L"自定义非对称H型钢", {10, 400, 16, 20, 80, 80, 60, 60}},
                 {L"自定义非对称H型钢", {10, 400, 16, 16, 60, 80, 80, 60}},
+                {L"自定义非对称H型钢", {10, 400, 16, 16, 80, 80, 60, 70}},
+                {L"自定义T形截面", {12, 300, 18, 0, 90}},
                 {L"自定义非对称箱形截面", {300, 400, 12, 12, 8, 9}},
                 {L"自定义非对称箱形截面", {300, 400, 12, 14, 8, 8}},
                 {L"自定义十字形截面", {30, 400, 150, 210, 120, 120}},
@@ -217,6 +219,7 @@ bool Fits(const CDrawnTable& drawn, int sketch) {
 TEST_F(SectionKinds, SketchesShowTheirSections) {
   std::vector<CDrawnTable> tables;
   for (const CSectionTable& table : SectionTables()) {
+    ASSERT_EQ(table.m_nSketch == kNoSketch, table.m_kind == CSectionKind::ThreeLimbs);
     if (table.m_nSketch == kNoSketch) continue;
     const auto rows = RowsOf(table);
     double narrowest = 1e9, widest = 0;

@@ -75,6 +75,8 @@ TEST(Spacing, Numbers) {
   for (const auto& c : cases) {
     EXPECT_EQ(T::GetSubData(c.table, c.no), c.value) << c.table << " " << orv3::ToUtf8(c.no);
   }
+  EXPECT_EQ(T::GetSubData(L"热轧轻型槽钢", L"[12"), 40);
+  EXPECT_EQ(T::GetSubData(L"热轧普通槽钢", L"[14a"), 45);
 }
 
 double Cell(const orv3::CSectionSpacing& spacing, const char* key) {

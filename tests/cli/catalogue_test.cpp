@@ -115,7 +115,7 @@ TEST(LatticeCommand, DrawsItsLimbs) {
   const CRunResult run = OnCatalogue("lattice " + column.m_strPath + " --svg " + svg.m_strPath);
   EXPECT_EQ(run.m_nExit, 0) << run.m_strError;
   CheckSvg(svg.Bytes());
-  ExpectHas(svg.Bytes(), {"kx = 600", "ky = 800", "L63X6", "重心"});
+  ExpectHas(svg.Bytes(), {"kx = 600", "ky = 800", "L63X6", "centroid"});
 }
 
 TEST(LatticeCommand, RefusesInOneLineThatNamesTheFault) {

@@ -8,9 +8,7 @@
 #include <sstream>
 
 #include "cli/run_program.h"
-#include "connections/gb2017/bolt_case.h"
-#include "connections/gb2017/weld_case.h"
-#include "connections/weld_group/group_case.h"
+#include "connections/connection_kinds.h"
 #include "framework/utf8.h"
 #include "members/cases/member_case.h"
 #include "platform/code_page.h"
@@ -49,22 +47,20 @@ void AddKeysOf(const Json& properties, std::set<std::string>& keys) {
 }
 
 template <class CHECK2003, class CHECK2017>
-void ExpectKeysOf(const std::string& kind) {
-  const Json schema = Json::parse(FileBytes(kSource + "/docs/schema/" + kind + ".schema.json"));
+void ExpectKeysOf(const orv3::CConnectionKind<CHECK2003, CHECK2017>& kind) {
+  const std::string file = kSource + "/docs/schema/" + kind.m_szName + ".schema.json";
+  const Json schema = Json::parse(FileBytes(file));
   std::set<std::string> keys = {"code"};
   for (const auto& key : orv3::kSheetKeys) keys.insert(key.m_szKey);
   AddKeysOf<CHECK2003>(schema["properties"], keys);
   AddKeysOf<CHECK2017>(schema["properties"], keys);
   std::set<std::string> listed;
   for (const auto& [key, rule] : schema["properties"].items()) listed.insert(key);
-  EXPECT_EQ(listed, keys) << kind;
+  EXPECT_EQ(listed, keys) << kind.m_szName;
 }
 
 TEST(CheckCommand, TheSchemasListTheKeysOfTheChecks) {
-  ExpectKeysOf<orv3::CBoltCheck, orv3::CBoltCheck2017>("bolt");
-  ExpectKeysOf<orv3::CFilletCheck, orv3::CFilletCheck2017>("fillet");
-  ExpectKeysOf<orv3::CButtCheck, orv3::CButtCheck2017>("butt");
-  ExpectKeysOf<orv3::CWeldGroupCheck2003, orv3::CWeldGroupCheck2017>("weld-group");
+  std::apply([](const auto&... kind) { (ExpectKeysOf(kind), ...); }, orv3::kConnectionKinds);
 }
 
 // The other way round the command refuses to start.

@@ -72,34 +72,30 @@ std::string Argument(std::string_view json) {
   return text + "\"";
 }
 
-TEST(Choose, AnswersSectionsOfStylesAsTheCheckTakesThem) {
+// The first row that was chosen is told as the check tells it by itself.
+void ExpectAsChecked(const Json& row, const std::string& section, const std::string& body) {
+  const Json check =
+      Json::parse(Check(R"({"section": )" + section + ", " + body + "}", "--json").m_strOut);
+  EXPECT_EQ(check["ratio"], row["ratio"]);
+  EXPECT_EQ(check["warnings"], row["warnings"]);
+}
+
+TEST(Choose, AnswersSectionsAsTheCheckTakesThem) {
   const std::string style = R"({"style": "h", "b": [200, 300, 50], "h": 300,)"
                             R"( "tf": [0.1, 12.1, 12], "tw": 8})";
   const CRunResult run = Choose("{" + kBare + "}", "--style " + Argument(style) + " --json");
   const Json answer = Json::parse(run.m_strOut);
   EXPECT_EQ(answer["tried"], 6);
   const Json& row = answer["rows"][0];
-  const Json sizes = row["sizes"];
-  const Json check = Json::parse(
-      Check(R"({"section": {"style": "h", "sizes": )" + sizes.dump() + "}, " + kBare + "}",
-            "--json")
-          .m_strOut);
-  EXPECT_EQ(check["ratio"], row["ratio"]);
-  EXPECT_EQ(check["warnings"], row["warnings"]);
-}
+  ExpectAsChecked(row, R"({"style": "h", "sizes": )" + row["sizes"].dump() + "}", kBare);
 
-TEST(Choose, GapOfPairsIsThatOfTheCheck) {
-  const std::string body = R"("steel": "Q235", "N": -300, "lengths": {"x": 3000, "y": 3000}})";
-  const Json answer = Json::parse(
-      Choose(R"({"section": {"gap": 12}, )" + body, "--table 热轧等边角钢组合 --json").m_strOut);
-  const Json& row = answer["rows"][0];
-  const Json check =
-      Json::parse(Check(R"({"section": {"table": "热轧等边角钢组合", "gap": 12, "no": )" +
-                            row["no"].dump() + "}, " + body,
-                        "--json")
-                      .m_strOut);
-  EXPECT_EQ(check["ratio"], row["ratio"]);
-  EXPECT_EQ(check["warnings"], row["warnings"]);
+  const std::string body = R"("steel": "Q235", "N": -300, "lengths": {"x": 3000, "y": 3000})";
+  const Json pairs = Json::parse(
+      Choose(R"({"section": {"gap": 12}, )" + body + "}", "--table 热轧等边角钢组合 --json")
+          .m_strOut);
+  const std::string no = pairs["rows"][0]["no"].dump();
+  ExpectAsChecked(pairs["rows"][0], R"({"table": "热轧等边角钢组合", "gap": 12, "no": )" + no + "}",
+                  body);
 }
 
 TEST(Choose, IsByOneEditionAndNamesIt) {

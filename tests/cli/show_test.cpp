@@ -6,12 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "catalogue/lattice/steel_ge_gou.h"
 #include "cli/run_program.h"
-#include "framework/utf8.h"
-#include "sections/load_data_table.h"
 #include "svg_check.h"
-#include "tables/data_table.h"
 
 namespace {
 
@@ -107,20 +103,16 @@ TEST(ShowCommand, WritesPictureAndOutline) {
 // A store of the user's own; limbs of its columns are looked up in the catalogue.
 TEST(ShowCommand, ShowsWhatAStoreHolds) {
   const COwnFile store("own.KDB");
-  CLoadDataTable::SetOrvoPrgPath(orv3::FromUtf8(ORV3CAL_CATALOGUE "/"));
-  for (const wchar_t* name : {L"自定义Z形截面", L"双肢格构柱"}) {
-    CSteelItemGeGou row{CDataItem()};
-    row.m_strTableName = name;
-    ASSERT_EQ(CLoadDataTable::GetDefaultDataItem(row), 1);
-    row.CalSteelJMGeGou();  // of a column
-    CDataTable table;
-    table.SetTableName(name);
-    ASSERT_EQ(table.setTableTitle(row), 1);
-    ASSERT_EQ(table.AddTableItem(row, 1), 1);
-    ASSERT_EQ(table.WriteTable(orv3::FromUtf8(store.m_strPath), 0, 1), 1);
-  }
-  CLoadDataTable::SetOrvoPrgPath(L"");
   const std::string own = " --store " + store.m_strPath;
+  const std::string limbs =
+      " --set P1Type=热轧普通槽钢 --set \"P1No.=[10\" --set P1θ°=90 --set P2Type=热轧普通槽钢 "
+      "--set \"P2No.=[10\" --set P2θ°=270";
+  for (const std::string& row :
+       {std::string(
+            "自定义Z形截面 --set No.=Z180X70X20 --set \"b(mm)=20\" --set \"h(mm)=400\" --set "
+            "\"bh1(mm)=20\" --set \"bh2(mm)=20\" --set \"bf1(mm)=50\" --set \"bf2(mm)=50\""),
+        "双肢格构柱 --set No.=G2[10X800 --set \"k(mm)=800\"" + limbs})
+    ASSERT_EQ(RunProgram("store add " + row + own + kData).m_nExit, 0);
   const Json z = ShowJson("自定义Z形截面 Z180X70X20" + own)["geometry"];
   EXPECT_EQ(z["area"], 20 * 400 + 2 * 20 * 50);
   EXPECT_EQ(z["width"], 120);

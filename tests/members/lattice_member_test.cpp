@@ -1,53 +1,8 @@
 // Lattice columns worked by hand: their limbs, and what joins them.
-#include "members/lattice_member.h"
 #include "member_cases.h"
 
 namespace orv3 {
 namespace {
-
-// Two channels of 4003 mm2, one 240 mm above the other. w/t of the bar 18, over 14 of its strength
-// and 15 of its leg.
-CLatticeSection WideLegs() {
-  CLatticeSection s;
-  s.m_arrLimb.resize(2);
-  for (CLatticeLimbSection& limb : s.m_arrLimb) limb.m_section.m_nShape = CMemberShape::SolidBar;
-  s.m_dA = 8006;
-  s.m_dRx = 122.2480738;
-  s.m_dRy = 109;
-  s.m_dWx = 997053.333;
-  s.m_dKy = 240;
-  s.m_dLimbR1 = 23.3364855;
-  s.m_dL1 = 480;
-  s.m_dBarA = 349;
-  s.m_dBarR = 8.9;
-  s.m_dBarLeg = 100;
-  s.m_dBarThick = s.m_dBarRoot = 5;
-  return s;
-}
-
-TEST(LacingBar, WideLegsOfOneAngle) {
-  const struct {
-    CCodeEdition nEdition;
-    double lacing, leg;
-  } cases[] = {
-      // by rho-e 1.3 - 0.3 18/14; 18/15 by sqrt of what it has over what it bears
-      {CCodeEdition::Gb2017, 0.35056, 0.71050},
-      // 18 against 10 + 0.1 38.2
-      {CCodeEdition::Gb2003, 0.32052, 1.30306},
-  };
-  for (const auto& each : cases) {
-    const CMemberSteel steel{
-        .m_nEdition = each.nEdition, .m_dF = 215, .m_dFv = 125, .m_dBondF = 215, .m_dFy = 235};
-    CLatticeLoads loads;
-    loads.m_dN = -1400e3;
-    loads.m_dLx = loads.m_dLy = 6000;
-    CMemberAnswer answer;
-    CheckLatticeMember(WideLegs(), steel, loads, answer);
-    ASSERT_FALSE(answer.IsRefused());
-    EXPECT_NEAR(answer.Ratio(CMemberCheckKind::Lacing), each.lacing, 1e-5);
-    EXPECT_NEAR(answer.Ratio(CMemberCheckKind::LacingLeg), each.leg, 1e-5);
-  }
-}
 
 using K = CMemberCheckKind;
 
@@ -101,6 +56,10 @@ CMemberCase NarrowPlane() {
   c.m_dTurn1 = 0, c.m_dTurn2 = 90, c.m_dTurn3 = 180, c.m_dTurn4 = 270;
   return Under(Battened(c, 500, 6, 1000), "Q235", -1000, 160, 0, 6000, 6000);
 }
+CMemberCase ThinBars() {
+  return Under(Laced(Column(kChannel, "[20a", 0, 300), "L56X3", 45, 600), "Q235", -100, 0, 0, 4000,
+               3500);
+}
 CMemberCase TwoChannels() { return Column(kChannel, "[20a", 0, 270); }
 
 class LatticeMember : public test::CMembers {};
@@ -112,6 +71,12 @@ TEST_F(LatticeMember, WorkedByHand) {
     K m_nKind;
     double m_d2017, m_d2003;
   } cases[] = {
+      // lambda 300/0.70711/11.3 = 37.55, phi 0.90822, eta 0.65632; in 2017 rho-e 1.3 -
+      // 0.3 16.67/14:
+      // 14588/2/0.70711 to 0.94286 0.65632 0.90822 334.3 215
+      {"thin bars", ThinBars(), K::Lacing, 0.25536, 0.24077},
+      // 50/3 to 15 by sqrt(1/0.25536); 47/3 to 10 + 3.755
+      {"and their legs", ThinBars(), K::LacingLeg, 0.56148, 1.13902},
       // 518/11 to 40 epsilon-k, by sqrt(0.92391 27040 355/8500e3) in 2017
       {"web of a limb", SlenderLimbs(), K::Web, 1.54079, 1.57387},
       // 85e3 225/24.2e3 + 100e3/5767.4

@@ -139,6 +139,8 @@ const CRefusal kRefusals[] = {
     {"code", Change(WideH(), [](CMemberCase& c) { c.m_strCode = "2010"; })},
     {"section", Change(WideH(), [](CMemberCase& c) { c.m_strNo = "HW1"; })},
     {"section", Change(WideH(), [](CMemberCase& c) { c.m_strStyle = "h"; })},
+    {"section", With(Row("冷弯薄壁方钢管", "80X2.5", "Q235", 3000, 3000), -9)},
+    {"section", With(Row("冷弯焊接薄壁圆钢管", "108X2.5", "Q235", 3000, 3000), -9)},
     {"section", With(Sizes("z", {20, 400, 20, 20, 50, 50}, "Q235", 3000, 3000), -100)},
     {"section", With(Sizes("general-h", {10, 300, 12, 12, 80, 90, 80, 80}, "Q235", 3e3, 3e3), -9)},
     // Table C.0.1 has no βb of a load where the tension flange is the heavier

@@ -1,6 +1,5 @@
 # Programs of somebody who uses the installed library, static and shared, by CMake and pkg-config.
 cd /packages
-apt-get -q -y install --no-install-recommends g++ cmake make pkgconf
 apt-get -q -y install ./liborv3cal1_*.deb ./liborv3cal-dev_*.deb
 cmake -S consumer -B /tmp/consumer
 cmake --build /tmp/consumer

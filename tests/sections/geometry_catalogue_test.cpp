@@ -171,12 +171,13 @@ TEST_F(GeometryCatalogue, UserDefinedRowsAgreeWithTheirOutline) {
 }
 
 TEST_F(GeometryCatalogue, PairsWithoutTheirComponent) {
-  const CDataItem row = RowOf(L"热轧等边角钢组合", L"2L7X7", {{L"A(cm^2)", 9.606}});
+  CDataItem row = RowOf(L"热轧等边角钢组合", L"2L7X7", {{L"A(cm^2)", 9.606}});
   for (const CTwo& two : {RectOf(row), CenterOf(row), CenterOf(row, 90), InertiaOf(row)}) {
     EXPECT_EQ(two.first, 0);
     EXPECT_EQ(two.second, 0);
   }
   EXPECT_NEAR(CLoadDataTable::GetDataItemArea(row), 960.6, 1e-9);
+  EXPECT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 0) << "of a rolled row nothing is computed";
 }
 
 // --- Shear centre and warping --------------------------------------------------------------------
@@ -197,6 +198,11 @@ TEST_F(GeometryCatalogue, ShearCentresAndWarping) {
   }
   for (const CDataItem& row : Rows(L"冷弯薄壁槽钢"))
     ExpectWarping(row, 10 * Cell(row, L"eo(cm)"), 1e6 * Cell(row, L"Iw(cm^6)"), 1e-9);
+  // Where the walls' mid-lines meet.
+  for (const CDataItem& row : Rows(L"剖分T型钢"))
+    ExpectWarping(row, 10 * Cell(row, L"Cx(cm)") - Cell(row, L"t2(mm)") / 2, 0, 0);
+  for (const CDataItem& row : Rows(L"热轧等边角钢"))
+    ExpectWarping(row, std::sqrt(2) * (10 * Cell(row, L"zo(cm)") - Cell(row, L"t(mm)") / 2), 0, 0);
   // Back to back they are an H with a web of twice the thickness.
   for (const CDataItem& row : Rows(L"热轧普通槽钢][组合")) {
     const CDataItem part =

@@ -150,13 +150,4 @@ TEST(GeometryRules, SymmetryWhereSizesAreMissing) {
   }
 }
 
-TEST(GeometryRules, RecomputesAUserDefinedRow) {
-  CDataItem row = DefaultRow(L"矩形截面");
-  row[L"b(mm)"].m_strValue = L"200";
-  ASSERT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 1);
-  ExpectTwo(InertiaOf(row), 1.06667e9, 2.66667e8, "200 x 400");
-  row.m_strTableName = L"热轧普通工字钢";
-  EXPECT_EQ(CLoadDataTable::CalSectCharacterStyle(row), 0);
-}
-
 }  // namespace

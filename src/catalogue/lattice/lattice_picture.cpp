@@ -26,9 +26,12 @@ CString LengthText(double value) {
   return exact.GetLength() <= 9 ? exact : FormatG(value);
 }
 
-const wchar_t* OriginText(std::size_t limbs) {
-  if (limbs == 2) return L"坐标原点：第一肢重心";
-  return limbs == 3 ? L"坐标原点：第一、二肢重心连线的中点" : L"坐标原点：各肢重心所成矩形的中心";
+CSentence OriginText(std::size_t limbs) {
+  if (limbs == 2) return Both(L"坐标原点：第一肢重心", L"origin: centroid of limb 1");
+  if (limbs == 3)
+    return Both(L"坐标原点：第一、二肢重心连线的中点", L"origin: midway between limbs 1 and 2");
+  return Both(L"坐标原点：各肢重心所成矩形的中心",
+              L"origin: middle of the rectangle of the limbs' centroids");
 }
 
 // The limb in the column's frame, mm.
@@ -89,7 +92,7 @@ class CLatticeLayout {
     for (std::size_t i = 0; i < m_arrLimb.size(); ++i)
       text = std::max(text, kLetterRoom + TextWidth(LimbText(i), kTextSize));
     text = std::max({text, kLetterRoom + TextWidth(CentroidText(), kTextSize),
-                     kLetterRoom + TextWidth(OriginText(m_arrLimb.size()), kTextSize)});
+                     kLetterRoom + TextWidth(Origin(), kTextSize)});
     const double width = left + m_box.Width() * m_dScale + right;
     m_dPageWidth = std::ceil(std::max(width, text + 2 * kMargin));
     m_dPageHeight = std::ceil(bottom + m_box.Height() * m_dScale + top);
@@ -99,12 +102,15 @@ class CLatticeLayout {
   CString Title() const { return m_picture.m_strTable + L"  " + m_picture.m_strName; }
   CString LimbText(std::size_t i) const {
     const CLatticeLimb& limb = m_arrLimb[i];
-    return limb.m_row.m_strTableName + L"  " + limb.m_row[0].m_strValue + L"，转角 " +
-           LengthText(limb.m_dAngle) + L"°";
+    return Both(L"{1}  {2}，转角 {3}°", L"{1}  {2}, turned by {3}°",
+                {limb.m_row.m_strTableName, limb.m_row[0].m_strValue, LengthText(limb.m_dAngle)})
+        .In(m_picture.m_nLanguage);
   }
+  CString Origin() const { return OriginText(m_arrLimb.size()).In(m_picture.m_nLanguage); }
   CString CentroidText() const {
-    return L"重心  xo = " + LengthText(m_properties.m_dXo) + L", yo = " +
-           LengthText(m_properties.m_dYo) + L" mm";
+    return Both(L"重心  xo = {1}, yo = {2} mm", L"centroid  xo = {1}, yo = {2} mm",
+                {LengthText(m_properties.m_dXo), LengthText(m_properties.m_dYo)})
+        .In(m_picture.m_nLanguage);
   }
 
   CPoint Page(double x, double y) const {
@@ -193,7 +199,7 @@ class CLatticeLayout {
                           false});
     double y = kMargin + kTextSize / 2;
     DrawOriginMark({kMargin + 6, y});
-    DrawLine(y, OriginText(m_arrLimb.size()));
+    DrawLine(y, Origin());
     DrawCentroidMark({kMargin + 6, y});
     DrawLine(y, CentroidText());
     for (std::size_t i = m_arrLimb.size(); i-- > 0;) {

@@ -8,6 +8,7 @@
 #include "drawing/drawing.h"
 #include "framework/cstring.h"
 #include "framework/export.h"
+#include "framework/language.h"
 
 namespace orv3 {
 
@@ -15,6 +16,7 @@ struct CLatticePicture {
   CString m_strTable;
   CString m_strName;
   CLatticeLimbs m_limbs;  // fetched and placed
+  CLanguage m_nLanguage = CLanguage::Chinese;
 };
 
 // A limb whose outline cannot be drawn stands as its enclosing rectangle.

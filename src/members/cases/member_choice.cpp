@@ -123,16 +123,9 @@ CMemberCandidate StyleCandidate(const CSectionStyle& style, const std::vector<do
 }
 
 std::vector<CString> MemberTables() {
-  using K = CSectionKind;
   std::vector<CString> tables;
-  for (const K kind :
-       {K::OrdinaryI,    K::LightI,       K::WeldedH,       K::LightWeldedH,    K::WideH,
-        K::NarrowH,      K::SquareTube,   K::SplitT,        K::OrdinaryChannel, K::LightChannel,
-        K::RoundTube,    K::EqualAngle,   K::UnequalAngle,  K::EqualAnglePair,  K::LongLegPair,
-        K::ShortLegPair, K::PlateH,       K::PlateGeneralH, K::PlateBox,        K::PlateGeneralBox,
-        K::PlateT,       K::PlateChannel, K::PlateTube,     K::SolidCircle,     K::SolidRectangle,
-        K::SolidHexagon, K::SolidTriangle}) {
-    tables.emplace_back(TableOf(kind).m_szName);
+  for (const CSectionTable& table : SectionTables()) {
+    if (IsMemberKind(table.m_kind)) tables.emplace_back(table.m_szName);
   }
   return tables;
 }

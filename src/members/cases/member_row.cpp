@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "catalogue/exact/exact_figures.h"
 #include "catalogue/exact/row_exact.h"
@@ -20,6 +21,7 @@ namespace orv3 {
 namespace {
 
 using K = CSectionKind;
+using B = CBucklingShape;
 
 CCaseFault NotCovered(CText what) {
   return {"section",
@@ -44,26 +46,48 @@ class CRowReader {
 
   std::optional<CCaseFault> Read();
 
+  // Null for a table whose rows are no members.
+  using CReadPlates = std::optional<CCaseFault> (CRowReader::*)();
+  static CReadPlates PlatesOf(CSectionKind kind) noexcept;
+
  private:
   double Cell(const wchar_t* sign) const {
     const int index = m_row.GetSignIndex(sign);
     return index < 0 ? 0 : ToDouble(m_row[index].m_strValue);
   }
   void Figures(const CRowFigures& f);
-  std::optional<CCaseFault> Plates(CSectionKind kind);
+  std::optional<CCaseFault> TaperedI();
+  std::optional<CCaseFault> RolledH();
+  std::optional<CCaseFault> WeldedH();
+  std::optional<CCaseFault> PlateH();
+  std::optional<CCaseFault> GeneralH();
+  std::optional<CCaseFault> SplitT();
+  std::optional<CCaseFault> PlateT();
+  std::optional<CCaseFault> RolledChannel();
+  std::optional<CCaseFault> PlateChannel();
+  std::optional<CCaseFault> SquareTube();
+  std::optional<CCaseFault> PlateBox();
+  std::optional<CCaseFault> GeneralBox();
+  std::optional<CCaseFault> RoundTube();
+  std::optional<CCaseFault> PlateTube();
+  std::optional<CCaseFault> Angles();
+  std::optional<CCaseFault> Solid();
   void H(double b, double h, double tw, double tf, double root);
   void GeneralI(CMemberFlange top, CMemberFlange bottom, double h, double tw, double root);
   void Tee(double b, double h, double tw, double tf, double root);
   void Channel(double b, double h, double tw, double t, double root);
   void BoxOf(double b, double h, double top, double bottom, double left, double right);
   void TubeOf(double d, double t);
-  std::optional<CCaseFault> Angles(CSectionKind kind);
   void Leg(const CDataItem& part, bool bUnequal);
-  void Solid(CSectionKind kind);
-  void Buckling(CBucklingShape flameCut, CBucklingShape rolled) {
+  std::nullopt_t Buckling(CBucklingShape flameCut, CBucklingShape rolled) {
     r.m_nFlameCut = flameCut;
     r.m_nRolled = rolled;
+    return std::nullopt;
   }
+  std::nullopt_t Buckling(CBucklingShape shape) { return Buckling(shape, shape); }
+  std::nullopt_t RolledBuckling();
+  std::nullopt_t WeldedIBuckling();
+  std::nullopt_t WeldedBoxBuckling();
   void Web(double h0, double t) {
     s.m_dH0 = h0;
     s.m_dTw = r.m_dWebThick = t;
@@ -72,6 +96,7 @@ class CRowReader {
   const CDataItem& m_row;
   CMemberRow& r;
   CMemberSection& s;
+  CSectionKind m_kind{};
   CRowFigures m_figures;
 };
 
@@ -185,8 +210,8 @@ void CRowReader::TubeOf(double d, double t) {
   r.m_bTube = true;
 }
 
-void CRowReader::Solid(CSectionKind kind) {
-  const bool bRound = kind == K::SolidCircle;
+std::optional<CCaseFault> CRowReader::Solid() {
+  const bool bRound = m_kind == K::SolidCircle;
   s.m_nShape = bRound ? CMemberShape::SolidRound : CMemberShape::SolidBar;
   const double d = s.m_dHeight;
   if (bRound) {
@@ -196,7 +221,7 @@ void CRowReader::Solid(CSectionKind kind) {
     s.m_cutX = {1.5 * s.m_dIy / s.m_dA, 1};
   }
   r.m_dThickest = r.m_dWebThick = r.m_dFlangeThick = std::min(s.m_dHeight, s.m_dWidth);
-  Buckling(CBucklingShape::Solid, CBucklingShape::Solid);
+  return Buckling(B::Solid);
 }
 
 void CRowReader::Leg(const CDataItem& part, bool bUnequal) {
@@ -210,23 +235,19 @@ void CRowReader::Leg(const CDataItem& part, bool bUnequal) {
   s.m_dLegRoot = cell(L"r(mm)");
 }
 
-std::optional<CCaseFault> CRowReader::Angles(CSectionKind kind) {
-  const CSectionPair* pair = TableOf(kind).m_pPair;
+// A pair's class is that of a T of angles: b about both axes.
+std::optional<CCaseFault> CRowReader::Angles() {
   const bool bUnequal =
-      kind == K::UnequalAngle || kind == K::LongLegPair || kind == K::ShortLegPair;
-  const CBucklingShape shape =
-      bUnequal ? CBucklingShape::RolledUnequalAngle : CBucklingShape::RolledEqualAngle;
-  Buckling(shape, shape);
-  if (pair == nullptr) {
+      m_kind == K::UnequalAngle || m_kind == K::LongLegPair || m_kind == K::ShortLegPair;
+  if (TableOf(m_kind).m_pPair == nullptr) {
     s.m_nShape = CMemberShape::Angle;
     Leg(m_row, bUnequal);
-    return std::nullopt;
+    return Buckling(bUnequal ? B::RolledUnequalAngle : B::RolledEqualAngle);
   }
-  // A pair's class is that of a T of angles: b about both axes.
-  Buckling(CBucklingShape::RolledT, CBucklingShape::RolledT);
-  s.m_nShape = kind == K::EqualAnglePair ? CMemberShape::EqualPair
-               : kind == K::LongLegPair  ? CMemberShape::LongLegPair
-                                         : CMemberShape::ShortLegPair;
+  Buckling(B::RolledT);
+  s.m_nShape = m_kind == K::EqualAnglePair ? CMemberShape::EqualPair
+               : m_kind == K::LongLegPair  ? CMemberShape::LongLegPair
+                                           : CMemberShape::ShortLegPair;
   const CString no = m_row[0].m_strValue;
   Leg(PairPartRow(m_row), bUnequal);
   if (s.m_dLeg > 0 && s.m_dLegShort > 0 && s.m_dLegThick > 0) return std::nullopt;
@@ -236,122 +257,145 @@ std::optional<CCaseFault> CRowReader::Angles(CSectionKind kind) {
       {"请在库中加入该角钢", "add it to the store"}};
 }
 
-std::optional<CCaseFault> CRowReader::Plates(CSectionKind kind) {
-  using B = CBucklingShape;
-  switch (kind) {
-    case K::OrdinaryI:
-    case K::LightI:
-      H(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"t(mm)"), Cell(L"r(mm)"));
-      r.m_bTapered = true;
-      if (kind == K::OrdinaryI) r.m_dRolledNumber = Cell(L"h(mm)") / 10;
-      break;
-    case K::WideH:
-    case K::NarrowH:
-      H(Cell(L"B(mm)"), Cell(L"H(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), Cell(L"r(mm)"));
-      break;
-    case K::WeldedH:
-    case K::LightWeldedH:
-      H(Cell(L"B(mm)"), Cell(L"H(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), 0);
-      s.m_bRolled = false;
-      Buckling(B::WeldedIFlameCut, B::WeldedIRolled);
-      return std::nullopt;
-    case K::PlateH:
-      H(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), 0);
-      s.m_bRolled = false;
-      Buckling(B::WeldedIFlameCut, B::WeldedIRolled);
-      return std::nullopt;
-    case K::PlateGeneralH: {
-      const double tw = Cell(L"b(mm)"), top = Cell(L"bf1(mm)"), bottom = Cell(L"bf3(mm)");
-      if (top != Cell(L"bf2(mm)") || bottom != Cell(L"bf4(mm)")) return Unsymmetric();
-      if (!(top > 0 && bottom > 0 && tw > 0)) return Unsymmetric();
-      GeneralI({2 * top + tw, Cell(L"bh2(mm)"), top}, {2 * bottom + tw, Cell(L"bh1(mm)"), bottom},
-               Cell(L"h(mm)"), tw, 0);
-      s.m_bRolled = false;
-      Buckling(B::WeldedIFlameCut, B::WeldedIRolled);
-      return std::nullopt;
-    }
-    case K::SplitT:
-      Tee(Cell(L"B(mm)"), Cell(L"h(mm)"), Cell(L"t1(mm)"), Cell(L"t2(mm)"), Cell(L"r(mm)"));
-      Buckling(B::RolledT, B::RolledT);
-      return std::nullopt;
-    case K::PlateT: {
-      const double tw = Cell(L"b(mm)"), out = Cell(L"bf1(mm)");
-      if (out != Cell(L"bf2(mm)")) return Unsymmetric();
-      Tee(2 * out + tw, Cell(L"h(mm)"), tw, Cell(L"bh(mm)"), 0);
-      s.m_bRolled = false;
-      Buckling(B::WeldedTFlameCut, B::WeldedTRolled);
-      return std::nullopt;
-    }
-    case K::OrdinaryChannel:
-    case K::LightChannel:
-      Channel(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"t(mm)"), Cell(L"r(mm)"));
-      Buckling(B::RolledChannel, B::RolledChannel);
-      return std::nullopt;
-    case K::PlateChannel: {
-      const double tw = Cell(L"b(mm)"), out = Cell(L"bf1(mm)"), t = Cell(L"bh1(mm)");
-      if (out != Cell(L"bf2(mm)") || t != Cell(L"bh2(mm)")) return Unsymmetric();
-      Channel(out + tw, Cell(L"h(mm)"), tw, t, 0);
-      s.m_bRolled = false;
-      Buckling(B::RolledChannel, B::RolledChannel);
-      return std::nullopt;
-    }
-    case K::SquareTube: {
-      const double h = Cell(L"h(mm)"), t = Cell(L"t(mm)");
-      BoxOf(h, h, t, t, t, t);
-      Buckling(B::RolledBox, B::RolledBox);
-      return std::nullopt;
-    }
-    case K::PlateBox: {
-      const double t = Cell(L"t(mm)");
-      BoxOf(Cell(L"b(mm)"), Cell(L"h(mm)"), t, t, t, t);
-      break;
-    }
-    case K::PlateGeneralBox:
-      BoxOf(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"t1(mm)"), Cell(L"t2(mm)"), Cell(L"t3(mm)"),
-            Cell(L"t4(mm)"));
-      if (Cell(L"t1(mm)") != Cell(L"t2(mm)") || Cell(L"t3(mm)") != Cell(L"t4(mm)"))
-        return Unsymmetric();
-      break;
-    case K::RoundTube:
-      TubeOf(Cell(L"d(mm)"), Cell(L"t(mm)"));
-      Buckling(B::WeldedTube, B::WeldedTube);
-      return std::nullopt;
-    case K::PlateTube:
-      TubeOf(2 * Cell(L"R(mm)"), Cell(L"R(mm)") - Cell(L"r(mm)"));
-      Buckling(B::WeldedTube, B::WeldedTube);
-      return std::nullopt;
-    case K::EqualAngle:
-    case K::UnequalAngle:
-    case K::EqualAnglePair:
-    case K::LongLegPair:
-    case K::ShortLegPair:
-      return Angles(kind);
-    case K::SolidCircle:
-    case K::SolidRectangle:
-    case K::SolidHexagon:
-    case K::SolidTriangle:
-      Solid(kind);
-      return std::nullopt;
-    default: {
-      const std::string table = ToUtf8(CString(TableOf(kind).m_szName));
-      return NotCovered(
-          {table + " 的构件不在验算范围内", "members of " + table + " are not covered"});
-    }
-  }
-  if (s.m_nShape == CMemberShape::Box) {
-    // The worse of the walls.
-    s.m_bRolled = false;
-    const double flange = s.m_dB0 / std::min(s.m_top.m_dThick, s.m_bottom.m_dThick);
-    const CBucklingShape shape = std::min(flange, s.m_dH0 / s.m_dTw) > 20
-                                     ? CBucklingShape::WeldedBox
-                                     : CBucklingShape::WeldedBoxThick;
-    Buckling(shape, shape);
-  } else {
-    const CBucklingShape shape =
-        s.m_top.m_dWidth / s.m_dHeight <= 0.8 ? B::RolledINarrow : B::RolledIWide;
-    Buckling(shape, shape);
-  }
-  return std::nullopt;
+// --- Each table's plates from its columns --------------------------------------------------------
+
+std::nullopt_t CRowReader::RolledBuckling() {
+  return Buckling(s.m_top.m_dWidth / s.m_dHeight <= 0.8 ? B::RolledINarrow : B::RolledIWide);
+}
+
+std::nullopt_t CRowReader::WeldedIBuckling() {
+  s.m_bRolled = false;
+  return Buckling(B::WeldedIFlameCut, B::WeldedIRolled);
+}
+
+// The worse of the walls.
+std::nullopt_t CRowReader::WeldedBoxBuckling() {
+  s.m_bRolled = false;
+  const double flange = s.m_dB0 / std::min(s.m_top.m_dThick, s.m_bottom.m_dThick);
+  return Buckling(std::min(flange, s.m_dH0 / s.m_dTw) > 20 ? B::WeldedBox : B::WeldedBoxThick);
+}
+
+std::optional<CCaseFault> CRowReader::TaperedI() {
+  H(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"t(mm)"), Cell(L"r(mm)"));
+  r.m_bTapered = true;
+  if (m_kind == K::OrdinaryI) r.m_dRolledNumber = Cell(L"h(mm)") / 10;
+  return RolledBuckling();
+}
+
+std::optional<CCaseFault> CRowReader::RolledH() {
+  H(Cell(L"B(mm)"), Cell(L"H(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), Cell(L"r(mm)"));
+  return RolledBuckling();
+}
+
+std::optional<CCaseFault> CRowReader::WeldedH() {
+  H(Cell(L"B(mm)"), Cell(L"H(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), 0);
+  return WeldedIBuckling();
+}
+
+std::optional<CCaseFault> CRowReader::PlateH() {
+  H(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"tf(mm)"), 0);
+  return WeldedIBuckling();
+}
+
+std::optional<CCaseFault> CRowReader::GeneralH() {
+  const double tw = Cell(L"b(mm)"), top = Cell(L"bf1(mm)"), bottom = Cell(L"bf3(mm)");
+  if (top != Cell(L"bf2(mm)") || bottom != Cell(L"bf4(mm)")) return Unsymmetric();
+  if (!(top > 0 && bottom > 0 && tw > 0)) return Unsymmetric();
+  GeneralI({2 * top + tw, Cell(L"bh2(mm)"), top}, {2 * bottom + tw, Cell(L"bh1(mm)"), bottom},
+           Cell(L"h(mm)"), tw, 0);
+  return WeldedIBuckling();
+}
+
+std::optional<CCaseFault> CRowReader::SplitT() {
+  Tee(Cell(L"B(mm)"), Cell(L"h(mm)"), Cell(L"t1(mm)"), Cell(L"t2(mm)"), Cell(L"r(mm)"));
+  return Buckling(B::RolledT);
+}
+
+std::optional<CCaseFault> CRowReader::PlateT() {
+  const double tw = Cell(L"b(mm)"), out = Cell(L"bf1(mm)");
+  if (out != Cell(L"bf2(mm)")) return Unsymmetric();
+  Tee(2 * out + tw, Cell(L"h(mm)"), tw, Cell(L"bh(mm)"), 0);
+  s.m_bRolled = false;
+  return Buckling(B::WeldedTFlameCut, B::WeldedTRolled);
+}
+
+std::optional<CCaseFault> CRowReader::RolledChannel() {
+  Channel(Cell(L"b(mm)"), Cell(L"h(mm)"), Cell(L"tw(mm)"), Cell(L"t(mm)"), Cell(L"r(mm)"));
+  return Buckling(B::RolledChannel);
+}
+
+std::optional<CCaseFault> CRowReader::PlateChannel() {
+  const double tw = Cell(L"b(mm)"), out = Cell(L"bf1(mm)"), t = Cell(L"bh1(mm)");
+  if (out != Cell(L"bf2(mm)") || t != Cell(L"bh2(mm)")) return Unsymmetric();
+  Channel(out + tw, Cell(L"h(mm)"), tw, t, 0);
+  s.m_bRolled = false;
+  return Buckling(B::RolledChannel);
+}
+
+std::optional<CCaseFault> CRowReader::SquareTube() {
+  const double h = Cell(L"h(mm)"), t = Cell(L"t(mm)");
+  BoxOf(h, h, t, t, t, t);
+  return Buckling(B::RolledBox);
+}
+
+std::optional<CCaseFault> CRowReader::PlateBox() {
+  const double t = Cell(L"t(mm)");
+  BoxOf(Cell(L"b(mm)"), Cell(L"h(mm)"), t, t, t, t);
+  return WeldedBoxBuckling();
+}
+
+std::optional<CCaseFault> CRowReader::GeneralBox() {
+  const double top = Cell(L"t1(mm)"), left = Cell(L"t3(mm)");
+  if (top != Cell(L"t2(mm)") || left != Cell(L"t4(mm)")) return Unsymmetric();
+  BoxOf(Cell(L"b(mm)"), Cell(L"h(mm)"), top, top, left, left);
+  return WeldedBoxBuckling();
+}
+
+std::optional<CCaseFault> CRowReader::RoundTube() {
+  TubeOf(Cell(L"d(mm)"), Cell(L"t(mm)"));
+  return Buckling(B::WeldedTube);
+}
+
+std::optional<CCaseFault> CRowReader::PlateTube() {
+  TubeOf(2 * Cell(L"R(mm)"), Cell(L"R(mm)") - Cell(L"r(mm)"));
+  return Buckling(B::WeldedTube);
+}
+
+CRowReader::CReadPlates CRowReader::PlatesOf(CSectionKind kind) noexcept {
+  using R = CRowReader;
+  static constexpr struct {
+    CSectionKind m_kind;
+    CReadPlates m_pRead;
+  } kTables[] = {{K::OrdinaryI, &R::TaperedI},
+                 {K::LightI, &R::TaperedI},
+                 {K::WeldedH, &R::WeldedH},
+                 {K::LightWeldedH, &R::WeldedH},
+                 {K::WideH, &R::RolledH},
+                 {K::NarrowH, &R::RolledH},
+                 {K::SquareTube, &R::SquareTube},
+                 {K::SplitT, &R::SplitT},
+                 {K::OrdinaryChannel, &R::RolledChannel},
+                 {K::LightChannel, &R::RolledChannel},
+                 {K::RoundTube, &R::RoundTube},
+                 {K::EqualAngle, &R::Angles},
+                 {K::UnequalAngle, &R::Angles},
+                 {K::EqualAnglePair, &R::Angles},
+                 {K::LongLegPair, &R::Angles},
+                 {K::ShortLegPair, &R::Angles},
+                 {K::PlateH, &R::PlateH},
+                 {K::PlateGeneralH, &R::GeneralH},
+                 {K::PlateBox, &R::PlateBox},
+                 {K::PlateGeneralBox, &R::GeneralBox},
+                 {K::PlateT, &R::PlateT},
+                 {K::PlateChannel, &R::PlateChannel},
+                 {K::SolidCircle, &R::Solid},
+                 {K::PlateTube, &R::PlateTube},
+                 {K::SolidRectangle, &R::Solid},
+                 {K::SolidHexagon, &R::Solid},
+                 {K::SolidTriangle, &R::Solid}};
+  const auto* const found = std::find_if(std::begin(kTables), std::end(kTables),
+                                         [=](const auto& each) { return each.m_kind == kind; });
+  return found == std::end(kTables) ? nullptr : found->m_pRead;
 }
 
 std::optional<CCaseFault> CRowReader::Read() {
@@ -359,10 +403,17 @@ std::optional<CCaseFault> CRowReader::Read() {
   r = {};
   r.m_row = m_row;
   if (!kind) return NotCovered({"不是截面表的行", "is no row of a section table"});
+  m_kind = *kind;
   m_figures = RowFigures(m_row);
   Figures(m_figures);
   if (auto fault = ThinWalled(m_row)) return fault;
-  if (auto fault = Plates(*kind)) return fault;
+  const CReadPlates plates = PlatesOf(m_kind);
+  if (plates == nullptr) {
+    const std::string table = ToUtf8(m_row.GetTableName());
+    return NotCovered(
+        {table + " 的构件不在验算范围内", "members of " + table + " are not covered"});
+  }
+  if (auto fault = (this->*plates)()) return fault;
   const double all = s.m_dA + s.m_dIx + s.m_dIy + s.m_dRx + s.m_dRy;
   if (!(std::isfinite(all) && s.m_dA > 0 && s.m_dIx > 0 && s.m_dIy > 0)) {
     return CCaseFault{"section",
@@ -409,6 +460,8 @@ CCaseFault PairGapFault() {
            "to 60; "
            "parts further apart are a lattice column"}};
 }
+
+bool IsMemberKind(CSectionKind kind) noexcept { return CRowReader::PlatesOf(kind) != nullptr; }
 
 std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member) {
   return CRowReader(row, member).Read();

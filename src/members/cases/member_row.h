@@ -10,6 +10,7 @@
 #include "codes/buckling.h"
 #include "members/member_section.h"
 #include "reports/case_keys.h"
+#include "sections/section_kind.h"
 #include "sections/section_style.h"
 #include "tables/data_item.h"
 
@@ -36,9 +37,12 @@ ORV3CAL_API const CSectionStyle* StyleNamed(const std::string& name);
 ORV3CAL_API CDataItem SizesRow(const CSectionStyle& style, std::span<const double> sizes,
                                std::optional<CCaseFault>& fault);
 
-// Whether a gap of a pair can be: whole millimetres, 0 to 1000.
+// Whether a gap of a pair can be: whole millimetres, 0 to 60.
 ORV3CAL_API bool IsPairGap(double gap) noexcept;
 ORV3CAL_API CCaseFault PairGapFault();
+
+// Whether rows of the table can be members.
+bool IsMemberKind(CSectionKind kind) noexcept;
 
 // The fault names "section".
 ORV3CAL_API std::optional<CCaseFault> ReadMemberRow(const CDataItem& row, CMemberRow& member);
