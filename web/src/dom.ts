@@ -51,6 +51,7 @@ export function picture(svg: string | Uint8Array | undefined, name: string): HTM
   if (!svg) return holder;
   const text = typeof svg === "string" ? svg : new TextDecoder().decode(svg);
   const drawing = document.importNode(new DOMParser().parseFromString(text, "image/svg+xml").documentElement, true) as unknown as SVGSVGElement;
+  for (const script of drawing.querySelectorAll("script")) script.remove(); // an image would run none either
   holder.setAttribute("role", "img");
   holder.setAttribute("aria-label", name);
   const [wide = 1, high = 1] = (drawing.getAttribute("viewBox") ?? "").split(" ").slice(2).map(Number);
