@@ -4,6 +4,7 @@
 #pragma once
 
 #include <CLI/App.hpp>
+#include <string_view>
 
 namespace orv3::cli {
 
@@ -12,7 +13,6 @@ void AddSectionCommand(CLI::App& program);
 void AddTablesCommand(CLI::App& program);
 void AddRowsCommand(CLI::App& program);
 void AddShowCommand(CLI::App& program);
-void AddOutlineCommand(CLI::App& program);
 void AddOutlineCommand(CLI::App& program);
 void AddLatticeCommand(CLI::App& program);
 void AddCodeCommand(CLI::App& program);
@@ -23,10 +23,26 @@ void AddStoreCommand(CLI::App& program);
 void AddDescribeCommand(CLI::App& program);
 void AddCompleteCommand(CLI::App& program);
 
+struct CCommand {
+  std::string_view m_strName;
+  void (*m_pAdd)(CLI::App&);
+  bool m_bOfAll = false;  // tells of all commands
+};
+
 // The commands in the order of the help; a new one is entered here.
-inline constexpr void (*kCommands[])(CLI::App&) = {
-    AddStylesCommand,  AddSectionCommand, AddTablesCommand,   AddRowsCommand,    AddShowCommand,
-    AddOutlineCommand, AddLatticeCommand, AddCodeCommand,     AddCheckCommand,   AddChooseCommand,
-    AddGaugeCommand,   AddStoreCommand,   AddDescribeCommand, AddCompleteCommand};
+inline constexpr CCommand kCommands[] = {{"styles", AddStylesCommand},
+                                         {"section", AddSectionCommand},
+                                         {"tables", AddTablesCommand},
+                                         {"rows", AddRowsCommand},
+                                         {"show", AddShowCommand},
+                                         {"outline", AddOutlineCommand},
+                                         {"lattice", AddLatticeCommand},
+                                         {"code", AddCodeCommand},
+                                         {"check", AddCheckCommand},
+                                         {"choose", AddChooseCommand},
+                                         {"gauge", AddGaugeCommand},
+                                         {"store", AddStoreCommand},
+                                         {"describe", AddDescribeCommand, true},
+                                         {"complete", AddCompleteCommand, true}};
 
 }  // namespace orv3::cli
