@@ -46,9 +46,22 @@ int KernelHandles() {
   return count;
 }
 
+std::size_t HeapBytes() {
+  std::array<HANDLE, 64> heaps{};
+  const DWORD count = std::min<DWORD>(GetProcessHeaps(heaps.size(), heaps.data()), heaps.size());
+  std::size_t bytes = 0;
+  for (DWORD i = 0; i < count; ++i) {
+    PROCESS_HEAP_ENTRY entry{};
+    while (HeapWalk(heaps[i], &entry)) {
+      if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData;
+    }
+  }
+  return bytes;
+}
+
 }  // namespace
 
-CHoldings Holdings() { return {UserObjects(), GdiObjects(), KernelHandles()}; }
+CHoldings Holdings() { return {UserObjects(), GdiObjects(), KernelHandles(), HeapBytes()}; }
 
 void FillStockOfDrawingContexts() {
   std::array<HDC, 16> contexts{};
@@ -73,5 +86,5 @@ void ExpectCountsSeeNewObjects() {
 
 std::ostream& operator<<(std::ostream& out, const CHoldings& holdings) {
   return out << holdings.windows << " windows, " << holdings.drawing << " drawing objects, "
-             << holdings.handles << " handles";
+             << holdings.handles << " handles, " << holdings.heap << " bytes";
 }

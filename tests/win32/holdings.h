@@ -1,12 +1,14 @@
 // What a process holds of Windows, counted, so that a test sees what is left behind.
 #pragma once
 
+#include <cstddef>
 #include <ostream>
 
 struct CHoldings {
-  int windows;  // and menus
-  int drawing;  // GDI objects: bitmaps, fonts, device contexts
-  int handles;  // kernel handles: files, events, threads
+  int windows;       // and menus
+  int drawing;       // GDI objects: bitmaps, fonts, device contexts
+  int handles;       // kernel handles: files, events, threads
+  std::size_t heap;  // bytes in use in every heap
 };
 
 // Windows counts for us; where it answers 0, as Wine 8 does, every possible handle is tried.
