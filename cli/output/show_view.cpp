@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "catalogue/headings/column_title.h"
 #include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/outline/row_doubts.h"
 #include "catalogue/rolled/angle_capacity.h"
@@ -129,6 +130,18 @@ std::pair<std::string, std::string> SymbolAndUnit(const std::string& sign) {
   return {sign.substr(0, open), unit};
 }
 
+CText CellTitle(const CDataItem& row, const CDataCell& cell) {
+  return ColumnTitle(row.m_strTableName,
+                     {cell.m_strName, cell.m_strSign, cell.m_nType, cell.m_bKey});
+}
+
+// What a figure means, beside its Chinese title, and a remark.
+std::string Meaning(const CText& title, const std::string& remark) {
+  const bool known = title.m_strEnglish != title.m_strChinese;
+  const std::string meaning = Say({"", known ? title.m_strEnglish : ""});
+  return meaning + (meaning.empty() || remark.empty() ? "" : "; ") + remark;
+}
+
 // Of capacity columns, by the cell: the slenderness and what it means for the figure.
 std::vector<std::string> CellRemarks(const CDataItem& row) {
   std::vector<std::string> remarks(static_cast<std::size_t>(row.GetItemLength()));
@@ -224,6 +237,7 @@ CJson RowJson(const CDataItem& row, const CRowFigures& figures) {
   for (const CDataCell& cell : std::as_const(shown.m_arrCell)) {
     columns.push_back({{"sign", ToUtf8(cell.m_strSign)},
                        {"name", ToUtf8(cell.m_strName)},
+                       {"title", CellTitle(row, cell).In(MessageLanguage())},
                        {"type", TypeName(cell.m_nType)},
                        {"key", cell.m_bKey != 0}});
     cells.push_back(CellJson(cell));
@@ -253,7 +267,7 @@ void PrintRow(const CDataItem& row, const CRowFigures& figures) {
     const auto [symbol, unit] = SymbolAndUnit(ToUtf8(cell.m_strSign));
     const auto at = static_cast<std::size_t>(i);
     table.AddRow({ToUtf8(cell.m_strName), symbol, ToUtf8(cell.m_strValue), unit,
-                  at < remarks.size() ? remarks[at] : ""});
+                  Meaning(CellTitle(row, cell), at < remarks.size() ? remarks[at] : "")});
   }
   table.AddRule();
   for (const CFigure& figure : kFigures) AddFigure(table, figure, figures);

@@ -1,6 +1,8 @@
 #include "output/table_json.h"
 
+#include "catalogue/headings/column_title.h"
 #include "catalogue/import/csv_table.h"
+#include "framework/language.h"
 #include "framework/utf8.h"
 #include "tables/edit_state.h"
 
@@ -18,6 +20,7 @@ CJson TableJson(const std::string& name, const CDataTable& table) {
     const CDataTypeStruct& column = table.m_Title[i];
     columns.push_back({{"sign", ToUtf8(column.m_strSign)},
                        {"name", ToUtf8(column.m_strName)},
+                       {"title", ColumnTitle(table.GetTableName(), column).In(MessageLanguage())},
                        {"type", ValueTypeName(column.m_nType)},
                        {"key", column.m_bKey != 0}});
   }

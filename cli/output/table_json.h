@@ -1,5 +1,6 @@
-// A table as JSON: {"table", "columns": [{"sign","name","type","key"}], "rows":
-// [{"index","state","cells"}]}, its live rows, cells as text.
+// A table as JSON: {"table", "columns": [{"sign","name","title","type","key"}],
+// "rows": [{"index","state","cells"}]}, its live rows, cells as text. The name is the store's, the
+// title the same in the language of messages.
 #pragma once
 
 #include <string>

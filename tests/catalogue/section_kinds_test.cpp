@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "catalogue/headings/column_title.h"
+#include "catalogue/import/section_rows.h"
 #include "catalogue/outline/outline_symmetry.h"
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
@@ -42,6 +44,22 @@ void ExpectAxis(const CDataItem& row, std::wstring letter, double inertia) {
     if (!row.GetCellValue((L"I" + letter + unit).c_str(), cell)) continue;
     EXPECT_NEAR(cell * mm4, inertia, 0.02 * inertia) << ToUtf8(letter);
   }
+}
+
+// Every heading has its other half; one that a store has of its own is left as it is.
+TEST_F(SectionKinds, HeadingsAreInBothLanguages) {
+  for (const CSectionTable& table : SectionTables()) {
+    CDataTableTitle heading;
+    ASSERT_TRUE(KnownHeading(table.m_szName, heading)) << ToUtf8(table.m_szName);
+    for (int i = 0; i < heading.GetTableTitleNum(); ++i) {
+      const CText title = ColumnTitle(table.m_szName, heading[i]);
+      EXPECT_EQ(title.m_strChinese, ToUtf8(heading[i].m_strName));
+      EXPECT_NE(title.m_strEnglish, title.m_strChinese)
+          << ToUtf8(table.m_szName) << " " << ToUtf8(heading[i].m_strSign);
+    }
+  }
+  const CDataTypeStruct own(L"边宽", L"b(mm)", CDataTypeStruct::KVBT_DOUBLE, 0);
+  EXPECT_EQ(ColumnTitle(L"热轧等边角钢", own).m_strEnglish, ToUtf8(L"边宽"));
 }
 
 TEST_F(SectionKinds, LettersAreThoseOfTheColumns) {

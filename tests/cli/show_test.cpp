@@ -24,8 +24,11 @@ double Cell(const Json& row, const std::string& sign) {
 
 TEST(ShowCommand, GivesTheGeometryInMillimetres) {
   const Json row = ShowJson("热轧普通工字钢 I20a");
-  EXPECT_EQ(row["columns"][0],
-            Json({{"sign", "No."}, {"name", "型号"}, {"type", "text"}, {"key", true}}));
+  EXPECT_EQ(row["columns"][0], Json({{"sign", "No."},
+                                     {"name", "型号"},
+                                     {"title", "number"},
+                                     {"type", "text"},
+                                     {"key", true}}));
   const Json& g = row["geometry"];
   EXPECT_EQ(g.size(), 23U);
   EXPECT_EQ(g["width"], 100);
@@ -86,7 +89,7 @@ TEST(ShowCommand, SetsAPairApart) {
 
 TEST(ShowCommand, AlignsItsColumns) {
   ExpectHas(RunProgram(Show("热轧普通工字钢 I20a")).m_strOut,
-            {"截面面积         A            35.578  cm²\n",
+            {"截面面积         A            35.578  cm²   area\n",
              "外接矩形高       height          200  mm    height of the bounding box\n"});
 }
 

@@ -17,6 +17,13 @@ struct CLatticeProperties {
   double m_dixo = 0, m_diyo = 0;                          // radii of gyration
 };
 
+// A column of what is given: a spacing, a limb's table, number or angle.
+struct CLatticeColumn {
+  const wchar_t* m_szSign;
+  const wchar_t* m_szTitle;
+  const char* m_szMeaning;  // the title in English
+};
+
 struct CLatticeProperty {
   const wchar_t* m_szSign;   // of the column, "A(mm^2)"
   const wchar_t* m_szTitle;  // of the column
@@ -26,6 +33,8 @@ struct CLatticeProperty {
   double CLatticeProperties::*m_pField;
 };
 
+// Those of every number of limbs.
+ORV3CAL_API std::span<const CLatticeColumn> LatticeGivenColumns() noexcept;
 // In the order of the columns.
 ORV3CAL_API std::span<const CLatticeProperty> LatticePropertyColumns() noexcept;
 

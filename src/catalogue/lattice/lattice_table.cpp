@@ -10,7 +10,23 @@ namespace {
 constexpr auto kText = CDataTypeStruct::KVBT_STRING;
 constexpr auto kNumber = CDataTypeStruct::KVBT_DOUBLE;
 
-constexpr const wchar_t* kOrdinals[] = {L"一", L"二", L"三", L"四"};
+using orv3::CLatticeColumn;
+
+#define LIMB(i, ordinal)                                             \
+  {L"P" i "Type", L"第" ordinal "肢类型", "table of limb " i},       \
+      {L"P" i "No.", L"第" ordinal "肢型号", "number of limb " i}, { \
+    L"P" i "θ°", L"第" ordinal "肢角度", "angle of limb " i          \
+  }
+// Two limbs have one spacing, three and four have one in each direction.
+constexpr CLatticeColumn kGiven[] = {{L"k(mm)", L"肢距", "spacing of the limbs"},
+                                     {L"kx(mm)", L"X向肢距", "spacing of the limbs in X"},
+                                     {L"ky(mm)", L"Y向肢距", "spacing of the limbs in Y"},
+                                     LIMB("1", "一"),
+                                     LIMB("2", "二"),
+                                     LIMB("3", "三"),
+                                     LIMB("4", "四")};
+#undef LIMB
+constexpr int kFirstLimb = 3;
 
 using orv3::CLatticeProperties;
 
@@ -33,25 +49,26 @@ constexpr orv3::CLatticeProperty kResults[] = {
      &CLatticeProperties::m_diyo},
 };
 
+void Add(CDataTable& table, const CLatticeColumn& column, CDataTypeStruct::KVBT_Value_Type type) {
+  table.AddTableCol(column.m_szTitle, column.m_szSign, type, 0);
+}
+
 void AddSpacings(CDataTable& table, int limbs) {
-  if (limbs == 2) {
-    table.AddTableCol(L"肢距", L"k(mm)", kNumber, 0);
-    return;
-  }
-  table.AddTableCol(L"X向肢距", L"kx(mm)", kNumber, 0);
-  table.AddTableCol(L"Y向肢距", L"ky(mm)", kNumber, 0);
+  if (limbs == 2) return Add(table, kGiven[0], kNumber);
+  Add(table, kGiven[1], kNumber);
+  Add(table, kGiven[2], kNumber);
 }
 
 void AddLimb(CDataTable& table, int limb) {
-  const orv3::CLimbColumns& columns = orv3::kLimbColumns[limb - 1];
-  const std::wstring title = std::wstring(L"第") + kOrdinals[limb - 1] + L"肢";
-  table.AddTableCol(title + L"类型", columns.m_szType, kText, 0);
-  table.AddTableCol(title + L"型号", columns.m_szNo, kText, 0);
-  table.AddTableCol(title + L"角度", columns.m_szAngle, kNumber, 0);
+  const CLatticeColumn* columns = kGiven + kFirstLimb + 3 * (limb - 1);
+  Add(table, columns[0], kText);
+  Add(table, columns[1], kText);
+  Add(table, columns[2], kNumber);
 }
 
 }  // namespace
 
+std::span<const CLatticeColumn> orv3::LatticeGivenColumns() noexcept { return kGiven; }
 std::span<const orv3::CLatticeProperty> orv3::LatticePropertyColumns() noexcept { return kResults; }
 
 CSteelJMGeGou::CSteelJMGeGou(int limbs) {

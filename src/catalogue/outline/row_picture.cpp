@@ -8,6 +8,7 @@
 #include "catalogue/outline/shapes.h"
 #include "framework/elementary.h"
 #include "framework/number_text.h"
+#include "framework/utf8.h"
 #include "outlines/geometric_figures.h"
 #include "outlines/outline_moments.h"
 #include "sections/geometry/row_values.h"
@@ -19,8 +20,14 @@
 namespace orv3 {
 namespace {
 
+// A style has a name in either language, other tables have one name.
+CString TableTitle(const CString& table, CLanguage language) {
+  const CSectionStyle* style = FindSectionStyle(table.View());
+  return style && language == CLanguage::English ? FromUtf8(style->m_szShape) : table;
+}
+
 CString Title(const CDataItem& row, int quarters, CLanguage language) {
-  CString title = row.GetTableName();
+  CString title = TableTitle(row.GetTableName(), language);
   if (!row.IsEmpty()) title += L"  " + row[0].m_strValue;
   const wchar_t* turned = language == CLanguage::Chinese ? L"  转" : L"  turned ";
   if (quarters > 0) title += turned + FormatInt(90LL * quarters) + L"°";

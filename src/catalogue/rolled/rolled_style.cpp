@@ -14,77 +14,110 @@ using K = CSectionKind;
 
 // --- Columns that several tables have ------------------------------------------------------------
 
-constexpr C tw{L"tw(mm)", L"腹板厚度"}, tf{L"tf(mm)", L"翼缘厚度"}, r{L"r(mm)", L"内圆弧半径"};
-constexpr C H{L"H(mm)", L"截面高度"}, B{L"B(mm)", L"截面宽度"};
-constexpr C A{L"A(cm^2)", L"截面面积"}, G{L"G(kg/m)", L"每米重量"}, Aw{L"Aw(m^2/m)", L"外表面积"};
+constexpr C tw{L"tw(mm)", L"腹板厚度", "web thickness"},
+    tf{L"tf(mm)", L"翼缘厚度", "flange thickness"}, r{L"r(mm)", L"内圆弧半径", "fillet radius"};
+constexpr C H{L"H(mm)", L"截面高度", "depth of the section"},
+    B{L"B(mm)", L"截面宽度", "width of the section"};
+constexpr C A{L"A(cm^2)", L"截面面积", "area"}, G{L"G(kg/m)", L"每米重量", "mass per metre"},
+    Aw{L"Aw(m^2/m)", L"外表面积", "outer surface per metre"};
 
-constexpr C Ix{L"Ix(cm^4)", L"X轴截面惯性矩"}, Iy{L"Iy(cm^4)", L"Y轴截面惯性矩"};
-constexpr C ix{L"ix(cm)", L"X轴截面回转半径"}, iy{L"iy(cm)", L"Y轴截面回转半径"};
-constexpr C Wx{L"Wx(cm^3)", L"X轴截面抵抗矩"}, Wy{L"Wy(cm^3)", L"Y轴截面抵抗矩"};
-constexpr C Sx{L"Sx(cm^3)", L"X轴半截面面积矩"};
-constexpr C Wxmax{L"Wxmax(cm^3)", L"X轴截面最大抵抗矩"},
-    Wxmin{L"Wxmin(cm^3)", L"X轴截面最小抵抗矩"};
-constexpr C Wymax{L"Wymax(cm^3)", L"Y轴截面最大抵抗矩"},
-    Wymin{L"Wymin(cm^3)", L"Y轴截面最小抵抗矩"};
-constexpr C Ix1{L"Ix1(cm^4)", L"X1轴截面惯性矩"}, Iy1{L"Iy1(cm^4)", L"Y1轴截面惯性矩"};
-constexpr C ix1{L"ix1(cm)", L"X1轴截面回转半径"}, iy1{L"iy1(cm)", L"Y1轴截面回转半径"};
-constexpr C Ixo{L"Ixo(cm^4)", L"Xo轴截面惯性矩"}, ixo{L"ixo(cm)", L"Xo轴截面回转半径"};
+constexpr C Ix{L"Ix(cm^4)", L"X轴截面惯性矩", "moment of inertia about X"},
+    Iy{L"Iy(cm^4)", L"Y轴截面惯性矩", "moment of inertia about Y"};
+constexpr C ix{L"ix(cm)", L"X轴截面回转半径", "radius of gyration about X"},
+    iy{L"iy(cm)", L"Y轴截面回转半径", "radius of gyration about Y"};
+constexpr C Wx{L"Wx(cm^3)", L"X轴截面抵抗矩", "modulus about X"},
+    Wy{L"Wy(cm^3)", L"Y轴截面抵抗矩", "modulus about Y"};
+constexpr C Sx{L"Sx(cm^3)", L"X轴半截面面积矩", "first moment of half the section about X"};
+constexpr C Wxmax{L"Wxmax(cm^3)", L"X轴截面最大抵抗矩", "greatest modulus about X"},
+    Wxmin{L"Wxmin(cm^3)", L"X轴截面最小抵抗矩", "least modulus about X"};
+constexpr C Wymax{L"Wymax(cm^3)", L"Y轴截面最大抵抗矩", "greatest modulus about Y"},
+    Wymin{L"Wymin(cm^3)", L"Y轴截面最小抵抗矩", "least modulus about Y"};
+constexpr C Ix1{L"Ix1(cm^4)", L"X1轴截面惯性矩", "moment of inertia about X1"},
+    Iy1{L"Iy1(cm^4)", L"Y1轴截面惯性矩", "moment of inertia about Y1"};
+constexpr C ix1{L"ix1(cm)", L"X1轴截面回转半径", "radius of gyration about X1"},
+    iy1{L"iy1(cm)", L"Y1轴截面回转半径", "radius of gyration about Y1"};
+constexpr C Ixo{L"Ixo(cm^4)", L"Xo轴截面惯性矩", "moment of inertia about Xo"},
+    ixo{L"ixo(cm)", L"Xo轴截面回转半径", "radius of gyration about Xo"};
 
 // Thin-walled sections: torsion, warping, and the integral of x(x^2 + y^2) over the section.
-constexpr C It{L"It(cm^4)", L"边截面惯性矩"}, Iw{L"Iw(cm^6)", L"毛截面扇性惯性矩"};
-constexpr C k{L"k(cm^-1)", L"弯扭特性系数"}, Uy{L"Uy(cm^5)", L"Y轴不对称截面特性"};
-constexpr C Ww1{L"Ww1(cm^4)", L"毛截面扇性模量"}, Ww2{L"Ww2(cm^4)", L"毛截面扇性模量"};
+constexpr C It{L"It(cm^4)", L"边截面惯性矩", "torsion constant"},
+    Iw{L"Iw(cm^6)", L"毛截面扇性惯性矩", "warping constant"};
+constexpr C k{L"k(cm^-1)", L"弯扭特性系数", "flexural-torsional factor"},
+    Uy{L"Uy(cm^5)", L"Y轴不对称截面特性", "asymmetry about Y"};
+constexpr C Ww1{L"Ww1(cm^4)", L"毛截面扇性模量", "warping modulus"},
+    Ww2{L"Ww2(cm^4)", L"毛截面扇性模量", "warping modulus"};
 
 // --- Columns of one family -----------------------------------------------------------------------
 
-constexpr C bAngle{L"b(mm)", L"边宽度"}, tAngle{L"t(mm)", L"边厚度"};
-constexpr C BLong{L"B(mm)", L"长边宽度"}, bShort{L"b(mm)", L"短边宽度"};
-constexpr C Wxo{L"Wxo(cm^3)", L"Xo轴截面抵抗矩"}, Iyo{L"Iyo(cm^4)", L"Yo轴截面惯性矩"};
-constexpr C WyoMax{L"WyoMax(cm^3)", L"Yo轴截面最大抵抗矩"};
-constexpr C WyoMin{L"WyoMin(cm^3)", L"Yo轴截面最小抵抗矩"};
-constexpr C iyo{L"iyo(cm)", L"Yo轴截面回转半径"}, zo{L"zo(cm)", L"重心距离"};
-constexpr C N{L"N(kN)", L"抗拉承载力设计值"};
-constexpr C yoAngle{L"yo(cm)", L"Y向重心距离"}, xoAngle{L"xo(cm)", L"X向重心距离"};
-constexpr C Iu{L"Iu(cm^4)", L"U轴截面惯性矩"}, Wu{L"Wu(cm^3)", L"U轴截面抵抗矩"};
-constexpr C iu{L"iu(cm)", L"U轴截面回转半径"}, tga{L"tga", L"tga"};
+constexpr C bAngle{L"b(mm)", L"边宽度", "leg width"}, tAngle{L"t(mm)", L"边厚度", "leg thickness"};
+constexpr C BLong{L"B(mm)", L"长边宽度", "long leg"}, bShort{L"b(mm)", L"短边宽度", "short leg"};
+constexpr C Wxo{L"Wxo(cm^3)", L"Xo轴截面抵抗矩", "modulus about Xo"},
+    Iyo{L"Iyo(cm^4)", L"Yo轴截面惯性矩", "moment of inertia about Yo"};
+constexpr C WyoMax{L"WyoMax(cm^3)", L"Yo轴截面最大抵抗矩", "greatest modulus about Yo"};
+constexpr C WyoMin{L"WyoMin(cm^3)", L"Yo轴截面最小抵抗矩", "least modulus about Yo"};
+constexpr C iyo{L"iyo(cm)", L"Yo轴截面回转半径", "radius of gyration about Yo"},
+    zo{L"zo(cm)", L"重心距离", "centroid distance"};
+constexpr C N{L"N(kN)", L"抗拉承载力设计值", "design tensile capacity"};
+constexpr C yoAngle{L"yo(cm)", L"Y向重心距离", "centroid distance in y"},
+    xoAngle{L"xo(cm)", L"X向重心距离", "centroid distance in x"};
+constexpr C Iu{L"Iu(cm^4)", L"U轴截面惯性矩", "moment of inertia about U"},
+    Wu{L"Wu(cm^3)", L"U轴截面抵抗矩", "modulus about U"};
+constexpr C iu{L"iu(cm)", L"U轴截面回转半径", "radius of gyration about U"},
+    tga{L"tga", L"tga", "tan α of the U axis"};
 
-constexpr C hRolled{L"h(mm)", L"截面高度"}, bRolled{L"b(mm)", L"截面宽度"};
-constexpr C tRolled{L"t(mm)", L"翼缘厚度"}, r1{L"r1(mm)", L"边端内弧半径"};
-constexpr C hWeb{L"h(mm)", L"腹板高度"}, hf{L"hf(mm)", L"焊缝厚度"};
-constexpr C t1{L"t1(mm)", L"腹板厚度"}, t2{L"t2(mm)", L"翼缘厚度"}, Cx{L"Cx(cm)", L"重心距离"};
+constexpr C hRolled{L"h(mm)", L"截面高度", "depth of the section"},
+    bRolled{L"b(mm)", L"截面宽度", "width of the section"};
+constexpr C tRolled{L"t(mm)", L"翼缘厚度", "flange thickness"},
+    r1{L"r1(mm)", L"边端内弧半径", "toe radius"};
+constexpr C hWeb{L"h(mm)", L"腹板高度", "web height"}, hf{L"hf(mm)", L"焊缝厚度", "weld size"};
+constexpr C t1{L"t1(mm)", L"腹板厚度", "web thickness"},
+    t2{L"t2(mm)", L"翼缘厚度", "flange thickness"}, Cx{L"Cx(cm)", L"重心距离", "centroid distance"};
 
-constexpr C hCold{L"h(mm)", L"高度"}, bCold{L"b(mm)", L"宽度"}, tCold{L"t(mm)", L"厚度"};
-constexpr C a{L"a(mm)", L"卷边高度"}, bZ{L"b(mm)", L"边宽度"}, tZ{L"t(mm)", L"卷边厚度"};
-constexpr C Wxomax{L"Wxomax(cm^3)", L"Xo轴截面最大抵抗矩"};
-constexpr C Wxomin{L"Wxomin(cm^3)", L"Xo轴截面最小抵抗矩"};
-constexpr C yo{L"yo(cm)", L"重心距离"}, eoAngle{L"eo(cm)", L"重心距离"};
-constexpr C xo{L"xo(cm)", L"重心距离"}, eo{L"eo(cm)", L"剪心距离"};
-constexpr C theta{L"θ(°)", L"角度"}, Ix1y1{L"Ix1y1(cm^4)", L"截面惯性矩"};
-constexpr C Wx1{L"Wx1(cm^3)", L"X1轴截面抵抗矩"}, Wy1{L"Wy1(cm^3)", L"Y1轴截面抵抗矩"};
-constexpr C Wxa{L"Wxa(cm^3)", L"X轴截面抵抗矩"}, Wxb{L"Wxb(cm^3)", L"X轴截面抵抗矩"};
-constexpr C Wya{L"Wya(cm^3)", L"Y轴截面抵抗矩"}, Wyb{L"Wyb(cm^3)", L"Y轴截面抵抗矩"};
+constexpr C hCold{L"h(mm)", L"高度", "depth"}, bCold{L"b(mm)", L"宽度", "width"},
+    tCold{L"t(mm)", L"厚度", "thickness"};
+constexpr C a{L"a(mm)", L"卷边高度", "lip height"}, bZ{L"b(mm)", L"边宽度", "leg width"},
+    tZ{L"t(mm)", L"卷边厚度", "thickness"};
+constexpr C Wxomax{L"Wxomax(cm^3)", L"Xo轴截面最大抵抗矩", "greatest modulus about Xo"};
+constexpr C Wxomin{L"Wxomin(cm^3)", L"Xo轴截面最小抵抗矩", "least modulus about Xo"};
+constexpr C yo{L"yo(cm)", L"重心距离", "centroid distance"},
+    eoAngle{L"eo(cm)", L"重心距离", "shear centre distance"};
+constexpr C xo{L"xo(cm)", L"重心距离", "centroid distance"},
+    eo{L"eo(cm)", L"剪心距离", "shear centre distance"};
+constexpr C theta{L"θ(°)", L"角度", "angle of the principal axis"},
+    Ix1y1{L"Ix1y1(cm^4)", L"截面惯性矩", "product of inertia about X1 and Y1"};
+constexpr C Wx1{L"Wx1(cm^3)", L"X1轴截面抵抗矩", "modulus about X1"},
+    Wy1{L"Wy1(cm^3)", L"Y1轴截面抵抗矩", "modulus about Y1"};
+constexpr C Wxa{L"Wxa(cm^3)", L"X轴截面抵抗矩", "modulus about X"},
+    Wxb{L"Wxb(cm^3)", L"X轴截面抵抗矩", "modulus about X"};
+constexpr C Wya{L"Wya(cm^3)", L"Y轴截面抵抗矩", "modulus about Y"},
+    Wyb{L"Wyb(cm^3)", L"Y轴截面抵抗矩", "modulus about Y"};
 
-constexpr C hTube{L"h(mm)", L"边长"}, d{L"d(mm)", L"直径"};
-constexpr C I{L"I(cm^4)", L"截面惯性矩"}, W{L"W(cm^3)", L"截面抵抗矩"};
-constexpr C i{L"i(cm)", L"截面回转半径"};
+constexpr C hTube{L"h(mm)", L"边长", "side"}, d{L"d(mm)", L"直径", "diameter"};
+constexpr C I{L"I(cm^4)", L"截面惯性矩", "moment of inertia"},
+    W{L"W(cm^3)", L"截面抵抗矩", "section modulus"};
+constexpr C i{L"i(cm)", L"截面回转半径", "radius of gyration"};
 
-#define CAPACITY(length) \
-  C { L"P(" length L"m)(kN)", length L"m长度抗压承载力设计值" }
-#define CAPACITIES                                                                              \
-  CAPACITY(L"0.6"), CAPACITY(L"0.9"), CAPACITY(L"1.2"), CAPACITY(L"1.5"), CAPACITY(L"1.8"),     \
-      CAPACITY(L"2.1"), CAPACITY(L"2.4"), CAPACITY(L"2.7"), CAPACITY(L"3.0"), CAPACITY(L"3.3"), \
-      CAPACITY(L"3.6"), CAPACITY(L"3.9"), CAPACITY(L"4.2"), CAPACITY(L"4.5"), CAPACITY(L"4.8"), \
-      CAPACITY(L"5.1"), CAPACITY(L"5.4"), CAPACITY(L"5.7")
-#define GAP(a)                                              \
-  C{L"Wy" a L"(cm^3)", L"a=" a L"mm时Y轴截面抵抗矩"}, C {   \
-    L"iy" a L"(cm)", L"a=" a L"mm时Y轴截面回转半径" \
+#define CAPACITY(length)                                     \
+  C {                                                        \
+    L"P(" length L"m)(kN)", length L"m长度抗压承载力设计值", \
+        "design compressive capacity, " length " m long"     \
   }
-#define GAPS                                                                                  \
-  GAP(L"0"), GAP(L"4"), GAP(L"6"), GAP(L"8"), GAP(L"10"), GAP(L"12"), GAP(L"14"), GAP(L"16"), \
-      GAP(L"18"), GAP(L"20")
-#define CROSS(d)                                             \
-  C{L"Ix" d L"(cm^4)", L"δ=" d L"mm时X1轴截面惯性矩"}, C {   \
-    L"ix" d L"(cm)", L"δ=" d L"mm时X1轴截面回转半径" \
+#define CAPACITIES                                                                         \
+  CAPACITY("0.6"), CAPACITY("0.9"), CAPACITY("1.2"), CAPACITY("1.5"), CAPACITY("1.8"),     \
+      CAPACITY("2.1"), CAPACITY("2.4"), CAPACITY("2.7"), CAPACITY("3.0"), CAPACITY("3.3"), \
+      CAPACITY("3.6"), CAPACITY("3.9"), CAPACITY("4.2"), CAPACITY("4.5"), CAPACITY("4.8"), \
+      CAPACITY("5.1"), CAPACITY("5.4"), CAPACITY("5.7")
+#define GAP(a)                                                                                  \
+  C{L"Wy" a L"(cm^3)", L"a=" a L"mm时Y轴截面抵抗矩", "modulus about Y, a = " a " mm"}, C {      \
+    L"iy" a L"(cm)", L"a=" a L"mm时Y轴截面回转半径", "radius of gyration about Y, a = " a " mm" \
+  }
+#define GAPS                                                                                     \
+  GAP("0"), GAP("4"), GAP("6"), GAP("8"), GAP("10"), GAP("12"), GAP("14"), GAP("16"), GAP("18"), \
+      GAP("20")
+#define CROSS(d)                                                                                   \
+  C{L"Ix" d L"(cm^4)", L"δ=" d L"mm时X1轴截面惯性矩", "moment of inertia about X1, δ = " d " mm"}, \
+      C {                                                                                          \
+    L"ix" d L"(cm)", L"δ=" d L"mm时X1轴截面回转半径", "radius of gyration about X1, δ = " d " mm"  \
   }
 
 // --- Tables, the key column left out -------------------------------------------------------------
@@ -119,8 +152,8 @@ constexpr C kRoundTube[] = {d, tCold, A, G, Aw, I, W, i};
 constexpr C kAnglePair[] = {A, G, Ix, Wxmax, Wxmin, ix, GAPS};
 constexpr C kChannelPairBack[] = {A, G, Ix, Wx, ix, GAPS};
 constexpr C kChannelPairToe[] = {A, G, Ix, Wx, ix, Iy, Wy, iy};
-constexpr C kAngleCross[] = {
-    A, G, CROSS(L"0"), CROSS(L"4"), CROSS(L"6"), CROSS(L"8"), CROSS(L"10"), Iy1, iy1};
+constexpr C kAngleCross[] = {A,          G,           CROSS("0"), CROSS("4"), CROSS("6"),
+                             CROSS("8"), CROSS("10"), Iy1,        iy1};
 
 #undef CROSS
 #undef GAPS

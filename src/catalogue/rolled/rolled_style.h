@@ -18,6 +18,7 @@ inline constexpr int kRolledStyles = static_cast<int>(kRolledKinds);
 struct CRolledColumn {
   std::wstring_view m_strSign;
   std::wstring_view m_strName;  // the title
+  const char* m_szMeaning;      // the title in English
 };
 
 // Where a column's value stands in a record, and as what.
