@@ -1,4 +1,5 @@
-// The page in a browser, as the tests use it: every request and every word on the console is kept.
+// The page in a browser, as the tests use it: every request and every word on the console is kept. In Chromium;
+// with ORV3CAL_BROWSER=firefox in Firefox.
 import { existsSync } from "node:fs";
 import { createRequire } from "node:module";
 import { dirname, join } from "node:path";
@@ -12,29 +13,32 @@ const require = createRequire(join(kSource, "web/package.json"));
 const puppeteer = (await import(pathToFileURL(require.resolve("puppeteer-core")))).default;
 export const kAxe = require("axe-core").source;
 
-const kBrowsers = ["/usr/bin/chromium", "/usr/bin/chromium-browser", "/usr/bin/google-chrome"];
+export const kFirefox = process.env.ORV3CAL_BROWSER === "firefox";
+const kBrowsers = kFirefox ? ["/usr/bin/firefox-esr", "/usr/bin/firefox"]
+  : ["/usr/bin/chromium", "/usr/bin/chromium-browser", "/usr/bin/google-chrome"];
 
 export async function start(more = {}) {
   return puppeteer.launch({
     ...more,
+    browser: kFirefox ? "firefox" : "chrome",
     executablePath: kBrowsers.find(existsSync),
-    args: ["--no-sandbox", "--force-color-profile=srgb", "--font-render-hinting=none"],
+    args: kFirefox ? [] : ["--no-sandbox", "--force-color-profile=srgb", "--font-render-hinting=none"],
     protocolTimeout: 600_000,
   });
 }
 
 // A tab with what it must not do in `faults`: requests to anywhere, errors and words on the console.
-export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860]) {
+export async function openPage(context, hash = "view=sections&lang=en", size = [1280, 860], address = String(pathToFileURL(kPage))) {
   const page = await context.newPage();
   page.setDefaultTimeout(Number(process.env.PAGE_TIMEOUT ?? 120_000));
   page.faults = [];
   page.on("request", (request) => {
-    if (!/^(file|blob|data|about):/.test(request.url())) page.faults.push(`request: ${request.url()}`);
+    if (!/^(file|blob|data|about):/.test(request.url()) && !request.url().startsWith(address)) page.faults.push(`request: ${request.url()}`);
   });
   page.on("console", (message) => page.faults.push(`console: ${message.text()}`));
   page.on("pageerror", (error) => page.faults.push(`error: ${error.message}`));
   await page.setViewport({ width: size[0], height: size[1] });
-  await page.goto(`${pathToFileURL(kPage)}#${hash}`);
+  await page.goto(`${address}#${hash}`);
   await ready(page);
   return page;
 }

@@ -1,10 +1,13 @@
 // The page as its user walks it.
 import assert from "node:assert/strict";
 import { existsSync, mkdirSync, readFileSync, statSync, writeFileSync, mkdtempSync, rmSync } from "node:fs";
+import { createServer } from "node:http";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
 import { fill, kAxe, kPage, kSource, openPage, ready, says, show, start, textOf } from "./browser.mjs";
+
+const kViews = ["sections", "own", "lattice", "connections", "members", "choose", "code", "store"];
 
 let browser;
 let context;
@@ -222,6 +225,24 @@ walk("lattice columns and choosing", "view=lattice&lang=en", async (page) => {
   await says(page, ".verdict", "passes");
 });
 
+walk("choosing among own sections: a style with a range, a fault at its size, and the section found as a member", `view=choose&lang=en&tables=-&styles=${encodeURIComponent('{"style": "box", "b": [200, 400, 50], "h": 400, "t": 16}')}`, async (page) => {
+  const choose = '::-p-xpath(//button[. = "Choose"])';
+  await says(page, '.answer [role="status"]', "5 sections tried");
+  await page.type('input[aria-label="h from"]', "x");
+  await page.click(choose);
+  await says(page, ".formside .fault", "h is not possible");
+  assert.equal(await page.$$eval('[aria-invalid="true"]', (all) => new Set(all.map((each) => each.ariaLabel.split(" ")[0])).size), 1);
+  await page.focus('input[aria-label="h from"]');
+  await page.keyboard.press("Backspace");
+  await page.click("::-p-text(Add a style)");
+  await page.click(choose);
+  await says(page, '.answer [role="status"]', "6 sections tried");
+  await page.click('.answer ::-p-xpath(//button[. = "Check"])');
+  await ready(page);
+  await addressTells(page, "case", '"sizes":[');
+  await says(page, ".verdict", "passes");
+});
+
 test("a damaged link opens no example with a verdict", async () => {
   context = await browser.createBrowserContext();
   for (const given of ["case={bad", "case=null", "case=[1]"]) {
@@ -270,21 +291,32 @@ async function keptRows(page) {
   return JSON.parse(out).rows.map((row) => row.cells[0]).filter((no) => /^(P|T)\d+$/.test(no)).sort();
 }
 
-// A browser whose disk is full: the sentence is the answer, and what was kept stays.
+// A browser that gives the page no more room: the sentence is the answer, and what was kept stays. Pages that are
+// opened from a disk have no quota of their own; a browser goes by the one that it has first asked for.
 test("storage that is full", async () => {
-  context = await browser.createBrowserContext();
-  const page = await openPage(context, "view=own&lang=en");
-  assert.equal((await run(page, add("P1"))).status, 0);
-  for (const worker of page.workers())
-    await worker.evaluate(() => { IDBObjectStore.prototype.put = () => { throw new DOMException("", "QuotaExceededError"); }; });
-  const answer = await run(page, add("P2"));
-  assert.deepEqual([answer.status, answer.out, answer.err], [3, "", "orv3cal: your own store: not written, the disk is full\n"]);
-  await fill(page, "Name to keep it by", "W1");
-  await page.click("::-p-text(Keep in own store)");
-  await says(page, ".fault", "the disk is full");
-  await page.close();
-  assert.deepEqual(await keptRows(await openPage(context, "view=store&lang=en")), ["P1"]);
-  await context.close();
+  const server = createServer((_, answer) => answer.setHeader("content-type", "text/html").end(readFileSync(kPage)));
+  await new Promise((done) => server.listen(0, "127.0.0.1", done));
+  const origin = `http://127.0.0.1:${server.address().port}`;
+  const inBrowser = async (use) => {
+    const one = await start({ userDataDir: join(folder, "full") });
+    const devtools = await (await one.newPage()).createCDPSession();
+    await use(() => openPage(one, "view=own&lang=en", undefined, `${origin}/`), devtools).finally(() => one.close());
+  };
+  await inBrowser(async (open) => assert.equal((await run(await open(), add("P1"))).status, 0));
+  await inBrowser(async (open, devtools) => {
+    await devtools.send("Storage.overrideQuotaForOrigin", { origin, quotaSize: 1000 });
+    const page = await open();
+    const answer = await run(page, add("P2"));
+    assert.deepEqual([answer.status, answer.out, answer.err], [3, "", "orv3cal: your own store: not written, the disk is full\n"]);
+    await fill(page, "Name to keep it by", "W1");
+    await page.click("::-p-text(Keep in own store)");
+    await says(page, ".fault", "the disk is full");
+    await page.reload();
+    await ready(page);
+    assert.deepEqual([await keptRows(page), page.faults], [["P1"], []]);
+  });
+  server.closeAllConnections();
+  server.close();
 });
 
 // A kept store that is none: the command's sentence stands in the view, and the store can be replaced.
@@ -347,7 +379,7 @@ for (const [lang, theme] of [["en", "light"], ["zh", "dark"]]) {
     context = await browser.createBrowserContext();
     const page = await openPage(context, `lang=${lang}&theme=${theme}`);
     await page.evaluate(kAxe);
-    for (const view of ["sections", "own", "lattice", "connections", "members", "choose", "code", "store"]) {
+    for (const view of kViews) {
       await show(page, `view=${view}&lang=${lang}&theme=${theme}`);
       const faults = await page.evaluate(async () => (await window.axe.run(document, { iframes: false })).violations.map((each) => `${each.id}: ${each.nodes.map((node) => node.html).slice(0, 3).join(" ")}`));
       assert.deepEqual(faults, [], view);
@@ -358,9 +390,53 @@ for (const [lang, theme] of [["en", "light"], ["zh", "dark"]]) {
 
 for (const width of [390, 1920]) {
   walk(`at ${width} px nothing is wider than the window`, "lang=zh", async (page) => {
-    for (const view of ["sections", "own", "connections", "members", "choose", "code", "store"]) {
+    for (const view of kViews) {
       await show(page, `view=${view}&lang=zh`);
       assert.ok(await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth), view);
     }
   }, [width, 844]);
 }
+
+// What has the focus, and whether its user sees that.
+const focused = (page) => page.evaluate(() => {
+  const at = document.activeElement;
+  if (!at || at === document.body) return null;
+  const { left, top, right, bottom, width, height } = at.getBoundingClientRect();
+  const isSeen = Math.min(width, height) > 2 && right > 0 && bottom > 0 && left < innerWidth && top < innerHeight;
+  const name = at.getAttribute("aria-label") ?? at.labels?.[0]?.textContent ?? at.textContent;
+  return `${at.tagName} ${name.trim().slice(0, 40)}${isSeen && getComputedStyle(at).outlineStyle !== "none" ? "" : " (unseen)"}`;
+});
+
+// Those of the tab key, until it leaves the page or comes round.
+async function stops(page) {
+  await page.focus(".ways button");
+  const list = [];
+  for (let at = await focused(page); at !== null && at !== list[0]; at = await focused(page)) {
+    list.push(at);
+    await page.keyboard.press("Tab");
+  }
+  return list;
+}
+
+// So many of the way back, from where that has led; the page itself may be one between the last and the first.
+async function stopsBack(page, count) {
+  const list = [];
+  await page.keyboard.down("Shift");
+  for (let i = 0; i <= count && list.length < count; ++i) {
+    await page.keyboard.press("Tab");
+    const at = await focused(page);
+    if (at !== null) list.unshift(at);
+  }
+  await page.keyboard.up("Shift");
+  return list;
+}
+
+walk("by keys alone: the focus is seen at every stop, both ways, and a group is one", "lang=en", async (page) => {
+  for (const view of kViews) {
+    await show(page, `view=${view}&lang=en`);
+    const list = await stops(page);
+    assert.deepEqual(list.filter((each) => each.includes("(unseen)")), [], view);
+    assert.deepEqual(await stopsBack(page, list.length), list, view);
+    assert.equal(list.filter((each) => each.startsWith("A ")).length, view === "sections" ? 2 : 1, view); // views, tables
+  }
+});

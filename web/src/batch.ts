@@ -7,6 +7,7 @@ import { button, computing, download, el, fault } from "./dom";
 import { shown } from "./figures";
 import { caseOf, type Case } from "./form";
 import { Grid, type Column } from "./grid";
+import { oneStop } from "./keyboard";
 import { say } from "./language";
 import { schemaOf, type Kind } from "./schema";
 import { checkName, percent } from "./verdict";
@@ -65,9 +66,9 @@ export class Batch {
     const grid = new Grid({ label: this.name, columns, rows: lines, look: (row) => (row[pass] === "true" ? null : "fail"),
       chosen: (row) => this.open(Number(row[names.indexOf("case")])) });
     return [
-      el("div", { class: "tools" },
+      oneStop(el("div", { class: "tools" },
         button("CSV", () => download("checked.csv", "\ufeff" + csvText([head, ...rows]))),
-        button("XLSX", () => download("checked.xlsx", workbook({ name: kindTitle(this.kind), rows: [names, ...lines], numeric, heads: 1 })))),
+        button("XLSX", () => download("checked.xlsx", workbook({ name: kindTitle(this.kind), rows: [names, ...lines], numeric, heads: 1 }))))),
       el("p", { class: "note" }, say("选一行，在左边的表单中打开该算例。", "Choose a row to open its case in the form.")),
       grid.element,
     ];

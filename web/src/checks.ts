@@ -13,6 +13,7 @@ import member from "../../examples/member.json";
 import weldGroup from "../../examples/weld-group.json";
 import { Form, type Case } from "./form";
 import { readLists } from "./guide";
+import { keepFocus, oneStop, reachable } from "./keyboard";
 import { say } from "./language";
 import { drawingIn, reportView } from "./report";
 import { resultNames, type ResultNames } from "./result_names";
@@ -115,7 +116,7 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
     view.hidden = true;
     await batch.take(file.name, await bytesOf(file));
   });
-  place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), first ? null : unreadLink(), ...extra, form.element, drop, jump), el("div", { class: "answer" }, batch.element, view));
+  place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), first ? null : unreadLink(), ...extra, form.element, drop, jump), reachable(el("div", { class: "answer" }, batch.element, view), say("结果", "the answer")));
   form.set(first ?? {});
   await show();
 }
@@ -127,7 +128,7 @@ function answerView(kind: Kind, answer: Answer, names: ResultNames): (HTMLElemen
   return [
     answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",
     el("div", { class: "beside-picture" }, verdict(JSON.parse(answer.out) as CheckJson, names), picture(drawingIn(report), kindTitle(kind))),
-    el("div", { class: "tools" }, open || null, copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
+    oneStop(el("div", { class: "tools" }, open || null, copyButton(say("复制 JSON", "Copy JSON"), () => answer.out))),
     place,
   ];
 }
@@ -148,8 +149,8 @@ function latticeView(answer: Answer): HTMLElement[] {
   const lattice = JSON.parse(answer.out) as LatticeJson;
   const limbs = lattice.limbs.map((limb, i) => figureTable(`${say("分肢", "Limb")} ${i + 1}: ${limb.type} ${limb.no}`, figureLines({ angle: limb.angle, A: limb.area, xo: limb.x, yo: limb.y })));
   return [
-    el("div", { class: "tools" }, button("SVG", () => download(`${lattice.no}.svg`, answer.files["picture.svg"]!)),
-      copyButton(say("复制 JSON", "Copy JSON"), () => answer.out)),
+    oneStop(el("div", { class: "tools" }, button("SVG", () => download(`${lattice.no}.svg`, answer.files["picture.svg"]!)),
+      copyButton(say("复制 JSON", "Copy JSON"), () => answer.out))),
     el("div", { class: "beside-picture" }, el("div", {}, figureTable(lattice.no, figureLines(lattice.properties)), ...limbs), picture(answer.files["picture.svg"], lattice.no)),
   ];
 }
@@ -159,7 +160,7 @@ export function connections(place: HTMLElement): Promise<void> {
   const list: [string, string][] = (["bolt", "fillet", "butt", "weld-group"] as const).map((each) => [each, kindTitle(each)]);
   const above = field(say("连接", "Connection"), select(list, kind, (next) => {
     change({ kind: next, case: "" }, true);
-    void connections(place);
+    void keepFocus(() => connections(place));
   }));
   return checkView(place, kind, above);
 }

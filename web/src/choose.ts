@@ -2,22 +2,25 @@
 import member from "../../examples/member.json";
 import { change, go, state } from "./address";
 import { caseInLink, editions, unreadLink } from "./checks";
-import { ask, sentence, type Answer } from "./client";
+import { ask, sentence, told, type Answer } from "./client";
 import { button, computing, el, field, latest, noAnswer, picture } from "./dom";
 import { narrow, shown } from "./figures";
 import { Form, type Case } from "./form";
 import { readLists } from "./guide";
+import { oneStop, reachable } from "./keyboard";
 import { say } from "./language";
+import type { StyleJson } from "./own_sections";
 import { schemaOf } from "./schema";
 import { checkName } from "./verdict";
 import { tables } from "./sections";
+import { StyleChoices } from "./style_choice";
 
 interface ChooseJson {
   tried: number;
   passing: number;
   refused?: number;
   refusals?: { table: string; no: string; rows: number; reason: string }[];
-  rows: { table: string; no: string; mass: number; ratio: number; governs: string; warnings?: { key: string; text: string }[] }[];
+  rows: { table: string; no: string; style?: string; sizes?: number[]; mass: number; ratio: number; governs: string; warnings?: { key: string; text: string }[] }[];
 }
 
 const kFile = "case.json";
@@ -43,7 +46,7 @@ export async function choose(place: HTMLElement): Promise<void> {
     } });
     return el("label", { class: "check" }, box, ` ${table.name}`);
   });
-  const style = el("input", { type: "text", value: state()["styles"] ?? "", placeholder: '{"style": "box", "b": [200, 400, 50], "h": 400, "t": 16}', oninput: () => { change({ styles: style.value }); outdated(); } });
+  const styles = new StyleChoices(await told<StyleJson[]>(["styles"]), state()["styles"] ?? "", (text) => { change({ styles: text }); outdated(); });
   const top = el("input", { type: "text", inputmode: "numeric", value: state()["top"] ?? "20", class: "short", oninput: () => { change({ top: top.value }); outdated(); } });
   const form = new Form("member", schemaOf("member"), (value) => {
     change({ case: JSON.stringify(value) });
@@ -54,6 +57,7 @@ export async function choose(place: HTMLElement): Promise<void> {
   const outdated = () => {
     ++question;
     form.blame("");
+    styles.blame("");
     note.textContent = "";
     view.replaceChildren(noAnswer(say("输入已改，请再按“选择”", "the question has changed: choose again")));
   };
@@ -61,15 +65,17 @@ export async function choose(place: HTMLElement): Promise<void> {
     (): Promise<[Answer, number]> => {
       const [names, mine] = [[...chosen], question];
       const code = state()["code"] === "2003" ? "2003" : "2017";
-      return ask(["choose", kFile, ...(names.length > 0 ? ["--table", names.join(",")] : []), ...(style.value ? ["--style", style.value] : []),
+      return ask(["choose", kFile, ...(names.length > 0 ? ["--table", names.join(",")] : []), ...styles.options(),
         "--top", narrow(top.value), "--code", code, "--json", "--plot", "plot.svg"], { [kFile]: JSON.stringify(form.case) }).then((answer) => [answer, mine]);
     },
     ([answer, mine]) => {
       if (mine !== question) return;
       const found = answer.status <= 1 && answer.out !== "";
-      form.blame(found ? "" : sentence(answer, kFile));
+      const why = found ? "" : sentence(answer, kFile);
+      const ofStyles = styles.blame(why);
+      form.blame(ofStyles ? "" : why);
       note.textContent = found ? sentence(answer) : "";
-      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, form.case, answer) : noAnswer(sentence(answer, kFile), form.mend));
+      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, form.case, answer) : noAnswer(why, ofStyles ? styles.mend : form.mend));
     },
   );
   const start = button(say("选择", "Choose"), () => {
@@ -78,9 +84,9 @@ export async function choose(place: HTMLElement): Promise<void> {
   }, { class: "main" });
   place.replaceChildren(
     el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(), editions(outdated, false),
-      el("details", { class: "group", open: innerWidth > 860 }, el("summary", {}, say("截面表", "Tables")), ...boxes),
-      field(say("自定义截面（JSON；尺寸为数或 [从, 到, 步长]）", "Own section (JSON; a size is a number or [from, to, step])"), style), field(say("最多行数", "Rows at most"), top), start, note, form.element),
-    el("div", { class: "answer" }, view));
+      oneStop(el("details", { class: "group", open: innerWidth > 860 }, el("summary", {}, say("截面表", "Tables")), ...boxes), "input"),
+      styles.element, field(say("最多行数", "Rows at most"), top), start, note, form.element),
+    reachable(el("div", { class: "answer" }, view), say("结果", "the answer")));
   form.set(first ?? {});
   await find();
 }
@@ -92,13 +98,13 @@ function table(answer: ChooseJson, value: Case, whole: Answer): HTMLElement {
   const body = el("tbody");
   const common = answer.rows.map(notesOf).reduce((all, notes) => all.filter((note) => notes.includes(note)), answer.rows[0] ? notesOf(answer.rows[0]) : []);
   for (const row of answer.rows) {
-    const open = button(say("验算", "Check"), () => go({ view: "members", case: JSON.stringify({ ...value, section: { table: row.table, no: row.no } }) }));
+    const open = button(say("验算", "Check"), () => go({ view: "members", case: JSON.stringify({ ...value, section: row.style ? { style: row.style, sizes: row.sizes } : { table: row.table, no: row.no } }) }));
     body.append(el("tr", {}, el("td", {}, row.table), el("th", { scope: "row" }, row.no), el("td", { class: "num" }, shown(row.mass)),
       el("td", { class: "num", title: String(row.ratio) }, shown(row.ratio)), el("td", {}, checkName(row.governs)),
-      el("td", { class: "name" }, notesOf(row).filter((note) => !common.includes(note)).join("; ")), el("td", {}, row.table ? open : "")));
+      el("td", { class: "name" }, notesOf(row).filter((note) => !common.includes(note)).join("; ")), el("td", {}, open)));
   }
   const refused = (answer.refusals ?? []).map((each) => el("p", { class: "warn" }, say(`${each.table}：${each.rows} 个截面未能验算，如 ${each.no}：`, `${each.table}: ${each.rows} sections refused, such as ${each.no}: `), each.reason));
   return el("div", {}, ...refused, ...common.map((note) => el("p", { class: "warn" }, note)), el("p", { role: "status" }, say(`试算 ${answer.tried} 个截面，${answer.passing} 个满足`, `${answer.tried} sections tried, ${answer.passing} pass`)),
-    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("结果", "Results") }, el("table", { class: "figures list" }, el("thead", {}, el("tr", {}, ...head.map((each) => (each ? el("th", { scope: "col" }, each) : el("td", { class: "head" }))))), body)),
+    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("结果", "Results") }, el("table", { class: "figures list" }, el("thead", {}, el("tr", {}, ...head.map((each) => (each ? el("th", { scope: "col" }, each) : el("td", { class: "head" }))))), oneStop(body))),
     picture(whole.files["plot.svg"], say("质量与利用率", "mass against ratio")));
 }

@@ -4,6 +4,7 @@ import { change, state } from "./address";
 import { ask, run, sentence, type Answer } from "./client";
 import { copyButton, el, field, latest, select } from "./dom";
 import { shown } from "./figures";
+import { keepFocus, reachable } from "./keyboard";
 import { say } from "./language";
 
 interface CodeJson {
@@ -63,7 +64,7 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   const question = state()["ask"] ?? "steel";
   const { arguments: names, more } = await wanted(question);
   const given = (state()["args"] ?? (state()["code"] === "2003" ? kFirst2003[question] : null) ?? kFirst[question] ?? "").split(" ");
-  const view = el("div", { class: "detail wide", "aria-live": "polite" });
+  const view = reachable(el("div", { class: "detail wide", "aria-live": "polite" }), say("结果", "the answer"));
   const edition = select([["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`]], state()["code"] ?? "2017", (code) => {
     change({ code: code === "2017" ? "" : code });
     void show();
@@ -98,7 +99,7 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   );
   const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => {
     change({ ask: next, args: "" }, true);
-    void codeTables(place);
+    void keepFocus(() => codeTables(place));
   });
   place.replaceChildren(
     el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() }, el("h1", {}, say("规范表", "Code tables")),

@@ -3,6 +3,7 @@
 import { button, el, field as labelled, newId, select } from "./dom";
 import { byWay, hasPlace, listOf, settled, styleOf, wayOf, ways, type Choices, type Way } from "./guide";
 import { signParts, typedNumber } from "./figures";
+import { keepFocus, oneStop } from "./keyboard";
 import { say } from "./language";
 import { isType, wordsOf, type Kind, type Schema } from "./schema";
 
@@ -38,10 +39,10 @@ export class Form {
     };
     this.element.onfocusout = () => (this.typedIn = "");
     this.element.append(
-      el("div", { class: "tools" },
+      oneStop(el("div", { class: "tools" },
         button(say("撤销", "Undo"), () => this.undo(), { title: "Ctrl+Z" }),
         button(say("重做", "Redo"), () => this.redo(), { title: "Ctrl+Y" }),
-        button(say("清空", "Clear"), () => this.replace({}))),
+        button(say("清空", "Clear"), () => this.replace({})))),
       this.body);
   }
 
@@ -119,7 +120,7 @@ export class Form {
   private draw(): void {
     const focused = [...this.fields].find(([, { control }]) => control === document.activeElement)?.[0];
     const opened = new Map([...this.fields].flatMap(([place, { control }]) => (control instanceof HTMLDetailsElement ? [[place, control.open]] : [])));
-    this.drawFields();
+    void keepFocus(() => this.drawFields());
     for (const [place, { control }] of this.fields) if (control instanceof HTMLDetailsElement) control.open = opened.get(place) ?? control.open;
     if (focused !== undefined) this.fields.get(focused)?.control.focus();
   }

@@ -1,6 +1,7 @@
 // A table of any length, of which the rows in sight alone are in the page. Arrow keys move the
 // chosen row, the headings sort.
 import { el } from "./dom";
+import { oneStop } from "./keyboard";
 import { say } from "./language";
 
 export interface Column {
@@ -23,8 +24,8 @@ interface Wishes {
 }
 
 const kRowHeight = 30;
-const kMargin = 16; // rows above and below what is in sight
-const kNear = 6; // of them, when the next are drawn
+const kMargin = 8; // rows above and below what is in sight
+const kNear = 6; // of them, when the next are drawn: few at a time, each frame has its share
 
 const number = (text: string) => (text.trim() === "" ? Number.NEGATIVE_INFINITY : Number(text));
 
@@ -36,7 +37,7 @@ export function compareCells(a: string, b: string, numeric: boolean): number {
 
 export class Grid {
   readonly element: HTMLElement;
-  private readonly body = el("tbody");
+  private readonly body = el("tbody", { role: "rowgroup" });
   private rows: string[][];
   private order: string[][] = [];
   private current = -1;
@@ -49,26 +50,25 @@ export class Grid {
 
   constructor(private readonly wishes: Wishes) {
     this.rows = wishes.rows;
-    this.above = gap(wishes.columns.length + 1);
-    this.below = gap(wishes.columns.length + 1);
+    this.above = gap();
+    this.below = gap();
     this.sort = wishes.sort ?? "";
-    const head = el("tr");
-    if (wishes.marked) head.append(el("th", { scope: "col" }, el("span", { class: "hidden" }, say("比较", "compare"))));
-    const columns = el("colgroup");
-    if (wishes.marked) columns.append(el("col", { style: "width: 34px" }));
+    const head = el("tr", { role: "row" });
+    if (wishes.marked) head.append(el("th", { role: "columnheader", scope: "col" }, el("span", { class: "hidden" }, say("比较", "compare"))));
+    const widths = wishes.marked ? [34] : [];
     wishes.columns.forEach((column, i) => {
       const longest = wishes.rows.reduce((most, row) => Math.max(most, width(written(column, row[i] ?? ""))), width(column.name) + 2);
-      columns.append(el("col", { style: `width: ${Math.min(Math.max(longest, 5), 34) * 7.6 + 16}px` }));
+      widths.push(Math.min(Math.max(longest, 5), 34) * 7.6 + 16);
       const sorter = el("button", { type: "button", title: column.title, onclick: () => this.sortBy(column.name) }, column.name);
-      const heading = el("th", { scope: "col", class: column.numeric ? "num" : null }, sorter);
+      const heading = el("th", { role: "columnheader", scope: "col", class: column.numeric ? "num" : null }, sorter);
       this.headings.push(heading);
       head.append(heading);
     });
     const table = el(
       "table",
-      { role: "grid", "aria-label": wishes.label },
-      columns,
-      el("thead", {}, head),
+      // Every row is laid out by itself: a table would lay out all of them for each that comes.
+      { role: "grid", "aria-label": wishes.label, style: `--columns: ${widths.map((each) => `minmax(${each}px, ${each}fr)`).join(" ")}; min-width: ${widths.reduce((sum, each) => sum + each)}px` },
+      el("thead", { role: "rowgroup" }, oneStop(head)),
       this.above,
       this.body,
       this.below,
@@ -182,38 +182,36 @@ export class Grid {
 
   private line(row: string[], at: number): HTMLElement {
     const { columns, marked, chosen, look } = this.wishes;
-    const line = el("tr", { "aria-rowindex": at + 2, "aria-selected": chosen ? String(at === this.current) : null, class: look?.(row) });
+    const line = el("tr", { role: "row", "aria-rowindex": at + 2, "aria-selected": chosen ? String(at === this.current) : null, class: look?.(row) });
     if (chosen) line.addEventListener("click", () => this.choose(at));
     if (marked) {
       const box = el("input", { type: "checkbox", tabindex: -1, "aria-label": `${say("比较", "compare")} ${row[0] ?? ""}` });
       box.checked = marked.has(row);
       box.onclick = (event) => event.stopPropagation();
       box.onchange = () => marked.toggle(row);
-      line.append(el("td", {}, box));
+      line.append(el("td", { role: "gridcell" }, box));
     }
     columns.forEach((column, i) => {
       const cell = row[i] ?? "";
       const text = written(column, cell);
-      line.append(el("td", { class: column.numeric ? "num" : null, title: text !== cell || text.length > 24 ? cell : null }, text));
+      line.append(el("td", { role: "gridcell", class: column.numeric ? "num" : null, title: text !== cell || text.length > 24 ? cell : null }, text));
     });
     return line;
   }
 }
 
-function gap(columns: number): HTMLElement {
-  return el("tbody", { "aria-hidden": "true" }, el("tr", { class: "gap" }, el("td", { colspan: columns })));
-}
+const gap = (): HTMLElement => el("tbody", { "aria-hidden": "true" });
 
 function setGap(gap: HTMLElement, rows: number): void {
   gap.hidden = rows === 0;
-  gap.querySelector("td")!.style.height = `${rows * kRowHeight}px`;
+  gap.style.height = `${rows * kRowHeight}px`;
 }
 
 const written = (column: Column, cell: string): string => column.written?.(cell) ?? cell;
 
-// Of a text in a fixed table: Chinese characters take twice the room.
+// Of a text in figures' widths: Chinese characters take twice the room, capitals somewhat more than figures.
 function width(text: string): number {
   let sum = 0;
-  for (const ch of text) sum += ch > "\u2e7f" ? 2 : 1;
+  for (const ch of text) sum += ch > "\u2e7f" ? 2 : ch >= "A" && ch <= "Z" ? 1.35 : 1;
   return sum;
 }

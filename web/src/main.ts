@@ -5,6 +5,7 @@ import { connections, latticeColumns, members } from "./checks";
 import { onBusy, run, stop } from "./client";
 import { codeTables } from "./code_tables";
 import { button, el, fault } from "./dom";
+import { keepFocus, oneStop, waysIn } from "./keyboard";
 import { language, say } from "./language";
 import { ownSections } from "./own_sections";
 import { sections } from "./sections";
@@ -39,14 +40,17 @@ function head(view: string): HTMLElement {
       go({ view: key });
     } }, say(zh, en)));
   const other = language() === "zh" ? "en" : "zh";
-  return el("header", {}, el("span", { class: "brand" }, "Orv3Cal"), el("nav", { "aria-label": say("页面", "Views") }, ...links),
-    el("span", { class: "switches" },
-      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); void draw(); }, { lang: other }),
-      button(dark() ? "☀" : "☾", () => { change({ theme: dark() ? "light" : "dark" }); void draw(); }, { "aria-label": say("明暗", "light or dark") })));
+  return el("header", {}, el("span", { class: "ways" }), el("span", { class: "brand" }, "Orv3Cal"),
+    oneStop(el("nav", { "aria-label": say("页面", "Views") }, ...links)),
+    oneStop(el("span", { class: "switches" },
+      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); void draw(); }, { lang: other, "data-key": "language" }),
+      button(dark() ? "☀" : "☾", () => { change({ theme: dark() ? "light" : "dark" }); void draw(); }, { "aria-label": say("明暗", "light or dark"), "data-key": "theme" }))));
 }
 
+const draw = () => keepFocus(drawView);
+
 let draws = 0;
-async function draw(): Promise<void> {
+async function drawView(): Promise<void> {
   const mine = ++draws;
   const view = state()["view"] ?? "sections";
   const [zh, en, show] = kViews[view] ?? kViews["sections"]!;
@@ -61,6 +65,7 @@ async function draw(): Promise<void> {
   } catch (error) {
     if (mine === draws) main.replaceChildren(fault(error instanceof Error ? error.message : String(error)));
   }
+  if (mine === draws) document.querySelector(".ways")!.replaceChildren(...waysIn(main));
   main.setAttribute("aria-busy", "false");
 }
 

@@ -3,6 +3,7 @@ import { change, state } from "./address";
 import { ask, sentence, told, warm, type Answer } from "./client";
 import { button, computing, dropPlace, el, field, latest, newId, noAnswer, select } from "./dom";
 import { narrow, signParts } from "./figures";
+import { keepFocus, reachable } from "./keyboard";
 import { language, say } from "./language";
 import { givenOutline, layersOfOutline, outlineView, takeOutline } from "./own_outline";
 import { onward, sectionView } from "./section_view";
@@ -31,7 +32,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   const styles = await told<StyleJson[]>(["styles"]);
   const chosen = styles.find((each) => each.alias === state()["style"]) ?? styles[0]!;
   const given = (state()["sizes"] ?? kFirstSizes[chosen.alias] ?? "").split(",");
-  const view = el("div", { class: "detail wide", "aria-live": "polite" });
+  const view = reachable(el("div", { class: "detail wide", "aria-live": "polite" }), say("截面", "the section"));
   const note = el("p", { class: "fault", role: "alert", id: newId() });
   const saved = el("p", { class: "note", role: "status" });
   const inputs = chosen.sizes.map((size, i) => {
@@ -70,7 +71,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     change({ style: chosen.alias, sizes: sizes().join(","), base: base.map(({ input }) => input.value).join(","), outline: "", shape: "", layer: "" });
     keep.disabled = false;
     view.classList.add("waiting");
-    await show(line(), `${chosen.table} ${sizes().join("×")}`);
+    await show(line(), `${language() === "zh" ? chosen.table : chosen.shape} ${sizes().join("×")}`);
   };
   const cells = () => fields.flatMap(({ cell, input }) => ["--set", `${cell}=${narrow(input.value) || "0"}`]);
   const tellSaved = (answer: Answer) => {
@@ -90,7 +91,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   const keep = button(say("存入自己的库", "Keep in own store"), () => void save()); // of a style alone, not of an outline
   const style = select(styles.map((each) => [each.alias, `${each.style} ${language() === "zh" ? each.table : each.shape}`]), chosen.alias, (alias) => {
     change({ style: alias, sizes: "", outline: "", shape: "", layer: "" }, true);
-    void ownSections(place);
+    void keepFocus(() => ownSections(place));
   });
   const layer = select([], "", (name) => {
     change({ layer: name });

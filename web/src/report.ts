@@ -1,5 +1,6 @@
 // A calculation report, which is a page of the command's own, in a frame that runs no script.
 import { button, download, el } from "./dom";
+import { oneStop } from "./keyboard";
 import { language, say } from "./language";
 
 const text = (bytes: Uint8Array) => new TextDecoder().decode(bytes);
@@ -8,10 +9,10 @@ export function reportView(bytes: Uint8Array): HTMLElement {
   const frame = el("iframe", { title: say("计算书", "Calculation report"), class: "report", sandbox: "allow-same-origin allow-modals" });
   frame.srcdoc = text(bytes);
   return el("section", { class: "reportview" },
-    el("div", { class: "tools" },
+    oneStop(el("div", { class: "tools" },
       button(say("打印（A4）", "Print (A4)"), () => frame.contentWindow?.print()),
       button("HTML", () => download("report.html", bytes)),
-      el("span", { class: "note", lang: language() }, say("计算书由命令生成。", "The report is the command's own."))),
+      el("span", { class: "note", lang: language() }, say("计算书由命令生成。", "The report is the command's own.")))),
     frame);
 }
 

@@ -4,6 +4,7 @@ import { go } from "./address";
 import { ask, sentence, type Answer, type Files } from "./client";
 import { button, copyButton, download, el, fault, picture } from "./dom";
 import { nameOf, shown, signParts, unitOf } from "./figures";
+import { oneStop } from "./keyboard";
 import { say } from "./language";
 
 type Figures = Record<string, unknown>;
@@ -12,7 +13,7 @@ export interface SectionJson {
   table?: string;
   no?: string;
   name?: string;
-  columns?: { sign: string; name: string }[];
+  columns?: { sign: string; title: string }[];
   cells?: string[];
   geometry?: Figures;
   properties?: Figures;
@@ -32,7 +33,7 @@ export function cellLines(section: SectionJson): FigureLine[] {
   return (section.columns ?? []).map((column, i) => {
     const [sign, unit] = signParts(column.sign);
     const cell = section.cells?.[i] ?? "";
-    return [sign, cell, unit, column.name, cell];
+    return [sign, cell, unit, column.title, cell];
   });
 }
 
@@ -92,13 +93,7 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
     "article",
     { class: "section", "aria-label": title },
     el("h2", {}, title),
-    el(
-      "div",
-      { class: "tools" },
-      copyButton(say("复制", "Copy"), () => asText(blocks)),
-      ...saves,
-      ...onward,
-    ),
+    oneStop(el("div", { class: "tools" }, copyButton(say("复制", "Copy"), () => asText(blocks)), ...saves, ...onward)),
     trouble,
     section.accurate === false && el("p", { class: "warn" }, say("精确值的误差估计偏大。", "The error estimate of the exact figures is large.")),
     el("div", { class: "beside-picture" }, el("div", {}, ...blocks.map(([caption, lines]) => figureTable(caption, lines))), picture(answer.files["picture.svg"], title)),

@@ -5,6 +5,7 @@ import { csvText } from "./csv";
 import { button, copyButton, download, el, fault, field, latest, newId, select } from "./dom";
 import { narrow, typedNumber } from "./figures";
 import { Grid, type Column } from "./grid";
+import { keepFocus, oneStop, reachable } from "./keyboard";
 import { say } from "./language";
 import { cellLines, figureLines, onward, sectionView, type FigureLine, type SectionJson } from "./section_view";
 import { workbook } from "./workbook";
@@ -17,7 +18,7 @@ export interface TableJson {
 }
 export interface RowsJson {
   table: string;
-  columns: { sign: string; name: string; type: string; key: boolean }[];
+  columns: { sign: string; name: string; title: string; type: string; key: boolean }[];
   rows: { cells: string[] }[];
 }
 
@@ -30,21 +31,38 @@ export const tables = () => told<TableJson[]>(["tables"]);
 
 const isNumeric = (type: string) => type !== "text" && type !== "char";
 
+interface Family {
+  source: string;
+  title: string;
+  tables: TableJson[];
+}
+
+// Rolled before own ones, of which those that hold rows.
+function families(list: TableJson[]): Family[] {
+  return [["rolled", say("型钢", "Rolled")], ["user-defined", say("自定义截面", "Own section")]].flatMap(([from, source]) => {
+    const mine = list.filter((table) => table.source === from && (from === "rolled" || table.rows > 0));
+    return [...new Set(mine.map((table) => table.family))].map((family) =>
+      ({ source: source!, title: say(kFamilies[family] ?? family, family), tables: mine.filter((table) => table.family === family) }));
+  });
+}
+
+const showTable = (table: string) => go({ view: "sections", table });
+
+// The tables by their families: a list where the screen is wide, else a choice that takes one line.
 function tree(list: TableJson[], chosen: string): HTMLElement {
-  const nav = el("nav", { class: "tree", "aria-label": say("截面表", "Tables") });
-  for (const source of ["rolled", "user-defined"]) {
-    const mine = list.filter((table) => table.source === source && (source === "rolled" || table.rows > 0));
-    if (mine.length === 0) continue;
-    nav.append(el("h2", {}, source === "rolled" ? say("型钢", "Rolled") : say("自定义截面", "Own section")));
-    for (const family of new Set(mine.map((table) => table.family))) {
-      const items = mine.filter((table) => table.family === family).map((table) =>
-        el("li", {}, el("a", { href: `#view=sections&table=${encodeURIComponent(table.name)}`, "aria-current": table.name === chosen ? "true" : null,
-          onclick: (event: MouseEvent) => { event.preventDefault(); go({ view: "sections", table: table.name }); } },
-          table.name, el("span", { class: "count" }, ` ${table.rows}`))));
-      nav.append(el("h3", {}, say(kFamilies[family] ?? family, family)), el("ul", {}, ...items));
-    }
+  const nav = el("nav", { class: "families", "aria-label": say("截面表", "Tables") });
+  const picker = select([], chosen, showTable);
+  let source = "";
+  for (const family of families(list)) {
+    if (family.source !== source) nav.append(el("h2", {}, (source = family.source)));
+    const items = family.tables.map(({ name, rows }) =>
+      el("li", {}, el("a", { href: `#view=sections&table=${encodeURIComponent(name)}`, "aria-current": name === chosen ? "true" : null,
+        onclick: (event: MouseEvent) => { event.preventDefault(); showTable(name); } }, name, el("span", { class: "count" }, ` ${rows}`))));
+    nav.append(el("h3", {}, family.title), el("ul", {}, ...items));
+    picker.append(el("optgroup", { label: `${source} · ${family.title}` },
+      ...family.tables.map(({ name, rows }) => el("option", { value: name, selected: name === chosen }, `${name} (${rows})`))));
   }
-  return nav;
+  return el("div", { class: "tree" }, oneStop(nav), el("div", { class: "picker" }, field(say("截面表", "Table"), picker)));
 }
 
 // Filters of the state: "SIGN,least,most;..."; an empty bound is none.
@@ -89,7 +107,7 @@ async function comparison(place: HTMLElement, left: () => void): Promise<void> {
       ...list.map((_, i) => el("td", { class: "num", title: values[i]?.[4] }, values[i]?.[1] ?? ""))));
   }
   place.replaceChildren(el("h2", {}, say("比较", "Compared")),
-    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("比较", "Compared") }, el("table", { class: "figures compare" }, el("thead", {}, head), body)),
+    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("比较", "Compared") }, el("table", { class: "figures compare" }, el("thead", {}, oneStop(head)), body)),
     el("p", { class: "note" }, say("* 按外轮廓的精确值，mm", "* exact, from the outline, mm")));
 }
 
@@ -103,7 +121,7 @@ export async function sections(place: HTMLElement): Promise<void> {
   const { columns, rows } = JSON.parse(answer.out) as RowsJson;
   const all = rows.map((row) => row.cells);
   const key = Math.max(0, columns.findIndex((column) => column.key));
-  const detail = el("div", { class: "detail", "aria-live": "polite" });
+  const detail = reachable(el("div", { class: "detail", "aria-live": "polite" }), say("截面", "the section"));
   const beside = el("div", { class: "beside" });
   const count = el("span", { class: "note", role: "status" });
 
@@ -121,7 +139,7 @@ export async function sections(place: HTMLElement): Promise<void> {
     ([no, shown]) => {
       shownNo = no;
       const turned = ["show", table, no, ...asDrawn()];
-      const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void showDetail(no); });
+      const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void keepFocus(() => showDetail(no)); });
       detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair && Number(state()["gap"]) ? { gap: Number(state()["gap"]) } : {}) })), field(say("转角", "Turned by"), turns),
         isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm")) || "");
     },
@@ -131,7 +149,7 @@ export async function sections(place: HTMLElement): Promise<void> {
   const isMarked = (row: string[]) => compared().includes(`${table}|${row[key]}`);
   const grid: Grid = new Grid({
     label: table,
-    columns: columns.map<Column>((column) => ({ name: column.sign, title: column.name, numeric: isNumeric(column.type) })),
+    columns: columns.map<Column>((column) => ({ name: column.sign, title: column.title, numeric: isNumeric(column.type) })),
     rows: all,
     sort: state()["sort"] ?? "",
     sorted: (sort) => change({ sort }),
@@ -156,12 +174,13 @@ export async function sections(place: HTMLElement): Promise<void> {
   const tools = el("div", { class: "tools" },
     field(say("在所有列中查找", "Search all columns"), search),
     rangeFilter(columns.filter((column) => isNumeric(column.type)).map((column) => column.sign), filter),
-    el("span", { class: "tools" },
+    oneStop(el("span", { class: "tools" },
     copyButton(say("复制", "Copy"), () => [columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n")),
     button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...seen]))),
-    button("XLSX", () => download(`${table}.xlsx`, workbook({ name: table, rows: [...heads(), ...seen], numeric, heads: 2 })))),
+    button("XLSX", () => download(`${table}.xlsx`, workbook({ name: table, rows: [...heads(), ...seen], numeric, heads: 2 }))))),
     count);
   place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
+  reachable(grid.element, say("各行", "the rows"));
   filter();
   grid.reveal();
   void comparison(beside, () => grid.draw());

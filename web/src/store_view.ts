@@ -3,6 +3,7 @@ import { go } from "./address";
 import { ask, forgetOwnStore, isStoreKept, keepsStore, sentence, told, type Answer, type Files } from "./client";
 import { csvText } from "./csv";
 import { bytesOf, button, download, dropPlace, el, fault, field, select } from "./dom";
+import { oneStop, reachable } from "./keyboard";
 import { say } from "./language";
 import { tables, type TableJson } from "./sections";
 import type { StyleJson } from "./own_sections";
@@ -62,7 +63,7 @@ async function ownRows(table: TableJson, styles: StyleJson[], changed: (answer: 
       el("td", {}, button(say("删除", "Delete"), () => void remove(), named(say("删除", "Delete")))));
   });
   if (lines.length === 0) return null;
-  return el("table", { class: "figures" }, el("caption", {}, table.name), el("tbody", {}, ...lines));
+  return oneStop(el("table", { class: "figures" }, el("caption", {}, table.name), el("tbody", {}, ...lines)));
 }
 
 export async function storeView(place: HTMLElement): Promise<void> {
@@ -109,15 +110,15 @@ export async function storeView(place: HTMLElement): Promise<void> {
     asked.id = which.id;
     which.replaceWith(asked);
     which = asked;
-    const kept = await isStoreKept().catch(() => true);
-    const rows = kept && !trouble ? await Promise.all(own().map((table) => ownRows(table, styles, (answer) => {
+    const isKept = await isStoreKept().catch(() => true);
+    const rows = isKept && !trouble ? await Promise.all(own().map((table) => ownRows(table, styles, (answer) => {
       note.replaceChildren();
       tell(answer);
-      void listTables();
+      void listTables().then(() => kept.focus());
     }))) : [];
     const none = say("还没有保存任何截面；各表只有随页的示例。", "Nothing is kept yet: the tables hold the page's own examples.");
-    held.replaceChildren(el("h2", {}, say("自己的截面", "Own sections")), fault(trouble), ...(kept ? rows.filter((each) => each !== null) : [el("p", { class: "note" }, none)]));
-    forget.hidden = !kept;
+    held.replaceChildren(el("h2", {}, say("自己的截面", "Own sections")), fault(trouble), ...(isKept ? rows.filter((each) => each !== null) : [el("p", { class: "note" }, none)]));
+    forget.hidden = !isKept;
   };
   const forget = button(say("删除自己的库", "Delete the own store"), () => {
     if (!confirm(say("删除浏览器中自己的库，回到随页的库？", "Delete the own store of this browser and go back to the shipped catalogue?"))) return;
@@ -130,12 +131,13 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const where = keepsStore()
     ? el("p", { class: "note" }, say("保存在此浏览器中，不离开本机。请不时导出为 .KDB。", "Kept in this browser; nothing leaves the machine. Export it as .KDB from time to time."))
     : el("p", { class: "warn" }, say("此浏览器不允许本页保存数据：存入和导入都不会留下。", "This browser does not let the page keep data: nothing can be kept or imported."));
+  const kept = reachable(el("div", { class: "form wide" }, held, el("div", { class: "tools" }, forget)), say("自己的截面", "own sections"));
   place.replaceChildren(el("div", { class: "form wide" },
     el("h1", {}, say("自己的库", "Own store")), where,
     el("h2", {}, say("导入", "Import")), field(say("目标表", "Into table"), into), el("label", { class: "check" }, over, say(" 覆盖已有的行", " replace rows that are there")),
     dropPlace(say(".KDB、.kvb、.csv 或 .xlsx 文件", ".KDB, .kvb, .csv or .xlsx files"), ".kdb,.kvb,.csv,.xlsx", (files) => void taken(files)),
-    el("h2", {}, say("导出", "Export")), field(say("表", "Table"), which), el("div", { class: "tools" }, ...forms), note),
-    el("div", { class: "form wide" }, held, el("div", { class: "tools" }, forget)));
+    el("h2", {}, say("导出", "Export")), field(say("表", "Table"), which), oneStop(el("div", { class: "tools" }, ...forms)), note),
+    kept);
   await listTables();
 }
 

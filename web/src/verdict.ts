@@ -1,7 +1,8 @@
 // The answer of a check for the eye: the verdict, a bar for each part, the trace by clause.
 import { el } from "./dom";
 import { shown } from "./figures";
-import { language, say } from "./language";
+import { oneStop } from "./keyboard";
+import { say } from "./language";
 import type { ResultNames } from "./result_names";
 
 interface Check {
@@ -26,13 +27,15 @@ export interface CheckJson {
   combinations?: CheckJson[];
 }
 
-// The checks of a member, as the reports call them in Chinese.
-const kChecks: Record<string, string> = {
-  strength: "强度", net: "净截面", shear: "抗剪", combined: "折算应力", "stability-x": "绕 x 轴稳定", "stability-y": "绕 y 轴稳定",
-  "stability-z": "扭转稳定", lateral: "整体稳定", slenderness: "长细比", flange: "翼缘宽厚比", web: "腹板高厚比", panel: "腹板区格",
-  wall: "壁板宽厚比", limbs: "分肢", lacing: "缀材",
+// The checks of a member, as the reports call them.
+const kChecks: Record<string, [zh: string, en: string]> = {
+  strength: ["强度", "strength"], net: ["净截面", "net section"], shear: ["抗剪", "shear"], combined: ["折算应力", "combined stress"],
+  "stability-x": ["绕 x 轴稳定", "stability about x"], "stability-y": ["绕 y 轴稳定", "stability about y"], "stability-z": ["扭转稳定", "torsional stability"],
+  lateral: ["整体稳定", "lateral buckling"], slenderness: ["长细比", "slenderness"], flange: ["翼缘宽厚比", "flange"], web: ["腹板高厚比", "web"],
+  panel: ["腹板区格", "web panel"], wall: ["壁板宽厚比", "wall"], limbs: ["分肢", "limbs"], lacing: ["缀材", "lacing"], "limb-strength": ["分肢强度", "strength of the limbs"],
+  "lacing-leg": ["缀条肢宽厚比", "leg of a bar"], "batten-stiffness": ["缀板线刚度", "stiffness of battens"],
 };
-export const checkName = (name: string): string => (language() === "zh" ? (kChecks[name] ?? name) : name);
+export const checkName = (name: string): string => (kChecks[name] ? say(...kChecks[name]) : name);
 
 const checkTitle = (name: string, names: ResultNames) => names.get(name)?.[0] || checkName(name);
 
@@ -73,7 +76,7 @@ function one(answer: CheckJson, names: ResultNames): HTMLElement {
     !answer.checks && bar(answer.governs, worst, answer.pass),
     ...(answer.warnings ?? []).map((warning) => el("p", { class: "warn" }, typeof warning === "string" ? warning : `${warning.key}: ${warning.text}`)),
     answer.given && el("details", { class: "steps" }, el("summary", {}, say("已知", "Given")), el("ol", {}, ...answer.given.map((each) => el("li", {}, each)))),
-    ...steps,
+    oneStop(el("div", {}, ...steps), "summary"),
     ...(answer.combinations ?? []).map((each) => el("details", { class: "group" }, el("summary", {}, `${each.id ?? ""} ${percent(each.ratio)}`), one({ ...each, code: each.code ?? answer.code }, names))),
     answer.results && results(answer.results, names));
 }
