@@ -88,11 +88,10 @@ std::string UnknownCommand(const CLI::App* command, const CArguments& arguments)
       if (value && std::next(word) != arguments.rend()) ++word;
       continue;
     }
-    std::string names;
+    const std::string names = CommandNames(*command);
     command = nullptr;
     for (const CLI::App* each : commands) {
       if (each->get_name() == *word) command = each;
-      if (!each->get_group().empty()) names += (names.empty() ? "" : ", ") + each->get_name();
     }
     if (!command)
       return Say("“{1}”不是命令；应为下列之一：{2}",
@@ -167,12 +166,12 @@ int Run(const CArguments& typed) {
     return status;
   } catch (const CLI::ParseError& error) {
     std::string name;
-    for (const CLI::App* used = &program; !used->get_subcommands().empty();) {
-      used = used->get_subcommands().front();
-      name += used->get_name() + " ";
+    for (const CLI::App* used = &NamedCommand(program); used != &program;
+         used = used->get_parent()) {
+      name.insert(0, used->get_name() + " ");
     }
     return Fail(CExit::BadInput,
-                WithExcerpts(OptionErrorText(error), ForParsing(typed)) +
+                WithExcerpts(OptionErrorText(error, program), ForParsing(typed)) +
                     Say("（见 orv3cal {1}--help）", " (see orv3cal {1}--help)", {name}));
   }
   return static_cast<int>(CExit::Done);

@@ -25,6 +25,7 @@
 #include "options/edition_option.h"
 #include "options/option_errors.h"
 #include "options/output_options.h"
+#include "options/value_checks.h"
 #include "output/progress.h"
 #include "reports/report_document.h"
 
@@ -278,7 +279,7 @@ void AddCheckCommand(CLI::App& program) {
                    "members; exit status 1 when one fails"));
   command->add_option("KIND", options->kind, Say("验算的种类", "What to check"))
       ->required()
-      ->check(CLI::IsMember(Kinds()));
+      ->check(OneOf(Kinds()));
   command
       ->add_option(
           "FILE", options->file,

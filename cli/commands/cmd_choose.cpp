@@ -22,6 +22,7 @@
 #include "options/nearest.h"
 #include "options/option_errors.h"
 #include "options/output_options.h"
+#include "options/value_checks.h"
 #include "output/streams.h"
 #include "store/store_place.h"
 
@@ -332,7 +333,7 @@ void AddChooseCommand(CLI::App& program) {
       ->check(FileName)
       ->type_name("FILE.svg");
   command->add_option("--top", options->top, Say("至多显示这么多个", "Show this many at most"))
-      ->check(CLI::Range(1, 100000));
+      ->check(Within(1, 100000));
   AddEditionOption(*command, options->code);
   auto* json = AddJsonOption(*command, options->json);
   command

@@ -15,6 +15,7 @@
 #include "framework/utf8.h"
 #include "options/nearest.h"
 #include "options/output_options.h"
+#include "options/value_checks.h"
 #include "output/exact_view.h"
 #include "output/ifc_output.h"
 #include "output/output.h"
@@ -125,13 +126,13 @@ void AddShowCommand(CLI::App& program) {
   command
       ->add_option("--turn", options->turn,
                    Say("截面逆时针转动的角度", "Turn the section counter-clockwise, degrees"))
-      ->check(CLI::IsMember(std::vector<std::string>{"0", "90", "180", "270"}));
+      ->check(OneOf({"0", "90", "180", "270"}));
   CLI::Option* gap =
       command
           ->add_option("--gap", options->gap,
                        Say("组合截面两肢的净距，整数 mm，不给时为 0",
                            "Clear distance of a pair's two sections in whole mm, 0 if not given"))
-          ->check(CLI::Range(0, 1000))
+          ->check(Within(0, 1000))
           ->type_name("MM");
   AddStoreOptions(*command, options->store);
   AddJsonOption(*command, options->json);

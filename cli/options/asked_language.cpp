@@ -1,10 +1,9 @@
 #include "options/asked_language.h"
 
-#include <CLI/Validators.hpp>
-
 #include "error.h"
 #include "framework/excerpt.h"
 #include "framework/utf8.h"
+#include "options/value_checks.h"
 #include "platform/places.h"
 
 namespace orv3::cli {
@@ -78,7 +77,7 @@ void AddLanguageOption(CLI::App& command) {
           Say("语言：zh 或 en；不给时按环境变量 ORV3CAL_LANG，再则按系统语言",
               "Language: zh or en; the variable ORV3CAL_LANG if it is not given, else the user's "
               "own"))
-      ->check(CLI::IsMember({"zh", "en"}))
+      ->check(OneOf({"zh", "en"}))
       ->type_name("zh|en");
   for (CLI::App* each : command.get_subcommands({})) AddLanguageOption(*each);
 }

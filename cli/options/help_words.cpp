@@ -118,9 +118,9 @@ class CHelpFormatter : public CLI::Formatter {
   // An argument's own name says what it is, and the line of usage whether it may be left out.
   std::string make_option_opts(const CLI::Option* option) const override {
     std::string text;
-    const std::string type = option->get_type_size() != 0 ? option->get_type_name() : "";
-    const bool set = type.find('{') != type.npos;
-    if (!type.empty() && (set || option->nonpositional())) text = " " + Takes(type);
+    const std::string type = TypeWords(*option);
+    const bool set = option->get_type_name().find('{') != type.npos;
+    if (!type.empty() && (set || option->nonpositional())) text = " " + type;
     if (option->get_expected_max() == CLI::detail::expected_max_vector_size) text += " ...";
     if (option->nonpositional() && option->get_required()) text += Say("（必填）", " (required)");
     std::string others;
@@ -145,6 +145,11 @@ void SayWords(CLI::App& command, const std::shared_ptr<CHelpFormatter>& formatte
 }
 
 }  // namespace
+
+std::string TypeWords(const CLI::Option& option) {
+  const std::string type = option.get_type_size() != 0 ? option.get_type_name() : "";
+  return type.empty() ? type : Takes(type);
+}
 
 void SayHelpWords(CLI::App& command) {
   const auto formatter = std::make_shared<CHelpFormatter>();

@@ -34,6 +34,13 @@ TEST(Language, HoldsForRefusalsOfEveryCommand) {
       "rows",
       "rows T --bogus",
       "show T x --gap 2000",
+      "show T x --gap",
+      "show T x --gap 1 --gap 2",
+      "rows T --guard",
+      "rows T --json --csv",
+      "rows T --json=maybe",
+      "store",
+      "check nothing x.csv",
       "section nothing",
       "section circle 1 --svg missing/x.svg",
       "tables --mask x",
@@ -95,6 +102,12 @@ TEST(Language, IsTheVariablesUnlessTheCommandSays) {
     SetVariable("LC_ALL", locale);
     EXPECT_EQ(HasChinese(RunProgram("rows").m_strError), chinese);
     EXPECT_FALSE(HasChinese(RunProgram("rows --lang en").m_strError));
+    // Of a language that is none, too; as long as it may be.
+    for (const std::string& none : {std::string("fr"), std::string(100000, 'x')}) {
+      const CRunResult refused = RunProgram("rows T --lang " + none);
+      ExpectHas(refused.m_strError, {"--lang", none.substr(0, 50), "zh, en"});
+      EXPECT_EQ(HasChinese(refused.m_strError), chinese);
+    }
   }
 #endif
   set("en");

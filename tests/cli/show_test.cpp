@@ -135,7 +135,7 @@ TEST(ShowCommand, RefusesInOneLineThatNamesTheFault) {
       {Show("热轧普通槽钢[]组合 2[][10 --gap 10"), {"--gap", "touch", "双肢格构柱"}},
       {Show("热轧等边角钢组合 2L100X10 --gap 2.5"), {"--gap", "2.5"}},
       {Show("热轧等边角钢组合 2L100X10 --gap -1"), {"--gap"}},
-      {Show("热轧普通工字钢"), {"NO", "required"}},
+      {Show("热轧普通工字钢"), {"NO", "missing"}},
       {Show("热轧普通工字钢 I20a --store no_such.KDB"), {"no_such.KDB"}, 3},
       {Show("热轧普通工字钢 I20a --dxf no_such_folder/x.dxf"), {"no_such_folder/x.dxf"}, 3},
   });
