@@ -144,6 +144,14 @@ TEST_F(IfcProfiles, CarryThePrintedFigures) {
   EXPECT_TRUE(Has(text, "'MinimumSectionModulusZ',$,IFCSECTIONMODULUSMEASURE(63800.)"));
 }
 
+// Four equal angles, each turned a quarter on from the one before, have their centroid in the
+// middle, whatever each angle's printed one is rounded to.
+TEST_F(IfcProfiles, HaveTheCentroidOfALatticeColumnInItsMiddle) {
+  const std::string text = Library({DefaultRow(L"四肢格构柱")});
+  EXPECT_TRUE(Has(text, "'CentreOfGravityInX',$,IFCLENGTHMEASURE(0.)")) << text;
+  EXPECT_TRUE(Has(text, "'CentreOfGravityInY',$,IFCLENGTHMEASURE(0.)"));
+}
+
 TEST(IfcLibrary, TellsWhatHasNoOutline) {
   const std::vector<CDataItem> rows{RowOfPlates(L"矩形截面", {10, 20}),
                                     RowOfPlates(L"矩形截面", {10, 0})};

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "catalogue/exact/row_exact.h"
+#include "catalogue/lattice/lattice_limbs.h"
 #include "catalogue/outline/row_figures.h"
 
 namespace orv3 {
@@ -76,13 +77,17 @@ double Settled(double value, double scale) { return std::fabs(value) < 1e-9 * sc
 
 double Either(double told, double computed) { return std::isnan(told) ? computed : told; }
 
-// About axes parallel to the rectangle; those of a cross of angles are aslant.
+// What belongs to the profile as it is drawn: about axes parallel to the rectangle, where those of
+// a cross of angles are aslant.
 CRowFigures StraightFigures(const CDataItem& row) {
   CRowFigures f = RowFigures(row);
   if (f.m_bAslant) {
     f.m_dIx = f.m_dIy = CRowFigures::kUnknown;
     f.m_dWTop = f.m_dWBottom = f.m_dWLeft = f.m_dWRight = CRowFigures::kUnknown;
   }
+  // A column's edges are told by its limbs' printed centroids, and its limbs are drawn by the true
+  // ones, hundredths of a millimetre from these.
+  if (LatticeLimbCount(row.GetTableName().View()) > 0) f.m_dXc = f.m_dYc = CRowFigures::kUnknown;
   return f;
 }
 
