@@ -10,7 +10,6 @@ import argparse
 import base64
 import hashlib
 import os
-import re
 import subprocess
 import sys
 import sysconfig
@@ -19,13 +18,10 @@ import time
 import zipfile
 from pathlib import Path
 
+from metadata import metadata, version_of
+
 EARLIEST = 315532800  # 1980-01-01, from which on a zip can tell the time
 DATA = ("*.kvb", "*.KDB", "*.KXP")
-
-
-def version_of(source):
-    text = (source / "CMakeLists.txt").read_text("utf-8")
-    return re.search(r"project\(orv3cal VERSION (\S+)", text).group(1)
 
 
 def tag():
@@ -45,22 +41,6 @@ def stripped(module, strip):
 PARTS = ("libeigen3-dev", "libcli11-dev", "nlohmann-json3-dev", "pybind11-dev")
 
 
-def metadata(source, version):
-    head = f"""Metadata-Version: 2.1
-Name: orv3cal
-Version: {version}
-Summary: Sections, catalogues and connection and member checks of structural steel by GB 50017
-License: MIT
-Requires-Python: >=3.9
-Provides-Extra: frames
-Requires-Dist: numpy; extra == 'frames'
-Requires-Dist: pandas; extra == 'frames'
-Description-Content-Type: text/markdown
-
-"""
-    return (head + (source / "docs/python.md").read_text("utf-8")).encode()
-
-
 def contents(source, build, strip, version):
     """Path within the wheel: bytes."""
     package = build / "python/orv3cal"
@@ -78,7 +58,7 @@ def contents(source, build, strip, version):
     for part in PARTS:
         notice = Path(f"/usr/share/doc/{part}/copyright")
         files[f"{info}/licences/{part}.txt"] = notice.read_bytes()
-    files[f"{info}/METADATA"] = metadata(source, version)
+    files[f"{info}/METADATA"] = metadata(source)
     wheel = f"Wheel-Version: 1.0\nGenerator: make_wheel\nRoot-Is-Purelib: false\nTag: {tag()}\n"
     files[f"{info}/WHEEL"] = wheel.encode()
     files[f"{info}/RECORD"] = record(files, info)

@@ -73,6 +73,7 @@ case $1 in
   python)
     apt-get -q -y install ./python3-orv3cal_*.deb
     as_user 'python3 -c "import orv3cal; print(orv3cal.__version__)"' | grep -xF "$(version)"
+    as_user 'python3 -m pip list' | grep -x "orv3cal  *$(version)"
     as_user 'python3 /packages/frame.py /usr/share/doc/orv3cal/examples/bolts.csv orv3cal'
     apt-get -q -y purge python3-orv3cal
     ;;
