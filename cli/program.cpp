@@ -51,8 +51,22 @@ void TakeMarksOff(CLI::App& command) {
   for (CLI::App* each : command.get_subcommands({})) TakeMarksOff(*each);
 }
 
+// CLI11 gives "--name=" the next word for its value; behind a blank, nothing is a value.
+CArguments WithEmptyValues(const CArguments& arguments) {
+  CArguments words;
+  bool options = true;
+  for (const std::string& word : arguments) {
+    options = options && word != "--";
+    const bool empty = options && word.starts_with("--") && word.find('=') + 1 == word.size();
+    words.push_back(empty ? word.substr(0, word.size() - 1) : word);
+    if (empty) words.emplace_back();
+  }
+  return words;
+}
+
 // CLI11 takes the arguments in reverse.
 CArguments ForParsing(CArguments arguments) {
+  arguments = WithEmptyValues(arguments);
   std::for_each(arguments.begin(), arguments.end(), SpellOut);
   std::for_each(arguments.begin(), arguments.end(), Mark);
   std::reverse(arguments.begin(), arguments.end());

@@ -311,7 +311,8 @@ void AddCheckCommand(CLI::App& program) {
                        "The edition of GB 50017 for cases without the key code: 2017 (in force), "
                        "2003 (withdrawn, for existing structures) or both; the variable "
                        "ORV3CAL_CODE if it is not given, else 2017"))
-      ->type_name("YEAR");
+      ->type_name("YEAR")
+      ->check(NamesEdition);
   AddStoreOptions(*command, options->store);
   command->callback([options] {
     const CExit exit = RunCheck(*options);

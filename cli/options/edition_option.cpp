@@ -21,11 +21,13 @@ void AddEditionOption(CLI::App& command, std::string& year) {
               "The edition of GB 50017: 2017 (in force) or 2003 (withdrawn, for existing "
               "structures); the variable ORV3CAL_CODE if it is not given, else 2017"))
       ->type_name("YEAR")
-      ->check([](const std::string& text) {
-        return text.empty() ? Say("没有给出版本；请给出下列之一：2003, 2017",
-                                  "names no edition; give one of 2003, 2017")
-                            : std::string();
-      });
+      ->check(NamesEdition);
+}
+
+std::string NamesEdition(const std::string& year) {
+  return year.empty() ? Say("没有给出版本；请给出下列之一：2003、2017",
+                            "names no edition; give one of 2003, 2017")
+                      : std::string();
 }
 
 std::string YearAsked(const std::string& year) {

@@ -11,6 +11,9 @@ namespace orv3::cli {
 // Adds --code, whose text goes into `year`.
 void AddEditionOption(CLI::App& command, std::string& year);
 
+// What is wrong with a --code that names nothing, else empty: a check of options.
+std::string NamesEdition(const std::string& year);
+
 // The year that was asked for: of --code, else of the variable ORV3CAL_CODE, else empty.
 std::string YearAsked(const std::string& year);
 
