@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "framework/excerpt.h"
 #include "framework/language.h"
 
 namespace orv3::python {
@@ -18,21 +19,39 @@ std::string Place(const std::string& key, std::size_t row) {
 
 bool IsText(const py::handle& cell) { return PyUnicode_Check(cell.ptr()) != 0; }
 
+// The UTF-8 of a str; one with half a surrogate pair has none.
+std::string Utf8(const py::handle& text, const std::string& place) {
+  Py_ssize_t size = 0;
+  if (const char* bytes = PyUnicode_AsUTF8AndSize(text.ptr(), &size))
+    return {bytes, static_cast<std::size_t>(size)};
+  PyErr_Clear();
+  throw py::value_error(Say("{1}：不是 UTF-8 文字", "{1}: is not UTF-8 text", {place}));
+}
+
 bool IsList(const py::handle& cell) {
   return py::isinstance<py::list>(cell) || py::isinstance<py::tuple>(cell) ||
          py::isinstance<py::array>(cell);
 }
 
-// None, NaN and the other marks of a value that is missing: those are not equal to themselves, or
-// do not tell whether they are.
+// None, NaN and the other marks of a value that is missing: those are not equal to themselves.
+// pandas.NA alone does not tell whether it is; a frame in a cell does not either, and is no mark.
 bool IsMissing(const py::handle& cell) {
   if (cell.is_none()) return true;
   if (IsText(cell) || IsList(cell)) return false;
+  if (std::string_view(Py_TYPE(cell.ptr())->tp_name) == "NAType") return true;
   const auto same =
       py::reinterpret_steal<py::object>(PyObject_RichCompare(cell.ptr(), cell.ptr(), Py_EQ));
   const int truth = same ? PyObject_IsTrue(same.ptr()) : -1;
   if (truth < 0) PyErr_Clear();
-  return truth != 1;
+  return truth == 0;
+}
+
+// The digits of a whole number; empty for others.
+std::string Digits(const py::handle& cell) {
+  if (PyIndex_Check(cell.ptr()) == 0) return {};
+  const auto whole = py::reinterpret_steal<py::object>(PyNumber_Index(cell.ptr()));
+  PyErr_Clear();
+  return whole ? py::str(whole).cast<std::string>() : std::string();
 }
 
 double Number(const py::handle& value, const std::string& place) {
@@ -41,7 +60,7 @@ double Number(const py::handle& value, const std::string& place) {
     PyErr_Clear();
     throw py::type_error(Say("{1}：{2} 不是数、文字或数的列表",
                              "{1}: {2} is no number, text or list of numbers",
-                             {place, py::repr(value).cast<std::string>()}));
+                             {place, Excerpt(py::repr(value).cast<std::string>())}));
   }
   return number;
 }
@@ -55,7 +74,10 @@ bool IsTruth(const py::handle& cell) {
 CCaseCell Cell(const py::handle& value, const std::string& key, std::size_t row) {
   if (IsMissing(value)) return {};
   if (IsTruth(value)) return std::string(PyObject_IsTrue(value.ptr()) == 1 ? "true" : "false");
-  if (IsText(value)) return value.cast<std::string>();
+  if (IsText(value)) return Utf8(value, Place(key, row));
+  if (key == "id") {  // a name: a double does not hold a long one
+    if (std::string digits = Digits(value); !digits.empty()) return digits;
+  }
   if (!IsList(value)) return Number(value, Place(key, row));
   std::vector<double> list;
   for (const py::handle each : py::reinterpret_borrow<py::iterable>(value)) {
@@ -87,7 +109,7 @@ CCaseColumn Column(const std::string& key, const py::array& values) {
 cli::CCaseColumns FrameColumns(const py::dict& columns) {
   cli::CCaseColumns cases;
   for (const auto& [name, values] : columns) {
-    const auto key = name.cast<std::string>();
+    const std::string key = Utf8(name, Say("列名", "name of a column"));
     const auto array = values.cast<py::array>();
     const auto count = static_cast<std::size_t>(array.size());
     if (!cases.m_arrColumn.empty() && count != cases.m_nCases)

@@ -13,7 +13,6 @@ meanwhile.
 
 from __future__ import annotations
 
-import json
 from typing import Any, Iterable, Mapping, Optional, Sequence, Union, overload
 
 from . import _command, shapes
@@ -48,7 +47,7 @@ Texts = Union[str, Iterable[str]]
 
 
 def _joined(texts: Texts) -> str:
-    return texts if isinstance(texts, str) else ",".join(texts)
+    return texts if isinstance(texts, str) else ",".join(map(_command.text_of, texts))
 
 
 def styles() -> list[shapes.Style]:
@@ -260,5 +259,5 @@ def choose(
         *_command.stores(store, data),
     ]
     for style in [styles] if isinstance(styles, Mapping) else styles:
-        options += ["--style", json.dumps(style, ensure_ascii=False)]
+        options += ["--style", _command.json_of(style)]
     return _command.answer(_command.line(["choose"], options, ["-"]), case)

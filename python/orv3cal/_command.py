@@ -74,7 +74,14 @@ def stores(store: Optional[str], data: Optional[str]) -> list[str]:
 def line(command: Sequence[str], options: Iterable[str], places: Iterable[Any]) -> list[str]:
     """A command line. What stands at a place is never taken for an option."""
     language = option("--lang", _language)
-    return [*command, *options, *language, "--", *(text_of(place) for place in places)]
+    words = [*command, *options, *language, "--", *(text_of(place) for place in places)]
+    if any(_has_half_a_pair(word) for word in words):
+        raise Error(say("有一个参数不是 UTF-8 文字", "an argument is not UTF-8 text"))
+    return words
+
+
+def _has_half_a_pair(text: str) -> bool:
+    return any("\ud800" <= letter <= "\udfff" for letter in text)
 
 
 def sentence(told: str) -> str:
@@ -96,7 +103,7 @@ def answer(arguments: list[str], case: Any = None) -> Any:
 def json_of(case: Any) -> str:
     """A case as JSON, numpy's numbers and arrays among its values."""
     text = case if isinstance(case, str) else json.dumps(_plain(case, ""), ensure_ascii=False)
-    if any("\ud800" <= letter <= "\udfff" for letter in text):
+    if _has_half_a_pair(text):
         raise Error(say("算例不是 UTF-8 文字", "the case is not UTF-8 text"))
     return text
 

@@ -38,14 +38,22 @@ def _array(key: str, values: Any) -> Any:
                 array.dtype,
             )
         )
-    if array.dtype.kind in "fiu":
+    if array.dtype.kind == "f" or (array.dtype.kind in "iu" and key != "id"):
         return numpy.ascontiguousarray(array, dtype=numpy.float64)
     return numpy.ascontiguousarray(array, dtype=object)
 
 
 def _columns(frame: Any) -> dict[str, Any]:
+    if not hasattr(frame, "keys"):
+        raise Error(
+            say(
+                "{0} 没有列；应为数据框，或由键到各算例之值的映射",
+                "{0} has no columns; right would be a frame, or a mapping of keys to the cases' values",
+                type(frame).__name__,
+            )
+        )
     columns: dict[str, Any] = {}
-    for key in frame:
+    for key in frame.keys():
         name = str(key)
         if name in columns or (hasattr(frame, "index") and frame[key].ndim != 1):
             raise Error(
@@ -135,16 +143,15 @@ def rows_frame(
     answer = rows(
         table, where, sort, columns, wildcard=wildcard, exact=exact, store=store, data=data
     )
+    signs = [column["sign"] for column in answer["columns"]]
     frame = pandas.DataFrame(
-        [row["cells"] for row in answer["rows"]],
-        columns=[column["sign"] for column in answer["columns"]],
-        dtype=object,
+        [row["cells"] for row in answer["rows"]], columns=range(len(signs)), dtype=object
     )
-    for column in answer["columns"]:
+    for at, column in enumerate(answer["columns"]):
         if column["type"] not in ("text", "char"):
-            cells = frame[column["sign"]].replace("", float("nan"))
+            cells = frame[at].replace("", float("nan"))
             try:
-                frame[column["sign"]] = pandas.to_numeric(cells).astype("float64")
+                frame[at] = pandas.to_numeric(cells).astype("float64")
             except ValueError:
                 raise Error(
                     say(
@@ -154,4 +161,5 @@ def rows_frame(
                         column["sign"],
                     )
                 ) from None
+    frame.columns = signs  # last: a table may have a sign twice
     return frame

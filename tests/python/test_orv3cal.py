@@ -103,6 +103,11 @@ class Answers(unittest.TestCase):
                 words = told.strip().removeprefix("orv3cal: ").removeprefix("-: ")
                 self.assertEqual((str(raised.exception), raised.exception.status), (words, status))
 
+    def test_take_an_empty_text_for_no_option(self):
+        self.assertEqual(orv3cal.section("h", 300, 400, 20, 10, name="")["name"], "")
+        with self.assertRaisesRegex(orv3cal.Error, "--where"):
+            orv3cal.rows(I_BEAMS, where="")
+
     def test_refuse_what_is_no_case(self):
         for case in [{}, {**BOLT, "d": None}, {**BOLT, "x": 1}, [], "{", "\ud800", {"d": "\ud800"}, 5]:
             with self.subTest(case=ascii(case)), self.assertRaises(orv3cal.Error):
@@ -187,7 +192,7 @@ class Frames(unittest.TestCase):
     def test_take_cells_of_every_sort(self):
         frame = pandas.DataFrame(
             {
-                "id": [1, 2, 3, 4],
+                "id": [20260001000000001, 2, 3, 4],
                 "layout": pandas.Categorical(["grid"] * 4),
                 "type": ["ordinary", "friction", "ordinary", "ordinary"],
                 "cols": numpy.array([3, 3, 3, 3], dtype=numpy.int32),
@@ -210,7 +215,7 @@ class Frames(unittest.TestCase):
         text = frame.assign(colSpace=["70;80", "70;80", "75", "75;75"]).to_csv(index=False)
         answer = self.assert_is_the_csv("bolt", frame, text)
         self.assertEqual(list(answer.index), ["a", "b", "c", "d"])
-        self.assertEqual(list(answer["id"]), ["1", "2", "3", "4"])
+        self.assertEqual(list(answer["id"]), ["20260001000000001", "2", "3", "4"])
         self.assertEqual(answer["pass"].dtype, bool)
         self.assertFalse(answer["pass"]["c"])
         self.assertIn("d: ", answer["refused"]["c"])
@@ -242,6 +247,9 @@ class Frames(unittest.TestCase):
             ({"d": [1.0], "t": [1.0, 2.0]}, "t: 2 values"),
             ({"d": numpy.ones((1, 1))}, "dimensions"),
             ({"d": [{}]}, "d: row 0"),
+            ({"d": pandas.Series([pandas.Series([20.0])])}, "d: row 0"),
+            ({"steel": ["\ud800"]}, "UTF-8"),
+            ([BOLT], "no columns"),
             ({"d": numpy.array([20], dtype="timedelta64[s]")}, "d: timedelta64"),
             (pandas.DataFrame([[1.0, 2.0]], columns=["d", "d"]), "d: "),
         ]:
@@ -256,6 +264,8 @@ class Frames(unittest.TestCase):
         self.assertEqual(len(frame), len(cells))
         self.assertEqual(frame["h(mm)"].dtype, float)
         self.assertEqual(list(frame["No."]), [row["cells"][0] for row in cells])
+        signs = list(orv3cal.rows_frame("自定义对称H型钢").columns)  # has two of this sign
+        self.assertEqual(signs.count("ixo(mm)"), 2)
 
 
 if __name__ == "__main__":
