@@ -6,6 +6,7 @@
 
 #include "cases/case_readers.h"
 #include "framework/excerpt.h"
+#include "input/json_fault.h"
 
 namespace orv3::cli {
 namespace {
@@ -148,27 +149,11 @@ class CJsonCases : public nlohmann::json_sax<CJson> {
 
   bool parse_error(std::size_t, const std::string& token,
                    const nlohmann::detail::exception& error) override {
-    std::string what = error.what();
-    const std::size_t text = what.find("] ");  // behind the library's number of the error
-    if (text != std::string::npos) what.erase(0, text + 2);
-    const std::size_t quoted = what.find(token);
-    if (quoted != std::string::npos) what.replace(quoted, token.size(), Excerpt(token));
-    m_file.Refuse({"不是 JSON：" + Place(what) + "有语法错误，最后读到“" + Excerpt(token) + "”",
-                   "is no JSON, " + what});
+    m_file.Refuse(JsonFault(token, error));
   }
 
  private:
   static constexpr int kNone = -1;
-
-  // Of "parse error at line 1, column 2: ..." what other languages can say.
-  static std::string Place(const std::string& what) {
-    const std::size_t line = what.find("line "), column = what.find(", column ");
-    if (line == what.npos || column == what.npos) return {};
-    const auto number = [&](std::size_t at) {
-      return what.substr(at, what.find_first_not_of("0123456789", at) - at);
-    };
-    return "第 " + number(line + 5) + " 行第 " + number(column + 9) + " 列";
-  }
 
   // How many brackets are open where the keys of a case, or of the object within it, stand.
   int Field() const noexcept {

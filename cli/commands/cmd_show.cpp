@@ -105,7 +105,7 @@ void RunShow(const COptions& options, bool spaced) {
     PrintJson(json);
   } else {
     PrintRow(row, figures);
-    PrintExact(exact);
+    PrintExact(exact, options.turn != 0);
   }
 }
 

@@ -9,6 +9,7 @@
 #include "framework/excerpt.h"
 #include "framework/language.h"
 #include "input/input.h"
+#include "input/json_fault.h"
 #include "outlines/dxf_outline.h"
 #include "outlines/loop_nesting.h"
 #include "outlines/outline_check.h"
@@ -104,12 +105,7 @@ class COutlineJson : public nlohmann::json_sax<CJson> {
   }
   bool parse_error(std::size_t, const std::string& token,
                    const nlohmann::detail::exception& error) override {
-    std::string what = error.what();
-    const std::size_t text = what.find("] ");  // behind the library's number of the error
-    if (text != what.npos) what.erase(0, text + 2);
-    const std::size_t quoted = what.find(token);
-    if (!token.empty() && quoted != what.npos) what.replace(quoted, token.size(), Excerpt(token));
-    Fault(Say("不是 JSON：{1}", "is no JSON, {1}", {what}));
+    Fault(Say(JsonFault(token, error)));
   }
 
  private:
