@@ -99,7 +99,10 @@ CValues Find(const CTypedLine& line, const CLI::Option& option, const std::strin
   if (name == "NO") return Numbers(line);
   if (name == "STYLE") return Styles();
   if (name == "ARGUMENTS") return CodeArgument(line, option.get_description());
-  if (type == "YEAR") return Words("2017 2003", ' ');
+  if (type == "YEAR") {
+    const bool both = line.m_pCommand->get_name() == "check";
+    return Words(both ? "2017 2003 both" : "2017 2003", ' ');
+  }
   if (type == "SIGN=VALUE") return Signs(line, "=");
   if (type == "EXPR") return Behind(list("&| "), Signs(line, ""));
   if (type.starts_with("SIGN")) return Behind(list(","), Signs(line, ""));
@@ -115,13 +118,17 @@ CValues Behind(const std::string& head, CValues values) {
   return values;
 }
 
-// Where there is nothing to look up, such as no store, there is nothing to complete.
+// Where there is nothing to look up there is nothing to complete. A store that is to be made has the
+// catalogue's tables and columns.
 CValues ValuesOf(const CTypedLine& line, const CLI::Option& option, const std::string& begun) {
   try {
     return Find(line, option, begun);
   } catch (const std::exception&) {
-    return {};
+    if (line.m_store.store.empty() || option.get_name() == "NO") return {};
   }
+  CTypedLine shipped = line;
+  shipped.m_store.store.clear();
+  return ValuesOf(shipped, option, begun);
 }
 
 }  // namespace orv3::cli

@@ -85,9 +85,10 @@ std::string TypeWord(const std::string& type) {
 }
 
 // What an option takes: the words of a set "TYPE:{A,B}", or a type with the limits of
-// "TYPE:INT in [A - B]", as the parser writes them.
+// "TYPE:INT in [A - B]", as the parser writes them. A colon in brackets is the type's own.
 std::string Takes(const std::string& type) {
-  const std::size_t colon = type.find(':');
+  const std::size_t first = type.find_first_of(":[");
+  const std::size_t colon = type.substr(0, first + 1).ends_with(':') ? first : type.npos;
   const std::string word = TypeWord(type.substr(0, colon));
   if (colon == type.npos) return word;
   std::string limits = type.substr(colon + 1);

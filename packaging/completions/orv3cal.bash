@@ -5,14 +5,21 @@ _orv3cal() {
   local typed=("${words[@]:1:cword}") sign line
   for sign in \\ \' \"; do typed=("${typed[@]//"$sign"/}"); done
   compopt -o filenames  # quotes what a shell would take apart
+  local begun=$cur
   while IFS= read -r line; do
     case $line in
-      $'\t'files) _filedir ;;
-      $'\t'folders) _filedir -d ;;
+      $'\t'files) cur=${cur#--*=} && _filedir ;;
+      $'\t'folders) cur=${cur#--*=} && _filedir -d ;;
       *) COMPREPLY+=("${line%%$'\t'*}") ;;
     esac
   done < <("${words[0]}" complete -- "${typed[@]}" 2>/dev/null)
   [[ ${#COMPREPLY[@]} != 1 || ${COMPREPLY[0]} != *= ]] || compopt -o nospace
-  __ltrim_colon_completions "$cur"
+  # What bash puts in is what stands behind the last "=".
+  if [[ $begun == *=* && $COMP_WORDBREAKS == *=* ]]; then
+    local head=${typed[-1]%"${typed[-1]##*=}"}
+    COMPREPLY=("${COMPREPLY[@]#"$head"}")
+    [[ -n ${COMPREPLY[0]-} ]] || COMPREPLY=()
+  fi
+  __ltrim_colon_completions "$begun"
 }
 complete -F _orv3cal orv3cal

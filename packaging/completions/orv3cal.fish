@@ -1,7 +1,9 @@
 # Completion of orv3cal for fish: the command itself knows what may come next.
 function __orv3cal_complete
-    set -l typed (commandline -opc) (commandline -ct)
-    for line in ($typed[1] complete -- $typed[2..-1] 2>/dev/null)
+    set -l typed (commandline -opc)
+    # The word under the cursor, without the quote that it may begin with and the backslashes in it.
+    set -l begun (commandline -ct | string replace -r '^["\']' '' | string replace -ra '\\\\(.)' '$1')
+    for line in ($typed[1] complete -- $typed[2..-1] "$begun" 2>/dev/null)
         set -l parts (string split -m 1 \t -- $line)
         if test -n "$parts[1]"
             echo $line
