@@ -118,8 +118,8 @@ CValues Behind(const std::string& head, CValues values) {
   return values;
 }
 
-// Where there is nothing to look up there is nothing to complete. A store that is to be made has the
-// catalogue's tables and columns.
+// Where there is nothing to look up there is nothing to complete. A store that is to be made has
+// the catalogue's tables and columns.
 CValues ValuesOf(const CTypedLine& line, const CLI::Option& option, const std::string& begun) {
   try {
     return Find(line, option, begun);

@@ -247,7 +247,7 @@ class Frames(unittest.TestCase):
             ({"d": [1.0], "t": [1.0, 2.0]}, "t: 2 values"),
             ({"d": numpy.ones((1, 1))}, "dimensions"),
             ({"d": [{}]}, "d: row 0"),
-            ({"d": pandas.Series([pandas.Series([20.0])])}, "d: row 0"),
+            ({"d": pandas.Series([pandas.Series([20.0, 22.0])])}, "d: row 0"),
             ({"steel": ["\ud800"]}, "UTF-8"),
             ([BOLT], "no columns"),
             ({"d": numpy.array([20], dtype="timedelta64[s]")}, "d: timedelta64"),
