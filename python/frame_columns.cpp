@@ -13,8 +13,9 @@ namespace py = pybind11;
 using cli::CCaseCell;
 using cli::CCaseColumn;
 
+// Rows count from 1, as the answer's column "case" does.
 std::string Place(const std::string& key, std::size_t row) {
-  return Say("{1}：第 {2} 行", "{1}: row {2}", {key, std::to_string(row)});
+  return Say("{1}：第 {2} 行", "{1}: row {2}", {key, std::to_string(row + 1)});
 }
 
 bool IsText(const py::handle& cell) { return PyUnicode_Check(cell.ptr()) != 0; }

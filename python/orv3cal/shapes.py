@@ -2,9 +2,11 @@
 
 from __future__ import annotations
 
-from typing import Optional, TypedDict
+from typing import Optional, TypedDict, Union
 
 Figures = dict[str, Optional[float]]
+# Of a row: figures, whether it is symmetric, and the letters of its axes.
+Geometry = dict[str, Union[float, bool, dict[str, str], None]]
 
 
 class Size(TypedDict):
@@ -59,9 +61,10 @@ class Section(TypedDict):
     sizes: list[float]
     base: list[float]
     properties: Figures
-    geometry: Figures
+    geometry: Geometry
     exact: Figures
     accurate: bool
+    errors: Figures
 
 
 class Show(TypedDict):
@@ -72,9 +75,10 @@ class Show(TypedDict):
     no: str
     columns: list[Column]
     cells: list[str]
-    geometry: Figures
+    geometry: Geometry
     exact: Figures
     accurate: bool
+    errors: Figures
 
 
 class Limb(TypedDict):
@@ -95,12 +99,16 @@ class Lattice(TypedDict):
     limbs: list[Limb]
 
 
-class CodeFigure(TypedDict):
-    """value in ``unit``; source: the clause or table; status: how it was got, such as "table"."""
-
-    value: float
+class _CodeFigure(TypedDict):
+    value: Union[float, str]
     unit: str
     source: str
+
+
+class CodeFigure(_CodeFigure, total=False):
+    """value in ``unit``, a text for the class of a section; source: the clause or table; status: how it
+    was got, such as "table", by the edition of 2017 alone."""
+
     status: str
 
 

@@ -124,7 +124,7 @@ class Answers(unittest.TestCase):
             self.assertIn("螺栓", orv3cal.check("bolt", BOLT)["governs"])
             with self.assertRaisesRegex(orv3cal.Error, "应为"):
                 orv3cal.section("nothing")
-            with self.assertRaisesRegex(orv3cal.Error, "d：第 1 行.*不是数"):
+            with self.assertRaisesRegex(orv3cal.Error, "d：第 2 行.*不是数"):
                 orv3cal.check_many("bolt", {"d": [20, object()]})
             with self.assertRaisesRegex(orv3cal.Error, "d.*应为有限的数"):
                 orv3cal.check("bolt", {"d": math.inf})
@@ -246,8 +246,8 @@ class Frames(unittest.TestCase):
             ({"nothing": [1.0]}, "nothing"),
             ({"d": [1.0], "t": [1.0, 2.0]}, "t: 2 values"),
             ({"d": numpy.ones((1, 1))}, "dimensions"),
-            ({"d": [{}]}, "d: row 0"),
-            ({"d": pandas.Series([pandas.Series([20.0, 22.0])])}, "d: row 0"),
+            ({"d": [{}]}, "d: row 1"),
+            ({"d": pandas.Series([pandas.Series([20.0, 22.0])])}, "d: row 1"),
             ({"steel": ["\ud800"]}, "UTF-8"),
             ([BOLT], "no columns"),
             ({"d": numpy.array([20], dtype="timedelta64[s]")}, "d: timedelta64"),
