@@ -8,6 +8,7 @@
 #include "error.h"
 #include "framework/excerpt.h"
 #include "framework/language.h"
+#include "framework/utf8.h"
 #include "input/input.h"
 #include "input/json_fault.h"
 #include "outlines/dxf_outline.h"
@@ -15,6 +16,7 @@
 #include "outlines/outline_check.h"
 #include "outlines/touching_parts.h"
 #include "output/output.h"
+#include "platform/code_page.h"
 
 namespace orv3::cli {
 namespace {
@@ -200,8 +202,10 @@ std::vector<CPath> LoopsOf(const std::string& path, const std::string& layer) {
     CJson::sax_parse(bytes, &json);
     return json.Loops();
   }
+  // Before release 2007 the names of layers are of the ANSI code page.
+  const std::string text = IsUtf8(bytes) ? bytes : ToUtf8(FromAnsi(bytes));
   std::vector<CPath> loops;
-  if (const auto fault = ReadDxfOutline(bytes, layer, loops)) Refuse(path, Say(*fault));
+  if (const auto fault = ReadDxfOutline(text, layer, loops)) Refuse(path, Say(*fault));
   return loops;
 }
 

@@ -93,6 +93,19 @@ TEST(OutlineCommand, RefusesInOneLineThatNamesTheFault) {
   });
 }
 
+// Drawings of old releases name their layers by the code page: 轮廓 is C2 D6 C0 AA, 轴线 D6 E1 CF
+// DF.
+TEST(OutlineCommand, TakesALayerNamedByTheCodePage) {
+  const auto circle = [](const std::string& layer, const std::string& radius) {
+    return "0\nCIRCLE\n8\n" + layer + "\n10\n0\n20\n0\n40\n" + radius + "\n";
+  };
+  const COwnFile file("gbk.dxf", "0\nSECTION\n2\nENTITIES\n" + circle("\xC2\xD6\xC0\xAA", "10") +
+                                     circle("\xD6\xE1\xCF\xDF", "90") + "0\nENDSEC\n0\nEOF\n");
+  EXPECT_NEAR(JsonOf("outline " + file.m_strPath + " --layer 轮廓")["exact"]["A"].get<double>(),
+              314.159, 1e-3);
+  ExpectRefused({{"outline " + file.m_strPath + " --layer x", {"轮廓, 轴线"}}});
+}
+
 TEST(ExactBlock, StandsBelowTheFiguresOfASection) {
   ExpectHas(RunProgram("section rect 200 200").m_strOut,
             {"Exact, from the outline itself", "自由扭转惯性矩", "torsion constant", "thin-wall"});

@@ -42,10 +42,19 @@ export async function givenOutline(): Promise<boolean> {
 // As the command is to read it, and to call it in the picture.
 const fileName = (name: string) => (/^[^-].*\.(dxf|json)$/i.test(name) ? name : "outline.dxf");
 
+// Before release 2007 the names of layers are of the code page, as the command reads them.
+function textOf(data: Uint8Array): string {
+  try {
+    return new TextDecoder("utf-8", { fatal: true }).decode(data);
+  } catch {
+    return new TextDecoder("gbk").decode(data);
+  }
+}
+
 // The layers that a DXF file draws on, from its own lines: the group 8 of each entity.
 export function layersOfOutline(): string[] {
   if (!outline || outline.name.toLowerCase().endsWith(".json")) return [];
-  const lines = new TextDecoder().decode(outline.data).split(/\r?\n/);
+  const lines = textOf(outline.data).split(/\r?\n/);
   const layers = new Set<string>();
   let inside = false;
   for (let i = 0; i + 1 < lines.length; i += 2) {
