@@ -18,7 +18,9 @@ from pathlib import Path
 
 GUIDES = {
     "First steps": ["Orv3Cal <README.md>", "docs/python.md", "docs/page.md", "docs/embedding.md", "docs/windows.md"],
-    "中文": ["Orv3Cal（中文） <README.zh-CN.md>", "docs/guide.zh-CN.md"],
+    "中文": ["Orv3Cal（中文） <README.zh-CN.md>", "guide.zh-CN.md", "packages.zh-CN.md", "sections.zh-CN.md",
+           "lattice.zh-CN.md", "searching.zh-CN.md", "stores.zh-CN.md", "connections.zh-CN.md", "members.zh-CN.md",
+           "page.zh-CN.md", "python.zh-CN.md"],
     "Sections": ["sections.md", "section-solver.md", "outlines.md", "geometry.md", "lattice.md"],
     "Catalogue and stores": ["catalogue.md", "searching.md", "stores.md", "file-formats.md", "ifc.md"],
     "Checks": ["connections.md", "members.md", "case-keys.md", "codes.md", "code-tables.md"],
