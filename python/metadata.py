@@ -26,7 +26,8 @@ Requires-Dist: pandas; extra == 'frames'
 Description-Content-Type: text/markdown
 
 """
-    return (head + (source / "docs/python.md").read_text("utf-8")).encode()
+    pages = [(source / "docs" / name).read_text("utf-8") for name in ("python.md", "python.zh-CN.md")]
+    return (head + "\n".join(pages)).encode()
 
 
 if __name__ == "__main__":
