@@ -165,6 +165,7 @@ class CArithmetic {
 // The text of a piece of HTML: powers as ^2, no other marks.
 inline std::string TextOf(std::string html) {
   html = std::regex_replace(html, std::regex("<sup>"), "^");
+  html = std::regex_replace(html, std::regex("</sup>"), " ");  // no digit after it is of the power
   html = std::regex_replace(html, std::regex("<[^>]*>"), "");
   html = std::regex_replace(html, std::regex("&gt;"), ">");
   return std::regex_replace(html, std::regex("&lt;"), "<");
@@ -207,7 +208,7 @@ inline int ExpectSteps(const std::string& html) {
 // "a ≤ b", "a = b > c": the signs are true of the numbers beside them. Returns how many were held.
 inline int ExpectRelations(const std::string& html) {
   static const std::regex kVerdict("</div><div class=\"m\">([^]*?)</div></td>");
-  static const std::regex kSigns("(.*?) (?:= ([^=]*) )?(≤|>|≮) ([-0-9.E+]+)(?: .*)?");
+  static const std::regex kSigns("(.*?) (?:= ([^=]*) )?(≤|<|>|≮) ([-0-9.E+]+)(?: .*)?");
   int held = 0;
   for (std::sregex_iterator verdict(html.begin(), html.end(), kVerdict), end; verdict != end;
        ++verdict) {
@@ -223,7 +224,7 @@ inline int ExpectRelations(const std::string& html) {
       EXPECT_TRUE(IsArithmetic(part[2], middle) && left.Meets(middle)) << text;
       left = middle;
     }
-    if (part[3] == "≤") {
+    if (part[3] == "≤" || part[3] == "<") {
       EXPECT_LE(left.low, right.high) << text;
     } else {
       EXPECT_GE(left.high, right.low) << text;

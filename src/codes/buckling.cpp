@@ -72,6 +72,28 @@ const CClassPair* ThickRow(CBucklingShape shape, double t) noexcept {
   }
 }
 
+// In a sentence, in the order of CBucklingShape.
+constexpr CTextLiteral kShapes[] = {
+    {"轧制圆管", "rolled tubes"},
+    {"焊接圆管", "welded tubes"},
+    {"轧制工字形（b/h ≤ 0.8）", "rolled I (b/h ≤ 0.8)"},
+    {"轧制工字形（b/h > 0.8）", "rolled I (b/h > 0.8)"},
+    {"焊接工字形（翼缘为焰切边）", "welded I (flame-cut flanges)"},
+    {"焊接工字形（翼缘为轧制或剪切边）", "welded I (rolled or sheared flanges)"},
+    {"轧制 T 形", "rolled T"},
+    {"焊接 T 形", "welded T"},
+    {"焊接 T 形", "welded T"},
+    {"轧制槽钢", "rolled channels"},
+    {"轧制等边角钢", "rolled equal angles"},
+    {"轧制不等边角钢", "rolled unequal angles"},
+    {"焊接箱形（板件宽厚比 > 20）", "welded boxes (b/t > 20)"},
+    {"焊接箱形（板件宽厚比 ≤ 20）", "welded boxes (b/t ≤ 20)"},
+    {"轧制矩形管", "rolled rectangular tubes"},
+    {"实心截面", "solid sections"},
+    {"格构式截面", "lattice sections"},
+};
+static_assert(std::size(kShapes) == std::size(kBucklingShapeNames));
+
 constexpr CCodeSource ClassSource(CCodeEdition edition, bool bThick) noexcept {
   if (edition == CCodeEdition::Gb2003)
     return {edition, bThick ? CTextLiteral{"表 5.1.2-2", "Table 5.1.2-2"}
@@ -117,10 +139,12 @@ CCodeAnswer<CPrintedClass> PrintedBucklingClass(CCodeEdition edition, CBucklingS
   }
   const CClassPair* pair = ThickRow(shape, t);
   if (pair != nullptr) return {bX ? pair->m_x : pair->m_y, ClassSource(edition, true)};
-  const std::string name = BucklingShapeName(shape);
-  return NotPossible("t", t,
-                     {"板厚 40 mm 及以上的表没有 " + name + "；请给出小于 40 mm 的厚度",
-                      "give less than 40 mm: the table of thicker plates has no " + name});
+  const CTextLiteral& name = kShapes[static_cast<std::size_t>(shape)];
+  return NotPossible(
+      "t", t,
+      {std::string("请给出小于 40 mm 的厚度：板厚 40 mm 及以上的表中没有") + name.m_szChinese,
+       std::string("give less than 40 mm: the table of thicker plates has no ") +
+           name.m_szEnglish});
 }
 
 CCodeAnswer<CBucklingClass> BucklingClass(CCodeEdition edition, CBucklingShape shape,

@@ -114,6 +114,7 @@ class CSolidCheck {
   CBeamSection BeamSection() const;
   template <class VALUE>
   const VALUE* Take(const char* key, const CCodeAnswer<VALUE>& answer);
+  void RefuseSlenderT(double lambdaY);
   double UniformPhiB(double lambdaY);
   double GiveWeldedIPhiB(const CBeamSection& section, double lambdaY, double beta);
   double GivePhiB(const CPhiB& phiB, const char* elastic);

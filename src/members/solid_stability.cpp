@@ -2,8 +2,10 @@
 // 5.1.2, 5.2.2 to 5.2.5.
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include "codes/lateral_buckling.h"
+#include "framework/plain_number.h"
 #include "members/beam_column.h"
 #include "members/solid_check.h"
 
@@ -299,17 +301,44 @@ CBeamSection CSolidCheck::BeamSection() const {
           s.IsEqualFlanged() ? 0.5 : compressed / both};
 }
 
+// What an argument of the code's look-ups is called in a sentence.
+constexpr struct {
+  std::string_view m_szArgument;
+  CTextLiteral m_name;
+} kArguments[] = {
+    {"alphab", {"αb", "αb"}},
+    {"i-number", {"工字钢型号", "I number"}},
+    {"length", {"以 m 计的受压翼缘自由长度", "free span of the flange in m"}},
+};
+
 // An answer of the code, or its refusal as the answer of the check.
 template <class VALUE>
 const VALUE* CSolidCheck::Take(const char* key, const CCodeAnswer<VALUE>& answer) {
   if (answer) return &*answer;
   const CCodeRefusal& refusal = answer.Refusal();
-  a.Refuse(
-      key,
-      {std::string("整体稳定系数 φb：") + refusal.m_szArgument + " " + refusal.m_what.m_strChinese,
-       std::string("no φb, ") + refusal.m_szArgument + " " + refusal.m_what.m_strEnglish},
-      refusal.m_right);
+  CTextLiteral name = {refusal.m_szArgument, refusal.m_szArgument};
+  for (const auto& each : kArguments) {
+    if (each.m_szArgument == refusal.m_szArgument) name = each.m_name;
+  }
+  a.Refuse(key,
+           {std::string("整体稳定系数 φb：") + name.m_szChinese + " " + refusal.m_what.m_strChinese,
+            std::string("no φb, ") + name.m_szEnglish + " " + refusal.m_what.m_strEnglish},
+           refusal.m_right);
   return nullptr;
+}
+
+// C.0.5 (2003: B.5) ends at 120 εk, and the code has no other φb of a T.
+void CSolidCheck::RefuseSlenderT(double lambdaY) {
+  const double most = 120 * r.m_dEpsilonK;
+  const CComparedText text = Compared(lambdaY, most);
+  const std::string l1 = PlainNumber(std::floor(most * s.m_dRy)) + " mm";
+  a.Refuse("lengths",
+           {"T 形截面受压翼缘自由长度的 λy = " + text.m_strEffect +
+                " 大于 120εk = " + text.m_strLimit + "，规范没有 φb（C.0.5；2003：B.5）",
+            "λy = " + text.m_strEffect + " of the T's free span is over 120 εk = " +
+                text.m_strLimit + ", where the code has no φb (C.0.5; 2003: B.5)"},
+           {"请使 lengths.span 不大于 " + l1 + "，或选用 iy 更大的截面",
+            "give lengths.span of at most " + l1 + ", or a section with a greater iy"});
 }
 
 double CSolidCheck::UniformPhiB(double lambdaY) {
@@ -329,9 +358,13 @@ double CSolidCheck::UniformPhiB(double lambdaY) {
       }
     }
   }
+  if (lambdaY > 120 * r.m_dEpsilonK) {
+    RefuseSlenderT(lambdaY);
+    return 1;
+  }
   const CBeamSection section = BeamSection();
   const auto answer = UniformBendingPhiB(m.m_nEdition, m.m_nGrade, shape, lambdaY, section);
-  const double* phiB = Take("lengths.span", answer);
+  const double* phiB = Take("lengths", answer);
   if (phiB == nullptr) return 1;
   const char* form = "min(1, 1.07 − {λ1y}²/(44000·{εk}²))";
   if (shape == CUniformBendingShape::ISingly) {
@@ -351,7 +384,7 @@ double CSolidCheck::UniformPhiB(double lambdaY) {
 // C.0.1, its steps; those of beta-b stand before.
 double CSolidCheck::GiveWeldedIPhiB(const CBeamSection& section, double lambdaY, double beta) {
   const auto answer = WeldedIPhiB(m.m_nEdition, m.m_nGrade, section, lambdaY, beta);
-  const CPhiB* phiB = Take("lengths.span", answer);
+  const CPhiB* phiB = Take("lengths", answer);
   if (phiB == nullptr) return 1;
   const double alpha = section.m_dAlphaB;
   a.Step("βb", nullptr, beta);
@@ -428,7 +461,7 @@ double CSolidCheck::BeamPhiB() {
   if (s.m_nShape == CMemberShape::Channel) {
     const auto answer = ChannelPhiB(m.m_nEdition, m.m_nGrade, s.m_dHeight, s.m_top.m_dWidth,
                                     s.m_top.m_dThick, q.m_dSpan);
-    const CPhiB* phiB = Take("lengths.span", answer);
+    const CPhiB* phiB = Take("lengths", answer);
     if (phiB == nullptr) return 1;
     a.Step("h", nullptr, s.m_dHeight, "mm");
     a.Step("b", nullptr, s.m_top.m_dWidth, "mm");
@@ -451,7 +484,7 @@ double CSolidCheck::BeamPhiB() {
       return RolledIPhiB(m.m_nEdition, m.m_nGrade, kind, q.m_dRolledNumber, span);
     };
     const auto answer = of(load);
-    const CPhiB* phiB = Take("lengths.span", answer);
+    const CPhiB* phiB = Take("lengths", answer);
     if (phiB == nullptr) return 1;
     // Whether supports make a part of the member is not said: the lesser of both.
     const auto supported = of(q.m_dPartX < 1 ? CRolledILoad::Supported : load);

@@ -146,13 +146,14 @@ void CSolidCheck::Shear() {
     return a.Close("√({τx}² + {τy}²)/{fv}", Hypot(tauX, tauY) / m.m_dFv);
   }
   const bool bY = tauY / m.m_dFv >= tauX / m.m_dFvX;
-  const CShearCut& cut = bY ? s.m_cutY : s.m_cutX;
+  const double ratio = bY ? tauY / m.m_dFv : tauX / m.m_dFvX;
   a.Step("V", nullptr, bY ? Vy : Vx, "N");
+  if (!bY) a.Step("fv", nullptr, m.m_dFvX, "N/mm²");
+  if (s.m_nShape == CMemberShape::SolidBar) return a.Close("1.5·{V}/({A}·{fv})", ratio);
+  const CShearCut& cut = bY ? s.m_cutY : s.m_cutX;
   a.Step("S", nullptr, cut.m_dS, "mm³");
   a.Step("t", nullptr, cut.m_dT, "mm");
-  if (!bY) a.Step("fv", nullptr, m.m_dFvX, "N/mm²");
-  a.Close(bY ? "{V}·{S}/({Ix}·{t}·{fv})" : "{V}·{S}/({Iy}·{t}·{fv})",
-          bY ? tauY / m.m_dFv : tauX / m.m_dFvX);
+  a.Close(bY ? "{V}·{S}/({Ix}·{t}·{fv})" : "{V}·{S}/({Iy}·{t}·{fv})", ratio);
 }
 
 // Where a shear is greatest or meets the normal stress of a corner. N and Mx have their signs, My
@@ -293,22 +294,23 @@ void CSolidCheck::GivePlace(const CPlace& p, double Mx) {
                           : "{N}/{An}",
          stress.m_dSigma, "N/mm²");
   const bool bX = stress.m_dTauX > 0, bY = stress.m_dTauY > 0;
+  const bool bBar = s.m_nShape == CMemberShape::SolidBar;
   if (bX) {
     a.Step("Vx", nullptr, std::fabs(q.m_dVx), "N");
-    a.Step("S1x", nullptr, p.m_vx.m_dS, "mm³");
-    a.Step("tx", nullptr, p.m_vx.m_dT, "mm");
-    a.Step(bY ? "τx" : "τ", "{Vx}·{S1x}/({Iy}·{tx})", stress.m_dTauX, "N/mm²");
+    if (!bBar) a.Step("S1x", nullptr, p.m_vx.m_dS, "mm³");
+    if (!bBar) a.Step("tx", nullptr, p.m_vx.m_dT, "mm");
+    a.Step(bY ? "τx" : "τ", bBar ? "1.5·{Vx}/{A}" : "{Vx}·{S1x}/({Iy}·{tx})", stress.m_dTauX,
+           "N/mm²");
   }
   if (bY) {
     a.Step("Vy", nullptr, std::fabs(q.m_dVy), "N");
-    a.Step("S1y", nullptr, p.m_vy.m_dS, "mm³");
-    a.Step("ty", nullptr, p.m_vy.m_dT, "mm");
-    a.Step(bX ? "τy" : "τ", "{Vy}·{S1y}/({Ix}·{ty})", stress.m_dTauY, "N/mm²");
+    if (!bBar) a.Step("S1y", nullptr, p.m_vy.m_dS, "mm³");
+    if (!bBar) a.Step("ty", nullptr, p.m_vy.m_dT, "mm");
+    a.Step(bX ? "τy" : "τ", bBar ? "1.5·{Vy}/{A}" : "{Vy}·{S1y}/({Ix}·{ty})", stress.m_dTauY,
+           "N/mm²");
   }
   if (!bX && !bY) a.Step("τ", nullptr, 0, "N/mm²");  // at a free edge
-  if (bX && bY)
-    a.Step("τ", s.m_nShape == CMemberShape::SolidBar ? "√({τx}² + {τy}²)" : "{τx} + {τy}",
-           stress.m_dTau, "N/mm²");
+  if (bX && bY) a.Step("τ", bBar ? "√({τx}² + {τy}²)" : "{τx} + {τy}", stress.m_dTau, "N/mm²");
 }
 
 // A round section at every degree of its circumference, all signs adding.

@@ -68,6 +68,8 @@ const CReported kReported[] = {
        c.m_dStiffeners = 1000;
        return c;
      }()},
+    {"bar", With(Sizes("rect", {60, 30}, "Q235", 1000, 1000), 20, 500, 0, 20)},
+    {"bar, both shears", With(Sizes("rect", {30, 30}, "Q235", 1000, 1000), 20, 500, 300, 20)},
     {"laced", With(Lattice("lacing", 2), -600, 20000)},
     {"battens", With(Lattice("battens", 2), -600, 0, 0, 20)},
     {"three limbs", With(Lattice("lacing", 3), -900, 0, 0, 60)},

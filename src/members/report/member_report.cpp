@@ -18,9 +18,18 @@ std::string Replaced(std::string text, std::string_view from, std::string_view t
   return text;
 }
 
+// An exponent as one group.
+std::string WithExponents(std::string text) {
+  for (std::size_t at = 0; (at = text.find('^', at)) != std::string::npos; ++at) {
+    text.insert(std::min(text.find_first_not_of("0123456789.", at + 1), text.size()), "}");
+    text.insert(at + 1, "{");
+  }
+  return text;
+}
+
 // The signs of a step's formula as the report writes them.
 std::string Signs(std::string_view part, const char* times) {
-  std::string text = Replaced(std::string(part), "·", times);
+  std::string text = Replaced(WithExponents(std::string(part)), "·", times);
   text = Replaced(text, "²", "^2");
   text = Replaced(text, "³", "^3");
   text = Replaced(text, "⁴", "^4");
@@ -231,10 +240,12 @@ class CReportWriter {
         {"箱形壁板", "wall with compression"},    {"圆管", "tube"}};
     std::vector<std::vector<std::string>> rows;
     for (const CMemberPlate& plate : plates) {
-      rows.push_back({m_body.Text(kNames[static_cast<std::size_t>(plate.m_nElement)]),
-                      PlainNumber(plate.m_dRatio), PlainNumber(plate.m_dAlpha0),
-                      plate.m_class ? SectionClassName(*plate.m_class)
-                                    : m_body.Text({"超出 S5", "beyond the last"})});
+      rows.push_back(
+          {m_body.Text(kNames[static_cast<std::size_t>(plate.m_nElement)]),
+           PlainNumber(plate.m_dRatio),
+           plate.m_nElement == CClassElement::WebCompressed ? PlainNumber(plate.m_dAlpha0) : "—",
+           plate.m_class ? SectionClassName(*plate.m_class)
+                         : m_body.Text({"超出 S5", "beyond the last"})});
     }
     const std::string plate = m_body.Text({"板件（3.5.1 条）", "Plate (3.5.1)"}) +
                               OfCombination(m_report.m_envelope.WorstCase());
