@@ -207,12 +207,13 @@ inline int ExpectSteps(const std::string& html) {
 
 // "a ≤ b", "a = b > c": the signs are true of the numbers beside them. Returns how many were held.
 inline int ExpectRelations(const std::string& html) {
-  static const std::regex kVerdict("</div><div class=\"m\">([^]*?)</div></td>");
+  static const std::regex kVerdict(
+      "<td><div class=\"m\">((?:(?!</div>)[^])*)</div><div class=\"m\">([^]*?)</div></td>");
   static const std::regex kSigns("(.*?) (?:= ([^=]*) )?(≤|<|>|≮) ([-0-9.E+]+)(?: .*)?");
   int held = 0;
   for (std::sregex_iterator verdict(html.begin(), html.end(), kVerdict), end; verdict != end;
        ++verdict) {
-    const std::string text = TextOf((*verdict)[1]);
+    const std::string text = TextOf((*verdict)[2]);
     std::smatch part;
     if (!std::regex_match(text, part, kSigns)) {
       ADD_FAILURE() << "no comparison: " << text;
@@ -226,6 +227,7 @@ inline int ExpectRelations(const std::string& html) {
     }
     if (part[3] == "≤" || part[3] == "<") {
       EXPECT_LE(left.low, right.high) << text;
+      EXPECT_EQ(part[3] == "<", TextOf((*verdict)[1]).find('<') != std::string::npos) << text;
     } else {
       EXPECT_GE(left.high, right.low) << text;
     }

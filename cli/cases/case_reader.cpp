@@ -2,6 +2,7 @@
 
 #include "codes/slip.h"
 #include "codes/weld_strength.h"
+#include "framework/excerpt.h"
 
 namespace orv3::cli {
 namespace {
@@ -59,12 +60,17 @@ CCaseFault NoChoice(const std::string& key, CCodeEdition edition, const CKeyValu
                     std::span<const char* const> choices) {
   const std::string name = Name(edition);
   const std::string is = ValueText(value);
-  std::string right;
-  for (const char* choice : choices)
-    right += std::string(right.empty() ? "\"" : ", \"") + choice + "\"";
+  const auto* text = std::get_if<std::string_view>(&value);
+  CText right;
+  for (const char* choice : choices) {
+    const bool bFirst = right.m_strEnglish.empty();
+    right.m_strChinese += std::string(bFirst ? "“" : "、“") + choice + "”";
+    right.m_strEnglish += std::string(bFirst ? "\"" : ", \"") + choice + "\"";
+  }
   return {key,
-          {name + " 无 " + is, name + " has no " + is},
-          {"请给出下列之一：" + right, "give one of " + right}};
+          {name + (text != nullptr ? " 无“" + Excerpt(*text) + "”" : " 无 " + is),
+           name + " has no " + is},
+          {"请给出下列之一：" + right.m_strChinese, "give one of " + right.m_strEnglish}};
 }
 
 }  // namespace orv3::cli

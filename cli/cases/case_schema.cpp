@@ -80,6 +80,8 @@ CCaseSchema::CRule ReadRule(const std::string& key, const CJson& json) {
     if (value.is_string()) rule.m_arrText.push_back(value.get<std::string>());
     if (value.is_number()) rule.m_arrNumber.push_back(value.get<double>());
   }
+  // Which of a list of typed numbers are right the check says, by the other keys.
+  rule.m_bListed = !rule.m_arrNumber.empty() && !json.contains("type");
   ReadRange(json, rule.m_range);
   rule.m_nLeastItems = json.value("minItems", std::size_t{0});
   if (json.contains("items")) ReadItems(json["items"], rule);
@@ -96,6 +98,12 @@ bool Within(double value, const CCaseSchema::CRange& range) noexcept {
 void Append(CText& text, const CText& more) {
   text.m_strChinese += more.m_strChinese;
   text.m_strEnglish += more.m_strEnglish;
+}
+
+// A further item of a list.
+CText Next(const CText& list, const CText& item) {
+  if (list.m_strEnglish.empty()) return item;
+  return {"、" + item.m_strChinese, ", " + item.m_strEnglish};
 }
 
 CText RangeWords(const CCaseSchema::CRange& range) {
@@ -119,22 +127,25 @@ bool Among(const std::vector<VALUE>& allowed, const auto& value) noexcept {
   return allowed.empty() || std::find(allowed.begin(), allowed.end(), value) != allowed.end();
 }
 
-CText NotPossible(const std::string& value) {
-  return {value + " 不可用", value + " is not possible"};
+CText NotPossible(const CKeyValue& value) {
+  const std::string text = ValueText(value);
+  if (const auto* given = std::get_if<std::string_view>(&value))
+    return {"“" + Excerpt(*given) + "”不可用", text + " is not possible"};
+  return {text + " 不可用", text + " is not possible"};
 }
 
 // What is wrong with a value by itself.
 std::optional<CText> Wrong(const CCaseSchema::CRule& rule, const CKeyValue& value) {
   if (const auto* text = std::get_if<std::string_view>(&value)) {
     if (rule.m_bText && Among(rule.m_arrText, *text)) return std::nullopt;
-    return NotPossible(ValueText(value));
+    return NotPossible(value);
   }
   if (const auto* number = std::get_if<double>(&value)) {
     if (rule.m_bBoolean && (*number == 0 || *number == 1)) return std::nullopt;
     const bool bKind = rule.m_bNumber && !(rule.m_bInteger && *number != std::floor(*number));
-    if (bKind && Within(*number, rule.m_range) && Among(rule.m_arrNumber, *number))
-      return std::nullopt;
-    return NotPossible(ValueText(value));
+    const bool bListed = !rule.m_bListed || Among(rule.m_arrNumber, *number);
+    if (bKind && Within(*number, rule.m_range) && bListed) return std::nullopt;
+    return NotPossible(value);
   }
   if (!rule.m_bArray) return CText{"不能给数列", "a list is not possible"};
   const auto list = std::get<std::span<const double>>(value);
@@ -168,21 +179,23 @@ std::string ValueText(const CKeyValue& value) {
 }
 
 CText CCaseSchema::CRule::Right() const {
-  std::string right;
-  for (const std::string& text : m_arrText) right += (right.empty() ? "\"" : ", \"") + text + "\"";
+  CText right;
+  for (const std::string& text : m_arrText)
+    Append(right, Next(right, {"“" + text + "”", '"' + text + '"'}));
   for (const double each : m_arrNumber) {
     const std::string number = PlainNumber(each);
     const bool bAsText = std::find(m_arrText.begin(), m_arrText.end(), number) != m_arrText.end();
-    if (!bAsText) right += (right.empty() ? "" : ", ") + number;
+    if (!bAsText) Append(right, Next(right, {number, number}));
   }
-  if (!right.empty()) return {"请给出下列之一：" + right, "give one of " + right};
+  if (!right.m_strEnglish.empty())
+    return {"请给出下列之一：" + right.m_strChinese, "give one of " + right.m_strEnglish};
   if (m_bText) return {"请给出文字", "give a text"};
   if (!m_arrPartKey.empty()) return {"请给出对象的数组", "give an array of objects"};
   if (!m_arrMember.empty()) {
-    std::string members;
-    for (const std::string& member : m_arrMember) members += (members.empty() ? "" : ", ") + member;
-    return {"请给出对象的数组，每个含 " + members,
-            "give an array of objects, each with " + members};
+    CText members;
+    for (const std::string& member : m_arrMember) Append(members, Next(members, {member, member}));
+    return {"请给出对象的数组，每个含 " + members.m_strChinese,
+            "give an array of objects, each with " + members.m_strEnglish};
   }
   if (m_bBoolean) return {"请给出 true 或 false", "give true or false"};
   CText words = m_bInteger ? CText{"请给出整数", "give a whole number"}
@@ -296,20 +309,22 @@ int CCaseSchema::Find(std::string_view key) const noexcept {
 }
 
 CCaseFault CCaseSchema::Unknown(std::string_view key) const {
-  std::string known;
-  for (const CRule& rule : m_arrRule) known += (known.empty() ? "" : ", ") + rule.m_strKey;
+  CText known;
+  for (const CRule& rule : m_arrRule) Append(known, Next(known, {rule.m_strKey, rule.m_strKey}));
   return {Excerpt(key),
           {"不是此处的键", "is no key here"},
-          {"可用的键为 " + known, "the keys are " + known}};
+          {"可用的键为 " + known.m_strChinese, "the keys are " + known.m_strEnglish}};
 }
 
 CCaseFault CCaseSchema::Unknown(std::string_view key, const CRule& parts) const {
-  std::string known;
-  for (const int at : parts.m_arrPartKey)
-    known += (known.empty() ? "" : ", ") + m_arrRule[static_cast<std::size_t>(at)].m_strKey;
+  CText known;
+  for (const int at : parts.m_arrPartKey) {
+    const std::string& name = m_arrRule[static_cast<std::size_t>(at)].m_strKey;
+    Append(known, Next(known, {name, name}));
+  }
   return {parts.m_strKey + '.' + Excerpt(key),
           {"不是此处的键", "is no key here"},
-          {"可用的键为 " + known, "the keys are " + known}};
+          {"可用的键为 " + known.m_strChinese, "the keys are " + known.m_strEnglish}};
 }
 
 bool CCaseSchema::Holds(const CNeed& need, const CCaseValues& values) const {
@@ -348,7 +363,7 @@ std::optional<CCaseFault> CCaseSchema::CheckAlternatives(const CCaseValues& valu
 CCaseFault CCaseSchema::Never(const CNeed& need, int key) const {
   const std::string& condition = m_arrRule[static_cast<std::size_t>(need.m_nIf)].m_strKey;
   return {m_arrRule[static_cast<std::size_t>(key)].m_strKey,
-          {condition + " 为 \"" + need.m_strConst + "\" 时不用",
+          {condition + " 为“" + need.m_strConst + "”时不用",
            "has no place where " + condition + " is \"" + need.m_strConst + "\""},
           {"请删去", "leave it out"}};
 }

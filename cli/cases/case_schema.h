@@ -43,6 +43,7 @@ class CCaseSchema {
     bool m_bBoolean = false;             // 1 or 0 as a value
     std::vector<std::string> m_arrText;  // allowed texts
     std::vector<double> m_arrNumber;     // allowed numbers
+    bool m_bListed = false;              // whether another is refused here, not by the check
     CRange m_range;
     CRange m_items;                 // of the numbers of an array
     std::size_t m_nLeastItems = 0;  // of an array: 1 where an empty one says nothing

@@ -130,11 +130,13 @@ std::string Put(double value) {
   return value < 0 ? "(" + text + ")" : text;
 }
 
-std::string Relation(double effect, double limit, bool bPass) {
+std::string Relation(double effect, double limit, bool bPass, std::string_view passes) {
   // What passes by the last digits of a double alone is the limit itself.
-  const CComparedText text = Compared(bPass ? std::min(effect, limit) : effect, limit);
-  const char* sign = bPass ? " ≤ " : effect > limit ? " > " : " ≮ ";
-  return text.m_strEffect + sign + text.m_strLimit;
+  const CComparedText text = passes == "<"
+                                 ? Apart(effect, limit)
+                                 : Compared(bPass ? std::min(effect, limit) : effect, limit);
+  const std::string sign(bPass ? passes : effect > limit ? ">" : "≮");
+  return text.m_strEffect + " " + sign + " " + text.m_strLimit;
 }
 
 std::string InputText(int value, std::span<const char* const> choices) {

@@ -23,8 +23,9 @@ std::string Formula(std::string_view text);
 // A number put into a formula, a negative one in brackets.
 std::string Put(double value);
 
-// An effect against its limit: "7.1 ≤ 8", with the digits that show one that fails.
-std::string Relation(double effect, double limit, bool bPass);
+// An effect against its limit: "7.1 ≤ 8", with the digits that show one that fails. `passes`: "≤",
+// or "<" where equality fails.
+std::string Relation(double effect, double limit, bool bPass, std::string_view passes = "≤");
 
 // One step: what is computed, the formula in symbols, the numbers put in and what comes out.
 struct CReportStep {

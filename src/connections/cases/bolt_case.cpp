@@ -97,12 +97,12 @@ std::span<const CResultKey<CBoltResults>> CBoltCheck::ResultKeys() {
       {"Nt", &R::m_dNt, "kN", {"最大拉力 Nt", "greatest tension Nt"}},
       {"l1", &R::m_dL1, "mm", {"连接长度 l1", "joint length l1"}},
       {"beta", &R::m_dBeta, "", {"长连接折减系数 β", "long-joint factor β"}},
-      {"ratio", &R::m_dRatio, "", {"螺栓相关式之值", "interaction ratio"}},
-      {"sigmaX", &R::m_dSigmaX, "N/mm²", {"x 向截面应力 σx", "section stress from Vx"}},
-      {"sigmaY", &R::m_dSigmaY, "N/mm²", {"y 向截面应力 σy", "section stress from Vy"}},
+      {"ratio", &R::m_dRatio, "", {"螺栓受力相关公式之值", "interaction ratio"}},
+      {"sigmaX", &R::m_dSigmaX, "N/mm²", {"板件截面应力 σx（Vx）", "section stress from Vx"}},
+      {"sigmaY", &R::m_dSigmaY, "N/mm²", {"板件截面应力 σy（Vy）", "section stress from Vy"}},
       {"passForces", &R::m_bForces, "", {"螺栓受力", "bolt forces"}},
-      {"passX", &R::m_bX, "", {"x 向截面", "section for Vx"}},
-      {"passY", &R::m_bY, "", {"y 向截面", "section for Vy"}},
+      {"passX", &R::m_bX, "", {"板件截面（Vx）", "section for Vx"}},
+      {"passY", &R::m_bY, "", {"板件截面（Vy）", "section for Vy"}},
   };
   return kKeys;
 }
@@ -176,11 +176,11 @@ void CBoltCheck::ReadResults(const CBoltCase& input) {
 
 void CBoltCheck::JudgeParts() {
   const CBoltFigures& j = m_figures;
-  Judge({"螺栓相关式", "bolt interaction"}, "passForces", j.m_dRatio);
+  Judge({"螺栓受力相关公式", "bolt interaction"}, "passForces", j.m_dRatio);
   if (m_record.m_nBoltType != kFrictionBolt)
     Judge({"孔壁承压", "bearing"}, "passForces", j.m_dNv / j.m_dBearing);
-  Judge({"x 向截面", "section for Vx"}, "passX", j.m_x.Worst() / m_results.m_dF);
-  Judge({"y 向截面", "section for Vy"}, "passY", j.m_y.Worst() / m_results.m_dF);
+  Judge({"板件截面（Vx）", "section for Vx"}, "passX", j.m_x.Worst() / m_results.m_dF);
+  Judge({"板件截面（Vy）", "section for Vy"}, "passY", j.m_y.Worst() / m_results.m_dF);
 }
 
 }  // namespace orv3

@@ -26,18 +26,21 @@ void BoltFieldFaults(const CBoltCase& input, CFaultList& faults) {
   faults.Within("layout", input.m_nLayout, 0, 1);
   faults.Within("type", input.m_nType, 0, 2);
   faults.Within("steel", input.m_nSteel, 0, 3);
-  DiameterFault(input.m_nD, faults);
-  if (input.m_nType == kFrictionBolt) {
+  const CText preloaded = {"请给 16、20、22、24、27 或 30", "give 16, 20, 22, 24, 27 or 30"};
+  if (input.m_nType != kFrictionBolt) {
+    DiameterFault(input.m_nD, ThreadDiameters(), faults);
+    faults.Within("nv", input.m_nNv, 1, 100);
+    faults.Positive("sumT", input.m_dSumT, "mm");
+  } else {
     if (input.m_nD < 16) {
       const std::string d = "M" + std::to_string(input.m_nD);
       faults.Add("d", {"表 7.2.2-2 无 " + d + " 的预拉力", "Table 7.2.2-2 has no preload for " + d},
-                 {"请给 16 或更大", "give 16 or more"});
+                 preloaded);
+    } else {
+      DiameterFault(input.m_nD, preloaded, faults);
     }
     faults.Within("nf", input.m_nNf, 1, 100);
     faults.Within("surface", input.m_nSurface, 0, 4);
-  } else {
-    faults.Within("nv", input.m_nNv, 1, 100);
-    faults.Positive("sumT", input.m_dSumT, "mm");
   }
   if (input.m_nType == kOrdinaryBolt) faults.Within("class", input.m_nClass, 0, 2);
   faults.Positive("t", input.m_dThick, "mm");
@@ -131,8 +134,8 @@ void ThreadWarning(const NormalBoltData& record, const CBoltFigures& figures, in
   const std::string ratios = Ratios(record, figures);
   warnings.push_back(
       {"threads",
-       {"记录的受剪承载力 " + full + " 按螺杆全截面计算；剪切面在螺纹处，按有效面积的 " + less +
-            " 验算（7.2.3 条；相关式 " + ratios + "）。" + open.m_szChinese,
+       {"受剪承载力 " + full + " 按螺杆全截面计算；剪切面在螺纹处，按有效面积的 " + less +
+            " 验算（7.2.3 条；相关公式 " + ratios + "）。" + open.m_szChinese,
         "The record's shear resistance of " + full +
             " is that of the whole shank; judged by that of the threads in the shear plane, " +
             less + " (7.2.3; interaction " + ratios + ")." + open.m_szEnglish}});
@@ -142,13 +145,12 @@ void ShearWarnings(const NormalBoltData& record, const CBoltFigures& figures,
                    std::vector<CCaseWarning>& warnings) {
   if (!Differ(record.m_dNv, figures.m_dNv)) return;
   const auto [was, is] = Apart(record.m_dNv, figures.m_dNv);
-  warnings.push_back(
-      {"T",
-       {"扭矩为负：记录值 Nv = " + was + " kN 把其分力与直接剪力相抵；按相加的 Nv = " + is +
-            " kN 验算（相关式 " + Ratios(record, figures) + "）。",
-        "The torque is negative: the record's Nv = " + was +
-            " kN takes its share off the direct shear; judged by Nv = " + is +
-            " kN, where it adds (interaction " + Ratios(record, figures) + ")."}});
+  warnings.push_back({"T",
+                      {"扭矩为负：初算 Nv = " + was + " kN 把其分力与直接剪力相抵；按相加的 Nv = " +
+                           is + " kN 验算（相关公式 " + Ratios(record, figures) + "）。",
+                       "The torque is negative: the record's Nv = " + was +
+                           " kN takes its share off the direct shear; judged by Nv = " + is +
+                           " kN, where it adds (interaction " + Ratios(record, figures) + ")."}});
 }
 
 void TensionWarnings(const NormalBoltData& record, const CBoltFigures& figures,
@@ -170,8 +172,8 @@ void TensionWarnings(const NormalBoltData& record, const CBoltFigures& figures,
   };
   const CTextLiteral& how = kHow[static_cast<int>(figures.m_nTurn)];
   warnings.push_back({"M",
-                      {"记录值 " + was + " 偏于不安全；按" + how.m_szChinese + "的 " + is +
-                           " 验算（相关式 " + Ratios(record, figures) + "）。",
+                      {"初算 " + was + " 偏于不安全；按" + how.m_szChinese + "的 " + is +
+                           " 验算（相关公式 " + Ratios(record, figures) + "）。",
                        "The record's " + was + " is on the unsafe side; judged by " + is + ", " +
                            how.m_szEnglish + " (interaction " + Ratios(record, figures) + ")."}});
 }
@@ -185,8 +187,8 @@ void BearingWarnings(const NormalBoltData& record, const CBoltFigures& figures,
     const std::string is = PercentNumber(figures.m_dNv / figures.m_dBearing) + " %";
     warnings.push_back(
         {"Vx",
-         {"记录按 Nv ≤ Ncb / 1.2 判定孔壁承压（" + was +
-              "）；7.2.3 条仅在同时受拉时要求除以 1.2，无拉力按 Ncb 验算（" + is + "）。",
+         {"按 Nv ≤ Ncb / 1.2 初算的孔壁承压为 " + was +
+              "；7.2.3 条仅在同时受拉时要求除以 1.2，无拉力按 Ncb 验算（" + is + "）。",
           "The record holds Nv against Ncb / 1.2 (" + was +
               "), which 7.2.3 asks only together with tension; judged against Ncb (" + is + ")."}});
   }
@@ -207,7 +209,7 @@ void SectionWarning(const char* key, double recorded, const CPlateSection& secti
       bFriction ? ", 1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
   warnings.push_back(
       {key,
-       {std::string("记录的 ") + key + " 截面应力为 " + was + "；按 5.1.1 条最不利截面（" + number +
+       {std::string(key) + " 的板件截面应力初算为 " + was + "；按 5.1.1 条最不利截面（" + number +
             " 孔，净面积 " + area + share + "）验算：" + is + "。",
         std::string("The record's section stress from ") + key + " is " + was +
             "; judged by the worst section of 5.1.1 (" + number +

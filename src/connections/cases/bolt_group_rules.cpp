@@ -97,12 +97,15 @@ void NothingFault(const CBoltCase& input, CFaultList& faults) {
 
 }  // namespace
 
-void DiameterFault(int diameter, CFaultList& faults) {
+CText ThreadDiameters() {
+  return {"请给 10、12、14、16、18、20、22、24、27、30 或表中更大的直径",
+          "give 10, 12, 14, 16, 18, 20, 22, 24, 27, 30 or a larger one that it has"};
+}
+
+void DiameterFault(int diameter, const CText& right, CFaultList& faults) {
   if (EffectiveDiameter(diameter) > 0) return;
   const std::string d = std::to_string(diameter);
-  faults.Add("d", {d + " 不是表中的直径", d + " is no diameter of the table"},
-             {"请给 10、12、14、16、18、20、22、24、27、30 或表中更大的直径",
-              "give 10, 12, 14, 16, 18, 20, 22, 24, 27, 30 or a larger one that it has"});
+  faults.Add("d", {d + " 不是表中的直径", d + " is no diameter of the table"}, right);
 }
 
 void GroupFaults(const CBoltCase& input, CFaultList& faults) {

@@ -6,8 +6,9 @@
 
 namespace orv3 {
 
-// A diameter that the table of threads lacks.
-void DiameterFault(int diameter, CFaultList& faults);
+// The diameters of the table of threads, and one that it lacks; `right`: what the bolts may have.
+CText ThreadDiameters();
+void DiameterFault(int diameter, const CText& right, CFaultList& faults);
 // Too many bolts, and a staggered group of one line.
 void GroupFaults(const CBoltCase& input, CFaultList& faults);
 // A property class that the bolts do not have.

@@ -29,7 +29,7 @@ std::vector<CCaseWarning> ButtWarnings(const CButtResults& r, const CWeldFigures
     const std::string fcw = PlainNumber(r.m_dFcw);
     warnings.push_back({"quality",
                         {"受拉边缘 " + tension + " N/mm² 按 ftw = " + ftw +
-                             " N/mm² 验算；记录以 fcw = " + fcw + " N/mm² 为限。",
+                             " N/mm² 验算，不以 fcw = " + fcw + " N/mm² 为限。",
                          "The pulled edge, " + tension + " N/mm², is judged by ftw = " + ftw +
                              " N/mm²; the record's limit is fcw = " + fcw + " N/mm²."}});
   }

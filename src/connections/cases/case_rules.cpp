@@ -42,7 +42,7 @@ void WarnOfOther(const char* key, const CTextLiteral& what, double record, doubl
   if (std::fabs(record - judged) <= 1e-9 * std::fabs(judged)) return;
   const auto [was, is] = Apart(record, judged);
   warnings.push_back({key,
-                      {std::string("记录的") + what.m_szChinese + "为 " + was + " N/mm²；按 " + is +
+                      {std::string(what.m_szChinese) + "初算为 " + was + " N/mm²；按 " + is +
                            " N/mm² 验算：" + why.m_szChinese + "。",
                        std::string("The record's ") + what.m_szEnglish + " is " + was +
                            " N/mm²; judged by " + is + " N/mm²: " + why.m_szEnglish + "."}});

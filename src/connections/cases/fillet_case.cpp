@@ -44,7 +44,7 @@ void ThroatFaults(const CFilletCase& input, const std::string& clause, CFaultLis
     faults.Add("angle",
                {is + "：" + clause + " 条未给出小于 40° 的单边 V 形和 K 形坡口的计算厚度",
                 is + ": " + clause + " gives no throat for bevel and K grooves below 40°"},
-               {"请给 40° 或更大，或直接给 he", "give 40° or more, or the throat he"});
+               {"请给 40° 至 50°，或直接给 he", "give 40° to 50°, or the throat he"});
   }
 }
 
@@ -67,7 +67,8 @@ void StressWarnings(const CFilletCase& input, const CFilletResults& r, const CWe
       "a side fillet weld counts to 60 hf (8.2.7); where the force acts along all of its length "
       "give "
       "he in the place of hf"};
-  static constexpr CTextLiteral kCombined = {"取上述各值", "by the figures judged"};
+  static constexpr CTextLiteral kCombined = {"由验算所用的 σf、τf 求得",
+                                             "of the σf and τf that are judged"};
   WarnOfOther("M", {"正应力", "stress across"}, std::fabs(r.m_dSigma),
               std::max(judged.m_dTension, judged.m_dCompression), kBothEdges, warnings);
   if (!judged.m_bShear) return;

@@ -78,7 +78,11 @@ void FieldFaults(const CBoltCase2017& input, CFaultList& faults) {
   faults.Within("type", input.m_nType, 0, 2);
   faults.Within("steel", input.m_nSteel, 0, gb2017::kLastSteel);
   faults.Within("hole", input.m_nHole, CBoltCase2017::kNotSaid, 3);
-  DiameterFault(input.m_nD, faults);
+  if (input.m_nType == kOrdinaryBolt) {
+    DiameterFault(input.m_nD, ThreadDiameters(), faults);
+  } else {  // either grade has the same diameters
+    gb2017::Take(Preload(gb2017::kEdition, CBoltGrade::G109, input.m_nD), "d", faults);
+  }
   faults.Positive("t", input.m_dThick, "mm");
   if (input.m_nType == kFrictionBolt) {
     faults.Within("nf", input.m_nNf, 1, 100);
@@ -191,7 +195,6 @@ void CBoltCheck2017::LookUp(const CBoltCase2017& input, CFaultList& faults) {
   r.m_dFu = steel.m_dFu.value_or(0);
   CHoleSize hole = {OrdinaryHole(input), OrdinaryHole(input)};
   if (input.m_nType != kOrdinaryBolt) {
-    // The preloads first: they have fewer diameters than the holes.
     r.m_nP = static_cast<int>(Take(Preload(kEdition, GradeOf(input), input.m_nD), "d", faults));
     hole = Take(HoleSize(kEdition, HoleOf(input), input.m_nD), "d", faults);
   }
@@ -255,7 +258,7 @@ void CBoltCheck2017::Compute(const CBoltCase2017& input) {
 // 7.1.1: the net section against 0.7 fu, the gross one against f.
 void CBoltCheck2017::JudgeParts(const CBoltCase2017& input) {
   CBoltResults2017& r = m_results;
-  Judge({"螺栓相关式", "bolt interaction"}, "passForces", m_figures.m_dRatio);
+  Judge({"螺栓受力相关公式", "bolt interaction"}, "passForces", m_figures.m_dRatio);
   if (input.m_nType != kFrictionBolt)
     Judge({"孔壁承压", "bearing"}, "passForces", m_figures.m_dNv / m_figures.m_dBearing);
   r.m_bForces = Pass();
@@ -267,8 +270,8 @@ void CBoltCheck2017::JudgeParts(const CBoltCase2017& input) {
     Judge(name, key, std::max(net, gross));
     return Parts().back().m_bPass;
   };
-  r.m_bX = judge({"x 向截面", "section for Vx"}, "passX", m_figures.m_x, r.m_dSigmaX);
-  r.m_bY = judge({"y 向截面", "section for Vy"}, "passY", m_figures.m_y, r.m_dSigmaY);
+  r.m_bX = judge({"板件截面（Vx）", "section for Vx"}, "passX", m_figures.m_x, r.m_dSigmaX);
+  r.m_bY = judge({"板件截面（Vy）", "section for Vy"}, "passY", m_figures.m_y, r.m_dSigmaY);
   // A torque pushes bolts along both axes.
   const bool bTorque = !IsZero(input.m_dT);
   const bool bRolled = input.m_nEdges == 1 && input.m_nType == kOrdinaryBolt;

@@ -179,22 +179,26 @@ CSteps FilletSteps(const CFilletCase& input, const CFilletResults& r, const CWel
   return steps;
 }
 
-// A weld's parts in the order that its check judges them.
+// A weld's parts in the order that its check judges them. `relation` of the combined stress: "<"
+// where one that is equal to its limit fails.
 template <class CHECK>
 CVerdicts WeldVerdicts(const CHECK& check, const char* clause, const std::string& across,
-                       const std::string& along, const std::string& combined) {
+                       const std::string& along, const std::string& combined,
+                       const std::string& limitOfCombined, const char* relation = "≤") {
   const CWeldFigures& judged = check.Figures();
   CVerdicts verdicts;
-  const auto add = [&](const std::string& condition, double effect, double limit) {
+  const auto add = [&](const std::string& condition, double effect, double limit,
+                       const char* passes = "≤") {
     const CCasePart& part = check.Parts()[verdicts.size()];
     verdicts.push_back({part.m_name, clause, condition,
-                        Relation(effect, limit, part.m_bPass) + " \\N/\\mm²", part.m_dUtilisation,
-                        part.m_bPass});
+                        Relation(effect, limit, part.m_bPass, passes) + " \\N/\\mm²",
+                        part.m_dUtilisation, part.m_bPass});
   };
   add(across, judged.Across(), judged.AcrossLimit());
   if (!judged.m_bShear) return verdicts;
   add(along, judged.m_dTau, judged.m_dTauLimit);
-  add(combined, judged.m_dCombined, judged.m_dCombinedLimit);
+  add(combined + " " + relation + " " + limitOfCombined, judged.m_dCombined,
+      judged.m_dCombinedLimit, relation);
   return verdicts;
 }
 
@@ -203,10 +207,9 @@ CVerdicts FilletVerdicts(const CHECK& check, const CFilletClauses& clauses, doub
   const CWeldFigures& judged = check.Figures();
   const double beta = judged.TensionGoverns() ? judged.m_dBetaTension : judged.m_dBetaCompression;
   const std::string ffw = alphaF < 1 ? "α_f f_f^w" : "f_f^w";
-  return WeldVerdicts(check, clauses.m_szRight,
-                      "|σ_f| ≤ β_f " + ffw + ",  β_f = " + PlainNumber(beta),
-                      (judged.m_dFusion < 1 ? "|τ_f| ≤ 0.9 " : "|τ_f| ≤ ") + ffw,
-                      std::string(Combined(judged)) + " ≤ " + ffw);
+  return WeldVerdicts(
+      check, clauses.m_szRight, "|σ_f| ≤ β_f " + ffw + ",  β_f = " + PlainNumber(beta),
+      (judged.m_dFusion < 1 ? "|τ_f| ≤ 0.9 " : "|τ_f| ≤ ") + ffw, Combined(judged), ffw);
 }
 
 CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigures& judged,
@@ -251,11 +254,10 @@ CSteps ButtSteps(const CButtCase& input, const CButtResults& r, const CWeldFigur
   return steps;
 }
 
-// `relation` of the reduced stress: 2003 fails one that is equal to its limit.
 template <class CHECK>
-CVerdicts ButtVerdicts(const CHECK& check, const char* clause, const std::string& relation) {
+CVerdicts ButtVerdicts(const CHECK& check, const char* clause, const char* relation) {
   return WeldVerdicts(check, clause, check.Figures().TensionGoverns() ? "σ ≤ f_t^w" : "|σ| ≤ f_c^w",
-                      "|τ| ≤ f_v^w", "√(σ^2 + 3 τ^2) " + relation + " 1.1 f_t^w");
+                      "|τ| ≤ f_v^w", "√(σ^2 + 3 τ^2)", "1.1 f_t^w", relation);
 }
 
 template <class CHECK>

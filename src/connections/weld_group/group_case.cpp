@@ -39,9 +39,10 @@ void OverlapFault(const std::vector<CWeldLine>& welds, CFaultList& faults) {
   const std::string b = std::to_string(close->second + 1);
   faults.Add(
       "welds",
-      {"第 " + a + " 条与第 " + b + " 条焊缝重叠，或并列而相距不足一个焊脚，重叠处会计两次",
+      {"第 " + a + " 条与第 " + b + " 条焊缝重叠，或并列而相距不足较小焊脚的 1/1.2，重叠处会计两次",
        "welds " + a + " and " + b +
-           " lie on one another, or side by side nearer than a leg, and would count twice there"},
+           " lie on one another, or side by side nearer than the smaller leg over 1.2, and would "
+           "count twice there"},
       {"请只给一次", "give each stretch of weld once"});
 }
 
