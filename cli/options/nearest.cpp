@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "framework/language.h"
 #include "framework/utf8.h"
 
 namespace orv3::cli {
@@ -32,11 +33,13 @@ std::size_t Changes(std::wstring_view from, std::wstring_view to) {
   return row.back();
 }
 
-// Less is nearer.
+// Less is nearer. A column's unit, as in "h(mm)", need not have been given.
 std::size_t Distance(std::wstring_view wrong, const std::wstring& name) {
+  const std::wstring_view stem = std::wstring_view(name).substr(0, name.find(L'('));
   const bool part =
       name.find(wrong) != std::wstring::npos || wrong.find(name) != std::wstring_view::npos;
-  return Changes(wrong, name) + (part && !wrong.empty() && !name.empty() ? 0 : 1000);
+  return std::min(Changes(wrong, name), Changes(wrong, stem)) +
+         (part && !wrong.empty() && !name.empty() ? 0 : 1000);
 }
 
 }  // namespace
@@ -50,7 +53,7 @@ std::string Nearest(std::string_view wrong, std::span<const CString> names) {
   std::sort(found.begin(), found.end());
   std::string list;
   for (std::size_t i = 0; i < std::min(found.size(), kAnswers); ++i) {
-    list += (i == 0 ? "" : ", ") + ToUtf8(names[found[i].second]);
+    list += (i == 0 ? "" : Say("、", ", ")) + ToUtf8(names[found[i].second]);
   }
   return list;
 }

@@ -10,7 +10,7 @@
 
 namespace orv3::cli {
 
-// Up to three of `names`, nearest first and joined with ", ": those that hold the wrong name or
+// Up to three of `names`, nearest first and joined as a list: those that hold the wrong name or
 // are held by it first, then by the number of characters to change; capitals count as small
 // letters. Empty only without names.
 std::string Nearest(std::string_view wrong, std::span<const CString> names);

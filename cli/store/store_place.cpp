@@ -1,7 +1,9 @@
 #include "store/store_place.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 #include "catalogue/exact/exact_figures.h"
 #include "error.h"
@@ -125,6 +127,13 @@ CString PathToWrite(const CStoreOptions& options, bool bThere) {
   return path;
 }
 
+// The user's own folder where the store comes into it and it is not there yet, else empty.
+CString NewFolder(const CStoreOptions& options) {
+  const bool named = !options.store.empty() || NamesFolder(options);
+  const CString folder = named ? CString() : FolderOf(UserStore());
+  return folder.IsEmpty() || Files().IsFolder(folder) ? CString() : folder;
+}
+
 // The user's own store starts with the bytes of the shipped one, if there is one.
 void StartFromShipped(const CString& user) {
   const CString shipped = ShippedStore();
@@ -196,8 +205,15 @@ std::string WhichStore(const CStoreOptions& options) {
   return std::string(which["store"]) + " (" + origin + ")";
 }
 
+CStoreToWrite::CNewFolder::~CNewFolder() {
+  if (m_strPath.IsEmpty()) return;
+  std::error_code error;  // of a folder that is no longer empty, which stays
+  const std::string path = ToUtf8(m_strPath);
+  std::filesystem::remove(std::u8string(path.begin(), path.end()), error);
+}
+
 CStoreToWrite::CStoreToWrite(const CStoreOptions& options, bool bThere)
-    : m_strPath(PathToWrite(options, bThere)), m_batch(m_strPath) {
+    : m_folder{NewFolder(options)}, m_strPath(PathToWrite(options, bThere)), m_batch(m_strPath) {
   if (!m_batch.IsHeld()) Fail(LastStoreError().m_strText);
   if (options.store.empty() && !NamesFolder(options)) StartFromShipped(m_strPath);
   UseFor(m_strPath, options.store.empty() ? m_strPath : Catalogue(options));

@@ -41,7 +41,8 @@ CJson WhichStoreJson(const CStoreOptions& options);
 
 // The store to change, kept to this command from its making to its end, with look-ups as above. It
 // may be one that is not there yet. What is saved into it comes into the file with Commit, the copy
-// of the shipped store with it: a command that is refused or changes nothing leaves nothing behind.
+// of the shipped store with it: a command that is refused or changes nothing leaves nothing behind,
+// nor the folder of the user's stores if that was not there.
 // CCommandError with status 3 when the store, busy for five seconds perhaps, cannot be had.
 class CStoreToWrite {
  public:
@@ -51,6 +52,12 @@ class CStoreToWrite {
   void Commit();
 
  private:
+  // Takes away the folder that it names unless something stands in it.
+  struct CNewFolder {
+    CString m_strPath;
+    ~CNewFolder();
+  };
+  CNewFolder m_folder;  // taken away after the batch has left it
   CString m_strPath;
   CStoreBatch m_batch;
 };

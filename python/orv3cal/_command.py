@@ -5,6 +5,7 @@ from __future__ import annotations
 import json
 import math
 import numbers
+import re
 import warnings
 from pathlib import Path
 from typing import Any, Iterable, Mapping, Optional, Sequence, Union
@@ -85,8 +86,10 @@ def _has_half_a_pair(text: str) -> bool:
 
 
 def sentence(told: str) -> str:
-    """The command's own, without its name and that of standard input in front."""
+    """The command's own, without its name and that of standard input in front; its options that
+    name a store as they are given here."""
     text = told.strip().split("\n")[-1]
+    text = re.sub(r"--(store|data)\b( FILE| DIR)?", r"\1=", text)
     return text.removeprefix("orv3cal: ").removeprefix("-: ")
 
 
