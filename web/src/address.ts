@@ -41,3 +41,12 @@ export function go(values: State): void {
   history.pushState(null, "", addressOf(kept));
   dispatchEvent(new Event("popstate"));
 }
+
+let views = 0;
+
+// A view is about to be drawn. Tells whether no other has been since: what an older one still has to say, when
+// its answers come, counts no more.
+export function startView(): () => boolean {
+  const mine = ++views;
+  return () => mine === views;
+}

@@ -1,5 +1,5 @@
 // The page: its head, and the view that the address names.
-import { change, go, state } from "./address";
+import { change, go, startView, state } from "./address";
 import { choose } from "./choose";
 import { connections, latticeColumns, members } from "./checks";
 import { onBusy, run, stop } from "./client";
@@ -48,6 +48,7 @@ function head(view: string): HTMLElement {
 let draws = 0;
 async function draw(): Promise<void> {
   const mine = ++draws;
+  startView();
   const view = state()["view"] ?? "sections";
   const [zh, en, show] = kViews[view] ?? kViews["sections"]!;
   document.documentElement.lang = language() === "zh" ? "zh-CN" : "en";
