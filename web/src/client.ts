@@ -43,9 +43,14 @@ async function unpackedPage(): Promise<Start> {
 }
 const inside = unpackedPage();
 
+// Tabs tell one another of their saves.
+const tabs = new BroadcastChannel("orv3cal");
+export const onOtherSave = (saved: () => void) => void (tabs.onmessage = saved);
+
 async function start(): Promise<Worker> {
   const worker = new Worker(URL.createObjectURL(new Blob([source], { type: "text/javascript" })));
   worker.onmessage = ({ data }: MessageEvent<Reply>) => {
+    if (data === "saved") return tabs.postMessage(data);
     waiting.get(data.id)?.(data.answer);
     waiting.delete(data.id);
     answered = true;

@@ -2,11 +2,13 @@
 import { change, go, startView, state } from "./address";
 import { choose } from "./choose";
 import { connections, latticeColumns, members } from "./checks";
-import { onBusy, run, stop } from "./client";
+import { onBusy, onOtherSave, run, stop } from "./client";
 import { codeTables } from "./code_tables";
 import { button, el, fault } from "./dom";
+import { readLists } from "./guide";
 import { language, say } from "./language";
 import { ownSections } from "./own_sections";
+import { askAgain } from "./question";
 import { sections } from "./sections";
 import { storeView } from "./store_view";
 
@@ -68,6 +70,13 @@ async function draw(): Promise<void> {
 const busy = el("div", { class: "busy", role: "status" });
 document.body.append(busy);
 onBusy((isBusy) => busy.replaceChildren(...(isBusy ? [say("计算中… ", "Computing… "), button(say("停止", "Stop"), () => void stop())] : [])));
+
+// What another tab has saved: the tables are read anew, and what a form asks is asked again.
+onOtherSave(() => {
+  if (["sections", "store"].includes(document.querySelector("main")?.className ?? "")) return void draw();
+  void readLists();
+  askAgain();
+});
 
 // A file that falls beside its place does not take the page away.
 for (const kind of ["dragover", "drop"]) addEventListener(kind, (event) => event.preventDefault());
