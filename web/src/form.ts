@@ -317,11 +317,12 @@ function differences(from: unknown, to: unknown, path: string[] = []): { path: s
 
 const textOf = (value: unknown): string => (value === undefined ? "" : Array.isArray(value) ? value.join("; ") : String(value));
 
-// What is typed, as JSON has it: a number, a list with semicolons, else text, which the command then judges.
+// What is typed, as JSON has it: a number, a list with semicolons, else text, which the command then judges; so is
+// a list's place where nothing stands.
 function valueOf(text: string, schema: Schema): unknown {
   const trimmed = text.trim();
   if (trimmed === "") return undefined;
-  if (/[;；]/.test(trimmed) && isType(schema, "array")) return trimmed.split(/[;；]/).filter((part) => part.trim()).map((part) => one(part, schema.items ?? schema));
+  if (/[;；]/.test(trimmed) && isType(schema, "array")) return trimmed.split(/[;；]/).map((part) => one(part, schema.items ?? schema));
   if (schema.type === "array") return [one(trimmed, schema.items ?? schema)];
   return one(trimmed, schema);
 }
