@@ -24,6 +24,14 @@ interface Cases {
   data: Promise<Uint8Array>;
 }
 
+let drawn: Batch | null = null;
+let held: { kind: Kind; file: Cases } | null = null;
+
+// The file of cases that is listed stays over the next drawing of its view.
+export function holdCases(): void {
+  held = drawn?.held() ?? null;
+}
+
 export class Batch {
   readonly element = el("div", { class: "batch", hidden: true });
   private file: Cases | null = null;
@@ -32,13 +40,40 @@ export class Batch {
   private readonly trouble = el("p", { class: "fault", role: "alert" });
   private readonly question: Question;
 
-  // `opened` gets a case that is chosen in the list; `closed` is told when the list goes.
-  constructor(private readonly kind: Kind, private readonly edition: Edition, private readonly opened: (value: Case) => void, private readonly closed: () => void) {
-    this.question = new Question(this.list, (isAsked) => this.ask(isAsked));
+  // `opened` gets a case that is chosen in the list; `marked` is told when the list or its line changes, `closed`
+  // when the list goes.
+  constructor(private readonly kind: Kind, private readonly edition: Edition, private readonly opened: (value: Case) => void, marked: () => void, private readonly closed: () => void) {
+    this.question = new Question(this.list, (isAsked) => this.ask(isAsked), marked);
+    drawn = this;
   }
 
-  async take(dropped: File): Promise<void> {
-    const file = (this.file = { name: dropped.name, data: bytesOf(dropped) });
+  // The verdict on all of them in a line.
+  get line(): string {
+    return this.list.querySelector(".box")?.textContent ?? say("没有结果", "no answer");
+  }
+
+  get isWaiting(): boolean {
+    return this.question.isWaiting;
+  }
+
+  held(): typeof held {
+    return this.file && this.element.isConnected ? { kind: this.kind, file: this.file } : null;
+  }
+
+  // Lists again what was held; false where nothing was.
+  resume(): boolean {
+    const file = held?.kind === this.kind ? held.file : null;
+    held = null;
+    if (file) void this.show(file);
+    return file !== null;
+  }
+
+  take(dropped: File): Promise<void> {
+    return this.show({ name: dropped.name, data: bytesOf(dropped) });
+  }
+
+  private async show(file: Cases): Promise<void> {
+    this.file = file;
     this.list.replaceChildren(computing());
     await this.again();
     if (this.file !== file) return;

@@ -18,7 +18,7 @@ import { say } from "./language";
 import { Question } from "./question";
 import { drawingIn, reportView } from "./report";
 import { resultNames, type ResultNames } from "./result_names";
-import { schemaOf, type Kind } from "./schema";
+import { fits, schemaOf, type Kind } from "./schema";
 import { figureLines, figureTable } from "./section_view";
 import { summary, verdict, type CheckJson } from "./verdict";
 
@@ -35,12 +35,12 @@ export const kindTitle = (kind: Kind): string =>
   })[kind];
 
 // The case that the address holds, else the one given; null for one that cannot be read.
-export function caseInLink(otherwise: Case): Case | null {
+export function caseInLink(kind: Kind, otherwise: Case): Case | null {
   const text = state()["case"];
   if (text === undefined) return structuredClone(otherwise);
   try {
     const value: unknown = JSON.parse(text);
-    return typeof value === "object" && !Array.isArray(value) ? (value as Case | null) : null;
+    return fits(schemaOf(kind), value) ? (value as Case) : null;
   } catch {
     return null;
   }
@@ -73,20 +73,28 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
     const names: ResultNames = done && kind !== "lattice" ? await resultNames(kind, code, given, JSON.parse(answer.out) as CheckJson) : new Map();
     return () => {
       form.blame(done ? "" : sentence(answer, kFile));
-      jump.textContent = done ? verdictLine(kind, answer) : say("没有结果", "no answer");
+      line = done ? verdictLine(kind, answer) : say("没有结果", "no answer");
       view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer, names)));
     };
-  });
+  }, () => tellLine());
   const edition = new Edition(() => {
     void question.ask();
     void batch.again();
   });
   // On a narrow screen the answer is below the form; this line of it stays in sight.
-  const jump = button("", () => view.scrollIntoView(), { class: "jump", title: say("看结果", "Go to the answer") });
-  const given = caseInLink(kExamples[kind] as Case);
+  let line = "";
+  const jump = button("", () => (view.hidden ? batch.element : view).scrollIntoView(), { class: "jump", title: say("看结果", "Go to the answer") });
+  const tellLine = () => {
+    jump.textContent = view.hidden ? batch.line : line;
+    jump.classList.toggle("waiting", view.hidden ? batch.isWaiting : question.isWaiting);
+  };
+  const given = caseInLink(kind, kExamples[kind] as Case);
   const first = given && kind !== "lattice" ? edition.take(given) : given;
   // The answer to a file of cases takes the place of that to the form until one of them is opened.
-  const batch = new Batch(kind, edition, (value) => form.replace(edition.take(value)), () => (view.hidden = false));
+  const batch = new Batch(kind, edition, (value) => form.replace(edition.take(value)), tellLine, () => {
+    view.hidden = false;
+    tellLine();
+  });
   const extra = kind === "lattice"
     ? [field(say("示例", "Start from"), select([["", "–"], ["2", say("双肢", "two limbs")], ["3", say("三肢", "three limbs")], ["4", say("四肢", "four limbs")]], "", (limbs) => {
         const example = { 2: lattice, 3: lattice3, 4: lattice4 }[limbs];
@@ -100,6 +108,7 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   });
   place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), first ? null : unreadLink(), ...extra, form.element, drop, jump), el("div", { class: "answer" }, batch.element, view));
   form.set(first ?? {});
+  view.hidden = batch.resume();
   await question.ask();
 }
 

@@ -26,7 +26,7 @@ const kFile = "case.json";
 
 function kept(): Case | null {
   const { section: _, edges: __, code: ___, ...rest } = structuredClone(member) as Case;
-  return caseInLink(rest);
+  return caseInLink("member", rest);
 }
 
 export async function choose(place: HTMLElement): Promise<void> {

@@ -1,5 +1,6 @@
 // The page: its head, and the view that the address names.
 import { change, go, startView, state } from "./address";
+import { holdCases } from "./batch";
 import { choose } from "./choose";
 import { connections, latticeColumns, members } from "./checks";
 import { onBusy, onOtherSave, run, stop } from "./client";
@@ -43,9 +44,17 @@ function head(view: string): HTMLElement {
   const other = language() === "zh" ? "en" : "zh";
   return el("header", {}, el("span", { class: "brand" }, "Orv3Cal"), el("nav", { "aria-label": say("页面", "Views") }, ...links),
     el("span", { class: "switches" },
-      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); void draw(); }, { lang: other }),
-      button(dark() ? "☀" : "☾", () => { change({ theme: dark() ? "light" : "dark" }); void draw(); }, { "aria-label": say("明暗", "light or dark") })));
+      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); holdCases(); void draw(); }, { lang: other }),
+      theme));
 }
+
+// Light or dark changes nothing of what is shown.
+function paint(): void {
+  document.documentElement.dataset["theme"] = dark() ? "dark" : "light";
+  theme.textContent = dark() ? "☀" : "☾";
+}
+
+const theme = button("", () => { change({ theme: dark() ? "light" : "dark" }); paint(); });
 
 let draws = 0;
 async function draw(): Promise<void> {
@@ -54,7 +63,8 @@ async function draw(): Promise<void> {
   const view = state()["view"] ?? "sections";
   const [zh, en, show] = kViews[view] ?? kViews["sections"]!;
   document.documentElement.lang = language() === "zh" ? "zh-CN" : "en";
-  document.documentElement.dataset["theme"] = dark() ? "dark" : "light";
+  paint();
+  theme.setAttribute("aria-label", say("明暗", "light or dark"));
   document.title = `${say(zh, en)} – Orv3Cal`;
   const main = el("main", { class: view, "aria-busy": "true" }, el("p", { class: "note" }, say("载入中…", "Loading…")));
   document.getElementById("page")!.replaceChildren(head(view), main);

@@ -15,21 +15,23 @@ export class Question {
   private isOpen = false; // whether anything is asked
   private readonly run: () => Promise<void>;
 
-  // `ask` answers with what draws its answer; `isAsked` tells it whether that is still wanted.
-  constructor(private readonly view: HTMLElement, ask: (isAsked: () => boolean) => Promise<() => void>) {
+  // `ask` answers with what draws its answer; `isAsked` tells it whether that is still wanted. `marked` is told when
+  // the view goes pale and when it is so no longer.
+  constructor(private readonly view: HTMLElement, ask: (isAsked: () => boolean) => Promise<() => void>, private readonly marked: () => void = () => {}) {
     drawn.add(this);
+    const failed = (error: unknown) => view.replaceChildren(noAnswer(error instanceof Error ? error.message : String(error)));
     this.run = latest(async () => {
       const mine = this.number;
       const isAsked = () => mine === this.number && view.isConnected;
-      try {
-        return { isAsked, draw: await ask(isAsked) };
-      } catch (error) {
-        return { isAsked, draw: () => view.replaceChildren(noAnswer(error instanceof Error ? error.message : String(error))) };
-      }
+      return { isAsked, draw: await ask(isAsked).catch((error) => () => failed(error)) };
     }, ({ isAsked, draw }) => {
       if (!isAsked()) return;
+      try {
+        draw();
+      } catch (error) {
+        failed(error);
+      }
       this.mark(false);
-      draw();
     });
   }
 
@@ -58,8 +60,13 @@ export class Question {
     else if (this.isOpen) void this.ask();
   }
 
+  get isWaiting(): boolean {
+    return this.view.inert;
+  }
+
   private mark(waiting: boolean): void {
     this.view.classList.toggle("waiting", waiting);
     this.view.inert = waiting;
+    this.marked();
   }
 }
