@@ -10,17 +10,36 @@ const addressOf = (values: State) => `#${new URLSearchParams(values)}`;
 let now = read();
 let timer = 0;
 
+// Entries of the history have numbers. What was typed in one that was left before its address followed is kept.
+let entry = Date.now();
+const unwritten = new Map<number, State>();
+const numbered = (): number => {
+  const known = (history.state as { entry?: number } | null)?.entry;
+  if (known === undefined) history.replaceState({ entry: ++entry }, "");
+  return known ?? entry;
+};
+let here = numbered();
+
 function write(): void {
   clearTimeout(timer);
   timer = 0;
-  if (addressOf(now) !== location.hash) history.replaceState(null, "", addressOf(now));
+  if (addressOf(now) !== location.hash) history.replaceState(history.state, "", addressOf(now));
+}
+
+function push(values: State): void {
+  here = ++entry;
+  history.pushState({ entry }, "", addressOf(values));
 }
 
 addEventListener("pagehide", write);
 addEventListener("popstate", () => {
+  if (timer) unwritten.set(here, now);
   clearTimeout(timer);
   timer = 0;
-  now = read();
+  here = numbered();
+  now = unwritten.get(here) ?? read();
+  unwritten.delete(here);
+  write();
 });
 
 export const state = (): Readonly<State> => now;
@@ -30,7 +49,7 @@ export function change(values: State, step = false): void {
   if (step) write();
   now = Object.fromEntries(Object.entries({ ...now, ...values }).filter(([, value]) => value !== ""));
   if (!step) timer ||= setTimeout(write, kGathered);
-  else if (addressOf(now) !== location.hash) history.pushState(null, "", addressOf(now));
+  else if (addressOf(now) !== location.hash) push(now);
 }
 
 // Shows another view, with nothing of the last one but what concerns the whole page.
@@ -38,6 +57,15 @@ export function go(values: State): void {
   write();
   const { lang, theme } = now;
   const kept = { ...(lang ? { lang } : {}), ...(theme ? { theme } : {}), ...values };
-  history.pushState(null, "", addressOf(kept));
+  push(kept);
   dispatchEvent(new Event("popstate"));
+}
+
+let views = 0;
+
+// A view is about to be drawn. Tells whether no other has been since: what an older one still has to say, when
+// its answers come, counts no more.
+export function startView(): () => boolean {
+  const mine = ++views;
+  return () => mine === views;
 }

@@ -1,8 +1,9 @@
 // Connections, members and lattice columns: a form, the drawing beside it, the verdict, the report.
-import { change, state } from "./address";
+import { change, startView, state } from "./address";
 import { Batch } from "./batch";
-import { ask, sentence, type Answer } from "./client";
-import { button, bytesOf, copyButton, download, dropPlace, el, fault, field, latest, noAnswer, picture, select } from "./dom";
+import { ask, lineOf, sentence, type Answer, type Line } from "./client";
+import { button, copyButton, download, dropPlace, el, fault, field, noAnswer, picture, select } from "./dom";
+import { Edition } from "./edition";
 import bolt from "../../examples/bolt.json";
 import butt from "../../examples/butt.json";
 import fillet from "../../examples/fillet.json";
@@ -15,9 +16,10 @@ import { Form, type Case } from "./form";
 import { readLists } from "./guide";
 import { keepFocus, oneStop, reachable } from "./keyboard";
 import { say } from "./language";
+import { Question } from "./question";
 import { drawingIn, reportView } from "./report";
 import { resultNames, type ResultNames } from "./result_names";
-import { schemaOf, type Kind } from "./schema";
+import { fits, schemaOf, type Kind } from "./schema";
 import { figureLines, figureTable } from "./section_view";
 import { summary, verdict, type CheckJson } from "./verdict";
 
@@ -33,32 +35,13 @@ export const kindTitle = (kind: Kind): string =>
     lattice: say("格构柱", "Lattice column"),
   })[kind];
 
-export function editions(changed: () => void, both = true): HTMLElement {
-  const list: [string, string][] = [["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`]];
-  if (both) list.push(["both", say("两版", "both editions")]);
-  return field(say("规范版本", "Edition"), select(list, state()["code"] ?? "2017", (code) => {
-    change({ code: code === "2017" ? "" : code });
-    changed();
-  }));
-}
-
-// The case of the address, or the first example; null for one that cannot be read. Its edition is the one chosen
-// above the form.
-function kept(kind: Kind): Case | null {
-  const value = caseInLink(kExamples[kind] as Case);
-  if (!value) return null;
-  const { code, ...rest } = value;
-  if (code !== undefined) change({ code: String(code) === "2017" ? "" : String(code) });
-  return rest;
-}
-
 // The case that the address holds, else the one given; null for one that cannot be read.
-export function caseInLink(otherwise: Case): Case | null {
+export function caseInLink(kind: Kind, otherwise: Case): Case | null {
   const text = state()["case"];
   if (text === undefined) return structuredClone(otherwise);
   try {
     const value: unknown = JSON.parse(text);
-    return typeof value === "object" && !Array.isArray(value) ? (value as Case | null) : null;
+    return fits(schemaOf(kind), value) ? (value as Case) : null;
   } catch {
     return null;
   }
@@ -68,57 +51,66 @@ export const unreadLink = () => fault(say("链接中的算例不完整，不能�
 
 const kFile = "case.json";
 
-function commandLine(kind: Kind): string[] {
-  if (kind === "lattice") return ["lattice", kFile, "--json", "--svg", "picture.svg"];
-  return ["check", kind, kFile, "--json", "--report", "report.html", "--code", state()["code"] ?? "2017"];
+function commandLine(kind: Kind, code: string): Line {
+  if (kind === "lattice") return lineOf(["lattice", "--json", "--svg", "picture.svg"], kFile);
+  return lineOf(["check", "--json", "--report", "report.html", `--code=${code}`], kind, kFile);
 }
 
 async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | null): Promise<void> {
+  const isHere = startView();
   if (kind === "member" || kind === "lattice") await readLists();
+  if (!isHere()) return;
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const form = new Form(kind, schemaOf(kind), (value) => {
     change({ case: JSON.stringify(value) });
+    batch.formChanged();
     view.hidden = false;
-    view.classList.add("waiting");
-    void show();
-  }, ["code"]);
-  const show = latest(
-    async (): Promise<[Answer, ResultNames]> => {
-      const given = JSON.stringify(form.case);
-      const answer = await ask(commandLine(kind), { [kFile]: given });
-      const isCheck = kind !== "lattice" && answer.status <= 1 && answer.out !== "";
-      return [answer, isCheck ? await resultNames(kind, state()["code"] ?? "2017", given, JSON.parse(answer.out) as CheckJson) : new Map()];
-    },
-    ([answer, names]) => {
-      const done = answer.status <= 1 && answer.out !== "";
+    void question.ask();
+  }, ["code"], () => question.outdate());
+  const question = new Question(view, async () => {
+    const [given, code] = [JSON.stringify(form.case), edition.asked];
+    const answer = await ask(commandLine(kind, code), { [kFile]: given });
+    const done = answer.status <= 1 && answer.out !== "";
+    const names: ResultNames = done && kind !== "lattice" ? await resultNames(kind, code, given, JSON.parse(answer.out) as CheckJson) : new Map();
+    return () => {
       form.blame(done ? "" : sentence(answer, kFile));
-      view.classList.remove("waiting");
-      jump.textContent = done ? verdictLine(kind, answer) : say("没有结果", "no answer");
+      line = done ? verdictLine(kind, answer) : say("没有结果", "no answer");
       view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer, names)));
-    },
-  );
+    };
+  }, () => tellLine());
+  const edition = new Edition(() => {
+    void question.ask();
+    void batch.again();
+  });
   // On a narrow screen the answer is below the form; this line of it stays in sight.
-  const jump = button("", () => view.scrollIntoView(), { class: "jump", title: say("看结果", "Go to the answer") });
-  const first = kept(kind);
+  let line = "";
+  const jump = button("", () => (view.hidden ? batch.element : view).scrollIntoView(), { class: "jump", title: say("看结果", "Go to the answer") });
+  const tellLine = () => {
+    jump.textContent = view.hidden ? batch.line : line;
+    jump.classList.toggle("waiting", view.hidden ? batch.isWaiting : question.isWaiting);
+  };
+  const given = caseInLink(kind, kExamples[kind] as Case);
+  const first = given && kind !== "lattice" ? edition.take(given) : given;
   // The answer to a file of cases takes the place of that to the form until one of them is opened.
-  const batch = new Batch(kind, (value) => form.replace(value), () => (view.hidden = false));
+  const batch = new Batch(kind, edition, (value) => form.replace(edition.take(value)), tellLine, () => {
+    view.hidden = false;
+    tellLine();
+  });
   const extra = kind === "lattice"
     ? [field(say("示例", "Start from"), select([["", "–"], ["2", say("双肢", "two limbs")], ["3", say("三肢", "three limbs")], ["4", say("四肢", "four limbs")]], "", (limbs) => {
         const example = { 2: lattice, 3: lattice3, 4: lattice4 }[limbs];
         if (example) form.replace(example as Case);
       }))]
-    : [editions(() => {
-        void show();
-        void batch.again();
-      })];
+    : [edition.element];
   const drop = kind === "lattice" ? null : dropPlace(say("多个算例：CSV 或 JSON 文件", "Many cases: a CSV or JSON file"), ".csv,.json", async ([file]) => {
     if (!file) return;
     view.hidden = true;
-    await batch.take(file.name, await bytesOf(file));
+    await batch.take(file);
   });
   place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), first ? null : unreadLink(), ...extra, form.element, drop, jump), reachable(el("div", { class: "answer" }, batch.element, view), say("结果", "the answer")));
   form.set(first ?? {});
-  await show();
+  view.hidden = batch.resume();
+  await question.ask();
 }
 
 function answerView(kind: Kind, answer: Answer, names: ResultNames): (HTMLElement | string)[] {

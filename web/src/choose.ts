@@ -1,15 +1,17 @@
 // The lightest sections of chosen tables that pass a member's case.
 import member from "../../examples/member.json";
-import { change, go, state } from "./address";
-import { caseInLink, editions, unreadLink } from "./checks";
-import { ask, sentence, told, type Answer } from "./client";
-import { button, computing, el, field, latest, noAnswer, picture } from "./dom";
+import { change, go, startView, state } from "./address";
+import { caseInLink, unreadLink } from "./checks";
+import { ask, lineOf, sentence, told, type Answer } from "./client";
+import { button, computing, el, field, noAnswer, picture } from "./dom";
+import { Edition } from "./edition";
 import { narrow, shown } from "./figures";
 import { Form, type Case } from "./form";
 import { readLists } from "./guide";
 import { oneStop, reachable } from "./keyboard";
 import { say } from "./language";
 import type { StyleJson } from "./own_sections";
+import { Question } from "./question";
 import { schemaOf } from "./schema";
 import { checkName } from "./verdict";
 import { tables } from "./sections";
@@ -27,14 +29,18 @@ const kFile = "case.json";
 
 function kept(): Case | null {
   const { section: _, edges: __, code: ___, ...rest } = structuredClone(member) as Case;
-  return caseInLink(rest);
+  return caseInLink("member", rest);
 }
 
 export async function choose(place: HTMLElement): Promise<void> {
+  const isHere = startView();
   await readLists();
   const rolled = (await tables()).filter((table) => table.rows > 0);
+  if (!isHere()) return;
   const chosen = new Set((state()["tables"] ?? "热轧普通焊接H型钢,热轧窄翼缘H型钢").split(",").filter((name) => rolled.some((table) => table.name === name)));
-  const first = kept();
+  const edition = new Edition(() => outdated(), false);
+  const given = kept();
+  const first = given && edition.take(given);
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const note = el("p", { class: "note", role: "status" });
   const boxes = rolled.map((table) => {
@@ -51,54 +57,50 @@ export async function choose(place: HTMLElement): Promise<void> {
   const form = new Form("member", schemaOf("member"), (value) => {
     change({ case: JSON.stringify(value) });
     outdated();
-  }, ["section", "code"]);
+  }, ["section", "code"], () => outdated());
   // What was chosen for another question does not stay beside this one.
-  let question = 0;
   const outdated = () => {
-    ++question;
+    question.drop();
     form.blame("");
     styles.blame("");
     note.textContent = "";
     view.replaceChildren(noAnswer(say("输入已改，请再按“选择”", "the question has changed: choose again")));
   };
-  const find = latest(
-    (): Promise<[Answer, number]> => {
-      const [names, mine] = [[...chosen], question];
-      const code = state()["code"] === "2003" ? "2003" : "2017";
-      return ask(["choose", kFile, ...(names.length > 0 ? ["--table", names.join(",")] : []), ...styles.options(),
-        "--top", narrow(top.value), "--code", code, "--json", "--plot", "plot.svg"], { [kFile]: JSON.stringify(form.case) }).then((answer) => [answer, mine]);
-    },
-    ([answer, mine]) => {
-      if (mine !== question) return;
-      const found = answer.status <= 1 && answer.out !== "";
+  const question = new Question(view, async () => {
+    const [names, value, code] = [[...chosen], structuredClone(form.case), edition.asked];
+    const answer = await ask(lineOf(["choose", ...(names.length > 0 ? [`--table=${names.join(",")}`] : []), ...styles.options(),
+      `--top=${narrow(top.value)}`, `--code=${code}`, "--json", "--plot", "plot.svg"], kFile), { [kFile]: JSON.stringify(value) });
+    const found = answer.status <= 1 && answer.out !== "";
+    return () => {
       const why = found ? "" : sentence(answer, kFile);
       const ofStyles = styles.blame(why);
       form.blame(ofStyles ? "" : why);
       note.textContent = found ? sentence(answer) : "";
-      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, form.case, answer) : noAnswer(why, ofStyles ? styles.mend : form.mend));
-    },
-  );
+      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, value, code, answer) : noAnswer(why, ofStyles ? styles.mend : form.mend));
+    };
+  });
   const start = button(say("选择", "Choose"), () => {
     view.replaceChildren(computing());
-    void find();
+    void question.ask();
   }, { class: "main" });
   place.replaceChildren(
-    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(), editions(outdated, false),
+    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(), edition.element,
       oneStop(el("details", { class: "group", open: innerWidth > 860 }, el("summary", {}, say("截面表", "Tables")), ...boxes), "input"),
       styles.element, field(say("最多行数", "Rows at most"), top), start, note, form.element),
     reachable(el("div", { class: "answer" }, view), say("结果", "the answer")));
   form.set(first ?? {});
-  await find();
+  await question.ask();
 }
 
 const notesOf = (row: ChooseJson["rows"][number]) => (row.warnings ?? []).map((each) => `${each.key}: ${each.text}`);
 
-function table(answer: ChooseJson, value: Case, whole: Answer): HTMLElement {
+function table(answer: ChooseJson, value: Case, code: string, whole: Answer): HTMLElement {
   const head = [say("表", "table"), say("型号", "no"), "kg/m", say("利用率", "ratio"), say("控制", "governs"), say("注意", "note"), ""];
   const body = el("tbody");
   const common = answer.rows.map(notesOf).reduce((all, notes) => all.filter((note) => notes.includes(note)), answer.rows[0] ? notesOf(answer.rows[0]) : []);
   for (const row of answer.rows) {
-    const open = button(say("验算", "Check"), () => go({ view: "members", case: JSON.stringify({ ...value, section: row.style ? { style: row.style, sizes: row.sizes } : { table: row.table, no: row.no } }) }));
+    const open = button(say("验算", "Check"), () => go({ view: "members", ...(code === "2017" ? {} : { code }),
+      case: JSON.stringify({ ...value, section: row.style ? { style: row.style, sizes: row.sizes } : { table: row.table, no: row.no } }) }));
     body.append(el("tr", {}, el("td", {}, row.table), el("th", { scope: "row" }, row.no), el("td", { class: "num" }, shown(row.mass)),
       el("td", { class: "num", title: String(row.ratio) }, shown(row.ratio)), el("td", {}, checkName(row.governs)),
       el("td", { class: "name" }, notesOf(row).filter((note) => !common.includes(note)).join("; ")), el("td", {}, open)));

@@ -43,9 +43,14 @@ async function unpackedPage(): Promise<Start> {
 }
 const inside = unpackedPage();
 
+// Tabs tell one another of their saves.
+const tabs = new BroadcastChannel("orv3cal");
+export const onOtherSave = (saved: () => void) => void (tabs.onmessage = saved);
+
 async function start(): Promise<Worker> {
   const worker = new Worker(URL.createObjectURL(new Blob([source], { type: "text/javascript" })));
   worker.onmessage = ({ data }: MessageEvent<Reply>) => {
+    if (data === "saved") return tabs.postMessage(data);
     waiting.get(data.id)?.(data.answer);
     waiting.delete(data.id);
     answered = true;
@@ -76,14 +81,24 @@ async function order(what: object): Promise<Answer> {
   });
 }
 
+// A command line: its words and options, and what it is given (names, sizes, files), which stands behind "--",
+// where nothing is an option, whatever it begins with.
+export interface Line {
+  words: string[];
+  given: string[];
+}
+export const lineOf = (words: string[], ...given: string[]): Line => ({ words, given });
+export const withWords = (line: Line, ...words: string[]): Line => ({ ...line, words: [...line.words, ...words] });
+
 // One command line; `files` are there by their names, what the command writes is in the answer.
 export function run(argv: string[], files: Files = {}): Promise<Answer> {
   return order({ kind: "run", argv: argv.map(String), files, language: language() });
 }
 
 // A command line in the page's language.
-export function ask(argv: string[], files: Files = {}): Promise<Answer> {
-  return run([...argv, "--lang", language()], files);
+export function ask(line: string[] | Line, files: Files = {}): Promise<Answer> {
+  const { words, given } = Array.isArray(line) ? lineOf(line) : line;
+  return run([...words, "--lang", language(), ...(given.length > 0 ? ["--", ...given] : [])], files);
 }
 
 const kWarmRuns = 30;
@@ -91,18 +106,18 @@ let warmed = false;
 
 // Runs a line while nobody asks for anything: browsers compile well only what has run often, and the first
 // keys are to be followed as fast as the later ones.
-export async function warm(argv: string[], goOn: () => boolean): Promise<void> {
+export async function warm(line: Line, goOn: () => boolean): Promise<void> {
   if (warmed) return;
   warmed = true;
   for (let i = 0; i < kWarmRuns && goOn(); ++i) {
     await new Promise((done) => setTimeout(done, 20));
-    if (waiting.size === 0) await run(argv);
+    if (waiting.size === 0) await ask(line);
   }
 }
 
 // What a command line in JSON answers; its sentence is the error where it answers nothing.
-export async function told<T>(argv: string[]): Promise<T> {
-  const answer = await ask([...argv, "--json"]);
+export async function told<T>(words: string[], ...given: string[]): Promise<T> {
+  const answer = await ask(lineOf([...words, "--json"], ...given));
   if (answer.status !== 0) throw new Error(sentence(answer));
   return JSON.parse(answer.out) as T;
 }

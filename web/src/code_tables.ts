@@ -1,11 +1,13 @@
 // Figures of the design code: a form from the command's own help, the answer with its source, and
 // the table with the asked cell marked, every cell of it asked from the command.
-import { change, state } from "./address";
-import { ask, run, sentence, type Answer } from "./client";
-import { copyButton, el, field, latest, select } from "./dom";
+import { change, startView, state } from "./address";
+import { ask, lineOf, sentence, type Answer, type Line } from "./client";
+import { copyButton, el, field, select } from "./dom";
+import { Edition } from "./edition";
 import { shown } from "./figures";
 import { keepFocus, reachable } from "./keyboard";
 import { say } from "./language";
+import { Question } from "./question";
 
 interface CodeJson {
   value: unknown;
@@ -60,15 +62,14 @@ async function wanted(question: string): Promise<{ arguments: string[]; more: st
 }
 
 export async function codeTables(place: HTMLElement): Promise<void> {
+  const isHere = startView();
   const list = await questions();
   const question = state()["ask"] ?? "steel";
   const { arguments: names, more } = await wanted(question);
+  if (!isHere()) return;
   const given = (state()["args"] ?? (state()["code"] === "2003" ? kFirst2003[question] : null) ?? kFirst[question] ?? "").split(" ");
   const view = reachable(el("div", { class: "detail wide", "aria-live": "polite" }), say("结果", "the answer"));
-  const edition = select([["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`]], state()["code"] ?? "2017", (code) => {
-    change({ code: code === "2017" ? "" : code });
-    void show();
-  });
+  const edition = new Edition(() => void figures.ask(), false);
   const controls = names.map((name, i) => {
     const bare = name.replace(/[[\]]/g, "");
     if (bare.includes("|")) {
@@ -80,23 +81,19 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   const values = () => controls.map((control) => control.querySelector<HTMLInputElement | HTMLSelectElement>("input, select")!.value.trim());
   const keep = () => {
     change({ ask: question, args: values().join(" ") });
-    void show();
+    void figures.ask();
   };
-  const code = () => (state()["code"] === "2003" ? "2003" : "2017");
-  const line = (given: string[]) => ["code", question, ...given.filter((value) => value !== ""), "--code", code(), "--json"];
-  const around = el("div");
-  const show = latest(
-    (): Promise<[Answer, string[]]> => {
-      const asked = values();
-      return ask(line(asked)).then((answer) => [answer, asked]);
-    },
-    ([answer, asked]) => {
+  const figures = new Question(view, async (isAsked) => {
+    const [asked, code] = [values(), edition.asked];
+    const line = (given: string[]) => lineOf(["code", question, `--code=${code}`, "--json"], ...given.filter((value) => value !== ""));
+    const answer = await ask(line(asked));
+    return () => {
       const why = answer.status === 0 ? "" : sentence(answer);
+      const around = el("div");
       view.replaceChildren(why ? el("p", { class: "fault", role: "alert" }, why) : figure(answer), around);
-      around.replaceChildren();
-      if (!why) void table(around, axesOf(question, names), asked, line);
-    },
-  );
+      if (!why) void table(around, axesOf(question, names), asked, line, isAsked);
+    };
+  });
   const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => {
     change({ ask: next, args: "" }, true);
     void keepFocus(() => codeTables(place));
@@ -104,9 +101,9 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   place.replaceChildren(
     el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() }, el("h1", {}, say("规范表", "Code tables")),
       field(say("查什么", "Figure"), what), el("p", { class: "note" }, list.find(([name]) => name === question)?.[1] ?? ""), ...controls,
-      field(say("规范版本", "Edition"), edition), more && el("p", { class: "note" }, more)),
+      edition.element, more && el("p", { class: "note" }, more)),
     view);
-  await show();
+  await figures.ask();
 }
 
 function figure(answer: Answer): HTMLElement {
@@ -123,8 +120,8 @@ function among(list: string[], value = ""): string[] {
   return numbers ? [...list, value].sort((a, b) => Number(a) - Number(b)) : [...list, value];
 }
 
-// Fills the place with the table, row by row; stops when the place is taken for another one.
-async function table(place: HTMLElement, axes: Record<number, string[]>, values: string[], line: (given: string[]) => string[]): Promise<void> {
+// Fills the place with the table, row by row, as long as it is asked for.
+async function table(place: HTMLElement, axes: Record<number, string[]>, values: string[], line: (given: string[]) => Line, isAsked: () => boolean): Promise<void> {
   const [first, second] = Object.entries(axes).map(([at, list]) => [Number(at), list] as const);
   if (!first) return;
   const [rowAt, columnAt] = [first[0], second?.[0] ?? -1];
@@ -141,9 +138,9 @@ async function table(place: HTMLElement, axes: Record<number, string[]>, values:
       const given = [...values];
       given[rowAt] = row;
       if (columnAt >= 0) given[columnAt] = column;
-      return run(line(given));
+      return ask(line(given));
     }));
-    if (!whole.isConnected) return;
+    if (!isAsked()) return;
     answers.forEach((answer, at) => {
       const cell = lines[i]!.children[at + 1]!;
       cell.textContent = answer.status === 0 ? shown((JSON.parse(answer.out) as CodeJson).value) : "–";

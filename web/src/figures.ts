@@ -74,8 +74,10 @@ export function shown(value: unknown): string {
   return whole!.replace(/\B(?=(\d{3})+$)/g, "\u202f") + (rest ? `.${rest}` : "");
 }
 
-// A number as it is typed: the wide digits and signs of Chinese keyboards are taken as plain ones.
-export const narrow = (text: string): string => text.normalize("NFKC").replaceAll("\u2212", "-").trim();
+// A number as it is typed: the wide digits and signs of Chinese keyboards are taken as plain ones; what else looks
+// like digits (10³, ②) is another number and stays what it is.
+export const narrow = (text: string): string =>
+  text.replace(/[\uff01-\uff5e]/g, (wide) => String.fromCharCode(wide.charCodeAt(0) - 0xfee0)).replaceAll("\u2212", "-").trim();
 
 // The number of a typed text; NaN where it is none.
 export const typedNumber = (text: string): number =>

@@ -20,14 +20,16 @@ export class Form {
   private fields = new Map<string, { control: HTMLElement; note: HTMLElement }>();
   private value: Case = {};
   private readonly ways = new Map<Way, Record<string, unknown>>(); // sections as they were before another way
-  private choices = 0;
+  private readonly choices = new Map<string, number>(); // how often each field was chosen in
 
-  // `left`: keys that the form does without.
+  // `left`: keys that the form does without; `choosing` is told of a choice that will change the case when what
+  // belongs to it is known.
   constructor(
     private readonly kind: Kind,
     private readonly schema: Schema,
     private readonly changed: (value: Case) => void,
     private readonly left: string[] = [],
+    private readonly choosing: () => void = () => {},
   ) {
     this.element.onsubmit = (event) => event.preventDefault();
     this.element.onkeydown = (event) => {
@@ -142,13 +144,25 @@ export class Form {
     this.body.replaceChildren(above, ...group(must), ...(this.kind === "member" ? group(may) : [more]), report);
   }
 
-  // A choice that other fields hang on: one step, with what belongs to it.
+  // A choice that other fields hang on: one step, with what belongs to it. It changes those fields alone, as soon
+  // as that is known; what the user has changed of them meanwhile counts, and then the choice does not.
   private async choose(path: string[], value: unknown): Promise<void> {
-    const mine = ++this.choices;
-    const next = structuredClone(this.value);
+    const place = pathText(path);
+    const mine = (this.choices.get(place) ?? 0) + 1;
+    this.choices.set(place, mine);
+    this.choosing();
+    const before = structuredClone(this.value);
+    const next = structuredClone(before);
     put(next, path, value);
-    const whole = await settled(this.kind, path, next);
-    if (mine === this.choices) this.replace(whole);
+    const changes = differences(before, await settled(this.kind, path, next));
+    if (mine !== this.choices.get(place) || !this.element.isConnected) return;
+    const chosen = structuredClone(this.value);
+    if (!changes.every((change) => same(get(chosen, change.path), change.from))) {
+      this.draw();
+      return this.changed(this.value);
+    }
+    for (const change of changes) put(chosen, change.path, change.to);
+    this.replace(chosen);
   }
 
   private field(path: string[], schema: Schema, required = false): HTMLElement {
@@ -264,20 +278,6 @@ export class Form {
   }
 }
 
-// A line of a CSV as a case; null where a column is no key of the schema.
-export function caseOf(schema: Schema, head: string[], row: string[]): Case | null {
-  const value: Case = {};
-  for (const [i, name] of head.entries()) {
-    const path = name.trim().split(".");
-    const found = path.reduce<Schema | undefined>((at, key) => at?.properties?.[key], schema);
-    if (!found) return null;
-    const given = valueOf(row[i] ?? "", found);
-    const whole = found.type === "boolean" && /^(true|false)$/.test(String(given)) ? given === "true" : given;
-    if (whole !== undefined) put(value, path, whole);
-  }
-  return value;
-}
-
 function fold(title: string, inside: HTMLElement[], open: boolean): HTMLElement {
   return inside.length === 0 ? el("span") : el("details", { class: "group", open }, el("summary", {}, title), ...inside);
 }
@@ -307,13 +307,23 @@ function put(value: Record<string, unknown>, path: string[], set: unknown): void
   if (!Array.isArray(inner) && Object.keys(inner).length === 0) delete value[key];
 }
 
+const same = (a: unknown, b: unknown): boolean => JSON.stringify(a) === JSON.stringify(b);
+const isObject = (value: unknown): value is Case => typeof value === "object" && value !== null && !Array.isArray(value);
+
+// Where a case has changed, by the innermost keys.
+function differences(from: unknown, to: unknown, path: string[] = []): { path: string[]; from: unknown; to: unknown }[] {
+  if (!isObject(from) || !isObject(to)) return same(from, to) ? [] : [{ path, from, to }];
+  return [...new Set([...Object.keys(from), ...Object.keys(to)])].flatMap((key) => differences(from[key], to[key], [...path, key]));
+}
+
 const textOf = (value: unknown): string => (value === undefined ? "" : Array.isArray(value) ? value.join("; ") : String(value));
 
-// What is typed, as JSON has it: a number, a list with semicolons, else text, which the command then judges.
+// What is typed, as JSON has it: a number, a list with semicolons, else text, which the command then judges; so is
+// a list's place where nothing stands.
 function valueOf(text: string, schema: Schema): unknown {
   const trimmed = text.trim();
   if (trimmed === "") return undefined;
-  if (/[;；]/.test(trimmed) && isType(schema, "array")) return trimmed.split(/[;；]/).filter((part) => part.trim()).map((part) => one(part, schema.items ?? schema));
+  if (/[;；]/.test(trimmed) && isType(schema, "array")) return trimmed.split(/[;；]/).map((part) => one(part, schema.items ?? schema));
   if (schema.type === "array") return [one(trimmed, schema.items ?? schema)];
   return one(trimmed, schema);
 }

@@ -1,6 +1,6 @@
 // What a form offers of the catalogue: lists for tables, numbers, styles and steels, and one way of naming a
 // section at a time. Every list is the command's own answer.
-import { ask, sentence, told } from "./client";
+import { ask, lineOf, sentence, told } from "./client";
 import lattice2 from "../../examples/lattice-2.json";
 import lattice3 from "../../examples/lattice-3.json";
 import lattice4 from "../../examples/lattice-4.json";
@@ -39,7 +39,7 @@ function limbs(example: Case): Case {
 const rowNumbers = new Map<string, Promise<string[]>>();
 
 async function numbersOf(table: string): Promise<string[]> {
-  const { columns, rows } = await told<RowsJson>(["rows", table]);
+  const { columns, rows } = await told<RowsJson>(["rows"], table);
   const key = Math.max(0, columns.findIndex((column) => column.key));
   return rows.map((row) => row.cells[key] ?? "").filter(Boolean);
 }
@@ -142,7 +142,7 @@ async function without(value: Case, keys: string[]): Promise<Case> {
   const file = "case.json";
   for (const key of keys) {
     if (!(key in value)) continue;
-    const answer = await ask(["check", "member", file], { [file]: JSON.stringify(value) });
+    const answer = await ask(lineOf(["check"], "member", file), { [file]: JSON.stringify(value) });
     if (new RegExp(`^${key}\\s*[:：]`).test(sentence(answer, file))) delete value[key];
   }
   return value;

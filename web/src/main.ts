@@ -1,13 +1,16 @@
 // The page: its head, and the view that the address names.
-import { change, go, state } from "./address";
+import { change, go, startView, state } from "./address";
+import { holdCases } from "./batch";
 import { choose } from "./choose";
 import { connections, latticeColumns, members } from "./checks";
-import { onBusy, run, stop } from "./client";
+import { onBusy, onOtherSave, run, stop } from "./client";
 import { codeTables } from "./code_tables";
 import { button, el, fault } from "./dom";
+import { readLists } from "./guide";
 import { keepFocus, oneStop, waysIn } from "./keyboard";
 import { language, say } from "./language";
 import { ownSections } from "./own_sections";
+import { askAgain } from "./question";
 import { sections } from "./sections";
 import { storeView } from "./store_view";
 
@@ -43,19 +46,29 @@ function head(view: string): HTMLElement {
   return el("header", {}, el("span", { class: "ways" }), el("span", { class: "brand" }, "Orv3Cal"),
     oneStop(el("nav", { "aria-label": say("页面", "Views") }, ...links)),
     oneStop(el("span", { class: "switches" },
-      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); void draw(); }, { lang: other, "data-key": "language" }),
-      button(dark() ? "☀" : "☾", () => { change({ theme: dark() ? "light" : "dark" }); void draw(); }, { "aria-label": say("明暗", "light or dark"), "data-key": "theme" }))));
+      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); holdCases(); void draw(); }, { lang: other, "data-key": "language" }),
+      theme)));
 }
+
+// Light or dark changes nothing of what is shown.
+function paint(): void {
+  document.documentElement.dataset["theme"] = dark() ? "dark" : "light";
+  theme.textContent = dark() ? "☀" : "☾";
+}
+
+const theme = button("", () => { change({ theme: dark() ? "light" : "dark" }); paint(); }, { "data-key": "theme" });
 
 const draw = () => keepFocus(drawView);
 
 let draws = 0;
 async function drawView(): Promise<void> {
   const mine = ++draws;
+  startView();
   const view = state()["view"] ?? "sections";
   const [zh, en, show] = kViews[view] ?? kViews["sections"]!;
   document.documentElement.lang = language() === "zh" ? "zh-CN" : "en";
-  document.documentElement.dataset["theme"] = dark() ? "dark" : "light";
+  paint();
+  theme.setAttribute("aria-label", say("明暗", "light or dark"));
   document.title = `${say(zh, en)} – Orv3Cal`;
   const main = el("main", { class: view, "aria-busy": "true" }, el("p", { class: "note" }, say("载入中…", "Loading…")));
   document.getElementById("page")!.replaceChildren(head(view), main);
@@ -72,6 +85,13 @@ async function drawView(): Promise<void> {
 const busy = el("div", { class: "busy", role: "status" });
 document.body.append(busy);
 onBusy((isBusy) => busy.replaceChildren(...(isBusy ? [say("计算中… ", "Computing… "), button(say("停止", "Stop"), () => void stop())] : [])));
+
+// What another tab has saved: the tables are read anew, and what a form asks is asked again.
+onOtherSave(() => {
+  if (["sections", "store"].includes(document.querySelector("main")?.className ?? "")) return void draw();
+  void readLists();
+  askAgain();
+});
 
 // A file that falls beside its place does not take the page away.
 for (const kind of ["dragover", "drop"]) addEventListener(kind, (event) => event.preventDefault());

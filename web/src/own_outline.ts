@@ -1,6 +1,6 @@
 // An outline from a DXF or JSON file. It stands in the address, compressed, if it is not too long.
 import { change, state } from "./address";
-import { ask, sentence } from "./client";
+import { ask, lineOf, sentence, withWords } from "./client";
 import { button, bytesOf, download, el, noAnswer } from "./dom";
 import { say } from "./language";
 import { pack, unpack } from "./packed_text";
@@ -40,7 +40,7 @@ export async function givenOutline(): Promise<boolean> {
 }
 
 // As the command is to read it, and to call it in the picture.
-const fileName = (name: string) => (/^[^-].*\.(dxf|json)$/i.test(name) ? name : "outline.dxf");
+const fileName = (name: string) => (/\.(dxf|json)$/i.test(name) ? name : "outline.dxf");
 
 // Before release 2007 the names of layers are of the code page, as the command reads them.
 function textOf(data: Uint8Array): string {
@@ -70,11 +70,11 @@ export async function outlineView(layer: string): Promise<HTMLElement | null> {
   if (!outline) return null;
   const { name, data } = outline;
   const file = fileName(name);
-  const line = ["outline", file, ...(layer ? ["--layer", layer] : [])];
-  const answer = await ask([...line, "--json", "--svg", "picture.svg"], { [file]: data });
+  const line = lineOf(["outline", ...(layer ? [`--layer=${layer}`] : [])], file);
+  const answer = await ask(withWords(line, "--json", "--svg", "picture.svg"), { [file]: data });
   if (answer.status !== 0) return noAnswer(`${name}: ${sentence(answer, file)}`);
   const csv = button("CSV", async () => {
-    const written = await ask([...line, "--csv"], { [file]: data });
+    const written = await ask(withWords(line, "--csv"), { [file]: data });
     download(`${name.replace(/\.[^.]*$/, "")}.csv`, written.out);
   }, { title: say("保存文件", "save as a file") });
   const left = state()["shape"] ? null

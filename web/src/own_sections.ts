@@ -1,11 +1,12 @@
 // Own sections: a style with its sizes typed beside the picture, or any outline from a file.
-import { change, state } from "./address";
-import { ask, sentence, told, warm, type Answer } from "./client";
-import { button, computing, dropPlace, el, field, latest, newId, noAnswer, select } from "./dom";
+import { change, startView, state } from "./address";
+import { ask, lineOf, sentence, told, warm, withWords, type Answer } from "./client";
+import { button, computing, dropPlace, el, field, newId, noAnswer, select } from "./dom";
 import { narrow, signParts } from "./figures";
 import { keepFocus, reachable } from "./keyboard";
 import { language, say } from "./language";
 import { givenOutline, layersOfOutline, outlineView, takeOutline } from "./own_outline";
+import { Question } from "./question";
 import { onward, sectionView } from "./section_view";
 
 export interface StyleJson {
@@ -29,7 +30,9 @@ const typed = (value: string, changed: () => void, more = {}) =>
 const unitMark = (unit: string) => el("span", { class: "unit" }, unit);
 
 export async function ownSections(place: HTMLElement): Promise<void> {
+  const isHere = startView();
   const styles = await told<StyleJson[]>(["styles"]);
+  if (!isHere()) return;
   const chosen = styles.find((each) => each.alias === state()["style"]) ?? styles[0]!;
   const given = (state()["sizes"] ?? kFirstSizes[chosen.alias] ?? "").split(",");
   const view = reachable(el("div", { class: "detail wide", "aria-live": "polite" }), say("截面", "the section"));
@@ -46,10 +49,10 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     return { sign: label, cell: `${axis.toLowerCase()}(mm)`, input, row: field(label, input, unitMark("mm")) };
   });
   const fields = [...inputs, ...base];
-  const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => change({ name: name.value }) });
+  const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => { change({ name: name.value }); saved.replaceChildren(); } });
   const sizes = () => inputs.map(({ input }) => narrow(input.value));
 
-  const line = () => ["section", chosen.alias, ...sizes(), "--base", ...base.map(({ input }) => narrow(input.value) || "0")];
+  const line = () => lineOf(["section", "--base", ...base.map(({ input }) => narrow(input.value) || "0")], chosen.alias, ...sizes());
   // Says at the field that it names what the matter is; without a sentence all is well.
   const blame = (why: string, isBad: (field: (typeof fields)[number]) => boolean) => {
     note.textContent = why;
@@ -57,38 +60,51 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     const bad = fields.find((each) => why !== "" && isBad(each));
     if (why) view.replaceChildren(noAnswer(why, bad ? () => bad.input.focus() : null));
   };
-  const show = latest(
-    (line: string[], title: string): Promise<[Answer, string[], string]> =>
-      ask([...line, "--json", "--svg", "picture.svg"]).then((answer) => [answer, line, title]),
-    ([answer, line, title]) => {
+  let isOutline = false; // of a file, instead of the style with its sizes
+  const question = new Question(view, async () => {
+    if (isOutline) {
+      const shown = await outlineView(layer.value);
+      return () => { if (shown) view.replaceChildren(shown); };
+    }
+    const [asked, given] = [line(), sizes()];
+    const answer = await ask(withWords(asked, "--json", "--svg", "picture.svg"));
+    return () => {
       const why = answer.status === 0 ? "" : sentence(answer);
-      view.classList.remove("waiting");
       blame(why, ({ sign }) => why.startsWith(sign));
-      if (!why) view.replaceChildren(sectionView(title, answer, undefined, { svg: line, dxf: line }, {}, onward({ style: line[1], sizes: line.slice(2, 2 + chosen.sizes.length).map(Number) })));
-    },
-  );
+      keep.disabled = why !== "";
+      if (!why) view.replaceChildren(sectionView(`${language() === "zh" ? chosen.table : chosen.shape} ${given.join("×")}`, answer, undefined, { svg: asked, dxf: asked }, {}, onward({ style: chosen.alias, sizes: given.map(Number) })));
+    };
+  });
+  // What is kept is what stands in the view; of a style alone, not of an outline.
   const compute = async () => {
     change({ style: chosen.alias, sizes: sizes().join(","), base: base.map(({ input }) => input.value).join(","), outline: "", shape: "", layer: "" });
-    keep.disabled = false;
-    view.classList.add("waiting");
-    await show(line(), `${language() === "zh" ? chosen.table : chosen.shape} ${sizes().join("×")}`);
+    isOutline = false;
+    keep.disabled = true;
+    saved.replaceChildren();
+    await question.ask();
   };
-  const cells = () => fields.flatMap(({ cell, input }) => ["--set", `${cell}=${narrow(input.value) || "0"}`]);
-  const tellSaved = (answer: Answer) => {
-    saved.replaceChildren(answer.status === 0 ? answer.out : sentence(answer));
-    saved.classList.toggle("fault", answer.status !== 0);
+  const showOutline = async () => {
+    isOutline = true;
+    keep.disabled = true;
+    saved.replaceChildren();
+    await question.ask();
   };
-  // A name that is there is replaced when that is asked for alone.
+  // A name that is there is replaced when that is asked for. What is typed meanwhile is not what was to be kept.
   const save = async () => {
-    const no = name.value;
-    if (no.trim() === "" || (await ask(["show", chosen.table, no, "--json"])).status !== 0) {
-      return tellSaved(await ask(["store", "add", chosen.table, "--set", `No.=${no}`, ...cells()]));
+    const [no, what] = [name.value, sizes().join("×")];
+    const cells = fields.flatMap(({ cell, input }) => ["--set", `${cell}=${narrow(input.value) || "0"}`]);
+    const tell = (answer: Answer) => {
+      saved.replaceChildren(answer.status === 0 ? `${answer.out.trim()} · ${what}` : `${no} ${what}: ${sentence(answer)}`);
+      saved.classList.toggle("fault", answer.status !== 0);
+    };
+    if (no.trim() === "" || (await ask(lineOf(["show", "--json"], chosen.table, no))).status !== 0) {
+      return tell(await ask(lineOf(["store", "add", "--set", `No.=${no}`, ...cells], chosen.table)));
     }
-    const replace = button(say("替换", "Replace it"), async () => tellSaved(await ask(["store", "edit", chosen.table, no, ...cells()])));
+    const replace = button(say(`换成 ${what}`, `Replace it by ${what}`), async () => tell(await ask(lineOf(["store", "edit", ...cells], chosen.table, no))));
     saved.classList.remove("fault");
     saved.replaceChildren(say(`库中已有“${no}”。 `, `"${no}" is there already. `), replace);
   };
-  const keep = button(say("存入自己的库", "Keep in own store"), () => void save()); // of a style alone, not of an outline
+  const keep = button(say("存入自己的库", "Keep in own store"), () => void save());
   const style = select(styles.map((each) => [each.alias, `${each.style} ${language() === "zh" ? each.table : each.shape}`]), chosen.alias, (alias) => {
     change({ style: alias, sizes: "", outline: "", shape: "", layer: "" }, true);
     void keepFocus(() => ownSections(place));
@@ -107,11 +123,6 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     layer.replaceChildren(...options.map(([value, text]) => el("option", { value, selected: value === now }, text!)));
     layerField.hidden = names.length < 2 && !now;
   };
-  const showOutline = latest(() => outlineView(layer.value), (shown) => {
-    view.classList.remove("waiting");
-    keep.disabled = true;
-    if (shown) view.replaceChildren(shown);
-  });
   const form = el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() },
     el("h1", {}, say("自定义截面", "Own section")),
     field(say("类型", "Style"), style), ...fields.map(({ row }) => row), note,
@@ -120,15 +131,17 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", async ([file]) => {
       if (!file) return;
       await takeOutline(file);
+      if (!isHere()) return;
       listLayers();
       view.replaceChildren(computing());
       await showOutline();
     }),
     layerField);
   place.replaceChildren(form, view);
-  const isOutline = await givenOutline();
+  const fromFile = await givenOutline();
+  if (!isHere()) return;
   listLayers();
-  if (isOutline) await showOutline();
+  if (fromFile) await showOutline();
   else await compute();
-  void warm([...line(), "--json", "--svg", "picture.svg"], () => view.isConnected);
+  void warm(withWords(line(), "--json", "--svg", "picture.svg"), () => view.isConnected);
 }

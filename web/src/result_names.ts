@@ -1,5 +1,5 @@
 // What the figures of a check are called, and their units: from the command's own lines of them.
-import { ask } from "./client";
+import { ask, lineOf } from "./client";
 import { language, say } from "./language";
 import type { Kind } from "./schema";
 import type { CheckJson } from "./verdict";
@@ -44,7 +44,7 @@ export async function resultNames(kind: Kind, code: string, given: string, answe
   known.set(place, names);
   const all = (answer.editions ?? [answer]).flatMap((each) => [...Object.keys(each.results ?? {}), ...(each.checks ?? []).map((check) => check.name)]);
   if (all.some((key) => !names.has(key))) {
-    read((await ask(["check", kind, "case.json", "--code", code], { "case.json": given })).out, names);
+    read((await ask(lineOf(["check", `--code=${code}`], kind, "case.json"), { "case.json": given })).out, names);
     for (const key of all) if (!names.has(key)) names.set(key, ["", ""]);
   }
   return names;

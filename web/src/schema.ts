@@ -54,3 +54,10 @@ export function wordsOf(kind: Kind, path: string, schema: Schema): { name: strin
 
 export const isType = (schema: Schema, type: string): boolean =>
   Array.isArray(schema.type) ? schema.type.includes(type) : schema.type === type;
+
+// Whether objects and lists of them stand where the schema has them; what else is wrong is the command's to say.
+export function fits(schema: Schema, value: unknown): boolean {
+  if (Array.isArray(value)) return !schema.properties && value.every((each) => (schema.items?.properties ? fits(schema.items, each) : typeof each !== "object"));
+  if (typeof value !== "object" || value === null) return !schema.properties && !schema.items?.properties;
+  return schema.properties !== undefined && Object.entries(value).every(([key, each]) => !(key in schema.properties!) || fits(schema.properties![key]!, each));
+}

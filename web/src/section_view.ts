@@ -1,7 +1,7 @@
 // A section's picture, cells, geometry and exact figures; of a table's row or of sizes.
 import member from "../../examples/member.json";
 import { go } from "./address";
-import { ask, sentence, type Answer, type Files } from "./client";
+import { ask, sentence, withWords, type Answer, type Files, type Line } from "./client";
 import { button, copyButton, download, el, fault, picture } from "./dom";
 import { nameOf, shown, signParts, unitOf } from "./figures";
 import { oneStop } from "./keyboard";
@@ -71,7 +71,7 @@ export function onward(section: Record<string, unknown>): HTMLElement[] {
 
 // `forms`: the command lines that write the section as a file, by the option that names it; `files` are
 // what they read.
-export function sectionView(title: string, answer: Answer, file = title, forms: Record<string, string[]> = {}, files: Files = {}, onward: HTMLElement[] = []): HTMLElement {
+export function sectionView(title: string, answer: Answer, file = title, forms: Record<string, Line> = {}, files: Files = {}, onward: HTMLElement[] = []): HTMLElement {
   if (answer.status !== 0) return fault(sentence(answer));
   const section = JSON.parse(answer.out) as SectionJson;
   const blocks: [string, FigureLine[]][] = [];
@@ -81,9 +81,9 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
   if (section.exact) blocks.push([say("精确值（按外轮廓）", "Exact, from the outline"), figureLines(section.exact)]);
   const bare = file.replace(/[\\/:*?"<>|]/g, "_");
   const trouble = fault("");
-  const save = async (form: string, line: string[]) => {
+  const save = async (form: string, line: Line) => {
     const name = `section.${form}`;
-    const written = await ask([...line, `--${form}`, name], files);
+    const written = await ask(withWords(line, `--${form}`, name), files);
     trouble.textContent = written.status === 0 ? "" : sentence(written);
     if (written.files[name]) download(`${bare}.${form}`, written.files[name]);
   };

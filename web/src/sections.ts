@@ -1,6 +1,6 @@
 // Sections: the tables, the rows of one, and the section that is chosen; several beside each other.
 import { change, go, state } from "./address";
-import { ask, sentence, told, type Answer } from "./client";
+import { ask, lineOf, sentence, told, withWords, type Answer } from "./client";
 import { csvText } from "./csv";
 import { button, copyButton, download, el, fault, field, latest, newId, select } from "./dom";
 import { narrow, typedNumber } from "./figures";
@@ -85,7 +85,7 @@ function compared(): string[] {
 async function comparison(place: HTMLElement, left: () => void): Promise<void> {
   const list = compared();
   if (list.length === 0) return place.replaceChildren();
-  const sections = (await Promise.all(list.map((each) => ask(["show", ...each.split("|"), "--json"]))))
+  const sections = (await Promise.all(list.map((each) => ask(lineOf(["show", "--json"], ...each.split("|"))))))
     .map((answer) => (answer.status === 0 ? (JSON.parse(answer.out) as SectionJson) : null));
   const lines = new Map<string, FigureLine[]>();
   sections.forEach((section, i) => {
@@ -116,7 +116,7 @@ export async function sections(place: HTMLElement): Promise<void> {
   const table = state()["table"] ?? list.find((each) => each.rows > 0)?.name ?? "";
   const left = tree(list, table);
   place.replaceChildren(left);
-  const answer = await ask(["rows", table, "--json"]);
+  const answer = await ask(lineOf(["rows", "--json"], table));
   if (answer.status !== 0) return place.append(fault(sentence(answer)));
   const { columns, rows } = JSON.parse(answer.out) as RowsJson;
   const all = rows.map((row) => row.cells);
@@ -131,14 +131,14 @@ export async function sections(place: HTMLElement): Promise<void> {
     if (shownNo) void showDetail(shownNo);
   } });
   let shownNo = "";
-  const asDrawn = () => [...(state()["turn"] ? ["--turn", state()["turn"]!] : []), ...(isPair && state()["gap"] ? ["--gap", state()["gap"]!] : [])];
+  const drawn = (no: string) => lineOf(["show", ...(state()["turn"] ? [`--turn=${state()["turn"]}`] : []), ...(isPair && state()["gap"] ? [`--gap=${state()["gap"]}`] : [])], table, no);
   const showDetail = latest(
     (no: string): Promise<[string, Answer]> => {
-      return ask(["show", table, no, ...asDrawn(), "--json", "--svg", "picture.svg"]).then((shown) => [no, shown]);
+      return ask(withWords(drawn(no), "--json", "--svg", "picture.svg")).then((shown) => [no, shown]);
     },
     ([no, shown]) => {
       shownNo = no;
-      const turned = ["show", table, no, ...asDrawn()];
+      const turned = drawn(no);
       const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void keepFocus(() => showDetail(no)); });
       detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair && Number(state()["gap"]) ? { gap: Number(state()["gap"]) } : {}) })), field(say("转角", "Turned by"), turns),
         isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm")) || "");

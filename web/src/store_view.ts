@@ -1,6 +1,6 @@
 // The own store, kept in this browser: its tables, imports and exports.
 import { go } from "./address";
-import { ask, forgetOwnStore, isStoreKept, keepsStore, sentence, told, type Answer, type Files } from "./client";
+import { ask, forgetOwnStore, isStoreKept, keepsStore, lineOf, sentence, told, type Answer, type Files } from "./client";
 import { csvText } from "./csv";
 import { bytesOf, button, download, dropPlace, el, fault, field, select } from "./dom";
 import { oneStop, reachable } from "./keyboard";
@@ -22,7 +22,7 @@ async function csvOfSheets(bytes: Uint8Array): Promise<[table: string, text: str
 async function imported(file: File, table: string, overwrite: boolean): Promise<Answer[]> {
   const more = overwrite ? ["--overwrite"] : [];
   const bytes = await bytesOf(file);
-  const bring = (name: string, files: Files, into: string) => ask(["store", "import", name, ...(into ? ["--table", into] : []), ...more], files);
+  const bring = (name: string, files: Files, into: string) => ask(lineOf(["store", "import", ...(into ? [`--table=${into}`] : []), ...more], name), files);
   if (file.name.toLowerCase().endsWith(".xlsx")) {
     let sheets: [string, string][];
     try {
@@ -45,7 +45,7 @@ const kOwn = "own"; // in the list of tables to export: those of own sections
 
 // The own rows of a table, each to be seen, changed and deleted.
 async function ownRows(table: TableJson, styles: StyleJson[], changed: (answer: Answer) => void): Promise<HTMLElement | null> {
-  const { columns, rows } = await told<RowsJson>(["rows", table.name]);
+  const { columns, rows } = await told<RowsJson>(["rows"], table.name);
   const key = Math.max(0, columns.findIndex((column) => column.key));
   const style = styles.find((each) => each.table === table.name);
   const cell = (row: string[], sign: string) => row[columns.findIndex((column) => column.sign === sign)] ?? "";
@@ -53,7 +53,7 @@ async function ownRows(table: TableJson, styles: StyleJson[], changed: (answer: 
     const no = cells[key]!;
     const sizes = style?.sizes.map(({ sign }) => cell(cells, sign)).join(",");
     const remove = async () => {
-      if (confirm(say(`删除“${no}”？`, `Delete "${no}"?`))) changed(await ask(["store", "delete", table.name, no]));
+      if (confirm(say(`删除“${no}”？`, `Delete "${no}"?`))) changed(await ask(lineOf(["store", "delete"], table.name, no)));
     };
     const named = (label: string) => ({ class: "quiet", "aria-label": `${label} ${no}` });
     return el("tr", {},
@@ -96,7 +96,7 @@ export async function storeView(place: HTMLElement): Promise<void> {
     if (form === "xlsx") tell(await exportWorkbook(`${name}.xlsx`, wanted));
     else if (form === "csv" && wanted.length > 1) tell(await exportTexts(`${name}.zip`, wanted));
     else {
-      const answer = await ask(["store", "export", ...(which.value ? wanted : []), "--to", `store.${form}`]);
+      const answer = await ask(lineOf(["store", "export", "--to", `store.${form}`], ...(which.value ? wanted : [])));
       for (const bytes of Object.values(answer.files)) download(`${name}.${form}`, bytes);
       tell(answer);
     }
@@ -142,7 +142,7 @@ export async function storeView(place: HTMLElement): Promise<void> {
 }
 
 async function sheetOf(table: string): Promise<Sheet> {
-  const { columns, rows } = await told<RowsJson>(["rows", table]);
+  const { columns, rows } = await told<RowsJson>(["rows"], table);
   const heads = [columns.map((column) => column.name), columns.map((column) => column.sign)];
   const numeric = columns.map((column) => column.type !== "text" && column.type !== "char");
   return { name: table, rows: [...heads, ...rows.map((row) => row.cells)], numeric, heads: 2 };
@@ -152,7 +152,7 @@ async function sheetOf(table: string): Promise<Sheet> {
 async function exportTexts(name: string, tables: string[]): Promise<Answer> {
   const texts: [string, Uint8Array][] = [];
   for (const table of tables) {
-    const answer = await ask(["store", "export", table, "--to", "table.csv"]);
+    const answer = await ask(lineOf(["store", "export", "--to", "table.csv"], table));
     if (answer.status !== 0) return answer;
     texts.push([`${table}.csv`, answer.files["table.csv"]!]);
   }

@@ -13,7 +13,8 @@ export type Order =
   | { id: number; kind: "run"; argv: string[]; files: Files; language: string }
   | { id: number; kind: "forget" }
   | { id: number; kind: "kept" };
-export type Reply = { id: number; answer: Answer };
+// Beside the answers, which have the number of their order: that the own store was saved.
+export type Reply = { id: number; answer: Answer } | "saved";
 
 let own: OwnStore;
 let core: Promise<Core>;
@@ -66,17 +67,23 @@ function same(a: Uint8Array | null, b: Uint8Array | null): boolean {
   return true;
 }
 
+async function save(bytes: Uint8Array | null, before: number): Promise<boolean> {
+  const isSaved = await own.save(bytes, before);
+  if (isSaved) self.postMessage("saved" satisfies Reply);
+  return isSaved;
+}
+
 // A run that another tab's save has overtaken is done again on that save.
 async function run(argv: string[], files: Files): Promise<Answer> {
   for (;;) {
     const before = await own.load();
     const { own: after, ...answer } = await (await core).run(argv, files, before.bytes);
-    if (same(before.bytes, after) || (await own.save(after, before.version))) return answer;
+    if (same(before.bytes, after) || (await save(after, before.version))) return answer;
   }
 }
 
 async function forget(): Promise<Answer> {
-  while (!(await own.save(null, (await own.load()).version)));
+  while (!(await save(null, (await own.load()).version)));
   return { ...kNothing, status: 0 };
 }
 
