@@ -75,7 +75,7 @@ void CAnswers::PrintTable() const {
   static constexpr CTextLiteral kHead[] = {{"序号", "case"},          {"编号", "id"},
                                            {"版本", "code"},          {"结论", "verdict"},
                                            {"利用率", "utilisation"}, {"控制项", "governs"},
-                                           {"警告", "warnings"},      {"摩擦面", "surface"}};
+                                           {"请注意", "warnings"},    {"摩擦面", "surface"}};
   constexpr std::size_t kSurface = std::size(kHead) - 1;
   CTextTable table({CAlign::Right, CAlign::Left, CAlign::Left, CAlign::Left, CAlign::Right,
                     CAlign::Left, CAlign::Right, CAlign::Left});

@@ -28,7 +28,7 @@ std::vector<CCodeEdition> EditionsAsked(const std::string& option) {
   if (editions.empty()) {
     const std::string place =
         option.empty() ? Say("环境变量 ORV3CAL_CODE", "the variable ORV3CAL_CODE") : "--code";
-    Refuse(Say("{1}：\"{2}\" 不可用；请给出 2017、2003 或 both",
+    Refuse(Say("{1}：“{2}”不可用；请给出 2017、2003 或 both",
                "{1}: \"{2}\" is not possible; give 2017, 2003 or both", {place, Excerpt(asked)}));
   }
   return {editions.begin(), editions.end()};

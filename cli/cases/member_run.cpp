@@ -60,7 +60,8 @@ const char* CMemberRun::Year() const { return EditionFacts(m_check.Edition()).m_
 
 std::string CMemberRun::CaseNames(const std::vector<std::size_t>& indices) const {
   std::string names;
-  for (const std::size_t index : indices) names += (names.empty() ? "" : ", ") + CaseName(index);
+  const char* comma = m_nLanguage == CLanguage::Chinese ? "、" : ", ";
+  for (const std::size_t index : indices) names += (names.empty() ? "" : comma) + CaseName(index);
   return names;
 }
 

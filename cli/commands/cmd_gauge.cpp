@@ -31,7 +31,7 @@ void CheckTable(const std::string& table) {
   for (const CSectionKind kind : SpacedSections()) {
     const std::string name = ToUtf8(TableName(kind));
     if (name == table) return;
-    right += (right.empty() ? "" : ", ") + name;
+    right += (right.empty() ? "" : Say("、", ", ")) + name;
   }
   Refuse(Say("TABLE: “{1}”没有线距资料；应为下列之一：{2}",
              "TABLE: no spacings are known for \"{1}\"; right would be one of {2}",

@@ -114,7 +114,7 @@ CLatticeLimbs LimbsOf(const CSteelItemGeGou& column) {
   for (int i = 0; i < count; ++i) {
     const CRowFigures f = RowFigures(limbs.m_arrLimb[static_cast<std::size_t>(i)].m_row);
     if (f.m_dArea > 0 && std::isfinite(f.m_dXc + f.m_dYc + f.m_dIx + f.m_dIy)) continue;
-    Refuse(Say("{1}: 库中 {2} 的行缺少面积、重心或惯性矩；请用目录中的型钢",
+    Refuse(Say("{1}: 库中 {2} 的行缺少面积、形心或惯性矩；请用目录中的型钢",
                "{1}: the row of {2} in the store lacks its area, centroid or moments of inertia; "
                "right would be a section of the catalogue",
                {ToUtf8(kLimbColumns[i].m_szNo), Cell(column, kLimbColumns[i].m_szNo)}));

@@ -58,7 +58,7 @@ CSectionForces ForcesOf(const std::vector<std::string>& given) {
   for (std::size_t i = 0; i < given.size(); ++i) {
     const CString wide = FromUtf8(given[i]);
     if (!IsNumber(wide) || std::fabs(ToDouble(wide)) > kMost) {
-      Refuse(Say("--stress {1}：\"{2}\" 不是可用的数（{3}）",
+      Refuse(Say("--stress {1}：“{2}”不是可用的数（{3}）",
                  "--stress {1}: \"{2}\" is no number that can be; right would be {3}",
                  {kForces[i].m_szKey, given[i], kForces[i].m_szUnit}));
     }

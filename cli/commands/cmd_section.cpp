@@ -45,7 +45,7 @@ const CSectionStyle& StyleOf(const std::string& text) {
   if (style == nullptr && FormatInt(ToInt(wide)) == wide) style = FindSectionStyle(ToInt(wide));
   if (style == nullptr) {
     Refuse(
-        Say("STYLE: “{1}”不是截面种类；应为 0 至 14 的编号，或 orv3cal styles 列出的表名或别名",
+        Say("STYLE: “{1}”不是截面类型；应为 0 至 14 的编号，或 orv3cal styles 列出的表名或别名",
             "STYLE: \"{1}\" is no section style; right would be a number 0 to 14, a table name or "
             "an alias that orv3cal styles lists",
             {text}));
@@ -75,7 +75,8 @@ double LengthOf(const std::string& what, const std::string& text) {
 // The signs of a style's sizes as a command line holds them.
 std::string SizeList(const CSectionStyle& style) {
   std::string list;
-  for (const CSizeColumn& size : style.Sizes()) list += " " + ToUtf8(size.m_szSign);
+  for (const CSizeColumn& size : style.Sizes())
+    list += (list.empty() ? "" : " ") + ToUtf8(size.m_szSign);
   return list;
 }
 
@@ -93,8 +94,8 @@ CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
   }
   if (sizes.size() != style.Sizes().size()) {
     Refuse(Say("{1} 有 {2} 个尺寸，给出的是 {3} 个；应为：{4}",
-               sizes.size() == 1 ? "{1} takes {2} sizes, {3} was given; right would be:{4}"
-                                 : "{1} takes {2} sizes, {3} were given; right would be:{4}",
+               sizes.size() == 1 ? "{1} takes {2} sizes, {3} was given; right would be: {4}"
+                                 : "{1} takes {2} sizes, {3} were given; right would be: {4}",
                {ToUtf8(style.TableName()), std::to_string(style.m_nSizes),
                 std::to_string(sizes.size()), SizeList(style)}));
   }

@@ -41,7 +41,7 @@ CCodeFigure FigureOf(const CCodeAnswer<double>& answer, const char* unit) {
 }
 
 void RefuseArgument(const char* name, const std::string& text, const CText& right) {
-  Refuse(Say("{1}：\"{2}\" 不可用；请给出{3}", "{1}: \"{2}\" is not possible; give {3}",
+  Refuse(Say("{1}：“{2}”不可用；请给出{3}", "{1}: \"{2}\" is not possible; give {3}",
              {name, Excerpt(text), Say(right)}));
 }
 
@@ -51,22 +51,30 @@ double Number(const CCodeRequest& request, std::size_t at, const char* name, con
   return ToDouble(text);
 }
 
+CText AnyOf(const std::vector<std::string>& names) {
+  CText list = {"下列之一：", "one of "};
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    list.m_strChinese += (i == 0 ? "" : "、") + names[i];
+    list.m_strEnglish += (i == 0 ? "" : ", ") + names[i];
+  }
+  return list;
+}
+
 int WordOf(const CCodeRequest& request, std::size_t at, const char* name, const char* const* words,
            std::size_t count) {
-  std::string list;
+  std::vector<std::string> list;
   for (std::size_t i = 0; i < count; ++i) {
     if (request[at] == words[i]) return static_cast<int>(i);
-    list += std::string(i == 0 ? "" : ", ") + words[i];
+    list.emplace_back(words[i]);
   }
-  RefuseArgument(name, request[at], {"下列之一：" + list, "one of " + list});
+  RefuseArgument(name, request[at], AnyOf(list));
 }
 
 int NumberAmong(const CCodeRequest& request, std::size_t at, const char* name,
                 const std::vector<double>& numbers) {
-  std::string list;
-  for (std::size_t i = 0; i < numbers.size(); ++i)
-    list += (i == 0 ? "" : ", ") + NumberText(numbers[i]);
-  const CText right = {"下列之一：" + list, "one of " + list};
+  std::vector<std::string> list;
+  for (const double each : numbers) list.push_back(NumberText(each));
+  const CText right = AnyOf(list);
   const double number = Number(request, at, name, right);
   const auto found = std::find(numbers.begin(), numbers.end(), number);
   if (found == numbers.end()) RefuseArgument(name, request[at], right);

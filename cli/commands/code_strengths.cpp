@@ -94,7 +94,7 @@ CCodeFigure BoltFigure(const CCodeRequest& request) {
 CCodeFigure PreloadFigure(const CCodeRequest& request) {
   const CBoltGrade grade = kHighStrengthGrades[Choice(request, 0, "GRADE", kHighStrength)];
   const double d = Number(request, 1, "D",
-                          {"下列之一：16, 20, 22, 24, 27, 30", "one of 16, 20, 22, 24, 27, 30"});
+                          {"下列之一：16、20、22、24、27、30", "one of 16, 20, 22, 24, 27, 30"});
   return FigureOf(Preload(request.m_nEdition, grade, d), "kN");
 }
 

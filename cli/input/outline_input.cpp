@@ -67,7 +67,7 @@ class COutlineJson : public nlohmann::json_sax<CJson> {
       m_dMm = unit.m_dMm;
       return true;
     }
-    Fault(Say("\"unit\"：\"{1}\" 不支持；请用 mm、cm、m 或 in",
+    Fault(Say("\"unit\"：不支持“{1}”；请用 mm、cm、m 或 in",
               "\"unit\": \"{1}\" is not taken; right would be mm, cm, m or in", {Excerpt(value)}));
   }
   bool start_object(std::size_t) override {

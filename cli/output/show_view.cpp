@@ -41,8 +41,8 @@ constexpr CFigure kFigures[] = {
      true},
     {"height", CAxis::None, "height", "外接矩形高", "height of the bounding box", "mm",
      &F::m_dHeight, true},
-    {"xc", CAxis::None, "xc", "重心距左边", "centroid from the left", "mm", &F::m_dXc},
-    {"yc", CAxis::None, "yc", "重心距底边", "centroid from the bottom", "mm", &F::m_dYc},
+    {"xc", CAxis::None, "xc", "形心距左边", "centroid from the left", "mm", &F::m_dXc},
+    {"yc", CAxis::None, "yc", "形心距底边", "centroid from the bottom", "mm", &F::m_dYc},
     {"Ix", CAxis::X, "I@", "#轴惯性矩", "moment of inertia about #", "mm⁴", &F::m_dIx},
     {"Iy", CAxis::Y, "I@", "#轴惯性矩", "moment of inertia about #", "mm⁴", &F::m_dIy},
     {"Sxo", CAxis::X, "S@", "#轴面积矩", "first moment about #", "mm³", &F::m_dSxo},
@@ -51,15 +51,15 @@ constexpr CFigure kFigures[] = {
     {"iy", CAxis::Y, "i@", "#轴回转半径", "radius of gyration about #", "mm", &F::m_dRy},
     {"imin", CAxis::None, "imin", "最小回转半径", "least radius of gyration", "mm", &F::m_dRleast,
      true},
-    {"Wxo1", CAxis::X, "W@上", "#轴抵抗矩(上)", "modulus about #, top", "mm³", &F::m_dWTop},
-    {"Wxo2", CAxis::X, "W@下", "#轴抵抗矩(下)", "modulus about #, bottom", "mm³", &F::m_dWBottom},
-    {"WyoL", CAxis::Y, "W@左", "#轴抵抗矩(左)", "modulus about #, left", "mm³", &F::m_dWLeft},
-    {"WyoR", CAxis::Y, "W@右", "#轴抵抗矩(右)", "modulus about #, right", "mm³", &F::m_dWRight},
+    {"Wxo1", CAxis::X, "W@上", "#轴截面模量(上)", "modulus about #, top", "mm³", &F::m_dWTop},
+    {"Wxo2", CAxis::X, "W@下", "#轴截面模量(下)", "modulus about #, bottom", "mm³", &F::m_dWBottom},
+    {"WyoL", CAxis::Y, "W@左", "#轴截面模量(左)", "modulus about #, left", "mm³", &F::m_dWLeft},
+    {"WyoR", CAxis::Y, "W@右", "#轴截面模量(右)", "modulus about #, right", "mm³", &F::m_dWRight},
     {"tmax", CAxis::None, "tmax", "最大板厚", "thickest plate", "mm", &F::m_dThickest, true},
     {"tmin", CAxis::None, "tmin", "最小板厚", "thinnest plate", "mm", &F::m_dThinnest, true},
     {"e0", CAxis::None, "e0", "剪心距(薄壁)", "shear centre to centroid, thin-wall", "mm",
      &F::m_dE0, true},
-    {"Iw", CAxis::None, "Iw", "扇性矩(薄壁)", "warping constant, thin-wall", "mm⁶", &F::m_dIw,
+    {"Iw", CAxis::None, "Iw", "扇性惯性矩(薄壁)", "warping constant, thin-wall", "mm⁶", &F::m_dIw,
      true},
 };
 
@@ -189,7 +189,7 @@ std::string LatticeNote(const CDataItem& row, const CRowFigures& figures) {
     const double value = figures.*field;
     if (!row.GetCellValue(sign, told) || std::fabs(told - value) <= 1e-5 * value) continue;
     return Say(
-        "该行的 {1} = {2} 与由各肢按实际位置所得的 {3} 不同；行中 T 型钢的重心取在半高，肢 1 "
+        "该行的 {1} = {2} 与由各肢按实际位置所得的 {3} 不同；行中 T 型钢的形心取在半高，肢 1 "
         "的顶部低 k。",
         "The row's {1} = {2} differs from what its limbs give as they stand, {3}; rows count "
         "a T's centroid at mid-height and limb 1's top k lower.",

@@ -132,7 +132,7 @@ void PrintFaults(const std::string& kind, const std::vector<CStoreFault>& faults
                                   ? Say("文件", "file")
                                   : Say("表 {1}", "table {1}", {ToUtf8(fault.m_strTable)});
     Print(kind +
-          Say("{1}，位于 {2}：{3}", "{1}, at {2}: {3}",
+          Say("{1}，在第 {2} 字节处：{3}", "{1}, at {2}: {3}",
               {table, std::to_string(fault.m_nOffset), ToUtf8(fault.m_strWhat)}) +
           "\n");
   }

@@ -39,8 +39,8 @@ CCodeRefusal NotPossible(const char* argument, double number, CText right) {
 
 CCodeRefusal NoneOf(const char* argument, std::string_view name,
                     std::span<const char* const> names) {
-  const std::string text = "\"" + Excerpt(name) + "\"";
-  return {argument, {text + " 不可用", text + " is not possible"}, OneOf(names)};
+  const std::string text = Excerpt(name);
+  return {argument, {"“" + text + "”不可用", "\"" + text + "\" is not possible"}, OneOf(names)};
 }
 
 CCodeRefusal NotInEdition(const char* argument, CCodeEdition edition, const CText& name,

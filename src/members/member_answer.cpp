@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <string_view>
+#include <utility>
 
+#include "framework/language.h"
 #include "framework/plain_number.h"
 
 namespace orv3 {
@@ -103,7 +105,7 @@ constexpr CNoteText kNotes[] = {
      {"假定荷载通过剪心，不计扭转", "loads are taken through the shear centre, without torsion"}},
     {CMemberNote::BoxBeyond,
      "lengths",
-     {"超出免验整体稳定的限值，规范没有箱形截面的 φb：判为不通过",
+     {"超出免验整体稳定的限值，规范没有箱形截面的 φb：判为不满足",
       "beyond the limits within which a box needs no check of lateral buckling; the code has no φb "
       "of it: judged as failing"}},
     {CMemberNote::TWebByAxial,
@@ -228,6 +230,19 @@ const double* ValueOf(std::span<const CMemberStep> steps, std::string_view symbo
     if (symbol == steps[i].m_szSymbol) return &steps[i].m_dValue;
   }
   return nullptr;
+}
+
+// What the formulas call by an English word has in Chinese the report's sign.
+std::string_view StepSymbol(std::string_view symbol) {
+  static constexpr std::pair<std::string_view, std::string_view> kSigns[] = {
+      {"ratio", "u"},   {"axial", "uN"}, {"bending", "uM"},
+      {"across", "uT"}, {"panel", "up"}, {"tension side", "u2"}};
+  if (MessageLanguage() == CLanguage::Chinese) {
+    for (const auto& [word, sign] : kSigns) {
+      if (word == symbol) return sign;
+    }
+  }
+  return symbol;
 }
 
 std::string PutNumber(double value) {
@@ -365,11 +380,11 @@ std::vector<CFormulaPiece> CMemberAnswer::Formula(std::size_t index) const {
 
 std::string CMemberAnswer::StepText(std::size_t index) const {
   const CMemberStep& step = m_arrStep[index];
-  std::string text = step.m_szSymbol;
+  std::string text(StepSymbol(step.m_szSymbol));
   if (step.m_szFormula != nullptr) {
     std::string symbols, numbers;
     for (const CFormulaPiece& piece : Formula(index)) {
-      symbols += piece.m_text;
+      symbols += piece.m_bSymbol ? StepSymbol(piece.m_text) : piece.m_text;
       numbers += piece.m_pValue != nullptr ? PutNumber(*piece.m_pValue) : std::string(piece.m_text);
     }
     text += " = " + symbols;

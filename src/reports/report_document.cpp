@@ -230,7 +230,7 @@ class CReportWriter {
     } kColumns[] = {{{"序号", "Case"}, "8%"},           {{"编号", "Id"}, "23%"},
                     {{"版本", "Code"}, "8%"},           {{"结论", "Verdict"}, "12%"},
                     {{"利用率", "Utilisation"}, "13%"}, {{"控制项", "Governs"}, "25%"},
-                    {{"警告", "Warnings"}, "11%"}};
+                    {{"请注意", "Warnings"}, "11%"}};
     for (const auto& column : kColumns) {
       m_strHtml += std::string("<th style=\"width:") + column.m_szWidth + "\">" +
                    Text(column.m_name) + "</th>";

@@ -98,25 +98,25 @@ TEST(CodeCommand, TheEditionIsAskedForByOptionOrVariable) {
 }
 
 TEST(CodeCommand, RefusesWhatAnEditionLacks) {
-  ExpectRefused({{"code steel Q345 16 --code 2010", {"--code", "2010", "2003, 2017"}},
-                 {"code steel Q345 16 --code \"\"", {"2003, 2017"}},
-                 {"code steel Q345 100.5", {"T: 100.5", "100 mm"}},
-                 {"code weld Q235 10 ffw E50", {"ELECTRODE", "Q235", "E43"}},
-                 {"code weld Q235 10 fcw E43", {"ffw alone"}},
-                 {"code slender Q235 upper", {"--code", "2003"}},
-                 {"code section-class web-compressed 10 Q235", {"ALPHA0"}},
-                 {"code fatigue 3 C", {"Z1 to Z14"}},
-                 {"code fatigue Z15 C", {"Z15"}},
-                 {"code fatigue Z01 C", {"Z01"}},
-                 {"code width-moments web Q235 1 --code 2003", {"LAMBDA", "0 to 1000"}},
-                 {"code width-moments web Q235 1 60", {"LAMBDA", "leave it out"}},
-                 {"code width web Q460 60 --code 2003", {"GB 50017-2003", "Q460"}},
-                 {"code width plate Q235 60 --lang zh",
-                  {"ELEMENT：\"plate\" 不可用；请给出下列之一：flange"}},
-                 {"code steel Q345 -1 --lang zh", {"T：\"-1\" 不可用；请给出大于 0"}},
-                 {"code fatigue J1 5e6", {"range 5e6"}},
-                 {"code class 3 x", {"rolled-tube"}},
-                 {"code gamma 0 x S1 --code 2003", {"CLASS"}}});
+  ExpectRefused(
+      {{"code steel Q345 16 --code 2010", {"--code", "2010", "2003, 2017"}},
+       {"code steel Q345 16 --code \"\"", {"2003, 2017"}},
+       {"code steel Q345 100.5", {"T: 100.5", "100 mm"}},
+       {"code weld Q235 10 ffw E50", {"ELECTRODE", "Q235", "E43"}},
+       {"code weld Q235 10 fcw E43", {"ffw alone"}},
+       {"code slender Q235 upper", {"--code", "2003"}},
+       {"code section-class web-compressed 10 Q235", {"ALPHA0"}},
+       {"code fatigue 3 C", {"Z1 to Z14"}},
+       {"code fatigue Z15 C", {"Z15"}},
+       {"code fatigue Z01 C", {"Z01"}},
+       {"code width-moments web Q235 1 --code 2003", {"LAMBDA", "0 to 1000"}},
+       {"code width-moments web Q235 1 60", {"LAMBDA", "leave it out"}},
+       {"code width web Q460 60 --code 2003", {"GB 50017-2003", "Q460"}},
+       {"code width plate Q235 60 --lang zh", {"ELEMENT：“plate”不可用；请给出下列之一：flange"}},
+       {"code steel Q345 -1 --lang zh", {"T：“-1”不可用；请给出大于 0"}},
+       {"code fatigue J1 5e6", {"range 5e6"}},
+       {"code class 3 x", {"rolled-tube"}},
+       {"code gamma 0 x S1 --code 2003", {"CLASS"}}});
 }
 
 }  // namespace

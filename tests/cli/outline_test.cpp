@@ -108,7 +108,7 @@ TEST(OutlineCommand, TakesALayerNamedByTheCodePage) {
 
 TEST(ExactBlock, StandsBelowTheFiguresOfASection) {
   ExpectHas(RunProgram("section rect 200 200").m_strOut,
-            {"Exact, from the outline itself", "自由扭转惯性矩", "torsion constant", "thin-wall"});
+            {"Exact, from the outline itself", "自由扭转常数", "torsion constant", "thin-wall"});
   // 0.14058 b^4 of a square.
   EXPECT_NEAR(JsonOf("section rect 200 200")["exact"]["It"].get<double>() / 1.6e9, 0.140577, 1e-4);
   const CRunResult pair = RunProgram("show 热轧等边角钢组合 2L100X10" + kData);

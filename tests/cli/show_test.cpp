@@ -89,8 +89,8 @@ TEST(ShowCommand, SetsAPairApart) {
 
 TEST(ShowCommand, AlignsItsColumns) {
   ExpectHas(RunProgram(Show("热轧普通工字钢 I20a")).m_strOut,
-            {"截面面积         A            35.578  cm²   area\n",
-             "外接矩形高       height          200  mm    height of the bounding box\n"});
+            {"截面面积          A            35.578  cm²   area\n",
+             "外接矩形高        height          200  mm    height of the bounding box\n"});
 }
 
 TEST(ShowCommand, WritesPictureAndOutline) {

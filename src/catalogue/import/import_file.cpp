@@ -51,7 +51,7 @@ bool ReadTableFile(const CString& file, std::vector<CImportTable>& tables, CStri
                               ? CString()
                               : Say(L"表“{1}”", L"table \"{1}\", ", {fault.m_strTable});
     return Refuse(file,
-                  Say(L"已损坏：{1}位于 {2}：{3}", L"damaged: {1}at {2}: {3}",
+                  Say(L"已损坏：{1}在第 {2} 字节处：{3}", L"damaged: {1}at {2}: {3}",
                       {table, FormatInt(fault.m_nOffset), fault.m_strWhat}),
                   why);
   }

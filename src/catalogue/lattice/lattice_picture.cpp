@@ -27,10 +27,10 @@ CString LengthText(double value) {
 }
 
 CSentence OriginText(std::size_t limbs) {
-  if (limbs == 2) return Both(L"坐标原点：第一肢重心", L"origin: centroid of limb 1");
+  if (limbs == 2) return Both(L"坐标原点：第一肢形心", L"origin: centroid of limb 1");
   if (limbs == 3)
-    return Both(L"坐标原点：第一、二肢重心连线的中点", L"origin: midway between limbs 1 and 2");
-  return Both(L"坐标原点：各肢重心所成矩形的中心",
+    return Both(L"坐标原点：第一、二肢形心连线的中点", L"origin: midway between limbs 1 and 2");
+  return Both(L"坐标原点：各肢形心所成矩形的中心",
               L"origin: middle of the rectangle of the limbs' centroids");
 }
 
@@ -108,7 +108,7 @@ class CLatticeLayout {
   }
   CString Origin() const { return OriginText(m_arrLimb.size()).In(m_picture.m_nLanguage); }
   CString CentroidText() const {
-    return Both(L"重心  xo = {1}, yo = {2} mm", L"centroid  xo = {1}, yo = {2} mm",
+    return Both(L"形心  xo = {1}, yo = {2} mm", L"centroid  xo = {1}, yo = {2} mm",
                 {LengthText(m_properties.m_dXo), LengthText(m_properties.m_dYo)})
         .In(m_picture.m_nLanguage);
   }

@@ -206,15 +206,15 @@ void SectionWarning(const char* key, double recorded, const CPlateSection& secti
   const std::string number = std::to_string(section.Holes());
   const std::string area = PlainNumber(section.m_dNet) + " mm²";
   const std::string share =
-      bFriction ? ", 1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
+      bFriction ? "1 − 0.5 n1/n = " + PlainNumber(section.m_dShare) : std::string();
   warnings.push_back(
       {key,
        {std::string(key) + " 的板件截面应力初算为 " + was + "；按 5.1.1 条最不利截面（" + number +
-            " 孔，净面积 " + area + share + "）验算：" + is + "。",
+            " 孔，净面积 " + area + (bFriction ? "，" : "") + share + "）验算：" + is + "。",
         std::string("The record's section stress from ") + key + " is " + was +
             "; judged by the worst section of 5.1.1 (" + number +
-            (section.Holes() == 1 ? " hole, net " : " holes, net ") + area + share + "): " + is +
-            "."}});
+            (section.Holes() == 1 ? " hole, net " : " holes, net ") + area +
+            (bFriction ? ", " : "") + share + "): " + is + "."}});
 }
 
 }  // namespace

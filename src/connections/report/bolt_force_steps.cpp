@@ -55,8 +55,8 @@ void Tension(const CBoltFacts& b, CSteps& steps) {
 
 std::vector<CReportStep> BoltResistances(const CBoltFacts& b) {
   const std::string clause = b.m_clauses.m_arrType[b.m_input.m_nType];
-  static constexpr CTextLiteral kShear = {"抗剪承载力", "Shear resistance"};
-  static constexpr CTextLiteral kTension = {"抗拉承载力", "Tensile resistance"};
+  static constexpr CTextLiteral kShear = {"受剪承载力", "Shear resistance"};
+  static constexpr CTextLiteral kTension = {"受拉承载力", "Tensile resistance"};
   if (b.m_bFriction) {
     const std::string k =
         b.m_view.Is2017() ? Put(b.m_view.m_p2017->Results().m_dHoleFactor) + " × " : "";

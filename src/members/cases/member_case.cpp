@@ -138,7 +138,7 @@ bool CMemberCheck::Run(const CMemberCase& input, CMemberRow& section) {
   if (NeedsTorsion(section.m_section, m_steel, m_loads) && !AddTorsion(section)) {
     return Refuse(
         "section",
-        {"扭转常数无法由轮廓算出", "has no torsion constant that follows from its outline"},
+        {"自由扭转常数无法由轮廓算出", "has no torsion constant that follows from its outline"},
         {"请选用其他截面", "take another section"});
   }
   CheckSolidMember(section.m_section, m_steel, m_loads, m_answer);

@@ -86,14 +86,13 @@ class CLatticeReader {
     }
     if (!(std::isfinite(s.m_dLimbR1) && s.m_dLimbR1 > 0)) {
       return CCaseFault{"section.lattice",
-                        {"的分肢缺少最小回转半径", "has a limb without its least radius"},
+                        {"分肢缺少最小回转半径", "has a limb without its least radius"},
                         {"请选用其他分肢", "take another limb"}};
     }
     if (s.Limbs() == 2 && m_limbs.m_arrLimb[0].m_dArea != m_limbs.m_arrLimb[1].m_dArea) {
-      return CCaseFault{
-          "section.lattice",
-          {"的两肢不同，不在验算范围内", "has two unequal limbs, which is not covered"},
-          {"请给相同的分肢", "give equal limbs"}};
+      return CCaseFault{"section.lattice",
+                        {"两肢不同，不在验算范围内", "has two unequal limbs, which is not covered"},
+                        {"请给相同的分肢", "give equal limbs"}};
     }
     return std::nullopt;
   }

@@ -436,9 +436,10 @@ const CSectionStyle* StyleNamed(const std::string& name) {
 CDataItem SizesRow(const CSectionStyle& style, std::span<const double> sizes,
                    std::optional<CCaseFault>& fault) {
   if (const auto wrong = CheckSectionSizes(style, sizes)) {
-    fault = CCaseFault{"section.sizes",
-                       {"围不成截面：" + wrong->m_strText, "bound no section: " + wrong->m_strText},
-                       {"请改正尺寸", "give sizes that do"}};
+    fault =
+        CCaseFault{"section.sizes",
+                   {"不能构成截面：" + wrong->m_strText, "bound no section: " + wrong->m_strText},
+                   {"请改正尺寸", "give sizes that do"}};
     return {};
   }
   CSteelJMData record;

@@ -55,7 +55,7 @@ class CSources {
   }
 
   void Torsion() {
-    Add("I_t", {"扭转常数", "torsion constant"}, s.m_dIt, "mm⁴", kFromOutline);
+    Add("I_t", {"自由扭转常数", "torsion constant"}, s.m_dIt, "mm⁴", kFromOutline);
     Add("I_ω", {"扇性惯性矩", "warping constant"}, s.m_dIw, "mm⁶", kFromOutline);
     Add("x_s", {"剪心到形心", "shear centre from the centroid"}, s.m_dXs, "mm", kFromOutline);
     Add("y_s", {"剪心到形心", "shear centre from the centroid"}, s.m_dYs, "mm", kFromOutline);

@@ -68,7 +68,7 @@ std::optional<CText> AddStyleRanges(const std::string& name, const std::vector<C
   const CSectionStyle* style = StyleNamed(name);
   if (style == nullptr) {
     const std::string what = Excerpt(name);
-    return CText{"style“" + what + "”不是截面种类；请给出 orv3cal styles 列出的别名，如 h 或 box",
+    return CText{"style“" + what + "”不是截面类型；请给出 orv3cal styles 列出的别名，如 h 或 box",
                  "style \"" + what +
                      "\" is no section style; give an alias that orv3cal styles lists, such "
                      "as h or box"};

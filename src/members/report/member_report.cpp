@@ -106,15 +106,18 @@ class CReportWriter {
   void Warnings() {
     std::vector<CCaseWarning> warnings;
     for (const auto& noted : m_report.m_envelope.Notes()) {
-      std::string names;
+      CText names;
       if (noted.m_arrCase.size() < m_report.m_arrCase.size()) {
-        for (const std::size_t index : noted.m_arrCase)
-          names += (names.empty() ? "" : ", ") + CaseName(index);
+        for (const std::size_t index : noted.m_arrCase) {
+          names.m_strChinese += (names.m_strChinese.empty() ? "" : "、") + CaseName(index);
+          names.m_strEnglish += (names.m_strEnglish.empty() ? "" : ", ") + CaseName(index);
+        }
       }
       const CTextLiteral text = MemberNoteText(noted.m_nNote);
-      warnings.push_back({MemberNoteKey(noted.m_nNote),
-                          {text.m_szChinese + OfCombination(names, CLanguage::Chinese),
-                           text.m_szEnglish + OfCombination(names, CLanguage::English)}});
+      warnings.push_back(
+          {MemberNoteKey(noted.m_nNote),
+           {text.m_szChinese + OfCombination(names.m_strChinese, CLanguage::Chinese),
+            text.m_szEnglish + OfCombination(names.m_strEnglish, CLanguage::English)}});
     }
     m_body.Warnings(warnings);
   }

@@ -24,7 +24,7 @@ struct CPointName {
   const wchar_t* m_szX;
   const wchar_t* m_szY;
 };
-constexpr CPointName kCentroid{L"重心", L"centroid", L"xo", L"yo"};
+constexpr CPointName kCentroid{L"形心", L"centroid", L"xo", L"yo"};
 constexpr CPointName kBase{L"基点", L"base point", L"x", L"y"};
 constexpr CPointName kShearCenter{L"剪心", L"shear centre", L"xs", L"ys"};
 constexpr CPointName kPlastic{L"塑性中和轴", L"plastic axes", L"xp", L"yp"};

@@ -162,7 +162,7 @@ class CVerify {
       }
       if (!inside)
         Add(info.m_strTableName, recordAt,
-            Say(L"位于 {1} 的块在行区之外", L"a block at {1} lies outside the row area",
+            Say(L"第 {1} 字节处的块在行区之外", L"a block at {1} lies outside the row area",
                 {FormatInt(at)}));
       if (!free)
         Add(info.m_strTableName, at, Say(L"有块与另一块重叠", L"a block overlaps another one"));
