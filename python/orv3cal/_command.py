@@ -89,7 +89,7 @@ def sentence(told: str) -> str:
     """The command's own, without its name and that of standard input in front; its options that
     name a store as they are given here."""
     text = told.strip().split("\n")[-1]
-    text = re.sub(r"--(store|data)\b( FILE| DIR)?", r"\1=", text)
+    text = re.sub(r"--(store|data)(?![a-z-])( FILE| DIR)?", r"\1=", text)
     return text.removeprefix("orv3cal: ").removeprefix("-: ")
 
 
