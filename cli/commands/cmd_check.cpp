@@ -13,6 +13,7 @@
 #include "cases/check_answers.h"
 #include "cases/check_editions.h"
 #include "cases/check_member.h"
+#include "cases/given_cases.h"
 #include "cases/schemas.h"
 #include "commands.h"
 #include "connections/connection_kinds.h"
@@ -38,6 +39,7 @@ struct COptions {
   bool json = false;
   bool csv = false;
   bool sort = false;
+  bool cases = false;
   std::string report;
   std::string project;
   std::string code;  // of --code
@@ -257,6 +259,7 @@ CExit RunMembers(const COptions& options) {
 }
 
 CExit RunCheck(const COptions& options) {
+  if (options.cases) return PrintGivenCases(options.kind, options.file, options.Language());
   if (options.kind == "member") return RunMembers(options);
   CExit exit = CExit::Done;
   WithConnectionKind(options.kind, [&](const auto& kind) { exit = CChecker(kind, options).Run(); });
@@ -288,19 +291,29 @@ void AddCheckCommand(CLI::App& program) {
       ->required()
       ->check(FileName);
   auto* json = AddJsonOption(*command, options->json);
-  command
-      ->add_flag("--csv", options->csv, Say("以 CSV 输出，每个算例一行", "As CSV, one line a case"))
-      ->excludes(json);
-  command->add_flag(
+  auto* csv = command
+                  ->add_flag("--csv", options->csv,
+                             Say("以 CSV 输出，每个算例一行", "As CSV, one line a case"))
+                  ->excludes(json);
+  auto* sort = command->add_flag(
       "--sort", options->sort,
       Say("多个算例时，利用率大者在前", "Of many cases, the greatest utilisation first"));
+  auto* report =
+      command
+          ->add_option(
+              "--report", options->report,
+              Say("写入可按 A4 打印的计算书（不给 --lang 时为中文）",
+                  "Write a calculation report to print on A4, in Chinese unless --lang is given"))
+          ->check(FileName)
+          ->type_name("FILE.html");
   command
-      ->add_option(
-          "--report", options->report,
-          Say("写入可按 A4 打印的计算书（不给 --lang 时为中文）",
-              "Write a calculation report to print on A4, in Chinese unless --lang is given"))
-      ->check(FileName)
-      ->type_name("FILE.html");
+      ->add_flag("--cases", options->cases,
+                 Say("不验算，以 JSON 输出读到的各算例；不能读出的为 null",
+                     "Check nothing: the cases as they are read, as JSON; null is one that cannot "
+                     "be read"))
+      ->excludes(csv)
+      ->excludes(sort)
+      ->excludes(report);
   command->add_option("--project", options->project,
                       Say("计算书表头的工程名称，用于没有给出工程的算例",
                           "The project in the head of the report, of cases that name none"));

@@ -215,6 +215,29 @@ TEST(CheckCommand, AnswersManyCasesOfACsv) {
   EXPECT_EQ(answers[1]["results"], ExampleAnswer("bolt")["results"]) << "the same group";
 }
 
+// As a check reads them: cells by their keys, objects within objects, and a key that has dots of
+// its own.
+TEST(CheckCommand, TellsTheCasesAsTheyAreRead) {
+  const std::string csv =
+      "id;section.lattice.P1No.;lengths.x;section.sizes;steel;code\r"
+      "007;\"5\"\" pipe\nsteel\";6000;300,400;Q345;2003\r"
+      "short;1\r"
+      "\r"
+      "1e3;;70;;;\r";
+  const CRunResult run = Check("member", csv, "--cases", "cases.csv");
+  EXPECT_EQ(run.m_nExit, 2);
+  ExpectHas(run.m_strError, {"1 of 3 cases cannot be read, the first: case 2, case: has 2 cells"});
+  EXPECT_EQ(Json::parse(run.m_strOut), Json::parse(R"([
+    {"id": "007", "section": {"lattice": {"P1No.": "5\" pipe\nsteel"}, "sizes": "300,400"},
+     "lengths": {"x": 6000}, "steel": "Q345", "code": "2003"},
+    null, {"id": "1e3", "lengths": {"x": 70}}])"));
+  for (const char* kind : {"bolt", "butt", "fillet", "weld-group", "member"}) {
+    const CRunResult same = Check(kind, Example(kind).dump(), "--cases");
+    EXPECT_EQ(same.m_nExit, 0) << same.m_strError;
+    EXPECT_EQ(Json::parse(same.m_strOut), Json::array({Example(kind)})) << kind;
+  }
+}
+
 // A line that has lost its end has lost forces; behind a broken cell cases cannot even be counted.
 TEST(CheckCommand, NothingOfACsvIsLeftOut) {
   const std::string head = "id,case,steel,quality,lw,t,N,M,V\n";

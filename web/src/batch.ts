@@ -156,7 +156,7 @@ const by = (code: string): HTMLElement => el("p", { class: "note" },
   code === "both" ? say("没有给出版本的算例：两版", "Cases that name no edition: by both") : say(`没有给出版本的算例：GB 50017-${code}`, `Cases that name no edition: by GB 50017-${code}`));
 
 const writer = (name: string, numeric: boolean): Column["written"] => {
-  if (name === "pass") return (text) => (text === "true" ? `✓ ${say("满足", "passes")}` : text === "false" ? `✗ ${say("不满足", "fails")}` : say("拒算", "refused"));
+  if (name === "pass") return (text) => (text === "true" ? `✓ ${say("满足", "passes")}` : text === "false" ? `✗ ${say("不满足", "fails")}` : say("拒绝", "refused"));
   if (name === "governs") return checkName;
   return numeric ? (text) => (text === "" ? "" : shown(Number(text))) : undefined;
 };
@@ -172,6 +172,6 @@ function summary(head: string[], rows: string[][]): HTMLElement {
   const good = failed + refused === 0;
   return el("p", { class: good ? "box pass" : "box fail", role: "status" },
     el("b", {}, good ? say("全部满足", "all pass") : say("不全满足", "not all pass")),
-    say(` · ${cases(rows)} 个算例：${failed} 个不满足，${refused} 个拒算`, ` · ${cases(rows)} cases: ${failed} fail, ${refused} refused`),
+    say(` · ${cases(rows)} 个算例：${failed} 个不满足，${refused} 个拒绝`, ` · ${cases(rows)} cases: ${failed} fail, ${refused} refused`),
     worst ? say(` · 最不利 ${worst[at("id")] || worst[at("case")]}：${percent(Number(worst[ratio]))}`, ` · worst ${worst[at("id")] || worst[at("case")]}: ${percent(Number(worst[ratio]))}`) : "");
 }

@@ -147,14 +147,17 @@ function latticeView(answer: Answer): HTMLElement[] {
   ];
 }
 
-export function connections(place: HTMLElement): Promise<void> {
-  const kind = (["bolt", "fillet", "butt", "weld-group"] as const).find((each) => each === state()["kind"]) ?? "bolt";
-  const list: [string, string][] = (["bolt", "fillet", "butt", "weld-group"] as const).map((each) => [each, kindTitle(each)]);
-  const above = field(say("连接", "Connection"), select(list, kind, (next) => {
+const kConnections = ["bolt", "fillet", "butt", "weld-group"] as const;
+
+export async function connections(place: HTMLElement): Promise<void> {
+  const asked = state()["kind"] ?? "bolt";
+  const kind = kConnections.find((each) => each === asked);
+  if (!kind) return place.replaceChildren(fault(say(`kind：“${asked}”不是连接；应为 ${kConnections.join("、")}`, `kind: "${asked}" is no connection; right would be one of ${kConnections.join(", ")}`)));
+  const above = field(say("连接", "Connection"), select(kConnections.map((each) => [each, kindTitle(each)]), kind, (next) => {
     change({ kind: next, case: "" }, true);
     void keepFocus(() => connections(place));
   }));
-  return checkView(place, kind, above);
+  await checkView(place, kind, above);
 }
 
 export const members = (place: HTMLElement) => checkView(place, "member", null);

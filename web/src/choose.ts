@@ -95,7 +95,7 @@ export async function choose(place: HTMLElement): Promise<void> {
 const notesOf = (row: ChooseJson["rows"][number]) => (row.warnings ?? []).map((each) => `${each.key}: ${each.text}`);
 
 function table(answer: ChooseJson, value: Case, code: string, whole: Answer): HTMLElement {
-  const head = [say("表", "table"), say("型号", "no"), "kg/m", say("利用率", "ratio"), say("控制", "governs"), say("注意", "note"), ""];
+  const head = [say("表", "table"), say("型号", "no"), "kg/m", say("利用率", "ratio"), say("控制", "governs"), say("请注意", "note"), ""];
   const body = el("tbody");
   const common = answer.rows.map(notesOf).reduce((all, notes) => all.filter((note) => notes.includes(note)), answer.rows[0] ? notesOf(answer.rows[0]) : []);
   for (const row of answer.rows) {

@@ -46,7 +46,13 @@ async function numbersOf(table: string): Promise<string[]> {
 
 function numbers(table: string): Promise<string[]> {
   let known = rowNumbers.get(table);
-  if (!known) rowNumbers.set(table, (known = numbersOf(table).catch(() => [])));
+  if (!known) {
+    known = numbersOf(table).catch(() => {
+      rowNumbers.delete(table); // to be asked again
+      return [];
+    });
+    rowNumbers.set(table, known);
+  }
   return known;
 }
 

@@ -22,7 +22,7 @@ const kNames: Record<string, [unit: string, zh: string, en: string]> = {
   betamx: ["", "等效弯矩系数 βmx", "equivalent moment factor βmx"], betamy: ["", "等效弯矩系数 βmy", "equivalent moment factor βmy"],
   betatx: ["", "等效弯矩系数 βtx", "equivalent moment factor βtx"], betaty: ["", "等效弯矩系数 βty", "equivalent moment factor βty"],
   class: ["", "截面板件宽厚比等级", "class of the section's plates"], classx: ["", "绕 x 轴截面分类", "buckling curve about x"], classy: ["", "绕 y 轴截面分类", "buckling curve about y"],
-  passForces: ["", "螺栓受力满足", "bolt forces pass"], passX: ["", "x 向截面满足", "section under Vx passes"], passY: ["", "y 向截面满足", "section under Vy passes"],
+  passForces: ["", "螺栓受力满足", "bolt forces pass"], passX: ["", "板件截面（Vx）满足", "section under Vx passes"], passY: ["", "板件截面（Vy）满足", "section under Vy passes"],
   passSpacing: ["", "间距满足", "spacing passes"], okSigma: ["", "正应力满足", "normal stress passes"], okTau: ["", "剪应力满足", "shear stress passes"],
   okCombined: ["", "综合应力满足", "combined stress passes"], okReduced: ["", "折算应力满足", "reduced stress passes"], okSize: ["", "焊脚尺寸满足", "weld size passes"],
 };

@@ -1,12 +1,13 @@
 // Sections: the tables, the rows of one, and the section that is chosen; several beside each other.
 import { change, go, state } from "./address";
-import { ask, lineOf, sentence, told, withWords, type Answer } from "./client";
+import { ask, lineOf, sentence, told, withWords } from "./client";
 import { csvText } from "./csv";
-import { button, copyButton, download, el, fault, field, latest, newId, select } from "./dom";
+import { button, copyButton, download, el, fault, field, newId, select } from "./dom";
 import { narrow, typedNumber } from "./figures";
 import { Grid, type Column } from "./grid";
 import { keepFocus, oneStop, reachable } from "./keyboard";
 import { say } from "./language";
+import { Question } from "./question";
 import { cellLines, figureLines, onward, sectionView, type FigureLine, type SectionJson } from "./section_view";
 import { workbook } from "./workbook";
 
@@ -128,24 +129,23 @@ export async function sections(place: HTMLElement): Promise<void> {
   const isPair = list.find((each) => each.name === table)?.family.includes("pair") ?? false;
   const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", onchange: () => {
     change({ gap: narrow(gap.value) });
-    if (shownNo) void showDetail(shownNo);
+    void section.ask();
   } });
-  let shownNo = "";
+  const chosen = () => state()["no"] ?? all[0]?.[key];
   const drawn = (no: string) => lineOf(["show", ...(state()["turn"] ? [`--turn=${state()["turn"]}`] : []), ...(isPair && state()["gap"] ? [`--gap=${state()["gap"]}`] : [])], table, no);
-  const showDetail = latest(
-    (no: string): Promise<[string, Answer]> => {
-      return ask(withWords(drawn(no), "--json", "--svg", "picture.svg")).then((shown) => [no, shown]);
-    },
-    ([no, shown]) => {
-      shownNo = no;
-      const turned = drawn(no);
-      const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void keepFocus(() => showDetail(no)); });
+  const section = new Question(detail, async () => {
+    const no = chosen()!;
+    const turned = drawn(no);
+    const shown = await ask(withWords(turned, "--json", "--svg", "picture.svg"));
+    return () => {
+      const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void keepFocus(() => section.ask()); });
       detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair && Number(state()["gap"]) ? { gap: Number(state()["gap"]) } : {}) })), field(say("转角", "Turned by"), turns),
         isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm")) || "");
-    },
-  );
-  const first = state()["no"] ?? all[0]?.[key];
-  const detailed = first ? showDetail(first) : null;  // its command runs while the rows are drawn
+    };
+  });
+  // Its command runs while the rows are drawn.
+  place.append(detail);
+  const detailed = chosen() ? section.ask() : null;
   const isMarked = (row: string[]) => compared().includes(`${table}|${row[key]}`);
   const grid: Grid = new Grid({
     label: table,
@@ -154,7 +154,7 @@ export async function sections(place: HTMLElement): Promise<void> {
     sort: state()["sort"] ?? "",
     sorted: (sort) => change({ sort }),
     isChosen: (row) => row[key] === state()["no"],
-    chosen: (row) => { change({ no: row[key]! }); void showDetail(row[key]!); },
+    chosen: (row) => { change({ no: row[key]! }); void section.ask(); },
     marked: { has: isMarked, toggle: (row) => {
       const each = `${table}|${row[key]}`;
       change({ compare: (isMarked(row) ? compared().filter((other) => other !== each) : [...compared(), each]).join(";") });

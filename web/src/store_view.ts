@@ -19,22 +19,21 @@ async function csvOfSheets(bytes: Uint8Array): Promise<[table: string, text: str
   });
 }
 
-async function imported(file: File, table: string, overwrite: boolean): Promise<Answer[]> {
-  const more = overwrite ? ["--overwrite"] : [];
+// The sheets of a workbook come in by one command, as files named for their tables: in one save.
+async function imported(file: File, table: string, overwrite: boolean): Promise<Answer> {
+  const words = ["store", "import", ...(table ? [`--table=${table}`] : []), ...(overwrite ? ["--overwrite"] : [])];
   const bytes = await bytesOf(file);
-  const bring = (name: string, files: Files, into: string) => ask(lineOf(["store", "import", ...(into ? [`--table=${into}`] : []), ...more], name), files);
+  const bring = (files: Files) => ask(lineOf(words, ...Object.keys(files)), files);
   if (file.name.toLowerCase().endsWith(".xlsx")) {
     let sheets: [string, string][];
     try {
       sheets = await csvOfSheets(bytes);
     } catch {
-      return [{ status: 2, out: "", err: say(`${file.name}: 不是工作簿（.xlsx）`, `${file.name}: is no workbook (.xlsx)`), files: {} }];
+      return { status: 2, out: "", err: say(`${file.name}: 不是工作簿（.xlsx）`, `${file.name}: is no workbook (.xlsx)`), files: {} };
     }
-    const answers: Answer[] = [];
-    for (const [name, text] of sheets) answers.push(await bring("sheet.csv", { "sheet.csv": text }, table || name));
-    return answers;
+    return bring(Object.fromEntries(sheets.map(([name, text]) => [`${name}.csv`, text])));
   }
-  return [await bring(file.name, { [file.name]: bytes }, table)];
+  return bring({ [file.name]: bytes });
 }
 
 interface RowsJson {
@@ -81,7 +80,7 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const over = el("input", { type: "checkbox" });
   const taken = async (files: File[]) => {
     note.replaceChildren();
-    for (const file of files) for (const answer of await imported(file, into.value, over.checked)) tell(answer);
+    for (const file of files) tell(await imported(file, into.value, over.checked));
     await listTables();
   };
   const filled = () => list.filter((table) => table.rows > 0);

@@ -39,7 +39,9 @@ export const checkName = (name: string): string => (kChecks[name] ? say(...kChec
 
 const checkTitle = (name: string, names: ResultNames) => names.get(name)?.[0] || checkName(name);
 
-export const percent = (ratio: number | null | undefined) => (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(4)))} %`);
+// Four digits, and near the limit so many that it is seen on which side of it.
+export const percent = (ratio: number | null | undefined) =>
+  (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(Math.abs(ratio - 1) < 5e-4 ? 7 : 4)))} %`);
 
 function bar(name: string, ratio: number | null | undefined, pass: boolean, note = ""): HTMLElement {
   const width = Math.min(Math.max(ratio ?? 1, 0), 1.25) / 1.25;
