@@ -218,6 +218,103 @@ walk("members: trace by clause, and a batch with the worst first", "view=members
   await says(page, ".batch .fault", "nonsense");
 });
 
+// Keeps back what the worker answers, until it is let go.
+const hold = (page) => page.workers()[0].evaluate(() => {
+  const post = self.postMessage.bind(self);
+  const held = [];
+  self.postMessage = (reply) => held.push(reply);
+  self.letGo = () => {
+    self.postMessage = post;
+    held.forEach((reply) => post(reply));
+  };
+});
+const letGo = (page) => page.workers()[0].evaluate(() => self.letGo());
+const given = async (page) => JSON.parse(new URLSearchParams(await page.evaluate(() => location.hash.slice(1))).get("case"));
+
+const tableMember = { steel: "Q345", section: { table: "热轧窄翼缘H型钢", no: "HN400X200" }, N: -800, lengths: { x: 6000, y: 3000 } };
+walk("late answers: nothing stands beside a question that it does not answer", `view=members&lang=en&case=${encodeURIComponent(JSON.stringify(tableMember))}`, async (page) => {
+  const isPale = () => page.$eval(".answer > .detail", (view) => view.inert && view.classList.contains("waiting"));
+  await says(page, ".verdict", "GB 50017-2017");
+  await hold(page);
+  await pick(page, "Edition", "2003");
+  assert.ok(await isPale());
+  await letGo(page);
+  await says(page, ".verdict", "GB 50017-2003");
+  assert.ok(!(await isPale()));
+
+  await hold(page);
+  await pick(page, "table", "热轧宽翼缘H型钢");
+  await fill(page, "N", "-4321");
+  await letGo(page);
+  await addressTells(page, "case", "热轧宽翼缘H型钢");
+  assert.equal((await given(page)).N, -4321);
+
+  const cases = (id, rows) => file(`${id}.csv`, `id,section.style,section.sizes,steel,N,lengths.x,lengths.y\n${`${id},h,300;400;20;10,Q345,-800,6000,3000\n`.repeat(rows)}`);
+  await hold(page);
+  await drop(page, cases("first", 2));
+  await says(page, ".batch h2", "first.csv");
+  await drop(page, cases("second", 1));
+  await says(page, ".batch h2", "second.csv");
+  await letGo(page);
+  await says(page, ".batch .box", "1 cases");
+  await page.click('.batch tr[aria-rowindex="2"] td');
+  await addressTells(page, "case", '"id":"second"');
+
+  await hold(page);
+  await pick(page, "Section by", "table");
+  await page.click('::-p-xpath(//nav//a[. = "Connections"])');
+  await letGo(page);
+  await ready(page);
+  await says(page, ".verdict", "passes");
+  assert.doesNotMatch(await address(page), /case=/);
+});
+
+walk("cases of a file open as the command reads them, by the edition of their list or their own", "view=members&lang=en", async (page) => {
+  const head = "id;section.style;section.sizes;steel;N;lengths.x;lengths.y;code";
+  const line = (id, code, more = "") => `${id};h;"300;400;20;10";Q345;-800;6000;3000;${code}${more}`;
+  await drop(page, file("odd.csv", [head, line('"5"" pipe\nsteel"', ""), line("007", "2003"), line("surplus", "", ";1")].join("\r")));
+  await says(page, ".batch .fault", "has more cells");
+  const open = async (id) => page.evaluate((words) => [...document.querySelectorAll(".batch tr[aria-rowindex]")].find((row) => row.children[1].textContent === words).click(), id);
+  await open("surplus");
+  await says(page, ".batch .fault", "case 3 cannot be read");
+  await open("007");
+  await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017-2003");
+  await addressTells(page, "code", "2003");
+  await open('5" pipe\nsteel');
+  await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017-2017");
+  await addressTells(page, "case", '5\\" pipe\\nsteel');
+});
+
+walk("names and sizes that look like options, and only what has an answer is kept", "view=own&lang=en&style=rect&sizes=100,200&name=--json", async (page) => {
+  page.on("dialog", (dialog) => dialog.accept());
+  await says(page, ".detail h2", "100×200");
+  for (const bad of ["-h", "1e12", "10³"]) {
+    await fill(page, "b ", bad);
+    await says(page, ".box", "No answer");
+    assert.ok(await page.$eval("::-p-text(Keep in own store)", (button) => button.disabled), bad);
+  }
+  await fill(page, "b ", "100");
+  await says(page, ".detail h2", "100×200");
+  const member = await openPage(context, `view=members&lang=en&case=${encodeURIComponent(JSON.stringify({ ...tableMember, section: { table: "自定义对称H型钢", no: "H1" } }))}`);
+  await says(member, ".box", "No answer");
+  await page.bringToFront(); // a tab behind draws nothing
+  await hold(page);
+  await page.click("::-p-text(Keep in own store)");
+  await fill(page, "b ", "555");
+  await letGo(page);
+  await says(page, '[role="status"]', '"--json": added · 100×200');
+  assert.match((await run(page, ["rows", "矩形截面", "--json"])).out, /"--json",\s*"100",\s*"200"/);
+  const cells = ["b=300", "h=400", "tf=20", "tw=10"].flatMap((cell) => ["--set", cell.replace("=", "(mm)=")]);
+  assert.equal((await run(page, ["store", "add", "自定义对称H型钢", "--set", "No.=H1", ...cells])).status, 0);
+  await member.bringToFront();
+  await says(member, ".verdict", "passes"); // of the row that another tab has saved
+  assert.deepEqual(member.faults, []);
+  await member.close();
+  await show(page, "view=store&lang=en");
+  await page.click('[aria-label="Delete --json"]');
+  await says(page, ".log", '"--json": deleted');
+});
+
 walk("lattice columns and choosing", "view=lattice&lang=en", async (page) => {
   await says(page, ".figures", "Limb 2");
   await page.select("select", "4");
