@@ -408,7 +408,7 @@ inChromium(test)("storage that is full", async () => {
     await devtools.send("Storage.overrideQuotaForOrigin", { origin, quotaSize: 1000 });
     const page = await open();
     const answer = await run(page, add("P2"));
-    assert.deepEqual([answer.status, answer.out, answer.err], [3, "", "orv3cal: your own store: not written, the disk is full\n"]);
+    assert.deepEqual([answer.status, answer.out, answer.err], [3, "", "orv3cal: your own store: not written, the disk is full; export the own store before you close the browser\n"]);
     await fill(page, "Name to keep it by", "W1");
     await page.click("::-p-text(Keep in own store)");
     await says(page, ".fault", "the disk is full");
@@ -440,6 +440,24 @@ test("a kept store that is damaged", async () => {
     await says(page, ".fault", err.trim().replace("orv3cal: ", ""));
   }
   await context.close();
+});
+
+// A browser that has dropped its database, as after a full disk: an empty store is not passed off as one's own.
+walk("a store that the browser has lost", "view=store&lang=en", async (page) => {
+  assert.equal((await run(page, add("P1"))).status, 0);
+  await page.evaluate(() => new Promise((done) => {
+    indexedDB.open("orv3cal").onsuccess = ({ target }) => {
+      const change = target.result.transaction("stores", "readwrite");
+      change.objectStore("stores").clear();
+      change.oncomplete = done;
+    };
+  }));
+  await page.reload();
+  await says(page, ".lost", "The browser has lost your own store");
+  await page.click(".lost button");
+  await page.reload();
+  await ready(page);
+  assert.equal(await page.$(".lost"), null);
 });
 
 // A browser that lets pages keep nothing: the catalogue is there, and a save says what it lacks.

@@ -43,6 +43,10 @@ async function unpackedPage(): Promise<Start> {
 }
 const inside = unpackedPage();
 
+// Told of a save, and whether a store is kept by it.
+let savedHere: (isKept: boolean) => void = () => {};
+export const onSave = (saved: (isKept: boolean) => void) => void (savedHere = saved);
+
 // Tabs tell one another of their saves.
 const tabs = new BroadcastChannel("orv3cal");
 export const onOtherSave = (saved: () => void) => void (tabs.onmessage = saved);
@@ -50,7 +54,10 @@ export const onOtherSave = (saved: () => void) => void (tabs.onmessage = saved);
 async function start(): Promise<Worker> {
   const worker = new Worker(URL.createObjectURL(new Blob([source], { type: "text/javascript" })));
   worker.onmessage = ({ data }: MessageEvent<Reply>) => {
-    if (data === "saved") return tabs.postMessage(data);
+    if (typeof data === "string") {
+      savedHere(data === "saved");
+      return tabs.postMessage(data);
+    }
     waiting.get(data.id)?.(data.answer);
     waiting.delete(data.id);
     answered = true;
@@ -125,6 +132,11 @@ export async function told<T>(words: string[], ...given: string[]): Promise<T> {
 // Whether there is a store of the user's own.
 export async function isStoreKept(): Promise<boolean> {
   return (await order({ kind: "kept" })).status === 0;
+}
+
+// Whether the browser keeps none, though it lets the page keep one and can read what it keeps.
+export async function wasStoreLost(): Promise<boolean> {
+  return keepsStore() && (await order({ kind: "kept" })).status === 1;
 }
 
 export function forgetOwnStore(): Promise<Answer> {

@@ -3,12 +3,13 @@ import { change, go, startView, state } from "./address";
 import { holdCases } from "./batch";
 import { choose } from "./choose";
 import { connections, latticeColumns, members } from "./checks";
-import { onBusy, onOtherSave, run, stop } from "./client";
+import { onBusy, onOtherSave, onSave, run, stop } from "./client";
 import { codeTables } from "./code_tables";
 import { button, el, fault } from "./dom";
 import { readLists } from "./guide";
 import { keepFocus, oneStop, waysIn } from "./keyboard";
 import { language, say } from "./language";
+import { lostStore, noteSave } from "./lost_store";
 import { ownSections } from "./own_sections";
 import { askAgain } from "./question";
 import { sections } from "./sections";
@@ -80,11 +81,15 @@ async function drawView(): Promise<void> {
   }
   if (mine === draws) document.querySelector(".ways")!.replaceChildren(...waysIn(main));
   main.setAttribute("aria-busy", "false");
+  const lost = await lostStore();
+  if (lost && mine === draws) main.before(lost);
 }
 
 const busy = el("div", { class: "busy", role: "status" });
 document.body.append(busy);
 onBusy((isBusy) => busy.replaceChildren(...(isBusy ? [say("计算中… ", "Computing… "), button(say("停止", "Stop"), () => void stop())] : [])));
+
+onSave(noteSave);
 
 // What another tab has saved: the tables are read anew, and what a form asks is asked again.
 onOtherSave(() => {

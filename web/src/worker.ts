@@ -13,17 +13,18 @@ export type Order =
   | { id: number; kind: "run"; argv: string[]; files: Files; language: string }
   | { id: number; kind: "forget" }
   | { id: number; kind: "kept" };
-// Beside the answers, which have the number of their order: that the own store was saved.
-export type Reply = { id: number; answer: Answer } | "saved";
+// Beside the answers, which have the number of their order: that the own store was saved, or that there is none
+// any more.
+export type Reply = { id: number; answer: Answer } | "saved" | "forgotten";
 
 let own: OwnStore;
 let core: Promise<Core>;
 let line: Promise<unknown> = Promise.resolve();
 
 const kTroubles: Record<Trouble | "old", [string, string]> = {
-  full: ["您自己的库: 没有写入，磁盘已满", "your own store: not written, the disk is full"],
+  full: ["您自己的库: 没有写入，磁盘已满；请先导出自己的库，再关闭浏览器", "your own store: not written, the disk is full; export the own store before you close the browser"],
   denied: ["您自己的库: 没有写入，浏览器不允许本页保存数据", "your own store: not written, the browser does not let this page keep data"],
-  failed: ["您自己的库: 没有写入，浏览器未能写入（磁盘可能已满）", "your own store: not written, the browser could not write it (the disk may be full)"],
+  failed: ["您自己的库: 没有写入，浏览器未能写入（磁盘可能已满）；请先导出自己的库，再关闭浏览器", "your own store: not written, the browser could not write it (the disk may be full); export the own store before you close the browser"],
   unread: ["您自己的库: 浏览器未能读出（磁盘可能已满；腾出空间后重新启动浏览器）", "your own store: the browser could not read it (the disk may be full: make room and start the browser again)"],
   old: ["此浏览器不能运行本页；需要 Chrome 或 Edge 103、Firefox 113、Safari 16.4 或更新的版本", "this browser cannot run the page; it takes Chrome or Edge 103, Firefox 113, Safari 16.4 or newer"],
 };
@@ -69,7 +70,7 @@ function same(a: Uint8Array | null, b: Uint8Array | null): boolean {
 
 async function save(bytes: Uint8Array | null, before: number): Promise<boolean> {
   const isSaved = await own.save(bytes, before);
-  if (isSaved) self.postMessage("saved" satisfies Reply);
+  if (isSaved) self.postMessage((bytes ? "saved" : "forgotten") satisfies Reply);
   return isSaved;
 }
 
