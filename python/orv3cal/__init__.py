@@ -70,7 +70,11 @@ def section(
     """
     options = ["--json", *_command.option("--name", name)]
     if base is not None:
-        options += ["--base", *(_command.text_of(each) for each in base)]
+        try:
+            x, y = base
+        except (TypeError, ValueError):
+            raise Error(_command.say("base：{0!r} 不是点；应为 (x, y)", "base: {0!r} is no point; right would be (x, y)", base)) from None
+        options += ["--base", _command.text_of(x), _command.text_of(y)]
     return _command.answer(_command.line(["section"], options, [style, *sizes]))
 
 

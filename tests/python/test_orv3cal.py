@@ -117,6 +117,8 @@ class Answers(unittest.TestCase):
                 orv3cal.check("bolt", {**BOLT, "n": [1, {"d": fault}]})
         with self.assertRaises(orv3cal.Error):
             orv3cal.code("--help")
+        with self.assertRaisesRegex(orv3cal.Error, "base"):
+            orv3cal.section("circle", 20, base=5)
         with self.assertRaisesRegex(orv3cal.Error, "^none: data= must name a folder"):
             orv3cal.tables(data="none")
 
