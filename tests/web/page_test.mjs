@@ -218,7 +218,7 @@ walk("members: trace by clause, and a batch with the worst first", "view=members
   await says(page, ".batch .fault", "nonsense");
 });
 
-// Keeps back what the worker answers, until it is let go.
+// Keeps back what the worker answers, until it is let go. Only Chromium lets a test into a worker.
 const hold = (page) => page.workers()[0].evaluate(() => {
   const post = self.postMessage.bind(self);
   const held = [];
@@ -232,7 +232,7 @@ const letGo = (page) => page.workers()[0].evaluate(() => self.letGo());
 const given = async (page) => JSON.parse(new URLSearchParams(await page.evaluate(() => location.hash.slice(1))).get("case"));
 
 const tableMember = { steel: "Q345", section: { table: "热轧窄翼缘H型钢", no: "HN400X200" }, N: -800, lengths: { x: 6000, y: 3000 } };
-walk("late answers: nothing stands beside a question that it does not answer", `view=members&lang=en&case=${encodeURIComponent(JSON.stringify(tableMember))}`, async (page) => {
+inChromium(walk)("late answers: nothing stands beside a question that it does not answer", `view=members&lang=en&case=${encodeURIComponent(JSON.stringify(tableMember))}`, async (page) => {
   const isPale = () => page.$eval(".answer > .detail", (view) => view.inert && view.classList.contains("waiting"));
   await says(page, ".verdict", "GB 50017-2017");
   await hold(page);
@@ -285,7 +285,7 @@ walk("cases of a file open as the command reads them, by the edition of their li
   await addressTells(page, "case", '5\\" pipe\\nsteel');
 });
 
-walk("names and sizes that look like options, and only what has an answer is kept", "view=own&lang=en&style=rect&sizes=100,200&name=--json", async (page) => {
+inChromium(walk)("names and sizes that look like options, and only what has an answer is kept", "view=own&lang=en&style=rect&sizes=100,200&name=--json", async (page) => {
   page.on("dialog", (dialog) => dialog.accept());
   await says(page, ".detail h2", "100×200");
   for (const bad of ["-h", "1e12", "10³"]) {
