@@ -33,7 +33,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CCheckOptions {
   std::string kind;
   std::string file;
   bool json = false;
@@ -54,7 +54,7 @@ struct COptions {
 template <class CHECK2003, class CHECK2017>
 class CChecker {
  public:
-  CChecker(const CConnectionKind<CHECK2003, CHECK2017>& kind, const COptions& options)
+  CChecker(const CConnectionKind<CHECK2003, CHECK2017>& kind, const CCheckOptions& options)
       : m_kind(kind),
         m_options(options),
         m_arrAsked(EditionsAsked(options.code)),
@@ -233,7 +233,7 @@ class CChecker {
   }
 
   const CConnectionKind<CHECK2003, CHECK2017>& m_kind;
-  const COptions& m_options;
+  const CCheckOptions& m_options;
   const std::vector<CCodeEdition> m_arrAsked;
   CCaseSchema m_schema;
   CEditionRun<CHECK2003> m_2003;
@@ -252,13 +252,13 @@ class CChecker {
   std::string m_strFirstFault;
 };
 
-CExit RunMembers(const COptions& options) {
+CExit RunMembers(const CCheckOptions& options) {
   return CheckMembers({options.file, options.code, options.json, options.csv, options.sort,
                        options.report, options.project, options.Language(),
                        options.ReportLanguage(), options.store});
 }
 
-CExit RunCheck(const COptions& options) {
+CExit RunCheck(const CCheckOptions& options) {
   if (options.cases) return PrintGivenCases(options.kind, options.file, options.Language());
   if (options.kind == "member") return RunMembers(options);
   CExit exit = CExit::Done;
@@ -275,7 +275,7 @@ std::vector<std::string> Kinds() {
 }  // namespace
 
 void AddCheckCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CCheckOptions>();
   CLI::App* command = program.add_subcommand(
       "check", Say("验算螺栓群、角焊缝、对接焊缝、角焊缝群或构件；有一个不满足时退出状态为 1",
                    "Check bolt groups, fillet welds, butt welds, groups of fillet welds or "

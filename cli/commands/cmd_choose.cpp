@@ -29,7 +29,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CChooseOptions {
   std::string file;
   std::string tables;
   std::vector<std::string> styles;  // each the object of a range
@@ -51,7 +51,7 @@ bool HasSection(const CMemberCase& input) {
 }
 
 // Every case of the file, a member's combinations one after another.
-std::vector<CMemberCase> ReadMembers(const COptions& options) {
+std::vector<CMemberCase> ReadMembers(const CChooseOptions& options) {
   const CMemberReader reader;
   std::vector<CMemberCase> cases;
   std::size_t count = 0;
@@ -93,7 +93,7 @@ std::vector<CString> TablesAsked(const std::string& names) {
   return tables;
 }
 
-std::vector<CMemberCandidate> TableCandidates(const COptions& options, double gap) {
+std::vector<CMemberCandidate> TableCandidates(const CChooseOptions& options, double gap) {
   if (options.tables == "all") return AllMemberCandidates(gap);
   std::vector<CMemberCandidate> candidates;
   for (const CString& table : TablesAsked(options.tables)) {
@@ -108,7 +108,7 @@ std::vector<CMemberCandidate> TableCandidates(const COptions& options, double ga
   return candidates;
 }
 
-std::vector<CMemberCandidate> Candidates(const COptions& options, double gap) {
+std::vector<CMemberCandidate> Candidates(const CChooseOptions& options, double gap) {
   std::vector<CMemberCandidate> candidates = TableCandidates(options, gap);
   for (const std::string& style : options.styles) AddStyles(style, candidates);
   if (candidates.empty())
@@ -121,10 +121,11 @@ std::vector<CMemberCandidate> Candidates(const COptions& options, double gap) {
 
 std::string NoteText(CMemberNote note) { return MemberNoteText(note).In(MessageLanguage()); }
 
-class CAnswer {
+class CChoiceAnswer {
  public:
-  CAnswer(const std::vector<CMemberCase>& cases, const std::vector<CMemberCandidate>& candidates,
-          const CMemberChoice& choice, CCodeEdition edition, int top)
+  CChoiceAnswer(const std::vector<CMemberCase>& cases,
+                const std::vector<CMemberCandidate>& candidates, const CMemberChoice& choice,
+                CCodeEdition edition, int top)
       : m_arrCase(cases), m_arrCandidate(candidates), m_choice(choice), m_nEdition(edition) {
     m_arrShown = choice.m_arrChosen;
     if (top > 0) m_arrShown = m_arrShown.first(std::min(m_arrShown.size(), std::size_t(top)));
@@ -269,7 +270,7 @@ class CAnswer {
   std::span<const CChosenMember> m_arrShown;
 };
 
-CExit RunChoose(const COptions& options) {
+CExit RunChoose(const CChooseOptions& options) {
   StoreToRead(options.store);
   const std::vector<CMemberCase> cases = ReadMembers(options);
   CCodeEdition edition = EditionAsked(options.code);
@@ -281,7 +282,7 @@ CExit RunChoose(const COptions& options) {
   const CMemberChoice choice =
       ChooseMember(cases, candidates, edition,
                    options.plot.empty() ? CFailingRatio::AnyAboveOne : CFailingRatio::Whole);
-  const CAnswer answer(cases, candidates, choice, edition, options.top);
+  const CChoiceAnswer answer(cases, candidates, choice, edition, options.top);
   if (choice.m_nTried == 0)
     Refuse(Visible(options.file) + ": " +
            Say("所有截面都被拒绝，第一个：{1}", "every section refused, the first: {1}",
@@ -303,7 +304,7 @@ CExit RunChoose(const COptions& options) {
 }  // namespace
 
 void AddChooseCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CChooseOptions>();
   CLI::App* command = program.add_subcommand(
       "choose",
       Say("选取通过构件全部算例的最轻截面；没有时退出状态为 1",

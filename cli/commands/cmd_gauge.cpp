@@ -19,7 +19,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CGaugeOptions {
   std::string table;
   std::string no;
   bool json = false;
@@ -39,7 +39,7 @@ void CheckTable(const std::string& table) {
 }
 
 // Angles go by the widths of their legs, so that a number alone would answer for any.
-void CheckNumber(const COptions& options) {
+void CheckNumber(const CGaugeOptions& options) {
   StoreToRead(options.store);
   const CString table = FromUtf8(options.table);
   if (!CLoadDataTable::GetSysTemJMItem(table, FromUtf8(options.no)).IsEmpty()) return;
@@ -49,7 +49,7 @@ void CheckNumber(const COptions& options) {
              {options.table, options.no, Nearest(options.no, numbers)}));
 }
 
-std::vector<CSectionSpacing> SpacingsOf(const COptions& options) {
+std::vector<CSectionSpacing> SpacingsOf(const CGaugeOptions& options) {
   CheckTable(options.table);
   CheckNumber(options);
   const CString table = FromUtf8(options.table);
@@ -98,7 +98,7 @@ CJson SpacingJson(const CSectionSpacing& spacing) {
   return json;
 }
 
-void PrintSpacings(const COptions& options, const std::vector<CSectionSpacing>& spacings) {
+void PrintSpacings(const CGaugeOptions& options, const std::vector<CSectionSpacing>& spacings) {
   Print(options.table + "  " + options.no + "\n");
   if (spacings.empty())
     Print(Say("\n这样宽的肢上没有规定线距\n", "\nno bolt line is set out on legs of this width\n"));
@@ -124,7 +124,7 @@ void PrintSpacings(const COptions& options, const std::vector<CSectionSpacing>& 
   }
 }
 
-void RunGauge(const COptions& options) {
+void RunGauge(const CGaugeOptions& options) {
   const auto spacings = SpacingsOf(options);
   if (!options.json) return PrintSpacings(options, spacings);
   CJson list = CJson::array();
@@ -135,7 +135,7 @@ void RunGauge(const COptions& options) {
 }  // namespace
 
 void AddGaugeCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CGaugeOptions>();
   CLI::App* command = program.add_subcommand(
       "gauge", Say("热轧工字钢、槽钢、角钢的线距、最大孔径、加劲肋和切口",
                    "Bolt lines, largest holes, stiffeners and copes of a rolled I, channel or "

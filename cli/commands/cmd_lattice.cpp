@@ -29,7 +29,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CLatticeOptions {
   std::string file;
   bool json = false;
   std::string svg;
@@ -44,7 +44,7 @@ CString CellText(const CKeyValue& value) {
 }
 
 // Each value in the cell of its key.
-CSteelItemGeGou ColumnOf(const CCaseSchema& schema, const CCaseValues& values) {
+CSteelItemGeGou LatticeColumnOf(const CCaseSchema& schema, const CCaseValues& values) {
   const auto table = static_cast<std::size_t>(schema.Find("table"));
   CSteelItemGeGou column(LatticeLimbCount(CellText(*values[table])));
   for (std::size_t i = 0; i < values.size(); ++i) {
@@ -65,7 +65,7 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
                  "{1}: holds no single column; give one JSON object", {path}));
     const auto fault = read.m_fault ? read.m_fault : schema.Check(read.m_arrValue);
     if (fault) Refuse(path + ": " + fault->Line(MessageLanguage()));
-    column = ColumnOf(schema, read.m_arrValue);
+    column = LatticeColumnOf(schema, read.m_arrValue);
   });
   if (!column)
     Refuse(Say("{1}: 没有格构柱；请给一个 JSON 对象", "{1}: holds no column; give one JSON object",
@@ -167,7 +167,7 @@ void PrintLattice(const CSteelItemGeGou& column, const CLatticeLimbs& limbs) {
         table.Text());
 }
 
-void RunLattice(const COptions& options) {
+void RunLattice(const CLatticeOptions& options) {
   const CSteelItemGeGou column = ReadColumn(options.file);
   StoreToRead(options.store);
   const CLatticeLimbs limbs = LimbsOf(column);
@@ -185,7 +185,7 @@ void RunLattice(const COptions& options) {
 }  // namespace
 
 void AddLatticeCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CLatticeOptions>();
   CLI::App* command = program.add_subcommand(
       "lattice", Say("计算双肢、三肢或四肢格构柱",
                      "Compute a lattice column of two, three or four rolled limbs"));

@@ -28,7 +28,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct COutlineOptions {
   std::string file;
   std::string layer;
   std::vector<std::string> stress;
@@ -67,7 +67,7 @@ CSectionForces ForcesOf(const std::vector<std::string>& given) {
   return forces;
 }
 
-struct CAnswer {
+struct COutlineAnswer {
   std::vector<CPath> loops;
   CPoint corner;
   bool touching = false;  // parts that touch and count as not joined
@@ -86,8 +86,8 @@ struct CAnswer {
   }
 };
 
-CAnswer Solve(const COptions& options) {
-  CAnswer answer;
+COutlineAnswer Solve(const COutlineOptions& options) {
+  COutlineAnswer answer;
   if (options.csv && !options.stress.empty()) {
     Refuse(Say("--csv 与 --stress 不能同用：CSV 只含截面特性；应力请用 --json",
                "--csv and --stress exclude each other, a CSV line holds properties alone; right "
@@ -148,7 +148,7 @@ double ErrorOf(const CGreatestStress& greatest, const CStressRow& row) {
   return greatest.m_bCoarse && sheared ? NAN : error;
 }
 
-CJson StressJson(const CAnswer& answer) {
+CJson StressJson(const COutlineAnswer& answer) {
   CJson json = CJson::object();
   for (const auto& force : kForces) json[force.m_szKey] = answer.forces.*force.m_pField / 1000;
   const CGreatestStress greatest = GreatestStress(answer.stress);
@@ -172,7 +172,7 @@ std::string ErrorText(double error) {
              {NumberText(std::round(error * 1e4) / 100)});
 }
 
-void WarnOfStress(const COptions& options, const CAnswer& answer) {
+void WarnOfStress(const COutlineOptions& options, const COutlineAnswer& answer) {
   constexpr double kMost = 0.03;
   const CGreatestStress greatest = GreatestStress(answer.stress);
   for (const CStressRow& row : kStresses) {
@@ -190,7 +190,7 @@ void WarnOfStress(const COptions& options, const CAnswer& answer) {
   }
 }
 
-void PrintStresses(const CAnswer& answer) {
+void PrintStresses(const COutlineAnswer& answer) {
   std::string head = Say("\n应力", "\nStresses");
   for (const auto& force : kForces) {
     head += std::string("  ") + force.m_szKey + " = " +
@@ -222,7 +222,7 @@ void PrintStresses(const CAnswer& answer) {
 
 // --- Output --------------------------------------------------------------------------------------
 
-void PrintOutlineJson(const CAnswer& answer, bool stresses) {
+void PrintOutlineJson(const COutlineAnswer& answer, bool stresses) {
   CJson json = {{"unit", "mm"},
                 {"loops", answer.loops.size()},
                 {"holes", answer.Holes()},
@@ -233,7 +233,7 @@ void PrintOutlineJson(const CAnswer& answer, bool stresses) {
   PrintJson(json);
 }
 
-void PrintOutlineCsv(const CAnswer& answer) {
+void PrintOutlineCsv(const COutlineAnswer& answer) {
   std::vector<std::string> head, cells;
   for (const CExactKey& key : ExactKeys()) {
     const double value = answer.exact.*key.m_pField;
@@ -243,7 +243,7 @@ void PrintOutlineCsv(const CAnswer& answer) {
   PrintCsv(kCsvMark + CsvLine(head) + CsvLine(cells));
 }
 
-void PrintOutline(const CAnswer& answer, const COptions& options) {
+void PrintOutline(const COutlineAnswer& answer, const COutlineOptions& options) {
   const auto number = [](std::size_t value) { return std::to_string(value); };
   const std::size_t holes = answer.Holes();
   Print(options.file + "\n\n" +
@@ -255,7 +255,7 @@ void PrintOutline(const CAnswer& answer, const COptions& options) {
   if (!options.stress.empty()) PrintStresses(answer);
 }
 
-void WarnOfTouching(const COptions& options) {
+void WarnOfTouching(const COutlineOptions& options) {
   WriteError("orv3cal: " + Visible(options.file) + ": " +
              Say("各部分相触，按互不相连计算；如已焊成一体，请将其外形画成一圈",
                  "its parts touch and count as not joined; right for parts welded into one would "
@@ -263,8 +263,8 @@ void WarnOfTouching(const COptions& options) {
              "\n");
 }
 
-void RunOutline(const COptions& options) {
-  const CAnswer answer = Solve(options);
+void RunOutline(const COutlineOptions& options) {
+  const COutlineAnswer answer = Solve(options);
   if (!options.svg.empty()) {
     const CExactPicture picture{answer.loops, answer.exact, FromUtf8(options.file), answer.stress,
                                 MessageLanguage()};
@@ -281,7 +281,7 @@ void RunOutline(const COptions& options) {
 }  // namespace
 
 void AddOutlineCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<COutlineOptions>();
   CLI::App* command = program.add_subcommand(
       "outline", Say("由任意轮廓精确计算扭转、翘曲、剪切、塑性和主轴特性",
                      "Exact properties of any outline: torsion, warping, shear, plastic, "

@@ -29,7 +29,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CRowsOptions {
   std::string table;
   std::string where;
   bool wildcard = false;
@@ -108,7 +108,7 @@ void Sort(CDataTable& table, const std::string& sort) {
 }
 
 // The signs that the options ask for, wherever they stand.
-std::vector<std::string> AskedSigns(const COptions& options) {
+std::vector<std::string> AskedSigns(const CRowsOptions& options) {
   std::vector<std::string> signs = options.columns;
   if (options.exact) signs.insert(signs.end(), ExactSigns().begin(), ExactSigns().end());
   signs.push_back(options.sort.substr(0, options.sort.rfind(':')));
@@ -117,7 +117,7 @@ std::vector<std::string> AskedSigns(const COptions& options) {
   return signs;
 }
 
-CDataTable Selected(const CDataTable& all, const COptions& options) {
+CDataTable Selected(const CDataTable& all, const CRowsOptions& options) {
   CDataTable table(all);
   if (!options.where.empty()) {
     const CString expression = Checked(all, options.where, options.wildcard);
@@ -166,7 +166,7 @@ bool HasCapacities(const CDataTable& table) {
 
 // The cells as they stand in the store, which is what programs and exports take; of rows with exact
 // properties their accuracy.
-void PrintRowsJson(const COptions& options, const CDataTable& table,
+void PrintRowsJson(const CRowsOptions& options, const CDataTable& table,
                    const std::map<int, CExactProperties>& exacts) {
   CJson json = TableJson(options.table, table);
   AddAccuracies(json, exacts);
@@ -204,7 +204,7 @@ std::vector<std::string> ShownCells(const CDataTable& table, const CDataItem& ro
   return cells;
 }
 
-void PrintRows(const COptions& options, const CDataTable& table) {
+void PrintRows(const CRowsOptions& options, const CDataTable& table) {
   std::vector<CAlign> columns;
   for (int i = 0; i < table.GetTableColNum(); ++i) {
     const bool text = ValueClassOf(table.m_Title[i].m_nType) == CValueClass::Text;
@@ -234,7 +234,7 @@ std::string NotEmpty(const std::string& text) {
              : "";
 }
 
-void RunRows(const COptions& options) {
+void RunRows(const CRowsOptions& options) {
   CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
   const auto exacts = AddExactColumns(all, AskedSigns(options));
   const CDataTable table = Selected(all, options);
@@ -246,7 +246,7 @@ void RunRows(const COptions& options) {
 }  // namespace
 
 void AddRowsCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CRowsOptions>();
   CLI::App* command = program.add_subcommand(
       "rows", Say("列出表中各行，可检索和排序", "List a table's rows, searched and sorted"));
   command

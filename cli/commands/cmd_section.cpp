@@ -28,7 +28,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CSectionOptions {
   std::string style;
   std::vector<std::string> sizes;
   std::pair<std::string, std::string> base{"0", "0"};
@@ -80,7 +80,7 @@ std::string SizeList(const CSectionStyle& style) {
   return list;
 }
 
-CSteelJMData RecordOf(const CSectionStyle& style, const COptions& options) {
+CSteelJMData RecordOf(const CSectionStyle& style, const CSectionOptions& options) {
   std::vector<double> sizes;
   for (std::size_t i = 0; i < options.sizes.size(); ++i) {
     const std::string sign = i < style.Sizes().size()
@@ -173,7 +173,7 @@ void PrintSection(const CSectionStyle& style, const CSteelJMData& record,
   PrintExact(exact);
 }
 
-void RunSection(const COptions& options) {
+void RunSection(const CSectionOptions& options) {
   const CSectionStyle& style = StyleOf(options.style);
   const CSteelJMData record = RecordOf(style, options);
   const CExactProperties exact = ExactOf(record);
@@ -189,7 +189,7 @@ void RunSection(const COptions& options) {
 }  // namespace
 
 void AddSectionCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CSectionOptions>();
   CLI::App* command = program.add_subcommand(
       "section",
       Say("由尺寸（mm）计算截面特性", "Compute a section's properties from its sizes in mm"));

@@ -27,7 +27,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CShowOptions {
   std::string table;
   std::string no;
   int turn = 0;
@@ -39,7 +39,7 @@ struct COptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void RefuseTable(const COptions& options, const CString& file) {
+[[noreturn]] void RefuseTable(const CShowOptions& options, const CString& file) {
   CStringArray names;
   CDataTable::GetTableNameFromFile(file, names);
   Refuse(Say("TABLE: {1} 中没有表“{2}”；相近的有：{3}",
@@ -47,7 +47,7 @@ struct COptions {
              {ToUtf8(file), options.table, Nearest(options.table, names)}));
 }
 
-CDataItem RowOf(const COptions& options) {
+CDataItem RowOf(const CShowOptions& options) {
   const CString file = StoreToRead(options.store);
   const CString table = FromUtf8(options.table);
   const CDataItem row = CLoadDataTable::GetSysTemJMItem(table, FromUtf8(options.no));
@@ -60,7 +60,7 @@ CDataItem RowOf(const COptions& options) {
                           : Say("；相近的有：{1}", "; the nearest are: {1}", {nearest})));
 }
 
-CDataItem WithGap(const CDataItem& row, const COptions& options) {
+CDataItem WithGap(const CDataItem& row, const CShowOptions& options) {
   if (!IsPairTable(row.GetTableName()))
     Refuse(Say("--gap: {1} 不是组合截面表", "--gap: {1} is no table of pairs", {options.table}));
   if (PairSpacingSign(row.GetTableName()).IsEmpty()) {
@@ -72,7 +72,7 @@ CDataItem WithGap(const CDataItem& row, const COptions& options) {
   return WithPairSpacing(row, options.gap);
 }
 
-void WriteDxf(const COptions& options, const CDataItem& row) {
+void WriteDxf(const CShowOptions& options, const CDataItem& row) {
   const COutline outline = RowOutline(row, options.turn);
   if (outline.m_arrLoop.empty())
     Refuse(Say("--dxf: {1} {2} 的尺寸不能构成截面", "--dxf: the sizes of {1} {2} bound no section",
@@ -81,7 +81,7 @@ void WriteDxf(const COptions& options, const CDataItem& row) {
 }
 
 // A model turns the profile where it is used.
-void WriteIfc(const COptions& options, const CDataItem& row) {
+void WriteIfc(const CShowOptions& options, const CDataItem& row) {
   if (options.turn != 0) {
     Refuse(Say("--ifc：型材由模型转动；请不写 --turn",
                "--ifc: a profile is turned by the model that uses it; right would be without "
@@ -90,7 +90,7 @@ void WriteIfc(const COptions& options, const CDataItem& row) {
   WriteFile(options.ifc, IfcText(std::vector<CDataItem>{row}, "Orv3Cal"));
 }
 
-void RunShow(const COptions& options, bool spaced) {
+void RunShow(const CShowOptions& options, bool spaced) {
   CDataItem row = RowOf(options);
   if (spaced) row = WithGap(row, options);
   const CExactProperties exact = ExactProperties(row);
@@ -112,7 +112,7 @@ void RunShow(const COptions& options, bool spaced) {
 }  // namespace
 
 void AddShowCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CShowOptions>();
   CLI::App* command = program.add_subcommand(
       "show", Say("显示库中的截面及其几何特性（mm）",
                   "Show a section of the catalogue or a store with its geometry in mm"));

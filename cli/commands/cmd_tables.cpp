@@ -19,7 +19,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CTablesOptions {
   std::string mask;
   bool json = false;
   bool csv = false;
@@ -145,7 +145,7 @@ void PrintListedJson(const std::vector<CListed>& list) {
   PrintJson(json);
 }
 
-void RunTables(const COptions& options) {
+void RunTables(const CTablesOptions& options) {
   if (!options.mask.empty()) MaskOf(options.mask);
   const CString path = StoreToRead(options.store);
   std::vector<CListed> list;
@@ -161,7 +161,7 @@ void RunTables(const COptions& options) {
 }  // namespace
 
 void AddTablesCommand(CLI::App& program) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CTablesOptions>();
   CLI::App* command =
       program.add_subcommand("tables", Say("列出库中各表", "List the tables of the store"));
   command

@@ -10,7 +10,7 @@ namespace orv3::cli {
 namespace {
 
 constexpr const char* kOption = "--lang";
-constexpr const char* kVariable = "ORV3CAL_LANG";
+constexpr const char* kLanguageVariable = "ORV3CAL_LANG";
 
 std::optional<CLanguage>& Asked() {
   static std::optional<CLanguage> asked;
@@ -44,7 +44,7 @@ std::optional<CLanguage> Given(const std::vector<std::string>& arguments) {
   return language;
 }
 
-std::string Variable() { return ToUtf8(Environment(kVariable)); }
+std::string Variable() { return ToUtf8(Environment(kLanguageVariable)); }
 
 // What option or variable ask for.
 std::optional<CLanguage> Wanted(const std::vector<std::string>& arguments) {
@@ -59,7 +59,7 @@ void TakeLanguage(const std::vector<std::string>& arguments) {
   SetMessageLanguage(Asked().value_or(UserLanguage()));
   const std::string variable = Variable();
   if (!Asked() && !variable.empty()) {
-    Refuse(std::string(kVariable) + ": \"" + Excerpt(variable) +
+    Refuse(std::string(kLanguageVariable) + ": \"" + Excerpt(variable) +
            "\" is no language; right would be zh or en (不是语言，应为 zh 或 en)");
   }
 }

@@ -8,7 +8,7 @@
 namespace orv3::cli {
 namespace {
 
-constexpr const char* kVariable = "ORV3CAL_CODE";
+constexpr const char* kCodeVariable = "ORV3CAL_CODE";
 
 }  // namespace
 
@@ -31,7 +31,7 @@ std::string NamesEdition(const std::string& year) {
 }
 
 std::string YearAsked(const std::string& year) {
-  return year.empty() ? ToUtf8(Environment(kVariable)) : year;
+  return year.empty() ? ToUtf8(Environment(kCodeVariable)) : year;
 }
 
 CCodeEdition EditionAsked(const std::string& year) {

@@ -9,7 +9,7 @@
 namespace orv3::cli {
 namespace {
 
-constexpr wchar_t kInfinite[] = L"∞";
+constexpr wchar_t kInfinitySign[] = L"∞";
 constexpr wchar_t kNotComputed[] = L"-";
 
 bool IsNumberCell(const CDataCell& cell) {
@@ -22,7 +22,7 @@ void ShowFigures(CDataItem& row) {
   for (int cell = 1; cell < row.GetItemLength(); ++cell) {
     const CDataCell& shown = std::as_const(row)[cell];
     if (IsNumberCell(shown) && std::fabs(ToDouble(shown.m_strValue)) >= 1e100)
-      row.m_arrCell.Own(cell).m_strValue = kInfinite;
+      row.m_arrCell.Own(cell).m_strValue = kInfinitySign;
   }
   const auto record = SectionRecord(row);
   if (!record) return;
@@ -39,7 +39,8 @@ void ShowFigures(CDataTable& table) {
 
 CJson CellJson(const CDataCell& cell) {
   const bool number = ValueClassOf(cell.m_nType) != CValueClass::Text;
-  if (number && (cell.m_strValue == kInfinite || cell.m_strValue == kNotComputed)) return nullptr;
+  if (number && (cell.m_strValue == kInfinitySign || cell.m_strValue == kNotComputed))
+    return nullptr;
   return ToUtf8(cell.m_strValue);
 }
 

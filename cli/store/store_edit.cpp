@@ -29,7 +29,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CStoreEditOptions {
   std::string table;
   std::string no;
   std::vector<std::string> key;
@@ -67,7 +67,7 @@ int SetCell(const CDataTable& table, const std::string& set, CDataItem& row) {
 }
 
 // The columns that --set names.
-std::set<int> SetCells(const CDataTable& table, const COptions& options, CDataItem& row) {
+std::set<int> SetCells(const CDataTable& table, const CStoreEditOptions& options, CDataItem& row) {
   std::set<int> columns;
   for (const std::string& set : options.set) {
     if (columns.insert(SetCell(table, set, row)).second) continue;
@@ -78,14 +78,15 @@ std::set<int> SetCells(const CDataTable& table, const COptions& options, CDataIt
   return columns;
 }
 
-void Complete(const COptions& options, CDataItem& row) {
+void Complete(const CStoreEditOptions& options, CDataItem& row) {
   const CString why = CompleteRow(row);
   if (!why.IsEmpty()) Refuse(options.table + ": " + ToUtf8(why));
 }
 
 // Completes a row of which these columns were changed. The number of a section that an import has
 // brought in need not be one that can be typed, and stays; nothing is computed from it.
-void CompleteChanged(const COptions& options, const std::set<int>& changed, CDataItem& row) {
+void CompleteChanged(const CStoreEditOptions& options, const std::set<int>& changed,
+                     CDataItem& row) {
   CDataTableTitle known;
   if (changed.contains(0) || !KnownHeading(row.m_strTableName, known)) {
     return Complete(options, row);
@@ -138,8 +139,8 @@ void Save(CDataTable& table, CStoreToWrite& store) {
   store.Commit();
 }
 
-void Tell(const COptions& options, const CDataTable& table, const CDataItem& row, CTextLiteral done,
-          const std::vector<std::string>& notes = {}) {
+void Tell(const CStoreEditOptions& options, const CDataTable& table, const CDataItem& row,
+          CTextLiteral done, const std::vector<std::string>& notes = {}) {
   const std::string no = ToUtf8(row[KeyColumn(table)].m_strValue);
   const std::string told = done.In(MessageLanguage());
   NoteSaved(options.table + " \"" + no + "\" " + told);
@@ -172,7 +173,7 @@ CDataTable TableToAddTo(const CString& store, const CString& name) {
 }
 
 // The positions of the live rows that NO names by the key column, and --key by further ones.
-std::vector<int> RowsNamed(const CDataTable& table, const COptions& options) {
+std::vector<int> RowsNamed(const CDataTable& table, const CStoreEditOptions& options) {
   std::vector<std::pair<int, CString>> wanted = {{KeyColumn(table), FromUtf8(options.no)}};
   for (const std::string& key : options.key) wanted.push_back(CellOf(table, "--key", key));
   std::vector<int> positions;
@@ -198,7 +199,7 @@ int DifferentColumn(const CDataTable& table, const std::vector<int>& positions) 
 }
 
 // The position of the one row that is named; of rows that are equal, of the first.
-int PositionOf(const CDataTable& table, const COptions& options) {
+int PositionOf(const CDataTable& table, const CStoreEditOptions& options) {
   const std::vector<int> positions = RowsNamed(table, options);
   std::string named = options.no;
   for (const std::string& key : options.key) named += ", " + key;
@@ -219,7 +220,7 @@ int PositionOf(const CDataTable& table, const COptions& options) {
 }
 
 // The position of a live row that may be changed.
-int RowToChange(const CDataTable& table, const COptions& options) {
+int RowToChange(const CDataTable& table, const CStoreEditOptions& options) {
   const int position = PositionOf(table, options);
   if (IsProtected(table[position].m_nModifyType)) {
     Refuse(Say("{1}“{2}”：本数据记录不能删除和编辑!",
@@ -238,7 +239,7 @@ CDataItem RowAt(CDataTable& table, int position) {
 
 // --- Commands ------------------------------------------------------------------------------------
 
-void RunAdd(const COptions& options) {
+void RunAdd(const CStoreEditOptions& options) {
   CStoreToWrite store(options.store);
   const CString name = FromUtf8(options.table);
   if (CLoadDataTable::IsTableNameType(name, kPairs))
@@ -255,7 +256,7 @@ void RunAdd(const COptions& options) {
   Tell(options, table, row, {"已增加", "added"}, RowDoubtNotes(row));
 }
 
-void RunEdit(const COptions& options) {
+void RunEdit(const CStoreEditOptions& options) {
   CStoreToWrite store(options.store, true);
   CDataTable table = StoreTable(store.Path(), FromUtf8(options.table));
   CDataItem row = RowAt(table, RowToChange(table, options));
@@ -266,7 +267,7 @@ void RunEdit(const COptions& options) {
   Tell(options, table, row, {"已修改", "changed"}, RowDoubtNotes(row));
 }
 
-void RunDelete(const COptions& options) {
+void RunDelete(const CStoreEditOptions& options) {
   CStoreToWrite store(options.store, true);
   CDataTable table = StoreTable(store.Path(), FromUtf8(options.table));
   const CDataItem row = RowAt(table, RowToChange(table, options));
@@ -276,8 +277,8 @@ void RunDelete(const COptions& options) {
 }
 
 CLI::App* Add(CLI::App& store, const char* name, const std::string& what, bool takesNo,
-              void (*run)(const COptions&)) {
-  auto options = std::make_shared<COptions>();
+              void (*run)(const CStoreEditOptions&)) {
+  auto options = std::make_shared<CStoreEditOptions>();
   CLI::App* command = store.add_subcommand(name, what);
   command
       ->add_option("TABLE", options->table,

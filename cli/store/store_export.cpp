@@ -32,7 +32,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CStoreExportOptions {
   std::vector<std::string> tables;
   std::string to;
   bool guard = false;
@@ -138,7 +138,7 @@ bool HasExtension(const std::string& file, const std::string& extension) {
 
 // --- The command ---------------------------------------------------------------------------------
 
-std::vector<CDataTable> TablesOf(const CString& store, const COptions& options) {
+std::vector<CDataTable> TablesOf(const CString& store, const CStoreExportOptions& options) {
   CStringArray names;
   for (const std::string& name : options.tables) names.Add(FromUtf8(name));
   if (names.IsEmpty()) names = StoreTableNames(store);
@@ -157,7 +157,7 @@ std::vector<CDataTable> TablesOf(const CString& store, const COptions& options) 
 }
 
 // All tables as they were at one time: read anew when somebody has saved between two of them.
-std::vector<CDataTable> TablesAtOnce(const CString& store, const COptions& options) {
+std::vector<CDataTable> TablesAtOnce(const CString& store, const CStoreExportOptions& options) {
   constexpr int kTries = 20;
   for (int i = 0; i < kTries; ++i) {
     CFileStamp before;
@@ -201,7 +201,7 @@ CTablesExact AddExactFigures(std::vector<CDataTable>& tables, const std::string&
   return exacts;
 }
 
-std::string Content(const COptions& options, std::vector<CDataTable>& tables,
+std::string Content(const CStoreExportOptions& options, std::vector<CDataTable>& tables,
                     const CTablesExact& exacts, int kind) {
   if (HasExtension(options.to, ".csv")) return CsvText(tables, options.guard);
   if (HasExtension(options.to, ".json")) return JsonText(tables, exacts);
@@ -212,7 +212,7 @@ std::string Content(const COptions& options, std::vector<CDataTable>& tables,
   return TableFileBytes(tables, kind);
 }
 
-void RunExport(const COptions& options) {
+void RunExport(const CStoreExportOptions& options) {
   static constexpr const char* kForms[] = {".kdb", ".csv", ".json", ".xlsx", ".ifc"};
   if (std::none_of(std::begin(kForms), std::end(kForms),
                    [&](const char* form) { return HasExtension(options.to, form); })) {
@@ -262,7 +262,7 @@ CTemporaryFile::CTemporaryFile() : CFreshFile(TemporaryFolder()) {
 }
 
 void AddStoreExportCommand(CLI::App& store) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CStoreExportOptions>();
   CLI::App* command = store.add_subcommand(
       "export", Say("把表写入 .KDB、.csv、.json、.xlsx 或 .ifc 文件",
                     "Write tables to a .KDB, .csv, .json, .xlsx or .ifc file"));

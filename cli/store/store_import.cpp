@@ -23,7 +23,7 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CStoreImportOptions {
   std::vector<std::string> files;
   std::string table;
   bool overwrite = false;
@@ -63,8 +63,8 @@ CString CsvTableName(const std::string& file, const std::string& given) {
   return table;
 }
 
-CImportTable ReadCsv(const std::string& file, const COptions& options, const CString& store,
-                     CProgress& progress) {
+CImportTable ReadCsv(const std::string& file, const CStoreImportOptions& options,
+                     const CString& store, CProgress& progress) {
   const CString name = CsvTableName(file, options.table);
   std::string text = ReadInput(file, kLargestCsv);
   if (text.size() > kLargestCsv) {
@@ -85,7 +85,7 @@ CImportTable ReadCsv(const std::string& file, const COptions& options, const CSt
   return table;
 }
 
-std::vector<CImportTable> ReadSources(const COptions& options, const CString& store,
+std::vector<CImportTable> ReadSources(const CStoreImportOptions& options, const CString& store,
                                       CProgress& progress) {
   std::vector<CImportTable> sources;
   for (const std::string& file : options.files) {
@@ -169,7 +169,7 @@ bool IsRefused(const CTableImport& table) {
   return !table.m_strWhy.IsEmpty() || !table.m_arrRefused.empty();
 }
 
-void RunImport(const COptions& options) {
+void RunImport(const CStoreImportOptions& options) {
   CStoreToWrite store(options.store);
   CImportReport report;
   {
@@ -196,7 +196,7 @@ void RunImport(const COptions& options) {
 }  // namespace
 
 void AddStoreImportCommand(CLI::App& store) {
-  auto options = std::make_shared<COptions>();
+  auto options = std::make_shared<CStoreImportOptions>();
   CLI::App* command = store.add_subcommand(
       "import",
       Say("从 .kvb、.KDB 和 .csv 文件导入各行", "Bring rows in from .kvb, .KDB and .csv files"));

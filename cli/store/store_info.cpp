@@ -17,14 +17,14 @@
 namespace orv3::cli {
 namespace {
 
-struct COptions {
+struct CStoreInfoOptions {
   std::string file;
   bool json = false;
   CStoreOptions store;
 };
 
 // The file that is named, as with --store; the store that other commands read otherwise.
-CStoreOptions Place(const COptions& options) {
+CStoreOptions Place(const CStoreInfoOptions& options) {
   CStoreOptions place = options.store;
   if (options.file.empty()) return place;
   if (!place.store.empty()) {
@@ -105,7 +105,7 @@ void PrintInfo(const CStoreOptions& place, const CStoreInfo& info) {
   Print(table.Text());
 }
 
-void RunInfo(const COptions& options) {
+void RunInfo(const CStoreInfoOptions& options) {
   const CStoreOptions place = Place(options);
   CStoreInfo info;
   if (!ReadStoreInfo(StoreToRead(place), info)) FailAsTold();
@@ -138,7 +138,7 @@ void PrintFaults(const std::string& kind, const std::vector<CStoreFault>& faults
   }
 }
 
-void RunVerify(const COptions& options) {
+void RunVerify(const CStoreInfoOptions& options) {
   std::vector<CStoreFault> faults;
   std::vector<CStoreFault> notes;
   const CString store = StoreToRead(Place(options));
@@ -156,8 +156,9 @@ void RunVerify(const COptions& options) {
   if (!faults.empty()) throw CExit::FileTrouble;
 }
 
-void Add(CLI::App& store, const char* name, const std::string& what, void (*run)(const COptions&)) {
-  auto options = std::make_shared<COptions>();
+void Add(CLI::App& store, const char* name, const std::string& what,
+         void (*run)(const CStoreInfoOptions&)) {
+  auto options = std::make_shared<CStoreInfoOptions>();
   CLI::App* command = store.add_subcommand(name, what);
   command->add_option("FILE", options->file,
                       Say("截面库文件（.KDB）；不给时为其他命令所读的库",

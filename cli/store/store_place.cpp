@@ -69,15 +69,15 @@ CString OwnCatalogue() {
   return {};
 }
 
-constexpr const char* kVariable = "ORV3CAL_DATA";
+constexpr const char* kDataVariable = "ORV3CAL_DATA";
 
 bool NamesFolder(const CStoreOptions& options) {
-  return !options.data.empty() || !Environment(kVariable).IsEmpty();
+  return !options.data.empty() || !Environment(kDataVariable).IsEmpty();
 }
 
 CString DataStore(const CStoreOptions& options) {
   const bool given = !options.data.empty();
-  const CString folder = given ? FromUtf8(options.data) : Environment(kVariable);
+  const CString folder = given ? FromUtf8(options.data) : Environment(kDataVariable);
   if (!Files().IsFolder(folder)) {
     Fail(Say(L"{1}: {2}应为已有的文件夹，其中有 {3}",
              L"{1}: {2} must name a folder that is there; it holds {3}",
@@ -101,7 +101,7 @@ void UseFor(const CString& store, const CString& catalogue) {
 // that store alone.
 CString Catalogue(const CStoreOptions& options) {
   const bool spare = !options.store.empty() && options.data.empty();
-  if (spare && NamesFolder(options) && !Files().IsFolder(Environment(kVariable))) return {};
+  if (spare && NamesFolder(options) && !Files().IsFolder(Environment(kDataVariable))) return {};
   return NamesFolder(options) ? DataStore(options) : OwnCatalogue();
 }
 
@@ -183,7 +183,7 @@ CJson WhichStoreJson(const CStoreOptions& options) {
   const CString store = StoreToRead(options);
   const char* origin = !options.store.empty()  ? "--store"
                        : !options.data.empty() ? "--data"
-                       : NamesFolder(options)  ? kVariable
+                       : NamesFolder(options)  ? kDataVariable
                        : store == UserStore()  ? "own"
                                                : "shipped";
   return {{"store", ToUtf8(store)}, {"origin", origin}};
