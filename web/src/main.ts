@@ -1,19 +1,19 @@
 // The page: its head, and the view that the address names.
-import { change, go, startView, state } from "./address";
-import { holdCases } from "./batch";
-import { choose } from "./choose";
-import { connections, latticeColumns, members } from "./checks";
-import { onBusy, onOtherSave, onSave, run, stop } from "./client";
-import { codeTables } from "./code_tables";
-import { button, el, fault } from "./dom";
-import { readLists } from "./guide";
-import { keepFocus, oneStop, waysIn } from "./keyboard";
-import { language, say } from "./language";
-import { lostStore, noteSave } from "./lost_store";
-import { ownSections } from "./own_sections";
-import { askAgain } from "./question";
-import { sections } from "./sections";
-import { storeView } from "./store_view";
+import { onBusy, onOtherSave, onSave, run, stop } from "./command/client";
+import { readLists } from "./form/guide";
+import { button, el, fault } from "./parts/dom";
+import { keepFocus, oneStop, waysIn } from "./parts/keyboard";
+import { askAgain } from "./parts/question";
+import { change, go, startView, state } from "./state/address";
+import { language, say } from "./state/language";
+import { holdCases } from "./views/checks/batch";
+import { connections, latticeColumns, members } from "./views/checks/checks";
+import { choose } from "./views/choose/choose";
+import { codeTables } from "./views/code_tables";
+import { ownSections } from "./views/own/own_sections";
+import { sections } from "./views/sections/sections";
+import { lostStore, noteSave } from "./views/store/lost_store";
+import { storeView } from "./views/store/store_view";
 
 declare global {
   interface Window {

@@ -1,0 +1,20 @@
+// The case in the address.
+import { fault } from "../parts/dom";
+import { state } from "../state/address";
+import { say } from "../state/language";
+import type { Case } from "./case";
+import { fits, schemaOf, type Kind } from "./schema";
+
+// The case that the address holds, else the one given; null for one that cannot be read.
+export function caseInLink(kind: Kind, otherwise: Case): Case | null {
+  const text = state()["case"];
+  if (text === undefined) return structuredClone(otherwise);
+  try {
+    const value: unknown = JSON.parse(text);
+    return fits(schemaOf(kind), value) ? (value as Case) : null;
+  } catch {
+    return null;
+  }
+}
+
+export const unreadLink = () => fault(say("链接中的算例不完整，不能读出；表单是空的。", "The case in this link is damaged and cannot be read; the form is empty."));
