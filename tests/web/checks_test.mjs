@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { join } from "node:path";
 import { test } from "node:test";
 import { fill, kSource, openPage, ready, says, show } from "./browser.mjs";
-import { address, addressTells, browser, drop, file, hold, inChromium, letGo, pick, tableMember, walk } from "./walks.mjs";
+import { address, addressTells, browser, drop, file, hold, inChromium, letGo, otherLanguage, pick, run, tableMember, walk } from "./walks.mjs";
 
 walk("connections: the case of the form, an error at its field, undo, both editions, the report", "view=connections&lang=en", async (page) => {
   await says(page, ".verdict", "passes");
@@ -142,4 +142,48 @@ test("a damaged link opens no example with a verdict", async () => {
     }
   }
   await context.close();
+});
+
+// The language is no input: what stood there stands there again, in the other one.
+walk("another language takes back no step, report, list or edition", `view=members&lang=en&case=${encodeURIComponent(JSON.stringify({ ...tableMember, code: "2003" }))}`, async (page) => {
+  await says(page, ".verdict", "GB 50017-2003");
+  await pick(page, "Edition", "2017");
+  await says(page, ".verdict", "GB 50017-2017");
+  await fill(page, "N", "-90000");
+  await says(page, ".verdict", "fails");
+  await page.click(".steps summary");
+  await page.click("::-p-text(Report)");
+  await page.waitForSelector("iframe");
+  await otherLanguage(page);
+  await says(page, ".verdict", "不满足");
+  await says(page, ".verdict", "GB 50017-2017"); // not that of the link's case again
+  await page.waitForSelector("iframe");
+  assert.ok(await page.$eval(".steps", (steps) => steps.open));
+  await page.click("::-p-text(撤销)");
+  await says(page, ".verdict b", "满足");
+  assert.equal((await given(page)).N, -800);
+  await drop(page, join(kSource, "examples/members.csv"));
+  await says(page, ".batch .grid tbody tr", "brace");
+  await page.click(".batch th:nth-child(2) button"); // sorted
+  await otherLanguage(page);
+  await says(page, ".batch .grid tbody tr", "brace");
+  assert.equal(await page.$eval(".batch th:nth-child(2)", (head) => head.ariaSort), "ascending");
+  assert.equal((await page.$$(".answer > .detail:not([hidden])")).length, 0);
+  await page.click(".batch .grid tbody tr:nth-child(2) td");
+  await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017");
+  await otherLanguage(page);
+  await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017");
+  await says(page, '.batch tr[aria-selected="true"]', "");
+});
+
+walk("a ratio near its limit tells its side, and all its digits in its tip", "view=members&lang=en", async (page) => {
+  const ofTension = (N) => ({ ...tableMember, N });
+  const { out } = await run(page, ["check", "member", "c.json", "--json"], { "c.json": JSON.stringify(ofTension(2000)) });
+  const limit = 2000 / JSON.parse(out).ratio;
+  for (const [ratio, text, verdict] of [[1.00000001, "> 100 %", "fails"], [1.00004, "100.004 %", "fails"], [0.99999999, "< 100 %", "passes"], [0.99996, "99.996 %", "passes"], [0.87654321, "87.65 %", "passes"]]) {
+    await show(page, `view=members&lang=en&case=${encodeURIComponent(JSON.stringify(ofTension(limit * ratio)))}`);
+    await says(page, ".verdict .box", `${verdict} · ${text}`);
+    const tips = await page.$$eval(".verdict .box [title], .verdict .part [title]", (all) => all.map((each) => Number(each.title)));
+    assert.ok(tips.length > 2 && tips.some((tip) => Math.abs(tip - ratio) < 1e-12), tips.join());
+  }
 });

@@ -1,7 +1,7 @@
 // Walks through lattice columns and the choice of a section.
 import assert from "node:assert/strict";
-import { ready, says, show } from "./browser.mjs";
-import { addressTells, walk } from "./walks.mjs";
+import { fill, ready, says, show } from "./browser.mjs";
+import { addressTells, otherLanguage, walk } from "./walks.mjs";
 
 walk("lattice columns and choosing", "view=lattice&lang=en", async (page) => {
   await says(page, ".figures", "Limb 2");
@@ -30,4 +30,18 @@ walk("choosing among own sections: a style with a range, a fault at its size, an
   await ready(page);
   await addressTells(page, "case", '"sizes":[');
   await says(page, ".verdict", "passes");
+});
+
+walk("a question that was changed, or a link that is damaged, is not answered by another language", "view=choose&lang=en&tables=-&styles=[{", async (page) => {
+  await says(page, ".fault", "damaged");
+  await says(page, ".box", "No answer");
+  await show(page, "view=choose&lang=en&tables=热轧普通工字钢,没有的表");
+  await says(page, ".box", "没有的表");
+  await show(page, "view=choose&lang=en&tables=热轧普通工字钢");
+  await says(page, '.answer [role="status"]', "34 sections tried");
+  await fill(page, "Rows at most", "");
+  await otherLanguage(page);
+  await says(page, ".box", "没有结果");
+  await page.click('::-p-xpath(//button[. = "选择"])');
+  await says(page, ".box", "最多行数");
 });

@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { join } from "node:path";
 import { fill, openPage, says, show } from "./browser.mjs";
-import { address, addressTells, drop, file, folder, hold, inChromium, letGo, pick, run, walk } from "./walks.mjs";
+import { address, addressTells, drop, file, folder, hold, inChromium, letGo, otherLanguage, pick, run, tableMember, walk } from "./walks.mjs";
 
 walk("own section: every key is followed, a bad size is said at its field, a save is kept", "view=own&lang=en", async (page, context) => {
   await says(page, ".detail h2", "300×400×20×10");
@@ -79,4 +79,20 @@ inChromium(walk)("names and sizes that look like options, and only what has an a
   await show(page, "view=store&lang=en");
   await page.click('[aria-label="Delete --json"]');
   await says(page, ".log", '"--json": deleted');
+});
+
+walk("numbers as the page writes them are taken, other blanks and commas are not, in both languages", "view=own&lang=en&style=rect", async (page) => {
+  for (const [b, h, title] of [["1\u202f200", "１\u2009234.5", "1200×1234.5"], ["1 300", "1\u00a0234", "1300×1234"]]) {
+    await fill(page, "b ", b);
+    await fill(page, "h ", h);
+    await says(page, ".detail h2", title);
+  }
+  for (const bad of ["1 20", "12 0 200", "0 200", "1,5", "1  200", ""]) {
+    await fill(page, "h ", bad);
+    await says(page, ".box", "No answer");
+    await otherLanguage(page);
+    await says(page, ".box", "没有结果");
+    await otherLanguage(page);
+    await says(page, ".box", "No answer");
+  }
 });

@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { readFileSync, statSync } from "node:fs";
 import { test } from "node:test";
-import { kAxe, kPage, openPage, show } from "./browser.mjs";
+import { kAxe, kPage, openPage, says, show } from "./browser.mjs";
 import { browser, inChromium, kViews, walk } from "./walks.mjs";
 
 test("the file is small, and names no address", () => {
@@ -76,5 +76,13 @@ inChromium(walk)("by keys alone: the focus is seen at every stop, both ways, and
     assert.deepEqual(list.filter((each) => each.includes("(unseen)")), [], view);
     assert.deepEqual(await stopsBack(page, list.length), list, view);
     assert.equal(list.filter((each) => each.startsWith("A ")).length, view === "sections" ? 2 : 1, view); // views, tables
+  }
+});
+
+walk("a link that names no view, kind, style or figure shows no example in its place", "lang=en", async (page) => {
+  for (const [hash, name] of [["view=conections", "conections"], ["view=constructor", "constructor"], ["view=connections&kind=bolts", "bolts"], ["view=own&style=hh", "hh"], ["view=code&ask=stel", "stel"]]) {
+    await show(page, `${hash}&lang=en`);
+    await says(page, ".fault", `there is no "${name}"`);
+    assert.equal((await page.$$(".box, .picture, .big, .grid")).length, 0, hash);
   }
 });

@@ -1,7 +1,7 @@
 // Walks through the tables and their rows.
 import assert from "node:assert/strict";
-import { fill, openPage, says, textOf } from "./browser.mjs";
-import { address, addressTells, walk } from "./walks.mjs";
+import { fill, openPage, ready, says, textOf } from "./browser.mjs";
+import { address, addressTells, run, walk } from "./walks.mjs";
 
 walk("sections: search, range, sort, keys, turn, compare, and a link that opens the same", "view=sections&lang=en&table=热轧普通工字钢", async (page, context) => {
   await says(page, ".detail h2", "I10");
@@ -33,5 +33,20 @@ walk("sections: search, range, sort, keys, turn, compare, and a link that opens 
   await says(again, ".detail h2", "I28a");
   await says(again, ".compare thead", "I28b");
   assert.equal(await again.$eval(".detail select", (select) => select.value), "90");
+  assert.deepEqual(again.faults, []);
+});
+
+walk("a comparison's link holds names with its own marks", "view=sections&lang=en&table=矩形截面", async (page, context) => {
+  for (const no of ["a;b", "c|d%3B"]) await run(page, ["store", "add", "矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"]);
+  await page.reload();
+  await ready(page);
+  for (const no of ["a;b", "c|d%3B"]) await page.click(`input[aria-label="compare ${no}"]`);
+  await page.waitForFunction(() => document.querySelectorAll(".compare thead button").length === 2);
+  await addressTells(page, "compare", "d");
+  const again = await openPage(context, await page.evaluate(() => location.hash.slice(1)));
+  await says(again, ".compare thead", "c|d%3B");
+  await again.click('[aria-label="compare no longer c|d%3B"]');
+  await again.waitForFunction(() => document.querySelectorAll(".compare thead button").length === 1);
+  await says(again, ".compare thead", "a;b");
   assert.deepEqual(again.faults, []);
 });

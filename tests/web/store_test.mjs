@@ -22,10 +22,17 @@ inChromium(walk)("the own store goes out and comes back, and a broken file chang
   for (let i = 0; i < 200 && !existsSync(join(folder, "store.xlsx")); ++i) await new Promise((done) => setTimeout(done, 50));
   await page.click('::-p-xpath(//button[. = ".csv"])');
   await says(page, ".log", "store.zip");
-  await run(page, ["store", "delete", "矩形截面", "P1"]);
-  await drop(page, join(folder, "store.xlsx"));
-  await says(page, ".log", "矩形截面");
-  assert.match((await run(page, ["rows", "矩形截面", "--json"])).out, /"P1"/);
+  for (let i = 0; i < 200 && !existsSync(join(folder, "store.zip")); ++i) await new Promise((done) => setTimeout(done, 50));
+  for (const name of ["store.xlsx", "store.zip"]) {
+    await run(page, ["store", "delete", "矩形截面", "P1"]);
+    await drop(page, join(folder, name));
+    await says(page, ".log", "矩形截面");
+    assert.match((await run(page, ["rows", "矩形截面", "--json"])).out, /"P1"/, name);
+  }
+  const bytes = readFileSync(join(folder, "store.zip"));
+  bytes[bytes.indexOf("300")] ^= 1;
+  await drop(page, file("damaged.zip", bytes));
+  await says(page, ".log .fault", "damaged.zip: right would be an archive");
 });
 
 const add = (no) => ["store", "add", "矩形截面", "--set", `No.=${no}`, "--set", "b(mm)=20", "--set", "h(mm)=300"];

@@ -4,7 +4,7 @@ import { mkdtempSync, rmSync, writeFileSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
-import { kFirefox, openPage, start } from "./browser.mjs";
+import { kFirefox, openPage, ready, start } from "./browser.mjs";
 
 export const kViews = ["sections", "own", "lattice", "connections", "members", "choose", "code", "store"];
 
@@ -72,3 +72,9 @@ export const hold = (page) => page.workers()[0].evaluate(() => {
 export const letGo = (page) => page.workers()[0].evaluate(() => self.letGo());
 
 export const tableMember = { steel: "Q345", section: { table: "热轧窄翼缘H型钢", no: "HN400X200" }, N: -800, lengths: { x: 6000, y: 3000 } };
+
+export async function otherLanguage(page) {
+  await page.evaluate(() => document.querySelector("main").setAttribute("aria-busy", "true"));
+  await page.click('[data-key="language"]');
+  await ready(page);
+}

@@ -2,23 +2,30 @@
 // sentences name them. What is empty is left out of the case.
 import { button, el, field as labelled, newId, select } from "../parts/dom";
 import { signParts } from "../parts/figures";
+import { fold } from "../parts/fold";
 import { keepFocus, oneStop } from "../parts/keyboard";
+import { kept } from "../state/kept";
 import { say } from "../state/language";
 import { differences, get, pathText, put, same, textOf, valueOf, type Case } from "./case";
 import { byWay, hasPlace, listOf, settled, styleOf, wayOf, ways, type Choices, type Way } from "./guide";
 import { isType, wordsOf, type Kind, type Schema } from "./schema";
+
+// The ways back and forth, as JSON, and what they need beside the case.
+interface Steps {
+  past: string[];
+  undone: string[];
+  typedIn: string; // the field of the last step: what is typed into one field is one step
+  ways: Map<Way, Record<string, unknown>>; // sections as they were before another way
+}
 
 const kHead = ["id", "project", "date", "calculated", "checked", "approved"];
 
 export class Form {
   readonly element = el("form", { class: "form" });
   private readonly body = el("div");
-  private past: string[] = [];
-  private undone: string[] = [];
-  private typedIn = ""; // the field of the last step: what is typed into one field is one step
+  private readonly steps = kept("steps", (): Steps => ({ past: [], undone: [], typedIn: "", ways: new Map() }));
   private fields = new Map<string, { control: HTMLElement; note: HTMLElement }>();
   private value: Case = {};
-  private readonly ways = new Map<Way, Record<string, unknown>>(); // sections as they were before another way
   private readonly choices = new Map<string, number>(); // how often each field was chosen in
 
   // `left`: keys that the form does without; `choosing` is told of a choice that will change the case when what
@@ -38,7 +45,7 @@ export class Form {
       if (key === "y" || event.shiftKey) this.redo();
       else this.undo();
     };
-    this.element.onfocusout = () => (this.typedIn = "");
+    this.element.onfocusout = () => (this.steps.typedIn = "");
     this.element.append(
       oneStop(el("div", { class: "tools" },
         button(say("撤销", "Undo"), () => this.undo(), { title: "Ctrl+Z" }),
@@ -64,18 +71,18 @@ export class Form {
   }
 
   undo(): void {
-    this.step(this.past, this.undone);
+    this.step(this.steps.past, this.steps.undone);
   }
 
   redo(): void {
-    this.step(this.undone, this.past);
+    this.step(this.steps.undone, this.steps.past);
   }
 
   private step(from: string[], to: string[]): void {
     const other = from.pop();
     if (other === undefined) return;
     to.push(JSON.stringify(this.value));
-    this.typedIn = "";
+    this.steps.typedIn = "";
     this.set(JSON.parse(other) as Case);
     this.changed(this.value);
   }
@@ -105,24 +112,22 @@ export class Form {
   };
 
   private remember(): void {
-    this.past.push(JSON.stringify(this.value));
-    if (this.past.length > 200) this.past.shift();
-    this.undone = [];
+    this.steps.past.push(JSON.stringify(this.value));
+    if (this.steps.past.length > 200) this.steps.past.shift();
+    this.steps.undone = [];
   }
 
   private put(path: string[], value: unknown, typed = false): void {
     const place = pathText(path);
-    if (!typed || this.typedIn !== place) this.remember();
-    this.typedIn = typed ? place : "";
+    if (!typed || this.steps.typedIn !== place) this.remember();
+    this.steps.typedIn = typed ? place : "";
     put(this.value, path, value);
     this.changed(this.value);
   }
 
   private draw(): void {
     const focused = [...this.fields].find(([, { control }]) => control === document.activeElement)?.[0];
-    const opened = new Map([...this.fields].flatMap(([place, { control }]) => (control instanceof HTMLDetailsElement ? [[place, control.open]] : [])));
     void keepFocus(() => this.drawFields());
-    for (const [place, { control }] of this.fields) if (control instanceof HTMLDetailsElement) control.open = opened.get(place) ?? control.open;
     if (focused !== undefined) this.fields.get(focused)?.control.focus();
   }
 
@@ -136,11 +141,10 @@ export class Form {
     const head = properties.filter(([key]) => kHead.includes(key));
     const must = properties.filter(([key]) => required.has(key) && !kHead.includes(key));
     const may = properties.filter(([key]) => !required.has(key) && !kHead.includes(key));
-    const more = fold(say("其他", "More"), group(may), may.some(([key]) => key in this.value));
-    const report = fold(say("计算书页首", "Head of the report"), group(head), head.some(([key]) => key in this.value));
-    this.fields.set("more", { control: more, note: above });
-    this.fields.set("head", { control: report, note: above });
-    this.body.replaceChildren(above, ...group(must), ...(this.kind === "member" ? group(may) : [more]), report);
+    const folded = (key: string, title: string, part: [string, Schema][]) =>
+      part.length > 0 ? [fold(key, title, group(part), part.some(([each]) => each in this.value))] : [];
+    this.body.replaceChildren(above, ...group(must), ...(this.kind === "member" ? group(may) : folded("more", say("其他", "More"), may)),
+      ...folded("head", say("计算书页首", "Head of the report"), head));
   }
 
   // A choice that other fields hang on: one step, with what belongs to it. It changes those fields alone, as soon
@@ -184,7 +188,7 @@ export class Form {
   }
 
   private control(path: string[], schema: Schema, value: unknown, takes: string): HTMLElement {
-    if (schema.enum && ["table", "type"].includes(path.at(-1)!)) return this.listed(path, value, Promise.resolve(schema.enum.map((each) => [String(each), choiceName(String(each), takes)])));
+    if (schema.enum && ["table", "type"].includes(path.at(-1)!)) return this.listed(path, value, async () => schema.enum!.map((each) => [String(each), choiceName(String(each), takes)]));
     const choices = schema.enum ? [...new Map(schema.enum.map((each) => [String(each), each])).values()]
       : schema.type === "boolean" ? [true, false] : null;
     if (choices) {
@@ -202,15 +206,22 @@ export class Form {
     return made;
   }
 
-  // A choice from a list of the command's; what stands there stays a choice, also where the list lacks it.
-  private listed(path: string[], value: unknown, list: Promise<Choices>): HTMLElement {
+  // A choice from a list of the command's; what stands there stays a choice, also where the list lacks it. A list that
+  // was not got, as after Stop, is asked for again.
+  private listed(path: string[], value: unknown, list: () => Promise<Choices>): HTMLElement {
     const given = textOf(value);
+    let isListed = false;
     const made = el("select", { onchange: () => void this.choose(path, made.value || undefined) }, el("option", { value: "" }, "–"));
     if (given) made.append(el("option", { value: given, selected: true }, given));
-    void list.then((all) => {
+    const fill = async () => {
+      if (isListed) return;
+      const all = await list();
+      isListed = all.length > 0;
       made.replaceChildren(el("option", { value: "" }, "–"), ...(given && !all.some(([each]) => each === given) ? [el("option", { value: given, selected: true }, given)] : []),
         ...all.map(([each, text]) => el("option", { value: each, selected: each === given }, text)));
-    });
+    };
+    made.onfocus = fill;
+    void fill();
     return made;
   }
 
@@ -237,8 +248,8 @@ export class Form {
     const section = (this.value["section"] ?? {}) as Case;
     const now = wayOf(section);
     return labelled(say("截面取自", "Section by"), select(ways(), now, (way) => {
-      if (Object.keys(section).length > 0) this.ways.set(now, section);
-      void this.choose(["section"], byWay(way as Way, this.ways));
+      if (Object.keys(section).length > 0) this.steps.ways.set(now, section);
+      void this.choose(["section"], byWay(way as Way, this.steps.ways));
     }));
   }
 
@@ -254,7 +265,7 @@ export class Form {
     const note = el("p", { class: "fault", role: "alert" });
     const inside = Object.entries(schema.properties!).map(([key, each]) => this.field([...path, key], each, must.has(key)));
     if (pathText(path) === "section") inside.unshift(this.way());
-    const made = fold(title, [note, ...inside], open || get(this.value, path) !== undefined || path[0] === "lengths");
+    const made = fold(pathText(path), title, [note, ...inside], open || get(this.value, path) !== undefined || path[0] === "lengths");
     this.fields.set(pathText(path), { control: made, note });
     return made;
   }
@@ -266,7 +277,7 @@ export class Form {
     const rows = values.map((_, i) => el("fieldset", { class: "item" }, el("legend", {}, `${this.title(path, schema)} ${i + 1}`),
       ...Object.entries(items.properties!).map(([key, each]) => this.field([...path, String(i), key], each, items.required?.includes(key))),
       button(say("删去", "Remove"), () => this.edit(path, values.filter((_, at) => at !== i)))));
-    const made = fold(this.title(path, schema), [note, ...rows, button(say("添加", "Add"), () => this.edit(path, [...values, structuredClone(values.at(-1) ?? {})]))], true);
+    const made = fold(pathText(path), this.title(path, schema), [note, ...rows, button(say("添加", "Add"), () => this.edit(path, [...values, structuredClone(values.at(-1) ?? {})]))], true);
     this.fields.set(pathText(path), { control: made, note });
     return made;
   }
@@ -275,10 +286,6 @@ export class Form {
     this.put(path, value.length > 0 ? value : undefined);
     this.draw();
   }
-}
-
-function fold(title: string, inside: HTMLElement[], open: boolean): HTMLElement {
-  return inside.length === 0 ? el("span") : el("details", { class: "group", open }, el("summary", {}, title), ...inside);
 }
 
 // "grid 并列" of "grid 并列，staggered 错列"; the choice alone where the words do not name it so.

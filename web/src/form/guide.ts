@@ -74,20 +74,20 @@ const kTableOf: [number: RegExp, table: string][] = [[/^no$/, "table"], [/^(P[1-
 const tableKey = (number: string) => kTableOf.flatMap(([form, table]) => (form.test(number) ? [number.replace(form, table)] : []))[0];
 const numberKey = (table: string) => (table === "table" ? "no" : /^P[1-4]Type$/.test(table) ? table.replace("Type", "No.") : null);
 
-// The list of a field; null for one that is typed.
-export function listOf(kind: Kind, path: string[], value: Case): Promise<Choices> | null {
+// What asks for the list of a field; null for one that is typed.
+export function listOf(kind: Kind, path: string[], value: Case): (() => Promise<Choices>) | null {
   const key = path.at(-1)!;
   const plain = (names: string[]): Choices => names.map((name) => [name, name]);
-  if (key === "steel") return Promise.resolve(plain((schemaOf("bolt").properties!["steel"]!.enum as string[])));
+  if (key === "steel") return async () => plain(schemaOf("bolt").properties!["steel"]!.enum as string[]);
   if (kind !== "member" && kind !== "lattice") return null;
-  if (key === "style") return Promise.resolve(styles.map((each) => [each.alias, language() === "zh" ? each.table : `${each.alias} · ${each.shape}`]));
+  if (key === "style") return async () => styles.map((each) => [each.alias, language() === "zh" ? each.table : `${each.alias} · ${each.shape}`]);
   if (numberKey(key)) {
     const fits = (table: TableJson) => table.rows > 0 && (key !== "table" || !path.includes("lacing") || table.name === "热轧等边角钢") &&
       (key === "table" || table.source === "rolled");
-    return Promise.resolve(tables.filter(fits).map((table) => [table.name, table.name]));
+    return async () => plain(tables.filter(fits).map((table) => table.name));
   }
   const table = tableKey(key);
-  return table ? numbers(String(around(value, path)[table] ?? "")).then(plain) : null;
+  return table ? async () => plain(await numbers(String(around(value, path)[table] ?? ""))) : null;
 }
 
 const kOfLimbs = /^(k|kx|ky)\(mm\)$|^P[1-4]/;

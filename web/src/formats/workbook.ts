@@ -1,5 +1,5 @@
-// Workbooks (.xlsx): a zip archive of a few XML files, stored or deflated.
-import { zip } from "./zip";
+// Workbooks (.xlsx): a zip archive of a few XML files.
+import { unzipped, zip } from "./zip";
 
 const kRelations = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 const kSheet = "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
@@ -54,32 +54,6 @@ export function workbook(...sheets: Sheet[]): Uint8Array {
   ]);
 }
 
-async function inflated(data: Uint8Array): Promise<Uint8Array> {
-  const stream = new Blob([data as BlobPart]).stream().pipeThrough(new DecompressionStream("deflate-raw"));
-  return new Uint8Array(await new Response(stream).arrayBuffer());
-}
-
-// The texts of an archive by their names; throws for what is none.
-async function unzipped(bytes: Uint8Array): Promise<Map<string, string>> {
-  const view = new DataView(bytes.buffer, bytes.byteOffset, bytes.length);
-  let end = bytes.length - 22;
-  while (view.getUint32(end, true) !== 0x06054b50) --end;
-  const texts = new Map<string, string>();
-  let at = view.getUint32(end + 16, true);
-  for (let left = view.getUint16(end + 10, true); left > 0; --left) {
-    const pathLength = view.getUint16(at + 28, true);
-    const name = new TextDecoder().decode(bytes.subarray(at + 46, at + 46 + pathLength));
-    const from = view.getUint32(at + 42, true);
-    const start = from + 30 + view.getUint16(from + 26, true) + view.getUint16(from + 28, true);
-    const data = bytes.subarray(start, start + view.getUint32(at + 20, true));
-    if (name.endsWith(".xml") || name.endsWith(".rels")) {
-      texts.set(name, new TextDecoder().decode(view.getUint16(at + 10, true) === 8 ? await inflated(data) : data));
-    }
-    at += 46 + pathLength + view.getUint16(at + 30, true) + view.getUint16(at + 32, true);
-  }
-  return texts;
-}
-
 const xml = (text: string) => new DOMParser().parseFromString(text, "application/xml");
 const tags = (within: Document | Element, name: string) => [...within.getElementsByTagNameNS("*", name)]; // whatever prefix a writer gives
 const textIn = (element: Element) => tags(element, "t").map((t) => t.textContent).join("");
@@ -91,7 +65,8 @@ function columnOf(reference: string | null, next: number): number {
 
 // The sheets of a workbook by their names, cells as text; throws for what is none.
 export async function sheetsOf(bytes: Uint8Array): Promise<[name: string, rows: string[][]][]> {
-  const parts = await unzipped(bytes);
+  const texts = new TextDecoder();
+  const parts = new Map([...(await unzipped(bytes))].map(([name, data]) => [name, texts.decode(data)]));
   const shared = tags(xml(parts.get("xl/sharedStrings.xml") ?? "<x/>"), "si").map(textIn);
   const targets = new Map(
     tags(xml(parts.get("xl/_rels/workbook.xml.rels")!), "Relationship").map((each) => [

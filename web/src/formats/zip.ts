@@ -1,4 +1,4 @@
-// Zip archives, written without compression.
+// Zip archives: written without compression, read stored or deflated.
 const kCrc = Uint32Array.from({ length: 256 }, (_, n) => {
   for (let k = 0; k < 8; ++k) n = n & 1 ? (n >>> 1) ^ 0xedb88320 : n >>> 1;
   return n;
@@ -56,4 +56,39 @@ function joined(parts: Uint8Array[]): Uint8Array {
     at += part.length;
   }
   return whole;
+}
+
+async function inflated(data: Uint8Array): Promise<Uint8Array> {
+  const stream = new Blob([data as BlobPart]).stream().pipeThrough(new DecompressionStream("deflate-raw"));
+  return new Uint8Array(await new Response(stream).arrayBuffer());
+}
+
+// Names are in UTF-8, or of the code page where archives are made without it.
+function nameIn(bytes: Uint8Array): string {
+  try {
+    return new TextDecoder("utf-8", { fatal: true }).decode(bytes);
+  } catch {
+    return new TextDecoder("gbk").decode(bytes);
+  }
+}
+
+// The files of an archive by their names, folders left out; throws for what is none, or is damaged.
+export async function unzipped(bytes: Uint8Array): Promise<Map<string, Uint8Array>> {
+  const view = new DataView(bytes.buffer, bytes.byteOffset, bytes.length);
+  let end = bytes.length - 22;
+  while (view.getUint32(end, true) !== 0x06054b50) --end;
+  const files = new Map<string, Uint8Array>();
+  let at = view.getUint32(end + 16, true);
+  for (let left = view.getUint16(end + 10, true); left > 0; --left) {
+    const pathLength = view.getUint16(at + 28, true);
+    const name = nameIn(bytes.subarray(at + 46, at + 46 + pathLength));
+    const from = view.getUint32(at + 42, true);
+    const start = from + 30 + view.getUint16(from + 26, true) + view.getUint16(from + 28, true);
+    const packed = bytes.subarray(start, start + view.getUint32(at + 20, true));
+    const data = view.getUint16(at + 10, true) === 8 ? await inflated(packed) : packed;
+    if (crc32(data) !== view.getUint32(at + 16, true)) throw new Error(name);
+    if (!name.endsWith("/")) files.set(name, data);
+    at += 46 + pathLength + view.getUint16(at + 30, true) + view.getUint16(at + 32, true);
+  }
+  return files;
 }

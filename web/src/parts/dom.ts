@@ -166,6 +166,10 @@ export function fault(text: string): HTMLElement {
   return el("p", { class: "fault", role: "alert" }, text);
 }
 
+// A link that names what there is not: then no example stands in its place.
+export const noSuch = (key: string, given: string, right: string[]) => fault(
+  say(`链接中的 ${key}=${given}：没有“${given}”；应为 ${right.join("、")} 之一`, `${key}=${given} in this link: there is no "${given}"; right would be one of ${right.join(", ")}`));
+
 // Stands where an answer would: what is given has none, and why; the button leads to what must be mended.
 export function noAnswer(why: string, mend: (() => void) | null = null): HTMLElement {
   return el("p", { class: "box none" }, el("b", {}, say("没有结果", "No answer")), why && ` · ${why} `,

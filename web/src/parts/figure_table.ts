@@ -2,6 +2,10 @@
 import { el } from "./dom";
 import { nameOf, shown, unitOf } from "./figures";
 
+// A figure for the eye, with all its digits in its tip.
+export const figure = (value: number | null | undefined, written: (value: number | null | undefined) => string = shown): HTMLElement =>
+  el("span", { title: value == null ? null : String(value) }, written(value));
+
 export type FigureLine = [sign: string, value: string, unit: string, name: string, whole: string];
 
 export function figureLines(figures: Record<string, unknown> = {}): FigureLine[] {

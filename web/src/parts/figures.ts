@@ -74,14 +74,27 @@ export function shown(value: unknown): string {
   return whole!.replace(/\B(?=(\d{3})+$)/g, "\u202f") + (rest ? `.${rest}` : "");
 }
 
+// A ratio to its limit: four digits, near the limit seven; and on which side of it, where those do not tell.
+export function percent(ratio: number | null | undefined): string {
+  if (ratio == null) return "–";
+  const rounded = Number((ratio * 100).toPrecision(Math.abs(ratio - 1) < 5e-4 ? 7 : 4));
+  const side = rounded !== 100 || ratio === 1 ? "" : ratio > 1 ? "> " : "< ";
+  return `${side}${shown(rounded)} %`;
+}
+
 // A number as it is typed: the wide digits and signs of Chinese keyboards are taken as plain ones; what else looks
 // like digits (10³, ②) is another number and stays what it is.
 export const narrow = (text: string): string =>
   text.replace(/[\uff01-\uff5e]/g, (wide) => String.fromCharCode(wide.charCodeAt(0) - 0xfee0)).replaceAll("\u2212", "-").trim();
 
+// A number as it is typed or as the page writes it, whose thousands stand apart (1 234 567.8), for the command to
+// judge. Other blanks stay: 12 34 is no number.
+export const bare = (text: string): string =>
+  narrow(text).replace(/^([+-]?)([1-9]\d{0,2}(?:[ \u00a0\u2009\u202f]\d{3})+)(?=[.e]|$)/i, (_, sign: string, whole: string) => sign + whole.replace(/\D/g, ""));
+
 // The number of a typed text; NaN where it is none.
 export const typedNumber = (text: string): number =>
-  /^[+-]?(\d+\.?\d*|\.\d+)(e[+-]?\d+)?$/i.test(narrow(text)) ? Number(narrow(text)) : Number.NaN;
+  /^[+-]?(\d+\.?\d*|\.\d+)(e[+-]?\d+)?$/i.test(bare(text)) ? Number(bare(text)) : Number.NaN;
 
 // The unit that a column's sign tells: "A(cm^2)" has cm².
 export function signParts(sign: string): [name: string, unit: string] {

@@ -42,6 +42,9 @@ addEventListener("popstate", () => {
   write();
 });
 
+// The number of the entry that the page is at.
+export const entryNow = (): number => here;
+
 export const state = (): Readonly<State> => now;
 
 // Changes keys of the state; an empty value takes a key away. `step`: the way back leads here.
@@ -60,6 +63,18 @@ export function go(values: State): void {
   push(kept);
   dispatchEvent(new Event("popstate"));
 }
+
+// Several texts as one value; the mark between them is escaped within them. Not empty, so that the key stays.
+export const inOne = (texts: string[], mark: string): string =>
+  texts.map((text) => text.replaceAll("%", "%25").replaceAll(mark, encodeURIComponent(mark))).join(mark) || mark;
+
+export const parted = (text: string, mark: string): string[] => text.split(mark).map((part) => {
+  try {
+    return decodeURIComponent(part);
+  } catch {
+    return part; // not made here
+  }
+});
 
 let views = 0;
 

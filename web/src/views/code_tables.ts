@@ -1,12 +1,12 @@
 // Figures of the design code: a form from the command's own help, the answer with its source, and
 // the table with the asked cell marked, every cell of it asked from the command.
 import { ask, lineOf, sentence, type Answer, type Line } from "../command/client";
-import { copyButton, el, field, select } from "../parts/dom";
+import { copyButton, el, field, noSuch, select } from "../parts/dom";
 import { Edition } from "../parts/edition";
-import { shown } from "../parts/figures";
+import { bare, shown } from "../parts/figures";
 import { keepFocus, reachable } from "../parts/keyboard";
 import { Question } from "../parts/question";
-import { change, startView, state } from "../state/address";
+import { change, inOne, parted, startView, state } from "../state/address";
 import { say } from "../state/language";
 
 interface CodeJson {
@@ -65,9 +65,10 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   const isHere = startView();
   const list = await questions();
   const question = state()["ask"] ?? "steel";
+  if (!list.some(([name]) => name === question)) return place.replaceChildren(noSuch("ask", question, list.map(([name]) => name)));
   const { arguments: names, more } = await wanted(question);
   if (!isHere()) return;
-  const given = (state()["args"] ?? (state()["code"] === "2003" ? kFirst2003[question] : null) ?? kFirst[question] ?? "").split(" ");
+  const given = parted(state()["args"] ?? (state()["code"] === "2003" ? kFirst2003[question] : null) ?? kFirst[question] ?? "", " ");
   const view = reachable(el("div", { class: "detail wide", "aria-live": "polite" }), say("结果", "the answer"));
   const edition = new Edition(() => void figures.ask(), false);
   const controls = names.map((name, i) => {
@@ -78,13 +79,13 @@ export async function codeTables(place: HTMLElement): Promise<void> {
     }
     return field(bare, el("input", { type: "text", value: given[i] ?? "", oninput: () => keep() }));
   });
-  const values = () => controls.map((control) => control.querySelector<HTMLInputElement | HTMLSelectElement>("input, select")!.value.trim());
+  const values = () => controls.map((control) => control.querySelector<HTMLInputElement | HTMLSelectElement>("input, select")!.value);
   const keep = () => {
-    change({ ask: question, args: values().join(" ") });
+    change({ ask: question, args: inOne(values(), " ") });
     void figures.ask();
   };
   const figures = new Question(view, async (isAsked) => {
-    const [asked, code] = [values(), edition.asked];
+    const [asked, code] = [values().map(bare), edition.asked];
     const line = (given: string[]) => lineOf(["code", question, `--code=${code}`, "--json"], ...given.filter((value) => value !== ""));
     const answer = await ask(line(asked));
     return () => {
@@ -143,7 +144,9 @@ async function table(place: HTMLElement, axes: Record<number, string[]>, values:
     if (!isAsked()) return;
     answers.forEach((answer, at) => {
       const cell = lines[i]!.children[at + 1]!;
-      cell.textContent = answer.status === 0 ? shown((JSON.parse(answer.out) as CodeJson).value) : "–";
+      const value = answer.status === 0 ? (JSON.parse(answer.out) as CodeJson).value : null;
+      cell.textContent = shown(value);
+      if (value !== null) cell.setAttribute("title", String(value));
       if (row !== values[rowAt] || (columnAt >= 0 && columns[at] !== values[columnAt])) return;
       cell.classList.add("marked");
       cell.setAttribute("aria-current", "true");

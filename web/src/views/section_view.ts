@@ -5,7 +5,7 @@ import { button, copyButton, download, el, fault, picture } from "../parts/dom";
 import { figureLines, figureTable, type FigureLine } from "../parts/figure_table";
 import { signParts } from "../parts/figures";
 import { oneStop } from "../parts/keyboard";
-import { go } from "../state/address";
+import { go, inOne } from "../state/address";
 import { say } from "../state/language";
 
 type Figures = Record<string, unknown>;
@@ -42,7 +42,7 @@ export function onward(section: Record<string, unknown>): HTMLElement[] {
   const check = () => go({ view: "members", case: JSON.stringify({ ...example, section }) });
   const table = section["table"];
   return [button(say("按构件验算", "Check as a member"), check),
-    ...(typeof table === "string" ? [button(say("从此表选择", "Choose from this table"), () => go({ view: "choose", tables: table }))] : [])];
+    ...(typeof table === "string" ? [button(say("从此表选择", "Choose from this table"), () => go({ view: "choose", tables: inOne([table], ",") }))] : [])];
 }
 
 // `forms`: the command lines that write the section as a file, by the option that names it; `files` are

@@ -6,12 +6,14 @@ import { csvRows } from "../../formats/csv";
 import { workbook } from "../../formats/workbook";
 import { button, bytesOf, computing, download, el, fault } from "../../parts/dom";
 import type { Edition } from "../../parts/edition";
-import { shown } from "../../parts/figures";
+import { figure } from "../../parts/figure_table";
+import { percent, shown } from "../../parts/figures";
 import { Grid, type Column } from "../../parts/grid";
 import { oneStop } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
+import { kept } from "../../state/kept";
 import { say } from "../../state/language";
-import { checkName, percent } from "./verdict";
+import { checkName, isRatio } from "./verdict";
 
 // Columns whose cells are texts, also where they are written in digits.
 const kTexts = ["id", "code", "pass", "governs", "refused", "warnings", "surface"];
@@ -24,17 +26,18 @@ interface Cases {
   data: Promise<Uint8Array>;
 }
 
-let drawn: Batch | null = null;
-let held: { kind: Kind; file: Cases } | null = null;
-
-// The file of cases that is listed stays over the next drawing of its view.
-export function holdCases(): void {
-  held = drawn?.held() ?? null;
+// What is listed.
+interface Listed {
+  file: Cases | null;
+  isAlone: boolean; // without the answer to the form's case beside it
+  sort: string;
+  chosen: string; // the case's number in the file
 }
+const kNone: Listed = { file: null, isAlone: false, sort: "", chosen: "" };
 
 export class Batch {
   readonly element = el("div", { class: "batch", hidden: true });
-  private file: Cases | null = null;
+  private readonly now = kept("cases", () => ({ ...kNone }));
   private openings = 0;
   private readonly list = el("div");
   private readonly trouble = el("p", { class: "fault", role: "alert" });
@@ -44,7 +47,6 @@ export class Batch {
   // when the list goes.
   constructor(private readonly kind: Kind, private readonly edition: Edition, private readonly opened: (value: Case) => void, marked: () => void, private readonly closed: () => void) {
     this.question = new Question(this.list, (isAsked) => this.ask(isAsked), marked);
-    drawn = this;
   }
 
   // The verdict on all of them in a line.
@@ -56,53 +58,49 @@ export class Batch {
     return this.question.isWaiting;
   }
 
-  held(): typeof held {
-    return this.file && this.element.isConnected ? { kind: this.kind, file: this.file } : null;
-  }
-
-  // Lists again what was held; false where nothing was.
+  // Lists again what the view listed before it was drawn anew; whether it stood there alone.
   resume(): boolean {
-    const file = held?.kind === this.kind ? held.file : null;
-    held = null;
-    if (file) void this.show(file);
-    return file !== null;
+    void this.again();
+    return this.now.isAlone;
   }
 
-  take(dropped: File): Promise<void> {
-    return this.show({ name: dropped.name, data: bytesOf(dropped) });
-  }
-
-  private async show(file: Cases): Promise<void> {
-    this.file = file;
+  async take(dropped: File): Promise<void> {
+    const file = { name: dropped.name, data: bytesOf(dropped) };
+    Object.assign(this.now, { ...kNone, file, isAlone: true });
     this.list.replaceChildren(computing());
     await this.again();
-    if (this.file !== file) return;
+    if (this.now.file !== file) return;
     this.element.scrollIntoView();
     this.element.querySelector<HTMLElement>("h2")?.focus();
   }
 
   // The file once more, by the edition that is chosen now.
   async again(): Promise<void> {
-    if (!this.file) return;
+    if (!this.now.file) return;
     const close = button("×", () => this.close(), { class: "quiet", "aria-label": say("回到单个算例", "Back to the single case") });
     this.trouble.textContent = "";
     this.element.hidden = false;
-    this.element.replaceChildren(el("h2", { tabindex: -1 }, this.file.name, " ", close), this.trouble, this.list);
+    this.element.replaceChildren(el("h2", { tabindex: -1 }, this.now.file.name, " ", close), this.trouble, this.list);
     await this.question.ask();
   }
 
-  // The form has changed: a row that is being opened does not take its place any more.
+  // The form has changed, and its answer stands beside the list: a row that is being opened does not take its place
+  // any more.
   formChanged(): void {
     ++this.openings;
+    this.now.isAlone = false;
   }
 
   private async ask(isAsked: () => boolean): Promise<() => void> {
-    const [file, code] = [this.file!, this.edition.asked];
+    const [file, code] = [this.now.file!, this.edition.asked];
     const answer = await this.run(file, "--csv", "--sort", `--code=${code}`);
     const [head = [], ...rows] = csvRows(answer.out);
     const trouble = answer.err ? [fault(sentence(answer, nameOf(file)))] : [];
-    const list = () => [summary(head, rows), by(code), ...trouble, ...this.listed(file.name, answer, head, rows, this.opener(file, code, isAsked))];
-    return () => this.list.replaceChildren(...(rows.length > 0 ? list() : trouble));
+    return () => {
+      if (rows.length === 0) return this.list.replaceChildren(...trouble);
+      this.list.replaceChildren(summary(head, rows), by(code), ...trouble);
+      this.addRows(file.name, answer, head, rows, this.opener(file, code, isAsked));
+    };
   }
 
   private async run(file: Cases, ...words: string[]): Promise<Answer> {
@@ -110,29 +108,30 @@ export class Batch {
   }
 
   private close(): void {
-    this.file = null;
+    Object.assign(this.now, kNone);
     this.question.drop();
     this.element.hidden = true;
     this.element.replaceChildren();
     this.closed();
   }
 
-  private listed(label: string, answer: Answer, head: string[], rows: string[][], open: (number: number) => Promise<void>): HTMLElement[] {
+  private addRows(label: string, answer: Answer, head: string[], rows: string[][], open: (number: number) => Promise<void>): void {
     const used = head.map((_, i) => i).filter((i) => rows.some((row) => row[i]));
     const order = [...kFirst.map((name) => head.indexOf(name)).filter((i) => used.includes(i)), ...used.filter((i) => !kFirst.includes(head[i]!))];
     const [names, lines] = [order.map((i) => head[i]!), rows.map((row) => order.map((i) => row[i]!))];
     const numeric = names.map((name, i) => !kTexts.includes(name) && lines.every((row) => row[i] === "" || !Number.isNaN(Number(row[i]))));
     const columns = names.map<Column>((name, i) => ({ name, numeric: numeric[i]!, written: writer(name, numeric[i]!) }));
-    const pass = names.indexOf("pass");
+    const [pass, number] = [names.indexOf("pass"), names.indexOf("case")];
     const grid = new Grid({ label, columns, rows: lines, look: (row) => (row[pass] === "true" ? null : "fail"),
-      chosen: (row) => void open(Number(row[names.indexOf("case")])) });
-    return [
+      sort: this.now.sort, sorted: (sort) => (this.now.sort = sort), isChosen: (row) => row[number] === this.now.chosen,
+      chosen: (row) => void open(Number((this.now.chosen = row[number]!))) });
+    this.list.append(
       oneStop(el("div", { class: "tools" },
         button("CSV", () => download("checked.csv", answer.out)),
         button("XLSX", () => download("checked.xlsx", workbook({ name: kindTitle(this.kind), rows: [names, ...lines], numeric, heads: 1 }))))),
       el("p", { class: "note" }, say("选一行，在左边的表单中打开该算例。", "Choose a row to open its case in the form.")),
-      grid.element,
-    ];
+      grid.element);
+    grid.reveal();
   }
 
   // Opens a case by its number, from 1, as the command has read it and by the edition of the list.
@@ -157,6 +156,7 @@ const by = (code: string): HTMLElement => el("p", { class: "note" },
 const writer = (name: string, numeric: boolean): Column["written"] => {
   if (name === "pass") return (text) => (text === "true" ? `✓ ${say("满足", "passes")}` : text === "false" ? `✗ ${say("不满足", "fails")}` : say("拒绝", "refused"));
   if (name === "governs") return checkName;
+  if (isRatio(name)) return (text) => (text === "" ? "" : percent(Number(text)));
   return numeric ? (text) => (text === "" ? "" : shown(Number(text))) : undefined;
 };
 
@@ -172,5 +172,5 @@ function summary(head: string[], rows: string[][]): HTMLElement {
   return el("p", { class: good ? "box pass" : "box fail", role: "status" },
     el("b", {}, good ? say("全部满足", "all pass") : say("不全满足", "not all pass")),
     say(` · ${cases(rows)} 个算例：${failed} 个不满足，${refused} 个拒绝`, ` · ${cases(rows)} cases: ${failed} fail, ${refused} refused`),
-    worst ? say(` · 最不利 ${worst[at("id")] || worst[at("case")]}：${percent(Number(worst[ratio]))}`, ` · worst ${worst[at("id")] || worst[at("case")]}: ${percent(Number(worst[ratio]))}`) : "");
+    ...(worst ? [say(` · 最不利 ${worst[at("id")] || worst[at("case")]}：`, ` · worst ${worst[at("id")] || worst[at("case")]}: `), figure(Number(worst[ratio]), percent)] : []));
 }

@@ -5,12 +5,13 @@ import { kExamples, kLimbs } from "../../form/examples";
 import { Form } from "../../form/form";
 import { readLists } from "../../form/guide";
 import { kindTitle, schemaOf, type Kind } from "../../form/schema";
-import { button, copyButton, download, dropPlace, el, fault, field, noAnswer, picture, select } from "../../parts/dom";
+import { button, copyButton, download, dropPlace, el, field, noAnswer, noSuch, picture, select } from "../../parts/dom";
 import { Edition } from "../../parts/edition";
 import { figureLines, figureTable } from "../../parts/figure_table";
 import { keepFocus, oneStop, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
 import { change, startView, state } from "../../state/address";
+import { kept } from "../../state/kept";
 import { say } from "../../state/language";
 import { Batch } from "./batch";
 import { drawingIn, reportView } from "./report";
@@ -43,7 +44,7 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
     return () => {
       form.blame(done ? "" : sentence(answer, kFile));
       line = done ? verdictLine(kind, answer) : say("没有结果", "no answer");
-      view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer, names)));
+      view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer, names, `${code} ${given}`)));
     };
   }, () => tellLine());
   const edition = new Edition(() => {
@@ -57,8 +58,7 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
     jump.textContent = view.hidden ? batch.line : line;
     jump.classList.toggle("waiting", view.hidden ? batch.isWaiting : question.isWaiting);
   };
-  const given = caseInLink(kind, kExamples[kind]);
-  const first = given && kind !== "lattice" ? edition.take(given) : given;
+  const first = caseInLink(kind, kExamples[kind], kind === "lattice" ? null : edition);
   // The answer to a file of cases takes the place of that to the form until one of them is opened.
   const batch = new Batch(kind, edition, (value) => form.replace(edition.take(value)), tellLine, () => {
     view.hidden = false;
@@ -80,10 +80,17 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   await question.ask();
 }
 
-function answerView(kind: Kind, answer: Answer, names: ResultNames): (HTMLElement | string)[] {
+// The answer to a question; its report, once opened, stays for that question.
+function answerView(kind: Kind, answer: Answer, names: ResultNames, asked: string): (HTMLElement | string)[] {
   const report = answer.files["report.html"];
+  const opened = kept("report", () => ({ of: "" }));
   const place = el("div");
-  const open = report && button(say("计算书", "Report"), () => place.replaceChildren(reportView(report)), { class: "main" });
+  const show = () => {
+    opened.of = asked;
+    place.replaceChildren(reportView(report!));
+  };
+  const open = report && button(say("计算书", "Report"), show, { class: "main" });
+  if (report && opened.of === asked) show();
   return [
     answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",
     el("div", { class: "beside-picture" }, verdict(JSON.parse(answer.out) as CheckJson, names), picture(drawingIn(report), kindTitle(kind))),
@@ -119,7 +126,7 @@ const kConnections = ["bolt", "fillet", "butt", "weld-group"] as const;
 export async function connections(place: HTMLElement): Promise<void> {
   const asked = state()["kind"] ?? "bolt";
   const kind = kConnections.find((each) => each === asked);
-  if (!kind) return place.replaceChildren(fault(say(`kind：“${asked}”不是连接；应为 ${kConnections.join("、")}`, `kind: "${asked}" is no connection; right would be one of ${kConnections.join(", ")}`)));
+  if (!kind) return place.replaceChildren(noSuch("kind", asked, [...kConnections]));
   const above = field(say("连接", "Connection"), select(kConnections.map((each) => [each, kindTitle(each)]), kind, (next) => {
     change({ kind: next, case: "" }, true);
     void keepFocus(() => connections(place));

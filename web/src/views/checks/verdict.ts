@@ -1,6 +1,8 @@
 // The answer of a check for the eye: the verdict, a bar for each part, the trace by clause.
 import { el } from "../../parts/dom";
-import { shown } from "../../parts/figures";
+import { figure } from "../../parts/figure_table";
+import { percent, shown } from "../../parts/figures";
+import { fold } from "../../parts/fold";
 import { oneStop } from "../../parts/keyboard";
 import { say } from "../../state/language";
 import type { ResultNames } from "./result_names";
@@ -35,20 +37,19 @@ const kChecks: Record<string, [zh: string, en: string]> = {
   panel: ["腹板区格", "web panel"], wall: ["壁板宽厚比", "wall"], limbs: ["分肢", "limbs"], lacing: ["缀材", "lacing"], "limb-strength": ["分肢强度", "strength of the limbs"],
   "lacing-leg": ["缀条肢宽厚比", "leg of a bar"], "batten-stiffness": ["缀板线刚度", "stiffness of battens"],
 };
+
+// Whether a figure of an answer is a ratio to a limit.
+export const isRatio = (name: string): boolean => ["ratio", "utilisation"].includes(name) || name in kChecks;
 export const checkName = (name: string): string => (kChecks[name] ? say(...kChecks[name]) : name);
 
 const checkTitle = (name: string, names: ResultNames) => names.get(name)?.[0] || checkName(name);
-
-// Four digits, and near the limit so many that it is seen on which side of it.
-export const percent = (ratio: number | null | undefined) =>
-  (ratio == null ? "–" : `${shown(Number((ratio * 100).toPrecision(Math.abs(ratio - 1) < 5e-4 ? 7 : 4)))} %`);
 
 function bar(name: string, ratio: number | null | undefined, pass: boolean, note = ""): HTMLElement {
   const width = Math.min(Math.max(ratio ?? 1, 0), 1.25) / 1.25;
   const fill = el("i", { class: pass ? "pass" : "fail" });
   fill.style.width = `${width * 100}%`;
   return el("div", { class: "part" }, el("span", { class: "what" }, name, note && el("small", {}, ` ${note}`)),
-    el("span", { class: "bar", "aria-hidden": "true" }, fill), el("span", { class: "num" }, percent(ratio)),
+    el("span", { class: "bar", "aria-hidden": "true" }, fill), el("span", { class: "num" }, figure(ratio, percent)),
     el("span", { class: pass ? "pass" : "fail" }, pass ? say("满足", "passes") : say("不满足", "fails")));
 }
 
@@ -56,7 +57,7 @@ function results(values: Record<string, unknown>, names: ResultNames): HTMLEleme
   const body = el("tbody");
   for (const [key, value] of Object.entries(values)) {
     const [name = "", unit = ""] = names.get(key) ?? [];
-    body.append(el("tr", {}, el("th", { scope: "row" }, key), el("td", { class: "num", title: String(value) }, shown(value)),
+    body.append(el("tr", {}, el("th", { scope: "row" }, key), el("td", { class: "num", title: String(value) }, isRatio(key) && typeof value === "number" ? percent(value) : shown(value)),
       el("td", { class: "unit" }, unit), el("td", { class: "name" }, name)));
   }
   return el("table", { class: "figures" }, el("caption", {}, say("结果（mm、kN、kN·mm、N/mm²）", "Results (mm, kN, kN·mm, N/mm²)")), body);
@@ -66,20 +67,24 @@ const wordOf = (answer: CheckJson) => (answer.pass ? say("满足", "passes") : s
 const worstOf = (answer: CheckJson) => answer.ratio ?? answer.utilisation;
 export const summary = (answer: CheckJson) => `${answer.code}: ${wordOf(answer)} ${percent(worstOf(answer))}`;
 
-function one(answer: CheckJson, names: ResultNames): HTMLElement {
+// `place` parts what is folded in it from what is folded elsewhere.
+function one(answer: CheckJson, names: ResultNames, place = answer.code): HTMLElement {
   const checkName = (name: string) => checkTitle(name, names);
   const [word, worst] = [wordOf(answer), worstOf(answer)];
   const steps = (answer.checks ?? []).filter((check) => check.steps?.length).map((check) =>
-    el("details", { class: "steps" }, el("summary", {}, `${checkName(check.name)} · ${check.clause}`), el("ol", {}, ...check.steps!.map((step) => el("li", {}, step)))));
+    fold(`${place} ${check.name}`, `${checkName(check.name)} · ${check.clause}`, [el("ol", {}, ...check.steps!.map((step) => el("li", {}, step)))], false, "steps"));
   return el("section", { class: "verdict" },
-    el("p", { class: answer.pass ? "box pass" : "box fail" }, el("b", {}, word), ` · ${percent(worst)} · ${checkName(answer.governs)}`,
+    el("p", { class: answer.pass ? "box pass" : "box fail" }, el("b", {}, word), " · ", figure(worst, percent), ` · ${checkName(answer.governs)}`,
       el("small", {}, ` GB 50017-${answer.code}`)),
     ...(answer.checks ?? []).map((check) => bar(checkName(check.name), check.ratio, check.pass, check.clause.replace(/^GB 50017-\d+ /, ""))),
     !answer.checks && bar(answer.governs, worst, answer.pass),
     ...(answer.warnings ?? []).map((warning) => el("p", { class: "warn" }, typeof warning === "string" ? warning : `${warning.key}: ${warning.text}`)),
-    answer.given && el("details", { class: "steps" }, el("summary", {}, say("已知", "Given")), el("ol", {}, ...answer.given.map((each) => el("li", {}, each)))),
+    answer.given && fold(`${place} given`, say("已知", "Given"), [el("ol", {}, ...answer.given.map((each) => el("li", {}, each)))], false, "steps"),
     oneStop(el("div", {}, ...steps), "summary"),
-    ...(answer.combinations ?? []).map((each) => el("details", { class: "group" }, el("summary", {}, `${each.id ?? ""} ${percent(each.ratio)}`), one({ ...each, code: each.code ?? answer.code }, names))),
+    ...(answer.combinations ?? []).map((each, i) => {
+      const combination = `${place} ${i + 1}`;
+      return fold(combination, `${each.id ?? ""} ${percent(each.ratio)}`, [one({ ...each, code: each.code ?? answer.code }, names, combination)], false);
+    }),
     answer.results && results(answer.results, names));
 }
 

@@ -7,12 +7,15 @@ import { kExamples } from "../../form/examples";
 import { Form } from "../../form/form";
 import { readLists } from "../../form/guide";
 import { schemaOf } from "../../form/schema";
-import { button, computing, el, field, noAnswer, picture } from "../../parts/dom";
+import { button, computing, el, fault, field, noAnswer, picture } from "../../parts/dom";
 import { Edition } from "../../parts/edition";
-import { narrow, shown } from "../../parts/figures";
+import { figure } from "../../parts/figure_table";
+import { bare, percent } from "../../parts/figures";
+import { fold } from "../../parts/fold";
 import { oneStop, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, go, startView, state } from "../../state/address";
+import { change, go, inOne, parted, startView, state } from "../../state/address";
+import { kept } from "../../state/kept";
 import { say } from "../../state/language";
 import { checkName } from "../checks/verdict";
 import { StyleChoices } from "./style_choice";
@@ -26,10 +29,11 @@ interface ChooseJson {
 }
 
 const kFile = "case.json";
+const kFirstTables = "热轧普通焊接H型钢,热轧窄翼缘H型钢";
 
-function kept(): Case | null {
+function firstCase(edition: Edition): Case | null {
   const { section: _, edges: __, code: ___, ...rest } = kExamples.member;
-  return caseInLink("member", rest);
+  return caseInLink("member", rest, edition);
 }
 
 export async function choose(place: HTMLElement): Promise<void> {
@@ -37,29 +41,31 @@ export async function choose(place: HTMLElement): Promise<void> {
   await readLists();
   const rolled = (await tables()).filter((table) => table.rows > 0);
   if (!isHere()) return;
-  const chosen = new Set((state()["tables"] ?? "热轧普通焊接H型钢,热轧窄翼缘H型钢").split(",").filter((name) => rolled.some((table) => table.name === name)));
+  const chosen = new Set(parted(state()["tables"] ?? kFirstTables, ",").filter((name) => name !== "-"));
   const edition = new Edition(() => outdated(), false);
-  const given = kept();
-  const first = given && edition.take(given);
+  const first = firstCase(edition);
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const note = el("p", { class: "note", role: "status" });
-  const boxes = rolled.map((table) => {
-    const box = el("input", { type: "checkbox", checked: chosen.has(table.name), onchange: () => {
-      if (box.checked) chosen.add(table.name);
-      else chosen.delete(table.name);
-      change({ tables: [...chosen].join(",") || "-" });
+  // A name of the link's that no table has stands there too, for the command to refuse.
+  const boxes = [...new Set([...rolled.map((table) => table.name), ...chosen])].map((name) => {
+    const box = el("input", { type: "checkbox", checked: chosen.has(name), onchange: () => {
+      if (box.checked) chosen.add(name);
+      else chosen.delete(name);
+      change({ tables: chosen.size > 0 ? inOne([...chosen], ",") : "-" });
       outdated();
     } });
-    return el("label", { class: "check" }, box, ` ${table.name}`);
+    return el("label", { class: "check" }, box, ` ${name}`);
   });
   const styles = new StyleChoices(await readStyles(), state()["styles"] ?? "", (text) => { change({ styles: text }); outdated(); });
-  const top = el("input", { type: "text", inputmode: "numeric", value: state()["top"] ?? "20", class: "short", oninput: () => { change({ top: top.value }); outdated(); } });
+  const top = el("input", { type: "text", inputmode: "numeric", value: parted(state()["top"] ?? "20", ",")[0], class: "short", oninput: () => { change({ top: inOne([top.value], ",") }); outdated(); } });
   const form = new Form("member", schemaOf("member"), (value) => {
     change({ case: JSON.stringify(value) });
     outdated();
   }, ["section", "code"], () => outdated());
+  const now = kept("choice", () => ({ isOutdated: false }));
   // What was chosen for another question does not stay beside this one.
   const outdated = () => {
+    now.isOutdated = true;
     question.drop();
     form.blame("");
     styles.blame("");
@@ -69,7 +75,7 @@ export async function choose(place: HTMLElement): Promise<void> {
   const question = new Question(view, async () => {
     const [names, value, code] = [[...chosen], structuredClone(form.case), edition.asked];
     const answer = await ask(lineOf(["choose", ...(names.length > 0 ? [`--table=${names.join(",")}`] : []), ...styles.options(),
-      `--top=${narrow(top.value)}`, `--code=${code}`, "--json", "--plot", "plot.svg"], kFile), { [kFile]: JSON.stringify(value) });
+      `--top=${bare(top.value)}`, `--code=${code}`, "--json", "--plot", "plot.svg"], kFile), { [kFile]: JSON.stringify(value) });
     const found = answer.status <= 1 && answer.out !== "";
     return () => {
       const why = found ? "" : sentence(answer, kFile);
@@ -79,17 +85,20 @@ export async function choose(place: HTMLElement): Promise<void> {
       view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, value, code, answer) : noAnswer(why, ofStyles ? styles.mend : form.mend));
     };
   });
-  const start = button(say("选择", "Choose"), () => {
+  const start = async () => {
+    now.isOutdated = false;
     view.replaceChildren(computing());
-    void question.ask();
-  }, { class: "main" });
+    await question.ask();
+  };
   place.replaceChildren(
-    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(), edition.element,
-      oneStop(el("details", { class: "group", open: innerWidth > 860 }, el("summary", {}, say("截面表", "Tables")), ...boxes), "input"),
-      styles.element, field(say("最多行数", "Rows at most"), top), start, note, form.element),
+    el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(),
+      styles.isDamaged && fault(say("链接中的自定义截面不完整，不能读出。", "The own sections in this link are damaged and cannot be read.")), edition.element,
+      oneStop(fold("tables", say("截面表", "Tables"), boxes, innerWidth > 860), "input"),
+      styles.element, field(say("最多行数", "Rows at most"), top), button(say("选择", "Choose"), start, { class: "main" }), note, form.element),
     reachable(el("div", { class: "answer" }, view), say("结果", "the answer")));
   form.set(first ?? {});
-  await question.ask();
+  if (now.isOutdated || styles.isDamaged) outdated();
+  else await start();
 }
 
 const notesOf = (row: ChooseJson["rows"][number]) => (row.warnings ?? []).map((each) => `${each.key}: ${each.text}`);
@@ -101,8 +110,8 @@ function table(answer: ChooseJson, value: Case, code: string, whole: Answer): HT
   for (const row of answer.rows) {
     const open = button(say("验算", "Check"), () => go({ view: "members", ...(code === "2017" ? {} : { code }),
       case: JSON.stringify({ ...value, section: row.style ? { style: row.style, sizes: row.sizes } : { table: row.table, no: row.no } }) }));
-    body.append(el("tr", {}, el("td", {}, row.table), el("th", { scope: "row" }, row.no), el("td", { class: "num" }, shown(row.mass)),
-      el("td", { class: "num", title: String(row.ratio) }, shown(row.ratio)), el("td", {}, checkName(row.governs)),
+    body.append(el("tr", {}, el("td", {}, row.table), el("th", { scope: "row" }, row.no), el("td", { class: "num" }, figure(row.mass)),
+      el("td", { class: "num" }, figure(row.ratio, percent)), el("td", {}, checkName(row.governs)),
       el("td", { class: "name" }, notesOf(row).filter((note) => !common.includes(note)).join("; ")), el("td", {}, open)));
   }
   const refused = (answer.refusals ?? []).map((each) => el("p", { class: "warn" }, say(`${each.table}：${each.rows} 个截面未能验算，如 ${each.no}：`, `${each.table}: ${each.rows} sections refused, such as ${each.no}: `), each.reason));

@@ -1,7 +1,8 @@
 // Own sections to choose among: styles, each size a number or a range of them, as the command's --style takes them.
 import { kFirstSizes, type StyleJson } from "../../command/catalogue";
 import { button, el, field, newId, select } from "../../parts/dom";
-import { narrow, signParts, typedNumber } from "../../parts/figures";
+import { bare, signParts, typedNumber } from "../../parts/figures";
+import { fold } from "../../parts/fold";
 import { keepFocus } from "../../parts/keyboard";
 import { language, say } from "../../state/language";
 
@@ -12,24 +13,26 @@ const kParts = (): string[] => [say("从", "from"), say("到", "to"), say("步�
 // What is typed for a size: the first alone is a number, more make a range; what is no number goes on as it is, for
 // the command to judge.
 function sizeOf(texts: string[]): unknown {
-  const values = texts.map((text) => (Number.isNaN(typedNumber(text)) ? narrow(text) : typedNumber(text)));
+  const values = texts.map((text) => (Number.isNaN(typedNumber(text)) ? bare(text) : typedNumber(text)));
   while (values.length > 0 && values.at(-1) === "") values.pop();
   return values.length > 1 ? values : values[0];
 }
 
 const textsOf = (size: unknown): string[] => [size ?? ""].flat().map(String);
 
-// The choices of the state's text, one object or a list of them; none where it is damaged.
-function choicesOf(text: string): Choice[] {
+// The choices of the state's text, one object or a list of them; null where it is damaged.
+function choicesOf(text: string): Choice[] | null {
   try {
-    return [JSON.parse(text || "[]") as Choice | Choice[]].flat().filter((each) => typeof each === "object");
+    const choices = [JSON.parse(text || "[]") as Choice | Choice[]].flat();
+    return choices.every((each) => typeof each === "object" && each !== null) ? choices : null;
   } catch {
-    return [];
+    return null;
   }
 }
 
 export class StyleChoices {
-  readonly element: HTMLElement;
+  readonly element: HTMLDetailsElement;
+  readonly isDamaged: boolean; // the text; then there are none
   private readonly list = el("div");
   private readonly note = el("p", { class: "fault", role: "alert", id: newId() });
   private readonly choices: Choice[];
@@ -37,10 +40,12 @@ export class StyleChoices {
 
   // `changed` gets the choices as the state's text.
   constructor(private readonly styles: StyleJson[], text: string, private readonly changed: (text: string) => void) {
-    this.choices = choicesOf(text);
+    const read = choicesOf(text);
+    this.isDamaged = read === null;
+    this.choices = read ?? [];
     const add = button(say("添加类型", "Add a style"), () => this.edit(() => this.choices.push(this.first("box"))));
-    this.element = el("details", { class: "group", open: this.choices.length > 0 }, el("summary", {}, say("自定义截面", "Own sections")),
-      el("p", { class: "note" }, say("每个尺寸为一个数，或从、到和步长（mm）", "Each size is a number, or from, to and step (mm)")), this.list, this.note, add);
+    const told = el("p", { class: "note" }, say("每个尺寸为一个数，或从、到和步长（mm）", "Each size is a number, or from, to and step (mm)"));
+    this.element = fold("styles", say("自定义截面", "Own sections"), [told, this.list, this.note, add], this.choices.length > 0);
     this.draw();
   }
 
@@ -54,7 +59,7 @@ export class StyleChoices {
     const [, why = ""] = /^(?:自定义截面|Own section)[:：]\s*(.*)/s.exec(sentence) ?? [];
     this.note.textContent = why;
     for (const { sign, input } of this.inputs) input.setAttribute("aria-invalid", String(why.startsWith(`${sign} `)));
-    if (why) (this.element as HTMLDetailsElement).open = true;
+    if (why) this.element.open = true;
     return why !== "";
   }
 

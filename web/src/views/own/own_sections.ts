@@ -1,11 +1,12 @@
 // Own sections: a style with its sizes typed beside the picture, or any outline from a file.
 import { kFirstSizes, styles as readStyles } from "../../command/catalogue";
 import { ask, lineOf, sentence, warm, withWords, type Answer } from "../../command/client";
-import { button, computing, dropPlace, el, field, newId, noAnswer, select } from "../../parts/dom";
-import { narrow, signParts } from "../../parts/figures";
+import { button, computing, dropPlace, el, field, newId, noAnswer, noSuch, select } from "../../parts/dom";
+import { bare, signParts } from "../../parts/figures";
 import { keepFocus, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, startView, state } from "../../state/address";
+import { change, inOne, parted, startView, state } from "../../state/address";
+import { kept } from "../../state/kept";
 import { language, say } from "../../state/language";
 import { onward, sectionView } from "../section_view";
 import { givenOutline, layersOfOutline, outlineView, takeOutline } from "./own_outline";
@@ -18,26 +19,28 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   const isHere = startView();
   const styles = await readStyles();
   if (!isHere()) return;
-  const chosen = styles.find((each) => each.alias === state()["style"]) ?? styles[0]!;
-  const given = (state()["sizes"] ?? kFirstSizes[chosen.alias] ?? "").split(",");
+  const alias = state()["style"] ?? styles[0]!.alias;
+  const chosen = styles.find((each) => each.alias === alias);
+  if (!chosen) return place.replaceChildren(noSuch("style", alias, styles.map((each) => each.alias)));
+  const given = parted(state()["sizes"] ?? kFirstSizes[chosen.alias] ?? "", ",");
   const view = reachable(el("div", { class: "detail wide", "aria-live": "polite" }), say("截面", "the section"));
   const note = el("p", { class: "fault", role: "alert", id: newId() });
-  const saved = el("p", { class: "note", role: "status" });
+  const saved = kept("saved", () => el("p", { class: "note", role: "status" }));
   const inputs = chosen.sizes.map((size, i) => {
     const [sign, unit] = signParts(size.sign);
-    const input = typed(given[i] ?? "", () => void compute(), { "aria-describedby": note.id });
+    const input = typed(given[i] ?? "", () => typedIn(), { "aria-describedby": note.id });
     return { sign: size.sign, cell: size.sign, input, row: field(`${sign} · ${language() === "zh" ? size.title : size.meaning}`, input, unitMark(unit)) };
   });
   const base = ["X", "Y"].map((axis, i) => {
-    const input = typed((state()["base"] ?? "0,0").split(",")[i] ?? "0", () => void compute(), { "aria-describedby": note.id });
+    const input = typed(parted(state()["base"] ?? "0,0", ",")[i] ?? "0", () => typedIn(), { "aria-describedby": note.id });
     const label = say(`基点 ${axis.toLowerCase()}`, `base point ${axis.toLowerCase()}`);
     return { sign: label, cell: `${axis.toLowerCase()}(mm)`, input, row: field(label, input, unitMark("mm")) };
   });
   const fields = [...inputs, ...base];
   const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => { change({ name: name.value }); saved.replaceChildren(); } });
-  const sizes = () => inputs.map(({ input }) => narrow(input.value));
+  const sizes = () => inputs.map(({ input }) => bare(input.value));
 
-  const line = () => lineOf(["section", "--base", ...base.map(({ input }) => narrow(input.value) || "0")], chosen.alias, ...sizes());
+  const line = () => lineOf(["section", "--base", ...base.map(({ input }) => bare(input.value) || "0")], chosen.alias, ...sizes());
   // Says at the field that it names what the matter is; without a sentence all is well.
   const blame = (why: string, isBad: (field: (typeof fields)[number]) => boolean) => {
     note.textContent = why;
@@ -61,23 +64,25 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     };
   });
   // What is kept is what stands in the view; of a style alone, not of an outline.
+  const typedIn = () => {
+    saved.replaceChildren();
+    void compute();
+  };
   const compute = async () => {
-    change({ style: chosen.alias, sizes: sizes().join(","), base: base.map(({ input }) => input.value).join(","), outline: "", shape: "", layer: "" });
+    change({ style: chosen.alias, sizes: inOne(inputs.map(({ input }) => input.value), ","), base: inOne(base.map(({ input }) => input.value), ","), outline: "", shape: "", layer: "" });
     isOutline = false;
     keep.disabled = true;
-    saved.replaceChildren();
     await question.ask();
   };
   const showOutline = async () => {
     isOutline = true;
     keep.disabled = true;
-    saved.replaceChildren();
     await question.ask();
   };
   // A name that is there is replaced when that is asked for. What is typed meanwhile is not what was to be kept.
   const save = async () => {
     const [no, what] = [name.value, sizes().join("×")];
-    const cells = fields.flatMap(({ cell, input }) => ["--set", `${cell}=${narrow(input.value) || "0"}`]);
+    const cells = fields.flatMap(({ cell, input }) => ["--set", `${cell}=${bare(input.value) || "0"}`]);
     const tell = (answer: Answer) => {
       saved.replaceChildren(answer.status === 0 ? `${answer.out.trim()} · ${what}` : `${no} ${what}: ${sentence(answer)}`);
       saved.classList.toggle("fault", answer.status !== 0);
@@ -115,6 +120,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     el("h2", {}, say("任意外轮廓", "Any outline")),
     dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", async ([file]) => {
       if (!file) return;
+      saved.replaceChildren();
       await takeOutline(file);
       if (!isHere()) return;
       listLayers();

@@ -5,11 +5,11 @@ import { csvText } from "../../formats/csv";
 import { workbook } from "../../formats/workbook";
 import { button, copyButton, download, el, fault, field, newId, select } from "../../parts/dom";
 import { figureLines, type FigureLine } from "../../parts/figure_table";
-import { narrow, typedNumber } from "../../parts/figures";
+import { bare, narrow, typedNumber } from "../../parts/figures";
 import { Grid, type Column } from "../../parts/grid";
 import { keepFocus, oneStop, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, go, state } from "../../state/address";
+import { change, go, inOne, parted, state } from "../../state/address";
 import { say } from "../../state/language";
 import { cellLines, onward, sectionView, type SectionJson } from "../section_view";
 
@@ -52,27 +52,28 @@ function tree(list: TableJson[], chosen: string): HTMLElement {
   return el("div", { class: "tree" }, oneStop(nav), el("div", { class: "picker" }, field(say("截面表", "Table"), picker)));
 }
 
-// Filters of the state: "SIGN,least,most;..."; an empty bound is none.
-type Range = [sign: string, least: string, most: string];
-const ranges = (): Range[] => (state()["range"] ?? "").split(";").filter(Boolean).map((each) => each.split("|") as Range);
+// The filter of the state; an empty bound is none.
+const range = () => parted(state()["range"] ?? "", "|") as [sign: string, least?: string, most?: string];
 
-function matching(rows: string[][], columns: RowsJson["columns"], words: string[], filters: Range[]): string[][] {
-  const bounds = filters.map(([sign, least, most]) => [columns.findIndex((column) => column.sign === sign), least, most] as const);
+function matching(rows: string[][], columns: RowsJson["columns"], words: string[]): string[][] {
+  const [sign, least = "", most = ""] = range();
+  const at = columns.findIndex((column) => column.sign === sign);
   return rows.filter((row) => {
     const text = row.join("\u0000").toLowerCase();
-    return words.every((word) => text.includes(word)) && bounds.every(([at, least, most]) =>
-      at < 0 || ((least === "" || Number(row[at]) >= typedNumber(least)) && (most === "" || Number(row[at]) <= typedNumber(most))));
+    return words.every((word) => text.includes(word)) &&
+      (at < 0 || ((least === "" || Number(row[at]) >= typedNumber(least)) && (most === "" || Number(row[at]) <= typedNumber(most))));
   });
 }
 
-function compared(): string[] {
-  return (state()["compare"] ?? "").split(";").filter(Boolean);
-}
+// The rows that are compared, each as one text of its table and number.
+const compared = (): string[] => parted(state()["compare"] ?? "", ";").filter(Boolean);
+const keepCompared = (rows: string[]) => change({ compare: rows.length > 0 ? inOne(rows, ";") : "" });
+const numberOf = (row: string) => parted(row, "|")[1] ?? "";
 
 async function comparison(place: HTMLElement, left: () => void): Promise<void> {
   const list = compared();
   if (list.length === 0) return place.replaceChildren();
-  const sections = (await Promise.all(list.map((each) => ask(lineOf(["show", "--json"], ...each.split("|"))))))
+  const sections = (await Promise.all(list.map((each) => ask(lineOf(["show", "--json"], ...parted(each, "|"))))))
     .map((answer) => (answer.status === 0 ? (JSON.parse(answer.out) as SectionJson) : null));
   const lines = new Map<string, FigureLine[]>();
   sections.forEach((section, i) => {
@@ -84,9 +85,9 @@ async function comparison(place: HTMLElement, left: () => void): Promise<void> {
     }
   });
   const head = el("tr", {}, el("th", { scope: "col" }, say("量", "figure")), el("th", { scope: "col" }, say("单位", "unit")));
-  list.forEach((each) => head.append(el("th", { scope: "col", class: "num" }, each.split("|")[1] ?? "",
-    button("×", () => { change({ compare: compared().filter((other) => other !== each).join(";") }); left(); void comparison(place, left); },
-      { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${each.split("|")[1]}` }))));
+  list.forEach((each) => head.append(el("th", { scope: "col", class: "num" }, numberOf(each),
+    button("×", () => { keepCompared(compared().filter((other) => other !== each)); left(); void comparison(place, left); },
+      { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${numberOf(each)}` }))));
   const body = el("tbody");
   for (const [key, values] of lines) {
     const [sign, unit] = key.split("\t");
@@ -114,7 +115,7 @@ export async function sections(place: HTMLElement): Promise<void> {
 
   const isPair = list.find((each) => each.name === table)?.family.includes("pair") ?? false;
   const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", onchange: () => {
-    change({ gap: narrow(gap.value) });
+    change({ gap: bare(gap.value) });
     void section.ask();
   } });
   const chosen = () => state()["no"] ?? all[0]?.[key];
@@ -132,7 +133,7 @@ export async function sections(place: HTMLElement): Promise<void> {
   // Its command runs while the rows are drawn.
   place.append(detail);
   const detailed = chosen() ? section.ask() : null;
-  const isMarked = (row: string[]) => compared().includes(`${table}|${row[key]}`);
+  const marked = (row: string[]) => inOne([table, row[key]!], "|");
   const grid: Grid = new Grid({
     label: table,
     columns: columns.map<Column>((column) => ({ name: column.sign, title: column.title, numeric: isNumeric(column) })),
@@ -141,16 +142,16 @@ export async function sections(place: HTMLElement): Promise<void> {
     sorted: (sort) => change({ sort }),
     isChosen: (row) => row[key] === state()["no"],
     chosen: (row) => { change({ no: row[key]! }); void section.ask(); },
-    marked: { has: isMarked, toggle: (row) => {
-      const each = `${table}|${row[key]}`;
-      change({ compare: (isMarked(row) ? compared().filter((other) => other !== each) : [...compared(), each]).join(";") });
+    marked: { has: (row) => compared().includes(marked(row)), toggle: (row) => {
+      const [each, rows] = [marked(row), compared()];
+      keepCompared(rows.includes(each) ? rows.filter((other) => other !== each) : [...rows, each]);
       void comparison(beside, () => grid.draw());
     } },
   });
   const words = () => narrow(state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
   let seen = all;
   const filter = () => {
-    seen = matching(all, columns, words(), ranges());
+    seen = matching(all, columns, words());
     grid.show(seen);
     count.textContent = say(`${seen.length} / ${all.length} 行`, `${seen.length} of ${all.length} rows`);
   };
@@ -175,7 +176,7 @@ export async function sections(place: HTMLElement): Promise<void> {
 
 // A range that a column's numbers must lie in, kept in the state.
 function rangeFilter(signs: string[], changed: () => void): HTMLElement {
-  const [[sign = "", least = "", most = ""] = []] = ranges() as (Range | [])[];
+  const [sign, least = "", most = ""] = range();
   const column = select([["", "–"], ...signs.map((each): [string, string] => [each, each])], sign, () => keep());
   const note = el("p", { class: "fault", role: "alert", id: newId() });
   const low = el("input", { type: "text", inputmode: "decimal", "aria-describedby": note.id, value: least, class: "short", "aria-label": say("不小于", "at least"), oninput: () => keep() });
@@ -189,7 +190,8 @@ function rangeFilter(signs: string[], changed: () => void): HTMLElement {
   };
   const keep = () => {
     judge();
-    change({ range: column.value ? `${column.value}|${low.value}|${high.value}` : "" });
+    const values = [column.value, low.value, high.value];
+    change({ range: values.some(Boolean) ? inOne(values, "|") : "" });
     changed();
   };
   const made = field(say("数值范围", "Number range"), column);

@@ -3,10 +3,11 @@ import { isNumeric, keyOf, rowsOf, styles as readStyles, tables, type StyleJson,
 import { ask, forgetOwnStore, isStoreKept, keepsStore, lineOf, sentence, type Answer, type Files } from "../../command/client";
 import { csvText } from "../../formats/csv";
 import { sheetsOf, workbook, type Sheet } from "../../formats/workbook";
-import { zip } from "../../formats/zip";
+import { unzipped, zip } from "../../formats/zip";
 import { bytesOf, button, download, dropPlace, el, fault, field, select } from "../../parts/dom";
 import { oneStop, reachable } from "../../parts/keyboard";
 import { go } from "../../state/address";
+import { kept } from "../../state/kept";
 import { say } from "../../state/language";
 
 // A workbook's sheets as CSV files, each named for its table; a line of Chinese titles above the
@@ -18,21 +19,40 @@ async function csvOfSheets(bytes: Uint8Array): Promise<[table: string, text: str
   });
 }
 
-// The sheets of a workbook come in by one command, as files named for their tables: in one save.
+// The CSV files of an archive by their names, without what some systems add to it; throws for what else it holds, and
+// where two have one name.
+async function csvOfArchive(bytes: Uint8Array): Promise<Files> {
+  const files: Files = {};
+  for (const [path, data] of await unzipped(bytes)) {
+    const name = path.split("/").at(-1)!;
+    if (name.startsWith(".")) continue;
+    if (!name.toLowerCase().endsWith(".csv") || name in files) throw new Error(path);
+    files[name] = data;
+  }
+  if (Object.keys(files).length === 0) throw new Error();
+  return files;
+}
+
+// What a file brings in, as files that the command reads.
+async function filesIn(file: File): Promise<Files> {
+  const bytes = await bytesOf(file);
+  const ending = file.name.toLowerCase().split(".").at(-1);
+  if (ending === "xlsx") return Object.fromEntries((await csvOfSheets(bytes)).map(([name, text]) => [`${name}.csv`, text]));
+  return ending === "zip" ? csvOfArchive(bytes) : { [file.name]: bytes };
+}
+
+// The sheets of a workbook, and the files of an archive, come in by one command: in one save.
 async function imported(file: File, table: string, overwrite: boolean): Promise<Answer> {
   const words = ["store", "import", ...(table ? [`--table=${table}`] : []), ...(overwrite ? ["--overwrite"] : [])];
-  const bytes = await bytesOf(file);
-  const bring = (files: Files) => ask(lineOf(words, ...Object.keys(files)), files);
-  if (file.name.toLowerCase().endsWith(".xlsx")) {
-    let sheets: [string, string][];
-    try {
-      sheets = await csvOfSheets(bytes);
-    } catch {
-      return { status: 2, out: "", err: say(`${file.name}: 不是工作簿（.xlsx）`, `${file.name}: is no workbook (.xlsx)`), files: {} };
-    }
-    return bring(Object.fromEntries(sheets.map(([name, text]) => [`${name}.csv`, text])));
+  let files: Files;
+  try {
+    files = await filesIn(file);
+  } catch {
+    const why = file.name.toLowerCase().endsWith(".zip") ? say("应为 .csv 文件的压缩包（.zip），每表一个", "right would be an archive (.zip) of .csv files, one for each table")
+      : say("不是工作簿（.xlsx）", "is no workbook (.xlsx)");
+    return { status: 2, out: "", err: `${file.name}: ${why}`, files: {} };
   }
-  return bring({ [file.name]: bytes });
+  return ask(lineOf(words, ...Object.keys(files)), files);
 }
 
 const kOwn = "own"; // in the list of tables to export: those of own sections
@@ -66,13 +86,14 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const read = () => tables().catch((error: Error) => ((trouble = error.message), []));
   let list = await read();
   const styles = await readStyles().catch(() => []);
-  const note = el("div", { role: "status", class: "log" });
+  const note = kept("log", () => el("div", { role: "status", class: "log" }));
+  const wishes = kept("wishes", () => ({ into: "", over: false, which: kOwn }));
   const tell = (answer: Answer, file = "") => {
     const good = answer.status === 0;
     note.append(el("p", { class: good ? "note" : "fault", role: good ? null : "alert" }, (good ? answer.out.trim() : [answer.out.trim(), sentence(answer, file)].filter(Boolean).join(" · ")) || "✓"));
   };
-  const into = select([["", say("按文件", "as the file says")], ...list.map((table): [string, string] => [table.name, table.name])], "", () => {});
-  const over = el("input", { type: "checkbox" });
+  const into = select([["", say("按文件", "as the file says")], ...list.map((table): [string, string] => [table.name, table.name])], wishes.into, (table) => (wishes.into = table));
+  const over = el("input", { type: "checkbox", checked: wishes.over, onchange: () => (wishes.over = over.checked) });
   const taken = async (files: File[]) => {
     note.replaceChildren();
     for (const file of files) tell(await imported(file, into.value, over.checked));
@@ -82,7 +103,11 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const own = () => filled().filter((table) => table.source !== "rolled");
   const names = (of: TableJson[]) => of.map((table) => table.name);
   const choices = (): [string, string][] => [[kOwn, say("自定义截面的各表", "the tables of own sections")], ["", say("全部表", "all tables")], ...names(filled()).map((name): [string, string] => [name, name])];
-  let which = select(choices(), kOwn, () => {});
+  const chooseTable = (table: string) => {
+    const offered = table === kOwn || names(filled()).includes(table) ? table : "";
+    return select(choices(), offered, (next) => (wishes.which = next));
+  };
+  let which = chooseTable(wishes.which);
   const exported = (form: string) => async () => {
     note.replaceChildren();
     const wanted = which.value === kOwn ? names(own()) : which.value ? [which.value] : names(filled());
@@ -100,7 +125,7 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const listTables = async () => {
     trouble = "";
     list = await read();
-    const asked = select(choices(), which.value === kOwn || names(filled()).includes(which.value) ? which.value : "", () => {});
+    const asked = chooseTable(which.value);
     asked.id = which.id;
     which.replaceWith(asked);
     which = asked;
@@ -108,7 +133,7 @@ export async function storeView(place: HTMLElement): Promise<void> {
     const rows = isKept && !trouble ? await Promise.all(own().map((table) => ownRows(table, styles, (answer) => {
       note.replaceChildren();
       tell(answer);
-      void listTables().then(() => kept.focus());
+      void listTables().then(() => mine.focus());
     }))) : [];
     const none = say("还没有保存任何截面；各表只有随页的示例。", "Nothing is kept yet: the tables hold the page's own examples.");
     held.replaceChildren(el("h2", {}, say("自己的截面", "Own sections")), fault(trouble), ...(isKept ? rows.filter((each) => each !== null) : [el("p", { class: "note" }, none)]));
@@ -125,13 +150,13 @@ export async function storeView(place: HTMLElement): Promise<void> {
   const where = keepsStore()
     ? el("p", { class: "note" }, say("保存在此浏览器中，不离开本机。请不时导出为 .KDB。", "Kept in this browser; nothing leaves the machine. Export it as .KDB from time to time."))
     : el("p", { class: "warn" }, say("此浏览器不允许本页保存数据：存入和导入都不会留下。", "This browser does not let the page keep data: nothing can be kept or imported."));
-  const kept = reachable(el("div", { class: "form wide" }, held, el("div", { class: "tools" }, forget)), say("自己的截面", "own sections"));
+  const mine = reachable(el("div", { class: "form wide" }, held, el("div", { class: "tools" }, forget)), say("自己的截面", "own sections"));
   place.replaceChildren(el("div", { class: "form wide" },
     el("h1", {}, say("自己的库", "Own store")), where,
     el("h2", {}, say("导入", "Import")), field(say("目标表", "Into table"), into), el("label", { class: "check" }, over, say(" 覆盖已有的行", " replace rows that are there")),
-    dropPlace(say(".KDB、.kvb、.csv 或 .xlsx 文件", ".KDB, .kvb, .csv or .xlsx files"), ".kdb,.kvb,.csv,.xlsx", (files) => void taken(files)),
+    dropPlace(say(".KDB、.kvb、.csv、.xlsx 或 .zip 文件", ".KDB, .kvb, .csv, .xlsx or .zip files"), ".kdb,.kvb,.csv,.xlsx,.zip", (files) => void taken(files)),
     el("h2", {}, say("导出", "Export")), field(say("表", "Table"), which), oneStop(el("div", { class: "tools" }, ...forms)), note),
-    kept);
+    mine);
   await listTables();
 }
 
