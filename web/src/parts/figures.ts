@@ -16,6 +16,7 @@ const kFigures: Record<string, [string, string, string]> = {
   Ixo: ["mm⁴", "形心轴惯性矩 x", "centroidal moment of inertia x"],
   Iyo: ["mm⁴", "形心轴惯性矩 y", "centroidal moment of inertia y"],
   Ixy: ["mm⁴", "惯性积", "product of inertia"],
+  angle: ["°", "转角", "turned by"],
   I1: ["mm⁴", "主惯性矩 1", "principal moment 1"],
   I2: ["mm⁴", "主惯性矩 2", "principal moment 2"],
   theta: ["°", "主轴 1 的转角", "angle of principal axis 1"],

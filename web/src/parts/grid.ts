@@ -58,7 +58,7 @@ export class Grid {
     const widths = wishes.marked ? [34] : [];
     wishes.columns.forEach((column, i) => {
       const longest = wishes.rows.reduce((most, row) => Math.max(most, width(written(column, row[i] ?? ""))), width(column.name) + 2);
-      widths.push(Math.min(Math.max(longest, 5), 34) * 7.6 + 16);
+      widths.push(Math.min(Math.max(longest, 5), 34) * 7.6 + 20);
       const sorter = el("button", { type: "button", title: column.title, onclick: () => this.sortBy(column.name) }, column.name);
       const heading = el("th", { role: "columnheader", scope: "col", class: column.numeric ? "num" : null }, sorter);
       this.headings.push(heading);

@@ -72,6 +72,6 @@ export function sectionView(title: string, answer: Answer, file = title, forms: 
     oneStop(el("div", { class: "tools" }, copyButton(say("复制", "Copy"), () => asText(blocks)), ...saves, ...onward)),
     trouble,
     section.accurate === false && el("p", { class: "warn" }, say("精确值的误差估计偏大。", "The error estimate of the exact figures is large.")),
-    el("div", { class: "beside-picture" }, el("div", {}, ...blocks.map(([caption, lines]) => figureTable(caption, lines))), picture(answer.files["picture.svg"], title)),
+    el("div", { class: "beside-picture" }, el("div", { class: "blocks" }, ...blocks.map(([caption, lines]) => figureTable(caption, lines))), picture(answer.files["picture.svg"], title)),
   );
 }

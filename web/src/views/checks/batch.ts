@@ -120,7 +120,7 @@ export class Batch {
     const order = [...kFirst.map((name) => head.indexOf(name)).filter((i) => used.includes(i)), ...used.filter((i) => !kFirst.includes(head[i]!))];
     const [names, lines] = [order.map((i) => head[i]!), rows.map((row) => order.map((i) => row[i]!))];
     const numeric = names.map((name, i) => !kTexts.includes(name) && lines.every((row) => row[i] === "" || !Number.isNaN(Number(row[i]))));
-    const columns = names.map<Column>((name, i) => ({ name, numeric: numeric[i]!, written: writer(name, numeric[i]!) }));
+    const columns = names.map<Column>((name, i) => ({ name, numeric: numeric[i]!, written: writer(this.kind, name, numeric[i]!) }));
     const [pass, number] = [names.indexOf("pass"), names.indexOf("case")];
     const grid = new Grid({ label, columns, rows: lines, look: (row) => (row[pass] === "true" ? null : "fail"),
       sort: this.now.sort, sorted: (sort) => (this.now.sort = sort), isChosen: (row) => row[number] === this.now.chosen,
@@ -153,10 +153,10 @@ const nameOf = (file: Cases): string => (file.name.toLowerCase().endsWith(".json
 const by = (code: string): HTMLElement => el("p", { class: "note" },
   code === "both" ? say("没有给出版本的算例：两版", "Cases that name no edition: by both") : say(`没有给出版本的算例：GB 50017-${code}`, `Cases that name no edition: by GB 50017-${code}`));
 
-const writer = (name: string, numeric: boolean): Column["written"] => {
+const writer = (kind: Kind, name: string, numeric: boolean): Column["written"] => {
   if (name === "pass") return (text) => (text === "true" ? `✓ ${say("满足", "passes")}` : text === "false" ? `✗ ${say("不满足", "fails")}` : say("拒绝", "refused"));
   if (name === "governs") return checkName;
-  if (isRatio(name)) return (text) => (text === "" ? "" : percent(Number(text)));
+  if (isRatio(kind, name)) return (text) => (text === "" ? "" : percent(Number(text)));
   return numeric ? (text) => (text === "" ? "" : shown(Number(text))) : undefined;
 };
 

@@ -117,7 +117,7 @@ function latticeView(answer: Answer): HTMLElement[] {
   return [
     oneStop(el("div", { class: "tools" }, button("SVG", () => download(`${lattice.no}.svg`, answer.files["picture.svg"]!)),
       copyButton(say("复制 JSON", "Copy JSON"), () => answer.out))),
-    el("div", { class: "beside-picture" }, el("div", {}, figureTable(lattice.no, figureLines(lattice.properties)), ...limbs), picture(answer.files["picture.svg"], lattice.no)),
+    el("div", { class: "beside-picture" }, el("div", { class: "blocks" }, figureTable(lattice.no, figureLines(lattice.properties)), ...limbs), picture(answer.files["picture.svg"], lattice.no)),
   ];
 }
 

@@ -1,4 +1,5 @@
 // The answer of a check for the eye: the verdict, a bar for each part, the trace by clause.
+import type { Kind } from "../../form/schema";
 import { el } from "../../parts/dom";
 import { figure } from "../../parts/figure_table";
 import { percent, shown } from "../../parts/figures";
@@ -38,8 +39,8 @@ const kChecks: Record<string, [zh: string, en: string]> = {
   "lacing-leg": ["缀条肢宽厚比", "leg of a bar"], "batten-stiffness": ["缀板线刚度", "stiffness of battens"],
 };
 
-// Whether a figure of an answer is a ratio to a limit.
-export const isRatio = (name: string): boolean => ["ratio", "utilisation"].includes(name) || name in kChecks;
+// Whether a figure of a case in a list is a ratio to a limit; of members those of all checks stand in it.
+export const isRatio = (kind: Kind, name: string): boolean => ["ratio", "utilisation"].includes(name) || (kind === "member" && name in kChecks);
 export const checkName = (name: string): string => (kChecks[name] ? say(...kChecks[name]) : name);
 
 const checkTitle = (name: string, names: ResultNames) => names.get(name)?.[0] || checkName(name);
@@ -57,7 +58,7 @@ function results(values: Record<string, unknown>, names: ResultNames): HTMLEleme
   const body = el("tbody");
   for (const [key, value] of Object.entries(values)) {
     const [name = "", unit = ""] = names.get(key) ?? [];
-    body.append(el("tr", {}, el("th", { scope: "row" }, key), el("td", { class: "num", title: String(value) }, isRatio(key) && typeof value === "number" ? percent(value) : shown(value)),
+    body.append(el("tr", {}, el("th", { scope: "row" }, key), el("td", { class: "num", title: String(value) }, key === "ratio" && typeof value === "number" ? percent(value) : shown(value)),
       el("td", { class: "unit" }, unit), el("td", { class: "name" }, name)));
   }
   return el("table", { class: "figures" }, el("caption", {}, say("结果（mm、kN、kN·mm、N/mm²）", "Results (mm, kN, kN·mm, N/mm²)")), body);

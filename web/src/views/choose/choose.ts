@@ -116,6 +116,6 @@ function table(answer: ChooseJson, value: Case, code: string, whole: Answer): HT
   }
   const refused = (answer.refusals ?? []).map((each) => el("p", { class: "warn" }, say(`${each.table}：${each.rows} 个截面未能验算，如 ${each.no}：`, `${each.table}: ${each.rows} sections refused, such as ${each.no}: `), each.reason));
   return el("div", {}, ...refused, ...common.map((note) => el("p", { class: "warn" }, note)), el("p", { role: "status" }, say(`试算 ${answer.tried} 个截面，${answer.passing} 个满足`, `${answer.tried} sections tried, ${answer.passing} pass`)),
-    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("结果", "Results") }, el("table", { class: "figures list" }, el("thead", {}, el("tr", {}, ...head.map((each) => (each ? el("th", { scope: "col" }, each) : el("td", { class: "head" }))))), oneStop(body))),
+    el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("结果", "Results") }, el("table", { class: "figures list" }, el("thead", {}, el("tr", {}, ...head.map((each, i) => (each ? el("th", { scope: "col", class: i === 2 || i === 3 ? "num" : null }, each) : el("td", { class: "head" }))))), oneStop(body))),
     picture(whole.files["plot.svg"], say("质量与利用率", "mass against ratio")));
 }

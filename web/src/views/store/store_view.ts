@@ -77,7 +77,7 @@ async function ownRows(table: TableJson, styles: StyleJson[], changed: (answer: 
       el("td", {}, button(say("删除", "Delete"), () => void remove(), named(say("删除", "Delete")))));
   });
   if (lines.length === 0) return null;
-  return oneStop(el("table", { class: "figures" }, el("caption", {}, table.name), el("tbody", {}, ...lines)));
+  return oneStop(el("table", { class: "figures rows" }, el("caption", {}, table.name), el("tbody", {}, ...lines)));
 }
 
 export async function storeView(place: HTMLElement): Promise<void> {
