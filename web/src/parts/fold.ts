@@ -2,7 +2,7 @@
 import { kept } from "../state/kept";
 import { el } from "./dom";
 
-export function fold(key: string, title: string, inside: (Node | string)[], isOpen: boolean, look = "group"): HTMLDetailsElement {
+export function fold(key: string, title: Node | string, inside: (Node | string)[], isOpen: boolean, look = "group"): HTMLDetailsElement {
   const left = kept("folds", () => new Map<string, boolean>());
   const made = el("details", { class: look, open: left.get(key) ?? isOpen }, el("summary", {}, title), ...inside);
   made.ontoggle = () => {

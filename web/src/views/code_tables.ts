@@ -13,6 +13,7 @@ interface CodeJson {
   value: unknown;
   unit: string;
   source: string;
+  note?: string;
 }
 
 // What to begin with, by question.
@@ -20,11 +21,11 @@ const kFirst: Record<string, string> = {
   steel: "Q345 20 f", eps: "Q345", weld: "Q345 20 ffw", bolt: "C 4.8 fv", preload: "10.9 20", slip: "1 Q345", hole: "standard 20",
   spacing: "pitch-least 22 12", area: "20", slender: "Q345 upper", slenderness: "compression", width: "flange Q345 60",
   "width-moments": "web Q345 1", "width-beam": "flange Q345", phi: "60 345 b", phib: "uniform-upper 32 6", mu: "nosway 1 1",
-  "mu-step": "free 1 0.5", "mu-step2": "free 1 1 0.1 0.1", "mu-taper": "0.1 1", "section-class": "flange 10 Q345",
+  "mu-step": "free 1 0.5", "mu-step2": "free 1 1 0.2 0.2", "mu-taper": "0.1 1", "section-class": "flange 10 Q345",
   class: "welded-i-flame-cut x", "class-thick": "1 x", gamma: "0 x S1", fatigue: "Z4 C",
 };
 // What differs in the edition of 2003.
-const kFirst2003: Record<string, string> = { gamma: "0 x", fatigue: "4" };
+const kFirst2003: Record<string, string> = { gamma: "0 x", fatigue: "4 C", "width-moments": "web Q345 1 60" };
 const kGrades = ["Q235", "Q345", "Q355", "Q390", "Q420", "Q460", "Q345GJ"];
 const kSpans = ["16", "40", "63", "80", "100"]; // thicknesses of steel, mm
 
@@ -108,9 +109,9 @@ export async function codeTables(place: HTMLElement): Promise<void> {
 }
 
 function figure(answer: Answer): HTMLElement {
-  const { value, unit, source } = JSON.parse(answer.out) as CodeJson;
-  const text = Array.isArray(value) ? value.map(shown).join(", ") : typeof value === "object" && value ? JSON.stringify(value) : shown(value);
-  return el("div", { class: "answerfigure" }, el("p", { class: "big", title: String(value) }, text, el("span", { class: "unit" }, ` ${unit}`)), el("p", { class: "note" }, source),
+  const { value, unit, source, note } = JSON.parse(answer.out) as CodeJson;
+  const text = Array.isArray(value) ? value.map(shown).join(", ") : shown(value);
+  return el("div", { class: "answerfigure" }, el("p", { class: "big", title: String(value) }, text, el("span", { class: "unit" }, ` ${unit}`)), el("p", { class: "note" }, source), note && el("p", { class: "warn" }, note),
     copyButton(say("复制", "Copy"), () => String(value)));
 }
 

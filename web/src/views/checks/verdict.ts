@@ -84,12 +84,12 @@ function one(answer: CheckJson, names: ResultNames, place = answer.code): HTMLEl
     oneStop(el("div", {}, ...steps), "summary"),
     ...(answer.combinations ?? []).map((each, i) => {
       const combination = `${place} ${i + 1}`;
-      return fold(combination, `${each.id ?? ""} ${percent(each.ratio)}`, [one({ ...each, code: each.code ?? answer.code }, names, combination)], false);
+      return fold(combination, el("span", {}, `${each.id ?? ""} `, figure(each.ratio, percent)), [one({ ...each, code: each.code ?? answer.code }, names, combination)], false);
     }),
     answer.results && results(answer.results, names));
 }
 
 export function verdict(answer: CheckJson, names: ResultNames): HTMLElement {
-  const editions = answer.editions?.map((each) => el("b", { class: each.pass ? "pass" : "fail" }, summary(each), " "));
+  const editions = answer.editions?.map((each) => el("b", { class: each.pass ? "pass" : "fail", title: String(worstOf(each)) }, summary(each), " "));
   return el("div", { class: "verdicts" }, editions && el("p", { class: "editions" }, ...editions), ...(answer.editions ?? [answer]).map((each) => one(each, names)));
 }
