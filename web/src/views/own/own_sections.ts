@@ -120,12 +120,8 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     el("h2", {}, say("任意外轮廓", "Any outline")),
     dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", async ([file]) => {
       if (!file) return;
-      saved.replaceChildren();
       await takeOutline(file);
-      if (!isHere()) return;
-      listLayers();
-      view.replaceChildren(computing());
-      await showOutline();
+      if (isHere()) void keepFocus(() => ownSections(place));
     }),
     layerField);
   place.replaceChildren(form, view);
