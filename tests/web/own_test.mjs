@@ -34,6 +34,7 @@ walk("an outline from a DXF, and one that is none", "view=own&lang=zh", async (p
   await addressTells(page, "outline", "plate.dxf");
   const link = await address(page);
   await drop(page, join(folder, "two.dxf"));
+  await says(page, ".detail", "two.dxf");
   await pick(page, "DXF 的图层", "axis");
   await says(page, ".figures td", "400");
   await addressTells(page, "layer", "axis");

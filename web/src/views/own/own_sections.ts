@@ -120,6 +120,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     el("h2", {}, say("任意外轮廓", "Any outline")),
     dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", async ([file]) => {
       if (!file) return;
+      view.replaceChildren(computing());
       await takeOutline(file);
       if (isHere()) void keepFocus(() => ownSections(place));
     }),
