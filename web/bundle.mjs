@@ -17,7 +17,7 @@ const inside = {
   words: () => `export default ${JSON.stringify(caseWords(join(here, "../docs/case-keys.md")))};`,
   worker: async () => {
     const glue = readFileSync(join(core, "orv3cal.js"), "utf8");
-    return `export default ${JSON.stringify(glue + (await bundle("worker.ts")))};`;
+    return `export default ${JSON.stringify(glue + (await bundle("command/worker.ts")))};`;
   },
 };
 const insidePlugin = {

@@ -1,19 +1,18 @@
 // The page: its head, and the view that the address names.
-import { change, go, startView, state } from "./address";
-import { holdCases } from "./batch";
-import { choose } from "./choose";
-import { connections, latticeColumns, members } from "./checks";
-import { onBusy, onOtherSave, onSave, run, stop } from "./client";
-import { codeTables } from "./code_tables";
-import { button, el, fault } from "./dom";
-import { readLists } from "./guide";
-import { keepFocus, oneStop, waysIn } from "./keyboard";
-import { language, say } from "./language";
-import { lostStore, noteSave } from "./lost_store";
-import { ownSections } from "./own_sections";
-import { askAgain } from "./question";
-import { sections } from "./sections";
-import { storeView } from "./store_view";
+import { onBusy, onOtherSave, onSave, run, stop } from "./command/client";
+import { readLists } from "./form/guide";
+import { button, el, fault, noSuch } from "./parts/dom";
+import { keepFocus, oneStop, waysIn } from "./parts/keyboard";
+import { askAgain } from "./parts/question";
+import { change, go, startView, state } from "./state/address";
+import { language, say } from "./state/language";
+import { connections, latticeColumns, members } from "./views/checks/checks";
+import { choose } from "./views/choose/choose";
+import { codeTables } from "./views/code_tables";
+import { ownSections } from "./views/own/own_sections";
+import { sections } from "./views/sections/sections";
+import { lostStore, noteSave } from "./views/store/lost_store";
+import { storeView } from "./views/store/store_view";
 
 declare global {
   interface Window {
@@ -22,7 +21,8 @@ declare global {
 }
 window.orv3cal = { run };
 
-const kViews: Record<string, [zh: string, en: string, show: (place: HTMLElement) => Promise<void>]> = {
+type View = [zh: string, en: string, show: (place: HTMLElement) => Promise<void>];
+const kViews = new Map<string, View>(Object.entries({
   sections: ["截面", "Sections", sections],
   own: ["自定义截面", "Own section", ownSections],
   lattice: ["格构柱", "Lattice columns", latticeColumns],
@@ -31,14 +31,17 @@ const kViews: Record<string, [zh: string, en: string, show: (place: HTMLElement)
   choose: ["选择", "Choose", choose],
   code: ["规范表", "Code tables", codeTables],
   store: ["自己的库", "Own store", storeView],
-};
+}));
+
+const unknown = (view: string): View =>
+  ["没有此页面", "No such view", async (place) => place.replaceChildren(noSuch("view", view, [...kViews.keys()]))];
 
 function dark(): boolean {
   return (state()["theme"] ?? (matchMedia("(prefers-color-scheme: dark)").matches ? "dark" : "light")) === "dark";
 }
 
 function head(view: string): HTMLElement {
-  const links = Object.entries(kViews).map(([key, [zh, en]]) =>
+  const links = [...kViews].map(([key, [zh, en]]) =>
     el("a", { href: `#view=${key}`, "aria-current": key === view ? "page" : null, onclick: (event: MouseEvent) => {
       event.preventDefault();
       go({ view: key });
@@ -47,7 +50,7 @@ function head(view: string): HTMLElement {
   return el("header", {}, el("span", { class: "ways" }), el("span", { class: "brand" }, "Orv3Cal"),
     oneStop(el("nav", { "aria-label": say("页面", "Views") }, ...links)),
     oneStop(el("span", { class: "switches" },
-      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); holdCases(); void draw(); }, { lang: other, "data-key": "language" }),
+      button(other === "zh" ? "中文" : "English", () => { change({ lang: other }); void drawInPlace(); }, { lang: other, "data-key": "language" }),
       theme)));
 }
 
@@ -61,12 +64,20 @@ const theme = button("", () => { change({ theme: dark() ? "light" : "dark" }); p
 
 const draw = () => keepFocus(drawView);
 
+// What is scrolled stays where it was.
+async function drawInPlace(): Promise<void> {
+  const scrolled = () => [document.documentElement, ...document.querySelectorAll("main > *, main .grid")];
+  const tops = scrolled().map((each) => each.scrollTop);
+  await draw();
+  scrolled().forEach((each, i) => (each.scrollTop = tops[i] ?? 0));
+}
+
 let draws = 0;
 async function drawView(): Promise<void> {
   const mine = ++draws;
   startView();
   const view = state()["view"] ?? "sections";
-  const [zh, en, show] = kViews[view] ?? kViews["sections"]!;
+  const [zh, en, show] = kViews.get(view) ?? unknown(view);
   document.documentElement.lang = language() === "zh" ? "zh-CN" : "en";
   paint();
   theme.setAttribute("aria-label", say("明暗", "light or dark"));
