@@ -8,7 +8,7 @@ the shapes are in :mod:`orv3cal.shapes`. Units: mm, kN, kN·mm; strengths and st
 without them your own store serves, else the catalogue that comes with the module.
 
 Calls from several threads are safe and run one after another; other threads of Python go on
-meanwhile.
+meanwhile. A process that forks waits for the call that runs, and its child may call as well.
 """
 
 from __future__ import annotations

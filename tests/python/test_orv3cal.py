@@ -8,8 +8,10 @@ import io
 import json
 import math
 import os
+import signal
 import subprocess
 import tempfile
+import threading
 import unittest
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
@@ -152,6 +154,32 @@ class Answers(unittest.TestCase):
 
         with ThreadPoolExecutor(8) as pool:
             list(pool.map(ask, wanted))
+
+
+    @unittest.skipUnless(hasattr(os, "fork"), "no fork")
+    def test_are_had_by_a_child_that_was_forked_beside_a_check(self):
+        frame = {key: [value] * 5000 for key, value in BOLT.items()}
+        done = threading.Event()
+
+        def check():
+            while not done.is_set():
+                orv3cal.check_many("bolt", frame)
+
+        checking = threading.Thread(target=check)
+        checking.start()
+        try:
+            for _ in range(10):
+                child = os.fork()
+                if child == 0:
+                    signal.alarm(60)  # ends one that hangs
+                    try:
+                        os._exit(0 if orv3cal.section("rect", 3, 4)["properties"]["A"] == 12 else 1)
+                    finally:
+                        os._exit(2)
+                self.assertEqual(os.waitpid(child, 0)[1], 0)
+        finally:
+            done.set()
+            checking.join()
 
 
 class Frames(unittest.TestCase):
