@@ -31,7 +31,8 @@ class CMembers {
         progress.Step(read.m_dDone);
       });
     }
-    if (m_nCases == 0) RefuseFile({"没有算例；请至少给一个", "holds no case; give one at least"});
+    if (m_nCases == 0 && !HasColumnsAlone(m_options.file))
+      RefuseFile({"没有算例；请至少给一个", "holds no case; give one at least"});
     if (!m_bOne) m_answers.Finish();
     WriteReport();
     if (m_bOne && m_nRefused > 0) RefuseFile(m_firstFault.Text());

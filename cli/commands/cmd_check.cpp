@@ -81,7 +81,8 @@ class CChecker {
         progress.Step(read.m_dDone);
       });
     }
-    if (m_nCases == 0) Refuse({"没有算例；请至少给一个", "holds no case; give one at least"});
+    if (m_nCases == 0 && !HasColumnsAlone(m_options.file))
+      Refuse({"没有算例；请至少给一个", "holds no case; give one at least"});
     if (!m_bOne) m_answers.Finish();
     WriteReport();
     if (m_bOne && m_nRefused > 0) Refuse(m_firstFault);

@@ -265,6 +265,15 @@ class Frames(unittest.TestCase):
         self.assertIsInstance(arrays["utilisation"], numpy.ndarray)
         self.assertEqual(arrays["utilisation"][0], orv3cal.check("bolt", BOLT)["utilisation"])
 
+    def test_answer_no_rows_by_none(self):
+        member = {**BEAM, "section.style": "h", "section.sizes": "300;400;20;10", "lengths.x": 6000.0, "lengths.y": 6000.0}
+        for kind, case in [("bolt", BOLT), ("member", {key: each for key, each in member.items() if key != "lengths"})]:
+            frame = pandas.DataFrame([case])
+            for edition in (None, "both"):
+                some, none = (orv3cal.check_many(kind, each, edition=edition) for each in (frame, frame[frame["steel"] == ""]))
+                self.assertEqual((len(none), list(none.dtypes.items())), (0, list(some.dtypes.items())))
+        self.assertEqual(len(orv3cal.check_many("bolt", {"d": []})["pass"]), 0)
+
     def test_take_true_and_false_as_no_numbers(self):
         for truth, dtype in [(True, bool), (True, object), (numpy.True_, object)]:
             frame = pandas.DataFrame({key: [value] for key, value in BOLT.items()})
@@ -276,7 +285,7 @@ class Frames(unittest.TestCase):
     def test_refuse_what_is_no_frame_of_cases(self):
         for columns, words in [
             ({}, "no case"),
-            ({"d": []}, "no case"),
+            ({"nothing": []}, "nothing"),
             ({"nothing": [1.0]}, "nothing"),
             ({"d": [1.0], "t": [1.0, 2.0]}, "t: 2 values"),
             ({"d": numpy.ones((1, 1))}, "dimensions"),
