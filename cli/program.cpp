@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <mutex>
 #include <new>
 #include <sstream>
 
@@ -217,9 +216,13 @@ int Fail(CExit exit, std::string text) {
 
 int RunProgram(const CArguments& arguments) { return RunGuarded(arguments); }
 
-int RunProgram(const CArguments& arguments, CMemoryStreams& streams) {
+std::mutex& ProgramTurn() {
   static std::mutex turn;  // the stores in use and the language are of the whole process
-  const std::lock_guard lock(turn);
+  return turn;
+}
+
+int RunProgram(const CArguments& arguments, CMemoryStreams& streams) {
+  const std::lock_guard lock(ProgramTurn());
   const CUseMemory memory(streams);
   ForgetInputs();
   return RunGuarded(arguments);

@@ -102,6 +102,11 @@ PYBIND11_MODULE(_orv3cal, module) {
              py::arg("english"),
              "The half of a text that a command with these arguments would answer with.");
   module.def(
+      "hold", [] { orv3::cli::ProgramTurn().lock(); }, py::call_guard<py::gil_scoped_release>(),
+      "Waits until no command runs and lets none begin, for a fork of the process.");
+  module.def(
+      "release", [] { orv3::cli::ProgramTurn().unlock(); }, "Lets commands run again.");
+  module.def(
       "set_catalogue",
       [](const std::string& folder) { orv3::cli::SetShippedFolder(orv3::FromUtf8(folder)); },
       py::arg("folder"), "Names the folder of the catalogue that comes with the installation.");

@@ -115,7 +115,7 @@ CJson CaseJson(const typename CHECK::CCase& input, const CHECK& check, CCodeEdit
           {"pass", check.Pass()},
           {"results", std::move(results)},
           {"utilisation", JsonNumber(check.Worst().m_dUtilisation)},
-          {"governs", check.Worst().m_name.In(language)},
+          {"governs", check.Worst().m_szKey},
           {"warnings", std::move(warnings)}};
 }
 
@@ -136,7 +136,7 @@ void AppendCsvLine(std::string& line, const typename CHECK::CCase& input, const 
   cell(check.Pass());
   cell(worst.m_dUtilisation);
   line += ',';
-  AppendCsv(line, worst.m_name.In(language));
+  line += worst.m_szKey;
   line += ',';
   line += EditionFacts(edition).m_szYear;
   const auto keys = CHECK::ResultKeys();

@@ -26,4 +26,8 @@ using CTakeCase = std::function<void(const CReadCase&)>;
 void ReadCases(const std::string& path, const CCaseSchema& schema, CLanguage language,
                const CTakeCase& take);
 
+// Whether a path stands for columns that have no rows: a program's filter may leave none, where a
+// file without a case is a mistake.
+bool HasColumnsAlone(const std::string& path) noexcept;
+
 }  // namespace orv3::cli

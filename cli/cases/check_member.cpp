@@ -31,7 +31,8 @@ class CMembers {
         progress.Step(read.m_dDone);
       });
     }
-    if (m_nCases == 0) RefuseFile({"没有算例；请至少给一个", "holds no case; give one at least"});
+    if (m_nCases == 0 && !HasColumnsAlone(m_options.file))
+      RefuseFile({"没有算例；请至少给一个", "holds no case; give one at least"});
     if (!m_bOne) m_answers.Finish();
     WriteReport();
     if (m_bOne && m_nRefused > 0) RefuseFile(m_firstFault.Text());
@@ -94,15 +95,15 @@ class CMembers {
     if (m_nReported++ == kMostReports) RefuseFile(TooManyReports());
     if (m_member.m_sheet.m_strProject.empty()) m_member.m_sheet.m_strProject = m_options.project;
     for (const CMemberRun* run : m_arrRun)
-      m_arrReport.push_back(run->Report(m_nCases, m_options.reportLanguage));
+      m_arrReport.push_back(run->Report(m_nCases, m_options.language));
   }
 
   void WriteReport() const {
     if (m_options.report.empty()) return;
     static constexpr CTextLiteral kTitle = {"构件验算", "Members"};
-    const CReportTitle title = {std::string(kTitle.In(m_options.reportLanguage)) + " — Orv3Cal",
+    const CReportTitle title = {std::string(kTitle.In(m_options.language)) + " — Orv3Cal",
                                 ORV3CAL_VERSION};
-    WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.reportLanguage));
+    WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.language));
   }
 
   void Answer() {

@@ -18,7 +18,6 @@ struct CMemberOptions {
   std::string report;
   std::string project;
   CLanguage language = CLanguage::English;
-  CLanguage reportLanguage = CLanguage::Chinese;
   CStoreOptions store;
 };
 

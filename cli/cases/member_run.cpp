@@ -181,7 +181,7 @@ CJson CMemberRun::Json() const {
                 {"pass", Pass()},
                 {"ratio", JsonNumber(worst.Worst().m_dRatio)},
                 {"governs", MemberCheckName(worst.Worst().m_nKind)}};
-  if (bEnvelope) json["case"] = CaseName(m_envelope.WorstCase());
+  if (bEnvelope) json["combination"] = CaseName(m_envelope.WorstCase());
   json["results"] = ResultsJson(worst.m_results);
   json["given"] = StepsJson(worst, 0, worst.Given().size());
   json["checks"] = std::move(checks);

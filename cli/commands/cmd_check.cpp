@@ -22,7 +22,6 @@
 #include "framework/excerpt.h"
 #include "framework/language.h"
 #include "framework/utf8.h"
-#include "options/asked_language.h"
 #include "options/edition_option.h"
 #include "options/option_errors.h"
 #include "options/output_options.h"
@@ -47,7 +46,6 @@ struct CCheckOptions {
 
   // Of what is printed, and of the report.
   CLanguage Language() const noexcept { return MessageLanguage(); }
-  CLanguage ReportLanguage() const { return AskedLanguage().value_or(CLanguage::Chinese); }
 };
 
 // Both editions of one check.
@@ -83,7 +81,8 @@ class CChecker {
         progress.Step(read.m_dDone);
       });
     }
-    if (m_nCases == 0) Refuse({"没有算例；请至少给一个", "holds no case; give one at least"});
+    if (m_nCases == 0 && !HasColumnsAlone(m_options.file))
+      Refuse({"没有算例；请至少给一个", "holds no case; give one at least"});
     if (!m_bOne) m_answers.Finish();
     WriteReport();
     if (m_bOne && m_nRefused > 0) Refuse(m_firstFault);
@@ -219,17 +218,16 @@ class CChecker {
     CReportSheet sheet = SheetOf(m_schema, read.m_arrValue);
     if (sheet.m_strProject.empty()) sheet.m_strProject = m_options.project;
     for (const CCodeEdition edition : m_arrEdition) {
-      m_arrReport.push_back(With(edition, [&](auto& run) {
-        return run.Report(m_nCases, sheet, m_options.ReportLanguage());
-      }));
+      m_arrReport.push_back(
+          With(edition, [&](auto& run) { return run.Report(m_nCases, sheet, Language()); }));
     }
   }
 
   void WriteReport() const {
     if (m_options.report.empty()) return;
-    const std::string what = m_kind.m_title.In(m_options.ReportLanguage());
+    const std::string what = m_kind.m_title.In(Language());
     const CReportTitle title = {what + " — Orv3Cal", ORV3CAL_VERSION};
-    WriteFile(m_options.report, ReportDocument(title, m_arrReport, m_options.ReportLanguage()));
+    WriteFile(m_options.report, ReportDocument(title, m_arrReport, Language()));
   }
 
   const CConnectionKind<CHECK2003, CHECK2017>& m_kind;
@@ -254,8 +252,7 @@ class CChecker {
 
 CExit RunMembers(const CCheckOptions& options) {
   return CheckMembers({options.file, options.code, options.json, options.csv, options.sort,
-                       options.report, options.project, options.Language(),
-                       options.ReportLanguage(), options.store});
+                       options.report, options.project, options.Language(), options.store});
 }
 
 CExit RunCheck(const CCheckOptions& options) {
@@ -302,8 +299,8 @@ void AddCheckCommand(CLI::App& program) {
       command
           ->add_option(
               "--report", options->report,
-              Say("写入可按 A4 打印的计算书（不给 --lang 时为中文）",
-                  "Write a calculation report to print on A4, in Chinese unless --lang is given"))
+              Say("写入可按 A4 打印的计算书，语言同回答",
+                  "Write a calculation report to print on A4, in the language of the answer"))
           ->check(FileName)
           ->type_name("FILE.html");
   command

@@ -1,5 +1,7 @@
 #include "options/asked_language.h"
 
+#include <optional>
+
 #include "error.h"
 #include "framework/excerpt.h"
 #include "framework/utf8.h"
@@ -11,11 +13,6 @@ namespace {
 
 constexpr const char* kOption = "--lang";
 constexpr const char* kLanguageVariable = "ORV3CAL_LANG";
-
-std::optional<CLanguage>& Asked() {
-  static std::optional<CLanguage> asked;
-  return asked;
-}
 
 std::optional<CLanguage> LanguageOf(std::string_view name) {
   if (name == "zh") return CLanguage::Chinese;
@@ -55,10 +52,10 @@ std::optional<CLanguage> Wanted(const std::vector<std::string>& arguments) {
 }  // namespace
 
 void TakeLanguage(const std::vector<std::string>& arguments) {
-  Asked() = Wanted(arguments);
-  SetMessageLanguage(Asked().value_or(UserLanguage()));
+  const std::optional<CLanguage> wanted = Wanted(arguments);
+  SetMessageLanguage(wanted.value_or(UserLanguage()));
   const std::string variable = Variable();
-  if (!Asked() && !variable.empty()) {
+  if (!wanted && !variable.empty()) {
     Refuse(std::string(kLanguageVariable) + ": \"" + Excerpt(variable) +
            "\" is no language; right would be zh or en (不是语言，应为 zh 或 en)");
   }
@@ -67,8 +64,6 @@ void TakeLanguage(const std::vector<std::string>& arguments) {
 CLanguage LanguageFor(const std::vector<std::string>& arguments) {
   return Wanted(arguments).value_or(UserLanguage());
 }
-
-std::optional<CLanguage> AskedLanguage() { return Asked(); }
 
 void AddLanguageOption(CLI::App& command) {
   command

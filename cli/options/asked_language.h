@@ -3,7 +3,6 @@
 #pragma once
 
 #include <CLI/App.hpp>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,9 +17,6 @@ void TakeLanguage(const std::vector<std::string>& arguments);
 
 // The language that a command with these arguments answers in.
 CLanguage LanguageFor(const std::vector<std::string>& arguments);
-
-// What was asked for by option or variable; none when nothing was: reports are in Chinese then.
-std::optional<CLanguage> AskedLanguage();
 
 // Adds --lang to a command and to those below it.
 void AddLanguageOption(CLI::App& command);

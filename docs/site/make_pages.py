@@ -121,17 +121,47 @@ class Site:
             self.write(f"schema/{name}.md", page)
             shutil.copy(file, self.to / "schema" / file.name)
             entries.append(f"schema/{name}")
-        return tree("JSON schemas", entries)
+        return tree("JSON schemas", entries + self.answers())
+
+    def answers(self):
+        """A page for each answer, its objects one below the other."""
+        entries = []
+        for file in sorted((self.source / "docs/schema/answers").glob("*.schema.json")):
+            name = file.name.removesuffix(".schema.json")
+            schema = json.loads(file.read_text("utf-8"))
+            root = {word: rule for word, rule in schema.items() if word in ("$ref", "anyOf", "type", "items")}
+            page = title(f"Answer: {schema['title']}" if root else schema["title"]) + schema["description"] + "\n\n"
+            page += f"{self.kind(root)}\n\n" if root else ""
+            for each, rule in schema["$defs"].items():
+                page += f"(answer-{each.lower()})=\n" + title(each, 2) + rule["description"] + "\n\n"
+                lines = self.keys(rule, set(rule.get("required", []))) or [f"| `{value}` | | | |" for value in rule["enum"]]
+                page += "\n".join(["| Key | Type | Values | |", "|---|---|---|---|", *lines]) + "\n\n"
+            self.write(f"schema/answers/{name}.md", page + f"{{download}}`{file.name} <{file.name}>`\n")
+            shutil.copy(file, self.to / "schema/answers" / file.name)
+            entries.append(f"schema/answers/{name}")
+        return entries
+
+    def kind(self, rule):
+        """The type of a rule, an object as a link."""
+        if "$ref" in rule:
+            name = rule["$ref"].split("/")[-1]
+            return f"{{ref}}`{name} <answer-{name.lower()}>`"
+        if "anyOf" in rule:
+            return " or ".join(map(self.kind, rule["anyOf"]))
+        kind = rule.get("type", "")
+        if kind == "array" and len(rule["items"]) == 1:
+            return f"array of {self.kind(rule['items'])}"
+        return " or ".join(kind) if isinstance(kind, list) else kind
 
     def keys(self, schema, required, prefix=""):
         lines = []
         for key, rule in schema.get("properties", {}).items():
-            kind = rule.get("type", "")
-            kind = " or ".join(kind) if isinstance(kind, list) else kind
+            kind = self.kind(rule)
             bounds = [f"{sign} {rule[word]}" for word, sign in
                       [("minimum", "≥"), ("exclusiveMinimum", ">"), ("maximum", "≤"), ("exclusiveMaximum", "<")]
                       if word in rule]
-            values = ", ".join([*dict.fromkeys(str(each) for each in rule.get("enum", [])), *bounds])
+            listed = rule.get("enum", [rule["const"]] if "const" in rule else [])
+            values = ", ".join([*dict.fromkeys(str(each) for each in listed), *bounds])
             told = rule.get("description", "").replace("|", "\\|").replace("\n", " ")
             must = " (required)" if key in required else ""
             lines.append(f"| `{prefix}{key}`{must} | {kind} | {values} | {told} |")

@@ -8,12 +8,12 @@ the shapes are in :mod:`orv3cal.shapes`. Units: mm, kN, kN·mm; strengths and st
 without them your own store serves, else the catalogue that comes with the module.
 
 Calls from several threads are safe and run one after another; other threads of Python go on
-meanwhile.
+meanwhile. A process that forks waits for the call that runs, and its child may call as well.
 """
 
 from __future__ import annotations
 
-from typing import Any, Iterable, Mapping, Optional, Sequence, Union, overload
+from typing import Any, Iterable, Literal, Mapping, Optional, Sequence, Union, overload
 
 from . import _command, shapes
 from ._command import Error, Number, set_language
@@ -43,6 +43,7 @@ __all__ = [
 _command.find_catalogue()
 
 Case = Mapping[str, Any]
+Edition = Optional[Literal["2017", "2003", 2017, 2003]]
 Texts = Union[str, Iterable[str]]
 
 
@@ -148,7 +149,7 @@ def show(
 
 def outline(
     loops: Union[Case, Sequence[Any]], unit: str = "mm", *, stress: Optional[Sequence[Number]] = None
-) -> dict[str, Any]:
+) -> shapes.Outline:
     """The exact properties of any outline: area, inertia, torsion, warping, shear, plastic.
 
     loops: closed lists of points (x, y) or (x, y, bulge), the bulge being the tangent of a quarter of
@@ -172,7 +173,7 @@ def lattice(
 
 def gauge(
     table: str, no: str, *, store: Optional[str] = None, data: Optional[str] = None
-) -> dict[str, Any]:
+) -> shapes.Gauge:
     """Where bolts may stand on a rolled I, channel or angle, and the largest holes, mm."""
     options = ["--json", *_command.stores(store, data)]
     return _command.answer(_command.line(["gauge"], options, [table, no]))
@@ -201,24 +202,43 @@ def code(
 
 @overload
 def check(
-    kind: str,
-    case: Union[Case, str],
-    *,
-    edition: Union[str, int, None] = None,
-    store: Optional[str] = None,
-    data: Optional[str] = None,
-) -> dict[str, Any]: ...
+    kind: Literal["bolt"], case: Case, *, edition: Edition = None, store: Optional[str] = None, data: Optional[str] = None
+) -> shapes.BoltCheck: ...
+
+
+@overload
+def check(
+    kind: Literal["fillet"], case: Case, *, edition: Edition = None, store: Optional[str] = None, data: Optional[str] = None
+) -> shapes.FilletCheck: ...
+
+
+@overload
+def check(
+    kind: Literal["butt"], case: Case, *, edition: Edition = None, store: Optional[str] = None, data: Optional[str] = None
+) -> shapes.ButtCheck: ...
+
+
+@overload
+def check(
+    kind: Literal["weld-group"], case: Case, *, edition: Edition = None, store: Optional[str] = None, data: Optional[str] = None
+) -> shapes.WeldGroupCheck: ...
+
+
+@overload
+def check(
+    kind: Literal["member"], case: Case, *, edition: Edition = None, store: Optional[str] = None, data: Optional[str] = None
+) -> shapes.MemberCheck: ...
 
 
 @overload
 def check(
     kind: str,
-    case: Sequence[Case],
+    case: Any,
     *,
     edition: Union[str, int, None] = None,
     store: Optional[str] = None,
     data: Optional[str] = None,
-) -> list[dict[str, Any]]: ...
+) -> Any: ...
 
 
 def check(
@@ -233,7 +253,9 @@ def check(
 
     kind: "bolt", "fillet", "butt", "weld-group" or "member"; case: the keys of a case file
     (docs/case-keys.md) in mm, kN, kN·mm. edition: 2017, 2003 or "both" for cases that name none.
-    A case that fails is an answer; a case that cannot be checked raises :class:`Error`.
+    A case that fails is an answer; a case that cannot be checked raises :class:`Error`. One case by
+    one edition is answered by :class:`shapes.BoltCheck` and the like, by both by
+    :class:`shapes.BoltBoth`, a list by a list of these.
     """
     options = ["--json", *_command.option("--code", edition), *_command.stores(store, data)]
     return _command.answer(_command.line(["check"], options, [kind, "-"]), case)

@@ -5,6 +5,7 @@ from __future__ import annotations
 import json
 import math
 import numbers
+import os
 import re
 import warnings
 from pathlib import Path
@@ -14,6 +15,11 @@ from . import _orv3cal
 
 Number = Union[float, str]
 _language: Optional[str] = None
+
+if hasattr(os, "register_at_fork"):  # what a thread has begun would never end in the child
+    os.register_at_fork(
+        before=_orv3cal.hold, after_in_parent=_orv3cal.release, after_in_child=_orv3cal.release
+    )
 
 
 class Error(ValueError):

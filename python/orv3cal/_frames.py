@@ -84,7 +84,7 @@ def check_many(
     "lengths.x"; None and NaN leave a key out, a list of numbers may stand in a cell. The answer has
     the columns of the command's ``--csv``, in the same digits: a frame with the index of ``frame``,
     or a dict of arrays for a mapping. Numbers are float64, "pass" is bool, the other verdicts are
-    True, False or missing. A row that is refused does not pass and says why in "refused". With
+    True, False or missing. A frame without rows is answered by one. A row that is refused does not pass and says why in "refused". With
     edition="both" each row has two answers, 2017 first.
 
     Raises :class:`Error` for a key that is unknown and for trouble with a file. The interpreter lock

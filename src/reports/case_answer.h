@@ -16,7 +16,7 @@ namespace orv3 {
 // One part of a verdict.
 struct CCasePart {
   CTextLiteral m_name;
-  const char* m_szKey;    // the result key of the verdict
+  const char* m_szKey;    // names it in answers for programs: "bearing"
   double m_dUtilisation;  // effect over resistance
   bool m_bPass;
   bool m_bDetail = false;  // a rule of detailing, which governs only where it is not kept

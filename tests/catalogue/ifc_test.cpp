@@ -130,6 +130,14 @@ TEST_F(IfcProfiles, AreNamedApart) {
   EXPECT_TRUE(Has(text, ",'I10 (\\X2\\70ED8F67666E901A5DE55B5794A2\\X0\\)',"));
   EXPECT_TRUE(Has(text, ",'I20a',"));
   EXPECT_TRUE(Has(text, "'\\X2\\94A2\\X0\\''\\\\\\X4\\00020BB7\\X0\\x\\X2\\000A\\X0\\'"));
+  CDataItem alike = odd;  // a number that is the other's name with its table
+  alike[0].m_strValue = L"I10 (热轧普通工字钢)";
+  std::vector<std::string> names = Entities(
+      Library({Stored(L"热轧轻型工字钢", L"I10"), alike, Stored(L"热轧普通工字钢", L"I10")}),
+      "IFCMATERIALPROFILESET");
+  std::ranges::sort(names);
+  for (std::string& each : names) each.resize(each.find(','));
+  EXPECT_EQ(std::ranges::unique(names).size(), 0U) << names[0] << "\n" << names[1];
   EXPECT_TRUE(
       std::ranges::all_of(text, [](char ch) { return ch == '\n' || (ch >= ' ' && ch <= '~'); }));
 }

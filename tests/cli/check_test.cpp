@@ -207,7 +207,7 @@ TEST(CheckCommand, AnswersManyCasesOfACsv) {
     std::getline(lines, line);
     EXPECT_EQ(line.substr(0, start.size()), start);
   }
-  ExpectHas(line, {",normal stress σ,2017,"});
+  ExpectHas(line, {",sigma,2017,"});
   EXPECT_FALSE(std::getline(lines, line));
 
   const Json answers = JsonOf("check bolt \"" + kSource + "/examples/bolts.csv\"");

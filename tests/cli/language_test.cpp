@@ -102,6 +102,9 @@ TEST(Language, IsTheVariablesUnlessTheCommandSays) {
     SetVariable("LC_ALL", locale);
     EXPECT_EQ(HasChinese(RunProgram("rows").m_strError), chinese);
     EXPECT_FALSE(HasChinese(RunProgram("rows --lang en").m_strError));
+    const COwnFile report("report.html");
+    RunProgram("check bolt \"" ORV3CAL_SOURCE "/examples/bolt.json\" --report " + report.m_strPath);
+    EXPECT_EQ(report.Bytes().find("<html lang=\"zh") != std::string::npos, chinese);
     // Of a language that is none, too; as long as it may be.
     for (const std::string& none : {std::string("fr"), std::string(100000, 'x')}) {
       const CRunResult refused = RunProgram("rows T --lang " + none);

@@ -49,6 +49,10 @@ TEST(Member, RefusedByName) {
       {R"({"section": {"style": "h", "sizes": [300, 400, 20, 10], "lacing": {"type": "lacing"}},)"
        R"( "steel": "Q235", "N": 1, "lengths": {"x": 1, "y": 1}})",
        "section.lacing: is for lattice columns"},
+      {R"({"section": {"style": "tube", "sizes": [200, 10]}, "steel": "Q235", "N": 1,)"
+       R"( "lengths": {"x": 1, "y": 1}})",
+       "section.sizes: the thickness 190 is not possible with Q235; give a thickness above 0 and "
+       "up"},
   };
   for (const CBad& each : bad) {
     const CRunResult run = Check(each.text);

@@ -8,8 +8,10 @@ import io
 import json
 import math
 import os
+import signal
 import subprocess
 import tempfile
+import threading
 import unittest
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
@@ -125,7 +127,9 @@ class Answers(unittest.TestCase):
     def test_come_in_the_language_that_is_asked_for(self):
         try:
             orv3cal.set_language("zh")
-            self.assertIn("螺栓", orv3cal.check("bolt", BOLT)["governs"])
+            answer = orv3cal.check("bolt", {**BOLT, "ey": 25})
+            self.assertEqual(answer["governs"], "spacing")  # a key, in any language
+            self.assertIn("小于", answer["warnings"][0]["text"])
             with self.assertRaisesRegex(orv3cal.Error, "应为"):
                 orv3cal.section("nothing")
             with self.assertRaisesRegex(orv3cal.Error, "d：第 2 行.*不是数"):
@@ -150,6 +154,32 @@ class Answers(unittest.TestCase):
 
         with ThreadPoolExecutor(8) as pool:
             list(pool.map(ask, wanted))
+
+
+    @unittest.skipUnless(hasattr(os, "fork"), "no fork")
+    def test_are_had_by_a_child_that_was_forked_beside_a_check(self):
+        frame = {key: [value] * 5000 for key, value in BOLT.items()}
+        done = threading.Event()
+
+        def check():
+            while not done.is_set():
+                orv3cal.check_many("bolt", frame)
+
+        checking = threading.Thread(target=check)
+        checking.start()
+        try:
+            for _ in range(10):
+                child = os.fork()
+                if child == 0:
+                    signal.alarm(60)  # ends one that hangs
+                    try:
+                        os._exit(0 if orv3cal.section("rect", 3, 4)["properties"]["A"] == 12 else 1)
+                    finally:
+                        os._exit(2)
+                self.assertEqual(os.waitpid(child, 0)[1], 0)
+        finally:
+            done.set()
+            checking.join()
 
 
 class Frames(unittest.TestCase):
@@ -235,6 +265,15 @@ class Frames(unittest.TestCase):
         self.assertIsInstance(arrays["utilisation"], numpy.ndarray)
         self.assertEqual(arrays["utilisation"][0], orv3cal.check("bolt", BOLT)["utilisation"])
 
+    def test_answer_no_rows_by_none(self):
+        member = {**BEAM, "section.style": "h", "section.sizes": "300;400;20;10", "lengths.x": 6000.0, "lengths.y": 6000.0}
+        for kind, case in [("bolt", BOLT), ("member", {key: each for key, each in member.items() if key != "lengths"})]:
+            frame = pandas.DataFrame([case])
+            for edition in (None, "both"):
+                some, none = (orv3cal.check_many(kind, each, edition=edition) for each in (frame, frame[frame["steel"] == ""]))
+                self.assertEqual((len(none), list(none.dtypes.items())), (0, list(some.dtypes.items())))
+        self.assertEqual(len(orv3cal.check_many("bolt", {"d": []})["pass"]), 0)
+
     def test_take_true_and_false_as_no_numbers(self):
         for truth, dtype in [(True, bool), (True, object), (numpy.True_, object)]:
             frame = pandas.DataFrame({key: [value] for key, value in BOLT.items()})
@@ -246,7 +285,7 @@ class Frames(unittest.TestCase):
     def test_refuse_what_is_no_frame_of_cases(self):
         for columns, words in [
             ({}, "no case"),
-            ({"d": []}, "no case"),
+            ({"nothing": []}, "nothing"),
             ({"nothing": [1.0]}, "nothing"),
             ({"d": [1.0], "t": [1.0, 2.0]}, "t: 2 values"),
             ({"d": numpy.ones((1, 1))}, "dimensions"),

@@ -42,24 +42,31 @@ class CIdentifier {
 
 CString NoOf(const CDataItem& row) { return row.IsEmpty() ? CString() : row[0].m_strValue; }
 
-// What a profile is called: numbers that several tables use have the table behind them.
+// What a profile is called: numbers that several tables use have the table behind them, and so has
+// a number that reads like one of those.
 class CProfileNames {
  public:
   explicit CProfileNames(std::span<const CDataItem> rows) {
     for (const CDataItem& row : rows) {
-      const auto [known, first] = m_mapTable.try_emplace(ToKey(row), row.GetTableName());
+      const auto [known, first] = m_mapTable.try_emplace(ToKey(NoOf(row)), row.GetTableName());
       if (!first && known->second != row.GetTableName()) known->second = CString();
+    }
+    for (const CDataItem& row : rows) {
+      const auto alike = m_mapTable.find(ToKey(WithTable(row)));
+      if (alike != m_mapTable.end()) alike->second = CString();
     }
   }
   std::string Of(const CDataItem& row) const {
-    const CString no = NoOf(row);
-    if (!m_mapTable.at(ToKey(row)).IsEmpty()) return StepText(no);
-    return StepText(no + L" (" + row.GetTableName() + L")");
+    const bool bAlone = !m_mapTable.at(ToKey(NoOf(row))).IsEmpty();
+    return StepText(bAlone ? NoOf(row) : WithTable(row));
   }
 
  private:
-  static std::wstring ToKey(const CDataItem& row) { return std::wstring(NoOf(row).View()); }
-  std::map<std::wstring, CString> m_mapTable;  // empty for a number of several tables
+  static std::wstring ToKey(const CString& name) { return std::wstring(name.View()); }
+  static CString WithTable(const CDataItem& row) {
+    return NoOf(row) + L" (" + row.GetTableName() + L")";
+  }
+  std::map<std::wstring, CString> m_mapTable;  // empty for a number that is not told alone
 };
 
 void AddProject(CStepFile& file, const std::string& name, const std::string& identifier) {

@@ -17,9 +17,10 @@ struct CIfcLibrary {
 };
 
 // Each row as a profile that has the row's "No." for its name, with "(table)" behind it where rows
-// of several tables share the number. Each profile has its figures (Pset_ProfileMechanical) and
-// stands, with steel, in a material profile set of the same name whose description is the table's.
-// `name` is the project's. Lengths in mm; the file's time is always 1970-01-01.
+// of several tables share the number or it reads like such a name. Each profile has its figures
+// (Pset_ProfileMechanical) and stands, with steel, in a material profile set of the same name whose
+// description is the table's. `name` is the project's. Lengths in mm; the file's time is always
+// 1970-01-01.
 ORV3CAL_API CIfcLibrary IfcLibrary(std::span<const CDataItem> rows, const CString& name);
 
 }  // namespace orv3

@@ -176,11 +176,11 @@ void CBoltCheck::ReadResults(const CBoltCase& input) {
 
 void CBoltCheck::JudgeParts() {
   const CBoltFigures& j = m_figures;
-  Judge({"螺栓受力相关公式", "bolt interaction"}, "passForces", j.m_dRatio);
+  Judge({"螺栓受力相关公式", "bolt interaction"}, "interaction", j.m_dRatio);
   if (m_record.m_nBoltType != kFrictionBolt)
-    Judge({"孔壁承压", "bearing"}, "passForces", j.m_dNv / j.m_dBearing);
-  Judge({"板件截面（Vx）", "section for Vx"}, "passX", j.m_x.Worst() / m_results.m_dF);
-  Judge({"板件截面（Vy）", "section for Vy"}, "passY", j.m_y.Worst() / m_results.m_dF);
+    Judge({"孔壁承压", "bearing"}, "bearing", j.m_dNv / j.m_dBearing);
+  Judge({"板件截面（Vx）", "section for Vx"}, "section-x", j.m_x.Worst() / m_results.m_dF);
+  Judge({"板件截面（Vy）", "section for Vy"}, "section-y", j.m_y.Worst() / m_results.m_dF);
 }
 
 }  // namespace orv3

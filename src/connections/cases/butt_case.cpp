@@ -115,10 +115,10 @@ bool CButtCheck::Run(const CButtCase& input) {
                okTau == 1,           okReduced == 1};
   const CButtResults& r = m_results;
   const CWeldFigures j = m_figures = JudgedFigures(input, r);
-  Judge({"正应力 σ", "normal stress σ"}, "okSigma", j.Across() / j.AcrossLimit());
+  Judge({"正应力 σ", "normal stress σ"}, "sigma", j.Across() / j.AcrossLimit());
   if (j.m_bShear) {
-    Judge({"剪应力 τ", "shear stress τ"}, "okTau", j.m_dTau / j.m_dTauLimit);
-    Judge({"折算应力", "reduced stress"}, "okReduced", j.m_dCombined / j.m_dCombinedLimit,
+    Judge({"剪应力 τ", "shear stress τ"}, "tau", j.m_dTau / j.m_dTauLimit);
+    Judge({"折算应力", "reduced stress"}, "reduced", j.m_dCombined / j.m_dCombinedLimit,
           j.m_dCombined < j.m_dCombinedLimit);
   }
   Warn(ButtWarnings(r, j));

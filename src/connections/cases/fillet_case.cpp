@@ -206,14 +206,14 @@ bool CFilletCheck::Run(const CFilletCase& input) {
                okSigma == 1,         okTau == 1,         okCombined == 1};
   const CFilletResults& r = m_results;
   const CWeldFigures j = m_figures = JudgedFigures(input, r);
-  Judge({"正应力 σf", "stress across, σf"}, "okSigma", j.Across() / j.AcrossLimit());
+  Judge({"正应力 σf", "stress across, σf"}, "sigma", j.Across() / j.AcrossLimit());
   if (j.m_bShear) {
-    Judge({"剪应力 τf", "stress along, τf"}, "okTau", j.m_dTau / j.m_dTauLimit);
-    Judge({"综合应力", "combined stress"}, "okCombined", j.m_dCombined / j.m_dCombinedLimit);
+    Judge({"剪应力 τf", "stress along, τf"}, "tau", j.m_dTau / j.m_dTauLimit);
+    Judge({"综合应力", "combined stress"}, "combined", j.m_dCombined / j.m_dCombinedLimit);
   }
   m_arrDetail = LeastLength(input);
   for (const CDetail& detail : m_arrDetail)
-    JudgeDetail(detail.m_name, detail.m_szKey, detail.Utilisation());
+    JudgeDetail(detail.m_name, "size", detail.Utilisation());
   std::vector<CCaseWarning> warnings;
   NoteOfDetails(m_arrDetail, warnings);
   StressWarnings(input, r, j, warnings);

@@ -258,9 +258,9 @@ void CBoltCheck2017::Compute(const CBoltCase2017& input) {
 // 7.1.1: the net section against 0.7 fu, the gross one against f.
 void CBoltCheck2017::JudgeParts(const CBoltCase2017& input) {
   CBoltResults2017& r = m_results;
-  Judge({"螺栓受力相关公式", "bolt interaction"}, "passForces", m_figures.m_dRatio);
+  Judge({"螺栓受力相关公式", "bolt interaction"}, "interaction", m_figures.m_dRatio);
   if (input.m_nType != kFrictionBolt)
-    Judge({"孔壁承压", "bearing"}, "passForces", m_figures.m_dNv / m_figures.m_dBearing);
+    Judge({"孔壁承压", "bearing"}, "bearing", m_figures.m_dNv / m_figures.m_dBearing);
   r.m_bForces = Pass();
   const auto judge = [&](const CTextLiteral& name, const char* key, const CPlateSection& section,
                          double& sigma) {
@@ -270,8 +270,8 @@ void CBoltCheck2017::JudgeParts(const CBoltCase2017& input) {
     Judge(name, key, std::max(net, gross));
     return Parts().back().m_bPass;
   };
-  r.m_bX = judge({"板件截面（Vx）", "section for Vx"}, "passX", m_figures.m_x, r.m_dSigmaX);
-  r.m_bY = judge({"板件截面（Vy）", "section for Vy"}, "passY", m_figures.m_y, r.m_dSigmaY);
+  r.m_bX = judge({"板件截面（Vx）", "section for Vx"}, "section-x", m_figures.m_x, r.m_dSigmaX);
+  r.m_bY = judge({"板件截面（Vy）", "section for Vy"}, "section-y", m_figures.m_y, r.m_dSigmaY);
   // A torque pushes bolts along both axes.
   const bool bTorque = !IsZero(input.m_dT);
   const bool bRolled = input.m_nEdges == 1 && input.m_nType == kOrdinaryBolt;
@@ -288,7 +288,7 @@ void CBoltCheck2017::JudgeParts(const CBoltCase2017& input) {
                         *limits, bRolled, m_arrDetail);
   r.m_bSpacing = true;
   for (const CDetail& detail : m_arrDetail) {
-    JudgeDetail(detail.m_name, "passSpacing", detail.Utilisation());
+    JudgeDetail(detail.m_name, "spacing", detail.Utilisation());
     r.m_bSpacing = r.m_bSpacing && Parts().back().m_bPass;
   }
 }

@@ -64,11 +64,11 @@ bool CButtCheck2017::Run(const CButtCase2017& input) {
     return Parts().back().m_bPass;
   };
   r.m_bTau = r.m_bReduced = true;
-  r.m_bSigma = judge({"正应力 σ", "normal stress σ"}, "okSigma", j.Across(), j.AcrossLimit());
+  r.m_bSigma = judge({"正应力 σ", "normal stress σ"}, "sigma", j.Across(), j.AcrossLimit());
   if (j.m_bShear) {
-    r.m_bTau = judge({"剪应力 τ", "shear stress τ"}, "okTau", j.m_dTau, j.m_dTauLimit);
+    r.m_bTau = judge({"剪应力 τ", "shear stress τ"}, "tau", j.m_dTau, j.m_dTauLimit);
     r.m_bReduced =
-        judge({"折算应力", "reduced stress"}, "okReduced", j.m_dCombined, j.m_dCombinedLimit);
+        judge({"折算应力", "reduced stress"}, "reduced", j.m_dCombined, j.m_dCombinedLimit);
   }
   std::vector<CCaseWarning> notes;
   gb2017::NoteOf(ButtWeldStrengths(gb2017::kEdition, SteelOf(input), input.m_dThick), "steel",

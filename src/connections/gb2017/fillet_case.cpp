@@ -153,15 +153,15 @@ void CFilletCheck2017::JudgeParts() {
     return Parts().back().m_bPass;
   };
   r.m_bTau = r.m_bCombined = true;
-  r.m_bSigma = judge({"正应力 σf", "stress across, σf"}, "okSigma", j.Across(), j.AcrossLimit());
+  r.m_bSigma = judge({"正应力 σf", "stress across, σf"}, "sigma", j.Across(), j.AcrossLimit());
   if (j.m_bShear) {
-    r.m_bTau = judge({"剪应力 τf", "stress along, τf"}, "okTau", j.m_dTau, j.m_dTauLimit);
+    r.m_bTau = judge({"剪应力 τf", "stress along, τf"}, "tau", j.m_dTau, j.m_dTauLimit);
     r.m_bCombined =
-        judge({"综合应力", "combined stress"}, "okCombined", j.m_dCombined, j.m_dCombinedLimit);
+        judge({"综合应力", "combined stress"}, "combined", j.m_dCombined, j.m_dCombinedLimit);
   }
   r.m_bSize = true;
   for (const CDetail& detail : m_arrDetail) {
-    JudgeDetail(detail.m_name, "okSize", detail.Utilisation());
+    JudgeDetail(detail.m_name, "size", detail.Utilisation());
     r.m_bSize = r.m_bSize && Parts().back().m_bPass;
   }
 }

@@ -271,12 +271,12 @@ bool CWeldGroupCheck::Run(const CWeldGroupCase& input) {
   r.m_dAcross = m_worst.m_dAcross;
   r.m_dOut = m_worst.m_dOut;
   r.m_dCombined = m_worst.m_dCombined;
-  Judge({"综合应力", "combined stress"}, "okCombined", r.m_dCombined / (r.m_dAlphaF * r.m_dFfw));
+  Judge({"综合应力", "combined stress"}, "combined", r.m_dCombined / (r.m_dAlphaF * r.m_dFfw));
   r.m_bCombined = Pass();
   FindDetails();
   r.m_bSize = true;
   for (const CDetail& detail : m_arrDetail) {
-    JudgeDetail(detail.m_name, "okSize", detail.Utilisation());
+    JudgeDetail(detail.m_name, "size", detail.Utilisation());
     r.m_bSize = r.m_bSize && Parts().back().m_bPass;
   }
   Warn(Notes(input));

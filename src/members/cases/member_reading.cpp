@@ -1,6 +1,7 @@
 // What a case says of its steel, its forces and its lengths, refused by name where it cannot be.
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include "codes/edition.h"
 #include "codes/steel_strength.h"
@@ -22,6 +23,23 @@ bool CMemberCheck::ReadEdition(const CMemberCase& input) {
   return true;
 }
 
+namespace {
+
+// A thickness that the steel has no strength of is the section's fault.
+CCaseFault StrengthFault(const CMemberCase& input, const CCodeRefusal& refusal) {
+  if (refusal.m_szArgument != std::string_view("t"))
+    return {"steel", refusal.m_what, refusal.m_right};
+  const char* key = !input.m_strLattice.empty() ? "section.lattice"
+                    : !input.m_strStyle.empty() ? "section.sizes"
+                                                : "section";
+  return {key,
+          {"厚度 " + refusal.m_what.m_strChinese + "（" + input.m_strSteel + "）",
+           "the thickness " + refusal.m_what.m_strEnglish + " with " + input.m_strSteel},
+          refusal.m_right};
+}
+
+}  // namespace
+
 bool CMemberCheck::ReadSteel(const CMemberCase& input, const CMemberRow& section) {
   if (input.m_strSteel.empty()) {
     return Refuse("steel", {"缺失", "is missing"},
@@ -29,13 +47,17 @@ bool CMemberCheck::ReadSteel(const CMemberCase& input, const CMemberRow& section
   }
   const auto grade = GradeByName(m_nEdition, input.m_strSteel);
   if (!grade) return Refuse("steel", grade.Refusal().m_what, grade.Refusal().m_right);
+  const auto refuse = [&](const CCodeRefusal& refusal) {
+    m_fault = StrengthFault(input, refusal);
+    return false;
+  };
   const CSteelProduct product = section.m_bTube ? CSteelProduct::Tube : CSteelProduct::Plate;
   const auto thick = SteelStrengths(m_nEdition, *grade, section.m_dThickest, product);
-  if (!thick) return Refuse("steel", thick.Refusal().m_what, thick.Refusal().m_right);
+  if (!thick) return refuse(thick.Refusal());
   const auto web = SteelStrengths(m_nEdition, *grade, section.m_dWebThick, product);
-  if (!web) return Refuse("steel", web.Refusal().m_what, web.Refusal().m_right);
+  if (!web) return refuse(web.Refusal());
   const auto flange = SteelStrengths(m_nEdition, *grade, section.m_dFlangeThick, product);
-  if (!flange) return Refuse("steel", flange.Refusal().m_what, flange.Refusal().m_right);
+  if (!flange) return refuse(flange.Refusal());
   m_steel.m_nEdition = m_nEdition;
   m_steel.m_nGrade = *grade;
   m_steel.m_dF = thick->m_dF;
