@@ -235,6 +235,21 @@ class Frames(unittest.TestCase):
         self.assertIsInstance(arrays["utilisation"], numpy.ndarray)
         self.assertEqual(arrays["utilisation"][0], orv3cal.check("bolt", BOLT)["utilisation"])
 
+    def test_take_what_is_masked_as_missing(self):
+        weld = {"case": 4, "steel": "Q235", "lw": 200.0, "N": 50.0, "M": 0.0, "V": 30.0, "betaF": 1.22, "he": 5.6}
+        ma = numpy.ma
+        for key, column in [
+            ("N", ma.array([50.0, 0.0], mask=[0, 1])),  # a weld that would pass with the 0
+            ("N", ma.array([50, 0], mask=[0, 1])),
+            ("N", [50.0, ma.masked]),
+            ("N", ma.array([50, 0], mask=[0, 1], dtype=object)),
+            ("steel", ma.array(["Q235", "Q355"], mask=[0, 1])),
+        ]:
+            with self.subTest(column=column):
+                answer = orv3cal.check_many("fillet", {**{k: [v, v] for k, v in weld.items()}, key: column})
+                self.assertEqual(list(answer["pass"]), [True, False])
+                self.assertIn(f"{key}: is missing", answer["refused"][1])
+
     def test_take_true_and_false_as_no_numbers(self):
         for truth, dtype in [(True, bool), (True, object), (numpy.True_, object)]:
             frame = pandas.DataFrame({key: [value] for key, value in BOLT.items()})
