@@ -5,6 +5,7 @@ from __future__ import annotations
 import json
 import math
 import numbers
+import os
 import re
 import warnings
 from pathlib import Path
@@ -68,16 +69,34 @@ def option(name: str, value: Any) -> list[str]:
     return [name] if value is True else [f"{name}={text_of(value)}"]
 
 
-def stores(store: Optional[str], data: Optional[str]) -> list[str]:
-    return option("--store", store) + option("--data", data)
+def stores(store: Any, data: Any) -> list[str]:
+    return option("--store", _path("store", store)) + option("--data", _path("data", data))
+
+
+def _path(name: str, value: Any) -> Optional[str]:
+    path = value.__fspath__() if isinstance(value, os.PathLike) else value
+    if path is None or isinstance(path, str):
+        return path
+    raise Error(
+        say("{0}={1!r} 不是路径；应为 str 或 pathlib.Path", "{0}={1!r} is no path; right would be a str or pathlib.Path", name, value)
+    )
 
 
 def line(command: Sequence[str], options: Iterable[str], places: Iterable[Any]) -> list[str]:
     """A command line. What stands at a place is never taken for an option."""
     language = option("--lang", _language)
     words = [*command, *options, *language, "--", *(text_of(place) for place in places)]
-    if any(_has_half_a_pair(word) for word in words):
-        raise Error(say("有一个参数不是 UTF-8 文字", "an argument is not UTF-8 text"))
+    for word in words:
+        if _has_half_a_pair(word):
+            raise Error(say("有一个参数不是 UTF-8 文字", "an argument is not UTF-8 text"))
+        if "\0" in word:  # a name of a file would end there, and be that of another
+            raise Error(
+                say(
+                    "{0!r} 中有 NUL 字符；应为不含它的文字",
+                    "{0!r} has a NUL character in it; right would be a text without one",
+                    word.removeprefix("--"),
+                )
+            )
     return words
 
 

@@ -108,6 +108,23 @@ class Answers(unittest.TestCase):
         with self.assertRaisesRegex(orv3cal.Error, "--where"):
             orv3cal.rows(I_BEAMS, where="")
 
+    def test_open_no_other_file_than_the_named(self):
+        with tempfile.TemporaryDirectory() as folder:
+            store = Path(folder) / "x.KDB"
+            store.write_bytes((Path(os.environ["ORV3CAL_DATA"]) / "KvbSystemJmDataBase.KDB").read_bytes())
+            self.assertTrue(orv3cal.rows(I_BEAMS, store=store)["rows"])
+            for call in [
+                lambda: orv3cal.rows(I_BEAMS, store=f"{store}\0y"),
+                lambda: orv3cal.tables(data="\0"),
+                lambda: orv3cal.rows(I_BEAMS, "No.==I20a\0"),
+                lambda: orv3cal.check_many("bolt", {"d": [20.0]}, store="x\0"),
+            ]:
+                with self.assertRaisesRegex(orv3cal.Error, r"\\x00.*NUL"):
+                    call()
+            for store in [os.fsencode(store), True, 5]:
+                with self.assertRaisesRegex(orv3cal.Error, "^store=.* is no path"):
+                    orv3cal.rows(I_BEAMS, store=store)
+
     def test_refuse_what_is_no_case(self):
         for case in [{}, {**BOLT, "d": None}, {**BOLT, "x": 1}, [], "{", "\ud800", {"d": "\ud800"}, 5]:
             with self.subTest(case=ascii(case)), self.assertRaises(orv3cal.Error):
