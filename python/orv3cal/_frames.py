@@ -24,7 +24,7 @@ def _array(key: str, values: Any) -> Any:
     """A column as the extension takes it: float64, or objects."""
     import numpy
 
-    if isinstance(values, (list, tuple)):
+    if isinstance(values, Sequence) and not isinstance(values, (str, bytes)):
         return _cells(values)
     array = values if isinstance(values, numpy.ma.MaskedArray) else numpy.asarray(values)
     if array.ndim != 1:
@@ -53,7 +53,7 @@ def _array(key: str, values: Any) -> Any:
 
 
 def _columns(frame: Any) -> dict[str, Any]:
-    if not hasattr(frame, "keys"):
+    if not hasattr(frame, "keys") or getattr(frame, "ndim", 2) != 2:  # a series has keys too
         raise Error(
             say(
                 "{0} 没有列；应为数据框，或由键到各算例之值的映射",

@@ -125,6 +125,23 @@ class Answers(unittest.TestCase):
                 with self.assertRaisesRegex(orv3cal.Error, "^store=.* is no path"):
                     orv3cal.rows(I_BEAMS, store=store)
 
+    def test_refuse_what_is_of_another_kind(self):
+        for call, words in [
+            (lambda: orv3cal.rows(I_BEAMS, columns=5), "^columns: 5 is no list"),
+            (lambda: orv3cal.rows_frame(I_BEAMS, columns=numpy.array("h")), "^columns: .* is no list"),
+            (lambda: orv3cal.rows(I_BEAMS, columns=[]), "^columns: is an empty list"),
+            (lambda: orv3cal.choose(BEAM, 3.5), "^tables: 3.5 is no list"),
+            (lambda: orv3cal.choose(BEAM, styles="h"), "^styles: 'h' is no list"),
+            (lambda: orv3cal.choose(BEAM, styles=None), "--table"),  # as when it is left out
+            (lambda: orv3cal.outline(None), "^loops: None is no list"),
+            (lambda: orv3cal.outline([[[0, 0], [9, 0], [9, 9]]], stress=1), "^stress: 1 is no list"),
+            (lambda: orv3cal.code(5), "5.* is no question"),
+            (lambda: orv3cal.set_language(numpy.array(["zh", "en"])), "is no language"),
+            (lambda: orv3cal.check_many("bolt", pandas.Series(BOLT)), "Series has no columns"),
+        ]:
+            with self.subTest(words=words), self.assertRaisesRegex(orv3cal.Error, words):
+                call()
+
     def test_refuse_what_is_no_case(self):
         for case in [{}, {**BOLT, "d": None}, {**BOLT, "x": 1}, [], "{", "\ud800", {"d": "\ud800"}, 5]:
             with self.subTest(case=ascii(case)), self.assertRaises(orv3cal.Error):
