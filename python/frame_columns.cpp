@@ -36,10 +36,12 @@ bool IsList(const py::handle& cell) {
 
 // None, NaN and the other marks of a value that is missing: those are not equal to themselves.
 // pandas.NA alone does not tell whether it is; a frame in a cell does not either, and is no mark.
+// What is masked in an array of numpy is an array itself.
 bool IsMissing(const py::handle& cell) {
   if (cell.is_none()) return true;
+  const std::string_view type = Py_TYPE(cell.ptr())->tp_name;
+  if (type == "NAType" || type == "MaskedConstant") return true;
   if (IsText(cell) || IsList(cell)) return false;
-  if (std::string_view(Py_TYPE(cell.ptr())->tp_name) == "NAType") return true;
   const auto same =
       py::reinterpret_steal<py::object>(PyObject_RichCompare(cell.ptr(), cell.ptr(), Py_EQ));
   const int truth = same ? PyObject_IsTrue(same.ptr()) : -1;

@@ -47,10 +47,6 @@ Edition = Optional[Literal["2017", "2003", 2017, 2003]]
 Texts = Union[str, Iterable[str]]
 
 
-def _joined(texts: Texts) -> str:
-    return texts if isinstance(texts, str) else ",".join(map(_command.text_of, texts))
-
-
 def styles() -> list[shapes.Style]:
     """The fifteen styles of user-defined sections: number, alias, table, and sizes in order, mm."""
     return _command.answer(_command.line(["styles"], ["--json"], []))
@@ -121,7 +117,7 @@ def _rows_options(
     return [
         *_command.option("--where", where),
         *_command.option("--sort", sort),
-        *_command.option("--columns", None if columns is None else _joined(columns)),
+        *_command.option("--columns", None if columns is None else _command.joined("columns", columns)),
         *_command.option("--wildcard", wildcard),
         *_command.option("--exact", exact),
     ]
@@ -156,10 +152,14 @@ def outline(
     the angle of the arc that starts there; a loop within another is a hole. Or the whole
     ``{"unit", "loops"}``. stress: N, Mx, My, T and perhaps Vx, Vy in kN and kN·mm.
     """
-    case = loops if isinstance(loops, Mapping) else {"unit": unit, "loops": list(loops)}
+    case = loops
+    if not isinstance(loops, Mapping):
+        points = ("闭合的点列 (x, y) 或 (x, y, bulge)", "closed lists of points (x, y) or (x, y, bulge)")
+        case = {"unit": unit, "loops": _command.listed("loops", loops, points)}
     options = ["--json"]
     if stress is not None:
-        options.append("--stress=" + ",".join(_command.text_of(each) for each in stress))
+        forces = _command.listed("stress", stress, ("N、Mx、My、T 等数", "the numbers N, Mx, My, T"))
+        options.append("--stress=" + ",".join(map(_command.text_of, forces)))
     return _command.answer(_command.line(["outline"], options, ["-"]), case)
 
 
@@ -188,7 +188,7 @@ def code(
     and what they take are those of ``orv3cal code --help``. edition: 2017, in force, unless it is
     given, or 2003, withdrawn.
     """
-    if question.startswith("-"):
+    if not isinstance(question, str) or question.startswith("-"):
         raise Error(
             _command.say(
                 "“{0}”不是可查的数值；应为 orv3cal code --help 所列之一",
@@ -264,7 +264,7 @@ def check(
 def choose(
     case: Union[Case, Sequence[Case]],
     tables: Optional[Texts] = None,
-    styles: Union[Case, Sequence[Case]] = (),
+    styles: Union[Case, Sequence[Case], None] = None,
     *,
     top: Optional[int] = None,
     edition: Union[str, int, None] = None,
@@ -279,11 +279,13 @@ def choose(
     """
     options = [
         "--json",
-        *_command.option("--table", None if tables is None else _joined(tables)),
+        *_command.option("--table", None if tables is None else _command.joined("tables", tables)),
         *_command.option("--top", top),
         *_command.option("--code", edition),
         *_command.stores(store, data),
     ]
-    for style in [styles] if isinstance(styles, Mapping) else styles:
-        options += ["--style", _command.json_of(style)]
+    if styles is not None:
+        ranges = ("尺寸的范围，每种类型一个字典", "ranges of sizes, a dict for each style")
+        for style in [styles] if isinstance(styles, Mapping) else _command.listed("styles", styles, ranges):
+            options += ["--style", _command.json_of(style)]
     return _command.answer(_command.line(["choose"], options, ["-"]), case)

@@ -14,6 +14,7 @@ from typing import Any, Iterable, Mapping, Optional, Sequence, Union
 from . import _orv3cal
 
 Number = Union[float, str]
+CText = tuple[str, str]  # in Chinese and in English
 _language: Optional[str] = None
 
 if hasattr(os, "register_at_fork"):  # what a thread has begun would never end in the child
@@ -36,7 +37,7 @@ class Error(ValueError):
 def set_language(language: Optional[str]) -> None:
     """Answers in "zh" or "en" from now on; None leaves it to ORV3CAL_LANG and the locale."""
     global _language
-    if language not in (None, "zh", "en"):
+    if language is not None and not (isinstance(language, str) and language in ("zh", "en")):
         raise Error(
             say("{0!r} 不是语言；应为 zh、en 或 None", '{0!r} is no language; right would be "zh", "en" or None', language)
         )
@@ -74,16 +75,56 @@ def option(name: str, value: Any) -> list[str]:
     return [name] if value is True else [f"{name}={text_of(value)}"]
 
 
-def stores(store: Optional[str], data: Optional[str]) -> list[str]:
-    return option("--store", store) + option("--data", data)
+def stores(store: Any, data: Any) -> list[str]:
+    return option("--store", _path("store", store)) + option("--data", _path("data", data))
+
+
+def _path(name: str, value: Any) -> Optional[str]:
+    path = value.__fspath__() if isinstance(value, os.PathLike) else value
+    if path is None or isinstance(path, str):
+        return path
+    raise Error(
+        say("{0}={1!r} 不是路径；应为 str 或 pathlib.Path", "{0}={1!r} is no path; right would be a str or pathlib.Path", name, value)
+    )
+
+
+def listed(name: str, values: Any, right: CText) -> list[Any]:
+    """The values of what has them one after another; a text or a mapping is no list of values."""
+    try:
+        if not isinstance(values, (str, bytes, Mapping)):
+            return list(values)
+    except TypeError:
+        pass
+    raise Error(
+        say("{0}：{1!r} 不是列表；应为{2}", "{0}: {1!r} is no list; right would be {2}", name, values, say(*right))
+    )
+
+
+def joined(name: str, texts: Any) -> str:
+    """Texts as the command takes several of them."""
+    if isinstance(texts, str):
+        return texts
+    each = listed(name, texts, ("文字的列表", "a list of texts"))
+    if not each:
+        raise Error(say("{0}：列表是空的；应至少有一项，或为 None", "{0}: is an empty list; right would be one text at least, or None", name))
+    return ",".join(map(text_of, each))
 
 
 def line(command: Sequence[str], options: Iterable[str], places: Iterable[Any]) -> list[str]:
     """A command line. What stands at a place is never taken for an option."""
     language = option("--lang", _language)
     words = [*command, *options, *language, "--", *(text_of(place) for place in places)]
-    if any(_has_half_a_pair(word) for word in words):
-        raise Error(say("有一个参数不是 UTF-8 文字", "an argument is not UTF-8 text"))
+    for word in words:
+        if _has_half_a_pair(word):
+            raise Error(say("有一个参数不是 UTF-8 文字", "an argument is not UTF-8 text"))
+        if "\0" in word:  # a name of a file would end there, and be that of another
+            raise Error(
+                say(
+                    "{0!r} 中有 NUL 字符；应为不含它的文字",
+                    "{0!r} has a NUL character in it; right would be a text without one",
+                    word.removeprefix("--"),
+                )
+            )
     return words
 
 

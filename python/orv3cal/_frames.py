@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from typing import Any, Optional, Union
+from typing import Any, Optional, Sequence, Union
 
 from . import _command, _orv3cal
 from ._command import Error, say
@@ -10,16 +10,23 @@ from ._command import Error, say
 _REFUSED = 2
 
 
+def _cells(values: Sequence[Any]) -> Any:
+    """A column of objects, to be looked at one by one: a cell may hold a list of any length."""
+    import numpy
+
+    array = numpy.empty(len(values), dtype=object)
+    for i, value in enumerate(values):
+        array[i] = value
+    return array
+
+
 def _array(key: str, values: Any) -> Any:
     """A column as the extension takes it: float64, or objects."""
     import numpy
 
-    if isinstance(values, (list, tuple)) and any(isinstance(v, (list, tuple)) for v in values):
-        array = numpy.empty(len(values), dtype=object)  # one list a case, of any length
-        for i, value in enumerate(values):
-            array[i] = value
-    else:
-        array = numpy.asarray(values)
+    if isinstance(values, Sequence) and not isinstance(values, (str, bytes)):
+        return _cells(values)
+    array = values if isinstance(values, numpy.ma.MaskedArray) else numpy.asarray(values)
     if array.ndim != 1:
         raise Error(
             say(
@@ -38,13 +45,15 @@ def _array(key: str, values: Any) -> Any:
                 array.dtype,
             )
         )
+    if numpy.ma.is_masked(array):  # what lies under the mask is no value
+        return _cells(list(array))
     if array.dtype.kind == "f" or (array.dtype.kind in "iu" and key != "id"):
         return numpy.ascontiguousarray(array, dtype=numpy.float64)
     return numpy.ascontiguousarray(array, dtype=object)
 
 
 def _columns(frame: Any) -> dict[str, Any]:
-    if not hasattr(frame, "keys"):
+    if not hasattr(frame, "keys") or getattr(frame, "ndim", 2) != 2:  # a series has keys too
         raise Error(
             say(
                 "{0} 没有列；应为数据框，或由键到各算例之值的映射",
@@ -81,7 +90,7 @@ def check_many(
     """Checks every row of a pandas frame, or of a mapping of keys to arrays, without a Python loop.
 
     The columns are the keys of a case file (docs/case-keys.md) in mm, kN, kN·mm, an inner key as
-    "lengths.x"; None and NaN leave a key out, a list of numbers may stand in a cell. The answer has
+    "lengths.x"; None, NaN and what is masked leave a key out, a list of numbers may stand in a cell. The answer has
     the columns of the command's ``--csv``, in the same digits: a frame with the index of ``frame``,
     or a dict of arrays for a mapping. Numbers are float64, "pass" is bool, the other verdicts are
     True, False or missing. A frame without rows is answered by one. A row that is refused does not pass and says why in "refused". With

@@ -110,6 +110,40 @@ class Answers(unittest.TestCase):
         with self.assertRaisesRegex(orv3cal.Error, "--where"):
             orv3cal.rows(I_BEAMS, where="")
 
+    def test_open_no_other_file_than_the_named(self):
+        with tempfile.TemporaryDirectory() as folder:
+            store = Path(folder) / "x.KDB"
+            store.write_bytes((Path(os.environ["ORV3CAL_DATA"]) / "KvbSystemJmDataBase.KDB").read_bytes())
+            self.assertTrue(orv3cal.rows(I_BEAMS, store=store)["rows"])
+            for call in [
+                lambda: orv3cal.rows(I_BEAMS, store=f"{store}\0y"),
+                lambda: orv3cal.tables(data="\0"),
+                lambda: orv3cal.rows(I_BEAMS, "No.==I20a\0"),
+                lambda: orv3cal.check_many("bolt", {"d": [20.0]}, store="x\0"),
+            ]:
+                with self.assertRaisesRegex(orv3cal.Error, r"\\x00.*NUL"):
+                    call()
+            for store in [os.fsencode(store), True, 5]:
+                with self.assertRaisesRegex(orv3cal.Error, "^store=.* is no path"):
+                    orv3cal.rows(I_BEAMS, store=store)
+
+    def test_refuse_what_is_of_another_kind(self):
+        for call, words in [
+            (lambda: orv3cal.rows(I_BEAMS, columns=5), "^columns: 5 is no list"),
+            (lambda: orv3cal.rows_frame(I_BEAMS, columns=numpy.array("h")), "^columns: .* is no list"),
+            (lambda: orv3cal.rows(I_BEAMS, columns=[]), "^columns: is an empty list"),
+            (lambda: orv3cal.choose(BEAM, 3.5), "^tables: 3.5 is no list"),
+            (lambda: orv3cal.choose(BEAM, styles="h"), "^styles: 'h' is no list"),
+            (lambda: orv3cal.choose(BEAM, styles=None), "--table"),  # as when it is left out
+            (lambda: orv3cal.outline(None), "^loops: None is no list"),
+            (lambda: orv3cal.outline([[[0, 0], [9, 0], [9, 9]]], stress=1), "^stress: 1 is no list"),
+            (lambda: orv3cal.code(5), "5.* is no question"),
+            (lambda: orv3cal.set_language(numpy.array(["zh", "en"])), "is no language"),
+            (lambda: orv3cal.check_many("bolt", pandas.Series(BOLT)), "Series has no columns"),
+        ]:
+            with self.subTest(words=words), self.assertRaisesRegex(orv3cal.Error, words):
+                call()
+
     def test_refuse_what_is_no_case(self):
         for case in [{}, {**BOLT, "d": None}, {**BOLT, "x": 1}, [], "{", "\ud800", {"d": "\ud800"}, 5]:
             with self.subTest(case=ascii(case)), self.assertRaises(orv3cal.Error):
@@ -273,6 +307,21 @@ class Frames(unittest.TestCase):
                 some, none = (orv3cal.check_many(kind, each, edition=edition) for each in (frame, frame[frame["steel"] == ""]))
                 self.assertEqual((len(none), list(none.dtypes.items())), (0, list(some.dtypes.items())))
         self.assertEqual(len(orv3cal.check_many("bolt", {"d": []})["pass"]), 0)
+
+    def test_take_what_is_masked_as_missing(self):
+        weld = {"case": 4, "steel": "Q235", "lw": 200.0, "N": 50.0, "M": 0.0, "V": 30.0, "betaF": 1.22, "he": 5.6}
+        ma = numpy.ma
+        for key, column in [
+            ("N", ma.array([50.0, 0.0], mask=[0, 1])),  # a weld that would pass with the 0
+            ("N", ma.array([50, 0], mask=[0, 1])),
+            ("N", [50.0, ma.masked]),
+            ("N", ma.array([50, 0], mask=[0, 1], dtype=object)),
+            ("steel", ma.array(["Q235", "Q355"], mask=[0, 1])),
+        ]:
+            with self.subTest(column=column):
+                answer = orv3cal.check_many("fillet", {**{k: [v, v] for k, v in weld.items()}, key: column})
+                self.assertEqual(list(answer["pass"]), [True, False])
+                self.assertIn(f"{key}: is missing", answer["refused"][1])
 
     def test_take_true_and_false_as_no_numbers(self):
         for truth, dtype in [(True, bool), (True, object), (numpy.True_, object)]:
