@@ -155,7 +155,7 @@ const by = (code: string): HTMLElement => el("p", { class: "note" },
 
 const writer = (kind: Kind, name: string, numeric: boolean): Column["written"] => {
   if (name === "pass") return (text) => (text === "true" ? `✓ ${say("满足", "passes")}` : text === "false" ? `✗ ${say("不满足", "fails")}` : say("拒绝", "refused"));
-  if (name === "governs") return checkName;
+  if (name === "governs") return (text) => checkName(text, kind);
   if (isRatio(kind, name)) return (text) => (text === "" ? "" : percent(Number(text)));
   return numeric ? (text) => (text === "" ? "" : shown(Number(text))) : undefined;
 };

@@ -39,11 +39,19 @@ const kChecks: Record<string, [zh: string, en: string]> = {
   "lacing-leg": ["缀条肢宽厚比", "leg of a bar"], "batten-stiffness": ["缀板线刚度", "stiffness of battens"],
 };
 
+// The parts of a connection, as the command's table calls them.
+const kParts: Record<string, [zh: string, en: string]> = {
+  interaction: ["螺栓受力相关公式", "bolt interaction"], bearing: ["孔壁承压", "bearing"], "section-x": ["板件截面（Vx）", "section for Vx"],
+  "section-y": ["板件截面（Vy）", "section for Vy"], spacing: ["间距", "spacing"], size: ["焊脚尺寸", "weld size"],
+  sigma: ["正应力", "normal stress"], tau: ["剪应力", "shear stress"], combined: ["综合应力", "combined stress"], reduced: ["折算应力", "reduced stress"],
+};
+
 // Whether a figure of a case in a list is a ratio to a limit; of members those of all checks stand in it.
 export const isRatio = (kind: Kind, name: string): boolean => ["ratio", "utilisation"].includes(name) || (kind === "member" && name in kChecks);
-export const checkName = (name: string): string => (kChecks[name] ? say(...kChecks[name]) : name);
-
-const checkTitle = (name: string, names: ResultNames) => names.get(name)?.[0] || checkName(name);
+export function checkName(name: string, kind: Kind): string {
+  const words = (kind === "member" ? kChecks : kParts)[name];
+  return words ? say(...words) : name;
+}
 
 function bar(name: string, ratio: number | null | undefined, pass: boolean, note = ""): HTMLElement {
   const width = Math.min(Math.max(ratio ?? 1, 0), 1.25) / 1.25;
@@ -70,15 +78,15 @@ export const summary = (answer: CheckJson) => `${answer.code}: ${wordOf(answer)}
 
 // `place` parts what is folded in it from what is folded elsewhere.
 function one(answer: CheckJson, names: ResultNames, place = answer.code): HTMLElement {
-  const checkName = (name: string) => checkTitle(name, names);
+  const title = (name: string) => (answer.checks && names.get(name)?.[0]) || checkName(name, answer.checks ? "member" : "bolt");
   const [word, worst] = [wordOf(answer), worstOf(answer)];
   const steps = (answer.checks ?? []).filter((check) => check.steps?.length).map((check) =>
-    fold(`${place} ${check.name}`, `${checkName(check.name)} · ${check.clause}`, [el("ol", {}, ...check.steps!.map((step) => el("li", {}, step)))], false, "steps"));
+    fold(`${place} ${check.name}`, `${title(check.name)} · ${check.clause}`, [el("ol", {}, ...check.steps!.map((step) => el("li", {}, step)))], false, "steps"));
   return el("section", { class: "verdict" },
-    el("p", { class: answer.pass ? "box pass" : "box fail" }, el("b", {}, word), " · ", figure(worst, percent), ` · ${checkName(answer.governs)}`,
+    el("p", { class: answer.pass ? "box pass" : "box fail" }, el("b", {}, word), " · ", figure(worst, percent), ` · ${title(answer.governs)}`,
       el("small", {}, ` GB 50017-${answer.code}`)),
-    ...(answer.checks ?? []).map((check) => bar(checkName(check.name), check.ratio, check.pass, check.clause.replace(/^GB 50017-\d+ /, ""))),
-    !answer.checks && bar(answer.governs, worst, answer.pass),
+    ...(answer.checks ?? []).map((check) => bar(title(check.name), check.ratio, check.pass, check.clause.replace(/^GB 50017-\d+ /, ""))),
+    !answer.checks && bar(title(answer.governs), worst, answer.pass),
     ...(answer.warnings ?? []).map((warning) => el("p", { class: "warn" }, typeof warning === "string" ? warning : `${warning.key}: ${warning.text}`)),
     answer.given && fold(`${place} given`, say("已知", "Given"), [el("ol", {}, ...answer.given.map((each) => el("li", {}, each)))], false, "steps"),
     oneStop(el("div", {}, ...steps), "summary"),

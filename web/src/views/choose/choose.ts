@@ -111,7 +111,7 @@ function table(answer: ChooseJson, value: Case, code: string, whole: Answer): HT
     const open = button(say("验算", "Check"), () => go({ view: "members", ...(code === "2017" ? {} : { code }),
       case: JSON.stringify({ ...value, section: row.style ? { style: row.style, sizes: row.sizes } : { table: row.table, no: row.no } }) }));
     body.append(el("tr", {}, el("td", {}, row.table), el("th", { scope: "row" }, row.no), el("td", { class: "num" }, figure(row.mass)),
-      el("td", { class: "num" }, figure(row.ratio, percent)), el("td", {}, checkName(row.governs)),
+      el("td", { class: "num" }, figure(row.ratio, percent)), el("td", {}, checkName(row.governs, "member")),
       el("td", { class: "name" }, notesOf(row).filter((note) => !common.includes(note)).join("; ")), el("td", {}, open)));
   }
   const refused = (answer.refusals ?? []).map((each) => el("p", { class: "warn" }, say(`${each.table}：${each.rows} 个截面未能验算，如 ${each.no}：`, `${each.table}: ${each.rows} sections refused, such as ${each.no}: `), each.reason));
