@@ -184,8 +184,8 @@ def _plain(value: Any, place: str) -> Any:
         return [_plain(each, f"{place}[{i}]") for i, each in enumerate(value)]
     if value is None or isinstance(value, (bool, str, int)):
         return value
-    if isinstance(value, float) and math.isfinite(value):
-        return value
+    if isinstance(value, float) and math.isfinite(value):  # whole ones as a frame's are, for names
+        return int(value) if value.is_integer() and abs(value) < 2**63 else value
     raise Error(
         say(
             "{0}：{1!r} 不是 JSON 的值；应为有限的数、文字、列表或字典",

@@ -329,6 +329,22 @@ class Frames(unittest.TestCase):
                 many = orv3cal.check_many("member", {**columns, "section.sizes": [given]})
                 self.assertEqual((one["ratio"], many["ratio"][0]), (ratio, ratio))
 
+    def test_name_a_case_as_check_does(self):
+        for name, told in [
+            (20260001.0, "20260001"),
+            (1e15, "1000000000000000"),
+            (20260001000000000.0, "20260001000000000"),
+            (1.5, "1.5"),
+            (-0.0, "0"),
+            (10**30, "1" + "0" * 30),
+            (Decimal("7"), "7"),
+        ]:
+            with self.subTest(name=name):
+                self.assertEqual(orv3cal.check("bolt", {**BOLT, "id": name})["id"], told)
+                for ids in [[name], pandas.Series([name]), pandas.Series([name, None])]:
+                    columns = {**{key: [value] * len(ids) for key, value in BOLT.items()}, "id": ids}
+                    self.assertEqual(orv3cal.check_many("bolt", columns)["id"][0], told)
+
     def test_take_true_and_false_as_no_numbers(self):
         for truth, dtype in [(True, bool), (True, object), (numpy.True_, object)]:
             frame = pandas.DataFrame({key: [value] for key, value in BOLT.items()})
