@@ -96,7 +96,8 @@ PYBIND11_MODULE(_orv3cal, module) {
   module.attr("__version__") = ORV3CAL_VERSION;
   module.def("run", &orv3::python::Run, py::arg("arguments"), py::arg("input") = "",
              "Runs a command line; answers (exit status, standard output, standard error).");
-  module.def("run_cases", &orv3::python::RunCases, py::arg("arguments"), py::arg("columns"), py::arg("plain"),
+  module.def("run_cases", &orv3::python::RunCases, py::arg("arguments"), py::arg("columns"),
+             py::arg("plain"),
              "Runs a check whose file of cases is '-'; answers (exit status, columns, standard "
              "error). `plain` makes a cell of another kind one of Python's own.");
   module.def("say", &orv3::python::SayFor, py::arg("arguments"), py::arg("chinese"),
