@@ -1,7 +1,9 @@
 #include "frame_columns.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "framework/excerpt.h"
 #include "framework/language.h"
@@ -13,35 +15,42 @@ namespace py = pybind11;
 using cli::CCaseCell;
 using cli::CCaseColumn;
 
-// Rows count from 1, as the answer's column "case" does.
-std::string Place(const std::string& key, std::size_t row) {
-  return Say("{1}：第 {2} 行", "{1}: row {2}", {key, std::to_string(row + 1)});
-}
-
-bool IsText(const py::handle& cell) { return PyUnicode_Check(cell.ptr()) != 0; }
-
 // The UTF-8 of a str; one with half a surrogate pair has none.
-std::string Utf8(const py::handle& text, const std::string& place) {
+std::optional<std::string> Utf8(const py::handle& text) {
   Py_ssize_t size = 0;
   if (const char* bytes = PyUnicode_AsUTF8AndSize(text.ptr(), &size))
-    return {bytes, static_cast<std::size_t>(size)};
+    return std::string(bytes, static_cast<std::size_t>(size));
   PyErr_Clear();
-  throw py::value_error(Say("{1}：不是 UTF-8 文字", "{1}: is not UTF-8 text", {place}));
+  return std::nullopt;
 }
 
+// Python's own kinds of cells.
+bool IsText(const py::handle& cell) { return PyUnicode_Check(cell.ptr()) != 0; }
+bool IsNumber(const py::handle& cell) {
+  return PyFloat_Check(cell.ptr()) != 0 || PyLong_Check(cell.ptr()) != 0;
+}
 bool IsList(const py::handle& cell) {
-  return py::isinstance<py::list>(cell) || py::isinstance<py::tuple>(cell) ||
-         py::isinstance<py::array>(cell);
+  return PyList_Check(cell.ptr()) != 0 || PyTuple_Check(cell.ptr()) != 0;
+}
+
+// A cell as one of these, by the package's own function, if it can be one.
+py::object Plain(const py::handle& cell, const py::function& plain) {
+  auto own = py::reinterpret_borrow<py::object>(cell);
+  if (cell.is_none() || IsText(cell) || IsNumber(cell) || IsList(cell)) return own;
+  try {
+    return plain(cell);
+  } catch (const py::error_already_set& fault) {
+    if (!fault.matches(PyExc_Exception)) throw;
+    return own;
+  }
 }
 
 // None, NaN and the other marks of a value that is missing: those are not equal to themselves.
 // pandas.NA alone does not tell whether it is; a frame in a cell does not either, and is no mark.
-// What is masked in an array of numpy is an array itself.
 bool IsMissing(const py::handle& cell) {
   if (cell.is_none()) return true;
-  const std::string_view type = Py_TYPE(cell.ptr())->tp_name;
-  if (type == "NAType" || type == "MaskedConstant") return true;
   if (IsText(cell) || IsList(cell)) return false;
+  if (std::string_view(Py_TYPE(cell.ptr())->tp_name) == "NAType") return true;
   const auto same =
       py::reinterpret_steal<py::object>(PyObject_RichCompare(cell.ptr(), cell.ptr(), Py_EQ));
   const int truth = same ? PyObject_IsTrue(same.ptr()) : -1;
@@ -49,50 +58,67 @@ bool IsMissing(const py::handle& cell) {
   return truth == 0;
 }
 
-// The digits of a whole number; empty for others.
-std::string Digits(const py::handle& cell) {
-  if (PyIndex_Check(cell.ptr()) == 0) return {};
-  const auto whole = py::reinterpret_steal<py::object>(PyNumber_Index(cell.ptr()));
+// As an error quotes a value: as Python writes it, else the name of its type.
+std::string Quoted(const py::handle& value) {
+  const auto written = py::reinterpret_steal<py::object>(PyObject_Repr(value.ptr()));
   PyErr_Clear();
-  return whole ? py::str(whole).cast<std::string>() : std::string();
+  std::optional<std::string> text = written ? Utf8(written) : std::nullopt;
+  return Excerpt(text ? *text : Py_TYPE(value.ptr())->tp_name);
 }
 
-double Number(const py::handle& value, const std::string& place) {
+cli::CCellFault NotPossible(const py::handle& value) {
+  const std::string is = Quoted(value);
+  return {{is + " 不可用", is + " is not possible"}};
+}
+
+cli::CCellFault NotInList(const py::handle& value) {
+  const std::string is = Quoted(value);
+  return {{"数列中不能有 " + is, is + " is not possible in a list"}};
+}
+
+// None of a whole number beyond all doubles, and of what is no number: True and False are none.
+std::optional<double> Number(const py::handle& value) {
+  if (PyBool_Check(value.ptr()) != 0 || !IsNumber(value)) return std::nullopt;
   const double number = PyFloat_AsDouble(value.ptr());
-  if (number == -1 && PyErr_Occurred() != nullptr) {
-    PyErr_Clear();
-    throw py::type_error(Say("{1}：{2} 不是数、文字或数的列表",
-                             "{1}: {2} is no number, text or list of numbers",
-                             {place, Excerpt(py::repr(value).cast<std::string>())}));
-  }
-  return number;
+  if (PyErr_Occurred() == nullptr) return number;
+  PyErr_Clear();
+  return std::nullopt;
 }
 
-// True and False of Python and of numpy: no numbers, though both convert to 1 and 0.
-bool IsTruth(const py::handle& cell) {
-  const std::string_view type = Py_TYPE(cell.ptr())->tp_name;
-  return PyBool_Check(cell.ptr()) != 0 || type == "numpy.bool_" || type == "numpy.bool";
-}
-
-CCaseCell Cell(const py::handle& value, const std::string& key, std::size_t row) {
-  if (IsMissing(value)) return {};
-  if (IsTruth(value)) return std::string(PyObject_IsTrue(value.ptr()) == 1 ? "true" : "false");
-  if (IsText(value)) return Utf8(value, Place(key, row));
-  if (key == "id") {  // a name: a double does not hold a long one
-    if (std::string digits = Digits(value); !digits.empty()) return digits;
-  }
-  if (!IsList(value)) return Number(value, Place(key, row));
+CCaseCell List(const py::handle& values, const py::function& plain) {
   std::vector<double> list;
-  for (const py::handle each : py::reinterpret_borrow<py::iterable>(value)) {
-    if (IsTruth(each))
-      throw py::type_error(Say("{1}：true 和 false 不是数", "{1}: true and false are no numbers",
-                               {Place(key, row)}));
-    list.push_back(Number(each, Place(key, row)));
+  for (const py::handle each : py::reinterpret_borrow<py::iterable>(values)) {
+    const py::object value = Plain(each, plain);
+    const std::optional<double> number = Number(value);
+    if (!number) return NotInList(value);
+    list.push_back(*number);
   }
   return list;
 }
 
-CCaseColumn Column(const std::string& key, const py::array& values) {
+// All digits of a whole number: a double does not hold a long one.
+CCaseCell Digits(const py::handle& number) {
+  const auto digits = py::reinterpret_steal<py::object>(PyNumber_ToBase(number.ptr(), 10));
+  PyErr_Clear();
+  if (!digits) return NotPossible(number);
+  return *Utf8(digits);
+}
+
+CCaseCell Cell(const py::handle& given, bool name, const py::function& plain) {
+  const py::object value = Plain(given, plain);
+  if (IsMissing(value)) return {};
+  if (PyBool_Check(value.ptr()) != 0) return value.ptr() == Py_True;
+  if (IsList(value)) return List(value, plain);
+  if (IsText(value)) {
+    if (std::optional<std::string> text = Utf8(value)) return *std::move(text);
+    return cli::CCellFault{{"不是 UTF-8 文字", "is not UTF-8 text"}};
+  }
+  if (name && PyLong_Check(value.ptr()) != 0) return Digits(value);
+  if (const std::optional<double> number = Number(value)) return *number;
+  return NotPossible(value);
+}
+
+CCaseColumn Column(const std::string& key, const py::array& values, const py::function& plain) {
   CCaseColumn column;
   column.m_strKey = key;
   const auto count = static_cast<std::size_t>(values.size());
@@ -103,16 +129,20 @@ CCaseColumn Column(const std::string& key, const py::array& values) {
   const auto* cells = static_cast<PyObject* const*>(values.data());
   column.m_arrCell.reserve(count);
   for (std::size_t row = 0; row < count; ++row)
-    column.m_arrCell.push_back(Cell(cells[row], key, row));
+    column.m_arrCell.push_back(Cell(cells[row], key == "id", plain));
   return column;
 }
 
 }  // namespace
 
-cli::CCaseColumns FrameColumns(const py::dict& columns) {
+cli::CCaseColumns FrameColumns(const py::dict& columns, const py::function& plain) {
   cli::CCaseColumns cases;
   for (const auto& [name, values] : columns) {
-    const std::string key = Utf8(name, Say("列名", "name of a column"));
+    const std::optional<std::string> text = Utf8(name);
+    if (!text)
+      throw py::value_error(
+          Say("有一个列名不是 UTF-8 文字", "the name of a column is not UTF-8 text"));
+    const std::string& key = *text;
     const auto array = values.cast<py::array>();
     const auto count = static_cast<std::size_t>(array.size());
     if (!cases.m_arrColumn.empty() && count != cases.m_nCases)
@@ -120,7 +150,7 @@ cli::CCaseColumns FrameColumns(const py::dict& columns) {
                                 "{1}: {2} values; the columns before it have {3}",
                                 {key, std::to_string(count), std::to_string(cases.m_nCases)}));
     cases.m_nCases = count;
-    cases.m_arrColumn.push_back(Column(key, array));
+    cases.m_arrColumn.push_back(Column(key, array, plain));
   }
   return cases;
 }

@@ -9,8 +9,9 @@
 namespace orv3::python {
 
 // `columns` maps each key to an array: float64, whose numbers are used where they are, or of
-// objects (None, NaN and other missing values, numbers, texts, lists of numbers), which are copied.
-// All are of one length, and live longer than the answer. TypeError and ValueError name the key.
-cli::CCaseColumns FrameColumns(const pybind11::dict& columns);
+// objects, which are copied: missing values, numbers, texts, lists of numbers, and what `plain`
+// makes one of these; any other is a fault of its row. All are of one length, and live longer than
+// the answer. ValueError names the key of one that is not.
+cli::CCaseColumns FrameColumns(const pybind11::dict& columns, const pybind11::function& plain);
 
 }  // namespace orv3::python

@@ -68,9 +68,10 @@ std::string SayFor(const cli::CArguments& arguments, const char* chinese, const 
   return Say(chinese, english);
 }
 
-py::tuple RunCases(const cli::CArguments& arguments, const py::dict& frame) {
+py::tuple RunCases(const cli::CArguments& arguments, const py::dict& frame,
+                   const py::function& plain) {
   SpeakFor(arguments);
-  const cli::CCaseColumns cases = FrameColumns(frame);
+  const cli::CCaseColumns cases = FrameColumns(frame, plain);
   cli::CMemoryStreams streams;
   streams.m_pCases = &cases;
   int status = 0;
@@ -96,8 +97,9 @@ PYBIND11_MODULE(_orv3cal, module) {
   module.def("run", &orv3::python::Run, py::arg("arguments"), py::arg("input") = "",
              "Runs a command line; answers (exit status, standard output, standard error).");
   module.def("run_cases", &orv3::python::RunCases, py::arg("arguments"), py::arg("columns"),
+             py::arg("plain"),
              "Runs a check whose file of cases is '-'; answers (exit status, columns, standard "
-             "error).");
+             "error). `plain` makes a cell of another kind one of Python's own.");
   module.def("say", &orv3::python::SayFor, py::arg("arguments"), py::arg("chinese"),
              py::arg("english"),
              "The half of a text that a command with these arguments would answer with.");

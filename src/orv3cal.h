@@ -1,6 +1,10 @@
 // The public interface of Orv3Cal in one header.
 #pragma once
 
+#if !defined(__cplusplus) || __cplusplus < 202002L
+#error "orv3cal.h is C++20: compile with -std=c++20; a C program includes orv3cal_c.h"
+#else
+
 #include "catalogue/code_tables/grids.h"
 #include "catalogue/code_tables/stepped_column_equation.h"
 #include "catalogue/code_tables/table_search.h"
@@ -106,3 +110,5 @@
 #include "tables/file/info.h"
 #include "tables/file/store_check.h"
 #include "tables/file/table_store.h"
+
+#endif

@@ -50,7 +50,7 @@ CKeyValue CellValue(std::string_view cell, const CCaseSchema::CRule& rule,
 
 CKeyValue CellValue(double cell, const CCaseSchema::CRule& rule, std::string& text) {
   if (!rule.m_bText) return cell;
-  constexpr double kWhole = 1e15;  // whole numbers below it have all their digits
+  constexpr double kWhole = 0x1p63;  // whole numbers below it are written with all their digits
   char digits[32];
   const bool whole = std::fabs(cell) < kWhole && cell == std::floor(cell);
   const char* end =

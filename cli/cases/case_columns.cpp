@@ -34,21 +34,47 @@ std::vector<CKeyColumn> KeyColumns(const CCaseColumns& cases, const CCaseSchema&
   return columns;
 }
 
-std::optional<CKeyValue> ValueAt(CKeyColumn& column, std::size_t row,
-                                 const CCaseSchema::CRule& rule) {
-  const auto number = [&](double value) -> std::optional<CKeyValue> {
+// The value of a cell, none where the key is left out; where the key takes none such, the fault.
+class CCellReader {
+ public:
+  CCellReader(CKeyColumn& column, const CCaseSchema::CRule& rule, CReadCase& read)
+      : m_column(column), m_rule(rule), m_read(read) {}
+
+  std::optional<CKeyValue> At(std::size_t row) {
+    const CCaseColumn& column = *m_column.m_pColumn;
+    if (!column.m_arrNumber.empty()) return (*this)(column.m_arrNumber[row]);
+    return std::visit(*this, column.m_arrCell[row]);
+  }
+
+  std::optional<CKeyValue> operator()(std::monostate) { return std::nullopt; }
+  std::optional<CKeyValue> operator()(bool value) {
+    if (m_rule.m_bBoolean) return value ? 1.0 : 0.0;
+    return Fault(value ? CText{"true 不可用", "true is not possible"}
+                       : CText{"false 不可用", "false is not possible"});
+  }
+  std::optional<CKeyValue> operator()(double value) {
     if (std::isnan(value)) return std::nullopt;
-    return CellValue(value, rule, column.m_strText);
-  };
-  if (!column.m_pColumn->m_arrNumber.empty()) return number(column.m_pColumn->m_arrNumber[row]);
-  const CCaseCell& cell = column.m_pColumn->m_arrCell[row];
-  if (const auto* value = std::get_if<double>(&cell)) return number(*value);
-  if (const auto* list = std::get_if<std::vector<double>>(&cell))
-    return std::span<const double>(*list);
-  const auto* text = std::get_if<std::string>(&cell);
-  if (text == nullptr || text->empty()) return std::nullopt;
-  return CellValue(*text, rule, column.m_arrList);
-}
+    return CellValue(value, m_rule, m_column.m_strText);
+  }
+  std::optional<CKeyValue> operator()(const std::string& text) {
+    if (text.empty()) return std::nullopt;
+    return CellValue(text, m_rule, m_column.m_arrList);
+  }
+  std::optional<CKeyValue> operator()(const std::vector<double>& list) {
+    return std::span<const double>(list);
+  }
+  std::optional<CKeyValue> operator()(const CCellFault& fault) { return Fault(fault.m_what); }
+
+ private:
+  std::nullopt_t Fault(const CText& what) {
+    if (!m_read.m_fault) m_read.m_fault = {m_rule.m_strKey, what, m_rule.Right()};
+    return std::nullopt;
+  }
+
+  CKeyColumn& m_column;
+  const CCaseSchema::CRule& m_rule;
+  CReadCase& m_read;
+};
 
 }  // namespace
 
@@ -57,9 +83,10 @@ void ReadColumnCases(const CCaseColumns& cases, const CCaseSchema& schema, const
   CReadCase read;
   for (std::size_t row = 0; row < cases.m_nCases; ++row) {
     read.m_arrValue.assign(schema.Rules().size(), std::nullopt);
+    read.m_fault.reset();
     for (CKeyColumn& column : columns) {
       const auto key = static_cast<std::size_t>(column.m_nKey);
-      read.m_arrValue[key] = ValueAt(column, row, schema.Rules()[key]);
+      read.m_arrValue[key] = CCellReader(column, schema.Rules()[key], read).At(row);
     }
     take(read);
   }

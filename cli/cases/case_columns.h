@@ -6,10 +6,18 @@
 #include <variant>
 #include <vector>
 
+#include "framework/language.h"
+
 namespace orv3::cli {
 
+// Why a cell is of no kind that any key takes: "X is not possible".
+struct CCellFault {
+  CText m_what;
+};
+
 // Nothing where the key is left out of the case, as is NaN.
-using CCaseCell = std::variant<std::monostate, double, std::string, std::vector<double>>;
+using CCaseCell =
+    std::variant<std::monostate, bool, double, std::string, std::vector<double>, CCellFault>;
 
 struct CCaseColumn {
   std::string m_strKey;

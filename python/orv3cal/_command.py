@@ -8,6 +8,7 @@ import numbers
 import os
 import re
 import warnings
+from decimal import Decimal
 from pathlib import Path
 from typing import Any, Iterable, Mapping, Optional, Sequence, Union
 
@@ -158,18 +159,38 @@ def json_of(case: Any) -> str:
     return text
 
 
-def _plain(value: Any, place: str) -> Any:
-    """A value as JSON knows it; ``place`` is the key that it stands at, as in "bolts[2].x"."""
+def plain(value: Any) -> Any:
+    """A value of numpy, pandas or decimal as Python's own number, text, list or None, if it is one.
+
+    A time is none, though numpy would tell it as a number of nanoseconds.
+    """
+    if getattr(getattr(value, "dtype", None), "kind", None) in ("m", "M"):
+        return value
     if hasattr(value, "tolist"):
         value = value.tolist()
+    if isinstance(value, bool):
+        return value
+    try:
+        if isinstance(value, numbers.Integral):
+            return int(value)
+        if isinstance(value, (numbers.Real, Decimal)):
+            return float(value)
+    except (OverflowError, ValueError):  # beyond all doubles, or a signalling NaN
+        pass
+    return value
+
+
+def _plain(value: Any, place: str) -> Any:
+    """A value as JSON knows it; ``place`` is the key that it stands at, as in "bolts[2].x"."""
+    value = plain(value)
     if isinstance(value, Mapping):
         return {str(key): _plain(each, f"{place}.{key}" if place else str(key)) for key, each in value.items()}
     if isinstance(value, (list, tuple)):
         return [_plain(each, f"{place}[{i}]") for i, each in enumerate(value)]
     if value is None or isinstance(value, (bool, str, int)):
         return value
-    if isinstance(value, numbers.Real) and math.isfinite(value):
-        return int(value) if isinstance(value, numbers.Integral) else float(value)
+    if isinstance(value, float) and math.isfinite(value):  # whole ones as a frame's are, for names
+        return int(value) if value.is_integer() and abs(value) < 2**63 else value
     raise Error(
         say(
             "{0}：{1!r} 不是 JSON 的值；应为有限的数、文字、列表或字典",

@@ -36,16 +36,8 @@ def _array(key: str, values: Any) -> Any:
                 array.ndim,
             )
         )
-    if array.dtype.kind in "mMc":
-        raise Error(
-            say(
-                "{0}：{1} 不是数；应为该键单位下的数",
-                "{0}: {1} is no number; right would be a number in the key's unit",
-                key,
-                array.dtype,
-            )
-        )
-    if numpy.ma.is_masked(array):  # what lies under the mask is no value
+    # What lies under a mask is no value, and dates become numbers as objects: cell by cell.
+    if numpy.ma.is_masked(array) or array.dtype.kind in "mM":
         return _cells(list(array))
     if array.dtype.kind == "f" or (array.dtype.kind in "iu" and key != "id"):
         return numpy.ascontiguousarray(array, dtype=numpy.float64)
@@ -93,7 +85,8 @@ def check_many(
     "lengths.x"; None, NaN and what is masked leave a key out, a list of numbers may stand in a cell. The answer has
     the columns of the command's ``--csv``, in the same digits: a frame with the index of ``frame``,
     or a dict of arrays for a mapping. Numbers are float64, "pass" is bool, the other verdicts are
-    True, False or missing. A frame without rows is answered by one. A row that is refused does not pass and says why in "refused". With
+    True, False or missing. A frame without rows is answered by one. A row that is refused, for a cell
+    of a wrong kind too, does not pass and says why in "refused". With
     edition="both" each row has two answers, 2017 first.
 
     Raises :class:`Error` for a key that is unknown and for trouble with a file. The interpreter lock
@@ -106,7 +99,7 @@ def check_many(
     options = ["--csv", *_command.option("--code", edition), *_command.stores(store, data)]
     arguments = _command.line(["check"], options, [kind, "-"])
     try:
-        status, answer, told = _orv3cal.run_cases(arguments, columns)
+        status, answer, told = _orv3cal.run_cases(arguments, columns, _command.plain)
     except (TypeError, ValueError) as fault:
         raise Error(str(fault)) from None
     row = numpy.array(answer.pop("case", ()), dtype=numpy.int64)
