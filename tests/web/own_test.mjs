@@ -97,3 +97,17 @@ walk("numbers as the page writes them are taken, other blanks and commas are not
     await says(page, ".box", "No answer");
   }
 });
+
+inChromium(walk)("a style or a figure of the code that is chosen takes the old one away at once", "view=own&lang=en", async (page) => {
+  for (const [hash, next, old, fresh] of [["view=own&lang=en", "tube", "300×400", "110×100"], ["view=code&lang=en", "preload", "295", "155"]]) {
+    await show(page, hash);
+    await says(page, ".detail", old);
+    await page.focus("form select");
+    await hold(page);
+    await page.select("form select", next);
+    assert.doesNotMatch(await page.$eval("main", (main) => main.textContent), new RegExp(old));
+    await letGo(page);
+    await says(page, ".detail", fresh);
+    await page.waitForFunction((value) => document.activeElement.value === value, {}, next); // the focus is there again
+  }
+});

@@ -4,9 +4,9 @@ import { ask, lineOf, sentence, type Answer, type Line } from "../command/client
 import { copyButton, el, field, noSuch, select } from "../parts/dom";
 import { Edition } from "../parts/edition";
 import { bare, shown } from "../parts/figures";
-import { keepFocus, reachable } from "../parts/keyboard";
+import { reachable } from "../parts/keyboard";
 import { Question } from "../parts/question";
-import { change, inOne, parted, startView, state } from "../state/address";
+import { change, choose, inOne, parted, startView, state } from "../state/address";
 import { say } from "../state/language";
 
 interface CodeJson {
@@ -96,10 +96,7 @@ export async function codeTables(place: HTMLElement): Promise<void> {
       if (!why) void table(around, axesOf(question, names), asked, line, isAsked);
     };
   });
-  const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => {
-    change({ ask: next, args: "" }, true);
-    void keepFocus(() => codeTables(place));
-  });
+  const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => choose({ ask: next, args: "" }));
   place.replaceChildren(
     el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() }, el("h1", {}, say("规范表", "Code tables")),
       field(say("查什么", "Figure"), what), el("p", { class: "note" }, list.find(([name]) => name === question)?.[1] ?? ""), ...controls,

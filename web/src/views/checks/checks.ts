@@ -8,9 +8,9 @@ import { kindTitle, schemaOf, type Kind } from "../../form/schema";
 import { button, copyButton, download, dropPlace, el, field, noAnswer, noSuch, picture, select } from "../../parts/dom";
 import { Edition } from "../../parts/edition";
 import { figureLines, figureTable } from "../../parts/figure_table";
-import { keepFocus, oneStop, reachable } from "../../parts/keyboard";
+import { oneStop, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, startView, state } from "../../state/address";
+import { change, choose, startView, state } from "../../state/address";
 import { kept } from "../../state/kept";
 import { say } from "../../state/language";
 import { Batch } from "./batch";
@@ -127,10 +127,7 @@ export async function connections(place: HTMLElement): Promise<void> {
   const asked = state()["kind"] ?? "bolt";
   const kind = kConnections.find((each) => each === asked);
   if (!kind) return place.replaceChildren(noSuch("kind", asked, [...kConnections]));
-  const above = field(say("连接", "Connection"), select(kConnections.map((each) => [each, kindTitle(each)]), kind, (next) => {
-    change({ kind: next, case: "" }, true);
-    void keepFocus(() => connections(place));
-  }));
+  const above = field(say("连接", "Connection"), select(kConnections.map((each) => [each, kindTitle(each)]), kind, (next) => choose({ kind: next, case: "" })));
   await checkView(place, kind, above);
 }
 

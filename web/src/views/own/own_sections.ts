@@ -5,7 +5,7 @@ import { button, computing, dropPlace, el, field, newId, noAnswer, noSuch, selec
 import { bare, signParts } from "../../parts/figures";
 import { keepFocus, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, inOne, parted, startView, state } from "../../state/address";
+import { change, choose, inOne, parted, startView, state } from "../../state/address";
 import { kept } from "../../state/kept";
 import { language, say } from "../../state/language";
 import { onward, sectionView } from "../section_view";
@@ -95,10 +95,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     saved.replaceChildren(say(`库中已有“${no}”。 `, `"${no}" is there already. `), replace);
   };
   const keep = button(say("存入自己的库", "Keep in own store"), () => void save());
-  const style = select(styles.map((each) => [each.alias, `${each.style} ${language() === "zh" ? each.table : each.shape}`]), chosen.alias, (alias) => {
-    change({ style: alias, sizes: "", outline: "", shape: "", layer: "" }, true);
-    void keepFocus(() => ownSections(place));
-  });
+  const style = select(styles.map((each) => [each.alias, `${each.style} ${language() === "zh" ? each.table : each.shape}`]), chosen.alias, (alias) => choose({ style: alias, sizes: "", outline: "", shape: "", layer: "" }));
   const layer = select([], "", (name) => {
     change({ layer: name });
     view.replaceChildren(computing());
