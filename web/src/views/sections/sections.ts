@@ -7,9 +7,9 @@ import { button, copyButton, download, el, fault, field, newId, select } from ".
 import { figureLines, type FigureLine } from "../../parts/figure_table";
 import { bare, narrow, typedNumber } from "../../parts/figures";
 import { Grid, type Column } from "../../parts/grid";
-import { keepFocus, oneStop, reachable } from "../../parts/keyboard";
+import { oneStop, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, go, inOne, parted, state } from "../../state/address";
+import { change, go, inOne, parted, startView, state } from "../../state/address";
 import { say } from "../../state/language";
 import { cellLines, onward, sectionView, type SectionJson } from "../section_view";
 
@@ -51,6 +51,8 @@ function tree(list: TableJson[], chosen: string): HTMLElement {
   }
   return el("div", { class: "tree" }, oneStop(nav), el("div", { class: "picker" }, field(say("截面表", "Table"), picker)));
 }
+
+const gapOf = () => bare(state()["gap"] ?? "");
 
 // The filter of the state; an empty bound is none.
 const range = () => parted(state()["range"] ?? "", "|") as [sign: string, least?: string, most?: string];
@@ -100,36 +102,35 @@ async function comparison(place: HTMLElement, left: () => void): Promise<void> {
 }
 
 export async function sections(place: HTMLElement): Promise<void> {
+  const isHere = startView();
   const list = await tables();
+  if (!isHere()) return;
   const table = state()["table"] ?? list.find((each) => each.rows > 0)?.name ?? "";
   const left = tree(list, table);
   place.replaceChildren(left);
   const answer = await ask(lineOf(["rows", "--json"], table));
+  if (!isHere()) return;
   if (answer.status !== 0) return place.append(fault(sentence(answer)));
   const { columns, rows } = JSON.parse(answer.out) as RowsJson;
   const all = rows.map((row) => row.cells);
   const key = keyOf(columns);
-  const detail = reachable(el("div", { class: "detail", "aria-live": "polite" }), say("截面", "the section"));
+  const shown = el("div", { "aria-live": "polite" });
   const beside = el("div", { class: "beside" });
   const count = el("span", { class: "note", role: "status" });
 
   const isPair = list.find((each) => each.name === table)?.family.includes("pair") ?? false;
-  const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", onchange: () => {
-    change({ gap: bare(gap.value) });
-    void section.ask();
-  } });
   const chosen = () => state()["no"] ?? all[0]?.[key];
-  const drawn = (no: string) => lineOf(["show", ...(state()["turn"] ? [`--turn=${state()["turn"]}`] : []), ...(isPair && state()["gap"] ? [`--gap=${state()["gap"]}`] : [])], table, no);
-  const section = new Question(detail, async () => {
-    const no = chosen()!;
+  const drawn = (no: string) => lineOf(["show", ...(state()["turn"] ? [`--turn=${state()["turn"]}`] : []), ...(isPair && gapOf() ? [`--gap=${gapOf()}`] : [])], table, no);
+  const section = new Question(shown, async () => {
+    const [no, gap] = [chosen()!, typedNumber(gapOf())];
     const turned = drawn(no);
-    const shown = await ask(withWords(turned, "--json", "--svg", "picture.svg"));
-    return () => {
-      const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void keepFocus(() => section.ask()); });
-      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair && Number(state()["gap"]) ? { gap: Number(state()["gap"]) } : {}) })), field(say("转角", "Turned by"), turns),
-        isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm")) || "");
-    };
+    const answer = await ask(withWords(turned, "--json", "--svg", "picture.svg"));
+    return () => shown.replaceChildren(sectionView(`${table} ${no}`, answer, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair && gap ? { gap } : {}) })));
   });
+  const turn = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void section.ask(); });
+  const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", oninput: () => { change({ gap: gap.value }); void section.ask(); } });
+  const detail = reachable(el("div", { class: "detail" }, shown, chosen() && field(say("转角", "Turned by"), turn),
+    isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm"))), say("截面", "the section"));
   // Its command runs while the rows are drawn.
   place.append(detail);
   const detailed = chosen() ? section.ask() : null;
