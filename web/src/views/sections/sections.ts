@@ -1,6 +1,6 @@
 // Sections: the tables, the rows of one, and the section that is chosen; several beside each other.
 import { isNumeric, keyOf, tables, type RowsJson, type TableJson } from "../../command/catalogue";
-import { ask, lineOf, sentence, withWords } from "../../command/client";
+import { ask, lineOf, sentence, withWords, type Line } from "../../command/client";
 import { csvText } from "../../formats/csv";
 import { workbook } from "../../formats/workbook";
 import { button, copyButton, download, el, fault, field, newId, select } from "../../parts/dom";
@@ -72,14 +72,13 @@ const compared = (): string[] => parted(state()["compare"] ?? "", ";").filter(Bo
 const keepCompared = (rows: string[]) => change({ compare: rows.length > 0 ? inOne(rows, ";") : "" });
 const numberOf = (row: string) => parted(row, "|")[1] ?? "";
 
-async function comparison(place: HTMLElement, left: () => void): Promise<void> {
-  const list = compared();
-  if (list.length === 0) return place.replaceChildren();
-  const sections = (await Promise.all(list.map((each) => ask(lineOf(["show", "--json"], ...parted(each, "|"))))))
-    .map((answer) => (answer.status === 0 ? (JSON.parse(answer.out) as SectionJson) : null));
+// The rows beside one another, each as `line` asks for it.
+async function comparison(rows: string[], line: (row: string) => Line, remove: (row: string) => void): Promise<HTMLElement[]> {
+  const answers = await Promise.all(rows.map((row) => ask(line(row))));
   const lines = new Map<string, FigureLine[]>();
-  sections.forEach((section, i) => {
-    if (!section) return;
+  answers.forEach((answer, i) => {
+    if (answer.status !== 0) return;
+    const section = JSON.parse(answer.out) as SectionJson;
     for (const line of [...cellLines(section), ...figureLines(section.exact).map(([sign, ...rest]) => [`${sign} *`, ...rest] as FigureLine)]) {
       const key = `${line[0]}\t${line[2]}`;
       if (!lines.has(key)) lines.set(key, []);
@@ -87,18 +86,18 @@ async function comparison(place: HTMLElement, left: () => void): Promise<void> {
     }
   });
   const head = el("tr", {}, el("th", { scope: "col" }, say("量", "figure")), el("th", { scope: "col" }, say("单位", "unit")));
-  list.forEach((each) => head.append(el("th", { scope: "col", class: "num" }, numberOf(each),
-    button("×", () => { keepCompared(compared().filter((other) => other !== each)); left(); void comparison(place, left); },
-      { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${numberOf(each)}` }))));
+  rows.forEach((row) => head.append(el("th", { scope: "col", class: "num" }, numberOf(row),
+    button("×", () => remove(row), { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${numberOf(row)}` }))));
   const body = el("tbody");
   for (const [key, values] of lines) {
     const [sign, unit] = key.split("\t");
     body.append(el("tr", {}, el("th", { scope: "row" }, sign), el("td", { class: "unit" }, unit),
-      ...list.map((_, i) => el("td", { class: "num", title: values[i]?.[4] }, values[i]?.[1] ?? ""))));
+      ...rows.map((_, i) => el("td", { class: "num", title: values[i]?.[4] }, values[i]?.[1] ?? ""))));
   }
-  place.replaceChildren(el("h2", {}, say("比较", "Compared")),
+  const refused = answers.flatMap((answer, i) => (answer.status === 0 ? [] : [fault(`${numberOf(rows[i]!)}: ${sentence(answer)}`)]));
+  return [el("h2", {}, say("比较", "Compared")), ...refused,
     el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("比较", "Compared") }, el("table", { class: "figures compare" }, el("thead", {}, oneStop(head)), body)),
-    el("p", { class: "note" }, say("* 按外轮廓的精确值，mm", "* exact, from the outline, mm")));
+    el("p", { class: "note" }, say("* 按外轮廓的精确值，mm；转角与间距同所示截面", "* exact, from the outline, mm; turned and with the gap as the section"))];
 }
 
 export async function sections(place: HTMLElement): Promise<void> {
@@ -118,19 +117,33 @@ export async function sections(place: HTMLElement): Promise<void> {
   const beside = el("div", { class: "beside" });
   const count = el("span", { class: "note", role: "status" });
 
-  const isPair = list.find((each) => each.name === table)?.family.includes("pair") ?? false;
+  const isPair = (name: string) => list.find((each) => each.name === name)?.family.includes("pair") ?? false;
   const chosen = () => state()["no"] ?? all[0]?.[key];
-  const drawn = (no: string) => lineOf(["show", ...(state()["turn"] ? [`--turn=${state()["turn"]}`] : []), ...(isPair && gapOf() ? [`--gap=${gapOf()}`] : [])], table, no);
+  const drawn = (of: string, no: string) => lineOf(["show", ...(state()["turn"] ? [`--turn=${state()["turn"]}`] : []), ...(isPair(of) && gapOf() ? [`--gap=${gapOf()}`] : [])], of, no);
   const section = new Question(shown, async () => {
     const [no, gap] = [chosen()!, typedNumber(gapOf())];
-    const turned = drawn(no);
+    const turned = drawn(table, no);
     const answer = await ask(withWords(turned, "--json", "--svg", "picture.svg"));
-    return () => shown.replaceChildren(sectionView(`${table} ${no}`, answer, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair && gap ? { gap } : {}) })));
+    return () => shown.replaceChildren(sectionView(`${table} ${no}`, answer, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair(table) && gap ? { gap } : {}) })));
   });
-  const turn = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void section.ask(); });
-  const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", oninput: () => { change({ gap: gap.value }); void section.ask(); } });
+  const compare = new Question(beside, async () => {
+    const line = (row: string) => withWords(drawn(parted(row, "|")[0]!, numberOf(row)), "--json");
+    const made = await comparison(compared(), line, (row) => { keepCompared(compared().filter((other) => other !== row)); grid.draw(); askCompared(); });
+    return () => beside.replaceChildren(...made);
+  });
+  const askCompared = () => {
+    if (compared().length > 0) return void compare.ask();
+    compare.drop();
+    beside.replaceChildren();
+  };
+  const askBoth = () => {
+    void section.ask();
+    askCompared();
+  };
+  const turn = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); askBoth(); });
+  const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", oninput: () => { change({ gap: gap.value }); askBoth(); } });
   const detail = reachable(el("div", { class: "detail" }, shown, chosen() && field(say("转角", "Turned by"), turn),
-    isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm"))), say("截面", "the section"));
+    isPair(table) && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm"))), say("截面", "the section"));
   // Its command runs while the rows are drawn.
   place.append(detail);
   const detailed = chosen() ? section.ask() : null;
@@ -146,7 +159,7 @@ export async function sections(place: HTMLElement): Promise<void> {
     marked: { has: (row) => compared().includes(marked(row)), toggle: (row) => {
       const [each, rows] = [marked(row), compared()];
       keepCompared(rows.includes(each) ? rows.filter((other) => other !== each) : [...rows, each]);
-      void comparison(beside, () => grid.draw());
+      askCompared();
     } },
   });
   const words = () => narrow(state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
@@ -171,7 +184,7 @@ export async function sections(place: HTMLElement): Promise<void> {
   reachable(grid.element, say("各行", "the rows"));
   filter();
   grid.reveal();
-  void comparison(beside, () => grid.draw());
+  askCompared();
   await detailed;
 }
 
