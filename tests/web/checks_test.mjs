@@ -105,6 +105,18 @@ inChromium(walk)("late answers: nothing stands beside a question that it does no
   assert.doesNotMatch(await address(page), /case=/);
 });
 
+walk("what is wrong in a combination, or beside them, is said at its own field", "view=members&lang=en", async (page) => {
+  const { N: _, ...beside } = tableMember;
+  for (const [more, legend, value] of [
+    [{ cases: [{ N: -5 }, { N: "zz" }, { N: -7 }] }, "2", "zz"], [{ cases: [{ id: 7, N: -5 }, { id: "a: b].c", N: "zz" }] }, "2", "zz"],
+    [{ cases: [{ id: "k", N: -5 }, { id: "k", N: -6 }] }, "2", "k"], [{ cases: [{ id: "k", N: -5 }], load: "midspan" }, "", "midspan"],
+  ]) {
+    await show(page, `view=members&lang=en&case=${encodeURIComponent(JSON.stringify({ ...beside, ...more }))}`);
+    const wrong = await page.$$eval('[aria-invalid="true"]', (all) => all.map((each) => [each.closest("fieldset")?.querySelector("legend").textContent.slice(-1) ?? "", each.value]));
+    assert.deepEqual(wrong, [[legend, value]]);
+  }
+});
+
 walk("cases of a file open as the command reads them, by the edition of their list or their own", "view=members&lang=en", async (page) => {
   const head = "id;section.style;section.sizes;steel;N;lengths.x;lengths.y;code";
   const line = (id, code, more = "") => `${id};h;"300;400;20;10";Q345;-800;6000;3000;${code}${more}`;

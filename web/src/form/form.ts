@@ -94,19 +94,35 @@ export class Form {
       note.textContent = "";
     }
     if (!sentence) return;
-    const named = /^(?:[^:：]*(?:case|算例)[^:：]*[:：]\s*)?([^\s:：]+)\s*[:：]/.exec(sentence)?.[1] ?? "";
-    const paths = [named, named.replace(/\[\d+\]$/, ""), named.replace(/\.[^.]*$/, "")];
-    const found = paths.map((path) => this.fields.get(path)).find(Boolean) ?? this.fields.get("");
+    const found = this.named(sentence).map((path) => this.fields.get(path)).find(Boolean) ?? this.fields.get("");
     found?.control.setAttribute("aria-invalid", "true");
     if (!found) return;
     found.note.textContent = sentence;
     for (let at = found.note.closest("details"); at; at = at.parentElement!.closest("details")) at.open = true;
   }
 
+  // The places that a sentence may name, the likeliest first. The command calls a combination by its id, else by its
+  // number from 1, also where what is wrong stands beside the combinations.
+  private named(sentence: string): string[] {
+    const [, name = "", key] = /^cases\[(.*?)\]\.([^\s:：[\]]+)\s*[:：]/s.exec(sentence) ?? [];
+    if (key === undefined) {
+      const place = /^(?:[^:：]*(?:case|算例)[^:：]*[:：]\s*)?([^\s:：]+)\s*[:：]/.exec(sentence)?.[1] ?? "";
+      return [place, place.replace(/\[\d+\]$/, ""), place.replace(/\.[^.]*$/, "")];
+    }
+    const all = (this.value["cases"] ?? []) as Case[];
+    const isNamed = (each: Case, i: number) => {
+      const own = textOf(each["id"]) || String(i + 1);
+      return own === name || (name.endsWith("…") && own.startsWith(name.slice(0, -1))); // cut where it is long
+    };
+    const at = key === "id" ? all.findLastIndex(isNamed) : all.findIndex(isNamed); // an id that stands twice
+    const inRow = pathText(["cases", String(at), key]);
+    return all[at]?.[key] === undefined && key in this.value ? [key] : [inRow, key, key.replace(/\.[^.]*$/, "")];
+  }
+
   // Leads to the field that was blamed.
   readonly mend = (): void => {
     const blamed = this.element.querySelector<HTMLElement>('[aria-invalid="true"]') ?? this.element;
-    const field = blamed.matches("input, select") ? blamed : blamed.querySelector<HTMLElement>("input, select");
+    const field = blamed.matches("input, select") ? blamed : (blamed.querySelector<HTMLElement>("input, select") ?? blamed.querySelector<HTMLElement>("button"));
     field?.scrollIntoView({ block: "center" });
     field?.focus();
   };
