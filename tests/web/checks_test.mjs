@@ -128,6 +128,10 @@ walk("cases of a file open as the command reads them, by the edition of their li
   await open("007");
   await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017-2003");
   await addressTells(page, "code", "2003");
+  for (const [way, code] of [["Undo", "2017"], ["Redo", "2003"]]) { // the edition is part of a step
+    await page.click(`::-p-text(${way})`);
+    await says(page, ".answer > .detail .verdict", `GB 50017-${code}`);
+  }
   await open('5" pipe\nsteel');
   await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017-2017");
   await addressTells(page, "case", '5\\" pipe\\nsteel');

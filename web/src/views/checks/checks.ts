@@ -30,12 +30,16 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   if (kind === "member" || kind === "lattice") await readLists();
   if (!isHere()) return;
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
-  const form = new Form(kind, schemaOf(kind), (value) => {
+  const edition = new Edition(() => {
+    void question.ask();
+    void batch.again();
+  }, true, () => form.remember());
+  const form: Form = new Form(kind, schemaOf(kind), (value) => {
     change({ case: JSON.stringify(value) });
     batch.formChanged();
     view.hidden = false;
     void question.ask();
-  }, ["code"], () => question.outdate());
+  }, kind === "lattice" ? null : edition, [], () => question.outdate());
   const question = new Question(view, async () => {
     const [given, code] = [JSON.stringify(form.case), edition.asked];
     const answer = await ask(commandLine(kind, code), { [kFile]: given });
@@ -47,10 +51,6 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
       view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer, names, `${code} ${given}`)));
     };
   }, () => tellLine());
-  const edition = new Edition(() => {
-    void question.ask();
-    void batch.again();
-  });
   // On a narrow screen the answer is below the form; this line of it stays in sight.
   let line = "";
   const jump = button("", () => (view.hidden ? batch.element : view).scrollIntoView(), { class: "jump", title: say("看结果", "Go to the answer") });
@@ -60,7 +60,7 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   };
   const first = caseInLink(kind, kExamples[kind], kind === "lattice" ? null : edition);
   // The answer to a file of cases takes the place of that to the form until one of them is opened.
-  const batch = new Batch(kind, edition, (value) => form.replace(edition.take(value)), tellLine, () => {
+  const batch = new Batch(kind, edition, (value) => form.replace(value), tellLine, () => {
     view.hidden = false;
     tellLine();
   });

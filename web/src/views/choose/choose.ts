@@ -42,7 +42,7 @@ export async function choose(place: HTMLElement): Promise<void> {
   const rolled = (await tables()).filter((table) => table.rows > 0);
   if (!isHere()) return;
   const chosen = new Set(parted(state()["tables"] ?? kFirstTables, ",").filter((name) => name !== "-"));
-  const edition = new Edition(() => outdated(), false);
+  const edition = new Edition(() => outdated(), false, () => form.remember());
   const first = firstCase(edition);
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const note = el("p", { class: "note", role: "status" });
@@ -58,10 +58,10 @@ export async function choose(place: HTMLElement): Promise<void> {
   });
   const styles = new StyleChoices(await readStyles(), state()["styles"] ?? "", (text) => { change({ styles: text }); outdated(); });
   const top = el("input", { type: "text", inputmode: "numeric", value: parted(state()["top"] ?? "20", ",")[0], class: "short", oninput: () => { change({ top: inOne([top.value], ",") }); outdated(); } });
-  const form = new Form("member", schemaOf("member"), (value) => {
+  const form: Form = new Form("member", schemaOf("member"), (value) => {
     change({ case: JSON.stringify(value) });
     outdated();
-  }, ["section", "code"], () => outdated());
+  }, edition, ["section"], () => outdated());
   const now = kept("choice", () => ({ isOutdated: false }));
   // What was chosen for another question does not stay beside this one.
   const outdated = () => {
