@@ -76,14 +76,16 @@ export async function codeTables(place: HTMLElement): Promise<void> {
     const called = name.replace(/[[\]]/g, "");
     const choices = called.split("|");
     if (choices.length === 1) return { called, isMust: name === called, control: el("input", { type: "text", value: given[i] ?? "", oninput: () => keep() }) };
-    const listed = new Set([...(name === called ? [] : [""]), ...choices, ...(given[i] ? [given[i]!] : [])]); // what a link says else is refused
-    const control = select([...listed].map((each) => [each, each || "–"]), given[i] ?? "", () => keep());
+    const listed = name === called ? choices : ["", ...choices];
+    const control = select(listed.map((each) => [each, each || "–"]), given[i] ?? "", () => keep());
     return { called: choices.length > 3 ? say("量", "figure") : called, isMust: name === called, control };
   });
-  const values = () => controls.map(({ control }) => control.value);
+  let surplus = given.slice(names.length); // of a link, for the command to refuse
+  const values = () => [...controls.map(({ control }) => control.value), ...surplus];
   // Arguments go by their places: none may be left out before another.
   const missing = (asked: string[]) => controls.find(({ isMust }, i) => asked[i] === "" && (isMust || asked.slice(i).some(Boolean)));
   const keep = () => {
+    surplus = [];
     change({ ask: question, args: inOne(values(), " ") });
     void figures.ask();
   };

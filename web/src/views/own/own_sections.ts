@@ -38,7 +38,9 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   });
   const fields = [...inputs, ...base];
   const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => { change({ name: name.value }); saved.replaceChildren(); } });
-  const sizes = () => inputs.map(({ input }) => bare(input.value));
+  let surplus = given.slice(inputs.length); // of a link, for the command to refuse
+  const typedSizes = () => [...inputs.map(({ input }) => input.value), ...surplus];
+  const sizes = () => typedSizes().map(bare);
 
   const line = () => lineOf(["section", "--base", ...base.map(({ input }) => bare(input.value) || "0")], chosen.alias, ...sizes());
   // Says at the field that it names what the matter is; without a sentence all is well.
@@ -65,11 +67,12 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   });
   // What is kept is what stands in the view; of a style alone, not of an outline.
   const typedIn = () => {
+    surplus = [];
     saved.replaceChildren();
     void compute();
   };
   const compute = async () => {
-    change({ style: chosen.alias, sizes: inOne(inputs.map(({ input }) => input.value), ","), base: inOne(base.map(({ input }) => input.value), ","), outline: "", shape: "", layer: "" });
+    change({ style: chosen.alias, sizes: inOne(typedSizes(), ","), base: inOne(base.map(({ input }) => input.value), ","), outline: "", shape: "", layer: "" });
     isOutline = false;
     keep.disabled = true;
     await question.ask();

@@ -38,7 +38,7 @@ const showTable = (table: string) => go({ view: "sections", table });
 // The tables by their families: a list where the screen is wide, else a choice that takes one line.
 function tree(list: TableJson[], chosen: string): HTMLElement {
   const nav = el("nav", { class: "families", "aria-label": say("截面表", "Tables") });
-  const picker = select([], chosen, showTable);
+  const picker = select([], "", showTable);
   let source = "";
   for (const family of families(list)) {
     if (family.source !== source) nav.append(el("h2", {}, (source = family.source)));
@@ -63,7 +63,7 @@ function matching(rows: string[][], columns: RowsJson["columns"], words: string[
   return rows.filter((row) => {
     const text = row.join("\u0000").toLowerCase();
     return words.every((word) => text.includes(word)) &&
-      (at < 0 || ((least === "" || Number(row[at]) >= typedNumber(least)) && (most === "" || Number(row[at]) <= typedNumber(most))));
+      (at < 0 ? !sign : ((least === "" || Number(row[at]) >= typedNumber(least)) && (most === "" || Number(row[at]) <= typedNumber(most))));
   });
 }
 
@@ -199,7 +199,7 @@ function rangeFilter(signs: string[], changed: () => void): HTMLElement {
     const bounds = [low, high].map((input) => (input.value.trim() === "" ? null : typedNumber(input.value)));
     [low, high].forEach((input, i) => input.setAttribute("aria-invalid", String(Number.isNaN(bounds[i]))));
     const bad = [low, high].find((_, i) => Number.isNaN(bounds[i]));
-    note.textContent = bad ? say(`“${bad.value}”不是数值，应如 2.5`, `"${bad.value}" is no number; right would be one such as 2.5`)
+    note.textContent = column.value && !signs.includes(column.value) ? say(`没有数值列“${column.value}”`, `there is no column "${column.value}" of numbers`) : bad ? say(`“${bad.value}”不是数值，应如 2.5`, `"${bad.value}" is no number; right would be one such as 2.5`)
       : bounds[0] != null && bounds[1] != null && bounds[0]! > bounds[1]! ? say("下限大于上限", "the least is above the most") : "";
   };
   const keep = () => {
