@@ -67,8 +67,8 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   });
   // What is kept is what stands in the view; of a style alone, not of an outline.
   const typedIn = () => {
-    surplus = [];
     saved.replaceChildren();
+    surplus = [];
     void compute();
   };
   const compute = async () => {

@@ -163,9 +163,8 @@ export async function sections(place: HTMLElement): Promise<void> {
     } },
   });
   const words = () => narrow(state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
-  let seen = all;
   const filter = () => {
-    seen = matching(all, columns, words());
+    const seen = matching(all, columns, words());
     grid.show(seen);
     count.textContent = say(`${seen.length} / ${all.length} 行`, `${seen.length} of ${all.length} rows`);
   };
@@ -176,9 +175,9 @@ export async function sections(place: HTMLElement): Promise<void> {
     field(say("在所有列中查找", "Search all columns"), search),
     rangeFilter(columns.filter(isNumeric).map((column) => column.sign), filter),
     oneStop(el("span", { class: "tools" },
-    copyButton(say("复制", "Copy"), () => [columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n")),
-    button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...seen]))),
-    button("XLSX", () => download(`${table}.xlsx`, workbook({ name: table, rows: [...heads(), ...seen], numeric, heads: 2 }))))),
+    copyButton(say("复制", "Copy"), () => [columns.map((column) => column.sign), ...grid.shown].map((row) => row.join("\t")).join("\n")),
+    button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...grid.shown]))),
+    button("XLSX", () => download(`${table}.xlsx`, workbook({ name: table, rows: [...heads(), ...grid.shown], numeric, heads: 2 }))))),
     count);
   place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
   reachable(grid.element, say("各行", "the rows"));
