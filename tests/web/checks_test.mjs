@@ -105,6 +105,18 @@ inChromium(walk)("late answers: nothing stands beside a question that it does no
   assert.doesNotMatch(await address(page), /case=/);
 });
 
+walk("what is wrong in a combination, or beside them, is said at its own field", "view=members&lang=en", async (page) => {
+  const { N: _, ...beside } = tableMember;
+  for (const [more, legend, value] of [
+    [{ cases: [{ N: -5 }, { N: "zz" }, { N: -7 }] }, "2", "zz"], [{ cases: [{ id: 7, N: -5 }, { id: "a: b].c", N: "zz" }] }, "2", "zz"],
+    [{ cases: [{ id: "k", N: -5 }, { id: "k", N: -6 }] }, "2", "k"], [{ cases: [{ id: "k", N: -5 }], load: "midspan" }, "", "midspan"],
+  ]) {
+    await show(page, `view=members&lang=en&case=${encodeURIComponent(JSON.stringify({ ...beside, ...more }))}`);
+    const wrong = await page.$$eval('[aria-invalid="true"]', (all) => all.map((each) => [each.closest("fieldset")?.querySelector("legend").textContent.slice(-1) ?? "", each.value]));
+    assert.deepEqual(wrong, [[legend, value]]);
+  }
+});
+
 walk("cases of a file open as the command reads them, by the edition of their list or their own", "view=members&lang=en", async (page) => {
   const head = "id;section.style;section.sizes;steel;N;lengths.x;lengths.y;code";
   const line = (id, code, more = "") => `${id};h;"300;400;20;10";Q345;-800;6000;3000;${code}${more}`;
@@ -116,6 +128,10 @@ walk("cases of a file open as the command reads them, by the edition of their li
   await open("007");
   await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017-2003");
   await addressTells(page, "code", "2003");
+  for (const [way, code] of [["Undo", "2017"], ["Redo", "2003"]]) { // the edition is part of a step
+    await page.click(`::-p-text(${way})`);
+    await says(page, ".answer > .detail .verdict", `GB 50017-${code}`);
+  }
   await open('5" pipe\nsteel');
   await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017-2017");
   await addressTells(page, "case", '5\\" pipe\\nsteel');

@@ -44,4 +44,5 @@ walk("a question that was changed, or a link that is damaged, is not answered by
   await says(page, ".box", "没有结果");
   await page.click('::-p-xpath(//button[. = "选择"])');
   await says(page, ".box", "最多行数");
+  assert.deepEqual(await page.$$eval('[aria-invalid="true"]', (all) => all.map((each) => each.labels[0].textContent)), ["最多行数"]);
 });

@@ -82,6 +82,17 @@ inChromium(walk)("names and sizes that look like options, and only what has an a
   await says(page, ".log", '"--json": deleted');
 });
 
+walk("what a link names beside what there is has no answer", "view=own&lang=en&sizes=300,400,20,10,99", async (page) => {
+  await says(page, ".box", "5 were given");
+  await show(page, "view=sections&lang=en&range=H(mm)|300|");
+  await says(page, ".range .fault", 'no column "H(mm)"');
+  await says(page, '[role="status"]', "0 of 34");
+  await show(page, "view=code&lang=en&args=Q345+20+f+more");
+  await says(page, ".box", "4 arguments were given");
+  await show(page, "view=code&lang=en&args=Q345+20+nope");
+  await says(page, ".box", "nope");
+});
+
 walk("numbers as the page writes them are taken, other blanks and commas are not, in both languages", "view=own&lang=en&style=rect", async (page) => {
   for (const [b, h, title] of [["1\u202f200", "１\u2009234.5", "1200×1234.5"], ["1 300", "1\u00a0234", "1300×1234"]]) {
     await fill(page, "b ", b);
@@ -95,5 +106,19 @@ walk("numbers as the page writes them are taken, other blanks and commas are not
     await says(page, ".box", "没有结果");
     await otherLanguage(page);
     await says(page, ".box", "No answer");
+  }
+});
+
+inChromium(walk)("a style or a figure of the code that is chosen takes the old one away at once", "view=own&lang=en", async (page) => {
+  for (const [hash, next, old, fresh] of [["view=own&lang=en", "tube", "300×400", "110×100"], ["view=code&lang=en", "preload", "295", "155"]]) {
+    await show(page, hash);
+    await says(page, ".detail", old);
+    await page.focus("form select");
+    await hold(page);
+    await page.select("form select", next);
+    assert.doesNotMatch(await page.$eval("main", (main) => main.textContent), new RegExp(old));
+    await letGo(page);
+    await says(page, ".detail", fresh);
+    await page.waitForFunction((value) => document.activeElement.value === value, {}, next); // the focus is there again
   }
 });

@@ -1,7 +1,7 @@
 // Walks through the tables and their rows.
 import assert from "node:assert/strict";
 import { fill, openPage, ready, says, textOf } from "./browser.mjs";
-import { address, addressTells, run, walk } from "./walks.mjs";
+import { address, addressTells, hold, inChromium, letGo, run, walk } from "./walks.mjs";
 
 walk("sections: search, range, sort, keys, turn, compare, and a link that opens the same", "view=sections&lang=en&table=热轧普通工字钢", async (page, context) => {
   await says(page, ".detail h2", "I10");
@@ -49,4 +49,30 @@ walk("a comparison's link holds names with its own marks", "view=sections&lang=e
   await again.waitForFunction(() => document.querySelectorAll(".compare thead button").length === 1);
   await says(again, ".compare thead", "a;b");
   assert.deepEqual(again.faults, []);
+});
+
+inChromium(walk)("the gap is followed by figures and comparison alike, and stays in its own entry of the history", "view=sections&lang=en&table=热轧等边角钢组合&no=2L100X10&gap=4", async (page) => {
+  const typed = async (text) => {
+    await (await page.waitForSelector('::-p-xpath(//label[contains(., "Gap")]/..//input)')).focus();
+    await page.keyboard.type(text);
+  };
+  const exact = async (no) => String(JSON.parse((await run(page, ["show", "--json", "--gap=4", "热轧等边角钢组合", no])).out).exact.Iy);
+  await says(page, ".detail h2", "2L100X10");
+  await page.click('input[aria-label="compare 2L100X10"]');
+  await says(page, ".compare thead", "2L100X10");
+  assert.equal(await page.$eval('::-p-xpath(//*[@class="beside"]//tr[th = "Iy *"]/td[2])', (cell) => cell.title), await exact("2L100X10"));
+  await hold(page);
+  await page.click('input[aria-label="compare 2L100X8"]');
+  await page.click('input[aria-label="compare 2L100X8"]');
+  await page.click('input[aria-label="compare 2L100X10"]');
+  await letGo(page);
+  await run(page, ["tables"]); // all that was asked before is answered
+  assert.equal(await page.$eval(".beside", (place) => place.textContent), "");
+  await page.click('::-p-xpath(//nav//a[starts-with(., "热轧普通槽钢][组合")])');
+  await typed("12");
+  assert.ok(await page.$eval(".waiting", (place) => place.textContent.includes("槽钢"))); // the figures of no gap
+  await page.goBack();
+  await says(page, ".detail h2", "2L100X10");
+  assert.match(await address(page), /gap=4/);
+  assert.ok(await page.$$eval(".detail td", (cells, want) => cells.some((cell) => cell.title === want), await exact("2L100X10")));
 });

@@ -148,7 +148,7 @@ const kLabels = (): [option: string, label: string][] => [
   ["give --table with names or all, or --style", "choose a table, or give an own section"],
   ["请给出 --table 表名[,表名...]、--table all 或 --style", "请勾选截面表，或给出自定义截面"],
   ["--table: ", ""], ["--top", say("最多行数", "Rows at most")], ["--base X", say("基点 x", "base point x")], ["--base Y", say("基点 y", "base point y")],
-  ["--layer", say("图层", "Layer")], ["--gap", say("两肢间距", "Gap between the parts")], ["--style", say("自定义截面", "Own section")],
+  ["--layer", say("图层", "Layer")], ["--turn", say("转角", "Turned by")], ["--code", say("规范版本", "Edition")], ["--gap", say("两肢间距", "Gap between the parts")], ["--style", say("自定义截面", "Own section")],
   ["--table TABLE", say("所选的表", "the table chosen above")],
 ];
 

@@ -1,6 +1,7 @@
 // A form made from a schema: edits a case and knows its fields by their paths, as the command's
 // sentences name them. What is empty is left out of the case.
 import { button, el, field as labelled, newId, select } from "../parts/dom";
+import type { Edition } from "../parts/edition";
 import { signParts } from "../parts/figures";
 import { fold } from "../parts/fold";
 import { keepFocus, oneStop } from "../parts/keyboard";
@@ -10,7 +11,7 @@ import { differences, get, pathText, put, same, textOf, valueOf, type Case } fro
 import { byWay, hasPlace, listOf, settled, styleOf, wayOf, ways, type Choices, type Way } from "./guide";
 import { isType, wordsOf, type Kind, type Schema } from "./schema";
 
-// The ways back and forth, as JSON, and what they need beside the case.
+// The ways back and forth, as JSON of the case and its edition, and what they need beside the case.
 interface Steps {
   past: string[];
   undone: string[];
@@ -28,12 +29,13 @@ export class Form {
   private value: Case = {};
   private readonly choices = new Map<string, number>(); // how often each field was chosen in
 
-  // `left`: keys that the form does without; `choosing` is told of a choice that will change the case when what
+  // `edition` stands above the form; `left`: keys that the form does without; `choosing` is told of a choice that will change the case when what
   // belongs to it is known.
   constructor(
     private readonly kind: Kind,
     private readonly schema: Schema,
     private readonly changed: (value: Case) => void,
+    private readonly edition: Edition | null,
     private readonly left: string[] = [],
     private readonly choosing: () => void = () => {},
   ) {
@@ -58,15 +60,15 @@ export class Form {
     return this.value;
   }
 
-  // Another case; what stood there before can be had back.
   set(value: Case): void {
     this.value = structuredClone(value);
     this.draw();
   }
 
+  // Another case, by the edition that it names; what stood there before can be had back.
   replace(value: Case): void {
     this.remember();
-    this.set(value);
+    this.set(this.edition?.take(value) ?? value);
     this.changed(this.value);
   }
 
@@ -81,9 +83,11 @@ export class Form {
   private step(from: string[], to: string[]): void {
     const other = from.pop();
     if (other === undefined) return;
-    to.push(JSON.stringify(this.value));
+    to.push(this.now());
     this.steps.typedIn = "";
-    this.set(JSON.parse(other) as Case);
+    const [value, code] = JSON.parse(other) as [Case, string | null];
+    if (code !== null) this.edition?.set(code);
+    this.set(value);
     this.changed(this.value);
   }
 
@@ -94,25 +98,44 @@ export class Form {
       note.textContent = "";
     }
     if (!sentence) return;
-    const named = /^(?:[^:：]*(?:case|算例)[^:：]*[:：]\s*)?([^\s:：]+)\s*[:：]/.exec(sentence)?.[1] ?? "";
-    const paths = [named, named.replace(/\[\d+\]$/, ""), named.replace(/\.[^.]*$/, "")];
-    const found = paths.map((path) => this.fields.get(path)).find(Boolean) ?? this.fields.get("");
+    const found = this.named(sentence).map((path) => this.fields.get(path)).find(Boolean) ?? this.fields.get("");
     found?.control.setAttribute("aria-invalid", "true");
     if (!found) return;
     found.note.textContent = sentence;
     for (let at = found.note.closest("details"); at; at = at.parentElement!.closest("details")) at.open = true;
   }
 
+  // The places that a sentence may name, the likeliest first. The command calls a combination by its id, else by its
+  // number from 1, also where what is wrong stands beside the combinations.
+  private named(sentence: string): string[] {
+    const [, name = "", key] = /^cases\[(.*?)\]\.([^\s:：[\]]+)\s*[:：]/s.exec(sentence) ?? [];
+    if (key === undefined) {
+      const place = /^(?:[^:：]*(?:case|算例)[^:：]*[:：]\s*)?([^\s:：]+)\s*[:：]/.exec(sentence)?.[1] ?? "";
+      return [place, place.replace(/\[\d+\]$/, ""), place.replace(/\.[^.]*$/, "")];
+    }
+    const all = (this.value["cases"] ?? []) as Case[];
+    const isNamed = (each: Case, i: number) => {
+      const own = textOf(each["id"]) || String(i + 1);
+      return own === name || (name.endsWith("…") && own.startsWith(name.slice(0, -1))); // cut where it is long
+    };
+    const at = key === "id" ? all.findLastIndex(isNamed) : all.findIndex(isNamed); // an id that stands twice
+    const inRow = pathText(["cases", String(at), key]);
+    return all[at]?.[key] === undefined && key in this.value ? [key] : [inRow, key, key.replace(/\.[^.]*$/, "")];
+  }
+
   // Leads to the field that was blamed.
   readonly mend = (): void => {
     const blamed = this.element.querySelector<HTMLElement>('[aria-invalid="true"]') ?? this.element;
-    const field = blamed.matches("input, select") ? blamed : blamed.querySelector<HTMLElement>("input, select");
+    const field = blamed.matches("input, select") ? blamed : (blamed.querySelector<HTMLElement>("input, select") ?? blamed.querySelector<HTMLElement>("button"));
     field?.scrollIntoView({ block: "center" });
     field?.focus();
   };
 
-  private remember(): void {
-    this.steps.past.push(JSON.stringify(this.value));
+  private readonly now = (): string => JSON.stringify([this.value, this.edition?.asked ?? null]);
+
+  // What is there now is a step back.
+  remember(): void {
+    this.steps.past.push(this.now());
     if (this.steps.past.length > 200) this.steps.past.shift();
     this.steps.undone = [];
   }
@@ -135,7 +158,7 @@ export class Form {
     this.fields.clear();
     const above = el("p", { class: "fault", role: "alert" });
     this.fields.set("", { control: this.element, note: above });
-    const properties = Object.entries(this.schema.properties ?? {}).filter(([key]) => !this.left.includes(key));
+    const properties = Object.entries(this.schema.properties ?? {}).filter(([key]) => key !== "code" && !this.left.includes(key));
     const required = new Set(this.schema.required);
     const group = (keys: [string, Schema][]) => keys.map(([key, schema]) => this.field([key], schema, required.has(key)));
     const head = properties.filter(([key]) => kHead.includes(key));

@@ -123,7 +123,9 @@ export async function settled(kind: Kind, path: string[], before: Case): Promise
     const example = kLimbs[String(inner["table"])];
     if (example) {
       for (const each of Object.keys(inner)) if (kOfLimbs.test(each) && !(each in example)) delete inner[each];
+      const isOfExample = Object.values(kLimbs).some((each) => each["No."] === inner["No."]); // not the user's own number
       for (const [each, given] of Object.entries(example)) if (each !== "No.") inner[each] ??= given;
+      if (isOfExample) inner["No."] = example["No."];
     }
   } else if (number && inner[key] !== undefined) {
     const all = await numbers(String(inner[key]));

@@ -34,9 +34,11 @@ export function field(label: Child, control: HTMLElement, note: Child = null): H
   return el("div", { class: "field" }, el("label", { for: control.id }, label), line, unit ? null : note);
 }
 
+// What stands there, as by a link, stays a choice also where it is none of the options, for who is asked to refuse it.
 export function select(options: [value: string, text: string][], value: string, changed: (value: string) => void) {
   const made = el("select", { onchange: () => changed(made.value) });
-  for (const [each, text] of options) made.append(el("option", { value: each, selected: each === value }, text));
+  const isListed = value === "" || options.some(([each]) => each === value);
+  for (const [each, text] of isListed ? options : [[value, value] as const, ...options]) made.append(el("option", { value: each, selected: each === value }, text));
   return made;
 }
 

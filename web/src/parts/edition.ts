@@ -8,8 +8,10 @@ export class Edition {
   readonly element: HTMLElement;
   private readonly choice: HTMLSelectElement;
 
-  constructor(changed: () => void, private readonly takesBoth = true) {
+  // `changing` is told of another choice before it is made.
+  constructor(changed: () => void, private readonly takesBoth = true, changing: () => void = () => {}) {
     this.choice = select([], "", (code) => {
+      changing();
       this.set(code);
       changed();
     });
@@ -23,7 +25,7 @@ export class Edition {
     return code === "both" && !this.takesBoth ? "2017" : code;
   }
 
-  private set(code: string): void {
+  set(code: string): void {
     change({ code: code === "2017" ? "" : code });
     const list: [string, string][] = [["2017", "GB 50017-2017"], ["2003", `GB 50017-2003 ${say("（已废止）", "(withdrawn)")}`]];
     if (this.takesBoth) list.push(["both", say("两版", "both editions")]);

@@ -98,6 +98,11 @@ export class Grid {
     this.draw();
   }
 
+  // The rows as they are sorted.
+  get shown(): string[][] {
+    return this.order;
+  }
+
   reveal(): void {
     if (this.current < 0) return;
     const top = this.current * kRowHeight;

@@ -22,7 +22,7 @@ export class Question {
     const failed = (error: unknown) => view.replaceChildren(noAnswer(error instanceof Error ? error.message : String(error)));
     this.run = latest(async () => {
       const mine = this.number;
-      const isAsked = () => mine === this.number && view.isConnected;
+      const isAsked = () => mine === this.number && this.isOpen && view.isConnected; // one that waited is dropped too
       return { isAsked, draw: await ask(isAsked).catch((error) => () => failed(error)) };
     }, ({ isAsked, draw }) => {
       if (!isAsked()) return;

@@ -61,8 +61,16 @@ export function go(values: State): void {
   const { lang, theme } = now;
   const kept = { ...(lang ? { lang } : {}), ...(theme ? { theme } : {}), ...values };
   push(kept);
-  dispatchEvent(new Event("popstate"));
+  drawAnew();
 }
+
+// A choice that changes the whole view, as a step: what stood there before it goes at once.
+export function choose(values: State): void {
+  change(values, true);
+  drawAnew();
+}
+
+const drawAnew = () => void dispatchEvent(new Event("popstate"));
 
 // Several texts as one value; the mark between them is escaped within them. Not empty, so that the key stays.
 export const inOne = (texts: string[], mark: string): string =>

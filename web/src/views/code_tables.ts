@@ -1,12 +1,12 @@
 // Figures of the design code: a form from the command's own help, the answer with its source, and
 // the table with the asked cell marked, every cell of it asked from the command.
 import { ask, lineOf, sentence, type Answer, type Line } from "../command/client";
-import { copyButton, el, field, noSuch, select } from "../parts/dom";
+import { copyButton, el, field, noAnswer, noSuch, select } from "../parts/dom";
 import { Edition } from "../parts/edition";
 import { bare, shown } from "../parts/figures";
-import { keepFocus, reachable } from "../parts/keyboard";
+import { reachable } from "../parts/keyboard";
 import { Question } from "../parts/question";
-import { change, inOne, parted, startView, state } from "../state/address";
+import { change, choose, inOne, parted, startView, state } from "../state/address";
 import { say } from "../state/language";
 
 interface CodeJson {
@@ -73,36 +73,41 @@ export async function codeTables(place: HTMLElement): Promise<void> {
   const view = reachable(el("div", { class: "detail wide", "aria-live": "polite" }), say("结果", "the answer"));
   const edition = new Edition(() => void figures.ask(), false);
   const controls = names.map((name, i) => {
-    const bare = name.replace(/[[\]]/g, "");
-    if (bare.includes("|")) {
-      const options = bare.split("|").map((each): [string, string] => [each, each]);
-      return field(bare.split("|").length > 3 ? say("量", "figure") : bare, select(name.startsWith("[") ? [["", "–"], ...options] : options, given[i] ?? "", () => keep()));
-    }
-    return field(bare, el("input", { type: "text", value: given[i] ?? "", oninput: () => keep() }));
+    const called = name.replace(/[[\]]/g, "");
+    const choices = called.split("|");
+    if (choices.length === 1) return { called, isMust: name === called, control: el("input", { type: "text", value: given[i] ?? "", oninput: () => keep() }) };
+    const listed = name === called ? choices : ["", ...choices];
+    const control = select(listed.map((each) => [each, each || "–"]), given[i] ?? "", () => keep());
+    return { called: choices.length > 3 ? say("量", "figure") : called, isMust: name === called, control };
   });
-  const values = () => controls.map((control) => control.querySelector<HTMLInputElement | HTMLSelectElement>("input, select")!.value);
+  let surplus = given.slice(names.length); // of a link, for the command to refuse
+  const values = () => [...controls.map(({ control }) => control.value), ...surplus];
+  // Arguments go by their places: none may be left out before another.
+  const missing = (asked: string[]) => controls.find(({ isMust }, i) => asked[i] === "" && (isMust || asked.slice(i).some(Boolean)));
   const keep = () => {
+    surplus = [];
     change({ ask: question, args: inOne(values(), " ") });
     void figures.ask();
   };
   const figures = new Question(view, async (isAsked) => {
     const [asked, code] = [values().map(bare), edition.asked];
     const line = (given: string[]) => lineOf(["code", question, `--code=${code}`, "--json"], ...given.filter((value) => value !== ""));
-    const answer = await ask(line(asked));
+    const lacks = missing(asked);
+    const answer = lacks ? null : await ask(line(asked));
     return () => {
-      const why = answer.status === 0 ? "" : sentence(answer);
+      const why = lacks ? say(`${lacks.called}：没有给出；请给出`, `${lacks.called}: is missing; give it`) : answer!.status === 0 ? "" : sentence(answer!);
+      const bad = lacks ?? controls.find(({ called }) => why.startsWith(`${called}:`) || why.startsWith(`${called}：`));
+      for (const each of controls) each.control.setAttribute("aria-invalid", String(each === bad));
+      if (why) return view.replaceChildren(noAnswer(why, bad ? () => bad.control.focus() : null));
       const around = el("div");
-      view.replaceChildren(why ? el("p", { class: "fault", role: "alert" }, why) : figure(answer), around);
-      if (!why) void table(around, axesOf(question, names), asked, line, isAsked);
+      view.replaceChildren(figure(answer!), around);
+      void table(around, axesOf(question, names), asked, line, isAsked);
     };
   });
-  const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => {
-    change({ ask: next, args: "" }, true);
-    void keepFocus(() => codeTables(place));
-  });
+  const what = select(list.map(([name, meaning]) => [name, `${name} · ${meaning}`]), question, (next) => choose({ ask: next, args: "" }));
   place.replaceChildren(
     el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() }, el("h1", {}, say("规范表", "Code tables")),
-      field(say("查什么", "Figure"), what), el("p", { class: "note" }, list.find(([name]) => name === question)?.[1] ?? ""), ...controls,
+      field(say("查什么", "Figure"), what), el("p", { class: "note" }, list.find(([name]) => name === question)?.[1] ?? ""), ...controls.map(({ called, control }) => field(called, control)),
       edition.element, more && el("p", { class: "note" }, more)),
     view);
   await figures.ask();

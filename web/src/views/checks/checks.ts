@@ -8,9 +8,9 @@ import { kindTitle, schemaOf, type Kind } from "../../form/schema";
 import { button, copyButton, download, dropPlace, el, field, noAnswer, noSuch, picture, select } from "../../parts/dom";
 import { Edition } from "../../parts/edition";
 import { figureLines, figureTable } from "../../parts/figure_table";
-import { keepFocus, oneStop, reachable } from "../../parts/keyboard";
+import { oneStop, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, startView, state } from "../../state/address";
+import { change, choose, startView, state } from "../../state/address";
 import { kept } from "../../state/kept";
 import { say } from "../../state/language";
 import { Batch } from "./batch";
@@ -30,12 +30,16 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   if (kind === "member" || kind === "lattice") await readLists();
   if (!isHere()) return;
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
-  const form = new Form(kind, schemaOf(kind), (value) => {
+  const edition = new Edition(() => {
+    void question.ask();
+    void batch.again();
+  }, true, () => form.remember());
+  const form: Form = new Form(kind, schemaOf(kind), (value) => {
     change({ case: JSON.stringify(value) });
     batch.formChanged();
     view.hidden = false;
     void question.ask();
-  }, ["code"], () => question.outdate());
+  }, kind === "lattice" ? null : edition, [], () => question.outdate());
   const question = new Question(view, async () => {
     const [given, code] = [JSON.stringify(form.case), edition.asked];
     const answer = await ask(commandLine(kind, code), { [kFile]: given });
@@ -47,10 +51,6 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
       view.replaceChildren(...(!done ? [noAnswer(sentence(answer, kFile), form.mend)] : kind === "lattice" ? latticeView(answer) : answerView(kind, answer, names, `${code} ${given}`)));
     };
   }, () => tellLine());
-  const edition = new Edition(() => {
-    void question.ask();
-    void batch.again();
-  });
   // On a narrow screen the answer is below the form; this line of it stays in sight.
   let line = "";
   const jump = button("", () => (view.hidden ? batch.element : view).scrollIntoView(), { class: "jump", title: say("看结果", "Go to the answer") });
@@ -60,7 +60,7 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
   };
   const first = caseInLink(kind, kExamples[kind], kind === "lattice" ? null : edition);
   // The answer to a file of cases takes the place of that to the form until one of them is opened.
-  const batch = new Batch(kind, edition, (value) => form.replace(edition.take(value)), tellLine, () => {
+  const batch = new Batch(kind, edition, (value) => form.replace(value), tellLine, () => {
     view.hidden = false;
     tellLine();
   });
@@ -127,10 +127,7 @@ export async function connections(place: HTMLElement): Promise<void> {
   const asked = state()["kind"] ?? "bolt";
   const kind = kConnections.find((each) => each === asked);
   if (!kind) return place.replaceChildren(noSuch("kind", asked, [...kConnections]));
-  const above = field(say("连接", "Connection"), select(kConnections.map((each) => [each, kindTitle(each)]), kind, (next) => {
-    change({ kind: next, case: "" }, true);
-    void keepFocus(() => connections(place));
-  }));
+  const above = field(say("连接", "Connection"), select(kConnections.map((each) => [each, kindTitle(each)]), kind, (next) => choose({ kind: next, case: "" })));
   await checkView(place, kind, above);
 }
 

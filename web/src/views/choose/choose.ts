@@ -42,35 +42,49 @@ export async function choose(place: HTMLElement): Promise<void> {
   const rolled = (await tables()).filter((table) => table.rows > 0);
   if (!isHere()) return;
   const chosen = new Set(parted(state()["tables"] ?? kFirstTables, ",").filter((name) => name !== "-"));
-  const edition = new Edition(() => outdated(), false);
+  const edition = new Edition(() => outdated(), false, () => form.remember());
   const first = firstCase(edition);
   const view = el("div", { class: "detail wide", "aria-live": "polite" });
   const note = el("p", { class: "note", role: "status" });
   // A name of the link's that no table has stands there too, for the command to refuse.
-  const boxes = [...new Set([...rolled.map((table) => table.name), ...chosen])].map((name) => {
+  const boxes = new Map([...new Set([...rolled.map((table) => table.name), ...chosen])].map((name) => {
     const box = el("input", { type: "checkbox", checked: chosen.has(name), onchange: () => {
       if (box.checked) chosen.add(name);
       else chosen.delete(name);
       change({ tables: chosen.size > 0 ? inOne([...chosen], ",") : "-" });
       outdated();
     } });
-    return el("label", { class: "check" }, box, ` ${name}`);
-  });
+    return [name, box];
+  }));
   const styles = new StyleChoices(await readStyles(), state()["styles"] ?? "", (text) => { change({ styles: text }); outdated(); });
   const top = el("input", { type: "text", inputmode: "numeric", value: parted(state()["top"] ?? "20", ",")[0], class: "short", oninput: () => { change({ top: inOne([top.value], ",") }); outdated(); } });
-  const form = new Form("member", schemaOf("member"), (value) => {
+  const form: Form = new Form("member", schemaOf("member"), (value) => {
     change({ case: JSON.stringify(value) });
     outdated();
-  }, ["section", "code"], () => outdated());
+  }, edition, ["section"], () => outdated());
   const now = kept("choice", () => ({ isOutdated: false }));
   // What was chosen for another question does not stay beside this one.
   const outdated = () => {
     now.isOutdated = true;
     question.drop();
-    form.blame("");
-    styles.blame("");
+    blame("");
     note.textContent = "";
     view.replaceChildren(noAnswer(say("输入已改，请再按“选择”", "the question has changed: choose again")));
+  };
+  // Marks what the sentence names: a size of own sections, the rows, a table, else a field of the case, of which the
+  // command says in which section's case it was. What leads there is the answer.
+  const blame = (why: string): (() => void) => {
+    const isOf = (words: RegExp) => words.test(why);
+    const ofStyles = styles.blame(why);
+    const named = [...boxes].find(([name]) => why.includes(`"${name}"`) || why.includes(`“${name}”`));
+    const bad = isOf(/^(?:最多行数|Rows at most)/) ? top : isOf(/^(?:库中没有|没有可选|the store has no rows|nothing to choose)/) ? (named ?? [...boxes][0])?.[1] : undefined;
+    for (const each of [top, ...boxes.values()]) each.setAttribute("aria-invalid", String(each === bad));
+    form.blame(ofStyles || bad ? "" : why.replace(/^.*?(?:算例|case) [^,，]*[,，]\s*(?=\S+?\s*[:：])/s, ""));
+    if (!bad) return ofStyles ? styles.mend : form.mend;
+    return () => {
+      bad.closest("details")?.setAttribute("open", "");
+      bad.focus();
+    };
   };
   const question = new Question(view, async () => {
     const [names, value, code] = [[...chosen], structuredClone(form.case), edition.asked];
@@ -79,10 +93,9 @@ export async function choose(place: HTMLElement): Promise<void> {
     const found = answer.status <= 1 && answer.out !== "";
     return () => {
       const why = found ? "" : sentence(answer, kFile);
-      const ofStyles = styles.blame(why);
-      form.blame(ofStyles ? "" : why);
+      const mend = blame(why);
       note.textContent = found ? sentence(answer) : "";
-      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, value, code, answer) : noAnswer(why, ofStyles ? styles.mend : form.mend));
+      view.replaceChildren(found ? table(JSON.parse(answer.out) as ChooseJson, value, code, answer) : noAnswer(why, mend));
     };
   });
   const start = async () => {
@@ -93,7 +106,7 @@ export async function choose(place: HTMLElement): Promise<void> {
   place.replaceChildren(
     el("div", { class: "formside" }, el("h1", {}, say("选择截面", "Choose")), first ? null : unreadLink(),
       styles.isDamaged && fault(say("链接中的自定义截面不完整，不能读出。", "The own sections in this link are damaged and cannot be read.")), edition.element,
-      oneStop(fold("tables", say("截面表", "Tables"), boxes, innerWidth > 860), "input"),
+      oneStop(fold("tables", say("截面表", "Tables"), [...boxes].map(([name, box]) => el("label", { class: "check" }, box, ` ${name}`)), innerWidth > 860), "input"),
       styles.element, field(say("最多行数", "Rows at most"), top), button(say("选择", "Choose"), start, { class: "main" }), note, form.element),
     reachable(el("div", { class: "answer" }, view), say("结果", "the answer")));
   form.set(first ?? {});

@@ -3,6 +3,7 @@ import { ask, lineOf, sentence, withWords } from "../../command/client";
 import { pack, unpack } from "../../formats/packed_text";
 import { button, bytesOf, download, el, noAnswer } from "../../parts/dom";
 import { change, state } from "../../state/address";
+import { kept } from "../../state/kept";
 import { say } from "../../state/language";
 import { sectionView } from "../section_view";
 
@@ -12,14 +13,16 @@ interface Outline {
   name: string;
   data: Uint8Array;
 }
-let outline: Outline | null = null; // as long as the page is open, also where the link leaves it out
+let outline: Outline | null = null;
 let damaged = "";
+const dropped = () => kept("outline", () => ({ of: null as Outline | null })); // where the link leaves it out
 
 export async function takeOutline(file: File): Promise<void> {
   outline = { name: file.name, data: await bytesOf(file) };
   damaged = "";
   const packed = await pack(outline.data);
   change({ outline: outline.name, shape: packed.length <= kLongestLink ? packed : "", style: "", sizes: "", base: "", layer: "" }, true);
+  dropped().of = outline;
 }
 
 // Whether the address tells of an outline, which is then the one that is shown.
@@ -28,7 +31,8 @@ export async function givenOutline(): Promise<boolean> {
   if (!name) return false;
   damaged = "";
   if (!shape) {
-    if (outline?.name !== name) [outline, damaged] = [null, say("链接中没有这个外轮廓（文件太大）；请重新选取文件", "the link leaves this outline out, its file is too long; choose the file again")];
+    outline = dropped().of;
+    if (!outline) damaged = say("链接中没有这个外轮廓（文件太大）；请重新选取文件", "the link leaves this outline out, its file is too long; choose the file again");
     return true;
   }
   try {

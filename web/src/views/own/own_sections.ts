@@ -5,7 +5,7 @@ import { button, computing, dropPlace, el, field, newId, noAnswer, noSuch, selec
 import { bare, signParts } from "../../parts/figures";
 import { keepFocus, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, inOne, parted, startView, state } from "../../state/address";
+import { change, choose, inOne, parted, startView, state } from "../../state/address";
 import { kept } from "../../state/kept";
 import { language, say } from "../../state/language";
 import { onward, sectionView } from "../section_view";
@@ -38,7 +38,9 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   });
   const fields = [...inputs, ...base];
   const name = el("input", { type: "text", maxlength: 30, value: state()["name"] ?? "", oninput: () => { change({ name: name.value }); saved.replaceChildren(); } });
-  const sizes = () => inputs.map(({ input }) => bare(input.value));
+  let surplus = given.slice(inputs.length); // of a link, for the command to refuse
+  const typedSizes = () => [...inputs.map(({ input }) => input.value), ...surplus];
+  const sizes = () => typedSizes().map(bare);
 
   const line = () => lineOf(["section", "--base", ...base.map(({ input }) => bare(input.value) || "0")], chosen.alias, ...sizes());
   // Says at the field that it names what the matter is; without a sentence all is well.
@@ -66,10 +68,11 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   // What is kept is what stands in the view; of a style alone, not of an outline.
   const typedIn = () => {
     saved.replaceChildren();
+    surplus = [];
     void compute();
   };
   const compute = async () => {
-    change({ style: chosen.alias, sizes: inOne(inputs.map(({ input }) => input.value), ","), base: inOne(base.map(({ input }) => input.value), ","), outline: "", shape: "", layer: "" });
+    change({ style: chosen.alias, sizes: inOne(typedSizes(), ","), base: inOne(base.map(({ input }) => input.value), ","), outline: "", shape: "", layer: "" });
     isOutline = false;
     keep.disabled = true;
     await question.ask();
@@ -95,10 +98,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     saved.replaceChildren(say(`库中已有“${no}”。 `, `"${no}" is there already. `), replace);
   };
   const keep = button(say("存入自己的库", "Keep in own store"), () => void save());
-  const style = select(styles.map((each) => [each.alias, `${each.style} ${language() === "zh" ? each.table : each.shape}`]), chosen.alias, (alias) => {
-    change({ style: alias, sizes: "", outline: "", shape: "", layer: "" }, true);
-    void keepFocus(() => ownSections(place));
-  });
+  const style = select(styles.map((each) => [each.alias, `${each.style} ${language() === "zh" ? each.table : each.shape}`]), chosen.alias, (alias) => choose({ style: alias, sizes: "", outline: "", shape: "", layer: "" }));
   const layer = select([], "", (name) => {
     change({ layer: name });
     view.replaceChildren(computing());

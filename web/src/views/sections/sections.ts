@@ -1,15 +1,15 @@
 // Sections: the tables, the rows of one, and the section that is chosen; several beside each other.
 import { isNumeric, keyOf, tables, type RowsJson, type TableJson } from "../../command/catalogue";
-import { ask, lineOf, sentence, withWords } from "../../command/client";
+import { ask, lineOf, sentence, withWords, type Line } from "../../command/client";
 import { csvText } from "../../formats/csv";
 import { workbook } from "../../formats/workbook";
 import { button, copyButton, download, el, fault, field, newId, select } from "../../parts/dom";
 import { figureLines, type FigureLine } from "../../parts/figure_table";
 import { bare, narrow, typedNumber } from "../../parts/figures";
 import { Grid, type Column } from "../../parts/grid";
-import { keepFocus, oneStop, reachable } from "../../parts/keyboard";
+import { oneStop, reachable } from "../../parts/keyboard";
 import { Question } from "../../parts/question";
-import { change, go, inOne, parted, state } from "../../state/address";
+import { change, go, inOne, parted, startView, state } from "../../state/address";
 import { say } from "../../state/language";
 import { cellLines, onward, sectionView, type SectionJson } from "../section_view";
 
@@ -38,7 +38,7 @@ const showTable = (table: string) => go({ view: "sections", table });
 // The tables by their families: a list where the screen is wide, else a choice that takes one line.
 function tree(list: TableJson[], chosen: string): HTMLElement {
   const nav = el("nav", { class: "families", "aria-label": say("截面表", "Tables") });
-  const picker = select([], chosen, showTable);
+  const picker = select([], "", showTable);
   let source = "";
   for (const family of families(list)) {
     if (family.source !== source) nav.append(el("h2", {}, (source = family.source)));
@@ -52,6 +52,8 @@ function tree(list: TableJson[], chosen: string): HTMLElement {
   return el("div", { class: "tree" }, oneStop(nav), el("div", { class: "picker" }, field(say("截面表", "Table"), picker)));
 }
 
+const gapOf = () => bare(state()["gap"] ?? "");
+
 // The filter of the state; an empty bound is none.
 const range = () => parted(state()["range"] ?? "", "|") as [sign: string, least?: string, most?: string];
 
@@ -61,7 +63,7 @@ function matching(rows: string[][], columns: RowsJson["columns"], words: string[
   return rows.filter((row) => {
     const text = row.join("\u0000").toLowerCase();
     return words.every((word) => text.includes(word)) &&
-      (at < 0 || ((least === "" || Number(row[at]) >= typedNumber(least)) && (most === "" || Number(row[at]) <= typedNumber(most))));
+      (at < 0 ? !sign : ((least === "" || Number(row[at]) >= typedNumber(least)) && (most === "" || Number(row[at]) <= typedNumber(most))));
   });
 }
 
@@ -70,14 +72,13 @@ const compared = (): string[] => parted(state()["compare"] ?? "", ";").filter(Bo
 const keepCompared = (rows: string[]) => change({ compare: rows.length > 0 ? inOne(rows, ";") : "" });
 const numberOf = (row: string) => parted(row, "|")[1] ?? "";
 
-async function comparison(place: HTMLElement, left: () => void): Promise<void> {
-  const list = compared();
-  if (list.length === 0) return place.replaceChildren();
-  const sections = (await Promise.all(list.map((each) => ask(lineOf(["show", "--json"], ...parted(each, "|"))))))
-    .map((answer) => (answer.status === 0 ? (JSON.parse(answer.out) as SectionJson) : null));
+// The rows beside one another, each as `line` asks for it.
+async function comparison(rows: string[], line: (row: string) => Line, remove: (row: string) => void): Promise<HTMLElement[]> {
+  const answers = await Promise.all(rows.map((row) => ask(line(row))));
   const lines = new Map<string, FigureLine[]>();
-  sections.forEach((section, i) => {
-    if (!section) return;
+  answers.forEach((answer, i) => {
+    if (answer.status !== 0) return;
+    const section = JSON.parse(answer.out) as SectionJson;
     for (const line of [...cellLines(section), ...figureLines(section.exact).map(([sign, ...rest]) => [`${sign} *`, ...rest] as FigureLine)]) {
       const key = `${line[0]}\t${line[2]}`;
       if (!lines.has(key)) lines.set(key, []);
@@ -85,51 +86,64 @@ async function comparison(place: HTMLElement, left: () => void): Promise<void> {
     }
   });
   const head = el("tr", {}, el("th", { scope: "col" }, say("量", "figure")), el("th", { scope: "col" }, say("单位", "unit")));
-  list.forEach((each) => head.append(el("th", { scope: "col", class: "num" }, numberOf(each),
-    button("×", () => { keepCompared(compared().filter((other) => other !== each)); left(); void comparison(place, left); },
-      { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${numberOf(each)}` }))));
+  rows.forEach((row) => head.append(el("th", { scope: "col", class: "num" }, numberOf(row),
+    button("×", () => remove(row), { class: "quiet", "aria-label": `${say("不再比较", "compare no longer")} ${numberOf(row)}` }))));
   const body = el("tbody");
   for (const [key, values] of lines) {
     const [sign, unit] = key.split("\t");
     body.append(el("tr", {}, el("th", { scope: "row" }, sign), el("td", { class: "unit" }, unit),
-      ...list.map((_, i) => el("td", { class: "num", title: values[i]?.[4] }, values[i]?.[1] ?? ""))));
+      ...rows.map((_, i) => el("td", { class: "num", title: values[i]?.[4] }, values[i]?.[1] ?? ""))));
   }
-  place.replaceChildren(el("h2", {}, say("比较", "Compared")),
+  const refused = answers.flatMap((answer, i) => (answer.status === 0 ? [] : [fault(`${numberOf(rows[i]!)}: ${sentence(answer)}`)]));
+  return [el("h2", {}, say("比较", "Compared")), ...refused,
     el("div", { class: "scroll", tabindex: 0, role: "group", "aria-label": say("比较", "Compared") }, el("table", { class: "figures compare" }, el("thead", {}, oneStop(head)), body)),
-    el("p", { class: "note" }, say("* 按外轮廓的精确值，mm", "* exact, from the outline, mm")));
+    el("p", { class: "note" }, say("* 按外轮廓的精确值，mm；转角与间距同所示截面", "* exact, from the outline, mm; turned and with the gap as the section"))];
 }
 
 export async function sections(place: HTMLElement): Promise<void> {
+  const isHere = startView();
   const list = await tables();
+  if (!isHere()) return;
   const table = state()["table"] ?? list.find((each) => each.rows > 0)?.name ?? "";
   const left = tree(list, table);
   place.replaceChildren(left);
   const answer = await ask(lineOf(["rows", "--json"], table));
+  if (!isHere()) return;
   if (answer.status !== 0) return place.append(fault(sentence(answer)));
   const { columns, rows } = JSON.parse(answer.out) as RowsJson;
   const all = rows.map((row) => row.cells);
   const key = keyOf(columns);
-  const detail = reachable(el("div", { class: "detail", "aria-live": "polite" }), say("截面", "the section"));
+  const shown = el("div", { "aria-live": "polite" });
   const beside = el("div", { class: "beside" });
   const count = el("span", { class: "note", role: "status" });
 
-  const isPair = list.find((each) => each.name === table)?.family.includes("pair") ?? false;
-  const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", onchange: () => {
-    change({ gap: bare(gap.value) });
-    void section.ask();
-  } });
+  const isPair = (name: string) => list.find((each) => each.name === name)?.family.includes("pair") ?? false;
   const chosen = () => state()["no"] ?? all[0]?.[key];
-  const drawn = (no: string) => lineOf(["show", ...(state()["turn"] ? [`--turn=${state()["turn"]}`] : []), ...(isPair && state()["gap"] ? [`--gap=${state()["gap"]}`] : [])], table, no);
-  const section = new Question(detail, async () => {
-    const no = chosen()!;
-    const turned = drawn(no);
-    const shown = await ask(withWords(turned, "--json", "--svg", "picture.svg"));
-    return () => {
-      const turns = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); void keepFocus(() => section.ask()); });
-      detail.replaceChildren(sectionView(`${table} ${no}`, shown, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair && Number(state()["gap"]) ? { gap: Number(state()["gap"]) } : {}) })), field(say("转角", "Turned by"), turns),
-        isPair && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm")) || "");
-    };
+  const drawn = (of: string, no: string) => lineOf(["show", ...(state()["turn"] ? [`--turn=${state()["turn"]}`] : []), ...(isPair(of) && gapOf() ? [`--gap=${gapOf()}`] : [])], of, no);
+  const section = new Question(shown, async () => {
+    const [no, gap] = [chosen()!, typedNumber(gapOf())];
+    const turned = drawn(table, no);
+    const answer = await ask(withWords(turned, "--json", "--svg", "picture.svg"));
+    return () => shown.replaceChildren(sectionView(`${table} ${no}`, answer, no, { svg: turned, dxf: turned, ifc: turned }, {}, onward({ table, no, ...(isPair(table) && gap ? { gap } : {}) })));
   });
+  const compare = new Question(beside, async () => {
+    const line = (row: string) => withWords(drawn(parted(row, "|")[0]!, numberOf(row)), "--json");
+    const made = await comparison(compared(), line, (row) => { keepCompared(compared().filter((other) => other !== row)); grid.draw(); askCompared(); });
+    return () => beside.replaceChildren(...made);
+  });
+  const askCompared = () => {
+    if (compared().length > 0) return void compare.ask();
+    compare.drop();
+    beside.replaceChildren();
+  };
+  const askBoth = () => {
+    void section.ask();
+    askCompared();
+  };
+  const turn = select(["0", "90", "180", "270"].map((each) => [each, `${each}°`]), state()["turn"] ?? "0", (turn) => { change({ turn: turn === "0" ? "" : turn }); askBoth(); });
+  const gap = el("input", { type: "text", inputmode: "decimal", value: state()["gap"] ?? "", placeholder: "0", oninput: () => { change({ gap: gap.value }); askBoth(); } });
+  const detail = reachable(el("div", { class: "detail" }, shown, chosen() && field(say("转角", "Turned by"), turn),
+    isPair(table) && field(say("两肢间距", "Gap between the parts"), gap, el("span", { class: "unit" }, "mm"))), say("截面", "the section"));
   // Its command runs while the rows are drawn.
   place.append(detail);
   const detailed = chosen() ? section.ask() : null;
@@ -145,13 +159,12 @@ export async function sections(place: HTMLElement): Promise<void> {
     marked: { has: (row) => compared().includes(marked(row)), toggle: (row) => {
       const [each, rows] = [marked(row), compared()];
       keepCompared(rows.includes(each) ? rows.filter((other) => other !== each) : [...rows, each]);
-      void comparison(beside, () => grid.draw());
+      askCompared();
     } },
   });
   const words = () => narrow(state()["q"] ?? "").toLowerCase().split(/\s+/).filter(Boolean);
-  let seen = all;
   const filter = () => {
-    seen = matching(all, columns, words());
+    const seen = matching(all, columns, words());
     grid.show(seen);
     count.textContent = say(`${seen.length} / ${all.length} 行`, `${seen.length} of ${all.length} rows`);
   };
@@ -162,15 +175,15 @@ export async function sections(place: HTMLElement): Promise<void> {
     field(say("在所有列中查找", "Search all columns"), search),
     rangeFilter(columns.filter(isNumeric).map((column) => column.sign), filter),
     oneStop(el("span", { class: "tools" },
-    copyButton(say("复制", "Copy"), () => [columns.map((column) => column.sign), ...seen].map((row) => row.join("\t")).join("\n")),
-    button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...seen]))),
-    button("XLSX", () => download(`${table}.xlsx`, workbook({ name: table, rows: [...heads(), ...seen], numeric, heads: 2 }))))),
+    copyButton(say("复制", "Copy"), () => [columns.map((column) => column.sign), ...grid.shown].map((row) => row.join("\t")).join("\n")),
+    button("CSV", () => download(`${table}.csv`, "\ufeff" + csvText([columns.map((column) => column.sign), ...grid.shown]))),
+    button("XLSX", () => download(`${table}.xlsx`, workbook({ name: table, rows: [...heads(), ...grid.shown], numeric, heads: 2 }))))),
     count);
   place.replaceChildren(left, el("div", { class: "middle" }, el("h1", {}, table), tools, grid.element, beside), detail);
   reachable(grid.element, say("各行", "the rows"));
   filter();
   grid.reveal();
-  void comparison(beside, () => grid.draw());
+  askCompared();
   await detailed;
 }
 
@@ -185,7 +198,7 @@ function rangeFilter(signs: string[], changed: () => void): HTMLElement {
     const bounds = [low, high].map((input) => (input.value.trim() === "" ? null : typedNumber(input.value)));
     [low, high].forEach((input, i) => input.setAttribute("aria-invalid", String(Number.isNaN(bounds[i]))));
     const bad = [low, high].find((_, i) => Number.isNaN(bounds[i]));
-    note.textContent = bad ? say(`“${bad.value}”不是数值，应如 2.5`, `"${bad.value}" is no number; right would be one such as 2.5`)
+    note.textContent = column.value && !signs.includes(column.value) ? say(`没有数值列“${column.value}”`, `there is no column "${column.value}" of numbers`) : bad ? say(`“${bad.value}”不是数值，应如 2.5`, `"${bad.value}" is no number; right would be one such as 2.5`)
       : bounds[0] != null && bounds[1] != null && bounds[0]! > bounds[1]! ? say("下限大于上限", "the least is above the most") : "";
   };
   const keep = () => {
