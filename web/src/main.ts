@@ -100,14 +100,17 @@ const busy = el("div", { class: "busy", role: "status" });
 document.body.append(busy);
 onBusy((isBusy) => busy.replaceChildren(...(isBusy ? [say("计算中… ", "Computing… "), button(say("停止", "Stop"), () => void stop())] : [])));
 
-onSave(noteSave);
-
-// What another tab has saved: the tables are read anew, and what a form asks is asked again.
-onOtherSave(() => {
-  if (["sections", "store"].includes(document.querySelector("main")?.className ?? "")) return void draw();
+// The own store has changed, by this tab or another: its rows are read anew, and what a view asks is asked again.
+function storeChanged(): void {
+  if (document.querySelector("main")?.className === "sections") return void drawInPlace();
   void readLists();
   askAgain();
+}
+onSave((isKept) => {
+  noteSave(isKept);
+  storeChanged();
 });
+onOtherSave(storeChanged);
 
 // A file that falls beside its place does not take the page away.
 for (const kind of ["dragover", "drop"]) addEventListener(kind, (event) => event.preventDefault());
