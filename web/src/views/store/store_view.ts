@@ -2,7 +2,7 @@
 import { isNumeric, keyOf, rowsOf, styles as readStyles, tables, type StyleJson, type TableJson } from "../../command/catalogue";
 import { ask, forgetOwnStore, isStoreKept, keepsStore, lineOf, sentence, type Answer, type Files } from "../../command/client";
 import { csvText } from "../../formats/csv";
-import { sheetsOf, workbook, type Sheet } from "../../formats/workbook";
+import { OddCell, sheetsOf, workbook, type Sheet } from "../../formats/workbook";
 import { unzipped, zip } from "../../formats/zip";
 import { bytesOf, button, download, dropPlace, el, fault, field, select } from "../../parts/dom";
 import { oneStop, reachable } from "../../parts/keyboard";
@@ -15,7 +15,7 @@ import { say } from "../../state/language";
 // signs, as exports have it, is left out.
 async function csvOfSheets(bytes: Uint8Array): Promise<[table: string, text: string][]> {
   return (await sheetsOf(bytes)).map(([name, rows]) => {
-    const titled = rows[1]?.some((cell) => cell === "No." || /\(.+\)$/.test(cell)) ?? false;
+    const titled = !rows[0]?.includes("No.") && (rows[1]?.includes("No.") ?? false); // the sign that every table has
     return [name, csvText(titled ? rows.slice(1) : rows)];
   });
 }
@@ -54,12 +54,21 @@ async function imported(file: File, table: string, overwrite: boolean): Promise<
   let files: Files;
   try {
     files = await filesIn(file, bytes);
-  } catch {
+  } catch (fault) {
+    if (fault instanceof OddCell) return refused(`${file.name}: ${oddCell(fault)}`);
     const why = file.name.toLowerCase().endsWith(".zip") ? say("应为 .csv 文件的压缩包（.zip），每表一个", "right would be an archive (.zip) of .csv files, one for each table")
       : say("不是工作簿（.xlsx）", "is no workbook (.xlsx)");
     return refused(`${file.name}: ${why}`);
   }
-  return ask(lineOf(words, ...Object.keys(files)), files);
+  const answer = await ask(lineOf(words, ...Object.keys(files)), files);
+  if (!file.name.toLowerCase().endsWith(".xlsx")) return answer;
+  const bySheets = (text: string) => Object.keys(files).reduce((told, name) => told.replaceAll(name, `${file.name} [${name.slice(0, -4)}]`), text);
+  return { ...answer, out: bySheets(answer.out), err: bySheets(answer.err) };
+}
+
+function oddCell({ sheet, cell, holds }: OddCell): string {
+  const [zh, en] = { date: ["日期", "a date"], logical: ["逻辑值", "a logical value"], error: ["错误值", "an error"] }[holds] as [string, string];
+  return say(`[${sheet}] ${cell}：是${zh}；应为数值或文字（设为文本格式后重新键入）`, `[${sheet}] ${cell}: is ${en}; right would be a number or a text (format the cell as text and type it anew)`);
 }
 
 const kOwn = "own"; // in the list of tables to export: those of own sections
