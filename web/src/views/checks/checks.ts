@@ -84,11 +84,20 @@ function answerView(kind: Kind, answer: Answer, names: ResultNames, asked: strin
   const report = answer.files["report.html"];
   const opened = kept("report", () => ({ of: "" }));
   const place = el("div");
+  const close = () => {
+    opened.of = "";
+    place.replaceChildren();
+    open!.focus();
+  };
   const show = () => {
     opened.of = asked;
-    place.replaceChildren(reportView(report!));
+    place.replaceChildren(reportView(report!, close));
   };
-  const open = report && button(say("计算书", "Report"), show, { class: "main" });
+  const open = report && button(say("计算书", "Report"), () => {
+    show();
+    place.scrollIntoView();
+    place.querySelector("h2")!.focus();
+  }, { class: "main" });
   if (report && opened.of === asked) show();
   return [
     answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",

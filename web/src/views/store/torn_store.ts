@@ -44,6 +44,8 @@ async function exported(trouble: HTMLElement): Promise<void> {
 // In the page's language.
 export function drawTorn(): void {
   tornStore.hidden = !torn;
+  tornStore.replaceChildren();
+  if (!torn) return;
   const trouble = el("span");
   tornStore.replaceChildren(
     say("浏览器未能写入或读出自己的库（磁盘可能已满），下次启动时可能丢失全部。请先导出；腾出空间后本页会自行修复，这一行随之消失，在此之前不要关闭浏览器。 ",
@@ -75,10 +77,10 @@ onTorn(() => {
 });
 addEventListener("storage", ({ key }) => {
   if (key !== kNote) return;
-  torn = noted();
+  if (!noted()) return mendTorn(); // by the other: this tab may know a store that the browser has lost by then
+  torn = true;
   drawTorn();
-  if (torn) mendLater(); // by this tab too: the other may be closed
-  else clearTimeout(timer);
+  mendLater(); // by this tab too: the other may be closed
 });
 torn = noted();
 mendTorn();
