@@ -64,6 +64,13 @@ walk("members: trace by clause, and a batch with the worst first", "view=members
   await says(page, ".answer > .detail:not([hidden]) .verdict", "GB 50017");
   await drop(page, file("bad.csv", "steel,nonsense\nQ345,1\n"));
   await says(page, ".batch .fault", "nonsense");
+  await page.evaluate(() => {
+    const both = new DataTransfer();
+    for (const name of ["a.csv", "b.csv"]) both.items.add(new File(["steel\n"], name));
+    document.querySelector(".drop").dispatchEvent(new DragEvent("drop", { dataTransfer: both }));
+  });
+  await says(page, ".drop .fault", "one at a time"); // none of them for all
+  await says(page, ".batch h2", "bad.csv");
 });
 
 const given = async (page) => JSON.parse(new URLSearchParams(await page.evaluate(() => location.hash.slice(1))).get("case"));

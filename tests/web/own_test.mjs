@@ -75,6 +75,8 @@ inChromium(walk)("names and sizes that look like options, and only what has an a
   assert.equal((await run(page, ["store", "add", "自定义对称H型钢", "--set", "No.=H1", ...cells])).status, 0);
   await member.bringToFront();
   await says(member, ".verdict", "passes"); // of the row that another tab has saved
+  await run(member, ["store", "delete", "自定义对称H型钢", "H1"]);
+  await says(member, ".box", "No answer"); // nor is it that of a row which this one has deleted
   assert.deepEqual(member.faults, []);
   await member.close();
   await show(page, "view=store&lang=en");
@@ -91,6 +93,23 @@ walk("what a link names beside what there is has no answer", "view=own&lang=en&s
   await says(page, ".box", "4 arguments were given");
   await show(page, "view=code&lang=en&args=Q345+20+nope");
   await says(page, ".box", "nope");
+});
+
+walk("a file that is still being read when something else is asked for counts no more", "view=own&lang=en", async (page) => {
+  await says(page, ".detail h2", "300×400×20×10");
+  await page.evaluate(() => {
+    const late = new DataTransfer();
+    late.items.add(new File(["0\nEOF\n"], "late.dxf"));
+    const read = File.prototype.arrayBuffer;
+    File.prototype.arrayBuffer = () => new Promise((done) => (window.read = () => done(new ArrayBuffer(0))));
+    document.querySelector(".drop").dispatchEvent(new DragEvent("drop", { dataTransfer: late }));
+    File.prototype.arrayBuffer = read;
+  });
+  await page.click('::-p-xpath(//nav//a[. = "Members"])');
+  await says(page, ".verdict", "passes");
+  await page.evaluate(() => window.read());
+  assert.equal((await run(page, ["tables"])).status, 0); // by then it is read
+  assert.doesNotMatch(await address(page), /late/);
 });
 
 walk("numbers as the page writes them are taken, other blanks and commas are not, in both languages", "view=own&lang=en&style=rect", async (page) => {

@@ -13,6 +13,7 @@ import { ownSections } from "./views/own/own_sections";
 import { sections } from "./views/sections/sections";
 import { lostStore, noteSave } from "./views/store/lost_store";
 import { storeView } from "./views/store/store_view";
+import { drawTorn, mendTorn, onMended, tornStore } from "./views/store/torn_store";
 
 declare global {
   interface Window {
@@ -83,7 +84,8 @@ async function drawView(): Promise<void> {
   theme.setAttribute("aria-label", say("明暗", "light or dark"));
   document.title = `${say(zh, en)} – Orv3Cal`;
   const main = el("main", { class: view, "aria-busy": "true" }, el("p", { class: "note" }, say("载入中…", "Loading…")));
-  document.getElementById("page")!.replaceChildren(head(view), main);
+  document.getElementById("page")!.replaceChildren(head(view), tornStore, main);
+  drawTorn();
   document.querySelector('nav a[aria-current="page"]')?.scrollIntoView({ inline: "center", block: "nearest" });
   try {
     await show(main);
@@ -100,14 +102,19 @@ const busy = el("div", { class: "busy", role: "status" });
 document.body.append(busy);
 onBusy((isBusy) => busy.replaceChildren(...(isBusy ? [say("计算中… ", "Computing… "), button(say("停止", "Stop"), () => void stop())] : [])));
 
-onSave(noteSave);
-
-// What another tab has saved: the tables are read anew, and what a form asks is asked again.
-onOtherSave(() => {
-  if (["sections", "store"].includes(document.querySelector("main")?.className ?? "")) return void draw();
+// The own store has changed, by this tab or another: its rows are read anew, and what a view asks is asked again.
+function storeChanged(): void {
+  if (document.querySelector("main")?.className === "sections") return void drawInPlace();
   void readLists();
   askAgain();
+}
+onSave((isKept) => {
+  noteSave(isKept);
+  mendTorn();
+  storeChanged();
 });
+onOtherSave(storeChanged);
+onMended(storeChanged);
 
 // A file that falls beside its place does not take the page away.
 for (const kind of ["dragover", "drop"]) addEventListener(kind, (event) => event.preventDefault());

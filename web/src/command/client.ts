@@ -47,6 +47,10 @@ const inside = unpackedPage();
 let savedHere: (isKept: boolean) => void = () => {};
 export const onSave = (saved: (isKept: boolean) => void) => void (savedHere = saved);
 
+// Told that the browser could not write or read the store.
+let tornHere: () => void = () => {};
+export const onTorn = (torn: () => void) => void (tornHere = torn);
+
 // Tabs tell one another of their saves.
 const tabs = new BroadcastChannel("orv3cal");
 export const onOtherSave = (saved: () => void) => void (tabs.onmessage = saved);
@@ -54,6 +58,7 @@ export const onOtherSave = (saved: () => void) => void (tabs.onmessage = saved);
 async function start(): Promise<Worker> {
   const worker = new Worker(URL.createObjectURL(new Blob([source], { type: "text/javascript" })));
   worker.onmessage = ({ data }: MessageEvent<Reply>) => {
+    if (data === "torn") return tornHere();
     if (typeof data === "string") {
       savedHere(data === "saved");
       return tabs.postMessage(data);
@@ -137,6 +142,11 @@ export async function isStoreKept(): Promise<boolean> {
 // Whether the browser keeps none, though it lets the page keep one and can read what it keeps.
 export async function wasStoreLost(): Promise<boolean> {
   return keepsStore() && (await order({ kind: "kept" })).status === 1;
+}
+
+// Whether the browser can write again, and what it keeps outlasts its next start.
+export async function renewStore(): Promise<boolean> {
+  return (await order({ kind: "renew" })).status === 0;
 }
 
 export function forgetOwnStore(): Promise<Answer> {

@@ -19,6 +19,8 @@ export class StorageError extends Error {
 const kTable = "stores";
 const kKey = "own";
 const kVersion = "version";
+const kFilling = "filling";
+const kFillings = [5, 32, 32_768] as const; // transactions of so many values of so many bytes
 const kNone: Saved = { version: 0, bytes: null };
 
 function troubleOf(fault: unknown): StorageError {
@@ -31,10 +33,11 @@ function troubleOf(fault: unknown): StorageError {
 export class OwnStore {
   private database: Promise<IDBDatabase> | null = null;
   private known: Saved | null = null;
+  private isTorn = false; // a write or a read has failed, and the browser may lose, or have lost, what it keeps
 
   // `allowed`: whether the browser lets this page keep anything. A database that is refused has no other sign
   // of why: a browser that keeps nothing and a full disk say the same.
-  constructor(private readonly allowed: boolean) {}
+  constructor(private readonly allowed: boolean, private readonly torn: () => void) {}
 
   private open(): Promise<IDBDatabase> {
     const forget = () => (this.database = null);
@@ -66,16 +69,25 @@ export class OwnStore {
     });
   }
 
-  // None where the browser keeps nothing. A store that cannot be read is an error: nobody is to go on without
-  // what is kept.
+  // None where the browser keeps nothing. A store that cannot be read is what it last was, or an error: nobody is to go
+  // on without what is kept.
   async load(): Promise<Saved> {
     try {
       const transaction = await this.begin("readonly");
-      return await this.read(transaction.objectStore(kTable));
+      const now = await this.read(transaction.objectStore(kTable));
+      if (now === kNone && this.isTorn && this.known) return this.known;
+      return (this.known = now);
     } catch (fault) {
       if (fault instanceof StorageError && fault.trouble === "denied" && !this.known?.bytes) return kNone;
+      this.tear();
+      if (this.known?.bytes) return this.known;
       throw new StorageError("unread");
     }
+  }
+
+  private tear(): void {
+    this.isTorn = true;
+    this.torn();
   }
 
   private read(table: IDBObjectStore): Promise<Saved> {
@@ -84,15 +96,46 @@ export class OwnStore {
       version.onsuccess = () => {
         if (this.known && version.result === this.known.version) return done(this.known);
         const asked = table.get(kKey);
-        asked.onsuccess = () => done((this.known = (asked.result as Saved | undefined) ?? kNone));
+        asked.onsuccess = () => done((asked.result as Saved | undefined) ?? kNone);
         asked.onerror = () => fail(asked.error);
       };
       version.onerror = () => fail(version.error);
     });
   }
 
+  // After a full disk: Chromium goes on in a journal in which a record has stayed torn, and at its next start drops
+  // all that stands there, what was kept before as well. Once more has been written than a journal takes
+  // (4 MB), it has begun another; then the store is written once more. The values are too small to be put beside the
+  // journal, and random so as not to shrink. A write that fails can stop reads too: so the store is read before.
+  async renew(): Promise<void> {
+    this.isTorn = true;
+    await this.load();
+    const [times, values, size] = kFillings;
+    for (let time = 0; time <= times; ++time) {
+      const transaction = await this.begin("readwrite");
+      const table = transaction.objectStore(kTable);
+      if (time === times) table.delete(IDBKeyRange.bound([kFilling], [kFilling, values]));
+      else for (let i = 0; i < values; ++i) table.put(crypto.getRandomValues(new Uint8Array(size)), [kFilling, i]);
+      await new Promise<void>((done, fail) => {
+        transaction.oncomplete = () => done();
+        transaction.onabort = () => fail(troubleOf(transaction.error));
+      });
+    }
+    const { bytes, version } = await this.load();
+    if (bytes) await this.write(bytes, version);
+    this.isTorn = false;
+  }
+
   // False when another tab has saved since `before` was loaded: then nothing is changed.
   async save(bytes: Uint8Array | null, before: number): Promise<boolean> {
+    return this.write(bytes, before).catch((fault) => {
+      const refused = troubleOf(fault);
+      if (refused.trouble !== "denied") this.tear();
+      throw refused;
+    });
+  }
+
+  private async write(bytes: Uint8Array | null, before: number): Promise<boolean> {
     const transaction = await this.begin("readwrite");
     return new Promise((done, fail) => {
       let current = true;
@@ -102,7 +145,7 @@ export class OwnStore {
       const table = transaction.objectStore(kTable);
       const asked = table.get(kKey);
       asked.onsuccess = () => {
-        const version = (asked.result as Saved | undefined)?.version ?? 0;
+        const version = (asked.result as Saved | undefined)?.version ?? (this.isTorn ? before : 0);
         current = version === before;
         try {
           if (current) {

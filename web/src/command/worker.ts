@@ -12,10 +12,11 @@ export interface Start {
 export type Order =
   | { id: number; kind: "run"; argv: string[]; files: Files; language: string }
   | { id: number; kind: "forget" }
-  | { id: number; kind: "kept" };
-// Beside the answers, which have the number of their order: that the own store was saved, or that there is none
-// any more.
-export type Reply = { id: number; answer: Answer } | "saved" | "forgotten";
+  | { id: number; kind: "kept" }
+  | { id: number; kind: "renew" };
+// Beside the answers, which have the number of their order: that the own store was saved, that there is none any
+// more, or that the browser could not write or read it.
+export type Reply = { id: number; answer: Answer } | "saved" | "forgotten" | "torn";
 
 let own: OwnStore;
 let core: Promise<Core>;
@@ -25,7 +26,7 @@ const kTroubles: Record<Trouble | "old", [string, string]> = {
   full: ["您自己的库: 没有写入，磁盘已满；请先导出自己的库，再关闭浏览器", "your own store: not written, the disk is full; export the own store before you close the browser"],
   denied: ["您自己的库: 没有写入，浏览器不允许本页保存数据", "your own store: not written, the browser does not let this page keep data"],
   failed: ["您自己的库: 没有写入，浏览器未能写入（磁盘可能已满）；请先导出自己的库，再关闭浏览器", "your own store: not written, the browser could not write it (the disk may be full); export the own store before you close the browser"],
-  unread: ["您自己的库: 浏览器未能读出（磁盘可能已满；腾出空间后重新启动浏览器）", "your own store: the browser could not read it (the disk may be full: make room and start the browser again)"],
+  unread: ["您自己的库: 浏览器未能读出（磁盘可能已满；请腾出空间，在此之前不要关闭浏览器）", "your own store: the browser could not read it (the disk may be full: make room before you close the browser)"],
   old: ["此浏览器不能运行本页；需要 Chrome 或 Edge 103、Firefox 113、Safari 16.4 或更新的版本", "this browser cannot run the page; it takes Chrome or Edge 103, Firefox 113, Safari 16.4 or newer"],
 };
 
@@ -93,11 +94,16 @@ async function kept(): Promise<Answer> {
   return { ...kNothing, status: (await own.load()).bytes ? 0 : 1 };
 }
 
+async function renew(): Promise<Answer> {
+  await own.renew();
+  return { ...kNothing, status: 0 };
+}
+
 async function answerTo(order: Order): Promise<Answer> {
   const [argv, language] = order.kind === "run" ? [order.argv, order.language] : [[], "en"];
   try {
     if (order.kind === "run") return await run(order.argv, order.files);
-    return await (order.kind === "kept" ? kept() : forget());
+    return await { kept, forget, renew }[order.kind]();
   } catch (fault) {
     if (fault instanceof StorageError || fault instanceof DOMException || fault instanceof BrowserTooOld) return stopped(fault, argv, language);
     return { ...kNothing, err: `orv3cal: ${String(fault)}\n` };
@@ -106,7 +112,7 @@ async function answerTo(order: Order): Promise<Answer> {
 
 self.onmessage = ({ data }: MessageEvent<Start | Order>) => {
   if ("wasm" in data) {
-    own = new OwnStore(data.storage);
+    own = new OwnStore(data.storage, () => self.postMessage("torn" satisfies Reply));
     core = startCore(data);
     return;
   }

@@ -63,29 +63,51 @@ function columnOf(reference: string | null, next: number): number {
   return letters ? [...letters].reduce((sum, ch) => sum * 26 + ch.charCodeAt(0) - 64, 0) - 1 : next;
 }
 
-// The sheets of a workbook by their names, cells as text; throws for what is none.
+// Which of the workbook's cell styles show a number as a date or a time.
+function datesOf(styles: Document): boolean[] {
+  const forms = new Map(tags(styles, "numFmt").map((form) => [form.getAttribute("numFmtId"), form.getAttribute("formatCode") ?? ""]));
+  const isDate = (id: string) => /^(1[4-9]|2[0-2]|2[7-9]|3[0-6]|4[5-7]|5[0-8])$/.test(id) || /[dmyhs]/i.test((forms.get(id) ?? "").replace(/"[^"]*"|\\.|\[[^\]]*\]|General/gi, ""));
+  return tags(styles, "cellXfs").flatMap((all) => tags(all, "xf")).map((style) => isDate(style.getAttribute("numFmtId") ?? ""));
+}
+
+// A cell whose text no sheet shows.
+export class OddCell extends Error {
+  constructor(readonly sheet: string, readonly cell: string, readonly holds: "date" | "logical" | "error") {
+    super(cell);
+  }
+}
+
+// The sheets of a workbook by their names, cells as text, without sheets and columns that are empty; throws for what is
+// none. A chart has no sheet of cells.
 export async function sheetsOf(bytes: Uint8Array): Promise<[name: string, rows: string[][]][]> {
   const texts = new TextDecoder();
   const parts = new Map([...(await unzipped(bytes))].map(([name, data]) => [name, texts.decode(data)]));
   const shared = tags(xml(parts.get("xl/sharedStrings.xml") ?? "<x/>"), "si").map(textIn);
+  const dates = datesOf(xml(parts.get("xl/styles.xml") ?? "<x/>"));
   const targets = new Map(
-    tags(xml(parts.get("xl/_rels/workbook.xml.rels")!), "Relationship").map((each) => [
+    tags(xml(parts.get("xl/_rels/workbook.xml.rels")!), "Relationship").filter((each) => each.getAttribute("Type")!.endsWith("/worksheet")).map((each) => [
       each.getAttribute("Id"),
       each.getAttribute("Target")!.replace(/^\/xl\//, ""),
     ]),
   );
-  return tags(xml(parts.get("xl/workbook.xml")!), "sheet").map((sheet) => {
+  return tags(xml(parts.get("xl/workbook.xml")!), "sheet").flatMap((sheet): [string, string[][]][] => {
     const target = targets.get(sheet.getAttributeNS(kRelations, "id"));
+    if (!target) return [];
+    const name = (sheet.getAttribute("name") ?? "").replaceAll("［", "[").replaceAll("］", "]");
     const rows = tags(xml(parts.get(`xl/${target}`)!), "row").map((row) => {
       const cells: string[] = [];
       for (const cell of tags(row, "c")) {
         const value = tags(cell, "v")[0]?.textContent ?? "";
         const type = cell.getAttribute("t");
+        const isDate = value !== "" && (type === "d" || ((type ?? "n") === "n" && dates[Number(cell.getAttribute("s") ?? -1)]));
+        if (isDate || type === "b" || type === "e") throw new OddCell(name, cell.getAttribute("r") ?? "", isDate ? "date" : type === "b" ? "logical" : "error");
         const text = type === "s" ? shared[Number(value)] : type === "inlineStr" ? textIn(cell) : value;
         cells[columnOf(cell.getAttribute("r"), cells.length)] = text ?? "";
       }
       return Array.from(cells, (cell) => cell ?? "");
     });
-    return [(sheet.getAttribute("name") ?? "").replaceAll("［", "[").replaceAll("］", "]"), rows];
+    const used = [...new Set(rows.flatMap((row) => row.flatMap((cell, i) => (cell === "" ? [] : [i]))))].sort((a, b) => a - b);
+    const filled = rows.map((row) => used.map((i) => row[i] ?? "")).filter((row) => row.some(Boolean));
+    return filled.length > 0 ? [[name, filled]] : [];
   });
 }

@@ -115,19 +115,30 @@ function copySelected(text: string): boolean {
 }
 
 export async function bytesOf(file: File): Promise<Uint8Array> {
-  return new Uint8Array(await file.arrayBuffer());
+  try {
+    return new Uint8Array(await file.arrayBuffer());
+  } catch {
+    throw new Error(say(`${file.name}：无法读取，可能已移走、是文件夹或没有权限；请重新选取`, `${file.name}: cannot be read, it may have been moved, be a folder or be closed to you; choose it again`));
+  }
 }
 
-// A place to drop files on, and a button that asks for one.
-export function dropPlace(text: string, accept: string, taken: (files: File[]) => void): HTMLElement {
+// A place to drop files on, and a button that asks for them. Where one is asked for, several are refused: none of
+// them is to pass for all.
+export function dropPlace(text: string, accept: string, taken: (files: File[]) => void, many = false): HTMLElement {
+  const refused = fault("");
+  const take = (files: File[]) => {
+    const good = many || files.length < 2;
+    refused.textContent = good ? "" : say(`同时给出了 ${files.length} 个文件，一个也没有读入；请一次给一个`, `${files.length} files at once, of which none was taken; give one at a time`);
+    if (good && files.length > 0) taken(files);
+  };
   const chosen = () => {
     const files = [...(input.files ?? [])];
     input.value = ""; // so that the same file can be chosen again
-    taken(files);
+    take(files);
   };
-  const input = el("input", { type: "file", accept, multiple: true, onchange: chosen, hidden: true });
-  const place = el("div", { class: "drop" }, field(text, button(say("选取文件…", "Choose files…"), () => input.click())), input,
-    el("span", { class: "note" }, say("或拖放到此", "or drop them here")));
+  const input = el("input", { type: "file", accept, multiple: many, onchange: chosen, hidden: true });
+  const [choose, orDrop] = many ? [say("选取文件…", "Choose files…"), say("或拖放到此", "or drop them here")] : [say("选取文件…", "Choose a file…"), say("或拖放到此", "or drop it here")];
+  const place = el("div", { class: "drop" }, field(text, button(choose, () => input.click())), input, el("span", { class: "note" }, orDrop), refused);
   place.ondragover = (event) => {
     event.preventDefault();
     place.classList.add("over");
@@ -136,7 +147,7 @@ export function dropPlace(text: string, accept: string, taken: (files: File[]) =
   place.ondrop = (event) => {
     event.preventDefault();
     place.classList.remove("over");
-    taken([...(event.dataTransfer?.files ?? [])]);
+    take([...(event.dataTransfer?.files ?? [])]);
   };
   return place;
 }

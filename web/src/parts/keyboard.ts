@@ -48,10 +48,13 @@ function nameOf(element: Element | null): string {
   return `${element.tagName} ${element.dataset["key"] ?? element.getAttribute("aria-label") ?? label ?? element.textContent}`;
 }
 
-// Draws anew, and gives the focus back to what is called as what had it.
+// Draws anew, and gives the focus back to what is called as what had it; a field goes on where its user was.
 export async function keepFocus(draw: () => unknown): Promise<void> {
-  const name = nameOf(document.activeElement);
+  const before = document.activeElement;
+  const name = nameOf(before);
   await draw();
   if (name === "" || document.activeElement !== document.body) return;
-  [...document.querySelectorAll<HTMLElement>("a, button, input, select, summary")].find((each) => nameOf(each) === name)?.focus();
+  const again = [...document.querySelectorAll<HTMLElement>("a, button, input, select, summary")].find((each) => nameOf(each) === name);
+  again?.focus();
+  if (before instanceof HTMLInputElement && before.selectionStart !== null) (again as HTMLInputElement | undefined)?.setSelectionRange(before.selectionStart, before.selectionEnd);
 }

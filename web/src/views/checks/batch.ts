@@ -66,10 +66,12 @@ export class Batch {
 
   async take(dropped: File): Promise<void> {
     const file = { name: dropped.name, data: bytesOf(dropped) };
+    file.data.catch(() => {}); // said when it is asked for
     Object.assign(this.now, { ...kNone, file, isAlone: true });
     this.list.replaceChildren(computing());
     await this.again();
-    if (this.now.file !== file) return;
+    const busy = document.activeElement?.closest("input, select") ?? null; // with the form, meanwhile
+    if (this.now.file !== file || busy) return;
     this.element.scrollIntoView();
     this.element.querySelector<HTMLElement>("h2")?.focus();
   }

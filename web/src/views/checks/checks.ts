@@ -69,10 +69,9 @@ async function checkView(place: HTMLElement, kind: Kind, above: HTMLElement | nu
         if (kLimbs[table]) form.replace(kLimbs[table]);
       }))]
     : [edition.element];
-  const drop = kind === "lattice" ? null : dropPlace(say("多个算例：CSV 或 JSON 文件", "Many cases: a CSV or JSON file"), ".csv,.json", async ([file]) => {
-    if (!file) return;
+  const drop = kind === "lattice" ? null : dropPlace(say("多个算例：CSV 或 JSON 文件", "Many cases: a CSV or JSON file"), ".csv,.json", ([file]) => {
     view.hidden = true;
-    await batch.take(file);
+    void batch.take(file!);
   });
   place.replaceChildren(el("div", { class: "formside" }, above, el("h1", {}, kindTitle(kind)), first ? null : unreadLink(), ...extra, form.element, drop, jump), reachable(el("div", { class: "answer" }, batch.element, view), say("结果", "the answer")));
   form.set(first ?? {});
@@ -85,11 +84,20 @@ function answerView(kind: Kind, answer: Answer, names: ResultNames, asked: strin
   const report = answer.files["report.html"];
   const opened = kept("report", () => ({ of: "" }));
   const place = el("div");
+  const close = () => {
+    opened.of = "";
+    place.replaceChildren();
+    open!.focus();
+  };
   const show = () => {
     opened.of = asked;
-    place.replaceChildren(reportView(report!));
+    place.replaceChildren(reportView(report!, close));
   };
-  const open = report && button(say("计算书", "Report"), show, { class: "main" });
+  const open = report && button(say("计算书", "Report"), () => {
+    show();
+    place.scrollIntoView();
+    place.querySelector("h2")!.focus();
+  }, { class: "main" });
   if (report && opened.of === asked) show();
   return [
     answer.err ? el("p", { class: "warn" }, sentence(answer, kFile)) : "",

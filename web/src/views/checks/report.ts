@@ -5,10 +5,12 @@ import { language, say } from "../../state/language";
 
 const text = (bytes: Uint8Array) => new TextDecoder().decode(bytes);
 
-export function reportView(bytes: Uint8Array): HTMLElement {
+export function reportView(bytes: Uint8Array, close: () => void): HTMLElement {
   const frame = el("iframe", { title: say("计算书", "Calculation report"), class: "report", sandbox: "allow-same-origin allow-modals" });
   frame.srcdoc = text(bytes);
+  frame.onload = () => frame.style.setProperty("--whole", `${frame.contentDocument!.documentElement.scrollHeight}px`); // on paper
   return el("section", { class: "reportview" },
+    el("h2", { tabindex: -1 }, say("计算书", "Report"), " ", button("×", close, { class: "quiet", "aria-label": say("关闭计算书", "Close the report") })),
     oneStop(el("div", { class: "tools" },
       button(say("打印（A4）", "Print (A4)"), () => frame.contentWindow?.print()),
       button("HTML", () => download("report.html", bytes)),

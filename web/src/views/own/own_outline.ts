@@ -17,10 +17,12 @@ let outline: Outline | null = null;
 let damaged = "";
 const dropped = () => kept("outline", () => ({ of: null as Outline | null })); // where the link leaves it out
 
-export async function takeOutline(file: File): Promise<void> {
-  outline = { name: file.name, data: await bytesOf(file) };
-  damaged = "";
-  const packed = await pack(outline.data);
+// Reads a file, which then is the outline, unless something else has been asked for meanwhile.
+export async function takeOutline(file: File, isAsked: () => boolean): Promise<void> {
+  const read = { name: file.name, data: await bytesOf(file) };
+  const packed = await pack(read.data);
+  if (!isAsked()) return;
+  [outline, damaged] = [read, ""];
   change({ outline: outline.name, shape: packed.length <= kLongestLink ? packed : "", style: "", sizes: "", base: "", layer: "" }, true);
   dropped().of = outline;
 }

@@ -67,6 +67,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
   });
   // What is kept is what stands in the view; of a style alone, not of an outline.
   const typedIn = () => {
+    startView(); // a file that is still being read counts no more
     saved.replaceChildren();
     surplus = [];
     void compute();
@@ -105,6 +106,7 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     void showOutline();
   });
   const layerField = field(say("DXF 的图层", "Layer of the DXF"), layer);
+  layerField.hidden = true;
   // The layers of the outline that is shown, of which one can be chosen; without another nothing is asked.
   const listLayers = () => {
     const [names, now] = [layersOfOutline(), state()["layer"] ?? ""];
@@ -113,17 +115,26 @@ export async function ownSections(place: HTMLElement): Promise<void> {
     layer.replaceChildren(...options.map(([value, text]) => el("option", { value, selected: value === now }, text!)));
     layerField.hidden = names.length < 2 && !now;
   };
+  // The last of what is dropped, typed or gone to counts; a file takes a while to read.
+  const dropped = async (file: File) => {
+    const isAsked = startView();
+    keep.disabled = true;
+    question.outdate();
+    try {
+      await takeOutline(file, isAsked);
+      if (isAsked()) void keepFocus(() => ownSections(place));
+    } catch (error) {
+      if (!isAsked()) return;
+      question.drop();
+      view.replaceChildren(noAnswer((error as Error).message));
+    }
+  };
   const form = el("form", { class: "form", onsubmit: (event: Event) => event.preventDefault() },
     el("h1", {}, say("自定义截面", "Own section")),
     field(say("类型", "Style"), style), ...fields.map(({ row }) => row), note,
     el("div", { class: "tools" }, field(say("型号", "Name to keep it by"), name), keep), saved,
     el("h2", {}, say("任意外轮廓", "Any outline")),
-    dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", async ([file]) => {
-      if (!file) return;
-      view.replaceChildren(computing());
-      await takeOutline(file);
-      if (isHere()) void keepFocus(() => ownSections(place));
-    }),
+    dropPlace(say("DXF 或 JSON 文件", "A DXF or JSON file"), ".dxf,.json", ([file]) => void dropped(file!)),
     layerField);
   place.replaceChildren(form, view);
   const fromFile = await givenOutline();
