@@ -22,6 +22,7 @@
 #include "output/show_view.h"
 #include "sections/load_data_table.h"
 #include "store/store_place.h"
+#include "store/store_table.h"
 #include "tables/data_table.h"
 
 namespace orv3::cli {
@@ -39,21 +40,14 @@ struct CShowOptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void RefuseTable(const CShowOptions& options, const CString& file) {
-  CStringArray names;
-  CDataTable::GetTableNameFromFile(file, names);
-  Refuse(Say("TABLE: {1} 中没有表“{2}”；相近的有：{3}",
-             "TABLE: {1} has no table \"{2}\"; the nearest are: {3}",
-             {ToUtf8(file), options.table, Nearest(options.table, names)}));
-}
-
 CDataItem RowOf(const CShowOptions& options) {
   const CString file = StoreToRead(options.store);
   const CString table = FromUtf8(options.table);
   const CDataItem row = CLoadDataTable::GetSysTemJMItem(table, FromUtf8(options.no));
   if (!row.IsEmpty()) return row;
+  FailUnread();
   CStringArray numbers;
-  if (CLoadDataTable::GetSysTemItemNo(table, numbers) == 0) RefuseTable(options, file);
+  if (CLoadDataTable::GetSysTemItemNo(table, numbers) == 0) StoreTable(file, table);
   const std::string nearest = Nearest(options.no, numbers);
   Refuse(Say("NO: {1} 中没有“{2}”", "NO: {1} has no \"{2}\"", {options.table, options.no}) +
          (nearest.empty() ? Say("，它没有截面", ", it has no sections")
