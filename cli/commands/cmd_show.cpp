@@ -16,6 +16,7 @@
 #include "options/nearest.h"
 #include "options/output_options.h"
 #include "options/value_checks.h"
+#include "outlines/geometric_figures.h"
 #include "output/exact_view.h"
 #include "output/ifc_output.h"
 #include "output/output.h"
@@ -84,6 +85,12 @@ void WriteIfc(const CShowOptions& options, const CDataItem& row) {
   WriteFile(options.ifc, IfcText(std::vector<CDataItem>{row}, "Orv3Cal"));
 }
 
+CExactProperties Turned(const CExactProperties& exact, const CDataItem& row, int turn) {
+  if (turn == 0) return exact;
+  const COutline outline = RowOutline(row);
+  return QuarterTurned(exact, turn / 90, outline.m_dWidth, outline.m_dHeight);
+}
+
 void RunShow(const CShowOptions& options, bool spaced) {
   CDataItem row = RowOf(options);
   if (spaced) row = WithGap(row, options);
@@ -95,11 +102,11 @@ void RunShow(const CShowOptions& options, bool spaced) {
   const CRowFigures figures = RowFigures(row, options.turn);
   if (options.json) {
     CJson json = RowJson(row, figures);
-    AddExactJson(json, exact);
+    AddExactJson(json, Turned(exact, row, options.turn));
     PrintJson(json);
   } else {
     PrintRow(row, figures);
-    PrintExact(exact, options.turn != 0);
+    PrintExact(Turned(exact, row, options.turn));
   }
 }
 
