@@ -72,19 +72,29 @@ CArguments ForParsing(CArguments arguments) {
   return arguments;
 }
 
-// An option that names a file or a folder and does not name one, such as --store "$UNSET", is no
-// option left out.
-void RefuseEmptyPaths(CLI::App& command) {
+std::string NotEmptyPath(const std::string& path) {
+  return path.empty() ? Say("没有给出名称；应为路径", "names nothing; right would be a path") : "";
+}
+
+std::string NotEmptyText(const std::string& text) {
+  return text.find_first_not_of(' ') == text.npos
+             ? Say("为空；请给出内容，或不写此选项",
+                   "is empty; give what is meant, or leave the option out")
+             : "";
+}
+
+// An option whose value says nothing, such as --store "$UNSET", is no option left out.
+void RefuseEmptyValues(CLI::App& command) {
   for (CLI::Option* option : command.get_options()) {
     const std::string type = option->get_type_name();
-    const bool place = type.starts_with("FILE") || type == "FOLDER" || type == "DIR";
-    if (!place && option->get_name(true) != "FILE") continue;
-    option->check([](const std::string& path) {
-      return path.empty() ? Say("没有给出名称；应为路径", "names nothing; right would be a path")
-                          : std::string();
-    });
+    if (type.starts_with("FILE") || type == "FOLDER" || type == "DIR" ||
+        option->get_name(true) == "FILE") {
+      option->check(NotEmptyPath);
+    } else if (!option->get_positional() && option->get_items_expected_max() > 0) {
+      option->check(NotEmptyText);
+    }
   }
-  for (CLI::App* each : command.get_subcommands({})) RefuseEmptyPaths(*each);
+  for (CLI::App* each : command.get_subcommands({})) RefuseEmptyValues(*each);
 }
 
 // What is wrong with the words up to the last command's name: a command that is none, or an option
@@ -160,7 +170,7 @@ int Run(const CArguments& typed) {
   program.footer(Say("各命令的用法见 orv3cal COMMAND --help。",
                      "orv3cal COMMAND --help tells what a command takes."));
   AddCommands(program, typed);
-  RefuseEmptyPaths(program);
+  RefuseEmptyValues(program);
   AddLanguageOption(program);
   SayHelpWords(program);
   TakeMarksOff(program);

@@ -24,7 +24,9 @@
 #include "options/output_options.h"
 #include "options/value_checks.h"
 #include "output/streams.h"
+#include "sections/load_data_table.h"
 #include "store/store_place.h"
+#include "store/store_table.h"
 
 namespace orv3::cli {
 namespace {
@@ -94,11 +96,18 @@ std::vector<CString> TablesAsked(const std::string& names) {
 }
 
 std::vector<CMemberCandidate> TableCandidates(const CChooseOptions& options, double gap) {
-  if (options.tables == "all") return AllMemberCandidates(gap);
+  if (options.tables == "all") {
+    for (const CString& table : MemberTables()) {
+      CStringArray numbers;
+      if (CLoadDataTable::GetSysTemItemNo(table, numbers) == 0) FailUnread();
+    }
+    return AllMemberCandidates(gap);
+  }
   std::vector<CMemberCandidate> candidates;
   for (const CString& table : TablesAsked(options.tables)) {
     std::vector<CMemberCandidate> rows = MemberCandidates(table, gap);
     if (rows.empty()) {
+      FailUnread();
       Refuse("--table: " + Say("库中没有“{1}”的行；最接近的是：{2}",
                                "the store has no rows of \"{1}\"; the nearest are: {2}",
                                {ToUtf8(table), Nearest(ToUtf8(table), MemberTables())}));

@@ -89,7 +89,7 @@ std::vector<CCandidate> Candidates(const CTypedLine& line, const std::string& be
     AddOptions(command, candidates);
   }
   for (const CLI::App* each : command.get_subcommands({})) {
-    if (!each->get_group().empty())
+    if (!each->get_group().empty() && line.m_arrArgument.empty())
       candidates.push_back({each->get_name(), each->get_description()});
   }
   const CLI::Option* argument = ArgumentAt(command, line.m_arrArgument.size());

@@ -15,6 +15,7 @@
 #include "output/text_table.h"
 #include "sections/load_data_table.h"
 #include "store/store_place.h"
+#include "store/store_table.h"
 
 namespace orv3::cli {
 namespace {
@@ -40,11 +41,12 @@ void CheckTable(const std::string& table) {
 
 // Angles go by the widths of their legs, so that a number alone would answer for any.
 void CheckNumber(const CGaugeOptions& options) {
-  StoreToRead(options.store);
+  const CString store = StoreToRead(options.store);
   const CString table = FromUtf8(options.table);
   if (!CLoadDataTable::GetSysTemJMItem(table, FromUtf8(options.no)).IsEmpty()) return;
+  FailUnread();
   CStringArray numbers;
-  CLoadDataTable::GetSysTemItemNo(table, numbers);
+  if (CLoadDataTable::GetSysTemItemNo(table, numbers) == 0) StoreTable(store, table);
   Refuse(Say("NO: {1} 中没有“{2}”；相近的有：{3}", "NO: {1} has no \"{2}\"; the nearest are: {3}",
              {options.table, options.no, Nearest(options.no, numbers)}));
 }

@@ -23,8 +23,10 @@
 #include "options/output_options.h"
 #include "output/output.h"
 #include "output/text_table.h"
+#include "sections/geometry/row_values.h"
 #include "sections/load_data_table.h"
 #include "store/store_place.h"
+#include "store/store_table.h"
 
 namespace orv3::cli {
 namespace {
@@ -77,15 +79,19 @@ CSteelItemGeGou ReadColumn(const std::string& path) {
 [[noreturn]] void RefuseLimb(const CSteelItemGeGou& column, const CLimbColumns& signs) {
   const std::string type = Excerpt(Cell(column, signs.m_szType));
   const std::string no = Excerpt(Cell(column, signs.m_szNo));
-  CStringArray names;
-  CLoadDataTable::GetTableNameArray(kCatalogueTables, names);
-  CStringArray numbers;
-  const bool limb = CLoadDataTable::IsTableNameType(FromUtf8(type), kCatalogueTables) != 0;
-  if (limb && CLoadDataTable::GetSysTemItemNo(FromUtf8(type), numbers) && !numbers.IsEmpty()) {
+  if (CLoadDataTable::IsTableNameType(FromUtf8(type), kCatalogueTables)) {
+    FailUnread();
+    const CStringArray numbers = ComponentNumbers(FromUtf8(type));
+    if (numbers.IsEmpty())
+      Refuse(Say("{1}: 库中没有“{2}”的行；请用有此表的库",
+                 "{1}: the store has no rows of \"{2}\"; right would be a store that has them",
+                 {ToUtf8(signs.m_szType), type}));
     Refuse(Say("{1}: {2} 中没有“{3}”；相近的有：{4}",
                "{1}: {2} has no \"{3}\"; the nearest are: {4}",
                {ToUtf8(signs.m_szNo), type, no, Nearest(no, numbers)}));
   }
+  CStringArray names;
+  CLoadDataTable::GetTableNameArray(kCatalogueTables, names);
   Refuse(Say("{1}: 库中没有型钢表“{2}”；相近的有：{3}",
              "{1}: the store has no table of rolled sections \"{2}\"; the nearest are: {3}",
              {ToUtf8(signs.m_szType), type, Nearest(type, names)}));

@@ -226,14 +226,6 @@ void PrintRows(const CRowsOptions& options, const CDataTable& table) {
     Print(Say("加 --wildcard 后 * 代表任意文字\n", "with --wildcard a * stands for any text\n"));
 }
 
-// What is wrong with a condition or a sorting that says nothing, such as --where "$UNSET".
-std::string NotEmpty(const std::string& text) {
-  return text.find_first_not_of(' ') == text.npos
-             ? Say("为空；请给出内容，或不写此选项",
-                   "is empty; give what is meant, or leave the option out")
-             : "";
-}
-
 void RunRows(const CRowsOptions& options) {
   CDataTable all = StoreTable(StoreToRead(options.store), FromUtf8(options.table));
   const auto exacts = AddExactColumns(all, AskedSigns(options));
@@ -258,7 +250,6 @@ void AddRowsCommand(CLI::App& program) {
                    Say("条件 标识 运算符 值，用 && 或 || 连接；运算符为 ==、!=、>>、<<、>=、<=",
                        "Conditions SIGN OPERATOR VALUE joined by && or by ||; operators ==, !=, "
                        ">>, <<, >=, <="))
-      ->check(NotEmpty)
       ->type_name("EXPR");
   command->add_flag(
       "--wildcard", options->wildcard,
@@ -275,7 +266,6 @@ void AddRowsCommand(CLI::App& program) {
       ->add_option(
           "--sort", options->sort,
           Say("排序的列，升序；:desc 为降序", "The column to sort by, ascending unless :desc"))
-      ->check(NotEmpty)
       ->type_name("SIGN[:desc]");
   CLI::Option* json = command->add_flag(
       "--json", options->json, Say("以 JSON 输出，单元格为文字", "As JSON, cells as text"));

@@ -16,12 +16,14 @@
 #include "options/nearest.h"
 #include "options/output_options.h"
 #include "options/value_checks.h"
+#include "outlines/geometric_figures.h"
 #include "output/exact_view.h"
 #include "output/ifc_output.h"
 #include "output/output.h"
 #include "output/show_view.h"
 #include "sections/load_data_table.h"
 #include "store/store_place.h"
+#include "store/store_table.h"
 #include "tables/data_table.h"
 
 namespace orv3::cli {
@@ -39,21 +41,14 @@ struct CShowOptions {
   CStoreOptions store;
 };
 
-[[noreturn]] void RefuseTable(const CShowOptions& options, const CString& file) {
-  CStringArray names;
-  CDataTable::GetTableNameFromFile(file, names);
-  Refuse(Say("TABLE: {1} 中没有表“{2}”；相近的有：{3}",
-             "TABLE: {1} has no table \"{2}\"; the nearest are: {3}",
-             {ToUtf8(file), options.table, Nearest(options.table, names)}));
-}
-
 CDataItem RowOf(const CShowOptions& options) {
   const CString file = StoreToRead(options.store);
   const CString table = FromUtf8(options.table);
   const CDataItem row = CLoadDataTable::GetSysTemJMItem(table, FromUtf8(options.no));
   if (!row.IsEmpty()) return row;
+  FailUnread();
   CStringArray numbers;
-  if (CLoadDataTable::GetSysTemItemNo(table, numbers) == 0) RefuseTable(options, file);
+  if (CLoadDataTable::GetSysTemItemNo(table, numbers) == 0) StoreTable(file, table);
   const std::string nearest = Nearest(options.no, numbers);
   Refuse(Say("NO: {1} 中没有“{2}”", "NO: {1} has no \"{2}\"", {options.table, options.no}) +
          (nearest.empty() ? Say("，它没有截面", ", it has no sections")
@@ -90,6 +85,12 @@ void WriteIfc(const CShowOptions& options, const CDataItem& row) {
   WriteFile(options.ifc, IfcText(std::vector<CDataItem>{row}, "Orv3Cal"));
 }
 
+CExactProperties Turned(const CExactProperties& exact, const CDataItem& row, int turn) {
+  if (turn == 0) return exact;
+  const COutline outline = RowOutline(row);
+  return QuarterTurned(exact, turn / 90, outline.m_dWidth, outline.m_dHeight);
+}
+
 void RunShow(const CShowOptions& options, bool spaced) {
   CDataItem row = RowOf(options);
   if (spaced) row = WithGap(row, options);
@@ -101,11 +102,11 @@ void RunShow(const CShowOptions& options, bool spaced) {
   const CRowFigures figures = RowFigures(row, options.turn);
   if (options.json) {
     CJson json = RowJson(row, figures);
-    AddExactJson(json, exact);
+    AddExactJson(json, Turned(exact, row, options.turn));
     PrintJson(json);
   } else {
     PrintRow(row, figures);
-    PrintExact(exact, options.turn != 0);
+    PrintExact(Turned(exact, row, options.turn));
   }
 }
 

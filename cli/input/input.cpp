@@ -68,6 +68,9 @@ std::string ReadInput(const std::string& path, std::uint64_t most) {
       NotRead(path, Say("被其他程序打开", "another program has it open"));
     case CFileError::Denied:
       NotRead(path, Say("当前用户没有读取权限", "it may not be read by this user"));
+    case CFileError::BadPath:
+      NotRead(path,
+              Say("名称过长，或链接循环", "its name is too long, or its links lead in a circle"));
     default:
       NotRead(path, Say("不能读取", "cannot be read"));
   }

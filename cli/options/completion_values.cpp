@@ -105,6 +105,8 @@ CValues Find(const CTypedLine& line, const CLI::Option& option, const std::strin
   }
   if (type == "SIGN=VALUE") return Signs(line, "=");
   if (type == "EXPR") return Behind(list("&| "), Signs(line, ""));
+  if (const std::size_t colon = begun.find(':'); type == "SIGN[:desc]" && colon != begun.npos)
+    return Behind(begun.substr(0, colon + 1), Words("asc desc", ' '));
   if (type.starts_with("SIGN")) return Behind(list(","), Signs(line, ""));
   return Choices(type);
 }

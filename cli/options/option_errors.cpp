@@ -20,7 +20,6 @@ struct CWording {
 // Every text that CLI11 makes of options as the commands declare them, but for those below. Only
 // the last * of a text is what a user typed.
 constexpr CWording kWordings[] = {
-    {"* is required", {"必须给出 {1}", "{1} is missing; it must be given"}},
     {"Expected exactly * arguments to *, got *",
      {"{2}：应给 {1} 个值，给出的是 {3} 个", "{2}: takes {1} values, {3} were given"}},
     {"Expected at least * arguments to *, got *",
@@ -71,6 +70,19 @@ std::string NotExpected(const CLI::App& program) {
   return Say("没有这样的选项或参数：{1}", "no such option or argument: {1}", {words});
 }
 
+// An argument that is missing may stand there behind a hyphen, as a row's number may begin.
+std::string ArgumentMissing(const std::string& name, const CLI::App& program) {
+  const std::string text = Say("必须给出 {1}", "{1} is missing; it must be given", {name});
+  for (const std::string& word : program.remaining(true)) {
+    if (!word.starts_with('-')) continue;
+    return text + Say("；“{1}”按选项读取，以连字符开头的值请写在 -- 之后",
+                      "; \"{1}\" was taken for an option, a value that begins with a hyphen goes "
+                      "behind --",
+                      {Excerpt(word)});
+  }
+  return text;
+}
+
 std::string ValueMissing(const std::string& name, const CLI::App& command) {
   const CLI::Option* option = command.get_option_no_throw(name);
   return Say("{1}：缺少值；应为 {2}", "{1}: a value is missing; right would be {2}",
@@ -90,6 +102,9 @@ std::string OptionErrorText(const CLI::ParseError& error, const CLI::App& progra
   }
   if (const auto parts = Changing(text, "*: * required * missing")) {
     return ValueMissing(parts->front(), command);
+  }
+  if (const auto parts = Changing(text, "* is required")) {
+    return ArgumentMissing(parts->front(), program);
   }
   for (const CWording& wording : kWordings) {
     if (const auto parts = Changing(text, wording.m_szParser)) {

@@ -87,10 +87,9 @@ void WarnInaccurate(const std::string& what, const CExactProperties& exact) {
   WriteError("orv3cal: " + Visible(what) + ": " + InaccurateNote() + "\n");
 }
 
-void PrintExact(const CExactProperties& exact, bool isTurned) {
-  Print(Say("\n由轮廓精确计算", "\nExact, from the outline itself"));
-  if (isTurned) Print(Say("，截面未转动", ", of the section before it is turned"));
-  Print(Say("（原点为外接矩形左下角）\n\n", " (origin at the lower left corner of its box)\n\n"));
+void PrintExact(const CExactProperties& exact) {
+  Print(Say("\n由轮廓精确计算（原点为外接矩形左下角）\n\n",
+            "\nExact, from the outline itself (origin at the lower left corner of its box)\n\n"));
   CTextTable table({CAlign::Left, CAlign::Left, CAlign::Right, CAlign::Left, CAlign::Left});
   for (const CExactKey& key : ExactKeys()) {
     table.AddRow({key.m_szTitle, key.m_szKey, NumberText(exact.*key.m_pField), key.m_szUnit,

@@ -20,8 +20,7 @@ void AddAccuracyJson(CJson& json, const CExactProperties& exact);
 // Tells on standard error that the figures of `what` are not within their limits of error.
 void WarnInaccurate(const std::string& what, const CExactProperties& exact);
 
-// The block with its heading, and below it what a reader should know of the figures, which are
-// those of the section before it is turned.
-void PrintExact(const CExactProperties& exact, bool isTurned = false);
+// The block with its heading, and below it what a reader should know of the figures.
+void PrintExact(const CExactProperties& exact);
 
 }  // namespace orv3::cli

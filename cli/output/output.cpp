@@ -136,7 +136,10 @@ std::string WriteTrouble(CFileError error) {
                  "it is write-protected, or its folder is closed to this user");
     case CFileError::Full:
       return Say("磁盘已满", "the disk is full");
+    case CFileError::BadPath:
+      return Say("名称过长，或链接循环", "its name is too long, or its links lead in a circle");
     case CFileError::None:
+    case CFileError::NotAFile:
     case CFileError::Failed:
       break;
   }

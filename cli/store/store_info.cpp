@@ -141,7 +141,7 @@ void PrintFaults(const std::string& kind, const std::vector<CStoreFault>& faults
 void RunVerify(const CStoreInfoOptions& options) {
   std::vector<CStoreFault> faults;
   std::vector<CStoreFault> notes;
-  const CString store = StoreToRead(Place(options));
+  const CString store = StoreNamed(Place(options));
   if (!VerifyStore(store, faults, &notes)) FailAsTold();
   const std::vector<CStoreFault> doubtful = ContradictingRows(store);
   notes.insert(notes.end(), doubtful.begin(), doubtful.end());

@@ -14,6 +14,7 @@
 #include "platform/places.h"
 #include "platform/store_error.h"
 #include "sections/system_tables.h"
+#include "store/store_table.h"
 #include "tables/file/table_store.h"
 
 namespace orv3::cli {
@@ -49,16 +50,37 @@ CString ShippedStore() {
   return In(program.IsEmpty() ? FromUtf8(ORV3CAL_DATA_FOLDER) : program + L"/share/orv3cal");
 }
 
+// Whether a link on the way to the file leads to nothing, as one to a share that is not mounted.
+bool IsBrokenLink(const CString& file) {
+  namespace fs = std::filesystem;
+  std::error_code ignored;
+  const std::string utf8 = ToUtf8(file);
+  for (fs::path path = std::u8string(utf8.begin(), utf8.end()); path.has_relative_path();
+       path = path.parent_path()) {
+    if (fs::is_symlink(fs::symlink_status(path, ignored)) && !fs::exists(path, ignored))
+      return true;
+  }
+  return false;
+}
+
 CString NotFound(const CString& store) {
+  if (IsBrokenLink(store)) {
+    return Say(L"{1}: 链接所指的文件或文件夹不存在；应先使其可用，或删去该链接",
+               L"{1}: what its link leads to is not there; right would be to bring it back, or to "
+               L"remove the link",
+               {store});
+  }
   return Say(L"{1}: 文件不存在；应为截面库文件（.KDB）",
              L"{1}: not found; right would be a table file (.KDB)", {store});
 }
 
-// An empty file is one that a command about to save keeps to itself.
+// An empty file is one that a command about to save keeps to itself. A link that leads nowhere, or
+// a file that cannot be asked, may hold them.
 bool HoldsTables(const CString& store) {
   CFileStamp stamp;
   const CFileError error = store.IsEmpty() ? CFileError::NotFound : Files().Stamp(store, stamp);
-  return error == CFileError::None ? stamp.m_nSize > 0 : error != CFileError::NotFound;
+  if (error == CFileError::None) return stamp.m_nSize > 0;
+  return error != CFileError::NotFound || IsBrokenLink(store);
 }
 
 // The catalogue of those who name no store; empty when there is none.
@@ -88,7 +110,7 @@ CString DataStore(const CStoreOptions& options) {
   return In(folder);
 }
 
-// Where look-ups go: `store` first when it was named, then the catalogue.
+// Where look-ups go: to `store`, when it was named, else to the catalogue.
 void UseFor(const CString& store, const CString& catalogue) {
   const CString folder = FolderOf(catalogue);
   SetProgramPath(folder.IsEmpty() ? folder : folder + L"/");
@@ -107,6 +129,7 @@ CString Catalogue(const CStoreOptions& options) {
 
 CString OwnStore() {
   const CString user = UserStore();
+  if (IsBrokenLink(user)) Fail(NotFound(user));
   if (user.IsEmpty())
     Fail(Say(L"不知道您自己的库应放在哪个文件夹（没有变量 HOME）；请用 --store FILE 给出",
              L"no folder for your own store is known, the variable HOME is not set; name a store "
@@ -123,7 +146,7 @@ CString PathToWrite(const CStoreOptions& options, bool bThere) {
                        : named                ? DataStore(options)
                                               : OwnStore();
   const bool shipped = !named && HoldsTables(ShippedStore());
-  if (bThere && !shipped && !IsThere(path)) Fail(NotFound(path));
+  if ((bThere && !shipped && !IsThere(path)) || IsBrokenLink(path)) Fail(NotFound(path));
   return path;
 }
 
@@ -165,7 +188,7 @@ void AddStoreOptions(CLI::App& command, CStoreOptions& options) {
 
 void SetShippedFolder(const CString& folder) { ShippedFolder() = folder; }
 
-CString StoreToRead(const CStoreOptions& options) {
+CString StoreNamed(const CStoreOptions& options) {
   const CString catalogue = Catalogue(options);
   const CString store = options.store.empty() ? catalogue : FromUtf8(options.store);
   if (store.IsEmpty()) {
@@ -176,6 +199,12 @@ CString StoreToRead(const CStoreOptions& options) {
   if (!IsThere(store)) Fail(NotFound(store));
   UseFor(store, catalogue);
   NoteInput(ToUtf8(store));
+  return store;
+}
+
+CString StoreToRead(const CStoreOptions& options) {
+  const CString store = StoreNamed(options);
+  StoreTableNames(store);  // which fails where the file is none, or damaged
   return store;
 }
 

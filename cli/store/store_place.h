@@ -29,9 +29,11 @@ void AddStoreOptions(CLI::App& command, CStoreOptions& options);
 // does not stand; an empty one, as at the start, is share/orv3cal beside the program's folder.
 void SetShippedFolder(const CString& folder);
 
-// The file of the store to read; CCommandError with status 3 when there is none. CLoadDataTable's
-// look-ups then go to it first and, for what a --store lacks, to the catalogue that would serve
-// without --store.
+// The file of the store; CCommandError with status 3 when there is none. CLoadDataTable's look-ups
+// then go to it, and those of what a row of a --store is made of, when it lacks them, to the
+// catalogue that would serve without --store.
+CString StoreNamed(const CStoreOptions& options);
+// The same of a store that can be read; CCommandError with status 3 otherwise.
 CString StoreToRead(const CStoreOptions& options);
 
 // "PATH (your own copy, ...)": which store StoreToRead has chosen, and why.

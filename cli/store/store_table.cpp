@@ -7,6 +7,7 @@
 #include "framework/utf8.h"
 #include "options/nearest.h"
 #include "platform/store_error.h"
+#include "sections/system_tables.h"
 
 namespace orv3::cli {
 namespace {
@@ -21,6 +22,10 @@ namespace {
 }
 
 }  // namespace
+
+void FailUnread() {
+  if (IsStoreUnread()) NotRead(LastStoreError().m_strPath);
+}
 
 CStringArray StoreTableNames(const CString& store) {
   CStringArray names;

@@ -10,6 +10,8 @@
 
 namespace orv3::cli {
 
+// CCommandError with status 3 when the last look-up found nothing because the store cannot be read.
+void FailUnread();
 // CCommandError with status 3 when the store cannot be read.
 CStringArray StoreTableNames(const CString& store);
 // CCommandError with status 2, which names the nearest tables, when the store has no such table,

@@ -103,8 +103,16 @@ std::string Visible(std::string_view text, bool lines) {
       AppendUtf8(out, kPictures + 0x21);
     } else if (byte < 0x20 && !(lines && (byte == '\n' || byte == '\t'))) {
       AppendUtf8(out, kPictures + byte);
-    } else {
+    } else if (byte < 0x80) {
       out += text[i];
+    } else {
+      const std::size_t length = DecodeUtf8(text.substr(i)).length;
+      if (length == 0) {
+        AppendUtf8(out, kReplacement);
+      } else {
+        out.append(text, i, length);
+        i += length - 1;
+      }
     }
   }
   return out;

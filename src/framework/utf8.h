@@ -19,7 +19,7 @@ ORV3CAL_API CString FromUtf8(std::string_view text);
 ORV3CAL_API bool IsUtf8(std::string_view text) noexcept;
 
 // Text that a terminal or a page shows without obeying it: control characters, in `lines` but line
-// ends and tabs, become their pictures.
+// ends and tabs, become their pictures; a byte that belongs to no whole character becomes U+FFFD.
 ORV3CAL_API std::string Visible(std::string_view text, bool lines = false);
 
 }  // namespace orv3

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 #include <vector>
 
 #include "framework/elementary.h"
@@ -70,6 +71,42 @@ CExactProperties GeometricFigures(std::span<const CPath> loops) {
   p.surface = length / 1000;
   p.mass = p.A * kDensity * 1000;
   return p;
+}
+
+namespace {
+
+CExactProperties QuarterTurnedOnce(const CExactProperties& p, double height) {
+  CExactProperties t = p;
+  t.xo = height - p.yo;
+  t.yo = p.xo;
+  t.xp = height - p.yp;
+  t.yp = p.xp;
+  t.xs = height - p.ys;
+  t.ys = p.xs;
+  t.Ixy = 0 - p.Ixy;
+  t.Wx1 = p.WyR;
+  t.Wx2 = p.WyL;
+  t.WyL = p.Wx1;
+  t.WyR = p.Wx2;
+  t.betax = p.betay;
+  t.betay = 0 - p.betax;
+  std::swap(t.Ix, t.Iy);
+  std::swap(t.ix, t.iy);
+  std::swap(t.Wpx, t.Wpy);
+  std::swap(t.Asx, t.Asy);
+  const bool equal = p.I1 - p.I2 <= 2 * kEqual * p.I1;
+  if (!equal) t.theta = p.theta > 0 ? p.theta - 90 : p.theta + 90;
+  return t;
+}
+
+}  // namespace
+
+CExactProperties QuarterTurned(const CExactProperties& exact, int quarters, double width,
+                               double height) {
+  CExactProperties turned = exact;
+  for (int i = 0; i < quarters; ++i)
+    turned = QuarterTurnedOnce(turned, i % 2 == 0 ? height : width);
+  return turned;
 }
 
 bool HasSlantAxes(const CExactProperties& exact) {

@@ -20,6 +20,8 @@ enum class CFileError {
   Busy,      // somebody else has it open
   Denied,    // a read-only mark, medium or folder, or missing rights
   Full,      // no room is left on the medium
+  NotAFile,  // a pipe, a device
+  BadPath,   // a name too long, links that lead in a circle
   Failed,    // anything else
 };
 

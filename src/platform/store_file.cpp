@@ -59,6 +59,12 @@ std::unique_ptr<CFile> OpenFor(const CString& path, bool toWrite, CFileError& er
 }
 
 void Explain(CFileError error, const CString& path) {
+  if (Files().IsFolder(path)) {
+    SetStoreError(
+        CStoreTrouble::Failed, path,
+        Say(L"{1}: 是文件夹，应为文件", L"{1}: it is a folder; right would be a file", {path}));
+    return;
+  }
   const CString wait = FormatInt(BusyWait().count());
   switch (error) {
     case CFileError::NotFound:
@@ -80,6 +86,18 @@ void Explain(CFileError error, const CString& path) {
     case CFileError::Full:
       SetStoreError(CStoreTrouble::Failed, path,
                     Say(L"{1}: 没有建立，磁盘已满", L"{1}: not made, the disk is full", {path}));
+      break;
+    case CFileError::NotAFile:
+      SetStoreError(CStoreTrouble::Failed, path,
+                    Say(L"{1}: 是管道或设备，应为文件",
+                        L"{1}: it is a pipe or a device; right would be a file", {path}));
+      break;
+    case CFileError::BadPath:
+      SetStoreError(
+          CStoreTrouble::Failed, path,
+          Say(L"{1}: 不能打开，名称过长或链接循环",
+              L"{1}: cannot be opened, its name is too long or its links lead in a circle",
+              {path}));
       break;
     case CFileError::Failed:
     case CFileError::None:

@@ -6,6 +6,7 @@
 
 #include "framework/message.h"
 #include "framework/number_text.h"
+#include "sections/geometry/row_values.h"
 #include "sections/load_data_table.h"
 #include "sections/section_check.h"
 #include "sections/section_style.h"
@@ -169,7 +170,7 @@ CFault CheckLimb(const CDataItem& item, int limb) {
                       L"\"{1}\" is no table of rolled sections; give one such as 热轧普通槽钢",
                       {Value(item, type)}));
   }
-  if (CLoadDataTable::GetSysTemJMItem(Value(item, type), Value(item, number)).IsEmpty()) {
+  if (ComponentRow(Value(item, type), Value(item, number)).IsEmpty()) {
     return Fault(item, number,
                  Both(L"系统库的“{1}”中没有“{2}”，请选择库中已有的型号。",
                       L"the catalogue's {1} has no \"{2}\"; choose a number that it has",

@@ -4,7 +4,6 @@
 #include <mutex>
 #include <utility>
 
-#include "platform/store_error.h"
 #include "platform/store_file.h"
 #include "platform/threads.h"
 #include "tables/edit_state.h"
@@ -102,10 +101,33 @@ CTablePtr SystemTable(const CString& store, const CString& name) {
   return read;
 }
 
+CDataItem StoredRow(const CString& store, const CString& table, const CString& no) {
+  const auto read = SystemTable(store, table);
+  const int position = read ? read->Find(no) : -1;
+  return position < 0 ? CDataItem() : read->Table()[position];
+}
+
+int StoredNumbers(const CString& store, const CString& table, CStringArray& numbers) {
+  const auto read = SystemTable(store, table);
+  numbers.RemoveAll();  // of which the name may be one
+  if (!read || read->Table().GetTableColNum() < 2) return 0;
+  for (const CDataItem& row : read->Table().m_arrItem) {
+    const int cell = row.GetSignIndex(L"No.");
+    if (!IsDeleted(row.m_nModifyType) && cell >= 0)
+      numbers.Add(row.m_arrCell.GetAt(cell).m_strValue);
+  }
+  return 1;
+}
+
 CString SystemStorePath() { return ProgramPath() + kSystemStore; }
 
 void SetStoreInFront(const CString& file) { Cache().SetInFront(file); }
 
 CString StoreInFront() { return Cache().InFront(); }
+
+CString ServingStore() {
+  const CString front = StoreInFront();
+  return front.IsEmpty() ? SystemStorePath() : front;
+}
 
 }  // namespace orv3

@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "framework/export.h"
+#include "platform/store_error.h"
 #include "tables/data_table.h"
 
 namespace orv3 {
@@ -29,14 +30,27 @@ class CSystemTable {
 // is read only when its stamp differs from that of the last reading.
 std::shared_ptr<const CSystemTable> SystemTable(const CString& store, const CString& name);
 
+// The row of a section; without cells when there is none, or when the table cannot be read.
+CDataItem StoredRow(const CString& store, const CString& table, const CString& no);
+// The "No." texts of a table's live rows; 0 without the table or with fewer than 2 columns.
+int StoredNumbers(const CString& store, const CString& table, CStringArray& numbers);
+
 // The system store under the program path.
 CString SystemStorePath();
 
-// A table file in which GetSysTemJMItem looks for a row, and GetSysTemItemNo for a table, before it
-// looks in the system store; empty for none.
-// For a program that works on a file of its own, whose rows are made of those of the catalogue. For
-// the whole process.
+// A table file that serves instead of the system store; empty for none. What rows are made of,
+// which ComponentRow looks up, may stand in either. For a program that works on a file of its own,
+// whose rows are made of those of the catalogue. For the whole process.
 ORV3CAL_API void SetStoreInFront(const CString& file);
 CString StoreInFront();
+// The store in front, else the system store.
+CString ServingStore();
+
+// Whether the last look-up found nothing for another reason than that the store lacks the table:
+// what it would have found is not known then, and LastStoreError says why.
+inline bool IsStoreUnread() {
+  const CStoreTrouble trouble = LastStoreError().m_nTrouble;
+  return trouble != CStoreTrouble::None && trouble != CStoreTrouble::NoTable;
+}
 
 }  // namespace orv3

@@ -70,10 +70,12 @@ TEST(OutlineCommand, RefusesInOneLineThatNamesTheFault) {
       {loops("[[[0,0],[4]]]"), {"loop 1, point 2", "[x, y, bulge]"}},
       {loops("[[[0,0],[4,0,0,7]]]"), {"loop 1, point 2", "has more than three numbers"}},
       {loops("[[[0,0],[4,\"b\"]]]"), {"loop 1, point 2", "\"b\""}},
-      {loops("[[[0,0],[1e999,0],[1,1]]]"), {"number overflow"}},
+      {loops("[[[0,0],[1e999,0],[1,1]]]"), {"1e999", "too large"}},
       {R"({"unit": "mile", "loops": []})", {"\"mile\" is not taken", "mm, cm, m or in"}},
       {R"({"units": "mm"})", {"\"units\" is no key of an outline"}},
       {loops("[[[0,0],[4,0],[4,4]]]") + "x", {"is no JSON"}},
+      // Stopped within a character, of which no byte may come out.
+      {"{\"unit\": 热}", {"error of syntax at line 1, column 10"}},
       {"0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n", {"holds no outline"}},
   };
   int number = 0;

@@ -88,6 +88,7 @@ void ExpectRefused(const std::vector<CRefusal>& refusals) {
     const CRunResult run = RunProgram(refusal.arguments);
     EXPECT_EQ(run.m_nExit, refusal.exit);
     EXPECT_EQ(run.m_strOut, "");
+    EXPECT_TRUE(orv3::IsUtf8(run.m_strError)) << run.m_strError;
     EXPECT_EQ(std::count(run.m_strError.begin(), run.m_strError.end(), '\n'), 1) << run.m_strError;
     ExpectHas(run.m_strError, refusal.names);
   }

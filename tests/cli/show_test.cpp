@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -51,6 +52,23 @@ TEST(ShowCommand, TurnsTheSection) {
   EXPECT_EQ(turned["xc"], 100);
   EXPECT_TRUE(turned["Sxo"].is_null());
   EXPECT_EQ(turned["axes"], Json({{"x", "Y"}, {"y", "X"}})) << "the axes turn with the section";
+}
+
+// The exact figures are those that the turned outline has when it is solved by itself.
+TEST(ShowCommand, TurnsTheExactFiguresAsTheOutline) {
+  for (const char* row : {"热轧不等边角钢 L100X80X8", "热轧普通槽钢 [20a"}) {
+    for (const char* turn : {"90", "180", "270"}) {
+      const COwnFile drawing("turned.dxf");
+      const Json shown = ShowJson(std::string(row) + " --turn " + turn + " --dxf \"" +
+                                  drawing.m_strPath + "\"")["exact"];
+      const Json solved = JsonOf("outline \"" + drawing.m_strPath + "\" --json")["exact"];
+      for (const auto& [key, value] : solved.items()) {
+        const double scale = std::max(1.0, std::fabs(double(value)));
+        EXPECT_NEAR(shown[key], double(value), 2e-3 * scale)
+            << row << " at " << turn << ": " << key;
+      }
+    }
+  }
 }
 
 // Each letter stands for one axis: a row's figures name the axes that they are about.
@@ -136,6 +154,7 @@ TEST(ShowCommand, RefusesInOneLineThatNamesTheFault) {
       {Show("热轧等边角钢组合 2L100X10 --gap 2.5"), {"--gap", "2.5"}},
       {Show("热轧等边角钢组合 2L100X10 --gap -1"), {"--gap"}},
       {Show("热轧普通工字钢"), {"NO", "missing"}},
+      {Show("热轧普通工字钢 -x"), {"NO", "-x", "behind --"}},
       {Show("热轧普通工字钢 I20a --store no_such.KDB"), {"no_such.KDB"}, 3},
       {Show("热轧普通工字钢 I20a --dxf no_such_folder/x.dxf"), {"no_such_folder/x.dxf"}, 3},
   });

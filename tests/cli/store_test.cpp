@@ -454,6 +454,65 @@ TEST_F(StoreCommand, TellsFaultsOfATableFile) {
   ExpectRefused({{"store info " + Quoted(L"none.KDB"), {}, 3}});
 }
 
+// A row of that table and number is in every catalogue: with sizes of its own it must not pass by
+// the catalogue's when its store is damaged.
+TEST_F(StoreCommand, TheCatalogueNeverStandsInForAStore) {
+  ASSERT_EQ(Run(AddH("H400X300")).m_nExit, 0);
+  const std::string bytes = FileBytes(m_store);
+  Put(L"cut.KDB", bytes.substr(0, bytes.size() / 2));
+  Put(L"empty.KDB", "");
+  std::string damaged = bytes;
+  damaged[20100 + 3200] = '\0';  // the first row, behind a heading of 32 columns
+  Put(L"damaged.KDB", damaged);
+  Put(L"member.json", R"({"section": {"table": ")" + kH +
+                          R"(", "no": "H400X300"}, "steel": "Q235",)"
+                          R"( "N": -1, "lengths": {"x": 1000, "y": 1000}})");
+  Put(L"load.json", R"({"steel": "Q235", "N": -1, "lengths": {"x": 1000, "y": 1000}})");
+  std::filesystem::create_directory(NativePath(File(L"folder.KDB")));
+#ifndef _WIN32
+  std::filesystem::create_symlink("not_there.KDB", NativePath(File(L"link.KDB")));
+#endif
+  const std::string show = "show " + kH + " H400X300",
+                    check = "check member " + Quoted(L"member.json");
+  const std::string choose = "choose " + Quoted(L"load.json") + " --table ";
+  const std::string lattice = "lattice \"" ORV3CAL_SOURCE "/examples/lattice-2.json\"";
+  for (const wchar_t* file : {L"cut.KDB", L"empty.KDB", L"folder.KDB", L"link.KDB"}) {
+    const std::string store = " --store " + Quoted(file) + kData;
+    const std::string name = orv3::ToUtf8(CString(file));
+    for (const std::string& command : {show, check, choose + kH, choose + "all", lattice,
+                                       std::string("gauge 热轧普通工字钢 I20a")})
+      ExpectRefused({{command + store, {name}, 3}});
+  }
+  const std::string store = " --store " + Quoted(L"damaged.KDB") + kData;
+  for (const std::string& command : {show, choose + kH, choose + "all"})
+    ExpectRefused({{command + store, {"damaged.KDB", kH}, 3}});
+  ExpectRefused({{check + store, {"damaged.KDB", kH}}});
+  const std::string sound = " --store \"" + m_store + "\"" + kData;
+  EXPECT_EQ(RunProgram(check + sound).m_nExit, 0);
+  ExpectRefused({{"show 热轧普通工字钢 I20a" + sound, {"热轧普通工字钢", "has no table"}},
+                 {"gauge 热轧普通工字钢 I20a" + sound, {"热轧普通工字钢", "has no table"}},
+                 {choose + "热轧普通工字钢" + sound, {"no rows of"}}});
+  EXPECT_EQ(RunProgram(lattice + sound).m_nExit, 0)
+      << "what rows are made of may be the catalogue's";
+}
+
+#ifndef _WIN32
+// As on a share that is not mounted.
+TEST_F(StoreCommand, TheShippedStoreDoesNotServeForAnOwnCopyThatIsOutOfReach) {
+  const std::string home = File(L"home");
+  SetVariable("XDG_DATA_HOME", home);
+  std::filesystem::create_directory(NativePath(home));
+  std::filesystem::create_symlink("not_mounted", NativePath(home + "/orv3cal"));
+  for (const std::string& command :
+       {"rows " + kH, "show " + kH + " H400X300", "store " + AddH("H1")})
+    ExpectRefused({{command, {"link", "orv3cal"}, 3}});
+  std::filesystem::remove(NativePath(home + "/orv3cal"));
+  std::filesystem::create_directory(NativePath(home + "/orv3cal"));
+  Put(L"home/orv3cal/KvbSystemJmDataBase.KDB", "damaged");
+  ExpectRefused({{"show " + kH + " H400X300", {"not a table file"}, 3}});
+}
+#endif
+
 TEST_F(StoreCommand, TheShippedStoreIsCopiedAtTheFirstWriteAndNeverChanged) {
   const std::string home = orv3::ToUtf8(m_folder.Path(L"home"));
   SetVariable("XDG_DATA_HOME", home);

@@ -5,7 +5,7 @@
 
 #include "catalogue/lattice/lattice_limbs.h"
 #include "framework/number_text.h"
-#include "sections/load_data_table.h"
+#include "sections/geometry/row_values.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ CDataItem CSteelItemGeGou::GetPartItem(int i) const {
       !GetCellValue(GetSignIndex(columns.m_szNo), no)) {
     return {};
   }
-  return CLoadDataTable::GetSysTemJMItem(type, no);
+  return orv3::ComponentRow(type, no);
 }
 
 int CSteelItemGeGou::CalSteelJMGeGou() {

@@ -4,7 +4,7 @@
 #include "catalogue/outline/row_outline.h"
 #include "catalogue/outline/row_spacing.h"
 #include "catalogue/outline/shapes.h"
-#include "sections/load_data_table.h"
+#include "sections/geometry/row_values.h"
 #include "sections/section_kind.h"
 
 namespace orv3 {
@@ -67,8 +67,7 @@ bool IsPairTable(const CString& tableName) { return FindPair(tableName) != nullp
 CDataItem PairPartRow(const CDataItem& row) {
   const CSectionPair* pair = FindPair(row.m_strTableName);
   if (pair == nullptr || row.IsEmpty()) return {};
-  return CLoadDataTable::GetSysTemJMItem(TableOf(pair->m_part).m_szName,
-                                         row[0].m_strValue.Mid(pair->m_nMarker));
+  return ComponentRow(TableOf(pair->m_part).m_szName, row[0].m_strValue.Mid(pair->m_nMarker));
 }
 
 CString PairSpacingSign(const CString& tableName) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <memory>
 #include <utility>
 
 #include "catalogue/outline/row_spacing.h"
@@ -67,14 +66,6 @@ CMemberCandidate WithoutTorsion(const CMemberCandidate& candidate) {
   return stiff;
 }
 
-// The table of the store in front of the catalogue, else of the catalogue.
-std::shared_ptr<const CSystemTable> TableInStores(const CString& name) {
-  if (const CString front = StoreInFront(); !front.IsEmpty()) {
-    if (auto table = SystemTable(front, name)) return table;
-  }
-  return SystemTable(SystemStorePath(), name);
-}
-
 void AddRefused(std::vector<CRefusedMember>& refused, std::span<const CMemberCandidate> candidates,
                 std::size_t index, const CMemberCheck& check, std::size_t refusing) {
   const CMemberCandidate& candidate = candidates[index];
@@ -93,7 +84,7 @@ void AddRefused(std::vector<CRefusedMember>& refused, std::span<const CMemberCan
 
 std::vector<CMemberCandidate> MemberCandidates(const CString& table, double gap) {
   std::vector<CMemberCandidate> candidates;
-  const auto read = TableInStores(table);
+  const auto read = SystemTable(ServingStore(), table);
   if (!read) return candidates;
   const bool bGap = !std::isnan(gap) && !PairSpacingSign(table).IsEmpty();
   for (const CDataItem& row : read->Table().m_arrItem) {

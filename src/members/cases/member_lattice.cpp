@@ -10,7 +10,6 @@
 #include "framework/plain_number.h"
 #include "framework/utf8.h"
 #include "sections/geometry/row_values.h"
-#include "sections/load_data_table.h"
 #include "sections/section_kind.h"
 
 namespace orv3 {
@@ -44,11 +43,11 @@ class CLatticeReader {
  private:
   std::optional<CCaseFault> Limbs() {
     if (!m_limbs.Fetch(m_column) || !m_limbs.PlaceTruly(m_column)) {
-      return CCaseFault{"section.lattice",
-                        {"的分肢不在库中，或缺少间距或转角",
-                         "has a limb that is not in the store, or lacks a spacing or an angle"},
-                        {"请给出库中的型钢表和型号、间距和转角",
-                         "give tables and numbers of the store, the spacings and the angles"}};
+      return NoRowFault({"section.lattice",
+                         {"的分肢不在库中，或缺少间距或转角",
+                          "has a limb that is not in the store, or lacks a spacing or an angle"},
+                         {"请给出库中的型钢表和型号、间距和转角",
+                          "give tables and numbers of the store, the spacings and the angles"}});
     }
     const bool bTwo = m_limbs.m_arrLimb.size() == 2;
     if (!IsPositive(m_limbs.m_dKy) || !(bTwo || IsPositive(m_limbs.m_dKx))) {
@@ -124,12 +123,12 @@ class CLatticeReader {
                                               "give the bar's table and no, an equal angle"});
     const CString table = FromUtf8(m_lacing.m_strBarTable);
     const auto kind = FindSectionKind(table.GetString());
-    const CDataItem bar = CLoadDataTable::GetSysTemJMItem(table, FromUtf8(m_lacing.m_strNo));
+    const CDataItem bar = ComponentRow(table, FromUtf8(m_lacing.m_strNo));
     if (kind != CSectionKind::EqualAngle || bar.IsEmpty()) {
       const std::string name = m_lacing.m_strBarTable + " " + m_lacing.m_strNo;
-      return CCaseFault{"section.lacing.table",
-                        {name + " 不是库中的等边角钢", name + " is no equal angle of the store"},
-                        {"请给出热轧等边角钢的型号", "give a number of 热轧等边角钢"}};
+      return NoRowFault({"section.lacing.table",
+                         {name + " 不是库中的等边角钢", name + " is no equal angle of the store"},
+                         {"请给出热轧等边角钢的型号", "give a number of 热轧等边角钢"}});
     }
     CMemberRow member;
     if (auto fault = ReadMemberRow(bar, member)) {

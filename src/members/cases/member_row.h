@@ -41,6 +41,9 @@ ORV3CAL_API CDataItem SizesRow(const CSectionStyle& style, std::span<const doubl
 ORV3CAL_API bool IsPairGap(double gap) noexcept;
 ORV3CAL_API CCaseFault PairGapFault();
 
+// Why a look-up has found no row: `missing`, or that the store cannot be read, which may have it.
+CCaseFault NoRowFault(CCaseFault missing);
+
 // Whether rows of the table can be members.
 bool IsMemberKind(CSectionKind kind) noexcept;
 

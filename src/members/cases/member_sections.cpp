@@ -6,11 +6,20 @@
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "members/cases/member_case.h"
+#include "platform/store_error.h"
 #include "sections/load_data_table.h"
 #include "sections/section_kind.h"
 #include "sections/section_style.h"
+#include "sections/system_tables.h"
 
 namespace orv3 {
+
+CCaseFault NoRowFault(CCaseFault missing) {
+  if (!IsStoreUnread()) return missing;
+  const std::string what = ToUtf8(LastStoreError().m_strText);
+  return {missing.m_strKey, {what, what}, {"请给出可以读取的库", "give a store that can be read"}};
+}
+
 namespace {
 
 CDataItem TableRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
@@ -18,9 +27,9 @@ CDataItem TableRow(const CMemberCase& input, std::optional<CCaseFault>& fault) {
   CDataItem row = CLoadDataTable::GetSysTemJMItem(table, FromUtf8(input.m_strNo));
   if (row.IsEmpty()) {
     const std::string named = input.m_strTable + " " + input.m_strNo;
-    fault = CCaseFault{"section",
-                       {"库中没有 " + named, "the store has no " + named},
-                       {"请给出库中的表和型号", "give a table and a number of the store"}};
+    fault = NoRowFault({"section",
+                        {"库中没有 " + named, "the store has no " + named},
+                        {"请给出库中的表和型号", "give a table and a number of the store"}});
     return row;
   }
   if (std::isnan(input.m_dGap)) return row;

@@ -40,6 +40,9 @@ CFileError ErrorOf(int code) {
     case ENOSPC:
     case EDQUOT:
       return CFileError::Full;
+    case ELOOP:
+    case ENAMETOOLONG:
+      return CFileError::BadPath;
     default:
       return CFileError::Failed;
   }
@@ -168,8 +171,9 @@ class CPosixFileSystem final : public CFileSystem {
       if (handle < 0) break;
       auto file = std::make_unique<CPosixFile>(handle, native, created);
       struct stat info {};
-      if (::fstat(handle, &info) != 0 || !S_ISREG(info.st_mode)) {
-        error = CFileError::Failed;
+      if (::fstat(handle, &info) != 0) break;
+      if (!S_ISREG(info.st_mode)) {
+        error = CFileError::NotAFile;
         return nullptr;
       }
       if (::flock(handle, lock) != 0) break;

@@ -3,6 +3,8 @@
 // as far as they were found when a cell is missing.
 #pragma once
 
+#include "framework/array.h"
+#include "framework/export.h"
 #include "tables/data_item.h"
 
 namespace orv3 {
@@ -16,8 +18,10 @@ double AreaOf(const CDataItem& row);
 double ThickestPlate(const CDataItem& row);
 double ThinnestPlate(const CDataItem& row);
 
-// A component's own row: the one place where a row's geometry needs another row. Empty when the
-// system store has none.
+// A component's own row: the one place where a row's geometry needs another row. Of the store in
+// front, where there is one and it has the row, else of the system store; empty when neither has.
 CDataItem ComponentRow(const CString& table, const CString& no);
+// The numbers of the table in whichever of them has it.
+ORV3CAL_API CStringArray ComponentNumbers(const CString& table);
 
 }  // namespace orv3
