@@ -47,10 +47,11 @@ CString StoreInFront();
 CString ServingStore();
 
 // Whether the last look-up found nothing for another reason than that the store lacks the table:
-// what it would have found is not known then, and LastStoreError says why.
+// what it would have found is not known then, and UnreadReason says why.
 inline bool IsStoreUnread() {
   const CStoreTrouble trouble = LastStoreError().m_nTrouble;
   return trouble != CStoreTrouble::None && trouble != CStoreTrouble::NoTable;
 }
+inline const CString& UnreadReason() { return LastStoreError().m_strText; }
 
 }  // namespace orv3

@@ -108,7 +108,8 @@ class Answers(unittest.TestCase):
                 self.assertEqual((str(raised.exception), raised.exception.status), (words, status))
 
     def test_take_an_empty_text_for_no_option(self):
-        self.assertEqual(orv3cal.section("h", 300, 400, 20, 10, name="")["name"], "")
+        with self.assertRaisesRegex(orv3cal.Error, "name"):
+            orv3cal.section("h", 300, 400, 20, 10, name="")
         with self.assertRaisesRegex(orv3cal.Error, "--where"):
             orv3cal.rows(I_BEAMS, where="")
 

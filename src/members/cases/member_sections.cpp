@@ -6,7 +6,6 @@
 #include "framework/number_text.h"
 #include "framework/utf8.h"
 #include "members/cases/member_case.h"
-#include "platform/store_error.h"
 #include "sections/load_data_table.h"
 #include "sections/section_kind.h"
 #include "sections/section_style.h"
@@ -16,7 +15,7 @@ namespace orv3 {
 
 CCaseFault NoRowFault(CCaseFault missing) {
   if (!IsStoreUnread()) return missing;
-  const std::string what = ToUtf8(LastStoreError().m_strText);
+  const std::string what = ToUtf8(UnreadReason());
   return {missing.m_strKey, {what, what}, {"请给出可以读取的库", "give a store that can be read"}};
 }
 
