@@ -13,10 +13,11 @@ import { Question } from "../../parts/question";
 import { change, choose, startView, state } from "../../state/address";
 import { kept } from "../../state/kept";
 import { say } from "../../state/language";
+import type { CheckJson } from "./answer";
 import { Batch } from "./batch";
 import { drawingIn, reportView } from "./report";
 import { resultNames, type ResultNames } from "./result_names";
-import { summary, verdict, type CheckJson } from "./verdict";
+import { summary, verdict } from "./verdict";
 
 const kFile = "case.json";
 

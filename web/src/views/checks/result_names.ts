@@ -2,7 +2,7 @@
 import { ask, lineOf } from "../../command/client";
 import type { Kind } from "../../form/schema";
 import { language, say } from "../../state/language";
-import type { CheckJson } from "./verdict";
+import type { CheckJson } from "./answer";
 
 export type ResultNames = Map<string, [name: string, unit: string]>;
 

@@ -6,29 +6,8 @@ import { percent, shown } from "../../parts/figures";
 import { fold } from "../../parts/fold";
 import { oneStop } from "../../parts/keyboard";
 import { say } from "../../state/language";
+import type { CheckJson } from "./answer";
 import type { ResultNames } from "./result_names";
-
-interface Check {
-  name: string;
-  clause: string;
-  ratio: number | null;
-  pass: boolean;
-  steps?: string[];
-}
-export interface CheckJson {
-  id?: string;
-  code: string;
-  pass: boolean;
-  ratio?: number | null;
-  utilisation?: number | null;
-  governs: string;
-  results?: Record<string, unknown>;
-  given?: string[];
-  checks?: Check[];
-  warnings?: (string | { key: string; text: string })[];
-  editions?: CheckJson[];
-  combinations?: CheckJson[];
-}
 
 // The checks of a member, as the reports call them.
 const kChecks: Record<string, [zh: string, en: string]> = {
