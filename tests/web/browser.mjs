@@ -50,7 +50,8 @@ export async function ready(page) {
 export async function show(page, hash) {
   await page.evaluate((next) => {
     document.querySelector("main").setAttribute("aria-busy", "true");
-    location.hash = next;
+    if (location.hash === `#${next}`) dispatchEvent(new Event("popstate")); // which the same address does not
+    else location.hash = next;
   }, hash);
   await ready(page);
 }
