@@ -59,14 +59,17 @@ export async function pick(page, label, value) {
   await page.select(`#${id}`, value);
 }
 
-// Keeps back what the worker answers, until it is let go. Only Chromium lets a test into a worker.
+// Keeps back what the worker answers, until it is let go: what it posts later too by the way that it found before.
+// Only Chromium lets a test into a worker.
 export const hold = (page) => page.workers()[0].evaluate(() => {
   const post = self.postMessage.bind(self);
-  const held = [];
-  self.postMessage = (reply) => held.push(reply);
+  let held = [];
+  self.postMessage = (reply) => (held ? held.push(reply) : post(reply));
   self.letGo = () => {
+    const replies = held;
+    held = null;
     self.postMessage = post;
-    held.forEach((reply) => post(reply));
+    replies.forEach((reply) => post(reply));
   };
 });
 export const letGo = (page) => page.workers()[0].evaluate(() => self.letGo());
